@@ -1,0 +1,46 @@
+# Flags that every target shares, and the two words the folders are built with:
+#
+#   verdane_library(NAME LINKS ... SOURCES ...)   one folder of src/
+#   verdane_test(NAME LINKS ... SOURCES ...)      one test program
+#
+# A library hands out its own folder as an include directory and nothing else, so an include that
+# runs against the arrows does not compile.
+
+add_library(verdane_flags INTERFACE)
+target_compile_options(verdane_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference)
+target_compile_definitions(verdane_flags INTERFACE
+  QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
+if(VERDANE_WERROR)
+  target_compile_options(verdane_flags INTERFACE -Werror)
+endif()
+if(VERDANE_SANITIZE)
+  target_compile_options(verdane_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer
+    # GCC 12 reports null dereferences that only its own instrumentation makes.
+    -Wno-null-dereference -Wno-maybe-uninitialized)
+  target_link_options(verdane_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+function(verdane_library name)
+  cmake_parse_arguments(ARG "" "" "LINKS;SOURCES" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC verdane_flags ${ARG_LINKS})
+endfunction()
+
+function(verdane_test name)
+  cmake_parse_arguments(ARG "" "TIMEOUT" "LINKS;SOURCES" ${ARGN})
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 300)
+  endif()
+  if(NOT ARG_SOURCES)
+    set(ARG_SOURCES ${name}.cpp)
+  endif()
+  add_executable(${name} ${ARG_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${name} PRIVATE verdane_test_support ${ARG_LINKS} Qt6::Test)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()

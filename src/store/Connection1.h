@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QString>
+
+#include "run_time_failure.h"
+
+class QLockFile;
+
+namespace verdane {
+
+/// The program's one connection to the store. With no data source `Verdbase` registered, the store
+/// is one SQLite file in the user's data folder, laid down whole on the first start.
+class Connection1 {
+public:
+    Connection1();
+    ~Connection1();
+    Connection1(const Connection1&) = delete;
+    Connection1& operator=(const Connection1&) = delete;
+
+    /// The design-time connection string.
+    static QString connection_string();
+
+    /// The store's file in the user's data folder (the platform's standard place).
+    static QString default_path();
+
+    /// Opens the store at `path`, laying it down first when there is none, and takes the lock that
+    /// keeps a second program off it. Commits survive a power cut (WAL, synchronous=FULL).
+    /// Fails with `store_locked`, `store_read_only`, `store_damaged`, `store_full` or
+    /// `store_unreachable`; the file is then as it was.
+    void Open(const QString& path = default_path());
+
+    /// Closes the connection and gives the lock back. Pending rows of recordsets are not written.
+    void Close();
+
+    bool is_open() const;
+    QString path() const { return path_; }
+
+    /// Runs a statement without parameters. Fails with the kind that fits the engine's error; the
+    /// statement stands in the details.
+    void Execute(const QString& statement);
+
+    /// The toolkit's handle, for the recordsets of this room only.
+    QSqlDatabase database() const;
+
+private:
+    QString path_;
+    std::unique_ptr<QLockFile> lock_;
+};
+
+/// A text between single quotes, with the quotes inside it doubled. For every value that the system
+/// makes itself (round keys, course codes) this adds nothing but the two quotes.
+QString quoted(const QString& text);
+
+/// The failure that an engine's error means; `where` names the statement and the recordset.
+run_time_failure store_failure(const QSqlError& error, const QString& where);
+
+}  // namespace verdane
