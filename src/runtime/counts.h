@@ -22,8 +22,8 @@ struct throw_overflow {
     }
 };
 
-using overflow_policy = boost::safe_numerics::exception_policy<throw_overflow, throw_overflow,
-                                                               throw_overflow, throw_overflow>;
+using overflow_policy =
+    boost::safe_numerics::exception_policy<throw_overflow, throw_overflow, throw_overflow, throw_overflow>;
 
 /// A count: a 16-bit integer whose sums and assignments fail (`failure_kind::overflow`) instead of
 /// wrapping.

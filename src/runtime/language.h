@@ -15,10 +15,7 @@ struct text_pair {
     QStringView english;
 
     /// The text for a language that was settled earlier, such as that of an open window.
-    QString in(bool french_wanted) const
-    {
-        return (french_wanted ? french : english).toString();
-    }
+    QString in(bool french_wanted) const { return (french_wanted ? french : english).toString(); }
 };
 
 /// The text of the pair for the language of this moment.
