@@ -9,6 +9,9 @@ namespace verdane {
 /// it is true before anything else runs.
 extern bool is_french;
 
+/// False until the start has read or asked the language: a failure before that is told in both.
+extern bool language_is_settled;
+
 /// One text in both languages, side by side. Neither is derived from the other.
 struct text_pair {
     QStringView french;

@@ -1,0 +1,139 @@
+#include "Form.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+
+#include <algorithm>
+#include <vector>
+
+#include "failure_guard.h"
+#include "language.h"
+#include "main_frame.h"
+
+namespace verdane {
+
+namespace {
+
+/// The windows that are up, the one at work last.
+std::vector<Form*>& open_forms()
+{
+    static std::vector<Form*> forms;
+    return forms;
+}
+
+QWidget* parent_for_new_form()
+{
+    if (Form* opener = form_at_work())
+        return opener;
+    return main_frame() ? main_frame()->frame_widget() : nullptr;
+}
+
+}  // namespace
+
+Form::Form(QStringView family, twins kind) : QDialog(parent_for_new_form()), french_(is_french)
+{
+    const bool english_twin = kind == twins::two && !french_;
+    setObjectName(english_twin ? family.toString() + u"_en" : family.toString());
+    setWindowModality(Qt::ApplicationModal);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+Form::~Form()
+{
+    std::erase(open_forms(), this);
+}
+
+QString Form::caption(QStringView french, QStringView english) const
+{
+    return text_pair{french, english}.in(french_);
+}
+
+void Form::show_modal()
+{
+    if (!loaded_)
+        return;
+    Form* opener = form_at_work();
+    open_forms().push_back(this);
+    show();
+    raise();
+    activateWindow();
+    activated();
+    work_until_unloaded();
+    std::erase(open_forms(), this);
+    if (opener && opener->is_loaded())
+        opener->activated();
+    else if (!opener && main_frame())
+        main_frame()->activated();
+}
+
+void Form::work_until_unloaded()
+{
+    if (loaded_)
+        loop_.exec();
+}
+
+void Form::unload()
+{
+    if (!loaded_)
+        return;
+    loaded_ = false;
+    unloading();
+    hide();
+    loop_.quit();
+}
+
+void Form::paint_now()
+{
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+}
+
+void Form::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    run_event([this] { close_requested(); });
+}
+
+void Form::reject()
+{
+    run_event([this] { close_requested(); });
+}
+
+void Form::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()))
+        button->click();
+}
+
+Form* form_at_work()
+{
+    auto& forms = open_forms();
+    const auto last = std::find_if(forms.rbegin(), forms.rend(), [](Form* form) { return form->is_loaded(); });
+    return last == forms.rend() ? nullptr : *last;
+}
+
+Form* open_form(QStringView family)
+{
+    const auto of_family = [family](Form* form) {
+        const QString name = form->objectName();
+        return form->is_loaded() && (name == family || name == family.toString() + u"_en");
+    };
+    auto& forms = open_forms();
+    const auto found = std::find_if(forms.begin(), forms.end(), of_family);
+    return found == forms.end() ? nullptr : *found;
+}
+
+QPushButton* make_button(const QString& caption)
+{
+    auto* button = new QPushButton(caption);
+    button->setAutoDefault(false);
+    return button;
+}
+
+}  // namespace verdane

@@ -1,0 +1,60 @@
+#include "TabStrip.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+#include "failure_guard.h"
+
+namespace verdane {
+
+TabStrip::TabStrip(QWidget* parent) : QTabBar(parent)
+{
+    setDrawBase(true);
+    setExpanding(false);
+    setUsesScrollButtons(false);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void TabStrip::click(int tab)
+{
+    run_event([&] {
+        if (before_click && !before_click())
+            return;
+        select(tab);
+        if (clicked)
+            clicked();
+    });
+}
+
+void TabStrip::mousePressEvent(QMouseEvent* event)
+{
+    const int index = tabAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index >= 0)
+        click(index + 1);
+}
+
+void TabStrip::keyPressEvent(QKeyEvent* event)
+{
+    int tab = selected();
+    switch (event->key()) {
+    case Qt::Key_Left: --tab; break;
+    case Qt::Key_Right: ++tab; break;
+    case Qt::Key_Home: tab = 1; break;
+    case Qt::Key_End: tab = count(); break;
+    default: event->ignore(); return;
+    }
+    tab = std::clamp(tab, 1, count());
+    if (tab != selected())
+        click(tab);
+}
+
+void TabStrip::wheelEvent(QWheelEvent* event)
+{
+    // Turning the wheel over the tabs must not leave a page without being asked.
+    event->ignore();
+}
+
+}  // namespace verdane

@@ -1,0 +1,56 @@
+#include "boxes.h"
+
+#include <QApplication>
+
+namespace verdane {
+
+namespace {
+
+int bells = 0;
+
+QWidget* window_at_work()
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return QApplication::activeWindow();
+}
+
+}  // namespace
+
+QString default_title()
+{
+    return QStringLiteral("Verdane");
+}
+
+QMessageBox::StandardButton show_message(const message& what)
+{
+    QMessageBox box(what.icon, QString(), what.text, what.buttons, window_at_work());
+    box.setObjectName(QStringLiteral("message_box"));
+    box.setWindowTitle(what.title);
+    box.setTextFormat(Qt::PlainText);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+void tell(const QString& text, QMessageBox::Icon icon, const QString& title)
+{
+    show_message({text, icon, title, QMessageBox::Ok});
+}
+
+bool ask_yes_no(const QString& text, const QString& title)
+{
+    return show_message({text, QMessageBox::NoIcon, title, QMessageBox::Yes | QMessageBox::No}) ==
+           QMessageBox::Yes;
+}
+
+void ring_bell()
+{
+    ++bells;
+    QApplication::beep();
+}
+
+int bells_rung()
+{
+    return bells;
+}
+
+}  // namespace verdane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+
+namespace verdane {
+
+/// The title of a box to which no other was given.
+QString default_title();
+
+/// One message box: what a refusal, a notice or a question shows.
+struct message {
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QString title = default_title();
+    QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+};
+
+/// Shows the box above the window that is at work, waits for the answer and gives it back.
+QMessageBox::StandardButton show_message(const message& what);
+
+/// A notice with an OK button.
+void tell(const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon,
+          const QString& title = default_title());
+
+/// A question with Yes and No; true for Yes.
+bool ask_yes_no(const QString& text, const QString& title = default_title());
+
+/// The platform's bell: how a refused key is signalled.
+void ring_bell();
+
+/// How often the bell rang since the start.
+int bells_rung();
+
+}  // namespace verdane

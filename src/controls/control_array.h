@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <QWidget>
+
+#include <map>
+
+#include "run_time_failure.h"
+
+namespace verdane {
+
+/// Gives a control its system name, under which tests, scripts and screen readers find it.
+template <typename Control>
+Control* named(Control* control, QStringView name)
+{
+    control->setObjectName(name.toString());
+    return control;
+}
+
+/// Controls of one name, told apart by an index; the members are called NAME_INDEX.
+template <typename Control>
+class control_array {
+public:
+    explicit control_array(QStringView name) : name_(name.toString()) {}
+
+    /// Takes a control in under an index.
+    Control* add(int index, Control* control)
+    {
+        members_[index] = named(control, QStringLiteral("%1_%2").arg(name_).arg(index));
+        return control;
+    }
+
+    /// The member of that index; fails with `subscript` when there is none.
+    Control& operator()(int index) const
+    {
+        const auto found = members_.find(index);
+        if (found == members_.end())
+            throw run_time_failure(failure_kind::subscript,
+                                   QStringLiteral("there is no control %1(%2)").arg(name_).arg(index));
+        return *found->second;
+    }
+
+    const std::map<int, Control*>& members() const { return members_; }
+
+private:
+    QString name_;
+    std::map<int, Control*> members_;
+};
+
+}  // namespace verdane

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include <utility>
+
+#include "failure_guard.h"
+
+/// How the events of controls reach their routines: each through `run_event`.
+namespace verdane {
+
+template <typename Routine>
+void on_click(QAbstractButton& button, Routine routine)
+{
+    QObject::connect(&button, &QAbstractButton::clicked, &button,
+                     [routine = std::move(routine)] { run_event(routine); });
+}
+
+/// Each change of the text, typed or set by the program.
+template <typename Routine>
+void on_change(QLineEdit& box, Routine routine)
+{
+    QObject::connect(&box, &QLineEdit::textChanged, &box,
+                     [routine = std::move(routine)] { run_event(routine); });
+}
+
+/// Each change of the selected entry, by the user or by the program.
+template <typename Routine>
+void on_select(QComboBox& list, Routine routine)
+{
+    QObject::connect(&list, &QComboBox::currentIndexChanged, &list,
+                     [routine = std::move(routine)] { run_event(routine); });
+}
+
+template <typename Routine>
+void on_select(QListWidget& list, Routine routine)
+{
+    QObject::connect(&list, &QListWidget::currentRowChanged, &list,
+                     [routine = std::move(routine)] { run_event(routine); });
+}
+
+template <typename Routine>
+void on_double_click(QListWidget& list, Routine routine)
+{
+    QObject::connect(&list, &QListWidget::itemDoubleClicked, &list,
+                     [routine = std::move(routine)] { run_event(routine); });
+}
+
+}  // namespace verdane

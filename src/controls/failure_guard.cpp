@@ -1,0 +1,44 @@
+#include "failure_guard.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <cstdlib>
+
+#include "DataEnvironment1.h"
+#include "boxes.h"
+#include "language.h"
+
+namespace verdane {
+
+namespace {
+
+QString words_for_user(const run_time_failure& failure)
+{
+    const text_pair words = failure_words(failure.kind());
+    if (language_is_settled)
+        return words.in(is_french);
+    return words.in(true) + u"\n\n" + words.in(false);
+}
+
+void tell(const run_time_failure& failure)
+{
+    QMessageBox box(QMessageBox::Critical, QString(), words_for_user(failure), QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("failure_box"));
+    box.setWindowTitle(default_title());
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(failure.details());
+    box.exec();
+}
+
+}  // namespace
+
+void end_after_failure(const run_time_failure& failure)
+{
+    tell(failure);
+    data_environment().abandon();
+    std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace verdane

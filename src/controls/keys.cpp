@@ -1,0 +1,107 @@
+#include "keys.h"
+
+#include <QEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+#include "boxes.h"
+#include "failure_guard.h"
+
+namespace verdane {
+
+namespace {
+
+class key_filter : public QObject {
+public:
+    key_filter(QLineEdit& box, std::function<key_answer(QChar)> handler)
+        : QObject(&box), box_(box), handler_(std::move(handler))
+    {
+        box.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress)
+            return consumes(*static_cast<QKeyEvent*>(event));
+        if (event->type() == QEvent::InputMethod)
+            return consumes(static_cast<QInputMethodEvent*>(event)->commitString());
+        return false;
+    }
+
+private:
+    bool consumes(const QKeyEvent& event)
+    {
+        const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+        if (command || event.text().isEmpty())
+            return false;
+        const QChar key = event.text().front();
+        return (key.isPrint() || key == backspace) && consumes(QString(key));
+    }
+
+    bool consumes(const QString& characters)
+    {
+        bool consumed = false;
+        run_event([&] {
+            consumed = std::any_of(characters.begin(), characters.end(), [this](QChar key) {
+                const key_answer answer = box_.isReadOnly() ? key_answer::pass : handler_(key);
+                if (answer == key_answer::refuse)
+                    ring_bell();
+                return answer != key_answer::pass;
+            });
+        });
+        return consumed;
+    }
+
+    QLineEdit& box_;
+    std::function<key_answer(QChar)> handler_;
+};
+
+class entering_filter : public QObject {
+public:
+    entering_filter(QLineEdit& box, std::function<void()> handler)
+        : QObject(&box), handler_(std::move(handler))
+    {
+        box.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::FocusIn) {
+            // After the toolkit's own handling, which would undo a selection made now.
+            QTimer::singleShot(0, this, [this] { run_event(handler_); });
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> handler_;
+};
+
+}  // namespace
+
+void filter_keys(QLineEdit& box, std::function<key_answer(QChar)> handler)
+{
+    new key_filter(box, std::move(handler));
+}
+
+bool is_plain_digit(QChar key)
+{
+    return key >= u'0' && key <= u'9';
+}
+
+void when_entered(QLineEdit& box, std::function<void()> handler)
+{
+    new entering_filter(box, std::move(handler));
+}
+
+void select_characters(QLineEdit& box, int length)
+{
+    box.setSelection(0, std::min(length, static_cast<int>(box.text().size())));
+}
+
+}  // namespace verdane

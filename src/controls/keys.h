@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QChar>
+
+#include <functional>
+
+class QLineEdit;
+
+namespace verdane {
+
+/// What a box does with a key that was typed into it.
+enum class key_answer {
+    pass,    ///< the box takes the character
+    refuse,  ///< the bell rings and the box stays as it is
+    taken,   ///< the handler has put the character where it belongs itself
+};
+
+/// Character 8, which always passes.
+constexpr QChar backspace = u'\b';
+
+/// Asks `handler` for every character that is typed into the box (also those composed by an input
+/// method). Commands of the keyboard, such as pasting, moving and Enter, do not pass through it.
+void filter_keys(QLineEdit& box, std::function<key_answer(QChar)> handler);
+
+/// True for the characters "0" to "9", compared by code: digits of other scripts are none.
+bool is_plain_digit(QChar key);
+
+/// Runs `handler` each time the box gains the focus.
+void when_entered(QLineEdit& box, std::function<void()> handler);
+
+/// Selects the first `length` characters of a box, as a box does whose figure a new digit replaces.
+void select_characters(QLineEdit& box, int length);
+
+}  // namespace verdane

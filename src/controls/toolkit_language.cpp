@@ -1,0 +1,22 @@
+#include "toolkit_language.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "language.h"
+
+namespace verdane {
+
+void apply_toolkit_language()
+{
+    static QTranslator words;
+    QCoreApplication::removeTranslator(&words);
+    QLocale::setDefault(is_french ? QLocale(QLocale::French) : QLocale(QLocale::English));
+    if (words.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&words);
+}
+
+}  // namespace verdane
