@@ -114,7 +114,8 @@ void Form::keyPressEvent(QKeyEvent* event)
 Form* form_at_work()
 {
     auto& forms = open_forms();
-    const auto last = std::find_if(forms.rbegin(), forms.rend(), [](Form* form) { return form->is_loaded(); });
+    const auto last =
+        std::find_if(forms.rbegin(), forms.rend(), [](Form* form) { return form->is_loaded(); });
     return last == forms.rend() ? nullptr : *last;
 }
 

@@ -40,11 +40,21 @@ void TabStrip::keyPressEvent(QKeyEvent* event)
 {
     int tab = selected();
     switch (event->key()) {
-    case Qt::Key_Left: --tab; break;
-    case Qt::Key_Right: ++tab; break;
-    case Qt::Key_Home: tab = 1; break;
-    case Qt::Key_End: tab = count(); break;
-    default: event->ignore(); return;
+    case Qt::Key_Left:
+        --tab;
+        break;
+    case Qt::Key_Right:
+        ++tab;
+        break;
+    case Qt::Key_Home:
+        tab = 1;
+        break;
+    case Qt::Key_End:
+        tab = count();
+        break;
+    default:
+        event->ignore();
+        return;
     }
     tab = std::clamp(tab, 1, count());
     if (tab != selected())

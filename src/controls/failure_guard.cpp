@@ -5,8 +5,8 @@
 
 #include <cstdlib>
 
-#include "DataEnvironment1.h"
 #include "boxes.h"
+#include "DataEnvironment1.h"
 #include "language.h"
 
 namespace verdane {

@@ -1,0 +1,35 @@
+#include "store_folder.h"
+
+#include "DataEnvironment1.h"
+#include "language.h"
+#include "Main_module.h"
+#include "toolkit_language.h"
+
+namespace verdane::testing {
+
+store_folder::store_folder(bool french)
+{
+    is_french = french;
+    language_is_settled = true;
+    apply_toolkit_language();
+    Main_module::round_keys.clear();
+    Main_module::round_key_count = 0;
+    data_environment().connection.Open(path());
+}
+
+store_folder::~store_folder()
+{
+    for (Recordset& recordset : data_environment().recordsets()) {
+        if (recordset.is_open())
+            recordset.Close();
+        recordset.set_Source(recordset.settings().source);
+    }
+    data_environment().connection.Close();
+}
+
+QString store_folder::path() const
+{
+    return folder_.filePath(QStringLiteral("verdbase.sqlite"));
+}
+
+}  // namespace verdane::testing
