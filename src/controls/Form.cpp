@@ -24,7 +24,7 @@ std::vector<Form*>& open_forms()
     return forms;
 }
 
-QWidget* parent_for_new_form()
+QWidget* window_below_a_new_form()
 {
     if (Form* opener = form_at_work())
         return opener;
@@ -33,7 +33,7 @@ QWidget* parent_for_new_form()
 
 }  // namespace
 
-Form::Form(QStringView family, twins kind) : QDialog(parent_for_new_form()), french_(is_french)
+Form::Form(QStringView family, twins kind) : french_(is_french)
 {
     const bool english_twin = kind == twins::two && !french_;
     setObjectName(english_twin ? family.toString() + u"_en" : family.toString());
@@ -56,6 +56,7 @@ void Form::show_modal()
     if (!loaded_)
         return;
     Form* opener = form_at_work();
+    setParent(window_below_a_new_form(), windowFlags());
     open_forms().push_back(this);
     show();
     raise();

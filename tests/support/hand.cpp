@@ -324,7 +324,8 @@ void hand::answer(const expected_box& box, QMessageBox::StandardButton answer)
     wait_until(u"a message box: " + described(box), [] { return box_on_top() != nullptr; });
     const auto seen = asked<expected_box>([] { return shown_box(*box_on_top()); });
     same(described(seen), described(box), QStringLiteral("message box"));
-    post([answer] { QTest::mouseClick(box_on_top()->button(answer), Qt::LeftButton); });
+    post(
+        [answer] { QTest::mouseClick(static_cast<QWidget*>(box_on_top()->button(answer)), Qt::LeftButton); });
 }
 
 void hand::check(bool holds, const QString& words)
