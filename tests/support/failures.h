@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+
+#include "run_time_failure.h"
+
+namespace verdane::testing {
+
+/// The kind of failure that `work` ends in; nothing when it ends well.
+template <typename Work>
+std::optional<failure_kind> failure_of(Work&& work)
+{
+    try {
+        work();
+    } catch (const run_time_failure& failure) {
+        return failure.kind();
+    }
+    return std::nullopt;
+}
+
+}  // namespace verdane::testing
