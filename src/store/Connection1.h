@@ -4,6 +4,8 @@
 #include <QSqlError>
 #include <QString>
 
+#include <memory>
+
 #include "run_time_failure.h"
 
 class QLockFile;
@@ -45,6 +47,16 @@ public:
     QSqlDatabase database() const;
 
 private:
+    friend class relaxed_commits;
+
+    /// How long a statement waits for a tool that holds the file. Short: the user sits before it.
+    static constexpr int busy_timeout_ms = 1000;
+
+    void open_engine();
+
+    /// The toolkit's name for this connection; several may be open in one process, on several files.
+    QString name_;
+    int relaxations_ = 0;
     QString path_;
     std::unique_ptr<QLockFile> lock_;
 };

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "counts.h"
+#include "schema.h"
 
 namespace verdane {
 
@@ -22,6 +23,9 @@ enum class search_direction { forward = 1, backward = -1 };
 enum class affect { all = 3, all_chapters = 4 };
 
 /// What a recordset is laid down with; applied whenever it is opened.
+///
+/// The cursor's kind and place, the cache and the time-out are kept as they were designed; with a
+/// store on the same machine every cursor reads its rows once and sees later ones after `Requery`.
 struct recordset_settings {
     QString name;
     QString source;
@@ -69,9 +73,14 @@ public:
     void set(bool value) { set(QVariant(value)); }
     void set_null() { set(QVariant()); }
 
+    /// The place of the column, from 0.
+    int ordinal() const { return ordinal_; }
+
 private:
     friend class Recordset;
     Field(Recordset& owner, int ordinal) : owner_(owner), ordinal_(ordinal) {}
+    const QVariant& cell() const;
+    const QVariant& cell_with_value() const;
     Recordset& owner_;
     int ordinal_;
 };
@@ -127,9 +136,11 @@ public:
     /// At `bof()` this does nothing, at the first row it leads to `bof()`; from `eof()` it leads to
     /// the last row.
     void MovePrevious();
-    /// Moves by `rows` from the current row, forward when positive; past either end it stands at
+    /// Moves by `steps` from the current row, forward when positive; past either end it stands at
     /// `eof()` or `bof()`.
-    void Move(int rows);
+    void Move(int steps);
+    /// Stands on the row at a place from 0, as `position` counts. Fails with `misuse` when there is none.
+    void MoveTo(int row);
 
     /// Looks for `column op value` (`=`, `>=`, `<=`, `>`, `<`, `<>`; the value quoted or not) from
     /// the current row on. Either direction finds a row that exists after `MoveFirst`. Not found is
@@ -142,6 +153,12 @@ public:
     Field Fields(QStringView name);
     int field_count() const;
     QString field_name(int ordinal) const;
+    /// The column's declared type; `any` for what the statement computed or joined.
+    column_type field_type(int ordinal) const;
+
+    /// A value of any row, by place from 0, without leaving the current row: for grids that paint
+    /// rows they do not stand on. Null is an invalid value.
+    QVariant value_at(int row, int ordinal) const;
 
     /// Adds a row with the columns' defaults and stands on it. It reaches the store at its commit.
     void AddNew();

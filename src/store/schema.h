@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 #include <QVariant>
 
@@ -10,7 +11,8 @@
 /// reader reaches them by ordinal.
 namespace verdane {
 
-enum class column_type { text, int16, int32, real, yes_no, any };
+/// A `count` has 16 bits, an `amount` 32; `any` is a place that nothing reads or writes.
+enum class column_type { text, count, amount, real, yes_no, any };
 
 struct column {
     QString name;
@@ -31,6 +33,9 @@ const std::vector<table>& schema();
 
 /// The table of that name, capitals or not; null when the store has none of that name.
 const table* find_table(QStringView name);
+
+/// The names that the 14 clubs have in a fresh store; the last is the putter.
+const QStringList& fresh_club_names();
 
 /// A value brought into a column's type, as the engine's own conversion would: a text written to a
 /// number column gives its leading number, rounded to nearest (ties to even) and checked against the

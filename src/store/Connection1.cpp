@@ -1,0 +1,160 @@
+#include "Connection1.h"
+
+#include "fresh_store.h"
+#include "store_lock.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSqlQuery>
+#include <QStandardPaths>
+#include <QUuid>
+
+namespace verdane {
+
+namespace {
+
+QString answer(const QSqlDatabase& database, const QString& question)
+{
+    QSqlQuery query(database);
+    query.setForwardOnly(true);
+    if (!query.exec(question) || !query.next())
+        throw store_failure(query.lastError(), question);
+    return query.value(0).toString();
+}
+
+void make_folder(const QString& path)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    if (!QDir().mkpath(folder))
+        throw run_time_failure(failure_kind::store_read_only,
+                               QStringLiteral("the folder %1 cannot be made").arg(folder));
+}
+
+/// The engine would take a very short text file for a store that was never filled.
+void check_file_head(const QString& path)
+{
+    QFile file(path);
+    if (!file.exists() || file.size() == 0)
+        return;
+    if (!file.open(QIODevice::ReadOnly))
+        throw run_time_failure(failure_kind::store_unreachable, QString(path + u": " + file.errorString()));
+    if (file.read(16) != QByteArray("SQLite format 3", 16))
+        throw run_time_failure(failure_kind::store_damaged, QString(path + u": not a store"));
+}
+
+void check_soundness(const QSqlDatabase& database)
+{
+    const QString verdict = answer(database, QStringLiteral("PRAGMA quick_check(1)"));
+    if (verdict != u"ok")
+        throw run_time_failure(failure_kind::store_damaged,
+                               QString(database.databaseName() + u": " + verdict));
+}
+
+/// Permissions cannot be asked for reliably; taking the write lock is the proof, and changes nothing.
+void check_writable(Connection1& connection)
+{
+    connection.Execute(QStringLiteral("BEGIN IMMEDIATE"));
+    connection.Execute(QStringLiteral("ROLLBACK"));
+}
+
+bool has_tables(const QSqlDatabase& database)
+{
+    return answer(database, QStringLiteral("SELECT count(*) FROM sqlite_master")) != u"0";
+}
+
+}  // namespace
+
+Connection1::Connection1() : name_(QUuid::createUuid().toString(QUuid::WithoutBraces)) {}
+
+Connection1::~Connection1()
+{
+    Close();
+}
+
+QString Connection1::connection_string()
+{
+    return QStringLiteral(
+        "Provider=MSDASQL.1;Persist Security Info=False;Data Source=Verdbase;Mode=ReadWrite;");
+}
+
+QString Connection1::default_path()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/Verdbase.db";
+}
+
+void Connection1::Open(const QString& path)
+{
+    if (is_open())
+        throw run_time_failure(failure_kind::misuse, QString(path_ + u": the connection is open already"));
+    make_folder(path);
+    lock_ = take_store_lock(path);
+    path_ = path;
+    const bool was_there = QFile::exists(path);
+    try {
+        open_engine();
+    } catch (...) {
+        Close();
+        // Nothing was laid down in a file that was made just now: an empty one helps nobody.
+        if (!was_there)
+            QFile::remove(path);
+        throw;
+    }
+}
+
+void Connection1::open_engine()
+{
+    check_file_head(path_);
+    {
+        QSqlDatabase engine = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
+        engine.setDatabaseName(path_);
+        engine.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busy_timeout_ms));
+        if (!engine.open())
+            throw store_failure(engine.lastError(), path_);
+    }
+    check_soundness(database());
+    check_writable(*this);
+    // WAL lets report printing and other readers look on while the program writes.
+    answer(database(), QStringLiteral("PRAGMA journal_mode=WAL"));
+    Execute(QStringLiteral("PRAGMA synchronous=FULL"));
+    if (!has_tables(database()))
+        lay_down(*this);
+}
+
+void Connection1::Close()
+{
+    if (QSqlDatabase::contains(name_)) {
+        database().close();
+        QSqlDatabase::removeDatabase(name_);
+    }
+    lock_.reset();
+}
+
+bool Connection1::is_open() const
+{
+    return QSqlDatabase::contains(name_) && database().isOpen();
+}
+
+void Connection1::Execute(const QString& statement)
+{
+    if (!is_open())
+        throw run_time_failure(failure_kind::misuse, QString(statement + u": the connection is closed"));
+    QSqlQuery query(database());
+    if (!query.exec(statement))
+        throw store_failure(query.lastError(), statement);
+}
+
+QSqlDatabase Connection1::database() const
+{
+    return QSqlDatabase::database(name_, false);
+}
+
+QString quoted(const QString& text)
+{
+    QString inside = text;
+    inside.replace(u'\'', QStringLiteral("''"));
+    return u'\'' + inside + u'\'';
+}
+
+}  // namespace verdane

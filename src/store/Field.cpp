@@ -1,0 +1,148 @@
+#include "numbers.h"
+#include "recordset_rows.h"
+
+/// Reading and writing one field.
+namespace verdane {
+
+namespace {
+
+/// Null and the empty text, which boxes leave behind, are no number.
+bool is_nothing(const QVariant& value)
+{
+    return value.isNull() || (value.typeId() == QMetaType::QString && value.toString().isEmpty());
+}
+
+double number_of(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Double:
+        return *static_cast<const double*>(value.constData());
+    case QMetaType::QString:
+        return leading_number(*static_cast<const QString*>(value.constData()));
+    case QMetaType::Bool:
+        return value.toBool() ? 1.0 : 0.0;
+    default:
+        return value.toDouble();
+    }
+}
+
+int16 count_of(const QVariant& value)
+{
+    // Nearly every count is a small whole number already.
+    if (value.typeId() == QMetaType::Int)
+        return *static_cast<const int*>(value.constData());
+    return to_int16(number_of(value));
+}
+
+int32 amount_of(const QVariant& value)
+{
+    if (value.typeId() == QMetaType::Int)
+        return *static_cast<const int*>(value.constData());
+    return to_int32(number_of(value));
+}
+
+QString text_of(const QVariant& value)
+{
+    return value.typeId() == QMetaType::QString ? *static_cast<const QString*>(value.constData())
+                                                : converted(value, column_type::text).toString();
+}
+
+}  // namespace
+
+const QVariant& Field::cell() const
+{
+    return owner_.rows_->current().cells[static_cast<std::size_t>(ordinal_)];
+}
+
+const QVariant& Field::cell_with_value() const
+{
+    const QVariant& value = cell();
+    if (value.isNull()) {
+        const Recordset::rows& rows = *owner_.rows_;
+        rows.fail(failure_kind::invalid_null,
+                  QString(rows.set.columns[static_cast<std::size_t>(ordinal_)].name + u" has no value"));
+    }
+    return value;
+}
+
+QVariant Field::value() const
+{
+    return cell();
+}
+
+bool Field::is_null() const
+{
+    return cell().isNull();
+}
+
+QString Field::text() const
+{
+    return text_of(cell_with_value());
+}
+
+QString Field::text_or_empty() const
+{
+    const QVariant& value = cell();
+    return value.isNull() ? QString() : text_of(value);
+}
+
+QString Field::trimmed() const
+{
+    return text_or_empty().trimmed();
+}
+
+int16 Field::to_int16() const
+{
+    return count_of(cell_with_value());
+}
+
+int16 Field::int16_or_zero() const
+{
+    const QVariant& value = cell();
+    return is_nothing(value) ? int16(0) : count_of(value);
+}
+
+int32 Field::to_int32() const
+{
+    return amount_of(cell_with_value());
+}
+
+int32 Field::int32_or_zero() const
+{
+    const QVariant& value = cell();
+    return is_nothing(value) ? int32(0) : amount_of(value);
+}
+
+double Field::to_double() const
+{
+    return number_of(cell_with_value());
+}
+
+double Field::double_or_zero() const
+{
+    const QVariant& value = cell();
+    return value.isNull() ? 0.0 : number_of(value);
+}
+
+bool Field::yes() const
+{
+    const QVariant& value = cell();
+    return !value.isNull() && converted(value, column_type::yes_no).toBool();
+}
+
+void Field::set(const QVariant& value)
+{
+    owner_.rows_->write(ordinal_, value);
+}
+
+void Field::set(int16 value)
+{
+    set(plain(value));
+}
+
+void Field::set(int32 value)
+{
+    set(plain(value));
+}
+
+}  // namespace verdane

@@ -1,0 +1,209 @@
+#include "Recordset.h"
+
+#include "Connection1.h"
+#include "find_criterion.h"
+#include "recordset_rows.h"
+#include "row_writer.h"
+
+#include <algorithm>
+
+/// Opening, walking and finding; editing stands in `recordset_edit.cpp`.
+namespace verdane {
+
+Recordset::Recordset(Connection1& connection, recordset_settings settings)
+    : rows_(std::make_unique<rows>(connection, std::move(settings)))
+{
+}
+
+Recordset::~Recordset() = default;
+
+const QString& Recordset::name() const
+{
+    return rows_->settings.name;
+}
+
+const recordset_settings& Recordset::settings() const
+{
+    return rows_->settings;
+}
+
+const QString& Recordset::Source() const
+{
+    return rows_->source;
+}
+
+void Recordset::set_Source(const QString& statement)
+{
+    rows_->source = statement;
+}
+
+void Recordset::Open()
+{
+    if (rows_->open)
+        rows_->fail(failure_kind::misuse, QStringLiteral("the recordset is open already"));
+    if (!rows_->connection.is_open())
+        rows_->fail(failure_kind::misuse, QStringLiteral("the connection is closed"));
+    rows_->forget_rows();
+    rows_->set = read_rows(rows_->connection, rows_->source, rows_->where());
+    rows_->open = true;
+}
+
+void Recordset::Close()
+{
+    rows_->need_open();
+    rows_->open = false;
+    rows_->forget_rows();
+}
+
+bool Recordset::is_open() const
+{
+    return rows_->open;
+}
+
+void Recordset::Requery()
+{
+    rows_->commit_on_leaving();
+    // Read first: when that fails, the recordset is as it was.
+    row_set fresh = read_rows(rows_->connection, rows_->source, rows_->where());
+    rows_->forget_rows();
+    rows_->set = std::move(fresh);
+}
+
+bool Recordset::bof() const
+{
+    rows_->need_open();
+    return rows_->count() == 0 || rows_->place < 0;
+}
+
+bool Recordset::eof() const
+{
+    rows_->need_open();
+    return rows_->count() == 0 || (rows_->place >= rows_->count() && !rows_->in_gap);
+}
+
+bool Recordset::empty() const
+{
+    rows_->need_open();
+    return rows_->count() == 0;
+}
+
+int Recordset::RecordCount() const
+{
+    rows_->need_open();
+    return rows_->count();
+}
+
+int Recordset::position() const
+{
+    rows_->need_open();
+    return rows_->on_row() ? rows_->place : -1;
+}
+
+void Recordset::MoveFirst()
+{
+    rows_->commit_on_leaving();
+    if (rows_->count() == 0)
+        rows_->fail(failure_kind::misuse, QStringLiteral("there is no first row"));
+    rows_->stand_at(0);
+}
+
+void Recordset::MoveLast()
+{
+    rows_->commit_on_leaving();
+    if (rows_->count() == 0)
+        rows_->fail(failure_kind::misuse, QStringLiteral("there is no last row"));
+    rows_->stand_at(rows_->count() - 1);
+}
+
+void Recordset::MoveNext()
+{
+    Move(1);
+}
+
+void Recordset::MovePrevious()
+{
+    Move(-1);
+}
+
+void Recordset::Move(int steps)
+{
+    rows_->commit_on_leaving();
+    if (steps == 0)
+        return;
+    // In a gap the next row stands at `place` already.
+    const qint64 from = rows_->in_gap && steps > 0 ? rows_->place - 1 : rows_->place;
+    rows_->stand_at(static_cast<int>(std::clamp<qint64>(from + steps, -1, rows_->count())));
+}
+
+void Recordset::MoveTo(int row)
+{
+    rows_->commit_on_leaving();
+    if (row < 0 || row >= rows_->count())
+        rows_->fail(failure_kind::misuse, QStringLiteral("there is no row %1").arg(row));
+    rows_->stand_at(row);
+}
+
+void Recordset::Find(const QString& criterion, search_direction direction)
+{
+    rows_->commit_on_leaving();
+    const find_criterion wanted(criterion);
+    const auto column = static_cast<std::size_t>(Fields(wanted.column()).ordinal());
+    const auto& all = rows_->set.rows;
+    const auto matches = [&wanted, column](const auto& row) { return wanted.matches(row->cells[column]); };
+    const auto start = all.begin() + std::clamp(rows_->place, 0, rows_->count());
+    if (direction == search_direction::backward) {
+        // The row that the search stands on belongs to the way back.
+        const auto back_from = rows_->on_row() ? start + 1 : start;
+        const auto back = std::find_if(std::make_reverse_iterator(back_from), all.rend(), matches);
+        if (back != all.rend()) {
+            rows_->stand_at(static_cast<int>(all.rend() - back) - 1);
+            return;
+        }
+    }
+    // Backward callers stand on the first row and expect the whole table to be looked through.
+    rows_->stand_at(static_cast<int>(std::find_if(start, all.end(), matches) - all.begin()));
+}
+
+Field Recordset::Fields(int ordinal)
+{
+    rows_->need_open();
+    return {*this, rows_->checked_ordinal(ordinal)};
+}
+
+Field Recordset::Fields(QStringView name)
+{
+    rows_->need_open();
+    const auto found = rows_->set.ordinals.constFind(name.toString().toLower());
+    if (found == rows_->set.ordinals.constEnd())
+        rows_->fail(failure_kind::missing_table, QString(u"no column " + name));
+    return {*this, found.value()};
+}
+
+int Recordset::field_count() const
+{
+    rows_->need_open();
+    return static_cast<int>(rows_->set.columns.size());
+}
+
+QString Recordset::field_name(int ordinal) const
+{
+    rows_->need_open();
+    return rows_->set.columns[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))].name;
+}
+
+column_type Recordset::field_type(int ordinal) const
+{
+    rows_->need_open();
+    return rows_->set.columns[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))].type;
+}
+
+QVariant Recordset::value_at(int row, int ordinal) const
+{
+    rows_->need_open();
+    if (row < 0 || row >= rows_->count())
+        rows_->fail(failure_kind::misuse, QStringLiteral("there is no row %1").arg(row));
+    return rows_->set.rows[static_cast<std::size_t>(row)]
+        ->cells[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))];
+}
+
+}  // namespace verdane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "Recordset.h"
+
+namespace verdane {
+
+/// The nineteen recordsets with the settings they are laid down with, in order.
+const std::vector<recordset_settings>& catalogue();
+
+/// The settings of the recordset of that name, which must be in the catalogue.
+const recordset_settings& catalogue_entry(QStringView name);
+
+}  // namespace verdane

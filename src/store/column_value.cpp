@@ -1,0 +1,64 @@
+#include "numbers.h"
+#include "schema.h"
+
+/// Values on their way into a column.
+namespace verdane {
+
+namespace {
+
+double number_of(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::QString:
+        return leading_number(value.toString());
+    case QMetaType::Bool:
+        return value.toBool() ? 1.0 : 0.0;
+    default:
+        return value.toDouble();
+    }
+}
+
+QString text_of(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return number_text(value.toDouble());
+    case QMetaType::Bool:
+        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+    default:
+        return value.toString();
+    }
+}
+
+bool yes_of(const QVariant& value)
+{
+    if (value.typeId() == QMetaType::QString && value.toString().compare(u"true", Qt::CaseInsensitive) == 0)
+        return true;
+    return number_of(value) != 0.0;
+}
+
+}  // namespace
+
+QVariant converted(const QVariant& value, column_type type)
+{
+    if (value.isNull())
+        return {};
+    switch (type) {
+    case column_type::text:
+        return text_of(value);
+    case column_type::count:
+        return plain(to_int16(number_of(value)));
+    case column_type::amount:
+        return plain(to_int32(number_of(value)));
+    case column_type::real:
+        return number_of(value);
+    case column_type::yes_no:
+        return yes_of(value);
+    case column_type::any:
+        break;
+    }
+    return value;
+}
+
+}  // namespace verdane

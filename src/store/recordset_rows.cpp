@@ -1,0 +1,173 @@
+#include "recordset_rows.h"
+
+#include "Connection1.h"
+#include "row_writer.h"
+
+#include <QSqlQuery>
+
+#include <algorithm>
+
+namespace verdane {
+
+void Recordset::rows::fail(failure_kind kind, const QString& what) const
+{
+    throw run_time_failure(kind, QString(where() + u": " + what));
+}
+
+QString Recordset::rows::where() const
+{
+    return settings.name + u" [" + source + u']';
+}
+
+void Recordset::rows::need_open() const
+{
+    if (!open)
+        fail(failure_kind::misuse, QStringLiteral("the recordset is closed"));
+}
+
+recordset_row& Recordset::rows::current()
+{
+    need_open();
+    if (!on_row())
+        fail(failure_kind::misuse, QStringLiteral("there is no current row"));
+    return *set.rows[static_cast<std::size_t>(place)];
+}
+
+int Recordset::rows::checked_ordinal(int ordinal) const
+{
+    if (ordinal < 0 || ordinal >= static_cast<int>(set.columns.size()))
+        fail(failure_kind::missing_table, QStringLiteral("no column %1").arg(ordinal));
+    return ordinal;
+}
+
+void Recordset::rows::need_updatable() const
+{
+    need_open();
+    if (!set.shape.updatable)
+        fail(failure_kind::misuse, QStringLiteral("its rows cannot be written"));
+}
+
+void Recordset::rows::stand_at(int target)
+{
+    place = std::clamp(target, -1, count());
+    in_gap = false;
+}
+
+void Recordset::rows::forget_rows()
+{
+    set = {};
+    removed.clear();
+    stand_at(0);
+}
+
+void Recordset::rows::commit_on_leaving()
+{
+    need_open();
+    if (batch())
+        return;
+    if (recordset_row* row = current_or_null())
+        commit(*row);
+}
+
+void Recordset::rows::commit(recordset_row& row)
+{
+    if (!row.pending)
+        return;
+    row.number = write_row(connection, set, row, where());
+    row.pending.reset();
+}
+
+namespace {
+
+/// Several statements that reach the store together or not at all.
+class one_commit {
+public:
+    explicit one_commit(Connection1& connection) : connection_(connection)
+    {
+        connection_.Execute(QStringLiteral("BEGIN IMMEDIATE"));
+    }
+    ~one_commit()
+    {
+        if (!done_)
+            QSqlQuery(connection_.database()).exec(QStringLiteral("ROLLBACK"));
+    }
+    one_commit(const one_commit&) = delete;
+    one_commit& operator=(const one_commit&) = delete;
+
+    void finish()
+    {
+        connection_.Execute(QStringLiteral("COMMIT"));
+        done_ = true;
+    }
+
+private:
+    Connection1& connection_;
+    bool done_ = false;
+};
+
+std::vector<recordset_row*> waiting_rows(const row_list& rows)
+{
+    std::vector<recordset_row*> waiting;
+    for (const auto& row : rows) {
+        if (row->pending)
+            waiting.push_back(row.get());
+    }
+    return waiting;
+}
+
+}  // namespace
+
+void Recordset::rows::commit_all()
+{
+    const std::vector<recordset_row*> waiting = waiting_rows(set.rows);
+    if (waiting.empty() && removed.empty())
+        return;
+    std::vector<qint64> numbers;
+    one_commit together(connection);
+    for (const removed_row& gone : removed)
+        erase_row(connection, set, gone.row->number, where());
+    for (const recordset_row* row : waiting)
+        numbers.push_back(write_row(connection, set, *row, where()));
+    together.finish();
+    // Only now: until the store has taken everything, everything stays pending.
+    removed.clear();
+    for (std::size_t i = 0; i < waiting.size(); ++i) {
+        waiting[i]->number = numbers[i];
+        waiting[i]->pending.reset();
+    }
+}
+
+void Recordset::rows::cancel(recordset_row& row)
+{
+    if (!row.pending)
+        return;
+    if (!row.pending->is_new) {
+        for (auto& [ordinal, before] : row.pending->before)
+            row.cells[static_cast<std::size_t>(ordinal)] = std::move(before);
+        row.pending.reset();
+        return;
+    }
+    const recordset_row* origin = row.pending->came_from;
+    std::erase_if(set.rows, [&row](const auto& candidate) { return candidate.get() == &row; });
+    const auto back = std::find_if(set.rows.begin(), set.rows.end(),
+                                   [origin](const auto& candidate) { return candidate.get() == origin; });
+    stand_at(static_cast<int>(back - set.rows.begin()));
+}
+
+void Recordset::rows::write(int ordinal, const QVariant& value)
+{
+    need_updatable();
+    recordset_row& row = current();
+    const auto at = static_cast<std::size_t>(checked_ordinal(ordinal));
+    if (!set.columns[at].stored)
+        fail(failure_kind::misuse, QString(set.columns[at].name + u" is no column of the table"));
+    QVariant stored = converted(value, set.columns[at].type);
+    if (!row.pending)
+        row.pending = std::make_unique<pending_edit>();
+    auto& before = row.pending->before;
+    if (std::none_of(before.begin(), before.end(), [ordinal](const auto& e) { return e.first == ordinal; }))
+        before.emplace_back(ordinal, row.cells[at]);
+    row.cells[at] = std::move(stored);
+}
+
+}  // namespace verdane

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "Recordset.h"
+#include "schema.h"
+#include "select_statement.h"
+
+#include <QHash>
+#include <QSqlQuery>
+
+#include <utility>
+#include <vector>
+
+#include "run_time_failure.h"
+
+/// What a recordset holds behind its public face.
+namespace verdane {
+
+struct recordset_column {
+    QString name;
+    column_type type = column_type::any;
+    QVariant default_value;
+    /// False for a column that the table does not have under this name.
+    bool stored = false;
+};
+
+struct recordset_row;
+
+/// What waits for a commit on one row.
+struct pending_edit {
+    bool is_new = false;
+    /// The columns that were written, each once, with what stood there before.
+    std::vector<std::pair<int, QVariant>> before;
+    /// For a new row: where the recordset stood. Only compared, never followed.
+    const recordset_row* came_from = nullptr;
+};
+
+struct recordset_row {
+    /// The engine's own row number; 0 for a row that is not in the store.
+    qint64 number = 0;
+    std::vector<QVariant> cells;
+    std::unique_ptr<pending_edit> pending;
+};
+
+using row_list = std::vector<std::unique_ptr<recordset_row>>;
+
+/// A row that waits for the batch update that removes it.
+struct removed_row {
+    std::size_t place = 0;
+    std::unique_ptr<recordset_row> row;
+};
+
+/// What a statement gave: its columns and its rows.
+struct row_set {
+    select_statement shape;
+    std::vector<recordset_column> columns;
+    QHash<QString, int> ordinals;  ///< by name in small letters; the first of a name counts
+    row_list rows;
+};
+
+/// Runs a statement and reads all its rows. `where` names it in a failure.
+row_set read_rows(const Connection1& connection, const QString& statement, const QString& where);
+
+struct Recordset::rows {
+    rows(Connection1& c, recordset_settings s)
+        : connection(c), settings(std::move(s)), source(settings.source)
+    {
+    }
+
+    Connection1& connection;
+    const recordset_settings settings;
+    QString source;
+
+    bool open = false;
+    row_set set;
+    std::vector<removed_row> removed;
+    /// The current row; -1 before the first, the number of rows behind the last. In a gap it is the
+    /// place of the row that follows the deleted one.
+    int place = 0;
+    bool in_gap = false;
+
+    bool batch() const { return settings.lock == lock_type::batch_optimistic; }
+    int count() const { return static_cast<int>(set.rows.size()); }
+    bool on_row() const { return open && !in_gap && place >= 0 && place < count(); }
+    recordset_row* current_or_null()
+    {
+        return on_row() ? set.rows[static_cast<std::size_t>(place)].get() : nullptr;
+    }
+
+    [[noreturn]] void fail(failure_kind kind, const QString& what) const;
+    QString where() const;
+    void need_open() const;
+    recordset_row& current();
+    int checked_ordinal(int ordinal) const;
+    void need_updatable() const;
+
+    /// Stands at a place, -1 and the number of rows included.
+    void stand_at(int target);
+    void forget_rows();
+
+    /// What every leaving of the current row does first.
+    void commit_on_leaving();
+    void commit(recordset_row& row);
+    void commit_all();
+    void cancel(recordset_row& row);
+    void write(int ordinal, const QVariant& value);
+};
+
+}  // namespace verdane

@@ -1,0 +1,50 @@
+#include "store_lock.h"
+
+#include "run_time_failure.h"
+
+#include <QFileInfo>
+#include <QLockFile>
+#include <QStorageInfo>
+
+#include <chrono>
+
+namespace verdane {
+
+namespace {
+
+bool disk_is_full(const QString& path)
+{
+    const QStorageInfo storage(QFileInfo(path).absolutePath());
+    return storage.isValid() && storage.bytesAvailable() == 0;
+}
+
+failure_kind kind_of(QLockFile::LockError error, const QString& path)
+{
+    switch (error) {
+    case QLockFile::LockFailedError:
+        return failure_kind::store_locked;
+    case QLockFile::PermissionError:
+        return failure_kind::store_read_only;
+    default:
+        return disk_is_full(path) ? failure_kind::store_full : failure_kind::store_unreachable;
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<QLockFile> take_store_lock(const QString& path)
+{
+    const QString lock_path = path + u".lock";
+    auto lock = std::make_unique<QLockFile>(lock_path);
+    // A session may last for days: only the death of its owner makes a lock stale, never its age.
+    lock->setStaleLockTime(std::chrono::milliseconds(0));
+    if (lock->tryLock())
+        return lock;
+    // A lock whose text cannot be judged (cut short by a power cut, or written under another host
+    // name) is removed when no living program holds the file itself.
+    if (lock->error() == QLockFile::LockFailedError && lock->removeStaleLockFile() && lock->tryLock())
+        return lock;
+    throw run_time_failure(kind_of(lock->error(), path), QStringLiteral("lock file %1").arg(lock_path));
+}
+
+}  // namespace verdane
