@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace verdane {
+
+/// Pages are laid out in tenths of a point, so that no screen, window or printer has a say in where a
+/// line ends: fonts and rules keep fine steps although the layout counts them in whole units.
+constexpr double units_per_mm = 720.0 / 25.4;
+constexpr double units_per_pt = 10.0;
+
+/// A length such as "12mm", "8.5pt" or "1px" (1/96 inch) in layout units; a negative number when the
+/// text is no such length.
+double length_in_units(const QString& text);
+
+/// HTML whose tags and styles give lengths in mm, pt and px, with those lengths in layout units. The
+/// text between the tags stays as it is.
+QString with_layout_units(const QString& html);
+
+}  // namespace verdane

@@ -1,0 +1,72 @@
+#include "page_layout.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFont>
+#include <QPainter>
+#include <QTextDocument>
+
+#include "layout_units.h"
+
+namespace verdane {
+
+namespace {
+
+const QColor footer_grey(0x70, 0x70, 0x70);
+
+/// The hinting of a screen would bend the letters' widths.
+QFont report_font(double points)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(qRound(points * units_per_pt));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+}  // namespace
+
+page_layout::page_layout(const template_file& source, const QString& html)
+    : paper_(QPointF(0, 0), source.page_size_mm() * units_per_mm),
+      inside_(paper_.marginsRemoved(source.margins * units_per_mm)),
+      document_(std::make_unique<QTextDocument>())
+{
+    document_->setUndoRedoEnabled(false);
+    document_->setDocumentMargin(0);
+    document_->setDefaultFont(report_font(9));
+    document_->setUseDesignMetrics(true);
+    document_->documentLayout()->registerHandler(QTextFormat::ImageObject, &drawings_);
+    document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
+    document_->setPageSize(inside_.size());
+}
+
+page_layout::~page_layout() = default;
+
+int page_layout::page_count() const
+{
+    return document_->pageCount();
+}
+
+void page_layout::paint(QPainter& painter, int page, const QString& footer) const
+{
+    painter.save();
+    painter.translate(inside_.left(), inside_.top() - page * inside_.height());
+    QAbstractTextDocumentLayout::PaintContext context;
+    // Paper is white whatever the desktop's colours are.
+    context.palette.setColor(QPalette::Text, Qt::black);
+    context.clip = QRectF(0, page * inside_.height(), inside_.width(), inside_.height());
+    painter.setClipRect(context.clip);
+    document_->documentLayout()->draw(&painter, context);
+    painter.restore();
+    paint_footer(painter, footer);
+}
+
+void page_layout::paint_footer(QPainter& painter, const QString& footer) const
+{
+    painter.save();
+    painter.setFont(report_font(7));
+    painter.setPen(footer_grey);
+    const QRectF below(inside_.left(), inside_.bottom(), inside_.width(), paper_.bottom() - inside_.bottom());
+    painter.drawText(below, Qt::AlignRight | Qt::AlignVCenter, footer);
+    painter.restore();
+}
+
+}  // namespace verdane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+#include <memory>
+
+#include "report_drawings.h"
+#include "template_file.h"
+
+class QPainter;
+class QTextDocument;
+
+namespace verdane {
+
+/// A report's HTML laid out on pages. Everything here is in layout units (`layout_units.h`).
+class page_layout {
+public:
+    /// Lays out `html` on the paper and within the margins of `source`. Table heads (`<thead>`) stand
+    /// again on each page. Fails with `report_template` on a drawing that is wrong.
+    page_layout(const template_file& source, const QString& html);
+    ~page_layout();
+
+    int page_count() const;
+
+    /// Paints a page, counted from 0, with the origin at the corner of the paper.
+    void paint(QPainter& painter, int page, const QString& footer) const;
+
+private:
+    void paint_footer(QPainter& painter, const QString& footer) const;
+
+    QRectF paper_;
+    QRectF inside_;
+    report_drawings drawings_;
+    std::unique_ptr<QTextDocument> document_;
+};
+
+}  // namespace verdane

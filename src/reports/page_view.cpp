@@ -1,0 +1,170 @@
+#include "page_view.h"
+
+#include <QPainter>
+#include <QPaintEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <array>
+
+#include "report_document.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int gap = 16;
+constexpr std::array zoom_steps{25, 33, 50, 67, 75, 90, 100, 110, 125, 150, 175, 200, 250, 300, 400};
+
+}  // namespace
+
+page_view::page_view(std::shared_ptr<const report_document> document, QWidget* parent)
+    : QAbstractScrollArea(parent), document_(std::move(document))
+{
+    setObjectName(QStringLiteral("page_view"));
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    viewport()->setBackgroundRole(QPalette::Mid);
+    viewport()->setAutoFillBackground(true);
+    verticalScrollBar()->setSingleStep(40);
+    horizontalScrollBar()->setSingleStep(40);
+    set_up_scroll_bars();
+}
+
+double page_view::pixels_per_mm() const
+{
+    return logicalDpiX() / 25.4 * zoom_ / 100.0;
+}
+
+QSize page_view::page_size() const
+{
+    return (document_->page_size_mm() * pixels_per_mm()).toSize();
+}
+
+int page_view::page_top(int page) const
+{
+    return gap + page * (page_size().height() + gap);
+}
+
+QRect page_view::page_rect(int page) const
+{
+    const QSize size = page_size();
+    const int left = qMax(gap, (viewport()->width() - size.width()) / 2);
+    return {QPoint(left - horizontalScrollBar()->value(), page_top(page) - verticalScrollBar()->value()),
+            size};
+}
+
+void page_view::set_zoom(int percent)
+{
+    const double middle = viewport()->height() / 2.0;
+    const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->page_count());
+    zoom_ = qBound(least_zoom, percent, most_zoom);
+    set_up_scroll_bars();
+    scroll_to(qRound(seen * page_top(document_->page_count()) - middle));
+}
+
+void page_view::zoom_in()
+{
+    const auto* next = std::upper_bound(zoom_steps.begin(), zoom_steps.end(), zoom_);
+    set_zoom(next == zoom_steps.end() ? most_zoom : *next);
+}
+
+void page_view::zoom_out()
+{
+    const auto* here = std::lower_bound(zoom_steps.begin(), zoom_steps.end(), zoom_);
+    set_zoom(here == zoom_steps.begin() ? least_zoom : *(here - 1));
+}
+
+void page_view::fit_width()
+{
+    const double room = viewport()->width() - 2 * gap;
+    set_zoom(static_cast<int>(room / page_size().width() * zoom_));
+}
+
+int page_view::current_page() const
+{
+    const int middle = verticalScrollBar()->value() + viewport()->height() / 2;
+    const int page = (middle - gap / 2) / (page_size().height() + gap);
+    return qBound(0, page, document_->page_count() - 1);
+}
+
+void page_view::previous_page()
+{
+    const int here = page_top(current_page()) - gap;
+    const bool is_inside = verticalScrollBar()->value() > here;
+    scroll_to(is_inside ? here : page_top(qMax(0, current_page() - 1)) - gap);
+}
+
+void page_view::next_page()
+{
+    const bool is_last = current_page() + 1 >= document_->page_count();
+    scroll_to(is_last ? verticalScrollBar()->maximum() : page_top(current_page() + 1) - gap);
+}
+
+void page_view::scroll_to(int y)
+{
+    verticalScrollBar()->setValue(y);
+    viewport()->update();
+    if (on_change)
+        on_change();
+}
+
+void page_view::set_up_scroll_bars()
+{
+    const QSize size = page_size();
+    verticalScrollBar()->setPageStep(viewport()->height());
+    verticalScrollBar()->setRange(0, qMax(0, page_top(document_->page_count()) - viewport()->height()));
+    horizontalScrollBar()->setPageStep(viewport()->width());
+    horizontalScrollBar()->setRange(0, qMax(0, size.width() + 2 * gap - viewport()->width()));
+}
+
+void page_view::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(viewport());
+    for (int page = 0; page < document_->page_count(); ++page)
+        if (page_rect(page).adjusted(-gap, -gap, gap, gap).intersects(event->rect()))
+            paint_page(painter, page);
+}
+
+void page_view::paint_page(QPainter& painter, int page) const
+{
+    const QRect place = page_rect(page);
+    painter.fillRect(place.translated(2, 2), palette().color(QPalette::Shadow));
+    painter.fillRect(place, Qt::white);
+    painter.save();
+    painter.setClipRect(place);
+    painter.translate(place.topLeft());
+    painter.scale(pixels_per_mm(), pixels_per_mm());
+    document_->paint(painter, page);
+    painter.restore();
+}
+
+void page_view::resizeEvent(QResizeEvent* event)
+{
+    QAbstractScrollArea::resizeEvent(event);
+    set_up_scroll_bars();
+    if (on_change)
+        on_change();
+}
+
+void page_view::scrollContentsBy(int, int)
+{
+    viewport()->update();
+    if (on_change)
+        on_change();
+}
+
+void page_view::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QAbstractScrollArea::wheelEvent(event);
+        return;
+    }
+    if (event->angleDelta().y() > 0)
+        zoom_in();
+    else
+        zoom_out();
+    event->accept();
+}
+
+}  // namespace verdane

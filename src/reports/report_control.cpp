@@ -1,0 +1,48 @@
+#include "report_control.h"
+
+#include <QCoreApplication>
+
+#include "language.h"
+#include "page_view.h"
+#include "report_document.h"
+#include "report_preview.h"
+#include "run_time_failure.h"
+
+namespace verdane {
+
+void report_control::Action(int value)
+{
+    if (value != run_now)
+        throw run_time_failure(failure_kind::misuse,
+                               QStringLiteral("a report control knows no action %1").arg(value));
+    QString path = report_file_name_;
+    auto* window = new report_preview(render_report(path.replace(u'\\', u'/')), window_title_, owner_);
+    preview_ = window;
+    if (page_zoom_)
+        window->pages().set_zoom(*page_zoom_);
+    if (window_state_ == maximised)
+        window->showMaximized();
+    else
+        window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+report_preview* report_control::preview() const
+{
+    return static_cast<report_preview*>(preview_.data());
+}
+
+void prepare_report(report_control& control, report_opening opening, QStringView french_literal,
+                    QStringView english_literal)
+{
+    if (opening.is_maximised)
+        control.set_WindowState(report_control::maximised);
+    if (opening.zoom_percent)
+        control.PageZoom(*opening.zoom_percent);
+    control.set_WindowTitle(QStringLiteral("Verdane International Inc."));
+    control.set_ReportFileName(QCoreApplication::applicationDirPath() +
+                               in_language(french_literal, english_literal));
+}
+
+}  // namespace verdane

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include <optional>
+
+namespace verdane {
+
+class report_preview;
+
+/// A report control of a window (`cr1`, `cr2`, `cr3`): what a report is to show and how. Nothing
+/// resets it; each launch sets what it needs.
+class report_control {
+public:
+    static constexpr int maximised = 2;
+    static constexpr int run_now = 1;
+
+    /// The window above which reports open. It may be modal; a report stays open beside it and closes
+    /// with it at the latest.
+    explicit report_control(QWidget* owner = nullptr) : owner_(owner) {}
+    void set_owner(QWidget* owner) { owner_ = owner; }
+
+    /// 0 for a window of its own size, 2 for a maximised one.
+    int WindowState() const { return window_state_; }
+    void set_WindowState(int state) { window_state_ = state; }
+
+    /// Zoom of the pages in percent of their true size.
+    void PageZoom(int percent) { page_zoom_ = percent; }
+    std::optional<int> page_zoom() const { return page_zoom_; }
+
+    const QString& WindowTitle() const { return window_title_; }
+    void set_WindowTitle(const QString& title) { window_title_ = title; }
+
+    /// The template's path as the program gives it, with a backslash before the file's name on every
+    /// platform.
+    const QString& ReportFileName() const { return report_file_name_; }
+    void set_ReportFileName(const QString& path) { report_file_name_ = path; }
+
+    /// With 1: reads the template and the committed rows of the store, opens the preview and comes
+    /// back while it is open. Fails with `report_template` or `store_unreachable`, and with `misuse`
+    /// for any other value.
+    void Action(int value);
+
+    /// The preview that the last `Action` opened, as long as it is open.
+    report_preview* preview() const;
+
+private:
+    QPointer<QWidget> owner_;
+    int window_state_ = 0;
+    std::optional<int> page_zoom_;
+    QString window_title_;
+    QString report_file_name_;
+    QPointer<QWidget> preview_;
+};
+
+/// How a report's window opens: maximised, or with a zoom.
+struct report_opening {
+    bool is_maximised = false;
+    std::optional<int> zoom_percent;
+
+    static report_opening maximised() { return {true, {}}; }
+    static report_opening zoomed(int percent) { return {false, percent}; }
+    static report_opening plain() { return {}; }
+};
+
+/// Sets a control up for a report: window state or zoom, then title, then the path of the template,
+/// which is the program's folder followed by the literal of the current language (each begins with a
+/// backslash). Starting it, with `Action(report_control::run_now)`, is the caller's last act, when
+/// every row is committed.
+void prepare_report(report_control& control, report_opening opening, QStringView french_literal,
+                    QStringView english_literal);
+
+}  // namespace verdane

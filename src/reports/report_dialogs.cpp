@@ -1,0 +1,42 @@
+#include "report_dialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QStandardPaths>
+
+namespace verdane {
+
+namespace {
+
+QString ask_for_file(QWidget* owner, const file_question& question)
+{
+    QFileDialog dialog(owner, question.caption);
+    dialog.setObjectName(QStringLiteral("choose_file"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilter(QStringLiteral("%1 (*.%2)").arg(question.kind, question.ending));
+    dialog.setDefaultSuffix(question.ending);
+    dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog.selectFile(question.proposed);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+bool ask_for_printer(QWidget* owner, QPrinter& printer)
+{
+    QPrintDialog dialog(&printer, owner);
+    dialog.setObjectName(QStringLiteral("choose_printer"));
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+}  // namespace
+
+report_dialogs& dialogs_of_reports()
+{
+    static report_dialogs dialogs{ask_for_file, ask_for_printer};
+    return dialogs;
+}
+
+}  // namespace verdane

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QImage>
+#include <QMarginsF>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+
+class QPainter;
+class QPrinter;
+
+namespace verdane {
+
+/// A report with its figures in place, cut into pages. Screen, printer, PDF and picture all paint
+/// these pages; the CSV file holds the figures behind them. Nothing of it depends on a screen, a
+/// window or a printer, and a report keeps what it read when it was made.
+class report_document {
+public:
+    ~report_document();
+    report_document(const report_document&) = delete;
+    report_document& operator=(const report_document&) = delete;
+
+    /// The template's own title, and its file's name without folder and ending.
+    const QString& title() const;
+    QString base_name() const;
+
+    int page_count() const;
+    QSizeF page_size_mm() const;
+    QMarginsF margins_mm() const;
+
+    /// Paints a page, counted from 0, with the painter's origin at the corner of the paper and one
+    /// unit for one millimetre.
+    void paint(QPainter& painter, int page) const;
+
+    /// A page as a picture on white paper.
+    QImage page_image(int page, double dots_per_inch) const;
+
+    /// Writes all pages. Fails with `report_output`; a file of that name is then as it was.
+    void save_pdf(const QString& path) const;
+
+    /// Writes the figures as UTF-8 text with a mark at its start that spreadsheets look for, one line
+    /// a row, below the columns' names. With `;` between the fields, numbers take a decimal comma.
+    /// Fails as `save_pdf`.
+    void save_csv(const QString& path) const;
+
+    /// Writes one page as a PNG picture at 200 dots per inch. Fails as `save_pdf`.
+    void save_picture(const QString& path, int page) const;
+
+    /// Prints the pages that the printer was asked for, in the middle of its paper, smaller only
+    /// where the paper is smaller than the page. Fails with `report_output`.
+    void print(QPrinter& printer) const;
+
+private:
+    friend std::shared_ptr<const report_document> render_report(const QString& template_path);
+    struct contents;
+    explicit report_document(std::unique_ptr<contents> made);
+
+    std::unique_ptr<contents> contents_;
+};
+
+/// Reads a template, asks the store for its figures and lays the pages out. Fails with
+/// `report_template` (file and line in the details) or `store_unreachable`.
+std::shared_ptr<const report_document> render_report(const QString& template_path);
+
+}  // namespace verdane

@@ -1,0 +1,107 @@
+#include "report_drawings.h"
+
+#include <QPainter>
+#include <QRegularExpression>
+#include <QTextImageFormat>
+#include <QXmlStreamReader>
+
+#include "layout_units.h"
+
+namespace verdane {
+
+namespace {
+
+const QString picture_prefix = QStringLiteral("drawing:");
+
+QString attribute_of(const QString& start_tag, const QString& name)
+{
+    const QRegularExpression form(QStringLiteral("\\s%1=\"([^\"]*)\"").arg(name));
+    return form.match(start_tag).captured(1);
+}
+
+/// What the XML reader says about a drawing, or nothing when it is well-formed. The renderer itself
+/// only writes to the log.
+QString xml_error(const QString& svg)
+{
+    QXmlStreamReader reader(svg);
+    while (!reader.atEnd())
+        reader.readNext();
+    return reader.hasError() ? reader.errorString() : QString();
+}
+
+}  // namespace
+
+QString report_drawings::marked(const QString& body, int first_line)
+{
+    QString result = body;
+    for (qsizetype at = result.lastIndexOf(QStringLiteral("<svg")); at >= 0;
+         at = at == 0 ? -1 : result.lastIndexOf(QStringLiteral("<svg"), at - 1)) {
+        const auto line = first_line + QStringView(result).first(at).count(u'\n');
+        result.insert(at + 4, QStringLiteral(" data-line=\"%1\"").arg(line));
+    }
+    return result;
+}
+
+QString report_drawings::taken_out(const QString& html, const QString& file)
+{
+    static const QRegularExpression form(QStringLiteral("(<svg[^>]*>).*?</svg>"),
+                                         QRegularExpression::DotMatchesEverythingOption);
+    QString result;
+    qsizetype copied = 0;
+    auto matches = form.globalMatch(html);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const int line = attribute_of(match.captured(1), QStringLiteral("data-line")).toInt();
+        result += QStringView(html).sliced(copied, match.capturedStart() - copied);
+        result += QStringLiteral("<img src=\"%1%2\">").arg(picture_prefix).arg(drawings_.size());
+        drawings_.push_back(read(match.captured(), {file, line}));
+        copied = match.capturedEnd();
+    }
+    return result + QStringView(html).sliced(copied);
+}
+
+report_drawings::drawing report_drawings::read(const QString& svg, const template_place& place) const
+{
+    const QString start_tag = svg.first(svg.indexOf(u'>') + 1);
+    const QSizeF size(length_in_units(attribute_of(start_tag, QStringLiteral("width"))),
+                      length_in_units(attribute_of(start_tag, QStringLiteral("height"))));
+    if (size.isEmpty())
+        fail_template(place, QStringLiteral("a drawing needs a width and a height in mm, pt or px"));
+    const QString error = xml_error(svg);
+    if (!error.isEmpty())
+        fail_template(place, QStringLiteral("a drawing is no SVG: %1").arg(error));
+    auto renderer = std::make_unique<QSvgRenderer>(svg.toUtf8());
+    if (!renderer->isValid())
+        fail_template(place, QStringLiteral("a drawing is no SVG"));
+    return {std::move(renderer), size};
+}
+
+const report_drawings::drawing* report_drawings::drawing_of(const QTextFormat& format) const
+{
+    const QString name = format.toImageFormat().name();
+    bool is_number = false;
+    const auto number =
+        QStringView(name).sliced(qMin(name.size(), picture_prefix.size())).toULong(&is_number);
+    if (!name.startsWith(picture_prefix) || !is_number || number >= drawings_.size())
+        return nullptr;
+    return &drawings_[number];
+}
+
+QSizeF report_drawings::intrinsicSize(QTextDocument*, int, const QTextFormat& format)
+{
+    const drawing* found = drawing_of(format);
+    return found == nullptr ? QSizeF() : found->size;
+}
+
+void report_drawings::drawObject(QPainter* painter, const QRectF& place, QTextDocument*, int,
+                                 const QTextFormat& format)
+{
+    const drawing* found = drawing_of(format);
+    if (found == nullptr)
+        return;
+    painter->save();
+    found->renderer->render(painter, place);
+    painter->restore();
+}
+
+}  // namespace verdane

@@ -1,0 +1,51 @@
+#include "report_files.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+#include "report_document.h"
+#include "run_time_failure.h"
+
+namespace verdane {
+
+QByteArray pdf_of(const report_document& document)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(document.title());
+    writer.setResolution(1200);
+    writer.setPageSize(QPageSize(document.page_size_mm(), QPageSize::Millimeter));
+    writer.setPageMargins(QMarginsF());
+    QPainter painter(&writer);
+    const double dots_per_mm = writer.resolution() / 25.4;
+    painter.scale(dots_per_mm, dots_per_mm);
+    for (int page = 0; page < document.page_count(); ++page) {
+        if (page > 0)
+            writer.newPage();
+        document.paint(painter, page);
+    }
+    painter.end();
+    return buffer.data();
+}
+
+QByteArray png_of(const QImage& image)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+void write_report_file(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return;
+    throw run_time_failure(failure_kind::report_output,
+                           QStringLiteral("%1: %2").arg(path, file.errorString()));
+}
+
+}  // namespace verdane

@@ -1,0 +1,13 @@
+#include "template_failure.h"
+
+#include "run_time_failure.h"
+
+namespace verdane {
+
+void fail_template(const template_place& place, const QString& message)
+{
+    throw run_time_failure(failure_kind::report_template,
+                           QStringLiteral("%1:%2: %3").arg(place.file).arg(place.line).arg(message));
+}
+
+}  // namespace verdane

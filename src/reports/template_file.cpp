@@ -1,0 +1,54 @@
+#include "template_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSizeF>
+
+#include "template_head.h"
+
+namespace verdane {
+
+namespace {
+
+QString read_text(const QString& path, const template_place& place)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        fail_template(place, QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
+    QString text = QString::fromUtf8(file.readAll());
+    return text.remove(u'\r');
+}
+
+}  // namespace
+
+const template_query* template_file::find_query(const QString& name) const
+{
+    for (const template_query& query : queries)
+        if (query.name == name)
+            return &query;
+    return nullptr;
+}
+
+QSizeF template_file::page_size_mm() const
+{
+    const QSizeF upright = QPageSize(paper).size(QPageSize::Millimeter);
+    return landscape ? upright.transposed() : upright;
+}
+
+template_file read_template(const QString& path)
+{
+    template_file result;
+    result.file_name = QFileInfo(path).fileName();
+    const QStringList lines = read_text(path, result.at(1)).split(u'\n');
+    const qsizetype rule = lines.indexOf(QStringLiteral("---"));
+    if (rule < 0)
+        fail_template(result.at(static_cast<int>(lines.size())),
+                      QStringLiteral("no line --- between the head and the body"));
+    read_template_head(result, lines.first(rule));
+    result.body = lines.sliced(rule + 1).join(u'\n');
+    result.body_line = static_cast<int>(rule) + 2;
+    return result;
+}
+
+}  // namespace verdane

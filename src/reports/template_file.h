@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QMarginsF>
+#include <QPageSize>
+#include <QString>
+
+#include <vector>
+
+#include "template_failure.h"
+
+namespace verdane {
+
+/// A named question to the store, as it stands in a template's head.
+struct template_query {
+    QString name;
+    QString sql;
+    int line = 1;
+};
+
+/// A report template as it was read: the head taken apart, the body as it stands.
+struct template_file {
+    QString file_name;
+
+    QPageSize::PageSizeId paper = QPageSize::A4;
+    bool landscape = false;
+    /// Left, top, right, bottom, in millimetres.
+    QMarginsF margins{15, 15, 15, 15};
+
+    QString title;
+    /// Printed below every page; may hold `{{page}}` and `{{pages}}`. Empty for none.
+    QString footer;
+    int footer_line = 1;
+
+    /// The query whose rows a CSV file gets; the first one unless the head names another.
+    QString csv_query;
+    int csv_line = 1;
+    QChar csv_separator{u','};
+
+    std::vector<template_query> queries;
+
+    QString body;
+    int body_line = 1;
+
+    template_place at(int line) const { return {file_name, line}; }
+    const template_query* find_query(const QString& name) const;
+
+    /// Width and height of a whole page as it is printed, in millimetres.
+    QSizeF page_size_mm() const;
+};
+
+/// Reads a template. Fails with `report_template`, naming file and line, when the file cannot be
+/// opened, a line of the head is not understood or the line `---` before the body is missing.
+template_file read_template(const QString& path);
+
+}  // namespace verdane

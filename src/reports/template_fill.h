@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <map>
+
+#include "report_store.h"
+#include "template_file.h"
+
+namespace verdane {
+
+/// The template's body with the store's figures in it, every value escaped. A section of a query
+/// stands once for each row, a section of a field stands when the field holds something other than
+/// nothing and 0. Fails with `report_template`, at the line of the body, on a query, field or
+/// section that does not exist.
+QString fill_body(const template_file& source, const report_snapshot& snapshot);
+
+/// The text below a page. Fails with `report_template` on any field other than `page` and `pages`.
+QString fill_footer(const template_file& source, int page, int pages);
+
+/// A value as it is printed: whole numbers without a point, Null as nothing.
+QString printed_value(const QVariant& value);
+
+}  // namespace verdane

@@ -1,0 +1,154 @@
+#include "template_head.h"
+
+#include <QRegularExpression>
+
+#include <map>
+
+namespace verdane {
+
+namespace {
+
+/// One setting of the head: "word [name] = value", with the lines that go on with it.
+struct head_setting {
+    QString word;
+    QString name;
+    QString value;
+    int line = 1;
+};
+
+using setting_reader = void (*)(template_file&, const head_setting&);
+
+void read_page(template_file& target, const head_setting& setting)
+{
+    static const QRegularExpression form(QStringLiteral("^(A4|A5|Letter)\\s+(landscape|portrait)$"));
+    const QRegularExpressionMatch match = form.match(setting.value);
+    if (!match.hasMatch())
+        fail_template(target.at(setting.line),
+                      QStringLiteral("page is A4, A5 or Letter, then landscape or portrait"));
+    static const std::map<QString, QPageSize::PageSizeId> papers{
+        {QStringLiteral("A4"), QPageSize::A4},
+        {QStringLiteral("A5"), QPageSize::A5},
+        {QStringLiteral("Letter"), QPageSize::Letter}};
+    target.paper = papers.at(match.captured(1));
+    target.landscape = match.captured(2) == QStringLiteral("landscape");
+}
+
+void read_margins(template_file& target, const head_setting& setting)
+{
+    const QStringList parts = setting.value.split(u' ', Qt::SkipEmptyParts);
+    std::vector<double> widths;
+    for (const QString& part : parts) {
+        bool is_number = false;
+        const double width = part.toDouble(&is_number);
+        if (is_number && width >= 0 && width < 100)
+            widths.push_back(width);
+    }
+    if (parts.size() != 4 || widths.size() != 4)
+        fail_template(target.at(setting.line),
+                      QStringLiteral("margins are four numbers in millimetres: top right bottom left"));
+    target.margins = QMarginsF(widths[3], widths[0], widths[1], widths[2]);
+}
+
+void read_title(template_file& target, const head_setting& setting)
+{
+    target.title = setting.value;
+}
+
+void read_footer(template_file& target, const head_setting& setting)
+{
+    target.footer = setting.value;
+    target.footer_line = setting.line;
+}
+
+void read_csv(template_file& target, const head_setting& setting)
+{
+    if (setting.value.isEmpty())
+        fail_template(target.at(setting.line), QStringLiteral("csv names no query"));
+    target.csv_query = setting.value;
+    target.csv_line = setting.line;
+}
+
+void read_csv_separator(template_file& target, const head_setting& setting)
+{
+    if (setting.value != QStringLiteral(",") && setting.value != QStringLiteral(";"))
+        fail_template(target.at(setting.line), QStringLiteral("csv_separator is , or ;"));
+    target.csv_separator = setting.value.front();
+}
+
+void read_query(template_file& target, const head_setting& setting)
+{
+    if (setting.name.isEmpty())
+        fail_template(target.at(setting.line), QStringLiteral("a query needs a name"));
+    if (target.find_query(setting.name) != nullptr)
+        fail_template(target.at(setting.line),
+                      QStringLiteral("there are two queries named %1").arg(setting.name));
+    target.queries.push_back({setting.name, setting.value, setting.line});
+}
+
+setting_reader reader_of(const QString& word)
+{
+    static const std::map<QString, setting_reader> readers{
+        {QStringLiteral("page"), read_page},   {QStringLiteral("margins"), read_margins},
+        {QStringLiteral("title"), read_title}, {QStringLiteral("footer"), read_footer},
+        {QStringLiteral("csv"), read_csv},     {QStringLiteral("csv_separator"), read_csv_separator},
+        {QStringLiteral("query"), read_query},
+    };
+    const auto found = readers.find(word);
+    return found == readers.end() ? nullptr : found->second;
+}
+
+head_setting start_of_setting(const template_file& target, const QString& text, int line)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\w+)(?:\\s+(\\w+))?\\s*=\\s*(.*)$"));
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch())
+        fail_template(target.at(line), QStringLiteral("not a setting: %1").arg(text));
+    return {match.captured(1), match.captured(2), match.captured(3), line};
+}
+
+bool goes_on(const QString& text)
+{
+    return !text.isEmpty() && text.front().isSpace();
+}
+
+std::vector<head_setting> settings_in(const template_file& target, const QStringList& lines)
+{
+    std::vector<head_setting> result;
+    int number = 0;
+    for (const QString& text : lines) {
+        ++number;
+        if (text.trimmed().isEmpty() || text.startsWith(u'#'))
+            continue;
+        if (!goes_on(text))
+            result.push_back(start_of_setting(target, text, number));
+        else if (result.empty())
+            fail_template(target.at(number), QStringLiteral("nothing to go on with: %1").arg(text));
+        else
+            result.back().value += QStringLiteral("\n") + text;
+    }
+    return result;
+}
+
+void check_head(template_file& target)
+{
+    if (target.queries.empty())
+        fail_template(target.at(1), QStringLiteral("the head names no query"));
+    if (target.csv_query.isEmpty())
+        target.csv_query = target.queries.front().name;
+}
+
+}  // namespace
+
+void read_template_head(template_file& target, const QStringList& lines)
+{
+    for (head_setting& setting : settings_in(target, lines)) {
+        const setting_reader read = reader_of(setting.word);
+        if (read == nullptr)
+            fail_template(target.at(setting.line), QStringLiteral("unknown setting %1").arg(setting.word));
+        setting.value = setting.value.trimmed();
+        read(target, setting);
+    }
+    check_head(target);
+}
+
+}  // namespace verdane

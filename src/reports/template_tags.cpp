@@ -1,0 +1,102 @@
+#include "template_tags.h"
+
+#include <QRegularExpression>
+
+namespace verdane {
+
+namespace {
+
+template_tag read_tag(const QString& inside, const template_place& place)
+{
+    static const QRegularExpression form(QStringLiteral("^\\s*([#^/]?)\\s*([A-Za-z_]\\w*)\\s*$"));
+    const QRegularExpressionMatch match = form.match(inside);
+    if (!match.hasMatch())
+        fail_template(place, QStringLiteral("not a field or section: {{%1}}").arg(inside));
+    const QString kind = match.captured(1);
+    return {kind.isEmpty() ? QChar(u' ') : kind.front(), match.captured(2), place.line};
+}
+
+bool is_remark(const QString& inside)
+{
+    return inside.startsWith(u'!');
+}
+
+class tree_builder {
+public:
+    explicit tree_builder(QString file) : file_(std::move(file)) {}
+
+    std::vector<template_node> build(const std::vector<template_tag>& tags)
+    {
+        next_ = tags.begin();
+        end_ = tags.end();
+        std::vector<template_node> result = nodes(nullptr);
+        return result;
+    }
+
+private:
+    std::vector<template_node> nodes(const template_tag* around)
+    {
+        std::vector<template_node> result;
+        while (next_ != end_) {
+            const template_tag& tag = *next_++;
+            if (tag.kind == u'/') {
+                check_end(tag, around);
+                return result;
+            }
+            result.push_back({tag, {}});
+            if (tag.kind != u' ')
+                result.back().children = nodes(&tag);
+        }
+        if (around != nullptr)
+            fail_template({file_, around->line},
+                          QStringLiteral("section %1 is not closed").arg(around->name));
+        return result;
+    }
+
+    void check_end(const template_tag& tag, const template_tag* around) const
+    {
+        if (around == nullptr)
+            fail_template({file_, tag.line},
+                          QStringLiteral("section %1 is closed and was not opened").arg(tag.name));
+        if (around->name != tag.name)
+            fail_template(
+                {file_, tag.line},
+                QStringLiteral("section %1 is closed inside section %2").arg(tag.name, around->name));
+    }
+
+    QString file_;
+    std::vector<template_tag>::const_iterator next_;
+    std::vector<template_tag>::const_iterator end_;
+};
+
+}  // namespace
+
+std::vector<template_tag> find_tags(const QString& text, const template_place& first_line)
+{
+    std::vector<template_tag> result;
+    template_place place = first_line;
+    qsizetype counted = 0;
+    for (qsizetype start = text.indexOf(QStringLiteral("{{")); start >= 0;
+         start = text.indexOf(QStringLiteral("{{"), counted)) {
+        place.line += static_cast<int>(QStringView(text).sliced(counted, start - counted).count(u'\n'));
+        const qsizetype end = text.indexOf(QStringLiteral("}}"), start);
+        if (end < 0)
+            fail_template(place, QStringLiteral("a tag {{ is not closed"));
+        const QString inside = text.sliced(start + 2, end - start - 2);
+        if (!is_remark(inside)) {
+            result.push_back(read_tag(inside, place));
+            result.back().start = start;
+            result.back().length = end + 2 - start;
+        }
+        place.line += static_cast<int>(inside.count(u'\n'));
+        counted = end + 2;
+    }
+    return result;
+}
+
+std::vector<template_node> tag_tree(const std::vector<template_tag>& tags, const template_place& place)
+{
+    return tree_builder(place.file).build(tags);
+}
+
+}  // namespace verdane
