@@ -1,5 +1,6 @@
 #include "hand.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
