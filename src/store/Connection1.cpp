@@ -24,11 +24,21 @@ QString answer(const QSqlDatabase& database, const QString& question)
     return query.value(0).toString();
 }
 
+/// True when a file stands where the folder, or one above it, should be.
+bool file_in_the_way(const QString& folder)
+{
+    QFileInfo nearest(folder);
+    while (!nearest.exists() && !nearest.isRoot())
+        nearest.setFile(nearest.absolutePath());
+    return nearest.exists() && !nearest.isDir();
+}
+
 void make_folder(const QString& path)
 {
     const QString folder = QFileInfo(path).absolutePath();
     if (!QDir().mkpath(folder))
-        throw run_time_failure(failure_kind::store_read_only,
+        throw run_time_failure(file_in_the_way(folder) ? failure_kind::store_unreachable
+                                                       : failure_kind::store_read_only,
                                QStringLiteral("the folder %1 cannot be made").arg(folder));
 }
 

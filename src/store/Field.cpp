@@ -59,8 +59,7 @@ const QVariant& Field::cell_with_value() const
     const QVariant& value = cell();
     if (value.isNull()) {
         const Recordset::rows& rows = *owner_.rows_;
-        rows.fail(failure_kind::invalid_null,
-                  QString(rows.set.columns[static_cast<std::size_t>(ordinal_)].name + u" has no value"));
+        rows.fail(failure_kind::invalid_null, QString(rows.column_name(ordinal_) + u" has no value"));
     }
     return value;
 }
@@ -93,24 +92,30 @@ QString Field::trimmed() const
 
 int16 Field::to_int16() const
 {
-    return count_of(cell_with_value());
+    const QVariant& value = cell_with_value();
+    return owner_.rows_->located(ordinal_, [&value] { return count_of(value); });
 }
 
 int16 Field::int16_or_zero() const
 {
     const QVariant& value = cell();
-    return is_nothing(value) ? int16(0) : count_of(value);
+    if (is_nothing(value))
+        return 0;
+    return owner_.rows_->located(ordinal_, [&value] { return count_of(value); });
 }
 
 int32 Field::to_int32() const
 {
-    return amount_of(cell_with_value());
+    const QVariant& value = cell_with_value();
+    return owner_.rows_->located(ordinal_, [&value] { return amount_of(value); });
 }
 
 int32 Field::int32_or_zero() const
 {
     const QVariant& value = cell();
-    return is_nothing(value) ? int32(0) : amount_of(value);
+    if (is_nothing(value))
+        return 0;
+    return owner_.rows_->located(ordinal_, [&value] { return amount_of(value); });
 }
 
 double Field::to_double() const

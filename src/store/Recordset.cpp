@@ -10,6 +10,15 @@
 /// Opening, walking and finding; editing stands in `recordset_edit.cpp`.
 namespace verdane {
 
+find_criterion Recordset::rows::read_criterion(const QString& criterion) const
+{
+    try {
+        return find_criterion(criterion);
+    } catch (const run_time_failure& failure) {
+        fail(failure.kind(), failure.details());
+    }
+}
+
 Recordset::Recordset(Connection1& connection, recordset_settings settings)
     : rows_(std::make_unique<rows>(connection, std::move(settings)))
 {
@@ -146,7 +155,7 @@ void Recordset::MoveTo(int row)
 void Recordset::Find(const QString& criterion, search_direction direction)
 {
     rows_->commit_on_leaving();
-    const find_criterion wanted(criterion);
+    const find_criterion wanted = rows_->read_criterion(criterion);
     const auto column = static_cast<std::size_t>(Fields(wanted.column()).ordinal());
     const auto& all = rows_->set.rows;
     const auto matches = [&wanted, column](const auto& row) { return wanted.matches(row->cells[column]); };

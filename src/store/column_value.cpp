@@ -18,6 +18,12 @@ double number_of(const QVariant& value)
     }
 }
 
+/// An empty text is a value. The toolkit would hand the engine Null for one that was never filled.
+QString never_null(const QString& text)
+{
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
 QString text_of(const QVariant& value)
 {
     switch (value.typeId()) {
@@ -27,7 +33,7 @@ QString text_of(const QVariant& value)
     case QMetaType::Bool:
         return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
     default:
-        return value.toString();
+        return never_null(value.toString());
     }
 }
 
@@ -58,7 +64,7 @@ QVariant converted(const QVariant& value, column_type type)
     case column_type::any:
         break;
     }
-    return value;
+    return value.typeId() == QMetaType::QString ? QVariant(never_null(value.toString())) : value;
 }
 
 }  // namespace verdane

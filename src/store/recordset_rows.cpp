@@ -160,8 +160,8 @@ void Recordset::rows::write(int ordinal, const QVariant& value)
     recordset_row& row = current();
     const auto at = static_cast<std::size_t>(checked_ordinal(ordinal));
     if (!set.columns[at].stored)
-        fail(failure_kind::misuse, QString(set.columns[at].name + u" is no column of the table"));
-    QVariant stored = converted(value, set.columns[at].type);
+        fail(failure_kind::misuse, QString(column_name(ordinal) + u" is no column of the table"));
+    QVariant stored = located(ordinal, [&] { return converted(value, set.columns[at].type); });
     if (!row.pending)
         row.pending = std::make_unique<pending_edit>();
     auto& before = row.pending->before;

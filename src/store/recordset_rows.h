@@ -1,5 +1,6 @@
 #pragma once
 
+#include "find_criterion.h"
 #include "Recordset.h"
 #include "schema.h"
 #include "select_statement.h"
@@ -88,8 +89,20 @@ struct Recordset::rows {
 
     [[noreturn]] void fail(failure_kind kind, const QString& what) const;
     QString where() const;
+    /// Runs a conversion for a column; its failure then names the recordset and the column too.
+    template <typename Work>
+    auto located(int ordinal, Work work) const
+    {
+        try {
+            return work();
+        } catch (const run_time_failure& failure) {
+            fail(failure.kind(), QString(column_name(ordinal) + u": " + failure.details()));
+        }
+    }
+    QString column_name(int ordinal) const { return set.columns[static_cast<std::size_t>(ordinal)].name; }
     void need_open() const;
     recordset_row& current();
+    find_criterion read_criterion(const QString& criterion) const;
     int checked_ordinal(int ordinal) const;
     void need_updatable() const;
 

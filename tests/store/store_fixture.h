@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <memory>
+
+#include "Connection1.h"
+#include "reader.h"
+#include "Recordset.h"
+
+namespace verdane::testing {
+
+/// A fresh store in a temporary folder with an open connection, and the means to look at it from
+/// outside. One for each test slot.
+class store_fixture {
+public:
+    store_fixture() { connection.Open(path()); }
+
+    QString path() const { return folder_.filePath(QStringLiteral("diary/Verdbase.db")); }
+    reader outside() const { return reader(path()); }
+
+    /// A recordset on a statement, not opened yet.
+    std::unique_ptr<Recordset> recordset(const QString& source, lock_type lock = lock_type::optimistic)
+    {
+        recordset_settings settings;
+        settings.name = QStringLiteral("rstest");
+        settings.source = source;
+        settings.lock = lock;
+        return std::make_unique<Recordset>(connection, settings);
+    }
+
+    /// The same, opened.
+    std::unique_ptr<Recordset> opened(const QString& source, lock_type lock = lock_type::optimistic)
+    {
+        auto made = recordset(source, lock);
+        made->Open();
+        return made;
+    }
+
+    /// Partners of these names, with codes from 1.
+    void add_partners(const QStringList& names)
+    {
+        int code = 0;
+        for (const QString& name : names)
+            connection.Execute(QStringLiteral("insert into partners (NAME, code) values (%1, %2)")
+                                   .arg(quoted(name))
+                                   .arg(++code));
+    }
+
+private:
+    QTemporaryDir folder_;
+
+public:
+    // After the folder, so that it is closed before the folder goes.
+    Connection1 connection;
+};
+
+/// The names of a recordset's rows, joined; walks it from the first row to the end.
+inline QString names_of(Recordset& recordset)
+{
+    QStringList names;
+    if (!recordset.empty())
+        recordset.MoveFirst();
+    while (!recordset.eof()) {
+        names += recordset.Fields(u"NAME").text_or_empty();
+        recordset.MoveNext();
+    }
+    return names.join(u' ');
+}
+
+/// The names that stand in the store, in the order in which they were added.
+inline QString stored_names(const store_fixture& store)
+{
+    QStringList names;
+    for (const auto& row : store.outside().rows(QStringLiteral("select NAME from partners order by rowid")))
+        names += row[0].toString();
+    return names.join(u' ');
+}
+
+/// Every row of every table as text: two equal ones mean that nothing was committed in between.
+inline QString whole_content(const QString& path)
+{
+    const reader outside(path);
+    QString content;
+    const QString tables = QStringLiteral("select name from sqlite_master where type='table' order by name");
+    for (const auto& table : outside.rows(tables)) {
+        content += table[0].toString() + u'\n';
+        for (const auto& row : outside.rows(
+                 QStringLiteral("select rowid, * from `%1` order by rowid").arg(table[0].toString()))) {
+            for (const QVariant& value : row)
+                content += (value.isNull() ? QStringLiteral("NULL") : value.toString()) + u'|';
+            content += u'\n';
+        }
+    }
+    return content;
+}
+
+inline QByteArray bytes_of(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace verdane::testing
