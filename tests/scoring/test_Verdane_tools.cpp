@@ -1,0 +1,206 @@
+#include <QTest>
+
+#include "failures.h"
+#include "language.h"
+#include "Main_module.h"
+#include "Verdane_tools.h"
+
+using namespace verdane;
+using namespace verdane::Verdane_tools;
+using testing::failure_of;
+
+class test_Verdane_tools : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        is_french = true;
+        Main_module::round_keys.clear();
+        Main_module::round_key_count = 0;
+    }
+
+    void a_text_is_padded_on_the_right_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QString>("padded");
+        QTest::newRow("blanks around it") << " ab " << 4 << "ab  ";
+        QTest::newRow("empty") << "" << 3 << "   ";
+        QTest::newRow("exactly the width") << "abcd" << 4 << "abcd";
+        QTest::newRow("longer comes back trimmed") << " abcdef " << 4 << "abcdef";
+        QTest::newRow("blanks that trimming takes below the width") << "ab    " << 4 << "ab  ";
+        QTest::newRow("no width") << " a " << 0 << "a";
+        QTest::newRow("a tab is no blank") << "\ta" << 3 << "\ta ";
+    }
+
+    void a_text_is_padded_on_the_right()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, width);
+        QFETCH(QString, padded);
+        QCOMPARE(pad_right(text, width), padded);
+        QCOMPARE(text, padded);
+    }
+
+    void a_text_is_padded_with_zeros_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QString>("padded");
+        QTest::newRow("one digit") << "5" << 2 << "05";
+        QTest::newRow("empty") << "" << 2 << "00";
+        QTest::newRow("blanks") << "  " << 2 << "00";
+        QTest::newRow("three digits") << "123" << 2 << "123";
+        QTest::newRow("blanks around") << " 7 " << 2 << "07";
+        QTest::newRow("the width") << "12" << 2 << "12";
+    }
+
+    void a_text_is_padded_with_zeros()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, width);
+        QFETCH(QString, padded);
+        QCOMPARE(pad_zero(text, width), padded);
+        QCOMPARE(text, padded);
+    }
+
+    void a_tee_has_a_name_in_each_language_data()
+    {
+        QTest::addColumn<QString>("digit");
+        QTest::addColumn<QString>("french");
+        QTest::addColumn<QString>("english");
+        QTest::newRow("0") << "0"
+                           << "BLANC"
+                           << "White";
+        QTest::newRow("1") << "1"
+                           << "BLEU"
+                           << "Blue";
+        QTest::newRow("2") << "2"
+                           << "ROUGE"
+                           << "Red";
+        QTest::newRow("3") << "3"
+                           << "OR"
+                           << "Gold";
+        QTest::newRow("4") << "4"
+                           << "Bronze"
+                           << "Bronze";
+        QTest::newRow("5") << "5"
+                           << "Jaune"
+                           << "Yellow";
+        QTest::newRow("6") << "6"
+                           << "Vert"
+                           << "Green";
+        QTest::newRow("7") << "7"
+                           << "Noir"
+                           << "Black";
+        QTest::newRow("blanks around") << " 6 "
+                                       << "Vert"
+                                       << "Green";
+        QTest::newRow("8") << "8"
+                           << ""
+                           << "";
+        QTest::newRow("empty") << ""
+                               << ""
+                               << "";
+        QTest::newRow("a letter") << "A"
+                                  << ""
+                                  << "";
+        QTest::newRow("two digits") << "07"
+                                    << ""
+                                    << "";
+        QTest::newRow("minus") << "-1"
+                               << ""
+                               << "";
+    }
+
+    void a_tee_has_a_name_in_each_language()
+    {
+        QFETCH(QString, digit);
+        QFETCH(QString, french);
+        QFETCH(QString, english);
+        QCOMPARE(tee_name(digit), french);
+        is_french = false;
+        QCOMPARE(tee_name(digit), english);
+    }
+
+    void a_key_is_free_until_a_round_has_it()
+    {
+        const QString key = QStringLiteral("20030614093000");
+        QVERIFY(key_free(key));
+        Main_module::append_round_key(QStringLiteral("20030614093001"));
+        QVERIFY(key_free(key));
+        Main_module::append_round_key(key);
+        Main_module::append_round_key(QStringLiteral("20030614093002"));
+        QVERIFY(!key_free(key));
+        QVERIFY(!key_free(QStringLiteral(" 20030614093000 ")));
+    }
+
+    void the_place_behind_the_last_key_is_looked_at_too()
+    {
+        QVERIFY(!key_free(u""));
+        Main_module::round_keys[0] = QStringLiteral("20030614093000");
+        QVERIFY(!key_free(u"20030614093000"));
+        Main_module::round_keys[0].clear();
+        Main_module::round_keys[1] = QStringLiteral("20030614093000");
+        QVERIFY(key_free(u"20030614093000"));
+    }
+
+    void a_full_list_fails_whether_the_key_is_there_or_not()
+    {
+        for (int i = 0; i < 365; ++i)
+            Main_module::append_round_key(QString::number(i));
+        QVERIFY(key_free(u"20030614093000"));
+        Main_module::append_round_key(QStringLiteral("last"));
+        QVERIFY(failure_of([] { key_free(u"20030614093000"); }) == failure_kind::subscript);
+        QVERIFY(failure_of([] { key_free(u"0"); }) == failure_kind::subscript);
+    }
+
+    void two_names_make_a_number_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<int>("number");
+        QTest::newRow("nothing") << ""
+                                 << "" << 0;
+        QTest::newRow("small letters") << "ab"
+                                       << "" << 65 + 66 + 2 + 2;
+        QTest::newRow("capitals and blanks") << "AB "
+                                             << " " << 65 + 66 + 2 + 2;
+        QTest::newRow("two names") << "ab"
+                                   << "c" << 65 + 66 + 67 + 3 + 2 + 1;
+        QTest::newRow("the same letters in another order") << "c"
+                                                           << "ba" << 65 + 66 + 67 + 3 + 1 + 2;
+        QTest::newRow("a blank inside counts") << "a b"
+                                               << "" << 65 + 32 + 66 + 3 + 3;
+        QTest::newRow("accent") << QStringLiteral("é") << "" << 0xC9 + 2;
+        QTest::newRow("middle of the code page") << QStringLiteral("œ") << "" << 0x8C + 2;
+        QTest::newRow("capital from the middle") << QStringLiteral("ÿ") << "" << 0x9F + 2;
+        QTest::newRow("euro") << QStringLiteral("€") << "" << 0x80 + 2;
+        QTest::newRow("no single capital") << QStringLiteral("ß") << "" << 0xDF + 2;
+        QTest::newRow("micro sign") << QStringLiteral("µ") << "" << 0xB5 + 2;
+        QTest::newRow("hard space") << QStringLiteral("\u00A0") << "" << 0xA0 + 2;
+        QTest::newRow("last of the code page") << QStringLiteral("þ") << "" << 0xDE + 2;
+        QTest::newRow("not in the code page") << QStringLiteral("Ω") << "" << '?' + 2;
+    }
+
+    void two_names_make_a_number()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        QFETCH(int, number);
+        QCOMPARE(plain(name_checksum(first, second)), number);
+    }
+
+    void both_names_are_left_trimmed_and_in_capitals()
+    {
+        QString first = QStringLiteral(" Côté ");
+        QString second = QStringLiteral("Éric ");
+        name_checksum(first, second);
+        QCOMPARE(first, QStringLiteral("CÔTÉ"));
+        QCOMPARE(second, QStringLiteral("ÉRIC"));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_Verdane_tools)
+#include "test_Verdane_tools.moc"

@@ -1,0 +1,218 @@
+#include <QTest>
+
+#include "failures.h"
+#include "hole_classes.h"
+#include "numbers.h"
+
+using namespace verdane;
+using testing::failure_of;
+
+namespace {
+
+/// A hole from the window's point of view: strokes and penalties without their kinds.
+hole_figures played(int long_shots, int approach, int putts, int penalties = 0)
+{
+    return {long_shots, approach, putts, 0, penalties, 0, 0};
+}
+
+/// The classes whose cell is "1", as "1 6 14".
+QString members(const hole_figures& f, int16 par)
+{
+    QStringList found;
+    for (const selector_row& row : panel_selectors) {
+        if (hole_cell(row.selector, f, par) == QStringLiteral("1"))
+            found += QString::number(row.selector);
+    }
+    return found.join(u' ');
+}
+
+}  // namespace
+
+class test_hole_classes : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_hole_belongs_to_its_classes_data()
+    {
+        QTest::addColumn<int>("par");
+        QTest::addColumn<int>("long_shots");
+        QTest::addColumn<int>("approach");
+        QTest::addColumn<int>("putts");
+        QTest::addColumn<int>("penalties");
+        QTest::addColumn<QString>("classes");
+        QTest::newRow("par 4 in regulation, two putts") << 4 << 1 << 1 << 2 << 0 << "1 13 25 27";
+        QTest::newRow("par 4, a drive to the green") << 4 << 1 << 0 << 2 << 0 << "6 8 21";
+        QTest::newRow("par 4, two long and a penalty") << 4 << 2 << 0 << 2 << 1 << "6 8 22";
+        QTest::newRow("par 3, hole in one") << 3 << 1 << 0 << 0 << 0 << "11 15 18 20 25";
+        QTest::newRow("par 4, hole in one") << 4 << 1 << 0 << 0 << 0 << "6 11 16 18 19";
+        QTest::newRow("par 5, five with one putt") << 5 << 3 << 1 << 1 << 0 << "1 6 7 10 14";
+        QTest::newRow("par 5, eagle") << 5 << 1 << 1 << 1 << 0 << "6 7 20";
+        QTest::newRow("par 4, up and down") << 4 << 2 << 1 << 1 << 0 << "1 6 7 10 13";
+        QTest::newRow("par 4, a water penalty, no putt") << 4 << 1 << 1 << 0 << 1 << "6 11 21";
+        QTest::newRow("par 4, birdie") << 4 << 1 << 1 << 1 << 0 << "21 25 26";
+        QTest::newRow("par 3, two putts") << 3 << 1 << 0 << 2 << 0 << "1 12 25 27";
+        QTest::newRow("par 5, double") << 5 << 3 << 1 << 3 << 0 << "6 9 23";
+        QTest::newRow("par 4, three putts in regulation") << 4 << 1 << 1 << 3 << 0 << "22 25 28";
+        QTest::newRow("par 4, four putts in regulation") << 4 << 1 << 1 << 4 << 0 << "23 25 28";
+        QTest::newRow("par 4, triple") << 4 << 2 << 2 << 3 << 0 << "6 9 24";
+        QTest::newRow("par 3, far above") << 3 << 5 << 2 << 3 << 2 << "6 9 24";
+        QTest::newRow("par made with three putts") << 4 << 1 << 0 << 3 << 0 << "1 6 9 10 13";
+        QTest::newRow("penalties alone") << 4 << 0 << 0 << 0 << 2 << "20 25";
+        QTest::newRow("not played, par 4") << 4 << 0 << 0 << 0 << 0 << "";
+        QTest::newRow("not played, par 0") << 0 << 0 << 0 << 0 << 0 << "1";
+        QTest::newRow("not played, par 2") << 2 << 0 << 0 << 0 << 0 << "25";
+        QTest::newRow("par 0, one putt") << 0 << 0 << 0 << 1 << 0 << "6 7 18 22";
+    }
+
+    void a_hole_belongs_to_its_classes()
+    {
+        QFETCH(int, par);
+        QFETCH(int, long_shots);
+        QFETCH(int, approach);
+        QFETCH(int, putts);
+        QFETCH(int, penalties);
+        QTEST(members(played(long_shots, approach, putts, penalties), par), "classes");
+    }
+
+    void a_cell_that_is_no_member_is_one_blank()
+    {
+        const hole_figures unplayed = played(0, 0, 0);
+        for (const selector_row& row : panel_selectors)
+            QCOMPARE(hole_cell(row.selector, unplayed, 4), QStringLiteral(" "));
+    }
+
+    void the_par_3_cell_stays_empty_below_par_3()
+    {
+        for (const int par : {0, 1, 2})
+            QCOMPARE(hole_cell(12, played(1, 0, 2), par), QString());
+        QCOMPARE(hole_cell(12, played(1, 0, 2), 3), QStringLiteral("1"));
+        QCOMPARE(hole_cell(12, played(1, 0, 1), 3), QStringLiteral(" "));
+        QCOMPARE(hole_cell(12, played(1, 0, 2), 4), QStringLiteral(" "));
+        QCOMPARE(hole_cell(13, played(1, 0, 2), 2), QStringLiteral(" "));
+    }
+
+    void a_class_that_does_not_exist_is_empty_data()
+    {
+        QTest::addColumn<int>("selector");
+        for (const int selector : {-1, 0, 2, 3, 4, 5, 29, 100})
+            QTest::addRow("%d", selector) << selector;
+    }
+
+    void a_class_that_does_not_exist_is_empty()
+    {
+        QFETCH(int, selector);
+        QCOMPARE(hole_cell(selector, played(1, 1, 2), 4), QString());
+        QCOMPARE(plain(hole_cell_value(selector, played(1, 1, 2), 4)), 0);
+    }
+
+    void an_average_holds_the_gross_of_its_par_data()
+    {
+        QTest::addColumn<int>("par");
+        QTest::addColumn<int>("gross");
+        QTest::addColumn<QString>("par3");
+        QTest::addColumn<QString>("par4");
+        QTest::addColumn<QString>("par5");
+        QTest::newRow("par 3") << 3 << 4 << "4"
+                               << " "
+                               << " ";
+        QTest::newRow("par 4") << 4 << 12 << " "
+                               << "12"
+                               << " ";
+        QTest::newRow("par 5") << 5 << 1 << " "
+                               << " "
+                               << "1";
+        QTest::newRow("par 6") << 6 << 6 << " "
+                               << " "
+                               << " ";
+        QTest::newRow("not played") << 4 << 0 << " "
+                                    << " "
+                                    << " ";
+    }
+
+    void an_average_holds_the_gross_of_its_par()
+    {
+        QFETCH(int, par);
+        QFETCH(int, gross);
+        const hole_figures f = played(gross, 0, 0);
+        QTEST(hole_cell(15, f, par), "par3");
+        QTEST(hole_cell(16, f, par), "par4");
+        QTEST(hole_cell(17, f, par), "par5");
+    }
+
+    void a_putt_test_lets_an_unplayed_hole_through()
+    {
+        // Strokes that cancel out: the gross is 0, so only the putts are looked at.
+        const hole_figures cancelled = played(-1, 0, 1);
+        QCOMPARE(hole_cell(26, cancelled, 4), QStringLiteral("1"));
+        QCOMPARE(hole_cell(27, cancelled, 4), QStringLiteral(" "));
+    }
+
+    void the_panel_asks_for_1_then_6_to_28()
+    {
+        QCOMPARE(panel_selectors.front().selector, 1);
+        for (int i = 1; i < class_count; ++i)
+            QCOMPARE(panel_selectors[static_cast<std::size_t>(i)].selector, i + 5);
+    }
+
+    void every_class_has_a_box_of_its_own_from_12_to_35()
+    {
+        QSet<int> boxes;
+        for (const selector_row& row : panel_selectors)
+            boxes.insert(row.box);
+        QCOMPARE(boxes.size(), class_count);
+        for (int box = 12; box <= 35; ++box)
+            QVERIFY(boxes.contains(box));
+    }
+
+    void boxes_and_labels_stand_where_they_belong_data()
+    {
+        QTest::addColumn<int>("selector");
+        QTest::addColumn<int>("box");
+        QTest::addColumn<QString>("french");
+        QTest::addColumn<QString>("english");
+        QTest::newRow("pars") << 1 << 20 << "Nombre de normales :"
+                              << "Number of Par :";
+        QTest::newRow("a slip in blanks") << 9 << 12 << QStringLiteral("3 roulés et +  non réglementaire :")
+                                          << "3+ Putts not in regulation :";
+        QTest::newRow("no colon") << 12 << 21 << "Nombre de normale  3 :"
+                                  << "Number of Par 3";
+        QTest::newRow("curled quote") << 18 << 27 << QStringLiteral("Trous d’un coup :") << "Hole in One :";
+        QTest::newRow("eagle") << 20 << 25 << "Aigles :"
+                               << "Eagle";
+        QTest::newRow("triple") << 24 << 33 << "Triples et  +  :"
+                                << "Triple+  :";
+        QTest::newRow("last") << 28 << 16 << QStringLiteral("3 roulés  et + réglementaires :")
+                              << "3+ Putts in Regulation :";
+    }
+
+    void boxes_and_labels_stand_where_they_belong()
+    {
+        QFETCH(int, selector);
+        const auto row = std::find_if(panel_selectors.begin(), panel_selectors.end(),
+                                      [=](const selector_row& r) { return r.selector == selector; });
+        QVERIFY(row != panel_selectors.end());
+        QTEST(row->box, "box");
+        QTEST(row->label.in(true), "french");
+        QTEST(row->label.in(false), "english");
+    }
+
+    void the_statistics_bring_the_greens_in_regulation_up_front()
+    {
+        const QList<int> order = {1,  25, 26, 27, 28, 6,  7,  8,  9,  10, 11, 12,
+                                  13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
+        for (int i = 1; i <= class_count; ++i)
+            QCOMPARE(summary_selector(i), order[i - 1]);
+        QVERIFY(failure_of([] { summary_selector(0); }) == failure_kind::subscript);
+        QVERIFY(failure_of([] { summary_selector(25); }) == failure_kind::subscript);
+    }
+
+    void an_overflow_in_a_cell_is_a_failure()
+    {
+        QVERIFY(failure_of([] { hole_cell(1, played(32767, 1, 0), 4); }) == failure_kind::overflow);
+        QVERIFY(failure_of([] { hole_cell(11, played(32767, 1, 0), 4); }) == failure_kind::overflow);
+        QVERIFY(failure_of([] { hole_cell_value(15, played(32767, 0, 1), 3); }) == failure_kind::overflow);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_hole_classes)
+#include "test_hole_classes.moc"

@@ -1,0 +1,89 @@
+#include <QTest>
+
+#include "failures.h"
+#include "round_arithmetic.h"
+#include "Round_functions.h"
+
+using namespace verdane;
+using testing::failure_of;
+
+class test_round_arithmetic : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_round_has_a_differential_and_labels_data()
+    {
+        QTest::addColumn<int>("gross");
+        QTest::addColumn<int>("par");
+        QTest::addColumn<double>("rating");
+        QTest::addColumn<double>("slope");
+        QTest::addColumn<double>("wanted");
+        QTest::addColumn<QStringList>("labels");
+        const auto labels = [](const char* hand, const char* brut, const char* net, const char* plus) {
+            return QStringList{QLatin1String(hand), QLatin1String(brut), QLatin1String(net),
+                               QLatin1String(plus)};
+        };
+        QTest::newRow("above the rating")
+            << 90 << 72 << 70.5 << 130.0 << 16.95 << labels("16.95", "90", "74", "18");
+        QTest::newRow("below the rating")
+            << 60 << 72 << 70.0 << 113.0 << -10.0 << labels("-10", "60", "70", "-12");
+        QTest::newRow("no slope") << 90 << 72 << 70.5 << 0.0 << 0.0 << labels("0", "90", "90", "18");
+        QTest::newRow("whole part downwards")
+            << 70 << 70 << 71.2 << 113.0 << (70 - 71.2) << labels("-1.2", "70", "72", "0");
+        QTest::newRow("five characters only")
+            << 85 << 71 << 70.1 << 121.0 << 14.9 * 113 / 121 << labels("13.91", "85", "72", "14");
+        QTest::newRow("five characters with a minus")
+            << 60 << 72 << 70.0 << 121.0 << -10.0 * 113 / 121 << labels("-9.33", "60", "70", "-12");
+        QTest::newRow("six digits before the point")
+            << 2000 << 72 << 0.7 << 1.0 << 1999.3 * 113 << labels("22592", "2000", "-223920", "1928");
+        QTest::newRow("below one") << 71 << 71 << 70.5 << 113.0 << 0.5 << labels("0.5", "71", "71", "0");
+        QTest::newRow("not played") << 0 << 72 << 70.0 << 113.0 << -70.0 << labels("-70", "0", "70", "-72");
+    }
+
+    void a_round_has_a_differential_and_labels()
+    {
+        QFETCH(int, gross);
+        QFETCH(int, par);
+        QFETCH(double, rating);
+        QFETCH(double, slope);
+        QFETCH(double, wanted);
+        const double d = differential(gross, rating, slope);
+        QCOMPARE(d, wanted);
+        const auto shown = Round_functions::labels_of({{gross, par}, d});
+        QTEST((QStringList{shown.l_hand, shown.l_brut, shown.l_net, shown.l_plus}), "labels");
+    }
+
+    void the_net_score_takes_the_whole_part_downwards()
+    {
+        QCOMPARE(net_score(80, -1.2), 82.0);
+        QCOMPARE(net_score(80, 1.9), 79.0);
+        QCOMPARE(net_score(80, 2.0), 78.0);
+        QCOMPARE(net_score(80, -2.0), 82.0);
+    }
+
+    void totals_add_up_hole_by_hole()
+    {
+        round_totals totals;
+        totals.add_hole(5, 4);
+        totals.add_hole(0, 3);
+        totals.add_hole(4, 5);
+        QCOMPARE(plain(totals.gross), 9);
+        QCOMPARE(plain(totals.par), 12);
+        QCOMPARE(plain(totals.over_par()), -3);
+    }
+
+    void a_total_beyond_16_bits_is_an_overflow()
+    {
+        round_totals strokes;
+        strokes.add_hole(32767, 4);
+        QVERIFY(failure_of([&] { strokes.add_hole(1, 4); }) == failure_kind::overflow);
+        round_totals pars;
+        pars.add_hole(4, 32767);
+        QVERIFY(failure_of([&] { pars.add_hole(4, 1); }) == failure_kind::overflow);
+        round_totals apart{32767, -1};
+        QVERIFY(failure_of([&] { apart.over_par(); }) == failure_kind::overflow);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_round_arithmetic)
+#include "test_round_arithmetic.moc"
