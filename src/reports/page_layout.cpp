@@ -14,10 +14,11 @@ namespace {
 const QColor footer_grey(0x70, 0x70, 0x70);
 
 /// The hinting of a screen would bend the letters' widths.
-QFont report_font(double points)
+QFont report_font(const template_file& source)
 {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(qRound(points * units_per_pt));
+    QFont font;
+    font.setFamilies(source.font_families);
+    font.setPixelSize(qRound(source.font_points * units_per_pt));
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -25,13 +26,14 @@ QFont report_font(double points)
 }  // namespace
 
 page_layout::page_layout(const template_file& source, const QString& html)
-    : paper_(QPointF(0, 0), source.page_size_mm() * units_per_mm),
+    : font_(report_font(source)),
+      paper_(QPointF(0, 0), source.page_size_mm() * units_per_mm),
       inside_(paper_.marginsRemoved(source.margins * units_per_mm)),
       document_(std::make_unique<QTextDocument>())
 {
     document_->setUndoRedoEnabled(false);
     document_->setDocumentMargin(0);
-    document_->setDefaultFont(report_font(9));
+    document_->setDefaultFont(font_);
     document_->setUseDesignMetrics(true);
     document_->documentLayout()->registerHandler(QTextFormat::ImageObject, &drawings_);
     document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
@@ -62,7 +64,7 @@ void page_layout::paint(QPainter& painter, int page, const QString& footer) cons
 void page_layout::paint_footer(QPainter& painter, const QString& footer) const
 {
     painter.save();
-    painter.setFont(report_font(7));
+    painter.setFont(font_);
     painter.setPen(footer_grey);
     const QRectF below(inside_.left(), inside_.bottom(), inside_.width(), paper_.bottom() - inside_.bottom());
     painter.drawText(below, Qt::AlignRight | Qt::AlignVCenter, footer);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QRectF>
 #include <QString>
 
@@ -29,6 +30,7 @@ public:
 private:
     void paint_footer(QPainter& painter, const QString& footer) const;
 
+    QFont font_;
     QRectF paper_;
     QRectF inside_;
     report_drawings drawings_;

@@ -3,6 +3,7 @@
 #include <QMarginsF>
 #include <QPageSize>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -25,6 +26,10 @@ struct template_file {
     bool landscape = false;
     /// Left, top, right, bottom, in millimetres.
     QMarginsF margins{15, 15, 15, 15};
+
+    /// The letters of the page: the first of these families that the machine has, in points.
+    QStringList font_families{QStringLiteral("DejaVu Sans")};
+    double font_points = 9;
 
     QString title;
     /// Printed below every page; may hold `{{page}}` and `{{pages}}`. Empty for none.

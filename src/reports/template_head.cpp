@@ -49,6 +49,19 @@ void read_margins(template_file& target, const head_setting& setting)
     target.margins = QMarginsF(widths[3], widths[0], widths[1], widths[2]);
 }
 
+void read_font(template_file& target, const head_setting& setting)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\d+(?:\\.\\d+)?)pt\\s+(\\S.*)$"));
+    const QRegularExpressionMatch match = form.match(setting.value);
+    if (!match.hasMatch())
+        fail_template(target.at(setting.line),
+                      QStringLiteral("font is a size in pt, then families with commas between them"));
+    target.font_points = match.captured(1).toDouble();
+    target.font_families.clear();
+    for (const QString& family : match.captured(2).split(u','))
+        target.font_families.append(family.trimmed());
+}
+
 void read_title(template_file& target, const head_setting& setting)
 {
     target.title = setting.value;
@@ -91,7 +104,7 @@ setting_reader reader_of(const QString& word)
         {QStringLiteral("page"), read_page},   {QStringLiteral("margins"), read_margins},
         {QStringLiteral("title"), read_title}, {QStringLiteral("footer"), read_footer},
         {QStringLiteral("csv"), read_csv},     {QStringLiteral("csv_separator"), read_csv_separator},
-        {QStringLiteral("query"), read_query},
+        {QStringLiteral("query"), read_query}, {QStringLiteral("font"), read_font},
     };
     const auto found = readers.find(word);
     return found == readers.end() ? nullptr : found->second;
