@@ -1,0 +1,34 @@
+#include "course_keys.h"
+
+#include "Recordset.h"
+
+namespace verdane {
+
+checked_array<course_key, most_courses> course_keys;
+
+void keep_course_key(int index, Recordset& rsvrd_fields)
+{
+    course_keys[index] = {rsvrd_fields.Fields(u"name_tee").trimmed(), rsvrd_fields.Fields(u"code").trimmed()};
+}
+
+void rebuild_course_keys(Recordset& rsvrd_fields)
+{
+    course_keys.clear();
+    if (rsvrd_fields.empty())
+        return;
+    rsvrd_fields.MoveFirst();
+    for (int index = 0; !rsvrd_fields.eof(); ++index) {
+        keep_course_key(index, rsvrd_fields);
+        rsvrd_fields.MoveNext();
+    }
+}
+
+void remember_new_course(Recordset& rsvrd_fields)
+{
+    for (int index = 0; index < most_courses; ++index) {
+        if (course_keys[index].code.isEmpty())
+            return keep_course_key(index, rsvrd_fields);
+    }
+}
+
+}  // namespace verdane

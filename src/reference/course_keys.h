@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include "checked_array.h"
+
+namespace verdane {
+
+class Recordset;
+
+/// A course and tee as the editor's duplicate test sees it: both trimmed.
+struct course_key {
+    QString name_tee;
+    QString code;
+};
+
+/// As many courses and tees as the course list can show.
+constexpr int most_courses = 51;
+
+/// The courses of the store in table order, filled by the course list and read by the editor's save.
+/// An entry that is not in use is empty.
+extern checked_array<course_key, most_courses> course_keys;
+
+/// Keeps the current row of `rsvrd_fields` at an index. Fails with `subscript` beyond the table.
+void keep_course_key(int index, Recordset& rsvrd_fields);
+
+/// Empties the table and keeps every row. The recordset then stands at `eof()`.
+void rebuild_course_keys(Recordset& rsvrd_fields);
+
+/// Keeps the current row, a course that was just added, at the first free index. The list that shows
+/// no more than the table holds has the last word on a full one: nothing happens then.
+void remember_new_course(Recordset& rsvrd_fields);
+
+}  // namespace verdane

@@ -1,0 +1,180 @@
+#include "f_c_list_func.h"
+
+#include <QListWidget>
+
+#include "boxes.h"
+#include "course_keys.h"
+#include "DataEnvironment1.h"
+#include "f_c_list.h"
+#include "f_courses.h"
+#include "main_frame.h"
+#include "Verdane_tools.h"
+
+namespace verdane::f_c_list_func {
+
+namespace {
+
+Recordset& courses()
+{
+    return data_environment().rsvrd_fields;
+}
+
+Recordset& holes()
+{
+    return data_environment().rsfield_info;
+}
+
+QString list_line()
+{
+    const QString code = courses().Fields(u"code").trimmed();
+    return courses().Fields(u"name").trimmed() + u", " + Verdane_tools::tee_name(code.right(1));
+}
+
+/// A course that was added since the list was filled has no line, so rows do not mean that a line is
+/// selected: with none there is nothing to open or to remove.
+bool has_selection(const f_c_list& window)
+{
+    return !courses().empty() && window.List1->currentRow() >= 0;
+}
+
+void move_to_selected(const f_c_list& window)
+{
+    courses().MoveFirst();
+    courses().Move(window.List1->currentRow());
+}
+
+void open_selected(f_c_list& window)
+{
+    if (!has_selection(window))
+        return;
+    move_to_selected(window);
+    holes().MoveFirst();
+    holes().Find(u"FIELD_CODE =" + quoted(courses().Fields(u"code").trimmed()));
+    if (courses().bof() || courses().eof())
+        tell(QStringLiteral("Fatal error : F not found"));
+    f_courses editor(false);
+    editor.show_modal();
+}
+
+void add_course()
+{
+    courses().AddNew();
+    holes().AddNew();
+    f_courses editor(true);
+    editor.show_modal();
+    // The list stays as it is until it is opened again, but the next course that is added must not
+    // take the code of this one.
+    if (editor.saveSucceed && !courses().eof())
+        remember_new_course(courses());
+}
+
+void tell_in_use(const f_c_list& window, const QString& key)
+{
+    tell(window.caption(
+             u"Verdane ne peut pas supprimer ce terrain. La ronde ",
+             u"Verdane could not remove this golf course because it is associated with the round ") +
+         key + window.caption(u" l'utilise.", u" already in use"));
+}
+
+void delete_from_store(const QString& code)
+{
+    Connection1& connection = data_environment().connection;
+    connection.Execute(u"Delete from vrd_fields where code = " + quoted(code));
+    connection.Execute(u"Delete from FIELD_INFO where FIELD_CODE = " + quoted(code));
+}
+
+/// Lines and rows keep the same place only when the rows are read again.
+void reread_rows()
+{
+    courses().Requery();
+    holes().Requery();
+    rebuild_course_keys(courses());
+}
+
+void remove_line(f_c_list& window)
+{
+    delete window.List1->takeItem(window.List1->currentRow());
+    if (window.List1->count() > 0)
+        window.List1->setCurrentRow(0);
+}
+
+void ask_and_remove(f_c_list& window, const QString& code)
+{
+    const QString question =
+        window.caption(u"Voulez vous supprimer le terrain : ", u"Do you want to remove the golf course : ");
+    if (!ask_yes_no(question + window.List1->currentItem()->text()))
+        return;
+    delete_from_store(code);
+    reread_rows();
+    remove_line(window);
+    tell(window.caption(u"Terrain supprimé.", u"Golf course removed."), QMessageBox::Information);
+}
+
+void remove_selected(f_c_list& window)
+{
+    if (!has_selection(window))
+        return;
+    move_to_selected(window);
+    const QString code = courses().Fields(u"code").text();
+    Recordset& rsgames = data_environment().rsgames;
+    rsgames.Open();
+    rsgames.Find(u"CODEF =" + quoted(code));
+    if (rsgames.eof())
+        ask_and_remove(window, code);
+    else
+        tell_in_use(window, Verdane_tools::key_text(rsgames.Fields(0).trimmed()));
+    rsgames.Close();
+}
+
+}  // namespace
+
+void load(f_c_list& window)
+{
+    current_form = &window;
+    Place_and_lock(window);
+    course_keys.clear();
+    holes().Open();
+    courses().Open();
+    if (courses().empty())
+        return;
+    courses().MoveFirst();
+    for (int index = 0; !courses().eof(); ++index) {
+        window.List1->addItem(list_line());
+        keep_course_key(index, courses());
+        courses().MoveNext();
+    }
+    window.List1->setCurrentRow(0);
+    courses().MoveFirst();
+}
+
+void command(f_c_list& window, int index)
+{
+    switch (index) {
+    case 0:
+        return open_selected(window);
+    case 1:
+        return add_course();
+    case 2:
+        return close(window);
+    case 3:
+        return remove_selected(window);
+    default:
+        return;
+    }
+}
+
+void close(f_c_list& window)
+{
+    Unlock_menu();
+    window.unload();
+}
+
+void unload()
+{
+    courses().Close();
+    holes().Close();
+    // The title bar's close box comes here without passing through `close`.
+    Unlock_menu();
+}
+
+}  // namespace verdane::f_c_list_func

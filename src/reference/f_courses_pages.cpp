@@ -1,0 +1,223 @@
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "f_courses.h"
+#include "f_courses_boxes.h"
+#include "look.h"
+
+/// How the course editor is laid out: three pages under a row of tabs, and a foot with the totals and
+/// the buttons.
+namespace verdane {
+
+namespace {
+
+using namespace f_courses_func;
+
+/// As many characters as entering a box selects: a length that the store could not take by far cannot
+/// be typed. The largest that it takes is 32767.
+constexpr int hole_box_characters = 5;
+constexpr int figure_characters = 6;
+/// The longest name that the round window can show.
+constexpr int name_characters = 195;
+constexpr int address_characters = 255;
+
+constexpr int left_margin = 3 * rhythm;
+constexpr int column_gap = 4 * rhythm;
+constexpr int heading_row = 0;
+constexpr int line_row = 1;
+constexpr int first_hole_row = 2;
+enum hole_column { hole_number, verge, hnd, normal };
+
+QLineEdit* make_hole_box(const QString& accessible_name)
+{
+    QLineEdit* box = make_number_box(hole_box_characters);
+    box->setMaxLength(hole_box_characters);
+    box->setText(QStringLiteral("0"));
+    box->setAccessibleName(accessible_name);
+    return box;
+}
+
+QWidget* make_accent_line()
+{
+    auto* line = new QWidget;
+    line->setFixedHeight(2);
+    line->setAutoFillBackground(true);
+    QPalette palette = line->palette();
+    palette.setColor(QPalette::Window, accent_green());
+    line->setPalette(palette);
+    return line;
+}
+
+void make_bold(QLabel& label)
+{
+    QFont font = label.font();
+    font.setBold(true);
+    label.setFont(font);
+}
+
+QGridLayout* make_grid(QFrame& page, int gap)
+{
+    auto* grid = new QGridLayout(&page);
+    grid->setContentsMargins(0, 2 * rhythm, 0, rhythm);
+    grid->setHorizontalSpacing(gap);
+    grid->setVerticalSpacing(rhythm);
+    return grid;
+}
+
+}  // namespace
+
+void f_courses::lay_out()
+{
+    make_tabs();
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(left_margin, 2 * rhythm, left_margin, 2 * rhythm);
+    rows->setSpacing(rhythm);
+    rows->addWidget(TabStrip1);
+    rows->addLayout(make_pages(), 1);
+    rows->addLayout(make_foot());
+}
+
+void f_courses::make_tabs()
+{
+    TabStrip1->addTab(caption(u"Information générale", u"General Information"));
+    TabStrip1->addTab(caption(u"Aller", u"Front Nine"));
+    TabStrip1->addTab(caption(u"Retour", u"Back Nine"));
+}
+
+QLayout* f_courses::make_pages()
+{
+    auto* place = new QGridLayout;
+    for (QFrame* page : {make_general_page(), make_hole_page(2, 0), make_hole_page(3, front_hole_count)})
+        place->addWidget(page, 0, 0);
+    frm(2).hide();
+    frm(3).hide();
+    return place;
+}
+
+QFrame* f_courses::make_page(int page)
+{
+    QFrame* frame = frm.add(page, new QFrame);
+    frame->setFrameShape(QFrame::NoFrame);
+    // The window has room for its largest page, whichever is shown.
+    QSizePolicy policy = frame->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    frame->setSizePolicy(policy);
+    return frame;
+}
+
+QFrame* f_courses::make_general_page()
+{
+    QFrame* page = make_page(1);
+    QGridLayout* grid = make_grid(*page, 2 * rhythm);
+    text.add(1, new QLineEdit)->setMaxLength(name_characters);
+    for (const int index : {2, 0})
+        text.add(index, make_number_box(figure_characters + 2));
+    for (const int index : {3, 4, 5})
+        text.add(index, new QLineEdit)->setMaxLength(address_characters);
+    add_labelled_box(*grid, caption(u"Nom :", u"Name :"), 1);
+    add_departure(*grid);
+    add_labelled_box(*grid, caption(u"Moyenne :", u"Rating :"), 2);
+    add_labelled_box(*grid, caption(u"Difficulté :", u"Slope :"), 0);
+    add_address(*grid);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(grid->rowCount(), 1);
+    return page;
+}
+
+void f_courses::add_labelled_box(QGridLayout& grid, const QString& caption, int index)
+{
+    const int row = grid.rowCount();
+    grid.addWidget(make_label(caption, &text(index)), row, 0);
+    grid.addWidget(&text(index), row, 1);
+}
+
+void f_courses::add_departure(QGridLayout& grid)
+{
+    auto* label = make_label(caption(u"Départ :", u"Teeing Area :"));
+    label->setBuddy(departure);
+    const int row = grid.rowCount();
+    grid.addWidget(label, row, 0);
+    grid.addWidget(departure, row, 1, Qt::AlignLeft);
+}
+
+void f_courses::add_address(QGridLayout& grid)
+{
+    add_labelled_box(grid, caption(u"Adresse :", u"Address :"), 3);
+    for (const int index : {4, 5}) {
+        text(index).setAccessibleName(caption(u"Adresse", u"Address") + u' ' + QString::number(index - 2));
+        grid.addWidget(&text(index), grid.rowCount(), 1);
+    }
+}
+
+QFrame* f_courses::make_hole_page(int page, int first_index)
+{
+    QFrame* frame = make_page(page);
+    QGridLayout* grid = make_grid(*frame, column_gap);
+    add_headings(*grid);
+    for (int index = first_index; index < first_index + front_hole_count; ++index)
+        add_hole(*grid, index);
+    grid->setColumnStretch(normal + 1, 1);
+    grid->setRowStretch(grid->rowCount(), 1);
+    return frame;
+}
+
+void f_courses::add_headings(QGridLayout& grid)
+{
+    const QString captions[] = {caption(u"Trou", u"Hole"),
+                                caption(u"Distance (verges) ", u"Distance (yards)"),
+                                QStringLiteral("Handicap"), caption(u"Normale", u"Par")};
+    for (int column = hole_number; column <= normal; ++column) {
+        QLabel* heading = make_label(captions[column]);
+        make_bold(*heading);
+        grid.addWidget(heading, heading_row, column, Qt::AlignRight);
+    }
+    grid.addWidget(make_accent_line(), line_row, hole_number, 1, normal + 1);
+}
+
+void f_courses::add_hole(QGridLayout& grid, int index)
+{
+    const QString hole = caption(u"Trou", u"Hole") + u' ' + QString::number(index + 1) + u", ";
+    txt_verge.add(index, make_hole_box(hole + caption(u"distance", u"distance")));
+    txt_hnd.add(index, make_hole_box(hole + caption(u"handicap", u"handicap")));
+    txt_normal.add(index, make_hole_box(hole + caption(u"normale", u"par")));
+    const int row = first_hole_row + index % front_hole_count;
+    grid.addWidget(make_label(QString::number(index + 1)), row, hole_number, Qt::AlignRight);
+    grid.addWidget(&txt_verge(index), row, verge, Qt::AlignRight);
+    grid.addWidget(&txt_hnd(index), row, hnd, Qt::AlignRight);
+    grid.addWidget(&txt_normal(index), row, normal, Qt::AlignRight);
+}
+
+QLayout* f_courses::make_foot()
+{
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(rhythm);
+    foot->addLayout(make_total(caption(u"Aller :", u"Front :"), lbl_alle));
+    foot->addSpacing(2 * rhythm);
+    foot->addLayout(make_total(caption(u"Retour :", u"Back :"), lbl_retour));
+    foot->addSpacing(2 * rhythm);
+    foot->addLayout(make_total(QStringLiteral("Total :"), lbl_total));
+    foot->addStretch();
+    foot->addWidget(smdsave);
+    foot->addWidget(cmdan);
+    return foot;
+}
+
+QLayout* f_courses::make_total(const QString& caption, QLabel* figure)
+{
+    figure->setText(QStringLiteral("0"));
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance(QStringLiteral("-00000")));
+    figure->setAccessibleName(caption);
+    make_bold(*figure);
+    auto* total = new QHBoxLayout;
+    total->setSpacing(rhythm / 2);
+    total->addWidget(make_label(caption));
+    total->addWidget(figure);
+    return total;
+}
+
+}  // namespace verdane
