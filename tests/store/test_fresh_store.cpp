@@ -1,0 +1,176 @@
+#include "fresh_store.h"
+
+#include <QTest>
+
+#include "failures.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::bytes_of;
+using testing::failure_of;
+using testing::reader;
+using testing::store_fixture;
+using testing::whole_content;
+
+class test_fresh_store : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_fixed_grid_has_its_rows_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("rows");
+        const std::initializer_list<std::pair<const char*, int>> grids = {
+            {"stats", 34},   {"s_put1", 5},      {"s_put2", 7},    {"stat_sticks", 14}, {"r_card", 2},
+            {"sticks", 1},   {"sticknames", 1},  {"settings", 1},  {"games", 0},        {"games2", 0},
+            {"cost", 0},     {"Stat_rounds", 0}, {"hand", 0},      {"r_cost", 0},       {"Cryst_hand", 0},
+            {"partners", 0}, {"vrd_fields", 0},  {"field_info", 0}};
+        for (const auto& [name, rows] : grids)
+            QTest::addRow("%s", name) << QString::fromLatin1(name) << rows;
+    }
+
+    void a_fixed_grid_has_its_rows()
+    {
+        QFETCH(QString, table);
+        QFETCH(int, rows);
+        store_fixture store;
+        QCOMPARE(store.outside().number(u"select count(*) from " + table), rows);
+        QCOMPARE(store.opened(u"select * from " + table)->RecordCount(), rows);
+    }
+
+    void the_language_is_not_chosen_yet()
+    {
+        store_fixture store;
+        QCOMPARE(store.outside().text(QStringLiteral("select language from settings")), QStringLiteral("0"));
+    }
+
+    void the_clubs_have_fourteen_different_names_and_the_putter_is_last()
+    {
+        store_fixture store;
+        const auto names = store.opened(QStringLiteral("select * from sticknames"));
+        QStringList all;
+        for (int i = 0; i < 14; ++i)
+            all += names->Fields(i).text();
+        QCOMPARE(all.removeDuplicates(), 0);
+        QVERIFY(!all.contains(QString()));
+        QCOMPARE(all.last(), QStringLiteral("Pu"));
+    }
+
+    void averages_and_shot_counts_start_at_zero()
+    {
+        store_fixture store;
+        const auto sticks = store.opened(QStringLiteral("select * from sticks"));
+        sticks->MoveLast();
+        for (int i = 0; i < 14; ++i) {
+            QCOMPARE(sticks->Fields(i).to_double(), 0.0);
+            QCOMPARE(plain(sticks->Fields(i + 73).to_int16()), 0);
+        }
+    }
+
+    void the_club_grid_starts_with_the_names_and_zeros_as_text()
+    {
+        store_fixture store;
+        const auto names = store.opened(QStringLiteral("select * from sticknames"));
+        const auto grid = store.opened(QStringLiteral("select * from stat_sticks"));
+        for (int club = 0; club < 14; ++club, grid->MoveNext()) {
+            QCOMPARE(grid->Fields(0).text(), names->Fields(club).text());
+            for (int i = 1; i <= 9; ++i)
+                QCOMPARE(grid->Fields(i).value(), QVariant(QStringLiteral("0")));
+        }
+        QVERIFY(grid->eof());
+    }
+
+    void every_number_of_a_fixed_grid_starts_at_zero_and_no_text_is_null_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* grid : {"stats", "s_put1", "s_put2", "stat_sticks", "r_card"})
+            QTest::addRow("%s", grid) << QString::fromLatin1(grid);
+    }
+
+    void every_number_of_a_fixed_grid_starts_at_zero_and_no_text_is_null()
+    {
+        QFETCH(QString, name);
+        store_fixture store;
+        const auto grid = store.opened(u"select * from " + name);
+        for (; !grid->eof(); grid->MoveNext()) {
+            for (int i = 0; i < grid->field_count(); ++i) {
+                if (grid->field_type(i) == column_type::text)
+                    QVERIFY2(!grid->Fields(i).is_null(), qPrintable(grid->field_name(i)));
+                else if (grid->field_type(i) != column_type::any)
+                    QCOMPARE(grid->Fields(i).to_double(), 0.0);
+            }
+        }
+    }
+
+    void the_rows_of_a_grid_come_in_the_order_in_which_they_were_laid_down()
+    {
+        store_fixture store;
+        const auto stats = store.opened(QStringLiteral("select * from stats"));
+        for (int row = 0; row < 34; ++row, stats->MoveNext())
+            QCOMPARE(stats->Fields(0).text(), QString::number(row));
+        const auto putts = store.opened(QStringLiteral("select * from s_put2"));
+        putts->MoveLast();
+        QCOMPARE(putts->Fields(0).text(), QStringLiteral("7"));
+    }
+
+    void the_next_start_finds_the_store_as_it_was_left()
+    {
+        store_fixture store;
+        store.connection.Execute(QStringLiteral("update settings set language=2"));
+        const QString before = whole_content(store.path());
+        store.connection.Close();
+        store.connection.Open(store.path());
+        QCOMPARE(whole_content(store.path()), before);
+    }
+
+    void an_empty_file_is_laid_down()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        Connection1 connection;
+        connection.Open(path);
+        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from stats")), 34);
+    }
+
+    void a_failure_half_way_leaves_no_table_and_the_next_start_lays_all_down()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        {
+            // A file without tables that may not grow: laying down fails in the middle.
+            store_fixture other;
+            Connection1& connection = other.connection;
+            for (const auto& row :
+                 other.outside().rows(QStringLiteral("select name from sqlite_master where type='table'")))
+                connection.Execute(u"drop table " + row[0].toString());
+            connection.Execute(QStringLiteral("vacuum"));
+            connection.Execute(QStringLiteral("pragma max_page_count=6"));
+            QVERIFY(failure_of([&] { lay_down(connection); }) == failure_kind::store_full);
+            QCOMPARE(other.outside().number(QStringLiteral("select count(*) from sqlite_master")), 0);
+            connection.Close();
+            QVERIFY(QFile::copy(other.path(), path));
+        }
+        Connection1 connection;
+        connection.Open(path);
+        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from stat_sticks")), 14);
+    }
+
+    void a_store_that_lacks_a_table_is_not_repaired()
+    {
+        store_fixture store;
+        store.connection.Execute(QStringLiteral("drop table partners"));
+        store.connection.Close();
+        const QString before = whole_content(store.path());
+        store.connection.Open(store.path());
+        const auto partners = store.recordset(QStringLiteral("select * from partners order by name"));
+        QVERIFY(failure_of([&] { partners->Open(); }) == failure_kind::missing_table);
+        QVERIFY(!partners->is_open());
+        QCOMPARE(whole_content(store.path()), before);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_fresh_store)
+#include "test_fresh_store.moc"

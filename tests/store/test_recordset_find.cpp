@@ -1,0 +1,178 @@
+#include <QTest>
+
+#include "failures.h"
+#include "find_criterion.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::store_fixture;
+
+class test_recordset_find : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_criterion_compares_a_number_as_a_number_and_a_text_as_a_text_data()
+    {
+        QTest::addColumn<QString>("criterion");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<bool>("matches");
+        const auto row = [](const char* criterion, const QVariant& value, bool matches) {
+            QTest::addRow("%s on %s", criterion, qPrintable(value.toString()))
+                << QString::fromUtf8(criterion) << value << matches;
+        };
+        const auto text = [](const char* t) { return QVariant(QString::fromUtf8(t)); };
+        row("date='20030614093000'", text("20030614093000"), true);
+        row("Date ='20030614093000'", text("20030614093000"), true);
+        row("date=20030614093000", text("20030614093000"), true);
+        row("date=20030614093000", text("20030614093001"), false);
+        row("CODE = 'BOIS VERT-0'", text("BOIS VERT-0"), true);
+        row("CODE = 'BOIS VERT-0'", text("Bois Vert-0"), false);
+        row("CODE = 'BOIS VERT-0'", text("BOIS VERT-0 "), false);
+        row("name='l''allée'", text("l'allée"), true);
+        row("name=''", text(""), true);
+        row("Date >='20030101000000'", text("20030614093000"), true);
+        row("Date >='20030614093000'", text("20030614093000"), true);
+        row("Date >'20030614093000'", text("20030614093000"), false);
+        row("Date <='20030614093000'", text("20030614092959"), true);
+        row("Date < '20030614093000'", text("20030614093000"), false);
+        row("Date<>'20030614093000'", text("20030614093001"), true);
+        row("name >= '9'", text("10"), false);
+        row("hole = 9", 9, true);
+        row("hole = '9'", 9, true);
+        row("hole > 9", 10, true);
+        row("hnd >= 1.5", 1.5, true);
+        row("hnd < 1.5", 10.25, false);
+        row("ts = True", true, true);
+        row("ts = -1", true, true);
+        row("ts = 0", false, true);
+        row("name = 'x'", QVariant(), false);
+        row("name <> 'x'", QVariant(), false);
+    }
+
+    void a_criterion_compares_a_number_as_a_number_and_a_text_as_a_text()
+    {
+        QFETCH(QString, criterion);
+        QFETCH(QVariant, value);
+        QFETCH(bool, matches);
+        QCOMPARE(find_criterion(criterion).matches(value), matches);
+    }
+
+    void a_text_that_is_no_criterion_is_a_misuse_data()
+    {
+        QTest::addColumn<QString>("criterion");
+        for (const char* criterion : {"", "date", "='x'", "date='x", "date='"})
+            QTest::addRow("<%s>", criterion) << QString::fromLatin1(criterion);
+    }
+
+    void a_text_that_is_no_criterion_is_a_misuse()
+    {
+        QFETCH(QString, criterion);
+        store_fixture store;
+        const auto games = store.opened(QStringLiteral("select * from games"));
+        QVERIFY(failure_of([&] { games->Find(criterion); }) == failure_kind::misuse);
+    }
+
+    void forward_it_starts_at_the_current_row()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("a")});
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        partners->Find(QStringLiteral("name='a'"));
+        QCOMPARE(partners->position(), 0);
+        partners->MoveNext();
+        partners->Find(QStringLiteral("name='a'"));
+        QCOMPARE(partners->position(), 2);
+        partners->MoveNext();
+        QVERIFY(partners->eof());
+        partners->Find(QStringLiteral("name='a'"));
+        QVERIFY(partners->eof());
+    }
+
+    void an_absent_value_leads_to_the_end()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b")});
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        for (const auto direction : {search_direction::forward, search_direction::backward}) {
+            partners->MoveFirst();
+            partners->Find(QStringLiteral("name='z'"), direction);
+            QVERIFY(partners->eof());
+            QVERIFY(!partners->bof());
+        }
+    }
+
+    void backward_it_finds_every_row_after_a_move_to_the_first()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        for (const char* name : {"a", "b", "c"}) {
+            partners->MoveFirst();
+            partners->Find(QStringLiteral("NAME = '%1'").arg(QString::fromLatin1(name)),
+                           search_direction::backward);
+            QCOMPARE(partners->Fields(u"name").text(), QString::fromLatin1(name));
+        }
+    }
+
+    void backward_it_takes_the_nearest_row_before()
+    {
+        store_fixture store;
+        store.add_partners(
+            {QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("a")});
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        partners->MoveTo(2);
+        partners->Find(QStringLiteral("name='a'"), search_direction::backward);
+        QCOMPARE(partners->position(), 1);
+        partners->Find(QStringLiteral("name='a'"), search_direction::backward);
+        QCOMPARE(partners->position(), 1);
+        partners->MoveLast();
+        partners->MoveNext();
+        partners->Find(QStringLiteral("name='b'"), search_direction::backward);
+        QCOMPARE(partners->position(), 2);
+    }
+
+    void on_an_empty_recordset_it_stays_at_the_end()
+    {
+        store_fixture store;
+        const auto games = store.opened(QStringLiteral("select * from games"));
+        games->Find(QStringLiteral("date='x'"));
+        QVERIFY(games->eof());
+        games->Find(QStringLiteral("date='x'"), search_direction::backward);
+        QVERIFY(games->eof());
+    }
+
+    void it_leaves_the_row_and_so_commits_it()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b")});
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        partners->Fields(u"name").set(QStringLiteral("changed"));
+        partners->Find(QStringLiteral("name='b'"));
+        QCOMPARE(testing::stored_names(store), QStringLiteral("changed b"));
+    }
+
+    void it_sees_what_is_pending_in_a_batch()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a")});
+        const auto partners =
+            store.opened(QStringLiteral("select * from partners"), lock_type::batch_optimistic);
+        partners->AddNew();
+        partners->Fields(u"name").set(QStringLiteral("new"));
+        partners->MoveFirst();
+        partners->Find(QStringLiteral("name='new'"));
+        QCOMPARE(partners->position(), 1);
+    }
+
+    void a_column_that_is_not_there_is_a_missing_part()
+    {
+        store_fixture store;
+        const auto games = store.opened(QStringLiteral("select * from games"));
+        QVERIFY(failure_of([&] { games->Find(QStringLiteral("golfer='x'")); }) ==
+                failure_kind::missing_table);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_recordset_find)
+#include "test_recordset_find.moc"
