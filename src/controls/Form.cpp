@@ -64,10 +64,18 @@ void Form::show_modal()
     activated();
     work_until_unloaded();
     std::erase(open_forms(), this);
-    if (opener && opener->is_loaded())
+    wake(opener);
+}
+
+void Form::wake(Form* opener)
+{
+    if (opener && opener->is_loaded()) {
+        opener->activateWindow();
         opener->activated();
-    else if (!opener && main_frame())
+    } else if (!opener && main_frame()) {
+        main_frame()->frame_widget()->activateWindow();
         main_frame()->activated();
+    }
 }
 
 void Form::work_until_unloaded()

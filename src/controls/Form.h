@@ -59,6 +59,8 @@ protected:
 
 private:
     void work_until_unloaded();
+    /// Gives the keyboard back to the window below (the main window when null) and activates it.
+    static void wake(Form* opener);
 
     bool french_;
     bool loaded_ = true;

@@ -1,6 +1,7 @@
 #include "boxes.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace verdane {
 
@@ -24,11 +25,16 @@ QString default_title()
 
 QMessageBox::StandardButton show_message(const message& what)
 {
-    QMessageBox box(what.icon, QString(), what.text, what.buttons, window_at_work());
+    const QPointer<QWidget> owner = window_at_work();
+    QMessageBox box(what.icon, QString(), what.text, what.buttons, owner);
     box.setObjectName(QStringLiteral("message_box"));
     box.setWindowTitle(what.title);
     box.setTextFormat(Qt::PlainText);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+    const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
+    // Not every platform gives the keyboard back to the window below by itself.
+    if (owner)
+        owner->activateWindow();
+    return answer;
 }
 
 void tell(const QString& text, QMessageBox::Icon icon, const QString& title)

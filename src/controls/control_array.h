@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QStringView>
-#include <QWidget>
 
 #include <map>
 

@@ -2,9 +2,9 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPointer>
 
 #include <utility>
 
@@ -14,8 +14,9 @@ namespace verdane {
 
 namespace {
 
-/// Watches the application's events for those that are about to take the focus off the box: a
-/// refusal has to come before the other control sees its click.
+/// Watches the application's events for those that take the focus off the box. Tab and short cuts are
+/// stopped before they act. A click has moved the focus by the time any filter sees it: the box takes
+/// the focus back, and the click is kept from the control that it was meant for.
 class leaving_guard : public QObject {
 public:
     leaving_guard(QLineEdit& box, std::function<bool()> allows)
@@ -26,30 +27,45 @@ public:
 
     bool eventFilter(QObject* target, QEvent* event) override
     {
-        if (asking_ || !box_.hasFocus() || !would_leave(target, event))
+        if (asking_)
             return false;
+        switch (event->type()) {
+        case QEvent::KeyPress:
+            return target == &box_ && is_tab(*static_cast<QKeyEvent*>(event)) && refused();
+        case QEvent::Shortcut:
+            return box_.hasFocus() && takes_focus(qobject_cast<QWidget*>(target)) && refused();
+        case QEvent::FocusOut:
+            if (target == &box_ && static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+                keep_from_click();
+            return false;
+        case QEvent::MouseButtonPress:
+            return swallows_press(qobject_cast<QWidget*>(target));
+        default:
+            return false;
+        }
+    }
+
+private:
+    bool refused()
+    {
         bool stays = false;
         asking_ = true;
         run_event([&] { stays = !allows_(); });
         asking_ = false;
-        if (stays)
-            event->accept();
         return stays;
     }
 
-private:
-    bool would_leave(QObject* target, QEvent* event) const
+    void keep_from_click()
     {
-        switch (event->type()) {
-        case QEvent::MouseButtonPress:
-            return takes_focus(qobject_cast<QWidget*>(target));
-        case QEvent::KeyPress:
-            return target == &box_ && is_tab(*static_cast<QKeyEvent*>(event));
-        case QEvent::Shortcut:
-            return takes_focus(qobject_cast<QWidget*>(target));
-        default:
-            return false;
-        }
+        if (!refused())
+            return;
+        box_.setFocus(Qt::OtherFocusReason);
+        press_is_refused_ = true;
+    }
+
+    bool swallows_press(const QWidget* pressed)
+    {
+        return std::exchange(press_is_refused_, false) && takes_focus(pressed);
     }
 
     bool takes_focus(const QWidget* other) const
@@ -66,6 +82,7 @@ private:
     QLineEdit& box_;
     std::function<bool()> allows_;
     bool asking_ = false;
+    bool press_is_refused_ = false;
 };
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
@@ -177,8 +178,16 @@ bool hand::exists(const QString& control)
     return asked<bool>([&] { return find_control(control) || find_action(control); });
 }
 
+void hand::wait_for_keyboard()
+{
+    // A window that comes back from under another gets the keyboard with its next event.
+    wait_until(QStringLiteral("a window with the keyboard"),
+               [] { return QApplication::activeWindow() || QApplication::activePopupWidget(); });
+}
+
 QString hand::focus()
 {
+    wait_for_keyboard();
     return asked<QString>([] {
         QWidget* focused = QApplication::focusWidget();
         return focused ? focused->objectName() : QString();
@@ -255,6 +264,7 @@ void hand::choose(const QString& combo, int index)
 
 void hand::type(const QString& characters)
 {
+    wait_for_keyboard();
     for (const QChar character : characters) {
         post([character] {
             if (QWidget* focused = QApplication::focusWidget())
@@ -283,6 +293,7 @@ void hand::paste(const QString& box, const QString& text)
 
 void hand::key(int key, Qt::KeyboardModifiers modifiers)
 {
+    wait_for_keyboard();
     post([key, modifiers] {
         QWidget* target = QApplication::focusWidget();
         if (!target)
@@ -325,8 +336,13 @@ void hand::answer(const expected_box& box, QMessageBox::StandardButton answer)
     wait_until(u"a message box: " + described(box), [] { return box_on_top() != nullptr; });
     const auto seen = asked<expected_box>([] { return shown_box(*box_on_top()); });
     same(described(seen), described(box), QStringLiteral("message box"));
-    post(
-        [answer] { QTest::mouseClick(static_cast<QWidget*>(box_on_top()->button(answer)), Qt::LeftButton); });
+    const QPointer<QMessageBox> answered = asked<QMessageBox*>([] { return box_on_top(); });
+    post([answered, answer] {
+        if (answered)
+            QTest::mouseClick(static_cast<QWidget*>(answered->button(answer)), Qt::LeftButton);
+    });
+    wait_until(QStringLiteral("the end of the message box"),
+               [&] { return !answered || !answered->isVisible(); });
 }
 
 void hand::check(bool holds, const QString& words)

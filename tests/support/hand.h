@@ -84,6 +84,7 @@ public:
     [[noreturn]] void fail(const QString& words);
 
 private:
+    void wait_for_keyboard();
     void post(const std::function<void()>& action);
     void on_control(const QString& name, const std::function<void(QWidget&)>& action);
 

@@ -1,0 +1,100 @@
+#include <QApplication>
+#include <QProcess>
+#include <QTest>
+
+#include <cstdio>
+
+#include "boxes.h"
+#include "failure_guard.h"
+#include "hand.h"
+#include "language.h"
+
+using namespace verdane;
+using verdane::testing::hand;
+using verdane::testing::play;
+
+namespace {
+
+/// The child process: fails in an event and prints what the box says before it is answered.
+int fail_in_an_event(const QString& settled)
+{
+    language_is_settled = settled != u"not";
+    is_french = settled == u"fr";
+    play(
+        [] {
+            run_event(
+                [] { throw run_time_failure(failure_kind::store_full, QStringLiteral("insert into x")); });
+        },
+        [](hand& user) {
+            user.wait_for_window(QStringLiteral("failure_box"));
+            user.look([] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                std::printf("%s|%d|%s\n", qUtf8Printable(box->text()), static_cast<int>(box->icon()),
+                            qUtf8Printable(box->informativeText()));
+                std::fflush(stdout);
+            });
+            user.key(Qt::Key_Return);
+        });
+    return 77;  // not reached: the process has ended with the failure
+}
+
+struct ended {
+    int status = -1;
+    QString said;
+};
+
+ended failed_child(const QString& settled)
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--fail"), settled});
+    child.waitForFinished(60000);
+    return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
+            QString::fromUtf8(child.readAllStandardOutput())};
+}
+
+}  // namespace
+
+class test_failure_guard : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_failure_is_told_in_plain_words_and_ends_the_program_with_status_1_data()
+    {
+        QTest::addColumn<QString>("settled");
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<bool>("english");
+        QTest::newRow("French") << "fr" << true << false;
+        QTest::newRow("English") << "en" << false << true;
+        QTest::newRow("language not settled yet") << "not" << true << true;
+    }
+
+    void a_failure_is_told_in_plain_words_and_ends_the_program_with_status_1()
+    {
+        QFETCH(QString, settled);
+        QFETCH(bool, french);
+        QFETCH(bool, english);
+        const ended child = failed_child(settled);
+        QCOMPARE(child.status, 1);
+        const text_pair words = failure_words(failure_kind::store_full);
+        QCOMPARE(child.said.contains(words.french), french);
+        QCOMPARE(child.said.contains(words.english), english);
+        QVERIFY2(child.said.contains(QStringLiteral("|3|insert into x")), qPrintable(child.said));
+    }
+
+    void what_must_always_finish_says_whether_it_went_through()
+    {
+        QVERIFY(finishes_without_failure([] {}));
+        QVERIFY(!finishes_without_failure([] { throw run_time_failure(failure_kind::misuse, QString()); }));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (argc == 3 && QByteArray(argv[1]) == "--fail")
+        return fail_in_an_event(QString::fromLocal8Bit(argv[2]));
+    test_failure_guard test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_failure_guard.moc"

@@ -1,0 +1,193 @@
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "boxes.h"
+#include "control_array.h"
+#include "events.h"
+#include "Form.h"
+#include "hand.h"
+#include "language.h"
+#include "main_frame.h"
+
+using namespace verdane;
+using verdane::testing::expected_box;
+using verdane::testing::hand;
+using verdane::testing::play;
+
+namespace {
+
+/// A window that opens another of its kind and counts what happens to it.
+class trial : public Form {
+public:
+    explicit trial(QStringView family) : Form(family)
+    {
+        auto* layout = new QVBoxLayout(this);
+        opener = named(make_button(QStringLiteral("open")), u"opener");
+        asker = named(make_button(QStringLiteral("ask")), u"asker");
+        box = named(new QLineEdit, u"box");
+        for (QWidget* widget :
+             {static_cast<QWidget*>(opener), static_cast<QWidget*>(asker), static_cast<QWidget*>(box)})
+            layout->addWidget(widget);
+        on_click(*asker, [] { tell(QStringLiteral("a notice")); });
+        on_click(*opener, [this] {
+            trial child(u"f_child");
+            child.show_modal();
+            child_activations = child.activations;
+        });
+    }
+
+    QPushButton* opener = nullptr;
+    QPushButton* asker = nullptr;
+    QLineEdit* box = nullptr;
+    int activations = 0;
+    int unloads = 0;
+    int child_activations = 0;
+
+protected:
+    void activated() override { ++activations; }
+    void unloading() override { ++unloads; }
+};
+
+const expected_box notice{QStringLiteral("a notice"), QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
+
+}  // namespace
+
+class test_form : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { is_french = true; }
+
+    void the_english_twin_has_the_name_with_en()
+    {
+        QCOMPARE(trial(u"f_trial").objectName(), QStringLiteral("f_trial"));
+        is_french = false;
+        QCOMPARE(trial(u"f_trial").objectName(), QStringLiteral("f_trial_en"));
+        QCOMPARE(Form(u"f_single", Form::twins::one).objectName(), QStringLiteral("f_single"));
+    }
+
+    void a_window_keeps_the_language_it_was_made_in()
+    {
+        trial window(u"f_trial");
+        is_french = false;
+        QCOMPARE(window.caption(u"oui", u"yes"), QStringLiteral("oui"));
+        QCOMPARE(trial(u"f_trial").caption(u"oui", u"yes"), QStringLiteral("yes"));
+    }
+
+    void showing_activates_once_and_a_message_box_does_not()
+    {
+        trial window(u"f_trial");
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_trial"));
+                 user.click(QStringLiteral("asker"));
+                 user.answer(notice);
+                 user.close_window(QStringLiteral("f_trial"));
+             });
+        QCOMPARE(window.activations, 1);
+        QCOMPARE(window.unloads, 1);
+    }
+
+    void coming_back_from_another_window_activates_again()
+    {
+        trial window(u"f_trial");
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_trial"));
+                 user.click(QStringLiteral("opener"));
+                 user.wait_for_window(QStringLiteral("f_child"));
+                 user.close_window(QStringLiteral("f_child"));
+                 user.wait_until_gone(QStringLiteral("f_child"));
+                 user.close_window(QStringLiteral("f_trial"));
+             });
+        QCOMPARE(window.activations, 2);
+        QCOMPARE(window.child_activations, 1);
+    }
+
+    void a_window_that_unloads_before_it_is_shown_never_shows()
+    {
+        trial window(u"f_trial");
+        window.unload();
+        window.show_modal();
+        QVERIFY(!window.isVisible());
+        QCOMPARE(window.activations, 0);
+        QCOMPARE(window.unloads, 1);
+    }
+
+    void unloading_twice_does_no_harm()
+    {
+        trial window(u"f_trial");
+        window.unload();
+        window.unload();
+        QCOMPARE(window.unloads, 1);
+    }
+
+    void escape_is_the_title_bars_close_box()
+    {
+        trial window(u"f_trial");
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_trial"));
+                 user.key(Qt::Key_Escape);
+             });
+        QCOMPARE(window.unloads, 1);
+    }
+
+    void enter_presses_the_button_with_the_focus_and_no_other()
+    {
+        trial window(u"f_trial");
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.click(QStringLiteral("box"));
+                 user.key(Qt::Key_Return);
+                 user.check(!user.is_open(QStringLiteral("message_box")), QStringLiteral("Enter in a box"));
+                 user.look([&] { window.asker->setFocus(); });
+                 user.key(Qt::Key_Return);
+                 user.answer(notice);
+                 user.close_window(QStringLiteral("f_trial"));
+             });
+    }
+
+    void the_window_at_work_and_the_window_of_a_family_are_found()
+    {
+        is_french = false;
+        trial window(u"f_trial");
+        QCOMPARE(form_at_work(), nullptr);
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_trial_en"));
+                 user.look([&] {
+                     QCOMPARE(form_at_work(), &window);
+                     QCOMPARE(open_form(u"f_trial"), &window);
+                     QCOMPARE(open_form(u"f_other"), nullptr);
+                 });
+                 user.close_window(QStringLiteral("f_trial_en"));
+             });
+        QCOMPARE(open_form(u"f_trial"), nullptr);
+    }
+
+    void the_current_window_reads_null_once_it_is_gone()
+    {
+        {
+            trial window(u"f_trial");
+            current_form = &window;
+            QVERIFY(current_form);
+        }
+        QVERIFY(!current_form);
+    }
+
+    void a_member_that_an_array_lacks_is_a_failure()
+    {
+        control_array<QLineEdit> boxes(u"text_vrd");
+        QLineEdit box;
+        boxes.add(3, &box);
+        QCOMPARE(box.objectName(), QStringLiteral("text_vrd_3"));
+        QCOMPARE(&boxes(3), &box);
+        QVERIFY_EXCEPTION_THROWN(boxes(4), run_time_failure);
+    }
+};
+
+QTEST_MAIN(test_form)
+#include "test_form.moc"

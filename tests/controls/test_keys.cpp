@@ -1,0 +1,140 @@
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "boxes.h"
+#include "control_array.h"
+#include "Form.h"
+#include "hand.h"
+#include "keys.h"
+
+using namespace verdane;
+using verdane::testing::hand;
+using verdane::testing::play;
+
+namespace {
+
+/// One box that takes digits only; "9" is put in by the handler as "(9)".
+class digits_form : public Form {
+public:
+    digits_form() : Form(u"f_digits")
+    {
+        auto* layout = new QVBoxLayout(this);
+        box = named(new QLineEdit, u"box");
+        other = named(new QLineEdit, u"other");
+        layout->addWidget(other);
+        layout->addWidget(box);
+        filter_keys(*box, [this](QChar key) {
+            if (key == u'9') {
+                box->insert(QStringLiteral("(9)"));
+                return key_answer::taken;
+            }
+            return key == backspace || is_plain_digit(key) ? key_answer::pass : key_answer::refuse;
+        });
+        when_entered(*box, [this] { select_characters(*box, 4); });
+    }
+
+    QLineEdit* box = nullptr;
+    QLineEdit* other = nullptr;
+};
+
+}  // namespace
+
+class test_keys : public QObject {
+    Q_OBJECT
+
+    QString typed(const QString& keys, int* bells = nullptr)
+    {
+        digits_form window;
+        const int before = bells_rung();
+        QString text;
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.click(QStringLiteral("box"));
+                 user.type(keys);
+                 text = user.text(QStringLiteral("box"));
+                 user.close_window(QStringLiteral("f_digits"));
+             });
+        if (bells)
+            *bells = bells_rung() - before;
+        return text;
+    }
+
+private Q_SLOTS:
+    void only_what_passes_reaches_the_box_and_the_rest_rings_data()
+    {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("bells");
+        QTest::newRow("digits") << "123"
+                                << "123" << 0;
+        QTest::newRow("a letter") << "1a2"
+                                  << "12" << 1;
+        QTest::newRow("an accented letter") << QStringLiteral("é") << "" << 1;
+        QTest::newRow("a digit of another script") << QStringLiteral("٣") << "" << 1;
+        QTest::newRow("signs and quotes") << "-1.'\""
+                                          << "1" << 4;
+        QTest::newRow("a key the handler takes") << "19"
+                                                 << "1(9)" << 0;
+    }
+
+    void only_what_passes_reaches_the_box_and_the_rest_rings()
+    {
+        QFETCH(QString, keys);
+        QFETCH(QString, text);
+        QFETCH(int, bells);
+        int rung = 0;
+        QCOMPARE(typed(keys, &rung), text);
+        QCOMPARE(rung, bells);
+    }
+
+    void commands_of_the_keyboard_are_no_characters()
+    {
+        digits_form window;
+        const int before = bells_rung();
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.click(QStringLiteral("box"));
+                 user.type(QStringLiteral("12"));
+                 user.key(Qt::Key_Backspace);
+                 user.key(Qt::Key_Left);
+                 user.key(Qt::Key_Delete);
+                 user.same(user.text(QStringLiteral("box")), QString(), QStringLiteral("after deleting"));
+                 user.paste(QStringLiteral("box"), QStringLiteral("a'b"));
+                 user.same(user.text(QStringLiteral("box")), QStringLiteral("a'b"), QStringLiteral("pasted"));
+                 user.close_window(QStringLiteral("f_digits"));
+             });
+        QCOMPARE(bells_rung(), before);
+    }
+
+    void what_an_input_method_composes_is_filtered_too()
+    {
+        QLineEdit box;
+        filter_keys(box,
+                    [](QChar key) { return is_plain_digit(key) ? key_answer::pass : key_answer::refuse; });
+        for (const QString& composed : {QStringLiteral("ê"), QStringLiteral("7")}) {
+            QInputMethodEvent event;
+            event.setCommitString(composed);
+            QCoreApplication::sendEvent(&box, &event);
+        }
+        QCOMPARE(box.text(), QStringLiteral("7"));
+    }
+
+    void entering_selects_so_that_a_new_figure_replaces_the_old()
+    {
+        digits_form window;
+        window.box->setText(QStringLiteral("123456"));
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.click(QStringLiteral("other"));
+                 user.key(Qt::Key_Tab);
+                 user.same(user.selected_text(QStringLiteral("box")), QStringLiteral("1234"),
+                           QStringLiteral("selection"));
+                 user.close_window(QStringLiteral("f_digits"));
+             });
+    }
+};
+
+QTEST_MAIN(test_keys)
+#include "test_keys.moc"

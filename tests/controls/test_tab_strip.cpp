@@ -1,0 +1,99 @@
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include "control_array.h"
+#include "Form.h"
+#include "hand.h"
+#include "TabStrip.h"
+
+using namespace verdane;
+using verdane::testing::hand;
+using verdane::testing::play;
+
+namespace {
+
+class tabs_form : public Form {
+public:
+    tabs_form() : Form(u"f_tabs")
+    {
+        tabs = named(new TabStrip(this), u"TabStrip1");
+        for (int i = 1; i <= 3; ++i)
+            tabs->addTab(QString::number(i));
+        (new QVBoxLayout(this))->addWidget(tabs);
+        tabs->before_click = [this] {
+            seen_before.append(QString::number(tabs->selected()));
+            return allowed;
+        };
+        tabs->clicked = [this] { clicks.append(QString::number(tabs->selected())); };
+    }
+
+    TabStrip* tabs = nullptr;
+    bool allowed = true;
+    QString seen_before;
+    QString clicks;
+};
+
+}  // namespace
+
+class test_tab_strip : public QObject {
+    Q_OBJECT
+
+    void in_window(tabs_form& window, const std::function<void(hand&)>& script)
+    {
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_tabs"));
+                 script(user);
+                 user.close_window(QStringLiteral("f_tabs"));
+             });
+    }
+
+private Q_SLOTS:
+    void a_click_asks_on_the_old_tab_and_tells_on_the_new()
+    {
+        tabs_form window;
+        in_window(window, [](hand& user) { user.click_tab(QStringLiteral("TabStrip1"), 3); });
+        QCOMPARE(window.seen_before, QStringLiteral("1"));
+        QCOMPARE(window.clicks, QStringLiteral("3"));
+    }
+
+    void a_refused_click_keeps_the_tab()
+    {
+        tabs_form window;
+        window.allowed = false;
+        in_window(window, [](hand& user) { user.click_tab(QStringLiteral("TabStrip1"), 2); });
+        QCOMPARE(window.tabs->selected(), 1);
+        QCOMPARE(window.clicks, QString());
+    }
+
+    void a_click_on_the_selected_tab_is_told_too()
+    {
+        tabs_form window;
+        in_window(window, [](hand& user) { user.click_tab(QStringLiteral("TabStrip1"), 1); });
+        QCOMPARE(window.clicks, QStringLiteral("1"));
+    }
+
+    void the_keyboard_moves_as_a_click_does_and_stops_at_the_ends()
+    {
+        tabs_form window;
+        in_window(window, [](hand& user) {
+            user.click_tab(QStringLiteral("TabStrip1"), 1);
+            for (const int key : {Qt::Key_Right, Qt::Key_End, Qt::Key_Right, Qt::Key_Left, Qt::Key_Home})
+                user.key(key);
+        });
+        QCOMPARE(window.clicks, QStringLiteral("12321"));
+    }
+
+    void the_wheel_leaves_the_tab_alone()
+    {
+        tabs_form window;
+        QWheelEvent turn({5, 5}, {5, 5}, {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window.tabs, &turn);
+        QCOMPARE(window.tabs->selected(), 1);
+    }
+};
+
+QTEST_MAIN(test_tab_strip)
+#include "test_tab_strip.moc"
