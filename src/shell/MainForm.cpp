@@ -1,0 +1,207 @@
+#include "MainForm.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QToolButton>
+
+#include <memory>
+
+#include "control_array.h"
+#include "failure_guard.h"
+#include "language.h"
+#include "language_value.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr QSize wanted_size(1200, 780);
+constexpr QSize least_size(640, 400);
+constexpr QSize tool_icon_size(28, 28);
+
+std::unique_ptr<MainForm> form_of_run;
+
+QString caption_of(const text_pair& caption)
+{
+    return caption.english.isEmpty() ? caption.french.toString() : caption.in(is_french);
+}
+
+QAction* make_action(QStringView name, void (*command)(), QObject* owner)
+{
+    auto* action = named(new QAction(owner), name);
+    if (command)
+        QObject::connect(action, &QAction::triggered, action, [command] { run_event(command); });
+    return action;
+}
+
+}  // namespace
+
+MainForm::MainForm()
+{
+    setObjectName(QStringLiteral("MainForm"));
+    setMinimumSize(least_size);
+    resize(wanted_size.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    for (const top_menu& menu : main_menu())
+        add_menu(menu);
+    add_toolbar();
+    add_pictures();
+    set_main_frame(this);
+    load();
+}
+
+MainForm::~MainForm()
+{
+    set_main_frame(nullptr);
+}
+
+MainForm* MainForm::of_run()
+{
+    return form_of_run.get();
+}
+
+void MainForm::show_first()
+{
+    form_of_run = std::make_unique<MainForm>();
+    form_of_run->show();
+    form_of_run->activated();
+}
+
+void MainForm::end_of_run()
+{
+    form_of_run.reset();
+}
+
+QAction* MainForm::add_entry(const menu_entry& entry)
+{
+    QAction* action = make_action(entry.name, entry.command, this);
+    action->setVisible(!entry.switched_off);
+    action->setEnabled(!entry.switched_off);
+    actions_[entry.name.toString()] = action;
+    return action;
+}
+
+void MainForm::add_menu(const top_menu& top)
+{
+    if (top.command) {
+        menuBar()->addAction(
+            add_entry({top.name, top.caption, top.command, top.locked_while_a_window_works}));
+        return;
+    }
+    QMenu* menu = menuBar()->addMenu(QString());
+    named(menu->menuAction(), top.name);
+    actions_[top.name.toString()] = menu->menuAction();
+    for (const menu_entry& entry : top.entries)
+        menu->addAction(add_entry(entry));
+}
+
+void MainForm::add_toolbar()
+{
+    auto* toolbar = named(new QToolBar, u"Toolbar1");
+    toolbar->setMovable(false);
+    toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    toolbar->setIconSize(tool_icon_size);
+    for (const tool_button& button : main_toolbar()) {
+        auto* action = make_action(u"", button.command, this);
+        action->setIcon(QIcon(QStringLiteral(":/art/%1.svg").arg(button.key)));
+        action->setToolTip(button.tool_tip.toString());
+        toolbar->addAction(action);
+        QWidget* face = named(toolbar->widgetForAction(action), button.key);
+        face->setAccessibleName(button.tool_tip.toString());
+        tool_actions_[button.key.toString()] = action;
+    }
+    addToolBar(toolbar);
+}
+
+void MainForm::add_pictures()
+{
+    auto* ground = new QWidget;
+    Picture1_ = named(new picture_pane(QStringLiteral(":/art/landscape_fr.svg"), ground), u"Picture1");
+    Picture2_ = named(new picture_pane(QStringLiteral(":/art/landscape_en.svg"), ground), u"Picture2");
+    setCentralWidget(ground);
+}
+
+void MainForm::load()
+{
+    for (const top_menu& menu : main_menu()) {
+        actions_.at(menu.name.toString())->setText(caption_of(menu.caption));
+        for (const menu_entry& entry : menu.entries)
+            actions_.at(entry.name.toString())->setText(caption_of(entry.caption));
+    }
+    tick_language(is_french ? french_value : english_value);
+}
+
+void MainForm::unload()
+{
+    if (Form* f_games = open_form(u"f_games"))
+        f_games->unload();
+}
+
+void MainForm::reload()
+{
+    unload();
+    load();
+    show();
+    activated();
+}
+
+void MainForm::tick_language(int value)
+{
+    for (const QString& name : {QStringLiteral("mfr"), QStringLiteral("mEn")})
+        actions_.at(name)->setCheckable(true);
+    actions_.at(QStringLiteral("mfr"))->setChecked(value == french_value);
+    actions_.at(QStringLiteral("mEn"))->setChecked(value == english_value);
+}
+
+void MainForm::set_locked(bool locked)
+{
+    for (const top_menu& menu : main_menu()) {
+        if (menu.locked_while_a_window_works)
+            actions_.at(menu.name.toString())->setEnabled(!locked);
+        for (const menu_entry& entry : menu.entries) {
+            if (entry.locked_while_a_window_works)
+                actions_.at(entry.name.toString())->setEnabled(!locked);
+        }
+    }
+    for (const tool_button& button : main_toolbar()) {
+        if (button.locked_while_a_window_works)
+            enable_tool_button(button.key, !locked);
+    }
+}
+
+void MainForm::enable_tool_button(QStringView key, bool enabled)
+{
+    const auto found = tool_actions_.find(key.toString());
+    if (found != tool_actions_.end())
+        found->second->setEnabled(enabled);
+}
+
+void MainForm::activated()
+{
+    setWindowTitle(in_language(u"Verdane pour PC version 1.4", u"Verdane for PC version 1.4"));
+    fit_pictures();
+    Picture1_->setVisible(is_french);
+    Picture2_->setVisible(!is_french);
+}
+
+void MainForm::fit_pictures()
+{
+    for (picture_pane* picture : {Picture1_, Picture2_})
+        picture->setGeometry(centralWidget()->rect());
+}
+
+void MainForm::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    fit_pictures();
+}
+
+void MainForm::closeEvent(QCloseEvent* event)
+{
+    run_event([this] { unload(); });
+    event->accept();
+}
+
+}  // namespace verdane

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QToolBar>
+
+#include <map>
+
+#include "main_frame.h"
+#include "main_menu.h"
+#include "picture_pane.h"
+
+namespace verdane {
+
+/// The one top-level window: a frame with a menu, a toolbar and a picture, holding no data of its own.
+/// It keeps its name in both languages.
+class MainForm : public QMainWindow, public main_frame_interface {
+public:
+    MainForm();
+    ~MainForm() override;
+
+    /// The main window of the run; null before the start has reached it.
+    static MainForm* of_run();
+    /// Makes the main window of the run and shows it.
+    static void show_first();
+    /// Lets go of it, once the last window has gone.
+    static void end_of_run();
+
+    /// Ticks the entry of the chosen language and takes the tick from the other.
+    void tick_language(int value);
+    /// Unloads the window, loads it again in the language of this moment and shows it.
+    void reload();
+
+    QWidget* frame_widget() override { return this; }
+    void lock_menu() override { set_locked(true); }
+    void unlock_menu() override { set_locked(false); }
+    void enable_tool_button(QStringView key, bool enabled) override;
+    void activated() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void add_menu(const top_menu& menu);
+    QAction* add_entry(const menu_entry& entry);
+    void add_toolbar();
+    void add_pictures();
+    void load();
+    void unload();
+    void set_locked(bool locked);
+    void fit_pictures();
+
+    std::map<QString, QAction*> actions_;
+    std::map<QString, QAction*> tool_actions_;
+    picture_pane* Picture1_ = nullptr;
+    picture_pane* Picture2_ = nullptr;
+};
+
+}  // namespace verdane

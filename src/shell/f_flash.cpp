@@ -1,0 +1,34 @@
+#include "f_flash.h"
+
+#include "control_array.h"
+#include "main_frame.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int left_of_edge_twips = 200;
+constexpr int above_edge_twips = 2400;
+constexpr QSize window_size(320, 160);
+constexpr int image_pixels = 96;
+
+}  // namespace
+
+f_flash::f_flash() : Form(u"f_flash", twins::one)
+{
+    setWindowTitle(QStringLiteral("Verdane"));
+    resize(window_size);
+    Image1 = named(new QSvgWidget(QStringLiteral(":/art/verdane.svg"), this), u"Image1");
+    Image1->resize(image_pixels, image_pixels);
+    if (main_frame()) {
+        const QSize frame = main_frame()->frame_widget()->size();
+        move(frame.width() - pixels(left_of_edge_twips), frame.height() - pixels(above_edge_twips));
+    }
+}
+
+void f_flash::activated()
+{
+    Image1->move(width() / 2, height() / 2);
+}
+
+}  // namespace verdane

@@ -1,0 +1,60 @@
+#include "f_lang.h"
+
+#include <QLabel>
+#include <QSvgWidget>
+#include <QVBoxLayout>
+
+#include "DataEnvironment1.h"
+#include "events.h"
+#include "language.h"
+#include "language_value.h"
+#include "look.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int icon_pixels = 96;
+
+QSvgWidget* make_emblem()
+{
+    auto* emblem = new QSvgWidget(QStringLiteral(":/art/verdane.svg"));
+    emblem->setFixedSize(icon_pixels, icon_pixels);
+    return emblem;
+}
+
+}  // namespace
+
+f_lang::f_lang() : Form(u"f_lang", twins::one)
+{
+    setWindowTitle(QStringLiteral("Verdane International Inc."));
+    Command1.add(1, make_button(QStringLiteral("Continuer en Français")));
+    Command1.add(0, make_button(QStringLiteral("Continue in English")));
+    Command2 = named(make_button(QStringLiteral("Exit / Quitter")), u"Command2");
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(5 * rhythm, 4 * rhythm, 5 * rhythm, 4 * rhythm);
+    layout->setSpacing(rhythm);
+    layout->addWidget(make_emblem(), 0, Qt::AlignHCenter);
+    layout->addSpacing(2 * rhythm);
+    for (QPushButton* button : {&Command1(1), &Command1(0), Command2}) {
+        button->setMinimumSize(30 * rhythm, 5 * rhythm);
+        layout->addWidget(button);
+    }
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    on_click(Command1(1), [this] { choose(french_value); });
+    on_click(Command1(0), [this] { choose(english_value); });
+    on_click(*Command2, [this] { unload(); });
+}
+
+void f_lang::choose(int language)
+{
+    Recordset& rssettings = data_environment().rssettings;
+    rssettings.Fields(u"language").set(language);
+    rssettings.Update();
+    is_french = language == french_value;
+    unload();
+}
+
+}  // namespace verdane

@@ -1,0 +1,126 @@
+#include "main_commands.h"
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "f_about.h"
+#include "f_c_list.h"
+#include "f_date_range.h"
+#include "f_games.h"
+#include "failure_guard.h"
+#include "language.h"
+#include "language_value.h"
+#include "main_frame.h"
+#include "MainForm.h"
+#include "Round_records.h"
+#include "start_up.h"
+#include "toolkit_language.h"
+
+namespace verdane {
+
+namespace {
+
+bool has_rows(Recordset& recordset)
+{
+    recordset.Open();
+    const bool rows = !recordset.empty();
+    recordset.Close();
+    return rows;
+}
+
+bool a_round_is_stored()
+{
+    return has_rows(data_environment().rsgames);
+}
+
+template <typename Window>
+void open_window()
+{
+    Window window;
+    window.show_modal();
+}
+
+void store_language(int value)
+{
+    Recordset& rssettings = data_environment().rssettings;
+    rssettings.Open();
+    rssettings.Fields(u"language").set(value);
+    rssettings.Update();
+    rssettings.Close();
+}
+
+void change_language(int value)
+{
+    store_language(value);
+    MainForm::of_run()->tick_language(value);
+    is_french = value == french_value;
+    apply_toolkit_language();
+    load_club_names();
+    MainForm::of_run()->reload();
+}
+
+}  // namespace
+
+void command_new_round()
+{
+    start_new_round();
+}
+
+void command_round_list()
+{
+    if (!a_round_is_stored()) {
+        tell(in_language(u"Il n'y a pas de ronde enregistrée", u"There is no round registered"),
+             QMessageBox::Information);
+        return;
+    }
+    open_window<f_games>();
+}
+
+void command_course_list()
+{
+    open_window<f_c_list>();
+}
+
+void command_round_statistics()
+{
+    if (!a_round_is_stored()) {
+        tell(in_language(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
+             QMessageBox::Critical);
+        return;
+    }
+    open_window<f_date_range>();
+}
+
+void command_about()
+{
+    open_window<f_about>();
+}
+
+void command_save()
+{
+    if (current_form)
+        current_form->save();
+}
+
+void command_close()
+{
+    Unlock_menu();
+    if (current_form)
+        current_form->closeForm();
+}
+
+void command_english()
+{
+    change_language(english_value);
+}
+
+void command_french()
+{
+    change_language(french_value);
+}
+
+void command_quit()
+{
+    finishes_without_failure([] { MainForm::of_run()->close(); });
+}
+
+}  // namespace verdane

@@ -1,0 +1,21 @@
+#pragma once
+
+/// What the user can ask of the main window: one plain routine for each command. Each tests what its
+/// window needs, then opens the window of the current language.
+namespace verdane {
+
+void command_new_round();
+void command_round_list();
+void command_course_list();
+void command_round_statistics();
+void command_about();
+
+/// Save and Close address the window that was at work last; without one nothing happens.
+void command_save();
+void command_close();
+
+void command_english();
+void command_french();
+void command_quit();
+
+}  // namespace verdane

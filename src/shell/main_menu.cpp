@@ -1,0 +1,58 @@
+#include "main_menu.h"
+
+#include "main_commands.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr bool locked = true;
+constexpr bool switched_off = true;
+
+top_menu file_menu()
+{
+    return {u"mfile",
+            {u"&Fichier", u"&File"},
+            {{u"mnSave", {u"&Enregistrer", u""}, command_save, !locked, switched_off},
+             {u"mClose", {u"&Fermer", u""}, command_close, !locked, switched_off},
+             {u"mEn", {u"English", u"English"}, command_english},
+             {u"mfr", {u"Français", u"Français"}, command_french},
+             {u"mQuit", {u"&Quitter", u"&Exit"}, command_quit, locked}}};
+}
+
+}  // namespace
+
+const std::vector<top_menu>& main_menu()
+{
+    static const std::vector<top_menu> menu{
+        file_menu(),
+        {u"Rondes",
+         {u"&Rondes", u"&Rounds"},
+         {{u"mOpen", {u"&Nouvelle ronde", u"&New Round"}, command_new_round, locked},
+          {u"mnOPenr", {u"&Gestion des rondes", u"&Round Management"}, command_round_list, locked}}},
+        {u"mCourses",
+         {u"&Terrains", u"&Golf Courses"},
+         {{u"mManagF", {u"&Gestion des terrains", u"&Golf Course Management"}, command_course_list, locked}},
+         locked},
+        {u"mnstat",
+         {u"&Statistiques", u"&Statistics"},
+         {{u"mnstatr", {u"Statistiques des r&ondes", u"Round Statistics"}, command_round_statistics}},
+         locked},
+        {u"maprop", {u"&A propos", u"&About"}, {}, locked, command_about},
+    };
+    return menu;
+}
+
+const std::vector<tool_button>& main_toolbar()
+{
+    static const std::vector<tool_button> toolbar{
+        {u"B1", u"Ajouter une ronde", command_new_round, locked},
+        {u"B2", u"Gestion des rondes", command_round_list, locked},
+        {u"B3", u"Gestion des terrain", command_course_list, locked},
+        {u"B4", u"Enregistrer", command_save},
+        {u"B5", u"Fermer", command_close},
+    };
+    return toolbar;
+}
+
+}  // namespace verdane

@@ -1,0 +1,104 @@
+#include "start_up.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "f_lang.h"
+#include "failure_guard.h"
+#include "language.h"
+#include "language_value.h"
+#include "look.h"
+#include "Main_module.h"
+#include "MainForm.h"
+#include "report_store.h"
+#include "toolkit_language.h"
+
+namespace verdane {
+
+namespace {
+
+/// Reads the language, asking for it when none was chosen yet.
+start_result settle_language(Recordset& rssettings)
+{
+    if (rssettings.Fields(u"language").is_null()) {
+        tell(QStringLiteral("Fatal Error - Unexpected Language Value - 1014"), QMessageBox::Critical);
+        return start_result::damaged;
+    }
+    if (!is_language_value(plain(rssettings.Fields(u"language").to_int16()))) {
+        f_lang window;
+        window.show_modal();
+    }
+    const int language = plain(rssettings.Fields(u"language").int16_or_zero());
+    if (!is_language_value(language))
+        return start_result::left;
+    is_french = language == french_value;
+    language_is_settled = true;
+    apply_toolkit_language();
+    return start_result::running;
+}
+
+}  // namespace
+
+void load_club_names()
+{
+    Recordset& rssticknames = data_environment().rssticknames;
+    rssticknames.Open();
+    rssticknames.MoveFirst();
+    for (int i = 0; i < Main_module::club_count; ++i)
+        Main_module::club_names[i] = rssticknames.Fields(i).text_or_empty();
+    rssticknames.Close();
+}
+
+void load_round_keys()
+{
+    Main_module::round_key_count = 0;
+    Recordset& rsgames = data_environment().rsgames;
+    rsgames.Open();
+    if (!rsgames.eof()) {
+        for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
+            Main_module::append_round_key(rsgames.Fields(0).trimmed());
+    }
+    rsgames.Close();
+}
+
+start_result Main()
+{
+    is_french = true;
+    data_environment().connection.Open();
+    set_report_store(data_environment().connection.path());
+    Recordset& rssettings = data_environment().rssettings;
+    rssettings.Open();
+    const start_result result = settle_language(rssettings);
+    load_club_names();
+    if (result != start_result::running)
+        return result;
+    rssettings.Close();
+    load_round_keys();
+    MainForm::show_first();
+    return result;
+}
+
+void prepare_application(QApplication& application)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Verdane"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.4"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("verdane"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/art/verdane.svg")));
+    apply_look(application);
+}
+
+int run_verdane(QApplication& application)
+{
+    start_result result = start_result::left;
+    run_event([&] { result = Main(); });
+    if (result == start_result::running) {
+        const int status = application.exec();
+        MainForm::end_of_run();
+        return status;
+    }
+    return result == start_result::damaged ? 1 : 0;
+}
+
+}  // namespace verdane

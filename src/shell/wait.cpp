@@ -1,0 +1,20 @@
+#include "wait.h"
+
+#include <QVBoxLayout>
+
+#include "control_array.h"
+#include "look.h"
+
+namespace verdane {
+
+wait_form::wait_form() : Form(u"wait", twins::one)
+{
+    setWindowTitle(QStringLiteral("Verdane"));
+    Label1 = named(make_label(QStringLiteral("Please Wait")), u"Label1");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6 * rhythm, 4 * rhythm, 6 * rhythm, 4 * rhythm);
+    layout->addWidget(Label1);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+}  // namespace verdane

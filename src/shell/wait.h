@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QLabel>
+
+#include "Form.h"
+
+namespace verdane {
+
+/// "Please Wait". It has its look, and no command opens it.
+class wait_form : public Form {
+public:
+    wait_form();
+
+    QLabel* Label1 = nullptr;
+};
+
+}  // namespace verdane
