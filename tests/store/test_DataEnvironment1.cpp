@@ -1,0 +1,136 @@
+#include "DataEnvironment1.h"
+
+#include <QTest>
+
+#include "catalogue.h"
+#include "failures.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::reader;
+
+namespace {
+
+struct expected {
+    const char* name;
+    const char* source;
+    const char* settings;
+};
+
+// As the catalogue is documented: cursor, lock, location, cache rows, time-out.
+constexpr expected nineteen[] = {
+    {"rsgames", "select *  from games order by date", "dynamic optimistic server 100 30"},
+    {"rsvrd_fields", "select * from vrd_fields", "dynamic optimistic server 100 30"},
+    {"rsfield_info", "select * from field_info", "dynamic optimistic server 100 30"},
+    {"rsgames2", "select * from games2 order by date", "static optimistic server 100 30"},
+    {"rspartners", "select * from partners order by name", "static batch client 100 30"},
+    {"rssticks", "select * from sticks", "static optimistic client 400 30"},
+    {"rss_put1", "select * from s_put1", "static batch client 400 30"},
+    {"rss_put2", "select * from s_put2", "static batch client 400 30"},
+    {"rsr_card", "select * from r_card", "static optimistic client 400 30"},
+    {"rsStat_rounds", "select * from Stat_rounds", "static optimistic server 100 30"},
+    {"rssticknames", "select * from sticknames", "static optimistic server 100 30"},
+    {"rsstat_sticks", "select * from stat_sticks", "static optimistic client 400 30"},
+    {"rsbuffer", "select * from stat_rounds", "static optimistic server 100 30"},
+    {"rsstats", "select * from stats", "static optimistic client 400 30"},
+    {"rssettings", "select * from settings", "static optimistic server 100 30"},
+    {"rshand", "select hnd from HAND ", "static batch client 100 30"},
+    {"rscryst_hand", "select * from Cryst_hand", "static optimistic server 100 30"},
+    {"rsr_cost", "select * from r_cost", "dynamic optimistic server 10 30"},
+    {"rscost", "select * from cost", "static optimistic client 400 30"},
+};
+
+QString described(const recordset_settings& s)
+{
+    const QStringList words{
+        s.cursor == cursor_type::dynamic ? QStringLiteral("dynamic") : QStringLiteral("static"),
+        s.lock == lock_type::optimistic ? QStringLiteral("optimistic") : QStringLiteral("batch"),
+        s.location == cursor_location::server ? QStringLiteral("server") : QStringLiteral("client"),
+        QString::number(s.cache_rows), QString::number(s.time_out_s)};
+    return words.join(u' ');
+}
+
+}  // namespace
+
+class test_DataEnvironment1 : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir folder_;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        data_environment().connection.Open(folder_.filePath(QStringLiteral("Verdbase.db")));
+    }
+
+    void a_recordset_has_its_design_time_settings_and_opens_data()
+    {
+        QTest::addColumn<int>("index");
+        for (std::size_t i = 0; i < std::size(nineteen); ++i)
+            QTest::addRow("%s", nineteen[i].name) << static_cast<int>(i);
+    }
+
+    void a_recordset_has_its_design_time_settings_and_opens()
+    {
+        QFETCH(int, index);
+        const auto at = static_cast<std::size_t>(index);
+        Recordset& recordset = data_environment().recordsets()[at];
+        QCOMPARE(recordset.name(), QString::fromLatin1(nineteen[at].name));
+        QCOMPARE(recordset.Source(), QString::fromLatin1(nineteen[at].source));
+        QCOMPARE(described(recordset.settings()), QString::fromLatin1(nineteen[at].settings));
+        recordset.Open();
+        recordset.Requery();
+        recordset.Close();
+        recordset.Open();
+        recordset.Close();
+    }
+
+    void the_catalogue_has_nineteen_entries()
+    {
+        QCOMPARE(catalogue().size(), std::size(nineteen));
+        QVERIFY(failure_of([] { catalogue_entry(u"rsgolfers"); }) == failure_kind::misuse);
+    }
+
+    void the_members_are_the_recordsets_of_their_names()
+    {
+        DataEnvironment1& environment = data_environment();
+        QCOMPARE(environment.rsStat_rounds.name(), QStringLiteral("rsStat_rounds"));
+        QCOMPARE(environment.rscryst_hand.name(), QStringLiteral("rscryst_hand"));
+        QCOMPARE(&environment.rscost, &environment.recordsets()[18].get());
+        QCOMPARE(&data_environment(), &environment);
+    }
+
+    void the_connection_string_is_the_design_time_one()
+    {
+        QCOMPARE(Connection1::connection_string(),
+                 QStringLiteral("Provider=MSDASQL.1;Persist Security Info=False;Data Source=Verdbase;"
+                                "Mode=ReadWrite;"));
+    }
+
+    void abandoning_drops_what_is_pending_and_closes_everything()
+    {
+        DataEnvironment1& environment = data_environment();
+        const QString path = environment.connection.path();
+        environment.rsgames.set_Source(QStringLiteral("Select * from games"));
+        environment.rsgames.Open();
+        environment.rsgames.AddNew();
+        environment.rspartners.Open();
+        environment.rspartners.AddNew();
+        environment.abandon();
+        QVERIFY(!environment.connection.is_open());
+        QVERIFY(!environment.rsgames.is_open());
+        QCOMPARE(environment.rsgames.Source(), QStringLiteral("select *  from games order by date"));
+        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from games")), 0);
+        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from partners")), 0);
+        environment.abandon();
+        environment.connection.Open(path);
+        environment.rsgames.Open();
+        QVERIFY(environment.rsgames.empty());
+        environment.rsgames.Close();
+    }
+};
+
+QTEST_GUILESS_MAIN(test_DataEnvironment1)
+#include "test_DataEnvironment1.moc"

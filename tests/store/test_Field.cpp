@@ -1,0 +1,143 @@
+#include <QTest>
+
+#include "failures.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::store_fixture;
+
+class test_Field : public QObject {
+    Q_OBJECT
+
+private:
+    store_fixture store_;
+
+    /// The one field of `select EXPRESSION`.
+    std::unique_ptr<Recordset> field_of(const char* expression)
+    {
+        return store_.opened(u"select " + QString::fromUtf8(expression));
+    }
+
+private Q_SLOTS:
+    void a_field_reads_as_a_count_an_amount_and_a_decimal_data()
+    {
+        QTest::addColumn<QByteArray>("expression");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<double>("decimal");
+        QTest::newRow("number") << QByteArray("42") << 42 << 42.0;
+        QTest::newRow("negative") << QByteArray("-3") << -3 << -3.0;
+        QTest::newRow("decimal, tie to even") << QByteArray("2.5") << 2 << 2.5;
+        QTest::newRow("text") << QByteArray("'17'") << 17 << 17.0;
+        QTest::newRow("text with a tail") << QByteArray("'71.3 m'") << 71 << 71.3;
+        QTest::newRow("empty text") << QByteArray("''") << 0 << 0.0;
+        QTest::newRow("no number") << QByteArray("'abc'") << 0 << 0.0;
+    }
+
+    void a_field_reads_as_a_count_an_amount_and_a_decimal()
+    {
+        QFETCH(QByteArray, expression);
+        QFETCH(int, count);
+        QFETCH(double, decimal);
+        const auto recordset = field_of(expression.constData());
+        const Field field = recordset->Fields(0);
+        QCOMPARE(plain(field.to_int16()), count);
+        QCOMPARE(plain(field.int16_or_zero()), count);
+        QCOMPARE(plain(field.to_int32()), count);
+        QCOMPARE(plain(field.int32_or_zero()), count);
+        QCOMPARE(field.to_double(), decimal);
+        QCOMPARE(field.double_or_zero(), decimal);
+    }
+
+    void a_number_outside_its_bits_is_an_overflow()
+    {
+        QVERIFY(failure_of([&] { field_of("32768")->Fields(0).to_int16(); }) == failure_kind::overflow);
+        QVERIFY(failure_of([&] { field_of("-32769")->Fields(0).int16_or_zero(); }) == failure_kind::overflow);
+        QVERIFY(failure_of([&] { field_of("'40000'")->Fields(0).to_int16(); }) == failure_kind::overflow);
+        QVERIFY(failure_of([&] { field_of("3000000000")->Fields(0).to_int32(); }) == failure_kind::overflow);
+        QVERIFY(failure_of([&] { field_of("1e300")->Fields(0).int32_or_zero(); }) == failure_kind::overflow);
+        QCOMPARE(plain(field_of("32768")->Fields(0).to_int32()), 32768);
+    }
+
+    void null_is_a_failure_unless_the_caller_allows_it()
+    {
+        const auto recordset = field_of("NULL");
+        const Field field = recordset->Fields(0);
+        QVERIFY(field.is_null());
+        QVERIFY(!field.value().isValid());
+        QVERIFY(failure_of([&] { field.text(); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([&] { field.to_int16(); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([&] { field.to_int32(); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([&] { field.to_double(); }) == failure_kind::invalid_null);
+        QCOMPARE(field.text_or_empty(), QString());
+        QCOMPARE(field.trimmed(), QString());
+        QCOMPARE(plain(field.int16_or_zero()), 0);
+        QCOMPARE(plain(field.int32_or_zero()), 0);
+        QCOMPARE(field.double_or_zero(), 0.0);
+        QVERIFY(!field.yes());
+    }
+
+    void text_keeps_its_blanks_and_trimmed_does_not()
+    {
+        const auto recordset = field_of("'  TOUTES '");
+        QCOMPARE(recordset->Fields(0).text(), QStringLiteral("  TOUTES "));
+        QCOMPARE(recordset->Fields(0).text_or_empty(), QStringLiteral("  TOUTES "));
+        QCOMPARE(recordset->Fields(0).trimmed(), QStringLiteral("TOUTES"));
+    }
+
+    void a_number_reads_as_text_without_a_leading_blank()
+    {
+        QCOMPARE(field_of("42")->Fields(0).text(), QStringLiteral("42"));
+        QCOMPARE(field_of("0.5")->Fields(0).text(), QStringLiteral("0.5"));
+    }
+
+    void yes_is_any_number_but_zero()
+    {
+        QVERIFY(field_of("1")->Fields(0).yes());
+        QVERIFY(field_of("-1")->Fields(0).yes());
+        QVERIFY(!field_of("0")->Fields(0).yes());
+    }
+
+    void every_kind_of_value_can_be_set_and_read_back()
+    {
+        const auto shots = store_.opened(QStringLiteral("select * from Stat_rounds"));
+        shots->AddNew();
+        shots->Fields(u"hole").set(int16(18));
+        shots->Fields(u"after").set(QStringLiteral("35"));
+        shots->Fields(u"before").set(149.6);
+        shots->Fields(u"ts").set(true);
+        shots->Fields(u"dz").set(0);
+        shots->Fields(u"stick").set(QStringLiteral("Pu"));
+        shots->Fields(u"unit").set_null();
+        shots->Update();
+        shots->Requery();
+        QCOMPARE(plain(shots->Fields(u"hole").to_int16()), 18);
+        QCOMPARE(plain(shots->Fields(u"after").to_int16()), 35);
+        QCOMPARE(plain(shots->Fields(u"before").to_int16()), 150);
+        QCOMPARE(shots->Fields(u"ts").value(), QVariant(true));
+        QCOMPARE(shots->Fields(u"dz").value(), QVariant(false));
+        QCOMPARE(shots->Fields(u"stick").text(), QStringLiteral("Pu"));
+        QVERIFY(shots->Fields(u"unit").is_null());
+        const auto cost = store_.opened(QStringLiteral("select * from cost"));
+        cost->AddNew();
+        cost->Fields(u"fg").set(int32(99999));
+        cost->Update();
+        QCOMPARE(plain(cost->Fields(u"fg").to_int32()), 99999);
+    }
+
+    void rating_and_slope_are_the_text_of_their_boxes()
+    {
+        const auto courses = store_.opened(QStringLiteral("select * from vrd_fields"));
+        courses->AddNew();
+        courses->Fields(8).set(QStringLiteral("71.30"));
+        courses->Fields(9).set(QStringLiteral(""));
+        courses->Update();
+        courses->Requery();
+        QCOMPARE(courses->Fields(8).text(), QStringLiteral("71.30"));
+        QCOMPARE(courses->Fields(8).to_double(), 71.3);
+        QCOMPARE(courses->Fields(9).to_double(), 0.0);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_Field)
+#include "test_Field.moc"

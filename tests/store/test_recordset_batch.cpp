@@ -1,0 +1,197 @@
+#include <QTest>
+
+#include "failures.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::names_of;
+using testing::store_fixture;
+using testing::stored_names;
+
+namespace {
+
+const QStringList three{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+
+std::unique_ptr<Recordset> partners_of(store_fixture& store)
+{
+    return store.opened(QStringLiteral("select * from partners"), lock_type::batch_optimistic);
+}
+
+void add(Recordset& partners, const char* name)
+{
+    partners.AddNew();
+    partners.Fields(u"name").set(QString::fromLatin1(name));
+}
+
+}  // namespace
+
+/// The batch-optimistic lock.
+class test_recordset_batch : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void changes_wait_for_the_batch_update_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::newRow("all") << static_cast<int>(affect::all);
+        QTest::newRow("all chapters") << static_cast<int>(affect::all_chapters);
+    }
+
+    void changes_wait_for_the_batch_update()
+    {
+        QFETCH(int, rows);
+        store_fixture store;
+        store.add_partners(three);
+        const auto partners = partners_of(store);
+        partners->Fields(u"name").set(QStringLiteral("A"));
+        partners->MoveNext();
+        partners->Delete();
+        add(*partners, "d");
+        partners->Update();
+        partners->MoveFirst();
+        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(names_of(*partners), QStringLiteral("A c d"));
+        QVERIFY(partners->pending());
+        partners->UpdateBatch(static_cast<affect>(rows));
+        QCOMPARE(stored_names(store), QStringLiteral("A c d"));
+        QVERIFY(!partners->pending());
+    }
+
+    void with_nothing_pending_the_batch_update_does_nothing()
+    {
+        store_fixture store;
+        const auto partners = partners_of(store);
+        partners->UpdateBatch();
+        partners->UpdateBatch();
+        QVERIFY(partners->empty());
+    }
+
+    void new_rows_are_stored_in_the_order_in_which_they_were_added()
+    {
+        store_fixture store;
+        const auto hand = store.opened(QStringLiteral("select hnd from HAND "), lock_type::batch_optimistic);
+        for (const double differential : {12.5, 3.0, 8.25}) {
+            hand->AddNew();
+            hand->Fields(u"hnd").set(differential);
+        }
+        QCOMPARE(hand->RecordCount(), 3);
+        hand->UpdateBatch(affect::all_chapters);
+        hand->Close();
+        hand->set_Source(QStringLiteral(" select * from hand order by hnd asc"));
+        hand->Open();
+        QStringList sorted;
+        for (; !hand->eof(); hand->MoveNext())
+            sorted += QString::number(hand->Fields(0).to_double());
+        QCOMPARE(sorted.join(u' '), QStringLiteral("3 8.25 12.5"));
+    }
+
+    void cancel_concerns_the_current_row_only()
+    {
+        store_fixture store;
+        store.add_partners(three);
+        const auto partners = partners_of(store);
+        partners->Fields(u"name").set(QStringLiteral("A"));
+        partners->MoveNext();
+        partners->Fields(u"name").set(QStringLiteral("B"));
+        partners->CancelUpdate();
+        add(*partners, "never");
+        partners->CancelUpdate();
+        QCOMPARE(partners->position(), 1);
+        partners->UpdateBatch();
+        QCOMPARE(stored_names(store), QStringLiteral("A b c"));
+    }
+
+    void cancel_after_the_row_it_came_from_was_deleted_stands_at_the_end()
+    {
+        store_fixture store;
+        store.add_partners(three);
+        const auto partners = partners_of(store);
+        add(*partners, "never");
+        partners->MoveFirst();
+        partners->Delete();
+        partners->MoveLast();
+        partners->CancelUpdate();
+        QVERIFY(partners->eof());
+        QCOMPARE(names_of(*partners), QStringLiteral("b c"));
+    }
+
+    void a_new_row_that_is_deleted_was_never_there()
+    {
+        store_fixture store;
+        const auto partners = partners_of(store);
+        add(*partners, "never");
+        partners->Delete();
+        QVERIFY(!partners->pending());
+        partners->UpdateBatch();
+        QCOMPARE(stored_names(store), QString());
+    }
+
+    void a_walk_can_delete_every_row()
+    {
+        store_fixture store;
+        store.add_partners(three);
+        const auto partners = partners_of(store);
+        for (; !partners->eof(); partners->MoveNext())
+            partners->Delete();
+        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        partners->UpdateBatch();
+        QCOMPARE(stored_names(store), QString());
+    }
+
+    void requery_shows_the_stored_rows_again()
+    {
+        store_fixture store;
+        store.add_partners(three);
+        const auto partners = partners_of(store);
+        partners->Fields(u"name").set(QStringLiteral("A"));
+        partners->MoveNext();
+        partners->Delete();
+        partners->Requery();
+        QVERIFY(!partners->pending());
+        QCOMPARE(names_of(*partners), QStringLiteral("a b c"));
+    }
+
+    void dropping_brings_every_row_back_to_its_place()
+    {
+        store_fixture store;
+        store.add_partners(
+            {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")});
+        const auto partners = partners_of(store);
+        add(*partners, "new");
+        partners->MoveFirst();
+        partners->Delete();
+        partners->MoveNext();
+        partners->Fields(u"name").set(QStringLiteral("typed"));
+        partners->Delete();
+        partners->MoveNext();
+        partners->Fields(u"name").set(QStringLiteral("C"));
+        partners->drop_pending();
+        QVERIFY(!partners->pending());
+        QCOMPARE(names_of(*partners), QStringLiteral("a b c d"));
+        partners->UpdateBatch();
+        QCOMPARE(stored_names(store), QStringLiteral("a b c d"));
+    }
+
+    void a_batch_that_fails_in_the_middle_stores_none_of_it_and_keeps_all_of_it()
+    {
+        store_fixture store;
+        store.add_partners(three);
+        const auto partners = partners_of(store);
+        partners->Delete();
+        partners->MoveNext();
+        partners->Fields(u"name").set(QStringLiteral("B"));
+        add(*partners, "bad");
+        store.connection.Execute(QStringLiteral("create temp trigger none before insert on partners "
+                                                "begin select raise(abort, 'refused'); end"));
+        QVERIFY(failure_of([&] { partners->UpdateBatch(); }) == failure_kind::store_other);
+        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QVERIFY(partners->pending());
+        store.connection.Execute(QStringLiteral("drop trigger none"));
+        partners->UpdateBatch();
+        QCOMPARE(stored_names(store), QStringLiteral("B c bad"));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_recordset_batch)
+#include "test_recordset_batch.moc"
