@@ -15,6 +15,13 @@
 #include "report_store.h"
 #include "toolkit_language.h"
 
+/// The pictures stand in a library, so the linker would leave them out: nothing else asks for them.
+/// The toolkit wants this said outside every namespace.
+static void keep_pictures()
+{
+    Q_INIT_RESOURCE(art);
+}
+
 namespace verdane {
 
 namespace {
@@ -82,9 +89,10 @@ start_result Main()
 
 void prepare_application(QApplication& application)
 {
+    keep_pictures();
     QCoreApplication::setApplicationName(QStringLiteral("Verdane"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.4"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("verdane"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.verdane.Verdane"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/art/verdane.svg")));
     apply_look(application);
 }
