@@ -1,0 +1,119 @@
+#include "Round_records.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "course_box.h"
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "Main_module.h"
+#include "round_columns.h"
+#include "round_panel.h"
+#include "round_parameters.h"
+#include "round_rows.h"
+#include "temperature_box.h"
+
+/// A hole between boxes and rows.
+namespace verdane {
+
+namespace {
+
+namespace at = round_columns;
+
+void show(QLineEdit& box, int16 value)
+{
+    box.setText(QString::number(plain(value)));
+}
+
+void show_strokes(f_new_round& window, const Round_functions::strokes& values)
+{
+    show(window.text_vrd(0), values.long_shots);
+    show(window.text_vrd(1), values.approach);
+    show(window.text_vrd(2), values.putts);
+    sum_stroke_boxes(window);
+}
+
+void show_penalties(f_new_round& window, const Round_functions::penalties& values)
+{
+    show(window.text_s(8), values.water);
+    show(window.text_s(9), values.lost);
+    show(window.text_s(10), values.rule);
+    show(window.text_s(11), values.bounds);
+    sum_penalty_boxes(window);
+}
+
+void show_situation(f_new_round& window, int16 hole)
+{
+    const Round_functions::situation values = Round_functions::read_situation(hole);
+    show(window.text_p(3), values.fairway);
+    show(window.text_p(4), values.sand);
+    show(window.text_p(5), values.missed);
+    show(window.text_p(6), Round_functions::read_recovery(hole));
+}
+
+void store_strokes(const f_new_round& window, int16 hole)
+{
+    const hole_figures f = window.figures();
+    Round_functions::store_strokes(hole, {f.long_shots, f.approach, f.putts});
+    Round_functions::store_penalties(hole, {f.pen_rule, f.pen_water, f.pen_bounds, f.pen_lost});
+}
+
+void store_situation(const f_new_round& window, int16 hole)
+{
+    const auto box = [&window](int index) { return window.text_p(index).text(); };
+    Round_functions::store_situation(hole, {box(3), box(4), box(5), box(6)});
+}
+
+}  // namespace
+
+void load_hole(f_new_round& window, int16 hole)
+{
+    show_strokes(window, Round_functions::read_strokes(hole));
+    show_penalties(window, Round_functions::read_penalties(hole));
+    show_situation(window, hole);
+    show_hole_card(window, hole);
+    show(window.text(40), hole);
+    refresh_panel(window, true);
+}
+
+void show_hole_card(f_new_round& window, int16 hole)
+{
+    const Round_functions::hole_card card = Round_functions::read_hole_card(hole);
+    show(window.text(39), card.yards);
+    show(window.text(38), card.par);
+    show(window.text(0), card.handicap);
+}
+
+int16 hole_in_boxes(const f_new_round& window)
+{
+    return figure_of_box(window.text(40).text());
+}
+
+void store_hole(f_new_round& window, int16 hole)
+{
+    store_strokes(window, hole);
+    store_partners(window);
+    store_situation(window, hole);
+}
+
+void store_partners(f_new_round& window)
+{
+    const QString text = Round_functions::partners_text(selected_partners(window));
+    data_environment().rsgames2.Fields(at::partners).set(text);
+}
+
+void store_round_header(f_new_round& window)
+{
+    DataEnvironment1& store = data_environment();
+    const QString code = Round_functions::course_code_at(window.cmb_courses->currentIndex());
+    store.rsgames.Fields(at::field).set(store.rsvrd_fields.Fields(at::name).value());
+    store.rsgames2.Fields(at::conditionM).set(window.conditions->currentIndex());
+    store.rsgames2.Fields(at::temperature).set(window.UpDown1->value());
+    store.rsgames.Fields(at::codef).set(code);
+    store.rsgames2.Fields(at::fc).set(code);
+    Main_module::append_round_key(store.rsgames.Fields(at::date).trimmed());
+    store.rsgames2.Update();
+    store.rsgames.Update();
+}
+
+}  // namespace verdane

@@ -1,0 +1,97 @@
+#include "f_get_date.h"
+
+#include <QCalendarWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "control_array.h"
+#include "events.h"
+#include "f_get_date_func.h"
+#include "look.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int time_digits = 3;
+
+QLineEdit* make_time_box(const QString& start, QStringView name)
+{
+    QLineEdit* box = named(make_number_box(time_digits), name);
+    box->setText(start);
+    return box;
+}
+
+}  // namespace
+
+f_get_date::f_get_date(f_new_round& round)
+    : Form(u"f_get_date", twins::one),
+      round_date(named(new QCalendarWidget, u"round_date")),
+      Text1(make_time_box(QStringLiteral("12"), u"Text1")),
+      Text2(make_time_box(QStringLiteral("00"), u"Text2")),
+      Text3(make_time_box(QStringLiteral("00"), u"Text3")),
+      OKbut(named(make_button(QStringLiteral("OK")), u"OKbut")),
+      Command1(named(make_button(QStringLiteral("Annuler")), u"Command1")),
+      round_(round)
+{
+    setWindowTitle(QStringLiteral("Date et heure du coup de départ"));
+    round_date->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    round_date->setSelectedDate(QDate::currentDate());
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    page->setSpacing(2 * rhythm);
+    page->addWidget(round_date, 1);
+    page->addLayout(make_time_line());
+    page->addLayout(make_button_line());
+    connect_events();
+}
+
+QLayout* f_get_date::make_time_line()
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(rhythm);
+    line->addStretch();
+    const std::pair<QLineEdit*, QString> boxes[] = {
+        {Text1, QStringLiteral("h")}, {Text2, QStringLiteral("min")}, {Text3, QStringLiteral("s")}};
+    for (const auto& [box, unit] : boxes) {
+        line->addWidget(box);
+        line->addWidget(make_label(unit, box));
+    }
+    line->addStretch();
+    return line;
+}
+
+QLayout* f_get_date::make_button_line()
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(rhythm);
+    line->addStretch();
+    for (QPushButton* button : {OKbut, Command1}) {
+        button->setMinimumWidth(12 * rhythm);
+        line->addWidget(button);
+    }
+    return line;
+}
+
+void f_get_date::connect_events()
+{
+    on_click(*OKbut, [this] { f_get_date_func::accept_date(*this, round_); });
+    on_click(*Command1, [this] { f_get_date_func::cancel(*this, round_); });
+    connect(round_date, &QCalendarWidget::activated, this,
+            [this](const QDate& date) { run_event([&] { f_get_date_func::date_chosen(*this, date); }); });
+}
+
+void f_get_date::activated()
+{
+    f_get_date_func::activate(*this);
+}
+
+void f_get_date::close_requested()
+{
+    f_get_date_func::cancel(*this, round_);
+}
+
+}  // namespace verdane

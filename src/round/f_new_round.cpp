@@ -1,0 +1,82 @@
+#include "f_new_round.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "course_box.h"
+#include "events.h"
+#include "f_new_round_func.h"
+#include "f_new_round_layout.h"
+#include "quick_entry.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int cancel_button = 2;
+
+}  // namespace
+
+f_new_round::f_new_round() : Form(u"f_new_round")
+{
+    set_hole_boxes(this);
+    lay_out(*this);
+    connect_events();
+    f_new_round_func::load(*this);
+}
+
+f_new_round::~f_new_round()
+{
+    if (is_loaded())
+        set_hole_boxes(nullptr);
+}
+
+int16 f_new_round::hole_shown() const
+{
+    return static_cast<std::int16_t>(cmb_holes->currentIndex() + 1);
+}
+
+hole_figures f_new_round::figures() const
+{
+    const auto stroke = [this](int index) { return figure_of_box(text_vrd(index).text()); };
+    const auto penalty = [this](int index) { return figure_of_box(text_s(index).text()); };
+    hole_figures f;
+    f.long_shots = stroke(0);
+    f.approach = stroke(1);
+    f.putts = stroke(2);
+    f.pen_rule = penalty(10);
+    f.pen_water = penalty(8);
+    f.pen_bounds = penalty(11);
+    f.pen_lost = penalty(9);
+    return f;
+}
+
+void f_new_round::connect_events()
+{
+    on_select(*cmb_holes, [this] { f_new_round_func::hole_selected(*this); });
+    on_select(*cmb_courses, [this] { f_new_round_func::course_selected(*this); });
+    TabStrip1->before_click = [this] { return f_new_round_func::hole_tab_before_click(*this); };
+    TabStrip1->clicked = [this] { f_new_round_func::hole_tab_clicked(*this); };
+    for (const auto& [index, button] : Command1.members())
+        on_click(*button, [this, pressed = index] { f_new_round_func::on_ok_cancel(*this, pressed); });
+    quick_entry::watch_boxes(*this);
+}
+
+void f_new_round::activated()
+{
+    f_new_round_func::activate(*this);
+}
+
+void f_new_round::unloading()
+{
+    f_new_round_func::unload(*this);
+    set_hole_boxes(nullptr);
+}
+
+void f_new_round::close_requested()
+{
+    f_new_round_func::on_ok_cancel(*this, cancel_button);
+}
+
+}  // namespace verdane

@@ -1,0 +1,277 @@
+#include "f_new_round_func.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "boxes.h"
+#include "course_box.h"
+#include "DataEnvironment1.h"
+#include "f_get_date.h"
+#include "f_new_round.h"
+#include "failure_guard.h"
+#include "keys.h"
+#include "main_frame.h"
+#include "round_columns.h"
+#include "round_panel.h"
+#include "round_parameters.h"
+#include "Round_records.h"
+#include "round_rows.h"
+
+namespace verdane::f_new_round_func {
+
+namespace {
+
+constexpr int ok_button = 4;
+constexpr int width_twips = 15360;
+constexpr int height_twips = 10020;
+
+void unload_round_list()
+{
+    if (Form* list = open_form(u"f_games"))
+        list->unload();
+}
+
+void start_values(f_new_round& window)
+{
+    window.get_date_canceled = false;
+    window.first_entry = true;
+    window.last_hole = 0;
+    window.Frame7->hide();
+    window.Label(4).setText(QStringLiteral("1"));
+    window.needSave = true;
+}
+
+void take_place(f_new_round& window)
+{
+    const QSize wanted(pixels(width_twips), pixels(height_twips));
+    window.resize(wanted.expandedTo(window.minimumSizeHint()));
+    current_form = &window;
+    Place_and_lock(window);
+}
+
+void fill_holes(f_new_round& window)
+{
+    QStringList numbers;
+    for (int hole = 1; hole <= round_columns::hole_count; ++hole)
+        numbers << QString::number(hole);
+    fill_silently(*window.cmb_holes, numbers);
+    window.cmb_holes->setCurrentIndex(0);
+}
+
+bool key_is_missing()
+{
+    return data_environment().rsgames2.Fields(round_columns::date).trimmed().isEmpty();
+}
+
+void ask_tee_off(f_new_round& window)
+{
+    window.choosing_date = true;
+    f_get_date dialog(window);
+    dialog.show_modal();
+    window.choosing_date = false;
+}
+
+void open_shots()
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    if (shots.is_open())
+        shots.Close();
+    shots.Open();
+    shots.Requery();
+}
+
+void close_round_tables()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Update();
+    store.rsgames2.Close();
+    store.rsvrd_fields.Close();
+    store.rscost.Close();
+    store.rspartners.Close();
+    store.rsgames.Close();
+    store.rsfield_info.Close();
+}
+
+void close_shots()
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    if (!shots.bof() && !shots.eof())
+        shots.Update();
+    shots.Close();
+    shots.set_Source(QStringLiteral("select * from stat_rounds"));
+}
+
+/// The tabs and the number follow whatever chose the hole.
+void follow_hole(f_new_round& window)
+{
+    window.TabStrip1->select(plain(window.hole_shown()));
+    window.Label(4).setText(QString::number(plain(window.hole_shown())));
+    window.Frame7->setVisible(window.hole_shown() == round_columns::hole_count);
+}
+
+void drop_changes()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames.CancelUpdate();
+    store.rsgames2.CancelUpdate();
+    store.rscost.CancelUpdate();
+    finishes_without_failure([&] { store.rsStat_rounds.CancelUpdate(); });
+}
+
+QMessageBox::StandardButton ask_to_save(const f_new_round& window)
+{
+    return show_message({window.caption(u"Voulez vous enregistrer les modifications avant de sortir ? ",
+                                        u"Do you want to save your changes prior to exit?"),
+                         QMessageBox::NoIcon, QString(),
+                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel});
+}
+
+/// `cmb_holes` stands on another hole already when one is left.
+int16 hole_to_save(const f_new_round& window, bool silent)
+{
+    if (silent)
+        return window.last_hole + 1;
+    return hole_in_boxes(window);
+}
+
+void save_and_close(f_new_round& window)
+{
+    window.needSave = true;
+    save_round(window, false);
+    if (!window.needSave)
+        window.unload();
+}
+
+void save_and_leave(f_new_round& window)
+{
+    save_round(window, true);
+    hole_tab_before_click(window);
+    Unlock_menu();
+    window.unload();
+}
+
+}  // namespace
+
+void load(f_new_round& window)
+{
+    start_values(window);
+    take_place(window);
+    // A stored round without its second row has no holes to show; `load_stored_round` says so.
+    if (data_environment().rsgames2.eof())
+        return;
+    fill_holes(window);
+    fill_conditions(window);
+    fill_partners(window);
+    data_environment().rsvrd_fields.MoveFirst();
+    show_cost_total(window);
+    window.conditions->setCurrentIndex(0);
+    window.text(2).clear();
+    unload_round_list();
+    // The list has unlocked the menu when it went.
+    Lock_menu();
+}
+
+void activate(f_new_round& window)
+{
+    if (window.choosing_date)
+        return;
+    if (key_is_missing())
+        ask_tee_off(window);
+    if (key_is_missing()) {
+        ask_and_close(window, true);
+        return;
+    }
+    open_shots();
+    window.text_vrd(0).setFocus(Qt::TabFocusReason);
+}
+
+void unload(f_new_round&)
+{
+    finishes_without_failure(close_round_tables);
+    finishes_without_failure(close_shots);
+    Unlock_menu();
+    unload_round_list();
+}
+
+void hole_selected(f_new_round& window)
+{
+    if (!window.first_entry)
+        save_round(window, true);
+    window.first_entry = false;
+    load_hole(window, window.hole_shown());
+    window.last_hole = static_cast<std::int16_t>(window.cmb_holes->currentIndex());
+    follow_hole(window);
+    refresh_score(window);
+}
+
+bool hole_tab_before_click(f_new_round& window)
+{
+    window.text_vrd(0).setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+void hole_tab_clicked(f_new_round& window)
+{
+    {
+        const QSignalBlocker silence(window.cmb_holes);
+        window.cmb_holes->setCurrentIndex(window.TabStrip1->selected() - 1);
+    }
+    // A click on the tab of the hole on screen changes no index, and what was typed is stored all the
+    // same.
+    hole_selected(window);
+    window.text_vrd(0).setFocus(Qt::TabFocusReason);
+    select_characters(window.text_vrd(0), 4);
+}
+
+void course_selected(f_new_round& window)
+{
+    const QString code = Round_functions::course_code_at(window.cmb_courses->currentIndex());
+    find_in_field_info(code);
+    show_hole_card(window, window.hole_shown());
+    refresh_panel(window, false);
+}
+
+void save_round(f_new_round& window, bool silent)
+{
+    if (window.text(2).text().isEmpty()) {
+        tell(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
+                            u"Please select a round's date first."),
+             QMessageBox::Critical);
+        return;
+    }
+    const int16 hole = hole_to_save(window, silent);
+    store_hole(window, hole);
+    store_round_header(window);
+    commit_round(window.date_value);
+    window.needSave = false;
+    if (!silent)
+        tell(window.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
+}
+
+void on_ok_cancel(f_new_round& window, int index)
+{
+    if (index == ok_button) {
+        save_and_leave(window);
+        return;
+    }
+    Unlock_menu();
+    ask_and_close(window, false);
+}
+
+void ask_and_close(f_new_round& window, bool skip_prompt)
+{
+    if (!window.needSave) {
+        window.unload();
+        return;
+    }
+    const auto answer = skip_prompt ? QMessageBox::No : ask_to_save(window);
+    if (answer == QMessageBox::Yes)
+        save_and_close(window);
+    if (answer != QMessageBox::No)
+        return;
+    drop_changes();
+    window.unload();
+}
+
+}  // namespace verdane::f_new_round_func

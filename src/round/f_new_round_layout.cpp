@@ -1,0 +1,91 @@
+#include "f_new_round_layout.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <vector>
+
+#include "course_box.h"
+#include "f_new_round.h"
+#include "look.h"
+#include "round_columns.h"
+#include "temperature_box.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int largest_tab_padding = 2 * rhythm;
+
+QWidget* make_hole_tabs(f_new_round& window)
+{
+    window.TabStrip1 = named(new TabStrip, u"TabStrip1");
+    for (int hole = 1; hole <= round_columns::hole_count; ++hole)
+        window.TabStrip1->addTab(QString::number(hole));
+    window.TabStrip1->setExpanding(true);
+    return window.TabStrip1;
+}
+
+QLayout* make_pages(f_new_round& window)
+{
+    auto* pages = new QHBoxLayout;
+    pages->setSpacing(largest_tab_padding);
+    pages->addWidget(make_quick_page(window));
+    pages->addWidget(make_statistics(window), 1);
+    pages->addWidget(make_parameters(window));
+    return pages;
+}
+
+QLayout* make_bottom(f_new_round& window)
+{
+    window.Command1.add(4, make_button(QStringLiteral("OK")));
+    window.Command1.add(2, make_button(window.caption(u"Annuler", u"Cancel")));
+    auto* bottom = new QHBoxLayout;
+    bottom->setSpacing(rhythm);
+    bottom->addWidget(make_totals(window));
+    bottom->addStretch();
+    for (const int index : {4, 2}) {
+        window.Command1(index).setMinimumWidth(12 * rhythm);
+        bottom->addWidget(&window.Command1(index), 0, Qt::AlignBottom);
+    }
+    return bottom;
+}
+
+/// The keys walk the quick page down to OK, as typing does, then what belongs to the round.
+void order_for_tab_key(f_new_round& window)
+{
+    std::vector<QWidget*> order;
+    for (const auto* boxes : {&window.text_vrd, &window.text_p, &window.text_s}) {
+        for (const auto& [index, box] : boxes->members()) {
+            if (box->focusPolicy() != Qt::NoFocus)
+                order.push_back(box);
+        }
+    }
+    order.insert(order.end(),
+                 {&window.Command1(4), &window.Command1(2), window.cmb_courses, window.conditions,
+                  window.UpDown1, window.pList, window.TabStrip1, window.cmb_holes, window.b_getdat});
+    for (std::size_t place = 1; place < order.size(); ++place)
+        QWidget::setTabOrder(order[place - 1], order[place]);
+}
+
+}  // namespace
+
+void lay_out(f_new_round& window)
+{
+    window.setWindowTitle(window.caption(u"Ronde", u"Round"));
+    auto* page = new QVBoxLayout(&window);
+    page->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    page->setSpacing(rhythm + rhythm / 2);
+    page->addWidget(make_hole_tabs(window));
+    page->addWidget(make_hole_bar(window));
+    page->addLayout(make_pages(window), 1);
+    page->addLayout(make_bottom(window));
+    order_for_tab_key(window);
+}
+
+}  // namespace verdane

@@ -1,0 +1,106 @@
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+#include "course_box.h"
+#include "f_new_round.h"
+#include "f_new_round_layout.h"
+#include "look.h"
+#include "temperature_box.h"
+
+/// What belongs to the round as a whole, and its totals.
+namespace verdane {
+
+namespace {
+
+constexpr int money_digits = 6;
+
+QLabel* make_heading(const QString& caption, QWidget* buddy)
+{
+    QLabel* heading = make_label(caption);
+    heading->setBuddy(buddy);
+    return heading;
+}
+
+void add_block(QVBoxLayout& frame, const QString& caption, QWidget* control, int stretch = 0)
+{
+    auto* block = new QVBoxLayout;
+    block->setSpacing(rhythm / 2);
+    block->addWidget(make_heading(caption, control));
+    block->addWidget(control, stretch);
+    frame.addLayout(block, stretch);
+}
+
+void add_line(QVBoxLayout& frame, const QString& caption, QWidget* control)
+{
+    auto* line = new QHBoxLayout;
+    line->setSpacing(rhythm);
+    line->addWidget(make_heading(caption, control));
+    line->addStretch();
+    line->addWidget(control);
+    frame.addLayout(line);
+}
+
+QListWidget* make_partner_list()
+{
+    auto* list = named(new QListWidget, u"pList");
+    list->setSelectionMode(QAbstractItemView::MultiSelection);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    list->setMinimumHeight(8 * rhythm);
+    return list;
+}
+
+QLabel* add_total(QHBoxLayout& line, const QString& caption, QStringView name)
+{
+    line.addWidget(make_label(caption));
+    auto* figure = named(new QLabel, name);
+    QFont bold = figure->font();
+    bold.setBold(true);
+    figure->setFont(bold);
+    figure->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("-00.00")));
+    line.addWidget(figure);
+    return figure;
+}
+
+}  // namespace
+
+QWidget* make_parameters(f_new_round& window)
+{
+    auto* frame = named(new QGroupBox(window.caption(u"Paramètres", u"Parameters")), u"Frame8");
+    auto* blocks = new QVBoxLayout(frame);
+    blocks->setSpacing(rhythm + rhythm / 2);
+    window.cmb_courses = named(new course_box, u"cmb_courses");
+    window.conditions = named(new QComboBox, u"conditions");
+    window.UpDown1 = named(new temperature_box, u"UpDown1");
+    window.pList = make_partner_list();
+    add_block(*blocks, window.caption(u"Terrain", u"Golf Course"), window.cmb_courses);
+    add_block(*blocks, window.caption(u"Conditions atmosphériques", u"Weather Conditions "),
+              window.conditions);
+    add_line(*blocks, QStringLiteral("Temp. :"), window.UpDown1);
+    add_block(*blocks, window.caption(u"Partenaires", u"Partners"), window.pList, 1);
+    add_line(*blocks, window.caption(u"Coûts", u"Costs"), window.text.add(7, make_figure(money_digits)));
+    return frame;
+}
+
+QWidget* make_totals(f_new_round& window)
+{
+    window.Frame7 = named(new QWidget, u"Frame7");
+    // Its place stays free on the other holes, so that nothing jumps.
+    QSizePolicy policy = window.Frame7->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    window.Frame7->setSizePolicy(policy);
+    auto* line = new QHBoxLayout(window.Frame7);
+    line->setContentsMargins(rhythm, 0, 0, 0);
+    line->setSpacing(rhythm);
+    window.l_brut = add_total(*line, QStringLiteral("Brut"), u"l_brut");
+    window.l_hand = add_total(*line, QStringLiteral("Handicap"), u"l_hand");
+    window.l_net = add_total(*line, QStringLiteral("Net"), u"l_net");
+    window.l_plus = add_total(*line, QStringLiteral("+/-"), u"l_plus");
+    return window.Frame7;
+}
+
+}  // namespace verdane

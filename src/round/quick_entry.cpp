@@ -1,0 +1,102 @@
+#include "quick_entry.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
+
+#include <vector>
+
+#include "boxes.h"
+#include "events.h"
+#include "f_new_round.h"
+#include "keys.h"
+#include "round_panel.h"
+
+namespace verdane::quick_entry {
+
+namespace {
+
+constexpr int selection_length = 4;
+
+std::vector<QLineEdit*> boxes_in_order(const f_new_round& window)
+{
+    std::vector<QLineEdit*> boxes;
+    for (int index = 0; index <= 2; ++index)
+        boxes.push_back(&window.text_vrd(index));
+    for (int index = 3; index <= 6; ++index)
+        boxes.push_back(&window.text_p(index));
+    for (int index = 8; index <= 11; ++index)
+        boxes.push_back(&window.text_s(index));
+    return boxes;
+}
+
+void move_on_to(QWidget& next)
+{
+    next.setFocus(Qt::TabFocusReason);
+    // At once, because the next digit may be waiting already.
+    if (auto* box = qobject_cast<QLineEdit*>(&next))
+        select_characters(*box, selection_length);
+}
+
+key_answer take_key(QLineEdit& box, QWidget& next, QChar key)
+{
+    if (key == backspace)
+        return key_answer::pass;
+    if (!is_plain_digit(key))
+        return key_answer::refuse;
+    box.insert(key);
+    move_on_to(next);
+    return key_answer::taken;
+}
+
+/// What comes in by another road than the keys (pasted, dropped) may hold digits only, too.
+void accept_digits_only(QLineEdit& box)
+{
+    static const QRegularExpression digits(QStringLiteral("[0-9]*"));
+    box.setValidator(new QRegularExpressionValidator(digits, &box));
+    QObject::connect(&box, &QLineEdit::inputRejected, &box, ring_bell);
+}
+
+void watch_keys(QLineEdit& box, QWidget& next)
+{
+    filter_keys(box, [&box, &next](QChar key) { return take_key(box, next, key); });
+    when_entered(box, [&box] { select_characters(box, selection_length); });
+    accept_digits_only(box);
+}
+
+void stroke_changed(f_new_round& window)
+{
+    refresh_panel(window, false);
+    sum_stroke_boxes(window);
+    refresh_score(window);
+}
+
+void penalty_changed(f_new_round& window)
+{
+    refresh_panel(window, false);
+    sum_penalty_boxes(window);
+}
+
+void watch_changes(f_new_round& window)
+{
+    for (int index = 0; index <= 2; ++index)
+        on_change(window.text_vrd(index), [&window] { stroke_changed(window); });
+    for (const auto& [index, box] : window.text_p.members())
+        on_change(*box, [&window] { refresh_panel(window, false); });
+    for (const auto& [index, box] : window.text_s.members())
+        on_change(*box, [&window] { penalty_changed(window); });
+}
+
+}  // namespace
+
+void watch_boxes(f_new_round& window)
+{
+    const std::vector<QLineEdit*> boxes = boxes_in_order(window);
+    for (std::size_t place = 0; place + 1 < boxes.size(); ++place)
+        watch_keys(*boxes[place], *boxes[place + 1]);
+    watch_keys(*boxes.back(), window.Command1(4));
+    watch_changes(window);
+}
+
+}  // namespace verdane::quick_entry

@@ -1,0 +1,179 @@
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "boxes.h"
+#include "course_box.h"
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "language.h"
+#include "round_columns.h"
+#include "round_key.h"
+#include "round_parameters.h"
+#include "Round_records.h"
+#include "round_rows.h"
+#include "temperature_box.h"
+
+/// How a round, new or stored, comes into the window.
+namespace verdane {
+
+namespace {
+
+namespace at = round_columns;
+
+void tell_no_course()
+{
+    // The two languages differ in the icon, too.
+    if (is_french)
+        tell(QStringLiteral("Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moins "
+                            "un terrain"),
+             QMessageBox::Critical, QStringLiteral("Verdane"));
+    else
+        tell(QStringLiteral("Verdane could not find any course. To create a round, you need to define at "
+                            "least one course."));
+}
+
+bool has_a_course()
+{
+    Recordset& courses = data_environment().rsvrd_fields;
+    courses.Open();
+    const bool none = courses.bof() || courses.eof();
+    if (none)
+        tell_no_course();
+    courses.Close();
+    return !none;
+}
+
+void zero_amounts(Recordset& costs)
+{
+    for (int ordinal = at::first_amount; ordinal <= at::last_amount; ++ordinal)
+        costs.Fields(ordinal).set(0);
+}
+
+void add_rows_without_key()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Open();
+    store.rsgames2.AddNew();
+    store.rsgames.AddNew();
+    store.rscost.Open();
+    store.rscost.AddNew();
+    zero_amounts(store.rscost);
+}
+
+void find_first(Recordset& recordset, QStringView criterion, const QString& value)
+{
+    recordset.MoveFirst();
+    recordset.Find(criterion + quoted(value));
+}
+
+void find_round(Recordset& recordset, const QString& key)
+{
+    if (!recordset.empty())
+        find_first(recordset, u"Date =", key);
+}
+
+void commit_and_find(Recordset& recordset, const QString& key)
+{
+    recordset.Update();
+    if (!recordset.empty())
+        recordset.MoveLast();
+    find_round(recordset, key);
+}
+
+void add_cost_row(const QString& key)
+{
+    Recordset& costs = data_environment().rscost;
+    costs.AddNew();
+    costs.Fields(at::date).set(key);
+    zero_amounts(costs);
+    costs.Update();
+}
+
+void show_date(f_new_round& window, const QString& key)
+{
+    window.text(2).setText(Verdane_tools::key_date_text(key));
+    window.text(3).setText(Verdane_tools::key_time_text(key));
+}
+
+bool refuse_without_second_row(f_new_round& window)
+{
+    tell(QStringLiteral("Error : games2 record not found"));
+    window.text(40).setText(QStringLiteral("1"));
+    window.unload();
+    return false;
+}
+
+}  // namespace
+
+void start_new_round()
+{
+    if (!has_a_course())
+        return;
+    data_environment().rsgames.Open();
+    data_environment().rsfield_info.Open();
+    prepare_round_window();
+}
+
+void prepare_round_window()
+{
+    add_rows_without_key();
+    data_environment().rsvrd_fields.Open();
+    f_new_round window;
+    fill_courses(window);
+    // Choosing the first course puts the recordsets of the courses on it.
+    window.cmb_courses->setCurrentIndex(0);
+    window.show_modal();
+}
+
+bool load_stored_round(f_new_round& window, const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    window.date_value = key;
+    if (store.rsgames2.eof())
+        return refuse_without_second_row(window);
+    find_first(store.rsgames, u"Date =", key);
+    const QString code = store.rsgames.Fields(at::codef).trimmed();
+    find_in_field_info(code);
+    fill_courses(window);
+    find_first(store.rsvrd_fields, u"CODE = ", code);
+    window.cmb_holes->setCurrentIndex(0);
+    window.cmb_courses->setCurrentIndex(window.cmb_courses->place_of(code));
+    window.text(40).setText(QStringLiteral("1"));
+    return true;
+}
+
+void load_round_header(f_new_round& window)
+{
+    if (!window.is_loaded())
+        return;
+    DataEnvironment1& store = data_environment();
+    find_round(store.rscost, window.date_value);
+    if (store.rscost.eof()) {
+        add_cost_row(store.rsgames.Fields(at::date).text());
+        store.rscost.MoveLast();
+    }
+    const QString cost = QString::number(plain(Round_functions::cost_total()));
+    window.conditions->setCurrentIndex(plain(store.rsgames2.Fields(at::conditionM).int16_or_zero()));
+    window.UpDown1->show_value(plain(store.rsgames2.Fields(at::temperature).int32_or_zero()));
+    window.text(1).setText(store.rsvrd_fields.Fields(at::name).text_or_empty());
+    show_date(window, window.date_value);
+    window.text(7).setText(cost);
+}
+
+void commit_round(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    for (Recordset* recordset : {&store.rsgames, &store.rsgames2, &store.rscost})
+        commit_and_find(*recordset, key);
+    find_first(store.rsvrd_fields, u"CODE = ", store.rsgames.Fields(at::codef).trimmed());
+    if (store.rscost.eof())
+        add_cost_row(key);
+}
+
+void find_in_field_info(const QString& code)
+{
+    find_first(data_environment().rsfield_info, u"FIELD_CODE = ", code);
+}
+
+}  // namespace verdane

@@ -1,0 +1,43 @@
+#include "round_panel.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include "f_new_round.h"
+#include "hole_classes.h"
+#include "Round_functions.h"
+
+namespace verdane {
+
+void refresh_panel(f_new_round& window, bool from_row)
+{
+    window.needSave = true;
+    const int16 hole = window.hole_shown();
+    const hole_figures figures = Round_functions::figures_of(hole, from_row);
+    const int16 par = Round_functions::hole_par(hole);
+    for (const selector_row& row : panel_selectors)
+        window.text(row.box).setText(hole_cell(row.selector, figures, par));
+}
+
+void refresh_score(f_new_round& window)
+{
+    const auto labels = Round_functions::labels_of(Round_functions::round_score(false));
+    window.l_hand->setText(labels.l_hand);
+    window.l_brut->setText(labels.l_brut);
+    window.l_net->setText(labels.l_net);
+    window.l_plus->setText(labels.l_plus);
+}
+
+void sum_stroke_boxes(f_new_round& window)
+{
+    const auto box = [&window](int index) { return window.text_vrd(index).text(); };
+    window.text_vrd(3).setText(sum_of_boxes({box(0), box(1), box(2)}));
+}
+
+void sum_penalty_boxes(f_new_round& window)
+{
+    const auto box = [&window](int index) { return window.text_s(index).text(); };
+    window.text(36).setText(sum_of_boxes({box(8), box(9), box(10), box(11)}));
+}
+
+}  // namespace verdane

@@ -1,0 +1,89 @@
+#include "round_parameters.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalBlocker>
+
+#include "course_box.h"
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "round_columns.h"
+#include "round_rows.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int partner_name = 0;
+constexpr int partner_surname = 1;
+constexpr int partner_code = 6;
+
+void add_partner(QListWidget& list, Recordset& partners)
+{
+    // A column without a value leaves the other one standing.
+    auto* line = new QListWidgetItem(QString(partners.Fields(partner_surname).text_or_empty() + u',' +
+                                             partners.Fields(partner_name).text_or_empty()),
+                                     &list);
+    const QString number = QString::number(plain(partners.Fields(partner_code).int32_or_zero()));
+    line->setData(Qt::UserRole, number);
+    line->setSelected(Round_functions::partner_in_round(number) >= 1);
+}
+
+}  // namespace
+
+void fill_silently(QComboBox& list, const QStringList& entries)
+{
+    const QSignalBlocker silence(&list);
+    list.clear();
+    list.addItems(entries);
+    list.setCurrentIndex(-1);
+}
+
+void fill_courses(f_new_round& window)
+{
+    Recordset& courses = data_environment().rsvrd_fields;
+    const QSignalBlocker silence(window.cmb_courses);
+    window.cmb_courses->clear();
+    for (courses.MoveFirst(); !courses.eof(); courses.MoveNext())
+        window.cmb_courses->add_course(courses.Fields(round_columns::name).text_or_empty(),
+                                       courses.Fields(round_columns::code).trimmed());
+    window.cmb_courses->setCurrentIndex(-1);
+}
+
+void fill_conditions(f_new_round& window)
+{
+    fill_silently(*window.conditions,
+                  {window.caption(u"Ensoleillé", u"Sunny"),
+                   window.caption(u"Ciel variable", u"Variable cloudiness"),
+                   window.caption(u"Pluie", u"Rainy"), window.caption(u"Vent", u"Windy")});
+    window.conditions->setCurrentIndex(0);
+}
+
+void fill_partners(f_new_round& window)
+{
+    Recordset& partners = data_environment().rspartners;
+    partners.Open();
+    if (partners.empty())
+        return;
+    for (partners.MoveFirst(); !partners.eof(); partners.MoveNext())
+        add_partner(*window.pList, partners);
+}
+
+QStringList selected_partners(const f_new_round& window)
+{
+    QStringList numbers;
+    for (int row = 0; row < window.pList->count(); ++row) {
+        const QListWidgetItem* line = window.pList->item(row);
+        if (line->isSelected())
+            numbers << line->data(Qt::UserRole).toString();
+    }
+    return numbers;
+}
+
+void show_cost_total(f_new_round& window)
+{
+    window.text(7).setText(QString::number(plain(Round_functions::cost_total())));
+}
+
+}  // namespace verdane

@@ -1,0 +1,73 @@
+#include "temperature_box.h"
+
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QWheelEvent>
+
+namespace verdane {
+
+namespace {
+
+constexpr int coldest = -30;
+constexpr int hottest = 50;
+
+}  // namespace
+
+temperature_box::temperature_box(QWidget* parent) : QSpinBox(parent)
+{
+    setRange(coldest, hottest);
+    setFocusPolicy(Qt::StrongFocus);
+    lineEdit()->setObjectName(QStringLiteral("Text1"));
+    lineEdit()->setText(textFromValue(0));
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { touched_ = true; });
+    connect(this, &QSpinBox::valueChanged, this, [this](int celsius) {
+        // A text that is being typed is left alone until the box is left.
+        if (!touched_ && !lineEdit()->isModified())
+            show_value(celsius);
+    });
+}
+
+void temperature_box::show_value(int celsius)
+{
+    touched_ = true;
+    setValue(celsius);
+}
+
+QString temperature_box::textFromValue(int value) const
+{
+    return touched_ ? QString(QString::number(value) + u" C") : QStringLiteral("  ");
+}
+
+int temperature_box::valueFromText(const QString& text) const
+{
+    static const QRegularExpression number(QStringLiteral("-?[0-9]+"));
+    const auto found = number.match(text);
+    return found.hasMatch() ? found.captured().toInt() : value();
+}
+
+QValidator::State temperature_box::validate(QString& text, int&) const
+{
+    static const QRegularExpression whole(QStringLiteral("^ *(-?[0-9]{1,2})? *C?$"));
+    static const QRegularExpression begun(QStringLiteral("^ *- *C?$"));
+    if (begun.match(text).hasMatch())
+        return QValidator::Intermediate;
+    const auto found = whole.match(text);
+    if (!found.hasMatch())
+        return QValidator::Invalid;
+    const int celsius = found.captured(1).toInt();
+    return celsius < coldest || celsius > hottest ? QValidator::Intermediate : QValidator::Acceptable;
+}
+
+void temperature_box::stepBy(int steps)
+{
+    touched_ = true;
+    QSpinBox::stepBy(steps);
+}
+
+void temperature_box::wheelEvent(QWheelEvent* event)
+{
+    // Turning the wheel over the page must not change the weather.
+    event->ignore();
+}
+
+}  // namespace verdane
