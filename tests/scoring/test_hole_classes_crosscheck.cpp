@@ -138,7 +138,7 @@ private:
         for (int selector = 0; selector <= 30; ++selector) {
             const QString cell = hole_cell(selector, f, par);
             const QString wanted = naive.cell(selector);
-            // A fresh message for each of a million cells would take longer than the check.
+            // A fresh message for each of some 200,000 cells would take longer than the check.
             if (cell != wanted || hole_cell_value(selector, f, par) != to_int16(cell))
                 QFAIL(qPrintable(QStringLiteral("class %1 of %2 %3 %4 +%5 on par %6: \"%7\", not \"%8\"")
                                      .arg(selector)
