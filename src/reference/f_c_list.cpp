@@ -7,6 +7,7 @@
 
 #include "events.h"
 #include "f_c_list_func.h"
+#include "list_box.h"
 #include "look.h"
 
 namespace verdane {
@@ -14,10 +15,11 @@ namespace verdane {
 namespace {
 
 constexpr QSize usual_size(560, 440);
+constexpr int list_characters = 40;
 
 }  // namespace
 
-f_c_list::f_c_list() : Form(u"f_c_list"), List1(named(new QListWidget, u"List1"))
+f_c_list::f_c_list() : Form(u"f_c_list"), List1(named(make_list_box(list_characters), u"List1"))
 {
     setWindowTitle(caption(u"Gestion des terrains", u"Golf Course Management "));
     auto* columns = new QHBoxLayout(this);
@@ -35,7 +37,6 @@ QLayout* f_c_list::make_list()
 {
     auto* heading = make_label(caption(u"Terrain / Terte", u"Golf Course / Teeing Area"));
     List1->setAccessibleName(heading->text());
-    List1->setAlternatingRowColors(true);
     auto* column = new QVBoxLayout;
     column->setSpacing(rhythm);
     column->addWidget(named(heading, u"lbl_list"));

@@ -26,9 +26,9 @@ constexpr int name_characters = 195;
 constexpr int address_characters = 255;
 
 constexpr int left_margin = 3 * rhythm;
-constexpr int column_gap = 4 * rhythm;
+constexpr int departure_width = 20 * rhythm;
 constexpr int heading_row = 0;
-constexpr int line_row = 1;
+/// A hole takes two rows: its figures, and the line below them.
 constexpr int first_hole_row = 2;
 enum hole_column { hole_number, verge, hnd, normal };
 
@@ -41,15 +41,21 @@ QLineEdit* make_hole_box(const QString& accessible_name)
     return box;
 }
 
-QWidget* make_accent_line()
+QWidget* make_line(const QColor& colour, int height)
 {
     auto* line = new QWidget;
-    line->setFixedHeight(2);
+    line->setFixedHeight(height);
     line->setAutoFillBackground(true);
     QPalette palette = line->palette();
-    palette.setColor(QPalette::Window, accent_green());
+    palette.setColor(QPalette::Window, colour);
     line->setPalette(palette);
     return line;
+}
+
+/// The lines across a page guide the eye from the hole to its par.
+void add_line(QGridLayout& grid, int row, QWidget* line)
+{
+    grid.addWidget(line, row, hole_number, 1, normal + 1);
 }
 
 void make_bold(QLabel& label)
@@ -59,12 +65,12 @@ void make_bold(QLabel& label)
     label.setFont(font);
 }
 
-QGridLayout* make_grid(QFrame& page, int gap)
+QGridLayout* make_grid(QFrame& page, int vertical_gap)
 {
     auto* grid = new QGridLayout(&page);
     grid->setContentsMargins(0, 2 * rhythm, 0, rhythm);
-    grid->setHorizontalSpacing(gap);
-    grid->setVerticalSpacing(rhythm);
+    grid->setHorizontalSpacing(2 * rhythm);
+    grid->setVerticalSpacing(vertical_gap);
     return grid;
 }
 
@@ -139,6 +145,7 @@ void f_courses::add_departure(QGridLayout& grid)
 {
     auto* label = make_label(caption(u"Départ :", u"Teeing Area :"));
     label->setBuddy(departure);
+    departure->setMinimumWidth(departure_width);
     const int row = grid.rowCount();
     grid.addWidget(label, row, 0);
     grid.addWidget(departure, row, 1, Qt::AlignLeft);
@@ -156,11 +163,12 @@ void f_courses::add_address(QGridLayout& grid)
 QFrame* f_courses::make_hole_page(int page, int first_index)
 {
     QFrame* frame = make_page(page);
-    QGridLayout* grid = make_grid(*frame, column_gap);
+    QGridLayout* grid = make_grid(*frame, rhythm);
     add_headings(*grid);
     for (int index = first_index; index < first_index + front_hole_count; ++index)
         add_hole(*grid, index);
-    grid->setColumnStretch(normal + 1, 1);
+    for (const int column : {verge, hnd, normal})
+        grid->setColumnStretch(column, 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return frame;
 }
@@ -173,9 +181,9 @@ void f_courses::add_headings(QGridLayout& grid)
     for (int column = hole_number; column <= normal; ++column) {
         QLabel* heading = make_label(captions[column]);
         make_bold(*heading);
-        grid.addWidget(heading, heading_row, column, Qt::AlignRight);
+        grid.addWidget(heading, heading_row, column, column == hole_number ? Qt::AlignLeft : Qt::AlignRight);
     }
-    grid.addWidget(make_accent_line(), line_row, hole_number, 1, normal + 1);
+    add_line(grid, heading_row + 1, make_line(accent_green(), 2));
 }
 
 void f_courses::add_hole(QGridLayout& grid, int index)
@@ -184,11 +192,12 @@ void f_courses::add_hole(QGridLayout& grid, int index)
     txt_verge.add(index, make_hole_box(hole + caption(u"distance", u"distance")));
     txt_hnd.add(index, make_hole_box(hole + caption(u"handicap", u"handicap")));
     txt_normal.add(index, make_hole_box(hole + caption(u"normale", u"par")));
-    const int row = first_hole_row + index % front_hole_count;
-    grid.addWidget(make_label(QString::number(index + 1)), row, hole_number, Qt::AlignRight);
+    const int row = first_hole_row + 2 * (index % front_hole_count);
+    grid.addWidget(make_label(QString::number(index + 1)), row, hole_number);
     grid.addWidget(&txt_verge(index), row, verge, Qt::AlignRight);
     grid.addWidget(&txt_hnd(index), row, hnd, Qt::AlignRight);
     grid.addWidget(&txt_normal(index), row, normal, Qt::AlignRight);
+    add_line(grid, row + 1, make_line(palette().color(QPalette::Midlight).darker(103), 1));
 }
 
 QLayout* f_courses::make_foot()
