@@ -1,0 +1,106 @@
+#include "f_games.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "events.h"
+#include "f_games_func.h"
+#include "list_box.h"
+#include "look.h"
+
+namespace verdane {
+
+namespace {
+
+// Date, time, a course's name of some length and the mark.
+constexpr int characters_of_a_line = 62;
+constexpr int lines_in_view = 16;
+
+}  // namespace
+
+f_games::f_games() : Form(u"f_games")
+{
+    build();
+    connect_events();
+    f_games_func::load(*this);
+}
+
+void f_games::build()
+{
+    setWindowTitle(caption(u"Gestion des rondes", u"Round Management "));
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(2 * rhythm);
+    columns->addWidget(make_rounds_frame(), 1);
+    columns->addWidget(make_buttons());
+    auto* warning = named(make_label(caption(u"** Attention : Ces rondes ne sont pas complétées",
+                                             u"**Attention : these rounds have not been completed.")),
+                          u"Label1");
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    rows->setSpacing(rhythm);
+    rows->addLayout(columns, 1);
+    rows->addWidget(warning);
+    adjustSize();
+}
+
+QWidget* f_games::make_rounds_frame()
+{
+    auto* frame =
+        named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), u"Frame1");
+    List1 = named(make_list_box(characters_of_a_line), u"List1");
+    List1->setMinimumHeight(List1->fontMetrics().lineSpacing() * lines_in_view);
+    List1->setAccessibleName(frame->title());
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    inside->addWidget(List1);
+    return frame;
+}
+
+QWidget* f_games::make_buttons()
+{
+    auto* column = new QWidget;
+    auto* rows = new QVBoxLayout(column);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(rhythm);
+    rows->addSpacing(2 * rhythm);
+    rows->addWidget(Command1.add(open, make_button(caption(u"Ouvrir", u"Open"))));
+    rows->addWidget(Command1.add(add, make_button(caption(u"Ajouter", u"Add"))));
+    rows->addStretch(1);
+    rows->addWidget(Command1.add(ok, make_button(QStringLiteral("OK"))));
+    return column;
+}
+
+void f_games::connect_events()
+{
+    for (const auto& [index, button] : Command1.members())
+        on_click(*button, [this, which = index] { f_games_func::on_command(*this, which); });
+    on_double_click(*List1, [this] { f_games_func::on_command(*this, open); });
+    // Enter on a line is the double click of the keyboard.
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* enter = new QShortcut(QKeySequence(key), List1);
+        enter->setContext(Qt::WidgetShortcut);
+        connect(enter, &QShortcut::activated, this,
+                [this] { run_event([this] { f_games_func::on_command(*this, open); }); });
+    }
+}
+
+void f_games::closeForm()
+{
+    f_games_func::on_command(*this, ok);
+}
+
+void f_games::close_requested()
+{
+    f_games_func::on_command(*this, ok);
+}
+
+void f_games::unloading()
+{
+    f_games_func::unload();
+}
+
+}  // namespace verdane

@@ -1,0 +1,108 @@
+#include "f_games_func.h"
+
+#include <QListWidget>
+#include <QPushButton>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "f_games.h"
+#include "f_new_round.h"
+#include "failure_guard.h"
+#include "list_box.h"
+#include "main_frame.h"
+#include "round_key.h"
+#include "round_list.h"
+#include "Round_records.h"
+#include "stored_round.h"
+
+namespace verdane::f_games_func {
+
+namespace {
+
+void close_recordsets()
+{
+    DataEnvironment1& store = data_environment();
+    // Save and Close of the main window may address a list that has gone already.
+    for (Recordset* rows : {&store.rsgames, &store.rsfield_info}) {
+        if (rows->is_open())
+            rows->Close();
+    }
+}
+
+void close_window(f_games& window)
+{
+    if (!window.is_loaded())
+        return;
+    Unlock_menu();
+    close_recordsets();
+    window.unload();
+}
+
+void stop_without_rounds(f_games& window)
+{
+    tell(window.caption(u"Il n'y a pas de ronde enregistrée", u"There is no round registered"),
+         QMessageBox::Information);
+    close_window(window);
+}
+
+/// The round window takes the list away when it is made.
+void show_stored_round(const QString& key)
+{
+    f_new_round round;
+    load_stored_round(round, key);
+    load_round_header(round);
+    // The key of a stored round never changes.
+    round.b_getdat->setEnabled(false);
+    round.show_modal();
+}
+
+void open_selected_round(f_games& window)
+{
+    const QListWidgetItem* selected = window.List1->currentItem();
+    if (!selected)
+        return;
+    const QString key = Verdane_tools::key_of_entry(selected->text());
+    open_rows_of_round(key);
+    show_stored_round(key);
+    // A round window that refused the round has not come to close everything.
+    close_recordsets();
+}
+
+}  // namespace
+
+void load(f_games& window)
+{
+    current_form = &window;
+    Place_and_lock(window);
+    DataEnvironment1& store = data_environment();
+    store.rsgames.Open();
+    store.rsfield_info.Open();
+    if (store.rsgames.eof()) {
+        stop_without_rounds(window);
+        return;
+    }
+    fill_list_box(*window.List1, Round_functions::round_list_lines());
+}
+
+void on_command(f_games& window, int index)
+{
+    switch (index) {
+    case f_games::open:
+        open_selected_round(window);
+        break;
+    case f_games::add:
+        // A round exists, so there is a course: the new round starts without that test.
+        prepare_round_window();
+        close_recordsets();
+        break;
+    default:
+        close_window(window);
+    }
+}
+
+void unload()
+{
+    finishes_without_failure([] { Unlock_menu(); });
+}
+
+}  // namespace verdane::f_games_func

@@ -1,0 +1,31 @@
+#include "round_list.h"
+
+#include "DataEnvironment1.h"
+#include "round_columns.h"
+#include "round_key.h"
+#include "round_rows.h"
+
+namespace verdane::Round_functions {
+
+namespace {
+
+QString line_of_current_row(Recordset& games)
+{
+    return Verdane_tools::round_entry(games.Fields(round_columns::date).text_or_empty(),
+                                      games.Fields(round_columns::field).text_or_empty(), round_incomplete());
+}
+
+}  // namespace
+
+QStringList round_list_lines()
+{
+    Recordset& games = data_environment().rsgames;
+    QStringList lines;
+    if (games.eof())
+        return lines;
+    for (games.MoveFirst(); !games.eof(); games.MoveNext())
+        lines << line_of_current_row(games);
+    return lines;
+}
+
+}  // namespace verdane::Round_functions

@@ -1,0 +1,160 @@
+#include "f_date_range.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "events.h"
+#include "f_date_range_func.h"
+#include "list_box.h"
+#include "look.h"
+
+namespace verdane {
+
+namespace {
+
+// Date, time, a course's name of some length and the mark.
+constexpr int characters_of_a_line = 52;
+constexpr int lines_in_view = 12;
+
+QComboBox* make_filter(QStringView name)
+{
+    auto* filter = named(new QComboBox, name);
+    filter->setMinimumContentsLength(28);
+    filter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    return filter;
+}
+
+}  // namespace
+
+f_date_range::f_date_range(statistics_mode mode) : Form(u"f_date_range"), cr2(this)
+{
+    build();
+    connect_events();
+    set_mode(mode);
+    f_date_range_func::load(*this);
+}
+
+/// One run button is left, and the title names what it runs.
+void f_date_range::set_mode(statistics_mode mode)
+{
+    Command2->setVisible(mode == statistics_mode::round);
+    if (mode == statistics_mode::round)
+        setWindowTitle(caption(u"Statistiques des rondes", u"Round Statistics"));
+}
+
+void f_date_range::build()
+{
+    auto* lists = new QHBoxLayout;
+    lists->setSpacing(2 * rhythm);
+    lists->addWidget(make_list_frame(u"Frame1", 0, caption(u"De...", u"From..."), List1));
+    lists->addWidget(make_list_frame(u"Frame2", 1, caption(u"À...", u"To..."), List2));
+    auto* choices = new QHBoxLayout;
+    choices->setSpacing(4 * rhythm);
+    choices->addLayout(make_filters());
+    choices->addLayout(make_counts(), 1);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    rows->setSpacing(2 * rhythm);
+    rows->addLayout(lists, 1);
+    rows->addLayout(choices);
+    rows->addLayout(make_foot());
+    adjustSize();
+}
+
+QWidget* f_date_range::make_list_frame(QStringView name, int label, const QString& words, QListWidget*& list)
+{
+    auto* frame = named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), name);
+    list = named(make_list_box(characters_of_a_line), label == 0 ? u"List1" : u"List2");
+    list->setMinimumHeight(list->fontMetrics().lineSpacing() * lines_in_view);
+    list->setAccessibleName(words);
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    inside->setSpacing(rhythm / 2);
+    inside->addWidget(Label1.add(label, make_label(words)));
+    inside->addWidget(list);
+    return frame;
+}
+
+QLayout* f_date_range::make_filters()
+{
+    cmb_courses = make_filter(u"cmb_courses");
+    pList = make_filter(u"pList");
+    conditions = make_filter(u"conditions");
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(rhythm);
+    form->setVerticalSpacing(rhythm);
+    form->addRow(Label1.add(2, make_label(caption(u"Terrain :", u"Golf Course :"))), cmb_courses);
+    form->addRow(Label1.add(3, make_label(caption(u"Partenaire :", u"Partners :"))), pList);
+    form->addRow(Label1.add(4, make_label(caption(u"Conditions atmosphériques :", u"Weather Conditions :"))),
+                 conditions);
+    return form;
+}
+
+QLayout* f_date_range::make_counts()
+{
+    auto* count = new QHBoxLayout;
+    count->setSpacing(rhythm);
+    count->addWidget(Label1.add(6, make_label(caption(u"Nombre de parties jouées:", u"Number of rounds :"))));
+    count->addWidget(Label1.add(count_label, make_label(QStringLiteral("XX"))), 1);
+    auto* rows = new QVBoxLayout;
+    rows->setSpacing(rhythm);
+    rows->addWidget(
+        Label1.add(5, make_label(caption(u"** Attention : Ces rondes ne sont pas complétées",
+                                         u"**Attention : these rounds have not been completed."))));
+    rows->addLayout(count);
+    rows->addStretch(1);
+    return rows;
+}
+
+QLayout* f_date_range::make_foot()
+{
+    Status = named(new QProgressBar, u"Status");
+    Status->setRange(0, 100);
+    Status->setValue(0);
+    Status->setTextVisible(false);
+    // The buttons stay where they are when the bar comes and goes.
+    QSizePolicy keeps_its_place = Status->sizePolicy();
+    keeps_its_place.setRetainSizeWhenHidden(true);
+    Status->setSizePolicy(keeps_its_place);
+    Status->hide();
+    Command2 = named(make_button(QStringLiteral("OK")), u"Command2");
+    CancelButton = named(make_button(caption(u"Annuler", u"Cancel")), u"CancelButton");
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(rhythm);
+    foot->addWidget(Status, 1);
+    foot->addSpacing(2 * rhythm);
+    foot->addWidget(Command2);
+    foot->addWidget(CancelButton);
+    return foot;
+}
+
+void f_date_range::connect_events()
+{
+    for (QListWidget* list : {List1, List2})
+        on_select(*list, [this] { f_date_range_func::count_rounds_between(*this); });
+    on_click(*Command2, [this] { f_date_range_func::run_round_statistics(*this); });
+    on_click(*CancelButton, [this] { f_date_range_func::cancel(*this); });
+}
+
+void f_date_range::closeForm()
+{
+    f_date_range_func::close_form(*this);
+}
+
+void f_date_range::close_requested()
+{
+    unload();
+}
+
+void f_date_range::unloading()
+{
+    f_date_range_func::unload();
+}
+
+}  // namespace verdane

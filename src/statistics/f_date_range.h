@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QProgressBar>
+
+#include "control_array.h"
+#include "counts.h"
+#include "Form.h"
+#include "report_control.h"
+
+class QComboBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+namespace verdane {
+
+/// What the selection window is opened for: the statistic that its OK button runs.
+enum class statistics_mode { round };
+
+/// The window in which the user picks the rounds of a statistic; in English `f_date_range_en`. It
+/// stays open after a run.
+///
+/// Making the window loads it. Without a stored round it says so, and `show_modal` then returns
+/// at once. No recordset is open while it waits.
+class f_date_range final : public Form {
+public:
+    explicit f_date_range(statistics_mode mode = statistics_mode::round);
+
+    QListWidget* List1 = nullptr;
+    QListWidget* List2 = nullptr;
+    QComboBox* cmb_courses = nullptr;
+    QComboBox* pList = nullptr;
+    QComboBox* conditions = nullptr;
+    QPushButton* Command2 = nullptr;
+    QPushButton* CancelButton = nullptr;
+    QProgressBar* Status = nullptr;
+    /// The labels; the last one is the number of stored rounds.
+    control_array<QLabel> Label1{u"Label1"};
+    static constexpr int count_label = 7;
+
+    report_control cr2;
+
+    /// Rounds from the one selected in `List1` to that in `List2`, both included; below 1 when the
+    /// range runs backwards. Nothing shows it.
+    int16 rounds_between = 0;
+
+    void closeForm() override;
+
+protected:
+    void unloading() override;
+    void close_requested() override;
+
+private:
+    void build();
+    void set_mode(statistics_mode mode);
+    QWidget* make_list_frame(QStringView name, int label, const QString& words, QListWidget*& list);
+    QLayout* make_filters();
+    QLayout* make_counts();
+    QLayout* make_foot();
+    void connect_events();
+};
+
+}  // namespace verdane

@@ -1,0 +1,91 @@
+#include "handicap.h"
+
+#include "checked_array.h"
+#include "DataEnvironment1.h"
+#include "Main_module.h"
+#include "round_arithmetic.h"
+#include "Round_functions.h"
+
+namespace verdane::Statistics {
+
+namespace {
+
+using differentials = checked_array<double, Main_module::most_rounds>;
+
+void open_recordsets(const selection_arguments& chosen)
+{
+    DataEnvironment1& store = data_environment();
+    store.rsvrd_fields.Open();
+    store.rsfield_info.Open();
+    store.connection.Execute(QStringLiteral("DELETE FROM HAND"));
+    store.rsgames.set_Source(selected_rounds_statement(chosen));
+    store.rsgames.Open();
+    store.rshand.Open();
+    store.rsgames.Requery();
+    store.rsgames2.Open();
+}
+
+void close_recordsets()
+{
+    DataEnvironment1& store = data_environment();
+    for (Recordset* rows :
+         {&store.rsgames, &store.rsvrd_fields, &store.rsfield_info, &store.rshand, &store.rsgames2})
+        rows->Close();
+    store.rsgames.set_Source(QStringLiteral("Select * from games"));
+    store.rshand.set_Source(QStringLiteral("select * from hand"));
+}
+
+/// One row of `hand` for each round. The list in memory is read by nothing, but has no room for more
+/// rounds than a store may hold.
+missing_row gather_differentials(const selection_arguments& chosen)
+{
+    Recordset& hand = data_environment().rshand;
+    differentials list;
+    int taken = 0;
+    return walk_selected_rounds(chosen, [&] {
+        const double figure = Round_functions::round_score(true).differential;
+        list[taken++] = figure;
+        hand.AddNew();
+        hand.Fields(u"hnd").set(figure);
+    });
+}
+
+/// The store sorts: the best differential comes first.
+void sort_differentials()
+{
+    Recordset& hand = data_environment().rshand;
+    hand.UpdateBatch(affect::all_chapters);
+    hand.Close();
+    hand.set_Source(QStringLiteral(" select * from hand order by hnd asc"));
+    hand.Open();
+}
+
+QString handicap_of_sorted_differentials()
+{
+    Recordset& hand = data_environment().rshand;
+    const int16 take = handicap_take(static_cast<std::int16_t>(hand.RecordCount()));
+    double sum = 0;
+    if (!hand.empty())
+        hand.MoveFirst();
+    for (int i = 0; i < plain(take); ++i) {
+        sum += hand.Fields(u"hnd").to_double();
+        hand.MoveNext();
+    }
+    return handicap_text(take, sum);
+}
+
+}  // namespace
+
+handicap_result compute_handicap(const selection_arguments& chosen)
+{
+    open_recordsets(chosen);
+    handicap_result result{gather_differentials(chosen), {}};
+    if (result.missing == missing_row::none) {
+        sort_differentials();
+        result.text = handicap_of_sorted_differentials();
+    }
+    close_recordsets();
+    return result;
+}
+
+}  // namespace verdane::Statistics

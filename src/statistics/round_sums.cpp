@@ -1,0 +1,34 @@
+#include "round_sums.h"
+
+namespace verdane {
+
+void round_sums::add_hole(int h, const played_hole& hole)
+{
+    const int16 gross = hole_gross(hole.figures);
+    strokes[h].add(gross);
+    water[h].add(hole.figures.pen_water);
+    lost[h].add(hole.figures.pen_lost);
+    rule[h].add(hole.figures.pen_rule);
+    bounds[h].add(hole.figures.pen_bounds);
+    sand[h].add(hole.sand);
+    missed[h].add(hole.missed);
+    fairway[h].add(hole.fairway);
+    penalties[h] = water[h];
+    for (const tally& part : {lost[h], rule[h], bounds[h]})
+        penalties[h].add(part.sum);
+    over[h] += plain(gross) - plain(hole.par);
+    add_classes(h, hole);
+}
+
+void round_sums::add_classes(int h, const played_hole& hole)
+{
+    for (int i = 1; i <= class_count; ++i)
+        classes[i][h].add(hole_cell_value(summary_selector(i), hole.figures, hole.par));
+    // A hole has one par, so at most one of the three averages takes its strokes.
+    for (int par = 3; par <= 5; ++par) {
+        if (hole_cell_value(summary_selector(place_of_average(par)), hole.figures, hole.par) != 0)
+            averaged[par][h].add(static_cast<std::int16_t>(1));
+    }
+}
+
+}  // namespace verdane

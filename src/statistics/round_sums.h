@@ -1,0 +1,71 @@
+#pragma once
+
+#include "checked_array.h"
+#include "hole_arithmetic.h"
+#include "hole_classes.h"
+
+/// What the round statistics add up, hole by hole. Everything here is pure: the figures of one hole of
+/// one round go in, sums come out. A sum beyond 16 bits fails with `overflow`.
+namespace verdane {
+
+constexpr int holes_of_round = 18;
+constexpr int last_front_hole = 9;
+
+/// One value for each hole, indexed 1 to 18.
+template <typename Value>
+using by_hole = checked_array<Value, holes_of_round, 1>;
+
+/// A 16-bit sum that starts at 0.
+struct tally {
+    int16 sum = 0;
+
+    void add(int16 value) { sum = sum + value; }
+};
+
+/// One hole of one round, as it was played.
+struct played_hole {
+    hole_figures figures;
+    int16 par = 0;
+    int16 sand = 0;
+    int16 missed = 0;
+    int16 fairway = 0;
+};
+
+/// The sums over the rounds of a selection.
+struct round_sums {
+    int16 rounds = 0;
+
+    by_hole<tally> strokes;
+    by_hole<tally> water;
+    by_hole<tally> lost;
+    by_hole<tally> rule;
+    by_hole<tally> bounds;
+    by_hole<tally> penalties;
+    by_hole<tally> fairway;
+    by_hole<tally> sand;
+    by_hole<tally> missed;
+
+    /// Strokes less par. A hole that was not played counts as minus its par.
+    by_hole<double> over;
+
+    /// The 24 classes, by their place 1 to 24 in the report (`summary_selector`): how many holes
+    /// belong to each; the places of the three averages hold strokes.
+    checked_array<by_hole<tally>, class_count, 1> classes;
+
+    /// How many holes entered the averages of par 3, 4 and 5, by that par.
+    checked_array<by_hole<tally>, 3, 3> averaged;
+
+    void add_round() { rounds = rounds + static_cast<std::int16_t>(1); }
+    void add_hole(int h, const played_hole& hole);
+
+private:
+    void add_classes(int h, const played_hole& hole);
+};
+
+/// The place in the report of the average of par 3, 4 or 5: 15, 16 or 17.
+constexpr int place_of_average(int par)
+{
+    return par + 12;
+}
+
+}  // namespace verdane

@@ -1,0 +1,74 @@
+#include "selected_rounds.h"
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "numbers.h"
+#include "round_columns.h"
+#include "round_rows.h"
+
+namespace verdane {
+
+namespace {
+
+bool found(Recordset& rows, const QString& criterion)
+{
+    if (rows.empty())
+        return false;
+    rows.MoveFirst();
+    rows.Find(criterion);
+    return !rows.bof() && !rows.eof();
+}
+
+missing_row locate_rows_of_round()
+{
+    DataEnvironment1& store = data_environment();
+    const QString course = quoted(store.rsgames.Fields(round_columns::codef).text_or_empty());
+    if (!found(store.rsvrd_fields, u"CODE = " + course))
+        return missing_row::course;
+    if (!found(store.rsfield_info, u"FIELD_CODE = " + course))
+        return missing_row::holes;
+    const QString key = quoted(store.rsgames.Fields(round_columns::date).text_or_empty());
+    return found(store.rsgames2, u"Date =" + key) ? missing_row::none : missing_row::games2;
+}
+
+bool passes_filters(const selection_arguments& chosen)
+{
+    Recordset& games2 = data_environment().rsgames2;
+    if (!chosen.weather_value.isEmpty() &&
+        games2.Fields(round_columns::conditionM).to_int16() != to_int16(chosen.weather_value))
+        return false;
+    return chosen.partner_number.isEmpty() || Round_functions::partner_in_round(chosen.partner_number) > 0;
+}
+
+}  // namespace
+
+QString selected_rounds_statement(const selection_arguments& chosen)
+{
+    QString statement = u" select * from games where ( date>= " + quoted(chosen.from_key) + u" AND date <=" +
+                        quoted(chosen.to_key) + u")";
+    if (chosen.course_code.size() > 1)
+        statement += u" AND CODEF=" + quoted(chosen.course_code);
+    return statement;
+}
+
+missing_row walk_selected_rounds(const selection_arguments& chosen, const std::function<void()>& take)
+{
+    Recordset& games = data_environment().rsgames;
+    if (!games.eof())
+        games.MoveFirst();
+    for (; !games.eof(); games.MoveNext()) {
+        const missing_row missing = locate_rows_of_round();
+        if (missing != missing_row::none)
+            return missing;
+        if (passes_filters(chosen))
+            take();
+    }
+    return missing_row::none;
+}
+
+void tell_missing_row(missing_row row)
+{
+    tell(QStringLiteral("Fatal Error : %1 ").arg(static_cast<int>(row)), QMessageBox::Critical, QString());
+}
+
+}  // namespace verdane

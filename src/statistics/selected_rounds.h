@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+#include "counts.h"
+#include "selection_arguments.h"
+
+/// The stored rounds of a selection, one after the other, each with its rows of the other tables.
+namespace verdane {
+
+/// The row that a stored round lacks, by the number it is told to the user with.
+enum class missing_row { none = 0, course = 1, holes = 2, games2 = 3 };
+
+/// The rounds between two keys, on one course when its code has more than one character. Weather and
+/// partner stand in another table and are tested round by round.
+QString selected_rounds_statement(const selection_arguments& chosen);
+
+/// Walks `rsgames` from its first row to its end. For each round `rsvrd_fields`, `rsfield_info` and
+/// `rsgames2` are put on its rows; when weather and partner let it pass, `take` is called. A round
+/// without one of its rows ends the walk, and the answer names that row. The caller has opened the
+/// four recordsets.
+missing_row walk_selected_rounds(const selection_arguments& chosen, const std::function<void()>& take);
+
+/// The critical box for a missing row, the same in both languages.
+void tell_missing_row(missing_row row);
+
+}  // namespace verdane

@@ -1,0 +1,76 @@
+#include "selection_lists.h"
+
+#include <QComboBox>
+
+#include <array>
+
+#include "DataEnvironment1.h"
+#include "language.h"
+#include "round_columns.h"
+#include "Verdane_tools.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr std::array<text_pair, 5> weathers = {{
+    {u"Toutes", u"ALL"},
+    {u"Ensoleillé", u"Sunny"},
+    {u"Ciel variable", u"Variable cloudiness"},
+    {u"Pluie", u"Rainy"},
+    {u"Vent", u"Windy"},
+}};
+
+constexpr int course_width = 20;
+
+QString partner_line(Recordset& partners)
+{
+    constexpr int name = 0;
+    constexpr int surname = 1;
+    return partners.Fields(surname).text_or_empty() + u", " + partners.Fields(name).text_or_empty();
+}
+
+QString course_line(Recordset& courses)
+{
+    QString name = courses.Fields(round_columns::name).text_or_empty();
+    const QString code = courses.Fields(round_columns::code).trimmed();
+    return Verdane_tools::pad_right(name, static_cast<std::int16_t>(course_width)) + u", " +
+           Verdane_tools::tee_name(QStringView(code).right(1));
+}
+
+template <typename Add>
+void for_each_row(Recordset& rows, Add add)
+{
+    rows.Open();
+    if (!rows.empty()) {
+        for (rows.MoveFirst(); !rows.eof(); rows.MoveNext())
+            add(rows);
+    }
+    rows.Close();
+}
+
+}  // namespace
+
+void fill_partner_filter(QComboBox& list, bool french)
+{
+    list.addItem(text_pair{u"Tous", u"All"}.in(french));
+    for_each_row(data_environment().rspartners, [&list](Recordset& partners) {
+        list.addItem(partner_line(partners), plain(partners.Fields(u"code").int32_or_zero()));
+    });
+}
+
+void fill_course_filter(QComboBox& list, bool french)
+{
+    list.addItem(text_pair{u"Tous les terrains", u"All courses"}.in(french));
+    for_each_row(data_environment().rsvrd_fields,
+                 [&list](Recordset& courses) { list.addItem(course_line(courses)); });
+}
+
+void fill_weather_filter(QComboBox& list, bool french)
+{
+    for (const text_pair& weather : weathers)
+        list.addItem(weather.in(french));
+    list.setCurrentIndex(0);
+}
+
+}  // namespace verdane

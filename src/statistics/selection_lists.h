@@ -1,0 +1,18 @@
+#pragma once
+
+class QComboBox;
+
+/// The filters of the selection window. Each begins with the entry that filters nothing; the others
+/// follow in the order of their table's rows.
+namespace verdane {
+
+/// SURNAME, NAME of every partner; an entry's data is the partner's code.
+void fill_partner_filter(QComboBox& list, bool french);
+
+/// Name and tee of every course.
+void fill_course_filter(QComboBox& list, bool french);
+
+/// The four kinds of weather, in the order of their stored values.
+void fill_weather_filter(QComboBox& list, bool french);
+
+}  // namespace verdane

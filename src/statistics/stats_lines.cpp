@@ -1,0 +1,112 @@
+#include "stats_lines.h"
+
+#include "numbers.h"
+
+namespace verdane {
+
+namespace {
+
+struct nines {
+    tally front;
+    tally back;
+
+    int16 both() const { return front.sum + back.sum; }
+};
+
+nines nines_of(const by_hole<tally>& sums)
+{
+    nines result;
+    for (int h = 1; h <= holes_of_round; ++h)
+        (h <= last_front_hole ? result.front : result.back).add(sums[h].sum);
+    return result;
+}
+
+by_hole<double> as_decimals(const by_hole<tally>& sums)
+{
+    by_hole<double> values;
+    for (int h = 1; h <= holes_of_round; ++h)
+        values[h] = plain(sums[h].sum);
+    return values;
+}
+
+double mean_or_zero(int16 strokes, int16 count)
+{
+    return count < 1 ? 0 : static_cast<double>(plain(strokes)) / plain(count);
+}
+
+bool several_rounds(const round_sums& sums)
+{
+    return sums.rounds > 1;
+}
+
+}  // namespace
+
+stats_line line_of(const by_hole<tally>& sums)
+{
+    stats_line line;
+    line.holes = as_decimals(sums);
+    const nines halves = nines_of(sums);
+    line.front_nine = plain(halves.front.sum);
+    line.back_nine = plain(halves.back.sum);
+    line.all_holes = plain(halves.both());
+    return line;
+}
+
+stats_line strokes_line(const round_sums& sums)
+{
+    stats_line line = line_of(sums.strokes);
+    if (several_rounds(sums))
+        line.all_holes /= plain(sums.rounds);
+    return line;
+}
+
+stats_line over_line(const round_sums& sums)
+{
+    by_hole<double> means;
+    if (sums.rounds > 0) {
+        for (int h = 1; h <= holes_of_round; ++h)
+            means[h] = sums.over[h] / plain(sums.rounds);
+    }
+    return totalled(means);
+}
+
+stats_line average_line(const round_sums& sums, int par)
+{
+    const by_hole<tally>& strokes = sums.classes[place_of_average(par)];
+    const by_hole<tally>& counts = sums.averaged[par];
+    stats_line line;
+    for (int h = 1; h <= holes_of_round; ++h)
+        line.holes[h] = round_half_even(mean_or_zero(strokes[h].sum, counts[h].sum));
+    const nines played = nines_of(counts);
+    const nines taken = nines_of(strokes);
+    line.front_nine = mean_or_zero(taken.front.sum, played.front.sum);
+    line.back_nine = mean_or_zero(taken.back.sum, played.back.sum);
+    line.all_holes = mean_or_zero(taken.both(), played.both());
+    return line;
+}
+
+by_hole<double> class_holes(const round_sums& sums, int place)
+{
+    for (int par = 3; par <= 5; ++par) {
+        if (place == place_of_average(par))
+            return average_line(sums, par).holes;
+    }
+    return as_decimals(sums.classes[place]);
+}
+
+stats_line totalled(const by_hole<double>& holes)
+{
+    stats_line line;
+    line.holes = holes;
+    for (int h = 1; h <= holes_of_round; ++h)
+        (h <= last_front_hole ? line.front_nine : line.back_nine) += holes[h];
+    line.all_holes = line.front_nine + line.back_nine;
+    return line;
+}
+
+QString average_mark(const round_sums& sums)
+{
+    return several_rounds(sums) ? QStringLiteral("0") : QStringLiteral(" ");
+}
+
+}  // namespace verdane

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+
+#include "round_sums.h"
+
+/// What the rows of the round statistics hold, computed from the sums. Everything here is pure.
+namespace verdane {
+
+/// One row's figures.
+struct stats_line {
+    by_hole<double> holes;
+    double front_nine = 0;
+    double back_nine = 0;
+    double all_holes = 0;
+};
+
+/// The sums as they stand, both nines and their total. The nines and the total are added in 16 bits
+/// and fail with `overflow` beyond them.
+stats_line line_of(const by_hole<tally>& sums);
+
+/// Strokes. With more than one round `all_holes` is the mean score of a round; the holes and the nines
+/// stay sums.
+stats_line strokes_line(const round_sums& sums);
+
+/// Strokes less par, per round; zeros when there is no round.
+stats_line over_line(const round_sums& sums);
+
+/// Mean strokes on the holes of one par (3 to 5): whole numbers in the holes, ties to even, unrounded
+/// in the nines and over all; 0 where no such hole was played.
+stats_line average_line(const round_sums& sums, int par);
+
+/// The holes of one class by its place, 1 to 24; the places of the averages hold the means.
+by_hole<double> class_holes(const round_sums& sums, int place);
+
+/// A row's holes with both nines and their total, added as decimals.
+stats_line totalled(const by_hole<double>& holes);
+
+/// "0" when `all_holes` of the strokes is a mean, one blank when it is the one round's total.
+QString average_mark(const round_sums& sums);
+
+}  // namespace verdane

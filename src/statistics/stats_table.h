@@ -1,0 +1,34 @@
+#pragma once
+
+#include "round_sums.h"
+#include "selection_arguments.h"
+
+/// The rows of the report table `stats`, written through `rsstats` in the order laid down for them. A
+/// row that is left is committed.
+namespace verdane::stats_table {
+
+/// Opens `rsstats`, puts every figure of every row to 0 and stands on row 1.
+void open_cleared();
+
+/// The detail pass: for every row of `rsStat_rounds` (one for each hole, eleven columns) writes the
+/// hole's figures into rows 1 to 9, starting and ending on row 1. Fails with `subscript` on a hole that
+/// is not 1 to 18.
+void write_detail();
+
+/// The summary pass: every row, from the sums over the rounds. The table stays open.
+void write_round_lines(const round_sums& sums);
+
+/// The texts of row 0: the choices and both ends of the range.
+void write_heading(const selection_arguments& chosen);
+
+/// Both nines and the total of every row from row 1 on, added from its holes. The rows of the averages
+/// keep their means.
+void write_totals();
+
+/// The handicap of row 0, which becomes the current row.
+void write_handicap(const QString& text);
+
+/// The number of rounds of row 0; then everything is committed and the table closed.
+void write_round_count_and_close(int16 rounds);
+
+}  // namespace verdane::stats_table
