@@ -42,15 +42,26 @@ void make_folder(const QString& path)
                                QStringLiteral("the folder %1 cannot be made").arg(folder));
 }
 
+/// Opening the file for writing is the only honest answer to whether it may be written: its
+/// permissions do not tell, and the engine itself finds out as late as its first checkpoint.
+void open_for_check(QFile& file)
+{
+    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        return;
+    const QString reason = file.fileName() + u": " + file.errorString();
+    const bool readable = file.open(QIODevice::ReadOnly);
+    throw run_time_failure(readable ? failure_kind::store_read_only : failure_kind::store_unreachable,
+                           reason);
+}
+
 /// The engine would take a very short text file for a store that was never filled.
-void check_file_head(const QString& path)
+void check_file(const QString& path)
 {
     QFile file(path);
-    if (!file.exists() || file.size() == 0)
+    if (!file.exists())
         return;
-    if (!file.open(QIODevice::ReadOnly))
-        throw run_time_failure(failure_kind::store_unreachable, QString(path + u": " + file.errorString()));
-    if (file.read(16) != QByteArray("SQLite format 3", 16))
+    open_for_check(file);
+    if (file.size() > 0 && file.read(16) != QByteArray("SQLite format 3", 16))
         throw run_time_failure(failure_kind::store_damaged, QString(path + u": not a store"));
 }
 
@@ -62,8 +73,8 @@ void check_soundness(const QSqlDatabase& database)
                                QString(database.databaseName() + u": " + verdict));
 }
 
-/// Permissions cannot be asked for reliably; taking the write lock is the proof, and changes nothing.
-void check_writable(Connection1& connection)
+/// Takes the write lock, which changes nothing: a tool in the middle of its own work is met here.
+void check_no_other_writer(Connection1& connection)
 {
     connection.Execute(QStringLiteral("BEGIN IMMEDIATE"));
     connection.Execute(QStringLiteral("ROLLBACK"));
@@ -115,7 +126,7 @@ void Connection1::Open(const QString& path)
 
 void Connection1::open_engine()
 {
-    check_file_head(path_);
+    check_file(path_);
     {
         QSqlDatabase engine = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
         engine.setDatabaseName(path_);
@@ -124,7 +135,7 @@ void Connection1::open_engine()
             throw store_failure(engine.lastError(), path_);
     }
     check_soundness(database());
-    check_writable(*this);
+    check_no_other_writer(*this);
     // WAL lets report printing and other readers look on while the program writes.
     answer(database(), QStringLiteral("PRAGMA journal_mode=WAL"));
     Execute(QStringLiteral("PRAGMA synchronous=FULL"));

@@ -60,6 +60,9 @@ private:
     QTemporaryDir folder_;
 
 private Q_SLOTS:
+    // The folder goes before the application object does.
+    void cleanupTestCase() { data_environment().abandon(); }
+
     void initTestCase()
     {
         data_environment().connection.Open(folder_.filePath(QStringLiteral("Verdbase.db")));

@@ -6,8 +6,6 @@
 using namespace verdane;
 using testing::failure_of;
 
-Q_DECLARE_METATYPE(verdane::column_type)
-
 class test_column_value : public QObject {
     Q_OBJECT
 

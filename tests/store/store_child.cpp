@@ -1,0 +1,89 @@
+// A program beside the test: opens a store as the real one does and reports the kind of failure in
+// its exit status. Tests kill it, take its rights away or let its disk run full.
+#include <QCoreApplication>
+#include <QFile>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include "Connection1.h"
+#include "Recordset.h"
+#include "store_child.h"
+
+using namespace verdane;
+
+namespace {
+
+void become_nobody()
+{
+    // As root no permission would ever be missing. Someone else has none to give away.
+    if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0))
+        std::exit(testing::child_broken);
+}
+
+/// No file may grow beyond so many bytes from now on: the nearest thing to a full disk that needs
+/// no rights.
+void limit_files(const char* bytes)
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlim_t most = std::strtoul(bytes, nullptr, 10);
+    const rlimit limit{most, most};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
+        std::exit(testing::child_broken);
+}
+
+void say(int number)
+{
+    std::printf("%d\n", number);
+    std::fflush(stdout);
+}
+
+/// Adds partners for ever, and says after each commit how many there are.
+void write_partners(Connection1& connection)
+{
+    Recordset partners(connection, {QStringLiteral("rspartners"), QStringLiteral("select * from partners")});
+    partners.Open();
+    const QString filler(500, u'x');
+    for (int code = partners.RecordCount() + 1;; ++code) {
+        partners.AddNew();
+        partners.Fields(u"name").set(QString::number(code));
+        partners.Fields(u"ad1").set(filler);
+        partners.Fields(u"code").set(code);
+        partners.Update();
+        say(code);
+    }
+}
+
+void run(const QByteArray& mode, const QString& path, const char* argument)
+{
+    Connection1 connection;
+    if (mode == "nobody")
+        become_nobody();
+    connection.Open(path);
+    if (mode == "write" || mode == "fill") {
+        if (mode == "fill")
+            limit_files(argument);
+        write_partners(connection);
+    }
+    if (mode == "hold") {
+        say(0);
+        std::getchar();
+    }
+}
+
+}  // namespace
+
+int main(int count, char** arguments)
+{
+    const QCoreApplication application(count, arguments);
+    try {
+        run(arguments[1], QFile::decodeName(arguments[2]), count > 3 ? arguments[3] : "");
+    } catch (const run_time_failure& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return testing::child_failed + static_cast<int>(failure.kind());
+    }
+    return 0;
+}

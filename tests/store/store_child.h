@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <optional>
+
+#include "run_time_failure.h"
+
+namespace verdane::testing {
+
+/// Exit status of the program beside the test.
+constexpr int child_broken = 99;
+constexpr int child_failed = 100;
+
+/// Starts it; it lies beside the test programs.
+inline void start_child(QProcess& child, const QString& mode, const QString& path, int argument = 0)
+{
+    child.start(QCoreApplication::applicationDirPath() + u"/store_child",
+                {mode, path, QString::number(argument)});
+}
+
+/// Runs it to its end; the kind of failure it met, or nothing.
+inline std::optional<failure_kind> child_failure(QProcess& child)
+{
+    if (!child.waitForFinished(120000) || child.exitStatus() != QProcess::NormalExit ||
+        (child.exitCode() != 0 && child.exitCode() < child_failed))
+        qFatal("the program beside the test broke: %s", child.readAllStandardError().constData());
+    if (child.exitCode() == 0)
+        return std::nullopt;
+    return static_cast<failure_kind>(child.exitCode() - child_failed);
+}
+
+}  // namespace verdane::testing

@@ -1,0 +1,224 @@
+#include <QTest>
+
+#include "failures.h"
+#include "relaxed_commits.h"
+#include "store_child.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::child_failure;
+using testing::failure_of;
+using testing::start_child;
+using testing::store_fixture;
+
+namespace {
+
+QString setting(Connection1& connection, const char* name)
+{
+    Recordset answer(connection, {QStringLiteral("rsanswer"), u"PRAGMA " + QString::fromLatin1(name)});
+    answer.Open();
+    return answer.Fields(0).text();
+}
+
+}  // namespace
+
+class test_Connection1 : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_folder_is_made_when_it_is_missing()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("a/b c/é/Verdbase.db"));
+        Connection1 connection;
+        connection.Open(path);
+        QVERIFY(QFile::exists(path));
+        QCOMPARE(connection.path(), path);
+    }
+
+    void the_default_place_is_the_users_data_folder()
+    {
+        QVERIFY(Connection1::default_path().endsWith(QStringLiteral("/Verdbase.db")));
+        QVERIFY(QDir::isAbsolutePath(Connection1::default_path()));
+    }
+
+    void commits_survive_a_power_cut()
+    {
+        store_fixture store;
+        QCOMPARE(setting(store.connection, "journal_mode"), QStringLiteral("wal"));
+        QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("2"));
+    }
+
+    void an_open_connection_cannot_be_opened()
+    {
+        store_fixture store;
+        QVERIFY(failure_of([&] { store.connection.Open(store.path()); }) == failure_kind::misuse);
+        QVERIFY(store.connection.is_open());
+    }
+
+    void closing_twice_is_harmless_and_leaves_one_file()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a")});
+        store.connection.Close();
+        store.connection.Close();
+        QVERIFY(!store.connection.is_open());
+        const QDir folder = QFileInfo(store.path()).absoluteDir();
+        QCOMPARE(folder.entryList(QDir::Files), QStringList{QStringLiteral("Verdbase.db")});
+        QCOMPARE(testing::stored_names(store), QStringLiteral("a"));
+    }
+
+    void another_connection_reads_while_the_program_writes()
+    {
+        store_fixture store;
+        store.connection.Execute(QStringLiteral("BEGIN IMMEDIATE"));
+        store.add_partners({QStringLiteral("a")});
+        QCOMPARE(testing::stored_names(store), QString());
+        store.connection.Execute(QStringLiteral("COMMIT"));
+        QCOMPARE(testing::stored_names(store), QStringLiteral("a"));
+    }
+
+    void a_second_connection_of_the_same_program_is_kept_off()
+    {
+        store_fixture store;
+        Connection1 second;
+        QVERIFY(failure_of([&] { second.Open(store.path()); }) == failure_kind::store_locked);
+        QVERIFY(!second.is_open());
+        store.add_partners({QStringLiteral("a")});
+        store.connection.Close();
+        second.Open(store.path());
+        QVERIFY(second.is_open());
+    }
+
+    void a_second_program_is_kept_off_until_the_first_ends()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        QProcess first;
+        start_child(first, QStringLiteral("hold"), path);
+        QVERIFY(first.waitForReadyRead(60000));
+        Connection1 second;
+        QVERIFY(failure_of([&] { second.Open(path); }) == failure_kind::store_locked);
+        QCOMPARE(testing::reader(path).number(QStringLiteral("select count(*) from stats")), 34);
+        first.closeWriteChannel();
+        QVERIFY(!child_failure(first));
+        second.Open(path);
+        QVERIFY(second.is_open());
+    }
+
+    void a_program_finds_the_store_in_use()
+    {
+        store_fixture store;
+        QProcess second;
+        start_child(second, QStringLiteral("hold"), store.path());
+        QVERIFY(child_failure(second) == failure_kind::store_locked);
+    }
+
+    void a_lock_without_an_owner_keeps_nobody_out_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("cut short") << QByteArray();
+        QTest::newRow("garbage") << QByteArray("\0\0\0\0", 4);
+        QTest::newRow("written elsewhere") << QByteArray("1\nverdane\nanother-machine\n");
+        QTest::newRow("dead owner") << QByteArray("999999999\nverdane\n\n");
+    }
+
+    void a_lock_without_an_owner_keeps_nobody_out()
+    {
+        QFETCH(QByteArray, content);
+        store_fixture store;
+        store.connection.Close();
+        QFile lock(store.path() + u".lock");
+        QVERIFY(lock.open(QIODevice::WriteOnly));
+        lock.write(content);
+        lock.close();
+        store.connection.Open(store.path());
+        QVERIFY(store.connection.is_open());
+    }
+
+    void relaxed_commits_end_with_everything_on_the_disk_and_full_safety()
+    {
+        store_fixture store;
+        {
+            const relaxed_commits outer(store.connection);
+            {
+                const relaxed_commits inner(store.connection);
+                store.add_partners({QStringLiteral("a")});
+            }
+            QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("1"));
+            QCOMPARE(testing::stored_names(store), QStringLiteral("a"));
+        }
+        QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("2"));
+        // Everything stands in the file itself: a copy without the log beside it has it.
+        const QString copy = store.path() + u".copy";
+        QVERIFY(QFile::copy(store.path(), copy));
+        QCOMPARE(testing::reader(copy).text(QStringLiteral("select NAME from partners")),
+                 QStringLiteral("a"));
+    }
+
+    void relaxed_commits_may_outlive_the_connection()
+    {
+        store_fixture store;
+        {
+            const relaxed_commits relaxed(store.connection);
+            store.connection.Close();
+        }
+        store.connection.Open(store.path());
+        QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("2"));
+    }
+
+    void the_bulk_deletes_run_as_they_are_written_data()
+    {
+        QTest::addColumn<QString>("statement");
+        for (const char* statement :
+             {"delete from games where date='20030614093000'",
+              "delete from games2 where date='20030614093000'",
+              "delete from stat_rounds where date='20030614093000'",
+              "Delete from vrd_fields where code = 'BOIS-0'",
+              "Delete from FIELD_INFO where FIELD_CODE = 'BOIS-0'", "DELETE FROM HAND"})
+            QTest::addRow("%s", statement) << QString::fromLatin1(statement);
+    }
+
+    void the_bulk_deletes_run_as_they_are_written()
+    {
+        QFETCH(QString, statement);
+        store_fixture store;
+        for (const char* fill :
+             {"insert into games (date) values ('20030614093000')",
+              "insert into games2 (date) values ('20030614093000')",
+              "insert into stat_rounds (date) values ('20030614093000')",
+              "insert into vrd_fields (code) values ('BOIS-0')",
+              "insert into field_info (FIELD_CODE) values ('BOIS-0')", "insert into hand values (3.5)"})
+            store.connection.Execute(QString::fromLatin1(fill));
+        const QString table = statement.split(u' ')[2];
+        QCOMPARE(store.outside().number(u"select count(*) from " + table), 1);
+        store.connection.Execute(statement);
+        QCOMPARE(store.outside().number(u"select count(*) from " + table), 0);
+    }
+
+    void a_statement_on_a_missing_table_is_a_missing_part()
+    {
+        store_fixture store;
+        QVERIFY(failure_of([&] { store.connection.Execute(QStringLiteral("delete from golfers")); }) ==
+                failure_kind::missing_table);
+    }
+
+    void a_quoted_text_doubles_its_quotes_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("key") << QStringLiteral("20030614093000") << QStringLiteral("'20030614093000'");
+        QTest::newRow("quote") << QStringLiteral("l'allée") << QStringLiteral("'l''allée'");
+        QTest::newRow("empty") << QString() << QStringLiteral("''");
+    }
+
+    void a_quoted_text_doubles_its_quotes()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, result);
+        QCOMPARE(quoted(text), result);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_Connection1)
+#include "test_Connection1.moc"

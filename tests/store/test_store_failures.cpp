@@ -1,0 +1,286 @@
+#include <QTest>
+
+#include <functional>
+#include <sys/stat.h>
+
+#include "failures.h"
+#include "store_child.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::bytes_of;
+using testing::child_failure;
+using testing::failure_of;
+using testing::start_child;
+using testing::store_fixture;
+using testing::whole_content;
+
+namespace {
+
+/// Enough partners for the file to have pages that matter; then closed, so that all is in one file.
+void fill_and_close(store_fixture& store)
+{
+    QStringList names;
+    for (int i = 0; i < 300; ++i)
+        names += QStringLiteral("partner number %1 with a rather long name").arg(i);
+    store.connection.Execute(QStringLiteral("BEGIN"));
+    store.add_partners(names);
+    store.connection.Execute(QStringLiteral("COMMIT"));
+    store.connection.Close();
+}
+
+void overwrite(const QString& path, qint64 from, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite) || !file.seek(from) || file.write(bytes) != bytes.size())
+        qFatal("cannot damage the file");
+}
+
+void replace_content(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        qFatal("cannot write the file");
+}
+
+/// Where the rows of the partners start: the page of their first leaf.
+qint64 partners_page(const QString& path)
+{
+    return bytes_of(path).indexOf("partner number 7 ") / 4096 * 4096;
+}
+
+void set_mode(const QString& path, mode_t mode)
+{
+    if (chmod(QFile::encodeName(path).constData(), mode) != 0)
+        qFatal("cannot change the permissions");
+}
+
+QString folder_of(const store_fixture& store)
+{
+    return QFileInfo(store.path()).absolutePath();
+}
+
+/// Lets everyone reach the store's folder, as a folder of the user's would be for himself.
+void let_everyone_in(const store_fixture& store)
+{
+    set_mode(QFileInfo(folder_of(store)).absolutePath(), 0755);
+}
+
+}  // namespace
+
+class test_store_failures : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_damaged_file_is_recognised_and_left_alone_data()
+    {
+        using damage = std::function<void(const QString&)>;
+        QTest::addColumn<damage>("harm");
+        QTest::newRow("a text") << damage(
+            [](const QString& p) { replace_content(p, "my diary, hole 1: 5"); });
+        QTest::newRow("a long text") << damage(
+            [](const QString& p) { replace_content(p, QByteArray(9000, 'x')); });
+        QTest::newRow("one byte") << damage([](const QString& p) { replace_content(p, "S"); });
+        QTest::newRow("head overwritten")
+            << damage([](const QString& p) { overwrite(p, 0, QByteArray(100, '\0')); });
+        QTest::newRow("head half overwritten")
+            << damage([](const QString& p) { overwrite(p, 16, QByteArray(84, '\xff')); });
+        QTest::newRow("catalogue overwritten")
+            << damage([](const QString& p) { overwrite(p, 100, QByteArray(3000, '\xee')); });
+        QTest::newRow("a page overwritten")
+            << damage([](const QString& p) { overwrite(p, partners_page(p), QByteArray(4096, '\xaa')); });
+        QTest::newRow("a page emptied")
+            << damage([](const QString& p) { overwrite(p, partners_page(p), QByteArray(4096, '\0')); });
+        QTest::newRow("cut in the middle")
+            << damage([](const QString& p) { QFile::resize(p, QFileInfo(p).size() / 2 / 4096 * 4096); });
+        QTest::newRow("cut inside a page") << damage([](const QString& p) { QFile::resize(p, 5000); });
+        QTest::newRow("only the head left") << damage([](const QString& p) { QFile::resize(p, 100); });
+    }
+
+    void a_damaged_file_is_recognised_and_left_alone()
+    {
+        QFETCH(std::function<void(const QString&)>, harm);
+        store_fixture store;
+        fill_and_close(store);
+        harm(store.path());
+        const QByteArray before = bytes_of(store.path());
+        QVERIFY(failure_of([&] { store.connection.Open(store.path()); }) == failure_kind::store_damaged);
+        QVERIFY(!store.connection.is_open());
+        QCOMPARE(bytes_of(store.path()), before);
+        QVERIFY(!QFile::exists(store.path() + u".lock"));
+    }
+
+    void damage_under_an_open_store_is_told_when_it_is_met()
+    {
+        store_fixture store;
+        fill_and_close(store);
+        store.connection.Open(store.path());
+        overwrite(store.path(), partners_page(store.path()), QByteArray(4096, '\xaa'));
+        store.connection.Execute(QStringLiteral("PRAGMA shrink_memory"));
+        const auto partners = store.recordset(QStringLiteral("select * from partners order by name"));
+        QVERIFY(failure_of([&] { partners->Open(); }) == failure_kind::store_damaged);
+        QVERIFY(!partners->is_open());
+    }
+
+    void a_folder_in_the_files_place_cannot_be_opened()
+    {
+        QTemporaryDir folder;
+        Connection1 connection;
+        QVERIFY(failure_of([&] { connection.Open(folder.path()); }) == failure_kind::store_unreachable);
+        QVERIFY(QDir(folder.path()).exists());
+    }
+
+    void a_file_in_the_folders_place_cannot_be_opened()
+    {
+        store_fixture store;
+        const QString inside = store.path() + u"/Verdbase.db";
+        Connection1 connection;
+        QVERIFY(failure_of([&] { connection.Open(inside); }) == failure_kind::store_unreachable);
+    }
+
+    void a_read_only_store_is_recognised_before_anything_is_written_data()
+    {
+        QTest::addColumn<int>("folder_mode");
+        QTest::addColumn<int>("file_mode");
+        QTest::addColumn<int>("kind");
+        QTest::newRow("folder") << 0555 << 0666 << static_cast<int>(failure_kind::store_read_only);
+        QTest::newRow("file") << 0777 << 0444 << static_cast<int>(failure_kind::store_read_only);
+        QTest::newRow("both") << 0555 << 0444 << static_cast<int>(failure_kind::store_read_only);
+        QTest::newRow("unreadable file") << 0777 << 0000 << static_cast<int>(failure_kind::store_unreachable);
+    }
+
+    void a_read_only_store_is_recognised_before_anything_is_written()
+    {
+        QFETCH(int, folder_mode);
+        QFETCH(int, file_mode);
+        QFETCH(int, kind);
+        store_fixture store;
+        fill_and_close(store);
+        const QByteArray before = bytes_of(store.path());
+        let_everyone_in(store);
+        set_mode(store.path(), static_cast<mode_t>(file_mode));
+        set_mode(folder_of(store), static_cast<mode_t>(folder_mode));
+        QProcess child;
+        start_child(child, QStringLiteral("nobody"), store.path());
+        const auto failure = child_failure(child);
+        set_mode(folder_of(store), 0777);
+        set_mode(store.path(), 0666);
+        QVERIFY(failure == static_cast<failure_kind>(kind));
+        QCOMPARE(bytes_of(store.path()), before);
+        QCOMPARE(QDir(folder_of(store)).entryList(QDir::Files), QStringList{QStringLiteral("Verdbase.db")});
+    }
+
+    void a_folder_that_cannot_be_made_is_read_only()
+    {
+        QTemporaryDir folder;
+        set_mode(folder.path(), 0555);
+        QProcess child;
+        start_child(child, QStringLiteral("nobody"), folder.filePath(QStringLiteral("diary/Verdbase.db")));
+        const auto failure = child_failure(child);
+        set_mode(folder.path(), 0755);
+        QVERIFY(failure == failure_kind::store_read_only);
+        QVERIFY(QDir(folder.path()).isEmpty());
+    }
+
+    void a_tool_that_writes_keeps_the_program_from_opening()
+    {
+        store_fixture store;
+        fill_and_close(store);
+        Connection1 tool;
+        const QString link = folder_of(store) + u"/tool.db";
+        QVERIFY(QFile::link(store.path(), link));
+        tool.Open(link);
+        tool.Execute(QStringLiteral("BEGIN EXCLUSIVE"));
+        QVERIFY(failure_of([&] { store.connection.Open(store.path()); }) == failure_kind::store_locked);
+        QVERIFY(!store.connection.is_open());
+        tool.Execute(QStringLiteral("ROLLBACK"));
+        store.connection.Open(store.path());
+    }
+
+    void a_tool_that_writes_keeps_a_row_pending()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b")});
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        const QString before = whole_content(store.path());
+        Connection1 tool;
+        const QString link = folder_of(store) + u"/tool.db";
+        QVERIFY(QFile::link(store.path(), link));
+        tool.Open(link);
+        tool.Execute(QStringLiteral("BEGIN EXCLUSIVE"));
+        partners->Fields(u"name").set(QStringLiteral("typed"));
+        QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
+        QVERIFY(failure_of([&] { partners->MoveNext(); }) == failure_kind::store_locked);
+        QVERIFY(partners->pending());
+        QCOMPARE(partners->position(), 0);
+        partners->CancelUpdate();
+        QVERIFY(failure_of([&] { partners->Delete(); }) == failure_kind::store_locked);
+        QCOMPARE(partners->RecordCount(), 2);
+        QCOMPARE(whole_content(store.path()), before);
+        tool.Execute(QStringLiteral("ROLLBACK"));
+        partners->Fields(u"name").set(QStringLiteral("typed"));
+        partners->Update();
+        QCOMPARE(testing::stored_names(store), QStringLiteral("typed b"));
+    }
+
+    void a_full_store_refuses_the_row_and_keeps_what_was_committed()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a")});
+        const QString before = whole_content(store.path());
+        const int pages = store.outside().number(QStringLiteral("pragma page_count"));
+        store.connection.Execute(QStringLiteral("pragma max_page_count=%1").arg(pages));
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        partners->AddNew();
+        partners->Fields(u"name").set(QString(100000, u'x'));
+        QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_full);
+        QVERIFY(partners->pending());
+        QCOMPARE(whole_content(store.path()), before);
+        store.connection.Execute(QStringLiteral("pragma max_page_count=100000"));
+        partners->Update();
+        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")), 2);
+    }
+
+    void a_full_store_refuses_a_whole_batch()
+    {
+        store_fixture store;
+        const QString before = whole_content(store.path());
+        const int pages = store.outside().number(QStringLiteral("pragma page_count"));
+        store.connection.Execute(QStringLiteral("pragma max_page_count=%1").arg(pages + 2));
+        const auto partners =
+            store.opened(QStringLiteral("select * from partners"), lock_type::batch_optimistic);
+        for (int i = 0; i < 10; ++i) {
+            partners->AddNew();
+            partners->Fields(u"name").set(QString(2000, u'x'));
+        }
+        QVERIFY(failure_of([&] { partners->UpdateBatch(); }) == failure_kind::store_full);
+        QCOMPARE(whole_content(store.path()), before);
+        QVERIFY(partners->pending());
+        QCOMPARE(partners->RecordCount(), 10);
+    }
+
+    void a_disk_that_runs_full_costs_nothing_that_was_committed_data()
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : {200000, 400000, 700001, 1000000})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
+    void a_disk_that_runs_full_costs_nothing_that_was_committed()
+    {
+        QFETCH(int, bytes);
+        store_fixture store;
+        store.connection.Close();
+        QProcess child;
+        start_child(child, QStringLiteral("fill"), store.path(), bytes);
+        QVERIFY(child_failure(child) == failure_kind::store_full);
+        const auto said = child.readAllStandardOutput().trimmed().split('\n');
+        store.connection.Open(store.path());
+        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")),
+                 said.last().toInt());
+        QCOMPARE(store.outside().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_store_failures)
+#include "test_store_failures.moc"
