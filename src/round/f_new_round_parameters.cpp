@@ -51,18 +51,20 @@ QListWidget* make_partner_list()
     list->setSelectionMode(QAbstractItemView::MultiSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     list->setMinimumHeight(8 * rhythm);
+    list->setSpacing(rhythm / 4);
     return list;
 }
 
 QLabel* add_total(QHBoxLayout& line, const QString& caption, QStringView name)
 {
-    line.addWidget(make_label(caption));
+    line.addWidget(make_label(caption), 0, Qt::AlignBottom);
     auto* figure = named(new QLabel, name);
     QFont bold = figure->font();
+    bold.setPointSizeF(bold.pointSizeF() * 1.2);
     bold.setBold(true);
     figure->setFont(bold);
-    figure->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("-00.00")));
-    line.addWidget(figure);
+    figure->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("-00.00")) + 2 * rhythm);
+    line.addWidget(figure, 0, Qt::AlignBottom);
     return figure;
 }
 

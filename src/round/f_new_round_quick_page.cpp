@@ -26,7 +26,7 @@ public:
         : window_(window), frame_(new QGroupBox(caption)), rows_(new QGridLayout(frame_))
     {
         rows_->setHorizontalSpacing(2 * rhythm);
-        rows_->setVerticalSpacing(rhythm / 2);
+        rows_->setVerticalSpacing(rhythm);
         rows_->setColumnStretch(0, 1);
     }
 

@@ -43,7 +43,7 @@ QGridLayout* make_column(f_new_round& window, const Selectors& selectors)
 {
     auto* rows = new QGridLayout;
     rows->setHorizontalSpacing(rhythm);
-    rows->setVerticalSpacing(rhythm / 2);
+    rows->setVerticalSpacing(rhythm);
     rows->setColumnStretch(0, 1);
     for (const int selector : selectors) {
         if (selector == gap)

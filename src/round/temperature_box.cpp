@@ -19,6 +19,10 @@ temperature_box::temperature_box(QWidget* parent) : QSpinBox(parent)
     setFocusPolicy(Qt::StrongFocus);
     lineEdit()->setObjectName(QStringLiteral("Text1"));
     lineEdit()->setText(textFromValue(0));
+    setAlignment(Qt::AlignRight);
+    // The blanks of an untouched box would make it too narrow for its figures.
+    const int figures = fontMetrics().horizontalAdvance(QStringLiteral("-30 C"));
+    setMinimumWidth(sizeHint().width() + figures);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { touched_ = true; });
     connect(this, &QSpinBox::valueChanged, this, [this](int celsius) {
         // A text that is being typed is left alone until the box is left.

@@ -1,0 +1,267 @@
+#include "round_windows.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "f_get_date.h"
+#include "f_new_round.h"
+#include "failure_guard.h"
+#include "language.h"
+#include "Round_records.h"
+#include "Verdane_tools.h"
+
+namespace verdane::testing {
+
+namespace {
+
+constexpr int holes = 18;
+const QDate day_of_play(2024, 6, 14);
+
+QString eighteen(const std::function<QString(int)>& item)
+{
+    QStringList items;
+    for (int hole = 1; hole <= holes; ++hole)
+        items << item(hole);
+    return items.join(u", ");
+}
+
+QString eighteen_columns(QStringView prefix)
+{
+    return eighteen([prefix](int hole) -> QString { return prefix + QString::number(hole); });
+}
+
+QString shown(const QVariant& value)
+{
+    return value.isNull() ? QStringLiteral("null") : value.toString();
+}
+
+void find_key(Recordset& recordset, const QString& key)
+{
+    recordset.MoveFirst();
+    recordset.Find(QString(u"Date ='" + key + u"'"));
+}
+
+/// What the round list does before it makes the window.
+void open_tables_on(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames.Open();
+    store.rsfield_info.Open();
+    store.rsgames2.Open();
+    if (!store.rsgames2.empty())
+        find_key(store.rsgames2, key);
+    find_key(store.rsgames, key);
+    store.rsvrd_fields.Open();
+    store.rscost.Open();
+    if (!store.rscost.empty())
+        find_key(store.rscost, key);
+    if (store.rscost.eof()) {
+        store.rscost.AddNew();
+        store.rscost.Fields(0).set(key);
+    }
+    store.rsStat_rounds.Open();
+}
+
+void open_stored_round(const QString& key)
+{
+    open_tables_on(key);
+    f_new_round window;
+    load_stored_round(window, key);
+    load_round_header(window);
+    window.b_getdat->setEnabled(false);
+    window.show_modal();
+}
+
+void in_round(const std::function<void()>& program, const std::function<void(hand&)>& script)
+{
+    play([&] { run_event(program); }, script);
+}
+
+}  // namespace
+
+round_store::round_store(bool french) : folder_(french) {}
+
+void round_store::add(const stored_course& course) const
+{
+    const auto par = [&](int hole) { return QString(course.pars.at((hole - 1) % course.pars.size())); };
+    store.write(
+        {u"insert into vrd_fields (code, name, rating, slope) values (" + quoted(course.code) + u", " +
+             quoted(course.name) + u", " + quoted(course.rating) + u", " + quoted(course.slope) + u')',
+         u"insert into field_info (FIELD_CODE, " + eighteen_columns(u"yards_") + u", " +
+             eighteen_columns(u"hcp_") + u", " + eighteen_columns(u"par_") + u") values (" +
+             quoted(course.code) + u", " + eighteen([](int hole) { return QString::number(100 + hole); }) +
+             u", " + eighteen([](int hole) { return QString::number(19 - hole); }) + u", " + eighteen(par) +
+             u')'});
+}
+
+void round_store::add_two_courses() const
+{
+    add({});
+    add({QStringLiteral("BETA-6"), QStringLiteral("Beta"), QStringLiteral("68"), QStringLiteral("113"),
+         QStringLiteral("5")});
+}
+
+void round_store::add_partner(const QString& name, const QString& surname, int code) const
+{
+    const auto value = [](const QString& text) {
+        return text.isNull() ? QStringLiteral("null") : quoted(text);
+    };
+    store.write(QStringLiteral("insert into partners (NAME, SURNAME, code) values (%1, %2, %3)")
+                    .arg(value(name), value(surname))
+                    .arg(code));
+}
+
+void round_store::add_round(const QString& key, const QString& code) const
+{
+    store.write({u"insert into games (date, CODEF) values (" + quoted(key) + u", " + quoted(code) + u')',
+                 u"insert into games2 (date, FC) values (" + quoted(key) + u", " + quoted(code) + u')',
+                 u"insert into cost (date) values (" + quoted(key) + u')'});
+}
+
+QString round_store::text(const QString& statement) const
+{
+    return shown(store.value(statement));
+}
+
+QString round_store::of_round(const QString& table, const QString& column) const
+{
+    return text(u"select " + column + u" from " + table);
+}
+
+QString round_store::at(const QString& table, int ordinal) const
+{
+    const auto rows = store.rows(QString(u"select * from " + table));
+    return rows.size() == 1 ? shown(rows.front().at(static_cast<std::size_t>(ordinal)))
+                            : QStringLiteral("%1 rows").arg(rows.size());
+}
+
+QString round_window()
+{
+    return is_french ? QStringLiteral("f_new_round") : QStringLiteral("f_new_round_en");
+}
+
+void in_new_round(const std::function<void(hand&)>& script)
+{
+    in_round(start_new_round, script);
+}
+
+void in_keyed_round(const std::function<void(hand&)>& script)
+{
+    in_new_round([&](hand& user) {
+        tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("00"));
+        user.wait_for_window(round_window());
+        user.wait_until(QStringLiteral("the focus in the first box"), [] {
+            auto* focused = QApplication::focusWidget();
+            return focused && focused->objectName() == u"text_vrd_0";
+        });
+        script(user);
+        user.wait_until_gone(round_window());
+    });
+}
+
+QString key_of_keyed_round()
+{
+    return QStringLiteral("20240614093000");
+}
+
+void in_stored_round(const QString& key, const std::function<void(hand&)>& script)
+{
+    in_round([&] { open_stored_round(key); },
+             [&](hand& user) {
+                 user.wait_for_window(round_window());
+                 script(user);
+                 user.wait_until_gone(round_window());
+             });
+}
+
+void fill_tee_off(hand& user, const QString& hours, const QString& minutes, const QString& seconds)
+{
+    user.wait_for_window(QStringLiteral("f_get_date"));
+    user.look([] {
+        dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date->setSelectedDate(day_of_play);
+    });
+    user.fill(QStringLiteral("Text1"), hours);
+    user.fill(QStringLiteral("Text2"), minutes);
+    user.fill(QStringLiteral("Text3"), seconds);
+    user.click(QStringLiteral("OKbut"));
+}
+
+void tee_off(hand& user, const QString& hours, const QString& minutes, const QString& seconds)
+{
+    fill_tee_off(user, hours, minutes, seconds);
+    user.answer(question_on_tee_off(), QMessageBox::Yes);
+    user.wait_until_gone(QStringLiteral("f_get_date"));
+}
+
+void discard(hand& user)
+{
+    user.click(QStringLiteral("Command1_2"));
+    user.answer(question_on_closing(), QMessageBox::No);
+    user.wait_until_gone(round_window());
+}
+
+void accept(hand& user)
+{
+    user.click(QStringLiteral("Command1_4"));
+    user.wait_until_gone(round_window());
+}
+
+void with_round(hand& user, const std::function<void(f_new_round&)>& routine)
+{
+    user.look([&] { run_event([&] { routine(dynamic_cast<f_new_round&>(*open_form(u"f_new_round"))); }); });
+}
+
+QString boxes(hand& user)
+{
+    const QStringList names{
+        QStringLiteral("text_vrd_0"), QStringLiteral("text_vrd_1"), QStringLiteral("text_vrd_2"),
+        QStringLiteral("text_p_3"),   QStringLiteral("text_p_4"),   QStringLiteral("text_p_5"),
+        QStringLiteral("text_p_6"),   QStringLiteral("text_s_8"),   QStringLiteral("text_s_9"),
+        QStringLiteral("text_s_10"),  QStringLiteral("text_s_11")};
+    QStringList texts;
+    for (const QString& name : names)
+        texts << user.text(name);
+    return texts.join(u' ');
+}
+
+expected_box question_on_tee_off()
+{
+    return {
+        in_language(u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",
+                    u"You will not be able to change this date afterwards. Do you want to use this date and "
+                    u"time? "),
+        QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Yes | QMessageBox::No};
+}
+
+expected_box refusal_of_moment()
+{
+    return {in_language(u"Une ronde à la date et à l'heure choisie existe déjà.",
+                        u"A round with the selected date and time already exists."),
+            QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Ok};
+}
+
+expected_box question_on_closing()
+{
+    return {in_language(u"Voulez vous enregistrer les modifications avant de sortir ? ",
+                        u"Do you want to save your changes prior to exit?"),
+            QMessageBox::NoIcon, QString(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel};
+}
+
+expected_box notice_of_save()
+{
+    return {in_language(u"Les modifications sont enregistrées", u"Changes have been saved"),
+            QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Ok};
+}
+
+expected_box refusal_without_date()
+{
+    return {
+        in_language(u"Veuillez d'abord choisir la date de la ronde.", u"Please select a round's date first."),
+        QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok};
+}
+
+}  // namespace verdane::testing
