@@ -60,11 +60,11 @@ private:
     QLayout* make_pages();
     QFrame* make_page(int page);
     QFrame* make_general_page();
-    void add_labelled_box(QGridLayout& grid, const QString& caption, int index);
+    void add_labelled_box(QGridLayout& grid, QStringView name, const QString& caption, int index);
     void add_departure(QGridLayout& grid);
     void add_address(QGridLayout& grid);
     QFrame* make_hole_page(int page, int first_index);
-    void add_headings(QGridLayout& grid);
+    void add_headings(QGridLayout& grid, int page);
     void add_hole(QGridLayout& grid, int index);
     QLayout* make_foot();
     QLayout* make_total(const QString& caption, QLabel* figure);

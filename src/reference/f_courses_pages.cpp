@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <utility>
+
 #include "f_courses.h"
 #include "f_courses_boxes.h"
 #include "look.h"
@@ -56,6 +58,11 @@ QWidget* make_line(const QColor& colour, int height)
 void add_line(QGridLayout& grid, int row, QWidget* line)
 {
     grid.addWidget(line, row, hole_number, 1, normal + 1);
+}
+
+QLabel* make_caption(const QString& name, const QString& caption, QLineEdit* buddy = nullptr)
+{
+    return named(make_label(caption, buddy), name);
 }
 
 void make_bold(QLabel& label)
@@ -124,26 +131,26 @@ QFrame* f_courses::make_general_page()
         text.add(index, make_number_box(figure_characters + 2));
     for (const int index : {3, 4, 5})
         text.add(index, new QLineEdit)->setMaxLength(address_characters);
-    add_labelled_box(*grid, caption(u"Nom :", u"Name :"), 1);
+    add_labelled_box(*grid, u"lbl_name", caption(u"Nom :", u"Name :"), 1);
     add_departure(*grid);
-    add_labelled_box(*grid, caption(u"Moyenne :", u"Rating :"), 2);
-    add_labelled_box(*grid, caption(u"Difficulté :", u"Slope :"), 0);
+    add_labelled_box(*grid, u"lbl_rating", caption(u"Moyenne :", u"Rating :"), 2);
+    add_labelled_box(*grid, u"lbl_slope", caption(u"Difficulté :", u"Slope :"), 0);
     add_address(*grid);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return page;
 }
 
-void f_courses::add_labelled_box(QGridLayout& grid, const QString& caption, int index)
+void f_courses::add_labelled_box(QGridLayout& grid, QStringView name, const QString& caption, int index)
 {
     const int row = grid.rowCount();
-    grid.addWidget(make_label(caption, &text(index)), row, 0);
+    grid.addWidget(make_caption(name.toString(), caption, &text(index)), row, 0);
     grid.addWidget(&text(index), row, 1);
 }
 
 void f_courses::add_departure(QGridLayout& grid)
 {
-    auto* label = make_label(caption(u"Départ :", u"Teeing Area :"));
+    auto* label = make_caption(QStringLiteral("lbl_departure"), caption(u"Départ :", u"Teeing Area :"));
     label->setBuddy(departure);
     departure->setMinimumWidth(departure_width);
     const int row = grid.rowCount();
@@ -153,7 +160,7 @@ void f_courses::add_departure(QGridLayout& grid)
 
 void f_courses::add_address(QGridLayout& grid)
 {
-    add_labelled_box(grid, caption(u"Adresse :", u"Address :"), 3);
+    add_labelled_box(grid, u"lbl_address", caption(u"Adresse :", u"Address :"), 3);
     for (const int index : {4, 5}) {
         text(index).setAccessibleName(caption(u"Adresse", u"Address") + u' ' + QString::number(index - 2));
         grid.addWidget(&text(index), grid.rowCount(), 1);
@@ -164,7 +171,7 @@ QFrame* f_courses::make_hole_page(int page, int first_index)
 {
     QFrame* frame = make_page(page);
     QGridLayout* grid = make_grid(*frame, rhythm);
-    add_headings(*grid);
+    add_headings(*grid, page);
     for (int index = first_index; index < first_index + front_hole_count; ++index)
         add_hole(*grid, index);
     for (const int column : {verge, hnd, normal})
@@ -173,13 +180,17 @@ QFrame* f_courses::make_hole_page(int page, int first_index)
     return frame;
 }
 
-void f_courses::add_headings(QGridLayout& grid)
+void f_courses::add_headings(QGridLayout& grid, int page)
 {
-    const QString captions[] = {caption(u"Trou", u"Hole"),
-                                caption(u"Distance (verges) ", u"Distance (yards)"),
-                                QStringLiteral("Handicap"), caption(u"Normale", u"Par")};
+    const std::pair<QString, QString> headings[] = {
+        {QStringLiteral("lbl_hole"), caption(u"Trou", u"Hole")},
+        {QStringLiteral("lbl_verge"), caption(u"Distance (verges) ", u"Distance (yards)")},
+        {QStringLiteral("lbl_hnd"), QStringLiteral("Handicap")},
+        {QStringLiteral("lbl_normal"), caption(u"Normale", u"Par")},
+    };
     for (int column = hole_number; column <= normal; ++column) {
-        QLabel* heading = make_label(captions[column]);
+        const auto& [name, words] = headings[column];
+        QLabel* heading = make_caption(name + u'_' + QString::number(page), words);
         make_bold(*heading);
         grid.addWidget(heading, heading_row, column, column == hole_number ? Qt::AlignLeft : Qt::AlignRight);
     }
@@ -193,7 +204,8 @@ void f_courses::add_hole(QGridLayout& grid, int index)
     txt_hnd.add(index, make_hole_box(hole + caption(u"handicap", u"handicap")));
     txt_normal.add(index, make_hole_box(hole + caption(u"normale", u"par")));
     const int row = first_hole_row + 2 * (index % front_hole_count);
-    grid.addWidget(make_label(QString::number(index + 1)), row, hole_number);
+    const QString number = QString::number(index + 1);
+    grid.addWidget(make_caption(u"lbl_number_" + number, number), row, hole_number);
     grid.addWidget(&txt_verge(index), row, verge, Qt::AlignRight);
     grid.addWidget(&txt_hnd(index), row, hnd, Qt::AlignRight);
     grid.addWidget(&txt_normal(index), row, normal, Qt::AlignRight);
@@ -219,12 +231,12 @@ QLayout* f_courses::make_total(const QString& caption, QLabel* figure)
 {
     figure->setText(QStringLiteral("0"));
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance(QStringLiteral("-00000")));
     figure->setAccessibleName(caption);
     make_bold(*figure);
+    figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance(QStringLiteral("-00000")));
     auto* total = new QHBoxLayout;
     total->setSpacing(rhythm / 2);
-    total->addWidget(make_label(caption));
+    total->addWidget(make_caption(figure->objectName() + u"_caption", caption));
     total->addWidget(figure);
     return total;
 }

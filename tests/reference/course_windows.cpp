@@ -1,0 +1,195 @@
+#include "course_windows.h"
+
+#include <QTest>
+
+#include "boxes.h"
+#include "Connection1.h"
+#include "course_keys.h"
+#include "f_c_list.h"
+#include "f_courses.h"
+#include "failure_guard.h"
+#include "language.h"
+
+namespace verdane::testing {
+
+namespace {
+
+constexpr int holes = 18;
+
+QString eighteen(const std::function<QString(int)>& item)
+{
+    QStringList items;
+    for (int hole = 1; hole <= holes; ++hole)
+        items << item(hole);
+    return items.join(u", ");
+}
+
+QString eighteen_columns(QStringView prefix)
+{
+    return eighteen([prefix](int hole) -> QString { return prefix + QString::number(hole); });
+}
+
+QString same_figure(int figure)
+{
+    return eighteen([figure](int) { return QString::number(figure); });
+}
+
+}  // namespace
+
+QString sql(const QString& text)
+{
+    return quoted(text);
+}
+
+course_store::course_store(bool french) : folder_(french)
+{
+    course_keys.clear();
+}
+
+void add_course(const reader& store, const stored_course& course)
+{
+    const QStringList texts{course.code,     course.name,   QStringLiteral("Main Street 1"),
+                            course.name_tee, course.rating, course.slope,
+                            course.tee};
+    QStringList quoted_texts;
+    for (const QString& text : texts)
+        quoted_texts << sql(text);
+    store.write({u"insert into vrd_fields (code, name, address_1, name_tee, rating, slope, tee) values (" +
+                     quoted_texts.join(u", ") + u')',
+                 u"insert into field_info (FIELD_CODE, " + eighteen_columns(u"yards_") + u", " +
+                     eighteen_columns(u"hcp_") + u", " + eighteen_columns(u"par_") + u") values (" +
+                     sql(course.code) + u", " + same_figure(course.yards) + u", " +
+                     eighteen([](int hole) { return QString::number(hole); }) + u", " +
+                     same_figure(course.par) + u')'});
+}
+
+void course_store::add_round(const QString& key, const QString& code) const
+{
+    store.write(u"insert into games (date, CODEF) values (" + sql(key) + u", " + sql(code) + u')');
+}
+
+void add_three_courses(const course_store& store)
+{
+    store.add({});
+    store.add(
+        {QStringLiteral("BETA-1"), QStringLiteral("Beta"), QStringLiteral("Beta-1"), QStringLiteral("BLEU")});
+    store.add({QStringLiteral("GAMMA-2"), QStringLiteral("Gamma"), QStringLiteral("Gamma-2"),
+               QStringLiteral("ROUGE")});
+}
+
+void in_course_list(const std::function<void(hand&)>& script)
+{
+    play(
+        [] {
+            run_event([] {
+                f_c_list window;
+                window.show_modal();
+            });
+        },
+        [&](hand& user) {
+            user.wait_for_window(list_window());
+            script(user);
+        });
+}
+
+void in_course_list_until_ok(const std::function<void(hand&)>& script)
+{
+    in_course_list([&](hand& user) {
+        script(user);
+        user.wait_for_window(list_window());
+        user.click(QStringLiteral("Command1_2"));
+        user.wait_until_gone(list_window());
+    });
+}
+
+void in_new_course(const std::function<void(hand&)>& script)
+{
+    in_course_list_until_ok([&](hand& user) {
+        user.click(QStringLiteral("Command1_1"));
+        user.wait_for_window(editor_window());
+        script(user);
+        user.wait_until_gone(editor_window());
+    });
+}
+
+void in_stored_course(int line, const std::function<void(hand&)>& script)
+{
+    in_course_list_until_ok([&](hand& user) {
+        user.click_row(QStringLiteral("List1"), line);
+        user.click(QStringLiteral("Command1_0"));
+        user.wait_for_window(editor_window());
+        script(user);
+        user.wait_until_gone(editor_window());
+    });
+}
+
+void discard(hand& user)
+{
+    user.click(QStringLiteral("cmdan"));
+    user.answer(question_on_closing(), QMessageBox::No);
+    user.wait_until_gone(editor_window());
+}
+
+void fill_required(hand& user, const QString& name)
+{
+    user.fill(QStringLiteral("text_1"), name);
+    user.fill(QStringLiteral("text_2"), QStringLiteral("71.2"));
+    user.fill(QStringLiteral("text_0"), QStringLiteral("128"));
+}
+
+void with_editor(hand& user, const std::function<void(f_courses&)>& routine)
+{
+    user.look([&] { run_event([&] { routine(dynamic_cast<f_courses&>(*open_form(u"f_courses"))); }); });
+}
+
+expected_box question_on_closing()
+{
+    return {in_language(u"Voulez vous enregistrer les modifications avant de sortir ?  ",
+                        u"Do you want to save the modification made ?  "),
+            QMessageBox::NoIcon, QStringLiteral("Fermer ronde"),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel};
+}
+
+expected_box notice_of_save()
+{
+    return {in_language(u"Les modifications sont enregistrées.", u"Changes have been saved"),
+            QMessageBox::Information, QStringLiteral("Verdane"), QMessageBox::Ok};
+}
+
+expected_box refusal_of_missing()
+{
+    return {in_language(u"Attention : Il faut entrer le nom, la moyenne, et la difficulté du terrain.",
+                        u"Attention : Attention: Please enter golf course's name, rating and Slop."),
+            QMessageBox::Critical, QStringLiteral("Enregistrer"), QMessageBox::Ok};
+}
+
+expected_box refusal_of_duplicate(const QString& name, const QString& tee)
+{
+    return {in_language(u"Le tererain ", u"The golf course  ") + name + u' ' + tee +
+                in_language(u" exist déjà.", u" already exist."),
+            QMessageBox::Warning, QStringLiteral("Verdane"), QMessageBox::Ok};
+}
+
+QString twin()
+{
+    return in_language(u"", u"_en");
+}
+
+QString list_window()
+{
+    return u"f_c_list" + twin();
+}
+
+QString editor_window()
+{
+    return u"f_courses" + twin();
+}
+
+void both_languages()
+{
+    QTest::addColumn<bool>("french");
+    QTest::newRow("French") << true;
+    QTest::newRow("English") << false;
+}
+
+}  // namespace verdane::testing

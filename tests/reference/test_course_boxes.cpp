@@ -1,0 +1,314 @@
+#include <QLineEdit>
+#include <QTest>
+
+#include "course_windows.h"
+#include "f_courses.h"
+#include "language.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString name_box = u"text_1"_s;
+const QString rating_box = u"text_2"_s;
+const QString slope_box = u"text_0"_s;
+
+expected_box plain_box(const QString& text)
+{
+    return {text, QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok};
+}
+
+expected_box index_is_taken()
+{
+    return plain_box(in_language(u"Cette handicap est attri1buée à un autre trou",
+                                 u"This handicap is associated to another hole."));
+}
+
+expected_box index_is_too_high()
+{
+    return plain_box(in_language(u"La valeur de l'Handicap doit être inférieure à 19.",
+                                 u"The handicap must be under 19."));
+}
+
+expected_box par_is_wrong()
+{
+    return plain_box(in_language(u"La Normale doit être inférieure à 6 et supérieur à 2.",
+                                 u"The par must be under 6 and above 2."));
+}
+
+/// Types into a box of the front nine and leaves it by Tab.
+void type_and_tab(hand& user, const QString& box, const QString& typed)
+{
+    user.fill(box, typed);
+    user.key(Qt::Key_Tab);
+}
+
+/// A refused box holds "0", selected, and keeps the focus.
+void check_refused(hand& user, const QString& box)
+{
+    user.wait_for_window(editor_window());
+    user.same(user.text(box), u"0"_s, u"text of "_s + box);
+    user.same(user.focus(), box, u"focus"_s);
+    user.same(user.selected_text(box), u"0"_s, u"selection in "_s + box);
+}
+
+void check_accepted(hand& user, const QString& box, const QString& text)
+{
+    user.same(user.text(box), text, u"text of "_s + box);
+    user.check(user.focus() != box, u"the focus is still in "_s + box);
+}
+
+}  // namespace
+
+class test_course_boxes : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keys_of_the_first_page_are_filtered_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("kept");
+        QTest::addColumn<int>("bells");
+        QTest::newRow("a name takes letters and blanks") << name_box << u"Old Ab Zz"_s << u"Old Ab Zz"_s << 0;
+        QTest::newRow("a name takes no digit") << name_box << u"A1b2"_s << u"Ab"_s << 2;
+        QTest::newRow("a name takes no accented letter") << name_box << u"Épinière"_s << u"pinire"_s << 2;
+        QTest::newRow("a name takes no mark") << name_box << u"L'A-b."_s << u"LAb"_s << 3;
+        QTest::newRow("neighbours of the letters") << name_box << u"@[`{"_s << QString() << 4;
+        QTest::newRow("a rating takes digits and points") << rating_box << u"70.5.1"_s << u"70.5.1"_s << 0;
+        QTest::newRow("a rating takes no letter") << rating_box << u"7a,0"_s << u"70"_s << 2;
+        QTest::newRow("a rating takes no sign") << rating_box << u"-70"_s << u"70"_s << 1;
+        QTest::newRow("digits of other scripts are none") << rating_box << u"7٣"_s << u"7"_s << 1;
+        QTest::newRow("the seventh digit is refused") << slope_box << u"1234567"_s << u"123456"_s << 1;
+        QTest::newRow("a point passes behind six digits") << slope_box << u"123456.7"_s << u"123456."_s << 1;
+        QTest::newRow("an address takes anything")
+            << u"text_3"_s << u"1, rue de l'Église"_s << u"1, rue de l'Église"_s << 0;
+    }
+    void keys_of_the_first_page_are_filtered()
+    {
+        QFETCH(QString, box);
+        QFETCH(QString, typed);
+        QFETCH(QString, kept);
+        QFETCH(int, bells);
+        const course_store store;
+        in_new_course([&](hand& user) {
+            const int before = user.bells();
+            user.fill(box, typed);
+            user.same(user.text(box), kept, u"text"_s);
+            user.same(user.bells() - before, bells, u"bells"_s);
+            discard(user);
+        });
+    }
+
+    void backspace_always_passes()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            const int before = user.bells();
+            user.fill(slope_box, u"123456"_s);
+            user.key(Qt::Key_Backspace);
+            user.type(u"7"_s);
+            user.same(user.text(slope_box), u"123457"_s, u"slope"_s);
+            user.fill(name_box, u"Ab"_s);
+            user.key(Qt::Key_Backspace);
+            user.same(user.text(name_box), u"A"_s, u"name"_s);
+            user.same(user.bells(), before, u"bells"_s);
+            discard(user);
+        });
+    }
+
+    void pasting_does_not_pass_the_filter()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            user.paste(name_box, u"Golf 18 Évian"_s);
+            user.same(user.text(name_box), u"Golf 18 Évian"_s, u"name"_s);
+            user.paste(slope_box, u"12345678"_s);
+            user.same(user.text(slope_box), u"12345678"_s, u"slope"_s);
+            discard(user);
+        });
+    }
+
+    void boxes_of_the_holes_are_checked_when_left_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("accepted");
+        const auto row = [](const char* name, const QString& box, const QString& typed, bool accepted) {
+            QTest::newRow(name) << box << typed << accepted;
+        };
+        row("a length", u"txt_verge_0"_s, u"412"_s, true);
+        row("a length of 0", u"txt_verge_0"_s, u"0"_s, true);
+        row("a negative length", u"txt_verge_0"_s, u"-5"_s, true);
+        row("the longest length", u"txt_verge_8"_s, u"32767"_s, true);
+        row("no length", u"txt_verge_0"_s, QString(), false);
+        row("a length in letters", u"txt_verge_0"_s, u"abc"_s, false);
+        row("a length with a letter behind", u"txt_verge_0"_s, u"3a"_s, false);
+        row("a stroke index", u"txt_hnd_0"_s, u"18"_s, true);
+        row("an unknown stroke index", u"txt_hnd_0"_s, u"0"_s, true);
+        row("a negative stroke index", u"txt_hnd_0"_s, u"-3"_s, true);
+        row("no stroke index", u"txt_hnd_0"_s, QString(), false);
+        row("a stroke index in letters", u"txt_hnd_0"_s, u"x"_s, false);
+        row("par 3", u"txt_normal_0"_s, u"3"_s, true);
+        row("par 4", u"txt_normal_0"_s, u"4"_s, true);
+        row("par 5", u"txt_normal_0"_s, u"5"_s, true);
+        row("an unknown par", u"txt_normal_0"_s, u"0"_s, true);
+        row("no par", u"txt_normal_0"_s, QString(), false);
+        row("a par in letters", u"txt_normal_0"_s, u"p"_s, false);
+    }
+    void boxes_of_the_holes_are_checked_when_left()
+    {
+        QFETCH(QString, box);
+        QFETCH(QString, typed);
+        QFETCH(bool, accepted);
+        const course_store store;
+        in_new_course([&](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            type_and_tab(user, box, typed);
+            if (accepted)
+                check_accepted(user, box, typed);
+            else
+                check_refused(user, box);
+            discard(user);
+        });
+    }
+
+    void a_wrong_par_is_refused_with_words_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QString>("typed");
+        for (const bool french : {true, false}) {
+            for (const char* par : {"1", "2", "6", "-4", "32767"})
+                QTest::addRow("%s %s", french ? "French" : "English", par)
+                    << french << QString::fromLatin1(par);
+        }
+    }
+    void a_wrong_par_is_refused_with_words()
+    {
+        QFETCH(bool, french);
+        QFETCH(QString, typed);
+        const course_store store(french);
+        in_new_course([&](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            type_and_tab(user, u"txt_normal_3"_s, typed);
+            user.answer(par_is_wrong());
+            check_refused(user, u"txt_normal_3"_s);
+            discard(user);
+        });
+    }
+
+    void a_stroke_index_stands_once_data() { both_languages(); }
+    void a_stroke_index_stands_once()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        in_new_course([](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            type_and_tab(user, u"txt_hnd_0"_s, u"18"_s);
+            type_and_tab(user, u"txt_hnd_4"_s, u"18"_s);
+            user.answer(index_is_taken());
+            check_refused(user, u"txt_hnd_4"_s);
+            // Also against a hole of the other page; the box's own value does not count.
+            user.key(Qt::Key_Tab);
+            user.click_tab(u"TabStrip1"_s, 3);
+            type_and_tab(user, u"txt_hnd_17"_s, u"18"_s);
+            user.answer(index_is_taken());
+            check_refused(user, u"txt_hnd_17"_s);
+            type_and_tab(user, u"txt_hnd_17"_s, u"17"_s);
+            type_and_tab(user, u"txt_hnd_17"_s, u"17"_s);
+            check_accepted(user, u"txt_hnd_17"_s, u"17"_s);
+            discard(user);
+        });
+    }
+
+    void a_stroke_index_of_19_is_refused_data() { both_languages(); }
+    void a_stroke_index_of_19_is_refused()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        in_new_course([](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            type_and_tab(user, u"txt_hnd_0"_s, u"19"_s);
+            user.answer(index_is_too_high());
+            check_refused(user, u"txt_hnd_0"_s);
+            discard(user);
+        });
+    }
+
+    void the_duplicate_is_told_before_the_limit()
+    {
+        const course_store store;
+        store.add({});
+        store.store.write(u"update field_info set hcp_2 = 25"_s);
+        in_stored_course(0, [](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            type_and_tab(user, u"txt_hnd_0"_s, u"25"_s);
+            user.answer(index_is_taken());
+            check_refused(user, u"txt_hnd_0"_s);
+            discard(user);
+        });
+    }
+
+    void a_refused_box_is_not_left_by_a_click()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.fill(u"txt_normal_0"_s, u"7"_s);
+            user.click(u"smdsave"_s);
+            user.answer(par_is_wrong());
+            check_refused(user, u"txt_normal_0"_s);
+            user.fill(u"txt_verge_0"_s, u"x"_s);
+            user.click(u"txt_verge_1"_s);
+            check_refused(user, u"txt_verge_0"_s);
+            user.fill(u"txt_verge_0"_s, u"x"_s);
+            user.click_tab(u"TabStrip1"_s, 3);
+            check_refused(user, u"txt_verge_0"_s);
+            user.same(user.selected(u"TabStrip1"_s), 1, u"selected tab"_s);
+            user.check(user.visible(u"frm_2"_s), u"the page stays"_s);
+            discard(user);
+        });
+    }
+
+    void lengths_are_totalled_when_left()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            user.same(user.text(u"lbl_total"_s), u"0"_s, u"total"_s);
+            user.click_tab(u"TabStrip1"_s, 2);
+            type_and_tab(user, u"txt_verge_0"_s, u"400"_s);
+            type_and_tab(user, u"txt_verge_8"_s, u"150"_s);
+            user.click_tab(u"TabStrip1"_s, 3);
+            type_and_tab(user, u"txt_verge_9"_s, u"510"_s);
+            type_and_tab(user, u"txt_verge_17"_s, u"1"_s);
+            user.same(user.text(u"lbl_alle"_s), u"550"_s, u"front"_s);
+            user.same(user.text(u"lbl_retour"_s), u"511"_s, u"back"_s);
+            user.same(user.text(u"lbl_total"_s), u"1061"_s, u"total"_s);
+            type_and_tab(user, u"txt_verge_9"_s, u"y"_s);
+            user.same(user.text(u"lbl_total"_s), u"1061"_s, u"total after a refusal"_s);
+            discard(user);
+        });
+    }
+
+    void entering_a_box_of_the_holes_selects_its_figure()
+    {
+        const course_store store;
+        store.add({});
+        in_stored_course(0, [](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.same(user.selected_text(u"txt_verge_0"_s), u"300"_s, u"by the tab"_s);
+            user.click(u"txt_hnd_6"_s);
+            user.wait_until(u"a selection by a click"_s, [] {
+                return dynamic_cast<f_courses*>(open_form(u"f_courses"))->txt_hnd(6).selectedText() == u"7"_s;
+            });
+            user.key(Qt::Key_Tab);
+            user.same(user.selected_text(u"txt_hnd_7"_s), u"8"_s, u"by Tab"_s);
+            discard(user);
+        });
+    }
+};
+
+QTEST_MAIN(test_course_boxes)
+#include "test_course_boxes.moc"

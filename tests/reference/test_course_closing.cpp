@@ -1,0 +1,235 @@
+#include <QTest>
+
+#include "course_windows.h"
+#include "f_courses.h"
+#include "f_courses_func.h"
+#include "language.h"
+#include "main_frame.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString figures(const course_store& store)
+{
+    return store.text(u"select group_concat(name || slope, '|') from vrd_fields"_s) + u" / " +
+           store.text(u"select group_concat(yards_1, '|') from field_info"_s);
+}
+
+const QString figures_before = u"Alpha121|Beta121|Gamma121 / 300|300|300"_s;
+const QString figures_after = u"Alpha121|Beta55|Gamma121 / 300|410|300"_s;
+
+/// A change on the first page and one among the holes.
+void change(hand& user)
+{
+    user.fill(u"text_0"_s, u"55"_s);
+    user.click_tab(u"TabStrip1"_s, 2);
+    user.fill(u"txt_verge_0"_s, u"410"_s);
+    user.key(Qt::Key_Tab);
+}
+
+void press_tool_button(hand& user, const QString& key)
+{
+    // The window is modal, so that the main window's buttons cannot be clicked; the routine stands ready
+    // for a toolbar that can.
+    QMetaObject::invokeMethod(
+        qApp,
+        [key] { f_courses_func::toolbar_clicked(dynamic_cast<f_courses&>(*open_form(u"f_courses")), key); },
+        Qt::QueuedConnection);
+    user.look([] {});
+}
+
+}  // namespace
+
+class test_course_closing : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void no_drops_the_changes_data() { both_languages(); }
+    void no_drops_the_changes()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            change(user);
+            discard(user);
+        });
+        QCOMPARE(figures(store), figures_before);
+    }
+
+    void yes_saves_and_closes_data() { both_languages(); }
+    void yes_saves_and_closes()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            change(user);
+            user.click(u"cmdan"_s);
+            user.answer(question_on_closing(), QMessageBox::Yes);
+            user.answer(notice_of_save());
+        });
+        QCOMPARE(figures(store), figures_after);
+    }
+
+    void cancel_leaves_everything()
+    {
+        course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [&](hand& user) {
+            change(user);
+            user.check(store.frame.locked, u"the menu is locked"_s);
+            user.click(u"cmdan"_s);
+            user.answer(question_on_closing(), QMessageBox::Cancel);
+            user.wait_for_window(editor_window());
+            user.check(!store.frame.locked, u"the menu is unlocked"_s);
+            user.same(user.text(u"txt_verge_0"_s), u"410"_s, u"length"_s);
+            discard(user);
+        });
+        QCOMPARE(figures(store), figures_before);
+    }
+
+    void yes_to_a_save_that_is_refused_keeps_the_window()
+    {
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            user.fill(u"text_0"_s, QString());
+            user.click(u"cmdan"_s);
+            user.answer(question_on_closing(), QMessageBox::Yes);
+            user.answer(refusal_of_missing());
+            user.wait_for_window(editor_window());
+            with_editor(user, [](f_courses& window) { QVERIFY(window.needtosave); });
+            discard(user);
+        });
+        QCOMPARE(figures(store), figures_before);
+    }
+
+    void an_untouched_editor_asks_too()
+    {
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(0, [](hand& user) {
+            with_editor(user, [](f_courses& window) {
+                QVERIFY(window.needtosave);
+                QVERIFY(!window.isNew);
+                QVERIFY(!window.isCreated);
+                QVERIFY(!window.saveSucceed);
+            });
+            discard(user);
+        });
+    }
+
+    void a_new_course_that_is_cancelled_leaves_no_row_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::newRow("button") << u"button"_s;
+        QTest::newRow("title bar") << u"title bar"_s;
+        QTest::newRow("Escape") << u"Escape"_s;
+    }
+    void a_new_course_that_is_cancelled_leaves_no_row()
+    {
+        QFETCH(QString, way);
+        const course_store store;
+        add_three_courses(store);
+        in_new_course([&](hand& user) {
+            with_editor(user, [](f_courses& window) { QVERIFY(window.isNew); });
+            fill_required(user, u"Delta"_s);
+            if (way == u"button"_s)
+                discard(user);
+            else if (way == u"Escape"_s)
+                user.key(Qt::Key_Escape);
+            else
+                user.close_window(editor_window());
+            user.wait_for_window(list_window());
+            // The list goes on with the rows that it had.
+            user.click_row(u"List1"_s, 2);
+            user.click(u"Command1_0"_s);
+            user.wait_for_window(editor_window());
+            user.same(user.text(u"text_1"_s), u"Gamma"_s, u"name"_s);
+            discard(user);
+        });
+        QCOMPARE(figures(store), figures_before);
+    }
+
+    void the_title_bar_drops_the_changes_without_a_question_data()
+    {
+        QTest::addColumn<bool>("escape");
+        QTest::newRow("title bar") << false;
+        QTest::newRow("Escape") << true;
+    }
+    void the_title_bar_drops_the_changes_without_a_question()
+    {
+        QFETCH(bool, escape);
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [&](hand& user) {
+            change(user);
+            if (escape)
+                user.key(Qt::Key_Escape);
+            else
+                user.close_window(editor_window());
+            user.wait_until_gone(editor_window());
+            user.check(!store.frame.locked, u"the menu is unlocked"_s);
+        });
+        QCOMPARE(figures(store), figures_before);
+    }
+
+    void the_first_tool_button_saves_and_any_other_closes()
+    {
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            change(user);
+            press_tool_button(user, u"B1"_s);
+            user.answer(notice_of_save());
+            user.wait_for_window(editor_window());
+            with_editor(user, [](f_courses& window) {
+                QVERIFY(window.saveSucceed);
+                QVERIFY(!window.needtosave);
+            });
+            press_tool_button(user, u"B5"_s);
+        });
+        QCOMPARE(figures(store), figures_after);
+    }
+
+    void a_change_after_a_save_asks_again_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::newRow("a box of the first page") << u"text_5"_s;
+        QTest::newRow("a length") << u"txt_verge_0"_s;
+    }
+    void a_change_after_a_save_asks_again()
+    {
+        QFETCH(QString, box);
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [&](hand& user) {
+            press_tool_button(user, u"B1"_s);
+            user.answer(notice_of_save());
+            user.wait_for_window(editor_window());
+            user.click_tab(u"TabStrip1"_s, box.startsWith(u"txt"_s) ? 2 : 1);
+            user.fill(box, u"0"_s);
+            user.key(Qt::Key_Tab);
+            user.click(u"cmdan"_s);
+            user.answer(question_on_closing(), QMessageBox::No);
+        });
+    }
+
+    void the_close_command_asks()
+    {
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            QMetaObject::invokeMethod(
+                qApp, [] { current_form->closeForm(); }, Qt::QueuedConnection);
+            user.answer(question_on_closing(), QMessageBox::No);
+        });
+    }
+};
+
+QTEST_MAIN(test_course_closing)
+#include "test_course_closing.moc"

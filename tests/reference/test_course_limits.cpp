@@ -1,0 +1,136 @@
+#include <QApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "course_keys.h"
+#include "course_windows.h"
+#include "DataEnvironment1.h"
+#include "f_c_list.h"
+#include "failure_guard.h"
+#include "language.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+/// What ends the program is tried in a child process: this program again, with a case and a store.
+namespace {
+
+expected_box failure_box(failure_kind kind)
+{
+    return {failure_words(kind).in(is_french), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok};
+}
+
+void add_courses(const reader& store, int count)
+{
+    for (int i = 0; i < count; ++i)
+        add_course(store, {QStringLiteral("C%1-0").arg(i), QStringLiteral("C%1").arg(i),
+                           QStringLiteral("C%1-0").arg(i)});
+}
+
+void type_length(hand& user, const QString& box, const QString& typed)
+{
+    user.click_tab(u"TabStrip1"_s, 2);
+    user.fill(box, typed);
+    user.key(Qt::Key_Tab);
+}
+
+void open_too_long_a_list(const reader& store)
+{
+    add_courses(store, most_courses + 1);
+    play([] { run_event([] { f_c_list().show_modal(); }); },
+         [](hand& user) { user.answer(failure_box(failure_kind::subscript)); });
+}
+
+void type_too_long_a_hole(const reader& store)
+{
+    add_courses(store, 1);
+    in_stored_course(0, [](hand& user) {
+        user.fill(u"text_0"_s, u"99"_s);
+        type_length(user, u"txt_verge_0"_s, u"32768"_s);
+        user.answer(failure_box(failure_kind::overflow));
+    });
+}
+
+void type_too_long_a_course(const reader& store)
+{
+    add_courses(store, 1);
+    in_stored_course(0, [](hand& user) {
+        type_length(user, u"txt_verge_0"_s, u"32767"_s);
+        user.answer(failure_box(failure_kind::overflow));
+    });
+}
+
+int run_child(const QString& what, const QString& path)
+{
+    language_is_settled = true;
+    data_environment().connection.Open(path);
+    const recording_frame frame;
+    const reader store(path);
+    if (what == u"list"_s)
+        open_too_long_a_list(store);
+    else if (what == u"hole"_s)
+        type_too_long_a_hole(store);
+    else
+        type_too_long_a_course(store);
+    return EXIT_SUCCESS;
+}
+
+}  // namespace
+
+class test_course_limits : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void beyond_a_limit_the_program_ends_and_the_store_stays_data()
+    {
+        QTest::addColumn<QString>("what");
+        QTest::addColumn<int>("courses");
+        QTest::newRow("the 52nd course") << u"list"_s << most_courses + 1;
+        QTest::newRow("a hole longer than a count holds") << u"hole"_s << 1;
+        QTest::newRow("a course longer than a count holds") << u"course"_s << 1;
+    }
+    void beyond_a_limit_the_program_ends_and_the_store_stays()
+    {
+        QFETCH(QString, what);
+        QFETCH(int, courses);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, what, path});
+        QVERIFY(child.waitForFinished(120000));
+        const QByteArray said = child.readAllStandardError();
+        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 1);
+        const reader store(path);
+        QCOMPARE(store.number(u"select count(*) from vrd_fields"_s), courses);
+        QCOMPARE(store.number(u"select count(*) from vrd_fields where slope = '121'"_s), courses);
+        QCOMPARE(store.number(u"select count(*) from field_info where yards_1 = 300"_s), courses);
+    }
+
+    void no_more_than_five_characters_fit_a_box_of_the_holes()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.fill(u"txt_verge_0"_s, u"123456"_s);
+            user.same(user.text(u"txt_verge_0"_s), u"12345"_s, u"typed"_s);
+            user.paste(u"txt_normal_0"_s, u"0000000"_s);
+            user.same(user.text(u"txt_normal_0"_s), u"00000"_s, u"pasted"_s);
+            discard(user);
+        });
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (argc == 4 && QByteArray(argv[1]) == "--child")
+        return run_child(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
+    test_course_limits test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_course_limits.moc"

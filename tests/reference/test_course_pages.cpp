@@ -1,0 +1,166 @@
+#include <QFrame>
+#include <QTest>
+
+#include "course_windows.h"
+#include "f_courses.h"
+#include "language.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void check_page(hand& user, int page, const QString& focus)
+{
+    for (int other = 1; other <= 3; ++other)
+        user.same(user.visible(u"frm_"_s + QString::number(other)), other == page,
+                  u"page "_s + QString::number(other));
+    user.same(user.focus(), focus, u"focus"_s);
+    with_editor(user, [page](f_courses& window) { QCOMPARE(plain(window.curFrame), page); });
+}
+
+/// The boxes that Tab reaches from a box, up to and with another.
+QStringList tabbed(hand& user, const QString& last)
+{
+    QStringList names{user.focus()};
+    while (names.last() != last && names.size() < 100) {
+        user.key(Qt::Key_Tab);
+        names << user.focus();
+    }
+    return names;
+}
+
+QStringList nine(const QString& name, int first)
+{
+    QStringList names;
+    for (int index = first; index < first + 9; ++index)
+        names << name + u'_' + QString::number(index);
+    return names;
+}
+
+}  // namespace
+
+class test_course_pages : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void captions_are_those_of_the_language_data() { both_languages(); }
+    void captions_are_those_of_the_language()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        in_new_course([](hand& user) {
+            user.same(user.title(editor_window()), in_language(u"Terrains", u"Golf Course"), u"title"_s);
+            user.same(user.entries(u"TabStrip1"_s).join(u'|'),
+                      in_language(u"Information générale|Aller|Retour",
+                                  u"General Information|Front Nine|Back Nine"),
+                      u"tabs"_s);
+            user.same(user.text(u"smdsave"_s), u"OK"_s, u"OK"_s);
+            user.same(user.text(u"cmdan"_s), in_language(u"Annuler", u"Cancel"), u"cancel"_s);
+            const QString labels[][2] = {
+                {u"lbl_name"_s, in_language(u"Nom :", u"Name :")},
+                {u"lbl_departure"_s, in_language(u"Départ :", u"Teeing Area :")},
+                {u"lbl_rating"_s, in_language(u"Moyenne :", u"Rating :")},
+                {u"lbl_slope"_s, in_language(u"Difficulté :", u"Slope :")},
+                {u"lbl_address"_s, in_language(u"Adresse :", u"Address :")},
+                {u"lbl_verge_2"_s, in_language(u"Distance (verges) ", u"Distance (yards)")},
+                {u"lbl_verge_3"_s, in_language(u"Distance (verges) ", u"Distance (yards)")},
+                {u"lbl_hnd_2"_s, u"Handicap"_s},
+                {u"lbl_normal_3"_s, in_language(u"Normale", u"Par")},
+                {u"lbl_alle_caption"_s, in_language(u"Aller :", u"Front :")},
+                {u"lbl_retour_caption"_s, in_language(u"Retour :", u"Back :")},
+                {u"lbl_total_caption"_s, u"Total :"_s},
+            };
+            for (const auto& [name, text] : labels)
+                user.same(user.text(name), text, name);
+            discard(user);
+        });
+    }
+
+    void a_tab_shows_its_page_and_gives_the_focus_to_its_first_box()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            check_page(user, 1, u"text_1"_s);
+            user.click_tab(u"TabStrip1"_s, 2);
+            check_page(user, 2, u"txt_verge_0"_s);
+            user.click_tab(u"TabStrip1"_s, 3);
+            check_page(user, 3, u"txt_verge_9"_s);
+            user.click_tab(u"TabStrip1"_s, 1);
+            check_page(user, 1, u"text_1"_s);
+            discard(user);
+        });
+    }
+
+    void the_tab_of_the_page_on_screen_moves_the_focus_too()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            user.click(u"text_4"_s);
+            user.click_tab(u"TabStrip1"_s, 1);
+            check_page(user, 1, u"text_1"_s);
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.click(u"txt_normal_8"_s);
+            user.click_tab(u"TabStrip1"_s, 2);
+            check_page(user, 2, u"txt_verge_0"_s);
+            discard(user);
+        });
+    }
+
+    void tabs_are_reached_by_the_keyboard()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            user.key(Qt::Key_Backtab);
+            user.same(user.focus(), u"TabStrip1"_s, u"focus"_s);
+            user.key(Qt::Key_Right);
+            check_page(user, 2, u"txt_verge_0"_s);
+            discard(user);
+        });
+    }
+
+    void the_keyboard_walks_as_a_scorecard_is_read()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            user.same(tabbed(user, u"cmdan"_s).join(u'|'),
+                      u"text_1|departure|text_2|text_0|text_3|text_4|text_5|smdsave|cmdan"_s, u"page 1"_s);
+            user.click_tab(u"TabStrip1"_s, 3);
+            const QStringList back =
+                nine(u"txt_verge"_s, 9) + nine(u"txt_hnd"_s, 9) + nine(u"txt_normal"_s, 9);
+            user.same(tabbed(user, u"txt_normal_17"_s).join(u'|'), back.join(u'|'), u"page 3"_s);
+            discard(user);
+        });
+    }
+
+    void enter_in_a_box_presses_no_button()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            fill_required(user, u"Delta"_s);
+            user.key(Qt::Key_Return);
+            user.check(user.is_open(editor_window()), u"the editor stays"_s);
+            discard(user);
+        });
+    }
+
+    void the_window_has_its_prescribed_size_and_place()
+    {
+        course_store store;
+        in_new_course([&](hand& user) {
+            with_editor(user, [&](f_courses& window) {
+                QVERIFY(window.width() >= 694 && window.height() >= 580);
+                const QRect frame = store.frame.frame_widget()->geometry();
+                QCOMPARE(window.pos(), frame.topLeft() + QPoint((frame.width() - window.width()) / 2, 2));
+                QCOMPARE(current_form.data(), &window);
+                for (const int page : {1, 2, 3})
+                    QCOMPARE(window.frm(page).frameShape(), QFrame::NoFrame);
+            });
+            discard(user);
+        });
+    }
+};
+
+QTEST_MAIN(test_course_pages)
+#include "test_course_pages.moc"
