@@ -37,28 +37,39 @@ page_layout::page_layout(const template_file& source, const QString& html)
     document_->setUseDesignMetrics(true);
     document_->documentLayout()->registerHandler(QTextFormat::ImageObject, &drawings_);
     document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
-    document_->setPageSize(inside_.size());
+    // One endless page: the toolkit's own paging cuts rows of several lines in two.
+    document_->setTextWidth(inside_.width());
+    cuts_ = cut_into_pages(*document_, inside_.height());
 }
 
 page_layout::~page_layout() = default;
 
 int page_layout::page_count() const
 {
-    return document_->pageCount();
+    return static_cast<int>(cuts_.size());
 }
 
 void page_layout::paint(QPainter& painter, int page, const QString& footer) const
 {
+    const page_cut& cut = cuts_.at(static_cast<std::size_t>(page));
+    paint_strip(painter, cut.repeated_head, inside_.top());
+    paint_strip(painter, cut.body, inside_.top() + cut.repeated_head.height());
+    paint_footer(painter, footer);
+}
+
+void page_layout::paint_strip(QPainter& painter, const page_strip& strip, double top) const
+{
+    if (strip.height() <= 0)
+        return;
     painter.save();
-    painter.translate(inside_.left(), inside_.top() - page * inside_.height());
+    painter.translate(inside_.left(), top - strip.top);
     QAbstractTextDocumentLayout::PaintContext context;
     // Paper is white whatever the desktop's colours are.
     context.palette.setColor(QPalette::Text, Qt::black);
-    context.clip = QRectF(0, page * inside_.height(), inside_.width(), inside_.height());
+    context.clip = QRectF(0, strip.top, inside_.width(), strip.height());
     painter.setClipRect(context.clip);
     document_->documentLayout()->draw(&painter, context);
     painter.restore();
-    paint_footer(painter, footer);
 }
 
 void page_layout::paint_footer(QPainter& painter, const QString& footer) const

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+#include "page_cuts.h"
 #include "report_drawings.h"
 #include "template_file.h"
 
@@ -28,6 +29,7 @@ public:
     void paint(QPainter& painter, int page, const QString& footer) const;
 
 private:
+    void paint_strip(QPainter& painter, const page_strip& strip, double top) const;
     void paint_footer(QPainter& painter, const QString& footer) const;
 
     QFont font_;
@@ -35,6 +37,7 @@ private:
     QRectF inside_;
     report_drawings drawings_;
     std::unique_ptr<QTextDocument> document_;
+    std::vector<page_cut> cuts_;
 };
 
 }  // namespace verdane

@@ -1,6 +1,7 @@
 #include "report_files.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -41,8 +42,15 @@ QByteArray png_of(const QImage& image)
 
 void write_report_file(const QString& path, const QByteArray& bytes)
 {
+    // A file is written beside and then takes the name over, which would put a file in the place of a
+    // device or a pipe.
+    const QFileInfo there(path);
+    if (there.exists() && !there.isFile())
+        throw run_time_failure(failure_kind::report_output, QStringLiteral("%1: not a file").arg(path));
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    // Unbuffered, because the toolkit's buffer takes a write that a full disk cut short for a whole one.
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size() &&
+        file.commit())
         return;
     throw run_time_failure(failure_kind::report_output,
                            QStringLiteral("%1: %2").arg(path, file.errorString()));

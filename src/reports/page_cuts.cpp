@@ -1,0 +1,64 @@
+#include "page_cuts.h"
+
+#include "page_bands.h"
+
+namespace verdane {
+
+namespace {
+
+/// Fills pages with bands, from the top of the document to its end.
+class page_filler {
+public:
+    explicit page_filler(double page_height) : page_height_(page_height) {}
+
+    void put(const page_band& band)
+    {
+        if (pages_.empty() || band.starts_page || band.place.bottom - page().body.top > room())
+            start_page(band);
+        page().body.bottom = band.place.bottom;
+        split_overlong();
+    }
+
+    std::vector<page_cut> result()
+    {
+        if (pages_.empty())
+            pages_.push_back({});
+        return std::move(pages_);
+    }
+
+private:
+    page_cut& page() { return pages_.back(); }
+
+    double room() { return page_height_ - page().repeated_head.height(); }
+
+    void start_page(const page_band& band)
+    {
+        const bool head_fits = band.head.height() + band.place.height() <= page_height_;
+        pages_.push_back({head_fits ? band.head : page_strip(), {band.place.top, band.place.top}});
+    }
+
+    /// What is taller than a page goes on where the page ends.
+    void split_overlong()
+    {
+        while (page().body.height() > room()) {
+            const page_strip rest{page().body.top + room(), page().body.bottom};
+            page().body.bottom = rest.top;
+            pages_.push_back({page().repeated_head, rest});
+        }
+    }
+
+    double page_height_;
+    std::vector<page_cut> pages_;
+};
+
+}  // namespace
+
+std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height)
+{
+    page_filler filler(page_height);
+    for (const page_band& band : bands_of(document))
+        filler.put(band);
+    return filler.result();
+}
+
+}  // namespace verdane

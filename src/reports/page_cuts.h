@@ -1,0 +1,28 @@
+#pragma once
+
+#include <vector>
+
+class QTextDocument;
+
+namespace verdane {
+
+/// A strip across a document laid out on one endless page, in its units.
+struct page_strip {
+    double top = 0;
+    double bottom = 0;
+
+    double height() const { return bottom - top; }
+};
+
+/// What stands on one page: the strip of the document, below the table head that stands again.
+struct page_cut {
+    page_strip repeated_head;
+    page_strip body;
+};
+
+/// Cuts a document into pages of a height. A cut goes between two lines or two rows of a table, never
+/// through one; rows that a cell joins stay together, and so does a table's head with its first row.
+/// Only what is taller than a whole page is cut where the page ends. There is always one page.
+std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height);
+
+}  // namespace verdane

@@ -1,0 +1,103 @@
+#include "report_tools.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+#include "Connection1.h"
+#include "reader.h"
+
+namespace verdane::testing {
+
+namespace {
+
+QString output_of(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        qFatal("%s does not run", qPrintable(program));
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+double figure_of(int line, int hole)
+{
+    if (line == 20)
+        return 0;
+    return line == 9 ? (hole - 9) / 10.0 : line + hole;
+}
+
+QString line_statement(int line)
+{
+    QStringList values;
+    double nines[2] = {0, 0};
+    for (int hole = 1; hole <= 18; ++hole) {
+        const double figure = figure_of(line, hole);
+        nines[hole > 9 ? 1 : 0] += figure;
+        values.append(QStringLiteral("hole_%1 = %2").arg(hole).arg(figure));
+    }
+    values.append(QStringLiteral("front_nine = %1").arg(nines[0]));
+    values.append(QStringLiteral("back_nine = %1").arg(nines[1]));
+    values.append(QStringLiteral("all_holes = %1").arg(nines[0] + nines[1]));
+    return QStringLiteral("update stats set %1 where rowid = %2")
+        .arg(values.join(QStringLiteral(", ")))
+        .arg(line + 1);
+}
+
+}  // namespace
+
+QString template_file_in(const QString& folder, const QString& name, const QString& head, const QString& body)
+{
+    const QString path = QDir(folder).filePath(name);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write %s", qPrintable(path));
+    const QString end_of_head = head.endsWith(u'\n') ? QStringLiteral("---\n") : QStringLiteral("\n---\n");
+    file.write((head + end_of_head + body).toUtf8());
+    return path;
+}
+
+QString built_template(const QString& name)
+{
+    return QCoreApplication::applicationDirPath() + u'/' + name;
+}
+
+QStringList pdf_pages(const QString& path)
+{
+    const QString text =
+        output_of(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+    QStringList pages = text.split(u'\f');
+    pages.removeLast();
+    return pages;
+}
+
+QString pdf_fact(const QString& path, const QString& word)
+{
+    const QStringList lines = output_of(QStringLiteral("pdfinfo"), {path}).split(u'\n');
+    for (const QString& line : lines)
+        if (line.startsWith(word))
+            return line.section(u':', 1).trimmed();
+    return {};
+}
+
+void fill_stats(const QString& store, int rounds, const QString& course)
+{
+    QStringList statements;
+    for (int line = 0; line < 34; ++line)
+        statements.append(line_statement(line));
+    statements.append(
+        QStringLiteral("update stats set course_text = %1, weather_text = ' TOUTES', partner_text = "
+                       "'TOUS LES PARTENAIRES', from_text = '2023-05-06 08:30:00', to_text = "
+                       "'2024-10-13 13:40:00', handicap_text = ' 14.3', round_count = %2, "
+                       "average_mark = '%3' where rowid = 1")
+            .arg(quoted(course))
+            .arg(rounds)
+            .arg(rounds > 1 ? QStringLiteral("0") : QStringLiteral(" ")));
+    if (rounds > 1)
+        statements.append(QStringLiteral("update stats set all_holes = 85.5 where rowid = 1"));
+    const reader writer(store);
+    writer.write(statements);
+}
+
+}  // namespace verdane::testing

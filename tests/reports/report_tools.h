@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the tests of reports share.
+namespace verdane::testing {
+
+/// Writes a template of that head and body and gives its path.
+QString template_file_in(const QString& folder, const QString& name, const QString& head,
+                         const QString& body);
+
+/// The folder of the program's own templates as it was built.
+QString built_template(const QString& name);
+
+/// A PDF file's text as it stands on its pages, one entry a page.
+QStringList pdf_pages(const QString& path);
+
+/// The line that `pdfinfo` has for a word ("Page size").
+QString pdf_fact(const QString& path, const QString& word);
+
+/// Gives every line of `stats` figures: hole h of line r holds `r + h`, line 9 holds a tenth of it
+/// and line 20 nothing; the totals are sums. The texts of the selection say `rounds` rounds.
+void fill_stats(const QString& store, int rounds, const QString& course);
+
+}  // namespace verdane::testing

@@ -1,0 +1,151 @@
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "failures.h"
+#include "page_view.h"
+#include "report_control.h"
+#include "report_preview.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "run_time_failure.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+class test_report_control : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    store_folder store_;
+
+    static void prepare_round_report(report_control& control, report_opening opening)
+    {
+        prepare_report(control, opening, u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt");
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        is_french = true;
+        set_report_store(store_.path());
+        fill_stats(store_.path(), 2, QStringLiteral("X"));
+    }
+
+    void the_path_is_the_programs_folder_and_the_literal_of_the_language_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QString>("literal");
+        QTest::newRow("French") << true << QStringLiteral("\\Stat_rounds.rpt");
+        QTest::newRow("English") << false << QStringLiteral("\\Stat_rounds_en.rpt");
+    }
+    void the_path_is_the_programs_folder_and_the_literal_of_the_language()
+    {
+        QFETCH(bool, french);
+        QFETCH(QString, literal);
+        is_french = french;
+        report_control control;
+        prepare_round_report(control, report_opening::maximised());
+        QCOMPARE(control.ReportFileName(), QCoreApplication::applicationDirPath() + literal);
+        QCOMPARE(control.WindowTitle(), QStringLiteral("Verdane International Inc."));
+        QCOMPARE(control.WindowState(), report_control::maximised);
+        QVERIFY(control.preview() == nullptr);
+    }
+
+    void a_report_opens_maximised_and_titled_as_it_was_set_up()
+    {
+        report_control control;
+        prepare_round_report(control, report_opening::maximised());
+        control.Action(report_control::run_now);
+        QVERIFY(control.preview() != nullptr);
+        QCOMPARE(control.preview()->objectName(), QStringLiteral("report_preview"));
+        QCOMPARE(control.preview()->windowTitle(), QStringLiteral("Verdane International Inc."));
+        QVERIFY(control.preview()->isVisible());
+        QVERIFY(control.preview()->isMaximized());
+        QVERIFY(!control.preview()->isModal());
+        delete control.preview();
+    }
+
+    void a_report_opens_at_the_zoom_it_was_set_up_with()
+    {
+        report_control control;
+        prepare_round_report(control, report_opening::zoomed(75));
+        control.Action(report_control::run_now);
+        QCOMPARE(control.preview()->pages().zoom(), 75);
+        QVERIFY(!control.preview()->isMaximized());
+        delete control.preview();
+    }
+
+    void several_reports_stay_open_beside_each_other()
+    {
+        report_control control;
+        prepare_round_report(control, report_opening::plain());
+        control.Action(report_control::run_now);
+        const QPointer<QWidget> first(control.preview());
+        control.Action(report_control::run_now);
+        const QPointer<QWidget> second(control.preview());
+        QVERIFY(first != second);
+        QVERIFY(first->isVisible() && second->isVisible());
+        second->close();
+        QTRY_VERIFY(second.isNull());
+        QVERIFY(control.preview() == nullptr);
+        QVERIFY(!first.isNull());
+        delete first;
+    }
+
+    void a_report_keeps_its_figures_when_the_table_changes()
+    {
+        report_control control;
+        prepare_round_report(control, report_opening::plain());
+        control.Action(report_control::run_now);
+        const QImage before = control.preview()->grab().toImage();
+        fill_stats(store_.path(), 30, QStringLiteral("Y"));
+        control.preview()->update();
+        QCOMPARE(control.preview()->grab().toImage(), before);
+        delete control.preview();
+    }
+
+    void a_folder_with_blanks_is_one_path()
+    {
+        QVERIFY(QDir(folder_.path()).mkdir(QStringLiteral("my own reports")));
+        const QString folder = folder_.filePath(QStringLiteral("my own reports"));
+        template_file_in(folder, QStringLiteral("try.rpt"), QStringLiteral("query it = select 1"), {});
+        report_control control;
+        control.set_ReportFileName(folder + QStringLiteral("\\try.rpt"));
+        control.Action(report_control::run_now);
+        QVERIFY(control.preview() != nullptr);
+        delete control.preview();
+    }
+
+    void a_launch_that_fails_opens_no_window()
+    {
+        report_control control;
+        control.set_ReportFileName(folder_.path() + QStringLiteral("\\none.rpt"));
+        QCOMPARE(failure_of([&] { control.Action(report_control::run_now); }), failure_kind::report_template);
+        prepare_round_report(control, report_opening::plain());
+        set_report_store(folder_.filePath(QStringLiteral("none.sqlite")));
+        QCOMPARE(failure_of([&] { control.Action(report_control::run_now); }),
+                 failure_kind::store_unreachable);
+        QVERIFY(control.preview() == nullptr);
+        QCOMPARE(failure_of([&] { control.Action(0); }), failure_kind::misuse);
+    }
+
+    void the_preview_closes_with_its_owner_at_the_latest()
+    {
+        auto owner = std::make_unique<QWidget>();
+        owner->show();
+        report_control control(owner.get());
+        prepare_round_report(control, report_opening::plain());
+        control.Action(report_control::run_now);
+        const QPointer<QWidget> window(control.preview());
+        QCOMPARE(window->parentWidget(), owner.get());
+        QVERIFY(window->isWindow());
+        owner.reset();
+        QVERIFY(window.isNull());
+    }
+};
+
+QTEST_MAIN(test_report_control)
+#include "test_report_control.moc"

@@ -1,0 +1,217 @@
+#include <QDir>
+#include <QFile>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "failures.h"
+#include "report_document.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+/// While it lives, no file of this process grows beyond a number of bytes.
+class room_on_disk {
+public:
+    explicit room_on_disk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit now{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &now);
+    }
+    ~room_on_disk()
+    {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signal_);
+    }
+    room_on_disk(const room_on_disk&) = delete;
+    room_on_disk& operator=(const room_on_disk&) = delete;
+
+private:
+    rlimit before_{};
+    void (*signal_)(int);
+};
+
+}  // namespace
+
+class test_report_output : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    store_folder store_;
+
+    QString file(const QString& name) const { return folder_.filePath(name); }
+
+    std::shared_ptr<const report_document> rendered(const QString& head, const QString& body = {})
+    {
+        return render_report(template_file_in(folder_.path(), QStringLiteral("out.rpt"), head, body));
+    }
+
+    std::shared_ptr<const report_document> three_pages()
+    {
+        return rendered(
+            QStringLiteral("page = A4 landscape\nmargins = 10 16 11 16\n"
+                           "query it = select 1 as n union all select 2 union all select 3"),
+            QStringLiteral("{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"));
+    }
+
+    static QByteArray content(const QString& path)
+    {
+        QFile source(path);
+        return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+    }
+
+    void print_to(QPrinter& printer, const QString& path)
+    {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        printer.setPageOrientation(QPageLayout::Landscape);
+    }
+
+private Q_SLOTS:
+    void init() { set_report_store(store_.path()); }
+
+    void fields_of_a_figures_file_are_quoted_where_they_must_data()
+    {
+        QTest::addColumn<QString>("separator");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("field");
+        const auto add = [](const char* name, const char* separator, const char* value, const char* field) {
+            QTest::newRow(name) << QString::fromUtf8(separator) << QString::fromUtf8(value)
+                                << QString::fromUtf8(field);
+        };
+        add("plain", ",", "'Été'", "Été");
+        add("null", ",", "null", "");
+        add("comma", ",", "'a,b'", "\"a,b\"");
+        add("comma beside semicolons", ";", "'a,b'", "a,b");
+        add("semicolon", ";", "'a;b'", "\"a;b\"");
+        add("quote", ",", "'say \"x\"'", "\"say \"\"x\"\"\"");
+        add("line end", ",", "'a' || char(10) || 'b'", "\"a\nb\"");
+        add("number", ",", "2.5", "2.5");
+        add("number beside semicolons", ";", "2.5", "2,5");
+        add("text that looks like a number", ";", "'2.5'", "2.5");
+    }
+    void fields_of_a_figures_file_are_quoted_where_they_must()
+    {
+        QFETCH(QString, separator);
+        QFETCH(QString, value);
+        QFETCH(QString, field);
+        const QString path = file(QStringLiteral("out.csv"));
+        rendered(QStringLiteral("csv_separator = %1\nquery it = select %2 as v").arg(separator, value))
+            ->save_csv(path);
+        QCOMPARE(content(path), "\xEF\xBB\xBFv\r\n" + field.toUtf8() + "\r\n");
+    }
+
+    void the_head_names_the_query_of_the_figures_file()
+    {
+        const QString path = file(QStringLiteral("out.csv"));
+        rendered(QStringLiteral("csv = second\nquery first = select 1 as a\nquery second = select 2 as b"))
+            ->save_csv(path);
+        QVERIFY(content(path).endsWith("b\r\n2\r\n"));
+    }
+
+    void a_picture_of_a_page_has_its_size_and_ink()
+    {
+        const QString path = file(QStringLiteral("out.png"));
+        three_pages()->save_picture(path, 1);
+        const QImage picture(path);
+        QCOMPARE(picture.size(), QSize(2339, 1654));
+        QVERIFY(picture.convertToFormat(QImage::Format_Grayscale8) !=
+                QImage(picture.size(), QImage::Format_Grayscale8));
+        QCOMPARE(picture.dotsPerMeterX(), 7874);
+    }
+
+    void what_cannot_be_written_is_a_failure_and_loses_nothing_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("no such folder") << file(QStringLiteral("nowhere/out.pdf"));
+        QTest::newRow("a folder of that name") << folder_.path();
+    }
+    void what_cannot_be_written_is_a_failure_and_loses_nothing()
+    {
+        QFETCH(QString, path);
+        const auto document = three_pages();
+        QCOMPARE(failure_of([&] { document->save_pdf(path); }), failure_kind::report_output);
+        QCOMPARE(failure_of([&] { document->save_csv(path); }), failure_kind::report_output);
+        QCOMPARE(failure_of([&] { document->save_picture(path, 0); }), failure_kind::report_output);
+        QVERIFY(QDir(folder_.path()).exists());
+    }
+
+    void a_disk_that_takes_no_more_leaves_the_file_as_it_was()
+    {
+        const QString path = file(QStringLiteral("kept.pdf"));
+        const auto document = three_pages();
+        document->save_csv(path);
+        const QByteArray before = content(path);
+        const room_on_disk little(1024);
+        QCOMPARE(failure_of([&] { document->save_pdf(path); }), failure_kind::report_output);
+        QCOMPARE(content(path), before);
+        QCOMPARE(QDir(folder_.path()).entryList({QStringLiteral("kept.pdf*")}).size(), 1);
+    }
+
+    void a_pipe_stays_a_pipe()
+    {
+        const QString path = file(QStringLiteral("pipe"));
+        QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+        QCOMPARE(failure_of([&] { three_pages()->save_csv(path); }), failure_kind::report_output);
+        QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
+    }
+
+    void printing_gives_the_pages_that_were_asked_for_data()
+    {
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("last");
+        QTest::addColumn<int>("pages");
+        QTest::newRow("all") << 0 << 0 << 3;
+        QTest::newRow("one") << 2 << 2 << 1;
+        QTest::newRow("two") << 2 << 3 << 2;
+        QTest::newRow("more than there are") << 3 << 9 << 1;
+    }
+    void printing_gives_the_pages_that_were_asked_for()
+    {
+        QFETCH(int, first);
+        QFETCH(int, last);
+        QFETCH(int, pages);
+        QPrinter printer(QPrinter::HighResolution);
+        print_to(printer, file(QStringLiteral("printed.pdf")));
+        if (first > 0)
+            printer.setFromTo(first, last);
+        three_pages()->print(printer);
+        const QStringList seen = pdf_pages(file(QStringLiteral("printed.pdf")));
+        QCOMPARE(seen.size(), pages);
+        QVERIFY(seen.front().contains(QStringLiteral("sheet-%1-").arg(qMax(1, first))));
+    }
+
+    void a_page_comes_whole_on_other_paper()
+    {
+        fill_stats(store_.path(), 3, QStringLiteral("X"));
+        QPrinter printer(QPrinter::HighResolution);
+        print_to(printer, file(QStringLiteral("letter.pdf")));
+        printer.setPageSize(QPageSize(QPageSize::Letter));
+        render_report(built_template(QStringLiteral("Stat_rounds_en.rpt")))->print(printer);
+        const QString page = pdf_pages(file(QStringLiteral("letter.pdf"))).front();
+        for (const char* corner : {"Round Statistics", "Total", "Triple+", "Page 1 of 1"})
+            QVERIFY2(page.contains(QString::fromLatin1(corner)), corner);
+        QVERIFY(pdf_fact(file(QStringLiteral("letter.pdf")), QStringLiteral("Page size"))
+                    .startsWith(QStringLiteral("792 x 612")));
+    }
+
+    void a_printer_that_cannot_start_is_a_failure()
+    {
+        QPrinter printer(QPrinter::HighResolution);
+        print_to(printer, file(QStringLiteral("nowhere/printed.pdf")));
+        QCOMPARE(failure_of([&] { three_pages()->print(printer); }), failure_kind::report_output);
+    }
+};
+
+QTEST_MAIN(test_report_output)
+#include "test_report_output.moc"

@@ -1,0 +1,219 @@
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "report_document.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+/// Rows of three printed lines each, whose first and last line carry the row's number.
+QString row_head(const QString& page, int rows)
+{
+    return QStringLiteral("page = %1\nmargins = 20 15 25 15\nfont = 10pt DejaVu Sans\n"
+                          "title = Rows\nfooter = Page {{page}} of {{pages}}\n"
+                          "query rows = with recursive c(n) as (select 1 union all select n + 1 from c "
+                          "where n < %2) select n from c\n")
+        .arg(page)
+        .arg(rows);
+}
+
+const QString row_body =
+    QStringLiteral("<style>td { padding: 1.3mm; }</style><p>{{title}}</p>"
+                   "<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
+                   "{{#rows}}<tr><td>start-{{n}}-<br>middle<br>end-{{n}}-</td></tr>{{/rows}}</table>");
+
+int ink_in(const QImage& image, const QRect& place)
+{
+    int dark = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = place.left(); x <= place.right(); ++x)
+            dark += qGray(image.pixel(x, y)) < 200 ? 1 : 0;
+    return dark;
+}
+
+}  // namespace
+
+class test_report_pages : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    store_folder store_;
+
+    std::shared_ptr<const report_document> rendered(const QString& head, const QString& body)
+    {
+        return render_report(template_file_in(folder_.path(), QStringLiteral("pages.rpt"), head, body));
+    }
+
+    QStringList pages_of(const report_document& document)
+    {
+        const QString path = folder_.filePath(QStringLiteral("pages.pdf"));
+        document.save_pdf(path);
+        return pdf_pages(path);
+    }
+
+private Q_SLOTS:
+    void init() { set_report_store(store_.path()); }
+
+    void no_row_is_cut_and_every_page_has_the_table_head_and_its_number_data()
+    {
+        QTest::addColumn<QString>("page");
+        for (const char* page : {"A4 landscape", "A4 portrait", "Letter landscape", "A5 portrait"})
+            QTest::newRow(page) << QString::fromLatin1(page);
+    }
+    void no_row_is_cut_and_every_page_has_the_table_head_and_its_number()
+    {
+        QFETCH(QString, page);
+        const auto document = rendered(row_head(page, 60), row_body);
+        const QStringList pages = pages_of(*document);
+        QCOMPARE(pages.size(), document->page_count());
+        QVERIFY(pages.size() > 2);
+        int next = 1;
+        for (qsizetype number = 0; number < pages.size(); ++number) {
+            const QString& text = pages[number];
+            QVERIFY(text.contains(QStringLiteral("HEADING")));
+            QVERIFY(text.contains(QStringLiteral("Page %1 of %2").arg(number + 1).arg(pages.size())));
+            for (; text.contains(QStringLiteral("start-%1-").arg(next)); ++next)
+                QVERIFY2(text.contains(QStringLiteral("end-%1-").arg(next)), qPrintable(text));
+        }
+        QCOMPARE(next, 61);
+    }
+
+    void rows_that_a_cell_joins_stay_on_one_page()
+    {
+        const QString body = QStringLiteral(
+            "<table width=\"180mm\"><thead><tr><th>HEADING</th><th>x</th></tr></thead>{{#rows}}"
+            "<tr><td rowspan=\"3\">start-{{n}}-</td><td>a</td></tr><tr><td>b</td></tr>"
+            "<tr><td>end-{{n}}-</td></tr>{{/rows}}</table>");
+        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A4 portrait"), 40), body));
+        QVERIFY(pages.size() > 1);
+        for (const QString& page : pages)
+            QCOMPARE(page.count(QStringLiteral("start-")), page.count(QStringLiteral("end-")));
+    }
+
+    void a_row_taller_than_a_page_goes_on_over_the_next_ones()
+    {
+        const QString body = QStringLiteral("<table><tr><td>{{#rows}}start-{{n}}-<br>{{/rows}}</td></tr>"
+                                            "<tr><td>after</td></tr></table>");
+        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A5 landscape"), 60), body));
+        QVERIFY(pages.size() > 2);
+        QVERIFY(pages.front().contains(QStringLiteral("start-1-")));
+        QVERIFY(pages.back().contains(QStringLiteral("after")));
+        QVERIFY(pages.join(u' ').contains(QStringLiteral("start-60-")));
+    }
+
+    void a_page_break_is_kept_and_leaves_no_empty_page_behind_data()
+    {
+        QTest::addColumn<QString>("body");
+        QTest::newRow("after") << QStringLiteral(
+            "{{#rows}}<p style=\"page-break-after: always\">start-{{n}}-</p>{{/rows}}");
+        QTest::newRow("before") << QStringLiteral(
+            "{{#rows}}<p style=\"page-break-before: always\">start-{{n}}-</p>{{/rows}}");
+        QTest::newRow("tables") << QStringLiteral(
+            "{{#rows}}<table style=\"page-break-before: always\"><tr><td>start-{{n}}-</td></tr></table>"
+            "{{/rows}}");
+    }
+    void a_page_break_is_kept_and_leaves_no_empty_page_behind()
+    {
+        QFETCH(QString, body);
+        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A4 portrait"), 4), body));
+        QCOMPARE(pages.size(), 4);
+        for (int page = 0; page < 4; ++page)
+            QVERIFY(pages[page].contains(QStringLiteral("start-%1-").arg(page + 1)));
+    }
+
+    void few_rows_make_one_page_and_none_make_one_too_data()
+    {
+        QTest::addColumn<QString>("body");
+        QTest::newRow("few") << row_body;
+        QTest::newRow("none") << QString();
+    }
+    void few_rows_make_one_page_and_none_make_one_too()
+    {
+        QFETCH(QString, body);
+        QCOMPARE(rendered(row_head(QStringLiteral("A4 portrait"), 3), body)->page_count(), 1);
+    }
+
+    void a_page_has_the_size_of_its_paper_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QString>("points");
+        QTest::newRow("A4 across") << QStringLiteral("A4 landscape") << QStringLiteral("842 x 595 pts");
+        QTest::newRow("A4 upright") << QStringLiteral("A4 portrait") << QStringLiteral("595 x 842 pts");
+        QTest::newRow("Letter across")
+            << QStringLiteral("Letter landscape") << QStringLiteral("792 x 612 pts");
+    }
+    void a_page_has_the_size_of_its_paper()
+    {
+        QFETCH(QString, page);
+        QFETCH(QString, points);
+        pages_of(*rendered(row_head(page, 3), row_body));
+        const QString seen =
+            pdf_fact(folder_.filePath(QStringLiteral("pages.pdf")), QStringLiteral("Page size"));
+        QVERIFY2(seen.startsWith(points), qPrintable(seen));
+    }
+
+    void margins_are_kept_free_in_millimetres()
+    {
+        const auto document = rendered(row_head(QStringLiteral("A4 portrait"), 60), row_body);
+        const QImage image = document->page_image(0, 254);
+        QCOMPARE(image.size(), QSize(2100, 2970));
+        QCOMPARE(ink_in(image, QRect(0, 0, 2100, 200)), 0);
+        QCOMPARE(ink_in(image, QRect(0, 0, 150, 2970)), 0);
+        QCOMPARE(ink_in(image, QRect(1951, 0, 149, 2970)), 0);
+        QVERIFY(ink_in(image, QRect(150, 200, 1800, 2520)) > 1000);
+    }
+
+    void lengths_in_mm_and_pt_are_those_on_paper()
+    {
+        const QString body = QStringLiteral(
+            "<svg width=\"40mm\" height=\"20mm\" viewBox=\"0 0 2 1\"><rect width=\"2\" height=\"1\"/></svg>");
+        const QImage image = rendered(row_head(QStringLiteral("A4 portrait"), 1), body)->page_image(0, 254);
+        QVERIFY(qAbs(ink_in(image, image.rect().adjusted(0, 0, 0, -300)) - 400 * 200) < 2000);
+    }
+
+    void a_picture_shows_the_same_page_at_any_resolution()
+    {
+        const auto document = rendered(row_head(QStringLiteral("A4 portrait"), 20), row_body);
+        const QImage coarse = document->page_image(0, 75);
+        const QImage fine = document->page_image(0, 300).scaled(coarse.size(), Qt::IgnoreAspectRatio,
+                                                                Qt::SmoothTransformation);
+        qint64 difference = 0;
+        for (int y = 0; y < coarse.height(); ++y)
+            for (int x = 0; x < coarse.width(); ++x)
+                difference += qAbs(qGray(coarse.pixel(x, y)) - qGray(fine.pixel(x, y)));
+        QVERIFY(difference / (coarse.width() * coarse.height()) < 4);
+    }
+
+    void a_drawing_stays_a_drawing_in_a_pdf()
+    {
+        const QString body = QStringLiteral("<svg width=\"60mm\" height=\"60mm\" viewBox=\"0 0 9 9\">"
+                                            "<circle cx=\"4\" cy=\"4\" r=\"4\" fill=\"#1f7a4d\"/></svg>");
+        const auto document = rendered(row_head(QStringLiteral("A4 portrait"), 1), body);
+        pages_of(*document);
+        QFile file(folder_.filePath(QStringLiteral("pages.pdf")));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(!file.readAll().contains("/Subtype /Image"));
+    }
+
+    void text_is_black_on_white_whatever_colours_the_desktop_has()
+    {
+        QPalette night;
+        night.setColor(QPalette::Text, Qt::white);
+        night.setColor(QPalette::Base, Qt::black);
+        QGuiApplication::setPalette(night);
+        const QImage image =
+            rendered(row_head(QStringLiteral("A4 portrait"), 5), row_body)->page_image(0, 100);
+        QGuiApplication::setPalette(QPalette());
+        QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white));
+        QVERIFY(ink_in(image, image.rect()) > 200);
+    }
+};
+
+QTEST_MAIN(test_report_pages)
+#include "test_report_pages.moc"

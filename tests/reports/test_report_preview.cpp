@@ -1,0 +1,304 @@
+#include <QAbstractButton>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPrinter>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "page_view.h"
+#include "report_dialogs.h"
+#include "report_document.h"
+#include "report_preview.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "run_time_failure.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+class test_report_preview : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    store_folder store_;
+    QPointer<report_preview> window_;
+    file_question asked_;
+    QString answer_;
+
+    QString file(const QString& name) const { return folder_.filePath(name); }
+
+    void open(QWidget* owner = nullptr)
+    {
+        const QString path = template_file_in(
+            folder_.path(), QStringLiteral("Three.rpt"),
+            QStringLiteral("page = A4 landscape\ntitle = Three\n"
+                           "query it = select 1 as n union all select 2 union all select 3"),
+            QStringLiteral("{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"));
+        window_ = new report_preview(render_report(path), QStringLiteral("A title"), owner);
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowActive(window_));
+    }
+
+    void click(const char* name)
+    {
+        auto* button = window_->findChild<QAbstractButton*>(QString::fromLatin1(name));
+        QVERIFY2(button != nullptr, name);
+        QVERIFY(!button->accessibleName().isEmpty());
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    QString label(const char* name) { return window_->findChild<QLabel*>(QString::fromLatin1(name))->text(); }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window_->focusWidget() == nullptr ? window_.data() : window_->focusWidget(), key,
+                        modifiers);
+    }
+
+    QMessageBox* box() { return window_->findChild<QMessageBox*>(QStringLiteral("message_box")); }
+
+private Q_SLOTS:
+    void init()
+    {
+        is_french = false;
+        set_report_store(store_.path());
+        asked_ = {};
+        answer_.clear();
+        dialogs_of_reports().choose_file = [this](QWidget*, const file_question& question) {
+            asked_ = question;
+            return answer_;
+        };
+    }
+    void cleanup() { delete window_; }
+
+    void the_window_has_its_title_and_says_where_it_stands()
+    {
+        open();
+        QCOMPARE(window_->objectName(), QStringLiteral("report_preview"));
+        QCOMPARE(window_->windowTitle(), QStringLiteral("A title"));
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
+        QCOMPARE(label("zoom_percent"), QStringLiteral("100 %"));
+    }
+
+    void captions_are_those_of_the_language_it_was_made_in()
+    {
+        is_french = true;
+        open();
+        is_french = false;
+        click("next_page");
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 de 3"));
+        QCOMPARE(window_->findChild<QAbstractButton*>(QStringLiteral("print"))->text(),
+                 QStringLiteral("Imprimer…"));
+    }
+
+    void pages_turn_by_button_and_by_key()
+    {
+        open();
+        click("next_page");
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        press(Qt::Key_PageDown);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
+        press(Qt::Key_PageDown);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
+        press(Qt::Key_PageUp);
+        press(Qt::Key_PageUp);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        click("previous_page");
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
+    }
+
+    void the_zoom_steps_within_its_limits()
+    {
+        open();
+        click("zoom_in");
+        QCOMPARE(label("zoom_percent"), QStringLiteral("110 %"));
+        press(Qt::Key_Minus, Qt::ControlModifier);
+        press(Qt::Key_Minus, Qt::ControlModifier);
+        QCOMPARE(label("zoom_percent"), QStringLiteral("90 %"));
+        press(Qt::Key_Plus, Qt::ControlModifier);
+        QCOMPARE(label("zoom_percent"), QStringLiteral("100 %"));
+        for (int step = 0; step < 20; ++step)
+            click("zoom_out");
+        QCOMPARE(window_->pages().zoom(), page_view::least_zoom);
+        for (int step = 0; step < 30; ++step)
+            click("zoom_in");
+        QCOMPARE(window_->pages().zoom(), page_view::most_zoom);
+    }
+
+    void fit_width_leaves_nothing_to_scroll_across()
+    {
+        open();
+        for (const int width : {700, 1500}) {
+            window_->resize(width, 600);
+            QCoreApplication::processEvents();
+            click("fit_width");
+            QCOMPARE(window_->pages().horizontalScrollBar()->maximum(), 0);
+            const double shown = 297 / 25.4 * window_->logicalDpiX() * window_->pages().zoom() / 100;
+            QVERIFY(shown > width - 80);
+        }
+    }
+
+    void what_is_seen_stays_in_the_middle_when_the_zoom_changes()
+    {
+        open();
+        click("next_page");
+        for (int step = 0; step < 4; ++step) {
+            click("zoom_in");
+            QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        }
+    }
+
+    void the_pages_are_painted()
+    {
+        open();
+        const QImage seen = window_->pages().grab().toImage();
+        int white = 0;
+        int dark = 0;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 0; x < seen.width(); ++x) {
+                white += qGray(seen.pixel(x, y)) > 250 ? 1 : 0;
+                dark += qGray(seen.pixel(x, y)) < 90 ? 1 : 0;
+            }
+        QVERIFY(white > seen.width() * seen.height() / 4);
+        QVERIFY(dark > 20);
+    }
+
+    void a_report_is_saved_where_the_chooser_says_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("ending");
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("pdf") << QStringLiteral("save_pdf") << QStringLiteral("pdf") << QByteArray("%PDF");
+        QTest::newRow("figures") << QStringLiteral("save_csv") << QStringLiteral("csv")
+                                 << QByteArray("\xEF\xBB\xBFn\r\n1\r\n");
+        QTest::newRow("picture") << QStringLiteral("save_picture") << QStringLiteral("png")
+                                 << QByteArray("\x89PNG");
+    }
+    void a_report_is_saved_where_the_chooser_says()
+    {
+        QFETCH(QString, button);
+        QFETCH(QString, ending);
+        QFETCH(QByteArray, start);
+        open();
+        answer_ = file(QStringLiteral("saved.") + ending);
+        click(qPrintable(button));
+        QCOMPARE(asked_.proposed, QStringLiteral("Three.") + ending);
+        QCOMPARE(asked_.ending, ending);
+        QFile saved(answer_);
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QVERIFY(saved.readAll().startsWith(start));
+        QVERIFY(box() == nullptr);
+    }
+
+    void the_key_of_saving_saves_a_pdf()
+    {
+        open();
+        answer_ = file(QStringLiteral("keyed.pdf"));
+        press(Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(pdf_pages(answer_).size(), 3);
+    }
+
+    void the_picture_is_that_of_the_page_in_view()
+    {
+        open();
+        click("next_page");
+        answer_ = file(QStringLiteral("second.png"));
+        click("save_picture");
+        const QString first = file(QStringLiteral("first.png"));
+        click("previous_page");
+        answer_ = first;
+        click("save_picture");
+        QVERIFY(QImage(first) != QImage(file(QStringLiteral("second.png"))));
+    }
+
+    void a_chooser_that_is_left_writes_nothing()
+    {
+        open();
+        click("save_pdf");
+        QCOMPARE(asked_.ending, QStringLiteral("pdf"));
+        QVERIFY(box() == nullptr);
+    }
+
+    void a_file_that_cannot_be_written_is_told_and_the_preview_goes_on_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::newRow("French") << true;
+        QTest::newRow("English") << false;
+    }
+    void a_file_that_cannot_be_written_is_told_and_the_preview_goes_on()
+    {
+        QFETCH(bool, french);
+        is_french = french;
+        open();
+        answer_ = file(QStringLiteral("nowhere/saved.pdf"));
+        click("save_pdf");
+        QVERIFY(box() != nullptr);
+        QCOMPARE(box()->icon(), QMessageBox::Critical);
+        QCOMPARE(box()->text(), failure_words(failure_kind::report_output).in(french));
+        QVERIFY(box()->informativeText().contains(answer_));
+        QTest::keyClick(box(), Qt::Key_Return);
+        QTRY_VERIFY(box() == nullptr);
+        QVERIFY(window_->isVisible());
+        answer_ = file(QStringLiteral("saved after all.pdf"));
+        click("save_pdf");
+        QVERIFY(QFile::exists(answer_));
+    }
+
+    void printing_uses_the_printer_that_was_set_up()
+    {
+        const QString path = file(QStringLiteral("printed.pdf"));
+        dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(path);
+            return true;
+        };
+        open();
+        press(Qt::Key_P, Qt::ControlModifier);
+        QCOMPARE(pdf_pages(path).size(), 3);
+        QVERIFY(pdf_fact(path, QStringLiteral("Page size")).startsWith(QStringLiteral("842 x 595")));
+    }
+
+    void printing_that_fails_is_told_and_one_that_is_left_is_not()
+    {
+        bool goes_on = true;
+        dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(file(QStringLiteral("nowhere/printed.pdf")));
+            return goes_on;
+        };
+        open();
+        click("print");
+        QVERIFY(box() != nullptr);
+        delete box();
+        goes_on = false;
+        click("print");
+        QVERIFY(box() == nullptr);
+    }
+
+    void escape_closes_the_window_for_good()
+    {
+        open();
+        press(Qt::Key_Escape);
+        QTRY_VERIFY(window_.isNull());
+    }
+
+    void it_takes_input_above_a_modal_window()
+    {
+        QDialog owner;
+        owner.setWindowModality(Qt::ApplicationModal);
+        owner.open();
+        open(&owner);
+        click("next_page");
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        press(Qt::Key_Escape);
+        QTRY_VERIFY(window_.isNull());
+        QVERIFY(owner.isVisible());
+    }
+};
+
+QTEST_MAIN(test_report_preview)
+#include "test_report_preview.moc"

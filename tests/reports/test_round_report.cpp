@@ -1,0 +1,264 @@
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "reader.h"
+#include "report_document.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString french = QStringLiteral("Stat_rounds.rpt");
+const QString english = QStringLiteral("Stat_rounds_en.rpt");
+
+/// The printed line that starts with a caption, without its first words and with single blanks.
+QString line_after(const QString& page, const QString& caption)
+{
+    for (const QString& line : page.split(u'\n')) {
+        const QString words = line.simplified();
+        const qsizetype at = words.indexOf(caption + u' ');
+        if (at >= 0 && words.size() > caption.size() + 20)
+            return words.sliced(at + caption.size() + 1);
+    }
+    return {};
+}
+
+}  // namespace
+
+class test_round_report : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    store_folder store_;
+
+    QString page_of(const QString& name)
+    {
+        const QString path = folder_.filePath(QStringLiteral("round.pdf"));
+        render_report(built_template(name))->save_pdf(path);
+        const QStringList pages = pdf_pages(path);
+        return pages.size() == 1 ? pages.front() : QString();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        set_report_store(store_.path());
+        fill_stats(store_.path(), 40, QStringLiteral("A & B <c> \"d\""));
+    }
+
+    void both_languages_stand_on_one_landscape_page_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("rounds");
+        for (const int rounds : {1, 40}) {
+            QTest::addRow("French, %d", rounds) << french << rounds;
+            QTest::addRow("English, %d", rounds) << english << rounds;
+        }
+    }
+    void both_languages_stand_on_one_landscape_page()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, rounds);
+        fill_stats(store_.path(), rounds, QStringLiteral("LE BLAINVILLIER     , Blanc"));
+        const auto document = render_report(built_template(name));
+        QCOMPARE(document->page_count(), 1);
+        QCOMPARE(document->page_size_mm().toSize(), QSize(297, 210));
+        // What it prints also has room on Letter paper, 279 by 216.
+        const QMarginsF margins = document->margins_mm();
+        QVERIFY(297 - margins.left() - margins.right() <= 279.4 - 2 * 6);
+    }
+
+    void the_heading_holds_the_selection_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("texts");
+        const QStringList shared{
+            QStringLiteral("A & B <c> \"d\""),      QStringLiteral("TOUTES"),
+            QStringLiteral("TOUS LES PARTENAIRES"), QStringLiteral("2023-05-06 08:30:00"),
+            QStringLiteral("2024-10-13 13:40:00"),  QStringLiteral("40")};
+        QTest::newRow("French") << french
+                                << shared + QStringList{QStringLiteral("Statistiques des rondes"),
+                                                        QStringLiteral("14,3"),
+                                                        QStringLiteral("Nombre de parties jouées"),
+                                                        QStringLiteral("Page 1 de 1")};
+        QTest::newRow("English") << english
+                                 << shared + QStringList{QStringLiteral("Round Statistics"),
+                                                         QStringLiteral("14.3"),
+                                                         QStringLiteral("Number of rounds"),
+                                                         QStringLiteral("Page 1 of 1")};
+    }
+    void the_heading_holds_the_selection()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, texts);
+        const QString page = page_of(name);
+        for (const QString& text : texts)
+            QVERIFY2(page.contains(text), qPrintable(text));
+    }
+
+    void every_line_stands_behind_its_caption_in_table_order_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("captions");
+        QTest::newRow("French") << french
+                                << QStringList{u"Allée"_qs,
+                                               u"Fosse de sable"_qs,
+                                               u"Coups ratés"_qs,
+                                               u"Pénalité eau"_qs,
+                                               u"Pénalité balle perdue"_qs,
+                                               u"Pén. (règlement)"_qs,
+                                               u"Pénalité hors limites"_qs,
+                                               u"Total pénalités"_qs,
+                                               u"+/- moyenne par ronde"_qs,
+                                               u"Nombre de normales"_qs,
+                                               u"Verts en coup réglementaires"_qs,
+                                               u"1 roulé réglementaire"_qs,
+                                               u"2 roulés réglementaires"_qs,
+                                               u"3 roulés et + réglementaires"_qs,
+                                               u"Vert en coup non réglementaire"_qs,
+                                               u"1 roulés non réglementaire"_qs,
+                                               u"2 roulés non réglementaire"_qs,
+                                               u"3 roulés et + non réglementaire"_qs,
+                                               u"Normales non réglementaires"_qs,
+                                               u"Approches callés"_qs,
+                                               u"Nombre de normale 3"_qs,
+                                               u"Nombre de normales 4"_qs,
+                                               u"Nombre de normales 5"_qs,
+                                               u"Moyenne de normales 3"_qs,
+                                               u"Moyenne de normale 4"_qs,
+                                               u"Moyenne de normales 5"_qs,
+                                               u"Trous d’un coup"_qs,
+                                               u"Albatros"_qs,
+                                               u"Aigles"_qs,
+                                               u"Oiselets"_qs,
+                                               u"Bogueys"_qs,
+                                               u"Doubles"_qs,
+                                               u"Triples et +"_qs};
+        QTest::newRow("English") << english
+                                 << QStringList{u"Fairway Shots"_qs,
+                                                u"Sand Trap Shots"_qs,
+                                                u"Missed Shots"_qs,
+                                                u"Water Hazard"_qs,
+                                                u"Lost Ball"_qs,
+                                                u"Rules"_qs,
+                                                u"Out of Bound"_qs,
+                                                u"Total"_qs,
+                                                u"+/- mean per round"_qs,
+                                                u"Number of Par"_qs,
+                                                u"Green in Regulation"_qs,
+                                                u"1 Putt in Regulation"_qs,
+                                                u"2 Putts in Regulation"_qs,
+                                                u"3+ Putts in Regulation"_qs,
+                                                u"Green not in Regulation"_qs,
+                                                u"1 Putt not in Regulation"_qs,
+                                                u"2 Putts not in Regulation"_qs,
+                                                u"3+ Putts not in regulation"_qs,
+                                                u"Up and Down"_qs,
+                                                u"Chip in"_qs,
+                                                u"Number of Par 3"_qs,
+                                                u"Number of Par 4"_qs,
+                                                u"Number of Par 5"_qs,
+                                                u"Average Par 3"_qs,
+                                                u"Average Par 4"_qs,
+                                                u"Average Par 5"_qs,
+                                                u"Hole in One"_qs,
+                                                u"Double eagle"_qs,
+                                                u"Eagle"_qs,
+                                                u"Birdie"_qs,
+                                                u"Bogey"_qs,
+                                                u"Double"_qs,
+                                                u"Triple+"_qs};
+    }
+    void every_line_stands_behind_its_caption_in_table_order()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, captions);
+        QCOMPARE(captions.size(), 33);
+        const QString page = page_of(name).simplified();
+        qsizetype at = 0;
+        for (int line = 1; line < 34; ++line) {
+            const QString& caption = captions[line - 1];
+            // The first hole of line r holds r + 1; lines 9 and 20 are told apart below.
+            const QString first = line == 9 || line == 20 ? QString() : QString::number(line + 1);
+            at = page.indexOf(caption + u' ' + first, at);
+            QVERIFY2(at >= 0, qPrintable(caption));
+        }
+    }
+
+    void the_strokes_show_a_mean_of_many_rounds_and_a_total_of_one()
+    {
+        const QString many = line_after(page_of(english), QStringLiteral("Strokes"));
+        QCOMPARE(many, QStringLiteral("total: mean per round 1 2 3 4 5 6 7 8 9 45 "
+                                      "10 11 12 13 14 15 16 17 18 126 85.5"));
+        QVERIFY(line_after(page_of(french), QStringLiteral("Coups")).endsWith(QStringLiteral(" 126 85,5")));
+        fill_stats(store_.path(), 1, QStringLiteral("X"));
+        QCOMPARE(line_after(page_of(english), QStringLiteral("Strokes")),
+                 QStringLiteral("1 2 3 4 5 6 7 8 9 45 10 11 12 13 14 15 16 17 18 126 171"));
+    }
+
+    void strokes_against_par_carry_a_sign()
+    {
+        QCOMPARE(line_after(page_of(english), QStringLiteral("+/- mean per round")),
+                 QStringLiteral("−0.8 −0.7 −0.6 −0.5 −0.4 −0.3 −0.2 −0.1 0 −3.6 "
+                                "+0.1 +0.2 +0.3 +0.4 +0.5 +0.6 +0.7 +0.8 +0.9 +4.5 +0.9"));
+        QVERIFY(line_after(page_of(french), QStringLiteral("+/- moyenne par ronde"))
+                    .startsWith(QStringLiteral("−0,8 −0,7")));
+    }
+
+    void averages_have_two_decimals_in_their_totals()
+    {
+        QVERIFY(line_after(page_of(english), QStringLiteral("Average Par 3"))
+                    .startsWith(QStringLiteral("25 26 27 28 29 30 31 32 33 261.00 34")));
+    }
+
+    void empty_cells_are_dots_and_no_zeros()
+    {
+        const QString seen = line_after(page_of(english), QStringLiteral("Chip in"));
+        QCOMPARE(seen, QStringLiteral("· · · · · · · · · · · · · · · · · · · · ·"));
+    }
+
+    void the_figures_file_has_the_34_lines_unrounded()
+    {
+        const QString path = folder_.filePath(QStringLiteral("figures.csv"));
+        render_report(built_template(english))->save_csv(path);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList lines = QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"));
+        QCOMPARE(lines.size(), 36);
+        QCOMPARE(lines[0],
+
+                 QStringLiteral("Line,1,2,3,4,5,6,7,8,9,Out,10,11,12,13,14,15,16,17,18,In,Total"));
+        QCOMPARE(lines[1],
+                 QStringLiteral("Strokes,1,2,3,4,5,6,7,8,9,45,10,11,12,13,14,15,16,17,18,126,85.5"));
+        QVERIFY(lines[10].startsWith(QStringLiteral("+/-,-0.8,-0.7,")));
+        QVERIFY(lines[34].startsWith(QStringLiteral("Triple+,34,35,")));
+    }
+
+    void the_french_figures_file_suits_a_french_spreadsheet()
+    {
+        const QString path = folder_.filePath(QStringLiteral("figures.csv"));
+        render_report(built_template(french))->save_csv(path);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList lines = QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"));
+        QVERIFY(lines[0].endsWith(QStringLiteral(";18;Retour;Total")));
+        QVERIFY(lines[1].endsWith(QStringLiteral(";126;85,5")));
+    }
+
+    void a_table_without_figures_prints_too()
+    {
+        QStringList nulls;
+        for (int hole = 1; hole <= 18; ++hole)
+            nulls.append(QStringLiteral("hole_%1 = null").arg(hole));
+        reader(store_.path()).write(QStringLiteral("update stats set ") + nulls.join(u','));
+        QCOMPARE(render_report(built_template(french))->page_count(), 1);
+    }
+};
+
+QTEST_MAIN(test_round_report)
+#include "test_round_report.moc"
