@@ -1,0 +1,238 @@
+#include <QLineEdit>
+#include <QTest>
+
+#include "f_new_round.h"
+#include "round_windows.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+/// What stands on the panel: "box=text" for every box that is not blank, in the order of the boxes.
+QString panel(hand& user)
+{
+    QStringList cells;
+    with_round(user, [&](f_new_round& window) {
+        for (int box = 12; box <= 35; ++box) {
+            const QString text = window.text(box).text();
+            if (text != u" ")
+                cells << QStringLiteral("%1=%2").arg(box).arg(text);
+        }
+    });
+    return cells.join(u' ');
+}
+
+void totals_are(hand& user, const QString& brut, const QString& hand_icap, const QString& net,
+                const QString& plus)
+{
+    user.same(user.text(QStringLiteral("l_brut")), brut, QStringLiteral("gross"));
+    user.same(user.text(QStringLiteral("l_hand")), hand_icap, QStringLiteral("handicap"));
+    user.same(user.text(QStringLiteral("l_net")), net, QStringLiteral("net"));
+    user.same(user.text(QStringLiteral("l_plus")), plus, QStringLiteral("over par"));
+}
+
+/// A stored round whose first 17 holes have so many long shots each.
+void add_round_of(const round_store& store, int strokes)
+{
+    store.add_round(key_of_keyed_round());
+    for (int hole = 1; hole <= 17; ++hole)
+        store.store.write(QStringLiteral("update games set long_%1 = %2").arg(hole).arg(strokes));
+}
+
+}  // namespace
+
+class test_round_panel : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_panel_classes_the_hole_on_screen_data()
+    {
+        QTest::addColumn<QString>("par");
+        QTest::addColumn<QString>("strokes");
+        QTest::addColumn<QString>("water");
+        QTest::addColumn<QString>("cells");
+        QTest::newRow("not played") << "4"
+                                    << "000"
+                                    << "0"
+                                    << "";
+        QTest::newRow("green in regulation") << "4"
+                                             << "112"
+                                             << "0"
+                                             << "17=1 19=1 20=1 29=4 32=1";
+        QTest::newRow("a drive to the green is none") << "4"
+                                                      << "102"
+                                                      << "0"
+                                                      << "13=1 15=1 24=1 29=3";
+        QTest::newRow("a penalty counts against regulation") << "4"
+                                                             << "200"
+                                                             << "1"
+                                                             << "15=1 22=1 24=1 29=3";
+        QTest::newRow("hole in one") << "3"
+                                     << "100"
+                                     << "0"
+                                     << "19=1 22=1 25=1 27=1 30=1";
+        QTest::newRow("up and down on a par 5") << "5"
+                                                << "311"
+                                                << "0"
+                                                << "14=1 15=1 20=1 23=1 28=5 31=1";
+        QTest::newRow("one putt for the par") << "4"
+                                              << "211"
+                                              << "0"
+                                              << "14=1 15=1 20=1 23=1 29=4 32=1";
+        QTest::newRow("water on the way") << "4"
+                                          << "110"
+                                          << "1"
+                                          << "15=1 22=1 24=1 29=3";
+        QTest::newRow("three putts, double") << "4"
+                                             << "213"
+                                             << "0"
+                                             << "12=1 15=1 29=6 34=1";
+        QTest::newRow("three putts in regulation") << "4"
+                                                   << "113"
+                                                   << "0"
+                                                   << "16=1 19=1 29=5 35=1";
+        QTest::newRow("triple") << "3"
+                                << "222"
+                                << "0"
+                                << "13=1 15=1 30=6 33=1";
+        QTest::newRow("par 3") << "3"
+                               << "102"
+                               << "0"
+                               << "17=1 19=1 20=1 21=1 30=3";
+        QTest::newRow("an albatross on a par 4 in one") << "4"
+                                                        << "100"
+                                                        << "0"
+                                                        << "15=1 22=1 26=1 27=1 29=1";
+        QTest::newRow("nothing played on a par 2") << "2"
+                                                   << "000"
+                                                   << "0"
+                                                   << "19=1 21=";
+    }
+
+    void the_panel_classes_the_hole_on_screen()
+    {
+        QFETCH(QString, par);
+        QFETCH(QString, strokes);
+        QFETCH(QString, water);
+        QFETCH(QString, cells);
+        const round_store store;
+        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
+                   QStringLiteral("113"), par});
+        in_keyed_round([&](hand& user) {
+            user.type(strokes);
+            user.click(QStringLiteral("text_s_8"));
+            user.type(water);
+            user.same(panel(user), cells, QStringLiteral("panel while typing"));
+            user.click_tab(QStringLiteral("TabStrip1"), 2);
+            user.click_tab(QStringLiteral("TabStrip1"), 1);
+            user.same(panel(user), cells, QStringLiteral("panel from the rows"));
+            discard(user);
+        });
+    }
+
+    void the_totals_follow_each_stroke_on_the_last_hole()
+    {
+        const round_store store;
+        store.add_two_courses();
+        add_round_of(store, 5);
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            user.click_tab(QStringLiteral("TabStrip1"), 18);
+            totals_are(user, QStringLiteral("85"), QStringLiteral("12.60"), QStringLiteral("73"),
+                       QStringLiteral("13"));
+            user.type(QStringLiteral("5"));
+            totals_are(user, QStringLiteral("90"), QStringLiteral("16.95"), QStringLiteral("74"),
+                       QStringLiteral("18"));
+            discard(user);
+        });
+    }
+
+    void a_penalty_reaches_the_totals_at_the_next_stroke()
+    {
+        const round_store store;
+        store.add_two_courses();
+        add_round_of(store, 5);
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            user.choose(QStringLiteral("cmb_holes"), 17);
+            user.click(QStringLiteral("text_s_9"));
+            user.type(QStringLiteral("2"));
+            user.same(user.text(QStringLiteral("text_36")), QStringLiteral("2"), QStringLiteral("penalties"));
+            user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("85"), QStringLiteral("gross"));
+            user.click(QStringLiteral("text_vrd_2"));
+            user.type(QStringLiteral("1"));
+            user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("88"), QStringLiteral("gross"));
+            discard(user);
+        });
+    }
+
+    void a_round_under_the_rating_adds_to_the_net()
+    {
+        const round_store store;
+        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
+                   QStringLiteral("113"), QStringLiteral("4")});
+        add_round_of(store, 3);
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            user.click_tab(QStringLiteral("TabStrip1"), 18);
+            user.type(QStringLiteral("9"));
+            totals_are(user, QStringLiteral("60"), QStringLiteral("-10"), QStringLiteral("70"),
+                       QStringLiteral("-12"));
+            discard(user);
+        });
+    }
+
+    void without_a_slope_there_is_no_differential()
+    {
+        const round_store store;
+        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
+                   QStringLiteral("0"), QStringLiteral("4")});
+        add_round_of(store, 5);
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            user.click_tab(QStringLiteral("TabStrip1"), 18);
+            totals_are(user, QStringLiteral("85"), QStringLiteral("0"), QStringLiteral("85"),
+                       QStringLiteral("13"));
+            discard(user);
+        });
+    }
+
+    void the_totals_are_right_when_the_last_hole_looks_like_the_one_before()
+    {
+        const round_store store;
+        store.add_two_courses();
+        store.add_round(key_of_keyed_round());
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            user.click_tab(QStringLiteral("TabStrip1"), 17);
+            user.type(QStringLiteral("112"));
+            user.click(QStringLiteral("text_s_8"));
+            user.type(QStringLiteral("1"));
+            user.choose(QStringLiteral("cmb_holes"), 17);
+            user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("5"), QStringLiteral("gross"));
+            discard(user);
+        });
+    }
+
+    void the_totals_are_in_sight_on_the_last_hole_only()
+    {
+        const round_store store;
+        store.add_two_courses();
+        in_keyed_round([](hand& user) {
+            const auto in_sight = [&](bool expected) {
+                user.same(user.visible(QStringLiteral("Frame7")), expected,
+                          QStringLiteral("totals in sight"));
+            };
+            in_sight(false);
+            user.choose(QStringLiteral("cmb_holes"), 17);
+            in_sight(true);
+            user.choose(QStringLiteral("cmb_holes"), 16);
+            in_sight(false);
+            user.click_tab(QStringLiteral("TabStrip1"), 18);
+            in_sight(true);
+            user.click_tab(QStringLiteral("TabStrip1"), 1);
+            in_sight(false);
+            discard(user);
+        });
+    }
+};
+
+QTEST_MAIN(test_round_panel)
+
+#include "test_round_panel.moc"

@@ -1,0 +1,246 @@
+#include <QCalendarWidget>
+#include <QTableView>
+#include <QTest>
+
+#include "f_get_date.h"
+#include "f_new_round.h"
+#include "languages.h"
+#include "Main_module.h"
+#include "round_windows.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString dialog = QStringLiteral("f_get_date");
+
+QDate chosen_date(hand& user)
+{
+    QDate date;
+    user.look(
+        [&] { date = dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date->selectedDate(); });
+    return date;
+}
+
+/// Double-clicks the calendar's cell of a date of the month that is shown.
+void double_click_date(hand& user, const QDate& date)
+{
+    user.look([date] {
+        QCalendarWidget& calendar = *dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date;
+        calendar.setSelectedDate(date);
+        auto* days = calendar.findChild<QTableView*>(QStringLiteral("qt_calendar_calendarview"));
+        const QPoint where = days->visualRect(days->currentIndex()).center();
+        calendar.setSelectedDate(date.addDays(1));
+        QTest::mouseClick(days->viewport(), Qt::LeftButton, Qt::NoModifier, where);
+        QTest::mouseDClick(days->viewport(), Qt::LeftButton, Qt::NoModifier, where);
+    });
+}
+
+int rows_in(const round_store& store)
+{
+    return store.number(
+        QStringLiteral("select (select count(*) from games) + (select count(*) from games2) + "
+                       "(select count(*) from cost)"));
+}
+
+}  // namespace
+
+class test_tee_off : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_dialog_comes_up_by_itself_with_today_and_noon_data() { both_languages(); }
+    void the_dialog_comes_up_by_itself_with_today_and_noon()
+    {
+        QFETCH(bool, french);
+        const round_store store(french);
+        store.add_two_courses();
+        in_new_round([&](hand& user) {
+            user.wait_for_window(dialog);
+            user.same(user.title(dialog),
+                      french ? QStringLiteral("Date et heure du coup de départ")
+                             : QStringLiteral("Tee Off Date and Time"),
+                      QStringLiteral("title"));
+            user.same(user.text(QStringLiteral("Command1")),
+                      french ? QStringLiteral("Annuler") : QStringLiteral("Cancel"),
+                      QStringLiteral("button"));
+            user.same(user.text(QStringLiteral("OKbut")), QStringLiteral("OK"), QStringLiteral("button"));
+            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("12"), QStringLiteral("hours"));
+            user.same(user.text(QStringLiteral("Text2")), QStringLiteral("00"), QStringLiteral("minutes"));
+            user.same(user.text(QStringLiteral("Text3")), QStringLiteral("00"), QStringLiteral("seconds"));
+            user.same(user.focus(), QStringLiteral("OKbut"), QStringLiteral("focus"));
+            user.check(chosen_date(user) == QDate::currentDate(), QStringLiteral("today is chosen"));
+            user.click(QStringLiteral("Command1"));
+        });
+    }
+
+    void the_boxes_are_padded_to_two_characters_data()
+    {
+        QTest::addColumn<QString>("hours");
+        QTest::addColumn<QString>("minutes");
+        QTest::addColumn<QString>("seconds");
+        QTest::addColumn<QString>("time");
+        QTest::addColumn<QString>("key");
+        QTest::newRow("an empty box is two zeros") << "9"
+                                                   << "5"
+                                                   << ""
+                                                   << "09:05:00"
+                                                   << "20240614090500";
+        QTest::newRow("two digits stay") << "23"
+                                         << "59"
+                                         << "58"
+                                         << "23:59:58"
+                                         << "20240614235958";
+        QTest::newRow("blanks go") << " 7"
+                                   << "1 "
+                                   << " 3 "
+                                   << "07:01:03"
+                                   << "20240614070103";
+        QTest::newRow("three digits make a longer key") << "123"
+                                                        << "00"
+                                                        << "00"
+                                                        << "123:00:00"
+                                                        << "202406141230000";
+        QTest::newRow("letters pass") << "ab"
+                                      << "99"
+                                      << "x"
+                                      << "ab:99:0x"
+                                      << "20240614ab990x";
+    }
+
+    void the_boxes_are_padded_to_two_characters()
+    {
+        QFETCH(QString, hours);
+        QFETCH(QString, minutes);
+        QFETCH(QString, seconds);
+        QFETCH(QString, time);
+        QFETCH(QString, key);
+        const round_store store;
+        store.add_two_courses();
+        in_new_round([&](hand& user) {
+            tee_off(user, hours, minutes, seconds);
+            user.same(user.text(QStringLiteral("text_3")), time, QStringLiteral("time"));
+            user.same(user.text(QStringLiteral("text_2")),
+                      QLocale::system().toString(QDate(2024, 6, 14), QLocale::ShortFormat),
+                      QStringLiteral("date"));
+            user.check(!user.enabled(QStringLiteral("b_getdat")), QStringLiteral("no other date"));
+            with_round(user, [&](f_new_round& window) {
+                QCOMPARE(window.date_value, key);
+                QVERIFY(!window.get_date_canceled);
+            });
+            accept(user);
+        });
+        for (const QString& table :
+             {QStringLiteral("games"), QStringLiteral("games2"), QStringLiteral("cost")})
+            QCOMPARE(store.at(table, 0), key);
+    }
+
+    void a_moment_that_is_taken_is_refused_and_the_next_second_accepted_data() { both_languages(); }
+    void a_moment_that_is_taken_is_refused_and_the_next_second_accepted()
+    {
+        QFETCH(bool, french);
+        const round_store store(french);
+        store.add_two_courses();
+        in_keyed_round([](hand& user) { accept(user); });
+        in_new_round([](hand& user) {
+            fill_tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("0"));
+            user.answer(refusal_of_moment());
+            user.wait_for_window(dialog);
+            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("9"), QStringLiteral("hours"));
+            tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("1"));
+            accept(user);
+        });
+        QCOMPARE(store.text(QStringLiteral("select group_concat(date) from games")),
+                 QStringLiteral("20240614093000,20240614093001"));
+    }
+
+    void no_at_the_question_leaves_the_dialog_as_it_was()
+    {
+        const round_store store;
+        store.add_two_courses();
+        in_new_round([](hand& user) {
+            fill_tee_off(user, QStringLiteral("8"), QStringLiteral("15"), QString());
+            user.answer(question_on_tee_off(), QMessageBox::No);
+            user.wait_for_window(dialog);
+            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("8"), QStringLiteral("hours"));
+            user.same(user.text(QStringLiteral("Text3")), QString(), QStringLiteral("seconds"));
+            user.check(chosen_date(user) == QDate(2024, 6, 14), QStringLiteral("the date stays"));
+            user.look([] {
+                QCOMPARE(dynamic_cast<f_new_round&>(*open_form(u"f_new_round")).date_value, QString());
+            });
+            user.click(QStringLiteral("Command1"));
+        });
+        QCOMPARE(rows_in(store), 0);
+    }
+
+    void leaving_the_dialog_without_a_moment_leaves_nothing_behind_data()
+    {
+        QTest::addColumn<int>("road");
+        QTest::newRow("by Cancel") << 0;
+        QTest::newRow("by Escape") << 1;
+        QTest::newRow("by the title bar") << 2;
+    }
+
+    void leaving_the_dialog_without_a_moment_leaves_nothing_behind()
+    {
+        QFETCH(int, road);
+        const round_store store;
+        store.add_two_courses();
+        in_new_round([&](hand& user) {
+            user.wait_for_window(dialog);
+            if (road == 0)
+                user.click(QStringLiteral("Command1"));
+            else if (road == 1)
+                user.key(Qt::Key_Escape);
+            else
+                user.close_window(dialog);
+            user.wait_until_gone(dialog);
+            user.wait_until_gone(round_window());
+        });
+        QCOMPARE(rows_in(store), 0);
+        QCOMPARE(plain(Main_module::round_key_count), 0);
+        QVERIFY(!store.frame.locked);
+        in_keyed_round([](hand& user) { accept(user); });
+        QCOMPARE(rows_in(store), 3);
+    }
+
+    void a_double_click_on_a_date_chooses_it_and_goes_to_OK()
+    {
+        const round_store store;
+        store.add_two_courses();
+        in_new_round([](hand& user) {
+            user.wait_for_window(dialog);
+            user.click(QStringLiteral("Text1"));
+            double_click_date(user, QDate(2024, 6, 20));
+            user.same(user.focus(), QStringLiteral("OKbut"), QStringLiteral("focus"));
+            user.check(chosen_date(user) == QDate(2024, 6, 20), QStringLiteral("the date is chosen"));
+            user.wait_for_window(dialog);
+            user.key(Qt::Key_Return);
+            user.answer(question_on_tee_off(), QMessageBox::Yes);
+            user.wait_for_window(round_window());
+            with_round(user, [](f_new_round& window) {
+                QCOMPARE(window.date_value, QStringLiteral("20240620120000"));
+            });
+            discard(user);
+        });
+    }
+
+    void the_key_joins_the_list_at_the_first_save_only()
+    {
+        const round_store store;
+        store.add_two_courses();
+        in_keyed_round([](hand& user) {
+            user.look([] { QCOMPARE(plain(Main_module::round_key_count), 0); });
+            user.check(user.text(QStringLiteral("text_3")) == u"09:30:00",
+                       QStringLiteral("the time is shown"));
+            discard(user);
+        });
+        QCOMPARE(plain(Main_module::round_key_count), 0);
+        QCOMPARE(rows_in(store), 0);
+    }
+};
+
+QTEST_MAIN(test_tee_off)
+
+#include "test_tee_off.moc"
