@@ -1,0 +1,299 @@
+#include <QTest>
+
+#include "DataEnvironment1.h"
+#include "diary.h"
+#include "failures.h"
+#include "handicap.h"
+#include "numbers.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString reference_code = QStringLiteral("REFERENCE-0");
+
+/// A course on which a differential is the gross less 72.
+diary_course reference_course()
+{
+    return flat_course(reference_code, 4, QStringLiteral("72"), QStringLiteral("113"));
+}
+
+/// A round of that gross: everything on the first hole.
+diary_round round_of(int day, const diary_course& course, int gross)
+{
+    hole_entry first;
+    first.long_shots = gross;
+    eighteen holes{};
+    holes.front() = first;
+    return {key_of_day(day), course, holes, 0, {}};
+}
+
+selection_arguments whole_year()
+{
+    selection_arguments chosen;
+    chosen.from_key = key_of_day(1);
+    chosen.to_key = key_of_day(1000);
+    return chosen;
+}
+
+QString handicap_of(const selection_arguments& chosen)
+{
+    return Statistics::compute_handicap(chosen).text;
+}
+
+}  // namespace
+
+class test_handicap_of_rounds : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_ladder_says_how_many_of_the_best_count_data()
+    {
+        QTest::addColumn<int>("rounds");
+        QTest::addColumn<QString>("expected");
+        // Differentials 1, 2, 3, ... : the mean of the best `take` is (take + 1) / 2.
+        QTest::newRow("4: none") << 4 << "N/A";
+        QTest::newRow("5: the best one, whole") << 5 << " 1";
+        QTest::newRow("6: 2") << 6 << " 1.4";  // 1.5 * 0.96 = 1.44
+        QTest::newRow("7: 2") << 7 << " 1.4";
+        QTest::newRow("8: 3") << 8 << " 1.9";     // 2 * 0.96 = 1.92
+        QTest::newRow("10: 4") << 10 << " 2.4";   // 2.5 * 0.96 = 2.4
+        QTest::newRow("13: 5") << 13 << " 2.9";   // 3 * 0.96 = 2.88
+        QTest::newRow("15: 6") << 15 << " 3.4";   // 3.5 * 0.96 = 3.36
+        QTest::newRow("17: 7") << 17 << " 3.8";   // 4 * 0.96 = 3.84
+        QTest::newRow("18: 8") << 18 << " 4.3";   // 4.5 * 0.96 = 4.32
+        QTest::newRow("19: 9") << 19 << " 4.8";   // 5 * 0.96 = 4.8
+        QTest::newRow("20: 10") << 20 << " 5.3";  // 5.5 * 0.96 = 5.28
+        QTest::newRow("21: 10") << 21 << " 5.3";
+        QTest::newRow("50: the 10 best of all") << 50 << " 5.3";
+    }
+    void the_ladder_says_how_many_of_the_best_count()
+    {
+        QFETCH(int, rounds);
+        const store_folder store;
+        const diary book(store.path());
+        const diary_course course = reference_course();
+        book.add(course);
+        std::vector<diary_round> all;
+        // The worst come first: the order of time is not that of the figures.
+        for (int i = 0; i < rounds; ++i)
+            all.push_back(round_of(i + 1, course, 72 + rounds - i));
+        book.add(all);
+        QTEST(handicap_of(whole_year()), "expected");
+        QCOMPARE(book.store.number(QStringLiteral("select count(*) from hand")), rounds);
+        QCOMPARE(book.store.number(QStringLiteral("select min(hnd) from hand")), 1);
+    }
+
+    void the_figure_is_rounded_once_and_a_single_one_takes_no_factor_data()
+    {
+        QTest::addColumn<QStringList>("ratings");
+        QTest::addColumn<QString>("expected");
+        const QStringList rest(3, QStringLiteral("20"));
+        // Every round has a gross of 80: the rating makes the differential.
+        QTest::newRow("10.44 alone is 10.4") << (QStringList{"69.56", "60"} + rest) << " 10.4";
+        QTest::newRow("12.25 alone goes to the even tenth") << (QStringList{"67.75", "60"} + rest) << " 12.2";
+        QTest::newRow("10 and 12 make 10.56") << (QStringList{"70", "68", "60"} + rest) << " 10.6";
+        QTest::newRow("below the rating") << (QStringList{"85", "84", "60"} + rest) << "-4.3";
+        QTest::newRow("less than one") << (QStringList{"79.5", "60"} + rest) << " .5";
+        QTest::newRow("a true handicap of 0") << (QStringList{"80", "60"} + rest) << "N/A";
+        QTest::newRow("two that cancel out") << (QStringList{"83", "77", "60"} + rest) << "N/A";
+    }
+    void the_figure_is_rounded_once_and_a_single_one_takes_no_factor()
+    {
+        QFETCH(QStringList, ratings);
+        const store_folder store;
+        const diary book(store.path());
+        for (qsizetype i = 0; i < ratings.size(); ++i) {
+            const diary_course course =
+                flat_course(QStringLiteral("COURSE%1-0").arg(i), 4, ratings.at(i), QStringLiteral("113"));
+            book.add(course);
+            book.add(round_of(static_cast<int>(i) + 1, course, 80));
+        }
+        QTEST(handicap_of(whole_year()), "expected");
+    }
+
+    void published_courses_give_the_differentials_worked_out_by_hand()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        const diary_course pebble = course_of(QStringLiteral("Pebble Beach"), QStringLiteral("Blue"));
+        const diary_course links =
+            course_of(QStringLiteral("North Berwick West Links"), QStringLiteral("Red"));
+        book.add(pebble);
+        book.add(links);
+        for (int day = 1; day <= 5; ++day)
+            book.add(round_of(day, pebble, 90 + day));
+        book.add(round_of(6, links, 80));
+        // Pebble Beach, blue: (91 - 74.9) * 113 / 144 = 12.634...; North Berwick, red:
+        // (80 - 69.1) * 113 / 121 = 10.179...; their mean 11.4067 * 0.96 = 10.950 -> 11 (10.95042)
+        QCOMPARE(handicap_of(whole_year()), QStringLiteral(" 11"));
+        const auto rows = book.store.rows(QStringLiteral("select hnd from hand order by hnd"));
+        QCOMPARE(rows.size(), std::size_t(6));
+        QCOMPARE(rows.at(0).at(0).toDouble(), (80 - 69.1) * 113 / 121);
+        QCOMPARE(rows.at(1).at(0).toDouble(), (91 - 74.9) * 113 / 144);
+    }
+
+    void slopes_of_0_or_nothing_give_no_handicap_data()
+    {
+        QTest::addColumn<QString>("slope");
+        QTest::newRow("0") << "0";
+        QTest::newRow("empty") << "";
+    }
+    void slopes_of_0_or_nothing_give_no_handicap()
+    {
+        QFETCH(QString, slope);
+        const store_folder store;
+        const diary book(store.path());
+        const diary_course course = flat_course(reference_code, 4, QStringLiteral("70"), slope);
+        book.add(course);
+        for (int day = 1; day <= 6; ++day)
+            book.add(round_of(day, course, 90));
+        QCOMPARE(handicap_of(whole_year()), QStringLiteral("N/A"));
+    }
+
+    void a_round_counts_by_its_dates_course_weather_and_partner_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<QString>("course");
+        QTest::addColumn<QString>("weather");
+        QTest::addColumn<QString>("partner");
+        QTest::addColumn<QList<int>>("days");
+        QTest::newRow("all") << 1 << 8 << ""
+                             << ""
+                             << "" << QList<int>{1, 2, 3, 4, 5, 6, 7, 8};
+        QTest::newRow("both ends included") << 2 << 4 << ""
+                                            << ""
+                                            << "" << QList<int>{2, 3, 4};
+        QTest::newRow("one round") << 3 << 3 << ""
+                                   << ""
+                                   << "" << QList<int>{3};
+        QTest::newRow("a course") << 1 << 8 << "OTHER-1"
+                                  << ""
+                                  << "" << QList<int>{5, 6, 7, 8};
+        QTest::newRow("a code of one character filters nothing") << 1 << 8 << "O"
+                                                                 << ""
+                                                                 << "" << QList<int>{1, 2, 3, 4, 5, 6, 7, 8};
+        QTest::newRow("sunny") << 1 << 8 << ""
+                               << "0"
+                               << "" << QList<int>{4, 8};
+        QTest::newRow("rainy") << 1 << 8 << ""
+                               << "2"
+                               << "" << QList<int>{2, 6};
+        QTest::newRow("partner 12 is found in 112 too") << 1 << 8 << ""
+                                                        << ""
+                                                        << "12" << QList<int>{1, 2, 6};
+        QTest::newRow("partner 112") << 1 << 8 << ""
+                                     << ""
+                                     << "112" << QList<int>{2};
+        QTest::newRow("all of them") << 1 << 8 << "OTHER-1"
+                                     << "2"
+                                     << "12" << QList<int>{6};
+    }
+    void a_round_counts_by_its_dates_course_weather_and_partner()
+    {
+        QFETCH(QList<int>, days);
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(QString, course);
+        QFETCH(QString, weather);
+        QFETCH(QString, partner);
+        const store_folder store;
+        const diary book(store.path());
+        const diary_course reference = reference_course();
+        const diary_course other =
+            flat_course(QStringLiteral("OTHER-1"), 4, QStringLiteral("72"), QStringLiteral("113"));
+        book.add(reference);
+        book.add(other);
+        const QHash<int, QString> partners{
+            {1, QStringLiteral("12-7-")}, {2, QStringLiteral("112-")}, {6, QStringLiteral("5-12-")}};
+        for (int day = 1; day <= 8; ++day) {
+            diary_round round = round_of(day, day < 5 ? reference : other, 72 + day);
+            round.weather = day % 4;
+            round.partners = partners.value(day);
+            book.add(round);
+        }
+        selection_arguments chosen;
+        chosen.from_key = key_of_day(from);
+        chosen.to_key = key_of_day(to);
+        chosen.course_code = course;
+        chosen.weather_value = weather;
+        chosen.partner_number = partner;
+        QCOMPARE(Statistics::compute_handicap(chosen).missing, missing_row::none);
+        QList<int> seen;
+        for (const auto& row : book.store.rows(QStringLiteral("select hnd from hand order by hnd")))
+            seen << row.at(0).toInt();
+        QCOMPARE(seen, days);
+    }
+
+    void everything_is_closed_and_the_sources_are_whole_tables_again()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        book.add(reference_course());
+        book.add(round_of(1, reference_course(), 90));
+        handicap_of(whole_year());
+        for (Recordset& recordset : data_environment().recordsets())
+            QVERIFY2(!recordset.is_open(), qPrintable(recordset.name()));
+        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
+        QCOMPARE(data_environment().rshand.Source(), QStringLiteral("select * from hand"));
+    }
+
+    void a_round_without_one_of_its_rows_ends_the_run_data()
+    {
+        QTest::addColumn<QString>("loss");
+        QTest::addColumn<int>("number");
+        QTest::newRow("its course") << "delete from vrd_fields" << 1;
+        QTest::newRow("another course") << "update vrd_fields set code = 'OTHER-0'" << 1;
+        QTest::newRow("the holes") << "delete from field_info" << 2;
+        QTest::newRow("games2") << "delete from games2" << 3;
+    }
+    void a_round_without_one_of_its_rows_ends_the_run()
+    {
+        QFETCH(QString, loss);
+        QFETCH(int, number);
+        const store_folder store;
+        const diary book(store.path());
+        book.add(reference_course());
+        book.add(round_of(1, reference_course(), 90));
+        book.store.write(loss);
+        const Statistics::handicap_result result = Statistics::compute_handicap(whole_year());
+        QCOMPARE(static_cast<int>(result.missing), number);
+        QVERIFY(result.text.isEmpty());
+        for (Recordset& recordset : data_environment().recordsets())
+            QVERIFY2(!recordset.is_open(), qPrintable(recordset.name()));
+        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
+    }
+
+    void there_is_room_for_366_rounds_and_no_more()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        book.add(reference_course());
+        std::vector<diary_round> rounds;
+        for (int day = 1; day <= 366; ++day)
+            rounds.push_back(round_of(day, reference_course(), 73));
+        book.add(rounds);
+        QCOMPARE(handicap_of(whole_year()), QStringLiteral(" 1"));  // 1 * 0.96 = 0.96
+        book.add(round_of(367, reference_course(), 73));
+        QCOMPARE(failure_of([] { handicap_of(whole_year()); }), failure_kind::subscript);
+    }
+
+    void a_round_with_holes_left_out_counts_with_its_low_gross()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        book.add(reference_course());
+        diary_round round = round_of(1, reference_course(), 40);
+        for (std::size_t i = 1; i < 18; ++i)
+            round.holes.at(i).stored = false;
+        book.add(round);
+        handicap_of(whole_year());
+        QCOMPARE(book.store.number(QStringLiteral("select hnd from hand")), 40 - 72);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_handicap_of_rounds)
+#include "test_handicap_of_rounds.moc"
