@@ -1,6 +1,7 @@
 #include "Connection1.h"
 
 #include "fresh_store.h"
+#include "schema.h"
 #include "store_lock.h"
 
 #include <QDir>
@@ -10,6 +11,8 @@
 #include <QSqlQuery>
 #include <QStandardPaths>
 #include <QUuid>
+
+#include <algorithm>
 
 namespace verdane {
 
@@ -80,9 +83,17 @@ void check_no_other_writer(Connection1& connection)
     connection.Execute(QStringLiteral("ROLLBACK"));
 }
 
-bool has_tables(const QSqlDatabase& database)
+/// Whether there is a store to keep; without one it is laid down. A file in which nothing is known is
+/// another program's.
+bool has_store(const QSqlDatabase& database)
 {
-    return answer(database, QStringLiteral("SELECT count(*) FROM sqlite_master")) != u"0";
+    const QStringList names = database.tables();
+    const bool known = std::any_of(names.begin(), names.end(),
+                                   [](const QString& name) { return find_table(name) != nullptr; });
+    if (!known && !names.isEmpty())
+        throw run_time_failure(failure_kind::store_damaged,
+                               QString(database.databaseName() + u": another program's tables"));
+    return known;
 }
 
 }  // namespace
@@ -136,10 +147,11 @@ void Connection1::open_engine()
     }
     check_soundness(database());
     check_no_other_writer(*this);
+    const bool laid_down = has_store(database());
     // WAL lets report printing and other readers look on while the program writes.
     answer(database(), QStringLiteral("PRAGMA journal_mode=WAL"));
     Execute(QStringLiteral("PRAGMA synchronous=FULL"));
-    if (!has_tables(database()))
+    if (!laid_down)
         lay_down(*this);
 }
 

@@ -29,8 +29,10 @@ public:
 
     /// Opens the store at `path`, laying it down first when there is none, and takes the lock that
     /// keeps a second program off it. Commits survive a power cut (WAL, synchronous=FULL).
+    /// The whole file is checked first; one that has some of the tables is taken as it is, and a
+    /// recordset on a table that it lacks fails with `missing_table`.
     /// Fails with `store_locked`, `store_read_only`, `store_damaged`, `store_full` or
-    /// `store_unreachable`; the file is then as it was.
+    /// `store_unreachable`, and with `misuse` when it is open; the file is then as it was.
     void Open(const QString& path = default_path());
 
     /// Closes the connection and gives the lock back. Pending rows of recordsets are not written.
@@ -39,7 +41,8 @@ public:
     bool is_open() const;
     QString path() const { return path_; }
 
-    /// Runs a statement without parameters. Fails with the kind that fits the engine's error; the
+    /// Runs a statement without parameters and commits it. Recordsets that are open keep the rows they
+    /// have read until their next `Requery`. Fails with the kind that fits the engine's error; the
     /// statement stands in the details.
     void Execute(const QString& statement);
 

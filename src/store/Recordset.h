@@ -93,7 +93,9 @@ private:
 ///
 /// With an optimistic lock, leaving a changed row commits it (any move, `Find`, `Requery`, another
 /// `AddNew`), and `Update` commits it now. With a batch-optimistic lock, changes stay pending until
-/// `UpdateBatch`. A commit writes the columns that changed, and writes nothing when none did.
+/// `UpdateBatch`, which stores all of them or none. A commit that fails leaves the store and the row
+/// as they were, the row still pending. A commit writes the columns that changed, and writes nothing when
+/// none did.
 ///
 /// Every failure is a `run_time_failure` that carries the statement and the recordset's name.
 class Recordset {

@@ -110,6 +110,17 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(store.path() + u".lock"));
     }
 
+    void another_programs_file_is_left_alone()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("music.db"));
+        testing::reader(path).write(QStringLiteral("create table songs (title)"));
+        const QByteArray before = bytes_of(path);
+        Connection1 connection;
+        QVERIFY(failure_of([&] { connection.Open(path); }) == failure_kind::store_damaged);
+        QCOMPARE(bytes_of(path), before);
+    }
+
     void damage_under_an_open_store_is_told_when_it_is_met()
     {
         store_fixture store;
