@@ -43,15 +43,21 @@ void move_to_selected(const f_c_list& window)
     courses().Move(window.List1->currentRow());
 }
 
+void find_holes()
+{
+    holes().MoveFirst();
+    holes().Find(u"FIELD_CODE =" + quoted(courses().Fields(u"code").trimmed()));
+}
+
 void open_selected(f_c_list& window)
 {
     if (!has_selection(window))
         return;
     move_to_selected(window);
-    holes().MoveFirst();
-    holes().Find(u"FIELD_CODE =" + quoted(courses().Fields(u"code").trimmed()));
     if (courses().bof() || courses().eof())
         tell(QStringLiteral("Fatal error : F not found"));
+    else
+        find_holes();
     f_courses editor(false);
     editor.show_modal();
 }

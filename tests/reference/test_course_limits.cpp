@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QListWidget>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -62,6 +63,22 @@ void type_too_long_a_course(const reader& store)
     });
 }
 
+/// The rows were read when the list opened; a line beyond them has nothing to open.
+void open_a_line_without_a_row(const reader& store)
+{
+    add_courses(store, 1);
+    in_course_list([](hand& user) {
+        user.look([] {
+            QListWidget& lines = *dynamic_cast<f_c_list&>(*form_at_work()).List1;
+            lines.addItem(u"Ghost, BLANC"_s);
+            lines.setCurrentRow(1);
+        });
+        user.click(u"Command1_0"_s);
+        user.answer({u"Fatal error : F not found"_s, QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok});
+        user.answer(failure_box(failure_kind::misuse));
+    });
+}
+
 int run_child(const QString& what, const QString& path)
 {
     language_is_settled = true;
@@ -70,6 +87,8 @@ int run_child(const QString& what, const QString& path)
     const reader store(path);
     if (what == u"list"_s)
         open_too_long_a_list(store);
+    else if (what == u"line"_s)
+        open_a_line_without_a_row(store);
     else if (what == u"hole"_s)
         type_too_long_a_hole(store);
     else
@@ -88,6 +107,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("what");
         QTest::addColumn<int>("courses");
         QTest::newRow("the 52nd course") << u"list"_s << most_courses + 1;
+        QTest::newRow("a line without a row") << u"line"_s << 1;
         QTest::newRow("a hole longer than a count holds") << u"hole"_s << 1;
         QTest::newRow("a course longer than a count holds") << u"course"_s << 1;
     }

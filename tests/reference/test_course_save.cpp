@@ -1,7 +1,9 @@
 #include <QTest>
 
 #include "course_windows.h"
+#include "DataEnvironment1.h"
 #include "f_courses.h"
+#include "failure_guard.h"
 #include "language.h"
 
 using namespace verdane;
@@ -38,6 +40,16 @@ void save_new(hand& user, const QString& name, int tee)
     fill_required(user, name);
     user.choose(u"departure"_s, tee);
     save_by_ok(user);
+}
+
+/// The recordsets stand on rows that do not belong together.
+void edit_with_the_holes_of_another()
+{
+    Recordset& holes = data_environment().rsfield_info;
+    data_environment().rsvrd_fields.Open();
+    holes.set_Source(u"select * from field_info where FIELD_CODE = 'BETA-1'"_s);
+    holes.Open();
+    f_courses(false).show_modal();
 }
 
 }  // namespace
@@ -269,6 +281,22 @@ private Q_SLOTS:
             save_by_ok(user);
         });
         QCOMPARE(store.number(u"select yards_1 from field_info"_s), stored);
+    }
+
+    void rows_that_are_not_found_again_are_told_and_the_save_counts()
+    {
+        const course_store store;
+        add_three_courses(store);
+        play([] { run_event(edit_with_the_holes_of_another); },
+             [](hand& user) {
+                 user.wait_for_window(editor_window());
+                 user.fill(u"text_0"_s, u"99"_s);
+                 user.click(u"smdsave"_s);
+                 user.answer({u"Fatal Error : 101"_s, QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok});
+                 user.answer(notice_of_save());
+                 user.wait_until_gone(editor_window());
+             });
+        QCOMPARE(store.text(u"select slope from vrd_fields where code = 'ALPHA-0'"_s), u"99"_s);
     }
 
     void a_course_of_an_unknown_tee_opens_without_one()
