@@ -85,12 +85,12 @@ void close_round_tables()
 {
     DataEnvironment1& store = data_environment();
     store.rsgames2.Update();
-    store.rsgames2.Close();
-    store.rsvrd_fields.Close();
-    store.rscost.Close();
-    store.rspartners.Close();
-    store.rsgames.Close();
-    store.rsfield_info.Close();
+    for (Recordset* recordset : {&store.rsgames2, &store.rsvrd_fields, &store.rscost, &store.rspartners,
+                                 &store.rsgames, &store.rsfield_info}) {
+        // A round that could not be loaded has not opened all of them.
+        if (recordset->is_open())
+            recordset->Close();
+    }
 }
 
 void close_shots()

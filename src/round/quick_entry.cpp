@@ -1,5 +1,6 @@
 #include "quick_entry.h"
 
+#include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -18,6 +19,23 @@ namespace verdane::quick_entry {
 namespace {
 
 constexpr int selection_length = 4;
+
+/// A click into a box that has the focus already selects its figure like the one that came in did:
+/// the next digit replaces it, wherever the pointer stood.
+class click_selects : public QObject {
+public:
+    explicit click_selects(QLineEdit& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease && !box_.hasSelectedText())
+            select_characters(box_, selection_length);
+        return false;
+    }
+
+private:
+    QLineEdit& box_;
+};
 
 std::vector<QLineEdit*> boxes_in_order(const f_new_round& window)
 {
@@ -62,6 +80,7 @@ void watch_keys(QLineEdit& box, QWidget& next)
 {
     filter_keys(box, [&box, &next](QChar key) { return take_key(box, next, key); });
     when_entered(box, [&box] { select_characters(box, selection_length); });
+    new click_selects(box);
     accept_digits_only(box);
 }
 

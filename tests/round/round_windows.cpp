@@ -4,6 +4,7 @@
 #include <QCalendarWidget>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 
 #include "boxes.h"
 #include "DataEnvironment1.h"
@@ -176,6 +177,16 @@ void in_stored_round(const QString& key, const std::function<void(hand&)>& scrip
                  script(user);
                  user.wait_until_gone(round_window());
              });
+}
+
+void in_stored_round_over(hand& user, const QString& key)
+{
+    user.look([key] { QTimer::singleShot(0, qApp, [key] { run_event([&] { open_stored_round(key); }); }); });
+}
+
+void open_round_that_refuses(const QString& key, const std::function<void(hand&)>& script)
+{
+    in_round([&] { open_stored_round(key); }, script);
 }
 
 void fill_tee_off(hand& user, const QString& hours, const QString& minutes, const QString& seconds)

@@ -69,6 +69,12 @@ QString key_of_keyed_round();
 /// Opens a stored round as the round list does.
 void in_stored_round(const QString& key, const std::function<void(hand&)>& script);
 
+/// Opens a stored round from the script, above whatever window is up.
+void in_stored_round_over(hand& user, const QString& key);
+
+/// Opens a stored round of which no window comes up; the script answers what is told instead.
+void open_round_that_refuses(const QString& key, const std::function<void(hand&)>& script);
+
 /// Fills the tee-off dialog (the date being 14 June 2024) and presses its OK.
 void fill_tee_off(hand& user, const QString& hours, const QString& minutes, const QString& seconds);
 /// The same, and answers the question with Yes.

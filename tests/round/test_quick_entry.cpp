@@ -63,6 +63,21 @@ private Q_SLOTS:
         });
     }
 
+    void a_digit_replaces_the_figure_after_a_click_too()
+    {
+        const round_store store;
+        store.add_two_courses();
+        in_keyed_round([](hand& user) {
+            for (const char* digit : {"3", "4"}) {
+                user.click(QStringLiteral("text_p_3"));
+                user.click(QStringLiteral("text_p_3"));
+                user.type(QString::fromLatin1(digit));
+                same_text(user, QStringLiteral("text_p_3"), QString::fromLatin1(digit));
+            }
+            discard(user);
+        });
+    }
+
     void the_Tab_key_walks_the_same_boxes()
     {
         const round_store store;

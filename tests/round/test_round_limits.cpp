@@ -1,0 +1,136 @@
+#include <QApplication>
+#include <QProcess>
+#include <QTest>
+
+#include <cstdio>
+
+#include "Main_module.h"
+#include "round_windows.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+/// Limits that end the program: each is reached in a child process, which prints what it was told.
+namespace {
+
+void fill_keys(int count)
+{
+    for (int i = 0; i < count; ++i)
+        Main_module::append_round_key(QStringLiteral("19990101%1").arg(i, 6, 10, QChar(u'0')));
+}
+
+/// Prints what the failure says and what the store then holds, and answers.
+void report_failure(hand& user, const round_store& store)
+{
+    user.wait_for_window(QStringLiteral("failure_box"));
+    user.look([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        std::printf(
+            "%s|holes %s\n", qUtf8Printable(box->informativeText()),
+            qUtf8Printable(store.text(QStringLiteral(
+                "select ifnull(group_concat(ifnull(long_1, '-') || ifnull(long_2, '-')), '') from games"))));
+        std::fflush(stdout);
+    });
+    user.key(Qt::Key_Return);
+}
+
+/// One place is left in the list: the first hole takes it, the second finds none.
+void overfill_by_saving(const round_store& store)
+{
+    fill_keys(365);
+    in_keyed_round([&](hand& user) {
+        user.type(QStringLiteral("4"));
+        user.click_tab(QStringLiteral("TabStrip1"), 2);
+        user.type(QStringLiteral("5"));
+        user.click_tab(QStringLiteral("TabStrip1"), 3);
+        report_failure(user, store);
+    });
+}
+
+void look_up_in_a_full_list(const round_store& store)
+{
+    fill_keys(366);
+    in_new_round([&](hand& user) {
+        fill_tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("00"));
+        report_failure(user, store);
+    });
+}
+
+void total_costs_beyond_16_bits(const round_store& store)
+{
+    store.add_round(key_of_keyed_round());
+    store.store.write(QStringLiteral("update cost set fg = 30000, cm = 2768"));
+    open_round_that_refuses(key_of_keyed_round(), [&](hand& user) { report_failure(user, store); });
+}
+
+void type_strokes_beyond_16_bits(const round_store& store)
+{
+    in_keyed_round([&](hand& user) {
+        user.paste(QStringLiteral("text_vrd_0"), QStringLiteral("40000"));
+        report_failure(user, store);
+    });
+}
+
+int run_child(const QString& limit)
+{
+    const round_store store;
+    store.add_two_courses();
+    if (limit == u"save")
+        overfill_by_saving(store);
+    else if (limit == u"look up")
+        look_up_in_a_full_list(store);
+    else if (limit == u"costs")
+        total_costs_beyond_16_bits(store);
+    else
+        type_strokes_beyond_16_bits(store);
+    return 77;  // not reached: the process has ended with the failure
+}
+
+}  // namespace
+
+class test_round_limits : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_limit_that_is_passed_ends_the_program_and_keeps_what_was_stored_data()
+    {
+        QTest::addColumn<QString>("details");
+        QTest::addColumn<QString>("kept");
+        QTest::newRow("save") << "index 366 is outside 0 to 365"
+                              << "holes 4-";
+        QTest::newRow("look up") << "index 366 is outside 0 to 365"
+                                 << "holes ";
+        QTest::newRow("costs") << ""
+                               << "holes --";
+        QTest::newRow("strokes") << ""
+                                 << "holes ";
+    }
+
+    void a_limit_that_is_passed_ends_the_program_and_keeps_what_was_stored()
+    {
+        QFETCH(QString, details);
+        QFETCH(QString, kept);
+        QProcess child;
+        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        child.start(QCoreApplication::applicationFilePath(),
+                    {QStringLiteral("--limit"), QString::fromLatin1(QTest::currentDataTag())});
+        QVERIFY(child.waitForFinished(120000));
+        const QString said = QString::fromUtf8(child.readAllStandardOutput());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 1);
+        QVERIFY2(said.contains(details), qPrintable(said));
+        QVERIFY2(said.endsWith(QString(u'|' + kept + u'\n')), qPrintable(said));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == u"--limit")
+        return run_child(arguments.value(2));
+    test_round_limits test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_round_limits.moc"
