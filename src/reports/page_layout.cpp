@@ -39,7 +39,8 @@ page_layout::page_layout(const template_file& source, const QString& html)
     document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
     // One endless page: the toolkit's own paging cuts rows of several lines in two.
     document_->setTextWidth(inside_.width());
-    cuts_ = cut_into_pages(*document_, inside_.height());
+    shrink_ = qMin(1.0, inside_.width() / document_->size().width());
+    cuts_ = cut_into_pages(*document_, inside_.height() / shrink_);
 }
 
 page_layout::~page_layout() = default;
@@ -52,8 +53,12 @@ int page_layout::page_count() const
 void page_layout::paint(QPainter& painter, int page, const QString& footer) const
 {
     const page_cut& cut = cuts_.at(static_cast<std::size_t>(page));
-    paint_strip(painter, cut.repeated_head, inside_.top());
-    paint_strip(painter, cut.body, inside_.top() + cut.repeated_head.height());
+    painter.save();
+    painter.translate(inside_.topLeft());
+    painter.scale(shrink_, shrink_);
+    paint_strip(painter, cut.repeated_head, 0);
+    paint_strip(painter, cut.body, cut.repeated_head.height());
+    painter.restore();
     paint_footer(painter, footer);
 }
 
@@ -62,11 +67,11 @@ void page_layout::paint_strip(QPainter& painter, const page_strip& strip, double
     if (strip.height() <= 0)
         return;
     painter.save();
-    painter.translate(inside_.left(), top - strip.top);
+    painter.translate(0, top - strip.top);
     QAbstractTextDocumentLayout::PaintContext context;
     // Paper is white whatever the desktop's colours are.
     context.palette.setColor(QPalette::Text, Qt::black);
-    context.clip = QRectF(0, strip.top, inside_.width(), strip.height());
+    context.clip = QRectF(0, strip.top, inside_.width() / shrink_, strip.height());
     painter.setClipRect(context.clip);
     document_->documentLayout()->draw(&painter, context);
     painter.restore();

@@ -37,6 +37,9 @@ private:
     QRectF inside_;
     report_drawings drawings_;
     std::unique_ptr<QTextDocument> document_;
+    /// Below 1 where the body is wider than the page: letters of another machine may be, and a column
+    /// that is printed smaller is better than one that is cut off.
+    double shrink_ = 1;
     std::vector<page_cut> cuts_;
 };
 

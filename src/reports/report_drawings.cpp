@@ -100,6 +100,7 @@ void report_drawings::drawObject(QPainter* painter, const QRectF& place, QTextDo
     if (found == nullptr)
         return;
     painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
     found->renderer->render(painter, place);
     painter->restore();
 }

@@ -169,6 +169,15 @@ private Q_SLOTS:
         QVERIFY(ink_in(image, QRect(150, 200, 1800, 2520)) > 1000);
     }
 
+    void a_body_wider_than_its_page_is_printed_smaller_and_whole()
+    {
+        const QString body = QStringLiteral("<table width=\"300mm\"><tr><td width=\"295mm\">left</td>"
+                                            "<td>|</td></tr></table>");
+        const QImage image = rendered(row_head(QStringLiteral("A4 portrait"), 1), body)->page_image(0, 254);
+        QVERIFY(ink_in(image, QRect(1850, 200, 100, 200)) > 0);
+        QCOMPARE(ink_in(image, QRect(1951, 0, 149, 2500)), 0);
+    }
+
     void lengths_in_mm_and_pt_are_those_on_paper()
     {
         const QString body = QStringLiteral(
