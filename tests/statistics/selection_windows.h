@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+#include "hand.h"
+
+/// What the tests of the selection window share.
+namespace verdane::testing {
+
+/// "f_date_range", or its twin in the language of this moment.
+QString selection_window();
+
+/// Opens the selection window, runs the script and leaves through the cancel button.
+void in_selection_window(const std::function<void(hand&)>& script);
+
+/// One step of the progress bar: its value, and whether the bar was seen.
+struct bar_step {
+    int value = 0;
+    bool seen = false;
+    bool operator==(const bar_step&) const = default;
+};
+
+/// The same, keeping every step of the bar.
+QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script);
+
+/// Selects a range by the lines of the two lists (from 0).
+void select_range(hand& user, int from, int to);
+
+/// Starts the round statistics.
+void run(hand& user);
+/// The box that says that no round of the selection was entered shot by shot.
+void answer_no_detail(hand& user);
+/// The box that says that no round passed.
+void answer_no_round(hand& user);
+/// Waits until the report is open and compares its title; closes it.
+void close_report(hand& user);
+/// Starts the statistics of rounds that have no shots, up to the closed report.
+void run_without_detail(hand& user);
+
+/// The names of the recordsets that are open.
+QStringList open_recordsets();
+
+/// Both languages as rows of data in the column `french`.
+void both_languages();
+
+}  // namespace verdane::testing

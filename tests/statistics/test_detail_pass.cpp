@@ -1,0 +1,184 @@
+#include <QTest>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "detail_pass.h"
+#include "diary.h"
+#include "failures.h"
+#include "report_store.h"
+#include "selection_windows.h"
+#include "stats_table.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString first_key = key_of_day(1);
+
+/// Hole 2 of the first round shot by shot: a drive into the water, a good second drive, a missed
+/// approach from the sand, an approach, two putts (one of which once was coded as in the fairway).
+void add_shots_of_hole_2(const diary& book, const QString& key)
+{
+    book.add(diary_shot{key, 2, 1, 1, 2, 1, false, false, 5});
+    book.add(diary_shot{key, 2, 2, 1, 1, 0, false, false, 5});
+    book.add(diary_shot{key, 2, 3, 2, 3, 0, true, true, 5});
+    book.add(diary_shot{key, 2, 4, 2, 1, 0, false, false, 5});
+    book.add(diary_shot{key, 2, 5, 3, 1, 0, false, false, 5});
+    book.add(diary_shot{key, 2, 6, 3, 0, 0, false, false, 5});
+}
+
+diary_course course()
+{
+    return course_of(QStringLiteral("Pebble Beach"), QStringLiteral("Gold"));
+}
+
+diary_round round_on(int day, int over)
+{
+    return {key_of_day(day), course(), holes_over(course().pars, over), day % 4, {}};
+}
+
+selection_arguments days(int from, int to)
+{
+    selection_arguments chosen;
+    chosen.from_key = key_of_day(from);
+    chosen.to_key = key_of_day(to);
+    return chosen;
+}
+
+/// What the detail pass alone leaves in the table.
+void write_detail_of(const selection_arguments& chosen)
+{
+    stats_table::open_cleared();
+    QVERIFY(Statistics::open_detail(chosen));
+    stats_table::write_detail();
+    data_environment().rsstats.Update();
+    Statistics::close_detail();
+    data_environment().rsstats.Close();
+}
+
+}  // namespace
+
+class test_detail_pass : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_shots_of_a_hole_fill_rows_1_to_9()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        book.add(course());
+        book.add(round_on(1, 0));
+        add_shots_of_hole_2(book, first_key);
+        book.add(diary_shot{first_key, 18, 1, 1, 1, 3, false, false, 5});
+        book.add(diary_shot{first_key, 18, 2, 1, 0, 2, false, false, 5});
+        book.add(diary_shot{first_key, 18, 3, 1, 0, 4, false, false, 5});
+        book.store.write(QStringLiteral("update stats set hole_1 = 3, front_nine = 3"));
+        write_detail_of(days(1, 1));
+        const std::vector<double> hole_2{2, 1, 1, 1, 0, 0, 0, 1, 2};
+        const std::vector<double> hole_18{1, 0, 0, 0, 1, 1, 1, 3, 1};
+        for (int line = 1; line <= 9; ++line) {
+            const auto figures = stats_row(book.store, line);
+            QCOMPARE(figures[1], hole_2[static_cast<std::size_t>(line - 1)]);
+            QCOMPARE(figures[17], hole_18[static_cast<std::size_t>(line - 1)]);
+            QCOMPARE(figures[0], 0.0);
+            QCOMPARE(figures[18], 0.0);
+        }
+        QCOMPARE(stats_row(book.store, 0)[1], 0.0);
+        QCOMPARE(stats_row(book.store, 10)[1], 0.0);
+    }
+
+    void a_selection_without_shots_is_not_detailed_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<QString>("clause");
+        QTest::addColumn<bool>("detailed");
+        QTest::newRow("the round with shots") << 2 << 2 << " " << true;
+        QTest::newRow("among others") << 1 << 3 << " " << true;
+        QTest::newRow("rounds beside it") << 3 << 4 << " " << false;
+        QTest::newRow("its weather") << 1 << 4 << " AND (games2.conditionM = 2)" << true;
+        QTest::newRow("another weather") << 1 << 4 << " AND (games2.conditionM = 1)" << false;
+        QTest::newRow("a partner that it had not") << 1 << 4 << " AND INSTR(GAMES2.PARTNERS,'9')" << false;
+    }
+    void a_selection_without_shots_is_not_detailed()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(QString, clause);
+        const store_folder store;
+        const diary book(store.path());
+        book.add(course());
+        for (int day = 1; day <= 4; ++day)
+            book.add(round_on(day, 0));
+        add_shots_of_hole_2(book, key_of_day(2));
+        selection_arguments chosen = days(from, to);
+        chosen.weather_clause = clause;
+        const bool detailed = Statistics::open_detail(chosen);
+        Statistics::close_detail();
+        QTEST(detailed, "detailed");
+    }
+
+    void a_shot_on_no_hole_fails()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        book.add(course());
+        book.add(round_on(1, 0));
+        book.add(diary_shot{first_key, 19, 1, 1, 1, 0, false, false, 4});
+        stats_table::open_cleared();
+        QVERIFY(Statistics::open_detail(days(1, 1)));
+        QCOMPARE(failure_of(stats_table::write_detail), failure_kind::subscript);
+    }
+
+    void a_detailed_round_brings_no_message_and_the_summary_overwrites_its_figures_data()
+    {
+        both_languages();
+    }
+    void a_detailed_round_brings_no_message_and_the_summary_overwrites_its_figures()
+    {
+        QFETCH(bool, french);
+        const store_folder store(french);
+        const diary book(store.path());
+        set_report_store(store.path());
+        book.add(course());
+        diary_round round = round_on(1, 0);
+        round.holes[1].fairway = 7;
+        book.add(round);
+        add_shots_of_hole_2(book, first_key);
+        in_selection_window([](hand& user) {
+            run(user);
+            close_report(user);
+        });
+        QCOMPARE(stats_row(book.store, 1)[1], 7.0);
+        for (int line = 2; line <= 9; ++line)
+            QCOMPARE(stats_row(book.store, line)[1], 0.0);
+        QVERIFY(open_recordsets().isEmpty());
+    }
+
+    void detail_without_a_round_brings_the_second_message_alone()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        set_report_store(store.path());
+        book.add(course());
+        for (int day = 1; day <= 3; ++day)
+            book.add(round_on(day, 0));
+        add_shots_of_hole_2(book, key_of_day(2));
+        book.store.write(QStringLiteral("delete from games where date = '%1'").arg(key_of_day(2)));
+        in_selection_window([](hand& user) {
+            select_range(user, 0, 1);
+            user.choose(QStringLiteral("conditions"), 3);
+            run(user);
+            answer_no_round(user);
+            user.check(!user.is_open(QStringLiteral("report_preview")), QStringLiteral("no report"));
+        });
+        for (int line = 0; line < 34; ++line)
+            QCOMPARE(stats_row(book.store, line)[1], 0.0);
+        QVERIFY(open_recordsets().isEmpty());
+    }
+};
+
+QTEST_MAIN(test_detail_pass)
+#include "test_detail_pass.moc"

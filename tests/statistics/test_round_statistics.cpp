@@ -1,0 +1,336 @@
+#include <QTest>
+
+#include <numeric>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "diary.h"
+#include "report_store.h"
+#include "selection_windows.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+using row = std::vector<double>;
+
+/// A row with the same figure on every hole: both nines and the total follow.
+row flat(double figure)
+{
+    row figures(18, figure);
+    for (const double sum : {9 * figure, 9 * figure, 18 * figure})
+        figures.push_back(sum);
+    return figures;
+}
+
+diary_course pebble()
+{
+    return course_of(QStringLiteral("Pebble Beach"), QStringLiteral("Gold"));
+}
+
+diary_course carnoustie()
+{
+    return course_of(QStringLiteral("Carnoustie Championship"), QStringLiteral("White"));
+}
+
+/// A fresh store with courses and rounds, which reports read too.
+class filled_store {
+public:
+    explicit filled_store(const std::vector<diary_round>& rounds, bool french = true)
+        : folder_(french), book(folder_.path())
+    {
+        set_report_store(folder_.path());
+        for (const diary_course& course : {pebble(), carnoustie()})
+            book.add(course);
+        book.add(rounds);
+    }
+
+    row stats(int number) const { return stats_row(book.store, number); }
+    QString head(const QString& column) const { return stats_head(book.store, column).toString(); }
+
+private:
+    store_folder folder_;
+
+public:
+    const diary book;
+};
+
+/// A par round on Pebble Beach (par 72), one stroke more on every hole for each `over`.
+diary_round pebble_round(int day, int over = 0)
+{
+    return {key_of_day(day), pebble(), holes_over(pebble().pars, over), 0, {}};
+}
+
+double total(const row& figures)
+{
+    return figures.back();
+}
+
+}  // namespace
+
+class test_round_statistics : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void one_round_is_shown_as_it_was_played_data() { both_languages(); }
+    void one_round_is_shown_as_it_was_played()
+    {
+        QFETCH(bool, french);
+        diary_round round = pebble_round(1, 1);
+        round.weather = 2;
+        round.holes[6].water = 1;
+        round.holes[6].sand = 2;
+        round.holes[6].missed = 3;
+        round.holes[6].fairway = 1;
+        const filled_store store({round}, french);
+        in_selection_window(run_without_detail);
+        // 72 + 18 + the water on hole 7, a par 3 that is played in 5.
+        const row strokes = store.stats(0);
+        QCOMPARE(strokes[0], 5.0);
+        QCOMPARE(strokes[6], 5.0);
+        QCOMPARE(total(strokes), 91.0);
+        QCOMPARE(strokes[18] + strokes[19], 91.0);
+        QCOMPARE(store.head(QStringLiteral("average_mark")), QStringLiteral(" "));
+        QCOMPARE(store.head(QStringLiteral("handicap_text")), QStringLiteral("N/A"));
+        QCOMPARE(store.head(QStringLiteral("round_count")), QStringLiteral("1"));
+        QCOMPARE(store.head(QStringLiteral("from_text")), QStringLiteral("2003-01-01 09:30:00"));
+        QCOMPARE(store.head(QStringLiteral("to_text")), QStringLiteral("2003-01-01 09:30:00"));
+        QCOMPARE(store.head(QStringLiteral("course_text")),
+                 french ? QStringLiteral("TOUS LES TERRAINS") : QStringLiteral("ALL COURSES"));
+        QCOMPARE(store.head(QStringLiteral("partner_text")),
+                 french ? QStringLiteral("TOUS LES PARTENAIRES") : QStringLiteral("ALL PARTNERS"));
+        QCOMPARE(store.head(QStringLiteral("weather_text")),
+                 french ? QStringLiteral(" TOUTES") : QStringLiteral(" ALL"));
+        QCOMPARE(store.stats(1)[6], 1.0);
+        QCOMPARE(store.stats(2)[6], 2.0);
+        QCOMPARE(store.stats(3)[6], 3.0);
+        QCOMPARE(store.stats(4)[6], 1.0);
+        QCOMPARE(total(store.stats(8)), 1.0);
+        row over = flat(1);
+        over[6] = 2;
+        over[18] = 10;
+        over[20] = 19;
+        QCOMPARE(store.stats(9), over);
+        QCOMPARE(total(store.stats(10)), 0.0);
+        QCOMPARE(total(store.stats(31)), 17.0);
+        QCOMPARE(total(store.stats(32)), 1.0);
+        QVERIFY(open_recordsets().isEmpty());
+    }
+
+    void two_rounds_are_a_mean_only_in_the_total_of_the_strokes()
+    {
+        const filled_store store({pebble_round(1, 0), pebble_round(2, 1)});
+        in_selection_window([](hand& user) {
+            select_range(user, 0, 1);
+            run_without_detail(user);
+        });
+        const row strokes = store.stats(0);
+        QCOMPARE(strokes[0], 9.0);
+        QCOMPARE(strokes[18] + strokes[19], 72.0 + 90.0);
+        QCOMPARE(total(strokes), 81.0);
+        QCOMPARE(store.head(QStringLiteral("average_mark")), QStringLiteral("0"));
+        QCOMPARE(store.head(QStringLiteral("round_count")), QStringLiteral("2"));
+        QCOMPARE(store.head(QStringLiteral("to_text")), QStringLiteral("2003-01-02 09:30:00"));
+        QCOMPARE(store.stats(9), flat(0.5));
+        QCOMPARE(store.stats(10), flat(1));
+        // Par 3s at 3 and 4 strokes: 3.5 goes to the even 4; 4.5 to 4; 5.5 to 6.
+        QCOMPARE(store.stats(24)[4], 4.0);
+        QCOMPARE(store.stats(25)[0], 4.0);
+        QCOMPARE(store.stats(26)[1], 6.0);
+        QCOMPARE(total(store.stats(24)), 3.5);
+        QCOMPARE(total(store.stats(25)), 4.5);
+        QCOMPARE(total(store.stats(26)), 5.5);
+    }
+
+    void a_hole_that_is_a_par_4_here_and_a_par_5_there_divides_by_its_own_rounds()
+    {
+        // Hole 2 is a par 5 on Pebble Beach and a par 4 on Carnoustie.
+        const filled_store store({pebble_round(1, 0),
+                                  pebble_round(2, 2),
+                                  {key_of_day(3), carnoustie(), holes_over(carnoustie().pars, 1), 0, {}}});
+        in_selection_window([](hand& user) {
+            select_range(user, 0, 2);
+            run_without_detail(user);
+        });
+        QCOMPARE(store.stats(26)[1], 6.0);
+        QCOMPARE(store.stats(25)[1], 5.0);
+        QCOMPARE(store.stats(22)[1], 0.0);
+        QCOMPARE(store.stats(23)[1], 1.0);
+    }
+
+    void five_rounds_have_a_handicap()
+    {
+        std::vector<diary_round> rounds;
+        for (int day = 1; day <= 5; ++day)
+            rounds.push_back(pebble_round(day, day));
+        const filled_store store(rounds);
+        in_selection_window([](hand& user) {
+            select_range(user, 0, 4);
+            run_without_detail(user);
+        });
+        // The best is 90: (90 - 73.4) * 113 / 137 = 13.69...
+        QCOMPARE(store.head(QStringLiteral("handicap_text")), QStringLiteral(" 13.7"));
+    }
+
+    void a_hole_without_strokes_counts_nothing_but_its_par()
+    {
+        diary_round round = pebble_round(1);
+        round.holes[17].stored = false;
+        const filled_store store({round});
+        in_selection_window(run_without_detail);
+        QCOMPARE(store.stats(0)[17], 0.0);
+        QCOMPARE(store.stats(9)[17], -5.0);
+        QCOMPARE(store.stats(26)[17], 0.0);
+        for (int line = 10; line <= 33; ++line)
+            QCOMPARE(store.stats(line)[17], 0.0);
+    }
+
+    void a_filter_leaves_out_rounds_and_names_itself_in_the_head_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("strokes");
+        // Rounds of 72, 90, 108 on Pebble Beach and 126 on Carnoustie.
+        QTest::newRow("sunny") << "conditions" << 1 << "weather_text"
+                               << "Ensoleillé" << 72.0;
+        QTest::newRow("windy") << "conditions" << 4 << "weather_text"
+                               << "Vent" << 126.0;
+        QTest::newRow("a course") << "cmb_courses" << 2 << "course_text"
+                                  << "Carnoustie Championship, BLANC" << 126.0;
+        QTest::newRow("partner 12, and 112 by the way") << "pList" << 1 << "partner_text"
+                                                        << "Anne, Douze" << 90.0;
+        QTest::newRow("partner 7") << "pList" << 2 << "partner_text"
+                                   << "Zoé, Sept" << 90.0;
+    }
+    void a_filter_leaves_out_rounds_and_names_itself_in_the_head()
+    {
+        QFETCH(QString, filter);
+        QFETCH(int, entry);
+        QFETCH(double, strokes);
+        QFETCH(QString, column);
+        std::vector<diary_round> rounds{pebble_round(1, 0), pebble_round(2, 1), pebble_round(3, 2)};
+        rounds.push_back({key_of_day(4), carnoustie(), holes_over(carnoustie().pars, 3), 3, {}});
+        rounds[0].partners = QStringLiteral("12-");
+        rounds[1].partners = QStringLiteral("7-33-");
+        rounds[1].weather = 1;
+        rounds[2].partners = QStringLiteral("112-");
+        rounds[2].weather = 2;
+        const filled_store store(rounds);
+        store.book.add_partner(QStringLiteral("Anne"), QStringLiteral("Douze"), 12);
+        store.book.add_partner(QStringLiteral("Zoé"), QStringLiteral("Sept"), 7);
+        in_selection_window([&](hand& user) {
+            select_range(user, 0, 3);
+            user.choose(filter, entry);
+            run_without_detail(user);
+        });
+        QTEST(store.head(column), "text");
+        QCOMPARE(total(store.stats(0)), strokes);
+        const bool two_rounds = entry == 1 && filter == u"pList";
+        QCOMPARE(store.head(QStringLiteral("round_count")).toInt(), two_rounds ? 2 : 1);
+    }
+
+    void a_range_that_runs_backwards_holds_no_round_data() { both_languages(); }
+    void a_range_that_runs_backwards_holds_no_round()
+    {
+        QFETCH(bool, french);
+        const filled_store store({pebble_round(1), pebble_round(2)}, french);
+        store.book.store.write(QStringLiteral("update stats set hole_3 = 7, front_nine = 9, all_holes = 1"));
+        const auto steps = bar_in_selection_window([](hand& user) {
+            select_range(user, 1, 0);
+            run(user);
+            answer_no_detail(user);
+            answer_no_round(user);
+            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("the bar is gone"));
+            user.check(!user.is_open(QStringLiteral("report_preview")), QStringLiteral("no report"));
+        });
+        QCOMPARE(steps, (QList<bar_step>{{20, true}, {40, true}, {30, true}}));
+        for (int line = 0; line < 34; ++line)
+            QCOMPARE(store.stats(line), flat(0));
+        QVERIFY(open_recordsets().isEmpty());
+    }
+
+    void the_bar_runs_and_is_gone_at_the_end()
+    {
+        const filled_store store({pebble_round(1)});
+        const auto steps = bar_in_selection_window([](hand& user) {
+            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("no bar before the run"));
+            run_without_detail(user);
+            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("no bar after the run"));
+        });
+        QList<bar_step> expected;
+        for (const int value : {20, 40, 30, 50, 60, 80, 100})
+            expected << bar_step{value, true};
+        QCOMPARE(steps, expected);
+    }
+
+    void the_window_stays_and_each_run_starts_from_the_selection_of_its_moment()
+    {
+        const filled_store store({pebble_round(1, 0), pebble_round(2, 3)});
+        in_selection_window([&](hand& user) {
+            run_without_detail(user);
+            user.same(static_cast<int>(total(store.stats(0))), 72, QStringLiteral("first run"));
+            select_range(user, 1, 1);
+            run_without_detail(user);
+            user.same(static_cast<int>(total(store.stats(0))), 126, QStringLiteral("second run"));
+        });
+    }
+
+    void the_sources_are_whole_tables_again_after_a_run()
+    {
+        const filled_store store({pebble_round(1)});
+        in_selection_window(run_without_detail);
+        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
+        QCOMPARE(data_environment().rshand.Source(), QStringLiteral("select * from hand"));
+        QCOMPARE(data_environment().rsStat_rounds.Source().toUpper(),
+                 QStringLiteral("SELECT * FROM STAT_ROUNDS"));
+        QCOMPARE(store.book.store.number(QStringLiteral("select count(*) from stats")), 34);
+    }
+
+    void a_round_without_one_of_its_rows_ends_the_run_with_its_box_data()
+    {
+        QTest::addColumn<QString>("loss");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("french");
+        for (const bool french : {true, false}) {
+            const char* in = french ? "in French" : "in English";
+            QTest::addRow("the course, %s", in)
+                << "update vrd_fields set code = 'X-0' where code like 'PEBBLE%'"
+                << "Fatal Error : 1 " << french;
+            QTest::addRow("the holes, %s", in) << "delete from field_info where FIELD_CODE like 'PEBBLE%'"
+                                               << "Fatal Error : 2 " << french;
+            QTest::addRow("games2, %s", in) << "delete from games2 where date = '20030101093000'"
+                                            << "Fatal Error : 3 " << french;
+        }
+    }
+    void a_round_without_one_of_its_rows_ends_the_run_with_its_box()
+    {
+        QFETCH(QString, loss);
+        QFETCH(QString, text);
+        QFETCH(bool, french);
+        const filled_store store(
+            {pebble_round(1), {key_of_day(2), carnoustie(), holes_over(carnoustie().pars, 0), 0, {}}},
+            french);
+        store.book.store.write(loss);
+        in_selection_window([&](hand& user) {
+            run(user);
+            answer_no_detail(user);
+            user.answer({text, QMessageBox::Critical, QString(), QMessageBox::Ok});
+            user.wait_for_window(selection_window());
+            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("the bar is gone"));
+            user.check(!user.is_open(QStringLiteral("report_preview")), QStringLiteral("no report"));
+            user.check(open_recordsets().isEmpty(), QStringLiteral("open: ") + open_recordsets().join(u' '));
+            // The window goes on with what is whole.
+            select_range(user, 1, 1);
+            run_without_detail(user);
+        });
+        QCOMPARE(total(store.stats(0)), 72.0);
+        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
+    }
+};
+
+QTEST_MAIN(test_round_statistics)
+#include "test_round_statistics.moc"

@@ -1,0 +1,103 @@
+#include <QApplication>
+#include <QProcess>
+#include <QTest>
+
+#include <cstdio>
+
+#include "diary.h"
+#include "hand.h"
+#include "report_store.h"
+#include "run_time_failure.h"
+#include "selection_windows.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int most_rounds = 366;
+
+diary_course course()
+{
+    return flat_course(QStringLiteral("LONG-0"), 4, QStringLiteral("72"), QStringLiteral("113"));
+}
+
+/// 366 rounds of 89 strokes are 32574, of 90 strokes 32940.
+std::vector<diary_round> full_list(int gross)
+{
+    std::vector<diary_round> rounds;
+    for (int day = 1; day <= most_rounds; ++day) {
+        diary_round round{key_of_day(day), course(), same_holes(hole_in(4)), 0, {}};
+        round.holes[0].approach += gross - 72;
+        rounds.push_back(round);
+    }
+    return rounds;
+}
+
+/// A run over a full list of rounds of that gross; says what a failure says.
+int run_over_full_list(int gross)
+{
+    const store_folder store;
+    set_report_store(store.path());
+    const diary book(store.path());
+    book.add(course());
+    book.add(full_list(gross));
+    in_selection_window([](hand& user) {
+        select_range(user, 0, most_rounds - 1);
+        run(user);
+        answer_no_detail(user);
+        user.wait_for_window(QStringLiteral("failure_box"));
+        std::printf("%s\n", qUtf8Printable(user.text(QStringLiteral("qt_msgbox_label"))));
+        std::fflush(stdout);
+        user.key(Qt::Key_Return);
+    });
+    return 77;  // not reached: the program has ended with the failure
+}
+
+}  // namespace
+
+class test_statistics_overflow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_strokes_of_a_selection_fit_16_bits()
+    {
+        const store_folder store;
+        set_report_store(store.path());
+        const diary book(store.path());
+        book.add(course());
+        book.add(full_list(89));
+        in_selection_window([](hand& user) {
+            select_range(user, 0, most_rounds - 1);
+            run_without_detail(user);
+        });
+        const auto strokes = stats_row(book.store, 0);
+        QCOMPARE(strokes[18] + strokes[19], most_rounds * 89.0);
+        QCOMPARE(strokes[20], 89.0);
+        QCOMPARE(stats_head(book.store, QStringLiteral("round_count")).toInt(), most_rounds);
+        QCOMPARE(stats_head(book.store, QStringLiteral("handicap_text")).toString(), QStringLiteral(" 16.3"));
+    }
+
+    void more_than_that_ends_the_program_with_its_words()
+    {
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--run"), QStringLiteral("90")});
+        QVERIFY(child.waitForFinished(120000));
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 1);
+        const QString said = QString::fromUtf8(child.readAllStandardOutput());
+        QVERIFY2(said.contains(failure_words(failure_kind::overflow).french), qPrintable(said));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (argc == 3 && QByteArray(argv[1]) == "--run")
+        return run_over_full_list(QByteArray(argv[2]).toInt());
+    test_statistics_overflow test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_statistics_overflow.moc"
