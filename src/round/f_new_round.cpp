@@ -76,7 +76,11 @@ void f_new_round::unloading()
 
 void f_new_round::close_requested()
 {
-    f_new_round_func::on_ok_cancel(*this, cancel_button);
+    // A round that has no key yet holds nothing to ask about.
+    if (date_value.isEmpty())
+        f_new_round_func::ask_and_close(*this, true);
+    else
+        f_new_round_func::on_ok_cancel(*this, cancel_button);
 }
 
 }  // namespace verdane

@@ -36,7 +36,9 @@ void add_hole_choice(f_new_round& window, QHBoxLayout& line)
     number->setFont(large);
     number->setMinimumWidth(QFontMetrics(large).horizontalAdvance(QStringLiteral("18")));
     window.cmb_holes = named(new QComboBox, u"cmb_holes");
-    line.addWidget(make_label(window.caption(u"Trou :", u"Hole :")));
+    QLabel* label = make_label(window.caption(u"Trou :", u"Hole :"));
+    label->setBuddy(window.cmb_holes);
+    line.addWidget(label);
     line.addWidget(number);
     line.addWidget(window.cmb_holes);
     line.addSpacing(2 * rhythm);

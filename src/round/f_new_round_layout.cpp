@@ -14,6 +14,7 @@
 #include "f_new_round.h"
 #include "look.h"
 #include "round_columns.h"
+#include "steady_wheel.h"
 #include "temperature_box.h"
 
 namespace verdane {
@@ -86,6 +87,10 @@ void lay_out(f_new_round& window)
     page->addLayout(make_pages(window), 1);
     page->addLayout(make_bottom(window));
     order_for_tab_key(window);
+    const std::initializer_list<QWidget*> choices = {window.cmb_holes, window.cmb_courses, window.conditions,
+                                                     window.UpDown1};
+    for (QWidget* choice : choices)
+        ignore_wheel(*choice);
 }
 
 }  // namespace verdane

@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QWheelEvent>
 
 namespace verdane {
 
@@ -66,12 +65,6 @@ void temperature_box::stepBy(int steps)
 {
     touched_ = true;
     QSpinBox::stepBy(steps);
-}
-
-void temperature_box::wheelEvent(QWheelEvent* event)
-{
-    // Turning the wheel over the page must not change the weather.
-    event->ignore();
 }
 
 }  // namespace verdane

@@ -18,7 +18,6 @@ protected:
     int valueFromText(const QString& text) const override;
     QValidator::State validate(QString& text, int& place) const override;
     void stepBy(int steps) override;
-    void wheelEvent(QWheelEvent* event) override;
 
 private:
     bool touched_ = false;

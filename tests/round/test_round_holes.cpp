@@ -1,6 +1,8 @@
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "f_new_round.h"
 #include "language.h"
@@ -203,6 +205,34 @@ private Q_SLOTS:
             user.same(boxes(user), QStringLiteral("0 0 0 0 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
             user.same(user.text(QStringLiteral("text_vrd_3")), QStringLiteral("0"), QStringLiteral("shots"));
             user.same(user.text(QStringLiteral("text_36")), QStringLiteral("0"), QStringLiteral("penalties"));
+            discard(user);
+        });
+    }
+
+    void the_wheel_changes_nothing_data()
+    {
+        QTest::addColumn<QString>("control");
+        for (const char* control : {"cmb_holes", "cmb_courses", "conditions", "UpDown1", "TabStrip1"})
+            QTest::newRow(control) << QString::fromLatin1(control);
+    }
+
+    void the_wheel_changes_nothing()
+    {
+        QFETCH(QString, control);
+        const round_store store;
+        store.add_two_courses();
+        in_keyed_round([&](hand& user) {
+            with_round(user, [&](f_new_round& window) {
+                auto* target = window.findChild<QWidget*>(control);
+                QWheelEvent turn(QPointF(4, 4), target->mapToGlobal(QPointF(4, 4)), {}, {0, -120},
+                                 Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QApplication::sendEvent(target, &turn);
+            });
+            stands_on(user, 1);
+            user.same(user.selected(QStringLiteral("cmb_courses")), 0, QStringLiteral("course"));
+            user.same(user.selected(QStringLiteral("conditions")), 0, QStringLiteral("weather"));
+            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("  "),
+                      QStringLiteral("temperature"));
             discard(user);
         });
     }

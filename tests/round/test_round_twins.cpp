@@ -7,6 +7,9 @@
 #include <QTest>
 
 #include "f_new_round.h"
+#include "hand_widgets.h"
+#include "hole_classes.h"
+#include "languages.h"
 #include "look.h"
 #include "round_windows.h"
 
@@ -58,6 +61,105 @@ QStringList clipped_in(const QWidget& window)
     return clipped;
 }
 
+/// What labels, frames and buttons say, the figures of the round apart.
+QStringList captions_of(const QWidget& window)
+{
+    QStringList captions;
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        if (label->objectName().isEmpty())
+            captions << label->text();
+    }
+    for (const QGroupBox* frame : window.findChildren<QGroupBox*>())
+        captions << frame->title();
+    for (const QPushButton* button : window.findChildren<QPushButton*>())
+        captions << button->text();
+    captions.sort();
+    return captions;
+}
+
+/// The captions around the statistics, whose own stand with their classes.
+const QStringList french_captions{u"Trou :"_qs,
+                                  u"Normale :"_qs,
+                                  u"Verges :"_qs,
+                                  u"Handicap :"_qs,
+                                  u"Date :"_qs,
+                                  u"Heure :"_qs,
+                                  u"Choisir"_qs,
+                                  u"Entrée rapide"_qs,
+                                  u"Long :"_qs,
+                                  u"Approche :"_qs,
+                                  u"Putt  :"_qs,
+                                  u"Nombre de coups :"_qs,
+                                  u"Situation"_qs,
+                                  u"Allée :"_qs,
+                                  u"Fosse de sable :"_qs,
+                                  u"Coups ratés :"_qs,
+                                  u"C. de redressement :"_qs,
+                                  u"Pénalités"_qs,
+                                  u"Pénalité eau :"_qs,
+                                  u"Pénalité balle perdue :"_qs,
+                                  u"Pén.  (règlement) :"_qs,
+                                  u"Pénalité hors limites :"_qs,
+                                  u"Total pénalités :"_qs,
+                                  u"Statistiques"_qs,
+                                  u"Paramètres"_qs,
+                                  u"Terrain"_qs,
+                                  u"Conditions atmosphériques"_qs,
+                                  u"Temp. :"_qs,
+                                  u"Partenaires"_qs,
+                                  u"Coûts"_qs,
+                                  u"Brut"_qs,
+                                  u"Handicap"_qs,
+                                  u"Net"_qs,
+                                  u"+/-"_qs,
+                                  u"OK"_qs,
+                                  u"Annuler"_qs};
+const QStringList english_captions{u"Hole :"_qs,
+                                   u"Par :"_qs,
+                                   u"Yards :"_qs,
+                                   u"Handicap :"_qs,
+                                   u"Date :"_qs,
+                                   u"Time :"_qs,
+                                   u"Select"_qs,
+                                   u"Quick Entry"_qs,
+                                   u"Long :"_qs,
+                                   u"Approach :"_qs,
+                                   u"Putt  :"_qs,
+                                   u"Number of Shots :"_qs,
+                                   u"Position"_qs,
+                                   u"Fairway Shots :"_qs,
+                                   u"Sand Trap Shots :"_qs,
+                                   u"Missed Shots :"_qs,
+                                   u"Adjustment Shots :"_qs,
+                                   u"Penalties"_qs,
+                                   u"Water Hazard :"_qs,
+                                   u"Lost Ball :"_qs,
+                                   u"Rules :"_qs,
+                                   u"Out of Bound :"_qs,
+                                   u"Total :"_qs,
+                                   u"Statistics"_qs,
+                                   u"Parameters"_qs,
+                                   u"Golf Course"_qs,
+                                   u"Weather Conditions "_qs,
+                                   u"Temp. :"_qs,
+                                   u"Partners"_qs,
+                                   u"Costs"_qs,
+                                   u"Brut"_qs,
+                                   u"Handicap"_qs,
+                                   u"Net"_qs,
+                                   u"+/-"_qs,
+                                   u"OK"_qs,
+                                   u"Cancel"_qs};
+
+QStringList expected_captions(bool french)
+{
+    QStringList captions = french ? french_captions : english_captions;
+    for (const selector_row& row : panel_selectors)
+        captions << row.label.in(french);
+    captions.sort();
+    return captions;
+}
+
 QStringList controls_in(bool french)
 {
     const round_store store(french);
@@ -92,12 +194,26 @@ private Q_SLOTS:
         QCOMPARE(controls_in(false), french);
     }
 
-    void nothing_is_clipped_data()
+    void the_captions_are_those_of_the_language_data() { both_languages(); }
+    void the_captions_are_those_of_the_language()
     {
-        QTest::addColumn<bool>("french");
-        QTest::newRow("French") << true;
-        QTest::newRow("English") << false;
+        QFETCH(bool, french);
+        const round_store store(french);
+        store.add_two_courses();
+        in_keyed_round([&](hand& user) {
+            with_round(user, [&](f_new_round& window) {
+                QCOMPARE(captions_of(window).join(u'|'), expected_captions(french).join(u'|'));
+                QStringList numbers;
+                for (int hole = 1; hole <= 18; ++hole)
+                    numbers << QString::number(hole);
+                QCOMPARE(entries_of(*window.TabStrip1), numbers);
+                QCOMPARE(entries_of(*window.cmb_holes), numbers);
+            });
+            discard(user);
+        });
     }
+
+    void nothing_is_clipped_data() { both_languages(); }
 
     void nothing_is_clipped()
     {
