@@ -1,5 +1,7 @@
 #include "course_box.h"
 
+#include <QAbstractItemView>
+#include <QScreen>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -45,6 +47,16 @@ void course_box::add_course(QString name, const QString& code)
 int course_box::place_of(const QString& code) const
 {
     return std::max(0, findData(code));
+}
+
+void course_box::showPopup()
+{
+    QComboBox::showPopup();
+    QWidget* list = view()->window();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int wanted = std::max(width(), view()->sizeHintForColumn(0) + bar);
+    const int rightmost = screen()->availableGeometry().right() - wanted;
+    list->setGeometry(std::min(mapToGlobal(QPoint(0, 0)).x(), rightmost), list->y(), wanted, list->height());
 }
 
 }  // namespace verdane

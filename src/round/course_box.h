@@ -15,6 +15,9 @@ public:
 
     /// The place of the course with that code; the first place when there is none.
     int place_of(const QString& code) const;
+
+    /// Opens the list as wide as its lines look, not as they are padded.
+    void showPopup() override;
 };
 
 }  // namespace verdane

@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -252,6 +253,9 @@ private Q_SLOTS:
                 auto* lines = qobject_cast<QStyledItemDelegate*>(window.cmb_courses->itemDelegate());
                 QCOMPARE(lines->displayText(window.cmb_courses->itemText(1), QLocale()),
                          QStringLiteral("Beta, VERT"));
+                window.cmb_courses->showPopup();
+                QCOMPARE(window.cmb_courses->view()->window()->width(), window.cmb_courses->width());
+                window.cmb_courses->hidePopup();
             });
             discard(user);
         });
