@@ -81,6 +81,7 @@ struct diary_shot {
 class diary {
 public:
     explicit diary(const QString& path) : store(path) {}
+    explicit diary(const reader& open_store) : store(open_store) {}
 
     void add(const diary_course& course) const;
     /// The round's rows of `games` and `games2`.

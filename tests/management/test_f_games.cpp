@@ -1,0 +1,258 @@
+#include <QTest>
+
+#include <functional>
+#include <vector>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "diary.h"
+#include "f_games.h"
+#include "main_frame.h"
+#include "recording_frame.h"
+#include "store_folder.h"
+#include "window_look.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString list_window()
+{
+    return in_language(u"f_games", u"f_games_en");
+}
+
+diary_course pines()
+{
+    return flat_course(u"CLUB DES PINS-2"_s, 4, u"70"_s, u"113"_s);
+}
+
+diary_round round_with_last_hole(int day, const hole_entry& last)
+{
+    diary_course course = pines();
+    course.name = u" Club des Pins "_s;
+    diary_round round{key_of_day(day), course, same_holes(hole_in(4)), 0, {}};
+    round.holes[17] = last;
+    return round;
+}
+
+void open_list()
+{
+    f_games window;
+    window.show_modal();
+}
+
+/// Opens the list, runs the script and leaves by OK.
+void in_list(const std::function<void(hand&)>& script)
+{
+    play(open_list, [&](hand& user) {
+        user.wait_for_window(list_window());
+        script(user);
+        user.click(u"Command1_2"_s);
+        user.wait_until_gone(list_window());
+    });
+}
+
+bool nothing_is_open()
+{
+    for (Recordset& recordset : data_environment().recordsets()) {
+        if (recordset.is_open())
+            return false;
+    }
+    return true;
+}
+
+struct named_way {
+    const char* words;
+    std::function<void(hand&)> leave;
+};
+
+std::vector<named_way> ways_out()
+{
+    return {{"OK", [](hand& user) { user.click(u"Command1_2"_s); }},
+            {"the title bar", [](hand& user) { user.close_window(list_window()); }},
+            {"Escape", [](hand& user) { user.key(Qt::Key_Escape); }},
+            {"the command Close of the main window",
+             [](hand& user) { user.look([] { current_form->closeForm(); }); }}};
+}
+
+void both_languages()
+{
+    QTest::addColumn<bool>("french");
+    QTest::newRow("French") << true;
+    QTest::newRow("English") << false;
+}
+
+}  // namespace
+
+class test_f_games : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_round_is_marked_when_its_last_hole_has_no_strokes_data()
+    {
+        QTest::addColumn<QList<int>>("strokes");
+        QTest::addColumn<bool>("stored");
+        QTest::addColumn<bool>("marked");
+        QTest::newRow("all three") << QList<int>{1, 1, 2} << true << false;
+        QTest::newRow("a long shot alone") << QList<int>{1, 0, 0} << true << false;
+        QTest::newRow("an approach alone") << QList<int>{0, 1, 0} << true << false;
+        QTest::newRow("a putt alone") << QList<int>{0, 0, 1} << true << false;
+        QTest::newRow("nothing") << QList<int>{0, 0, 0} << true << true;
+        QTest::newRow("no values") << QList<int>{0, 0, 0} << false << true;
+    }
+    void a_round_is_marked_when_its_last_hole_has_no_strokes()
+    {
+        QFETCH(QList<int>, strokes);
+        QFETCH(bool, stored);
+        QFETCH(bool, marked);
+        const store_folder store;
+        const diary book(store.path());
+        hole_entry last;
+        last.long_shots = strokes[0];
+        last.approach = strokes[1];
+        last.putts = strokes[2];
+        last.stored = stored;
+        // A penalty is no stroke of the kind that completes a round.
+        last.water = 1;
+        book.add(round_with_last_hole(165, last));
+        const QString line = u"2003-06-14 09:30:00 |  - Club des Pins"_s + (marked ? u"**"_s : QString());
+        in_list([&](hand& user) {
+            user.check(user.entries(u"List1"_s) == QStringList{line}, user.entries(u"List1"_s).join(u'\n'));
+        });
+    }
+
+    void a_round_with_only_its_last_hole_filled_has_no_mark()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        diary_round round = round_with_last_hole(1, hole_in(4));
+        for (std::size_t i = 0; i < 17; ++i)
+            round.holes.at(i).stored = false;
+        book.add(round);
+        in_list(
+            [](hand& user) { user.check(!user.text(u"List1"_s).endsWith(u"**"), user.text(u"List1"_s)); });
+    }
+
+    void the_rounds_stand_in_time_order_and_the_earliest_is_selected()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        for (const int day : {40, 2, 365, 7})
+            book.add(round_with_last_hole(day, hole_in(4)));
+        in_list([](hand& user) {
+            QStringList days;
+            for (const QString& line : user.entries(u"List1"_s))
+                days << line.left(10);
+            user.same(days.join(u' '), u"2003-01-02 2003-01-07 2003-02-09 2003-12-31"_s, u"order"_s);
+            user.same(user.selected(u"List1"_s), 0, u"selected"_s);
+            user.same(user.focus(), u"List1"_s, u"focus"_s);
+        });
+    }
+
+    void captions_are_those_of_the_language_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QStringList>("captions");
+        QTest::newRow("French") << true
+                                << QStringList{u"Gestion des rondes"_s,
+                                               u"Date / Heure / Terrain"_s,
+                                               u"Ouvrir"_s,
+                                               u"Ajouter"_s,
+                                               u"OK"_s,
+                                               u"** Attention : Ces rondes ne sont pas complétées"_s};
+        QTest::newRow("English") << false
+                                 << QStringList{u"Round Management "_s,
+                                                u"Date / Time / Course"_s,
+                                                u"Open"_s,
+                                                u"Add"_s,
+                                                u"OK"_s,
+                                                u"**Attention : these rounds have not been completed."_s};
+    }
+    void captions_are_those_of_the_language()
+    {
+        QFETCH(bool, french);
+        QFETCH(QStringList, captions);
+        const store_folder store(french);
+        diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
+        in_list([&](hand& user) {
+            const QStringList seen{user.title(list_window()),  user.text(u"Frame1"_s),
+                                   user.text(u"Command1_0"_s), user.text(u"Command1_1"_s),
+                                   user.text(u"Command1_2"_s), user.text(u"Label1"_s)};
+            user.same(seen.join(u'|'), captions.join(u'|'), u"captions"_s);
+            user.same(clipped_controls(user).join(u' '), QString(), u"clipped"_s);
+            user.check(!user.exists(u"Command1_3"_s), u"removing is not there yet"_s);
+        });
+    }
+
+    void the_twins_have_the_same_controls()
+    {
+        QStringList seen[2];
+        for (const bool french : {false, true}) {
+            const store_folder store(french);
+            diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
+            in_list([&](hand& user) { seen[french ? 1 : 0] = controls_of_window(user); });
+        }
+        QVERIFY(seen[0].size() >= 6);
+        QCOMPARE(seen[0], seen[1]);
+    }
+
+    void a_store_without_rounds_is_told_and_no_window_comes_up_data() { both_languages(); }
+    void a_store_without_rounds_is_told_and_no_window_comes_up()
+    {
+        QFETCH(bool, french);
+        const store_folder store(french);
+        recording_frame frame;
+        play(open_list, [&](hand& user) {
+            user.answer({french ? u"Il n'y a pas de ronde enregistrée"_s : u"There is no round registered"_s,
+                         QMessageBox::Information, default_title(), QMessageBox::Ok});
+        });
+        QVERIFY(nothing_is_open());
+        QVERIFY(!frame.locked);
+    }
+
+    void every_way_out_closes_everything_and_unlocks_the_menu_data()
+    {
+        QTest::addColumn<int>("way");
+        const auto ways = ways_out();
+        for (std::size_t i = 0; i < ways.size(); ++i)
+            QTest::newRow(ways[i].words) << static_cast<int>(i);
+    }
+    void every_way_out_closes_everything_and_unlocks_the_menu()
+    {
+        QFETCH(int, way);
+        const store_folder store;
+        diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
+        recording_frame frame;
+        // Twice: a list that left something open could not be opened again.
+        for (int time = 0; time < 2; ++time) {
+            play(open_list, [&](hand& user) {
+                user.wait_for_window(list_window());
+                user.check(frame.locked, u"the menu is locked"_s);
+                user.check(data_environment().rsgames.is_open() && data_environment().rsfield_info.is_open(),
+                           u"both recordsets stay open with the window"_s);
+                user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
+                ways_out()[static_cast<std::size_t>(way)].leave(user);
+                user.wait_until_gone(list_window());
+            });
+            QVERIFY(nothing_is_open());
+            QVERIFY(!frame.locked);
+        }
+    }
+
+    void closing_a_list_that_has_gone_does_nothing()
+    {
+        const store_folder store;
+        diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
+        f_games window;
+        window.closeForm();
+        data_environment().rsgames.Open();
+        window.closeForm();
+        window.save();
+        QVERIFY(data_environment().rsgames.is_open());
+    }
+};
+
+QTEST_MAIN(test_f_games)
+#include "test_f_games.moc"
