@@ -25,7 +25,6 @@ void open_round_tables(const selection_arguments& chosen)
     store.rsgames2.Open();
     store.rsgames.set_Source(selected_rounds_statement(chosen));
     store.rsgames.Open();
-    store.rsgames.Requery();
 }
 
 void close_round_tables()

@@ -31,7 +31,6 @@ bool open_detail(const selection_arguments& chosen)
     Recordset& shots = data_environment().rsStat_rounds;
     shots.set_Source(detail_select(chosen));
     shots.Open();
-    shots.Requery();
     return !shots.eof() && !shots.bof();
 }
 

@@ -21,7 +21,6 @@ void open_recordsets(const selection_arguments& chosen)
     store.rsgames.set_Source(selected_rounds_statement(chosen));
     store.rsgames.Open();
     store.rshand.Open();
-    store.rsgames.Requery();
     store.rsgames2.Open();
 }
 
