@@ -45,13 +45,17 @@ QPoint middle_of_row(const QListWidget& list, int row)
     return list.visualItemRect(list.item(row)).center();
 }
 
+/// The menu that holds the entry; null for an entry of the menu bar itself.
 QMenu* menu_of(const QAction& entry)
 {
+    QMenu* menu = nullptr;
     for (QObject* owner : entry.associatedObjects()) {
-        if (auto* menu = qobject_cast<QMenu*>(owner))
-            return menu;
+        if (qobject_cast<QMenuBar*>(owner))
+            return nullptr;
+        if (auto* found = qobject_cast<QMenu*>(owner))
+            menu = found;
     }
-    return nullptr;
+    return menu;
 }
 
 void click_action(QWidget& owner, const QRect& where)

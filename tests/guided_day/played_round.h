@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace verdane::guided_day {
+
+/// A round as it was played: for each hole the eleven figures in the order in which the quick page
+/// takes them (long, approach, putts; fairway, sand, missed, recovery; water, lost, rule, bounds).
+struct played_round {
+    QString date;  ///< as in the key: "20260614"
+    QString hours, minutes, seconds;
+    std::array<QString, 18> holes;
+
+    QString key() const { return date + hours + minutes + seconds; }
+    /// One of the eleven figures of a hole (1 to 18).
+    int figure(int hole, int place) const;
+    int gross(int hole) const;
+    int gross() const;
+};
+
+/// A morning at 9:30:05 and an afternoon at 14:05:00, both of today. Hole 18 has no penalty: one typed
+/// there reaches the totals on the screen only with the next stroke.
+played_round morning_round();
+played_round afternoon_round();
+
+}  // namespace verdane::guided_day

@@ -1,0 +1,91 @@
+#include "program_run.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include "Connection1.h"
+#include "DataEnvironment1.h"
+#include "language.h"
+#include "start_up.h"
+
+namespace verdane::testing {
+
+namespace {
+
+QTemporaryDir& made_home(QTemporaryDir& home)
+{
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    QCoreApplication::setApplicationName(QStringLiteral("Verdane"));
+    Connection1 first_start;
+    first_start.Open();
+    first_start.Close();
+    return home;
+}
+
+void let_go_of_the_store()
+{
+    for (Recordset& recordset : data_environment().recordsets()) {
+        if (recordset.is_open())
+            recordset.Close();
+        recordset.set_Source(recordset.settings().source);
+    }
+    data_environment().connection.Close();
+}
+
+QString columns(const QString& name, const QString& value)
+{
+    QStringList pieces;
+    for (int hole = 1; hole <= 18; ++hole)
+        pieces << name.arg(hole) + u" = " + value;
+    return pieces.join(u", ");
+}
+
+}  // namespace
+
+program_run::program_run(int language, const QStringList& statements)
+    : store_((made_home(home_), store_path()))
+{
+    store_.write(QStringLiteral("update settings set language = %1").arg(language));
+    store_.write(statements);
+}
+
+program_run::~program_run()
+{
+    let_go_of_the_store();
+}
+
+QString program_run::store_path()
+{
+    return Connection1::default_path();
+}
+
+int program_run::play_through(const std::function<void(hand&)>& script)
+{
+    language_is_settled = false;
+    int status = -1;
+    play([&] { status = run_verdane(*qApp); }, script);
+    let_go_of_the_store();
+    return status;
+}
+
+QStringList one_course()
+{
+    return {QStringLiteral("insert into vrd_fields (code, name, name_tee, rating, slope, tee) values "
+                           "('LINKS-0', 'Links', 'Links-0', '71.2', '128', 'WHITE')"),
+            QStringLiteral("insert into field_info (FIELD_CODE) values ('LINKS-0')"),
+            u"update field_info set " + columns(QStringLiteral("par_%1"), QStringLiteral("4")) + u", " +
+                columns(QStringLiteral("yards_%1"), QStringLiteral("380"))};
+}
+
+QStringList one_round(const QString& key)
+{
+    return {
+        QStringLiteral("insert into games (date, field, CODEF) values ('%1', 'Links', 'LINKS-0')").arg(key),
+        QStringLiteral(
+            "insert into games2 (date, conditionM, PARTNERS, temperature, FC) values ('%1', 0, '', "
+            "20, 'LINKS-0')")
+            .arg(key),
+        QStringLiteral("insert into cost (date) values ('%1')").arg(key)};
+}
+
+}  // namespace verdane::testing

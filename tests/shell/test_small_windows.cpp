@@ -1,0 +1,106 @@
+#include <QTest>
+
+#include "boxes.h"
+#include "f_about.h"
+#include "f_flash.h"
+#include "language.h"
+#include "MainForm.h"
+#include "program_run.h"
+#include "start_up.h"
+#include "system_information.h"
+#include "wait.h"
+
+using namespace verdane;
+using verdane::testing::hand;
+using verdane::testing::play;
+using verdane::testing::program_run;
+
+class test_small_windows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { prepare_application(*qApp); }
+    void init() { is_french = true; }
+
+    void the_about_box_tells_the_version_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("French") << true << QStringLiteral("À propos de VERDANE") << "VERDANE pour PC";
+        QTest::newRow("English") << false << "About VERDANE"
+                                 << "VERDANE for PC";
+    }
+
+    void the_about_box_tells_the_version()
+    {
+        QFETCH(bool, french);
+        QFETCH(QString, title);
+        QFETCH(QString, name);
+        is_french = french;
+        f_about window;
+        QCOMPARE(window.windowTitle(), title);
+        QCOMPARE(window.lblTitle->text(), name);
+        QCOMPARE(window.lblVersion->text(), QStringLiteral("Version 1.4"));
+        QCOMPARE(window.cmdOK->text(), QStringLiteral("OK"));
+        for (const QLabel* line : {window.lblDescription, window.lblDisclaimer, window.Label1})
+            QVERIFY(!line->text().isEmpty());
+    }
+
+    void the_about_box_leaves_the_menu_unlocked_when_it_goes()
+    {
+        program_run run(1);
+        run.play_through([](hand& user) {
+            user.wait_for_window(QStringLiteral("MainForm"));
+            user.menu(QStringLiteral("maprop"));
+            user.wait_for_window(QStringLiteral("f_about"));
+            user.look([] { Lock_menu(); });
+            user.click(QStringLiteral("cmdOK"));
+            user.wait_until_gone(QStringLiteral("f_about"));
+            user.check(user.enabled(QStringLiteral("mOpen")), QStringLiteral("menu unlocked"));
+            user.menu(QStringLiteral("mQuit"));
+        });
+    }
+
+    void without_the_platforms_tool_the_about_box_says_so_in_both_languages()
+    {
+        QVERIFY(system_information_tool().isEmpty());
+        for (const bool french : {true, false}) {
+            is_french = french;
+            f_about window;
+            play([&] { window.show_modal(); },
+                 [&](hand& user) {
+                     user.wait_for_window(window.objectName());
+                     user.click(QStringLiteral("cmdSysInfo"));
+                     user.answer({QStringLiteral("System Information Is Unavailable At This Time"),
+                                  QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
+                     user.click(QStringLiteral("cmdOK"));
+                 });
+        }
+    }
+
+    void the_wait_window_asks_for_patience()
+    {
+        wait_form window;
+        QCOMPARE(window.objectName(), QStringLiteral("wait"));
+        QCOMPARE(window.Label1->text(), QStringLiteral("Please Wait"));
+    }
+
+    void the_picture_window_stands_against_the_main_window()
+    {
+        MainForm frame;
+        f_flash window;
+        QCOMPARE(window.pos(), QPoint(frame.width() - 200 / 15, frame.height() - 2400 / 15));
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_flash"));
+                 user.look([&] {
+                     QCOMPARE(window.Image1->pos(), QPoint(window.width() / 2, window.height() / 2));
+                 });
+                 user.close_window(QStringLiteral("f_flash"));
+             });
+    }
+};
+
+QTEST_MAIN(test_small_windows)
+#include "test_small_windows.moc"
