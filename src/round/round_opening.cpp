@@ -25,7 +25,7 @@ void tell_no_course()
 {
     // The two languages differ in the icon, too.
     if (is_french)
-        tell(QStringLiteral("Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moins "
+        tell(QStringLiteral("Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
                             "un terrain"),
              QMessageBox::Critical, QStringLiteral("Verdane"));
     else
