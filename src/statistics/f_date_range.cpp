@@ -147,11 +147,6 @@ void f_date_range::closeForm()
     f_date_range_func::close_form(*this);
 }
 
-void f_date_range::close_requested()
-{
-    unload();
-}
-
 void f_date_range::unloading()
 {
     f_date_range_func::unload();

@@ -48,7 +48,6 @@ public:
 
 protected:
     void unloading() override;
-    void close_requested() override;
 
 private:
     void build();

@@ -54,15 +54,6 @@ void in_list(const std::function<void(hand&)>& script)
     });
 }
 
-bool nothing_is_open()
-{
-    for (Recordset& recordset : data_environment().recordsets()) {
-        if (recordset.is_open())
-            return false;
-    }
-    return true;
-}
-
 struct named_way {
     const char* words;
     std::function<void(hand&)> leave;
@@ -75,13 +66,6 @@ std::vector<named_way> ways_out()
             {"Escape", [](hand& user) { user.key(Qt::Key_Escape); }},
             {"the command Close of the main window",
              [](hand& user) { user.look([] { current_form->closeForm(); }); }}};
-}
-
-void both_languages()
-{
-    QTest::addColumn<bool>("french");
-    QTest::newRow("French") << true;
-    QTest::newRow("English") << false;
 }
 
 }  // namespace
@@ -208,7 +192,7 @@ private Q_SLOTS:
             user.answer({french ? u"Il n'y a pas de ronde enregistrée"_s : u"There is no round registered"_s,
                          QMessageBox::Information, default_title(), QMessageBox::Ok});
         });
-        QVERIFY(nothing_is_open());
+        QCOMPARE(open_recordsets(), QStringList());
         QVERIFY(!frame.locked);
     }
 
@@ -236,7 +220,7 @@ private Q_SLOTS:
                 ways_out()[static_cast<std::size_t>(way)].leave(user);
                 user.wait_until_gone(list_window());
             });
-            QVERIFY(nothing_is_open());
+            QCOMPARE(open_recordsets(), QStringList());
             QVERIFY(!frame.locked);
         }
     }

@@ -44,16 +44,6 @@ void fill(const round_store& store)
     }
 }
 
-QStringList open_recordsets()
-{
-    QStringList names;
-    for (Recordset& recordset : data_environment().recordsets()) {
-        if (recordset.is_open())
-            names << recordset.name();
-    }
-    return names;
-}
-
 /// Opens the list, does what the script does there, and waits until list and round window are gone.
 void from_list(const std::function<void(hand&)>& script)
 {
@@ -81,13 +71,6 @@ void check_round(hand& user, int day)
     user.same(user.text(u"text_vrd_1"_s), QString::number((day == 1 ? 2 : 1) + day), u"approach shots"_s);
     user.same(user.text(u"text_7"_s), QString::number(10 * day), u"costs"_s);
     user.check(!user.enabled(u"b_getdat"_s), u"the date of a stored round is fixed"_s);
-}
-
-void both_languages()
-{
-    QTest::addColumn<bool>("french");
-    QTest::newRow("French") << true;
-    QTest::newRow("English") << false;
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <QTest>
 
 #include "boxes.h"
-#include "DataEnvironment1.h"
 #include "f_date_range.h"
 #include "hand_widgets.h"
 #include "language.h"
@@ -94,6 +93,9 @@ void close_report(hand& user)
         QCOMPARE(report->windowTitle(), QStringLiteral("Verdane International Inc."));
         QVERIFY(report->isMaximized());
         QCOMPARE(report->parentWidget()->objectName(), selection_window());
+        QCOMPARE(dynamic_cast<const f_date_range&>(*form_at_work()).cr2.ReportFileName(),
+                 QCoreApplication::applicationDirPath() +
+                     in_language(u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt"));
         report->close();
     });
     user.wait_until_gone(preview);
@@ -104,23 +106,6 @@ void run_without_detail(hand& user)
     run(user);
     answer_no_detail(user);
     close_report(user);
-}
-
-QStringList open_recordsets()
-{
-    QStringList names;
-    for (Recordset& recordset : data_environment().recordsets()) {
-        if (recordset.is_open())
-            names << recordset.name();
-    }
-    return names;
-}
-
-void both_languages()
-{
-    QTest::addColumn<bool>("french");
-    QTest::newRow("French") << true;
-    QTest::newRow("English") << false;
 }
 
 }  // namespace verdane::testing

@@ -2,11 +2,11 @@
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 
 #include "hand.h"
+#include "window_look.h"
 
 /// What the tests of the selection window share.
 namespace verdane::testing {
@@ -40,11 +40,5 @@ void answer_no_round(hand& user);
 void close_report(hand& user);
 /// Starts the statistics of rounds that have no shots, up to the closed report.
 void run_without_detail(hand& user);
-
-/// The names of the recordsets that are open.
-QStringList open_recordsets();
-
-/// Both languages as rows of data in the column `french`.
-void both_languages();
 
 }  // namespace verdane::testing

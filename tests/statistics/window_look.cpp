@@ -4,7 +4,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QTest>
 
+#include "DataEnvironment1.h"
 #include "Form.h"
 
 namespace verdane::testing {
@@ -44,6 +46,23 @@ QStringList clipped_controls(hand& user)
         }
     });
     return names;
+}
+
+QStringList open_recordsets()
+{
+    QStringList names;
+    for (Recordset& recordset : data_environment().recordsets()) {
+        if (recordset.is_open())
+            names << recordset.name();
+    }
+    return names;
+}
+
+void both_languages()
+{
+    QTest::addColumn<bool>("french");
+    QTest::newRow("French") << true;
+    QTest::newRow("English") << false;
 }
 
 }  // namespace verdane::testing
