@@ -31,6 +31,11 @@ function(verdane_library name)
   target_link_libraries(${name} PUBLIC verdane_flags ${ARG_LINKS})
 endfunction()
 
+# What every test runs under: no display, and no leak report, since the toolkit keeps some memory to the
+# end on purpose.
+set(VERDANE_TEST_ENVIRONMENT
+  "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
+
 function(verdane_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "LINKS;SOURCES" ${ARGN})
   if(NOT ARG_TIMEOUT)
@@ -44,5 +49,5 @@ function(verdane_test name)
   target_link_libraries(${name} PRIVATE verdane_test_support ${ARG_LINKS} Qt6::Test)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
+    ENVIRONMENT "${VERDANE_TEST_ENVIRONMENT}")
 endfunction()
