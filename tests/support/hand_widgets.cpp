@@ -14,6 +14,18 @@
 
 namespace verdane::testing {
 
+namespace {
+
+/// A window that hangs on a modal one takes input beside it.
+bool hangs_on(const QWidget* window, const QWidget* modal)
+{
+    while (window && window != modal)
+        window = window->parentWidget();
+    return window == modal;
+}
+
+}  // namespace
+
 QList<QWidget*> windows_taking_input()
 {
     QList<QWidget*> windows;
@@ -21,8 +33,7 @@ QList<QWidget*> windows_taking_input()
         windows << popup;
     QWidget* modal = QApplication::activeModalWidget();
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && (!modal || window == modal || modal->isAncestorOf(window)) &&
-            !windows.contains(window))
+        if (window->isVisible() && (!modal || hangs_on(window, modal)) && !windows.contains(window))
             windows << window;
     }
     return windows;
