@@ -56,6 +56,12 @@ QRect page_view::page_rect(int page) const
 
 void page_view::set_zoom(int percent)
 {
+    fitted_ = false;
+    zoom_to(percent);
+}
+
+void page_view::zoom_to(int percent)
+{
     const double middle = viewport()->height() / 2.0;
     const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->page_count());
     zoom_ = qBound(least_zoom, percent, most_zoom);
@@ -77,8 +83,15 @@ void page_view::zoom_out()
 
 void page_view::fit_width()
 {
+    fitted_ = true;
+    zoom_to_width();
+}
+
+void page_view::zoom_to_width()
+{
+    const double true_width = page_size().width() * 100.0 / zoom_;
     const double room = viewport()->width() - 2 * gap;
-    set_zoom(static_cast<int>(room / page_size().width() * zoom_));
+    zoom_to(static_cast<int>(room / true_width * 100.0));
 }
 
 int page_view::current_page() const
@@ -142,6 +155,8 @@ void page_view::paint_page(QPainter& painter, int page) const
 void page_view::resizeEvent(QResizeEvent* event)
 {
     QAbstractScrollArea::resizeEvent(event);
+    if (fitted_)
+        zoom_to_width();
     set_up_scroll_bars();
     if (on_change)
         on_change();

@@ -22,6 +22,8 @@ public:
     void set_zoom(int percent);
     void zoom_in();
     void zoom_out();
+    /// Fits the pages to the view's width, and keeps them fitted while the view changes its size, until
+    /// another zoom is set.
     void fit_width();
 
     /// The page in the middle of the view, counted from 0.
@@ -47,9 +49,12 @@ private:
     void paint_page(QPainter& painter, int page) const;
     void set_up_scroll_bars();
     void scroll_to(int y);
+    void zoom_to(int percent);
+    void zoom_to_width();
 
     std::shared_ptr<const report_document> document_;
     int zoom_ = 100;
+    bool fitted_ = false;
 };
 
 }  // namespace verdane

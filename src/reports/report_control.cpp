@@ -20,6 +20,8 @@ void report_control::Action(int value)
     preview_ = window;
     if (page_zoom_)
         window->pages().set_zoom(*page_zoom_);
+    else
+        window->pages().fit_width();
     if (window_state_ == maximised)
         window->showMaximized();
     else

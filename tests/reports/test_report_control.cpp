@@ -78,6 +78,22 @@ private Q_SLOTS:
         delete control.preview();
     }
 
+    void without_a_zoom_the_pages_fit_the_window_and_follow_its_size()
+    {
+        report_control control;
+        prepare_round_report(control, report_opening::plain());
+        control.Action(report_control::run_now);
+        page_view& pages = control.preview()->pages();
+        control.preview()->resize(1200, 800);
+        const int wide = pages.zoom();
+        control.preview()->resize(700, 800);
+        QVERIFY2(pages.zoom() < wide, qPrintable(QString::number(pages.zoom())));
+        pages.set_zoom(150);
+        control.preview()->resize(1200, 800);
+        QCOMPARE(pages.zoom(), 150);
+        delete control.preview();
+    }
+
     void several_reports_stay_open_beside_each_other()
     {
         report_control control;
