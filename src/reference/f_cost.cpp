@@ -1,0 +1,148 @@
+#include "f_cost.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+
+#include <array>
+#include <utility>
+
+#include "events.h"
+#include "f_cost_func.h"
+#include "language.h"
+#include "look.h"
+
+namespace verdane {
+
+namespace {
+
+using namespace f_cost_func;
+
+constexpr int total_digits = 6;
+enum column { caption_column, amount_column, mark_column };
+
+constexpr std::array<text_pair, amount_count> captions = {{
+    {u"Frais de jeu :", u"Green Fees :"},
+    {u"Chariot Manuel :", u"Hand Cart :"},
+    {u"Voiturette :", u"Golf Cart :"},
+    {u"Frais de transport :", u"Transportation costs :"},
+    {u"Balles :", u"Balls :"},
+    {u"Tee :", u"Tees :"},
+    {u"Terrain d'exercice :", u"Practice Range :"},
+    {u"Nourriture :", u"Food :"},
+    {u"Leçon de golf :", u"Golf Lessons :"},
+    {u"Bâtons et sac :", u"Golf Clubs and Bag :"},
+    {u"Vêtements:", u"Clothes :"},
+    {u"Autres :", u"Other :"},
+}};
+
+/// The mark beside every amount; which currency it stands for is the user's affair.
+QLabel* make_mark(const QString& name)
+{
+    return named(make_label(QStringLiteral("$")), name);
+}
+
+}  // namespace
+
+f_cost::f_cost(total_listener closed_with_total)
+    : Form(u"f_cost"),
+      Text1(named(make_figure(total_digits), u"Text1")),
+      OKButton(named(make_button(QStringLiteral("OK")), u"OKButton")),
+      closed_with_total_(std::move(closed_with_total))
+{
+    setWindowTitle(caption(u"Coûts", u"Costs"));
+    lay_out();
+    wire();
+    load(*this);
+}
+
+void f_cost::lay_out()
+{
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(3 * rhythm, 2 * rhythm, 3 * rhythm, 2 * rhythm);
+    rows->setSpacing(2 * rhythm);
+    rows->addLayout(make_amounts());
+    rows->addStretch();
+    rows->addLayout(make_foot());
+}
+
+QLayout* f_cost::make_amounts()
+{
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(rhythm);
+    grid->setVerticalSpacing(rhythm);
+    grid->setColumnStretch(caption_column, 1);
+    for (int index = 0; index < amount_count; ++index)
+        add_amount(*grid, index, captions[static_cast<std::size_t>(index)].in(french()));
+    add_total(*grid);
+    return grid;
+}
+
+void f_cost::add_amount(QGridLayout& grid, int index, const QString& caption)
+{
+    QLineEdit* box = cost.add(index, make_number_box(total_digits));
+    box->setText(QStringLiteral("0"));
+    box->setAccessibleName(caption);
+    const QString number = QString::number(index);
+    grid.addWidget(named(make_label(caption, box), QString(u"lbl_cost_" + number)), index, caption_column);
+    grid.addWidget(box, index, amount_column);
+    grid.addWidget(make_mark(u"lbl_mark_" + number), index, mark_column);
+}
+
+void f_cost::add_total(QGridLayout& grid)
+{
+    auto* line = new QFrame;
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    grid.addWidget(line, amount_count, caption_column, 1, mark_column + 1);
+    auto* label = named(make_label(QStringLiteral("Total :"), Text1), u"lbl_total");
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    Text1->setFont(bold);
+    Text1->setAccessibleName(label->text());
+    const int row = amount_count + 1;
+    grid.addWidget(label, row, caption_column);
+    grid.addWidget(Text1, row, amount_column);
+    grid.addWidget(make_mark(QStringLiteral("lbl_mark_total")), row, mark_column);
+}
+
+QLayout* f_cost::make_foot()
+{
+    auto* notice = make_label(caption(u"Arrondir à l'unité près.", u"To be rounded without decimals."));
+    OKButton->setMinimumWidth(12 * rhythm);
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(2 * rhythm);
+    foot->addWidget(named(notice, u"Label2"));
+    foot->addStretch();
+    foot->addWidget(OKButton);
+    return foot;
+}
+
+void f_cost::wire()
+{
+    static const QRegularExpression digits(QStringLiteral("[0-9]*"));
+    for (const auto& [index, box] : cost.members()) {
+        // What is pasted does not pass through the key rule.
+        box->setValidator(new QRegularExpressionValidator(digits, box));
+        filter_keys(*box, [this, i = index](QChar key) { return box_key(*this, i, key); });
+        when_entered(*box, [this, i = index] { enter_box(*this, i); });
+        on_change(*box, [this, i = index] { box_changed(*this, i); });
+    }
+    on_click(*OKButton, [this] { f_cost_func::accept(*this); });
+}
+
+void f_cost::activated()
+{
+    cost(0).setFocus();
+}
+
+void f_cost::unloading()
+{
+    if (closed_with_total_)
+        closed_with_total_(Text1->text());
+}
+
+}  // namespace verdane

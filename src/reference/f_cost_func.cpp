@@ -1,0 +1,77 @@
+#include "f_cost_func.h"
+
+#include <QLineEdit>
+
+#include <algorithm>
+
+#include "counts.h"
+#include "DataEnvironment1.h"
+#include "f_cost.h"
+#include "numbers.h"
+#include "round_columns.h"
+#include "text.h"
+
+namespace verdane::f_cost_func {
+
+namespace {
+
+Field stored_amount(int index)
+{
+    return data_environment().rscost.Fields(round_columns::first_amount + index);
+}
+
+/// The total of the twelve boxes, rounded box by box.
+int16 total(const f_cost& window)
+{
+    int16 sum = 0;
+    for (int index = 0; index < amount_count; ++index)
+        sum = to_int16(plain(sum) + leading_number(window.cost(index).text()));
+    return sum;
+}
+
+}  // namespace
+
+void load(f_cost& window)
+{
+    for (int index = 0; index < amount_count; ++index) {
+        QLineEdit& box = window.cost(index);
+        box.setText(QString::number(plain(stored_amount(index).int32_or_zero())));
+        // No longer text can be pasted; an amount that is longer already is shown whole.
+        box.setMaxLength(std::max(amount_digits, static_cast<int>(box.text().size())));
+    }
+}
+
+void box_changed(f_cost& window, int index)
+{
+    QLineEdit& box = window.cost(index);
+    if (trimmed_blanks(box.text()).isEmpty()) {
+        // Comes back here with the "0". It stands selected, so that the next digit replaces it.
+        box.setText(QStringLiteral("0"));
+        box.selectAll();
+        return;
+    }
+    window.Text1->setText(QString::number(plain(total(window))));
+}
+
+key_answer box_key(const f_cost& window, int index, QChar key)
+{
+    if (key == backspace)
+        return key_answer::pass;
+    const bool full = trimmed_blanks(window.cost(index).text()).size() >= amount_digits;
+    return is_plain_digit(key) && !full ? key_answer::pass : key_answer::refuse;
+}
+
+void enter_box(f_cost& window, int index)
+{
+    select_characters(window.cost(index), amount_digits);
+}
+
+void accept(f_cost& window)
+{
+    for (int index = 0; index < amount_count; ++index)
+        stored_amount(index).set(to_int32(window.cost(index).text()));
+    data_environment().rscost.Update();
+    window.unload();
+}
+
+}  // namespace verdane::f_cost_func
