@@ -103,6 +103,8 @@ void f_cost::add_total(QGridLayout& grid)
     label->setFont(bold);
     Text1->setFont(bold);
     Text1->setAccessibleName(label->text());
+    // A row of zeros changes no box, and so makes no total.
+    Text1->setText(QStringLiteral("0"));
     const int row = amount_count + 1;
     grid.addWidget(label, row, caption_column);
     grid.addWidget(Text1, row, amount_column);

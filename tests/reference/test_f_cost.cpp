@@ -1,0 +1,410 @@
+#include <QApplication>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTest>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "f_cost.h"
+#include "failure_guard.h"
+#include "hand.h"
+#include "reader.h"
+#include "recording_frame.h"
+#include "store_folder.h"
+#include "window_look.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+/// What ends the program is tried in a child process: this program again, with a case.
+namespace {
+
+const QString stored_amounts =
+    u"select fg || ' ' || cm || ' ' || vt || ' ' || ft || ' ' || ba || ' ' || tee || ' ' || tex || ' ' || "
+    "nrt || ' ' || lg || ' ' || bs || ' ' || ln || ' ' || au from cost where date = '20240614093000'"_s;
+
+QString cost_window()
+{
+    return in_language(u"f_cost", u"f_cost_en");
+}
+
+/// A store with one row of costs, on which `rscost` stands while a test runs.
+class cost_store {
+public:
+    explicit cost_store(bool french = true, const QString& amounts = u"1,2,3,4,5,6,7,8,9,10,11,12"_s)
+        : folder_(french)
+    {
+        store.write({u"insert into cost (date) values ('20230101080000')"_s,
+                     u"insert into cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au) values "
+                     "('20240614093000', "_s +
+                         amounts + u')'});
+        Recordset& cost = data_environment().rscost;
+        cost.Open();
+        cost.Find(u"Date ='20240614093000'"_s);
+    }
+    ~cost_store() { data_environment().rscost.Close(); }
+
+private:
+    store_folder folder_;
+
+public:
+    reader store{folder_.path()};
+    recording_frame frame;
+    /// What the window told at its closings.
+    QStringList totals;
+};
+
+void in_costs(cost_store& store, const std::function<void(hand&)>& script)
+{
+    play(
+        [&] {
+            run_event([&] {
+                f_cost window([&](const QString& total) { store.totals << total; });
+                window.show_modal();
+            });
+        },
+        [&](hand& user) {
+            user.wait_for_window(cost_window());
+            script(user);
+            user.wait_until_gone(cost_window());
+        });
+}
+
+QString box_texts(hand& user)
+{
+    QStringList texts;
+    for (int index = 0; index < 12; ++index)
+        texts << user.text(u"cost_%1"_s.arg(index));
+    return texts.join(u' ');
+}
+
+void leave_by_ok(hand& user)
+{
+    user.click(u"OKButton"_s);
+}
+
+struct key_row {
+    const char* words;
+    QString before;
+    QString typed;
+    QString after;
+    int bells;
+};
+
+std::vector<key_row> key_rows()
+{
+    return {{"digits", u"0"_s, u"25"_s, u"25"_s, 0},
+            {"four digits", u"0"_s, u"9999"_s, u"9999"_s, 0},
+            {"a fifth digit", u"0"_s, u"12345"_s, u"1234"_s, 1},
+            {"a minus", u"0"_s, u"-5"_s, u"5"_s, 1},
+            {"a point", u"0"_s, u"1.5"_s, u"15"_s, 1},
+            {"a comma and a letter", u"0"_s, u"1,a2"_s, u"12"_s, 2},
+            {"a blank", u"0"_s, u"7 "_s, u"7"_s, 1},
+            {"a digit of another script", u"0"_s, u"٣4"_s, u"4"_s, 1},
+            {"a full box refuses though all is selected", u"1234"_s, u"5"_s, u"1234"_s, 1}};
+}
+
+constexpr int not_reached = 77;
+
+void answer_overflow(hand& user)
+{
+    user.answer({failure_words(failure_kind::overflow).in(true), QMessageBox::Critical, u"Verdane"_s,
+                 QMessageBox::Ok});
+}
+
+void show_costs()
+{
+    run_event([] { f_cost(nullptr).show_modal(); });
+}
+
+/// Twelve amounts of 9999 cannot be shown; three of them and 2770 leave no room for one more.
+int run_child(const QString& limit)
+{
+    if (limit == u"loading") {
+        const cost_store store(true, QStringList(12, u"9999"_s).join(u','));
+        play(show_costs, answer_overflow);
+        return not_reached;
+    }
+    const cost_store store(true, u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s);
+    play(show_costs, [](hand& user) {
+        user.wait_for_window(cost_window());
+        user.same(user.text(u"Text1"_s), u"32767"_s, u"the largest total"_s);
+        user.fill(u"cost_11"_s, u"1"_s);
+        answer_overflow(user);
+    });
+    return not_reached;
+}
+
+}  // namespace
+
+class test_f_cost : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_boxes_show_the_row_and_its_total_data() { both_languages(); }
+    void the_boxes_show_the_row_and_its_total()
+    {
+        QFETCH(bool, french);
+        cost_store store(french);
+        in_costs(store, [](hand& user) {
+            user.same(user.title(cost_window()), in_language(u"Coûts", u"Costs"), u"title"_s);
+            user.same(box_texts(user), u"1 2 3 4 5 6 7 8 9 10 11 12"_s, u"boxes"_s);
+            user.same(user.text(u"Text1"_s), u"78"_s, u"total"_s);
+            user.same(user.text(u"OKButton"_s), u"OK"_s, u"button"_s);
+            user.same(user.text(u"Label2"_s),
+                      in_language(u"Arrondir à l'unité près.", u"To be rounded without decimals."),
+                      u"notice"_s);
+            user.close_window(cost_window());
+        });
+    }
+
+    void every_amount_has_its_label_and_its_mark_data() { both_languages(); }
+    void every_amount_has_its_label_and_its_mark()
+    {
+        QFETCH(bool, french);
+        const QStringList labels =
+            (french
+                 ? u"Frais de jeu :|Chariot Manuel :|Voiturette :|Frais de transport :|Balles :|Tee :|"
+                   "Terrain d'exercice :|Nourriture :|Leçon de golf :|Bâtons et sac :|Vêtements:|Autres :"_s
+                 : u"Green Fees :|Hand Cart :|Golf Cart :|Transportation costs :|Balls :|Tees :|"
+                   "Practice Range :|Food :|Golf Lessons :|Golf Clubs and Bag :|Clothes :|Other :"_s)
+                .split(u'|');
+        cost_store store(french);
+        in_costs(store, [&](hand& user) {
+            for (int index = 0; index < 12; ++index) {
+                user.same(user.text(u"lbl_cost_%1"_s.arg(index)), labels[index], u"label"_s);
+                user.same(user.text(u"lbl_mark_%1"_s.arg(index)), u"$"_s, u"mark"_s);
+            }
+            user.same(user.text(u"lbl_total"_s), u"Total :"_s, u"label"_s);
+            user.close_window(cost_window());
+        });
+    }
+
+    void the_first_box_has_the_focus_and_is_selected()
+    {
+        cost_store store(true, u"1234,0,0,0,0,0,0,0,0,0,0,0"_s);
+        in_costs(store, [](hand& user) {
+            user.same(user.focus(), u"cost_0"_s, u"focus"_s);
+            user.wait_until(u"the selection"_s, [] {
+                return qobject_cast<QLineEdit*>(QApplication::focusWidget())->selectedText() == u"1234";
+            });
+            user.close_window(cost_window());
+        });
+    }
+
+    void entering_a_box_selects_its_first_four_characters()
+    {
+        cost_store store(true, u"0,12345,0,0,0,0,0,0,0,0,0,0"_s);
+        in_costs(store, [](hand& user) {
+            user.key(Qt::Key_Tab);
+            user.same(user.focus(), u"cost_1"_s, u"focus"_s);
+            user.same(user.selected_text(u"cost_1"_s), u"1234"_s, u"selection"_s);
+            user.close_window(cost_window());
+        });
+    }
+
+    void tab_walks_the_amounts_down_to_ok()
+    {
+        cost_store store;
+        in_costs(store, [](hand& user) {
+            for (int index = 1; index < 12; ++index) {
+                user.key(Qt::Key_Tab);
+                user.same(user.focus(), u"cost_%1"_s.arg(index), u"focus"_s);
+            }
+            user.key(Qt::Key_Tab);
+            user.same(user.focus(), u"OKButton"_s, u"focus"_s);
+            user.key(Qt::Key_Return);
+        });
+        QCOMPARE(store.totals, QStringList{u"78"_s});
+    }
+
+    void a_box_takes_up_to_four_digits_data()
+    {
+        QTest::addColumn<int>("row");
+        for (int row = 0; row < static_cast<int>(key_rows().size()); ++row)
+            QTest::newRow(key_rows()[static_cast<std::size_t>(row)].words) << row;
+    }
+    void a_box_takes_up_to_four_digits()
+    {
+        QFETCH(int, row);
+        const key_row example = key_rows()[static_cast<std::size_t>(row)];
+        cost_store store(true, u"0,"_s + example.before + u",0,0,0,0,0,0,0,0,0,0"_s);
+        in_costs(store, [&](hand& user) {
+            user.key(Qt::Key_Tab);
+            user.wait_until(u"the selection"_s, [] {
+                return !qobject_cast<QLineEdit*>(QApplication::focusWidget())->selectedText().isEmpty();
+            });
+            const int bells = user.bells();
+            user.type(example.typed);
+            user.same(user.text(u"cost_1"_s), example.after, u"box"_s);
+            user.same(user.bells() - bells, example.bells, u"bells"_s);
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.totals, QStringList{example.after});
+    }
+
+    void an_emptied_box_holds_zero_at_once_and_keeps_the_focus()
+    {
+        cost_store store;
+        in_costs(store, [](hand& user) {
+            user.click(u"cost_9"_s);
+            user.key(Qt::Key_End);
+            user.key(Qt::Key_Backspace);
+            user.same(user.text(u"cost_9"_s), u"1"_s, u"after one backspace"_s);
+            user.key(Qt::Key_Backspace);
+            user.same(user.text(u"cost_9"_s), u"0"_s, u"after two"_s);
+            user.same(user.text(u"Text1"_s), u"68"_s, u"total"_s);
+            user.same(user.focus(), u"cost_9"_s, u"focus"_s);
+            user.type(u"4321"_s);
+            user.same(user.text(u"cost_9"_s), u"4321"_s, u"typed over the zero"_s);
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.store.number(u"select bs from cost where date = '20240614093000'"_s), 4321);
+    }
+
+    void backspace_passes_in_a_full_box()
+    {
+        cost_store store(true, u"1234,0,0,0,0,0,0,0,0,0,0,0"_s);
+        in_costs(store, [](hand& user) {
+            user.key(Qt::Key_End);
+            user.key(Qt::Key_Backspace);
+            user.type(u"9"_s);
+            user.same(user.text(u"cost_0"_s), u"1239"_s, u"box"_s);
+            leave_by_ok(user);
+        });
+    }
+
+    void a_paste_obeys_the_key_rule_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("digits") << u"250"_s << u"250"_s;
+        QTest::newRow("a decimal") << u"12.5"_s << u"1"_s;
+        QTest::newRow("a negative amount") << u"-3"_s << u"1"_s;
+        QTest::newRow("too many digits") << u"123456"_s << u"1234"_s;
+    }
+    void a_paste_obeys_the_key_rule()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(QString, after);
+        cost_store store;
+        in_costs(store, [&](hand& user) {
+            user.paste(u"cost_0"_s, pasted);
+            user.same(user.text(u"cost_0"_s), after, u"box"_s);
+            leave_by_ok(user);
+        });
+    }
+
+    void the_total_follows_every_change()
+    {
+        cost_store store(true, u"32766,0,0,0,0,0,0,0,0,0,0,0"_s);
+        in_costs(store, [](hand& user) {
+            user.fill(u"cost_5"_s, u"1"_s);
+            user.same(user.text(u"Text1"_s), u"32767"_s, u"the largest total"_s);
+            user.fill(u"cost_0"_s, u"75"_s);
+            user.same(user.text(u"Text1"_s), u"76"_s, u"total"_s);
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.totals, QStringList{u"76"_s});
+    }
+
+    void ok_commits_the_twelve_amounts_of_the_round_and_no_other_data() { both_languages(); }
+    void ok_commits_the_twelve_amounts_of_the_round_and_no_other()
+    {
+        QFETCH(bool, french);
+        cost_store store(french);
+        in_costs(store, [](hand& user) {
+            for (int index = 0; index < 12; ++index)
+                user.fill(u"cost_%1"_s.arg(index), QString::number(1000 + index));
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.store.text(stored_amounts),
+                 u"1000 1001 1002 1003 1004 1005 1006 1007 1008 1009 1010 1011"_s);
+        QCOMPARE(store.store.number(u"select sum(fg + au) from cost where date = '20230101080000'"_s), 0);
+        QCOMPARE(store.totals, QStringList{u"12066"_s});
+    }
+
+    void leaving_otherwise_tells_the_typed_total_and_keeps_the_old_amounts_data()
+    {
+        QTest::addColumn<bool>("escape");
+        QTest::newRow("the title bar") << false;
+        QTest::newRow("Escape") << true;
+    }
+    void leaving_otherwise_tells_the_typed_total_and_keeps_the_old_amounts()
+    {
+        QFETCH(bool, escape);
+        cost_store store;
+        in_costs(store, [&](hand& user) {
+            user.fill(u"cost_0"_s, u"500"_s);
+            if (escape)
+                user.key(Qt::Key_Escape);
+            else
+                user.close_window(cost_window());
+        });
+        QCOMPARE(store.totals, QStringList{u"577"_s});
+        QVERIFY(!data_environment().rscost.pending());
+        in_costs(store, [](hand& user) {
+            user.same(user.text(u"cost_0"_s), u"1"_s, u"reopened"_s);
+            user.same(user.text(u"Text1"_s), u"78"_s, u"total"_s);
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.totals.last(), u"78"_s);
+        QCOMPARE(store.store.text(stored_amounts), u"1 2 3 4 5 6 7 8 9 10 11 12"_s);
+    }
+
+    void a_row_without_values_reads_as_zeros()
+    {
+        cost_store store(true, u"null,null,null,null,null,null,null,null,null,null,null,null"_s);
+        in_costs(store, [](hand& user) {
+            user.same(box_texts(user), u"0 0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.totals, QStringList{u"0"_s});
+    }
+
+    void a_total_beyond_16_bits_ends_the_program_data()
+    {
+        QTest::addColumn<QString>("limit");
+        QTest::newRow("while typing") << u"typing"_s;
+        QTest::newRow("while loading") << u"loading"_s;
+    }
+    void a_total_beyond_16_bits_ends_the_program()
+    {
+        QFETCH(QString, limit);
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {u"--limit"_s, limit});
+        QVERIFY(child.waitForFinished(120000));
+        const QByteArray said = child.readAllStandardError();
+        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 1);
+    }
+
+    void twins_have_the_same_controls_and_nothing_is_clipped()
+    {
+        QStringList seen[2];
+        for (const bool french : {true, false}) {
+            cost_store store(french, u"9999,9999,9999,0,0,0,0,0,0,0,0,0"_s);
+            in_costs(store, [&](hand& user) {
+                seen[french] = controls_of_window(user);
+                user.same(clipped_controls(user).join(u'|'), {}, u"clipped"_s);
+                leave_by_ok(user);
+            });
+        }
+        QCOMPARE(seen[0], seen[1]);
+        QVERIFY(seen[0].contains(u"QLineEdit cost_11"_s));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == u"--limit")
+        return run_child(arguments.value(2));
+    test_f_cost test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_f_cost.moc"
