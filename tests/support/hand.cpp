@@ -184,9 +184,12 @@ bool hand::exists(const QString& control)
 
 void hand::wait_for_keyboard()
 {
-    // A window that comes back from under another gets the keyboard with its next event.
-    wait_until(QStringLiteral("a window with the keyboard"),
-               [] { return QApplication::activeWindow() || QApplication::activePopupWidget(); });
+    // A window that opens, or comes back from under another, gets the keyboard with a later event: under
+    // a window manager some time after it is shown, and until then keys would go to the window before.
+    wait_until(QStringLiteral("a window with the keyboard"), [] {
+        return windows_taking_input().contains(QApplication::activeWindow()) ||
+               QApplication::activePopupWidget();
+    });
 }
 
 QString hand::focus()
