@@ -2,6 +2,8 @@
 
 #include <QDate>
 
+#include <numeric>
+
 namespace verdane::testing {
 
 namespace {
@@ -103,13 +105,15 @@ diary_course course_of(const QString& name, const QString& tee)
 {
     const scorecard& card = published_scorecard(name, tee);
     const QString code = name.toUpper() + u'-' + QString::number(tee_code(tee));
-    return {code, name, card.rating, card.slope, card.par};
+    return {code, name, card.rating, card.slope, card.par, card.yards, card.stroke_index};
 }
 
 diary_course flat_course(const QString& code, int par, const QString& rating, const QString& slope)
 {
-    diary_course course{code, code.chopped(2), rating, slope, {}};
+    diary_course course{code, code.chopped(2), rating, slope};
     course.pars.fill(par);
+    std::iota(course.yards.begin(), course.yards.end(), 301);
+    std::iota(course.stroke_index.begin(), course.stroke_index.end(), 1);
     return course;
 }
 
@@ -128,9 +132,10 @@ void diary::add(const diary_course& course) const
     insertion holes(QStringLiteral("field_info"));
     holes.text(QStringLiteral("FIELD_CODE"), course.code);
     for (int h = 1; h <= 18; ++h) {
-        holes.number(of_hole(QStringLiteral("par"), h), course.pars.at(static_cast<std::size_t>(h - 1)));
-        holes.number(of_hole(QStringLiteral("yards"), h), 300 + h);
-        holes.number(of_hole(QStringLiteral("hcp"), h), h);
+        const auto at = static_cast<std::size_t>(h - 1);
+        holes.number(of_hole(QStringLiteral("par"), h), course.pars.at(at));
+        holes.number(of_hole(QStringLiteral("yards"), h), course.yards.at(at));
+        holes.number(of_hole(QStringLiteral("hcp"), h), course.stroke_index.at(at));
     }
     store.write({fields.statement(), holes.statement()});
 }

@@ -46,12 +46,14 @@ struct diary_course {
     QString rating;
     QString slope;
     std::array<int, 18> pars{};
+    std::array<int, 18> yards{};
+    std::array<int, 18> stroke_index{};
 };
 
 /// A published course, under the code it would have in the store.
 diary_course course_of(const QString& name, const QString& tee);
 
-/// A course with the same par on every hole.
+/// A course with the same par on every hole; hole h is 300 + h yards long and has the index h.
 diary_course flat_course(const QString& code, int par, const QString& rating, const QString& slope);
 
 struct diary_round {

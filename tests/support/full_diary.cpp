@@ -1,0 +1,291 @@
+#include "full_diary.h"
+
+#include <QDate>
+#include <QTime>
+
+#include <algorithm>
+
+#include "Connection1.h"
+#include "diary.h"
+#include "golfer.h"
+#include "schema.h"
+#include "table_filler.h"
+
+namespace verdane::testing {
+
+namespace {
+
+constexpr unsigned seed = 19980614;
+constexpr int holes = 18;
+constexpr int putts_kept = 6;
+constexpr int weathers = 4;
+constexpr int amounts = 12;
+
+struct partner {
+    QString surname;
+    QString name;
+    int code;
+};
+
+const std::vector<partner>& partners()
+{
+    static const std::vector<partner> all{{QStringLiteral("Anne"), QStringLiteral("Larivière"), 1507},
+                                          {QStringLiteral("Bruno"), QStringLiteral("Keller"), 1129},
+                                          {QStringLiteral("Chloé"), QStringLiteral("O Brien"), 1266},
+                                          {QStringLiteral("Denis"), QStringLiteral("Tremblay"), 1418},
+                                          {QStringLiteral("Ella"), QStringLiteral("Fraser"), 1003},
+                                          {QStringLiteral("Félix"), QStringLiteral("Gagnon"), 1187}};
+    return all;
+}
+
+const std::vector<diary_course>& courses()
+{
+    static const std::vector<diary_course> all = [] {
+        std::vector<diary_course> list;
+        for (const scorecard& card : published_scorecards())
+            list.push_back(course_of(card.name, card.tee));
+        return list;
+    }();
+    return all;
+}
+
+void lay_down_reference(const QString& store_path)
+{
+    Connection1().Open(store_path);
+    const diary book(store_path);
+    for (const diary_course& course : courses())
+        book.add(course);
+    for (const partner& one : partners())
+        book.add_partner(one.surname, one.name, one.code);
+}
+
+int count(const played_shots& shots, bool (*of_kind)(const played_shot&))
+{
+    return static_cast<int>(std::count_if(shots.begin(), shots.end(), of_kind));
+}
+
+template <int played_shot::*code, int value>
+int count_of(const played_shots& shots)
+{
+    return count(shots, [](const played_shot& shot) { return shot.*code == value; });
+}
+
+template <bool played_shot::*flag>
+int count_of(const played_shots& shots)
+{
+    return count(shots, [](const played_shot& shot) { return shot.*flag; });
+}
+
+constexpr auto kind = &played_shot::kind;
+constexpr auto penalty = &played_shot::penalty;
+
+/// Lengths of the putts, in feet: where each one started from.
+QVariantList putt_lengths(const played_shots& shots)
+{
+    QVariantList lengths;
+    for (const played_shot& shot : shots) {
+        if (shot.kind == 3 && lengths.size() < putts_kept)
+            lengths << shot.before;
+    }
+    while (lengths.size() < putts_kept)
+        lengths << 0;
+    return lengths;
+}
+
+QStringList columns_of_games()
+{
+    QStringList columns{QStringLiteral("date"), QStringLiteral("field"), QStringLiteral("CODEF")};
+    for (int h = 1; h <= holes; ++h) {
+        for (const char* figure :
+             {"long", "approach", "putt", "pen_rule", "pen_water", "pen_bounds", "pen_lost", "missed"})
+            columns << QStringLiteral("%1_%2").arg(QLatin1String(figure)).arg(h);
+    }
+    return columns;
+}
+
+QVariantList figures_in_games(const played_shots& shots)
+{
+    return {count_of<kind, 1>(shots),    count_of<kind, 2>(shots),
+            count_of<kind, 3>(shots),    count_of<penalty, 3>(shots),
+            count_of<penalty, 1>(shots), count_of<penalty, 4>(shots),
+            count_of<penalty, 2>(shots), count_of<&played_shot::missed>(shots)};
+}
+
+QStringList columns_of_games2()
+{
+    QStringList columns{QStringLiteral("date"), QStringLiteral("FC"), QStringLiteral("conditionM"),
+                        QStringLiteral("PARTNERS"), QStringLiteral("temperature")};
+    for (int h = 1; h <= holes; ++h) {
+        for (const char* figure : {"sand", "recovery", "fairway"})
+            columns << QStringLiteral("%1_%2").arg(QLatin1String(figure)).arg(h);
+        for (int putt = 1; putt <= putts_kept; ++putt)
+            columns << QStringLiteral("putt_len_%1_%2").arg(h).arg(putt);
+    }
+    return columns;
+}
+
+QVariantList figures_in_games2(const played_shots& shots, bool detailed)
+{
+    // A hole told in figures alone has no lengths.
+    return QVariantList{count_of<&played_shot::sand>(shots), count_of<&played_shot::no_gain>(shots),
+                        count_of<&played_shot::fairway, 1>(shots)} +
+           putt_lengths(detailed ? shots : played_shots());
+}
+
+QStringList columns_of_cost()
+{
+    QStringList columns;
+    const table& cost = *find_table(u"cost");
+    for (const column& each : cost.columns)
+        columns << each.name;
+    return columns;
+}
+
+QStringList columns_of_shots()
+{
+    return QStringLiteral("date hole before after shot_type stick beyong_hole missed ts dz faireway penality "
+                          "shot stickval fairval penval shot_type_value cal normal addpen unit verges")
+        .split(u' ');
+}
+
+/// The captions of a code in the language of a round.
+struct captions {
+    QStringList kind;
+    QStringList fairway;
+    QStringList penalty;
+    QString yards;
+    QString feet;
+};
+
+const captions& captions_in(bool french)
+{
+    static const captions in_french{
+        {QStringLiteral(" "), QStringLiteral("Long"), QStringLiteral("Approche"), QStringLiteral("Putt")},
+        {QStringLiteral(" "), QStringLiteral("Dans l'allé"), QStringLiteral("Gauche"),
+         QStringLiteral("Droite")},
+        {QStringLiteral(" "), QStringLiteral("Eau"), QStringLiteral("Balle perdue"),
+         QStringLiteral("Règlement"), QStringLiteral("Hors limites")},
+        QStringLiteral("Verges"),
+        QStringLiteral("Pieds")};
+    static const captions in_english{
+        {QStringLiteral(" "), QStringLiteral("Long"), QStringLiteral("Approach"), QStringLiteral("Putt")},
+        {QStringLiteral(" "), QStringLiteral("Fairway"), QStringLiteral("Left"), QStringLiteral("Right")},
+        {QStringLiteral(" "), QStringLiteral("Water Hazard"), QStringLiteral("Lost Ball"),
+         QStringLiteral("Rules"), QStringLiteral("Out of Bounds")},
+        QStringLiteral("Yards"),
+        QStringLiteral("Feets")};
+    return french ? in_french : in_english;
+}
+
+/// Writes one round after the other, each played as it is written.
+class diary_writer {
+public:
+    diary_writer(const QSqlDatabase& database, bool detailed)
+        : games_(database, QStringLiteral("games"), columns_of_games()),
+          games2_(database, QStringLiteral("games2"), columns_of_games2()),
+          cost_(database, QStringLiteral("cost"), columns_of_cost()),
+          shots_(database, QStringLiteral("Stat_rounds"), columns_of_shots()),
+          detailed_(detailed)
+    {
+    }
+
+    void add_round(int round)
+    {
+        const QString key = key_in_diary(round);
+        const auto last_course = static_cast<int>(courses().size()) - 1;
+        const diary_course& course = courses().at(static_cast<std::size_t>(player_.pick(0, last_course)));
+        QVariantList games{key, course.name, course.code};
+        QVariantList games2{key, course.code, player_.pick(0, weathers - 1), company(), player_.pick(2, 33)};
+        for (int h = 1; h <= holes; ++h) {
+            const played_shots shots = player_.play(course.yards.at(static_cast<std::size_t>(h - 1)));
+            games += figures_in_games(shots);
+            games2 += figures_in_games2(shots, detailed_);
+            if (detailed_)
+                add_shots(key, h, course, shots, captions_in(round % 2 == 0));
+        }
+        games_.add(games);
+        games2_.add(games2);
+        cost_.add(costs(key));
+    }
+
+private:
+    /// None to three of the partners.
+    QString company()
+    {
+        QString text;
+        int places = player_.pick(0, 3);
+        for (const partner& one : partners()) {
+            if (places > 0 && player_.once_in(2)) {
+                text += QString::number(one.code) + u'-';
+                --places;
+            }
+        }
+        return text;
+    }
+
+    QVariantList costs(const QString& key)
+    {
+        QVariantList row{key, player_.pick(35, 120)};
+        while (row.size() <= amounts)
+            row << (player_.once_in(4) ? player_.pick(1, 60) : 0);
+        return row;
+    }
+
+    void add_shots(const QString& key, int h, const diary_course& course, const played_shots& shots,
+                   const captions& words)
+    {
+        const auto hole = static_cast<std::size_t>(h - 1);
+        int number = 0;
+        for (const played_shot& s : shots)
+            shots_.add({key,
+                        h,
+                        s.before,
+                        s.after,
+                        words.kind.at(s.kind),
+                        fresh_club_names().at(s.club - 1),
+                        s.beyond,
+                        s.missed,
+                        s.sand,
+                        s.no_gain,
+                        words.fairway.at(s.fairway),
+                        words.penalty.at(s.penalty),
+                        ++number,
+                        s.club,
+                        s.fairway,
+                        s.penalty,
+                        s.kind,
+                        s.chipped_in,
+                        course.pars.at(hole),
+                        s.penalty > 0 ? 1 : 0,
+                        s.in_feet ? words.feet : words.yards,
+                        course.yards.at(hole)});
+    }
+
+    golfer player_{seed};
+    table_filler games_;
+    table_filler games2_;
+    table_filler cost_;
+    table_filler shots_;
+    bool detailed_;
+};
+
+}  // namespace
+
+QString key_in_diary(int round)
+{
+    // Somewhere in the day, and never twice the same minute in a row.
+    const QTime tee_off = QTime(7, 0).addSecs(60 * (round * 37 % 600));
+    return QDate(2023, 1, 1).addDays(round).toString(u"yyyyMMdd") + tee_off.toString(u"HHmmss");
+}
+
+void lay_down_diary(const QString& store_path, int rounds, bool detailed)
+{
+    lay_down_reference(store_path);
+    in_one_transaction(store_path, [&](QSqlDatabase& database) {
+        diary_writer writer(database, detailed);
+        for (int round = 0; round < rounds; ++round)
+            writer.add_round(round);
+    });
+}
+
+}  // namespace verdane::testing

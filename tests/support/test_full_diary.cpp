@@ -1,0 +1,173 @@
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <set>
+
+#include "full_diary.h"
+#include "reader.h"
+
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int holes = 18;
+
+/// "PREFIX_1 + PREFIX_2 + ... + PREFIX_18".
+QString over_the_holes(const QString& prefix)
+{
+    QStringList columns;
+    for (int h = 1; h <= holes; ++h)
+        columns << QStringLiteral("%1_%2").arg(prefix).arg(h);
+    return columns.join(QStringLiteral(" + "));
+}
+
+}  // namespace
+
+class test_full_diary : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { lay_down_diary(path(), rounds_of_full_diary, true); }
+
+    void a_full_diary_has_366_rounds_in_each_table()
+    {
+        for (const char* table : {"games", "games2", "cost"}) {
+            const QString name = QLatin1String(table);
+            QCOMPARE(store().number(u"select count(*) from " + name), rounds_of_full_diary);
+            QCOMPARE(store().number(u"select count(distinct date) from " + name), rounds_of_full_diary);
+        }
+        QCOMPARE(store().number(QStringLiteral("select count(distinct date) from Stat_rounds")),
+                 rounds_of_full_diary);
+    }
+
+    void every_key_has_14_digits()
+    {
+        QCOMPARE(store().number(QStringLiteral(
+                     "select count(*) from games where length(date) <> 14 or date glob '*[^0-9]*'")),
+                 0);
+        QCOMPARE(store().text(QStringLiteral("select min(date) from games")), key_in_diary(0));
+    }
+
+    void there_are_about_33000_shots()
+    {
+        const int shots = store().number(QStringLiteral("select count(*) from Stat_rounds"));
+        QVERIFY2(shots >= 30000 && shots <= 36000, qPrintable(QString::number(shots)));
+    }
+
+    void all_its_strokes_fit_the_statistics_of_rounds()
+    {
+        QStringList figures;
+        for (const char* figure :
+             {"long", "approach", "putt", "pen_rule", "pen_water", "pen_bounds", "pen_lost"})
+            figures << over_the_holes(QLatin1String(figure));
+        const int strokes =
+            store().number(u"select sum(" + figures.join(QStringLiteral(" + ")) + u") from games");
+        QVERIFY2(strokes <= 32767, qPrintable(QString::number(strokes)));
+    }
+
+    void the_figures_of_a_hole_are_what_its_shots_add_up_to_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("figure");
+        QTest::addColumn<QString>("shots");
+        const auto row = [](const char* table, const char* figure, const char* shots) {
+            QTest::newRow(figure) << table << figure << shots;
+        };
+        row("games", "long", "shot_type_value = 1");
+        row("games", "approach", "shot_type_value = 2");
+        row("games", "putt", "shot_type_value = 3");
+        row("games", "pen_water", "penval = 1");
+        row("games", "pen_lost", "penval = 2");
+        row("games", "pen_rule", "penval = 3");
+        row("games", "pen_bounds", "penval = 4");
+        row("games", "missed", "missed");
+        row("games2", "sand", "ts");
+        row("games2", "recovery", "dz");
+        row("games2", "fairway", "fairval = 1 and shot_type_value <> 3");
+    }
+    void the_figures_of_a_hole_are_what_its_shots_add_up_to()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, figure);
+        QFETCH(QString, shots);
+        int all = 0;
+        for (int h = 1; h <= holes; ++h) {
+            const QString column = QStringLiteral("%1_%2").arg(figure).arg(h);
+            const QString counted =
+                QStringLiteral("(select count(*) from Stat_rounds s where s.date = r.date "
+                               "and s.hole = %1 and (%2))")
+                    .arg(h)
+                    .arg(shots);
+            QCOMPARE(store().number(QStringLiteral("select count(*) from %1 r where %2 is null or %2 <> %3")
+                                        .arg(table, column, counted)),
+                     0);
+            all += store().number(QStringLiteral("select sum(%1) from %2").arg(column, table));
+        }
+        QVERIFY2(all > 0, "the diary knows this figure");
+    }
+
+    void a_shot_starts_where_the_one_before_it_ended()
+    {
+        const QString torn = QStringLiteral(
+            "select count(*) from Stat_rounds s join Stat_rounds p on p.date = s.date and p.hole = s.hole "
+            "and p.shot = s.shot - 1 where s.before <> p.after");
+        QCOMPARE(store().number(torn), 0);
+        QCOMPARE(store().number(
+                     QStringLiteral("select count(*) from Stat_rounds where shot = 1 and before <> verges")),
+                 0);
+    }
+
+    void every_hole_is_holed_once_and_ends_there()
+    {
+        const QString holed = QStringLiteral("select count(*) from Stat_rounds where after = 0");
+        QCOMPARE(store().number(holed), rounds_of_full_diary * holes);
+        const QString behind = QStringLiteral(
+            "select count(*) from Stat_rounds p join Stat_rounds s on p.date = s.date and p.hole = s.hole "
+            "and s.shot > p.shot where p.after = 0");
+        QCOMPARE(store().number(behind), 0);
+    }
+
+    void the_lengths_of_the_putts_are_where_they_started_from()
+    {
+        for (int h = 1; h <= holes; ++h) {
+            const QString first =
+                QStringLiteral("(select s.before from Stat_rounds s where s.date = r.date and "
+                               "s.hole = %1 and shot_type_value = 3 order by shot limit 1)")
+                    .arg(h);
+            QCOMPARE(store().number(
+                         QStringLiteral("select count(*) from games2 r where putt_len_%1_1 <> ifnull(%2, 0)")
+                             .arg(h)
+                             .arg(first)),
+                     0);
+        }
+    }
+
+    void both_languages_stand_side_by_side()
+    {
+        std::set<QString> units;
+        for (const auto& row : store().rows(QStringLiteral("select distinct unit from Stat_rounds")))
+            units.insert(row.front().toString());
+        QCOMPARE(units, (std::set<QString>{QStringLiteral("Feets"), QStringLiteral("Pieds"),
+                                           QStringLiteral("Verges"), QStringLiteral("Yards")}));
+        QCOMPARE(store().number(QStringLiteral("select count(distinct conditionM) from games2")), 4);
+        QVERIFY(store().number(QStringLiteral("select count(distinct PARTNERS) from games2")) > 10);
+    }
+
+    void without_shots_the_figures_are_the_same()
+    {
+        const QString quick = folder_.filePath(QStringLiteral("quick.db"));
+        lay_down_diary(quick, 20, false);
+        QCOMPARE(reader(quick).number(QStringLiteral("select count(*) from Stat_rounds")), 0);
+        const QString first = QStringLiteral("select * from games order by date limit 20");
+        QCOMPARE(reader(quick).rows(first), store().rows(first));
+    }
+
+private:
+    QString path() const { return folder_.filePath(QStringLiteral("diary.db")); }
+    reader store() const { return reader(path()); }
+
+    QTemporaryDir folder_;
+};
+
+QTEST_GUILESS_MAIN(test_full_diary)
+#include "test_full_diary.moc"
