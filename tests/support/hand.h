@@ -71,6 +71,26 @@ public:
     /// The title bar's close box.
     void close_window(const QString& window);
 
+    // Grids. Rows and columns count from 0, hidden columns included.
+    void click_cell(const QString& grid, int row, int column);
+    /// Clicks the button of a cell and waits for its menu.
+    void open_menu(const QString& grid, int row, int column);
+    /// The captions of the menu that is up.
+    QStringList menu_entries();
+    /// Clicks an entry of the menu that is up, by its name, and waits until the menu has gone.
+    void choose_menu_entry(const QString& entry);
+    /// Waits for a menu that was opened by the keyboard.
+    void wait_for_menu(const QString& menu);
+    /// A key, and characters, pressed while a menu is up.
+    void menu_key(int key);
+    void menu_type(const QString& characters);
+    QString cell(const QString& grid, int row, int column);
+    /// The visible cells of a row, with " | " between them.
+    QString grid_row(const QString& grid, int row);
+    int grid_rows(const QString& grid);
+    /// "row,column" of the cursor; "none" where there is none.
+    QString cursor(const QString& grid);
+
     // Message boxes.
     /// Waits for the box, compares text, icon, title and buttons, and presses the answer.
     void answer(const expected_box& box, QMessageBox::StandardButton answer = QMessageBox::Ok);

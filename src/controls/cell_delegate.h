@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace verdane {
+
+class data_grid;
+
+/// Paints the cells of a grid with their buttons and makes the box that is typed into.
+class cell_delegate : public QStyledItemDelegate {
+public:
+    explicit cell_delegate(data_grid& grid);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    /// The grid takes what was typed itself.
+    void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
+    bool eventFilter(QObject* editor, QEvent* event) override;
+
+private:
+    bool key_pressed(const QKeyEvent& event) const;
+
+    data_grid& grid_;
+};
+
+}  // namespace verdane

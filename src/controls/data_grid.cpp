@@ -1,0 +1,276 @@
+#include "data_grid.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+#include <utility>
+
+#include "boxes.h"
+#include "cell_delegate.h"
+#include "choice_menu.h"
+#include "failure_guard.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int button_width = 16;
+
+/// Sets a flag for the life of this object.
+class while_set {
+public:
+    explicit while_set(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+    ~while_set() { flag_ = before_; }
+    while_set(const while_set&) = delete;
+    while_set& operator=(const while_set&) = delete;
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
+}  // namespace
+
+data_grid::data_grid(recordset_model* model, QWidget* parent) : QTableView(parent), model_(model)
+{
+    if (!model_->parent())
+        model_->setParent(this);
+    setModel(model_);
+    setItemDelegate(new cell_delegate(*this));
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setSelectionBehavior(SelectItems);
+    setTabKeyNavigation(true);
+    verticalHeader()->hide();
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+}
+
+QRect data_grid::button_in(const QRect& cell)
+{
+    return {cell.right() - button_width + 1, cell.top(), button_width, cell.height()};
+}
+
+void data_grid::bind()
+{
+    const while_set guard(following_);
+    model_->bind();
+    show_current_row();
+}
+
+void data_grid::unbind()
+{
+    drop_cell();
+    const while_set guard(following_);
+    model_->unbind();
+}
+
+void data_grid::ReBind()
+{
+    drop_cell();
+    const while_set guard(following_);
+    model_->refresh();
+    show_current_row();
+}
+
+void data_grid::show_current_row()
+{
+    const int row = Row();
+    setCurrentIndex(row < 0 ? QModelIndex() : model_->index(row, col_));
+}
+
+int data_grid::Row() const
+{
+    return model_->is_bound() && model_->source().is_open() ? model_->source().position() : -1;
+}
+
+void data_grid::set_Col(int column)
+{
+    if (column < 0 || column >= model_->columnCount())
+        return;
+    col_ = column;
+    const while_set guard(following_);
+    show_current_row();
+}
+
+void data_grid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    // The button of the current cell stands out.
+    update(previous);
+    if (following_ || !current.isValid())
+        return;
+    col_ = current.column();
+    run_event([this, row = current.row()] { model_->move_to(row); });
+}
+
+int data_grid::neighbour(int column, int step) const
+{
+    do
+        column += step;
+    while (column >= 0 && column < model_->columnCount() && isColumnHidden(column));
+    return column;
+}
+
+bool data_grid::move_cursor(int step)
+{
+    const int column = neighbour(col_, step);
+    if (Row() < 0 || column < 0 || column >= model_->columnCount())
+        return false;
+    set_Col(column);
+    return true;
+}
+
+void data_grid::set_cell_menu(int column, choice_menu* menu)
+{
+    menus_[column] = menu;
+}
+
+void data_grid::set_key_filter(int column, std::function<key_answer(QChar)> filter)
+{
+    filters_[column] = std::move(filter);
+}
+
+void data_grid::open_cell_menu()
+{
+    const auto menu = menus_.find(col_);
+    if (menu == menus_.end() || !currentIndex().isValid())
+        return;
+    scrollTo(currentIndex());
+    const QPoint below = visualRect(currentIndex()).bottomLeft() + QPoint(0, 1);
+    menu->second->popup_on(viewport()->mapToGlobal(below), currentIndex().data().toString());
+}
+
+bool data_grid::opens_menu(const QKeyEvent& event) const
+{
+    if (!has_cell_button(col_))
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_F4:
+        return true;
+    case Qt::Key_Down:
+        return event.modifiers().testFlag(Qt::AltModifier);
+    default:
+        return false;
+    }
+}
+
+void data_grid::keyPressEvent(QKeyEvent* event)
+{
+    const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (tab) {
+        // Not taken, the key leaves the grid.
+        event->setAccepted(move_cursor(event->key() == Qt::Key_Tab ? 1 : -1));
+    } else if (opens_menu(*event)) {
+        open_cell_menu();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+               event->key() == Qt::Key_F2) {
+        start_typing({});
+    } else if (!take_character(*event)) {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+bool data_grid::take_character(const QKeyEvent& event)
+{
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const QChar key = event.text().isEmpty() ? QChar() : event.text().front();
+    if (command || !(key.isPrint() || key == backspace))
+        return false;
+    if (has_cell_button(col_) && key != backspace) {
+        open_cell_menu();
+        QKeyEvent letter(QEvent::KeyPress, event.key(), event.modifiers(), event.text());
+        QCoreApplication::sendEvent(menus_.at(col_), &letter);
+        return true;
+    }
+    const auto filter = filters_.find(col_);
+    const bool refused = filter != filters_.end() && filter->second(key) == key_answer::refuse;
+    if (refused || has_cell_button(col_) || !model_->flags(currentIndex()).testFlag(Qt::ItemIsEditable))
+        ring_bell();
+    else
+        start_typing(event.text());
+    return true;
+}
+
+void data_grid::start_typing(const QString& text)
+{
+    if (!currentIndex().isValid() || has_cell_button(col_) ||
+        !model_->flags(currentIndex()).testFlag(Qt::ItemIsEditable))
+        return;
+    edit(currentIndex());
+    if (!editor_ || text.isEmpty())
+        return;
+    editor_->setText(text.front() == backspace ? QString() : text);
+    editor_->setModified(true);
+}
+
+void data_grid::watch_editor(QLineEdit& editor, const QModelIndex& index)
+{
+    editor_ = &editor;
+    edited_ = index;
+    const auto filter = filters_.find(index.column());
+    if (filter != filters_.end())
+        filter_keys(editor, filter->second);
+}
+
+void data_grid::drop_cell()
+{
+    if (QLineEdit* editor = std::exchange(editor_, nullptr))
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void data_grid::commit_cell()
+{
+    if (!editor_)
+        return;
+    const bool changed = editor_->isModified();
+    const QString typed = editor_->text();
+    const QModelIndex cell = edited_;
+    drop_cell();
+    if (!changed || !cell.isValid())
+        return;
+    run_event([&] {
+        const int column = cell.column();
+        if (!model_->write(cell.row(), column, typed))
+            ring_bell();
+        else if (column_updated)
+            column_updated(column);
+    });
+}
+
+void data_grid::commit_and_move_on()
+{
+    commit_cell();
+    move_cursor(1);
+}
+
+void data_grid::mousePressEvent(QMouseEvent* event)
+{
+    QTableView::mousePressEvent(event);
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    const bool on_button = pressed.isValid() && event->button() == Qt::LeftButton &&
+                           has_cell_button(pressed.column()) &&
+                           button_in(visualRect(pressed)).contains(event->position().toPoint());
+    if (on_button && pressed == currentIndex())
+        open_cell_menu();
+}
+
+void data_grid::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QTableView::mouseDoubleClickEvent(event);
+    if (!indexAt(event->position().toPoint()).isValid())
+        return;
+    if (has_cell_button(col_))
+        open_cell_menu();
+    else
+        start_typing({});
+}
+
+}  // namespace verdane

@@ -1,0 +1,192 @@
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+#include "DataEnvironment1.h"
+#include "failures.h"
+#include "reader.h"
+#include "recordset_model.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+std::vector<bound_column> shot_columns()
+{
+    return {{QStringLiteral("Shot"), QStringLiteral("Coup")},
+            {QStringLiteral("STICK"), QStringLiteral("Bâton"), true},
+            {QStringLiteral("AFTER"), QStringLiteral("Distance restante")},
+            {QStringLiteral("MISSED"), QStringLiteral("Raté"), false, QStringLiteral("Oui"),
+             QStringLiteral("Non")}};
+}
+
+/// Three shots of one hole in the store, and a model on them with the toolkit's checker at its heels.
+struct bound_shots {
+    bound_shots()
+    {
+        for (const QString& shot : {QStringLiteral("1, 'D', 200, 0"), QStringLiteral("2, 'F5', 30, 1"),
+                                    QStringLiteral("3, 'Pu', null, null")})
+            store.write(u"insert into Stat_rounds (shot, stick, after, missed) values (" + shot + u')');
+        source.Open();
+        model.bind();
+    }
+
+    QString shown(int row, int column) const { return model.index(row, column).data().toString(); }
+
+    store_folder folder;
+    reader store{folder.path()};
+    Recordset& source = data_environment().rsStat_rounds;
+    recordset_model model{source, shot_columns()};
+    QAbstractItemModelTester checker{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
+};
+
+}  // namespace
+
+class test_recordset_model : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void it_shows_rows_captions_and_words()
+    {
+        const bound_shots shots;
+        QCOMPARE(shots.model.rowCount(), 3);
+        QCOMPARE(shots.model.headerData(2, Qt::Horizontal).toString(), QStringLiteral("Distance restante"));
+        QCOMPARE(shots.shown(1, 1), QStringLiteral("F5"));
+        QCOMPARE(shots.shown(1, 3), QStringLiteral("Oui"));
+        QCOMPARE(shots.shown(0, 3), QStringLiteral("Non"));
+        QCOMPARE(shots.shown(2, 2), QString());
+        QCOMPARE(shots.shown(2, 3), QStringLiteral("Non"));
+    }
+
+    void unbound_it_has_no_rows()
+    {
+        bound_shots shots;
+        shots.model.unbind();
+        QCOMPARE(shots.model.rowCount(), 0);
+        shots.model.refresh();
+        QCOMPARE(shots.model.rowCount(), 0);
+        shots.model.bind();
+        QCOMPARE(shots.model.rowCount(), 3);
+    }
+
+    void bound_to_a_closed_recordset_it_has_no_rows_until_that_opens()
+    {
+        bound_shots shots;
+        shots.source.Close();
+        QCOMPARE(shots.shown(0, 0), QString());
+        shots.model.refresh();
+        QCOMPARE(shots.model.rowCount(), 0);
+        shots.source.Open();
+        shots.model.refresh();
+        QCOMPARE(shots.model.rowCount(), 3);
+    }
+
+    void it_follows_rows_that_come_and_go_behind_its_back()
+    {
+        bound_shots shots;
+        shots.source.AddNew();
+        shots.source.Fields(u"shot").set(4);
+        shots.model.refresh();
+        QCOMPARE(shots.model.rowCount(), 4);
+        QCOMPARE(shots.shown(3, 0), QStringLiteral("4"));
+        shots.source.MoveFirst();
+        shots.source.Delete();
+        shots.source.MoveFirst();
+        shots.source.Delete();
+        QCOMPARE(shots.shown(3, 0), QString());
+        shots.model.refresh();
+        QCOMPARE(shots.model.rowCount(), 2);
+        QCOMPARE(shots.shown(0, 0), QStringLiteral("3"));
+    }
+
+    void writing_moves_the_recordset_and_leaving_commits()
+    {
+        bound_shots shots;
+        QVERIFY(shots.model.setData(shots.model.index(1, 2), QStringLiteral("45")));
+        QCOMPARE(shots.source.position(), 1);
+        QCOMPARE(shots.store.number(QStringLiteral("select after from Stat_rounds where shot = 2")), 30);
+        shots.model.move_to(0);
+        QCOMPARE(shots.store.number(QStringLiteral("select after from Stat_rounds where shot = 2")), 45);
+    }
+
+    void a_row_is_finished_once_before_it_is_committed()
+    {
+        bound_shots shots;
+        int finished = 0;
+        shots.model.before_row_commit = [&] {
+            ++finished;
+            shots.source.Fields(u"unit").set(QStringLiteral("done"));
+        };
+        shots.model.move_to(1);
+        QCOMPARE(finished, 0);
+        shots.model.write(1, 2, QStringLiteral("44"));
+        shots.model.move_to(2);
+        shots.model.move_to(0);
+        QCOMPARE(finished, 1);
+        QCOMPARE(shots.store.text(QStringLiteral("select unit from Stat_rounds where shot = 2")),
+                 QStringLiteral("done"));
+    }
+
+    void a_locked_column_is_not_written()
+    {
+        bound_shots shots;
+        QVERIFY(!shots.model.setData(shots.model.index(0, 1), QStringLiteral("Pu")));
+        QVERIFY(!shots.source.pending());
+    }
+
+    void a_text_that_the_column_cannot_take_is_not_written_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("no number") << 2 << QStringLiteral("12a");
+        QTest::newRow("too large") << 2 << QStringLiteral("32768");
+        QTest::newRow("no word of yes and no") << 3 << QStringLiteral("peut-être");
+    }
+    void a_text_that_the_column_cannot_take_is_not_written()
+    {
+        QFETCH(int, column);
+        QFETCH(QString, text);
+        bound_shots shots;
+        QVERIFY(!shots.model.setData(shots.model.index(0, column), text));
+        QVERIFY(!shots.source.pending());
+    }
+
+    void an_empty_text_is_Null_in_a_column_of_numbers()
+    {
+        bound_shots shots;
+        QVERIFY(shots.model.setData(shots.model.index(0, 2), QString()));
+        QVERIFY(shots.source.Fields(u"after").is_null());
+    }
+
+    void the_words_write_yes_and_no()
+    {
+        bound_shots shots;
+        QVERIFY(shots.model.setData(shots.model.index(0, 3), QStringLiteral("Oui")));
+        QVERIFY(shots.source.Fields(u"missed").yes());
+        QVERIFY(shots.model.setData(shots.model.index(0, 3), QStringLiteral("Non")));
+        QVERIFY(!shots.source.Fields(u"missed").yes());
+    }
+
+    void a_row_that_is_not_there_is_neither_entered_nor_written()
+    {
+        bound_shots shots;
+        shots.model.move_to(7);
+        QCOMPARE(shots.source.position(), 0);
+        QVERIFY(!shots.model.write(7, 2, QStringLiteral("1")));
+    }
+
+    void a_commit_that_fails_is_a_failure_of_the_move()
+    {
+        bound_shots shots;
+        shots.store.write(QStringLiteral("create trigger refuse before update on Stat_rounds begin select "
+                                         "raise(abort, 'no'); end"));
+        shots.model.write(0, 2, QStringLiteral("1"));
+        QVERIFY(failure_of([&] { shots.model.move_to(1); }).has_value());
+        QCOMPARE(shots.source.position(), 0);
+    }
+};
+
+QTEST_MAIN(test_recordset_model)
+
+#include "test_recordset_model.moc"
