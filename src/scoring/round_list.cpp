@@ -17,6 +17,13 @@ QString line_of_current_row(Recordset& games)
 
 }  // namespace
 
+void open_rounds_in_time_order()
+{
+    Recordset& games = data_environment().rsgames;
+    games.set_Source(games.settings().source);
+    games.Open();
+}
+
 QStringList round_list_lines()
 {
     Recordset& games = data_environment().rsgames;

@@ -170,19 +170,39 @@ private Q_SLOTS:
         QTest::addColumn<int>("box");
         QTest::addColumn<QString>("french");
         QTest::addColumn<QString>("english");
-        QTest::newRow("pars") << 1 << 20 << "Nombre de normales :"
-                              << "Number of Par :";
-        QTest::newRow("a slip in blanks") << 9 << 12 << QStringLiteral("3 roulés et +  non réglementaire :")
-                                          << "3+ Putts not in regulation :";
-        QTest::newRow("no colon") << 12 << 21 << "Nombre de normale  3 :"
-                                  << "Number of Par 3";
-        QTest::newRow("curled quote") << 18 << 27 << QStringLiteral("Trous d’un coup :") << "Hole in One :";
-        QTest::newRow("eagle") << 20 << 25 << "Aigles :"
-                               << "Eagle";
-        QTest::newRow("triple") << 24 << 33 << "Triples et  +  :"
-                                << "Triple+  :";
-        QTest::newRow("last") << 28 << 16 << QStringLiteral("3 roulés  et + réglementaires :")
-                              << "3+ Putts in Regulation :";
+        const auto row = [](int selector, int box, const QString& french, const QString& english) {
+            QTest::addRow("class %d", selector) << selector << box << french << english;
+        };
+        row(1, 20, QStringLiteral("Nombre de normales :"), QStringLiteral("Number of Par :"));
+        row(6, 15, QStringLiteral("Vert en coup non réglementaire :"),
+            QStringLiteral("Green not in Regulation :"));
+        row(7, 14, QStringLiteral("1 roulés  non réglementaire :"),
+            QStringLiteral("1 Putt not in Regulation :"));
+        row(8, 13, QStringLiteral("2 roulés  non réglementaire :"),
+            QStringLiteral("2 Putts not in Regulation :"));
+        row(9, 12, QStringLiteral("3 roulés et +  non réglementaire :"),
+            QStringLiteral("3+ Putts not in regulation :"));
+        row(10, 23, QStringLiteral("Normales non réglementaires :"), QStringLiteral("Up and Down :"));
+        row(11, 22, QStringLiteral("Approches callés :"), QStringLiteral("Chip in :"));
+        row(12, 21, QStringLiteral("Nombre de normale  3 :"), QStringLiteral("Number of Par 3"));
+        row(13, 32, QStringLiteral("Nombre de normales  4 :"), QStringLiteral("Number of Par 4 :"));
+        row(14, 31, QStringLiteral("Nombre de normales  5 :"), QStringLiteral("Number of Par 5 :"));
+        row(15, 30, QStringLiteral("Moyenne de normales  3 :"), QStringLiteral("Average Par 3 :"));
+        row(16, 29, QStringLiteral("Moyenne de normale  4 :"), QStringLiteral("Average Par 4 :"));
+        row(17, 28, QStringLiteral("Moyenne de normales  5 :"), QStringLiteral("Average Par 5 :"));
+        row(18, 27, QStringLiteral("Trous d’un coup :"), QStringLiteral("Hole in One :"));
+        row(19, 26, QStringLiteral("Albatros :"), QStringLiteral("Double eagle :"));
+        row(20, 25, QStringLiteral("Aigles :"), QStringLiteral("Eagle"));
+        row(21, 24, QStringLiteral("Oiselets :"), QStringLiteral("Birdie"));
+        row(22, 35, QStringLiteral("Bogueys :"), QStringLiteral("Bogey :"));
+        row(23, 34, QStringLiteral("Doubles :"), QStringLiteral("Double :"));
+        row(24, 33, QStringLiteral("Triples et  +  :"), QStringLiteral("Triple+  :"));
+        row(25, 19, QStringLiteral("Verts en coup réglementaires :"),
+            QStringLiteral("Green in Regulation :"));
+        row(26, 18, QStringLiteral("1 roulé  réglementaire :"), QStringLiteral("1 Putt in Regulation :"));
+        row(27, 17, QStringLiteral("2 roulés  réglementaires :"), QStringLiteral("2 Putts in Regulation :"));
+        row(28, 16, QStringLiteral("3 roulés  et + réglementaires :"),
+            QStringLiteral("3+ Putts in Regulation :"));
     }
 
     void boxes_and_labels_stand_where_they_belong()

@@ -156,6 +156,15 @@ private Q_SLOTS:
         QCOMPARE(labels.l_net, labels.l_brut);
     }
 
+    void a_rating_is_read_up_to_what_is_no_number()
+    {
+        fill_round();
+        round_->store.rsvrd_fields.Fields(round_columns::rating).set(u"70.5.1"_qs);
+        QCOMPARE(round_score(true).differential, 16.95);
+        round_->store.rsvrd_fields.Fields(round_columns::rating).set(QString());
+        QCOMPARE(round_score(true).differential, 90 * 113 / 130.0);
+    }
+
     void a_round_beyond_16_bits_is_an_overflow()
     {
         store_strokes(1, {20000, 0, 0});
