@@ -17,7 +17,7 @@ void rebuild_course_keys(Recordset& rsvrd_fields)
     if (rsvrd_fields.empty())
         return;
     rsvrd_fields.MoveFirst();
-    for (int index = 0; !rsvrd_fields.eof(); ++index) {
+    for (int index = 0; index < most_courses && !rsvrd_fields.eof(); ++index) {
         keep_course_key(index, rsvrd_fields);
         rsvrd_fields.MoveNext();
     }

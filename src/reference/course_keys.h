@@ -24,7 +24,8 @@ extern checked_array<course_key, most_courses> course_keys;
 /// Keeps the current row of `rsvrd_fields` at an index. Fails with `subscript` beyond the table.
 void keep_course_key(int index, Recordset& rsvrd_fields);
 
-/// Empties the table and keeps every row. The recordset then stands at `eof()`.
+/// Empties the table and keeps as many rows as fit: a list that outgrew it while it was open must still
+/// be able to shrink. The recordset is left on another row or at `eof()`.
 void rebuild_course_keys(Recordset& rsvrd_fields);
 
 /// Keeps the current row, a course that was just added, at the first free index. The list that shows

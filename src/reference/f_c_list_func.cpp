@@ -8,6 +8,7 @@
 #include "f_c_list.h"
 #include "f_courses.h"
 #include "main_frame.h"
+#include "round_list.h"
 #include "Verdane_tools.h"
 
 namespace verdane::f_c_list_func {
@@ -122,8 +123,9 @@ void remove_selected(f_c_list& window)
         return;
     move_to_selected(window);
     const QString code = courses().Fields(u"code").text();
+    // Only the first round that is found is named: the earliest.
+    Round_functions::open_rounds_in_time_order();
     Recordset& rsgames = data_environment().rsgames;
-    rsgames.Open();
     rsgames.Find(u"CODEF =" + quoted(code));
     if (rsgames.eof())
         ask_and_remove(window, code);

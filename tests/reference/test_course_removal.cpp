@@ -2,6 +2,7 @@
 
 #include "course_keys.h"
 #include "course_windows.h"
+#include "DataEnvironment1.h"
 #include "language.h"
 
 using namespace verdane;
@@ -71,6 +72,64 @@ private Q_SLOTS:
             user.same(static_cast<int>(user.entries(u"List1"_s).size()), 3, u"lines"_s);
         });
         QCOMPARE(codes(store), u"ALPHA-0|BETA-1|GAMMA-2 / ALPHA-0|BETA-1|GAMMA-2"_s);
+    }
+
+    void the_earliest_round_is_named_after_a_statistic_too()
+    {
+        const course_store store;
+        add_three_courses(store);
+        store.add_round(u"20240607150000"_s, u"BETA-1"_s);
+        store.add_round(u"20230102081530"_s, u"BETA-1"_s);
+        data_environment().rsgames.set_Source(u"Select * from games"_s);
+        in_course_list_until_ok([](hand& user) {
+            user.click_row(u"List1"_s, 1);
+            user.click(u"Command1_3"_s);
+            user.answer(refusal(u"2023-01-02 08:15:30"_s));
+        });
+    }
+
+    void every_answer_leaves_the_rounds_closed()
+    {
+        const course_store store;
+        add_three_courses(store);
+        store.add_round(u"20240607150000"_s, u"ALPHA-0"_s);
+        in_course_list_until_ok([](hand& user) {
+            const auto check_closed = [&user](const QString& answer) {
+                user.wait_for_window(list_window());
+                user.check(!data_environment().rsgames.is_open(), answer);
+            };
+            user.click(u"Command1_3"_s);
+            user.answer(refusal(u"2024-06-07 15:00:00"_s));
+            check_closed(u"refused"_s);
+            user.click_row(u"List1"_s, 1);
+            user.click(u"Command1_3"_s);
+            user.answer(question(u"Beta, BLEU"_s), QMessageBox::No);
+            check_closed(u"no"_s);
+            remove(user, 1);
+            check_closed(u"yes"_s);
+        });
+    }
+
+    void a_list_that_outgrew_its_table_can_still_shrink()
+    {
+        const course_store store;
+        for (int i = 0; i < most_courses; ++i)
+            store.add({QStringLiteral("C%1-0").arg(i), QStringLiteral("C%1").arg(i),
+                       QStringLiteral("C%1-0").arg(i)});
+        in_course_list_until_ok([](hand& user) {
+            for (const QString& name : {u"Delta"_s, u"Echo"_s}) {
+                user.click(u"Command1_1"_s);
+                user.wait_for_window(editor_window());
+                fill_required(user, name);
+                user.click(u"smdsave"_s);
+                user.answer(notice_of_save());
+                user.wait_for_window(list_window());
+            }
+            remove(user, 0);
+            remove(user, 0);
+        });
+        QCOMPARE(store.number(u"select count(*) from vrd_fields"_s), most_courses);
+        QCOMPARE(course_keys[most_courses - 1].code, u"ECHO-0"_s);
     }
 
     void no_keeps_the_course()

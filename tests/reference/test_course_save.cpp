@@ -181,6 +181,20 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select count(*) from vrd_fields"_s), 1);
     }
 
+    void each_box_of_the_first_page_shows_its_own_column()
+    {
+        const course_store store;
+        store.add({});
+        store.store.write(u"update vrd_fields set address_1 = 'a', address_2 = 'b', address_3 = 'c'"_s);
+        in_stored_course(0, [](hand& user) {
+            const std::pair<int, QString> boxes[] = {{1, u"Alpha"_s}, {2, u"70.5"_s}, {0, u"121"_s},
+                                                     {3, u"a"_s},     {4, u"b"_s},    {5, u"c"_s}};
+            for (const auto& [index, text] : boxes)
+                user.same(user.text(u"text_"_s + QString::number(index)), text, QString::number(index));
+            discard(user);
+        });
+    }
+
     void renaming_a_course_keeps_its_key_and_tee()
     {
         const course_store store;
