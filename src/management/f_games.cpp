@@ -69,6 +69,7 @@ QWidget* f_games::make_buttons()
     rows->addSpacing(2 * rhythm);
     rows->addWidget(Command1.add(open, make_button(caption(u"Ouvrir", u"Open"))));
     rows->addWidget(Command1.add(add, make_button(caption(u"Ajouter", u"Add"))));
+    rows->addWidget(Command1.add(remove, make_button(caption(u"Supprimer", u"Remove"))));
     rows->addStretch(1);
     rows->addWidget(Command1.add(ok, make_button(QStringLiteral("OK"))));
     return column;

@@ -8,8 +8,8 @@ class QPushButton;
 
 namespace verdane {
 
-/// The list of stored rounds, from which the user reopens one or adds another; in English
-/// `f_games_en`.
+/// The list of stored rounds, from which the user reopens one, adds another or removes one; in
+/// English `f_games_en`.
 ///
 /// Making the window loads it: `rsgames` and `rsfield_info` are opened and stay open, for a round that
 /// is opened from here works on. That round's window takes the list away and closes both; a list that
@@ -18,7 +18,7 @@ namespace verdane {
 class f_games final : public Form {
 public:
     /// The members of `Command1`.
-    enum command { open = 0, add = 1, ok = 2 };
+    enum command { open = 0, add = 1, ok = 2, remove = 3 };
 
     f_games();
 

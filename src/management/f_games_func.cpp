@@ -13,6 +13,7 @@
 #include "round_key.h"
 #include "round_list.h"
 #include "Round_records.h"
+#include "round_removal.h"
 #include "stored_round.h"
 
 namespace verdane::f_games_func {
@@ -68,6 +69,35 @@ void open_selected_round(f_games& window)
     close_recordsets();
 }
 
+bool removal_is_wanted(const f_games& window)
+{
+    return ask_yes_no(
+        window.caption(u"Attention : Toutes les données de cette ronde incluant les statistiques des bâtons "
+                       "et coups roulés seront supprimées. Voulez-vous continuer ?",
+                       u"Attention: All data relative to this round will be removed, included associated "
+                       "statistics on clubs and putts. Do you wish to continue?"));
+}
+
+void remove_selected_entry(QListWidget& list)
+{
+    delete list.takeItem(list.currentRow());
+    if (list.count() > 0)
+        list.setCurrentRow(0);
+}
+
+void remove_selected_round(f_games& window)
+{
+    const QListWidgetItem* selected = window.List1->currentItem();
+    if (!selected)
+        return;
+    const QString key = Verdane_tools::key_of_entry(selected->text());
+    if (!removal_is_wanted(window))
+        return;
+    remove_round(key);
+    remove_selected_entry(*window.List1);
+    tell(window.caption(u"Ronde supprimée", u"Round removed"), QMessageBox::Information);
+}
+
 }  // namespace
 
 void load(f_games& window)
@@ -94,6 +124,9 @@ void on_command(f_games& window, int index)
         // A round exists, so there is a course: the new round starts without that test.
         prepare_round_window();
         close_recordsets();
+        break;
+    case f_games::remove:
+        remove_selected_round(window);
         break;
     default:
         close_window(window);

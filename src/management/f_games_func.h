@@ -11,7 +11,8 @@ namespace verdane::f_games_func {
 /// so, closes both and unloads the window.
 void load(f_games& window);
 
-/// A button of `Command1`: opens the selected round, adds one, or closes the window.
+/// A button of `Command1`: opens the selected round, adds one, closes the window, or removes the
+/// selected round once the user has agreed.
 void on_command(f_games& window, int index);
 
 /// The window goes, closed by the user or by the round window. Whatever it says, the window goes.

@@ -1,0 +1,59 @@
+#include "round_removal.h"
+
+#include "DataEnvironment1.h"
+#include "round_columns.h"
+
+namespace verdane {
+
+namespace {
+
+/// The rows of the round stand together, but the walk goes on to the end all the same.
+void delete_to_the_end(Recordset& rows, const QString& key)
+{
+    while (!rows.eof()) {
+        if (rows.Fields(round_columns::date).text_or_empty() == key)
+            rows.Delete();
+        rows.MoveNext();
+    }
+    rows.UpdateBatch(affect::all_chapters);
+}
+
+void open_at_round(Recordset& rows, const QString& source, const QString& key)
+{
+    rows.set_Source(source);
+    rows.Open();
+    rows.Requery();
+    if (!rows.eof())
+        rows.MoveFirst();
+    rows.Find(u"date=" + key);
+}
+
+void delete_shots(const QString& key)
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    open_at_round(shots, QStringLiteral("select * from Stat_rounds order by date,hole"), key);
+    if (!shots.eof())
+        delete_to_the_end(shots, key);
+    shots.Close();
+}
+
+void delete_cost(const QString& key)
+{
+    Recordset& cost = data_environment().rscost;
+    open_at_round(cost, QStringLiteral("select * from cost order by date"), key);
+    delete_to_the_end(cost, key);
+    cost.Close();
+}
+
+}  // namespace
+
+void remove_round(const QString& key)
+{
+    Connection1& connection = data_environment().connection;
+    connection.Execute(u"delete from games where date=" + quoted(key));
+    connection.Execute(u"delete from games2 where date=" + quoted(key));
+    delete_shots(key);
+    delete_cost(key);
+}
+
+}  // namespace verdane

@@ -1,0 +1,83 @@
+#include "store_clean_up.h"
+
+#include "boxes.h"
+#include "checked_array.h"
+#include "counts.h"
+#include "DataEnvironment1.h"
+#include "round_columns.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int most_orphan_keys = 500;
+
+/// The keys of the missing rounds, from index 1 on. The shots come in the order of their keys, so a
+/// key that differs from the last one is new.
+struct orphan_keys {
+    checked_array<QString, most_orphan_keys + 1> keys;
+    int16 counter = 0;
+    QString last_key = QStringLiteral("xx");
+
+    void meet(const QString& key)
+    {
+        if (key == last_key)
+            return;
+        last_key = key;
+        counter += 1;
+        keys[plain(counter)] = key;
+        tell(key);
+    }
+};
+
+void open_rounds_and_shots(Recordset& rounds, Recordset& shots)
+{
+    rounds.set_Source(rounds.settings().source);
+    rounds.Open();
+    shots.set_Source(QStringLiteral("select * from Stat_rounds order by date,hole"));
+    shots.Open();
+    shots.Requery();
+    shots.MoveFirst();
+    rounds.MoveFirst();
+}
+
+void delete_orphans(Recordset& rounds, Recordset& shots, orphan_keys& orphans)
+{
+    while (!shots.eof()) {
+        const QString key = shots.Fields(round_columns::date).text_or_empty();
+        rounds.Find(u"date=" + key);
+        if (rounds.eof()) {
+            orphans.meet(key);
+            shots.Delete();
+        }
+        rounds.MoveFirst();
+        shots.MoveNext();
+    }
+    shots.UpdateBatch(affect::all_chapters);
+}
+
+/// Every pass names the key met last. Its rows have gone by now, so this changes nothing.
+void delete_again(const orphan_keys& orphans)
+{
+    for (int pass = 0; pass < plain(orphans.counter); ++pass)
+        data_environment().connection.Execute(u"delete from stat_rounds where date=" +
+                                              quoted(orphans.keys[plain(orphans.counter)]));
+}
+
+}  // namespace
+
+void clean_up_store()
+{
+    Recordset& rounds = data_environment().rsgames;
+    Recordset& shots = data_environment().rsStat_rounds;
+    orphan_keys orphans;
+    open_rounds_and_shots(rounds, shots);
+    delete_orphans(rounds, shots, orphans);
+    tell(QString::number(plain(orphans.counter)));
+    rounds.Close();
+    shots.Close();
+    delete_again(orphans);
+    tell(QStringLiteral("Fin"));
+}
+
+}  // namespace verdane
