@@ -20,10 +20,10 @@ table holes()
 {
     return {QStringLiteral("field_info"), column_list()
                                               .text({u"FIELD_CODE"})
-                                              .by_hole({u"yards_"})
-                                              .by_hole({u"hcp_"})
+                                              .by_hole({u"yards_"}, 0)
+                                              .by_hole({u"hcp_"}, 0)
                                               .spare(u"info_spare")
-                                              .by_hole({u"par_"})};
+                                              .by_hole({u"par_"}, 0)};
 }
 
 table partners()

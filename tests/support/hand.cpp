@@ -103,6 +103,9 @@ void hand::wait_until(const QString& what, const std::function<bool()>& holds)
 {
     const auto end = std::chrono::steady_clock::now() + patience_;
     while (!asked<bool>(holds)) {
+        // A program that has failed waits for an answer: nothing that is waited for will come.
+        if (asked<bool>([] { return visible_window(QStringLiteral("failure_box")) != nullptr; }))
+            fail(QStringLiteral("the program failed before ") + what);
         if (std::chrono::steady_clock::now() > end)
             fail(QStringLiteral("waited in vain for ") + what);
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
