@@ -64,7 +64,7 @@ private Q_SLOTS:
         in_new_round([&](hand& user) {
             const expected_box in_french{
                 QStringLiteral(
-                    "Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moins "
+                    "Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
                     "un terrain"),
                 QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok};
             const expected_box in_english{
