@@ -105,7 +105,7 @@ void load(f_games& window)
     current_form = &window;
     Place_and_lock(window);
     DataEnvironment1& store = data_environment();
-    store.rsgames.Open();
+    Round_functions::open_rounds_in_time_order();
     store.rsfield_info.Open();
     if (store.rsgames.eof()) {
         stop_without_rounds(window);

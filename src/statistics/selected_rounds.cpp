@@ -35,7 +35,7 @@ bool passes_filters(const selection_arguments& chosen)
 {
     Recordset& games2 = data_environment().rsgames2;
     if (!chosen.weather_value.isEmpty() &&
-        games2.Fields(round_columns::conditionM).to_int16() != to_int16(chosen.weather_value))
+        games2.Fields(round_columns::conditionM).int16_or_zero() != to_int16(chosen.weather_value))
         return false;
     return chosen.partner_number.isEmpty() || Round_functions::partner_in_round(chosen.partner_number) > 0;
 }

@@ -135,6 +135,18 @@ private Q_SLOTS:
         });
     }
 
+    void the_time_order_holds_after_a_statistic_has_left_the_rounds_without_one()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        for (const int day : {40, 2})
+            book.add(round_with_last_hole(day, hole_in(4)));
+        data_environment().rsgames.set_Source(u"Select * from games"_s);
+        in_list([](hand& user) {
+            user.check(user.entries(u"List1"_s).at(0).startsWith(u"2003-01-02"), u"the earliest first"_s);
+        });
+    }
+
     void captions_are_those_of_the_language_data()
     {
         QTest::addColumn<bool>("french");
