@@ -1,0 +1,81 @@
+#include "partner_windows.h"
+
+#include "boxes.h"
+#include "Connection1.h"
+#include "f_partners.h"
+#include "failure_guard.h"
+#include "language.h"
+
+namespace verdane::testing {
+
+void partner_store::add(const QString& name, const QString& surname, int code) const
+{
+    store.write(u"insert into partners (NAME, SURNAME, code) values (" + quoted(name) + u", " +
+                quoted(surname) + u", " + QString::number(code) + u')');
+}
+
+void partner_store::add_three() const
+{
+    add(QStringLiteral("Cedar"), QStringLiteral("Cleo"), 3);
+    add(QStringLiteral("Alder"), QStringLiteral("Ann"), 1);
+    add(QStringLiteral("Birch"), QStringLiteral("Bob"), 2);
+}
+
+QString partner_store::rows() const
+{
+    return store.text(
+        QStringLiteral("select ifnull(group_concat(ifnull(NAME, 'null') || ',' || ifnull(SURNAME, 'null') || "
+                       "',' || code, ' | '), '') from (select * from partners order by rowid)"));
+}
+
+QString partner_window()
+{
+    return in_language(u"f_partners", u"f_partners_en");
+}
+
+void show_partners()
+{
+    run_event([] {
+        f_partners window;
+        window.show_modal();
+    });
+}
+
+void in_partners(const std::function<void(hand&)>& script)
+{
+    play(show_partners, [&](hand& user) {
+        user.wait_for_window(partner_window());
+        script(user);
+        user.wait_until_gone(partner_window());
+    });
+}
+
+void type_into(hand& user, int row, int column, const QString& text)
+{
+    user.click_cell(QStringLiteral("pgrid"), row, column);
+    user.type(text);
+    user.key(Qt::Key_Return);
+}
+
+void accept_partners(hand& user)
+{
+    user.click(QStringLiteral("cmdSave"));
+}
+
+expected_box refusal_of_missing_name()
+{
+    return {in_language(u"Le nom et le prénom sont des champs obligatoires pour chaque partenaire.",
+                        u"First and last names are required fields for each partner."),
+            QMessageBox::Critical, default_title(), QMessageBox::Ok};
+}
+
+expected_box question_on_removal(const QString& name)
+{
+    return {in_language(u"Attention : Toutes les données relatives à cette personne seront supprimées. "
+                        u"Voulez-vous continuer ? ",
+                        u"All data relative to this contact will be removed. Do you want to continue?"),
+            QMessageBox::NoIcon, in_language(u"Supprimer ", u"Remove ") + name,
+            QMessageBox::Yes | QMessageBox::No};
+}
+
+}  // namespace verdane::testing

@@ -1,0 +1,229 @@
+#include <QTest>
+
+#include "data_grid.h"
+#include "DataEnvironment1.h"
+#include "f_partners.h"
+#include "main_frame.h"
+#include "partner_windows.h"
+#include "window_look.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString grid = u"pgrid"_s;
+
+QString headers(hand& user)
+{
+    QStringList captions;
+    user.look([&] {
+        const QAbstractItemModel& model = *dynamic_cast<f_partners&>(*form_at_work()).pgrid->model();
+        for (int column = 0; column < model.columnCount(); ++column)
+            captions << model.headerData(column, Qt::Horizontal).toString();
+    });
+    return captions.join(u'|');
+}
+
+struct named_way {
+    const char* words;
+    std::function<void(hand&)> leave;
+};
+
+const std::vector<named_way>& ways_out()
+{
+    static const std::vector<named_way> ways{
+        {"OK", accept_partners},
+        {"Cancel", [](hand& user) { user.click(u"cmdAn"_s); }},
+        {"the title bar", [](hand& user) { user.close_window(partner_window()); }},
+        {"Escape", [](hand& user) { user.key(Qt::Key_Escape); }},
+        {"the command Close of the main window",
+         [](hand& user) { user.look([] { current_form->closeForm(); }); }}};
+    return ways;
+}
+
+void every_way_out()
+{
+    QTest::addColumn<int>("way");
+    for (int way = 0; way < static_cast<int>(ways_out().size()); ++way)
+        QTest::newRow(ways_out()[static_cast<std::size_t>(way)].words) << way;
+}
+
+void leave_by(int way, hand& user)
+{
+    ways_out()[static_cast<std::size_t>(way)].leave(user);
+}
+
+}  // namespace
+
+class test_f_partners : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void captions_are_those_of_the_language_data() { both_languages(); }
+    void captions_are_those_of_the_language()
+    {
+        QFETCH(bool, french);
+        const partner_store store(french);
+        in_partners([&](hand& user) {
+            user.same(headers(user),
+                      in_language(u"Nom|Prénom|Adresse|Ville|Téléphone|Courriel|code",
+                                  u"Last Name|First Name|Address|City|Telephone|Email|code"),
+                      u"columns"_s);
+            user.same(user.title(partner_window()), in_language(u"Partenaires", u"Partner Management "),
+                      u"title"_s);
+            QStringList captions;
+            for (const auto& name : {u"Frame1"_s, u"add"_s, u"Del"_s, u"cmdSave"_s, u"cmdAn"_s})
+                captions << user.text(name);
+            user.same(
+                captions.join(u'|'),
+                in_language(u"Partenaires|Ajouter|Supprimer|OK|Annuler", u"Partners|Add|Remove|OK|Cancel"),
+                u"captions"_s);
+            accept_partners(user);
+        });
+    }
+
+    void the_partners_stand_in_the_order_of_their_names()
+    {
+        const partner_store store;
+        store.add_three();
+        store.store.write(u"update partners set AD1 = '1 Oak Road', AD2 = 'Lyon', TEL = '04 72', "
+                          "MAIL = 'a@b.example' where code = 1"_s);
+        in_partners([](hand& user) {
+            user.same(user.grid_rows(grid), 3, u"rows"_s);
+            user.same(user.grid_row(grid, 0), u"Alder | Ann | 1 Oak Road | Lyon | 04 72 | a@b.example | 1"_s,
+                      u"first"_s);
+            user.same(user.cell(grid, 1, 0) + user.cell(grid, 2, 0), u"BirchCedar"_s, u"others"_s);
+            user.same(user.cursor(grid), u"0,0"_s, u"cursor"_s);
+            user.same(user.focus(), grid, u"focus"_s);
+            accept_partners(user);
+        });
+    }
+
+    void the_window_locks_the_menu_and_every_way_out_frees_everything_data() { every_way_out(); }
+    void the_window_locks_the_menu_and_every_way_out_frees_everything()
+    {
+        QFETCH(int, way);
+        const partner_store store;
+        store.add_three();
+        // Twice: a window that left something open could not be opened again.
+        for (int time = 0; time < 2; ++time) {
+            in_partners([&](hand& user) {
+                user.check(store.frame.locked, u"the menu is locked"_s);
+                user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
+                user.check(data_environment().rspartners.is_open(), u"rspartners is open"_s);
+                leave_by(way, user);
+            });
+            QCOMPARE(open_recordsets(), QStringList());
+            QVERIFY(!store.frame.locked);
+        }
+        QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
+    }
+
+    void an_empty_table_closes_without_a_word_data() { every_way_out(); }
+    void an_empty_table_closes_without_a_word()
+    {
+        QFETCH(int, way);
+        const partner_store store;
+        in_partners([&](hand& user) {
+            user.same(user.grid_rows(grid), 0, u"rows"_s);
+            user.click(u"Del"_s);
+            user.check(!user.is_open(u"message_box"_s), u"there is nobody to remove"_s);
+            leave_by(way, user);
+        });
+        QCOMPARE(open_recordsets(), QStringList());
+        QVERIFY(!store.frame.locked);
+    }
+
+    void every_way_out_stores_what_was_typed_data() { every_way_out(); }
+    void every_way_out_stores_what_was_typed()
+    {
+        QFETCH(int, way);
+        const partner_store store;
+        store.add_three();
+        in_partners([&](hand& user) {
+            type_into(user, 0, 5, u"ann@golf.example"_s);
+            leave_by(way, user);
+        });
+        QCOMPARE(store.store.text(u"select MAIL from partners where NAME = 'Alder'"_s),
+                 u"ann@golf.example"_s);
+    }
+
+    void a_cell_that_is_being_typed_is_stored_too_data()
+    {
+        QTest::addColumn<int>("way");
+        for (const int way : {0, 1, 2})
+            QTest::newRow(ways_out()[static_cast<std::size_t>(way)].words) << way;
+    }
+    void a_cell_that_is_being_typed_is_stored_too()
+    {
+        QFETCH(int, way);
+        const partner_store store;
+        store.add_three();
+        in_partners([&](hand& user) {
+            user.click_cell(grid, 2, 1);
+            user.type(u"Max"_s);
+            leave_by(way, user);
+        });
+        QCOMPARE(store.rows(), u"Cedar,Max,597 | Alder,Ann,1 | Birch,Bob,2"_s);
+    }
+
+    void a_stored_order_survives_until_the_window_is_opened_again()
+    {
+        const partner_store store;
+        store.add_three();
+        in_partners([](hand& user) {
+            type_into(user, 0, 0, u"Zelkova"_s);
+            user.click_cell(grid, 1, 0);
+            user.same(user.cell(grid, 0, 0), u"Zelkova"_s, u"stands where it stood"_s);
+            accept_partners(user);
+        });
+        in_partners([](hand& user) {
+            user.same(user.cell(grid, 2, 0), u"Zelkova"_s, u"stands last"_s);
+            accept_partners(user);
+        });
+    }
+
+    void the_recordset_of_the_rounds_is_closed_whoever_left_it_open_data() { every_way_out(); }
+    void the_recordset_of_the_rounds_is_closed_whoever_left_it_open()
+    {
+        QFETCH(int, way);
+        const partner_store store;
+        store.add_three();
+        data_environment().rsgames.Open();
+        in_partners([&](hand& user) { leave_by(way, user); });
+        QCOMPARE(open_recordsets(), QStringList());
+    }
+
+    void a_window_that_has_gone_ignores_save_and_close()
+    {
+        const partner_store store;
+        store.add_three();
+        f_partners window;
+        window.closeForm();
+        data_environment().rspartners.Open();
+        window.closeForm();
+        window.save();
+        QVERIFY(data_environment().rspartners.is_open());
+    }
+
+    void twins_have_the_same_controls_and_nothing_is_clipped()
+    {
+        QStringList seen[2];
+        for (const bool french : {true, false}) {
+            const partner_store store(french);
+            store.add_three();
+            in_partners([&](hand& user) {
+                seen[french] = controls_of_window(user);
+                user.same(clipped_controls(user).join(u'|'), {}, u"clipped"_s);
+                accept_partners(user);
+            });
+        }
+        QCOMPARE(seen[0], seen[1]);
+        QVERIFY(seen[0].join(u'|').contains(u"pgrid"_s));
+    }
+};
+
+QTEST_MAIN(test_f_partners)
+#include "test_f_partners.moc"
