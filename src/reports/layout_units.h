@@ -9,6 +9,10 @@ namespace verdane {
 constexpr double units_per_mm = 720.0 / 25.4;
 constexpr double units_per_pt = 10.0;
 
+/// Invisibly small, but not nothing: letters that are spaced stay single, and a word with "ffi" is found
+/// in a PDF file as it was written.
+constexpr double spacing_without_ligatures = 0.02;
+
 /// A length such as "12mm", "8.5pt" or "1px" (1/96 inch) in layout units; a negative number when the
 /// text is no such length.
 double length_in_units(const QString& text);

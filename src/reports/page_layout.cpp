@@ -20,6 +20,7 @@ QFont report_font(const template_file& source)
     font.setFamilies(source.font_families);
     font.setPixelSize(qRound(source.font_points * units_per_pt));
     font.setHintingPreference(QFont::PreferNoHinting);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, spacing_without_ligatures);
     return font;
 }
 

@@ -70,10 +70,11 @@ report_drawings::drawing report_drawings::read(const QString& svg, const templat
     const QString error = xml_error(svg);
     if (!error.isEmpty())
         fail_template(place, QStringLiteral("a drawing is no SVG: %1").arg(error));
-    auto renderer = std::make_unique<QSvgRenderer>(svg.toUtf8());
+    parted_drawing parted = with_texts_apart(svg);
+    auto renderer = std::make_unique<QSvgRenderer>(parted.svg.toUtf8());
     if (!renderer->isValid())
         fail_template(place, QStringLiteral("a drawing is no SVG"));
-    return {std::move(renderer), size};
+    return {std::move(renderer), std::move(parted.texts), size};
 }
 
 const report_drawings::drawing* report_drawings::drawing_of(const QTextFormat& format) const
@@ -102,6 +103,7 @@ void report_drawings::drawObject(QPainter* painter, const QRectF& place, QTextDo
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     found->renderer->render(painter, place);
+    paint_texts(*painter, found->texts, found->renderer->viewBoxF(), place);
     painter->restore();
 }
 

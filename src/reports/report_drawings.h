@@ -7,13 +7,14 @@
 #include <memory>
 #include <vector>
 
+#include "drawing_texts.h"
 #include "template_failure.h"
 
 namespace verdane {
 
 /// The SVG drawings of a page. They stand in the HTML as pictures of the size that the drawing gives
-/// in its `width` and `height` (mm, pt or px) and are painted as strokes and fills, never as dots,
-/// so they stay sharp on paper.
+/// in its `width` and `height` (mm, pt or px) and are painted as strokes, fills and letters, never as
+/// dots, so they stay sharp on paper and their texts can be searched.
 class report_drawings : public QObject, public QTextObjectInterface {
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)
@@ -33,6 +34,7 @@ public:
 private:
     struct drawing {
         std::unique_ptr<QSvgRenderer> renderer;
+        std::vector<drawing_text> texts;
         QSizeF size;
     };
 

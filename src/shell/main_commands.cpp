@@ -4,6 +4,7 @@
 #include "DataEnvironment1.h"
 #include "f_about.h"
 #include "f_c_list.h"
+#include "f_carte.h"
 #include "f_date_range.h"
 #include "f_games.h"
 #include "failure_guard.h"
@@ -78,6 +79,18 @@ void command_round_list()
 void command_course_list()
 {
     open_window<f_c_list>();
+}
+
+void command_scorecard()
+{
+    if (!has_rows(data_environment().rsvrd_fields)) {
+        tell(in_language(u"Verdane n'a trouver aucun terrain. Il faut au moins un terrain pour imprimmer une "
+                         u"carte",
+                         u"Verdane found no golf course. There has to be at least one registered"),
+             QMessageBox::Critical);
+        return;
+    }
+    open_window<f_carte>();
 }
 
 void command_round_statistics()

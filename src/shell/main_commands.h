@@ -7,6 +7,7 @@ namespace verdane {
 void command_new_round();
 void command_round_list();
 void command_course_list();
+void command_scorecard();
 void command_round_statistics();
 void command_about();
 

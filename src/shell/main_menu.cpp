@@ -32,7 +32,8 @@ const std::vector<top_menu>& main_menu()
           {u"mnOPenr", {u"&Gestion des rondes", u"&Round Management"}, command_round_list, locked}}},
         {u"mCourses",
          {u"&Terrains", u"&Golf Courses"},
-         {{u"mManagF", {u"&Gestion des terrains", u"&Golf Course Management"}, command_course_list, locked}},
+         {{u"mManagF", {u"&Gestion des terrains", u"&Golf Course Management"}, command_course_list, locked},
+          {u"mCarte", {u"&Carte de pointage", u"&Scorecard"}, command_scorecard, locked}},
          locked},
         {u"mnstat",
          {u"&Statistiques", u"&Statistics"},
@@ -51,6 +52,7 @@ const std::vector<tool_button>& main_toolbar()
         {u"B3", u"Gestion des terrain", command_course_list, locked},
         {u"B4", u"Enregistrer", command_save},
         {u"B5", u"Fermer", command_close},
+        {u"B8", u"Carte de jeux", command_scorecard, locked},
     };
     return toolbar;
 }

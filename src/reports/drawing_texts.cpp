@@ -1,0 +1,128 @@
+#include "drawing_texts.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include "layout_units.h"
+
+namespace verdane {
+
+namespace {
+
+/// What an element hands down to those inside it.
+struct surroundings {
+    drawing_text text;
+    QPointF origin;
+    bool only_moved = true;
+};
+
+QStringList families_of(const QString& list)
+{
+    QStringList families;
+    for (const QString& family : list.split(u','))
+        families.append(family.trimmed().remove(u'\'').remove(u'"'));
+    return families;
+}
+
+Qt::Alignment anchor_of(QStringView name)
+{
+    if (name == u"middle")
+        return Qt::AlignHCenter;
+    return name == u"end" ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+void move(surroundings& state, const QString& transform)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^\\s*translate\\(\\s*([-\\d.eE]+)[\\s,]*([-\\d.eE]+)?\\s*\\)\\s*$"));
+    const QRegularExpressionMatch match = form.match(transform);
+    state.only_moved = state.only_moved && match.hasMatch();
+    state.origin += QPointF(match.captured(1).toDouble(), match.captured(2).toDouble());
+}
+
+/// What stands inside an element with these attributes.
+surroundings inside(surroundings state, const QXmlStreamAttributes& attributes)
+{
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        const QString name = attribute.name().toString();
+        const QString value = attribute.value().toString();
+        if (name == u"font-family")
+            state.text.families = families_of(value);
+        else if (name == u"font-size")
+            state.text.size = value.toDouble();
+        else if (name == u"font-weight")
+            state.text.bold = value == u"bold";
+        else if (name == u"text-anchor")
+            state.text.anchor = anchor_of(value);
+        else if (name == u"fill")
+            state.text.ink = QColor(value);
+        else if (name == u"transform")
+            move(state, value);
+    }
+    return state;
+}
+
+drawing_text read_text(const surroundings& state, QXmlStreamReader& reader)
+{
+    drawing_text text = state.text;
+    const QXmlStreamAttributes attributes = reader.attributes();
+    text.base = state.origin + QPointF(attributes.value(QStringLiteral("x")).toDouble(),
+                                       attributes.value(QStringLiteral("y")).toDouble());
+    text.words = reader.readElementText(QXmlStreamReader::IncludeChildElements).simplified();
+    return text;
+}
+
+}  // namespace
+
+parted_drawing with_texts_apart(const QString& svg)
+{
+    parted_drawing parted;
+    QXmlStreamReader reader(svg);
+    QXmlStreamWriter rest(&parted.svg);
+    std::vector<surroundings> around{{}};
+    around.back().only_moved = svg.contains(QStringLiteral("viewBox="));
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement()) {
+            const surroundings state = inside(around.back(), reader.attributes());
+            if (reader.name() == u"text" && state.only_moved) {
+                parted.texts.push_back(read_text(state, reader));
+                continue;
+            }
+            around.push_back(state);
+        } else if (reader.isEndElement()) {
+            around.pop_back();
+        }
+        rest.writeCurrentToken(reader);
+    }
+    return parted;
+}
+
+void paint_texts(QPainter& painter, const std::vector<drawing_text>& texts, const QRectF& view_box,
+                 const QRectF& place)
+{
+    const double scale_x = place.width() / view_box.width();
+    const double scale_y = place.height() / view_box.height();
+    for (const drawing_text& text : texts) {
+        QFont font;
+        font.setFamilies(text.families);
+        font.setPixelSize(qMax(1, qRound(text.size * scale_y)));
+        font.setBold(text.bold);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        font.setLetterSpacing(QFont::AbsoluteSpacing, spacing_without_ligatures);
+        QPointF base = place.topLeft() + QPointF((text.base.x() - view_box.x()) * scale_x,
+                                                 (text.base.y() - view_box.y()) * scale_y);
+        const double width = QFontMetricsF(font).horizontalAdvance(text.words);
+        if (text.anchor != Qt::AlignLeft)
+            base.rx() -= text.anchor == Qt::AlignHCenter ? width / 2 : width;
+        painter.setFont(font);
+        painter.setPen(text.ink);
+        painter.drawText(base, text.words);
+    }
+}
+
+}  // namespace verdane

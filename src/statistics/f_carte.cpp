@@ -1,0 +1,76 @@
+#include "f_carte.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "events.h"
+#include "f_carte_func.h"
+#include "list_box.h"
+#include "look.h"
+
+namespace verdane {
+
+namespace {
+
+// A course's name of the width that names are padded to, and its tee.
+constexpr int characters_of_a_line = 60;
+constexpr int lines_in_view = 12;
+
+}  // namespace
+
+f_carte::f_carte() : Form(u"f_carte"), cr2(this)
+{
+    setWindowTitle(caption(u"Carte de pointage", u"Scorecard"));
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    rows->setSpacing(2 * rhythm);
+    rows->addWidget(make_courses(), 1);
+    rows->addLayout(make_buttons());
+    List1->setFocus();
+    wire();
+    adjustSize();
+    f_carte_func::load(*this);
+}
+
+QWidget* f_carte::make_courses()
+{
+    auto* frame = named(new QGroupBox(caption(u"Terrain / Terte", u"Golf Course / Teeing Area")), u"Frame1");
+    auto* heading = named(make_label(caption(u"Choisissez un terrain", u"Select a golf course")), u"Label1");
+    List1 = named(make_list_box(characters_of_a_line), u"List1");
+    List1->setMinimumHeight(List1->fontMetrics().lineSpacing() * lines_in_view);
+    List1->setAccessibleName(heading->text());
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    inside->setSpacing(rhythm / 2);
+    inside->addWidget(heading);
+    inside->addWidget(List1);
+    return frame;
+}
+
+QBoxLayout* f_carte::make_buttons()
+{
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(rhythm);
+    foot->addStretch(1);
+    foot->addWidget(Command1.add(0, make_button(QStringLiteral("OK"))));
+    foot->addWidget(Command1.add(1, make_button(caption(u"Annuler", u"Cancel"))));
+    return foot;
+}
+
+void f_carte::wire()
+{
+    on_click(Command1(0), [this] { f_carte_func::print(*this); });
+    on_click(Command1(1), [this] { f_carte_func::cancel(*this); });
+    on_double_click(*List1, [this] { f_carte_func::print(*this); });
+}
+
+void f_carte::unloading()
+{
+    f_carte_func::unload();
+}
+
+}  // namespace verdane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "control_array.h"
+#include "Form.h"
+#include "report_control.h"
+
+class QBoxLayout;
+class QListWidget;
+class QPushButton;
+class QWidget;
+
+namespace verdane {
+
+/// The window that prints a blank scorecard of a course (`f_carte`, `f_carte_en`): the holes as they
+/// are played from the chosen tee, and the distances of the clubs in the bag. It stays open, so that
+/// several cards can be printed in a row.
+///
+/// Making the window loads it; `rsvrd_fields` and `rsfield_info` are open for its life.
+class f_carte final : public Form {
+public:
+    f_carte();
+
+    /// One line a row of `vrd_fields`, in table order.
+    QListWidget* List1 = nullptr;
+    /// 0 OK, 1 cancel.
+    control_array<QPushButton> Command1{u"Command1"};
+
+    report_control cr2;
+
+protected:
+    void unloading() override;
+
+private:
+    QWidget* make_courses();
+    QBoxLayout* make_buttons();
+    void wire();
+};
+
+}  // namespace verdane

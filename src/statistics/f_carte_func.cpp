@@ -1,0 +1,167 @@
+#include "f_carte_func.h"
+
+#include <QListWidget>
+
+#include "DataEnvironment1.h"
+#include "f_carte.h"
+#include "main_frame.h"
+#include "Verdane_tools.h"
+
+namespace verdane::f_carte_func {
+
+namespace {
+
+constexpr std::int16_t width_of_name = 50;
+constexpr int holes_of_a_row = 9;
+/// The fourteenth club, the putter, has no distance to print.
+constexpr int clubs_on_card = 13;
+
+// First columns of the runs: of `r_card`, and of `field_info`.
+constexpr int card_yards = 1;
+constexpr int card_hole = 10;
+constexpr int card_hcp = 19;
+constexpr int card_par = 28;
+constexpr int card_club = 42;
+constexpr int info_yards = 1;
+constexpr int info_hcp = 19;
+constexpr int info_par = 38;
+
+Recordset& courses()
+{
+    return data_environment().rsvrd_fields;
+}
+
+Recordset& holes()
+{
+    return data_environment().rsfield_info;
+}
+
+Recordset& card()
+{
+    return data_environment().rsr_card;
+}
+
+QString list_line()
+{
+    QString name = courses().Fields(u"name").trimmed();
+    const QString code = courses().Fields(u"code").trimmed();
+    return Verdane_tools::pad_right(name, width_of_name) + u", " + Verdane_tools::tee_name(code.right(1));
+}
+
+/// A line and its row have the same place.
+void move_to_selected(const f_carte& window)
+{
+    courses().MoveFirst();
+    courses().Move(window.List1->currentRow());
+}
+
+void find_holes()
+{
+    holes().MoveFirst();
+    holes().Find(u"FIELD_CODE =" + quoted(courses().Fields(u"code").trimmed()), search_direction::backward);
+}
+
+/// The nine holes behind `holes_before` on the current row of the card.
+void write_holes(int holes_before)
+{
+    for (int i = 0; i < holes_of_a_row; ++i) {
+        const int place = holes_before + i;
+        card().Fields(card_yards + i).set(holes().Fields(info_yards + place).value());
+        card().Fields(card_hole + i).set(place + 1);
+        card().Fields(card_hcp + i).set(holes().Fields(info_hcp + place).value());
+        card().Fields(card_par + i).set(holes().Fields(info_par + place).value());
+    }
+}
+
+void write_course()
+{
+    card().Fields(u"card_name").set(courses().Fields(u"name").value());
+    card().Fields(u"card_slope").set(courses().Fields(u"slope").value());
+    card().Fields(u"card_tee").set(courses().Fields(u"tee").value());
+    card().Fields(u"card_rating").set(courses().Fields(u"rating").value());
+}
+
+void write_rows_of_holes()
+{
+    card().MoveFirst();
+    write_holes(0);
+    write_course();
+    card().Update();
+    card().MoveNext();
+    write_holes(holes_of_a_row);
+    write_course();
+}
+
+void write_clubs()
+{
+    Recordset& averages = data_environment().rssticks;
+    for (int club = 0; club < clubs_on_card; ++club)
+        card().Fields(card_club + club).set(averages.Fields(club).value());
+}
+
+/// The last row of `sticks` is the one that the program works on. The card stands on its second row.
+void write_clubs_of_both_rows()
+{
+    Recordset& averages = data_environment().rssticks;
+    averages.Open();
+    averages.MoveLast();
+    write_clubs();
+    card().Update();
+    card().MovePrevious();
+    write_clubs();
+}
+
+void commit_and_close()
+{
+    card().MoveFirst();
+    card().MoveLast();
+    card().Update();
+    card().UpdateBatch();
+    card().Requery();
+    data_environment().rssticks.Close();
+    card().Close();
+}
+
+}  // namespace
+
+void load(f_carte& window)
+{
+    current_form = &window;
+    Place_and_lock(window);
+    holes().Open();
+    courses().Open();
+    if (courses().eof())
+        return;
+    for (courses().MoveFirst(); !courses().eof(); courses().MoveNext())
+        window.List1->addItem(list_line());
+    window.List1->setCurrentRow(0);
+}
+
+void print(f_carte& window)
+{
+    if (window.List1->currentRow() < 0)
+        return;
+    move_to_selected(window);
+    find_holes();
+    card().Open();
+    write_rows_of_holes();
+    write_clubs_of_both_rows();
+    commit_and_close();
+    prepare_report(window.cr2, report_opening::maximised(), u"\\r_card2.rpt", u"\\r_card2_en.rpt");
+    window.cr2.Action(report_control::run_now);
+}
+
+void cancel(f_carte& window)
+{
+    Unlock_menu();
+    window.unload();
+}
+
+void unload()
+{
+    courses().Close();
+    holes().Close();
+    Unlock_menu();
+}
+
+}  // namespace verdane::f_carte_func
