@@ -1,5 +1,6 @@
 #include "numbers.h"
 #include "recordset_rows.h"
+#include "text.h"
 
 /// Reading and writing one field.
 namespace verdane {
@@ -87,7 +88,7 @@ QString Field::text_or_empty() const
 
 QString Field::trimmed() const
 {
-    return text_or_empty().trimmed();
+    return trimmed_blanks(text_or_empty()).toString();
 }
 
 int16 Field::to_int16() const

@@ -85,6 +85,12 @@ private Q_SLOTS:
         QCOMPARE(recordset->Fields(0).trimmed(), QStringLiteral("TOUTES"));
     }
 
+    void trimming_takes_blanks_and_nothing_else()
+    {
+        const auto recordset = field_of("' ' || char(9) || 'TOUTES' || char(10) || ' '");
+        QCOMPARE(recordset->Fields(0).trimmed(), QStringLiteral("\tTOUTES\n"));
+    }
+
     void a_number_reads_as_text_without_a_leading_blank()
     {
         QCOMPARE(field_of("42")->Fields(0).text(), QStringLiteral("42"));
