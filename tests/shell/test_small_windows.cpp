@@ -43,8 +43,38 @@ private Q_SLOTS:
         QCOMPARE(window.lblTitle->text(), name);
         QCOMPARE(window.lblVersion->text(), QStringLiteral("Version 1.4"));
         QCOMPARE(window.cmdOK->text(), QStringLiteral("OK"));
+        if (french)
+            QCOMPARE(window.cmdSysInfo->text(), QStringLiteral("&Infos système"));
         for (const QLabel* line : {window.lblDescription, window.lblDisclaimer, window.Label1})
             QVERIFY(!line->text().isEmpty());
+    }
+
+    void both_about_boxes_have_the_same_controls_and_room_for_their_captions()
+    {
+        const auto names = [] {
+            QStringList seen;
+            f_about window;
+            play([&] { window.show_modal(); },
+                 [&](hand& user) {
+                     user.wait_for_window(window.objectName());
+                     user.look([&] {
+                         for (const QWidget* control : window.findChildren<QWidget*>()) {
+                             seen << control->objectName();
+                             const bool fits = control->width() >= control->minimumSizeHint().width() &&
+                                               control->height() >= control->minimumSizeHint().height();
+                             QVERIFY2(fits, qPrintable(control->objectName()));
+                         }
+                     });
+                     user.click(QStringLiteral("cmdOK"));
+                 });
+            return seen;
+        };
+        const QStringList french = names();
+        is_french = false;
+        QCOMPARE(names(), french);
+        for (const char* name : {"lblTitle", "lblVersion", "lblDescription", "lblDisclaimer", "Label1",
+                                 "Line1_0", "Line1_1", "cmdSysInfo", "cmdOK"})
+            QCOMPARE(french.count(QString::fromLatin1(name)), 1);
     }
 
     void the_about_box_leaves_the_menu_unlocked_when_it_goes()

@@ -1,8 +1,11 @@
 #include <QApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTest>
 
 #include <cstdio>
+#include <unistd.h>
 
 #include "boxes.h"
 #include "Connection1.h"
@@ -60,13 +63,45 @@ struct ended {
     QString said;
 };
 
-ended child_start()
+ended child_start(const char* way = "--start")
 {
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--start")});
+    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(way)});
     child.waitForFinished(120000);
     return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
             QString::fromUtf8(child.readAllStandardOutput())};
+}
+
+constexpr QFile::Permissions owner_only = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+/// As root no permission would ever be missing.
+bool give_up_rights()
+{
+    return geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0);
+}
+
+/// The folder of the store can be entered and read by everyone, and written by nobody.
+void let_everyone_read_only(const QString& path)
+{
+    const QString folder = QFileInfo(path).path();
+    const QFile::Permissions everyone = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                        QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    QFile::setPermissions(QFileInfo(folder).path(), everyone | QFile::WriteOwner);
+    QFile::setPermissions(folder, everyone);
+}
+
+void damage(const QString& path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(100));
+    QCOMPARE(file.write(QByteArray(3000, '\xee')), 3000);
+}
+
+QByteArray content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 }  // namespace
@@ -158,13 +193,15 @@ private Q_SLOTS:
 
     void a_null_language_is_a_damaged_store()
     {
-        program_run run;
-        run.store().write(QStringLiteral("update settings set language = null"));
+        program_run run(0, {QStringLiteral("update sticknames set club_1 = 'Big'"),
+                            QStringLiteral("update settings set language = null")});
+        Main_module::club_names.clear();
         const int status = run.play_through([](hand& user) {
             user.answer({QStringLiteral("Fatal Error - Unexpected Language Value - 1014"),
                          QMessageBox::Critical, default_title(), QMessageBox::Ok});
         });
         QCOMPARE(status, 1);
+        QCOMPARE(Main_module::club_names[0], QStringLiteral("Big"));
     }
 
     void any_other_language_value_asks()
@@ -257,6 +294,39 @@ private Q_SLOTS:
         });
     }
 
+    void a_store_that_cannot_be_used_is_told_in_both_languages_and_left_as_it_is_data()
+    {
+        QTest::addColumn<QString>("harm");
+        QTest::addColumn<int>("kind");
+        QTest::newRow("damaged file") << "damage" << static_cast<int>(failure_kind::store_damaged);
+        QTest::newRow("settings without a row") << "no row" << static_cast<int>(failure_kind::misuse);
+        QTest::newRow("read-only folder") << "no rights" << static_cast<int>(failure_kind::store_read_only);
+    }
+
+    void a_store_that_cannot_be_used_is_told_in_both_languages_and_left_as_it_is()
+    {
+        QFETCH(QString, harm);
+        QFETCH(int, kind);
+        program_run run(2);
+        const QString path = program_run::store_path();
+        if (harm == u"damage")
+            damage(path);
+        else if (harm == u"no row")
+            run.store().write(QStringLiteral("delete from settings"));
+        const bool no_rights = harm == u"no rights";
+        if (no_rights)
+            let_everyone_read_only(path);
+        const QByteArray before = content(path);
+        const ended child = child_start(no_rights ? "--start-without-rights" : "--start");
+        if (no_rights)
+            QFile::setPermissions(QFileInfo(path).path(), owner_only);
+        QCOMPARE(child.status, 1);
+        const text_pair words = failure_words(static_cast<failure_kind>(kind));
+        QVERIFY2(child.said.contains(words.french) && child.said.contains(words.english),
+                 qPrintable(child.said));
+        QCOMPARE(content(path), before);
+    }
+
     void a_missing_table_is_told_and_ends_the_program()
     {
         program_run run(1, {QStringLiteral("drop table sticknames")});
@@ -269,9 +339,12 @@ private Q_SLOTS:
 
 int main(int argc, char** argv)
 {
+    const QByteArray way(argc == 2 ? argv[1] : "");
+    if (way == "--start-without-rights" && !give_up_rights())
+        return 2;
     QApplication application(argc, argv);
     prepare_application(application);
-    if (argc == 2 && QByteArray(argv[1]) == "--start")
+    if (way.startsWith("--start"))
         return start_and_leave();
     test_start_up test;
     return QTest::qExec(&test, argc, argv);
