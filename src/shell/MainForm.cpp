@@ -43,6 +43,8 @@ MainForm::MainForm()
 {
     setObjectName(QStringLiteral("MainForm"));
     setMinimumSize(least_size);
+    // The toolkit's own menu offers to hide the toolbar, and nothing would bring it back.
+    setContextMenuPolicy(Qt::NoContextMenu);
     resize(wanted_size.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     for (const top_menu& menu : main_menu())
         add_menu(menu);

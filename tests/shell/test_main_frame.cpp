@@ -1,0 +1,156 @@
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QMenuBar>
+#include <QTest>
+#include <QToolButton>
+
+#include "Form.h"
+#include "main_frame.h"
+#include "MainForm.h"
+#include "program_run.h"
+#include "start_up.h"
+
+using namespace verdane;
+using verdane::testing::hand;
+using verdane::testing::one_course;
+using verdane::testing::one_round;
+using verdane::testing::program_run;
+
+/// What the main window does besides opening windows: Save and Close, the change of language, its end.
+namespace {
+
+/// A window that counts what the main window asks of it.
+struct counting_form : Form {
+    counting_form() : Form(u"f_counting") {}
+    void save() override { ++saves; }
+    void closeForm() override { ++closes; }
+    int saves = 0;
+    int closes = 0;
+};
+
+QAction* entry(const QString& name)
+{
+    return MainForm::of_run()->findChild<QAction*>(name);
+}
+
+QWidget* tool(const QString& key)
+{
+    return MainForm::of_run()->findChild<QToolButton*>(key);
+}
+
+/// Runs the program in French up to the main window, lets the script work, and leaves.
+void in_main_window(const std::function<void(hand&)>& script)
+{
+    program_run run(1);
+    run.play_through([&](hand& user) {
+        user.wait_for_window(QStringLiteral("MainForm"));
+        script(user);
+        user.menu(QStringLiteral("mQuit"));
+    });
+}
+
+}  // namespace
+
+class test_main_frame : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { prepare_application(*qApp); }
+
+    void a_change_of_language_changes_captions_tick_and_picture()
+    {
+        in_main_window([](hand& user) {
+            for (const bool english : {true, false}) {
+                user.menu(english ? QStringLiteral("mEn") : QStringLiteral("mfr"));
+                user.look([&] {
+                    QCOMPARE(entry(QStringLiteral("mfile"))->text(),
+                             english ? QStringLiteral("&File") : QStringLiteral("&Fichier"));
+                    QCOMPARE(entry(QStringLiteral("mQuit"))->text(),
+                             english ? QStringLiteral("&Exit") : QStringLiteral("&Quitter"));
+                    QCOMPARE(entry(QStringLiteral("mEn"))->isChecked(), english);
+                    QCOMPARE(entry(QStringLiteral("mfr"))->isChecked(), !english);
+                    auto* frame = MainForm::of_run();
+                    QCOMPARE(frame->findChild<QWidget*>(QStringLiteral("Picture1"))->isVisible(), !english);
+                    QCOMPARE(frame->findChild<QWidget*>(QStringLiteral("Picture2"))->isVisible(), english);
+                });
+            }
+        });
+    }
+
+    void save_and_close_act_on_the_window_that_was_current_last_data()
+    {
+        QTest::addColumn<bool>("by_menu");
+        QTest::newRow("tool buttons") << false;
+        QTest::newRow("menu entries, once switched on") << true;
+    }
+
+    void save_and_close_act_on_the_window_that_was_current_last()
+    {
+        QFETCH(bool, by_menu);
+        in_main_window([&](hand& user) {
+            user.look([&] {
+                counting_form window;
+                current_form = &window;
+                Lock_menu();
+                const auto ask = [&](const char* menu_name, const char* key) {
+                    if (by_menu) {
+                        entry(QString::fromLatin1(menu_name))->setEnabled(true);
+                        entry(QString::fromLatin1(menu_name))->trigger();
+                    } else {
+                        QTest::mouseClick(tool(QString::fromLatin1(key)), Qt::LeftButton);
+                    }
+                };
+                ask("mnSave", "B4");
+                QCOMPARE(window.saves, 1);
+                QVERIFY(!entry(QStringLiteral("mOpen"))->isEnabled());
+                ask("mClose", "B5");
+                QCOMPARE(window.closes, 1);
+                QVERIFY(entry(QStringLiteral("mOpen"))->isEnabled());
+            });
+        });
+    }
+
+    void the_toolbar_cannot_be_put_away()
+    {
+        in_main_window([](hand& user) {
+            user.look([] {
+                auto* frame = MainForm::of_run();
+                for (QWidget* place : {static_cast<QWidget*>(frame->menuBar()),
+                                       frame->findChild<QWidget*>(QStringLiteral("Toolbar1"))}) {
+                    const QPoint middle = place->rect().center();
+                    QContextMenuEvent event(QContextMenuEvent::Mouse, middle, place->mapToGlobal(middle));
+                    QCoreApplication::sendEvent(place, &event);
+                    QVERIFY(!QApplication::activePopupWidget());
+                }
+            });
+        });
+    }
+
+    void the_end_of_the_main_window_takes_the_round_list_along_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("list");
+        QTest::newRow("French") << 1 << "f_games";
+        QTest::newRow("English") << 2 << "f_games_en";
+    }
+
+    void the_end_of_the_main_window_takes_the_round_list_along()
+    {
+        QFETCH(int, language);
+        QFETCH(QString, list);
+        program_run run(language, one_course() + one_round());
+        const int status = run.play_through([&](hand& user) {
+            user.wait_for_window(QStringLiteral("MainForm"));
+            user.menu(QStringLiteral("mnOPenr"));
+            user.wait_for_window(list);
+            user.look([] {
+                MainForm::of_run()->close();
+                QVERIFY(!open_form(u"f_games"));
+            });
+        });
+        QCOMPARE(status, 0);
+    }
+};
+
+QTEST_MAIN(test_main_frame)
+#include "test_main_frame.moc"
