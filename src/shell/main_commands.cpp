@@ -7,6 +7,7 @@
 #include "f_carte.h"
 #include "f_date_range.h"
 #include "f_games.h"
+#include "f_partners.h"
 #include "failure_guard.h"
 #include "language.h"
 #include "language_value.h"
@@ -14,6 +15,7 @@
 #include "MainForm.h"
 #include "Round_records.h"
 #include "start_up.h"
+#include "store_clean_up.h"
 #include "toolkit_language.h"
 
 namespace verdane {
@@ -103,9 +105,19 @@ void command_round_statistics()
     open_window<f_date_range>();
 }
 
+void command_partners()
+{
+    open_window<f_partners>();
+}
+
 void command_about()
 {
     open_window<f_about>();
+}
+
+void command_store_clean_up()
+{
+    clean_up_store();
 }
 
 void command_save()

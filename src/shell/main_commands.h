@@ -9,7 +9,11 @@ void command_round_list();
 void command_course_list();
 void command_scorecard();
 void command_round_statistics();
+void command_partners();
 void command_about();
+
+/// The tool behind the entry that is switched off.
+void command_store_clean_up();
 
 /// Save and Close address the window that was at work last; without one nothing happens.
 void command_save();

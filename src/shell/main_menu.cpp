@@ -17,7 +17,8 @@ top_menu file_menu()
              {u"mClose", {u"&Fermer", u""}, command_close, !locked, switched_off},
              {u"mEn", {u"English", u"English"}, command_english},
              {u"mfr", {u"Français", u"Français"}, command_french},
-             {u"mQuit", {u"&Quitter", u"&Exit"}, command_quit, locked}}};
+             {u"mQuit", {u"&Quitter", u"&Exit"}, command_quit, locked},
+             {u"mcoh", {u"TEST", u"TEST"}, command_store_clean_up, !locked, switched_off}}};
 }
 
 }  // namespace
@@ -35,6 +36,9 @@ const std::vector<top_menu>& main_menu()
          {{u"mManagF", {u"&Gestion des terrains", u"&Golf Course Management"}, command_course_list, locked},
           {u"mCarte", {u"&Carte de pointage", u"&Scorecard"}, command_scorecard, locked}},
          locked},
+        {u"partenaires",
+         {u"&Partenaires", u"&Partners"},
+         {{u"mpartners", {u"&Gestion des partenaires", u"&Partner Management"}, command_partners, locked}}},
         {u"mnstat",
          {u"&Statistiques", u"&Statistics"},
          {{u"mnstatr", {u"Statistiques des r&ondes", u"Round Statistics"}, command_round_statistics}},
@@ -52,6 +56,7 @@ const std::vector<tool_button>& main_toolbar()
         {u"B3", u"Gestion des terrain", command_course_list, locked},
         {u"B4", u"Enregistrer", command_save},
         {u"B5", u"Fermer", command_close},
+        {u"B6", u"Mes partenaires", command_partners, locked},
         {u"B8", u"Carte de jeux", command_scorecard, locked},
     };
     return toolbar;

@@ -1,9 +1,11 @@
 #include <QAction>
 #include <QMenu>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include "boxes.h"
+#include "failure_guard.h"
 #include "Form.h"
 #include "language.h"
 #include "main_commands.h"
@@ -36,11 +38,14 @@ const std::vector<caption_row>& captions()
         {"mEn", QStringLiteral("English"), QStringLiteral("English")},
         {"mfr", QStringLiteral("Français"), QStringLiteral("Français")},
         {"mQuit", QStringLiteral("&Quitter"), QStringLiteral("&Exit")},
+        {"mcoh", QStringLiteral("TEST"), QStringLiteral("TEST")},
         {"Rondes", QStringLiteral("&Rondes"), QStringLiteral("&Rounds")},
         {"mOpen", QStringLiteral("&Nouvelle ronde"), QStringLiteral("&New Round")},
         {"mnOPenr", QStringLiteral("&Gestion des rondes"), QStringLiteral("&Round Management")},
         {"mCourses", QStringLiteral("&Terrains"), QStringLiteral("&Golf Courses")},
         {"mManagF", QStringLiteral("&Gestion des terrains"), QStringLiteral("&Golf Course Management")},
+        {"partenaires", QStringLiteral("&Partenaires"), QStringLiteral("&Partners")},
+        {"mpartners", QStringLiteral("&Gestion des partenaires"), QStringLiteral("&Partner Management")},
         {"mnstat", QStringLiteral("&Statistiques"), QStringLiteral("&Statistics")},
         {"mnstatr", QStringLiteral("Statistiques des r&ondes"), QStringLiteral("Round Statistics")},
         {"maprop", QStringLiteral("&A propos"), QStringLiteral("&About")},
@@ -101,15 +106,40 @@ private Q_SLOTS:
         });
     }
 
-    void save_and_close_are_switched_off_in_the_menu()
+    void save_close_and_clean_up_are_switched_off_in_the_menu()
     {
         in_main_window(1, {}, [](hand& user) {
             user.look([] {
-                for (const QString& name : {QStringLiteral("mnSave"), QStringLiteral("mClose")}) {
+                for (const QString& name :
+                     {QStringLiteral("mnSave"), QStringLiteral("mClose"), QStringLiteral("mcoh")}) {
                     QVERIFY(!entry(name)->isVisible());
                     QVERIFY(!entry(name)->isEnabled());
                 }
             });
+        });
+    }
+
+    void the_clean_up_is_wired_though_its_entry_is_switched_off_data() { both_languages(); }
+    void the_clean_up_is_wired_though_its_entry_is_switched_off()
+    {
+        QFETCH(int, language);
+        const QString orphan = QStringLiteral("20010203040506");
+        const QString shot = QStringLiteral("insert into Stat_rounds (date, hole) values ('%1', 1)");
+        const QStringList shots{shot.arg(orphan), shot.arg(QStringLiteral("20260614093000"))};
+        const auto told = [](const QString& text) {
+            return expected_box{text, QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
+        };
+        in_main_window(language, one_course() + one_round() + shots, [&](hand& user) {
+            user.look([] { QTimer::singleShot(0, [] { run_event(command_store_clean_up); }); });
+            for (const QString& text : {orphan, QStringLiteral("1"), QStringLiteral("Fin")})
+                user.answer(told(text));
+            user.look([] {
+                QAction* clean_up = entry(QStringLiteral("mcoh"));
+                clean_up->setEnabled(true);
+                QTimer::singleShot(0, clean_up, &QAction::trigger);
+            });
+            for (const QString& text : {QStringLiteral("0"), QStringLiteral("Fin")})
+                user.answer(told(text));
         });
     }
 
@@ -121,8 +151,10 @@ private Q_SLOTS:
             user.look([] {
                 const QStringList tips{QStringLiteral("Ajouter une ronde"),
                                        QStringLiteral("Gestion des rondes"),
-                                       QStringLiteral("Gestion des terrain"), QStringLiteral("Enregistrer"),
-                                       QStringLiteral("Fermer")};
+                                       QStringLiteral("Gestion des terrain"),
+                                       QStringLiteral("Enregistrer"),
+                                       QStringLiteral("Fermer"),
+                                       QStringLiteral("Mes partenaires")};
                 for (int i = 0; i < tips.size(); ++i)
                     QCOMPARE(tool(QStringLiteral("B%1").arg(i + 1))->toolTip(), tips.at(i));
             });
@@ -153,12 +185,12 @@ private Q_SLOTS:
         in_main_window(1, one_course(), [](hand& user) {
             const auto locked = [&](bool expected) {
                 user.look([&] {
-                    for (const char* name :
-                         {"mnOPenr", "mOpen", "mQuit", "maprop", "mManagF", "mnstat", "mCourses"})
+                    for (const char* name : {"mnOPenr", "mOpen", "mpartners", "mQuit", "maprop", "mManagF",
+                                             "mnstat", "mCourses"})
                         QCOMPARE(entry(QString::fromLatin1(name))->isEnabled(), !expected);
-                    for (const char* key : {"B1", "B2", "B3"})
+                    for (const char* key : {"B1", "B2", "B3", "B6"})
                         QCOMPARE(tool(QString::fromLatin1(key))->isEnabled(), !expected);
-                    for (const char* name : {"mEn", "mfr", "mfile", "Rondes"})
+                    for (const char* name : {"mEn", "mfr", "mfile", "Rondes", "partenaires"})
                         QVERIFY2(entry(QString::fromLatin1(name))->isEnabled(), name);
                     for (const char* key : {"B4", "B5"})
                         QVERIFY2(tool(QString::fromLatin1(key))->isEnabled(), key);
@@ -262,6 +294,7 @@ private Q_SLOTS:
             const std::vector<std::pair<QString, QString>> commands{
                 {QStringLiteral("mnOPenr"), QStringLiteral("f_games")},
                 {QStringLiteral("mManagF"), QStringLiteral("f_c_list")},
+                {QStringLiteral("mpartners"), QStringLiteral("f_partners")},
                 {QStringLiteral("mnstatr"), QStringLiteral("f_date_range")},
                 {QStringLiteral("maprop"), QStringLiteral("f_about")}};
             for (const auto& [command, window] : commands) {
