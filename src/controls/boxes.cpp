@@ -9,14 +9,14 @@ namespace {
 
 int bells = 0;
 
+}  // namespace
+
 QWidget* window_at_work()
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
     return QApplication::activeWindow();
 }
-
-}  // namespace
 
 QString default_title()
 {

@@ -8,6 +8,9 @@ namespace verdane {
 /// The title of a box to which no other was given.
 QString default_title();
 
+/// The window above which a box belongs: the modal one, else the active one; null when there is none.
+QWidget* window_at_work();
+
 /// One message box: what a refusal, a notice or a question shows.
 struct message {
     QString text;

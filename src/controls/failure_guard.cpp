@@ -1,6 +1,5 @@
 #include "failure_guard.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
 #include <cstdlib>
@@ -24,7 +23,7 @@ QString words_for_user(const run_time_failure& failure)
 void tell(const run_time_failure& failure)
 {
     QMessageBox box(QMessageBox::Critical, QString(), words_for_user(failure), QMessageBox::Ok,
-                    QApplication::activeWindow());
+                    window_at_work());
     box.setObjectName(QStringLiteral("failure_box"));
     box.setWindowTitle(default_title());
     box.setTextFormat(Qt::PlainText);
