@@ -73,6 +73,8 @@ data_grid* f_partners::make_grid() const
     auto* grid = named(new data_grid(model), u"pgrid");
     grid->setAccessibleName(Frame1->title());
     grid->setAlternatingRowColors(true);
+    grid->setWordWrap(false);
+    grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     set_widths(*grid);
     return grid;
 }
