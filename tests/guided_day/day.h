@@ -46,10 +46,15 @@ void choose_first_language(day& today);
 void change_language(day& today);
 void look_around(day& today);
 void describe_course(day& today);
+void keep_partners(day& today);
 void play_round(day& today);
 void reopen_round(day& today);
 void print_statistic(day& today);
 void check_store(day& today);
+void remove_round(day& today);
 void leave_program(day& today);
+
+/// Fills the tee-off dialog, which a new round opens with, and settles the moment.
+void tee_off(day& today, const QString& hours, const QString& minutes, const QString& seconds);
 
 }  // namespace verdane::guided_day

@@ -43,10 +43,12 @@ void play_both_days(testing::hand& user, const QDir& folder)
         change_language(*today);
         look_around(*today);
         describe_course(*today);
+        keep_partners(*today);
         play_round(*today);
         reopen_round(*today);
         print_statistic(*today);
         check_store(*today);
+        remove_round(*today);
     }
     leave_program(afternoon);
 }

@@ -7,22 +7,6 @@ namespace verdane::guided_day {
 
 namespace {
 
-void choose_tee_off(day& today)
-{
-    today.user.wait_for_window(QStringLiteral("f_get_date"));
-    today.user.fill(QStringLiteral("Text1"), today.round.hours);
-    today.user.fill(QStringLiteral("Text2"), today.round.minutes);
-    today.user.fill(QStringLiteral("Text3"), today.round.seconds);
-    today.pictures.keep(QStringLiteral("f_get_date"),
-                        today.french ? QStringLiteral("f_get_date_fr") : QStringLiteral("f_get_date_en"));
-    today.user.click(QStringLiteral("OKbut"));
-    today.answer(
-        u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",
-        u"You will not be able to change this date afterwards. Do you want to use this date and time? ",
-        QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
-    today.user.wait_until_gone(QStringLiteral("f_get_date"));
-}
-
 /// The course just described stands last in the list.
 void choose_course(day& today)
 {
@@ -45,10 +29,26 @@ void tell_holes(day& today)
 
 }  // namespace
 
+void tee_off(day& today, const QString& hours, const QString& minutes, const QString& seconds)
+{
+    today.user.wait_for_window(QStringLiteral("f_get_date"));
+    today.user.fill(QStringLiteral("Text1"), hours);
+    today.user.fill(QStringLiteral("Text2"), minutes);
+    today.user.fill(QStringLiteral("Text3"), seconds);
+    today.pictures.keep(QStringLiteral("f_get_date"),
+                        today.french ? QStringLiteral("f_get_date_fr") : QStringLiteral("f_get_date_en"));
+    today.user.click(QStringLiteral("OKbut"));
+    today.answer(
+        u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",
+        u"You will not be able to change this date afterwards. Do you want to use this date and time? ",
+        QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    today.user.wait_until_gone(QStringLiteral("f_get_date"));
+}
+
 void play_round(day& today)
 {
     today.user.menu(QStringLiteral("mOpen"));
-    choose_tee_off(today);
+    tee_off(today, today.round.hours, today.round.minutes, today.round.seconds);
     today.user.wait_for_window(today.window(QStringLiteral("f_new_round")));
     choose_course(today);
     today.user.choose(QStringLiteral("conditions"), today.french ? 1 : 3);
