@@ -1,75 +1,19 @@
 #include <QApplication>
 #include <QLineEdit>
-#include <QProcess>
 #include <QTest>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "f_cost.h"
-#include "failure_guard.h"
-#include "hand.h"
-#include "reader.h"
-#include "recording_frame.h"
-#include "store_folder.h"
+#include "cost_windows.h"
 #include "window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// What ends the program is tried in a child process: this program again, with a case.
 namespace {
 
 const QString stored_amounts =
     u"select fg || ' ' || cm || ' ' || vt || ' ' || ft || ' ' || ba || ' ' || tee || ' ' || tex || ' ' || "
     "nrt || ' ' || lg || ' ' || bs || ' ' || ln || ' ' || au from cost where date = '20240614093000'"_s;
-
-QString cost_window()
-{
-    return in_language(u"f_cost", u"f_cost_en");
-}
-
-/// A store with one row of costs, on which `rscost` stands while a test runs.
-class cost_store {
-public:
-    explicit cost_store(bool french = true, const QString& amounts = u"1,2,3,4,5,6,7,8,9,10,11,12"_s)
-        : folder_(french)
-    {
-        store.write({u"insert into cost (date) values ('20230101080000')"_s,
-                     u"insert into cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au) values "
-                     "('20240614093000', "_s +
-                         amounts + u')'});
-        Recordset& cost = data_environment().rscost;
-        cost.Open();
-        cost.Find(u"Date ='20240614093000'"_s);
-    }
-    ~cost_store() { data_environment().rscost.Close(); }
-
-private:
-    store_folder folder_;
-
-public:
-    reader store{folder_.path()};
-    recording_frame frame;
-    /// What the window told at its closings.
-    QStringList totals;
-};
-
-void in_costs(cost_store& store, const std::function<void(hand&)>& script)
-{
-    play(
-        [&] {
-            run_event([&] {
-                f_cost window([&](const QString& total) { store.totals << total; });
-                window.show_modal();
-            });
-        },
-        [&](hand& user) {
-            user.wait_for_window(cost_window());
-            script(user);
-            user.wait_until_gone(cost_window());
-        });
-}
 
 QString box_texts(hand& user)
 {
@@ -103,37 +47,6 @@ std::vector<key_row> key_rows()
             {"a blank", u"0"_s, u"7 "_s, u"7"_s, 1},
             {"a digit of another script", u"0"_s, u"٣4"_s, u"4"_s, 1},
             {"a full box refuses though all is selected", u"1234"_s, u"5"_s, u"1234"_s, 1}};
-}
-
-constexpr int not_reached = 77;
-
-void answer_overflow(hand& user)
-{
-    user.answer({failure_words(failure_kind::overflow).in(true), QMessageBox::Critical, u"Verdane"_s,
-                 QMessageBox::Ok});
-}
-
-void show_costs()
-{
-    run_event([] { f_cost(nullptr).show_modal(); });
-}
-
-/// Twelve amounts of 9999 cannot be shown; three of them and 2770 leave no room for one more.
-int run_child(const QString& limit)
-{
-    if (limit == u"loading") {
-        const cost_store store(true, QStringList(12, u"9999"_s).join(u','));
-        play(show_costs, answer_overflow);
-        return not_reached;
-    }
-    const cost_store store(true, u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s);
-    play(show_costs, [](hand& user) {
-        user.wait_for_window(cost_window());
-        user.same(user.text(u"Text1"_s), u"32767"_s, u"the largest total"_s);
-        user.fill(u"cost_11"_s, u"1"_s);
-        answer_overflow(user);
-    });
-    return not_reached;
 }
 
 }  // namespace
@@ -363,24 +276,6 @@ private Q_SLOTS:
         QCOMPARE(store.totals, QStringList{u"0"_s});
     }
 
-    void a_total_beyond_16_bits_ends_the_program_data()
-    {
-        QTest::addColumn<QString>("limit");
-        QTest::newRow("while typing") << u"typing"_s;
-        QTest::newRow("while loading") << u"loading"_s;
-    }
-    void a_total_beyond_16_bits_ends_the_program()
-    {
-        QFETCH(QString, limit);
-        QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {u"--limit"_s, limit});
-        QVERIFY(child.waitForFinished(120000));
-        const QByteArray said = child.readAllStandardError();
-        QVERIFY2(!said.contains("FAIL!"), said.constData());
-        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(child.exitCode(), 1);
-    }
-
     void twins_have_the_same_controls_and_nothing_is_clipped()
     {
         QStringList seen[2];
@@ -397,14 +292,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    const QStringList arguments = application.arguments();
-    if (arguments.value(1) == u"--limit")
-        return run_child(arguments.value(2));
-    test_f_cost test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(test_f_cost)
 #include "test_f_cost.moc"

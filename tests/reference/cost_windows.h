@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QStringList>
+
+#include <functional>
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "f_cost.h"
+#include "failure_guard.h"
+#include "hand.h"
+#include "language.h"
+#include "reader.h"
+#include "recording_frame.h"
+#include "store_folder.h"
+
+/// What the tests of the window of costs share.
+namespace verdane::testing {
+
+using namespace Qt::StringLiterals;
+
+inline QString cost_window()
+{
+    return in_language(u"f_cost", u"f_cost_en");
+}
+
+/// A store with one row of costs, on which `rscost` stands while a test runs.
+class cost_store {
+public:
+    explicit cost_store(bool french = true,
+                        const QString& amounts = QStringLiteral("1,2,3,4,5,6,7,8,9,10,11,12"))
+        : folder_(french)
+    {
+        store.write({u"insert into cost (date) values ('20230101080000')"_s,
+                     u"insert into cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au) values "
+                     "('20240614093000', "_s +
+                         amounts + u')'});
+        Recordset& cost = data_environment().rscost;
+        cost.Open();
+        cost.Find(u"Date ='20240614093000'"_s);
+    }
+    ~cost_store() { data_environment().rscost.Close(); }
+
+private:
+    store_folder folder_;
+
+public:
+    reader store{folder_.path()};
+    recording_frame frame;
+    /// What the window told at its closings.
+    QStringList totals;
+};
+
+inline void in_costs(cost_store& store, const std::function<void(hand&)>& script)
+{
+    play(
+        [&] {
+            run_event([&] {
+                f_cost window([&](const QString& total) { store.totals << total; });
+                window.show_modal();
+            });
+        },
+        [&](hand& user) {
+            user.wait_for_window(cost_window());
+            script(user);
+            user.wait_until_gone(cost_window());
+        });
+}
+
+}  // namespace verdane::testing
