@@ -1,19 +1,15 @@
 #include "picture_pane.h"
 
 #include <QPainter>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace verdane {
 
-picture_pane::picture_pane(const QString& drawing, QWidget* parent) : QWidget(parent), drawing_(drawing)
+picture_pane::picture_pane(const QString& drawing, QWidget* parent) : QWidget(parent), file_(drawing)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
-}
-
-QSize picture_pane::sizeHint() const
-{
-    return drawing_.defaultSize().scaled(1200, 700, Qt::KeepAspectRatio);
 }
 
 QRectF picture_pane::cover() const
@@ -23,6 +19,18 @@ QRectF picture_pane::cover() const
     QRectF area(QPointF(), whole * scale);
     area.moveCenter(QRectF(rect()).center());
     return area;
+}
+
+void picture_pane::draw_soon()
+{
+    if (drawn_soon_)
+        return;
+    drawn_soon_ = true;
+    QTimer::singleShot(0, this, [this] {
+        drawing_.load(file_);
+        redraw();
+        update();
+    });
 }
 
 void picture_pane::redraw()
@@ -36,6 +44,11 @@ void picture_pane::redraw()
 
 void picture_pane::paintEvent(QPaintEvent*)
 {
+    if (picture_.isNull()) {
+        draw_soon();
+        QPainter(this).fillRect(rect(), palette().window());
+        return;
+    }
     if (picture_.size() != size() * devicePixelRatio())
         redraw();
     QPainter(this).drawPixmap(0, 0, picture_);

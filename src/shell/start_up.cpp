@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 
+#include "after_first_paint.h"
 #include "boxes.h"
 #include "DataEnvironment1.h"
 #include "f_lang.h"
@@ -34,6 +35,8 @@ start_result settle_language(Recordset& rssettings)
         return start_result::damaged;
     }
     if (!is_language_value(plain(rssettings.Fields(u"language").to_int16()))) {
+        // The answer is written, and nothing is written into a store that is not sound.
+        data_environment().connection.check_soundness();
         f_lang window;
         window.show_modal();
     }
@@ -62,18 +65,24 @@ void load_round_keys()
 {
     Main_module::round_key_count = 0;
     Recordset& rsgames = data_environment().rsgames;
+    // A row of this table is wide, and nothing but its key is wanted.
+    const QString whole_rows = rsgames.Source();
+    rsgames.set_Source(QStringLiteral("select date from games order by date"));
     rsgames.Open();
     if (!rsgames.eof()) {
         for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
             Main_module::append_round_key(rsgames.Fields(0).trimmed());
     }
     rsgames.Close();
+    rsgames.set_Source(whole_rows);
 }
 
 start_result Main()
 {
     is_french = true;
-    data_environment().connection.Open();
+    // Nothing is written before the window is up, so looking through the whole file, which takes as long as
+    // everything else done here, can wait until then: see `run_verdane`.
+    data_environment().connection.Open(Connection1::default_path(), soundness_check::later);
     set_report_store(data_environment().connection.path());
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
@@ -102,6 +111,7 @@ int run_verdane(QApplication& application)
     start_result result = start_result::left;
     run_event([&] { result = Main(); });
     if (result == start_result::running) {
+        after_first_paint(*MainForm::of_run(), [] { data_environment().connection.check_soundness(); });
         const int status = application.exec();
         MainForm::end_of_run();
         return status;

@@ -68,14 +68,6 @@ void check_file(const QString& path)
         throw run_time_failure(failure_kind::store_damaged, QString(path + u": not a store"));
 }
 
-void check_soundness(const QSqlDatabase& database)
-{
-    const QString verdict = answer(database, QStringLiteral("PRAGMA quick_check(1)"));
-    if (verdict != u"ok")
-        throw run_time_failure(failure_kind::store_damaged,
-                               QString(database.databaseName() + u": " + verdict));
-}
-
 /// Takes the write lock, which changes nothing: a tool in the middle of its own work is met here.
 void check_no_other_writer(Connection1& connection)
 {
@@ -116,7 +108,7 @@ QString Connection1::default_path()
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/Verdbase.db";
 }
 
-void Connection1::Open(const QString& path)
+void Connection1::Open(const QString& path, soundness_check check)
 {
     if (is_open())
         throw run_time_failure(failure_kind::misuse, QString(path_ + u": the connection is open already"));
@@ -125,7 +117,7 @@ void Connection1::Open(const QString& path)
     path_ = path;
     const bool was_there = QFile::exists(path);
     try {
-        open_engine();
+        open_engine(check);
     } catch (...) {
         Close();
         // Nothing was laid down in a file that was made just now: an empty one helps nobody.
@@ -135,7 +127,7 @@ void Connection1::Open(const QString& path)
     }
 }
 
-void Connection1::open_engine()
+void Connection1::open_engine(soundness_check check)
 {
     check_file(path_);
     {
@@ -145,7 +137,8 @@ void Connection1::open_engine()
         if (!engine.open())
             throw store_failure(engine.lastError(), path_);
     }
-    check_soundness(database());
+    if (check == soundness_check::while_opening || database().tables().isEmpty())
+        check_soundness();
     check_no_other_writer(*this);
     const bool laid_down = has_store(database());
     // WAL lets report printing and other readers look on while the program writes.
@@ -153,6 +146,13 @@ void Connection1::open_engine()
     Execute(QStringLiteral("PRAGMA synchronous=FULL"));
     if (!laid_down)
         lay_down(*this);
+}
+
+void Connection1::check_soundness() const
+{
+    const QString verdict = answer(database(), QStringLiteral("PRAGMA quick_check(1)"));
+    if (verdict != u"ok")
+        throw run_time_failure(failure_kind::store_damaged, QString(path_ + u": " + verdict));
 }
 
 void Connection1::Close()

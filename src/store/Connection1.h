@@ -12,6 +12,10 @@ class QLockFile;
 
 namespace verdane {
 
+/// When the whole file is looked through for damage: while it is opened, or later, by the caller's own
+/// call of `check_soundness`. A file in which no table is found is looked through in either case.
+enum class soundness_check { while_opening, later };
+
 /// The program's one connection to the store. With no data source `Verdbase` registered, the store
 /// is one SQLite file in the user's data folder, laid down whole on the first start.
 class Connection1 {
@@ -29,11 +33,14 @@ public:
 
     /// Opens the store at `path`, laying it down first when there is none, and takes the lock that
     /// keeps a second program off it. Commits survive a power cut (WAL, synchronous=FULL).
-    /// The whole file is checked first; one that has some of the tables is taken as it is, and a
-    /// recordset on a table that it lacks fails with `missing_table`.
-    /// Fails with `store_locked`, `store_read_only`, `store_damaged`, `store_full` or
-    /// `store_unreachable`, and with `misuse` when it is open; the file is then as it was.
-    void Open(const QString& path = default_path());
+    /// The whole file is checked first, unless that is left for later; one that has some of the tables is
+    /// taken as it is, and a recordset on a table that it lacks fails with `missing_table`. Fails with
+    /// `store_locked`, `store_read_only`, `store_damaged`, `store_full` or `store_unreachable`, and with
+    /// `misuse` when it is open; the file is then as it was.
+    void Open(const QString& path = default_path(), soundness_check check = soundness_check::while_opening);
+
+    /// Looks through the whole file, which changes nothing. Fails with `store_damaged`.
+    void check_soundness() const;
 
     /// Closes the connection and gives the lock back. Pending rows of recordsets are not written.
     void Close();
@@ -55,7 +62,7 @@ private:
     /// How long a statement waits for a tool that holds the file. Short: the user sits before it.
     static constexpr int busy_timeout_ms = 1000;
 
-    void open_engine();
+    void open_engine(soundness_check check);
 
     /// The toolkit's name for this connection; several may be open in one process, on several files.
     QString name_;

@@ -1,0 +1,122 @@
+#include <QApplication>
+#include <QFile>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QThread>
+
+#include <cstdio>
+
+#include "Connection1.h"
+#include "DataEnvironment1.h"
+#include "failures.h"
+#include "hand.h"
+#include "hand_widgets.h"
+#include "program_run.h"
+#include "start_up.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int page_size = 4096;
+
+/// Spoils the page in which a table begins that no start reads.
+void damage_page_of_costs(const reader& store)
+{
+    const int page = store.number(QStringLiteral("select rootpage from sqlite_master where name = 'cost'"));
+    QFile file(program_run::store_path());
+    QVERIFY(page > 1 && file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(qint64(page - 1) * page_size));
+    QCOMPARE(file.write(QByteArray(page_size, '\xaa')), page_size);
+}
+
+QByteArray content_of_store()
+{
+    QFile file(program_run::store_path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QMessageBox* failure_box()
+{
+    return qobject_cast<QMessageBox*>(visible_window(QStringLiteral("failure_box")));
+}
+
+/// The child process: starts on the data folder of its parent and says what failed.
+int start_until_it_fails()
+{
+    int status = -1;
+    play([&] { status = run_verdane(*qApp); },
+         [](hand& user) {
+             // The hand's own waiting takes a failure for the end of its script.
+             while (!user.is_open(QStringLiteral("failure_box")))
+                 QThread::msleep(5);
+             user.look([] {
+                 std::printf("%s\n", qUtf8Printable(failure_box()->text()));
+                 std::printf("asked for the language: %d\n",
+                             visible_window(QStringLiteral("f_lang")) != nullptr);
+                 std::fflush(stdout);
+             });
+             user.look([] { failure_box()->button(QMessageBox::Ok)->click(); });
+         });
+    return status;
+}
+
+}  // namespace
+
+/// A start shows its window first and looks through the whole file then.
+class test_soundness : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void damage_that_no_start_meets_is_told_all_the_same_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::newRow("language chosen") << 2;
+        QTest::newRow("language not chosen yet") << 0;
+    }
+    void damage_that_no_start_meets_is_told_all_the_same()
+    {
+        QFETCH(int, language);
+        program_run run(language);
+        damage_page_of_costs(run.store());
+        const QByteArray before = content_of_store();
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--start")});
+        QVERIFY(child.waitForFinished(120000));
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 1);
+        const QString said = QString::fromUtf8(child.readAllStandardOutput());
+        const text_pair words = failure_words(failure_kind::store_damaged);
+        QVERIFY2(said.contains(words.french) || said.contains(words.english), qPrintable(said));
+        QVERIFY2(said.contains(QStringLiteral("asked for the language: 0")), qPrintable(said));
+        QCOMPARE(content_of_store(), before);
+    }
+
+    void a_file_can_be_opened_first_and_looked_through_later()
+    {
+        program_run run(2);
+        Connection1 sound;
+        sound.Open(program_run::store_path(), soundness_check::later);
+        sound.check_soundness();
+        sound.Close();
+        damage_page_of_costs(run.store());
+        Connection1 damaged;
+        damaged.Open(program_run::store_path(), soundness_check::later);
+        QVERIFY(failure_of([&] { damaged.check_soundness(); }) == failure_kind::store_damaged);
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    prepare_application(application);
+    if (argc == 2 && QByteArray(argv[1]) == "--start")
+        return start_until_it_fails();
+    test_soundness test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_soundness.moc"
