@@ -9,6 +9,17 @@
 
 namespace verdane {
 
+namespace {
+
+/// From one figure to the next most classes stay as they are, and those are not painted again.
+void show_class(QLineEdit& box, const QString& text)
+{
+    if (box.text() != text)
+        box.setText(text);
+}
+
+}  // namespace
+
 void refresh_panel(f_new_round& window, bool from_row)
 {
     window.needSave = true;
@@ -16,7 +27,7 @@ void refresh_panel(f_new_round& window, bool from_row)
     const hole_figures figures = Round_functions::figures_of(hole, from_row);
     const int16 par = Round_functions::hole_par(hole);
     for (const selector_row& row : panel_selectors)
-        window.text(row.box).setText(hole_cell(row.selector, figures, par));
+        show_class(window.text(row.box), hole_cell(row.selector, figures, par));
 }
 
 void refresh_score(f_new_round& window)
