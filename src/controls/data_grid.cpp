@@ -1,6 +1,5 @@
 #include "data_grid.h"
 
-#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -178,6 +177,15 @@ void data_grid::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void data_grid::choose_by_letter(QChar letter)
+{
+    choice_menu* menu = menus_.at(col_);
+    if (!currentIndex().isValid() || menu->choose_only(letter))
+        return;
+    open_cell_menu();
+    menu->choose_by_letter(letter);
+}
+
 bool data_grid::take_character(const QKeyEvent& event)
 {
     const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
@@ -185,9 +193,7 @@ bool data_grid::take_character(const QKeyEvent& event)
     if (command || !(key.isPrint() || key == backspace))
         return false;
     if (has_cell_button(col_) && key != backspace) {
-        open_cell_menu();
-        QKeyEvent letter(QEvent::KeyPress, event.key(), event.modifiers(), event.text());
-        QCoreApplication::sendEvent(menus_.at(col_), &letter);
+        choose_by_letter(key);
         return true;
     }
     const auto filter = filters_.find(col_);

@@ -71,6 +71,7 @@ private:
     bool move_cursor(int step);
     bool opens_menu(const QKeyEvent& event) const;
     bool take_character(const QKeyEvent& event);
+    void choose_by_letter(QChar letter);
     void start_typing(const QString& text);
     void watch_editor(QLineEdit& editor, const QModelIndex& index);
     void drop_cell();

@@ -5,10 +5,14 @@
 #include <QPushButton>
 
 #include "course_box.h"
+#include "data_grid.h"
+#include "DataEnvironment1.h"
+#include "detailed_page.h"
 #include "events.h"
 #include "f_new_round_func.h"
 #include "f_new_round_layout.h"
 #include "quick_entry.h"
+#include "shot_entry.h"
 
 namespace verdane {
 
@@ -54,13 +58,29 @@ hole_figures f_new_round::figures() const
 
 void f_new_round::connect_events()
 {
-    on_select(*cmb_holes, [this] { f_new_round_func::hole_selected(*this); });
+    on_select(*cmb_holes, [this] { f_new_round_func::hole_chosen(*this); });
     on_select(*cmb_courses, [this] { f_new_round_func::course_selected(*this); });
     TabStrip1->before_click = [this] { return f_new_round_func::hole_tab_before_click(*this); };
     TabStrip1->clicked = [this] { f_new_round_func::hole_tab_clicked(*this); };
+    TabStrip2->clicked = [this] { f_new_round_func::page_changed(*this); };
+    on_click(*Command2, [this] { f_new_round_func::show_costs(*this); });
+    on_click(*Command4, [this] { f_new_round_func::tell_shot_by_shot(*this); });
+    for (const auto& [button, routine] : {std::pair{CommandSuiv, &f_new_round_func::next_shot},
+                                          std::pair{CommandSup, &f_new_round_func::remove_shot},
+                                          std::pair{b_carte, &f_new_round_func::finish_hole}}) {
+        on_click(*button, [this, pressed = routine] {
+            f_new_round_func::finish_typing(*this);
+            pressed(*this);
+        });
+    }
     for (const auto& [index, button] : Command1.members())
         on_click(*button, [this, pressed = index] { f_new_round_func::on_ok_cancel(*this, pressed); });
     quick_entry::watch_boxes(*this);
+}
+
+void f_new_round::saveShots()
+{
+    data_environment().rsStat_rounds.UpdateBatch();
 }
 
 void f_new_round::activated()

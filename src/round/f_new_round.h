@@ -8,6 +8,8 @@
 #include "hole_boxes.h"
 #include "TabStrip.h"
 
+class QAction;
+class QBoxLayout;
 class QComboBox;
 class QFrame;
 class QGroupBox;
@@ -19,6 +21,7 @@ class QPushButton;
 namespace verdane {
 
 class course_box;
+class data_grid;
 class temperature_box;
 
 /// The window in which a round is created, reopened, entered and saved; in English `f_new_round_en`.
@@ -29,7 +32,8 @@ class temperature_box;
 ///
 /// Making the window loads it: `rsgames`, `rsgames2`, `rscost`, `rsvrd_fields` and `rsfield_info` are
 /// open by then, with the round's rows as their current ones. Its end closes them. `Round_records.h`
-/// says how it is opened on a new round and on a stored one. The logic stands in `f_new_round_func.h`.
+/// says how it is opened on a new round and on a stored one. The logic stands in `f_new_round_func.h`,
+/// that of the detailed page in `detailed_page.h`, `shot_entry.h` and `shot_menus.h`.
 class f_new_round : public Form, public hole_boxes {
 public:
     f_new_round();
@@ -45,17 +49,42 @@ public:
     int16 last_hole = 0;
     /// There is something to save. True from the start, so that an untouched new round asks too.
     bool needSave = true;
+    /// The window closes from the detailed page; from then on only the quick page can be reached. Never
+    /// set back.
+    bool closingoK = false;
+    /// The hole that was summed up last has classified shots.
+    bool isdetailed = false;
+    /// The shot being entered is a putt.
+    bool PUT_MODE = false;
     /// The tee-off dialog is up: its end, which activates the window again, must not bring it back.
     bool choosing_date = false;
 
     TabStrip* TabStrip1 = nullptr;
+    TabStrip* TabStrip2 = nullptr;
+    data_grid* details = nullptr;
+    QPushButton* CommandSuiv = nullptr;
+    QPushButton* CommandSup = nullptr;
+    QPushButton* b_carte = nullptr;
+    QPushButton* Command4 = nullptr;
+    QPushButton* Command2 = nullptr;
+    /// The entries of the menus of `details`: clubs, kinds, yes (0) and no (1), positions, penalties.
+    control_array<QAction> ms1{u"ms1"};
+    control_array<QAction> mshots{u"mshots"};
+    control_array<QAction> mb{u"mb"};
+    control_array<QAction> ma{u"ma"};
+    control_array<QAction> mp{u"mp"};
     QComboBox* cmb_holes = nullptr;
     course_box* cmb_courses = nullptr;
     QComboBox* conditions = nullptr;
     QListWidget* pList = nullptr;
     temperature_box* UpDown1 = nullptr;
     QPushButton* b_getdat = nullptr;
+    QWidget* Frame1 = nullptr;
+    QWidget* Framedet = nullptr;
     QWidget* Frame7 = nullptr;
+    QWidget* Frame8 = nullptr;
+    /// What the frames of the pages stand in.
+    QBoxLayout* pages = nullptr;
     QLabel* l_brut = nullptr;
     QLabel* l_hand = nullptr;
     QLabel* l_net = nullptr;
@@ -70,6 +99,9 @@ public:
 
     /// Number (1 to 18) of the hole that `cmb_holes` stands on.
     int16 hole_shown() const;
+
+    /// Commits the shot that is being told.
+    void saveShots();
 
     /// What the boxes of the quick page hold.
     hole_figures figures() const override;

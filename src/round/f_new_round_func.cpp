@@ -3,10 +3,14 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "boxes.h"
 #include "course_box.h"
+#include "data_grid.h"
 #include "DataEnvironment1.h"
+#include "detailed_page.h"
+#include "f_cost.h"
 #include "f_get_date.h"
 #include "f_new_round.h"
 #include "failure_guard.h"
@@ -17,6 +21,8 @@
 #include "round_parameters.h"
 #include "Round_records.h"
 #include "round_rows.h"
+#include "shot_entry.h"
+#include "shot_menus.h"
 
 namespace verdane::f_new_round_func {
 
@@ -35,9 +41,11 @@ void unload_round_list()
 void start_values(f_new_round& window)
 {
     window.get_date_canceled = false;
+    window.closingoK = false;
     window.first_entry = true;
     window.last_hole = 0;
     window.Frame7->hide();
+    window.b_carte->hide();
     window.Label(4).setText(QStringLiteral("1"));
     window.needSave = true;
 }
@@ -75,10 +83,22 @@ void ask_tee_off(f_new_round& window)
 void open_shots()
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    if (shots.is_open())
+    if (shots.is_open()) {
+        shots.Update();
         shots.Close();
+    }
     shots.Open();
     shots.Requery();
+}
+
+/// The window is back from another one: the grid goes on where it was.
+void go_on_telling(f_new_round& window)
+{
+    const int row = window.details->currentIndex().row();
+    open_shots();
+    window.details->bound_model().move_to(row);
+    window.details->ReBind();
+    window.details->setFocus(Qt::OtherFocusReason);
 }
 
 void close_round_tables()
@@ -107,7 +127,8 @@ void follow_hole(f_new_round& window)
 {
     window.TabStrip1->select(plain(window.hole_shown()));
     window.Label(4).setText(QString::number(plain(window.hole_shown())));
-    window.Frame7->setVisible(window.hole_shown() == round_columns::hole_count);
+    for (QWidget* of_last_hole : {window.Frame7, static_cast<QWidget*>(window.b_carte)})
+        of_last_hole->setVisible(window.hole_shown() == round_columns::hole_count);
 }
 
 void drop_changes()
@@ -125,6 +146,14 @@ QMessageBox::StandardButton ask_to_save(const f_new_round& window)
                                         u"Do you want to save your changes prior to exit?"),
                          QMessageBox::NoIcon, QString(),
                          QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel});
+}
+
+void show_shots_of_hole(f_new_round& window)
+{
+    if (!open_hole_shots(window))
+        return;
+    window.details->set_Col(details_column::club);
+    window.details->setFocus(Qt::OtherFocusReason);
 }
 
 /// `cmb_holes` stands on another hole already when one is left.
@@ -146,9 +175,28 @@ void save_and_close(f_new_round& window)
 void save_and_leave(f_new_round& window)
 {
     save_round(window, true);
+    int16 removed = 0;
+    bool ok = true;
+    drop_blank_shot(window, removed, ok);
     hole_tab_before_click(window);
     Unlock_menu();
+    // The summary has changed the boxes since.
+    if (window.isdetailed)
+        save_round(window, true);
     window.unload();
+}
+
+/// What the detailed page asks before its hole is left. Whether the shots are complete is told, but only
+/// the second check, behind a blank first shot, can keep the hole.
+bool may_leave_shots(f_new_round& window)
+{
+    finish_typing(window);
+    check_shots(window);
+    summarise_hole(window);
+    int16 removed = 0;
+    bool ok = true;
+    drop_blank_shot(window, removed, ok);
+    return ok;
 }
 
 }  // namespace
@@ -182,12 +230,18 @@ void activate(f_new_round& window)
         ask_and_close(window, true);
         return;
     }
+    if (on_detailed_page(window)) {
+        go_on_telling(window);
+        return;
+    }
     open_shots();
     window.text_vrd(0).setFocus(Qt::TabFocusReason);
 }
 
-void unload(f_new_round&)
+void unload(f_new_round& window)
 {
+    window.details->unbind();
+    enable_save_and_close(true);
     finishes_without_failure(close_round_tables);
     finishes_without_failure(close_shots);
     Unlock_menu();
@@ -205,8 +259,24 @@ void hole_selected(f_new_round& window)
     refresh_score(window);
 }
 
+void hole_chosen(f_new_round& window)
+{
+    const int chosen = window.cmb_holes->currentIndex();
+    if (!on_detailed_page(window) || chosen == plain(window.last_hole)) {
+        hole_selected(window);
+        return;
+    }
+    {
+        const QSignalBlocker silence(window.cmb_holes);
+        window.cmb_holes->setCurrentIndex(plain(window.last_hole));
+    }
+    window.TabStrip1->click(chosen + 1);
+}
+
 bool hole_tab_before_click(f_new_round& window)
 {
+    if (on_detailed_page(window))
+        return may_leave_shots(window);
     window.text_vrd(0).setFocus(Qt::TabFocusReason);
     return true;
 }
@@ -220,7 +290,10 @@ void hole_tab_clicked(f_new_round& window)
     // A click on the tab of the hole on screen changes no index, and what was typed is stored all the
     // same.
     hole_selected(window);
-    window.text_vrd(0).setFocus(Qt::TabFocusReason);
+    if (on_detailed_page(window))
+        show_shots_of_hole(window);
+    else
+        window.text_vrd(0).setFocus(Qt::TabFocusReason);
     select_characters(window.text_vrd(0), 4);
 }
 
@@ -230,6 +303,12 @@ void course_selected(f_new_round& window)
     find_in_field_info(code);
     show_hole_card(window, window.hole_shown());
     refresh_panel(window, false);
+}
+
+void show_costs(f_new_round& window)
+{
+    f_cost costs([&window](const QString& total) { window.text(7).setText(total); });
+    costs.show_modal();
 }
 
 void save_round(f_new_round& window, bool silent)
@@ -251,6 +330,13 @@ void save_round(f_new_round& window, bool silent)
 
 void on_ok_cancel(f_new_round& window, int index)
 {
+    finish_typing(window);
+    if (!check_shots(window))
+        return;
+    if (on_detailed_page(window)) {
+        window.closingoK = true;
+        page_changed(window);
+    }
     if (index == ok_button) {
         save_and_leave(window);
         return;

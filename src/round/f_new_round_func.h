@@ -21,6 +21,10 @@ void unload(f_new_round& window);
 /// A hole was chosen in `cmb_holes`: stores the hole that is left, then shows the other.
 void hole_selected(f_new_round& window);
 
+/// The user chose a hole in `cmb_holes`. On the detailed page that is a click on the hole's tab, so that
+/// the shots are checked and summed up before they give way to those of the other hole.
+void hole_chosen(f_new_round& window);
+
 /// Asked before a click on a hole tab; false keeps the tab.
 bool hole_tab_before_click(f_new_round& window);
 
@@ -29,6 +33,10 @@ void hole_tab_clicked(f_new_round& window);
 
 /// Another course was chosen: the card of the hole on screen is that course's.
 void course_selected(f_new_round& window);
+
+/// Opens the twelve amounts of the round; the total that their window shows last stays in the frame of
+/// the parameters.
+void show_costs(f_new_round& window);
 
 /// Stores the hole on screen and what belongs to the round, and commits. `silent`: stores the hole
 /// that is being left, and says nothing. Refuses without a date.

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "course_box.h"
+#include "data_grid.h"
 #include "f_new_round.h"
 #include "look.h"
 #include "round_columns.h"
@@ -34,12 +35,13 @@ QWidget* make_hole_tabs(f_new_round& window)
 
 QLayout* make_pages(f_new_round& window)
 {
-    auto* pages = new QHBoxLayout;
-    pages->setSpacing(largest_tab_padding);
-    pages->addWidget(make_quick_page(window));
-    pages->addWidget(make_statistics(window), 1);
-    pages->addWidget(make_parameters(window));
-    return pages;
+    window.pages = new QHBoxLayout;
+    window.pages->setSpacing(largest_tab_padding);
+    window.pages->addWidget(make_quick_page(window));
+    window.pages->addWidget(make_statistics(window), 1);
+    window.pages->addWidget(make_detailed_page(window), 1);
+    window.pages->addWidget(make_parameters(window));
+    return window.pages;
 }
 
 QLayout* make_bottom(f_new_round& window)
@@ -68,8 +70,9 @@ void order_for_tab_key(f_new_round& window)
         }
     }
     order.insert(order.end(),
-                 {&window.Command1(4), &window.Command1(2), window.cmb_courses, window.conditions,
-                  window.UpDown1, window.pList, window.TabStrip1, window.cmb_holes, window.b_getdat});
+                 {window.details, window.CommandSuiv, window.CommandSup, window.b_carte, &window.Command1(4),
+                  &window.Command1(2), window.cmb_courses, window.conditions, window.UpDown1, window.pList,
+                  window.TabStrip2, window.Command4, window.TabStrip1, window.cmb_holes, window.b_getdat});
     for (std::size_t place = 1; place < order.size(); ++place)
         QWidget::setTabOrder(order[place - 1], order[place]);
 }
@@ -84,6 +87,7 @@ void lay_out(f_new_round& window)
     page->setSpacing(rhythm + rhythm / 2);
     page->addWidget(make_hole_tabs(window));
     page->addWidget(make_hole_bar(window));
+    page->addWidget(make_page_bar(window));
     page->addLayout(make_pages(window), 1);
     page->addLayout(make_bottom(window));
     order_for_tab_key(window);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "course_box.h"
@@ -45,6 +46,19 @@ void add_line(QVBoxLayout& frame, const QString& caption, QWidget* control)
     frame.addLayout(line);
 }
 
+/// The total of the costs and the way to the twelve amounts.
+void add_costs(f_new_round& window, QVBoxLayout& frame)
+{
+    window.Command2 = named(make_button(window.caption(u"Détails", u"Details")), u"Command2");
+    auto* costs = new QWidget;
+    auto* line = new QHBoxLayout(costs);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(rhythm);
+    line->addWidget(window.text.add(7, make_figure(money_digits)));
+    line->addWidget(window.Command2);
+    add_line(frame, window.caption(u"Coûts", u"Costs"), costs);
+}
+
 QListWidget* make_partner_list()
 {
     auto* list = named(new QListWidget, u"pList");
@@ -73,6 +87,7 @@ QLabel* add_total(QHBoxLayout& line, const QString& caption, QStringView name)
 QWidget* make_parameters(f_new_round& window)
 {
     auto* frame = named(new QGroupBox(window.caption(u"Paramètres", u"Parameters")), u"Frame8");
+    window.Frame8 = frame;
     auto* blocks = new QVBoxLayout(frame);
     blocks->setSpacing(rhythm + rhythm / 2);
     window.cmb_courses = named(new course_box, u"cmb_courses");
@@ -84,7 +99,7 @@ QWidget* make_parameters(f_new_round& window)
               window.conditions);
     add_line(*blocks, QStringLiteral("Temp. :"), window.UpDown1);
     add_block(*blocks, window.caption(u"Partenaires", u"Partners"), window.pList, 1);
-    add_line(*blocks, window.caption(u"Coûts", u"Costs"), window.text.add(7, make_figure(money_digits)));
+    add_costs(window, *blocks);
     return frame;
 }
 

@@ -60,6 +60,7 @@ QGridLayout* make_column(f_new_round& window, const Selectors& selectors)
 QWidget* make_statistics(f_new_round& window)
 {
     auto* frame = named(new QGroupBox(window.caption(u"Statistiques", u"Statistics")), u"Frame1");
+    window.Frame1 = frame;
     auto* columns = new QHBoxLayout(frame);
     columns->setSpacing(3 * rhythm);
     columns->addLayout(make_column(window, left_column), 1);

@@ -36,8 +36,7 @@ public:
         cells = named(new data_grid(model), u"grid");
         clubs = named(new choice_menu(this), u"clubs");
         for (const QString& club : {QStringLiteral("D"), QStringLiteral("F5"), QStringLiteral("F6")}) {
-            QAction* entry = clubs->addAction(club);
-            entry->setObjectName(u"club_" + club);
+            QAction* entry = clubs->add_choice(u"club_" + club, club);
             QObject::connect(entry, &QAction::triggered, this, [this, club] {
                 data_environment().rsStat_rounds.Fields(u"stick").set(club);
                 cells->ReBind();

@@ -1,0 +1,113 @@
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "data_grid.h"
+#include "details_grid.h"
+#include "f_new_round.h"
+#include "f_new_round_layout.h"
+#include "look.h"
+
+/// The detailed page: a hole told shot by shot.
+namespace verdane {
+
+namespace {
+
+QPushButton* make_command(const QString& caption, QStringView name, const QKeySequence& keys)
+{
+    QPushButton* button = named(make_button(caption), name);
+    // The button's own short cut would click a tenth of a second later.
+    QObject::connect(new QShortcut(keys, button), &QShortcut::activated, button,
+                     [button] { button->click(); });
+    button->setToolTip(keys.toString(QKeySequence::NativeText));
+    return button;
+}
+
+QLayout* make_commands(f_new_round& window)
+{
+    window.CommandSuiv = make_command(window.caption(u"Coup suivant", u"Next Shot"), u"CommandSuiv",
+                                      QKeySequence(Qt::CTRL | Qt::Key_N));
+    window.CommandSup = make_command(window.caption(u"Supprimer", u"Remove"), u"CommandSup",
+                                     QKeySequence(Qt::CTRL | Qt::Key_Delete));
+    window.b_carte =
+        make_command(window.caption(u"Fin - Rafraichir carte de pointage", u"End - Refresh Scorecard"),
+                     u"b_carte", QKeySequence(Qt::Key_F5));
+    auto* line = new QHBoxLayout;
+    line->setSpacing(rhythm);
+    line->addWidget(window.CommandSuiv);
+    line->addWidget(window.CommandSup);
+    line->addStretch();
+    line->addWidget(window.b_carte);
+    return line;
+}
+
+/// The frames that stand side by side on the quick page stand one above the other on the detailed one.
+void turn_pages(f_new_round& window, bool detailed)
+{
+    const bool across = !detailed;
+    window.pages->setDirection(across ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    auto& parameters = dynamic_cast<QBoxLayout&>(*window.Frame8->layout());
+    parameters.setDirection(across ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    for (int block = 0; block < parameters.count(); ++block)
+        parameters.itemAt(block)->setAlignment(across ? Qt::Alignment() : Qt::AlignBottom);
+    // Beside the shots the list of partners keeps to the height of a few lines.
+    window.pList->setMaximumHeight(across ? QWIDGETSIZE_MAX : window.pList->minimumHeight());
+}
+
+void show_page(f_new_round& window, bool detailed)
+{
+    window.Frame5(0).setVisible(!detailed);
+    window.Frame1->setVisible(!detailed);
+    turn_pages(window, detailed);
+    window.Framedet->setVisible(detailed);
+}
+
+}  // namespace
+
+QWidget* make_detailed_page(f_new_round& window)
+{
+    auto* frame = named(new QGroupBox(window.caption(u"Coups", u"Shots")), u"Framedet");
+    window.Framedet = frame;
+    window.details = make_details(window);
+    set_up_columns(window);
+    // While it is hidden for a moment, nothing around it jumps.
+    QSizePolicy policy = window.details->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    window.details->setSizePolicy(policy);
+    auto* lines = new QVBoxLayout(frame);
+    lines->setSpacing(rhythm);
+    lines->addWidget(window.details, 1);
+    lines->addLayout(make_commands(window));
+    frame->hide();
+    return frame;
+}
+
+QWidget* make_page_bar(f_new_round& window)
+{
+    auto* bar = new QWidget;
+    auto* line = new QHBoxLayout(bar);
+    line->setContentsMargins(0, 0, 0, 0);
+    window.TabStrip2 = named(new TabStrip, u"TabStrip2");
+    window.TabStrip2->addTab(window.caption(u"Entrée rapide", u"Quick entry"));
+    window.TabStrip2->addTab(window.caption(u"Entrée détaillée", u"Detailed Entry"));
+    window.Command4 = named(make_button(QStringLiteral("Cliquer pour détailler votre ronde")), u"Command4");
+    line->addWidget(window.TabStrip2);
+    line->addStretch();
+    line->addWidget(window.Command4);
+    return bar;
+}
+
+void show_quick_page(f_new_round& window)
+{
+    show_page(window, false);
+}
+
+void show_detailed_page(f_new_round& window)
+{
+    show_page(window, true);
+}
+
+}  // namespace verdane

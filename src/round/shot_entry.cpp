@@ -1,0 +1,290 @@
+#include "shot_entry.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "boxes.h"
+#include "data_grid.h"
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "failure_guard.h"
+#include "hole_boxes.h"
+#include "numbers.h"
+#include "round_columns.h"
+#include "round_rows.h"
+#include "shot_rows.h"
+#include "shot_words.h"
+
+namespace verdane::f_new_round_func {
+
+namespace {
+
+namespace at = shot_rows;
+
+constexpr int club_column = 2;
+constexpr int distance_column = 3;
+
+Recordset& shots()
+{
+    return data_environment().rsStat_rounds;
+}
+
+void tell_incomplete(const f_new_round& window, const QString& behind)
+{
+    tell(window.caption(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",
+                        u"Please indicate a golf club and the type of shot (VRD) for the shot") +
+             behind,
+         QMessageBox::Critical);
+}
+
+/// The card of the hole whose shots are loaded. That is the hole on screen, except on the quick page,
+/// where the hole may have changed since its shots were opened.
+Round_functions::hole_card card_of_shots(const f_new_round& window)
+{
+    const int16 shown = window.hole_shown();
+    if (!shot_rows::is_loaded(window.date_value, shown) && !shots().empty())
+        return Round_functions::read_hole_card(to_int16(shots().value_at(0, at::hole).toDouble()));
+    return {figure_of_box(window.text(39).text()), figure_of_box(window.text(0).text()),
+            figure_of_box(window.text(38).text())};
+}
+
+/// What every new shot starts with: in the fairway, without a penalty.
+void start_row(const f_new_round& window, int number, int16 distance)
+{
+    const int16 length = figure_of_box(window.text(39).text());
+    shots().AddNew();
+    shots().Fields(at::faireway).set(position_words[0].in(window.french()));
+    shots().Fields(at::fairval).set(in_the_fairway);
+    shots().Fields(at::date).set(window.date_value);
+    shots().Fields(at::hole).set(window.hole_shown());
+    shots().Fields(at::shot).set(number);
+    shots().Fields(at::before).set(distance);
+    shots().Fields(at::verges).set(length);
+}
+
+void reopen()
+{
+    shots().Update();
+    shots().Close();
+    shots().Open();
+}
+
+void add_first_row(const f_new_round& window)
+{
+    start_row(window, 1, figure_of_box(window.text(39).text()));
+    reopen();
+}
+
+/// The hole has lost all its shots: it shows a blank one again.
+void start_hole_again(f_new_round& window)
+{
+    window.details->unbind();
+    add_first_row(window);
+    window.details->bind();
+    shots().MoveFirst();
+    window.details->ReBind();
+}
+
+/// Each step is tried, whatever became of the one before.
+void load_rows(const QString& statement)
+{
+    finishes_without_failure([] { shots().Update(); });
+    finishes_without_failure([] { shots().Close(); });
+    shots().set_Source(statement);
+    finishes_without_failure([] {
+        shots().Open();
+        shots().Requery();
+    });
+}
+
+bool last_is_putt()
+{
+    return !shots().empty() &&
+           to_int16(shots().value_at(shots().RecordCount() - 1, at::shot_type_value).toDouble()) == putt;
+}
+
+bool stands_on_blank_top(const f_new_round& window)
+{
+    return window.details->Row() == 0 && (shots().Fields(at::shot_type_value).int16_or_zero() == 0 ||
+                                          shots().Fields(at::stickval).int16_or_zero() == 0);
+}
+
+void remove_row()
+{
+    shots().Delete();
+    shots().UpdateBatch();
+    if (!shots().empty())
+        shots().MoveFirst();
+}
+
+/// What the check writes and where it leaves the cursor. The number of the incomplete shot, or 0.
+int walk_shots(const f_new_round& window)
+{
+    shot_list rows = shot_rows::read();
+    if (rows.empty())
+        return 0;
+    const shots_check found = verdane::check_shots(rows, card_of_shots(window).yards, units_of_interface());
+    shot_rows::write(rows);
+    if (found.ok)
+        shots().MoveLast();
+    else
+        shots().MoveTo(found.incomplete - 1);
+    return found.incomplete;
+}
+
+void make_putt()
+{
+    shots().Fields(at::shot_type).set(kind_words[putt - 1].in(is_french));
+    shots().Fields(at::shot_type_value).set(putt);
+    shots().Fields(at::stick).set(putter_word.toString());
+    shots().Fields(at::stickval).set(putter);
+    shots().Fields(at::unit).set(units_of_interface().feet);
+    shots().Fields(at::faireway).set(blank_word.toString());
+    shots().Fields(at::fairval).set(0);
+}
+
+void add_shot(f_new_round& window, int16 distance)
+{
+    start_row(window, shots().RecordCount() + 1, distance);
+    shots().Fields(at::normal).set(figure_of_box(window.text(38).text()));
+    if (window.PUT_MODE)
+        make_putt();
+    shots().MoveLast();
+    window.details->ReBind();
+    window.details->set_Col(window.PUT_MODE ? distance_column : club_column);
+    window.details->setFocus(Qt::OtherFocusReason);
+}
+
+void show_summary(f_new_round& window, const hole_summary& summary)
+{
+    const auto show = [](QLineEdit& box, int16 value) { box.setText(QString::number(plain(value))); };
+    for (int penalty = 1; penalty <= 4; ++penalty)
+        show(window.text_s(penalty + 7), summary.penalties[penalty].count);
+    show(window.text_p(3), summary.fairway);
+    show(window.text_p(4), summary.sand);
+    show(window.text_p(5), summary.missed);
+    show(window.text_p(6), summary.recovery);
+    for (int kind = long_shot; kind <= putt; ++kind)
+        show(window.text_vrd(kind - 1), summary.kinds[kind].count);
+}
+
+void note_putt_lengths(const f_new_round& window, const hole_summary& summary)
+{
+    const int hole = plain(window.hole_shown());
+    for (int i = 0; i < lengths_kept; ++i)
+        data_environment()
+            .rsgames2.Fields(round_columns::putt_len(hole, i + 1))
+            .set(summary.putt_lengths[static_cast<std::size_t>(i)]);
+}
+
+}  // namespace
+
+bool open_hole_shots(f_new_round& window)
+{
+    if (window.date_value.isEmpty()) {
+        tell(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
+                            u"Please enter the round's date."),
+             QMessageBox::Critical);
+        return false;
+    }
+    window.details->hide();
+    window.details->unbind();
+    load_rows(shot_rows::statement_of_hole(window.date_value, window.hole_shown()));
+    if (shots().empty())
+        add_first_row(window);
+    shots().MoveFirst();
+    window.details->bind();
+    window.details->show();
+    return true;
+}
+
+bool check_shots(f_new_round& window)
+{
+    if (!shot_rows::a_hole_is_loaded())
+        return true;
+    int incomplete = 0;
+    finishes_without_failure([&] { incomplete = walk_shots(window); });
+    window.details->ReBind();
+    if (incomplete == 0)
+        return true;
+    tell_incomplete(window, u' ' + QString::number(incomplete));
+    return false;
+}
+
+void drop_blank_shot(f_new_round& window, int16& removed, bool& ok)
+{
+    const bool blank = shot_rows::a_hole_is_loaded() && stands_on_blank_top(window);
+    if (blank) {
+        remove_row();
+        window.details->ReBind();
+    } else {
+        if (shot_rows::a_hole_is_loaded() && shots().is_open() && !shots().empty()) {
+            shots().MoveFirst();
+            shots().Fields(at::normal).set(card_of_shots(window).par);
+        }
+        ok = check_shots(window);
+    }
+    if (removed != 0)
+        removed = blank ? 1 : 0;
+}
+
+void next_shot(f_new_round& window)
+{
+    if (shots().empty()) {
+        start_hole_again(window);
+        return;
+    }
+    shots().MoveLast();
+    shot_list rows = shot_rows::read();
+    const next_shot_plan plan = plan_next_shot(rows, units_of_interface());
+    if (plan.refused) {
+        window.details->ReBind();
+        tell_incomplete(window, QString());
+        window.details->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    window.PUT_MODE = plan.PUT_MODE;
+    shot_rows::write(rows);
+    finish_hole(window);
+    add_shot(window, plan.distance);
+}
+
+void remove_shot(f_new_round& window)
+{
+    if (!shot_rows::on_a_row()) {
+        tell(window.caption(u"Choisissez le coup que vous voulez supprimer.",
+                            u"Please select the shot you wish to remove."),
+             QMessageBox::Critical);
+        return;
+    }
+    remove_row();
+    window.details->ReBind();
+    if (!shots().empty())
+        check_shots(window);
+    window.PUT_MODE = last_is_putt();
+}
+
+void finish_hole(f_new_round& window)
+{
+    int16 removed = 0;
+    bool ok = true;
+    drop_blank_shot(window, removed, ok);
+    summarise_hole(window);
+    if (shots().empty())
+        start_hole_again(window);
+}
+
+void summarise_hole(f_new_round& window)
+{
+    if (!shot_rows::is_loaded(window.date_value, window.hole_shown()))
+        return;
+    shot_list rows = shot_rows::read();
+    const hole_summary summary = summarise(rows);
+    shot_rows::write(rows);
+    window.details->ReBind();
+    show_summary(window, summary);
+    window.isdetailed = summary.isdetailed;
+    note_putt_lengths(window, summary);
+}
+
+}  // namespace verdane::f_new_round_func

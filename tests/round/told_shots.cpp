@@ -1,0 +1,175 @@
+#include "told_shots.h"
+
+#include <QImage>
+
+#include "language.h"
+#include "round_columns.h"
+
+namespace verdane::testing {
+
+namespace {
+
+constexpr int clubs = 14;
+
+QString club_word(int club)
+{
+    if (club == 1)
+        return QStringLiteral("D");
+    if (club == 13)
+        return QStringLiteral("SW");
+    return club == clubs ? QStringLiteral("Pu") : QStringLiteral("F%1").arg(club);
+}
+
+QString kind_word(int kind)
+{
+    return QStringList{QString(), QStringLiteral("Long"),
+                       is_french ? QStringLiteral("Approche") : QStringLiteral("Approach"),
+                       QStringLiteral("Putt")}
+        .at(kind);
+}
+
+QString shown(const QVariant& value)
+{
+    return value.isNull() ? QStringLiteral("-") : value.toString();
+}
+
+QString marks(const std::vector<QVariant>& row)
+{
+    QString marks;
+    if (row[10].toInt() != 1 && row[8].toInt() != 3)
+        marks += u" fairway=" + row[10].toString();
+    if (row[11].toInt() != 0)
+        marks += QStringLiteral(" penalty=%1+%2").arg(row[11].toInt()).arg(row[12].toInt());
+    const QStringList words{QStringLiteral(" missed"), QStringLiteral(" sand"), QStringLiteral(" zero"),
+                            QStringLiteral(" beyond"), QStringLiteral(" cal")};
+    for (int i = 0; i < words.size(); ++i) {
+        if (row[static_cast<std::size_t>(13 + i)].toInt() != 0)
+            marks += words[i];
+    }
+    return marks;
+}
+
+QString figures(const round_store& store, const QString& table, const QList<int>& ordinals)
+{
+    QStringList texts;
+    for (const int ordinal : ordinals)
+        texts << store.at(table, ordinal);
+    return texts.join(u' ');
+}
+
+}  // namespace
+
+void name_the_clubs(const round_store& store)
+{
+    for (int club = 1; club <= clubs; ++club)
+        store.store.write(
+            QStringLiteral("update sticknames set club_%1 = '%2'").arg(club).arg(club_word(club)));
+}
+
+void go_to_detailed_page(hand& user)
+{
+    user.click_tab(QStringLiteral("TabStrip2"), 2);
+    user.wait_until(QStringLiteral("the shots"), [&] { return true; });
+    user.check(user.visible(details), QStringLiteral("the grid is in sight"));
+}
+
+void go_to_quick_page(hand& user)
+{
+    user.click_tab(QStringLiteral("TabStrip2"), 1);
+}
+
+QString stored_shots(const round_store& store, int hole)
+{
+    const auto rows = store.store.rows(
+        QStringLiteral("select shot, before, after, unit, stick, stickval, shot_type, date, shot_type_value, "
+                       "faireway, fairval, penval, addpen, missed, ts, dz, beyong_hole, cal from Stat_rounds "
+                       "where hole = %1 order by rowid")
+            .arg(hole));
+    QStringList lines;
+    for (const auto& row : rows) {
+        lines << QStringLiteral("%1 %2>%3 %4 %5/%6 %7/%8")
+                         .arg(shown(row[0]), shown(row[1]), shown(row[2]), shown(row[3]), shown(row[4]),
+                              shown(row[5]), shown(row[6]), shown(row[8])) +
+                     marks(row);
+    }
+    return lines.join(u'\n');
+}
+
+void add_shot(const round_store& store, int hole, int shot, const QString& values)
+{
+    store.store.write(QStringLiteral("insert into Stat_rounds (date, hole, shot) values ('%1', %2, %3)")
+                          .arg(key_of_keyed_round())
+                          .arg(hole)
+                          .arg(shot));
+    store.store.write(QStringLiteral("update Stat_rounds set %1 where hole = %2 and shot = %3")
+                          .arg(values)
+                          .arg(hole)
+                          .arg(shot));
+}
+
+void add_told_shot(const round_store& store, int hole, int shot, int club, int after, const QString& unit,
+                   int kind)
+{
+    add_shot(store, hole, shot,
+             QStringLiteral("stickval = %1, stick = '%2', after = %3, unit = '%4', shot_type_value = %5, "
+                            "shot_type = '%6', fairval = 1, verges = %7, before = 0")
+                 .arg(club)
+                 .arg(club_word(club))
+                 .arg(after)
+                 .arg(unit)
+                 .arg(kind)
+                 .arg(kind_word(kind))
+                 .arg(100 + hole));
+}
+
+void tell_shot(hand& user, int row, int club, const QString& distance, int kind)
+{
+    user.open_menu(details, row, 2);
+    user.choose_menu_entry(QStringLiteral("ms1_%1").arg(club));
+    if (!distance.isEmpty()) {
+        user.type(distance);
+        user.key(Qt::Key_Return);
+    }
+    if (kind == 0)
+        return;
+    user.open_menu(details, row, 5);
+    user.choose_menu_entry(QStringLiteral("mshots_%1").arg(kind));
+}
+
+QString stored_figures(const round_store& store, int hole)
+{
+    namespace at = round_columns;
+    return figures(store, QStringLiteral("games"),
+                   {at::long_h(hole), at::approach_h(hole), at::putt_h(hole)}) +
+           u' ' + figures(store, QStringLiteral("games2"), {at::fairway_h(hole), at::sand_h(hole)}) + u' ' +
+           store.at(QStringLiteral("games"), at::missed_h(hole)) + u' ' +
+           store.at(QStringLiteral("games2"), at::recovery_h(hole)) + u' ' +
+           figures(
+               store, QStringLiteral("games"),
+               {at::pen_water_h(hole), at::pen_lost_h(hole), at::pen_rule_h(hole), at::pen_bounds_h(hole)});
+}
+
+QString stored_putts(const round_store& store, int hole)
+{
+    QList<int> ordinals;
+    for (int putt = 1; putt <= round_columns::putts_kept; ++putt)
+        ordinals << round_columns::putt_len(hole, putt);
+    return figures(store, QStringLiteral("games2"), ordinals);
+}
+
+expected_box refusal_of_shot(const QString& behind)
+{
+    return {in_language(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",
+                        u"Please indicate a golf club and the type of shot (VRD) for the shot") +
+                behind,
+            QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok};
+}
+
+void keep_picture(hand& user, const QString& name)
+{
+    const QString folder = qEnvironmentVariable("VERDANE_PICTURES");
+    if (!folder.isEmpty())
+        user.picture(round_window()).save(QStringLiteral("%1/%2.png").arg(folder, name));
+}
+
+}  // namespace verdane::testing

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "hand.h"
+#include "round_windows.h"
+
+/// What the tests of the detailed page share.
+namespace verdane::testing {
+
+inline const QString details = QStringLiteral("details");
+
+/// "D" for club 1, "F2" to "F12", "SW", and "Pu" for the putter.
+void name_the_clubs(const round_store& store);
+
+/// Clicks the tab of the detailed page and waits for its grid.
+void go_to_detailed_page(hand& user);
+void go_to_quick_page(hand& user);
+
+/// One shot as it stands in the store: "1 101>60 Verges D/1 Long/1" is shot 1, from 101 to 60 yards.
+/// Marks follow where they are set: " fairway=2", " penalty=1+1" (code and strokes), " missed", " sand",
+/// " zero", " beyond", " cal".
+QString stored_shots(const round_store& store, int hole);
+
+/// Puts a told shot into the store. `values` are "COLUMN=VALUE, ..." beside key, hole and number.
+void add_shot(const round_store& store, int hole, int shot, const QString& values);
+/// A complete shot: club, distance left, unit, kind (1 to 3).
+void add_told_shot(const round_store& store, int hole, int shot, int club, int after, const QString& unit,
+                   int kind);
+
+/// Tells the shot of the cursor's row with the mouse: club (1 to 14), distance and kind; 0 leaves the
+/// kind as it is.
+void tell_shot(hand& user, int row, int club, const QString& distance, int kind);
+
+/// The figures of a hole in the store: long, approach, putts, fairway, sand, missed, recovery, water,
+/// lost, rule, bounds.
+QString stored_figures(const round_store& store, int hole);
+/// The six lengths of a hole's putts in the store.
+QString stored_putts(const round_store& store, int hole);
+
+expected_box refusal_of_shot(const QString& behind = {});
+void keep_picture(hand& user, const QString& name);
+
+}  // namespace verdane::testing
