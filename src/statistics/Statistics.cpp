@@ -110,8 +110,20 @@ bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress&
     return true;
 }
 
-/// False when there is nothing to print.
-bool fill_table(const selection_arguments& chosen, run_progress& bar)
+}  // namespace
+
+filled_lines fill_round_lines(const selection_arguments& chosen)
+{
+    open_round_tables(chosen);
+    round_sums sums;
+    const missing_row missing = walk_selected_rounds(chosen, [&] { add_current_round(sums); });
+    if (missing == missing_row::none)
+        stats_table::write_round_lines(sums);
+    close_round_tables();
+    return {missing, sums.rounds};
+}
+
+bool fill_stats(const selection_arguments& chosen, run_progress& bar)
 {
     // The table is scratch: each run rebuilds it with hundreds of commits.
     const relaxed_commits scratch(data_environment().connection);
@@ -129,23 +141,10 @@ bool fill_table(const selection_arguments& chosen, run_progress& bar)
     return finish_table(chosen, filled.rounds, bar);
 }
 
-}  // namespace
-
-filled_lines fill_round_lines(const selection_arguments& chosen)
-{
-    open_round_tables(chosen);
-    round_sums sums;
-    const missing_row missing = walk_selected_rounds(chosen, [&] { add_current_round(sums); });
-    if (missing == missing_row::none)
-        stats_table::write_round_lines(sums);
-    close_round_tables();
-    return {missing, sums.rounds};
-}
-
 void round_statistics(const selection_arguments& chosen, const run_controls& window)
 {
     run_progress bar(window.Status);
-    if (!fill_table(chosen, bar))
+    if (!fill_stats(chosen, bar))
         return;
     prepare_report(window.cr2, report_opening::maximised(), u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt");
     window.cr2.Action(report_control::run_now);

@@ -11,6 +11,10 @@ namespace verdane::Statistics {
 /// left open.
 void round_statistics(const selection_arguments& chosen, const run_controls& window);
 
+/// The same up to the finished table, without the report. False when there is nothing to print; the
+/// user has been told why.
+bool fill_stats(const selection_arguments& chosen, run_progress& bar);
+
 struct filled_lines {
     missing_row missing = missing_row::none;
     int16 rounds = 0;
