@@ -12,7 +12,7 @@ constexpr int putter = 14;
 constexpr std::array<int, putter - 1> carry{225, 210, 200, 190, 180, 170, 160, 150, 140, 130, 115, 95, 70};
 /// From here on a shot aims at the green.
 constexpr int approach_range = 120;
-constexpr int green_radius = 11;
+constexpr int green_radius = 10;
 constexpr int most_putts = 6;
 
 /// The weakest club that carries that far, the driver when none does.

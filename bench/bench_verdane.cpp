@@ -1,0 +1,45 @@
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <vector>
+
+#include "pair_reporter.h"
+#include "pairs.h"
+#include "start_up.h"
+
+namespace {
+
+/// What holds unless the command line says otherwise: the repetitions of all measurements in random
+/// order, so that a busy moment of the machine meets a measurement and its floor alike.
+std::vector<char*> with_defaults(int argc, char** argv)
+{
+    static char random_order[] = "--benchmark_enable_random_interleaving=true";
+    static char repetitions[] = "--benchmark_repetitions=15";
+    static char shortest[] = "--benchmark_min_time=0.5";
+    std::vector<char*> words{argv[0], random_order, repetitions, shortest};
+    words.insert(words.end(), argv + 1, argv + argc);
+    return words;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    verdane::prepare_application(application);
+    std::vector<char*> words = with_defaults(argc, argv);
+    int count = static_cast<int>(words.size());
+    benchmark::Initialize(&count, words.data());
+    if (benchmark::ReportUnrecognizedArguments(count, words.data()))
+        return 1;
+    verdane::bench::register_start();
+    verdane::bench::register_round_list();
+    verdane::bench::register_hole();
+    verdane::bench::register_statistics();
+    verdane::bench::pair_reporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}

@@ -1,0 +1,29 @@
+#include <QApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <cstdlib>
+
+#include "first_paint.h"
+
+/// The least that a program with a window and a store can do: open the file, ask it something, paint. With
+/// a word as second argument the window shows that word, which makes the toolkit load its letters.
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QSqlDatabase store = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+    store.setDatabaseName(QString::fromLocal8Bit(argc > 1 ? argv[1] : ""));
+    QSqlQuery rounds(store);
+    if (!store.open() || !rounds.exec(QStringLiteral("select count(*) from games")) || !rounds.next())
+        return EXIT_FAILURE;
+    QMainWindow window;
+    window.resize(1200, 800);
+    if (argc > 2)
+        window.setCentralWidget(new QLabel(QString::fromLocal8Bit(argv[2])));
+    window.setObjectName(QStringLiteral("empty"));
+    verdane::bench::end_when_painted(window.objectName(), 1);
+    window.show();
+    return QApplication::exec();
+}

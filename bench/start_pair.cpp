@@ -1,0 +1,85 @@
+#include <QCoreApplication>
+#include <QFile>
+#include <QStringList>
+
+#include <benchmark/benchmark.h>
+
+#include <spawn.h>
+#include <sys/wait.h>
+
+#include <vector>
+
+#include "diaries.h"
+#include "pairs.h"
+#include "stopwatch.h"
+
+extern char** environ;
+
+/// From nothing to a painted main window, against an empty window that opens the same file; and on to
+/// the moment in which the program rests.
+namespace verdane::bench {
+
+namespace {
+
+/// Starts a program that stands beside this one and waits for its end. False when it failed.
+bool run_to_its_end(const char* program, const QStringList& arguments)
+{
+    std::vector<QByteArray> texts{
+        QFile::encodeName(QCoreApplication::applicationDirPath() + u'/' + QLatin1String(program))};
+    for (const QString& argument : arguments)
+        texts.push_back(QFile::encodeName(argument));
+    std::vector<char*> words;
+    for (QByteArray& text : texts)
+        words.push_back(text.data());
+    words.push_back(nullptr);
+    pid_t process = 0;
+    int status = 0;
+    return posix_spawn(&process, words.front(), nullptr, nullptr, words.data(), environ) == 0 &&
+           waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+void time_start(benchmark::State& state, const char* program, const QStringList& arguments)
+{
+    const QByteArray home = QFile::encodeName(diaries_of_run().data_home());
+    qputenv("XDG_DATA_HOME", home);
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", home);
+    for (auto _ : state) {
+        const stopwatch watch;
+        if (!run_to_its_end(program, arguments))
+            state.SkipWithError("the program did not come to its window");
+        state.SetIterationTime(watch.seconds());
+    }
+}
+
+void start(benchmark::State& state)
+{
+    time_start(state, "timed_start_verdane", {QStringLiteral("shown")});
+}
+
+void start_settled(benchmark::State& state)
+{
+    time_start(state, "timed_start_verdane", {QStringLiteral("settled")});
+}
+
+void start_floor(benchmark::State& state)
+{
+    time_start(state, "timed_start_empty", {diaries_of_run().full()});
+}
+
+void start_of_one_word(benchmark::State& state)
+{
+    time_start(state, "timed_start_empty", {diaries_of_run().full(), QStringLiteral("Verdane")});
+}
+
+}  // namespace
+
+void register_start()
+{
+    register_timed("start", start);
+    register_timed("start_floor", start_floor);
+    register_timed("start_settled", start_settled);
+    register_timed("start_of_one_word", start_of_one_word);
+}
+
+}  // namespace verdane::bench

@@ -1,0 +1,19 @@
+#include <QApplication>
+
+#include <cstring>
+
+#include "first_paint.h"
+#include "start_up.h"
+
+/// The program, up to the moment in which its main window has painted itself; with "settled", up to
+/// the moment in which its picture is there too and the whole store was looked through.
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    verdane::prepare_application(application);
+    if (argc > 1 && std::strcmp(argv[1], "settled") == 0)
+        verdane::bench::end_when_painted(QStringLiteral("Picture2"), 2);
+    else
+        verdane::bench::end_when_painted(QStringLiteral("MainForm"), 1);
+    return verdane::run_verdane(application);
+}
