@@ -4,9 +4,11 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include "Connection1.h"
 #include "reader.h"
+#include "report_document.h"
 
 namespace verdane::testing {
 
@@ -79,6 +81,37 @@ QString pdf_fact(const QString& path, const QString& word)
         if (line.startsWith(word))
             return line.section(u':', 1).trimmed();
     return {};
+}
+
+QStringList printed_pages(const QString& name)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("report.pdf"));
+    render_report(built_template(name))->save_pdf(path);
+    QStringList pages = pdf_pages(path);
+    for (QString& page : pages)
+        page = page.simplified();
+    return pages;
+}
+
+QStringList csv_lines(const QString& name)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("report.csv"));
+    render_report(built_template(name))->save_csv(path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    QStringList lines =
+        QString::fromUtf8(file.readAll()).remove(QChar::ByteOrderMark).split(QStringLiteral("\r\n"));
+    lines.removeLast();
+    return lines;
+}
+
+QString without_blanks(QString text)
+{
+    text.removeIf([](QChar character) { return character.isSpace(); });
+    return text;
 }
 
 void fill_stats(const QString& store, int rounds, const QString& course)

@@ -19,6 +19,14 @@ QStringList pdf_pages(const QString& path);
 /// The line that `pdfinfo` has for a word ("Page size").
 QString pdf_fact(const QString& path, const QString& word);
 
+/// A report of the program's own templates as it leaves the program: the text of each page of its PDF
+/// file, with single blanks, and the lines of its CSV file.
+QStringList printed_pages(const QString& name);
+QStringList csv_lines(const QString& name);
+
+/// A text without any blank: what stands close together on a page comes out of a PDF file without one.
+QString without_blanks(QString text);
+
 /// Gives every line of `stats` figures: hole h of line r holds `r + h`, line 9 holds a tenth of it
 /// and line 20 nothing; the totals are sums. The texts of the selection say `rounds` rounds.
 void fill_stats(const QString& store, int rounds, const QString& course);

@@ -1,0 +1,99 @@
+#include <QTest>
+
+#include "invented_rows.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+class test_card_report : public QObject {
+    Q_OBJECT
+
+    store_folder store_;
+
+private Q_SLOTS:
+    void init()
+    {
+        set_report_store(store_.path());
+        fill_card(store_.path(), u"A & B <c>"_s);
+    }
+
+    void the_card_is_one_page_of_holes_and_club_distances_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("texts");
+        const QString yards = u" 310 320 330 340 350 360 370 380 390 3150 "_s;
+        const QString back = u" 400 410 420 430 440 450 460 470 480 3960 7110"_s;
+        QTest::newRow("French") << u"r_card2.rpt"_s
+                                << QStringList{u"Trou 1 2 3 4 5 6 7 8 9 Aller Trou 10 11"_s,
+                                               u"18 Retour Total"_s,
+                                               u"Verges"_s + yards + u"Verges"_s + back,
+                                               u"Handicap 1 2 3 4 5 6 7 8 9 Handicap 10"_s,
+                                               u"Normale 4 4 3 4 4 4 4 4 5 36 Normale 4 4 3"_s,
+                                               u"5 36 72"_s,
+                                               u"Distances des bâtons"_s,
+                                               u"Terte Moyenne Difficulté Normale Verges"_s,
+                                               u"BLANC 75,2 139 72 7110"_s};
+        QTest::newRow("English") << u"r_card2_en.rpt"_s
+                                 << QStringList{u"Hole 1 2 3 4 5 6 7 8 9 Out Hole 10 11"_s,
+                                                u"18 In Total"_s,
+                                                u"Yards"_s + yards + u"Yards"_s + back,
+                                                u"Par 4 4 3 4 4 4 4 4 5 36 Par 4 4 3"_s,
+                                                u"Club distances"_s,
+                                                u"Teeing Area Rating Slope Par Yards"_s,
+                                                u"BLANC 75.2 139 72 7110"_s};
+    }
+    void the_card_is_one_page_of_holes_and_club_distances()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, texts);
+        const QStringList pages = printed_pages(name);
+        QCOMPARE(pages.size(), 1);
+        for (const QString& text : texts)
+            QVERIFY2(pages.front().contains(text), qPrintable(text + u" in "_s + pages.front()));
+        QCOMPARE(pages.front().count(u"A & B <c>"_s), 3);
+    }
+
+    void thirteen_clubs_stand_on_the_card_and_the_putter_does_not()
+    {
+        const QString page = printed_pages(u"r_card2_en.rpt"_s).front();
+        QVERIFY(page.contains(u"1W 230"_s));
+        QVERIFY(page.contains(u"LW 110"_s));
+        QVERIFY(!page.contains(u"Pu "_s));
+    }
+
+    void without_figures_the_card_keeps_quiet()
+    {
+        fill_card(store_.path(), u"Links"_s, figures::none);
+        const QString page = printed_pages(u"r_card2_en.rpt"_s).front();
+        QVERIFY(page.contains(u"Yards · · · · · · · · · · Yards"_s));
+        QVERIFY(page.contains(u"1W ·"_s));
+        QVERIFY(!page.contains(u" 0 "_s));
+    }
+
+    void the_longest_name_and_the_highest_figures_stay_on_the_page()
+    {
+        fill_card(store_.path(), u"Links"_s, figures::extreme);
+        const QStringList pages = printed_pages(u"r_card2_en.rpt"_s);
+        QCOMPARE(pages.size(), 1);
+        QVERIFY(pages.front().contains(u"Honourable Company Of Invented Golf Courses, Variable White"_s));
+        QVERIFY(pages.front().contains(u"294903 589806"_s));
+    }
+
+    void the_figures_file_lists_holes_then_clubs()
+    {
+        const QStringList lines = csv_lines(u"r_card2_en.rpt"_s);
+        QCOMPARE(lines.size(), 1 + 18 + 13);
+        QCOMPARE(lines[0], u"Line,Yards,Handicap,Par"_s);
+        QCOMPARE(lines[1], u"Hole 1,310,1,4"_s);
+        QCOMPARE(lines[18], u"Hole 18,480,18,5"_s);
+        QCOMPARE(lines[19], u"1W,230,,"_s);
+        QCOMPARE(csv_lines(u"r_card2.rpt"_s).at(1), u"Trou 1;310;1;4"_s);
+    }
+};
+
+QTEST_MAIN(test_card_report)
+#include "test_card_report.moc"

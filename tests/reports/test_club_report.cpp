@@ -1,0 +1,99 @@
+#include <QTest>
+
+#include "invented_rows.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+class test_club_report : public QObject {
+    Q_OBJECT
+
+    store_folder store_;
+
+private Q_SLOTS:
+    void init()
+    {
+        set_report_store(store_.path());
+        fill_clubs(store_.path());
+    }
+
+    void the_heading_holds_the_selection_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("texts");
+        const QStringList shared{u"A & B <c>"_s,           u"Zoé, Sept"_s,           u"Ciel variable"_s,
+                                 u"2023-05-06 08:30:00"_s, u"2024-10-13 13:40:00"_s, u"12 780"_s};
+        QTest::newRow("French") << u"r_statSticks.rpt"_s
+                                << shared + QStringList{u"Statistiques des bâtons"_s, u"Nombre de rondes"_s,
+                                                        u"verges"_s, u"Gauche Allée Droite"_s,
+                                                        u"Page 1 de 1"_s};
+        QTest::newRow("English") << u"r_statSticks_en.rpt"_s
+                                 << shared + QStringList{u"Club Statistics"_s, u"Number of rounds"_s,
+                                                         u"yards"_s, u"Left Fairway Right"_s,
+                                                         u"Page 1 of 1"_s};
+    }
+    void the_heading_holds_the_selection()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, texts);
+        const QStringList pages = printed_pages(name);
+        QCOMPARE(pages.size(), 1);
+        for (const QString& text : texts)
+            QVERIFY2(pages.front().contains(text), qPrintable(text + u" in "_s + pages.front()));
+    }
+
+    void the_heading_that_is_french_in_both_languages_is_not_printed()
+    {
+        for (const QString& name : {u"r_statSticks.rpt"_s, u"r_statSticks_en.rpt"_s})
+            QVERIFY(!printed_pages(name).front().contains(u"STATISTIQUES SUR"_s));
+    }
+
+    void each_club_has_its_line_in_the_order_of_the_bag()
+    {
+        // Shots, average, longest; left, fairway, right; missed, penalties, holed.
+        const QString page = printed_pages(u"r_statSticks_en.rpt"_s).front();
+        qsizetype at = 0;
+        for (const QString& line :
+             {u"Club1 10 270.5 290 16.6 50.0 33.3 8.3 4.0 ·"_s,
+              u"Club10 100 180.5 200 16.6 50.0 33.3 8.3 4.0 2.0"_s, u"Club12 120 – 180 16.6"_s,
+              u"Club13 · · · · · · · · ·"_s, u"Club14 · · ·"_s}) {
+            at = page.indexOf(line, at);
+            QVERIFY2(at >= 0, qPrintable(line + u" in "_s + page));
+        }
+        QVERIFY(printed_pages(u"r_statSticks.rpt"_s).front().contains(u"Club1 10 270,5 290 16,6 50,0"_s));
+    }
+
+    void without_a_shot_the_names_and_the_heading_are_printed()
+    {
+        fill_clubs(store_.path(), figures::none);
+        const QString page = printed_pages(u"r_statSticks_en.rpt"_s).front();
+        for (int club = 1; club <= 14; ++club)
+            QVERIFY(page.contains(u"Club%1 · · · · · · · · ·"_s.arg(club)));
+    }
+
+    void extreme_figures_stay_on_one_page()
+    {
+        fill_clubs(store_.path(), figures::extreme);
+        const QStringList pages = printed_pages(u"r_statSticks_en.rpt"_s);
+        QCOMPARE(pages.size(), 1);
+        QVERIFY(pages.front().contains(u"Club1 32767 32767.0 32767 · 100.0 · 0.0 100.0 100.0"_s));
+    }
+
+    void the_figures_file_has_numbers()
+    {
+        const QStringList lines = csv_lines(u"r_statSticks_en.rpt"_s);
+        QCOMPARE(lines.size(), 15);
+        QCOMPARE(lines[0], u"Club,Shots,Longest (yards),Average (yards),Fairway %,Left %,Right %,Missed %,"
+                           u"Penalties %,Holed %"_s);
+        QCOMPARE(lines[1], u"Club1,10,290,270.5,50,16.6,33.3,8.33,4,0"_s);
+        QCOMPARE(lines[12], u"Club12,120,180,,50,16.6,33.3,8.33,4,2"_s);
+        QVERIFY(csv_lines(u"r_statSticks.rpt"_s).at(1).startsWith(u"Club1;10;290;270,5;50;16,6;33,3;"_s));
+    }
+};
+
+QTEST_MAIN(test_club_report)
+#include "test_club_report.moc"

@@ -1,0 +1,121 @@
+#include <QTest>
+
+#include "invented_rows.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+class test_cost_report : public QObject {
+    Q_OBJECT
+
+    store_folder store_;
+
+private Q_SLOTS:
+    void init() { set_report_store(store_.path()); }
+
+    void one_round_is_its_own_total_and_mean_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("texts");
+        const QString line = u"2023-06-01 09:30 60 · · · 5 · · · · · · · 65 100"_s;
+        const QString total = u"Total 60 · · · 5 · · · · · · · 65 100"_s;
+        QTest::newRow("French") << u"r_cost3.rpt"_s
+                                << QStringList{u"Statistiques des coûts"_s,
+                                               u"Nombre de rondes"_s,
+                                               u"Frais de jeu 60 60,00 1 92,3"_s,
+                                               u"Balles 5 5,00 1 7,7"_s,
+                                               line + u",0"_s,
+                                               total,
+                                               u"en $, à l’unité près"_s,
+                                               u"Moyenne par ronde 60,00 · · · 5,00"_s,
+                                               u"Page 1 de 1"_s};
+        QTest::newRow("English") << u"r_cost3_en.rpt"_s
+                                 << QStringList{u"Cost Statistics"_s,
+                                                u"Number of rounds"_s,
+                                                u"Green Fees 60 60.00 1 92.3"_s,
+                                                u"Balls 5 5.00 1 7.7"_s,
+                                                line + u".0"_s,
+                                                total,
+                                                u"in $, without decimals"_s,
+                                                u"Mean per round 60.00 · · · 5.00"_s,
+                                                u"Page 1 of 1"_s};
+    }
+    void one_round_is_its_own_total_and_mean()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, texts);
+        fill_costs(store_.path(), 1);
+        const QStringList pages = printed_pages(name);
+        QCOMPARE(pages.size(), 1);
+        for (const QString& text : texts)
+            QVERIFY2(pages.front().contains(text), qPrintable(text + u" in "_s + pages.front()));
+    }
+
+    void a_year_of_rounds_goes_over_pages_that_each_have_the_head_and_whole_rows()
+    {
+        fill_costs(store_.path(), 366);
+        const QStringList pages = printed_pages(u"r_cost3_en.rpt"_s);
+        QVERIFY(pages.size() > 5);
+        int rounds = 0;
+        for (qsizetype page = 0; page < pages.size(); ++page) {
+            QVERIFY(pages[page].contains(u"Page %1 of %2"_s.arg(page + 1).arg(pages.size())));
+            QVERIFY(pages[page].contains(u"Golf Clubs"_s) && pages[page].contains(u"Share %"_s));
+            rounds += static_cast<int>(pages[page].count(u" 09:30 "_s));
+        }
+        QCOMPARE(rounds, 366);
+        // 183 rounds at 65 and 183 at 85.
+        QVERIFY(pages.last().contains(u"Total 25,620 · · · 1,830 · · · · · · · 27,450 100"_s) ||
+                pages.last().contains(u"Total 25,620 · · · 1830 · · · · · · · 27,450 100"_s));
+        QVERIFY(pages.last().contains(u"Mean per round 70.00 · · · 5.00 · · · · · · · 75.00"_s));
+        QVERIFY(pages.first().contains(u"2023-06-01 2024-05-31 366 27,450 75.00"_s));
+    }
+
+    void the_rounds_stand_in_time_order()
+    {
+        fill_costs(store_.path(), 3);
+        const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
+        const qsizetype table = page.indexOf(u"Share %"_s, page.indexOf(u"By round"_s));
+        QVERIFY(table > 0);
+        QVERIFY(page.indexOf(u"2023-06-01 09:30 60"_s, table) <
+                page.indexOf(u"2023-06-02 09:30 80"_s, table));
+        QVERIFY(page.indexOf(u"2023-06-02 09:30 80"_s, table) <
+                page.indexOf(u"2023-06-03 09:30 60"_s, table));
+    }
+
+    void rounds_that_cost_nothing_print_quiet_zeros()
+    {
+        fill_costs(store_.path(), 2, figures::none);
+        const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
+        QVERIFY(page.contains(u"2023-06-02 09:30 · · · · · · · · · · · · · ·"_s));
+        QVERIFY(page.contains(u"Green Fees · · · ·"_s));
+    }
+
+    void an_empty_table_still_is_a_page() { QCOMPARE(printed_pages(u"r_cost3.rpt"_s).size(), 1); }
+
+    void the_highest_amounts_are_printed_whole()
+    {
+        fill_costs(store_.path(), 2, figures::extreme);
+        const QStringList pages = printed_pages(u"r_cost3_en.rpt"_s);
+        QCOMPARE(pages.size(), 1);
+        QVERIFY(pages.front().contains(u"2147483647 2147483647 25,769,803,764 50.0"_s));
+        QVERIFY(pages.front().contains(u"51,539,607,528"_s));
+    }
+
+    void the_figures_file_has_every_round()
+    {
+        fill_costs(store_.path(), 366);
+        const QStringList lines = csv_lines(u"r_cost3_en.rpt"_s);
+        QCOMPARE(lines.size(), 367);
+        QCOMPARE(lines[0],
+                 u"Date,Time,Green Fees,Hand Cart,Golf Cart,Transportation costs,Balls,Tees,Practice "
+                 u"Range,Food,Golf Lessons,Golf Clubs and Bag,Clothes,Other,Total"_s);
+        QCOMPARE(lines[2], u"2023-06-02,09:30,80,0,0,0,5,0,0,0,0,0,0,0,85"_s);
+    }
+};
+
+QTEST_MAIN(test_cost_report)
+#include "test_cost_report.moc"

@@ -1,0 +1,105 @@
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+#include "drawing_texts.h"
+
+using namespace verdane;
+using namespace Qt::StringLiterals;
+
+class test_drawing_texts : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_text_takes_what_the_elements_around_it_say()
+    {
+        const parted_drawing parted = with_texts_apart(
+            u"<svg viewBox=\"0 0 100 50\" font-family=\"A B, 'C'\" font-size=\"12\" fill=\"#010203\">"
+            "<g transform=\"translate(10 20)\" font-weight=\"bold\"><text x=\"1\" y=\"2\" "
+            "text-anchor=\"end\">"
+            "one &amp; &lt;two&gt;</text></g><text x=\"3\" y=\"4\" font-size=\"7\" fill=\"red\"> three "
+            "</text>"
+            "</svg>"_s);
+        QCOMPARE(parted.texts.size(), std::size_t(2));
+        const drawing_text& first = parted.texts[0];
+        QCOMPARE(first.words, u"one & <two>"_s);
+        QCOMPARE(first.base, QPointF(11, 22));
+        QCOMPARE(first.anchor, Qt::Alignment(Qt::AlignRight));
+        QCOMPARE(first.families, (QStringList{u"A B"_s, u"C"_s}));
+        QCOMPARE(first.size, 12.0);
+        QVERIFY(first.bold);
+        QCOMPARE(first.ink, QColor(1, 2, 3));
+        const drawing_text& second = parted.texts[1];
+        QCOMPARE(second.words, u"three"_s);
+        QCOMPARE(second.base, QPointF(3, 4));
+        QCOMPARE(second.size, 7.0);
+        QVERIFY(!second.bold);
+        QCOMPARE(second.ink, QColor(Qt::red));
+    }
+
+    void all_but_the_texts_stays_in_the_drawing()
+    {
+        const parted_drawing parted = with_texts_apart(
+            u"<svg viewBox=\"0 0 9 9\"><g fill=\"red\"><rect x=\"1\"/><text>a</text><path d=\"M0 0\"/></g></svg>"_s);
+        QVERIFY(parted.svg.contains(u"<rect x=\"1\""_s) && parted.svg.contains(u"<path d=\"M0 0\""_s));
+        QVERIFY(parted.svg.contains(u"<g fill=\"red\">"_s) && parted.svg.contains(u"viewBox=\"0 0 9 9\""_s));
+        QVERIFY(!parted.svg.contains(u"text"_s));
+    }
+
+    void what_cannot_be_set_as_letters_stays_a_drawing_data()
+    {
+        QTest::addColumn<QString>("svg");
+        QTest::newRow("turned")
+            << u"<svg viewBox=\"0 0 9 9\"><g transform=\"rotate(90)\"><text>a</text></g></svg>"_s;
+        QTest::newRow("scaled, further out") << u"<svg viewBox=\"0 0 9 9\"><g transform=\"scale(2)\"><g "
+                                                u"transform=\"translate(1)\"><text>a</text>"
+                                                "</g></g></svg>"_s;
+        QTest::newRow("no units of its own") << u"<svg width=\"9mm\" height=\"9mm\"><text>a</text></svg>"_s;
+    }
+    void what_cannot_be_set_as_letters_stays_a_drawing()
+    {
+        QFETCH(QString, svg);
+        const parted_drawing parted = with_texts_apart(svg);
+        QVERIFY(parted.texts.empty());
+        QVERIFY(parted.svg.contains(u"<text>a</text>"_s));
+    }
+
+    void an_anchor_holds_the_text_at_its_start_middle_or_end_data()
+    {
+        QTest::addColumn<int>("anchor");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("last");
+        // A row of full blocks, 40 units of a drawing that is painted twice as large.
+        QTest::newRow("start") << int(Qt::AlignLeft) << 100 << 200;
+        QTest::newRow("middle") << int(Qt::AlignHCenter) << 40 << 160;
+        QTest::newRow("end") << int(Qt::AlignRight) << 0 << 100;
+    }
+    void an_anchor_holds_the_text_at_its_start_middle_or_end()
+    {
+        QFETCH(int, anchor);
+        QFETCH(int, first);
+        QFETCH(int, last);
+        QImage paper(200, 60, QImage::Format_RGB32);
+        paper.fill(Qt::white);
+        QPainter painter(&paper);
+        drawing_text text;
+        text.words = u"HHHH"_s;
+        text.base = {50, 20};
+        text.anchor = Qt::Alignment::fromInt(anchor);
+        paint_texts(painter, {text}, QRectF(0, 0, 100, 30), QRectF(0, 0, 200, 60));
+        painter.end();
+        int left = 200;
+        int right = -1;
+        for (int x = 0; x < 200; ++x)
+            for (int y = 0; y < 60; ++y)
+                if (qGray(paper.pixel(x, y)) < 128) {
+                    left = qMin(left, x);
+                    right = qMax(right, x);
+                }
+        QVERIFY(right > left + 20);
+        QVERIFY2(left >= first && right <= last, qPrintable(u"%1 to %2"_s.arg(left).arg(right)));
+    }
+};
+
+QTEST_MAIN(test_drawing_texts)
+#include "test_drawing_texts.moc"

@@ -1,0 +1,125 @@
+#include <QTest>
+
+#include "invented_rows.h"
+#include "reader.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+class test_putt_report : public QObject {
+    Q_OBJECT
+
+    store_folder store_;
+
+private Q_SLOTS:
+    void init()
+    {
+        set_report_store(store_.path());
+        fill_putts(store_.path());
+    }
+
+    void the_heading_and_the_bands_stand_in_the_language_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("texts");
+        const QStringList shared{u"A & B <c>"_s,           u"Zoé, Sept"_s,           u"Ciel variable"_s,
+                                 u"2023-05-06 08:30:00"_s, u"2024-10-13 13:40:00"_s, u"First axis"_s,
+                                 u"Axis after"_s,          u"Second axis after"_s};
+        QTest::newRow("French") << u"statPuts.rpt"_s
+                                << shared +
+                                       QStringList{
+                                           u"Statistiques des coups roulés"_s,
+                                           u"Nombre de rondes"_s,
+                                           u"(pieds)"_s,
+                                           u"50 et plus 40 à 49 30 à 39 20 à 29 10 à 19 5 à 9 moins de 5"_s,
+                                           u"25 et plus 20 à 24 15 à 19 10 à 14 5 à 9 2 à 4 0 ou 1"_s,
+                                           u"2,25 MOYEN"_s,
+                                           u"Page 1 de 1"_s};
+        QTest::newRow("English")
+            << u"statPuts_en.rpt"_s
+            << shared + QStringList{u"Putt Statistics"_s,
+                                    u"Number of rounds"_s,
+                                    u"(feet)"_s,
+                                    u"50 or more 40 to 49 30 to 39 20 to 29 10 to 19 5 to 9 below 5"_s,
+                                    u"25 or more 20 to 24 15 to 19 10 to 14 5 to 9 2 to 4 0 or 1"_s,
+                                    u"2.25 MOYEN"_s,
+                                    u"Page 1 of 1"_s};
+    }
+    void the_heading_and_the_bands_stand_in_the_language()
+    {
+        QFETCH(QString, name);
+        QFETCH(QStringList, texts);
+        const QStringList pages = printed_pages(name);
+        QCOMPARE(pages.size(), 1);
+        for (const QString& text : texts)
+            QVERIFY2(without_blanks(pages.front()).contains(without_blanks(text)),
+                     qPrintable(text + u" in "_s + pages.front()));
+    }
+
+    void both_tables_are_printed_with_sums_and_means()
+    {
+        const QString page = printed_pages(u"statPuts_en.rpt"_s).front();
+        for (const QString& line :
+             {u"1 putt 1 2 3 4 5 6 7 28"_s, u"5 putts 5 10 15 20 25 30 35 140"_s,
+              u"Holes 15 30 45 60 75 90 105 420"_s,
+              u"Mean per hole 1.11 2.22 3.33 4.44 5.55 6.66 7.77 2.50"_s,
+              u"50 or more 1 · 4 % 2 · 7 % 3 · 11 % 4 · 14 % 5 · 18 % 6 · 21 % 7 · 25 % 28"_s,
+              u"below 5 7 · 4 % 14 · 7 %"_s, u"Putts 28 56 84 112 140 168 196 784"_s})
+            QVERIFY2(without_blanks(page).contains(without_blanks(line)),
+                     qPrintable(line + u" in "_s + page));
+        QVERIFY(printed_pages(u"statPuts.rpt"_s).front().contains(u"Moyenne par trou 1,11 2,22 3,33"_s));
+    }
+
+    void one_round_has_its_own_heading_and_its_words_on_the_first_line()
+    {
+        make_one_round_putts(store_.path());
+        const QString page = printed_pages(u"statPuts_en.rpt"_s).front();
+        QVERIFY(page.contains(u"Round : 2024-05-01 Pebble Beach"_s));
+        QVERIFY(page.contains(u"Weather conditions : Sunny"_s));
+        QVERIFY(page.contains(u"2.25 Average"_s));
+        // What an earlier run left in the other columns says nothing about this round.
+        QVERIFY(!page.contains(u"Zoé, Sept"_s));
+        QVERIFY(!page.contains(u"Number of rounds"_s));
+    }
+
+    void without_putts_the_words_stand_alone_above_quiet_zeros()
+    {
+        fill_putts(store_.path(), figures::none);
+        const QString page = printed_pages(u"statPuts_en.rpt"_s).front();
+        QVERIFY(page.contains(u"1 putt · · · · · · · ·"_s));
+        QVERIFY(page.contains(u"Mean per hole · · · · · · · ·"_s));
+        QVERIFY(page.contains(u"N/A"_s));
+    }
+
+    void the_score_without_words_prints_alone()
+    {
+        reader(store_.path())
+            .write(
+                QStringList{u"update s_put2 set weighted_mean = ' 3.7', rating_text = '' where rowid = 7"_s});
+        QVERIFY(printed_pages(u"statPuts_en.rpt"_s).front().contains(u"3.70"_s));
+    }
+
+    void extreme_figures_stay_on_one_page()
+    {
+        fill_putts(store_.path(), figures::extreme);
+        const QStringList pages = printed_pages(u"statPuts_en.rpt"_s);
+        QCOMPARE(pages.size(), 1);
+        QVERIFY(pages.front().contains(u"163835 1146845"_s));
+    }
+
+    void the_figures_file_has_both_tables()
+    {
+        const QStringList lines = csv_lines(u"statPuts_en.rpt"_s);
+        QCOMPARE(lines.size(), 1 + 5 + 1 + 7);
+        QCOMPARE(lines[1], u"Putts by the length of the first (feet),1,1,2,3,4,5,6,7"_s);
+        QVERIFY(lines[6].startsWith(u"Mean,,1.11,2.22,3.33"_s));
+        QCOMPARE(lines[13], u"Where the putts stop that start from (feet) below 5,7,7,14,21,28,35,42,49"_s);
+    }
+};
+
+QTEST_MAIN(test_putt_report)
+#include "test_putt_report.moc"

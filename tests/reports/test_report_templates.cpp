@@ -1,0 +1,235 @@
+#include <QDir>
+#include <QFile>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+#include "invented_rows.h"
+#include "report_document.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+#include "template_file.h"
+#include "template_tags.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList reports{u"r_statSticks"_s, u"Stat_rounds"_s, u"r_cost3"_s, u"statPuts"_s, u"r_card2"_s};
+
+void each_report()
+{
+    QTest::addColumn<QString>("report");
+    for (const QString& report : reports)
+        QTest::newRow(qPrintable(report)) << report;
+}
+
+void each_template()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString& report : reports)
+        for (const QString& twin : {QString(), u"_en"_s})
+            QTest::newRow(qPrintable(report + twin)) << report + twin;
+}
+
+QStringList tags_of(const template_file& source)
+{
+    QStringList tags;
+    for (const template_tag& tag : find_tags(source.body, source.at(source.body_line)))
+        tags.append(tag.kind + tag.name);
+    return tags;
+}
+
+/// The markup without the words between it; where a caption breaks is a matter of its words.
+QStringList markup_of(const template_file& source)
+{
+    static const QRegularExpression markup(u"<[^>]*>"_s);
+    QStringList found;
+    auto matches = markup.globalMatch(source.body);
+    while (matches.hasNext())
+        found.append(matches.next().captured());
+    found.removeAll(u"<br>"_s);
+    return found;
+}
+
+QStringList queries_of(const template_file& source)
+{
+    QStringList names;
+    for (const template_query& query : source.queries)
+        names.append(query.name + u' ' + report_snapshot::parameters_of(query).join(u','));
+    return names;
+}
+
+/// Every letter of a page, sorted: which of two neighbours comes first in a PDF file may hang on a hair.
+QString letters_of(const QString& page)
+{
+    QString letters = without_blanks(page);
+    std::sort(letters.begin(), letters.end());
+    return letters;
+}
+
+double ink_on(const QImage& page)
+{
+    qint64 inked = 0;
+    for (int y = 0; y < page.height(); ++y)
+        for (int x = 0; x < page.width(); ++x)
+            inked += qGray(page.pixel(x, y)) < 250 ? 1 : 0;
+    return double(inked) / (double(page.width()) * page.height());
+}
+
+/// A page as it is kept for comparison: small and grey, so that a hair's difference is none.
+QImage small_page(const report_document& document, int page)
+{
+    return document.page_image(page, 40).convertToFormat(QImage::Format_Grayscale8);
+}
+
+/// The largest difference between two pages in one of their squares, in shades of grey.
+double difference(const QImage& one, const QImage& other)
+{
+    constexpr int square = 12;
+    if (one.size() != other.size())
+        return 255;
+    double largest = 0;
+    for (int top = 0; top + square <= one.height(); top += square)
+        for (int left = 0; left + square <= one.width(); left += square) {
+            int sum = 0;
+            for (int y = top; y < top + square; ++y)
+                for (int x = left; x < left + square; ++x)
+                    sum += qGray(one.pixel(x, y)) - qGray(other.pixel(x, y));
+            largest = qMax(largest, qAbs(double(sum)) / (square * square));
+        }
+    return largest;
+}
+
+}  // namespace
+
+class test_report_templates : public QObject {
+    Q_OBJECT
+
+    store_folder store_;
+    QTemporaryDir folder_;
+
+    void print(const QString& name, QPageSize::PageSizeId paper, const QString& path)
+    {
+        const auto document = render_report(built_template(name + u".rpt"_s));
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        printer.setPageSize(QPageSize(paper));
+        printer.setPageOrientation(document->page_size_mm().width() > document->page_size_mm().height()
+                                       ? QPageLayout::Landscape
+                                       : QPageLayout::Portrait);
+        document->print(printer);
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        set_report_store(store_.path());
+        fill_stats(store_.path(), 40, u"Links"_s);
+        fill_card(store_.path(), u"Links"_s);
+        fill_putts(store_.path());
+        fill_clubs(store_.path());
+        fill_costs(store_.path(), 60);
+    }
+
+    void the_twins_differ_in_words_only_data() { each_report(); }
+    void the_twins_differ_in_words_only()
+    {
+        QFETCH(QString, report);
+        const template_file french = read_template(built_template(report + u".rpt"_s));
+        const template_file english = read_template(built_template(report + u"_en.rpt"_s));
+        QCOMPARE(english.paper, french.paper);
+        QCOMPARE(english.landscape, french.landscape);
+        QCOMPARE(english.margins, french.margins);
+        QCOMPARE(english.font_points, french.font_points);
+        QCOMPARE(english.csv_query, french.csv_query);
+        QCOMPARE(queries_of(english), queries_of(french));
+        QCOMPARE(tags_of(english), tags_of(french));
+        QCOMPARE(markup_of(english), markup_of(french));
+        QCOMPARE(french.csv_separator, QChar(u';'));
+        QCOMPARE(english.csv_separator, QChar(u','));
+        QVERIFY(english.title != french.title);
+    }
+
+    void the_twins_find_the_same_rows_data() { each_report(); }
+    void the_twins_find_the_same_rows()
+    {
+        QFETCH(QString, report);
+        const template_file french = read_template(built_template(report + u".rpt"_s));
+        const template_file english = read_template(built_template(report + u"_en.rpt"_s));
+        const report_snapshot french_rows(french);
+        const report_snapshot english_rows(english);
+        for (std::size_t i = 0; i < french.queries.size(); ++i) {
+            const report_rows one = french_rows.rows(french.queries[i], {});
+            const report_rows other = english_rows.rows(english.queries[i], {});
+            QVERIFY2(one.rows.size() == other.rows.size(), qPrintable(french.queries[i].name));
+            QCOMPARE(one.columns.size(), other.columns.size());
+        }
+    }
+
+    void a_page_has_room_on_both_papers_unshrunk_data() { each_template(); }
+    void a_page_has_room_on_both_papers_unshrunk()
+    {
+        QFETCH(QString, name);
+        const template_file source = read_template(built_template(name + u".rpt"_s));
+        const QSizeF inside = QRectF(QPointF(), source.page_size_mm()).marginsRemoved(source.margins).size();
+        QVERIFY(qMax(inside.width(), inside.height()) <= 267);
+        QVERIFY(qMin(inside.width(), inside.height()) <= 198);
+    }
+
+    void a_report_prints_the_same_on_a4_and_on_letter_data() { each_template(); }
+    void a_report_prints_the_same_on_a4_and_on_letter()
+    {
+        QFETCH(QString, name);
+        const QString a4 = folder_.filePath(u"a4.pdf"_s);
+        const QString letter = folder_.filePath(u"letter.pdf"_s);
+        print(name, QPageSize::A4, a4);
+        print(name, QPageSize::Letter, letter);
+        const QStringList pages = pdf_pages(a4);
+        QCOMPARE(pdf_pages(letter).size(), pages.size());
+        for (qsizetype page = 0; page < pages.size(); ++page)
+            QCOMPARE(letters_of(pdf_pages(letter)[page]), letters_of(pages[page]));
+        const QString size = pdf_fact(letter, u"Page size"_s);
+        QVERIFY2(size.startsWith(u"792 x 612"_s) || size.startsWith(u"612 x 792"_s), qPrintable(size));
+    }
+
+    void there_is_ink_on_every_page_data() { each_template(); }
+    void there_is_ink_on_every_page()
+    {
+        QFETCH(QString, name);
+        const auto document = render_report(built_template(name + u".rpt"_s));
+        for (int page = 0; page < document->page_count(); ++page) {
+            const double ink = ink_on(document->page_image(page, 50));
+            QVERIFY2(ink > 0.03 && ink < 0.7, qPrintable(u"page %1: %2"_s.arg(page).arg(ink)));
+        }
+    }
+
+    /// Run with VERDANE_KEEP_PAGES set, this writes the pictures instead; look at them before they are
+    /// committed.
+    void each_page_looks_as_it_did_when_it_was_last_looked_at_data() { each_template(); }
+    void each_page_looks_as_it_did_when_it_was_last_looked_at()
+    {
+        QFETCH(QString, name);
+        const auto document = render_report(built_template(name + u".rpt"_s));
+        for (int page = 0; page < document->page_count(); ++page) {
+            const QImage seen = small_page(*document, page);
+            const QString path = QStringLiteral(VERDANE_LOOKED_AT "/%1-%2.png").arg(name).arg(page + 1);
+            if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
+                QVERIFY(QDir().mkpath(QStringLiteral(VERDANE_LOOKED_AT)) && seen.save(path));
+            const QImage kept(path);
+            QVERIFY2(!kept.isNull(), qPrintable(path));
+            const double shades = difference(seen, kept);
+            QVERIFY2(shades < 12, qPrintable(u"page %1 differs by %2 shades"_s.arg(page + 1).arg(shades)));
+        }
+    }
+};
+
+QTEST_MAIN(test_report_templates)
+#include "test_report_templates.moc"
