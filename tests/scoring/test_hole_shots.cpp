@@ -1,0 +1,210 @@
+#include <QTest>
+
+#include "failures.h"
+#include "hole_shots.h"
+#include "language.h"
+#include "shot_tables.h"
+#include "shot_words.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const unit_words french_units{QStringLiteral("Pieds"), QStringLiteral("Verges")};
+constexpr std::int16_t hole_length = 300;
+
+void table_of_checks()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+}
+
+}  // namespace
+
+class test_hole_shots : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void units_are_read_in_both_languages_and_written_in_one()
+    {
+        for (const QStringView word : {u"Pieds", u"Feets"})
+            QVERIFY(is_feet_word(word) && !is_yards_word(word));
+        for (const QStringView word : {u"Verges", u"Yards"})
+            QVERIFY(is_yards_word(word) && !is_feet_word(word));
+        for (const QStringView word : {u"", u"pieds", u"Feet", u"Yard"})
+            QVERIFY(!is_yards_word(word) && !is_feet_word(word));
+        is_french = false;
+        QCOMPARE(units_of_interface().feet, QStringLiteral("Feets"));
+        QCOMPARE(units_of_interface().yards, QStringLiteral("Yards"));
+        is_french = true;
+        QCOMPARE(units_of_interface().feet, QStringLiteral("Pieds"));
+        QCOMPARE(units_of_interface().yards, QStringLiteral("Verges"));
+    }
+
+    void the_check_settles_the_rows_data()
+    {
+        table_of_checks();
+        QTest::newRow("no row") << ""
+                                << "";
+        QTest::newRow("numbers and distances are carried on") << "L1 120 Verges\nA9 20 Verges"
+                                                              << "1: 300>120 Verges\n2: 120>20 Verges";
+        QTest::newRow("an empty distance is 0, an empty unit that of the kind")
+            << "L1 120 -\nA9 - -\nP14 - -"
+            << "1: 300>120 Verges\n2: 120>0 Pieds\n3: 0>0 Pieds";
+        QTest::newRow("the shot ahead of the first putt turns to feet, the carried distance does not")
+            << "L1 30 Verges\nP14 0 Pieds"
+            << "1: 300>90 Pieds\n2: 30>0 Pieds";
+        QTest::newRow("feet stay feet") << "L1 90 Pieds\nP14 0 Pieds"
+                                        << "1: 300>90 Pieds\n2: 90>0 Pieds";
+        QTest::newRow("a row of the other language turns, too") << "L1 30 Yards\nP14 0 Feets"
+                                                                << "1: 300>90 Pieds\n2: 30>0 Feets";
+        QTest::newRow("a row in feet of the other language does not turn again")
+            << "L1 90 Feets\nP14 0 Pieds"
+            << "1: 300>90 Feets\n2: 90>0 Pieds";
+        QTest::newRow("a putt in yards ahead of a putt turns like any shot")
+            << "A9 15 Pieds\nP14 2 Verges\nP14 0 Pieds"
+            << "1: 300>15 Pieds\n2: 15>6 Pieds\n3: 2>0 Pieds";
+        QTest::newRow("only the row right ahead turns") << "L1 50 Verges\nA9 10 Verges\nP14 3 Pieds"
+                                                        << "1: 300>50 Verges\n2: 50>30 Pieds\n3: 10>3 Pieds";
+        QTest::newRow("holed from off the green") << "L1 60 Verges\nA9 0 Verges"
+                                                  << "1: 300>60 Verges\n2: 60>0 Verges cal";
+        QTest::newRow("the mark of a holed shot never goes") << "L1 60 Verges cal"
+                                                             << "1: 300>60 Verges cal";
+        QTest::newRow("a last shot in feet that is no putt goes back to yards")
+            << "L1 60 Verges\nA9 90 Pieds"
+            << "1: 300>60 Verges\n2: 60>30 Verges";
+        QTest::newRow("to the nearest whole yard, down") << "A9 91 Feets"
+                                                         << "1: 300>30 Verges";
+        QTest::newRow("to the nearest whole yard, up") << "A9 92 Pieds"
+                                                       << "1: 300>31 Verges";
+        QTest::newRow("nothing left in feet is holed, in yards") << "A9 0 Pieds"
+                                                                 << "1: 300>0 Verges cal";
+        QTest::newRow("a single putt") << "P14 6 Pieds"
+                                       << "1: 300>6 Pieds";
+        QTest::newRow("a shot off the green behind a putt keeps what stands ahead")
+            << "A9 90 Pieds\nP14 10 Pieds\nA9 5 Verges\nP14 0 Pieds"
+            << "1: 300>90 Pieds\n2: 90>10 Pieds\n3: 10>15 Pieds\n4: 5>0 Pieds";
+    }
+    void the_check_settles_the_rows()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        shot_list rows = shots_of(before);
+        const shots_check found = check_shots(rows, hole_length, french_units);
+        QVERIFY(found.ok);
+        QCOMPARE(found.incomplete, 0);
+        QCOMPARE(lines_of(rows), after);
+    }
+
+    void the_check_stops_at_the_first_shot_that_is_not_told_data()
+    {
+        table_of_checks();
+        QTest::addColumn<int>("number");
+        QTest::newRow("a blank hole") << "-0 - -"
+                                      << "1: 300>0 Verges" << 1;
+        QTest::newRow("no kind") << "L1 60 Verges\n-9 20 -\nP14 0 Verges"
+                                 << "1: 300>60 Verges\n2: 60>20 Verges\n-: ->0 Verges" << 2;
+        QTest::newRow("no club") << "L1 60 Verges\nA0 20 Verges"
+                                 << "1: 300>60 Verges\n2: 60>20 Verges" << 2;
+        QTest::newRow("a putt without its club turns nothing") << "A9 10 Verges\nP0 - -"
+                                                               << "1: 300>10 Verges\n2: 10>0 Pieds" << 2;
+        QTest::newRow("what stands ahead is settled") << "A9 10 Verges\nP14 2 Pieds\n-0 - -"
+                                                      << "1: 300>30 Pieds\n2: 10>2 Pieds\n3: 2>0 Verges" << 3;
+    }
+    void the_check_stops_at_the_first_shot_that_is_not_told()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QFETCH(int, number);
+        shot_list rows = shots_of(before);
+        const shots_check found = check_shots(rows, hole_length, french_units);
+        QVERIFY(!found.ok);
+        QCOMPARE(found.incomplete, number);
+        QCOMPARE(lines_of(rows), after);
+    }
+
+    void a_second_check_converts_nothing_more()
+    {
+        shot_list rows = shots_of(QStringLiteral("L1 30 Verges\nP14 4 Pieds\nP14 0 Pieds"));
+        check_shots(rows, hole_length, french_units);
+        check_shots(rows, hole_length, french_units);
+        QCOMPARE(lines_of(rows), QStringLiteral("1: 300>90 Pieds\n2: 90>4 Pieds\n3: 4>0 Pieds"));
+    }
+
+    void a_distance_that_is_too_far_in_feet_fails()
+    {
+        shot_list rows = shots_of(QStringLiteral("L1 10923 Verges\nP14 0 Pieds"));
+        QCOMPARE(failure_of([&] { check_shots(rows, hole_length, french_units); }), failure_kind::overflow);
+        rows = shots_of(QStringLiteral("L1 10922 Verges\nP14 0 Pieds"));
+        QVERIFY(check_shots(rows, hole_length, french_units).ok);
+        QCOMPARE(plain(*rows[0].after), 32766);
+    }
+
+    void the_next_shot_is_refused_behind_an_unfinished_one_data()
+    {
+        QTest::addColumn<QString>("rows");
+        QTest::newRow("no kind") << "-1 60 Verges";
+        QTest::newRow("no club") << "L0 60 Verges";
+        QTest::newRow("no distance") << "L1 - Verges";
+        QTest::newRow("holed") << "A9 10 Verges\nP14 0 Pieds";
+    }
+    void the_next_shot_is_refused_behind_an_unfinished_one()
+    {
+        QFETCH(QString, rows);
+        shot_list shots = shots_of(rows);
+        const QString before = lines_of(shots);
+        QVERIFY(plan_next_shot(shots, french_units).refused);
+        QCOMPARE(lines_of(shots), before);
+    }
+
+    void the_next_shot_prepares_the_rows_ahead_data()
+    {
+        table_of_checks();
+        QTest::addColumn<bool>("putt_follows");
+        QTest::addColumn<int>("distance");
+        QTest::newRow("behind a drive") << "L1 60 Verges"
+                                        << "-: ->60 Verges" << false << 60;
+        QTest::newRow("an empty unit is filled") << "L1 60 -"
+                                                 << "-: ->60 Verges" << false << 60;
+        QTest::newRow("of a putt, too") << "P14 6 -"
+                                        << "-: ->6 Pieds" << true << 6;
+        QTest::newRow("the shot ahead of a putt turns to feet") << "A9 10 Verges\nP14 6 Pieds"
+                                                                << "-: ->30 Pieds\n-: ->6 Pieds" << true << 6;
+        QTest::newRow("once only") << "A9 30 Feets\nP14 6 Pieds"
+                                   << "-: ->30 Pieds\n-: ->6 Pieds" << true << 6;
+        QTest::newRow("without a unit it was in yards") << "A9 10 -\nP14 6 Pieds"
+                                                        << "-: ->30 Pieds\n-: ->6 Pieds" << true << 6;
+        QTest::newRow("a putt ahead of a putt takes the word only")
+            << "P14 10 Verges\nP14 6 Pieds"
+            << "-: ->10 Pieds\n-: ->6 Pieds" << true << 6;
+        QTest::newRow("the shot ahead of any other takes the yards, its distance as it is")
+            << "A9 30 Pieds\nA9 6 Verges"
+            << "-: ->30 Verges\n-: ->6 Verges" << false << 6;
+    }
+    void the_next_shot_prepares_the_rows_ahead()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QFETCH(bool, putt_follows);
+        QFETCH(int, distance);
+        shot_list rows = shots_of(before);
+        const next_shot_plan plan = plan_next_shot(rows, french_units);
+        QVERIFY(!plan.refused);
+        QCOMPARE(plan.PUT_MODE, putt_follows);
+        QCOMPARE(plain(plan.distance), distance);
+        QCOMPARE(lines_of(rows), after);
+    }
+
+    void a_putt_loses_its_position_when_the_next_shot_comes()
+    {
+        shot_list rows = shots_of(QStringLiteral("P14 6 Pieds"));
+        plan_next_shot(rows, french_units);
+        QCOMPARE(plain(rows[0].fairval), 0);
+        QCOMPARE(rows[0].faireway, QStringLiteral(" "));
+    }
+};
+
+QTEST_APPLESS_MAIN(test_hole_shots)
+
+#include "test_hole_shots.moc"

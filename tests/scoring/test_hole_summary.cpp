@@ -1,0 +1,132 @@
+#include <QTest>
+
+#include "failures.h"
+#include "hole_shots.h"
+#include "shot_tables.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+/// "long approach putts | fairway sand missed recovery | water lost rules bounds"
+QString figures_of(const hole_summary& sum)
+{
+    const auto kind = [&sum](int which) { return QString::number(plain(sum.kinds[which].count)); };
+    const auto penalty = [&sum](int which) { return QString::number(plain(sum.penalties[which].count)); };
+    const auto number = [](int16 count) { return QString::number(plain(count)); };
+    return QStringList{kind(1), kind(2), kind(3)}.join(u' ') + u" | " +
+           QStringList{number(sum.fairway), number(sum.sand), number(sum.missed), number(sum.recovery)}.join(
+               u' ') +
+           u" | " + QStringList{penalty(1), penalty(2), penalty(3), penalty(4)}.join(u' ');
+}
+
+QString putts_of(const hole_summary& sum)
+{
+    QStringList lengths;
+    for (const int16 length : sum.putt_lengths)
+        lengths << QString::number(plain(length));
+    return lengths.join(u' ');
+}
+
+}  // namespace
+
+class test_hole_summary : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shots_fold_into_counts_data()
+    {
+        QTest::addColumn<QString>("rows");
+        QTest::addColumn<QString>("figures");
+        QTest::addColumn<QString>("putts");
+        QTest::addColumn<bool>("detailed");
+        QTest::newRow("no shot") << ""
+                                 << "0 0 0 | 0 0 0 0 | 0 0 0 0"
+                                 << "0 0 0 0 0 0" << false;
+        QTest::newRow("a blank shot adds its position and nothing else") << "-0 - -"
+                                                                         << "0 0 0 | 1 0 0 0 | 0 0 0 0"
+                                                                         << "0 0 0 0 0 0" << false;
+        QTest::newRow("drive, approach, two putts") << "L1 120 Verges\nA9 30 Pieds\nP14 4 Pieds\nP14 0 Pieds"
+                                                    << "1 1 2 | 2 0 0 0 | 0 0 0 0"
+                                                    << "30 4 0 0 0 0" << true;
+        QTest::newRow("only the fairway itself counts as fairway")
+            << "L1 200 Verges\nL1 150 Verges fair=2\nL1 100 Verges fair=3\nL1 50 Verges\nA9 9 Verges"
+            << "4 1 0 | 3 0 0 0 | 0 0 0 0"
+            << "0 0 0 0 0 0" << true;
+        QTest::newRow("situations") << "L1 90 Verges missed\nL1 60 Verges sand zero\nA9 5 Verges sand missed"
+                                    << "2 1 0 | 3 2 2 1 | 0 0 0 0"
+                                    << "0 0 0 0 0 0" << true;
+        QTest::newRow("penalties, one a shot") << "L1 90 Verges pen=1\nL1 80 Verges pen=2\nL1 70 Verges "
+                                                  "pen=3\nL1 60 Verges pen=4\nA9 5 Verges pen=1"
+                                               << "4 1 0 | 5 0 0 0 | 2 1 1 1"
+                                               << "0 0 0 0 0 0" << true;
+        QTest::newRow("a hole that starts with a putt has a first putt of no length")
+            << "P14 9 Pieds\nP14 0 Pieds"
+            << "0 0 2 | 0 0 0 0 | 0 0 0 0"
+            << "0 9 0 0 0 0" << true;
+        QTest::newRow("a shot of another kind behind a putt has a length, too")
+            << "A9 20 Pieds\nP14 12 Pieds\nA9 3 Pieds\nP14 0 Pieds"
+            << "0 2 2 | 2 0 0 0 | 0 0 0 0"
+            << "20 12 3 0 0 0" << true;
+        QTest::newRow("a length of 0 ends the list") << "A9 20 Pieds\nP14 - Pieds\nP14 5 Pieds\nP14 0 Pieds"
+                                                     << "0 1 3 | 1 0 0 0 | 0 0 0 0"
+                                                     << "20 0 0 0 0 0" << true;
+        QTest::newRow("the seventh putt is counted and has no length")
+            << "A9 70 Pieds\nP14 60 Pieds\nP14 50 Pieds\nP14 40 Pieds\nP14 30 Pieds\nP14 20 Pieds\nP14 10 "
+               "Pieds\nP14 5 Pieds"
+            << "0 1 7 | 1 0 0 0 | 0 0 0 0"
+            << "70 60 50 40 30 20" << true;
+        QTest::newRow("behind the sixth length everything else goes on being counted")
+            << "A9 70 Pieds\nP14 60 Pieds\nP14 50 Pieds\nP14 40 Pieds\nP14 30 Pieds\nP14 20 Pieds\nP14 10 "
+               "Pieds\nP14 5 Pieds missed\nP14 4 Pieds pen=3"
+            << "0 1 8 | 1 0 1 0 | 0 0 1 0"
+            << "70 60 50 40 30 20" << true;
+    }
+    void shots_fold_into_counts()
+    {
+        QFETCH(QString, rows);
+        QFETCH(QString, figures);
+        QFETCH(QString, putts);
+        QFETCH(bool, detailed);
+        shot_list shots = shots_of(rows);
+        const hole_summary sum = summarise(shots);
+        QCOMPARE(figures_of(sum), figures);
+        QCOMPARE(putts_of(sum), putts);
+        QCOMPARE(sum.isdetailed, detailed);
+    }
+
+    void a_putt_loses_its_position_on_the_way()
+    {
+        shot_list rows =
+            shots_of(QStringLiteral("A9 20 Pieds fair=2\nP14 0 Pieds fair=1\nP14 0 Pieds fair=3"));
+        const hole_summary sum = summarise(rows);
+        QCOMPARE(plain(sum.fairway), 0);
+        QCOMPARE(plain(rows[0].fairval), 2);
+        QCOMPARE(plain(rows[1].fairval), 0);
+        QCOMPARE(plain(rows[2].fairval), 0);
+    }
+
+    void codes_outside_their_sets_fail_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("penalty");
+        QTest::newRow("kind 4") << 4 << 0;
+        QTest::newRow("kind -1") << -1 << 0;
+        QTest::newRow("penalty 5") << 1 << 5;
+        QTest::newRow("penalty -1") << 1 << -1;
+    }
+    void codes_outside_their_sets_fail()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, penalty);
+        shot_list rows(1);
+        rows[0].shot_type_value = kind;
+        rows[0].penval = penalty;
+        QCOMPARE(failure_of([&] { summarise(rows); }), failure_kind::subscript);
+    }
+};
+
+QTEST_APPLESS_MAIN(test_hole_summary)
+
+#include "test_hole_summary.moc"
