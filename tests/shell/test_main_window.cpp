@@ -44,6 +44,7 @@ const std::vector<caption_row>& captions()
         {"mnOPenr", QStringLiteral("&Gestion des rondes"), QStringLiteral("&Round Management")},
         {"mCourses", QStringLiteral("&Terrains"), QStringLiteral("&Golf Courses")},
         {"mManagF", QStringLiteral("&Gestion des terrains"), QStringLiteral("&Golf Course Management")},
+        {"mCarte", QStringLiteral("&Carte de pointage"), QStringLiteral("&Scorecard")},
         {"partenaires", QStringLiteral("&Partenaires"), QStringLiteral("&Partners")},
         {"mpartners", QStringLiteral("&Gestion des partenaires"), QStringLiteral("&Partner Management")},
         {"mnstat", QStringLiteral("&Statistiques"), QStringLiteral("&Statistics")},
@@ -250,6 +251,47 @@ private Q_SLOTS:
         in_main_window(2, {}, [&](hand& user) {
             user.menu(QStringLiteral("mOpen"));
             user.answer({english, QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
+        });
+    }
+
+    void a_scorecard_needs_a_course_data() { both_languages(); }
+    void a_scorecard_needs_a_course()
+    {
+        QFETCH(int, language);
+        const expected_box no_course{
+            language == 1
+                ? QStringLiteral(
+                      "Verdane n'a trouver aucun terrain. Il faut au moins un terrain pour imprimmer "
+                      "une carte")
+                : QStringLiteral("Verdane found no golf course. There has to be at least one registered"),
+            QMessageBox::Critical, default_title(), QMessageBox::Ok};
+        in_main_window(language, {}, [&](hand& user) {
+            for (int time = 0; time < 2; ++time) {
+                user.menu(QStringLiteral("mCarte"));
+                user.answer(no_course);
+            }
+            user.click(QStringLiteral("B8"));
+            user.answer(no_course);
+        });
+    }
+
+    void the_scorecard_opens_from_the_menu_and_the_toolbar_data() { both_languages(); }
+    void the_scorecard_opens_from_the_menu_and_the_toolbar()
+    {
+        QFETCH(int, language);
+        const QString window = language == 1 ? QStringLiteral("f_carte") : QStringLiteral("f_carte_en");
+        in_main_window(language, one_course(), [&](hand& user) {
+            const auto leave = [&] {
+                user.wait_for_window(window);
+                user.check(!user.enabled(QStringLiteral("B8")), QStringLiteral("the toolbar is locked"));
+                user.click(QStringLiteral("Command1_1"));
+                user.wait_until_gone(window);
+                user.check(user.enabled(QStringLiteral("B8")), QStringLiteral("the toolbar is open again"));
+            };
+            user.menu(QStringLiteral("mCarte"));
+            leave();
+            user.click(QStringLiteral("B8"));
+            leave();
         });
     }
 
