@@ -27,6 +27,20 @@ void tell_holes(day& today)
     }
 }
 
+/// What the round cost: its total is seen in the round window.
+void keep_costs(day& today)
+{
+    today.user.click(QStringLiteral("Command2"));
+    today.user.wait_for_window(today.window(QStringLiteral("f_cost")));
+    today.user.fill(QStringLiteral("cost_0"), QStringLiteral("85"));
+    today.user.fill(QStringLiteral("cost_7"), QStringLiteral("20"));
+    today.keep(QStringLiteral("f_cost"), QStringLiteral("f_cost"));
+    today.user.click(QStringLiteral("OKButton"));
+    today.user.wait_until_gone(today.window(QStringLiteral("f_cost")));
+    today.user.same(today.user.text(QStringLiteral("text_7")), QStringLiteral("105"),
+                    QStringLiteral("costs of the round"));
+}
+
 }  // namespace
 
 void tee_off(day& today, const QString& hours, const QString& minutes, const QString& seconds)
@@ -53,6 +67,7 @@ void play_round(day& today)
     choose_course(today);
     today.user.choose(QStringLiteral("conditions"), today.french ? 1 : 3);
     tell_holes(today);
+    keep_costs(today);
     today.user.same(today.user.text(QStringLiteral("l_brut")), QString::number(today.round.gross()),
                     QStringLiteral("gross of the round"));
     today.keep(QStringLiteral("f_new_round"), QStringLiteral("f_new_round_18"));
@@ -92,6 +107,8 @@ void check_store(day& today)
                             today.round.figure(hole, place), column);
         }
     }
+    today.user.same(today.store.number(u"select fg * 1000 + nrt from cost" + where), 85020,
+                    QStringLiteral("costs of the round"));
     today.user.same(today.store.text(u"select field from games" + where), today.card.name,
                     QStringLiteral("course of the round"));
     today.user.same(today.store.number(u"select conditionM from games2" + where), today.french ? 1 : 3,

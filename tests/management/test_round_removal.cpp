@@ -281,6 +281,8 @@ private Q_SLOTS:
         QFETCH(QString, button);
         const round_store store;
         add_rounds(store.store, 2);
+        // The round window would ask for the clubs of these shots.
+        store.store.write(u"delete from Stat_rounds where date = '%1'"_s.arg(key_of_day(2)));
         in_list([&](hand& user) {
             remove(user);
             user.click(button);
