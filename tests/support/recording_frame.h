@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QWidget>
 
 #include "main_frame.h"
@@ -20,13 +21,17 @@ public:
     QWidget* frame_widget() override { return &widget_; }
     void lock_menu() override { locked = true; }
     void unlock_menu() override { locked = false; }
-    void enable_tool_button(QStringView, bool) override {}
+    void enable_tool_button(QStringView key, bool enabled) override { buttons_[key.toString()] = enabled; }
     void activated() override { ++activations; }
+
+    /// Whether a tool button was left enabled; one that nobody touched is.
+    bool enabled(const QString& key) const { return buttons_.value(key, true); }
 
     bool locked = false;
     int activations = 0;
 
 private:
+    QHash<QString, bool> buttons_;
     QWidget widget_;
 };
 

@@ -1,0 +1,347 @@
+#include <QHeaderView>
+#include <QTest>
+
+#include "data_grid.h"
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "languages.h"
+#include "main_frame.h"
+#include "round_windows.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QStringList french_heads{
+    u"Trou"_qs,  u"Coup"_qs,        u"Bâton"_qs, u"Distance restante"_qs, u"Unités"_qs,
+    u"VRD"_qs,   u"Dépassement"_qs, u"Raté"_qs,  u"Trappe de sable"_qs,   u"Distance zéro"_qs,
+    u"Allée"_qs, u"Pénalité"_qs,    u"Shot"_qs};
+const QStringList english_heads{
+    u"Shot"_qs,     u"Shot"_qs,        u"Club"_qs,    u"Remaining Distance"_qs, u"Units"_qs,
+    u"VRD"_qs,      u"Beyond hole"_qs, u"Missed "_qs, u"Sand Trap "_qs,         u"Distance zero"_qs,
+    u"Fairway "_qs, u"Penalty "_qs,    u"Shot"_qs};
+
+QString value(const QString& column, int shot = 1)
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    return shots.value_at(shot - 1, shots.Fields(column).ordinal()).toString();
+}
+
+/// A value of a row as the program holds it, committed or not.
+QString held(hand& user, const QString& column, int shot = 1)
+{
+    QString text;
+    user.look([&] { text = value(column, shot); });
+    return text;
+}
+
+void set_put_mode(hand& user, bool on)
+{
+    with_round(user, [on](f_new_round& window) { window.PUT_MODE = on; });
+}
+
+}  // namespace
+
+class test_shot_grid : public QObject {
+    Q_OBJECT
+
+    /// A round on its detailed page; hole 1 is par 4, 101 yards. Leaves by the quick page.
+    static void on_the_page(bool french, const std::function<void(hand&)>& script)
+    {
+        const round_store store(french);
+        store.add_two_courses();
+        name_the_clubs(store);
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            script(user);
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+    }
+
+private Q_SLOTS:
+    void the_columns_are_as_laid_down_data() { both_languages(); }
+    void the_columns_are_as_laid_down()
+    {
+        QFETCH(bool, french);
+        on_the_page(french, [&](hand& user) {
+            with_round(user, [&](f_new_round& window) {
+                const QAbstractItemModel& model = *window.details->model();
+                QCOMPARE(model.columnCount(), 13);
+                const QList<int> twips{0, 700, 700, 2000, 700, 1740, 1740, 700, 1300, 1200, 1500, 1200, 0};
+                const QList<int> locked{2, 4, 6, 7, 8, 9, 10};
+                for (int column = 0; column < 13; ++column) {
+                    QCOMPARE(model.headerData(column, Qt::Horizontal).toString(),
+                             (french ? french_heads : english_heads)[column]);
+                    QCOMPARE(window.details->isColumnHidden(column), twips[column] == 0);
+                    QVERIFY(twips[column] == 0 ||
+                            window.details->columnWidth(column) >= pixels(twips[column]));
+                    QCOMPARE(model.flags(model.index(0, column)).testFlag(Qt::ItemIsEditable),
+                             !locked.contains(column));
+                }
+                QCOMPARE(window.details->columnWidth(3), pixels(2000));
+            });
+        });
+    }
+
+    void a_hole_without_shots_shows_a_blank_one_data() { both_languages(); }
+    void a_hole_without_shots_shows_a_blank_one()
+    {
+        QFETCH(bool, french);
+        on_the_page(french, [&](hand& user) {
+            user.same(user.grid_row(details, 0),
+                      french ? QStringLiteral("1 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | ")
+                             : QStringLiteral("1 |  |  |  |  | No | No | No | No | Fairway | "),
+                      QStringLiteral("first row"));
+            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
+            user.same(user.cursor(details), QStringLiteral("0,2"), QStringLiteral("cursor"));
+            user.same(user.focus(), details, QStringLiteral("focus"));
+            const QList<std::pair<QString, QString>> born{{QStringLiteral("date"), key_of_keyed_round()},
+                                                          {QStringLiteral("hole"), QStringLiteral("1")},
+                                                          {QStringLiteral("before"), QStringLiteral("101")},
+                                                          {QStringLiteral("verges"), QStringLiteral("101")},
+                                                          {QStringLiteral("fairval"), QStringLiteral("1")},
+                                                          {QStringLiteral("after"), QString()}};
+            for (const auto& [column, expected] : born)
+                user.same(held(user, column), expected, column);
+        });
+    }
+
+    void each_button_opens_its_menu_data() { both_languages(); }
+    void each_button_opens_its_menu()
+    {
+        QFETCH(bool, french);
+        const QString yes_no = french ? QStringLiteral("Oui,Non") : QStringLiteral("Yes,No");
+        const QList<std::tuple<int, QString, QString>> menus{
+            {2, QStringLiteral("mSticks"), QStringLiteral("D,F2,F3,F4,F5,F6,F7,F8,F9,F10,F11,F12,SW,Pu")},
+            {5, QStringLiteral("mshot"),
+             french ? QStringLiteral("Long,Approche,Putt") : QStringLiteral("Long,Approach,Putt")},
+            {6, QStringLiteral("mon"), yes_no},
+            {7, QStringLiteral("mon"), yes_no},
+            {8, QStringLiteral("mon"), yes_no},
+            {9, QStringLiteral("mon"), yes_no},
+            {10, QStringLiteral("mAlle"),
+             french ? QStringLiteral("Dans l'allé,Gauche,Droite") : QStringLiteral("Fairway,Left,Right")},
+            {11, QStringLiteral("mpen"),
+             french ? QStringLiteral("Eau,Balle perdue,Règlement,Hors limites, ")
+                    : QStringLiteral("Water Hazard,Lost Ball,Rules,Out of Bounds, ")}};
+        on_the_page(french, [&](hand& user) {
+            for (const auto& [column, name, entries] : menus) {
+                user.open_menu(details, 0, column);
+                user.wait_for_menu(name);
+                user.same(user.menu_entries().join(u','), entries, name);
+                user.menu_key(Qt::Key_Escape);
+                user.click_cell(details, 0, column);
+                user.key(Qt::Key_F4);
+                user.wait_for_menu(name);
+                user.menu_key(Qt::Key_Escape);
+            }
+        });
+    }
+
+    void a_club_of_the_course_brings_yards_and_goes_to_the_distance_data() { both_languages(); }
+    void a_club_of_the_course_brings_yards_and_goes_to_the_distance()
+    {
+        QFETCH(bool, french);
+        on_the_page(french, [&](hand& user) {
+            tell_shot(user, 0, 3, QString(), 0);
+            user.same(held(user, QStringLiteral("stick")) + held(user, QStringLiteral("stickval")),
+                      QStringLiteral("F33"), QStringLiteral("club"));
+            user.same(user.cell(details, 0, 4), french ? QStringLiteral("Verges") : QStringLiteral("Yards"),
+                      QStringLiteral("unit"));
+            user.same(user.cell(details, 0, 5), QString(), QStringLiteral("kind"));
+            user.same(user.cursor(details), QStringLiteral("0,3"), QStringLiteral("cursor"));
+        });
+    }
+
+    void the_putter_makes_a_putt_in_feet_data() { both_languages(); }
+    void the_putter_makes_a_putt_in_feet()
+    {
+        QFETCH(bool, french);
+        on_the_page(french, [&](hand& user) {
+            tell_shot(user, 0, 14, QString(), 0);
+            user.same(user.cell(details, 0, 2), QStringLiteral("Pu"), QStringLiteral("club"));
+            user.same(user.cell(details, 0, 4), french ? QStringLiteral("Pieds") : QStringLiteral("Feets"),
+                      QStringLiteral("unit"));
+            user.same(user.cell(details, 0, 5) + held(user, QStringLiteral("shot_type_value")),
+                      QStringLiteral("Putt3"), QStringLiteral("kind"));
+            user.same(user.cursor(details), QStringLiteral("0,3"), QStringLiteral("cursor"));
+            // Another club after the putter: the kind goes, the feet stay.
+            tell_shot(user, 0, 5, QString(), 0);
+            user.same(user.cell(details, 0, 4), french ? QStringLiteral("Pieds") : QStringLiteral("Feets"),
+                      QStringLiteral("unit"));
+            user.same(u'<' + user.cell(details, 0, 5) + u'>' + held(user, QStringLiteral("shot_type_value")),
+                      QStringLiteral("< >0"), QStringLiteral("kind"));
+        });
+    }
+
+    void a_kind_stays_when_another_club_follows_a_club()
+    {
+        on_the_page(true, [&](hand& user) {
+            tell_shot(user, 0, 3, QString(), 1);
+            user.same(user.cursor(details), QStringLiteral("0,5"), QStringLiteral("cursor"));
+            tell_shot(user, 0, 4, QString(), 0);
+            user.same(user.cell(details, 0, 5), QStringLiteral("Long"), QStringLiteral("kind"));
+        });
+    }
+
+    void only_digits_reach_the_distance()
+    {
+        on_the_page(true, [&](hand& user) {
+            user.click_cell(details, 0, 3);
+            const int before = user.bells();
+            user.type(QStringLiteral("a1b.2-"));
+            user.same(user.bells() - before, 4, QStringLiteral("bells"));
+            user.key(Qt::Key_Backspace);
+            user.type(QStringLiteral("5"));
+            user.key(Qt::Key_Tab);
+            user.same(user.cell(details, 0, 3), QStringLiteral("15"), QStringLiteral("distance"));
+        });
+    }
+
+    void a_typed_distance_takes_yards_and_the_par_data()
+    {
+        QTest::addColumn<bool>("put_mode");
+        QTest::addColumn<QString>("cursor");
+        // The key that takes the figure goes one cell on: from the unit, or in a putt from the club.
+        QTest::newRow("a shot") << false << "0,5";
+        QTest::newRow("a putt is being entered") << true << "0,3";
+    }
+    void a_typed_distance_takes_yards_and_the_par()
+    {
+        QFETCH(bool, put_mode);
+        QFETCH(QString, cursor);
+        on_the_page(true, [&](hand& user) {
+            tell_shot(user, 0, 3, QString(), 1);
+            set_put_mode(user, put_mode);
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("60"));
+            user.key(Qt::Key_Return);
+            user.same(user.cell(details, 0, 3) + user.cell(details, 0, 4), QStringLiteral("60Verges"),
+                      QStringLiteral("distance"));
+            user.same(held(user, QStringLiteral("normal")), QStringLiteral("4"), QStringLiteral("par"));
+            user.same(user.cursor(details), cursor, QStringLiteral("cursor"));
+        });
+    }
+
+    void a_distance_left_by_the_mouse_puts_the_cursor_beside_it_data()
+    {
+        QTest::addColumn<bool>("put_mode");
+        QTest::addColumn<QString>("cursor");
+        QTest::newRow("a shot") << false << "0,4";
+        QTest::newRow("a putt is being entered") << true << "0,2";
+    }
+    void a_distance_left_by_the_mouse_puts_the_cursor_beside_it()
+    {
+        QFETCH(bool, put_mode);
+        QFETCH(QString, cursor);
+        on_the_page(true, [&](hand& user) {
+            set_put_mode(user, put_mode);
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("60"));
+            user.click(QStringLiteral("cmb_courses"));
+            user.key(Qt::Key_Escape);
+            user.same(user.cursor(details), cursor, QStringLiteral("cursor"));
+        });
+    }
+
+    void a_position_is_kept_with_its_code_and_the_cursor_goes_on()
+    {
+        on_the_page(false, [&](hand& user) {
+            user.open_menu(details, 0, 10);
+            user.choose_menu_entry(QStringLiteral("ma_3"));
+            user.same(user.cell(details, 0, 10) + held(user, QStringLiteral("fairval")),
+                      QStringLiteral("Right3"), QStringLiteral("position"));
+            user.same(user.cursor(details), QStringLiteral("0,11"), QStringLiteral("cursor"));
+        });
+    }
+
+    void a_penalty_is_kept_with_its_code_and_stroke_data()
+    {
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<QString>("kept");
+        QTest::newRow("water") << 1 << "Eau/1/1";
+        QTest::newRow("lost ball") << 2 << "Balle perdue/2/1";
+        QTest::newRow("rules") << 3 << "Règlement/3/1";
+        QTest::newRow("out of bounds") << 4 << "Hors limites/4/1";
+        QTest::newRow("none") << 5 << " /0/0";
+    }
+    void a_penalty_is_kept_with_its_code_and_stroke()
+    {
+        QFETCH(int, entry);
+        QFETCH(QString, kept);
+        on_the_page(true, [&](hand& user) {
+            user.open_menu(details, 0, 11);
+            user.choose_menu_entry(QStringLiteral("mp_2"));
+            user.open_menu(details, 0, 11);
+            user.choose_menu_entry(QStringLiteral("mp_%1").arg(entry));
+            user.same(QStringList{user.cell(details, 0, 11), held(user, QStringLiteral("penval")),
+                                  held(user, QStringLiteral("addpen"))}
+                          .join(u'/'),
+                      kept, QStringLiteral("penalty"));
+            user.same(user.focus(), QStringLiteral("CommandSuiv"), QStringLiteral("focus"));
+        });
+    }
+
+    void yes_and_no_go_to_the_column_of_the_cursor_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("field");
+        QTest::newRow("beyond the hole") << 6 << "beyong_hole";
+        QTest::newRow("missed") << 7 << "missed";
+        QTest::newRow("sand") << 8 << "ts";
+        QTest::newRow("distance zero") << 9 << "dz";
+    }
+    void yes_and_no_go_to_the_column_of_the_cursor()
+    {
+        QFETCH(int, column);
+        QFETCH(QString, field);
+        on_the_page(false, [&](hand& user) {
+            user.open_menu(details, 0, column);
+            user.choose_menu_entry(QStringLiteral("mb_0"));
+            user.same(user.cell(details, 0, column), QStringLiteral("Yes"), QStringLiteral("cell"));
+            user.same(held(user, field), QStringLiteral("true"), field);
+            user.same(user.cursor(details), QStringLiteral("0,%1").arg(column + 1), QStringLiteral("cursor"));
+            user.click_cell(details, 0, column);
+            user.type(QStringLiteral("n"));
+            user.same(user.cell(details, 0, column), QStringLiteral("No"), QStringLiteral("cell"));
+            user.same(held(user, field), QStringLiteral("false"), field);
+        });
+    }
+
+    void a_cell_with_a_menu_is_not_typed_into()
+    {
+        on_the_page(true, [&](hand& user) {
+            user.click_cell(details, 0, 5);
+            const int before = user.bells();
+            user.key(Qt::Key_Backspace);
+            user.same(user.bells() - before, 1, QStringLiteral("bell"));
+            user.check(!user.exists(QStringLiteral("cell_being_typed")), QStringLiteral("no box"));
+        });
+    }
+
+    void the_page_holds_Save_and_Close_and_the_menu()
+    {
+        const round_store store;
+        store.add_two_courses();
+        in_keyed_round([&](hand& user) {
+            user.check(store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save before"));
+            go_to_detailed_page(user);
+            user.check(store.frame.locked, QStringLiteral("the menu is locked"));
+            user.check(!store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save on the page"));
+            user.check(!store.frame.enabled(QStringLiteral("B5")), QStringLiteral("Close on the page"));
+            go_to_quick_page(user);
+            user.check(store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save after"));
+            go_to_detailed_page(user);
+            tell_shot(user, 0, 1, QStringLiteral("0"), 1);
+            accept(user);
+        });
+        QVERIFY(store.frame.enabled(QStringLiteral("B4")));
+        QVERIFY(store.frame.enabled(QStringLiteral("B5")));
+    }
+};
+
+QTEST_MAIN(test_shot_grid)
+
+#include "test_shot_grid.moc"
