@@ -146,8 +146,8 @@ void round_statistics(const selection_arguments& chosen, const run_controls& win
     run_progress bar(window.Status);
     if (!fill_stats(chosen, bar))
         return;
-    prepare_report(window.cr2, report_opening::maximised(), u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt");
-    window.cr2.Action(report_control::run_now);
+    prepare_report(window.report, report_opening::maximised(), u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt");
+    window.report.Action(report_control::run_now);
 }
 
 }  // namespace verdane::Statistics

@@ -9,8 +9,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <array>
+
 #include "events.h"
 #include "f_date_range_func.h"
+#include "language.h"
 #include "list_box.h"
 #include "look.h"
 
@@ -22,6 +25,12 @@ namespace {
 constexpr int characters_of_a_line = 52;
 constexpr int lines_in_view = 12;
 
+struct mode_look {
+    statistics_mode mode;
+    QPushButton* button;
+    text_pair title;
+};
+
 QComboBox* make_filter(QStringView name)
 {
     auto* filter = named(new QComboBox, name);
@@ -32,20 +41,29 @@ QComboBox* make_filter(QStringView name)
 
 }  // namespace
 
-f_date_range::f_date_range(statistics_mode mode) : Form(u"f_date_range"), cr2(this)
+f_date_range::f_date_range(statistics_mode mode)
+    : Form(u"f_date_range"), cr1(this), cr2(this), cr3(this), mode_(mode)
 {
     build();
     connect_events();
-    set_mode(mode);
+    show_mode();
     f_date_range_func::load(*this);
 }
 
 /// One run button is left, and the title names what it runs.
-void f_date_range::set_mode(statistics_mode mode)
+void f_date_range::show_mode()
 {
-    Command2->setVisible(mode == statistics_mode::round);
-    if (mode == statistics_mode::round)
-        setWindowTitle(caption(u"Statistiques des rondes", u"Round Statistics"));
+    const std::array<mode_look, 4> looks{{
+        {statistics_mode::club, Command1, {u"Statistiques des bâtons", u"Club Statistics"}},
+        {statistics_mode::putt, OKButton, {u"Statistiques des coups roulés", u"Putt Statistics"}},
+        {statistics_mode::round, Command2, {u"Statistiques des rondes", u"Round Statistics"}},
+        {statistics_mode::cost, Command3, {u"Statistiques des coûts", u"Cost Statistics"}},
+    }};
+    for (const mode_look& look : looks) {
+        look.button->setVisible(look.mode == mode_);
+        if (look.mode == mode_)
+            setWindowTitle(look.title.in(french()));
+    }
 }
 
 void f_date_range::build()
@@ -123,13 +141,17 @@ QLayout* f_date_range::make_foot()
     keeps_its_place.setRetainSizeWhenHidden(true);
     Status->setSizePolicy(keeps_its_place);
     Status->hide();
+    Command1 = named(make_button(QStringLiteral("OK")), u"Command1");
     Command2 = named(make_button(QStringLiteral("OK")), u"Command2");
+    Command3 = named(make_button(QStringLiteral("OK")), u"Command3");
+    OKButton = named(make_button(QStringLiteral("OK")), u"OKButton");
     CancelButton = named(make_button(caption(u"Annuler", u"Cancel")), u"CancelButton");
     auto* foot = new QHBoxLayout;
     foot->setSpacing(rhythm);
     foot->addWidget(Status, 1);
     foot->addSpacing(2 * rhythm);
-    foot->addWidget(Command2);
+    for (QPushButton* run : {Command1, Command2, Command3, OKButton})
+        foot->addWidget(run);
     foot->addWidget(CancelButton);
     return foot;
 }
@@ -138,7 +160,10 @@ void f_date_range::connect_events()
 {
     for (QListWidget* list : {List1, List2})
         on_select(*list, [this] { f_date_range_func::count_rounds_between(*this); });
+    on_click(*Command1, [this] { f_date_range_func::run_club_statistics(*this); });
     on_click(*Command2, [this] { f_date_range_func::run_round_statistics(*this); });
+    on_click(*Command3, [this] { f_date_range_func::run_cost_statistics(*this); });
+    on_click(*OKButton, [this] { f_date_range_func::run_putt_statistics(*this); });
     on_click(*CancelButton, [this] { f_date_range_func::cancel(*this); });
 }
 

@@ -15,7 +15,7 @@ class QPushButton;
 namespace verdane {
 
 /// What the selection window is opened for: the statistic that its OK button runs.
-enum class statistics_mode { round };
+enum class statistics_mode { club, putt, round, cost };
 
 /// The window in which the user picks the rounds of a statistic; in English `f_date_range_en`. It
 /// stays open after a run.
@@ -26,19 +26,28 @@ class f_date_range final : public Form {
 public:
     explicit f_date_range(statistics_mode mode = statistics_mode::round);
 
+    statistics_mode mode() const { return mode_; }
+
     QListWidget* List1 = nullptr;
     QListWidget* List2 = nullptr;
     QComboBox* cmb_courses = nullptr;
     QComboBox* pList = nullptr;
     QComboBox* conditions = nullptr;
+    /// The run buttons of the club, round, cost and putt statistics; one of them is there to be seen.
+    QPushButton* Command1 = nullptr;
     QPushButton* Command2 = nullptr;
+    QPushButton* Command3 = nullptr;
+    QPushButton* OKButton = nullptr;
     QPushButton* CancelButton = nullptr;
     QProgressBar* Status = nullptr;
     /// The labels; the last one is the number of stored rounds.
     control_array<QLabel> Label1{u"Label1"};
     static constexpr int count_label = 7;
 
+    /// The reports on clubs (`cr1`), on rounds and costs (`cr2`), on putts (`cr3`).
+    report_control cr1;
     report_control cr2;
+    report_control cr3;
 
     /// Rounds from the one selected in `List1` to that in `List2`, both included; below 1 when the
     /// range runs backwards. Nothing shows it.
@@ -51,12 +60,14 @@ protected:
 
 private:
     void build();
-    void set_mode(statistics_mode mode);
+    void show_mode();
     QWidget* make_list_frame(QStringView name, int label, const QString& words, QListWidget*& list);
     QLayout* make_filters();
     QLayout* make_counts();
     QLayout* make_foot();
     void connect_events();
+
+    const statistics_mode mode_;
 };
 
 }  // namespace verdane

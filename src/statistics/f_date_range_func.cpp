@@ -5,13 +5,15 @@
 #include <QListWidget>
 
 #include "boxes.h"
+#include "club_statistics.h"
+#include "cost_statistics.h"
 #include "DataEnvironment1.h"
 #include "f_date_range.h"
 #include "list_box.h"
 #include "main_frame.h"
-#include "round_key.h"
+#include "putt_statistics.h"
 #include "round_list.h"
-#include "round_rows.h"
+#include "selection_choice.h"
 #include "selection_clauses.h"
 #include "selection_lists.h"
 #include "Statistics.h"
@@ -20,23 +22,11 @@ namespace verdane::f_date_range_func {
 
 namespace {
 
-void empty_cost_report()
-{
-    Recordset& report = data_environment().rsr_cost;
-    report.Open();
-    if (!report.bof() && !report.eof()) {
-        for (report.MoveFirst(); !report.eof(); report.MoveNext())
-            report.Delete();
-    }
-    report.UpdateBatch();
-    report.Close();
-}
-
 /// False when the store holds no round.
 bool fill_rounds(f_date_range& window)
 {
     DataEnvironment1& store = data_environment();
-    store.rsgames.Open();
+    Round_functions::open_rounds_in_time_order();
     store.rsfield_info.Open();
     const QStringList lines = Round_functions::round_list_lines();
     for (QListWidget* list : {window.List1, window.List2})
@@ -54,57 +44,48 @@ void stop_without_rounds(f_date_range& window)
     window.unload();
 }
 
-QString selected_key(const QListWidget& list)
+/// What is left open reads so in the heads of the reports on rounds and costs; the others show the
+/// entry of the list as it stands.
+QString open_weather(const f_date_range& window)
 {
-    return Verdane_tools::key_of_entry(list.currentItem()->text());
+    const statistics_mode mode = window.mode();
+    const bool as_it_stands = mode == statistics_mode::club || mode == statistics_mode::putt;
+    return as_it_stands ? window.conditions->currentText() : window.caption(u" TOUTES", u" ALL");
 }
 
-/// The course stands in its table at the place it has in the list.
-QString chosen_course_code(const QComboBox& courses)
+clause_form form_of(const f_date_range& window)
 {
-    Recordset& rows = data_environment().rsvrd_fields;
-    rows.Open();
-    const QString code = Round_functions::course_code_at(courses.currentIndex() - 1);
-    rows.Close();
-    return code;
-}
-
-bool is_on(const QComboBox& filter)
-{
-    return filter.currentIndex() > 0;
+    return window.mode() == statistics_mode::putt ? clause_form::alone : clause_form::appended;
 }
 
 void put_weather(const f_date_range& window, selection_arguments& chosen)
 {
-    const bool on = is_on(*window.conditions);
-    chosen.weather_value = on ? QString::number(window.conditions->currentIndex() - 1) : QString();
-    chosen.weather_clause = and_weather(chosen.weather_value);
-    chosen.weather_text = on ? window.conditions->currentText() : window.caption(u" TOUTES", u" ALL");
+    chosen.weather_value = chosen_weather(*window.conditions);
+    chosen.weather_clause = clause_of(filter::weather, form_of(window), chosen.weather_value);
+    chosen.weather_text = is_on(*window.conditions) ? window.conditions->currentText() : open_weather(window);
 }
 
 void put_partner(const f_date_range& window, selection_arguments& chosen)
 {
-    const bool on = is_on(*window.pList);
-    chosen.partner_number = on ? window.pList->currentData().toString() : QString();
-    chosen.partner_clause = and_partner(chosen.partner_number);
-    chosen.partner_text =
-        on ? window.pList->currentText() : window.caption(u"TOUS LES PARTENAIRES", u"ALL PARTNERS");
+    chosen.partner_number = chosen_partner(*window.pList);
+    chosen.partner_clause = clause_of(filter::partner, form_of(window), chosen.partner_number);
+    chosen.partner_text = is_on(*window.pList) ? window.pList->currentText()
+                                               : window.caption(u"TOUS LES PARTENAIRES", u"ALL PARTNERS");
 }
 
 void put_course(const f_date_range& window, selection_arguments& chosen)
 {
-    const bool on = is_on(*window.cmb_courses);
-    chosen.course_code = on ? chosen_course_code(*window.cmb_courses) : QString();
-    chosen.course_clause = and_course(chosen.course_code);
-    chosen.course_text =
-        on ? window.cmb_courses->currentText() : window.caption(u"TOUS LES TERRAINS", u"ALL COURSES");
+    chosen.course_code = chosen_course(*window.cmb_courses);
+    chosen.course_clause = clause_of(filter::course, form_of(window), chosen.course_code);
+    chosen.course_text = is_on(*window.cmb_courses) ? window.cmb_courses->currentText()
+                                                    : window.caption(u"TOUS LES TERRAINS", u"ALL COURSES");
 }
 
 }  // namespace
 
 void load(f_date_range& window)
 {
-    empty_cost_report();
+    Statistics::empty_cost_report();
     current_form = &window;
     Place_and_lock(window);
     fill_partner_filter(*window.pList, window.french());
@@ -122,20 +103,36 @@ void count_rounds_between(f_date_range& window)
     window.rounds_between = static_cast<std::int16_t>(between);
 }
 
-selection_arguments round_selection(const f_date_range& window)
+selection_arguments selection_of(const f_date_range& window)
 {
     selection_arguments chosen;
-    chosen.from_key = selected_key(*window.List1);
-    chosen.to_key = selected_key(*window.List2);
+    chosen.from_key = chosen_round_key(*window.List1);
+    chosen.to_key = chosen_round_key(*window.List2);
     put_weather(window, chosen);
     put_partner(window, chosen);
     put_course(window, chosen);
     return chosen;
 }
 
+void run_club_statistics(f_date_range& window)
+{
+    const run_controls controls{*window.Status, window.cr1};
+    Statistics::club_statistics(selection_of(window), {&controls});
+}
+
 void run_round_statistics(f_date_range& window)
 {
-    Statistics::round_statistics(round_selection(window), {*window.Status, window.cr2});
+    Statistics::round_statistics(selection_of(window), {*window.Status, window.cr2});
+}
+
+void run_cost_statistics(f_date_range& window)
+{
+    Statistics::cost_statistics(selection_of(window), {*window.Status, window.cr2});
+}
+
+void run_putt_statistics(f_date_range& window)
+{
+    Statistics::putt_statistics(selection_of(window), {*window.Status, window.cr3});
 }
 
 void cancel(f_date_range& window)
@@ -152,6 +149,8 @@ void close_form(f_date_range& window)
 
 void unload()
 {
+    // Cost statistics that found nothing leave their statement behind, to which no row can be added.
+    data_environment().rscost.set_Source(QStringLiteral("select * from cost"));
     Unlock_menu();
 }
 

@@ -1,31 +1,36 @@
 #include "selection_clauses.h"
 
+#include <array>
+
 #include "Connection1.h"
 
 namespace verdane {
 
 namespace {
 
-QString clause_unless_off(const QString& value, const QString& clause)
-{
-    return value.isEmpty() ? QStringLiteral(" ") : clause;
-}
+struct clause_words {
+    QStringView before;
+    QStringView after;
+    bool value_is_text = true;
+    QStringView off_alone;
+};
+
+/// In the order of the filters.
+constexpr std::array<clause_words, 3> words{{
+    {u" (games2.conditionM = ", u")", false, u" true "},
+    {u" INSTR(GAMES2.PARTNERS,", u")", true, u" true"},
+    {u" GAMES2.FC = ", u"", true, u"true"},
+}};
 
 }  // namespace
 
-QString and_weather(const QString& value)
+QString clause_of(filter which, clause_form form, const QString& value)
 {
-    return clause_unless_off(value, u" AND (games2.conditionM = " + value + u")");
-}
-
-QString and_partner(const QString& number)
-{
-    return clause_unless_off(number, u" AND INSTR(GAMES2.PARTNERS," + quoted(number) + u")");
-}
-
-QString and_course(const QString& code)
-{
-    return clause_unless_off(code, u" AND GAMES2.FC = " + quoted(code));
+    const clause_words& clause = words.at(static_cast<std::size_t>(which));
+    if (value.isEmpty())
+        return form == clause_form::appended ? QStringLiteral(" ") : clause.off_alone.toString();
+    const QString alone = clause.before + (clause.value_is_text ? quoted(value) : value) + clause.after;
+    return form == clause_form::appended ? QString(u" AND" + alone) : alone;
 }
 
 }  // namespace verdane

@@ -2,16 +2,18 @@
 
 #include <QString>
 
-/// The fragments that a statistic puts behind the dates of its WHERE clause. Each begins with " AND ";
-/// a filter that is off (an empty value) is one blank.
+/// The fragments of a WHERE clause that the filters of a selection become.
 namespace verdane {
 
-/// `value` is the stored weather, 0 to 3, as text.
-QString and_weather(const QString& value);
+enum class filter { weather, partner, course };
 
-/// A plain text search in the list of partners: number 12 also finds the rounds of partner 112.
-QString and_partner(const QString& number);
+/// Most statistics put the fragments one behind the other after the dates: each begins with " AND ",
+/// and one blank stands for a filter that is off. The putt statistics join them: each stands alone, and
+/// what is always true stands for a filter that is off.
+enum class clause_form { appended, alone };
 
-QString and_course(const QString& code);
+/// `value` is the stored weather (0 to 3), a partner's number or a course's code, empty when the filter
+/// is off. The partner is a plain text search: number 12 also finds the rounds of partner 112.
+QString clause_of(filter which, clause_form form, const QString& value);
 
 }  // namespace verdane

@@ -7,6 +7,7 @@
 #include "DataEnvironment1.h"
 #include "language.h"
 #include "round_columns.h"
+#include "text.h"
 #include "Verdane_tools.h"
 
 namespace verdane {
@@ -30,12 +31,13 @@ QString partner_line(Recordset& partners)
     return partners.Fields(surname).text_or_empty() + u", " + partners.Fields(name).text_or_empty();
 }
 
-QString course_line(Recordset& courses)
+QString course_line(Recordset& courses, tee_letters letters)
 {
     QString name = courses.Fields(round_columns::name).text_or_empty();
     const QString code = courses.Fields(round_columns::code).trimmed();
+    const QString tee = Verdane_tools::tee_name(QStringView(code).right(1));
     return Verdane_tools::pad_right(name, static_cast<std::int16_t>(course_width)) + u", " +
-           Verdane_tools::tee_name(QStringView(code).right(1));
+           (letters == tee_letters::capitals ? in_capitals(tee) : tee);
 }
 
 template <typename Add>
@@ -59,11 +61,11 @@ void fill_partner_filter(QComboBox& list, bool french)
     });
 }
 
-void fill_course_filter(QComboBox& list, bool french)
+void fill_course_filter(QComboBox& list, bool french, tee_letters letters)
 {
     list.addItem(text_pair{u"Tous les terrains", u"All courses"}.in(french));
     for_each_row(data_environment().rsvrd_fields,
-                 [&list](Recordset& courses) { list.addItem(course_line(courses)); });
+                 [&](Recordset& courses) { list.addItem(course_line(courses, letters)); });
 }
 
 void fill_weather_filter(QComboBox& list, bool french)

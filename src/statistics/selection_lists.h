@@ -9,8 +9,9 @@ namespace verdane {
 /// SURNAME, NAME of every partner; an entry's data is the partner's code.
 void fill_partner_filter(QComboBox& list, bool french);
 
-/// Name and tee of every course.
-void fill_course_filter(QComboBox& list, bool french);
+/// Name and tee of every course, the tee as it is called or in capitals.
+enum class tee_letters { as_called, capitals };
+void fill_course_filter(QComboBox& list, bool french, tee_letters letters = tee_letters::as_called);
 
 /// The four kinds of weather, in the order of their stored values.
 void fill_weather_filter(QComboBox& list, bool french);

@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include <algorithm>
+#include <array>
+
 #include "boxes.h"
 #include "f_date_range.h"
 #include "hand_widgets.h"
@@ -11,11 +14,35 @@ namespace verdane::testing {
 
 namespace {
 
-void in_window(const std::function<void(f_date_range&)>& prepare, const std::function<void(hand&)>& script)
+struct launch {
+    statistics_mode mode;
+    QString button;
+    report_control f_date_range::*control;
+    QStringView french_file;
+    QStringView english_file;
+};
+
+const launch& launch_of(statistics_mode mode)
+{
+    using enum statistics_mode;
+    static const std::array<launch, 4> launches{{
+        {club, QStringLiteral("Command1"), &f_date_range::cr1, u"\\r_statSticks.rpt",
+         u"\\r_statSticks_en.rpt"},
+        {putt, QStringLiteral("OKButton"), &f_date_range::cr3, u"\\statPuts.rpt", u"\\statPuts_en.rpt"},
+        {round, QStringLiteral("Command2"), &f_date_range::cr2, u"\\Stat_rounds.rpt",
+         u"\\Stat_rounds_en.rpt"},
+        {cost, QStringLiteral("Command3"), &f_date_range::cr2, u"\\r_cost3.rpt", u"\\r_cost3_en.rpt"},
+    }};
+    return *std::find_if(launches.begin(), launches.end(),
+                         [mode](const launch& one) { return one.mode == mode; });
+}
+
+void in_window(statistics_mode mode, const std::function<void(f_date_range&)>& prepare,
+               const std::function<void(hand&)>& script)
 {
     play(
         [&] {
-            f_date_range window;
+            f_date_range window(mode);
             prepare(window);
             window.show_modal();
         },
@@ -27,11 +54,6 @@ void in_window(const std::function<void(f_date_range&)>& prepare, const std::fun
         });
 }
 
-void answer_plain(hand& user, QStringView french, QStringView english)
-{
-    user.answer({in_language(french, english), QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
-}
-
 }  // namespace
 
 QString selection_window()
@@ -39,12 +61,13 @@ QString selection_window()
     return in_language(u"f_date_range", u"f_date_range_en");
 }
 
-void in_selection_window(const std::function<void(hand&)>& script)
+void in_selection_window(const std::function<void(hand&)>& script, statistics_mode mode)
 {
-    in_window([](f_date_range&) {}, script);
+    in_window(
+        mode, [](f_date_range&) {}, script);
 }
 
-QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script)
+QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script, statistics_mode mode)
 {
     QList<bar_step> steps;
     const auto record = [&steps](f_date_range& window) {
@@ -53,7 +76,7 @@ QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script
             steps << bar_step{value, bar->isVisible()};
         });
     };
-    in_window(record, script);
+    in_window(mode, record, script);
     return steps;
 }
 
@@ -63,9 +86,14 @@ void select_range(hand& user, int from, int to)
     user.click_row(QStringLiteral("List2"), to);
 }
 
-void run(hand& user)
+void run(hand& user, statistics_mode mode)
 {
-    user.click(QStringLiteral("Command2"));
+    user.click(launch_of(mode).button);
+}
+
+void answer_plain(hand& user, QStringView french, QStringView english)
+{
+    user.answer({in_language(french, english), QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
 }
 
 void answer_no_detail(hand& user)
@@ -84,18 +112,21 @@ void answer_no_round(hand& user)
                  u"Verdane could not find summary statistics with the chosen parameters.");
 }
 
-void close_report(hand& user)
+void close_report(hand& user, statistics_mode mode)
 {
     const QString preview = QStringLiteral("report_preview");
     user.wait_until(QStringLiteral("the report"), [&] { return visible_window(preview) != nullptr; });
     user.look([&] {
+        const launch& expected = launch_of(mode);
+        const auto& control = dynamic_cast<f_date_range&>(*form_at_work()).*expected.control;
+        const bool zoomed = mode == statistics_mode::putt;
         QWidget* report = visible_window(preview);
         QCOMPARE(report->windowTitle(), QStringLiteral("Verdane International Inc."));
-        QVERIFY(report->isMaximized());
+        QCOMPARE(report->isMaximized(), !zoomed);
+        QCOMPARE(control.page_zoom().value_or(0), zoomed ? 75 : 0);
         QCOMPARE(report->parentWidget()->objectName(), selection_window());
-        QCOMPARE(dynamic_cast<const f_date_range&>(*form_at_work()).cr2.ReportFileName(),
-                 QCoreApplication::applicationDirPath() +
-                     in_language(u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt"));
+        QCOMPARE(control.ReportFileName(), QCoreApplication::applicationDirPath() +
+                                               in_language(expected.french_file, expected.english_file));
         report->close();
     });
     user.wait_until_gone(preview);

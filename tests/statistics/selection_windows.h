@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include "f_date_range.h"
 #include "hand.h"
 #include "window_look.h"
 
@@ -15,7 +16,8 @@ namespace verdane::testing {
 QString selection_window();
 
 /// Opens the selection window, runs the script and leaves through the cancel button.
-void in_selection_window(const std::function<void(hand&)>& script);
+void in_selection_window(const std::function<void(hand&)>& script,
+                         statistics_mode mode = statistics_mode::round);
 
 /// One step of the progress bar: its value, and whether the bar was seen.
 struct bar_step {
@@ -25,19 +27,22 @@ struct bar_step {
 };
 
 /// The same, keeping every step of the bar.
-QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script);
+QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script,
+                                        statistics_mode mode = statistics_mode::round);
 
 /// Selects a range by the lines of the two lists (from 0).
 void select_range(hand& user, int from, int to);
 
-/// Starts the round statistics.
-void run(hand& user);
+/// Starts the statistics of a mode.
+void run(hand& user, statistics_mode mode = statistics_mode::round);
+/// A box with nothing but a text and OK.
+void answer_plain(hand& user, QStringView french, QStringView english);
 /// The box that says that no round of the selection was entered shot by shot.
 void answer_no_detail(hand& user);
 /// The box that says that no round passed.
 void answer_no_round(hand& user);
-/// Waits until the report is open and compares its title; closes it.
-void close_report(hand& user);
+/// Waits until the report is open, compares how it was launched and closes it.
+void close_report(hand& user, statistics_mode mode = statistics_mode::round);
 /// Starts the statistics of rounds that have no shots, up to the closed report.
 void run_without_detail(hand& user);
 

@@ -58,15 +58,15 @@ struct choices {
 };
 
 /// What the window hands to the statistics for these choices.
-selection_arguments arguments_of(const choices& picked)
+selection_arguments arguments_of(const choices& picked, statistics_mode mode = statistics_mode::round)
 {
-    f_date_range window;
+    f_date_range window(mode);
     window.List1->setCurrentRow(picked.from);
     window.List2->setCurrentRow(picked.to);
     window.cmb_courses->setCurrentIndex(picked.course);
     window.pList->setCurrentIndex(picked.partner);
     window.conditions->setCurrentIndex(picked.weather);
-    return f_date_range_func::round_selection(window);
+    return f_date_range_func::selection_of(window);
 }
 
 struct named_way {
@@ -194,15 +194,43 @@ private Q_SLOTS:
         QCOMPARE(seen[0], seen[1]);
     }
 
-    void only_the_run_button_of_the_round_statistics_is_there()
+    void one_run_button_is_there_and_the_title_says_what_it_runs_data()
     {
-        const store_folder store;
-        fill(diary(store.path()));
-        in_selection_window([](hand& user) {
-            user.check(user.visible(u"Command2"_s), u"Command2 is shown"_s);
-            for (const QString& other : {u"Command1"_s, u"Command3"_s, u"OKButton"_s})
-                user.check(!user.exists(other), other + u" runs a statistic that is not there");
-        });
+        using enum statistics_mode;
+        QTest::addColumn<statistics_mode>("mode");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("french_title");
+        QTest::addColumn<QString>("english_title");
+        QTest::newRow("club") << club << u"Command1"_s << u"Statistiques des bâtons"_s
+                              << u"Club Statistics"_s;
+        QTest::newRow("putt") << putt << u"OKButton"_s << u"Statistiques des coups roulés"_s
+                              << u"Putt Statistics"_s;
+        QTest::newRow("round") << statistics_mode::round << u"Command2"_s << u"Statistiques des rondes"_s
+                               << u"Round Statistics"_s;
+        QTest::newRow("cost") << cost << u"Command3"_s << u"Statistiques des coûts"_s << u"Cost Statistics"_s;
+    }
+    void one_run_button_is_there_and_the_title_says_what_it_runs()
+    {
+        QFETCH(statistics_mode, mode);
+        QFETCH(QString, button);
+        for (const bool french : {true, false}) {
+            const store_folder store(french);
+            fill(diary(store.path()));
+            in_selection_window(
+                [&](hand& user) {
+                    for (const QString& each : {u"Command1"_s, u"Command2"_s, u"Command3"_s, u"OKButton"_s}) {
+                        user.same(user.text(each), u"OK"_s, each);
+                        user.check(user.visible(each) == (each == button), each);
+                    }
+                    user.same(clipped_controls(user).join(u' '), QString(), u"clipped"_s);
+                },
+                mode);
+            const f_date_range window(mode);
+            if (french)
+                QTEST(window.windowTitle(), "french_title");
+            else
+                QTEST(window.windowTitle(), "english_title");
+        }
     }
 
     void opening_the_window_empties_the_cost_report()
@@ -352,6 +380,45 @@ private Q_SLOTS:
                                                                    u"PEBBLE BEACH-3"_s,
                                                                    u"7"_s};
     }
+    void every_statistic_has_its_form_of_the_choices_data()
+    {
+        using enum statistics_mode;
+        QTest::addColumn<statistics_mode>("mode");
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<bool>("on");
+        QTest::addColumn<QStringList>("expected");
+        const QStringList appended{u" AND INSTR(GAMES2.PARTNERS,'12')"_s,
+                                   u" AND GAMES2.FC = 'NORTH BERWICK WEST LINKS-5'"_s,
+                                   u" AND (games2.conditionM = 0)"_s};
+        const QStringList alone{u" INSTR(GAMES2.PARTNERS,'12')"_s,
+                                u" GAMES2.FC = 'NORTH BERWICK WEST LINKS-5'"_s,
+                                u" (games2.conditionM = 0)"_s};
+        const QStringList blanks{u" "_s, u" "_s, u" "_s};
+        const QStringList always{u" true"_s, u"true"_s, u" true "_s};
+        const QString in_the_sun = u"Ensoleillé"_s;
+        QTest::newRow("clubs, open, French") << club << true << false << blanks + QStringList{u"Toutes"_s};
+        QTest::newRow("clubs, open, English") << club << false << false << blanks + QStringList{u"ALL"_s};
+        QTest::newRow("clubs, chosen") << club << true << true << appended + QStringList{in_the_sun};
+        QTest::newRow("putts, open, French") << putt << true << false << always + QStringList{u"Toutes"_s};
+        QTest::newRow("putts, open, English") << putt << false << false << always + QStringList{u"ALL"_s};
+        QTest::newRow("putts, chosen") << putt << true << true << alone + QStringList{in_the_sun};
+        QTest::newRow("costs, open, French") << cost << true << false << blanks + QStringList{u" TOUTES"_s};
+        QTest::newRow("costs, open, English") << cost << false << false << blanks + QStringList{u" ALL"_s};
+        QTest::newRow("costs, chosen") << cost << true << true << appended + QStringList{in_the_sun};
+    }
+    void every_statistic_has_its_form_of_the_choices()
+    {
+        QFETCH(statistics_mode, mode);
+        QFETCH(bool, french);
+        QFETCH(bool, on);
+        const store_folder store(french);
+        fill(diary(store.path()));
+        const choices picked = on ? choices{0, 1, 2, 1, 1} : choices{};
+        const selection_arguments got = arguments_of(picked, mode);
+        const QStringList seen{got.partner_clause, got.course_clause, got.weather_clause, got.weather_text};
+        QTEST(seen, "expected");
+    }
+
     void what_was_picked_is_handed_over()
     {
         QFETCH(bool, french);

@@ -1,10 +1,28 @@
 #include <QTest>
 
+#include "club_shots.h"
+#include "cost_statistics.h"
 #include "detail_pass.h"
+#include "putt_statistics.h"
 #include "selected_rounds.h"
 #include "selection_clauses.h"
 
 using namespace verdane;
+
+namespace {
+
+selection_arguments pieces()
+{
+    selection_arguments chosen;
+    chosen.from_key = QStringLiteral("20030101093000");
+    chosen.to_key = QStringLiteral("20031231093000");
+    chosen.partner_clause = QStringLiteral("<partner>");
+    chosen.course_clause = QStringLiteral("<course>");
+    chosen.weather_clause = QStringLiteral("<weather>");
+    return chosen;
+}
+
+}  // namespace
 
 class test_selection_clauses : public QObject {
     Q_OBJECT
@@ -12,36 +30,77 @@ class test_selection_clauses : public QObject {
 private Q_SLOTS:
     void a_filter_becomes_a_fragment_of_the_condition_data()
     {
-        QTest::addColumn<QString>("fragment");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("weather off") << and_weather({}) << " ";
-        QTest::newRow("sunny is 0, not off")
-            << and_weather(QStringLiteral("0")) << " AND (games2.conditionM = 0)";
-        QTest::newRow("windy") << and_weather(QStringLiteral("3")) << " AND (games2.conditionM = 3)";
-        QTest::newRow("partner off") << and_partner({}) << " ";
-        QTest::newRow("partner") << and_partner(QStringLiteral("12")) << " AND INSTR(GAMES2.PARTNERS,'12')";
-        QTest::newRow("course off") << and_course({}) << " ";
-        QTest::newRow("course") << and_course(QStringLiteral("CLUB DES PINS-2"))
-                                << " AND GAMES2.FC = 'CLUB DES PINS-2'";
+        using enum filter;
+        QTest::addColumn<filter>("which");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("appended");
+        QTest::addColumn<QString>("alone");
+        QTest::newRow("weather off") << weather << QString() << " "
+                                     << " true ";
+        QTest::newRow("sunny is 0, not off") << weather << "0"
+                                             << " AND (games2.conditionM = 0)"
+                                             << " (games2.conditionM = 0)";
+        QTest::newRow("windy") << weather << "3"
+                               << " AND (games2.conditionM = 3)"
+                               << " (games2.conditionM = 3)";
+        QTest::newRow("partner off") << partner << QString() << " "
+                                     << " true";
+        QTest::newRow("partner") << partner << "12"
+                                 << " AND INSTR(GAMES2.PARTNERS,'12')"
+                                 << " INSTR(GAMES2.PARTNERS,'12')";
+        QTest::newRow("course off") << course << QString() << " "
+                                    << "true";
+        QTest::newRow("course") << course << "CLUB DES PINS-2"
+                                << " AND GAMES2.FC = 'CLUB DES PINS-2'"
+                                << " GAMES2.FC = 'CLUB DES PINS-2'";
         QTest::newRow("a quote in a code ends no text")
-            << and_course(QStringLiteral("L'ESTÉREL-0")) << " AND GAMES2.FC = 'L''ESTÉREL-0'";
+            << course << QStringLiteral("L'ESTÉREL-0") << QStringLiteral(" AND GAMES2.FC = 'L''ESTÉREL-0'")
+            << QStringLiteral(" GAMES2.FC = 'L''ESTÉREL-0'");
     }
     void a_filter_becomes_a_fragment_of_the_condition()
     {
-        QFETCH(QString, fragment);
-        QTEST(fragment, "expected");
+        QFETCH(filter, which);
+        QFETCH(QString, value);
+        QTEST(clause_of(which, clause_form::appended, value), "appended");
+        QTEST(clause_of(which, clause_form::alone, value), "alone");
+    }
+
+    void the_statement_of_the_shots_is_put_together_from_its_pieces()
+    {
+        QCOMPARE(Statistics::club_shot_select(pieces()),
+                 QStringLiteral(
+                     "select stat_rounds.date,stat_rounds.hole,stat_rounds.before, "
+                     "stat_rounds.after,stat_rounds.shot_type,stat_rounds.stick, "
+                     "stat_rounds.beyong_hole,stat_rounds.missed,stat_rounds.ts,stat_rounds.dz, "
+                     "stat_rounds.faireway,stat_rounds.penality,stat_rounds.shot, stat_rounds.stickval, "
+                     "stat_rounds.fairval,stat_rounds.penval,stat_rounds.shot_type_value,stat_rounds.cal, "
+                     "games2.date,  stat_rounds.verges, stat_rounds.unit  from  games2, stat_rounds where ( "
+                     "games2.date>= '20030101093000' AND games2.date <='20031231093000'  AND  "
+                     "stat_rounds.date=games2.date) <weather><partner><course>  AND (NOT "
+                     "stat_rounds.shot_type_value = 3 ) ORDER BY STAT_ROUNDS.DATE,STAT_ROUNDS.HOLE "));
+    }
+
+    void the_statement_of_the_costs_is_put_together_from_its_pieces()
+    {
+        QCOMPARE(
+            Statistics::cost_select(pieces()),
+            QStringLiteral("select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
+                           "cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au from  cost "
+                           ", games2 where ( cost.date=games2.date and cost.date>= '20030101093000' AND "
+                           "cost.date <='20031231093000' ) <partner><course><weather>"));
+    }
+
+    void no_date_stands_in_the_statement_of_the_putts()
+    {
+        QCOMPARE(
+            Statistics::putt_select(pieces()),
+            QStringLiteral("select * from games2 where <weather> AND <partner> AND <course> order by date "));
     }
 
     void the_detail_statement_is_put_together_from_its_pieces()
     {
-        selection_arguments chosen;
-        chosen.from_key = QStringLiteral("20030101093000");
-        chosen.to_key = QStringLiteral("20031231093000");
-        chosen.partner_clause = QStringLiteral("<partner>");
-        chosen.course_clause = QStringLiteral("<course>");
-        chosen.weather_clause = QStringLiteral("<weather>");
         QCOMPARE(
-            Statistics::detail_select(chosen),
+            Statistics::detail_select(pieces()),
             QStringLiteral(
                 "SELECT ABS(SUM(STAT_ROUNDS.FAIRVAL=1 and STAT_ROUNDS.shot_type_value<>3 )), "
                 "ABS(SUM(STAT_ROUNDS.TS)), ABS(SUM(STAT_ROUNDS.MISSED)), ABS(SUM(STAT_ROUNDS.PENVAL=1)), "

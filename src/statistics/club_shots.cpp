@@ -1,0 +1,96 @@
+#include "club_shots.h"
+
+#include "DataEnvironment1.h"
+#include "shot_words.h"
+
+namespace verdane::Statistics {
+
+namespace {
+
+constexpr QStringView columns =
+    u"select stat_rounds.date,stat_rounds.hole,stat_rounds.before, "
+    u"stat_rounds.after,stat_rounds.shot_type,stat_rounds.stick, "
+    u"stat_rounds.beyong_hole,stat_rounds.missed,stat_rounds.ts,stat_rounds.dz, "
+    u"stat_rounds.faireway,stat_rounds.penality,stat_rounds.shot,"
+    u" stat_rounds.stickval, stat_rounds.fairval,stat_rounds.penval,stat_rounds.shot_type_value,"
+    u"stat_rounds.cal, games2.date,  stat_rounds.verges, stat_rounds.unit  from  games2, stat_rounds ";
+
+/// Places in the list above, which are not those of the table.
+enum column {
+    date = 0,
+    before = 2,
+    after = 3,
+    beyong_hole = 6,
+    missed = 7,
+    ts = 8,
+    dz = 9,
+    stickval = 13,
+    fairval = 14,
+    penval = 15,
+    shot_type_value = 16,
+    unit = 20,
+};
+
+std::optional<int16> length(const Field& field)
+{
+    return field.is_null() ? std::nullopt : std::optional<int16>(field.to_int16());
+}
+
+club_shot read_shot(Recordset& shots)
+{
+    club_shot shot;
+    shot.club = shots.Fields(stickval).int16_or_zero();
+    shot.before = length(shots.Fields(before));
+    shot.after = length(shots.Fields(after));
+    const Field written_unit = shots.Fields(unit);
+    // A shot without a unit is in that of a shot from off the green.
+    shot.after_in_yards = written_unit.is_null() || is_yards_word(written_unit.text());
+    shot.beyond_hole = shots.Fields(beyong_hole).yes();
+    shot.missed = shots.Fields(missed).yes();
+    shot.sand = shots.Fields(ts).yes();
+    shot.no_gain = shots.Fields(dz).yes();
+    shot.position = shots.Fields(fairval).int16_or_zero();
+    shot.penalty = shots.Fields(penval).int16_or_zero();
+    shot.kind = shots.Fields(shot_type_value).int16_or_zero();
+    return shot;
+}
+
+gathered_shots add_up(Recordset& shots)
+{
+    gathered_shots gathered;
+    QString previous = QStringLiteral("X");
+    for (; !shots.eof(); shots.MoveNext()) {
+        gathered.any_shot = true;
+        const QString round = shots.Fields(date).trimmed();
+        if (round != previous) {
+            gathered.rounds = gathered.rounds + static_cast<std::int16_t>(1);
+            previous = round;
+        }
+        const club_shot shot = read_shot(shots);
+        gathered.clubs[plain(shot.club)].add(shot);
+    }
+    return gathered;
+}
+
+}  // namespace
+
+QString club_shot_select(const selection_arguments& chosen)
+{
+    return columns + u"where ( games2.date>= " + quoted(chosen.from_key) + u" AND games2.date <=" +
+           quoted(chosen.to_key) + u"  AND  stat_rounds.date=games2.date) " + chosen.weather_clause +
+           chosen.partner_clause + chosen.course_clause +
+           u"  AND (NOT stat_rounds.shot_type_value = 3 ) ORDER BY STAT_ROUNDS.DATE,STAT_ROUNDS.HOLE ";
+}
+
+gathered_shots gather_club_shots(const selection_arguments& chosen)
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    shots.set_Source(club_shot_select(chosen));
+    shots.Open();
+    const gathered_shots gathered = add_up(shots);
+    shots.Close();
+    shots.set_Source(shots.settings().source);
+    return gathered;
+}
+
+}  // namespace verdane::Statistics

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "run_controls.h"
+#include "selection_arguments.h"
+
+/// The club statistics: from the shots of a selection to the report table `stat_sticks`.
+namespace verdane::Statistics {
+
+/// What becomes of a run besides the table.
+struct club_run {
+    /// Moves the bar and launches the report as the last act; null for a silent run without both.
+    const run_controls* window = nullptr;
+    /// Puts the number of clean shots of every club into the current row of `rssticks`, which the caller
+    /// has open and commits.
+    bool store_counts = false;
+};
+
+/// Fills the table. Without a shot in the selection it says so, silent or not, and no report opens; the
+/// table then has headings, names and zeros. Fails with `subscript` on a shot with a club above 14.
+void club_statistics(const selection_arguments& chosen, const club_run& run);
+
+/// The same up to the finished table, without the report. False when there was no shot; the user has
+/// been told.
+bool fill_stat_sticks(const selection_arguments& chosen, bool store_counts, run_progress& bar);
+
+}  // namespace verdane::Statistics

@@ -1,0 +1,74 @@
+#include "club_sums.h"
+
+#include "numbers.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int to_the_left = 2;
+constexpr int to_the_right = 3;
+constexpr int against_the_rules = 3;
+constexpr int out_of_bounds = 4;
+constexpr double feet_in_a_yard = 3;
+
+void count(int16& counter)
+{
+    counter = counter + static_cast<std::int16_t>(1);
+}
+
+void count_if(bool holds, int16& counter)
+{
+    if (holds)
+        count(counter);
+}
+
+double needed(const std::optional<int16>& length)
+{
+    if (!length)
+        throw run_time_failure(failure_kind::invalid_null, QStringLiteral("a shot without its length"));
+    return plain(*length);
+}
+
+double rest_in_yards(const club_shot& shot)
+{
+    if (!shot.after_in_yards)
+        return needed(shot.after) / feet_in_a_yard;
+    if (!shot.after && !shot.beyond_hole)
+        return 0;
+    return needed(shot.after);
+}
+
+}  // namespace
+
+bool is_clean(const club_shot& shot)
+{
+    return !shot.missed && !shot.sand && !shot.no_gain && shot.penalty != against_the_rules &&
+           shot.penalty != out_of_bounds;
+}
+
+int16 shot_distance(const club_shot& shot)
+{
+    const double rest = rest_in_yards(shot);
+    return to_int16(needed(shot.before) + (shot.beyond_hole ? rest : -rest));
+}
+
+void club_sums::add(const club_shot& shot)
+{
+    count(shots);
+    if (is_clean(shot)) {
+        count(clean_shots);
+        const int16 distance = shot_distance(shot);
+        if (distance > longest)
+            longest = distance;
+        distance_sum += plain(distance);
+    }
+    count_if(shot.position == in_the_fairway, in_fairway);
+    count_if(shot.position == to_the_left, left);
+    count_if(shot.position == to_the_right, right);
+    count_if(shot.missed, missed);
+    count_if(shot.penalty > 0, penalised);
+    count_if(shot.kind == approach_shot && shot.after && *shot.after == 0, holed);
+}
+
+}  // namespace verdane

@@ -1,0 +1,96 @@
+#include "club_table.h"
+
+#include "DataEnvironment1.h"
+#include "report_texts.h"
+#include "round_key.h"
+
+namespace verdane::club_table {
+
+namespace {
+
+constexpr int club_name = 0;
+constexpr int first_figure = 1;
+constexpr int heading_text = 11;
+constexpr int from_date = 12;
+constexpr int to_date = 13;
+constexpr int course_text = 14;
+constexpr int partner_text = 15;
+constexpr int weather_text = 16;
+constexpr int round_count = 17;
+
+Recordset& clubs_of_report()
+{
+    return data_environment().rsstat_sticks;
+}
+
+}  // namespace
+
+club_texts texts_of(const club_sums& sums)
+{
+    if (sums.shots <= 0) {
+        club_texts zeros;
+        zeros.fill(QStringLiteral("0"));
+        return zeros;
+    }
+    const auto share = [&sums](int16 part) { return share_text(part, sums.shots); };
+    const QString average =
+        sums.clean_shots > 0 ? average_text(sums.distance_sum / plain(sums.clean_shots)) : QString();
+    return {count_text(sums.shots), count_text(sums.longest), average,
+            share(sums.in_fairway), share(sums.right),        share(sums.left),
+            share(sums.missed),     share(sums.penalised),    share(sums.holed)};
+}
+
+void open()
+{
+    clubs_of_report().Open();
+    clubs_of_report().MoveFirst();
+}
+
+void write_heading(const selection_arguments& chosen)
+{
+    Recordset& report = clubs_of_report();
+    const QString from = Verdane_tools::key_text(chosen.from_key);
+    // In French whatever the language: the English template has a heading of its own.
+    report.Fields(heading_text).set(QString(u"STATISTIQUES SUR VOS BÂTONS DE " + from));
+    report.Fields(from_date).set(from);
+    report.Fields(to_date).set(Verdane_tools::key_text(chosen.to_key));
+    report.Fields(course_text).set(chosen.course_text);
+    report.Fields(partner_text).set(chosen.partner_text);
+    report.Fields(weather_text).set(chosen.weather_text);
+}
+
+void write_names()
+{
+    Recordset& names = data_environment().rssticknames;
+    names.Open();
+    names.MoveFirst();
+    clubs_of_report().MoveFirst();
+    for (int k = 1; k <= putter; ++k) {
+        clubs_of_report().Fields(club_name).set(names.Fields(k - 1).text_or_empty());
+        clubs_of_report().MoveNext();
+    }
+    names.Close();
+    clubs_of_report().MoveFirst();
+}
+
+void write_figures(const bag_sums& clubs)
+{
+    for (int s = 1; s < putter; ++s) {
+        int ordinal = first_figure;
+        for (const QString& text : texts_of(clubs[s]))
+            clubs_of_report().Fields(ordinal++).set(text);
+        clubs_of_report().UpdateBatch(affect::all_chapters);
+        clubs_of_report().MoveNext();
+    }
+}
+
+void write_round_count_and_close(int16 rounds)
+{
+    Recordset& report = clubs_of_report();
+    report.MoveFirst();
+    report.Fields(round_count).set(rounds);
+    report.Update();
+    report.Close();
+}
+
+}  // namespace verdane::club_table

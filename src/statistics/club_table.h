@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+#include "club_sums.h"
+#include "selection_arguments.h"
+
+/// The rows of the report table `stat_sticks`, one for each club, written through `rsstat_sticks` in the
+/// order laid down for them.
+namespace verdane::club_table {
+
+/// The figures of one club as the table's texts: shots, longest, average; then the shares in the
+/// fairway, right, left, missed, with a penalty, holed. "0" throughout for a club without shots; an
+/// empty average for one without a clean shot.
+using club_texts = std::array<QString, 9>;
+club_texts texts_of(const club_sums& sums);
+
+/// Opens the table.
+void open();
+/// The texts of row 1: the range and the choices.
+void write_heading(const selection_arguments& chosen);
+/// The name of every club.
+void write_names();
+/// The figures of clubs 1 to 13. The putter's row keeps what it has.
+void write_figures(const bag_sums& clubs);
+/// The number of rounds on row 1; then everything is committed and the table closed.
+void write_round_count_and_close(int16 rounds);
+
+}  // namespace verdane::club_table

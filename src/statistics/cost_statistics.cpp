@@ -1,0 +1,123 @@
+#include "cost_statistics.h"
+
+#include "boxes.h"
+#include "DataEnvironment1.h"
+#include "language.h"
+#include "relaxed_commits.h"
+#include "report_control.h"
+#include "round_columns.h"
+#include "single_commit.h"
+
+namespace verdane::Statistics {
+
+namespace {
+
+constexpr int round_count = 14;
+constexpr int step_of_a_round = 3;
+
+void remove_rows(Recordset& report)
+{
+    report.Open();
+    if (!report.empty()) {
+        for (report.MoveFirst(); !report.eof(); report.MoveNext())
+            report.Delete();
+    }
+    report.UpdateBatch();
+    report.Close();
+}
+
+void copy_row(Recordset& cost, Recordset& report)
+{
+    report.AddNew();
+    for (int ordinal = round_columns::date; ordinal <= round_columns::last_amount; ++ordinal)
+        report.Fields(ordinal).set(cost.Fields(ordinal).value());
+    report.Update();
+}
+
+int16 copy_rows(Recordset& cost, Recordset& report, run_progress& bar)
+{
+    int16 rounds = 0;
+    int value = 0;
+    for (cost.MoveFirst(); !cost.eof(); cost.MoveNext()) {
+        value += step_of_a_round;
+        bar.pass_through(value);
+        copy_row(cost, report);
+        rounds = rounds + static_cast<std::int16_t>(1);
+    }
+    return rounds;
+}
+
+/// False when the selection has no costs; the report table is empty then.
+bool fill_from_costs(const selection_arguments& chosen, run_progress& bar)
+{
+    Recordset& cost = data_environment().rscost;
+    Recordset& report = data_environment().rsr_cost;
+    remove_rows(report);
+    cost.set_Source(cost_select(chosen));
+    cost.Open();
+    report.Open();
+    const bool any_cost = !cost.empty();
+    if (any_cost) {
+        const int16 rounds = copy_rows(cost, report, bar);
+        report.MoveFirst();
+        report.Fields(round_count).set(rounds);
+        report.Update();
+    }
+    report.Close();
+    cost.Close();
+    return any_cost;
+}
+
+bool fill_in_one_commit(const selection_arguments& chosen, run_progress& bar)
+{
+    const relaxed_commits scratch(data_environment().connection);
+    single_commit together(data_environment().connection);
+    const bool any_cost = fill_from_costs(chosen, bar);
+    together.finish();
+    return any_cost;
+}
+
+}  // namespace
+
+void empty_cost_report()
+{
+    single_commit together(data_environment().connection);
+    remove_rows(data_environment().rsr_cost);
+    together.finish();
+}
+
+QString cost_select(const selection_arguments& chosen)
+{
+    return u"select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
+           u"cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au from  cost "
+           u", games2 where ( cost.date=games2.date and cost.date>= " +
+           quoted(chosen.from_key) + u" AND cost.date <=" + quoted(chosen.to_key) + u" ) " +
+           chosen.partner_clause + chosen.course_clause + chosen.weather_clause;
+}
+
+bool fill_r_cost(const selection_arguments& chosen, run_progress& bar)
+{
+    if (!fill_in_one_commit(chosen, bar)) {
+        tell(in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
+                         u"Verdane could not find any detailed rounds with the chosen parameters."));
+        bar.hide();
+        return false;
+    }
+    data_environment().rscost.set_Source(QStringLiteral("select * from cost"));
+    bar.move_to(100);
+    bar.hide();
+    return true;
+}
+
+void cost_statistics(const selection_arguments& chosen, const run_controls& window)
+{
+    run_progress bar(window.Status);
+    bar.show(0);
+    if (!fill_r_cost(chosen, bar))
+        return;
+    report_control& cr2 = window.report;
+    prepare_report(cr2, report_opening::maximised(), u"\\r_cost3.rpt", u"\\r_cost3_en.rpt");
+    cr2.Action(report_control::run_now);
+}
+
+}  // namespace verdane::Statistics

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "control_array.h"
+#include "Form.h"
+
+class QBoxLayout;
+class QComboBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+
+namespace verdane {
+
+/// The golf bag: names and average distances of the fourteen clubs; in English `f_sticks_en`. The
+/// averages are typed, or worked out from the shots of a selection of rounds. Nothing reaches the store
+/// before the question at the end is answered with Yes.
+///
+/// It stands with the statistics because it runs one of them. Making the window loads it; `rssticks` and
+/// `rssticknames` are open until it has gone. Without a stored round it says so, and `show_modal` then
+/// returns at once.
+class f_sticks final : public Form {
+public:
+    f_sticks();
+
+    static constexpr int club_count = 14;
+
+    /// Member i is club i + 1: its name, and its average distance in yards.
+    control_array<QLineEdit> sn{u"sn"};
+    /// Behind the fourteen averages stand the boxes of filters that do not exist.
+    control_array<QLineEdit> Text1{u"Text1"};
+    QLabel* head = nullptr;
+    QPushButton* Command1 = nullptr;
+    QPushButton* enr = nullptr;
+    QPushButton* Fer = nullptr;
+    QGroupBox* Frame1 = nullptr;
+    QListWidget* List1 = nullptr;
+    QListWidget* List2 = nullptr;
+    QComboBox* conditions = nullptr;
+    QComboBox* pList = nullptr;
+    QComboBox* cmb_courses = nullptr;
+    QPushButton* Actualiser = nullptr;
+
+    /// Makes the window as wide as it was laid out, or as wide as its controls need.
+    void widen_to(int twips);
+
+    void closeForm() override;
+
+protected:
+    void unloading() override;
+    void close_requested() override;
+
+private:
+    void lay_out();
+    QBoxLayout* make_bag_column();
+    QGroupBox* make_bag();
+    void add_club(QGridLayout& grid, int index);
+    QLayout* make_foot();
+    QGroupBox* make_filters();
+    QWidget* make_list_frame(QStringView name, const QString& words, QListWidget*& list);
+    QLayout* make_choices();
+    QLayout* make_unread_boxes();
+    void wire();
+};
+
+}  // namespace verdane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "checked_array.h"
+#include "counts.h"
+#include "language.h"
+
+/// How a putt is judged: seven bands of length, a grade for each pair of them, words for the mean grade.
+/// Lengths are in feet; band 1 is the longest. Everything here is pure.
+namespace verdane {
+
+constexpr int band_count = 7;
+
+/// One value for each band, indexed 1 to 7.
+template <typename Value>
+using by_band = checked_array<Value, band_count, 1>;
+
+/// The band of the length from which a putt starts, 1 (50 feet and more) to 7 (below 5).
+int first_putt_band(int16 length);
+
+/// The band of the length that a putt leaves, 1 (25 feet and more) to 7 (0 or 1).
+int after_putt_band(int16 length);
+
+/// How bad a putt is that starts in one band and stops in the other: 1, at best, to 10.
+int putt_grade(int start_band, int stop_band);
+
+/// The words for a mean grade over a number of putts; "N/A" without putts. The scale has a gap: a mean
+/// of exactly 3.7 has no words.
+text_pair putt_rating(double score, int16 putt_count);
+
+}  // namespace verdane

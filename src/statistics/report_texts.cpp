@@ -1,0 +1,34 @@
+#include "report_texts.h"
+
+#include "numbers.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int room = 5;
+
+}  // namespace
+
+QString count_text(int16 count)
+{
+    return plain_number_text(plain(count));
+}
+
+QString mean_text(double mean)
+{
+    return plain_number_text(mean).left(room);
+}
+
+QString average_text(double mean)
+{
+    return number_text(mean).left(room);
+}
+
+QString share_text(int16 part, int16 whole)
+{
+    const double percent = plain(part) * 100.0 / plain(whole);
+    return QString(plain_number_text(percent) + u'%').left(room);
+}
+
+}  // namespace verdane

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+class QComboBox;
+class QListWidget;
+
+/// What the user picked in the lists of a selection. The entry that filters nothing is the first of
+/// every filter; it reads as the empty text.
+namespace verdane {
+
+bool is_on(const QComboBox& filter);
+
+/// The key of the round on the selected line, read back by position.
+QString chosen_round_key(const QListWidget& rounds);
+
+/// The stored weather, "0" to "3".
+QString chosen_weather(const QComboBox& conditions);
+
+/// The partner's number.
+QString chosen_partner(const QComboBox& partners);
+
+/// The code of the course. Reads `rsvrd_fields`, which is closed before and afterwards.
+QString chosen_course(const QComboBox& courses);
+
+}  // namespace verdane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "reader.h"
+#include "selection_arguments.h"
+
+/// What the tests of the statistics put into a store beside the rounds, and what they read back.
+namespace verdane::testing {
+
+/// Every row of a table as texts, by ordinal, in the order in which the rows were laid down.
+QList<QStringList> table_rows(const reader& store, const QString& table);
+
+/// Putt lengths of a hole of a stored round, from the first on.
+void put_putts(const reader& store, const QString& key, int hole, const QList<int>& lengths);
+
+/// A row of costs with the amounts 1 to 12 times `unit`.
+void put_costs(const reader& store, const QString& key, int unit);
+
+/// A shot as the diary holds it: columns and values of SQL beside round and club.
+void put_shot(const reader& store, const QString& key, int club, const QString& columns,
+              const QString& values);
+
+/// All rounds between two keys, with the clauses of filters that are off.
+selection_arguments open_selection(const QString& from_key, const QString& to_key);
+/// The same for the putt statistics.
+selection_arguments open_putt_selection(const QString& from_key, const QString& to_key);
+
+}  // namespace verdane::testing

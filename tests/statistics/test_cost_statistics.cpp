@@ -1,0 +1,202 @@
+#include <QTest>
+#include <QWidget>
+
+#include "boxes.h"
+#include "cost_statistics.h"
+#include "DataEnvironment1.h"
+#include "diary.h"
+#include "hand_widgets.h"
+#include "report_rows.h"
+#include "report_store.h"
+#include "selection_windows.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Rounds on the first days of a year, each with costs by its day.
+class stored_costs {
+public:
+    explicit stored_costs(int days, bool french = true) : folder(french), book(folder.path())
+    {
+        set_report_store(folder.path());
+        const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
+        book.add(course);
+        std::vector<diary_round> rounds;
+        for (int day = 1; day <= days; ++day)
+            rounds.push_back({key_of_day(day), course, holes_over(course.pars, 0), day % 2, {}});
+        book.add(rounds);
+        for (int day = 1; day <= days; ++day)
+            put_costs(book.store, key_of_day(day), day);
+    }
+
+    QList<QStringList> report() const { return table_rows(book.store, u"r_cost"_s); }
+
+    store_folder folder;
+    diary book;
+};
+
+selection_arguments days(int from, int to)
+{
+    return open_selection(key_of_day(from), key_of_day(to));
+}
+
+bool fill(const selection_arguments& chosen)
+{
+    run_progress no_bar;
+    return Statistics::fill_r_cost(chosen, no_bar);
+}
+
+void answer_no_costs(hand& user)
+{
+    answer_plain(user, u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
+                 u"Verdane could not find any detailed rounds with the chosen parameters.");
+}
+
+QStringList row_of_day(int day, const QString& count)
+{
+    QStringList row{key_of_day(day)};
+    for (int amount = 1; amount <= 12; ++amount)
+        row << QString::number(amount * day);
+    return row << QString() << count;
+}
+
+}  // namespace
+
+class test_cost_statistics : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_costs_of_the_chosen_rounds_are_copied_and_counted()
+    {
+        const stored_costs costs(4);
+        QVERIFY(fill(days(2, 3)));
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(2, u"2"_s), row_of_day(3, QString())}));
+        QVERIFY(open_recordsets().isEmpty());
+        QCOMPARE(data_environment().rscost.Source(), u"select * from cost"_s);
+    }
+
+    void two_runs_leave_the_rows_of_the_second()
+    {
+        const stored_costs costs(4);
+        QVERIFY(fill(days(1, 4)));
+        QVERIFY(fill(days(4, 4)));
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(4, u"1"_s)}));
+    }
+
+    void a_round_without_costs_is_left_out()
+    {
+        const stored_costs costs(3);
+        costs.book.store.write(u"delete from cost where date = '"_s + key_of_day(2) + u'\'');
+        QVERIFY(fill(days(1, 3)));
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(1, u"2"_s), row_of_day(3, QString())}));
+    }
+
+    void the_clauses_choose_the_rounds()
+    {
+        const stored_costs costs(4);
+        selection_arguments chosen = days(1, 4);
+        chosen.weather_clause = u" AND (games2.conditionM = 0)"_s;
+        chosen.course_clause = u" AND GAMES2.FC = 'PINS-0'"_s;
+        QVERIFY(fill(chosen));
+        QCOMPARE(costs.report().size(), 2);
+    }
+
+    void large_amounts_are_copied_whole()
+    {
+        const stored_costs costs(1);
+        costs.book.store.write(u"update cost set au = 2000000000"_s);
+        QVERIFY(fill(days(1, 1)));
+        QCOMPARE(costs.report()[0][12], u"2000000000"_s);
+    }
+
+    void a_selection_without_costs_empties_the_table_and_keeps_its_statement_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<int>("from");
+        QTest::newRow("no round so late, French") << true << 9;
+        QTest::newRow("no round so late, English") << false << 9;
+        QTest::newRow("the range runs backwards, French") << true << 3;
+        QTest::newRow("the range runs backwards, English") << false << 3;
+    }
+    void a_selection_without_costs_empties_the_table_and_keeps_its_statement()
+    {
+        QFETCH(bool, french);
+        QFETCH(int, from);
+        const stored_costs costs(3, french);
+        QVERIFY(fill(days(1, 3)));
+        play([&] { QVERIFY(!fill(days(from, 1))); }, answer_no_costs);
+        QVERIFY(costs.report().isEmpty());
+        QVERIFY(open_recordsets().isEmpty());
+        QCOMPARE(data_environment().rscost.Source(), Statistics::cost_select(days(from, 1)));
+    }
+
+    void closing_the_window_puts_the_whole_table_back()
+    {
+        const stored_costs costs(2);
+        in_selection_window(
+            [](hand& user) {
+                select_range(user, 1, 0);
+                run(user, statistics_mode::cost);
+                answer_no_costs(user);
+                user.wait_until(u"the bar is gone"_s, [] { return !find_control(u"Status"_s)->isVisible(); });
+                user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
+            },
+            statistics_mode::cost);
+        QCOMPARE(data_environment().rscost.Source(), u"select * from cost"_s);
+    }
+
+    void the_bar_rises_by_3_a_round_and_never_past_its_end_data()
+    {
+        QTest::addColumn<int>("rounds");
+        QTest::newRow("one round") << 1;
+        QTest::newRow("33 rounds") << 33;
+        QTest::newRow("34 rounds reach the end") << 34;
+        QTest::newRow("40 rounds") << 40;
+    }
+    void the_bar_rises_by_3_a_round_and_never_past_its_end()
+    {
+        QFETCH(int, rounds);
+        const stored_costs costs(rounds);
+        const auto steps = bar_in_selection_window(
+            [rounds](hand& user) {
+                select_range(user, 0, rounds - 1);
+                run(user, statistics_mode::cost);
+                close_report(user, statistics_mode::cost);
+                user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+            },
+            statistics_mode::cost);
+        QList<int> expected;
+        for (int round = 1; round <= rounds && 3 * round < 100; ++round)
+            expected << 3 * round;
+        expected << 100;
+        QList<int> values;
+        for (const bar_step& step : steps) {
+            QVERIFY(step.seen);
+            values << step.value;
+        }
+        QCOMPARE(values, expected);
+        QCOMPARE(costs.report().size(), rounds);
+    }
+
+    void the_report_opens_in_the_language_data() { both_languages(); }
+    void the_report_opens_in_the_language()
+    {
+        QFETCH(bool, french);
+        const stored_costs costs(2, french);
+        in_selection_window(
+            [](hand& user) {
+                select_range(user, 0, 1);
+                run(user, statistics_mode::cost);
+                close_report(user, statistics_mode::cost);
+            },
+            statistics_mode::cost);
+        QCOMPARE(costs.report().size(), 2);
+    }
+};
+
+QTEST_MAIN(test_cost_statistics)
+#include "test_cost_statistics.moc"
