@@ -8,6 +8,7 @@
 #include "f_date_range.h"
 #include "f_games.h"
 #include "f_partners.h"
+#include "f_sticks.h"
 #include "failure_guard.h"
 #include "language.h"
 #include "language_value.h"
@@ -35,11 +36,21 @@ bool a_round_is_stored()
     return has_rows(data_environment().rsgames);
 }
 
-template <typename Window>
-void open_window()
+template <typename Window, typename... Arguments>
+void open_window(Arguments... arguments)
 {
-    Window window;
+    Window window(arguments...);
     window.show_modal();
+}
+
+void open_statistics(statistics_mode mode)
+{
+    if (!a_round_is_stored()) {
+        tell(in_language(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
+             QMessageBox::Critical);
+        return;
+    }
+    open_window<f_date_range>(mode);
 }
 
 void store_language(int value)
@@ -95,14 +106,29 @@ void command_scorecard()
     open_window<f_carte>();
 }
 
+void command_golf_bag()
+{
+    open_window<f_sticks>();
+}
+
+void command_club_statistics()
+{
+    open_statistics(statistics_mode::club);
+}
+
+void command_putt_statistics()
+{
+    open_statistics(statistics_mode::putt);
+}
+
 void command_round_statistics()
 {
-    if (!a_round_is_stored()) {
-        tell(in_language(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
-             QMessageBox::Critical);
-        return;
-    }
-    open_window<f_date_range>();
+    open_statistics(statistics_mode::round);
+}
+
+void command_cost_statistics()
+{
+    open_statistics(statistics_mode::cost);
 }
 
 void command_partners()

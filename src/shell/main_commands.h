@@ -8,7 +8,11 @@ void command_new_round();
 void command_round_list();
 void command_course_list();
 void command_scorecard();
+void command_golf_bag();
+void command_club_statistics();
+void command_putt_statistics();
 void command_round_statistics();
+void command_cost_statistics();
 void command_partners();
 void command_about();
 

@@ -36,12 +36,18 @@ const std::vector<top_menu>& main_menu()
          {{u"mManagF", {u"&Gestion des terrains", u"&Golf Course Management"}, command_course_list, locked},
           {u"mCarte", {u"&Carte de pointage", u"&Scorecard"}, command_scorecard, locked}},
          locked},
+        {u"batons",
+         {u"&Bâtons", u"&Golf Clubs"},
+         {{u"mnBat", {u"&Mes bâtons", u"&My Golf Clubs"}, command_golf_bag, locked}}},
         {u"partenaires",
          {u"&Partenaires", u"&Partners"},
          {{u"mpartners", {u"&Gestion des partenaires", u"&Partner Management"}, command_partners, locked}}},
         {u"mnstat",
          {u"&Statistiques", u"&Statistics"},
-         {{u"mnstatr", {u"Statistiques des r&ondes", u"Round Statistics"}, command_round_statistics}},
+         {{u"mnStabat", {u"Statistiques des &bâtons", u"Club Statistics"}, command_club_statistics},
+          {u"mnStatcr", {u"Statistiques des coups &roulés", u"Putt Statistics"}, command_putt_statistics},
+          {u"mnstatr", {u"Statistiques des r&ondes", u"Round Statistics"}, command_round_statistics},
+          {u"mncouts", {u"Satistiques des coû&ts", u"Cost Statistics"}, command_cost_statistics}},
          locked},
         {u"maprop", {u"&A propos", u"&About"}, {}, locked, command_about},
     };
@@ -57,6 +63,7 @@ const std::vector<tool_button>& main_toolbar()
         {u"B4", u"Enregistrer", command_save},
         {u"B5", u"Fermer", command_close},
         {u"B6", u"Mes partenaires", command_partners, locked},
+        {u"B7", u"Gestion des battons", command_golf_bag, locked},
         {u"B8", u"Carte de jeux", command_scorecard, locked},
     };
     return toolbar;

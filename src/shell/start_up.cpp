@@ -13,7 +13,9 @@
 #include "look.h"
 #include "Main_module.h"
 #include "MainForm.h"
+#include "putt_statistics.h"
 #include "report_store.h"
+#include "round_putt_report.h"
 #include "toolkit_language.h"
 
 /// The pictures stand in a library, so the linker would leave them out: nothing else asks for them.
@@ -84,6 +86,7 @@ start_result Main()
     // everything else done here, can wait until then: see `run_verdane`.
     data_environment().connection.Open(Connection1::default_path(), soundness_check::later);
     set_report_store(data_environment().connection.path());
+    set_round_putt_report(Statistics::one_round_putt_report);
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
     const start_result result = settle_language(rssettings);

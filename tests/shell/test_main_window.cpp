@@ -45,10 +45,15 @@ const std::vector<caption_row>& captions()
         {"mCourses", QStringLiteral("&Terrains"), QStringLiteral("&Golf Courses")},
         {"mManagF", QStringLiteral("&Gestion des terrains"), QStringLiteral("&Golf Course Management")},
         {"mCarte", QStringLiteral("&Carte de pointage"), QStringLiteral("&Scorecard")},
+        {"batons", QStringLiteral("&Bâtons"), QStringLiteral("&Golf Clubs")},
+        {"mnBat", QStringLiteral("&Mes bâtons"), QStringLiteral("&My Golf Clubs")},
         {"partenaires", QStringLiteral("&Partenaires"), QStringLiteral("&Partners")},
         {"mpartners", QStringLiteral("&Gestion des partenaires"), QStringLiteral("&Partner Management")},
         {"mnstat", QStringLiteral("&Statistiques"), QStringLiteral("&Statistics")},
+        {"mnStabat", QStringLiteral("Statistiques des &bâtons"), QStringLiteral("Club Statistics")},
+        {"mnStatcr", QStringLiteral("Statistiques des coups &roulés"), QStringLiteral("Putt Statistics")},
         {"mnstatr", QStringLiteral("Statistiques des r&ondes"), QStringLiteral("Round Statistics")},
+        {"mncouts", QStringLiteral("Satistiques des coû&ts"), QStringLiteral("Cost Statistics")},
         {"maprop", QStringLiteral("&A propos"), QStringLiteral("&About")},
     };
     return rows;
@@ -155,7 +160,9 @@ private Q_SLOTS:
                                        QStringLiteral("Gestion des terrain"),
                                        QStringLiteral("Enregistrer"),
                                        QStringLiteral("Fermer"),
-                                       QStringLiteral("Mes partenaires")};
+                                       QStringLiteral("Mes partenaires"),
+                                       QStringLiteral("Gestion des battons"),
+                                       QStringLiteral("Carte de jeux")};
                 for (int i = 0; i < tips.size(); ++i)
                     QCOMPARE(tool(QStringLiteral("B%1").arg(i + 1))->toolTip(), tips.at(i));
             });
@@ -186,12 +193,12 @@ private Q_SLOTS:
         in_main_window(1, one_course(), [](hand& user) {
             const auto locked = [&](bool expected) {
                 user.look([&] {
-                    for (const char* name : {"mnOPenr", "mOpen", "mpartners", "mQuit", "maprop", "mManagF",
-                                             "mnstat", "mCourses"})
+                    for (const char* name : {"mCarte", "mnBat", "mnOPenr", "mOpen", "mpartners", "mQuit",
+                                             "maprop", "mManagF", "mnstat", "mCourses"})
                         QCOMPARE(entry(QString::fromLatin1(name))->isEnabled(), !expected);
-                    for (const char* key : {"B1", "B2", "B3", "B6"})
+                    for (const char* key : {"B1", "B2", "B3", "B6", "B7", "B8"})
                         QCOMPARE(tool(QString::fromLatin1(key))->isEnabled(), !expected);
-                    for (const char* name : {"mEn", "mfr", "mfile", "Rondes", "partenaires"})
+                    for (const char* name : {"mEn", "mfr", "mfile", "Rondes", "batons", "partenaires"})
                         QVERIFY2(entry(QString::fromLatin1(name))->isEnabled(), name);
                     for (const char* key : {"B4", "B5"})
                         QVERIFY2(tool(QString::fromLatin1(key))->isEnabled(), key);
@@ -310,9 +317,11 @@ private Q_SLOTS:
             user.answer(no_round);
             user.click(QStringLiteral("B2"));
             user.answer(no_round);
-            user.menu(QStringLiteral("mnstatr"));
-            user.answer({words(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
-                         QMessageBox::Critical, default_title(), QMessageBox::Ok});
+            for (const char* statistics : {"mnStabat", "mnStatcr", "mnstatr", "mncouts"}) {
+                user.menu(QLatin1String(statistics));
+                user.answer({words(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
+                             QMessageBox::Critical, default_title(), QMessageBox::Ok});
+            }
         });
     }
 
@@ -337,7 +346,11 @@ private Q_SLOTS:
                 {QStringLiteral("mnOPenr"), QStringLiteral("f_games")},
                 {QStringLiteral("mManagF"), QStringLiteral("f_c_list")},
                 {QStringLiteral("mpartners"), QStringLiteral("f_partners")},
+                {QStringLiteral("mnBat"), QStringLiteral("f_sticks")},
+                {QStringLiteral("mnStabat"), QStringLiteral("f_date_range")},
+                {QStringLiteral("mnStatcr"), QStringLiteral("f_date_range")},
                 {QStringLiteral("mnstatr"), QStringLiteral("f_date_range")},
+                {QStringLiteral("mncouts"), QStringLiteral("f_date_range")},
                 {QStringLiteral("maprop"), QStringLiteral("f_about")}};
             for (const auto& [command, window] : commands) {
                 user.menu(command);
@@ -345,6 +358,35 @@ private Q_SLOTS:
                 user.close_window(window + twin);
                 user.wait_until_gone(window + twin);
             }
+        });
+    }
+
+    void each_statistics_command_leaves_one_run_button()
+    {
+        in_main_window(1, one_course() + one_round(), [&](hand& user) {
+            const std::vector<std::pair<QString, QString>> commands{
+                {QStringLiteral("mnStabat"), QStringLiteral("Command1")},
+                {QStringLiteral("mnStatcr"), QStringLiteral("OKButton")},
+                {QStringLiteral("mnstatr"), QStringLiteral("Command2")},
+                {QStringLiteral("mncouts"), QStringLiteral("Command3")}};
+            for (const auto& [command, button] : commands) {
+                user.menu(command);
+                user.wait_for_window(QStringLiteral("f_date_range"));
+                for (const auto& [other, each] : commands)
+                    user.check(user.visible(each) == (each == button), command + u' ' + each);
+                user.close_window(QStringLiteral("f_date_range"));
+                user.wait_until_gone(QStringLiteral("f_date_range"));
+            }
+        });
+    }
+
+    void the_golf_bag_opens_from_the_toolbar()
+    {
+        in_main_window(1, one_course() + one_round(), [&](hand& user) {
+            user.click(QStringLiteral("B7"));
+            user.wait_for_window(QStringLiteral("f_sticks"));
+            user.click(QStringLiteral("Fer"));
+            user.wait_until_gone(QStringLiteral("f_sticks"));
         });
     }
 
