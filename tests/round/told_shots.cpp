@@ -69,7 +69,6 @@ void name_the_clubs(const round_store& store)
 void go_to_detailed_page(hand& user)
 {
     user.click_tab(QStringLiteral("TabStrip2"), 2);
-    user.wait_until(QStringLiteral("the shots"), [&] { return true; });
     user.check(user.visible(details), QStringLiteral("the grid is in sight"));
 }
 

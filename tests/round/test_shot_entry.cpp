@@ -1,0 +1,362 @@
+#include <QLineEdit>
+#include <QTest>
+
+#include "data_grid.h"
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "languages.h"
+#include "round_windows.h"
+#include "shot_entry.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString next = QStringLiteral("CommandSuiv");
+const QString away = QStringLiteral("CommandSup");
+
+/// Two courses, named clubs and the keyed round in the store, to be reopened on its shots.
+struct round_with_shots {
+    explicit round_with_shots(bool french = true) : store(french)
+    {
+        store.add_two_courses();
+        name_the_clubs(store);
+        store.add_round(key_of_keyed_round());
+    }
+
+    /// Opens the round on its detailed page, runs the script and takes the window away as it stands.
+    void play(const std::function<void(hand&)>& script) const
+    {
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            script(user);
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+    }
+
+    void add(int shot, int club, int after, const QString& unit, int kind) const
+    {
+        add_told_shot(store, 1, shot, club, after, unit, kind);
+    }
+
+    round_store store;
+};
+
+bool put_mode(hand& user)
+{
+    bool on = false;
+    with_round(user, [&on](f_new_round& window) { on = window.PUT_MODE; });
+    return on;
+}
+
+const QString yards = QStringLiteral("Verges");
+const QString feet = QStringLiteral("Pieds");
+
+}  // namespace
+
+class test_shot_entry : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_next_shot_is_born_behind_the_last_data() { both_languages(); }
+    void the_next_shot_is_born_behind_the_last()
+    {
+        QFETCH(bool, french);
+        const round_with_shots round(french);
+        round.add(1, 1, 60, french ? yards : QStringLiteral("Yards"), 1);
+        round.play([&](hand& user) {
+            user.click(next);
+            user.same(user.grid_row(details, 1),
+                      french ? QStringLiteral("2 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | ")
+                             : QStringLiteral("2 |  |  |  |  | No | No | No | No | Fairway | "),
+                      QStringLiteral("new row"));
+            user.same(user.cursor(details), QStringLiteral("1,2"), QStringLiteral("cursor"));
+            user.same(user.focus(), details, QStringLiteral("focus"));
+            user.same(boxes(user), QStringLiteral("1 0 0 1 0 0 0 0 0 0 0"), QStringLiteral("summed up"));
+        });
+        QCOMPARE(stored_shots(round.store, 1).split(u'\n').last(), QStringLiteral("2 60>- - -/0 -/0"));
+        QCOMPARE(
+            round.store.text(QStringLiteral("select normal || ' ' || verges || ' ' || date from Stat_rounds "
+                                            "where shot = 2")),
+            QStringLiteral("4 101 ") + key_of_keyed_round());
+    }
+
+    void no_shot_comes_behind_an_unfinished_one_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QString>("values");
+        for (const bool french : {true, false}) {
+            const char* language = french ? "French" : "English";
+            QTest::addRow("%s, blank", language) << french << "fairval = 1";
+            QTest::addRow("%s, no club", language) << french << "after = 60, shot_type_value = 1";
+            QTest::addRow("%s, no kind", language) << french << "after = 60, stickval = 1";
+            QTest::addRow("%s, holed", language) << french << "after = 0, stickval = 14, shot_type_value = 3";
+        }
+    }
+    void no_shot_comes_behind_an_unfinished_one()
+    {
+        QFETCH(bool, french);
+        QFETCH(QString, values);
+        const round_with_shots round(french);
+        add_shot(round.store, 1, 1, values);
+        round.play([&](hand& user) {
+            user.click(next);
+            user.answer(refusal_of_shot());
+            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
+            user.same(user.focus(), details, QStringLiteral("focus"));
+        });
+    }
+
+    void behind_a_putt_the_next_is_a_putt_data() { both_languages(); }
+    void behind_a_putt_the_next_is_a_putt()
+    {
+        QFETCH(bool, french);
+        const round_with_shots round(french);
+        round.add(1, 9, 10, french ? yards : QStringLiteral("Yards"), 2);
+        round.add(2, 14, 6, french ? feet : QStringLiteral("Feets"), 3);
+        round.play([&](hand& user) {
+            user.click(next);
+            user.same(user.cursor(details), QStringLiteral("2,3"), QStringLiteral("cursor"));
+            user.check(put_mode(user), QStringLiteral("PUT_MODE"));
+        });
+        const QString unit = french ? feet : QStringLiteral("Feets");
+        const QStringList stored = stored_shots(round.store, 1).split(u'\n');
+        QCOMPARE(stored[0].section(u' ', 1, 2), QString(u"101>30 " + unit));
+        QCOMPARE(stored[2], QString(u"3 6>- " + unit + u" Pu/14 Putt/3"));
+        QCOMPARE(round.store.text(
+                     QStringLiteral("select fairval || faireway || '|' from Stat_rounds where shot = 2")),
+                 QStringLiteral("0 |"));
+    }
+
+    void on_the_green_distances_alone_tell_the_putts()
+    {
+        const round_with_shots round;
+        round.add(1, 9, 30, yards, 2);
+        round.play([&](hand& user) {
+            user.click(next);
+            user.type(QStringLiteral("p"));
+            for (const QString& left : {QStringLiteral("9"), QStringLiteral("3"), QStringLiteral("1")}) {
+                user.type(left);
+                user.key(Qt::Key_Return);
+            }
+            user.same(user.grid_rows(details), 5, QStringLiteral("rows"));
+            user.same(user.cursor(details), QStringLiteral("4,3"), QStringLiteral("cursor"));
+        });
+        const QStringList stored = stored_shots(round.store, 1).split(u'\n');
+        QCOMPARE(stored[0].section(u' ', 1, 2), QStringLiteral("101>90 Pieds"));
+        QCOMPARE(stored[4].section(u' ', 1, 1), QStringLiteral("1>-"));
+    }
+
+    void nothing_left_on_the_last_putt_brings_the_message_and_no_row_data() { both_languages(); }
+    void nothing_left_on_the_last_putt_brings_the_message_and_no_row()
+    {
+        QFETCH(bool, french);
+        const round_with_shots round(french);
+        round.add(1, 14, 6, french ? feet : QStringLiteral("Feets"), 3);
+        round.play([&](hand& user) {
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("0"));
+            user.key(Qt::Key_Return);
+            user.answer(refusal_of_shot());
+            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
+        });
+    }
+
+    void a_distance_on_a_putt_further_up_opens_nothing()
+    {
+        const round_with_shots round;
+        round.add(1, 14, 6, feet, 3);
+        round.add(2, 14, 2, feet, 3);
+        round.play([&](hand& user) {
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("7"));
+            user.key(Qt::Key_Return);
+            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
+            user.same(user.cell(details, 0, 3), QStringLiteral("7"), QStringLiteral("distance"));
+        });
+    }
+
+    void a_row_of_the_putter_is_a_putt_as_soon_as_its_distance_is_typed()
+    {
+        const round_with_shots round;
+        add_shot(round.store, 1, 1, QStringLiteral("stickval = 14, stick = 'Pu', unit = 'Verges'"));
+        round.play([&](hand& user) {
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("5"));
+            user.key(Qt::Key_Return);
+            user.same(user.cell(details, 0, 4) + user.cell(details, 0, 5), QStringLiteral("PiedsPutt"),
+                      QStringLiteral("row"));
+            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
+        });
+    }
+
+    void the_kind_putt_opens_the_next_putt_data() { both_languages(); }
+    void the_kind_putt_opens_the_next_putt()
+    {
+        QFETCH(bool, french);
+        const round_with_shots round(french);
+        round.play([&](hand& user) {
+            tell_shot(user, 0, 5, QStringLiteral("20"), 3);
+            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
+            user.same(user.cell(details, 0, 2) + user.cell(details, 0, 5), QStringLiteral("F5Putt"),
+                      QStringLiteral("first row"));
+            user.same(user.cell(details, 1, 2) + user.cell(details, 1, 4) + user.cell(details, 1, 5),
+                      french ? QStringLiteral("PuPiedsPutt") : QStringLiteral("PuFeetsPutt"),
+                      QStringLiteral("second row"));
+            user.same(user.cursor(details), QStringLiteral("1,3"), QStringLiteral("cursor"));
+        });
+    }
+
+    void the_kind_putt_without_a_distance_is_told_and_fills_the_row_itself_data() { both_languages(); }
+    void the_kind_putt_without_a_distance_is_told_and_fills_the_row_itself()
+    {
+        QFETCH(bool, french);
+        const round_with_shots round(french);
+        round.play([&](hand& user) {
+            tell_shot(user, 0, 5, QString(), 3);
+            user.answer(refusal_of_shot());
+            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
+            user.same(user.cell(details, 0, 2) + user.cell(details, 0, 4) + user.cell(details, 0, 5),
+                      french ? QStringLiteral("PuPiedsPutt") : QStringLiteral("PuFeetsPutt"),
+                      QStringLiteral("row"));
+            user.same(user.cursor(details), QStringLiteral("0,3"), QStringLiteral("cursor"));
+        });
+    }
+
+    void a_shot_is_removed_and_the_others_close_up_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<bool>("putt_last");
+        QTest::newRow("first") << 0 << "1 101>90 Pieds F9/9 Approche/2\n2 90>0 Pieds Pu/14 Putt/3" << true;
+        QTest::newRow("middle") << 1 << "1 101>180 Pieds D/1 Long/1\n2 60>0 Pieds Pu/14 Putt/3" << true;
+        QTest::newRow("last: feet go back to yards")
+            << 2 << "1 101>60 Verges D/1 Long/1\n2 60>30 Verges F9/9 Approche/2" << false;
+    }
+    void a_shot_is_removed_and_the_others_close_up()
+    {
+        QFETCH(int, row);
+        QFETCH(QString, left);
+        QFETCH(bool, putt_last);
+        const round_with_shots round;
+        round.add(1, 1, 60, yards, 1);
+        round.add(2, 9, 90, feet, 2);
+        round.add(3, 14, 0, feet, 3);
+        round.play([&](hand& user) {
+            user.click_cell(details, row, 1);
+            user.click(away);
+            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
+            user.check(put_mode(user) == putt_last, QStringLiteral("PUT_MODE"));
+            user.same(user.cursor(details).front(), QStringLiteral("1"), QStringLiteral("cursor"));
+        });
+        QCOMPARE(stored_shots(round.store, 1).remove(u" fairway=0"_qs), left);
+    }
+
+    void the_only_shot_is_removed_and_a_blank_one_is_asked_for()
+    {
+        const round_with_shots round;
+        round.add(1, 14, 5, feet, 3);
+        round.play([&](hand& user) {
+            user.click(away);
+            user.same(user.grid_rows(details), 0, QStringLiteral("rows"));
+            user.check(!put_mode(user), QStringLiteral("no putt"));
+            user.click(away);
+            user.answer({QStringLiteral("Choisissez le coup que vous voulez supprimer."),
+                         QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok});
+            user.same(round.store.number(QStringLiteral("select count(*) from Stat_rounds")), 0,
+                      QStringLiteral("stored"));
+            user.click(next);
+            user.same(user.grid_row(details, 0),
+                      QStringLiteral("1 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | "),
+                      QStringLiteral("blank"));
+        });
+    }
+
+    void nothing_to_remove_is_told_in_English()
+    {
+        const round_with_shots round(false);
+        round.play([&](hand& user) {
+            user.click(away);
+            user.click(away);
+            user.answer({QStringLiteral("Please select the shot you wish to remove."), QMessageBox::Critical,
+                         QStringLiteral("Verdane"), QMessageBox::Ok});
+        });
+    }
+
+    void removing_behind_an_incomplete_shot_names_that_shot()
+    {
+        const round_with_shots round;
+        round.add(1, 1, 60, yards, 1);
+        add_shot(round.store, 1, 2, QStringLiteral("after = 5"));
+        round.add(3, 9, 3, yards, 2);
+        round.play([&](hand& user) {
+            user.click_cell(details, 2, 1);
+            user.click(away);
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.same(user.cursor(details), QStringLiteral("1,1"), QStringLiteral("cursor"));
+        });
+    }
+
+    void the_end_of_the_round_sums_up_the_last_hole()
+    {
+        const round_with_shots round;
+        add_told_shot(round.store, 18, 1, 1, 30, yards, 1);
+        add_told_shot(round.store, 18, 2, 14, 4, feet, 3);
+        add_told_shot(round.store, 18, 3, 14, 0, feet, 3);
+        round.play([&](hand& user) {
+            user.check(!user.visible(QStringLiteral("b_carte")), QStringLiteral("not on hole 1"));
+            user.click_tab(QStringLiteral("TabStrip1"), 18);
+            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.same(user.grid_rows(details), 3, QStringLiteral("rows"));
+            user.click(QStringLiteral("b_carte"));
+            user.same(boxes(user), QStringLiteral("1 0 2 1 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
+            user.click_cell(details, 2, 1);
+            user.click(away);
+            user.click(away);
+            user.click(away);
+            user.click(QStringLiteral("b_carte"));
+            user.same(boxes(user), QStringLiteral("0 0 0 0 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
+            user.same(user.grid_rows(details), 1, QStringLiteral("a blank row"));
+        });
+    }
+
+    void a_hole_told_in_the_other_language_goes_on_in_this_one()
+    {
+        const round_with_shots round(false);
+        round.add(1, 1, 60, yards, 1);
+        round.add(2, 9, 30, yards, 2);
+        round.play([&](hand& user) {
+            user.click(next);
+            user.type(QStringLiteral("p"));
+            user.type(QStringLiteral("4"));
+            user.key(Qt::Key_Return);
+            user.same(user.cell(details, 0, 4), QStringLiteral("Yards"), QStringLiteral("unit of the drive"));
+            user.same(user.cell(details, 1, 3) + user.cell(details, 1, 4), QStringLiteral("90Feets"),
+                      QStringLiteral("the approach"));
+        });
+    }
+
+    void a_hole_that_cannot_be_read_is_not_told()
+    {
+        const round_with_shots round;
+        round.add(1, 1, 60, yards, 1);
+        round.play([&](hand& user) {
+            round.store.store.write(
+                QStringLiteral("create trigger refuse before update on Stat_rounds begin select "
+                               "raise(abort, 'no'); end"));
+            with_round(user, [](f_new_round& window) {
+                data_environment().rsStat_rounds.Fields(u"after").set(61);
+                QVERIFY(f_new_round_func::check_shots(window));
+                QVERIFY(f_new_round_func::open_hole_shots(window));
+            });
+            user.same(user.cell(details, 0, 3), QStringLiteral("60"), QStringLiteral("distance"));
+            round.store.store.write(QStringLiteral("drop trigger refuse"));
+        });
+    }
+};
+
+QTEST_MAIN(test_shot_entry)
+
+#include "test_shot_entry.moc"
