@@ -37,12 +37,17 @@ void tell_incomplete(const f_new_round& window, const QString& behind)
          QMessageBox::Critical);
 }
 
+/// Without it the rows are none of this hole's, and nothing is added to them or taken away.
+bool hole_is_loaded(const f_new_round& window)
+{
+    return shots().is_open() && shot_rows::is_loaded(window.date_value, window.hole_shown());
+}
+
 /// The card of the hole whose shots are loaded. That is the hole on screen, except on the quick page,
 /// where the hole may have changed since its shots were opened.
 Round_functions::hole_card card_of_shots(const f_new_round& window)
 {
-    const int16 shown = window.hole_shown();
-    if (!shot_rows::is_loaded(window.date_value, shown) && !shots().empty())
+    if (!hole_is_loaded(window) && !shots().empty())
         return Round_functions::read_hole_card(to_int16(shots().value_at(0, at::hole).toDouble()));
     return {figure_of_box(window.text(39).text()), figure_of_box(window.text(0).text()),
             figure_of_box(window.text(38).text())};
@@ -218,7 +223,7 @@ void drop_blank_shot(f_new_round& window, int16& removed, bool& ok)
         remove_row();
         window.details->ReBind();
     } else {
-        if (shot_rows::a_hole_is_loaded() && shots().is_open() && !shots().empty()) {
+        if (shot_rows::a_hole_is_loaded() && !shots().empty()) {
             shots().MoveFirst();
             shots().Fields(at::normal).set(card_of_shots(window).par);
         }
@@ -230,6 +235,8 @@ void drop_blank_shot(f_new_round& window, int16& removed, bool& ok)
 
 void next_shot(f_new_round& window)
 {
+    if (!hole_is_loaded(window))
+        return;
     if (shots().empty()) {
         start_hole_again(window);
         return;
@@ -251,7 +258,7 @@ void next_shot(f_new_round& window)
 
 void remove_shot(f_new_round& window)
 {
-    if (!shot_rows::on_a_row()) {
+    if (!hole_is_loaded(window) || !shot_rows::on_a_row()) {
         tell(window.caption(u"Choisissez le coup que vous voulez supprimer.",
                             u"Please select the shot you wish to remove."),
              QMessageBox::Critical);
@@ -266,6 +273,8 @@ void remove_shot(f_new_round& window)
 
 void finish_hole(f_new_round& window)
 {
+    if (!hole_is_loaded(window))
+        return;
     int16 removed = 0;
     bool ok = true;
     drop_blank_shot(window, removed, ok);
@@ -276,7 +285,7 @@ void finish_hole(f_new_round& window)
 
 void summarise_hole(f_new_round& window)
 {
-    if (!shot_rows::is_loaded(window.date_value, window.hole_shown()))
+    if (!hole_is_loaded(window))
         return;
     shot_list rows = shot_rows::read();
     const hole_summary summary = summarise(rows);
