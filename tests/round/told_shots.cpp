@@ -156,6 +156,33 @@ QString stored_putts(const round_store& store, int hole)
     return figures(store, QStringLiteral("games2"), ordinals);
 }
 
+golfer_store::golfer_store(bool french) : store(french)
+{
+    store.add_two_courses();
+    name_the_clubs(store);
+}
+
+int golfer_store::shots(int hole) const
+{
+    return store.number(QStringLiteral("select count(*) from Stat_rounds where hole = %1").arg(hole));
+}
+
+void tell_hole(hand& user)
+{
+    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+    user.click(QStringLiteral("CommandSuiv"));
+    tell_shot(user, 1, 9, QStringLiteral("10"), 2);
+    user.click(QStringLiteral("CommandSuiv"));
+    tell_shot(user, 2, 14, QStringLiteral("4"), 0);
+}
+
+void leave_second_shot_open(hand& user)
+{
+    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+    user.click(QStringLiteral("CommandSuiv"));
+    tell_shot(user, 1, 9, QStringLiteral("10"), 0);
+}
+
 expected_box refusal_of_shot(const QString& behind)
 {
     return {in_language(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",

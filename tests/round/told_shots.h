@@ -10,6 +10,9 @@
 namespace verdane::testing {
 
 inline const QString details = QStringLiteral("details");
+inline const QString hole_tabs = QStringLiteral("TabStrip1");
+inline const QString ok_button = QStringLiteral("Command1_4");
+inline const QString cancel_button = QStringLiteral("Command1_2");
 
 /// "D" for club 1, "F2" to "F12", "SW", and "Pu" for the putter.
 void name_the_clubs(const round_store& store);
@@ -38,6 +41,23 @@ void tell_shot(hand& user, int row, int club, const QString& distance, int kind)
 QString stored_figures(const round_store& store, int hole);
 /// The six lengths of a hole's putts in the store.
 QString stored_putts(const round_store& store, int hole);
+
+/// A store with two courses and named clubs.
+struct golfer_store {
+    explicit golfer_store(bool french = true);
+    int shots(int hole) const;
+
+    round_store store;
+};
+
+/// Drive, approach and the first putt of the hole on the page; the second putt is open.
+void tell_hole(hand& user);
+/// What that hole comes to.
+inline const QString told_hole = QStringLiteral("1 1 2 2 0 0 0 0 0 0 0");
+inline const QString told_putts = QStringLiteral("30 4 0 0 0 0");
+
+/// Tells a first shot and a second one that lacks its kind.
+void leave_second_shot_open(hand& user);
 
 expected_box refusal_of_shot(const QString& behind = {});
 void keep_picture(hand& user, const QString& name);
