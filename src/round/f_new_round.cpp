@@ -16,12 +16,6 @@
 
 namespace verdane {
 
-namespace {
-
-constexpr int cancel_button = 2;
-
-}  // namespace
-
 f_new_round::f_new_round() : Form(u"f_new_round")
 {
     set_hole_boxes(this);
@@ -96,11 +90,7 @@ void f_new_round::unloading()
 
 void f_new_round::close_requested()
 {
-    // A round that has no key yet holds nothing to ask about.
-    if (date_value.isEmpty())
-        f_new_round_func::ask_and_close(*this, true);
-    else
-        f_new_round_func::on_ok_cancel(*this, cancel_button);
+    f_new_round_func::on_close_box(*this);
 }
 
 }  // namespace verdane

@@ -253,6 +253,23 @@ void on_ok_cancel(f_new_round& window, int index)
     ask_and_close(window, false);
 }
 
+void on_close_box(f_new_round& window)
+{
+    // A round that has no key yet holds nothing to ask about.
+    if (window.date_value.isEmpty()) {
+        ask_and_close(window, true);
+        return;
+    }
+    // OK and Cancel stay where they are while a shot is incomplete. The close box says so too, but it is
+    // the way out that is always left.
+    finish_typing(window);
+    if (check_shots(window) && on_detailed_page(window)) {
+        window.closingoK = true;
+        page_changed(window);
+    }
+    ask_and_close(window, false);
+}
+
 void ask_and_close(f_new_round& window, bool skip_prompt)
 {
     if (!window.needSave) {

@@ -121,9 +121,23 @@ private Q_SLOTS:
             }
             user.close_window(round_window());
             user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
             tell_shot(user, 1, 9, QString(), 2);
             accept(user);
+        });
+        QCOMPARE(round.shots(1), 2);
+    }
+
+    void the_close_box_leaves_where_a_shot_is_incomplete_once_the_question_is_answered()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            leave_second_shot_open(user);
+            user.close_window(round_window());
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(question_on_closing(), QMessageBox::No);
         });
         QCOMPARE(round.shots(1), 2);
     }

@@ -1,0 +1,74 @@
+#include "store_invariants.h"
+
+namespace verdane::testing {
+
+namespace {
+
+/// A sentence, and a statement that counts what breaks it.
+struct invariant {
+    const char* sentence;
+    const char* breaches;
+};
+
+const std::vector<invariant>& invariants()
+{
+    static const std::vector<invariant> all{
+        {"every key has 14 digits",
+         "select count(*) from games where date is null or length(date) <> 14 or date glob '*[^0-9]*'"},
+        {"every round has one row of games2", "select count(*) from games where (select count(*) from games2 "
+                                              "where games2.date = games.date) <> 1"},
+        {"every row of games2 has its round",
+         "select count(*) from games2 where date is null or date not in (select date from games)"},
+        {"every round has one row of cost",
+         "select count(*) from games where (select count(*) from cost where cost.date = games.date) <> 1"},
+        {"every row of cost has its round",
+         "select count(*) from cost where date is null or date not in (select date from games)"},
+        {"every shot has its round",
+         "select count(*) from Stat_rounds where date not in (select date from games)"},
+        {"every shot is on a hole", "select count(*) from Stat_rounds where hole not between 1 and 18"},
+        {"no two shots of a hole have one number",
+         "select count(*) from (select 1 from Stat_rounds group by date, hole, shot having count(*) > 1)"},
+        {"codes of shots are in their sets",
+         "select count(*) from Stat_rounds where coalesce(stickval, 0) not between 0 and 14 or "
+         "coalesce(fairval, 0) not between 0 and 3 or coalesce(penval, 0) not between 0 and 4 or "
+         "coalesce(shot_type_value, 0) not between 0 and 3"},
+        {"the kind in words is the kind in code",
+         "select count(*) from Stat_rounds where (shot_type_value = 1 and shot_type <> 'Long') or "
+         "(shot_type_value = 2 and shot_type not in ('Approche', 'Approach')) or "
+         "(shot_type_value = 3 and shot_type <> 'Putt')"},
+        {"the position in words is the position in code",
+         "select count(*) from Stat_rounds where (fairval = 1 and faireway not in ('Dans l''allé', "
+         "'Fairway')) or "
+         "(fairval = 2 and faireway not in ('Gauche', 'Left')) or "
+         "(fairval = 3 and faireway not in ('Droite', 'Right'))"},
+        {"the penalty in words is the penalty in code",
+         "select count(*) from Stat_rounds where (penval = 1 and penality not in ('Eau', 'Water Hazard')) or "
+         "(penval = 2 and penality not in ('Balle perdue', 'Lost Ball')) or "
+         "(penval = 3 and penality not in ('Règlement', 'Rules')) or "
+         "(penval = 4 and penality not in ('Hors limites', 'Out of Bounds'))"},
+        {"a penalty adds one stroke", "select count(*) from Stat_rounds where coalesce(addpen, 0) <> "
+                                      "(coalesce(penval, 0) between 1 and 4)"},
+        {"units are words of one of the languages",
+         "select count(*) from Stat_rounds where trim(coalesce(unit, '')) not in ('', 'Pieds', 'Feets', "
+         "'Verges', "
+         "'Yards')"},
+        {"no distance is below zero",
+         "select count(*) from Stat_rounds where coalesce(before, 0) < 0 or coalesce(after, 0) < 0"},
+    };
+    return all;
+}
+
+}  // namespace
+
+QStringList broken_invariants(const reader& store)
+{
+    QStringList broken;
+    for (const invariant& rule : invariants()) {
+        const int breaches = store.number(QString::fromUtf8(rule.breaches));
+        if (breaches > 0)
+            broken << QStringLiteral("%1: %2 times not").arg(QLatin1String(rule.sentence)).arg(breaches);
+    }
+    return broken;
+}
+
+}  // namespace verdane::testing

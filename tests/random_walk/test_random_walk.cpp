@@ -1,0 +1,60 @@
+#include <QApplication>
+#include <QTest>
+
+#include "program_run.h"
+#include "start_up.h"
+#include "store_invariants.h"
+#include "walker.h"
+
+using namespace verdane;
+using verdane::testing::broken_invariants;
+using verdane::testing::hand;
+using verdane::testing::one_course;
+using verdane::testing::one_round;
+using verdane::testing::program_run;
+using verdane::testing::walker;
+
+namespace {
+
+int from_environment(const char* name, int otherwise)
+{
+    bool given = false;
+    const int value = qEnvironmentVariableIntValue(name, &given);
+    return given ? value : otherwise;
+}
+
+}  // namespace
+
+class test_random_walk : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { prepare_application(*qApp); }
+
+    void thousands_of_keys_and_clicks_leave_a_sound_store_that_holds_what_was_shown()
+    {
+        const int steps = from_environment("VERDANE_WALK_STEPS", 3000);
+        const int seed = from_environment("VERDANE_WALK_SEED", 20260614);
+        program_run run(1, one_course() + one_round(QStringLiteral("20260614093000")) +
+                               one_round(QStringLiteral("20260615093000")));
+        int compared = 0;
+        int answered = 0;
+        const int status = run.play_through([&](hand& user) {
+            user.wait_for_window(QStringLiteral("MainForm"));
+            walker golfer(user, run.store(), static_cast<quint32>(seed));
+            golfer.walk(steps);
+            golfer.go_home();
+            compared = golfer.holes_compared();
+            answered = golfer.boxes_answered();
+            user.menu(QStringLiteral("mQuit"));
+        });
+        QCOMPARE(status, 0);
+        QCOMPARE(broken_invariants(run.store()), QStringList());
+        QCOMPARE(run.store().number(QStringLiteral("select count(*) from games")), 2);
+        QVERIFY2(compared > steps / 50, qPrintable(QStringLiteral("%1 holes compared").arg(compared)));
+        QVERIFY2(answered > steps / 100, qPrintable(QStringLiteral("%1 boxes answered").arg(answered)));
+    }
+};
+
+QTEST_MAIN(test_random_walk)
+#include "test_random_walk.moc"

@@ -1,0 +1,319 @@
+#include "walker.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTableView>
+#include <QTest>
+
+#include "data_grid.h"
+#include "f_new_round.h"
+#include "hand_widgets.h"
+#include "Main_module.h"
+#include "numbers.h"
+
+namespace verdane::testing {
+
+namespace {
+
+const QStringList stored_columns{
+    QStringLiteral("games.long_"),      QStringLiteral("games.approach_"),  QStringLiteral("games.putt_"),
+    QStringLiteral("games2.fairway_"),  QStringLiteral("games2.sand_"),     QStringLiteral("games.missed_"),
+    QStringLiteral("games2.recovery_"), QStringLiteral("games.pen_water_"), QStringLiteral("games.pen_lost_"),
+    QStringLiteral("games.pen_rule_"),  QStringLiteral("games.pen_bounds_")};
+
+f_new_round* round_window()
+{
+    return dynamic_cast<f_new_round*>(open_form(u"f_new_round"));
+}
+
+QString number_in(const QLineEdit& box)
+{
+    return QString::number(plain(to_int16(box.text())));
+}
+
+}  // namespace
+
+walker::walker(hand& user, const reader& store, quint32 seed) : user_(user), store_(store), random_(seed) {}
+
+void walker::walk(int steps)
+{
+    for (int i = 0; i < steps; ++i)
+        step();
+}
+
+QString walker::window_at_work()
+{
+    QString name;
+    user_.look([&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        name = modal ? modal->objectName() : QStringLiteral("MainForm");
+    });
+    return name.endsWith(u"_en") ? name.chopped(3) : name;
+}
+
+void walker::step()
+{
+    keep_room_for_keys();
+    const QString window = window_at_work();
+    if (window == u"message_box")
+        answer_box();
+    else if (window == u"MainForm")
+        one_of(4) == 0 ? user_.menu(one_of(2) == 0 ? QStringLiteral("mEn") : QStringLiteral("mfr"))
+                       : user_.menu(QStringLiteral("mnOPenr"));
+    else if (window == u"f_games")
+        user_.double_click_row(QStringLiteral("List1"), one_of(2));
+    else if (window == u"f_cost")
+        one_of(3) == 0 ? user_.click(QStringLiteral("OKButton")) : user_.type(QString::number(one_of(10)));
+    else if (window == u"f_new_round")
+        step_in_round_window();
+    else
+        user_.fail(u"the walk came to a window that it does not know: " + window);
+}
+
+/// Each save takes one of the 366 places for keys, as long as the program runs: a walk is long.
+void walker::keep_room_for_keys()
+{
+    user_.look([] {
+        if (Main_module::round_key_count > 300)
+            Main_module::round_key_count = 2;
+    });
+}
+
+void walker::answer_box()
+{
+    ++boxes_answered_;
+    const int choice = one_of(12);
+    user_.look([choice] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        const QList<QAbstractButton*> buttons = box ? box->buttons() : QList<QAbstractButton*>();
+        if (!buttons.isEmpty())
+            QTest::mouseClick(static_cast<QWidget*>(buttons.at(choice % buttons.size())), Qt::LeftButton);
+    });
+}
+
+void walker::step_in_round_window()
+{
+    switch (one_of(40)) {
+    case 0:
+        user_.click(QStringLiteral("Command1_4"));
+        return;
+    case 1:
+        user_.click(QStringLiteral("Command1_2"));
+        return;
+    case 2:
+        user_.click_tab(QStringLiteral("TabStrip2"), 1 + one_of(2));
+        return;
+    case 3:
+        user_.key(Qt::Key_Escape);
+        return;
+    case 4:
+        click_if_there(QStringLiteral("Command4"));
+        return;
+    case 5:
+        click_if_there(QStringLiteral("Command2"));
+        return;
+    case 6:
+    case 7:
+    case 8:
+    case 9:
+        change_hole();
+        return;
+    default:
+        break;
+    }
+    if (on_quick_page())
+        step_on_quick_page();
+    else
+        step_on_detailed_page();
+}
+
+void walker::step_on_quick_page()
+{
+    switch (one_of(12)) {
+    case 0:
+        user_.type(QStringLiteral("x"));
+        break;
+    case 1:
+        user_.key(Qt::Key_Tab);
+        break;
+    case 2:
+        user_.key(Qt::Key_Backspace);
+        break;
+    case 3:
+        user_.click(QStringLiteral("text_s_%1").arg(8 + one_of(4)));
+        break;
+    case 4:
+        user_.click(QStringLiteral("text_p_%1").arg(3 + one_of(4)));
+        break;
+    default:
+        press_some_key();
+        break;
+    }
+}
+
+/// A digit where a box of the hole has the focus: elsewhere a key might leave the hole unseen.
+void walker::press_some_key()
+{
+    if (!user_.focus().startsWith(u"text_"))
+        user_.click(QStringLiteral("text_vrd_%1").arg(one_of(3)));
+    user_.type(QString::number(one_of(10)));
+}
+
+void walker::step_on_detailed_page()
+{
+    switch (one_of(8)) {
+    case 0:
+        click_if_there(QStringLiteral("CommandSuiv"));
+        break;
+    case 1:
+        click_if_there(QStringLiteral("CommandSup"));
+        break;
+    case 2:
+        click_if_there(QStringLiteral("b_carte"));
+        break;
+    case 3:
+    case 4:
+        type_distance();
+        break;
+    default:
+        choose_from_menu();
+        break;
+    }
+}
+
+void walker::click_if_there(const QString& control)
+{
+    bool there = false;
+    user_.look([&] {
+        QWidget* found = find_control(control);
+        there = found && found->isVisible() && found->isEnabled();
+    });
+    if (there)
+        user_.click(control);
+}
+
+void walker::type_distance()
+{
+    const int rows = user_.grid_rows(QStringLiteral("details"));
+    if (rows == 0)
+        return;
+    user_.click_cell(QStringLiteral("details"), one_of(rows), 3);
+    user_.type(QString::number(one_of(300)));
+    user_.key(Qt::Key_Return);
+}
+
+void walker::choose_from_menu()
+{
+    static constexpr int menu_columns[] = {2, 5, 5, 6, 7, 8, 9, 10, 11};
+    const int rows = user_.grid_rows(QStringLiteral("details"));
+    if (rows == 0)
+        return;
+    user_.click_cell(QStringLiteral("details"), one_of(rows), menu_columns[one_of(std::size(menu_columns))]);
+    user_.key(Qt::Key_F4);
+    for (int down = one_of(4); down >= 0; --down)
+        user_.key(Qt::Key_Down);
+    user_.key(Qt::Key_Return);
+    user_.look([] {
+        while (QWidget* popup = QApplication::activePopupWidget())
+            popup->close();
+    });
+}
+
+void walker::change_hole()
+{
+    const bool quick = on_quick_page();
+    const int left = hole_shown();
+    const QString shown = boxes();
+    const int wanted = 1 + one_of(18);
+    // Choosing the hole that is shown in the list is no change, and saves nothing.
+    if (one_of(3) == 0 && quick && wanted != left)
+        user_.choose(QStringLiteral("cmb_holes"), wanted - 1);
+    else
+        user_.click_tab(QStringLiteral("TabStrip1"), wanted);
+    if (!quick || window_at_work() != u"f_new_round")
+        return;
+    compare_hole(boxes(), hole_shown());
+    if (hole_shown() != left)
+        compare_hole(shown, left);
+}
+
+void walker::compare_hole(const QString& shown, int hole)
+{
+    user_.same(shown, stored_hole(hole), QStringLiteral("figures of hole %1").arg(hole));
+    ++holes_compared_;
+}
+
+bool walker::on_quick_page()
+{
+    return user_.visible(QStringLiteral("Frame5_0"));
+}
+
+int walker::hole_shown()
+{
+    int hole = 0;
+    user_.look([&] { hole = round_window()->text(40).text().toInt(); });
+    return hole;
+}
+
+QString walker::boxes()
+{
+    QStringList figures;
+    user_.look([&] {
+        const f_new_round& window = *round_window();
+        for (int i = 0; i <= 2; ++i)
+            figures << number_in(window.text_vrd(i));
+        for (int i = 3; i <= 6; ++i)
+            figures << number_in(window.text_p(i));
+        for (int i = 8; i <= 11; ++i)
+            figures << number_in(window.text_s(i));
+    });
+    return figures.join(u' ');
+}
+
+QString walker::stored_hole(int hole)
+{
+    QString key;
+    user_.look([&] { key = round_window()->date_value; });
+    QStringList columns;
+    for (const QString& column : stored_columns)
+        columns << QStringLiteral("coalesce(%1%2, 0)").arg(column).arg(hole);
+    QStringList figures;
+    const auto rows =
+        store_.rows(u"select " + columns.join(u", ") +
+                    u" from games, games2 where games.date = games2.date and games.date = '" + key + u"'");
+    for (const QVariant& figure : rows.at(0))
+        figures << figure.toString();
+    return figures.join(u' ');
+}
+
+/// An incomplete shot keeps the window from closing, from the quick page too, and so does the blank row
+/// that a hole without shots starts with, until the quick page takes it away.
+void walker::remove_a_shot()
+{
+    if (!on_quick_page() && one_of(2) == 0)
+        click_if_there(QStringLiteral("CommandSup"));
+    else
+        user_.click_tab(QStringLiteral("TabStrip2"), on_quick_page() ? 2 : 1);
+}
+
+void walker::go_home()
+{
+    int patience = 400;
+    for (QString window = window_at_work(); window != u"MainForm"; window = window_at_work()) {
+        if (--patience == 0)
+            user_.fail(QStringLiteral("there is no way out of %1, the keyboard is with %2")
+                           .arg(window, user_.focus()));
+        if (window == u"message_box")
+            answer_box();
+        else if (window == u"f_new_round" && one_of(2) == 0)
+            remove_a_shot();
+        else
+            user_.key(Qt::Key_Escape);
+    }
+}
+
+}  // namespace verdane::testing
