@@ -10,13 +10,13 @@
 
 namespace {
 
-/// What holds unless the command line says otherwise: the repetitions of all measurements in random
+/// What holds unless the command line says otherwise: many short repetitions of all measurements in random
 /// order, so that a busy moment of the machine meets a measurement and its floor alike.
 std::vector<char*> with_defaults(int argc, char** argv)
 {
     static char random_order[] = "--benchmark_enable_random_interleaving=true";
-    static char repetitions[] = "--benchmark_repetitions=15";
-    static char shortest[] = "--benchmark_min_time=0.5";
+    static char repetitions[] = "--benchmark_repetitions=41";
+    static char shortest[] = "--benchmark_min_time=0.05";
     std::vector<char*> words{argv[0], random_order, repetitions, shortest};
     words.insert(words.end(), argv + 1, argv + argc);
     return words;

@@ -38,6 +38,13 @@ bool run_to_its_end(const char* program, const QStringList& arguments)
            waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+/// A program that is ended by force leaves its lock and its log behind; one that was left does not.
+void tidy_up_after_end()
+{
+    for (const char* ending : {".lock", "-wal", "-shm"})
+        QFile::remove(diaries_of_run().full() + QLatin1String(ending));
+}
+
 void time_start(benchmark::State& state, const char* program, const QStringList& arguments)
 {
     const QByteArray home = QFile::encodeName(diaries_of_run().data_home());
@@ -49,6 +56,7 @@ void time_start(benchmark::State& state, const char* program, const QStringList&
         if (!run_to_its_end(program, arguments))
             state.SkipWithError("the program did not come to its window");
         state.SetIterationTime(watch.seconds());
+        tidy_up_after_end();
     }
 }
 
