@@ -15,6 +15,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <thread>
@@ -101,12 +102,20 @@ void hand::post(const std::function<void()>& action)
 
 void hand::wait_until(const QString& what, const std::function<bool()>& holds)
 {
-    const auto end = std::chrono::steady_clock::now() + patience_;
-    while (!asked<bool>(holds)) {
-        // A program that has failed waits for an answer: nothing that is waited for will come.
-        if (asked<bool>([] { return visible_window(QStringLiteral("failure_box")) != nullptr; }))
-            fail(QStringLiteral("the program failed before ") + what);
-        if (std::chrono::steady_clock::now() > end)
+    using clock = std::chrono::steady_clock;
+    auto end = clock::now() + patience_;
+    bool failed = false;
+    const auto holds_or_failed = [&] {
+        const bool there = holds();
+        failed = !there && visible_window(QStringLiteral("failure_box"));
+        return there;
+    };
+    while (!asked<bool>(holds_or_failed)) {
+        // A program that has failed waits for an answer. What is waited for will not come then, unless it
+        // is that box itself, which takes a moment to get the keyboard.
+        if (failed)
+            end = std::min(end, clock::now() + std::chrono::seconds(2));
+        if (clock::now() > end)
             fail(QStringLiteral("waited in vain for ") + what);
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
