@@ -15,7 +15,7 @@ namespace {
 std::vector<char*> with_defaults(int argc, char** argv)
 {
     static char random_order[] = "--benchmark_enable_random_interleaving=true";
-    static char repetitions[] = "--benchmark_repetitions=41";
+    static char repetitions[] = "--benchmark_repetitions=21";
     static char shortest[] = "--benchmark_min_time=0.05";
     std::vector<char*> words{argv[0], random_order, repetitions, shortest};
     words.insert(words.end(), argv + 1, argv + argc);
@@ -38,8 +38,15 @@ int main(int argc, char** argv)
     verdane::bench::register_start();
     verdane::bench::register_round_list();
     verdane::bench::register_hole();
-    verdane::bench::register_statistics();
+    verdane::bench::register_next_shot();
+    verdane::bench::register_detailed_hole();
+    verdane::bench::register_detailed_round();
+    verdane::bench::register_round_statistics();
+    verdane::bench::register_putt_statistics();
+    verdane::bench::register_club_statistics();
+    verdane::bench::register_cost_statistics();
+    verdane::bench::register_report_pages();
     verdane::bench::pair_reporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    return 0;
+    return reporter.all_worked() ? 0 : 1;
 }

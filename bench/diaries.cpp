@@ -1,45 +1,72 @@
 #include "diaries.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QStringList>
 
 #include "DataEnvironment1.h"
-#include "full_diary.h"
 #include "language.h"
 #include "language_value.h"
 #include "reader.h"
+#include "round_columns.h"
 
 namespace verdane::bench {
 
 namespace {
 
+/// The golfer of the diary is allowed six putts, on which the statistics of putts fail by rule.
+QString without_sixth_putts()
+{
+    QStringList cleared;
+    for (int h = 1; h <= round_columns::hole_count; ++h)
+        cleared << QStringLiteral("putt_len_%1_6 = 0").arg(h);
+    return u"update games2 set " + cleared.join(u", ");
+}
+
 void lay_down(const QString& path, int rounds)
 {
     testing::lay_down_diary(path, rounds, true);
-    testing::reader(path).write(QStringLiteral("update settings set language = %1").arg(english_value));
+    testing::reader(path).write(
+        {QStringLiteral("update settings set language = %1").arg(english_value), without_sixth_putts()});
 }
 
 }  // namespace
 
-diaries::diaries() : folder_(QCoreApplication::applicationDirPath() + QStringLiteral("/diaries-XXXXXX"))
+diaries::diaries() : folder_(QCoreApplication::applicationDirPath() + QStringLiteral("/diaries-XXXXXX")) {}
+
+QString diaries::laid_down(const QString& name, int rounds) const
 {
-    lay_down(full(), testing::rounds_of_full_diary);
-    lay_down(with_room(), rounds_with_room);
+    const QString path = folder_.filePath(name);
+    if (!QFile::exists(path))
+        lay_down(path, rounds);
+    return path;
 }
 
 QString diaries::full() const
 {
-    return folder_.filePath(QStringLiteral("Verdane/Verdbase.db"));
+    return laid_down(QStringLiteral("Verdane/Verdbase.db"), testing::rounds_of_full_diary);
+}
+
+QString diaries::data_home() const
+{
+    full();
+    return folder_.path();
+}
+
+QString diaries::half() const
+{
+    return laid_down(QStringLiteral("half.db"), rounds_of_half);
 }
 
 QString diaries::with_room() const
 {
-    return folder_.filePath(QStringLiteral("with_room.db"));
+    return laid_down(QStringLiteral("with_room.db"), rounds_with_room);
 }
 
 const diaries& diaries_of_run()
 {
-    static const diaries both;
-    return both;
+    static const diaries all;
+    return all;
 }
 
 opened_store::opened_store(const QString& path)

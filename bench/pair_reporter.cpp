@@ -7,6 +7,9 @@ namespace verdane::bench {
 
 namespace {
 
+constexpr const char* floor_ending = "_floor";
+constexpr const char* half_ending = "_half";
+
 double median(std::vector<double> times)
 {
     const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
@@ -14,10 +17,9 @@ double median(std::vector<double> times)
     return *middle;
 }
 
-bool is_floor(const std::string& name)
+void print_head(const char* what, const char* beside, const char* ratio)
 {
-    constexpr std::string_view ending = "_floor";
-    return name.size() > ending.size() && name.ends_with(ending);
+    std::printf("\n%-28s %10s %10s %7s %6s\n", what, "ms", beside, ratio, "runs");
 }
 
 }  // namespace
@@ -25,6 +27,7 @@ bool is_floor(const std::string& name)
 void pair_reporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs) {
+        all_worked_ = all_worked_ && !run.error_occurred;
         if (run.run_type != Run::RT_Iteration || run.error_occurred)
             continue;
         const std::string& name = run.run_name.function_name;
@@ -38,26 +41,30 @@ void pair_reporter::ReportRuns(const std::vector<Run>& runs)
 void pair_reporter::Finalize()
 {
     ConsoleReporter::Finalize();
-    std::printf("\n%-28s %10s %10s %7s %6s\n", "median of the repetitions", "ms", "floor ms", "ratio",
-                "runs");
     std::sort(names_.begin(), names_.end());
+    print_head("median of the repetitions", "floor ms", "ratio");
     for (const std::string& name : names_) {
-        if (!is_floor(name))
-            print_pair(name);
+        if (!name.ends_with(floor_ending) && !name.ends_with(half_ending))
+            print_beside(name, name + floor_ending);
+    }
+    print_head("twice the rounds", "half ms", "growth");
+    for (const std::string& name : names_) {
+        if (times_.contains(name + half_ending))
+            print_beside(name, name + half_ending);
     }
 }
 
-void pair_reporter::print_pair(const std::string& name)
+void pair_reporter::print_beside(const std::string& name, const std::string& other)
 {
     const double time = median(times_[name]);
-    const auto floor = times_.find(name + "_floor");
-    if (floor == times_.end()) {
-        std::printf("%-28s %10.2f %10s %7s %6zu\n", name.c_str(), time, "-", "-", times_[name].size());
+    const std::size_t runs = times_[name].size();
+    const auto found = times_.find(other);
+    if (found == times_.end()) {
+        std::printf("%-28s %10.2f %10s %7s %6zu\n", name.c_str(), time, "-", "-", runs);
         return;
     }
-    const double least = median(floor->second);
-    std::printf("%-28s %10.2f %10.2f %7.2f %6zu\n", name.c_str(), time, least, time / least,
-                times_[name].size());
+    const double least = median(found->second);
+    std::printf("%-28s %10.2f %10.2f %7.2f %6zu\n", name.c_str(), time, least, time / least, runs);
 }
 
 }  // namespace verdane::bench

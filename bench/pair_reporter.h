@@ -8,19 +8,23 @@
 
 namespace verdane::bench {
 
-/// Prints, once everything has run, the median of each measurement, that of its floor and their ratio.
+/// Prints, once everything has run, the median of each measurement, that of its floor and their ratio;
+/// then how each grows that was measured on half of the rounds too ("_half" behind its name).
 class pair_reporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override;
     void Finalize() override;
 
+    /// False when a measurement did not do what it measures.
+    bool all_worked() const { return all_worked_; }
+
 private:
-    void print_pair(const std::string& name);
+    void print_beside(const std::string& name, const std::string& other);
 
     /// Milliseconds of every repetition.
     std::map<std::string, std::vector<double>> times_;
-    /// In the order of their first run.
     std::vector<std::string> names_;
+    bool all_worked_ = true;
 };
 
 }  // namespace verdane::bench

@@ -2,19 +2,29 @@
 
 #include <benchmark/benchmark.h>
 
-/// The four pairs. Each registers what a user waits for under a name and its floor under the same name
+#include <string>
+
+/// The pairs. Each registers what a user waits for under a name and its floor under the same name
 /// with "_floor" behind it, both timed by the wall.
 namespace verdane::bench {
 
 /// Registers a measurement that takes its own times, told in milliseconds.
-inline void register_timed(const char* name, void (*measurement)(benchmark::State&))
+template <typename Measurement>
+void register_timed(const std::string& name, const Measurement& measurement)
 {
-    benchmark::RegisterBenchmark(name, measurement)->UseManualTime()->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark(name.c_str(), measurement)->UseManualTime()->Unit(benchmark::kMillisecond);
 }
 
 void register_start();
 void register_round_list();
 void register_hole();
-void register_statistics();
+void register_next_shot();
+void register_detailed_hole();
+void register_detailed_round();
+void register_round_statistics();
+void register_putt_statistics();
+void register_club_statistics();
+void register_cost_statistics();
+void register_report_pages();
 
 }  // namespace verdane::bench

@@ -14,6 +14,7 @@ plain_store::plain_store(const QString& path) : name_(QUuid::createUuid().toStri
         qFatal("%s", qUtf8Printable(engine.lastError().text()));
     run(QStringLiteral("PRAGMA journal_mode=WAL"));
     run(QStringLiteral("PRAGMA synchronous=FULL"));
+    run(QStringLiteral("PRAGMA cache_size=-16384"));
 }
 
 plain_store::~plain_store()

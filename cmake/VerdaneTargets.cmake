@@ -48,6 +48,7 @@ function(verdane_test name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PRIVATE verdane_test_support ${ARG_LINKS} Qt6::Test)
   add_test(NAME ${name} COMMAND ${name})
+  # The test framework would end a long function after five minutes, whatever it was given here.
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
-    ENVIRONMENT "${VERDANE_TEST_ENVIRONMENT}")
+    ENVIRONMENT "${VERDANE_TEST_ENVIRONMENT};QTEST_FUNCTION_TIMEOUT=${ARG_TIMEOUT}000")
 endfunction()

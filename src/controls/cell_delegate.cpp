@@ -42,12 +42,13 @@ void cell_delegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QStyle* style = grid_.style();
     style->drawControl(QStyle::CE_ItemViewItem, &whole, painter, &grid_);
     const QRect button = data_grid::button_in(option.rect);
-    QRect words = option.rect.adjusted(4, 0, 0, 0);
-    words.setRight(button.left());
-    const bool selected = option.state & QStyle::State_Selected;
-    const QPalette::ColorRole role = selected ? QPalette::HighlightedText : QPalette::Text;
-    style->drawItemText(painter, words, static_cast<int>(whole.displayAlignment), option.palette, true, text,
-                        role);
+    // The words beside the button, as the style draws them in the cells that have none.
+    whole.rect.setRight(button.left());
+    whole.text = text;
+    whole.state &= ~QStyle::State_HasFocus;
+    style->drawControl(QStyle::CE_ItemViewItem, &whole, painter, &grid_);
+    const QPalette::ColorRole role =
+        option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;
     QColor color = option.palette.color(role);
     color.setAlphaF(current ? 1.0F : 0.4F);
     paint_chevron(*painter, button, color);

@@ -4,7 +4,9 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QValidator>
 
+#include <algorithm>
 #include <utility>
 
 #include "boxes.h"
@@ -29,6 +31,24 @@ public:
 private:
     bool& flag_;
     bool before_;
+};
+
+/// What comes in by another road than the keys (pasted, dropped) has to pass the same filter.
+class filtered_text : public QValidator {
+public:
+    filtered_text(QLineEdit& box, const std::function<key_answer(QChar)>& filter)
+        : QValidator(&box), filter_(filter)
+    {
+    }
+
+    State validate(QString& text, int&) const override
+    {
+        const auto passes = [this](QChar character) { return filter_(character) == key_answer::pass; };
+        return std::all_of(text.cbegin(), text.cend(), passes) ? Acceptable : Invalid;
+    }
+
+private:
+    const std::function<key_answer(QChar)>& filter_;
 };
 
 }  // namespace
@@ -222,8 +242,11 @@ void data_grid::watch_editor(QLineEdit& editor, const QModelIndex& index)
     editor_ = &editor;
     edited_ = index;
     const auto filter = filters_.find(index.column());
-    if (filter != filters_.end())
-        filter_keys(editor, filter->second);
+    if (filter == filters_.end())
+        return;
+    filter_keys(editor, filter->second);
+    editor.setValidator(new filtered_text(editor, filter->second));
+    connect(&editor, &QLineEdit::inputRejected, &editor, ring_bell);
 }
 
 void data_grid::drop_cell()

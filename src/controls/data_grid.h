@@ -42,7 +42,7 @@ public:
 
     /// Gives a column's cells a button that opens the menu.
     void set_cell_menu(int column, choice_menu* menu);
-    /// Asked for each character that is typed into the column's cells.
+    /// Asked for each character that is typed or pasted into the column's cells; it passes or refuses.
     void set_key_filter(int column, std::function<key_answer(QChar)> filter);
     /// Told after the user changed a cell, by its column; the cell's row is the current one.
     std::function<void(int)> column_updated;

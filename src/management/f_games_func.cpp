@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "boxes.h"
+#include "close_if_open.h"
 #include "DataEnvironment1.h"
 #include "f_games.h"
 #include "f_new_round.h"
@@ -24,10 +25,8 @@ void close_recordsets()
 {
     DataEnvironment1& store = data_environment();
     // Save and Close of the main window may address a list that has gone already.
-    for (Recordset* rows : {&store.rsgames, &store.rsfield_info}) {
-        if (rows->is_open())
-            rows->Close();
-    }
+    for (Recordset* rows : {&store.rsgames, &store.rsfield_info})
+        close_if_open(*rows);
 }
 
 void close_window(f_games& window)

@@ -21,7 +21,8 @@ void delete_to_the_end(Recordset& rows, const QString& key)
 void open_at_round(Recordset& rows, const QString& source, const QString& key)
 {
     rows.set_Source(source);
-    rows.Open();
+    // A diary holds tens of thousands of shots: the requery leaves them unread, and they are read once.
+    rows.Open(row_reading::when_needed);
     rows.Requery();
     if (!rows.eof())
         rows.MoveFirst();

@@ -35,7 +35,8 @@ void open_rounds_and_shots(Recordset& rounds, Recordset& shots)
     rounds.set_Source(rounds.settings().source);
     rounds.Open();
     shots.set_Source(QStringLiteral("select * from Stat_rounds order by date,hole"));
-    shots.Open();
+    // All shots of the diary: the requery leaves them unread, and they are read once.
+    shots.Open(row_reading::when_needed);
     shots.Requery();
     shots.MoveFirst();
     rounds.MoveFirst();

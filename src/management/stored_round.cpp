@@ -2,6 +2,7 @@
 
 #include "DataEnvironment1.h"
 #include "round_columns.h"
+#include "shot_rows.h"
 
 namespace verdane {
 
@@ -35,8 +36,7 @@ void open_cost(const QString& key, const QString& criterion)
 void open_shots_of_first_hole(const QString& key)
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    shots.set_Source(u"Select * from Stat_rounds where ( date= " + quoted(key) +
-                     u" ) and hole = 1 order by shot");
+    shots.set_Source(shot_rows::statement_of_hole(key, 1));
     shots.Open();
 }
 

@@ -4,6 +4,7 @@
 
 #include "boxes.h"
 #include "course_keys.h"
+#include "course_rows.h"
 #include "DataEnvironment1.h"
 #include "f_c_list.h"
 #include "f_courses.h"
@@ -38,27 +39,15 @@ bool has_selection(const f_c_list& window)
     return !courses().empty() && window.List1->currentRow() >= 0;
 }
 
-void move_to_selected(const f_c_list& window)
-{
-    courses().MoveFirst();
-    courses().Move(window.List1->currentRow());
-}
-
-void find_holes()
-{
-    holes().MoveFirst();
-    holes().Find(u"FIELD_CODE =" + quoted(courses().Fields(u"code").trimmed()));
-}
-
 void open_selected(f_c_list& window)
 {
     if (!has_selection(window))
         return;
-    move_to_selected(window);
+    Round_functions::move_to_course(window.List1->currentRow());
     if (courses().bof() || courses().eof())
         tell(QStringLiteral("Fatal error : F not found"));
     else
-        find_holes();
+        Round_functions::find_holes_of_course();
     f_courses editor(false);
     editor.show_modal();
 }
@@ -121,7 +110,7 @@ void remove_selected(f_c_list& window)
 {
     if (!has_selection(window))
         return;
-    move_to_selected(window);
+    Round_functions::move_to_course(window.List1->currentRow());
     const QString code = courses().Fields(u"code").text();
     // Only the first round that is found is named: the earliest.
     Round_functions::open_rounds_in_time_order();

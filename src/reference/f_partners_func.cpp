@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "boxes.h"
+#include "close_if_open.h"
 #include "data_grid.h"
 #include "DataEnvironment1.h"
 #include "f_partners.h"
@@ -38,12 +39,6 @@ void show_cell(f_partners& window, int column)
     window.pgrid->ReBind();
     window.pgrid->set_Col(column);
     window.pgrid->setFocus();
-}
-
-void close_if_open(Recordset& recordset)
-{
-    if (recordset.is_open())
-        recordset.Close();
 }
 
 void empty_for_null(QStringView column)

@@ -76,6 +76,26 @@ drawing_text read_text(const surroundings& state, QXmlStreamReader& reader)
     return text;
 }
 
+/// The hinting of a screen would bend the letters' widths.
+QFont font_of(const drawing_text& text, double scale)
+{
+    QFont font;
+    font.setFamilies(text.families);
+    font.setPixelSize(qMax(1, qRound(text.size * scale)));
+    font.setBold(text.bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, spacing_without_ligatures);
+    return font;
+}
+
+/// Whether letters whose middle is at that height are clipped away. They must not be painted at all: in
+/// a PDF file they would be found without being seen.
+bool is_clipped_away(const QPainter& painter, double middle)
+{
+    const QRectF clip = painter.clipBoundingRect();
+    return painter.hasClipping() && (middle < clip.top() || middle > clip.bottom());
+}
+
 }  // namespace
 
 parted_drawing with_texts_apart(const QString& svg)
@@ -108,17 +128,15 @@ void paint_texts(QPainter& painter, const std::vector<drawing_text>& texts, cons
     const double scale_x = place.width() / view_box.width();
     const double scale_y = place.height() / view_box.height();
     for (const drawing_text& text : texts) {
-        QFont font;
-        font.setFamilies(text.families);
-        font.setPixelSize(qMax(1, qRound(text.size * scale_y)));
-        font.setBold(text.bold);
-        font.setHintingPreference(QFont::PreferNoHinting);
-        font.setLetterSpacing(QFont::AbsoluteSpacing, spacing_without_ligatures);
+        const QFont font = font_of(text, scale_y);
+        const QFontMetricsF metrics(font);
         QPointF base = place.topLeft() + QPointF((text.base.x() - view_box.x()) * scale_x,
                                                  (text.base.y() - view_box.y()) * scale_y);
-        const double width = QFontMetricsF(font).horizontalAdvance(text.words);
+        const double width = metrics.horizontalAdvance(text.words);
         if (text.anchor != Qt::AlignLeft)
             base.rx() -= text.anchor == Qt::AlignHCenter ? width / 2 : width;
+        if (is_clipped_away(painter, base.y() - metrics.xHeight() / 2))
+            continue;
         painter.setFont(font);
         painter.setPen(text.ink);
         painter.drawText(base, text.words);

@@ -9,6 +9,9 @@ namespace verdane {
 constexpr double units_per_mm = 720.0 / 25.4;
 constexpr double units_per_pt = 10.0;
 
+/// What no printer reaches at the edge of its paper, in millimetres.
+constexpr double unprintable_rim = 6;
+
 /// Invisibly small, but not nothing: letters that are spaced stay single, and a word with "ffi" is found
 /// in a PDF file as it was written.
 constexpr double spacing_without_ligatures = 0.02;

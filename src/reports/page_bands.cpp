@@ -55,11 +55,10 @@ private:
     {
         const auto breaks = frame.frameFormat().pageBreakPolicy();
         break_when(breaks, QTextFormat::PageBreak_AlwaysBefore);
-        const QRectF place = layout_.frameBoundingRect(&frame);
         if (auto* table = qobject_cast<QTextTable*>(&frame))
-            add_table(*table, {place.top(), place.bottom()});
+            add_table(*table, table_place(*table));
         else
-            add({{place.top(), place.bottom()}, {}});
+            add({strip_of(frame), {}});
         break_when(breaks, QTextFormat::PageBreak_AlwaysAfter);
     }
 
@@ -69,12 +68,13 @@ private:
         page_strip head;
         if (head_rows > 0 && head_rows < table.rows())
             head = {place.top, row_top(table, head_rows)};
+        double top = place.top;
         for (int first = 0; first < table.rows();) {
             const int next = end_of_group(table, first, head_rows);
-            const double top = first == 0 ? place.top : row_top(table, first);
             const double bottom = next < table.rows() ? row_top(table, next) : place.bottom;
             add({{top, bottom}, first == 0 ? page_strip() : head});
             first = next;
+            top = bottom;
         }
     }
 
@@ -86,30 +86,62 @@ private:
         for (int row = first; row < end; ++row)
             for (int column = 0; column < table.columns(); ++column) {
                 const QTextTableCell cell = table.cellAt(row, column);
-                end = qMax(end, cell.row() + cell.rowSpan());
+                const int span = cell.rowSpan();
+                if (span > 1)
+                    end = qMax(end, cell.row() + span);
             }
         return qMin(end, table.rows());
+    }
+
+    page_strip strip_of(const QTextFrame& frame) const
+    {
+        const QRectF place = layout_.frameBoundingRect(const_cast<QTextFrame*>(&frame));
+        return {place.top(), place.bottom()};
+    }
+
+    /// The toolkit gives a table the place of the words in its first cell, so that a head whose cells
+    /// are aligned at the bottom would lose its upper lines: only its height is right.
+    page_strip table_place(const QTextTable& table) const
+    {
+        const QTextTableFormat format = table.format();
+        const double rim = format.borderCollapse() ? 0 : format.cellSpacing() + format.border();
+        const double top = row_top(table, 0) - rim - format.padding() - format.topMargin();
+        return {top, top + strip_of(table).height()};
     }
 
     /// Where the uppermost cell that begins in a row begins, its padding included.
     double row_top(const QTextTable& table, int row) const
     {
-        double top = layout_.frameBoundingRect(const_cast<QTextTable*>(&table)).bottom();
+        double top = strip_of(table).bottom;
         for (int column = 0; column < table.columns(); ++column) {
             const QTextTableCell cell = table.cellAt(row, column);
             if (cell.row() != row)
                 continue;
             const QTextTableCellFormat format = cell.format().toTableCellFormat();
             top = qMin(top, content_top(cell) - format.topPadding() - format.topBorder());
+            // No cell begins higher than one whose words stand at its top, and nearly all do.
+            if (stands_at_top(cell, format))
+                return top;
         }
         return top;
+    }
+
+    static bool stands_at_top(const QTextTableCell& cell, const QTextTableCellFormat& format)
+    {
+        const bool aligned_at_top = format.verticalAlignment() == QTextCharFormat::AlignNormal ||
+                                    format.verticalAlignment() == QTextCharFormat::AlignTop;
+        const auto first = cell.begin();
+        return aligned_at_top && first.currentFrame() == nullptr &&
+               first.currentBlock().blockFormat().topMargin() == 0;
     }
 
     double content_top(const QTextTableCell& cell) const
     {
         const auto first = cell.begin();
+        if (const auto* table = qobject_cast<const QTextTable*>(first.currentFrame()))
+            return table_place(*table).top;
         if (first.currentFrame() != nullptr)
-            return layout_.frameBoundingRect(first.currentFrame()).top();
+            return strip_of(*first.currentFrame()).top;
         return layout_.blockBoundingRect(first.currentBlock()).top();
     }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QTextDocument>
 
@@ -37,9 +38,10 @@ page_layout::page_layout(const template_file& source, const QString& html)
     document_->setDefaultFont(font_);
     document_->setUseDesignMetrics(true);
     document_->documentLayout()->registerHandler(QTextFormat::ImageObject, &drawings_);
-    document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
-    // One endless page: the toolkit's own paging cuts rows of several lines in two.
+    // One endless page: the toolkit's own paging cuts rows of several lines in two. Set ahead of the text,
+    // which would be laid out twice otherwise.
     document_->setTextWidth(inside_.width());
+    document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
     shrink_ = qMin(1.0, inside_.width() / document_->size().width());
     cuts_ = cut_into_pages(*document_, inside_.height() / shrink_);
 }
@@ -83,7 +85,9 @@ void page_layout::paint_footer(QPainter& painter, const QString& footer) const
     painter.save();
     painter.setFont(font_);
     painter.setPen(footer_grey);
-    const QRectF below(inside_.left(), inside_.bottom(), inside_.width(), paper_.bottom() - inside_.bottom());
+    const double reached = qMax(paper_.bottom() - unprintable_rim * units_per_mm,
+                                inside_.bottom() + QFontMetricsF(font_).height());
+    const QRectF below(inside_.left(), inside_.bottom(), inside_.width(), reached - inside_.bottom());
     painter.drawText(below, Qt::AlignRight | Qt::AlignVCenter, footer);
     painter.restore();
 }

@@ -30,6 +30,7 @@ public:
 
 private:
     void paint_strip(QPainter& painter, const page_strip& strip, double top) const;
+    /// In the bottom margin, clear of what printers do not reach.
     void paint_footer(QPainter& painter, const QString& footer) const;
 
     QFont font_;

@@ -62,11 +62,13 @@ void page_view::set_zoom(int percent)
 
 void page_view::zoom_to(int percent)
 {
+    const bool at_top = verticalScrollBar()->value() == 0;
     const double middle = viewport()->height() / 2.0;
     const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->page_count());
     zoom_ = qBound(least_zoom, percent, most_zoom);
     set_up_scroll_bars();
-    scroll_to(qRound(seen * page_top(document_->page_count()) - middle));
+    // What stands at the top stays there: a view that is not laid out yet has no middle to keep.
+    scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle));
 }
 
 void page_view::zoom_in()

@@ -10,13 +10,25 @@
 
 namespace verdane {
 
+namespace {
+
+/// The literal's backslash parts folder and file. Those before it belong to the folder, whose name may
+/// hold one where it parts nothing.
+QString path_of_platform(QString path)
+{
+    const qsizetype before_file = path.lastIndexOf(u'\\');
+    return before_file < 0 ? path : path.replace(before_file, 1, u'/');
+}
+
+}  // namespace
+
 void report_control::Action(int value)
 {
     if (value != run_now)
         throw run_time_failure(failure_kind::misuse,
                                QStringLiteral("a report control knows no action %1").arg(value));
-    QString path = report_file_name_;
-    auto* window = new report_preview(render_report(path.replace(u'\\', u'/')), window_title_, owner_);
+    auto* window =
+        new report_preview(render_report(path_of_platform(report_file_name_)), window_title_, owner_);
     preview_ = window;
     if (page_zoom_)
         window->pages().set_zoom(*page_zoom_);

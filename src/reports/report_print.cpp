@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPrinter>
 
+#include "layout_units.h"
 #include "report_document.h"
 #include "run_time_failure.h"
 
@@ -10,15 +11,12 @@ namespace verdane {
 
 namespace {
 
-/// What no printer reaches at the edge of its paper, in millimetres.
-constexpr double unprintable = 6;
-
 /// The part of a page that the paper must have room for: all but the outer rim of its margins.
 QSizeF needed_size(const report_document& document)
 {
     const QMarginsF margins = document.margins_mm();
-    const double side = qMax(0.0, qMin(margins.left(), margins.right()) - unprintable);
-    const double end = qMax(0.0, qMin(margins.top(), margins.bottom()) - unprintable);
+    const double side = qMax(0.0, qMin(margins.left(), margins.right()) - unprintable_rim);
+    const double end = qMax(0.0, qMin(margins.top(), margins.bottom()) - unprintable_rim);
     return document.page_size_mm() - QSizeF(2 * side, 2 * end);
 }
 

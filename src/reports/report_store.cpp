@@ -114,6 +114,14 @@ QString report_snapshot::statement_for(const template_query& query) const
 
 report_rows report_snapshot::rows(const template_query& query, const report_parameters& parameters) const
 {
+    if (!parameters_of(query).isEmpty())
+        return run(query, parameters);
+    const auto known = known_.find(query.name);
+    return known != known_.end() ? known->second : known_.emplace(query.name, run(query, {})).first->second;
+}
+
+report_rows report_snapshot::run(const template_query& query, const report_parameters& parameters) const
+{
     QSqlQuery statement(database_);
     statement.setForwardOnly(true);
     bool well = statement.prepare(statement_for(query));

@@ -35,8 +35,8 @@ public:
     report_snapshot(const report_snapshot&) = delete;
     report_snapshot& operator=(const report_snapshot&) = delete;
 
-    /// Runs a query of the template. Fails with `report_template`, at the query's line, with the
-    /// engine's own words.
+    /// The rows of a query of the template. One that takes nothing from the rows around it runs once, at
+    /// the first call. Fails with `report_template`, at the query's line, with the engine's own words.
     report_rows rows(const template_query& query, const report_parameters& parameters = {}) const;
 
     /// The names that a query takes from the rows around it (`:line` in its text).
@@ -44,9 +44,12 @@ public:
 
 private:
     QString statement_for(const template_query& query) const;
+    report_rows run(const template_query& query, const report_parameters& parameters) const;
 
     const template_file& source_;
     QSqlDatabase database_;
+    /// By the query's name. A section may stand in several places, and every query is tried before.
+    mutable std::map<QString, report_rows> known_;
 };
 
 }  // namespace verdane

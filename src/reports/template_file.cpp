@@ -20,6 +20,15 @@ QString read_text(const QString& path, const template_place& place)
     return text.remove(u'\r');
 }
 
+/// The line between head and body; blanks behind the dashes do no harm, since nobody sees them.
+qsizetype position_of_rule(const QStringList& lines)
+{
+    for (qsizetype line = 0; line < lines.size(); ++line)
+        if (lines[line].startsWith(u'-') && lines[line].trimmed() == u"---")
+            return line;
+    return -1;
+}
+
 }  // namespace
 
 const template_query* template_file::find_query(const QString& name) const
@@ -41,7 +50,7 @@ template_file read_template(const QString& path)
     template_file result;
     result.file_name = QFileInfo(path).fileName();
     const QStringList lines = read_text(path, result.at(1)).split(u'\n');
-    const qsizetype rule = lines.indexOf(QStringLiteral("---"));
+    const qsizetype rule = position_of_rule(lines);
     if (rule < 0)
         fail_template(result.at(static_cast<int>(lines.size())),
                       QStringLiteral("no line --- between the head and the body"));

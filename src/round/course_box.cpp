@@ -16,16 +16,21 @@ namespace {
 constexpr std::int16_t name_width = 195;
 constexpr int shown_characters = 20;
 
-/// Shows a line of the open list without the padding between the name and the tee.
+/// A line without the padding between the name and the tee.
+QString unpadded(const QString& line)
+{
+    const auto tee = line.lastIndexOf(u',');
+    return trimmed_blanks(QStringView(line).left(tee)) + QStringView(line).mid(tee);
+}
+
+/// The lines of the open list.
 class unpadded_lines : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QString displayText(const QVariant& value, const QLocale&) const override
     {
-        const QString line = value.toString();
-        const auto tee = line.lastIndexOf(u',');
-        return trimmed_blanks(QStringView(line).left(tee)) + QStringView(line).mid(tee);
+        return unpadded(value.toString());
     }
 };
 
@@ -47,6 +52,11 @@ void course_box::add_course(QString name, const QString& code)
 int course_box::place_of(const QString& code) const
 {
     return std::max(0, findData(code));
+}
+
+QString course_box::course() const
+{
+    return currentIndex() < 0 ? QString() : unpadded(currentText());
 }
 
 void course_box::showPopup()

@@ -16,6 +16,9 @@ public:
     /// The place of the course with that code; the first place when there is none.
     int place_of(const QString& code) const;
 
+    /// Name and tee of the course chosen, "Alpha, WHITE"; empty when there is none.
+    QString course() const;
+
     /// Opens the list as wide as its lines look, not as they are padded.
     void showPopup() override;
 };

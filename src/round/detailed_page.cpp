@@ -12,7 +12,6 @@
 #include "main_frame.h"
 #include "shot_entry.h"
 #include "shot_menus.h"
-#include "shot_rows.h"
 
 namespace verdane::f_new_round_func {
 
@@ -44,8 +43,9 @@ void leave_detailed_page(f_new_round& window)
 
 void go_to_detailed_page(f_new_round& window)
 {
-    if (shot_rows::on_a_row())
-        data_environment().rsStat_rounds.Update();
+    Recordset& shots = data_environment().rsStat_rounds;
+    if (shots.is_open())
+        shots.Update();
     show_detailed_page(window);
     if (window.date_value.isEmpty()) {
         tell(QStringLiteral("Il faut choisir la date du ronde avant d'entrer les détails"),
@@ -80,7 +80,11 @@ void page_changed(f_new_round& window)
 void tell_shot_by_shot(f_new_round& window)
 {
     finish_typing(window);
-    if (on_detailed_page(window) || window.date_value.isEmpty() || window.closingoK) {
+    // Once the window was to be closed its shots stay out of sight, also when the question was answered
+    // with Cancel, and a blank one among them would hold it open.
+    if (window.closingoK)
+        return;
+    if (on_detailed_page(window) || window.date_value.isEmpty()) {
         if (open_hole_shots(window))
             window.details->setFocus(Qt::OtherFocusReason);
         return;

@@ -94,6 +94,14 @@ QStringList no_names_yet()
     return names;
 }
 
+QStringList names_of_clubs(const f_new_round& window)
+{
+    QStringList names;
+    for (const auto& [club, entry] : window.ms1.members())
+        names << choice_menu::caption_of(*entry);
+    return names;
+}
+
 void give_menus(f_new_round& window, data_grid& details)
 {
     using namespace f_new_round_func;
@@ -112,17 +120,52 @@ void give_menus(f_new_round& window, data_grid& details)
                                                     captions_of(window, penalty_words), penalty_chosen));
 }
 
+/// A club's name may make its column this wide, and no wider.
+constexpr int widest_club_twips = 1000;
+/// What a cell leaves free beside its words.
+constexpr int cell_margin = 6;
+
+/// What the cells of a column may say.
+QStringList words_of_cells(const f_new_round& window, int column)
+{
+    switch (column) {
+    case shown::club:
+        return names_of_clubs(window);
+    case shown::unit:
+        return captions_of(window, std::array{feet_words, yards_words});
+    case shown::kind:
+        return captions_of(window, kind_words);
+    case shown::position:
+        return captions_of(window, position_words);
+    case shown::penalty:
+        return captions_of(window, penalty_words);
+    default:
+        return columns[static_cast<std::size_t>(column)].yes_or_no
+                   ? captions_of(window, std::array{yes_word, no_word})
+                   : QStringList();
+    }
+}
+
+int widest(const QFontMetrics& font, const QStringList& words)
+{
+    int width = 0;
+    for (const QString& word : words)
+        width = std::max(width, font.horizontalAdvance(word));
+    return width;
+}
+
 /// What the words of a narrow column need where the font is wide.
 int width_of_words(const f_new_round& window, int column)
 {
-    QStringList words = columns[static_cast<std::size_t>(column)].caption.in(window.french()).split(u' ');
-    if (column == shown::unit)
-        words << feet_words.in(window.french()) << yards_words.in(window.french());
-    const QFontMetrics font = window.details->fontMetrics();
-    int widest = 0;
-    for (const QString& word : words)
-        widest = std::max(widest, font.horizontalAdvance(word));
-    return widest + rhythm + rhythm / 2;
+    const data_grid& details = *window.details;
+    const QFontMetrics font = details.fontMetrics();
+    const QStringList heads =
+        columns[static_cast<std::size_t>(column)].caption.in(window.french()).split(u' ');
+    const int button =
+        details.has_cell_button(column) ? data_grid::button_in(QRect(0, 0, 100, 10)).width() : cell_margin;
+    const int cells = widest(font, words_of_cells(window, column)) + cell_margin + button;
+    return std::max(widest(font, heads) + rhythm + rhythm / 2,
+                    column == shown::club ? std::min(cells, pixels(widest_club_twips)) : cells);
 }
 
 key_answer digits_only(QChar key)

@@ -12,6 +12,7 @@
 #include "f_new_round_func.h"
 #include "f_new_round_layout.h"
 #include "quick_entry.h"
+#include "round_putts.h"
 #include "shot_entry.h"
 
 namespace verdane {
@@ -59,6 +60,7 @@ void f_new_round::connect_events()
     TabStrip2->clicked = [this] { f_new_round_func::page_changed(*this); };
     on_click(*Command2, [this] { f_new_round_func::show_costs(*this); });
     on_click(*Command4, [this] { f_new_round_func::tell_shot_by_shot(*this); });
+    on_click(*b_putts, [this] { f_new_round_func::report_putts(*this); });
     for (const auto& [button, routine] : {std::pair{CommandSuiv, &f_new_round_func::next_shot},
                                           std::pair{CommandSup, &f_new_round_func::remove_shot},
                                           std::pair{b_carte, &f_new_round_func::finish_hole}}) {

@@ -6,6 +6,7 @@
 #include "counts.h"
 #include "Form.h"
 #include "hole_boxes.h"
+#include "report_control.h"
 #include "TabStrip.h"
 
 class QAction;
@@ -66,6 +67,8 @@ public:
     QPushButton* CommandSup = nullptr;
     QPushButton* b_carte = nullptr;
     QPushButton* Command4 = nullptr;
+    /// Prints the putts of the round.
+    QPushButton* b_putts = nullptr;
     QPushButton* Command2 = nullptr;
     /// The entries of the menus of `details`: clubs, kinds, yes (0) and no (1), positions, penalties.
     control_array<QAction> ms1{u"ms1"};
@@ -96,6 +99,9 @@ public:
     control_array<QLabel> Label{u"Label"};
     control_array<QPushButton> Command1{u"Command1"};
     control_array<QWidget> Frame5{u"Frame5"};
+
+    /// The report on the putts of the round.
+    report_control cr2{this};
 
     /// Number (1 to 18) of the hole that `cmb_holes` stands on.
     int16 hole_shown() const;

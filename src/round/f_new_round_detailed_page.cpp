@@ -55,14 +55,21 @@ void turn_pages(f_new_round& window, bool detailed)
         parameters.itemAt(block)->setAlignment(across ? Qt::Alignment() : Qt::AlignBottom);
     // Beside the shots the list of partners keeps to the height of a few lines.
     window.pList->setMaximumHeight(across ? QWIDGETSIZE_MAX : window.pList->minimumHeight());
+    // What the window takes for the frame's least size would be that of the other page until the next event.
+    window.Frame8->updateGeometry();
 }
 
+/// What goes is gone before the pages turn: both pages at once would make the window larger than the
+/// screen, and it would stay so.
 void show_page(f_new_round& window, bool detailed)
 {
-    window.Frame5(0).setVisible(!detailed);
-    window.Frame1->setVisible(!detailed);
+    const std::initializer_list<QWidget*> quick{&window.Frame5(0), window.Frame1};
+    const std::initializer_list<QWidget*> shots{window.Framedet};
+    for (QWidget* frame : detailed ? quick : shots)
+        frame->hide();
     turn_pages(window, detailed);
-    window.Framedet->setVisible(detailed);
+    for (QWidget* frame : detailed ? shots : quick)
+        frame->show();
 }
 
 }  // namespace
@@ -94,8 +101,15 @@ QWidget* make_page_bar(f_new_round& window)
     window.TabStrip2->addTab(window.caption(u"Entrée rapide", u"Quick entry"));
     window.TabStrip2->addTab(window.caption(u"Entrée détaillée", u"Detailed Entry"));
     window.Command4 = named(make_button(QStringLiteral("Cliquer pour détailler votre ronde")), u"Command4");
+    window.b_putts = make_command(window.caption(u"Coups roulés", u"Putts"), u"b_putts",
+                                  QKeySequence(Qt::CTRL | Qt::Key_P));
+    window.b_putts->setToolTip(
+        window.caption(u"Rapport sur les coups roulés de la ronde", u"Report on the putts of the round") +
+        u" (" + window.b_putts->toolTip() + u')');
+    line->setSpacing(rhythm);
     line->addWidget(window.TabStrip2);
     line->addStretch();
+    line->addWidget(window.b_putts);
     line->addWidget(window.Command4);
     return bar;
 }

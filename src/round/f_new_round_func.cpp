@@ -6,18 +6,21 @@
 #include <QPushButton>
 
 #include "boxes.h"
+#include "close_if_open.h"
 #include "data_grid.h"
 #include "DataEnvironment1.h"
 #include "detailed_page.h"
 #include "f_cost.h"
 #include "f_get_date.h"
 #include "f_new_round.h"
+#include "f_new_round_layout.h"
 #include "failure_guard.h"
 #include "main_frame.h"
 #include "round_columns.h"
 #include "round_parameters.h"
 #include "Round_records.h"
 #include "shot_entry.h"
+#include "shot_rows.h"
 
 namespace verdane::f_new_round_func {
 
@@ -45,10 +48,19 @@ void start_values(f_new_round& window)
     window.needSave = true;
 }
 
+/// With room for both pages from the start, the window stays as it is when they turn.
+QSize least_size_of_pages(f_new_round& window)
+{
+    show_detailed_page(window);
+    const QSize detailed = window.minimumSizeHint();
+    show_quick_page(window);
+    return detailed.expandedTo(window.minimumSizeHint());
+}
+
 void take_place(f_new_round& window)
 {
     const QSize wanted(pixels(width_twips), pixels(height_twips));
-    window.resize(wanted.expandedTo(window.minimumSizeHint()));
+    window.resize(wanted.expandedTo(least_size_of_pages(window)));
     current_form = &window;
     Place_and_lock(window);
 }
@@ -75,6 +87,7 @@ void ask_tee_off(f_new_round& window)
     window.choosing_date = false;
 }
 
+/// While no hole is loaded the recordset stands for every shot of the diary, at which nobody looks.
 void open_shots()
 {
     Recordset& shots = data_environment().rsStat_rounds;
@@ -82,7 +95,7 @@ void open_shots()
         shots.Update();
         shots.Close();
     }
-    shots.Open();
+    shots.Open(shot_rows::a_hole_is_loaded() ? row_reading::at_once : row_reading::when_needed);
     shots.Requery();
 }
 
@@ -100,19 +113,16 @@ void close_round_tables()
 {
     DataEnvironment1& store = data_environment();
     store.rsgames2.Update();
+    // A round that could not be loaded has not opened all of them.
     for (Recordset* recordset : {&store.rsgames2, &store.rsvrd_fields, &store.rscost, &store.rspartners,
-                                 &store.rsgames, &store.rsfield_info}) {
-        // A round that could not be loaded has not opened all of them.
-        if (recordset->is_open())
-            recordset->Close();
-    }
+                                 &store.rsgames, &store.rsfield_info})
+        close_if_open(*recordset);
 }
 
 void close_shots()
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    if (!shots.bof() && !shots.eof())
-        shots.Update();
+    shots.Update();
     shots.Close();
     shots.set_Source(QStringLiteral("select * from stat_rounds"));
 }
@@ -207,6 +217,7 @@ void unload(f_new_round& window)
 {
     window.details->unbind();
     enable_save_and_close(true);
+    finishes_without_failure(drop_untold_shot);
     finishes_without_failure(close_round_tables);
     finishes_without_failure(close_shots);
     Unlock_menu();

@@ -72,7 +72,8 @@ void order_for_tab_key(f_new_round& window)
     order.insert(order.end(),
                  {window.details, window.CommandSuiv, window.CommandSup, window.b_carte, &window.Command1(4),
                   &window.Command1(2), window.cmb_courses, window.conditions, window.UpDown1, window.pList,
-                  window.TabStrip2, window.Command4, window.TabStrip1, window.cmb_holes, window.b_getdat});
+                  window.TabStrip2, window.b_putts, window.Command4, window.TabStrip1, window.cmb_holes,
+                  window.b_getdat});
     for (std::size_t place = 1; place < order.size(); ++place)
         QWidget::setTabOrder(order[place - 1], order[place]);
 }

@@ -59,13 +59,23 @@ void add_costs(f_new_round& window, QVBoxLayout& frame)
     add_line(frame, window.caption(u"Coûts", u"Costs"), costs);
 }
 
+/// Height of a list that shows so many lines, none of them cut.
+int height_of_lines(QListWidget& list, int lines)
+{
+    list.addItem(QStringLiteral("X"));
+    const int line = list.sizeHintForRow(0) + 2 * list.spacing();
+    list.clear();
+    return lines * line + 2 * list.frameWidth();
+}
+
 QListWidget* make_partner_list()
 {
+    constexpr int lines_in_sight = 4;
     auto* list = named(new QListWidget, u"pList");
     list->setSelectionMode(QAbstractItemView::MultiSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    list->setMinimumHeight(8 * rhythm);
     list->setSpacing(rhythm / 4);
+    list->setMinimumHeight(height_of_lines(*list, lines_in_sight));
     return list;
 }
 
@@ -92,6 +102,8 @@ QWidget* make_parameters(f_new_round& window)
     blocks->setSpacing(rhythm + rhythm / 2);
     window.cmb_courses = named(new course_box, u"cmb_courses");
     window.conditions = named(new QComboBox, u"conditions");
+    // Side by side on the detailed page, the two stand on one line.
+    window.conditions->setMinimumHeight(window.cmb_courses->sizeHint().height());
     window.UpDown1 = named(new temperature_box, u"UpDown1");
     window.pList = make_partner_list();
     add_block(*blocks, window.caption(u"Terrain", u"Golf Course"), window.cmb_courses);

@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 
+#include "close_if_open.h"
 #include "course_box.h"
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
@@ -63,6 +64,7 @@ void fill_conditions(f_new_round& window)
 void fill_partners(f_new_round& window)
 {
     Recordset& partners = data_environment().rspartners;
+    close_if_open(partners);
     partners.Open();
     if (partners.empty())
         return;

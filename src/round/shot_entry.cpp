@@ -3,6 +3,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
+#include <array>
+
 #include "boxes.h"
 #include "data_grid.h"
 #include "DataEnvironment1.h"
@@ -231,6 +234,23 @@ void drop_blank_shot(f_new_round& window, int16& removed, bool& ok)
     }
     if (removed != 0)
         removed = blank ? 1 : 0;
+}
+
+bool hole_is_untold()
+{
+    if (!shots().is_open() || !shot_rows::a_hole_is_loaded() || shots().RecordCount() != 1)
+        return false;
+    const std::array told{at::stickval, at::shot_type_value, at::after};
+    return std::all_of(told.begin(), told.end(),
+                       [](int ordinal) { return shots().value_at(0, ordinal).toInt() == 0; });
+}
+
+void drop_untold_shot()
+{
+    if (!hole_is_untold())
+        return;
+    shots().MoveFirst();
+    remove_row();
 }
 
 void next_shot(f_new_round& window)

@@ -24,6 +24,13 @@ bool check_shots(f_new_round& window);
 /// `removed` (1 or 0) is written only when it comes in as something else than 0.
 void drop_blank_shot(f_new_round& window, int16& removed, bool& ok);
 
+/// The loaded hole has nothing but the blank shot with which a hole starts.
+bool hole_is_untold();
+
+/// Takes that blank shot away. The close box leaves without complete shots, and a hole that was only looked
+/// at must not count as a detailed one.
+void drop_untold_shot();
+
 /// Adds the next shot behind the last one. Refuses while the last one lacks club, kind or distance.
 void next_shot(f_new_round& window);
 

@@ -10,6 +10,7 @@
 #include "f_new_round.h"
 #include "failure_guard.h"
 #include "hole_boxes.h"
+#include "Main_module.h"
 #include "shot_entry.h"
 #include "shot_rows.h"
 #include "shot_words.h"
@@ -97,8 +98,12 @@ void name_clubs(f_new_round& window)
 {
     Recordset& names = data_environment().rssticknames;
     names.Open();
-    for (int club = 1; club <= club_menu_count; ++club)
-        choice_menu::set_caption(window.ms1(club), names.Fields(club - 1).text_or_empty());
+    for (int club = 1; club <= club_menu_count; ++club) {
+        const QString stored = names.Fields(club - 1).text_or_empty();
+        // Names that the golf bag did not keep stand in the menu until the next start all the same.
+        choice_menu::set_caption(window.ms1(club),
+                                 Main_module::club_names_kept ? stored : Main_module::club_names[club - 1]);
+    }
     names.Close();
 }
 

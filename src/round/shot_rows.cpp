@@ -13,6 +13,9 @@ Recordset& rows()
     return data_environment().rsStat_rounds;
 }
 
+/// What every statement of a hole begins with.
+constexpr QStringView start_of_statement = u"Select * from Stat_rounds where ( date= ";
+
 QString command_in_capitals()
 {
     return in_capitals(trimmed_blanks(rows().Source()));
@@ -87,13 +90,13 @@ void with_each_row(Work work)
 
 QString statement_of_hole(const QString& key, int16 hole_number)
 {
-    return u"Select * from Stat_rounds where ( date= " + quoted(key) + u" ) and hole = " +
-           QString::number(plain(hole_number)) + u" order by shot";
+    return start_of_statement + quoted(key) + u" ) and hole = " + QString::number(plain(hole_number)) +
+           u" order by shot";
 }
 
 bool a_hole_is_loaded()
 {
-    return command_in_capitals() != u"SELECT * FROM STAT_ROUNDS";
+    return command_in_capitals().startsWith(in_capitals(start_of_statement));
 }
 
 bool is_loaded(const QString& key, int16 hole_number)

@@ -33,7 +33,8 @@ constexpr int verges = 21;
 /// The statement that reads the shots of a hole (1 to 18).
 QString statement_of_hole(const QString& key, int16 hole_number);
 
-/// False while the recordset stands for the whole table.
+/// False while the recordset stands for the whole table, in whatever order: the removal of a round leaves
+/// it sorted by round and hole.
 bool a_hole_is_loaded();
 
 /// True when the rows are those of that hole.

@@ -25,6 +25,10 @@ extern int16 round_key_count;
 /// The names of the 14 clubs; the last is the putter.
 extern checked_array<QString, club_count> club_names;
 
+/// False once the golf bag was left with a No: `club_names` are then this run's own, and the store has
+/// others.
+extern bool club_names_kept;
+
 /// Appends a key. Fails with `subscript` when the list is full.
 void append_round_key(const QString& key);
 

@@ -32,10 +32,10 @@ text_pair failure_words(failure_kind kind)
                 u"est intact.",
                 u"Verdane did not find what it looked for in the diary. What was saved is intact."};
     case failure_kind::missing_table:
-        return {u"Il manque une partie du journal (une table ou une colonne). Remettez en place une "
-                u"copie complète du fichier. Rien n'a été modifié.",
-                u"A part of the diary (a table or a column) is missing. Put a complete copy of the "
-                u"file back in place. Nothing was changed."};
+        return {u"Il manque une partie du journal (une table ou une colonne) ; le reste est intact. "
+                u"Remettez en place une copie complète du fichier.",
+                u"A part of the diary (a table or a column) is missing; the rest is intact. Put a "
+                u"complete copy of the file back in place."};
     case failure_kind::store_locked:
         return {u"Le journal est utilisé par un autre programme. Fermez ce programme, puis "
                 u"recommencez. Ce qui était enregistré est intact.",

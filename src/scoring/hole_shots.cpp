@@ -69,10 +69,10 @@ class summary_walk {
 public:
     void take(hole_shot& row)
     {
-        count_situation(row);
-        result_.penalties[plain(row.penval)].count += 1;
-        count_position(row);
         result_.kinds[plain(row.shot_type_value)].count += 1;
+        // Without a kind a shot, such as the blank one of a new hole, counts in no box.
+        if (row.shot_type_value != 0)
+            count(row);
         measure(row);
         previous_after_ = row.remaining();
     }
@@ -88,6 +88,13 @@ public:
     }
 
 private:
+    void count(hole_shot& row)
+    {
+        count_situation(row);
+        result_.penalties[plain(row.penval)].count += 1;
+        count_position(row);
+    }
+
     void count_situation(const hole_shot& row)
     {
         result_.missed += row.missed ? 1 : 0;

@@ -100,8 +100,9 @@ struct hole_summary {
     bool isdetailed = false;
 };
 
-/// Folds the rows into the hole's figures. A putt loses its position on the way. Fails with
-/// `subscript` on a kind or a penalty outside its set.
+/// Folds the rows into the hole's figures. A row without a kind adds to none of the counts but its own;
+/// behind the first putt it is a length like any other row. A putt loses its position on the way. Fails
+/// with `subscript` on a kind outside its set, and on such a penalty of a shot with a kind.
 hole_summary summarise(shot_list& rows);
 
 }  // namespace verdane

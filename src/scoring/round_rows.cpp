@@ -1,5 +1,6 @@
 #include "round_rows.h"
 
+#include "course_rows.h"
 #include "DataEnvironment1.h"
 #include "round_columns.h"
 
@@ -130,10 +131,8 @@ QString partners_text(const QStringList& numbers)
 
 QString course_code_at(int list_index)
 {
-    Recordset& courses = data_environment().rsvrd_fields;
-    courses.MoveFirst();
-    courses.Move(list_index);
-    return courses.Fields(at::code).text();
+    move_to_course(list_index);
+    return data_environment().rsvrd_fields.Fields(at::code).text();
 }
 
 int16 cost_total()

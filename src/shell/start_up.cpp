@@ -61,6 +61,7 @@ void load_club_names()
     for (int i = 0; i < Main_module::club_count; ++i)
         Main_module::club_names[i] = rssticknames.Fields(i).text_or_empty();
     rssticknames.Close();
+    Main_module::club_names_kept = true;
 }
 
 void load_round_keys()

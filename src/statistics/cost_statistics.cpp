@@ -5,7 +5,6 @@
 #include "language.h"
 #include "relaxed_commits.h"
 #include "report_control.h"
-#include "round_columns.h"
 #include "single_commit.h"
 
 namespace verdane::Statistics {
@@ -26,25 +25,20 @@ void remove_rows(Recordset& report)
     report.Close();
 }
 
-void copy_row(Recordset& cost, Recordset& report)
+/// All rows by one statement, in the store's own order: row by row it took the better part of the time.
+void copy_rows(const QString& selection)
 {
-    report.AddNew();
-    for (int ordinal = round_columns::date; ordinal <= round_columns::last_amount; ++ordinal)
-        report.Fields(ordinal).set(cost.Fields(ordinal).value());
-    report.Update();
+    data_environment().connection.Execute(
+        u"insert into r_cost (date,fg,cm,vt,ft,ba,tee,tex,nrt,lg,bs,ln,au) " + selection);
 }
 
-int16 copy_rows(Recordset& cost, Recordset& report, run_progress& bar)
+/// Notes the number of rounds on the first row of the table.
+void count_rounds(Recordset& report, run_progress& bar)
 {
-    int16 rounds = 0;
-    int value = 0;
-    for (cost.MoveFirst(); !cost.eof(); cost.MoveNext()) {
-        value += step_of_a_round;
-        bar.pass_through(value);
-        copy_row(cost, report);
-        rounds = rounds + static_cast<std::int16_t>(1);
-    }
-    return rounds;
+    for (int round = 1; round <= report.RecordCount(); ++round)
+        bar.pass_through(round * step_of_a_round);
+    report.Fields(round_count).set(report.RecordCount());
+    report.Update();
 }
 
 /// False when the selection has no costs; the report table is empty then.
@@ -54,17 +48,12 @@ bool fill_from_costs(const selection_arguments& chosen, run_progress& bar)
     Recordset& report = data_environment().rsr_cost;
     remove_rows(report);
     cost.set_Source(cost_select(chosen));
-    cost.Open();
+    copy_rows(cost.Source());
     report.Open();
-    const bool any_cost = !cost.empty();
-    if (any_cost) {
-        const int16 rounds = copy_rows(cost, report, bar);
-        report.MoveFirst();
-        report.Fields(round_count).set(rounds);
-        report.Update();
-    }
+    const bool any_cost = !report.empty();
+    if (any_cost)
+        count_rounds(report, bar);
     report.Close();
-    cost.Close();
     return any_cost;
 }
 

@@ -1,5 +1,6 @@
 #include "f_carte.h"
 
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -41,6 +42,9 @@ QWidget* f_carte::make_courses()
     auto* frame = named(new QGroupBox(caption(u"Terrain / Terte", u"Golf Course / Teeing Area")), u"Frame1");
     auto* heading = named(make_label(caption(u"Choisissez un terrain", u"Select a golf course")), u"Label1");
     List1 = named(make_list_box(characters_of_a_line), u"List1");
+    // The names are filled up with blanks so that the tees stand below one another.
+    List1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    List1->setMinimumWidth(List1->fontMetrics().horizontalAdvance(u'0') * characters_of_a_line + 4 * rhythm);
     List1->setMinimumHeight(List1->fontMetrics().lineSpacing() * lines_in_view);
     List1->setAccessibleName(heading->text());
     auto* inside = new QVBoxLayout(frame);

@@ -2,6 +2,7 @@
 
 #include <QListWidget>
 
+#include "course_rows.h"
 #include "DataEnvironment1.h"
 #include "f_carte.h"
 #include "main_frame.h"
@@ -46,19 +47,6 @@ QString list_line()
     QString name = courses().Fields(u"name").trimmed();
     const QString code = courses().Fields(u"code").trimmed();
     return Verdane_tools::pad_right(name, width_of_name) + u", " + Verdane_tools::tee_name(code.right(1));
-}
-
-/// A line and its row have the same place.
-void move_to_selected(const f_carte& window)
-{
-    courses().MoveFirst();
-    courses().Move(window.List1->currentRow());
-}
-
-void find_holes()
-{
-    holes().MoveFirst();
-    holes().Find(u"FIELD_CODE =" + quoted(courses().Fields(u"code").trimmed()), search_direction::backward);
 }
 
 /// The nine holes behind `holes_before` on the current row of the card.
@@ -141,8 +129,8 @@ void print(f_carte& window)
 {
     if (window.List1->currentRow() < 0)
         return;
-    move_to_selected(window);
-    find_holes();
+    Round_functions::move_to_course(window.List1->currentRow());
+    Round_functions::find_holes_of_course(search_direction::backward);
     card().Open();
     write_rows_of_holes();
     write_clubs_of_both_rows();

@@ -16,6 +16,7 @@
 #include "language.h"
 #include "list_box.h"
 #include "look.h"
+#include "selection_lists.h"
 
 namespace verdane {
 
@@ -107,10 +108,11 @@ QLayout* f_date_range::make_filters()
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(rhythm);
     form->setVerticalSpacing(rhythm);
-    form->addRow(Label1.add(2, make_label(caption(u"Terrain :", u"Golf Course :"))), cmb_courses);
-    form->addRow(Label1.add(3, make_label(caption(u"Partenaire :", u"Partners :"))), pList);
-    form->addRow(Label1.add(4, make_label(caption(u"Conditions atmosphériques :", u"Weather Conditions :"))),
-                 conditions);
+    add_filter(*form, Label1.add(2, make_label(caption(u"Terrain :", u"Golf Course :"))), cmb_courses);
+    add_filter(*form, Label1.add(3, make_label(caption(u"Partenaire :", u"Partners :"))), pList);
+    add_filter(*form,
+               Label1.add(4, make_label(caption(u"Conditions atmosphériques :", u"Weather Conditions :"))),
+               conditions);
     return form;
 }
 

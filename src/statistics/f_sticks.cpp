@@ -18,6 +18,7 @@
 #include "list_box.h"
 #include "look.h"
 #include "main_frame.h"
+#include "selection_lists.h"
 
 namespace verdane {
 
@@ -26,9 +27,12 @@ namespace {
 using namespace f_sticks_func;
 
 constexpr int clubs_in_a_column = 7;
+/// Number, name, average and the gap behind them.
+constexpr int columns_of_a_half = 4;
 constexpr int name_characters = 12;
 constexpr int average_digits = 6;
-constexpr int characters_of_a_line = 44;
+/// Day, time and a course of some length in capitals.
+constexpr int characters_of_a_line = 54;
 constexpr int lines_in_view = 8;
 constexpr int short_figure = 3;
 
@@ -96,6 +100,10 @@ QGroupBox* f_sticks::make_bag()
     grid->setHorizontalSpacing(rhythm);
     grid->setVerticalSpacing(rhythm / 2);
     grid->setColumnMinimumWidth(3, 2 * rhythm);
+    for (const int half : {0, 1})
+        grid->addWidget(
+            named(make_label(caption(u"verges", u"yards")), QStringLiteral("lbl_unit_%1").arg(half)), 0,
+            half * columns_of_a_half + 2, Qt::AlignRight);
     for (int index = 0; index < club_count; ++index)
         add_club(*grid, index);
     return bag;
@@ -103,8 +111,8 @@ QGroupBox* f_sticks::make_bag()
 
 void f_sticks::add_club(QGridLayout& grid, int index)
 {
-    const int row = index % clubs_in_a_column;
-    const int column = index < clubs_in_a_column ? 0 : 4;
+    const int row = 1 + index % clubs_in_a_column;
+    const int column = index / clubs_in_a_column * columns_of_a_half;
     auto* name = sn.add(index, new QLineEdit);
     name->setMinimumWidth(name->fontMetrics().averageCharWidth() * name_characters + 2 * rhythm);
     const QString number = QString::number(index + 1);
@@ -173,11 +181,12 @@ QLayout* f_sticks::make_choices()
     form->setHorizontalSpacing(rhythm);
     form->setVerticalSpacing(rhythm / 2);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->addRow(named(make_label(caption(u"Conditions atmosphériques :", u"Weather Conditions :")),
-                       u"lbl_conditions"),
-                 conditions);
-    form->addRow(named(make_label(caption(u"Partenaire :", u"Partners :")), u"lbl_pList"), pList);
-    form->addRow(named(make_label(caption(u"Terrain :", u"Golf Course :")), u"lbl_cmb_courses"), cmb_courses);
+    const auto label = [](QStringView name, const QString& words) { return named(make_label(words), name); };
+    add_filter(*form,
+               label(u"lbl_conditions", caption(u"Conditions atmosphériques :", u"Weather Conditions :")),
+               conditions);
+    add_filter(*form, label(u"lbl_pList", caption(u"Partenaire :", u"Partners :")), pList);
+    add_filter(*form, label(u"lbl_cmb_courses", caption(u"Terrain :", u"Golf Course :")), cmb_courses);
     for (QComboBox* filter : {conditions, pList, cmb_courses}) {
         filter->setMinimumContentsLength(20);
         filter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -197,12 +206,15 @@ QLayout* f_sticks::make_unread_boxes()
     int index = club_count;
     for (int row = 0; row < static_cast<int>(kinds.size()); ++row) {
         int column = 0;
-        grid->addWidget(make_label(kinds.at(static_cast<std::size_t>(row))), row, column++);
+        grid->addWidget(named(make_label(kinds.at(static_cast<std::size_t>(row))),
+                              QStringLiteral("lbl_unread_%1").arg(row)),
+                        row, column++);
         for (const QString& word : {caption(u"entre ", u"between "), caption(u"et ", u"and ")}) {
+            auto* label = named(make_label(word), QStringLiteral("lbl_Text1_%1").arg(index));
             auto* box = Text1.add(index++, make_number_box(short_figure));
             box->setEnabled(false);
             box->setAccessibleName(word);
-            grid->addWidget(make_label(word), row, column++);
+            grid->addWidget(label, row, column++);
             grid->addWidget(box, row, column++);
         }
     }

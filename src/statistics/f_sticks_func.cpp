@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include <cmath>
+
 #include "boxes.h"
 #include "club_statistics.h"
 #include "DataEnvironment1.h"
@@ -55,6 +57,8 @@ void show_bag(f_sticks& window)
 {
     for (int i = 0; i < club_count; ++i) {
         window.sn(i).setText(Main_module::club_names[i]);
+        // A long name is read from its beginning.
+        window.sn(i).setCursorPosition(0);
         window.Text1(i).setText(number_text(data_environment().rssticks.Fields(i).double_or_zero()));
     }
     window.head->setText(
@@ -120,10 +124,19 @@ void show_averages(f_sticks& window)
     report.Close();
 }
 
+/// A figure without bounds could be stored, but never be shown again.
+double typed_average(const QLineEdit& box)
+{
+    const double average = leading_number(box.text());
+    if (!std::isfinite(average))
+        throw run_time_failure(failure_kind::overflow, QString(u"an average of " + box.text()));
+    return average;
+}
+
 void take_boxes_over(const f_sticks& window)
 {
     for (int i = 0; i < club_count; ++i) {
-        data_environment().rssticks.Fields(i).set(leading_number(window.Text1(i).text()));
+        data_environment().rssticks.Fields(i).set(typed_average(window.Text1(i)));
         data_environment().rssticknames.Fields(i).set(window.sn(i).text());
         Main_module::club_names[i] = window.sn(i).text();
     }
@@ -201,9 +214,10 @@ void compute_averages(f_sticks& window)
 void accept(f_sticks& window)
 {
     take_boxes_over(window);
-    if (ask_yes_no(
-            window.caption(u"Désirez vous conservés ces moyennes ?", u"Do you want to keep these averages ?"),
-            title())) {
+    Main_module::club_names_kept = ask_yes_no(
+        window.caption(u"Désirez vous conservés ces moyennes ?", u"Do you want to keep these averages ?"),
+        title());
+    if (Main_module::club_names_kept) {
         data_environment().rssticks.Update();
         data_environment().rssticknames.Update();
     } else {

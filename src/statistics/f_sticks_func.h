@@ -28,7 +28,8 @@ selection_arguments selection_of(const f_sticks& window);
 void compute_averages(f_sticks& window);
 
 /// Takes the boxes over and asks whether to keep them: Yes commits averages and names, No drops both.
-/// The menu of clubs has the new names either way until the next start.
+/// The menu of clubs has the new names either way until the next start. Fails with `overflow` on an
+/// average that no decimal number can hold.
 void accept(f_sticks& window);
 
 /// Drops what waits and closes the window.

@@ -1,9 +1,12 @@
 #include "selection_lists.h"
 
 #include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
 
 #include <array>
 
+#include "close_if_open.h"
 #include "DataEnvironment1.h"
 #include "language.h"
 #include "round_columns.h"
@@ -43,6 +46,7 @@ QString course_line(Recordset& courses, tee_letters letters)
 template <typename Add>
 void for_each_row(Recordset& rows, Add add)
 {
+    close_if_open(rows);
     rows.Open();
     if (!rows.empty()) {
         for (rows.MoveFirst(); !rows.eof(); rows.MoveNext())
@@ -52,6 +56,12 @@ void for_each_row(Recordset& rows, Add add)
 }
 
 }  // namespace
+
+void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter)
+{
+    label->setBuddy(filter);
+    form.addRow(label, filter);
+}
 
 void fill_partner_filter(QComboBox& list, bool french)
 {

@@ -1,10 +1,16 @@
 #pragma once
 
 class QComboBox;
+class QFormLayout;
+class QLabel;
 
-/// The filters of the selection window. Each begins with the entry that filters nothing; the others
-/// follow in the order of their table's rows.
+/// The filters of the selection window and of the golf bag. Each begins with the entry that filters
+/// nothing; the others follow in the order of their table's rows.
 namespace verdane {
+
+/// Puts a filter and its label below the others: beside it for the eye, and tied to it for whoever has the
+/// window read out.
+void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter);
 
 /// SURNAME, NAME of every partner; an entry's data is the partner's code.
 void fill_partner_filter(QComboBox& list, bool french);

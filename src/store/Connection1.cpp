@@ -1,6 +1,7 @@
 #include "Connection1.h"
 
 #include "fresh_store.h"
+#include "prepared_statements.h"
 #include "schema.h"
 #include "store_lock.h"
 
@@ -90,7 +91,11 @@ bool has_store(const QSqlDatabase& database)
 
 }  // namespace
 
-Connection1::Connection1() : name_(QUuid::createUuid().toString(QUuid::WithoutBraces)) {}
+Connection1::Connection1()
+    : name_(QUuid::createUuid().toString(QUuid::WithoutBraces)),
+      prepared_(std::make_unique<prepared_statements>())
+{
+}
 
 Connection1::~Connection1()
 {
@@ -144,6 +149,7 @@ void Connection1::open_engine(soundness_check check)
     // WAL lets report printing and other readers look on while the program writes.
     answer(database(), QStringLiteral("PRAGMA journal_mode=WAL"));
     Execute(QStringLiteral("PRAGMA synchronous=FULL"));
+    Execute(QStringLiteral("PRAGMA cache_size=-%1").arg(kept_pages_kb));
     if (!laid_down)
         lay_down(*this);
 }
@@ -157,6 +163,7 @@ void Connection1::check_soundness() const
 
 void Connection1::Close()
 {
+    prepared_->forget();
     if (QSqlDatabase::contains(name_)) {
         database().close();
         QSqlDatabase::removeDatabase(name_);

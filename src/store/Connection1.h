@@ -12,6 +12,8 @@ class QLockFile;
 
 namespace verdane {
 
+class prepared_statements;
+
 /// When the whole file is looked through for damage: while it is opened, or later, by the caller's own
 /// call of `check_soundness`. A file in which no table is found is looked through in either case.
 enum class soundness_check { while_opening, later };
@@ -56,11 +58,18 @@ public:
     /// The toolkit's handle, for the recordsets of this room only.
     QSqlDatabase database() const;
 
+    /// The statements that this room writes rows with, kept ready until the connection is closed.
+    prepared_statements& prepared() const { return *prepared_; }
+
 private:
     friend class relaxed_commits;
 
     /// How long a statement waits for a tool that holds the file. Short: the user sits before it.
     static constexpr int busy_timeout_ms = 1000;
+
+    /// How much of the file the engine may keep in memory. A full diary is some 4 MB, and the statistics
+    /// read it again and again; the engine's own 2 MB would hold only half of it.
+    static constexpr int kept_pages_kb = 16 * 1024;
 
     void open_engine(soundness_check check);
 
@@ -69,6 +78,7 @@ private:
     int relaxations_ = 0;
     QString path_;
     std::unique_ptr<QLockFile> lock_;
+    std::unique_ptr<prepared_statements> prepared_;
 };
 
 /// A text between single quotes, with the quotes inside it doubled. For every value that the system

@@ -46,14 +46,16 @@ void Recordset::set_Source(const QString& statement)
     rows_->source = statement;
 }
 
-void Recordset::Open()
+void Recordset::Open(row_reading reading)
 {
     if (rows_->open)
         rows_->fail(failure_kind::misuse, QStringLiteral("the recordset is open already"));
     if (!rows_->connection.is_open())
         rows_->fail(failure_kind::misuse, QStringLiteral("the connection is closed"));
     rows_->forget_rows();
-    rows_->set = read_rows(rows_->connection, rows_->source, rows_->where());
+    if (reading == row_reading::at_once)
+        rows_->set = read_rows(rows_->connection, rows_->source, rows_->where());
+    rows_->unread = reading == row_reading::when_needed;
     rows_->open = true;
 }
 
@@ -72,6 +74,8 @@ bool Recordset::is_open() const
 void Recordset::Requery()
 {
     rows_->commit_on_leaving();
+    if (rows_->unread)
+        return;
     // Read first: when that fails, the recordset is as it was.
     row_set fresh = read_rows(rows_->connection, rows_->source, rows_->where());
     rows_->forget_rows();
@@ -80,37 +84,37 @@ void Recordset::Requery()
 
 bool Recordset::bof() const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return rows_->count() == 0 || rows_->place < 0;
 }
 
 bool Recordset::eof() const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return rows_->count() == 0 || (rows_->place >= rows_->count() && !rows_->in_gap);
 }
 
 bool Recordset::empty() const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return rows_->count() == 0;
 }
 
 int Recordset::RecordCount() const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return rows_->count();
 }
 
 int Recordset::position() const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return rows_->on_row() ? rows_->place : -1;
 }
 
 void Recordset::MoveFirst()
 {
-    rows_->commit_on_leaving();
+    rows_->leave_row();
     if (rows_->count() == 0)
         rows_->fail(failure_kind::misuse, QStringLiteral("there is no first row"));
     rows_->stand_at(0);
@@ -118,7 +122,7 @@ void Recordset::MoveFirst()
 
 void Recordset::MoveLast()
 {
-    rows_->commit_on_leaving();
+    rows_->leave_row();
     if (rows_->count() == 0)
         rows_->fail(failure_kind::misuse, QStringLiteral("there is no last row"));
     rows_->stand_at(rows_->count() - 1);
@@ -136,7 +140,7 @@ void Recordset::MovePrevious()
 
 void Recordset::Move(int steps)
 {
-    rows_->commit_on_leaving();
+    rows_->leave_row();
     if (steps == 0)
         return;
     // In a gap the next row stands at `place` already.
@@ -146,7 +150,7 @@ void Recordset::Move(int steps)
 
 void Recordset::MoveTo(int row)
 {
-    rows_->commit_on_leaving();
+    rows_->leave_row();
     if (row < 0 || row >= rows_->count())
         rows_->fail(failure_kind::misuse, QStringLiteral("there is no row %1").arg(row));
     rows_->stand_at(row);
@@ -154,7 +158,7 @@ void Recordset::MoveTo(int row)
 
 void Recordset::Find(const QString& criterion, search_direction direction)
 {
-    rows_->commit_on_leaving();
+    rows_->leave_row();
     const find_criterion wanted = rows_->read_criterion(criterion);
     const auto column = static_cast<std::size_t>(Fields(wanted.column()).ordinal());
     const auto& all = rows_->set.rows;
@@ -175,13 +179,13 @@ void Recordset::Find(const QString& criterion, search_direction direction)
 
 Field Recordset::Fields(int ordinal)
 {
-    rows_->need_open();
+    rows_->need_rows();
     return {*this, rows_->checked_ordinal(ordinal)};
 }
 
 Field Recordset::Fields(QStringView name)
 {
-    rows_->need_open();
+    rows_->need_rows();
     const auto found = rows_->set.ordinals.constFind(name.toString().toLower());
     if (found == rows_->set.ordinals.constEnd())
         rows_->fail(failure_kind::missing_table, QString(u"no column " + name));
@@ -190,25 +194,25 @@ Field Recordset::Fields(QStringView name)
 
 int Recordset::field_count() const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return static_cast<int>(rows_->set.columns.size());
 }
 
 QString Recordset::field_name(int ordinal) const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return rows_->set.columns[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))].name;
 }
 
 column_type Recordset::field_type(int ordinal) const
 {
-    rows_->need_open();
+    rows_->need_rows();
     return rows_->set.columns[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))].type;
 }
 
 QVariant Recordset::value_at(int row, int ordinal) const
 {
-    rows_->need_open();
+    rows_->need_rows();
     if (row < 0 || row >= rows_->count())
         rows_->fail(failure_kind::misuse, QStringLiteral("there is no row %1").arg(row));
     return rows_->set.rows[static_cast<std::size_t>(row)]

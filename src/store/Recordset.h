@@ -17,6 +17,10 @@ class Recordset;
 enum class cursor_type { dynamic, fixed };
 enum class lock_type { optimistic, batch_optimistic };
 enum class cursor_location { server, client };
+/// When the rows of a statement are read: as it is opened, or once something asks for one of them. The
+/// second is for a whole table that is open in case it is needed; what is wrong with the statement then
+/// comes out at that moment too.
+enum class row_reading { at_once, when_needed };
 enum class search_direction { forward = 1, backward = -1 };
 
 /// Which rows a batch update writes. Both commit everything that is pending.
@@ -108,17 +112,20 @@ public:
     const QString& name() const;
     const recordset_settings& settings() const;
 
-    /// The statement for the next `Open`; stays in force until the next write.
+    /// The statement for the next reading of rows, by `Open` or `Requery`; stays in force until the next
+    /// write.
     const QString& Source() const;
     void set_Source(const QString& statement);
 
     /// Reads the rows and stands on the first, or at `eof()` when there is none. Fails with `misuse`
-    /// when the recordset is open, with `missing_table` when the store lacks the table.
-    void Open();
+    /// when the recordset is open, with `missing_table` when the store lacks the table. With `when_needed`
+    /// it does neither yet: both come with the first row that is asked for.
+    void Open(row_reading reading = row_reading::at_once);
     /// Lets go of the rows; what is pending is dropped. Fails with `misuse` when it is not open.
     void Close();
     bool is_open() const;
-    /// Commits the current row (optimistic lock), reads the rows again and stands on the first.
+    /// Commits the current row (optimistic lock), reads the rows again and stands on the first. Rows that
+    /// were not read yet stay so.
     void Requery();
 
     bool bof() const;

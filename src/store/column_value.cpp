@@ -56,7 +56,8 @@ QVariant converted(const QVariant& value, column_type type)
     case column_type::count:
         return plain(to_int16(number_of(value)));
     case column_type::amount:
-        return plain(to_int32(number_of(value)));
+        // Whole numbers of 32 bits are what such a column holds.
+        return value.typeId() == QMetaType::Int ? value : QVariant(plain(to_int32(number_of(value))));
     case column_type::real:
         return number_of(value);
     case column_type::yes_no:

@@ -25,9 +25,18 @@ void Recordset::rows::need_open() const
         fail(failure_kind::misuse, QStringLiteral("the recordset is closed"));
 }
 
-recordset_row& Recordset::rows::current()
+void Recordset::rows::need_rows()
 {
     need_open();
+    if (!unread)
+        return;
+    set = read_rows(connection, source, where());
+    unread = false;
+}
+
+recordset_row& Recordset::rows::current()
+{
+    need_rows();
     if (!on_row())
         fail(failure_kind::misuse, QStringLiteral("there is no current row"));
     return *set.rows[static_cast<std::size_t>(place)];
@@ -40,9 +49,9 @@ int Recordset::rows::checked_ordinal(int ordinal) const
     return ordinal;
 }
 
-void Recordset::rows::need_updatable() const
+void Recordset::rows::need_updatable()
 {
-    need_open();
+    need_rows();
     if (!set.shape.updatable)
         fail(failure_kind::misuse, QStringLiteral("its rows cannot be written"));
 }
@@ -67,6 +76,12 @@ void Recordset::rows::commit_on_leaving()
         return;
     if (recordset_row* row = current_or_null())
         commit(*row);
+}
+
+void Recordset::rows::leave_row()
+{
+    need_rows();
+    commit_on_leaving();
 }
 
 void Recordset::rows::commit(recordset_row& row)

@@ -72,6 +72,8 @@ struct Recordset::rows {
     QString source;
 
     bool open = false;
+    /// Open, and its rows are still to be read.
+    bool unread = false;
     row_set set;
     std::vector<removed_row> removed;
     /// The current row; -1 before the first, the number of rows behind the last. In a gap it is the
@@ -101,10 +103,12 @@ struct Recordset::rows {
     }
     QString column_name(int ordinal) const { return set.columns[static_cast<std::size_t>(ordinal)].name; }
     void need_open() const;
+    /// Reads the rows of a recordset that was opened without them.
+    void need_rows();
     recordset_row& current();
     find_criterion read_criterion(const QString& criterion) const;
     int checked_ordinal(int ordinal) const;
-    void need_updatable() const;
+    void need_updatable();
 
     /// Stands at a place, -1 and the number of rows included.
     void stand_at(int target);
@@ -112,6 +116,8 @@ struct Recordset::rows {
 
     /// What every leaving of the current row does first.
     void commit_on_leaving();
+    /// The same before a move, which needs the rows.
+    void leave_row();
     void commit(recordset_row& row);
     void commit_all();
     void cancel(recordset_row& row);

@@ -5,6 +5,7 @@
 #include <QSqlField>
 #include <QSqlRecord>
 
+#include <algorithm>
 #include <limits>
 
 /// From a statement to rows in memory.
@@ -12,16 +13,31 @@ namespace verdane {
 
 namespace {
 
-recordset_column column_of(const QString& name, const table* home, bool updatable)
+bool is_called(const column& declared, const QString& name)
 {
-    recordset_column result{name, column_type::any, {}, updatable && home == nullptr};
-    if (!updatable || home == nullptr)
-        return result;
-    for (const column& declared : home->columns) {
-        if (declared.name.compare(name, Qt::CaseInsensitive) == 0)
-            return {name, declared.type, declared.default_value, true};
-    }
-    return result;
+    return declared.name.compare(name, Qt::CaseInsensitive) == 0;
+}
+
+/// `likely` is where the column stands in the table when the statement asks for all of them. The rounds'
+/// tables have some two hundred.
+const column* declared_column(const table& home, const QString& name, std::size_t likely)
+{
+    const auto& all = home.columns;
+    if (likely < all.size() && is_called(all[likely], name))
+        return &all[likely];
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&name](const column& each) { return is_called(each, name); });
+    return found == all.end() ? nullptr : &*found;
+}
+
+recordset_column column_of(const QString& name, std::size_t likely, const select_statement& shape,
+                           const table* home)
+{
+    if (!shape.updatable || home == nullptr)
+        return {name, column_type::any, {}, shape.updatable};
+    const column* declared = declared_column(*home, name, likely);
+    return declared == nullptr ? recordset_column{name, column_type::any, {}, false}
+                               : recordset_column{name, declared->type, declared->default_value, true};
 }
 
 void read_columns(row_set& set, const QSqlRecord& record)
@@ -31,7 +47,7 @@ void read_columns(row_set& set, const QSqlRecord& record)
     set.columns.reserve(static_cast<std::size_t>(record.count()));
     for (int i = hidden; i < record.count(); ++i) {
         const QString name = record.fieldName(i);
-        set.columns.push_back(column_of(name, home, set.shape.updatable));
+        set.columns.push_back(column_of(name, static_cast<std::size_t>(i - hidden), set.shape, home));
         const QString key = name.toLower();
         if (!set.ordinals.contains(key))
             set.ordinals.insert(key, i - hidden);

@@ -1,16 +1,15 @@
 #include "row_writer.h"
 
 #include "Connection1.h"
-
-#include <QStringList>
+#include "prepared_statements.h"
 
 namespace verdane {
 
 namespace {
 
-QString column_name(const row_set& set, int ordinal)
+const QString& column_name(const row_set& set, int ordinal)
 {
-    return u'`' + set.columns[static_cast<std::size_t>(ordinal)].name + u'`';
+    return set.columns[static_cast<std::size_t>(ordinal)].name;
 }
 
 const QVariant& cell(const recordset_row& row, int ordinal)
@@ -31,6 +30,7 @@ std::vector<int> changed_columns(const recordset_row& row)
 std::vector<int> written_columns(const recordset_row& row)
 {
     std::vector<int> written;
+    written.reserve(row.pending->before.size());
     for (const auto& [ordinal, before] : row.pending->before)
         written.push_back(ordinal);
     // An insertion names at least one column; its default says the same as leaving it out.
@@ -39,51 +39,64 @@ std::vector<int> written_columns(const recordset_row& row)
     return written;
 }
 
-void run(QSqlQuery& query, const QString& statement, const std::vector<QVariant>& values,
-         const QString& where)
+statement_with_values start_statement(QStringView words, const row_set& set, std::size_t columns)
 {
-    const QString place = where + u" [" + statement + u']';
-    if (!query.prepare(statement))
-        throw store_failure(query.lastError(), place);
-    int at = 0;
-    for (const QVariant& value : values)
-        query.bindValue(at++, value);
-    if (!query.exec())
-        throw store_failure(query.lastError(), place);
+    constexpr qsizetype letters_of_a_column = 32;
+    statement_with_values statement;
+    statement.text.reserve(letters_of_a_column * static_cast<qsizetype>(columns + 2));
+    statement.text += words + u'`' + set.shape.table + u'`';
+    statement.values.reserve(columns + 1);
+    return statement;
 }
 
-qint64 insert_row(QSqlQuery& query, const row_set& set, const recordset_row& row, const QString& where)
+/// How many rows a statement changed.
+int run(const Connection1& connection, const statement_with_values& statement, const QString& where)
 {
-    QStringList names;
-    QStringList places;
-    std::vector<QVariant> values;
-    for (const int ordinal : written_columns(row)) {
-        names += column_name(set, ordinal);
-        places += QStringLiteral("?");
-        values.push_back(cell(row, ordinal));
-    }
-    run(query,
-        QString(u"INSERT INTO `" + set.shape.table + u"` (" + names.join(u',') + u") VALUES (" +
-                places.join(u',') + u')'),
-        values, where);
-    return query.lastInsertId().toLongLong();
+    return connection.prepared().run(connection.database(), statement, where,
+                                     [](const QSqlQuery& query) { return query.numRowsAffected(); });
 }
 
-void update_row(QSqlQuery& query, const row_set& set, const recordset_row& row, const QString& where)
+qint64 insert_row(const Connection1& connection, const row_set& set, const recordset_row& row,
+                  const QString& where)
 {
-    QStringList assignments;
-    std::vector<QVariant> values;
-    for (const int ordinal : changed_columns(row)) {
-        assignments += column_name(set, ordinal) + u"=?";
-        values.push_back(cell(row, ordinal));
+    const std::vector<int> written = written_columns(row);
+    statement_with_values statement = start_statement(u"INSERT INTO ", set, written.size());
+    QStringView before = u" (`";
+    for (const int ordinal : written) {
+        statement.text += before;
+        statement.text += column_name(set, ordinal);
+        before = u"`,`";
     }
-    if (assignments.isEmpty())
+    before = u"`) VALUES (";
+    for (const int ordinal : written) {
+        statement.text += before;
+        statement.add(cell(row, ordinal));
+        before = u",";
+    }
+    statement.text += u')';
+    return connection.prepared().run(connection.database(), statement, where, [](const QSqlQuery& query) {
+        return query.lastInsertId().toLongLong();
+    });
+}
+
+void update_row(const Connection1& connection, const row_set& set, const recordset_row& row,
+                const QString& where)
+{
+    const std::vector<int> changed = changed_columns(row);
+    if (changed.empty())
         return;
-    values.emplace_back(row.number);
-    run(query,
-        QString(u"UPDATE `" + set.shape.table + u"` SET " + assignments.join(u',') + u" WHERE rowid=?"),
-        values, where);
-    if (query.numRowsAffected() == 0)
+    statement_with_values statement = start_statement(u"UPDATE ", set, changed.size());
+    QStringView before = u" SET `";
+    for (const int ordinal : changed) {
+        statement.text += before;
+        statement.text += column_name(set, ordinal);
+        statement.text += QStringView(u"`=");
+        statement.add(cell(row, ordinal));
+        before = u",`";
+    }
+    statement.text += u" WHERE rowid=";
+    statement.add(row.number);
+    if (run(connection, statement, where) == 0)
         throw run_time_failure(failure_kind::misuse, QString(where + u": the row is no longer in the store"));
 }
 
@@ -92,17 +105,18 @@ void update_row(QSqlQuery& query, const row_set& set, const recordset_row& row, 
 qint64 write_row(const Connection1& connection, const row_set& set, const recordset_row& row,
                  const QString& where)
 {
-    QSqlQuery query(connection.database());
     if (row.pending->is_new)
-        return insert_row(query, set, row, where);
-    update_row(query, set, row, where);
+        return insert_row(connection, set, row, where);
+    update_row(connection, set, row, where);
     return row.number;
 }
 
 void erase_row(const Connection1& connection, const row_set& set, qint64 number, const QString& where)
 {
-    QSqlQuery query(connection.database());
-    run(query, QString(u"DELETE FROM `" + set.shape.table + u"` WHERE rowid=?"), {QVariant(number)}, where);
+    statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
+    statement.text += u" WHERE rowid=";
+    statement.add(number);
+    run(connection, statement, where);
 }
 
 }  // namespace verdane

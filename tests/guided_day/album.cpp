@@ -1,14 +1,75 @@
 #include "album.h"
 
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QImage>
+#include <QPainter>
+#include <QWidget>
+
+#include "hand_widgets.h"
 
 namespace verdane::guided_day {
 
-void album::keep(const QString& window, const QString& name) const
+namespace {
+
+/// A window and the menu before it, which may stand out beyond the window.
+QImage together(QWidget& window, QWidget& menu)
 {
-    const QImage picture = user_.picture(window);
-    user_.check(!picture.isNull() && picture.save(path(name + u".png")),
-                QStringLiteral("the picture %1 cannot be kept").arg(name));
+    const QRect menu_in_window(window.mapFromGlobal(menu.mapToGlobal(QPoint())), menu.size());
+    const QRect all = window.rect().united(menu_in_window);
+    QImage picture(all.size(), QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.drawPixmap(window.rect().topLeft() - all.topLeft(), window.grab());
+    painter.drawPixmap(menu_in_window.topLeft() - all.topLeft(), menu.grab());
+    return picture;
+}
+
+}  // namespace
+
+void album::keep(testing::hand& user, const QString& window, const QString& name)
+{
+    save(user, user.picture(window), name);
+}
+
+void album::keep_with_menu(testing::hand& user, const QString& window, const QString& name)
+{
+    QImage picture;
+    user.look([&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        QWidget* below = testing::visible_window(window);
+        if (menu && below)
+            picture = together(*below, *menu);
+    });
+    save(user, picture, name);
+}
+
+void album::save(testing::hand& user, const QImage& picture, const QString& name)
+{
+    const QString path = place_for(user, name + u".png");
+    user.check(!picture.isNull() && picture.save(path),
+               QStringLiteral("the picture %1 cannot be kept").arg(name));
+}
+
+QString album::place_for(testing::hand& user, const QString& file)
+{
+    user.check(!files_.contains(file), file + u" would take the place of another one");
+    files_ << file;
+    const QString path = folder_.filePath(file);
+    // What an earlier run has left there is none of this one's.
+    QFile::remove(path);
+    return path;
+}
+
+QStringList album::lost_files() const
+{
+    QStringList lost;
+    for (const QString& file : files_) {
+        if (QFileInfo(folder_.filePath(file)).size() == 0)
+            lost << file;
+    }
+    return lost;
 }
 
 }  // namespace verdane::guided_day

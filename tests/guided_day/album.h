@@ -2,23 +2,35 @@
 
 #include <QDir>
 #include <QString>
+#include <QStringList>
 
 #include "hand.h"
 
 namespace verdane::guided_day {
 
-/// The folder in which the day leaves its pictures and reports.
+/// The folder in which the pictures and reports are left. Nothing is kept twice under one name.
 class album {
 public:
-    album(QDir folder, testing::hand& user) : folder_(std::move(folder)), user_(user) {}
+    explicit album(QDir folder) : folder_(std::move(folder)) {}
 
     /// A picture of a window, as NAME.png.
-    void keep(const QString& window, const QString& name) const;
-    QString path(const QString& file) const { return folder_.filePath(file); }
+    void keep(testing::hand& user, const QString& window, const QString& name);
+    /// The same with the menu that is up before it.
+    void keep_with_menu(testing::hand& user, const QString& window, const QString& name);
+    /// The path of a file that the program is about to write.
+    QString place_for(testing::hand& user, const QString& file);
+
+    QString folder() const { return folder_.absolutePath(); }
+    /// What was kept by now.
+    QStringList files() const { return files_; }
+    /// What of it is not there, or empty.
+    QStringList lost_files() const;
 
 private:
+    void save(testing::hand& user, const QImage& picture, const QString& name);
+
     QDir folder_;
-    testing::hand& user_;
+    QStringList files_;
 };
 
 }  // namespace verdane::guided_day

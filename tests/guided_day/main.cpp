@@ -2,73 +2,99 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <cstdio>
+#include <cstdlib>
 
-#include "Connection1.h"
 #include "day.h"
+#include "program_run.h"
+#include "season.h"
+#include "season_diary.h"
 #include "start_up.h"
+#include "what_was_left.h"
 
 using namespace verdane;
 using namespace verdane::guided_day;
 
 namespace {
 
-/// The folder named behind --to; without one the pictures go with the run.
-QDir album_folder(const QStringList& arguments, const QTemporaryDir& otherwise)
+/// Stored values of the language.
+constexpr int not_chosen = 0;
+constexpr int french = 1;
+
+/// The folder named behind --to; empty without one.
+QString named_folder(const QStringList& arguments)
 {
     const auto place = arguments.indexOf(QStringLiteral("--to"));
-    QDir folder(place > 0 && place + 1 < arguments.size() ? arguments.at(place + 1) : otherwise.path());
-    folder.mkpath(QStringLiteral("."));
-    return folder;
+    return place > 0 ? arguments.value(place + 1) : QString();
 }
 
-void play_both_days(testing::hand& user, const QDir& folder)
+void play_day(day& today)
 {
-    const testing::reader store(Connection1::default_path());
-    day morning{true,
-                user,
-                album(folder, user),
-                store,
-                testing::published_scorecard(QStringLiteral("Pebble Beach"), QStringLiteral("White")),
-                morning_round()};
-    day afternoon{
-        false,
-        user,
-        album(folder, user),
-        store,
-        testing::published_scorecard(QStringLiteral("North Berwick West Links"), QStringLiteral("Blue")),
-        afternoon_round()};
-    choose_first_language(morning);
-    for (day* today : {&morning, &afternoon}) {
-        change_language(*today);
-        look_around(*today);
-        describe_course(*today);
-        keep_partners(*today);
-        play_round(*today);
-        reopen_round(*today);
-        print_statistic(*today);
-        check_store(*today);
-        remove_round(*today);
-    }
-    leave_program(afternoon);
+    change_language(today);
+    look_around(today);
+    describe_course(today);
+    keep_partners(today);
+    play_round(today);
+    reopen_round(today);
+    print_statistic(today);
+    check_store(today);
+    tell_round(today);
+    remove_round(today);
+}
+
+/// Two days, each in one language, of a golfer who starts with an empty diary.
+int play_both_days(album& pictures)
+{
+    testing::program_run golfer(not_chosen);
+    return golfer.play_through([&](testing::hand& user) {
+        day morning{{true, user, pictures, golfer.store()},
+                    testing::published_scorecard(QStringLiteral("Pebble Beach"), QStringLiteral("White")),
+                    morning_round(),
+                    told_round(QStringLiteral("11"), QStringLiteral("50"))};
+        day afternoon{
+            {false, user, pictures, golfer.store()},
+            testing::published_scorecard(QStringLiteral("North Berwick West Links"), QStringLiteral("Blue")),
+            afternoon_round(),
+            told_round(QStringLiteral("17"), QStringLiteral("15"))};
+        choose_first_language(morning);
+        play_day(morning);
+        play_day(afternoon);
+        leave_program(afternoon);
+    });
+}
+
+/// The diary of a season, looked back on in both languages.
+int look_back(album& pictures)
+{
+    testing::program_run golfer(french);
+    lay_down_season(golfer.store_path(), rounds_of_season);
+    return golfer.play_through([&](testing::hand& user) {
+        visit in_french{true, user, pictures, golfer.store()};
+        visit in_english{false, user, pictures, golfer.store()};
+        user.wait_for_window(QStringLiteral("MainForm"));
+        for (visit* now : {&in_french, &in_english}) {
+            change_language(*now);
+            keep_averages(*now);
+            print_scorecard(*now);
+            print_statistics(*now);
+        }
+        leave_program(in_english);
+    });
 }
 
 }  // namespace
 
 int main(int argc, char** argv)
 {
-    // The day starts with an empty diary and leaves the golfer's own alone.
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
     QApplication application(argc, argv);
     prepare_application(application);
-    const QDir folder = album_folder(QCoreApplication::arguments(), home);
-
-    int status = 1;
-    testing::play([&] { status = run_verdane(application); },
-                  [&](testing::hand& user) { play_both_days(user, folder); });
-    if (status == 0)
-        std::printf("The guided day is over. Its pictures and reports: %s\n",
-                    qUtf8Printable(folder.absolutePath()));
-    return status;
+    const QTemporaryDir otherwise;
+    const QString named = named_folder(QCoreApplication::arguments());
+    const QDir folder(named.isEmpty() ? otherwise.path() : named);
+    folder.mkpath(QStringLiteral("."));
+    album pictures(folder);
+    int status = play_both_days(pictures);
+    if (status == EXIT_SUCCESS)
+        status = look_back(pictures);
+    const bool complete = tell_what_was_left(pictures, !named.isEmpty());
+    return complete ? status : EXIT_FAILURE;
 }

@@ -45,6 +45,8 @@ void keep_partners(day& today)
     today.user.wait_for_window(today.window(QStringLiteral("f_partners")));
     for (const person& partner : people_of(today))
         add_partner(today, partner);
+    // Leaving the last row commits it, which gives the partner a code.
+    today.user.key(Qt::Key_Up);
     today.keep(QStringLiteral("f_partners"), QStringLiteral("f_partners"));
     today.user.click(QStringLiteral("cmdSave"));
     today.user.wait_until_gone(today.window(QStringLiteral("f_partners")));

@@ -68,4 +68,18 @@ played_round afternoon_round()
              QStringLiteral("11210000000"), QStringLiteral("22210010000"), QStringLiteral("11110000000")}};
 }
 
+played_round told_round(const QString& hours, const QString& minutes)
+{
+    return {today(),
+            hours,
+            minutes,
+            QStringLiteral("20"),
+            {QStringLiteral("12221000000"), QStringLiteral("11220000000"), QStringLiteral("11220001000"),
+             QStringLiteral("21210000000"), QStringLiteral("11200000000"), QStringLiteral("22210000000"),
+             QStringLiteral("10100000000"), QStringLiteral("21310010000"), QStringLiteral("11210000000"),
+             QStringLiteral("21210000000"), QStringLiteral("31211000000"), QStringLiteral("10200000000"),
+             QStringLiteral("11110000000"), QStringLiteral("22200100000"), QStringLiteral("21210000000"),
+             QStringLiteral("11210000000"), QStringLiteral("11300010000"), QStringLiteral("21210000000")}};
+}
+
 }  // namespace verdane::guided_day

@@ -25,4 +25,8 @@ struct played_round {
 played_round morning_round();
 played_round afternoon_round();
 
+/// A round of today whose first three holes are told shot by shot (see `tell_round`): their figures are what
+/// the shots come to.
+played_round told_round(const QString& hours, const QString& minutes);
+
 }  // namespace verdane::guided_day

@@ -6,34 +6,33 @@ namespace verdane::guided_day {
 void choose_first_language(day& today)
 {
     today.user.wait_for_window(QStringLiteral("f_lang"));
-    today.pictures.keep(QStringLiteral("f_lang"), QStringLiteral("f_lang"));
+    today.pictures.keep(today.user, QStringLiteral("f_lang"), QStringLiteral("f_lang"));
     today.user.click(today.french ? QStringLiteral("Command1_1") : QStringLiteral("Command1_0"));
     today.user.wait_for_window(QStringLiteral("MainForm"));
 }
 
-void change_language(day& today)
+void change_language(visit& now)
 {
-    today.user.menu(today.french ? QStringLiteral("mfr") : QStringLiteral("mEn"));
-    today.user.wait_until(QStringLiteral("the title in the new language"), [&] {
+    now.user.menu(now.french ? QStringLiteral("mfr") : QStringLiteral("mEn"));
+    now.user.wait_until(QStringLiteral("the title in the new language"), [&] {
         return main_frame()->frame_widget()->windowTitle() ==
-               today.words(u"Verdane pour PC version 1.4", u"Verdane for PC version 1.4");
+               now.words(u"Verdane pour PC version 1.4", u"Verdane for PC version 1.4");
     });
 }
 
 void look_around(day& today)
 {
-    today.pictures.keep(QStringLiteral("MainForm"),
-                        today.french ? QStringLiteral("main_fr") : QStringLiteral("main_en"));
+    today.pictures.keep(today.user, QStringLiteral("MainForm"), today.twin(QStringLiteral("main")));
     today.user.menu(QStringLiteral("maprop"));
     today.keep(QStringLiteral("f_about"), QStringLiteral("f_about"));
     today.user.click(QStringLiteral("cmdOK"));
     today.user.wait_until_gone(today.window(QStringLiteral("f_about")));
 }
 
-void leave_program(day& today)
+void leave_program(visit& now)
 {
-    today.user.menu(QStringLiteral("mQuit"));
-    today.user.wait_until_gone(QStringLiteral("MainForm"));
+    now.user.menu(QStringLiteral("mQuit"));
+    now.user.wait_until_gone(QStringLiteral("MainForm"));
 }
 
 }  // namespace verdane::guided_day

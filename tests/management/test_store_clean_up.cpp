@@ -111,6 +111,102 @@ private Q_SLOTS:
         QCOMPARE(book.store.number(u"select count(*) from cost"_s), 1);
     }
 
+    void a_key_is_told_before_its_shots_go()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        add_round(book, 1);
+        add_shots(book, 2, 3);
+        add_shots(book, 3, 2);
+        play([] { run_event(clean_up_store); },
+             [&](hand& user) {
+                 user.wait_for_window(u"message_box"_s);
+                 user.same(shots(book), 5, u"shots at the first key"_s);
+                 user.answer(notice(key_of_day(2)));
+                 user.wait_for_window(u"message_box"_s);
+                 user.same(shots(book), 2, u"shots at the second key"_s);
+                 user.answer(notice(key_of_day(3)));
+                 user.wait_for_window(u"message_box"_s);
+                 user.same(shots(book), 0, u"shots at the number"_s);
+                 user.answer(notice(u"2"_s));
+                 user.answer(notice(u"Fin"_s));
+             });
+    }
+
+    void the_recordsets_are_closed_between_the_number_and_the_end()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        add_round(book, 1);
+        add_shots(book, 1, 1);
+        const auto open_at = [](hand& user, const QString& text) {
+            user.wait_for_window(u"message_box"_s);
+            QString open;
+            user.look([&open] { open = open_recordsets().join(u' '); });
+            user.answer(notice(text));
+            return open;
+        };
+        play([] { run_event(clean_up_store); },
+             [&](hand& user) {
+                 user.same(open_at(user, u"0"_s), u"rsgames rsStat_rounds"_s, u"open at the number"_s);
+                 user.same(open_at(user, u"Fin"_s), QString(), u"open at the end"_s);
+             });
+    }
+
+    void the_last_statements_name_the_last_key_only()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        add_round(book, 1);
+        add_shots(book, 1, 1);
+        add_shots(book, 4, 1);
+        add_shots(book, 6, 1);
+        play([] { run_event(clean_up_store); },
+             [&](hand& user) {
+                 user.answer(notice(key_of_day(4)));
+                 user.answer(notice(key_of_day(6)));
+                 user.wait_for_window(u"message_box"_s);
+                 // What comes in behind the walk's back is met by those statements alone.
+                 add_shots(book, 4, 2);
+                 add_shots(book, 6, 2);
+                 user.answer(notice(u"2"_s));
+                 user.answer(notice(u"Fin"_s));
+             });
+        QCOMPARE(book.store.text(u"select group_concat(date) from Stat_rounds"_s),
+                 QStringList({key_of_day(1), key_of_day(4), key_of_day(4)}).join(u','));
+    }
+
+    void a_shot_that_the_store_keeps_ends_it_and_what_went_stays_gone()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        add_round(book, 1);
+        add_shots(book, 2, 2);
+        add_shots(book, 3, 3);
+        book.store.write(
+            u"create trigger refuse before delete on Stat_rounds when old.date = '%1' and "
+            "old.hole = 2 begin select raise(abort, 'refused by the test'); end"_s.arg(key_of_day(3)));
+        std::optional<failure_kind> failure;
+        play([&] { failure = failure_of(clean_up_store); },
+             [](hand& user) {
+                 user.answer(notice(key_of_day(2)));
+                 user.answer(notice(key_of_day(3)));
+             });
+        QCOMPARE(failure, failure_kind::store_other);
+        QCOMPARE(book.store.text(u"select group_concat(hole) from Stat_rounds"_s), u"2,3"_s);
+    }
+
+    void a_shot_without_a_key_is_an_orphan_too()
+    {
+        const store_folder store;
+        const diary book(store.path());
+        add_round(book, 1);
+        add_shots(book, 1, 1);
+        book.store.write(u"insert into Stat_rounds (hole) values (3)"_s);
+        clean_up({QString(), u"1"_s, u"Fin"_s});
+        QCOMPARE(book.store.text(u"select date from Stat_rounds"_s), key_of_day(1));
+    }
+
     void all_rounds_are_looked_at_whatever_list_was_read_last()
     {
         const store_folder store;

@@ -1,44 +1,82 @@
 #include <QApplication>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include "Connection1.h"
 #include "cost_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// What ends the program is tried in a child process: this program again, with a case.
+/// What ends the program is tried in a child process: this program again, with a store and a case.
 namespace {
 
 constexpr int not_reached = 77;
 
-void answer_overflow(hand& user)
-{
-    user.answer({failure_words(failure_kind::overflow).in(true), QMessageBox::Critical, u"Verdane"_s,
-                 QMessageBox::Ok});
-}
-
-void show_costs()
-{
-    run_event([] { f_cost(nullptr).show_modal(); });
-}
-
 /// Twelve amounts of 9999 cannot be shown; three of them and 2770 leave no room for one more.
-int run_child(const QString& limit)
+const QString too_much = QStringList(12, u"9999"_s).join(u',');
+const QString full = u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s;
+
+void lay_down(const QString& path, const QString& amounts)
 {
-    if (limit == u"loading") {
-        const cost_store store(true, QStringList(12, u"9999"_s).join(u','));
-        play(show_costs, answer_overflow);
-        return not_reached;
+    {
+        Connection1 connection;
+        connection.Open(path);
     }
-    const cost_store store(true, u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s);
-    play(show_costs, [](hand& user) {
-        user.wait_for_window(cost_window());
-        user.same(user.text(u"Text1"_s), u"32767"_s, u"the largest total"_s);
-        user.fill(u"cost_11"_s, u"1"_s);
-        answer_overflow(user);
-    });
+    reader(path).write(u"insert into cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au) values "
+                       "('20240614093000', "_s +
+                       amounts + u')');
+}
+
+QString amounts_in(const QString& path)
+{
+    QStringList amounts;
+    const auto rows = reader(path).rows(u"select * from cost"_s);
+    for (const QVariant& amount : rows.at(0))
+        amounts << amount.toString();
+    return amounts.mid(1, 12).join(u',');
+}
+
+void meet(hand& user, failure_kind kind)
+{
+    user.answer({failure_words(kind).in(is_french), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+}
+
+void type_too_much(hand& user)
+{
+    user.wait_for_window(cost_window());
+    user.same(user.text(u"Text1"_s), u"32767"_s, u"the largest total"_s);
+    user.fill(u"cost_11"_s, u"1"_s);
+    meet(user, failure_kind::overflow);
+}
+
+void accept_what_is_refused(hand& user)
+{
+    user.wait_for_window(cost_window());
+    user.fill(u"cost_0"_s, u"25"_s);
+    user.fill(u"cost_11"_s, u"7"_s);
+    user.click(u"OKButton"_s);
+    meet(user, failure_kind::store_other);
+}
+
+int run_child(const QString& path, const QString& limit)
+{
+    language_is_settled = true;
+    is_french = limit != u"typing";
+    data_environment().connection.Open(path);
+    const recording_frame frame;
+    data_environment().rscost.Open();
+    play([] { run_event([] { f_cost(nullptr).show_modal(); }); },
+         [&](hand& user) {
+             if (limit == u"loading")
+                 meet(user, failure_kind::overflow);
+             else if (limit == u"typing")
+                 type_too_much(user);
+             else
+                 accept_what_is_refused(user);
+         });
     return not_reached;
 }
 
@@ -48,22 +86,32 @@ class test_cost_limits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_total_beyond_16_bits_ends_the_program_data()
+    void what_cannot_go_on_ends_the_program_and_keeps_the_stored_amounts_data()
     {
         QTest::addColumn<QString>("limit");
-        QTest::newRow("while typing") << u"typing"_s;
-        QTest::newRow("while loading") << u"loading"_s;
+        QTest::addColumn<QString>("amounts");
+        QTest::newRow("a total beyond 16 bits while typing") << u"typing"_s << full;
+        QTest::newRow("a total beyond 16 bits while loading") << u"loading"_s << too_much;
+        QTest::newRow("a row that the store refuses") << u"accepting"_s << u"1,2,3,4,5,6,7,8,9,10,11,12"_s;
     }
-    void a_total_beyond_16_bits_ends_the_program()
+    void what_cannot_go_on_ends_the_program_and_keeps_the_stored_amounts()
     {
         QFETCH(QString, limit);
+        QFETCH(QString, amounts);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        lay_down(path, amounts);
+        if (limit == u"accepting")
+            reader(path).write(u"create trigger refuse before update on cost begin "
+                               "select raise(abort, 'refused by the test'); end"_s);
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {u"--limit"_s, limit});
+        child.start(QCoreApplication::applicationFilePath(), {u"--limit"_s, path, limit});
         QVERIFY(child.waitForFinished(120000));
         const QByteArray said = child.readAllStandardError();
         QVERIFY2(!said.contains("FAIL!"), said.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
+        QCOMPARE(amounts_in(path), amounts);
     }
 };
 
@@ -72,7 +120,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QStringList arguments = application.arguments();
     if (arguments.value(1) == u"--limit")
-        return run_child(arguments.value(2));
+        return run_child(arguments.value(2), arguments.value(3));
     test_cost_limits test;
     return QTest::qExec(&test, argc, argv);
 }

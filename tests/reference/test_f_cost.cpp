@@ -196,6 +196,10 @@ private Q_SLOTS:
         QTest::newRow("a decimal") << u"12.5"_s << u"1"_s;
         QTest::newRow("a negative amount") << u"-3"_s << u"1"_s;
         QTest::newRow("too many digits") << u"123456"_s << u"1234"_s;
+        QTest::newRow("thousands of digits") << QString(5000, u'9') << u"9999"_s;
+        QTest::newRow("nothing but blanks") << u"   "_s << u"1"_s;
+        QTest::newRow("accents and quotes") << u"é'\"5"_s << u"1"_s;
+        QTest::newRow("digits of another script") << u"٣٤"_s << u"1"_s;
     }
     void a_paste_obeys_the_key_rule()
     {
@@ -264,6 +268,34 @@ private Q_SLOTS:
         });
         QCOMPARE(store.totals.last(), u"78"_s);
         QCOMPARE(store.store.text(stored_amounts), u"1 2 3 4 5 6 7 8 9 10 11 12"_s);
+    }
+
+    void amounts_that_no_one_could_type_are_shown_and_kept_as_they_are()
+    {
+        const QString strange = u"-25,12345,0,0,0,0,0,0,0,0,0,1"_s;
+        cost_store store(true, strange);
+        in_costs(store, [](hand& user) {
+            user.same(user.text(u"cost_0"_s) + u' ' + user.text(u"cost_1"_s), u"-25 12345"_s, u"boxes"_s);
+            user.same(user.text(u"Text1"_s), u"12321"_s, u"total"_s);
+            user.fill(u"cost_2"_s, u"4"_s);
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.totals, QStringList{u"12325"_s});
+        QCOMPARE(store.store.text(stored_amounts), u"-25 12345 4 0 0 0 0 0 0 0 0 1"_s);
+    }
+
+    void cutting_a_box_empty_leaves_a_zero()
+    {
+        cost_store store;
+        in_costs(store, [](hand& user) {
+            user.click(u"cost_11"_s);
+            user.key(Qt::Key_A, Qt::ControlModifier);
+            user.key(Qt::Key_X, Qt::ControlModifier);
+            user.same(user.text(u"cost_11"_s), u"0"_s, u"box"_s);
+            user.same(user.text(u"Text1"_s), u"66"_s, u"total"_s);
+            leave_by_ok(user);
+        });
+        QCOMPARE(store.store.number(u"select au from cost where date = '20240614093000'"_s), 0);
     }
 
     void a_row_without_values_reads_as_zeros()

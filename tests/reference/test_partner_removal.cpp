@@ -37,6 +37,32 @@ private Q_SLOTS:
         QCOMPARE(store.store.text(u"select PARTNERS from games2"_s), u"2-1-"_s);
     }
 
+    void a_removal_waits_for_the_next_new_row_or_the_end_of_the_window_data()
+    {
+        QTest::addColumn<bool>("adding");
+        QTest::newRow("a new row") << true;
+        QTest::newRow("the end of the window") << false;
+    }
+    void a_removal_waits_for_the_next_new_row_or_the_end_of_the_window()
+    {
+        QFETCH(bool, adding);
+        const partner_store store;
+        store.add_three();
+        in_partners([&](hand& user) {
+            user.click(u"Del"_s);
+            user.answer(question_on_removal(u" Alder Ann"_s), QMessageBox::Yes);
+            user.wait_for_window(partner_window());
+            user.same(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s, u"stored still"_s);
+            if (adding) {
+                user.click(u"add"_s);
+                user.same(store.store.number(u"select count(*) from partners where code = 1"_s), 0,
+                          u"gone with the new row"_s);
+            }
+            user.close_window(partner_window());
+        });
+        QCOMPARE(store.rows().left(26), u"Cedar,Cleo,3 | Birch,Bob,2"_s);
+    }
+
     void any_other_answer_does_nothing_data()
     {
         QTest::addColumn<bool>("escape");

@@ -1,13 +1,21 @@
-// Prints a template to a PDF file with the figures of any store, for whoever works on a template:
+// Prints a template to a PDF file, for whoever works on a template: with the figures of any store, or,
+// where none is named, with the invented ones that the tests look at.
 //
-//   draw_report TEMPLATE.rpt STORE OUT.pdf
+//   draw_report TEMPLATE.rpt [STORE] OUT.pdf
 
 #include <QApplication>
 #include <QTextStream>
 
+#include <optional>
+
+#include "invented_rows.h"
 #include "report_document.h"
 #include "report_store.h"
+#include "report_tools.h"
 #include "run_time_failure.h"
+#include "store_folder.h"
+
+using namespace verdane;
 
 int main(int argc, char** argv)
 {
@@ -15,14 +23,19 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     QTextStream errors(stderr);
-    if (arguments.size() != 4) {
-        errors << "draw_report TEMPLATE.rpt STORE OUT.pdf\n";
+    if (arguments.size() < 3 || arguments.size() > 4) {
+        errors << "draw_report TEMPLATE.rpt [STORE] OUT.pdf\n";
         return 2;
     }
     try {
-        verdane::set_report_store(arguments[2]);
-        verdane::render_report(arguments[1])->save_pdf(arguments[3]);
-    } catch (const verdane::run_time_failure& failure) {
+        std::optional<testing::store_folder> invented;
+        if (arguments.size() == 3) {
+            invented.emplace();
+            testing::fill_all_reports(invented->path());
+        }
+        set_report_store(invented ? invented->path() : arguments[2]);
+        render_report(arguments[1])->save_pdf(arguments.constLast());
+    } catch (const run_time_failure& failure) {
         errors << failure.details() << '\n';
         return 1;
     }

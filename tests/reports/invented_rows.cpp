@@ -4,6 +4,7 @@
 
 #include "Connection1.h"
 #include "reader.h"
+#include "report_tools.h"
 
 namespace verdane::testing {
 
@@ -219,6 +220,15 @@ void fill_costs(const QString& store, int rounds, figures kind)
         statements.append(cost_row(round, rounds, kind));
     statements.append(QStringLiteral("commit"));
     reader(store).write(statements);
+}
+
+void fill_all_reports(const QString& store)
+{
+    fill_stats(store, 40, QStringLiteral("Links"));
+    fill_card(store, QStringLiteral("Links"));
+    fill_putts(store);
+    fill_clubs(store);
+    fill_costs(store, 60);
 }
 
 }  // namespace verdane::testing

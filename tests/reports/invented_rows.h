@@ -28,4 +28,7 @@ void fill_clubs(const QString& store, figures kind = figures::usual);
 /// more in every second one, and 5 for balls.
 void fill_costs(const QString& store, int rounds, figures kind = figures::usual);
 
+/// All of these and the lines of `stats`, as the pages that are kept for comparison show them.
+void fill_all_reports(const QString& store);
+
 }  // namespace verdane::testing

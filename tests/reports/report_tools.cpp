@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "Connection1.h"
@@ -72,6 +73,33 @@ QStringList pdf_pages(const QString& path)
     QStringList pages = text.split(u'\f');
     pages.removeLast();
     return pages;
+}
+
+std::vector<printed_word> pdf_words(const QString& path)
+{
+    static const QRegularExpression page_form(u"<page width=\"([\\d.]+)\" height=\"([\\d.]+)\""_qs);
+    static const QRegularExpression word_form(
+        u"<word xMin=\"([\\d.-]+)\" yMin=\"([\\d.-]+)\" xMax=\"([\\d.-]+)\" yMax=\"([\\d.-]+)\">(.*)</word>"_qs);
+    constexpr double mm_per_pt = 25.4 / 72;
+    std::vector<printed_word> words;
+    QSizeF page;
+    const auto number = [](const QRegularExpressionMatch& match, int group) {
+        return match.captured(group).toDouble() * mm_per_pt;
+    };
+    for (const QString& line :
+         output_of(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), path, QStringLiteral("-")})
+             .split(u'\n')) {
+        const QRegularExpressionMatch start = page_form.match(line);
+        const QRegularExpressionMatch word = word_form.match(line);
+        if (start.hasMatch())
+            page = {number(start, 1), number(start, 2)};
+        if (word.hasMatch())
+            words.push_back(
+                {word.captured(5),
+                 QRectF(QPointF(number(word, 1), number(word, 2)), QPointF(number(word, 3), number(word, 4))),
+                 page});
+    }
+    return words;
 }
 
 QString pdf_fact(const QString& path, const QString& word)

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QRectF>
 #include <QString>
 #include <QStringList>
+
+#include <vector>
 
 /// What the tests of reports share.
 namespace verdane::testing {
@@ -15,6 +18,14 @@ QString built_template(const QString& name);
 
 /// A PDF file's text as it stands on its pages, one entry a page.
 QStringList pdf_pages(const QString& path);
+
+/// A word on a page of a PDF file, with its place and the page's size in millimetres.
+struct printed_word {
+    QString text;
+    QRectF place;
+    QSizeF page;
+};
+std::vector<printed_word> pdf_words(const QString& path);
 
 /// The line that `pdfinfo` has for a word ("Page size").
 QString pdf_fact(const QString& path, const QString& word);

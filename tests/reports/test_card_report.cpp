@@ -1,6 +1,8 @@
 #include <QTest>
 
 #include "invented_rows.h"
+#include "reader.h"
+#include "report_document.h"
 #include "report_store.h"
 #include "report_tools.h"
 #include "store_folder.h"
@@ -8,6 +10,19 @@
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+int pixels_below(const QImage& page, const QRect& place, int shade)
+{
+    int count = 0;
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = place.left(); x <= place.right(); ++x)
+            count += qGray(page.pixel(x, y)) < shade ? 1 : 0;
+    return count;
+}
+
+}  // namespace
 
 class test_card_report : public QObject {
     Q_OBJECT
@@ -81,6 +96,40 @@ private Q_SLOTS:
         QCOMPARE(pages.size(), 1);
         QVERIFY(pages.front().contains(u"Honourable Company Of Invented Golf Courses, Variable White"_s));
         QVERIFY(pages.front().contains(u"294903 589806"_s));
+    }
+
+    void the_card_folds_into_equal_parts_between_what_is_printed_data()
+    {
+        QTest::addColumn<figures>("kind");
+        QTest::addColumn<QString>("name");
+        for (const QString& name : {u"r_card2.rpt"_s, u"r_card2_en.rpt"_s}) {
+            QTest::newRow(qPrintable(name)) << figures::usual << name;
+            QTest::newRow(qPrintable(u"longest name, "_s + name)) << figures::extreme << name;
+        }
+    }
+    void the_card_folds_into_equal_parts_between_what_is_printed()
+    {
+        QFETCH(figures, kind);
+        QFETCH(QString, name);
+        fill_card(store_.path(), u"Links"_s, kind);
+        const QImage page = render_report(built_template(name))->page_image(0, 254);
+        // The sheet that is cut out, in tenths of a millimetre, and a strip along each fold.
+        const QRect sheet(172, 92, 2626, 1896);
+        const QRect upright(sheet.center().x() - 15, sheet.top() + 10, 30, sheet.height() - 20);
+        const QRect across(sheet.left() + 10, sheet.center().y() - 15, sheet.width() - 20, 30);
+        for (const QRect& fold : {upright, across}) {
+            QCOMPARE(pixels_below(page, fold, 100), 0);
+            QVERIFY(pixels_below(page, fold, 200) > 500);
+        }
+    }
+
+    void a_name_as_long_as_can_be_is_cut_and_stays_in_its_part()
+    {
+        const QString name = u"THE GOLF AND COUNTRY CLUB OF "_s.repeated(7).left(195);
+        reader(store_.path()).write(u"update r_card set card_name = '%1'"_s.arg(name));
+        const QImage page = render_report(built_template(u"r_card2.rpt"_s))->page_image(0, 254);
+        QCOMPARE(pixels_below(page, QRect(2801, 0, 169, 2100), 250), 0);
+        QVERIFY(printed_pages(u"r_card2.rpt"_s).front().contains(u"THE GOLF A…"_s));
     }
 
     void the_figures_file_lists_holes_then_clubs()

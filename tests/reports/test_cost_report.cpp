@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "invented_rows.h"
+#include "reader.h"
 #include "report_store.h"
 #include "report_tools.h"
 #include "store_folder.h"
@@ -92,6 +93,16 @@ private Q_SLOTS:
         const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
         QVERIFY(page.contains(u"2023-06-02 09:30 · · · · · · · · · · · · · ·"_s));
         QVERIFY(page.contains(u"Green Fees · · · ·"_s));
+    }
+
+    void an_amount_that_was_never_entered_is_a_quiet_zero_and_spoils_no_sum()
+    {
+        fill_costs(store_.path(), 2);
+        reader(store_.path()).write(u"update r_cost set vt = null, au = null"_s);
+        const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
+        QVERIFY2(page.contains(u"2023-06-01 09:30 60 · · · 5 · · · · · · · 65 43.3"_s), qPrintable(page));
+        QVERIFY2(page.contains(u"Total 140 · · · 10 · · · · · · · 150 100"_s), qPrintable(page));
+        QCOMPARE(csv_lines(u"r_cost3_en.rpt"_s).at(1), u"2023-06-01,09:30,60,0,0,0,5,0,0,0,0,0,0,0,65"_s);
     }
 
     void an_empty_table_still_is_a_page() { QCOMPARE(printed_pages(u"r_cost3.rpt"_s).size(), 1); }

@@ -86,6 +86,30 @@ private Q_SLOTS:
         QVERIFY(!page.contains(u"Number of rounds"_s));
     }
 
+    void the_tee_stands_right_behind_the_name_of_its_course_data()
+    {
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("printed");
+        QTest::newRow("a selection") << u"course_text"_s << u"Pebble Beach        , Gold"_s
+                                     << u"Pebble Beach, Gold"_s;
+        QTest::newRow("a name without blanks behind it")
+            << u"course_text"_s << u"North Berwick, West Links, Gold"_s
+            << u"North Berwick, West Links, Gold"_s;
+        QTest::newRow("a single round")
+            << u"from_date"_s << u"Round : 2024-05-01 Pebble Beach        , Gold"_s
+            << u"Round : 2024-05-01 Pebble Beach, Gold"_s;
+    }
+    void the_tee_stands_right_behind_the_name_of_its_course()
+    {
+        QFETCH(QString, column);
+        QFETCH(QString, text);
+        QFETCH(QString, printed);
+        reader(store_.path()).write(u"update s_put1 set "_s + column + u" = '" + text + u"' where rowid = 1");
+        for (const QString& name : {u"statPuts.rpt"_s, u"statPuts_en.rpt"_s})
+            QVERIFY(printed_pages(name).front().contains(printed));
+    }
+
     void without_putts_the_words_stand_alone_above_quiet_zeros()
     {
         fill_putts(store_.path(), figures::none);

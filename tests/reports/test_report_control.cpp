@@ -123,10 +123,20 @@ private Q_SLOTS:
         delete control.preview();
     }
 
-    void a_folder_with_blanks_is_one_path()
+    void a_folder_is_one_path_whatever_its_name_holds_data()
     {
-        QVERIFY(QDir(folder_.path()).mkdir(QStringLiteral("my own reports")));
-        const QString folder = folder_.filePath(QStringLiteral("my own reports"));
+        QTest::addColumn<QString>("name");
+        QTest::newRow("blanks") << QStringLiteral("my own reports");
+        QTest::newRow("accents") << QStringLiteral("Été à l'étang");
+#ifndef Q_OS_WIN
+        QTest::newRow("a backslash") << QStringLiteral("back\\slash");
+#endif
+    }
+    void a_folder_is_one_path_whatever_its_name_holds()
+    {
+        QFETCH(QString, name);
+        QVERIFY(QDir(folder_.path()).mkdir(name));
+        const QString folder = folder_.filePath(name);
         template_file_in(folder, QStringLiteral("try.rpt"), QStringLiteral("query it = select 1"), {});
         report_control control;
         control.set_ReportFileName(folder + QStringLiteral("\\try.rpt"));

@@ -37,6 +37,15 @@ int ink_in(const QImage& image, const QRect& place)
     return dark;
 }
 
+int unlike_pixels(const QImage& one, const QImage& other)
+{
+    int unlike = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            unlike += qAbs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > 100 ? 1 : 0;
+    return unlike;
+}
+
 }  // namespace
 
 class test_report_pages : public QObject {
@@ -82,6 +91,55 @@ private Q_SLOTS:
                 QVERIFY2(text.contains(QStringLiteral("end-%1-").arg(next)), qPrintable(text));
         }
         QCOMPARE(next, 61);
+    }
+
+    void no_word_stands_on_two_pages()
+    {
+        const QString body =
+            QStringLiteral("<svg width=\"100mm\" height=\"250mm\" viewBox=\"0 0 100 250\">"
+                           "<text x=\"0\" y=\"10\">upper-word</text>"
+                           "<text x=\"0\" y=\"249\">lower-word</text></svg>"
+                           "<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
+                           "{{#rows}}<tr><td>row-{{n}}-</td></tr>{{/rows}}</table>");
+        const QString all =
+            pages_of(*rendered(row_head(QStringLiteral("A4 portrait"), 150), body)).join(u' ');
+        QCOMPARE(all.count(QStringLiteral("upper-word")), 1);
+        QCOMPARE(all.count(QStringLiteral("lower-word")), 1);
+        for (int row = 1; row <= 150; ++row)
+            QCOMPARE(all.count(QStringLiteral("row-%1-").arg(row)), 1);
+    }
+
+    void a_head_stands_again_as_it_stood_first_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("align");
+        const QString plain = QStringLiteral("cellspacing=\"0\" style=\"border-collapse: collapse\"");
+        const QString boxed = QStringLiteral("cellspacing=\"2mm\" border=\"1mm\"");
+        for (const char* align : {"top", "middle", "bottom"}) {
+            QTest::addRow("plain table, %s", align) << plain << QString::fromLatin1(align);
+            QTest::addRow("table of boxes, %s", align) << boxed << QString::fromLatin1(align);
+        }
+    }
+    void a_head_stands_again_as_it_stood_first()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, align);
+        const QString body =
+            QStringLiteral("<style>th { vertical-align: %2; background-color: #000000; color: #ffffff; "
+                           "padding: 1mm } td { vertical-align: %2; padding: 1mm }</style>"
+                           "<table width=\"118mm\" %1><thead><tr><th>low</th><th>of<br>three<br>lines</th>"
+                           "</tr></thead>{{#rows}}<tr><td>start-{{n}}-<br>end-{{n}}-</td><td>{{n}}</td></tr>"
+                           "{{/rows}}</table>")
+                .arg(table, align);
+        const auto document = rendered(row_head(QStringLiteral("A5 portrait"), 30), body);
+        QVERIFY(document->page_count() > 1);
+        // 15 mm from the left and 20 from the top, as high as three lines.
+        const QRect head(150, 200, 1180, 150);
+        const QImage first = document->page_image(0, 254).copy(head);
+        const QImage again = document->page_image(1, 254).copy(head);
+        QVERIFY(ink_in(first, first.rect()) > 100000);
+        const int different = unlike_pixels(first, again);
+        QVERIFY2(different < 200, qPrintable(QString::number(different)));
     }
 
     void rows_that_a_cell_joins_stay_on_one_page()
@@ -167,6 +225,23 @@ private Q_SLOTS:
         QCOMPARE(ink_in(image, QRect(0, 0, 150, 2970)), 0);
         QCOMPARE(ink_in(image, QRect(1951, 0, 149, 2970)), 0);
         QVERIFY(ink_in(image, QRect(150, 200, 1800, 2520)) > 1000);
+    }
+
+    void a_footer_stands_clear_of_what_printers_do_not_reach_data()
+    {
+        QTest::addColumn<QString>("bottom");
+        for (const char* bottom : {"10", "15", "30"})
+            QTest::newRow(bottom) << QString::fromLatin1(bottom);
+    }
+    void a_footer_stands_clear_of_what_printers_do_not_reach()
+    {
+        QFETCH(QString, bottom);
+        const QString head =
+            row_head(QStringLiteral("A4 portrait"), 1)
+                .replace(QStringLiteral("20 15 25 15"), QStringLiteral("20 15 %1 15").arg(bottom));
+        const QImage image = rendered(head, row_body)->page_image(0, 254);
+        QCOMPARE(ink_in(image, QRect(0, 2970 - 60, 2100, 60)), 0);
+        QVERIFY(ink_in(image, QRect(0, 2970 - bottom.toInt() * 10, 2100, bottom.toInt() * 10 - 60)) > 100);
     }
 
     void a_body_wider_than_its_page_is_printed_smaller_and_whole()

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "page_view.h"
+#include "report_control.h"
 #include "report_dialogs.h"
 #include "report_document.h"
 #include "report_preview.h"
@@ -84,15 +85,40 @@ private Q_SLOTS:
         QCOMPARE(label("zoom_percent"), QStringLiteral("100 %"));
     }
 
+    void captions_are_those_of_the_language_it_was_made_in_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QStringList>("captions");
+        QTest::newRow("French")
+            << true << QStringList{QStringLiteral("Imprimer…"),       QStringLiteral("Enregistrer en PDF…"),
+                                   QStringLiteral("Chiffres (CSV)…"), QStringLiteral("Image…"),
+                                   QStringLiteral("Réduire"),         QStringLiteral("Agrandir"),
+                                   QStringLiteral("Pleine largeur"),  QStringLiteral("Page précédente"),
+                                   QStringLiteral("Page suivante"),   QStringLiteral("Page 2 de 3")};
+        QTest::newRow("English") << false
+                                 << QStringList{
+                                        QStringLiteral("Print…"),         QStringLiteral("Save as PDF…"),
+                                        QStringLiteral("Figures (CSV)…"), QStringLiteral("Picture…"),
+                                        QStringLiteral("Zoom out"),       QStringLiteral("Zoom in"),
+                                        QStringLiteral("Fit width"),      QStringLiteral("Previous page"),
+                                        QStringLiteral("Next page"),      QStringLiteral("Page 2 of 3")};
+    }
     void captions_are_those_of_the_language_it_was_made_in()
     {
-        is_french = true;
+        QFETCH(bool, french);
+        QFETCH(QStringList, captions);
+        is_french = french;
         open();
-        is_french = false;
+        is_french = !french;
         click("next_page");
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 de 3"));
-        QCOMPARE(window_->findChild<QAbstractButton*>(QStringLiteral("print"))->text(),
-                 QStringLiteral("Imprimer…"));
+        QStringList seen;
+        for (const char* name : {"print", "save_pdf", "save_csv", "save_picture", "zoom_out", "zoom_in",
+                                 "fit_width", "previous_page", "next_page"}) {
+            const auto* button = window_->findChild<QAbstractButton*>(QString::fromLatin1(name));
+            seen << button->accessibleName();
+            QVERIFY(button->toolTip().startsWith(button->accessibleName()));
+        }
+        QCOMPARE(seen << label("page_of_pages"), captions);
     }
 
     void pages_turn_by_button_and_by_key()
@@ -140,6 +166,20 @@ private Q_SLOTS:
             const double shown = 297 / 25.4 * window_->logicalDpiX() * window_->pages().zoom() / 100;
             QVERIFY(shown > width - 80);
         }
+    }
+
+    void a_report_that_fits_its_window_opens_on_its_first_page()
+    {
+        open();
+        delete window_;
+        report_control control;
+        control.set_WindowState(report_control::maximised);
+        control.set_ReportFileName(folder_.path() + QStringLiteral("\\Three.rpt"));
+        control.Action(report_control::run_now);
+        window_ = control.preview();
+        QVERIFY(QTest::qWaitForWindowActive(window_));
+        QTRY_VERIFY(window_->pages().zoom() != 100);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
     }
 
     void what_is_seen_stays_in_the_middle_when_the_zoom_changes()
@@ -239,6 +279,8 @@ private Q_SLOTS:
         QVERIFY(box() != nullptr);
         QCOMPARE(box()->icon(), QMessageBox::Critical);
         QCOMPARE(box()->text(), failure_words(failure_kind::report_output).in(french));
+        QCOMPARE(box()->windowTitle(), QStringLiteral("A title"));
+        QCOMPARE(box()->standardButtons(), QMessageBox::Ok);
         QVERIFY(box()->informativeText().contains(answer_));
         QTest::keyClick(box(), Qt::Key_Return);
         QTRY_VERIFY(box() == nullptr);

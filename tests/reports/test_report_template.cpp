@@ -88,6 +88,11 @@ private Q_SLOTS:
             QStringLiteral("try.rpt:3: query bad: "));
         add("missing table", QStringLiteral("query bad = select * from nowhere"), QString(),
             QStringLiteral("try.rpt:1: query bad: "));
+        add("missing column", plain_head + QStringLiteral("query bad = select nothing from stats\n"),
+            QString(), QStringLiteral("try.rpt:5: query bad: "));
+        add("missing column of a query above",
+            plain_head + QStringLiteral("query bad =\n    select nothing from rounds\n"), QString(),
+            QStringLiteral("try.rpt:5: query bad: "));
         add("writing statement", QStringLiteral("query bad = delete from stats"), QString(),
             QStringLiteral("try.rpt:1: query bad: "));
         add("query twice", QStringLiteral("query one = select 1\nquery one = select 2"), QString(),
@@ -143,6 +148,26 @@ private Q_SLOTS:
         file.write("page = A4 portrait\nquery one = select 1\n");
         file.close();
         QCOMPARE(complaint(path), QStringLiteral("head.rpt:3: no line --- between the head and the body"));
+    }
+
+    void what_editors_leave_in_a_file_does_no_harm_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray plain = "query one = select 1 as n\n---\n{{#one}}{{n}}{{/one}}";
+        QTest::newRow("line ends of two characters") << QByteArray(plain).replace("\n", "\r\n");
+        QTest::newRow("mark of the encoding") << "\xEF\xBB\xBF" + plain;
+        QTest::newRow("blanks behind the line of dashes") << QByteArray(plain).replace("---", "---  ");
+    }
+    void what_editors_leave_in_a_file_does_no_harm()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString path = folder_.filePath(QStringLiteral("edited.rpt"));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        file.close();
+        const template_file source = read_template(path);
+        QCOMPARE(source.queries.front().name, QStringLiteral("one"));
+        QCOMPARE(fill_body(source, report_snapshot(source)), QStringLiteral("1"));
     }
 
     void a_store_that_cannot_be_opened_is_a_failure_of_the_store()

@@ -74,6 +74,24 @@ QString letters_of(const QString& page)
     return letters;
 }
 
+/// The words that stand where printers do not print.
+QStringList out_of_reach(const std::vector<printed_word>& words)
+{
+    QStringList found;
+    for (const printed_word& word : words)
+        if (!QRectF(QPointF(), word.page).adjusted(6, 6, -6, -6).contains(word.place))
+            found.append(word.text);
+    return found;
+}
+
+double tallest(const std::vector<printed_word>& words)
+{
+    double height = 0;
+    for (const printed_word& word : words)
+        height = qMax(height, word.place.height());
+    return height;
+}
+
 double ink_on(const QImage& page)
 {
     qint64 inked = 0;
@@ -89,22 +107,35 @@ QImage small_page(const report_document& document, int page)
     return document.page_image(page, 40).convertToFormat(QImage::Format_Grayscale8);
 }
 
-/// The largest difference between two pages in one of their squares, in shades of grey.
-double difference(const QImage& one, const QImage& other)
+/// By how many shades of grey two pages differ in a square, on the whole: letters that another version
+/// of the toolkit sets a hair's breadth apart are no difference.
+double difference(const QImage& one, const QImage& other, const QRect& square)
 {
-    constexpr int square = 12;
+    int sum = 0;
+    for (int y = square.top(); y <= square.bottom(); ++y)
+        for (int x = square.left(); x <= square.right(); ++x)
+            sum += qGray(one.pixel(x, y)) - qGray(other.pixel(x, y));
+    return qAbs(double(sum)) / (square.width() * square.height());
+}
+
+/// The largest difference in one of the squares of two pages, some 5 mm wide.
+double largest_difference(const QImage& one, const QImage& other)
+{
+    constexpr int side = 8;
     if (one.size() != other.size())
         return 255;
     double largest = 0;
-    for (int top = 0; top + square <= one.height(); top += square)
-        for (int left = 0; left + square <= one.width(); left += square) {
-            int sum = 0;
-            for (int y = top; y < top + square; ++y)
-                for (int x = left; x < left + square; ++x)
-                    sum += qGray(one.pixel(x, y)) - qGray(other.pixel(x, y));
-            largest = qMax(largest, qAbs(double(sum)) / (square * square));
+    for (int top = 0; top < one.height(); top += side)
+        for (int left = 0; left < one.width(); left += side) {
+            const QRect square = QRect(left, top, side, side).intersected(one.rect());
+            largest = qMax(largest, difference(one, other, square));
         }
     return largest;
+}
+
+QString kept_page(const QString& name, int page)
+{
+    return QStringLiteral(VERDANE_LOOKED_AT "/%1-%2.png").arg(name).arg(page + 1);
 }
 
 }  // namespace
@@ -132,11 +163,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         set_report_store(store_.path());
-        fill_stats(store_.path(), 40, u"Links"_s);
-        fill_card(store_.path(), u"Links"_s);
-        fill_putts(store_.path());
-        fill_clubs(store_.path());
-        fill_costs(store_.path(), 60);
+        fill_all_reports(store_.path());
     }
 
     void the_twins_differ_in_words_only_data() { each_report(); }
@@ -184,8 +211,8 @@ private Q_SLOTS:
         QVERIFY(qMin(inside.width(), inside.height()) <= 198);
     }
 
-    void a_report_prints_the_same_on_a4_and_on_letter_data() { each_template(); }
-    void a_report_prints_the_same_on_a4_and_on_letter()
+    void a_report_prints_the_same_on_a4_and_on_letter_within_reach_of_a_printer_data() { each_template(); }
+    void a_report_prints_the_same_on_a4_and_on_letter_within_reach_of_a_printer()
     {
         QFETCH(QString, name);
         const QString a4 = folder_.filePath(u"a4.pdf"_s);
@@ -193,11 +220,16 @@ private Q_SLOTS:
         print(name, QPageSize::A4, a4);
         print(name, QPageSize::Letter, letter);
         const QStringList pages = pdf_pages(a4);
-        QCOMPARE(pdf_pages(letter).size(), pages.size());
+        const QStringList pages_on_letter = pdf_pages(letter);
+        QCOMPARE(pages_on_letter.size(), pages.size());
         for (qsizetype page = 0; page < pages.size(); ++page)
-            QCOMPARE(letters_of(pdf_pages(letter)[page]), letters_of(pages[page]));
+            QCOMPARE(letters_of(pages_on_letter[page]), letters_of(pages[page]));
         const QString size = pdf_fact(letter, u"Page size"_s);
         QVERIFY2(size.startsWith(u"792 x 612"_s) || size.startsWith(u"612 x 792"_s), qPrintable(size));
+        const std::vector<printed_word> words = pdf_words(a4);
+        const std::vector<printed_word> words_on_letter = pdf_words(letter);
+        QCOMPARE(out_of_reach(words) + out_of_reach(words_on_letter), QStringList());
+        QVERIFY(qAbs(tallest(words) - tallest(words_on_letter)) < 0.02);
     }
 
     void there_is_ink_on_every_page_data() { each_template(); }
@@ -220,14 +252,17 @@ private Q_SLOTS:
         const auto document = render_report(built_template(name + u".rpt"_s));
         for (int page = 0; page < document->page_count(); ++page) {
             const QImage seen = small_page(*document, page);
-            const QString path = QStringLiteral(VERDANE_LOOKED_AT "/%1-%2.png").arg(name).arg(page + 1);
+            const QString path = kept_page(name, page);
             if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
                 QVERIFY(QDir().mkpath(QStringLiteral(VERDANE_LOOKED_AT)) && seen.save(path));
             const QImage kept(path);
             QVERIFY2(!kept.isNull(), qPrintable(path));
-            const double shades = difference(seen, kept);
-            QVERIFY2(shades < 12, qPrintable(u"page %1 differs by %2 shades"_s.arg(page + 1).arg(shades)));
+            const double shades = largest_difference(seen, kept);
+            QVERIFY2(shades < 14, qPrintable(u"page %1 differs by %2 shades"_s.arg(page + 1).arg(shades)));
         }
+        if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
+            QFile::remove(kept_page(name, document->page_count()));
+        QVERIFY2(!QFile::exists(kept_page(name, document->page_count())), "a page less than there was");
     }
 };
 

@@ -101,6 +101,13 @@ private Q_SLOTS:
             QVERIFY2(page.contains(text), qPrintable(text));
     }
 
+    void the_tee_stands_right_behind_the_name_of_its_course()
+    {
+        fill_stats(store_.path(), 2, QStringLiteral("Pebble Beach        , Gold"));
+        for (const QString& name : {french, english})
+            QVERIFY(page_of(name).contains(QStringLiteral("Pebble Beach, Gold")));
+    }
+
     void every_line_stands_behind_its_caption_in_table_order_data()
     {
         QTest::addColumn<QString>("name");

@@ -13,6 +13,23 @@ namespace {
 
 const QString nothing = QStringLiteral("0 0 0 0 0 0 0 0 0 0 0");
 
+/// Opens the round of the store on its detailed page and takes it away as it stands.
+void in_told_round(const std::function<void(hand&)>& script)
+{
+    in_stored_round(key_of_keyed_round(), [&](hand& user) {
+        go_to_detailed_page(user);
+        script(user);
+        with_round(user, [](f_new_round& window) { window.unload(); });
+    });
+}
+
+bool is_detailed(hand& user)
+{
+    bool detailed = false;
+    with_round(user, [&](f_new_round& window) { detailed = window.isdetailed; });
+    return detailed;
+}
+
 }  // namespace
 
 class test_detailed_holes : public QObject {
@@ -149,7 +166,7 @@ private Q_SLOTS:
             go_to_quick_page(user);
             user.answer(refusal_of_shot(QStringLiteral(" 2")));
             user.check(user.visible(QStringLiteral("text_vrd_0")), QStringLiteral("the quick page"));
-            user.same(boxes(user), QStringLiteral("1 0 0 2 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
+            user.same(boxes(user), QStringLiteral("1 0 0 1 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
             user.click(ok_button);
             user.answer(refusal_of_shot(QStringLiteral(" 2")));
             user.wait_for_window(round_window());
@@ -158,6 +175,153 @@ private Q_SLOTS:
             accept(user);
         });
         QCOMPARE(stored_figures(round.store, 1), QStringLiteral("1 1 0 2 0 0 0 0 0 0 0"));
+    }
+
+    void quick_figures_are_lost_where_a_blank_hole_is_left_by_a_tab()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.type(QStringLiteral("11211112222"));
+            go_to_detailed_page(user);
+            user.click_tab(hole_tabs, 2);
+            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.check(!is_detailed(user), QStringLiteral("isdetailed"));
+            go_to_quick_page(user);
+            discard(user);
+        });
+        QCOMPARE(stored_figures(round.store, 1), nothing);
+    }
+
+    void a_first_shot_that_lacks_its_kind_goes_with_the_quick_page()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.type(QStringLiteral("11200001000"));
+            go_to_detailed_page(user);
+            tell_shot(user, 0, 1, QStringLiteral("60"), 0);
+            go_to_quick_page(user);
+            user.same(round.shots(1), 0, QStringLiteral("shots"));
+            accept(user);
+        });
+        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("1 1 2 0 0 0 0 1 0 0 0"));
+    }
+
+    void going_back_and_forth_turns_no_distance_again_data() { both_languages(); }
+    void going_back_and_forth_turns_no_distance_again()
+    {
+        QFETCH(bool, french);
+        const golfer_store round(french);
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            go_to_quick_page(user);
+            const QString told = stored_shots(round.store, 1);
+            user.check(told.contains(QStringLiteral(">30 ")), QStringLiteral("the approach in feet"));
+            for (int times = 0; times < 3; ++times) {
+                go_to_detailed_page(user);
+                user.click_tab(hole_tabs, 2);
+                user.click_tab(hole_tabs, 1);
+                user.answer(refusal_of_shot(QStringLiteral(" 1")));
+                user.wait_for_window(round_window());
+                go_to_quick_page(user);
+            }
+            user.same(stored_shots(round.store, 1), told, QStringLiteral("the shots"));
+            accept(user);
+        });
+    }
+
+    void seven_putts_keep_six_lengths()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_shot(user, 0, 9, QStringLiteral("30"), 2);
+            user.click(QStringLiteral("CommandSuiv"));
+            user.type(QStringLiteral("p"));
+            for (const char* left : {"9", "8", "7", "6", "5", "4"}) {
+                user.type(QString::fromLatin1(left));
+                user.key(Qt::Key_Return);
+            }
+            accept(user);
+        });
+        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("0 1 7 1 0 0 0 0 0 0 0"));
+        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("90 9 8 7 6 5"));
+    }
+
+    void a_hole_that_lost_its_shots_is_stored_as_nothing()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            go_to_quick_page(user);
+            user.check(is_detailed(user), QStringLiteral("isdetailed"));
+            accept(user);
+        });
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            for (int shots = 4; shots > 0; --shots)
+                user.click(QStringLiteral("CommandSup"));
+            accept(user);
+        });
+        QCOMPARE(round.shots(1), 0);
+        QCOMPARE(stored_figures(round.store, 1), nothing);
+        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("0 0 0 0 0 0"));
+    }
+
+    void the_next_shot_comes_though_one_further_up_is_incomplete()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        add_told_shot(round.store, 1, 1, 1, 60, QStringLiteral("Verges"), 1);
+        add_shot(round.store, 1, 2, QStringLiteral("after = 5"));
+        add_told_shot(round.store, 1, 3, 9, 3, QStringLiteral("Verges"), 2);
+        in_told_round([&](hand& user) {
+            with_round(user, [](f_new_round& window) { window.PUT_MODE = true; });
+            user.click(QStringLiteral("CommandSuiv"));
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.wait_for_window(round_window());
+            user.same(user.cursor(details), QStringLiteral("3,2"), QStringLiteral("cursor"));
+            with_round(user, [](f_new_round& window) { QVERIFY(!window.PUT_MODE); });
+        });
+        QCOMPARE(stored_shots(round.store, 1).split(u'\n').last(), QStringLiteral("4 3>- - -/0 -/0"));
+    }
+
+    void a_distance_typed_anew_ahead_of_a_putt_is_in_yards_and_turns_again()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        add_told_shot(round.store, 1, 1, 9, 90, QStringLiteral("Pieds"), 2);
+        add_told_shot(round.store, 1, 2, 14, 0, QStringLiteral("Pieds"), 3);
+        in_told_round([&](hand& user) {
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("12"));
+            user.key(Qt::Key_Return);
+            user.same(user.cell(details, 0, 3) + user.cell(details, 0, 4), QStringLiteral("12Verges"),
+                      QStringLiteral("as typed"));
+            go_to_quick_page(user);
+        });
+        QCOMPARE(stored_shots(round.store, 1).section(u'\n', 0, 0),
+                 QStringLiteral("1 101>36 Pieds F9/9 Approche/2"));
+    }
+
+    void a_row_that_the_store_refuses_opens_no_further_putt()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        add_told_shot(round.store, 1, 1, 14, 6, QStringLiteral("Pieds"), 3);
+        in_told_round([&](hand& user) {
+            round.store.store.write(
+                QStringLiteral("create trigger refuse before update on Stat_rounds begin select "
+                               "raise(abort, 'no'); end"));
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("5"));
+            user.key(Qt::Key_Return);
+            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
+            user.same(user.cell(details, 0, 3), QStringLiteral("5"), QStringLiteral("distance"));
+            round.store.store.write(QStringLiteral("drop trigger refuse"));
+        });
+        QVERIFY(stored_shots(round.store, 1).startsWith(u"1 0>5 "));
     }
 };
 

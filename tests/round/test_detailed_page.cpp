@@ -1,20 +1,84 @@
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 
+#include "choice_menu.h"
 #include "data_grid.h"
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
 #include "languages.h"
 #include "look.h"
 #include "main_frame.h"
+#include "Main_module.h"
 #include "round_windows.h"
 #include "told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;
+
+namespace {
+
+/// A value of a row as the program holds it, committed or not.
+QString held(hand& user, const QString& column, int shot = 1)
+{
+    QString text;
+    user.look([&] {
+        Recordset& shots = data_environment().rsStat_rounds;
+        text = shots.value_at(shot - 1, shots.Fields(column).ordinal()).toString();
+    });
+    return text;
+}
+
+/// The place of the marked entry in the menu that is up.
+int marked_entry(hand& user)
+{
+    int place = -1;
+    user.look([&place] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (menu)
+            place = static_cast<int>(menu->actions().indexOf(menu->activeAction()));
+    });
+    return place;
+}
+
+/// Chooses from the menu of a cell by the keyboard alone: an entry counted from 0.
+void choose_by_keyboard(hand& user, int row, int column, const QString& menu, int entry)
+{
+    user.click_cell(details, row, column);
+    user.key(Qt::Key_F4);
+    user.wait_for_menu(menu);
+    // The menu opens on what the cell holds, if that is one of its entries.
+    for (int steps = 0; steps < 20 && marked_entry(user) != entry; ++steps)
+        user.menu_key(Qt::Key_Down);
+    user.menu_key(Qt::Key_Return);
+}
+
+/// A keyed round on its detailed page, taken away as it stands.
+void on_the_page(const std::function<void(hand&)>& script)
+{
+    in_keyed_round([&](hand& user) {
+        go_to_detailed_page(user);
+        script(user);
+        with_round(user, [](f_new_round& window) { window.unload(); });
+    });
+}
+
+/// Pastes into the distance of the first shot and gives back what the cell holds then.
+QString pasted_distance(hand& user, const QString& text)
+{
+    user.look([&] { QApplication::clipboard()->setText(text); });
+    user.click_cell(details, 0, 3);
+    user.key(Qt::Key_F2);
+    user.key(Qt::Key_A, Qt::ControlModifier);
+    user.key(Qt::Key_V, Qt::ControlModifier);
+    user.key(Qt::Key_Return);
+    return user.cell(details, 0, 3);
+}
+
+}  // namespace
 
 class test_detailed_page : public QObject {
     Q_OBJECT
@@ -70,6 +134,197 @@ private Q_SLOTS:
                               u"3 30>6 " + feet + u" Pu/14 Putt/3", u"4 6>2 " + feet + u" Pu/14 Putt/3",
                               u"5 2>0 " + feet + u" Pu/14 Putt/3"})
                      .join(u'\n'));
+    }
+
+    void the_words_of_the_menus_fit_into_their_cells_data() { both_languages(); }
+    void the_words_of_the_menus_fit_into_their_cells()
+    {
+        QFETCH(bool, french);
+        const golfer_store round(french);
+        on_the_page([&](hand& user) {
+            with_round(user, [](f_new_round& window) {
+                const data_grid& grid = *window.details;
+                const QList<std::pair<int, const control_array<QAction>*>> menus{{2, &window.ms1},
+                                                                                 {5, &window.mshots},
+                                                                                 {7, &window.mb},
+                                                                                 {10, &window.ma},
+                                                                                 {11, &window.mp}};
+                for (const auto& [column, entries] : menus) {
+                    const QRect cell(0, 0, grid.columnWidth(column), 20);
+                    for (const auto& [index, entry] : entries->members())
+                        QVERIFY2(grid.fontMetrics().horizontalAdvance(choice_menu::caption_of(*entry)) <
+                                     data_grid::button_in(cell).left(),
+                                 qPrintable(choice_menu::caption_of(*entry)));
+                }
+            });
+        });
+    }
+
+    void each_menu_is_chosen_from_by_the_keyboard_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("menu");
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<QString>("kept");
+        QTest::addColumn<QString>("cursor");
+        QTest::newRow("club") << 2 << "mSticks" << 12 << "SW/13"
+                              << "0,3";
+        QTest::newRow("kind") << 5 << "mshot" << 1 << "Approche/2"
+                              << "0,5";
+        QTest::newRow("beyond the hole") << 6 << "mon" << 0 << "Oui/true"
+                                         << "0,7";
+        QTest::newRow("missed") << 7 << "mon" << 0 << "Oui/true"
+                                << "0,8";
+        QTest::newRow("sand") << 8 << "mon" << 0 << "Oui/true"
+                              << "0,9";
+        QTest::newRow("distance zero") << 9 << "mon" << 1 << "Non/false"
+                                       << "0,10";
+        QTest::newRow("position") << 10 << "mAlle" << 1 << "Gauche/2"
+                                  << "0,11";
+        QTest::newRow("penalty") << 11 << "mpen" << 3 << "Hors limites/4"
+                                 << "0,11";
+        QTest::newRow("no penalty") << 11 << "mpen" << 4 << " /0"
+                                    << "0,11";
+    }
+    void each_menu_is_chosen_from_by_the_keyboard()
+    {
+        QFETCH(int, column);
+        QFETCH(QString, menu);
+        QFETCH(int, entry);
+        QFETCH(QString, kept);
+        QFETCH(QString, cursor);
+        const QStringList fields{QString(),
+                                 QString(),
+                                 QStringLiteral("stickval"),
+                                 QString(),
+                                 QString(),
+                                 QStringLiteral("shot_type_value"),
+                                 QStringLiteral("beyong_hole"),
+                                 QStringLiteral("missed"),
+                                 QStringLiteral("ts"),
+                                 QStringLiteral("dz"),
+                                 QStringLiteral("fairval"),
+                                 QStringLiteral("penval")};
+        const golfer_store round;
+        on_the_page([&](hand& user) {
+            choose_by_keyboard(user, 0, column, menu, entry);
+            user.same(QString(user.cell(details, 0, column) + u'/' + held(user, fields[column])), kept, menu);
+            user.same(user.cursor(details), cursor, QStringLiteral("cursor"));
+        });
+    }
+
+    void a_pasted_distance_is_digits_or_nothing_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("kept");
+        for (const char* refused : {"-5", "12a", "2.5", "1e3", " 7"})
+            QTest::newRow(refused) << QString::fromLatin1(refused) << "60";
+        QTest::newRow("digits of another script") << QStringLiteral("\u0661\u0662") << "60";
+        QTest::newRow("beyond 16 bits") << "32768"
+                                        << "60";
+        QTest::newRow("the last that fits") << "32767"
+                                            << "32767";
+        QTest::newRow("digits") << "045"
+                                << "45";
+    }
+    void a_pasted_distance_is_digits_or_nothing()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, kept);
+        const golfer_store round;
+        on_the_page([&](hand& user) {
+            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            const int before = user.bells();
+            user.same(pasted_distance(user, text), kept, QStringLiteral("distance"));
+            user.check((user.bells() > before) == (kept == u"60"), QStringLiteral("the bell"));
+        });
+    }
+
+    void columns_and_clubs_are_set_up_anew_on_each_entering()
+    {
+        const golfer_store round;
+        on_the_page([&](hand& user) {
+            with_round(user, [](f_new_round& window) {
+                window.details->setColumnWidth(3, 40);
+                window.details->setColumnHidden(11, true);
+                window.details->setColumnHidden(12, false);
+                window.details->set_Col(7);
+            });
+            go_to_quick_page(user);
+            round.store.store.write(
+                QStringLiteral("update sticknames set club_1 = 'Bois d''été', club_2 = 'R & \"B\"'"));
+            user.look([] { Unlock_menu(); });
+            go_to_detailed_page(user);
+            user.check(round.store.frame.locked, QStringLiteral("the menu is locked"));
+            with_round(user, [](f_new_round& window) {
+                QCOMPARE(window.details->columnWidth(3), pixels(2000));
+                QVERIFY(!window.details->isColumnHidden(11));
+                QVERIFY(window.details->isColumnHidden(12));
+            });
+            user.same(user.cursor(details), QStringLiteral("0,2"), QStringLiteral("cursor"));
+            tell_shot(user, 0, 1, QString(), 0);
+            user.same(user.cell(details, 0, 2), QStringLiteral("Bois d'été"), QStringLiteral("club 1"));
+            tell_shot(user, 0, 2, QString(), 0);
+            with_round(user, [](f_new_round& window) { window.saveShots(); });
+            user.same(round.store.text(QStringLiteral("select stick from Stat_rounds")),
+                      QStringLiteral("R & \"B\""), QStringLiteral("club 2"));
+        });
+    }
+
+    void names_that_the_golf_bag_did_not_keep_are_in_the_menu_all_the_same()
+    {
+        const golfer_store round;
+        Main_module::club_names[0] = QStringLiteral("Big & B");
+        Main_module::club_names_kept = false;
+        on_the_page([&](hand& user) {
+            tell_shot(user, 0, 1, QString(), 0);
+            user.same(user.cell(details, 0, 2), QStringLiteral("Big & B"), QStringLiteral("club 1"));
+        });
+    }
+
+    void the_putter_has_its_own_name_where_the_program_takes_it()
+    {
+        const golfer_store round;
+        round.store.store.write(QStringLiteral("update sticknames set club_14 = 'Fer droit'"));
+        on_the_page([&](hand& user) {
+            tell_shot(user, 0, 5, QStringLiteral("20"), 3);
+            user.same(user.cell(details, 1, 2), QStringLiteral("Pu"), QStringLiteral("by the kind"));
+            tell_shot(user, 1, 14, QStringLiteral("6"), 0);
+            user.same(user.cell(details, 1, 2), QStringLiteral("Fer droit"), QStringLiteral("by the menu"));
+            user.same(user.cell(details, 2, 2), QStringLiteral("Pu"), QStringLiteral("by the distance"));
+        });
+    }
+
+    void any_typed_cell_takes_the_par_and_moves_the_cursor()
+    {
+        const golfer_store round;
+        on_the_page([&](hand& user) {
+            tell_shot(user, 0, 1, QString(), 1);
+            user.click_cell(details, 0, 1);
+            user.type(QStringLiteral("9"));
+            user.click(QStringLiteral("cmb_courses"));
+            user.key(Qt::Key_Escape);
+            user.same(user.cursor(details), QStringLiteral("0,4"), QStringLiteral("cursor"));
+            user.same(held(user, QStringLiteral("normal")), QStringLiteral("4"), QStringLiteral("par"));
+            user.same(held(user, QStringLiteral("shot")), QStringLiteral("9"), QStringLiteral("number"));
+            go_to_quick_page(user);
+            user.same(held(user, QStringLiteral("shot")), QStringLiteral("1"), QStringLiteral("renumbered"));
+        });
+    }
+
+    void the_hole_on_the_page_is_read_by_its_own_statement()
+    {
+        const golfer_store round;
+        on_the_page([&](hand& user) {
+            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            user.click_tab(hole_tabs, 12);
+            QString statement;
+            user.look([&] { statement = data_environment().rsStat_rounds.Source(); });
+            user.same(statement,
+                      QStringLiteral("Select * from Stat_rounds where ( date= '20240614093000' ) and hole = "
+                                     "12 order by shot"),
+                      QStringLiteral("statement"));
+        });
     }
 };
 

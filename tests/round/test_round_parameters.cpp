@@ -183,6 +183,42 @@ private Q_SLOTS:
         });
     }
 
+    void partners_that_their_window_had_to_leave_open_are_read_anew()
+    {
+        const round_store store;
+        store.add_two_courses();
+        data_environment().rspartners.Open();
+        store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), 5);
+        in_keyed_round([](hand& user) {
+            user.same(user.entries(partners).join(u'|'), QStringLiteral("Luc,Gagnon"),
+                      QStringLiteral("partners"));
+            discard(user);
+        });
+        QVERIFY(!data_environment().rspartners.is_open());
+    }
+
+    void no_partner_is_cut_on_the_detailed_page()
+    {
+        const round_store store;
+        store.add_two_courses();
+        for (int code = 1; code <= 9; ++code)
+            store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), code);
+        in_keyed_round([](hand& user) {
+            user.click_tab(QStringLiteral("TabStrip2"), 2);
+            user.picture(round_window());
+            with_round(user, [](f_new_round& window) {
+                const QListWidget& list = *window.pList;
+                const int height = list.viewport()->height();
+                const QListWidgetItem* lowest = list.itemAt(5, height - 1 - list.spacing());
+                QVERIFY(lowest);
+                QVERIFY(list.visualItemRect(lowest).bottom() < height);
+                QCOMPARE(list.row(lowest), 3);
+            });
+            user.click_tab(QStringLiteral("TabStrip2"), 1);
+            discard(user);
+        });
+    }
+
     void the_partners_of_a_round_are_stored_by_number_and_come_back()
     {
         const round_store store;

@@ -44,9 +44,14 @@ private Q_SLOTS:
         QTest::newRow("no shot") << ""
                                  << "0 0 0 | 0 0 0 0 | 0 0 0 0"
                                  << "0 0 0 0 0 0" << false;
-        QTest::newRow("a blank shot adds its position and nothing else") << "-0 - -"
-                                                                         << "0 0 0 | 1 0 0 0 | 0 0 0 0"
-                                                                         << "0 0 0 0 0 0" << false;
+        QTest::newRow("a blank shot adds nothing, though it starts in the fairway")
+            << "-0 - -"
+            << "0 0 0 | 0 0 0 0 | 0 0 0 0"
+            << "0 0 0 0 0 0" << false;
+        QTest::newRow("a shot without a kind counts in no box")
+            << "L1 120 Verges\n-9 40 Verges missed sand zero pen=1"
+            << "1 0 0 | 1 0 0 0 | 0 0 0 0"
+            << "0 0 0 0 0 0" << true;
         QTest::newRow("drive, approach, two putts") << "L1 120 Verges\nA9 30 Pieds\nP14 4 Pieds\nP14 0 Pieds"
                                                     << "1 1 2 | 2 0 0 0 | 0 0 0 0"
                                                     << "30 4 0 0 0 0" << true;

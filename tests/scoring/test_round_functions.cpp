@@ -4,12 +4,12 @@
 #include "hole_classes.h"
 #include "round_columns.h"
 #include "Round_functions.h"
-#include "stored_round.h"
+#include "round_in_store.h"
 
 using namespace verdane;
 using namespace verdane::Round_functions;
 using testing::failure_of;
-using testing::stored_round;
+using testing::round_in_store;
 
 namespace {
 
@@ -34,7 +34,7 @@ class test_round_functions : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { round_ = std::make_unique<stored_round>(); }
+    void init() { round_ = std::make_unique<round_in_store>(); }
 
     void cleanup()
     {
@@ -201,7 +201,7 @@ private:
         QCOMPARE(plain(hole_gross(2, from_row)), plain(verdane::hole_gross(f)));
     }
 
-    std::unique_ptr<stored_round> round_;
+    std::unique_ptr<round_in_store> round_;
 };
 
 QTEST_GUILESS_MAIN(test_round_functions)

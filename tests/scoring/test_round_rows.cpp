@@ -2,13 +2,13 @@
 
 #include "failures.h"
 #include "round_columns.h"
+#include "round_in_store.h"
 #include "round_rows.h"
-#include "stored_round.h"
 
 using namespace verdane;
 using namespace verdane::Round_functions;
 using testing::failure_of;
-using testing::stored_round;
+using testing::round_in_store;
 
 namespace at = round_columns;
 
@@ -207,13 +207,13 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { cost_total(); }) == failure_kind::invalid_null);
     }
 
-    void init() { round_ = std::make_unique<stored_round>(); }
+    void init() { round_ = std::make_unique<round_in_store>(); }
     void cleanup() { round_.reset(); }
 
 private:
     const QString games_ = QStringLiteral("games");
     const QString games2_ = QStringLiteral("games2");
-    std::unique_ptr<stored_round> round_;
+    std::unique_ptr<round_in_store> round_;
 };
 
 QTEST_GUILESS_MAIN(test_round_rows)

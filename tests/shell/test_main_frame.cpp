@@ -2,19 +2,22 @@
 #include <QContextMenuEvent>
 #include <QMenuBar>
 #include <QTest>
-#include <QToolButton>
 
 #include "Form.h"
 #include "main_frame.h"
+#include "main_windows.h"
 #include "MainForm.h"
 #include "program_run.h"
 #include "start_up.h"
 
 using namespace verdane;
+using verdane::testing::entry;
 using verdane::testing::hand;
+using verdane::testing::in_main_window;
 using verdane::testing::one_course;
 using verdane::testing::one_round;
 using verdane::testing::program_run;
+using verdane::testing::tool;
 
 /// What the main window does besides opening windows: Save and Close, the change of language, its end.
 namespace {
@@ -28,27 +31,6 @@ struct counting_form : Form {
     int closes = 0;
 };
 
-QAction* entry(const QString& name)
-{
-    return MainForm::of_run()->findChild<QAction*>(name);
-}
-
-QWidget* tool(const QString& key)
-{
-    return MainForm::of_run()->findChild<QToolButton*>(key);
-}
-
-/// Runs the program in French up to the main window, lets the script work, and leaves.
-void in_main_window(const std::function<void(hand&)>& script)
-{
-    program_run run(1);
-    run.play_through([&](hand& user) {
-        user.wait_for_window(QStringLiteral("MainForm"));
-        script(user);
-        user.menu(QStringLiteral("mQuit"));
-    });
-}
-
 }  // namespace
 
 class test_main_frame : public QObject {
@@ -59,7 +41,7 @@ private Q_SLOTS:
 
     void a_change_of_language_changes_captions_tick_and_picture()
     {
-        in_main_window([](hand& user) {
+        in_main_window(1, {}, [](hand& user) {
             for (const bool english : {true, false}) {
                 user.menu(english ? QStringLiteral("mEn") : QStringLiteral("mfr"));
                 user.look([&] {
@@ -87,7 +69,7 @@ private Q_SLOTS:
     void save_and_close_act_on_the_window_that_was_current_last()
     {
         QFETCH(bool, by_menu);
-        in_main_window([&](hand& user) {
+        in_main_window(1, {}, [&](hand& user) {
             user.look([&] {
                 counting_form window;
                 current_form = &window;
@@ -112,7 +94,7 @@ private Q_SLOTS:
 
     void the_toolbar_cannot_be_put_away()
     {
-        in_main_window([](hand& user) {
+        in_main_window(1, {}, [](hand& user) {
             user.look([] {
                 auto* frame = MainForm::of_run();
                 for (QWidget* place : {static_cast<QWidget*>(frame->menuBar()),

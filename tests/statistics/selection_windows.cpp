@@ -105,6 +105,15 @@ void answer_no_detail(hand& user)
                  u"calculate summary statistics.");
 }
 
+void answer_no_shots(hand& user)
+{
+    answer_plain(user,
+                 u"Verdane n'a trouvé aucune ronde avec les conditions choisies. Verdane affichera seulement "
+                 u"les statistiques sommaires.",
+                 u"Verdane could not find any rounds with the chosen parameters. Verdane will display "
+                 u"summary statistics only.");
+}
+
 void answer_no_round(hand& user)
 {
     answer_plain(user,

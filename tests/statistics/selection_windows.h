@@ -39,6 +39,8 @@ void run(hand& user, statistics_mode mode = statistics_mode::round);
 void answer_plain(hand& user, QStringView french, QStringView english);
 /// The box that says that no round of the selection was entered shot by shot.
 void answer_no_detail(hand& user);
+/// The box that says that no shot of the selection was found for the clubs.
+void answer_no_shots(hand& user);
 /// The box that says that no round passed.
 void answer_no_round(hand& user);
 /// Waits until the report is open, compares how it was launched and closes it.

@@ -1,5 +1,6 @@
+#include <QApplication>
+#include <QProgressBar>
 #include <QTest>
-#include <QWidget>
 
 #include "boxes.h"
 #include "cost_statistics.h"
@@ -102,7 +103,23 @@ private Q_SLOTS:
         chosen.weather_clause = u" AND (games2.conditionM = 0)"_s;
         chosen.course_clause = u" AND GAMES2.FC = 'PINS-0'"_s;
         QVERIFY(fill(chosen));
-        QCOMPARE(costs.report().size(), 2);
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(2, u"2"_s), row_of_day(4, QString())}));
+        costs.book.store.write(u"update games2 set PARTNERS = '3-112-' where date = '"_s + key_of_day(4) +
+                               u'\'');
+        // A number is found inside a longer one too.
+        chosen.partner_clause = u" AND INSTR(GAMES2.PARTNERS,'12')"_s;
+        QVERIFY(fill(chosen));
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(4, u"1"_s)}));
+        chosen.course_clause = u" AND GAMES2.FC = 'PINS-1'"_s;
+        play([&] { QVERIFY(!fill(chosen)); }, answer_no_costs);
+    }
+
+    void an_amount_that_was_never_entered_stays_so()
+    {
+        const stored_costs costs(1);
+        costs.book.store.write(u"update cost set vt = null"_s);
+        QVERIFY(fill(days(1, 1)));
+        QCOMPARE(costs.book.store.number(u"select count(*) from r_cost where vt is null and ft = 4"_s), 1);
     }
 
     void large_amounts_are_copied_whole()
@@ -132,6 +149,49 @@ private Q_SLOTS:
         QVERIFY(costs.report().isEmpty());
         QVERIFY(open_recordsets().isEmpty());
         QCOMPARE(data_environment().rscost.Source(), Statistics::cost_select(days(from, 1)));
+    }
+
+    void the_message_comes_before_the_bar_goes_and_the_report_is_not_set_up_data() { both_languages(); }
+    void the_message_comes_before_the_bar_goes_and_the_report_is_not_set_up()
+    {
+        QFETCH(bool, french);
+        const stored_costs costs(2, french);
+        costs.book.store.write(u"insert into r_cost (date) values ('of the last run')"_s);
+        in_selection_window(
+            [&](hand& user) {
+                select_range(user, 1, 0);
+                run(user, statistics_mode::cost);
+                user.wait_until(u"the message"_s,
+                                [] { return QApplication::activeModalWidget() != form_at_work(); });
+                user.look([&] {
+                    const auto& window = dynamic_cast<f_date_range&>(*form_at_work());
+                    QVERIFY(window.Status->isVisible());
+                    QCOMPARE(window.Status->value(), 0);
+                    QVERIFY(window.cr2.ReportFileName().isEmpty());
+                    QVERIFY(costs.report().isEmpty());
+                });
+                answer_no_costs(user);
+                user.wait_until(u"the bar is gone"_s, [] { return !find_control(u"Status"_s)->isVisible(); });
+            },
+            statistics_mode::cost);
+    }
+
+    void each_run_starts_the_bar_and_the_table_anew()
+    {
+        const stored_costs costs(3);
+        const auto steps = bar_in_selection_window(
+            [](hand& user) {
+                select_range(user, 0, 1);
+                run(user, statistics_mode::cost);
+                close_report(user, statistics_mode::cost);
+                select_range(user, 2, 2);
+                run(user, statistics_mode::cost);
+                close_report(user, statistics_mode::cost);
+            },
+            statistics_mode::cost);
+        QCOMPARE(steps,
+                 (QList<bar_step>{{3, true}, {6, true}, {100, true}, {0, true}, {3, true}, {100, true}}));
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(3, u"1"_s)}));
     }
 
     void closing_the_window_puts_the_whole_table_back()

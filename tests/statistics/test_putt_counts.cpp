@@ -202,6 +202,35 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { graded_putts(counts); }) == failure_kind::overflow);
     }
 
+    void holes_beyond_16_bits_are_a_failure_data()
+    {
+        QTest::addColumn<int>("putts");
+        QTest::addColumn<int>("band");
+        QTest::newRow("of one band") << 2 << 1;
+        QTest::newRow("with one number of putts") << 1 << 2;
+    }
+    void holes_beyond_16_bits_are_a_failure()
+    {
+        QFETCH(int, putts);
+        QFETCH(int, band);
+        putt_counts counts;
+        counts.putts_by_first[1][1].add(32000);
+        counts.putts_by_first[putts][band].add(767);
+        totals_of(counts);
+        counts.putts_by_first[putts][band].add(1);
+        QVERIFY(failure_of([&] { totals_of(counts); }) == failure_kind::overflow);
+    }
+
+    void holes_of_all_bands_beyond_16_bits_are_a_failure()
+    {
+        putt_counts counts;
+        counts.putts_by_first[1][1].add(32000);
+        counts.putts_by_first[2][2].add(767);
+        means_of(counts, totals_of(counts));
+        counts.putts_by_first[3][3].add(1);
+        QVERIFY(failure_of([&] { means_of(counts, totals_of(counts)); }) == failure_kind::overflow);
+    }
+
     void counts_beyond_16_bits_are_a_failure()
     {
         putt_counts counts;

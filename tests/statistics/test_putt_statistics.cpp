@@ -1,16 +1,12 @@
 #include <QTest>
 
-#include "boxes.h"
 #include "DataEnvironment1.h"
-#include "diary.h"
 #include "failures.h"
+#include "putt_bands.h"
+#include "putt_rounds.h"
 #include "putt_statistics.h"
-#include "report_preview.h"
 #include "report_rows.h"
-#include "report_store.h"
-#include "round_putt_report.h"
-#include "selection_windows.h"
-#include "store_folder.h"
+#include "window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -18,56 +14,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A store with rounds on the first days of a year, without putt lengths.
-class stored_rounds {
-public:
-    explicit stored_rounds(int days, bool french = true) : folder(french), book(folder.path())
-    {
-        set_report_store(folder.path());
-        const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
-        book.add(course);
-        for (int day = 1; day <= days; ++day)
-            book.add(diary_round{key_of_day(day), course, holes_over(course.pars, 0), day % 2, {}});
-    }
-
-    void putts(int day, int hole, const QList<int>& lengths) const
-    {
-        put_putts(book.store, key_of_day(day), hole, lengths);
-    }
-
-    QStringList by_first(int row) const { return table_rows(book.store, u"s_put1"_s).at(row - 1); }
-    QStringList by_start(int row) const { return table_rows(book.store, u"s_put2"_s).at(row - 1); }
-
-    store_folder folder;
-    diary book;
-};
-
-selection_arguments days(int from, int to)
-{
-    return open_putt_selection(key_of_day(from), key_of_day(to));
-}
-
-bool fill(const selection_arguments& chosen)
-{
-    run_progress no_bar;
-    return Statistics::fill_putt_tables(chosen, no_bar);
-}
-
-void answer_no_putts(hand& user)
-{
-    answer_plain(user, u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
-                 u"Verdane could not find any detailed rounds with the chosen parameters.");
-}
-
 /// Fills the tables of a selection that has nothing to print.
 void fill_in_vain(const selection_arguments& chosen)
 {
-    play([&] { QVERIFY(!fill(chosen)); }, answer_no_putts);
-}
-
-QStringList bands(const QStringList& row)
-{
-    return row.mid(1, 7);
+    play([&] { QVERIFY(!fill_grids(chosen)); }, answer_no_putts);
 }
 
 QStringList only(int band, const QString& count)
@@ -78,6 +28,17 @@ QStringList only(int band, const QString& count)
 }
 
 const QStringList no_bands(7, u"0"_s);
+
+/// The same lengths on every hole of every round.
+void putts_everywhere(const reader& store, const QList<int>& lengths)
+{
+    QStringList assignments;
+    for (int h = 1; h <= 18; ++h) {
+        for (int i = 0; i < lengths.size(); ++i)
+            assignments << u"putt_len_%1_%2 = %3"_s.arg(h).arg(i + 1).arg(lengths[i]);
+    }
+    store.write(u"update games2 set "_s + assignments.join(u','));
+}
 
 }  // namespace
 
@@ -91,7 +52,7 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const stored_rounds rounds(1, french);
         rounds.putts(1, 5, {20, 3});
-        QVERIFY(fill(days(1, 1)));
+        QVERIFY(fill_grids(days(1, 1)));
         for (int k = 1; k <= 5; ++k)
             QCOMPARE(bands(rounds.by_first(k)), k == 2 ? only(4, u"1"_s) : no_bands);
         for (int k = 1; k <= 4; ++k)
@@ -114,7 +75,7 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const stored_rounds rounds(3, french);
         rounds.putts(2, 1, {9});
-        QVERIFY(fill(days(1, 3)));
+        QVERIFY(fill_grids(days(1, 3)));
         QCOMPARE(rounds.by_first(1).mid(11, 2),
                  (QStringList{u"2003-01-01 09:30:00"_s, u"2003-01-03 09:30:00"_s}));
         // Rounds walked, also those without lengths.
@@ -136,7 +97,7 @@ private Q_SLOTS:
         rounds.putts(1, 1, {50, 5, 1});
         rounds.putts(2, 1, {50, 1});
         rounds.putts(3, 1, {50, 3});
-        QVERIFY(fill(days(1, 3)));
+        QVERIFY(fill_grids(days(1, 3)));
         QCOMPARE(rounds.by_first(2)[1], u"2"_s);
         QCOMPARE(rounds.by_first(3)[1], u"1"_s);
         QCOMPARE(rounds.by_first(5)[13], u" 2.33"_s);
@@ -153,38 +114,63 @@ private Q_SLOTS:
         rounds.putts(1, 1, {60, 49, 24, 11});
         rounds.putts(1, 2, {60, 12, 3});
         rounds.putts(1, 3, {60, 1, 1});
-        QVERIFY(fill(days(1, 1)));
+        QVERIFY(fill_grids(days(1, 1)));
         QCOMPARE(rounds.by_start(7).mid(11, 2), (QStringList{u" 3.7"_s, QString()}));
     }
 
-    void the_walk_ends_with_the_round_of_the_last_key()
+    void the_walk_goes_from_the_first_key_to_the_last_data()
     {
-        const stored_rounds rounds(4);
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<int>("rounds");
+        QTest::newRow("all rounds") << 1 << 4 << 4;
+        QTest::newRow("in the middle") << 2 << 3 << 2;
+        QTest::newRow("the same round twice") << 2 << 2 << 1;
+    }
+    void the_walk_goes_from_the_first_key_to_the_last()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(int, rounds);
+        const stored_rounds stored(4);
         for (int day = 1; day <= 4; ++day)
-            rounds.putts(day, 1, {10});
-        QVERIFY(fill(days(2, 3)));
-        QCOMPARE(rounds.by_first(1)[26], u"2"_s);
-        QCOMPARE(rounds.by_first(1)[5], u"2"_s);
+            stored.putts(day, 1, {10});
+        QVERIFY(fill_grids(days(from, to)));
+        QCOMPARE(stored.rounds_counted(), rounds);
+        QCOMPARE(stored.by_first(1)[5].toInt(), rounds);
     }
 
+    void where_the_filters_keep_the_last_round_out_later_ones_are_taken_in_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<int>("rounds");
+        // Of seven days the odd ones pass.
+        QTest::newRow("the last round passes") << 1 << 5 << 3;
+        QTest::newRow("the last round does not pass") << 1 << 4 << 4;
+        QTest::newRow("only the last round passes") << 2 << 3 << 1;
+        QTest::newRow("neither the first nor the last one passes") << 2 << 4 << 3;
+        QTest::newRow("no round of the range passes") << 4 << 4 << 2;
+    }
     void where_the_filters_keep_the_last_round_out_later_ones_are_taken_in()
     {
-        const stored_rounds rounds(7);
+        QFETCH(int, from);
+        QFETCH(int, to);
+        const stored_rounds stored(7);
         for (int day = 1; day <= 7; ++day)
-            rounds.putts(day, 1, {10});
-        selection_arguments chosen = days(1, 4);
-        // Odd days only: the round of day 4 does not pass, those of days 5 and 7 do.
+            stored.putts(day, 1, {10});
+        selection_arguments chosen = days(from, to);
         chosen.weather_clause = u" (games2.conditionM = 1)"_s;
-        QVERIFY(fill(chosen));
-        QCOMPARE(rounds.by_first(1)[26], u"4"_s);
+        QVERIFY(fill_grids(chosen));
+        QTEST(stored.rounds_counted(), "rounds");
     }
 
     void a_first_key_without_a_round_starts_at_the_next_one()
     {
         const stored_rounds rounds(3);
         rounds.putts(3, 1, {10});
-        QVERIFY(fill(open_putt_selection(u"20030101999999"_s, key_of_day(3))));
-        QCOMPARE(rounds.by_first(1)[26], u"2"_s);
+        QVERIFY(fill_grids(open_putt_selection(u"20030101999999"_s, key_of_day(3))));
+        QCOMPARE(rounds.rounds_counted(), 2);
     }
 
     void a_selection_without_a_round_leaves_the_grids_as_they_are_data()
@@ -204,10 +190,10 @@ private Q_SLOTS:
         QFETCH(int, to);
         const stored_rounds rounds(3, french);
         rounds.putts(3, 1, {10});
-        QVERIFY(fill(days(1, 3)));
-        const auto before = table_rows(rounds.book.store, u"s_put1"_s);
+        QVERIFY(fill_grids(days(1, 3)));
+        const auto before = rounds.grids();
         fill_in_vain(days(from, to));
-        QCOMPARE(table_rows(rounds.book.store, u"s_put1"_s), before);
+        QCOMPARE(rounds.grids(), before);
         QVERIFY(open_recordsets().isEmpty());
         QCOMPARE(data_environment().rsgames2.Source(), u"select * from games2"_s);
     }
@@ -216,13 +202,13 @@ private Q_SLOTS:
     {
         const stored_rounds rounds(2);
         rounds.putts(1, 1, {10});
-        QVERIFY(fill(days(1, 1)));
+        QVERIFY(fill_grids(days(1, 1)));
         fill_in_vain(days(2, 2));
         for (int k = 1; k <= 5; ++k)
             QCOMPARE(bands(rounds.by_first(k)), no_bands);
         QCOMPARE(rounds.by_first(5).mid(13, 8), QStringList(8, u" 0"_s));
         QCOMPARE(rounds.by_start(7).mid(11, 2), (QStringList{u" "_s, u"N/A"_s}));
-        QCOMPARE(rounds.by_first(1)[26], u"1"_s);
+        QCOMPARE(rounds.rounds_counted(), 1);
     }
 
     void a_sixth_putt_ends_in_a_failure_data()
@@ -237,110 +223,90 @@ private Q_SLOTS:
         const stored_rounds rounds(1);
         rounds.putts(1, hole, {60, 50, 40, 30, 20, 10});
         rounds.book.store.write(u"update games2 set temperature = 21"_s);
-        const auto before = table_rows(rounds.book.store, u"s_put1"_s);
-        QVERIFY(failure_of([] { fill(days(1, 1)); }) == failure_kind::subscript);
-        QCOMPARE(table_rows(rounds.book.store, u"s_put1"_s), before);
-        data_environment().rsgames2.Close();
+        const auto before = rounds.grids();
+        QVERIFY(failure_of([] { fill_grids(days(1, 1)); }) == failure_kind::subscript);
+        QCOMPARE(rounds.grids(), before);
     }
 
-    void the_bar_moves_through_its_values_and_the_report_opens_data() { both_languages(); }
-    void the_bar_moves_through_its_values_and_the_report_opens()
-    {
-        QFETCH(bool, french);
-        const stored_rounds rounds(2, french);
-        rounds.putts(1, 1, {20, 3});
-        const auto steps = bar_in_selection_window(
-            [](hand& user) {
-                select_range(user, 0, 1);
-                run(user, statistics_mode::putt);
-                close_report(user, statistics_mode::putt);
-                user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
-            },
-            statistics_mode::putt);
-        QList<int> values;
-        for (const bar_step& step : steps) {
-            QVERIFY(step.seen);
-            values << step.value;
-        }
-        QCOMPARE(values, (QList<int>{5, 10, 20, 10, 20, 30, 40, 60, 70, 80, 90, 100}));
-        QCOMPARE(rounds.by_first(1)[25], french ? u"TOUS LES TERRAINS"_s : u"ALL COURSES"_s);
-    }
-
-    void a_message_leaves_no_bar_and_no_report_data() { both_languages(); }
-    void a_message_leaves_no_bar_and_no_report()
-    {
-        QFETCH(bool, french);
-        const stored_rounds rounds(3, french);
-        in_selection_window(
-            [](hand& user) {
-                select_range(user, 2, 0);
-                run(user, statistics_mode::putt);
-                answer_no_putts(user);
-                user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
-                user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
-            },
-            statistics_mode::putt);
-    }
-
-    void a_single_round_has_its_rating_on_the_first_row_data() { both_languages(); }
-    void a_single_round_has_its_rating_on_the_first_row()
-    {
-        QFETCH(bool, french);
-        const stored_rounds rounds(2, french);
-        rounds.putts(1, 1, {20, 3});
-        rounds.putts(2, 1, {4});
-        QVERIFY(fill(days(1, 1)));
-        Recordset& games2 = data_environment().rsgames2;
-        games2.Open();
-        games2.MoveLast();
-        QVERIFY(Statistics::round_putts(u"Ronde : 2003-01-02 PINS"_s, u"Vent"_s));
-        games2.Close();
-        QCOMPARE(rounds.by_start(1)[12], u"EXCELLENT"_s);
-        QCOMPARE(rounds.by_start(7).mid(11, 2), (QStringList{u" 1"_s, u" "_s}));
-        QCOMPARE(rounds.by_first(1).mid(11, 2), (QStringList{u"Ronde : 2003-01-02 PINS"_s, u"Vent"_s}));
-        QCOMPARE(bands(rounds.by_first(1)), only(7, u"1"_s));
-        QCOMPARE(bands(rounds.by_first(2)), no_bands);
-        QVERIFY(open_recordsets().isEmpty());
-    }
-
-    void a_single_round_without_putts_says_so()
+    void a_length_without_a_value_ends_in_a_failure()
     {
         const stored_rounds rounds(1);
-        Recordset& games2 = data_environment().rsgames2;
-        games2.Open();
-        QVERIFY(!Statistics::round_putts(u"a"_s, u"b"_s));
-        games2.Close();
-        QCOMPARE(rounds.by_start(1)[12], u"N/A"_s);
+        rounds.putts(1, 1, {10});
+        rounds.book.store.write(u"update games2 set putt_len_18_1 = null"_s);
+        QVERIFY(failure_of([] { fill_grids(days(1, 1)); }) == failure_kind::invalid_null);
     }
 
-    void the_report_of_a_single_round_opens_under_its_captions_data() { both_languages(); }
-    void the_report_of_a_single_round_opens_under_its_captions()
+    void grades_beyond_16_bits_end_in_a_failure()
+    {
+        // 10 + 2 + 10 + 2 + 1 on each of 18 holes: 450 a round, 32,400 in 72 of them.
+        const stored_rounds rounds(73);
+        putts_everywhere(rounds.book.store, {4, 30, 4, 30, 4});
+        QVERIFY(fill_grids(days(1, 72)));
+        QCOMPARE(rounds.by_start(7)[11], u" 5"_s);
+        QVERIFY(failure_of([] { fill_grids(days(1, 73)); }) == failure_kind::overflow);
+    }
+
+    void a_grid_that_lacks_a_row_ends_in_a_failure_data()
+    {
+        QTest::addColumn<QString>("grid");
+        QTest::newRow("putts by first length") << u"s_put1"_s;
+        QTest::newRow("where putts stop") << u"s_put2"_s;
+    }
+    void a_grid_that_lacks_a_row_ends_in_a_failure()
+    {
+        QFETCH(QString, grid);
+        const stored_rounds rounds(1);
+        rounds.putts(1, 1, {10});
+        rounds.book.store.write(u"delete from "_s + grid + u" where rowid = (select max(rowid) from " + grid +
+                                u')');
+        QVERIFY(failure_of([] { fill_grids(days(1, 1)); }) == failure_kind::misuse);
+    }
+
+    void nothing_of_an_earlier_run_stays_in_the_figures()
+    {
+        const stored_rounds rounds(1);
+        rounds.putts(1, 1, {20, 3});
+        QVERIFY(fill_grids(days(1, 1)));
+        const auto expected = rounds.grids();
+        QStringList counts;
+        QStringList means{u"mean_all = 'old'"_s};
+        for (int j = 1; j <= band_count; ++j) {
+            counts << u"band_%1 = 99"_s.arg(j);
+            means << u"mean_band_%1 = 'old'"_s.arg(j);
+        }
+        rounds.book.store.write(u"update s_put1 set "_s + (counts + means).join(u','));
+        rounds.book.store.write(u"update s_put2 set weighted_mean = 'old', rating_text = 'old', "_s +
+                                counts.join(u','));
+        QVERIFY(fill_grids(days(1, 1)));
+        QCOMPARE(rounds.grids(), expected);
+    }
+
+    void columns_that_hold_a_place_keep_what_they_hold()
+    {
+        const stored_rounds rounds(1);
+        rounds.putts(1, 1, {20, 3});
+        const QStringList held{u"a line"_s, u"one"_s, u"two"_s, u"three"_s};
+        for (const QString& grid : {u"s_put1"_s, u"s_put2"_s})
+            rounds.book.store.write(u"update "_s + grid +
+                                    u" set put_line = 'a line', put_spare_1 = 'one', put_spare_2 = 'two', "
+                                    u"put_spare_3 = 'three'");
+        QVERIFY(fill_grids(days(1, 1)));
+        const auto rows = rounds.grids();
+        QCOMPARE(rows.size(), 5 + 7);
+        for (const QStringList& row : rows)
+            QCOMPARE(row.mid(0, 1) + row.mid(8, 3), held);
+    }
+
+    void the_words_for_the_worst_putts_are_those_of_the_language_data() { both_languages(); }
+    void the_words_for_the_worst_putts_are_those_of_the_language()
     {
         QFETCH(bool, french);
-        const stored_rounds rounds(2, french);
-        rounds.putts(1, 1, {20, 3});
-        QVERIFY(fill(days(1, 2)));
-        set_round_putt_report(Statistics::one_round_putt_report);
-        Recordset& games2 = data_environment().rsgames2;
-        games2.Open();
-        report_control cr2;
-        launch_round_putt_report(cr2, u"Ronde : 1"_s, u"Vent"_s);
-        games2.Close();
-        QVERIFY(cr2.preview());
-        QVERIFY(cr2.ReportFileName().endsWith(french ? u"\\statPuts.rpt"_s : u"\\statPuts_en.rpt"_s));
-        QCOMPARE(cr2.page_zoom().value_or(0), 75);
-        delete cr2.preview();
-        // Nothing of the last selection stands above the round.
-        QCOMPARE(rounds.by_first(1).mid(23), (QStringList{u" "_s, u" "_s, u" "_s, u"1"_s}));
-        QCOMPARE(rounds.by_first(1)[11], u"Ronde : 1"_s);
-        set_round_putt_report({});
-    }
-
-    void a_program_without_that_report_fails()
-    {
-        set_round_putt_report({});
-        report_control cr2;
-        QVERIFY(failure_of([&] { launch_round_putt_report(cr2, {}, {}); }) == failure_kind::misuse);
+        const stored_rounds rounds(1, french);
+        rounds.putts(1, 1, {60, 50});
+        QVERIFY(fill_grids(days(1, 1)));
+        QCOMPARE(rounds.by_start(7).mid(11, 2),
+                 (QStringList{u" 4.5"_s, french ? u"ONT RÉELLEMENT BESOIN D'ÊTRE PRATIQUÉS"_s
+                                                : u"You really need to practice"_s}));
     }
 };
 

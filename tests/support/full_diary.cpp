@@ -288,4 +288,12 @@ void lay_down_diary(const QString& store_path, int rounds, bool detailed)
     });
 }
 
+void forget_sixth_putts(const QString& store_path)
+{
+    QStringList forgotten;
+    for (int h = 1; h <= holes; ++h)
+        forgotten << QStringLiteral("putt_len_%1_%2 = 0").arg(h).arg(putts_kept);
+    reader(store_path).write(u"update games2 set " + forgotten.join(u", "));
+}
+
 }  // namespace verdane::testing

@@ -13,6 +13,10 @@ constexpr int rounds_of_full_diary = 366;
 /// are what those shots add up to; otherwise the same figures stand alone. The same on every machine.
 void lay_down_diary(const QString& store_path, int rounds, bool detailed);
 
+/// Takes the length of the sixth putt from every hole of a diary: the putt statistics fail on a hole that
+/// has one.
+void forget_sixth_putts(const QString& store_path);
+
 /// Key of a round of such a diary, counted from 0.
 QString key_in_diary(int round);
 

@@ -14,6 +14,7 @@ store_folder::store_folder(bool french)
     apply_toolkit_language();
     Main_module::round_keys.clear();
     Main_module::round_key_count = 0;
+    Main_module::club_names_kept = true;
     data_environment().connection.Open(path());
 }
 

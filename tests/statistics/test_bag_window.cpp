@@ -1,20 +1,17 @@
+#include <QAccessible>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QTest>
 
 #include <functional>
 #include <vector>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "diary.h"
 #include "f_sticks.h"
-#include "f_sticks_func.h"
-#include "hand_widgets.h"
+#include "golf_bags.h"
 #include "main_frame.h"
 #include "Main_module.h"
 #include "recording_frame.h"
-#include "report_rows.h"
-#include "store_folder.h"
 #include "window_look.h"
 
 using namespace verdane;
@@ -22,90 +19,6 @@ using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString bag_window()
-{
-    return in_language(u"f_sticks", u"f_sticks_en");
-}
-
-/// A bag with names and averages, and three rounds of which the first two have shots.
-class filled_bag {
-public:
-    explicit filled_bag(bool french = true) : folder(french), book(folder.path())
-    {
-        book.store.write({u"update sticks set avg_1 = 200.5, avg_14 = 3"_s,
-                          u"update sticknames set club_1 = 'D1', club_14 = 'PU'"_s});
-        for (int i = 0; i < 14; ++i)
-            Main_module::club_names[i] = book.store.text(u"select club_%1 from sticknames"_s.arg(i + 1));
-        const diary_course course = course_of(u"Pebble Beach"_s, u"Gold"_s);
-        book.add(course);
-        book.add_partner(u"Anne"_s, u"Douze"_s, 12);
-        for (int day = 1; day <= 3; ++day)
-            book.add(diary_round{key_of_day(day), course, holes_over(course.pars, 0), day - 1,
-                                 day == 2 ? u"12-"_s : QString()});
-        shot(1, 1, u"400, 150"_s);
-        shot(2, 1, u"400, 200"_s);
-        shot(2, 5, u"150, 10"_s);
-    }
-
-    void shot(int day, int club, const QString& lengths) const
-    {
-        put_shot(book.store, key_of_day(day), club, u"before, after, unit, shot_type_value"_s,
-                 lengths + u", 'Yards', 1"_s);
-    }
-
-    double average(int club) const
-    {
-        return book.store.value(u"select avg_%1 from sticks"_s.arg(club)).toDouble();
-    }
-    int shots(int club) const { return book.store.number(u"select shots_%1 from sticks"_s.arg(club)); }
-    QString name(int club) const { return book.store.text(u"select club_%1 from sticknames"_s.arg(club)); }
-
-    store_folder folder;
-    diary book;
-};
-
-/// Opens the golf bag and lets the script close it.
-void in_bag(const std::function<void(hand&)>& script)
-{
-    play(
-        [] {
-            f_sticks window;
-            window.show_modal();
-        },
-        [&](hand& user) {
-            user.wait_for_window(bag_window());
-            script(user);
-            user.wait_until_gone(bag_window());
-        });
-    QVERIFY(open_recordsets().isEmpty());
-}
-
-void answer_keep(hand& user, QMessageBox::StandardButton answer)
-{
-    user.answer(
-        {in_language(u"Désirez vous conservés ces moyennes ?", u"Do you want to keep these averages ?"),
-         QMessageBox::NoIcon, u"VERDANE"_s, QMessageBox::Yes | QMessageBox::No},
-        answer);
-}
-
-void answer_no_shots(hand& user)
-{
-    user.answer({in_language(u"Verdane n'a trouvé aucune ronde avec les conditions choisies. Verdane "
-                             u"affichera seulement les statistiques sommaires.",
-                             u"Verdane could not find any rounds with the chosen parameters. Verdane will "
-                             u"display summary statistics only."),
-                 QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
-}
-
-/// Works the averages out over lines of the two lists.
-void compute(hand& user, int from, int to)
-{
-    user.click(u"Command1"_s);
-    user.click_row(u"List1"_s, from);
-    user.click_row(u"List2"_s, to);
-    user.click(u"Actualiser"_s);
-}
 
 struct named_way {
     const char* words;
@@ -123,7 +36,7 @@ std::vector<named_way> ways_out()
 
 }  // namespace
 
-class test_f_sticks : public QObject {
+class test_bag_window : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -221,6 +134,52 @@ private Q_SLOTS:
         QCOMPARE(seen[0], seen[1]);
     }
 
+    void every_box_says_what_it_is_to_whoever_has_the_window_read_out()
+    {
+        const filled_bag bag;
+        {
+            f_sticks window;
+            window.show();
+            QStringList names;
+            for (QWidget* box : std::initializer_list<QWidget*>{&window.sn(0), &window.Text1(13),
+                                                                window.List1, window.List2})
+                names << QAccessible::queryAccessibleInterface(box)->text(QAccessible::Name);
+            for (QComboBox* box : {window.conditions, window.pList, window.cmb_courses}) {
+                const auto labels = QAccessible::queryAccessibleInterface(box)->relations(QAccessible::Label);
+                QCOMPARE(labels.size(), 1);
+                names << labels.front().first->text(QAccessible::Name);
+            }
+            QCOMPARE(names,
+                     (QStringList{u"Nom du bâton 1"_s, u"Moyenne du bâton 14"_s, u"De..."_s, u"À..."_s,
+                                  u"Conditions atmosphériques :"_s, u"Partenaire :"_s, u"Terrain :"_s}));
+            window.closeForm();
+        }
+    }
+
+    void figures_have_their_unit_and_boxes_that_nothing_reads_have_words_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("French") << true << u"verges|verges|Heure :|entre |et |Température :|entre |et "_s;
+        QTest::newRow("English") << false
+                                 << u"yards|yards|Time :|between |and |Temperature :|between |and "_s;
+    }
+    void figures_have_their_unit_and_boxes_that_nothing_reads_have_words()
+    {
+        QFETCH(bool, french);
+        QFETCH(QString, words);
+        const filled_bag bag(french);
+        in_bag([&](hand& user) {
+            user.click(u"Command1"_s);
+            QStringList seen;
+            for (const char* name : {"lbl_unit_0", "lbl_unit_1", "lbl_unread_0", "lbl_Text1_14",
+                                     "lbl_Text1_15", "lbl_unread_1", "lbl_Text1_16", "lbl_Text1_17"})
+                seen << user.text(QLatin1String(name));
+            user.same(seen.join(u'|'), words, u"words"_s);
+            user.click(u"Fer"_s);
+        });
+    }
+
     void the_filters_hold_what_the_store_holds_data() { both_languages(); }
     void the_filters_hold_what_the_store_holds()
     {
@@ -300,158 +259,6 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void averages_are_worked_out_and_wait_for_the_answer_data() { both_languages(); }
-    void averages_are_worked_out_and_wait_for_the_answer()
-    {
-        QFETCH(bool, french);
-        const filled_bag bag(french);
-        in_bag([&](hand& user) {
-            compute(user, 0, 2);
-            user.same(user.text(u"Text1_0"_s), u"225"_s, u"club 1"_s);
-            user.same(user.text(u"Text1_4"_s), u"140"_s, u"club 5"_s);
-            user.same(user.text(u"Text1_1"_s), u"0"_s, u"a club without shots"_s);
-            user.same(user.text(u"Text1_13"_s), u"3"_s, u"the putter keeps what it had"_s);
-            user.same(user.text(u"Text1_14"_s), QString(), u"the box behind the putter"_s);
-            user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
-            QCOMPARE(bag.average(1), 200.5);
-            QCOMPARE(bag.shots(1), 0);
-            user.click(u"enr"_s);
-            answer_keep(user, QMessageBox::Yes);
-        });
-        QCOMPARE(bag.average(1), 225.0);
-        QCOMPARE(bag.average(5), 140.0);
-        QCOMPARE(bag.average(14), 3.0);
-        QCOMPARE(bag.shots(1), 2);
-        QCOMPARE(bag.shots(5), 1);
-    }
-
-    void a_no_leaves_the_store_and_keeps_the_new_names_for_the_run_data() { both_languages(); }
-    void a_no_leaves_the_store_and_keeps_the_new_names_for_the_run()
-    {
-        QFETCH(bool, french);
-        const filled_bag bag(french);
-        in_bag([&](hand& user) {
-            compute(user, 0, 2);
-            user.fill(u"sn_0"_s, u"Big"_s);
-            user.fill(u"Text1_0"_s, u"250"_s);
-            user.click(u"enr"_s);
-            answer_keep(user, QMessageBox::No);
-        });
-        QCOMPARE(bag.average(1), 200.5);
-        QCOMPARE(bag.shots(1), 0);
-        QCOMPARE(bag.name(1), u"D1"_s);
-        QCOMPARE(Main_module::club_names[0], u"Big"_s);
-    }
-
-    void a_yes_keeps_names_too()
-    {
-        const filled_bag bag;
-        in_bag([](hand& user) {
-            user.fill(u"sn_2"_s, u"Bois 5"_s);
-            user.click(u"enr"_s);
-            answer_keep(user, QMessageBox::Yes);
-        });
-        QCOMPARE(bag.name(3), u"Bois 5"_s);
-        QCOMPARE(Main_module::club_names[2], u"Bois 5"_s);
-        QCOMPARE(bag.average(1), 200.5);
-    }
-
-    void what_is_typed_is_stored_as_its_leading_number_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<double>("stored");
-        QTest::newRow("a unit behind it") << u"120m"_s << 120.0;
-        QTest::newRow("decimals") << u"187.5"_s << 187.5;
-        QTest::newRow("no number") << u"far"_s << 0.0;
-        QTest::newRow("nothing") << u" "_s << 0.0;
-    }
-    void what_is_typed_is_stored_as_its_leading_number()
-    {
-        QFETCH(QString, typed);
-        const filled_bag bag;
-        in_bag([&](hand& user) {
-            user.fill(u"Text1_6"_s, typed);
-            user.click(u"enr"_s);
-            answer_keep(user, QMessageBox::Yes);
-        });
-        QTEST(bag.average(7), "stored");
-    }
-
-    void a_range_that_runs_backwards_has_no_figures_data() { both_languages(); }
-    void a_range_that_runs_backwards_has_no_figures()
-    {
-        QFETCH(bool, french);
-        const filled_bag bag(french);
-        in_bag([](hand& user) {
-            compute(user, 2, 0);
-            answer_no_shots(user);
-            user.wait_until(u"the zeros"_s, [] { return text_of(*find_control(u"Text1_0"_s)) == u"0"; });
-            user.click(u"Fer"_s);
-        });
-        QCOMPARE(bag.average(1), 200.5);
-    }
-
-    void the_filters_choose_the_rounds()
-    {
-        const filled_bag bag;
-        in_bag([](hand& user) {
-            user.click(u"Command1"_s);
-            user.click_row(u"List2"_s, 2);
-            user.choose(u"pList"_s, 1);
-            user.choose(u"cmb_courses"_s, 1);
-            user.choose(u"conditions"_s, 2);
-            user.click(u"Actualiser"_s);
-            user.same(user.text(u"Text1_0"_s), u"200"_s, u"the second round alone"_s);
-            user.choose(u"conditions"_s, 1);
-            user.click(u"Actualiser"_s);
-            answer_no_shots(user);
-            user.wait_until(u"the zeros"_s, [] { return text_of(*find_control(u"Text1_0"_s)) == u"0"; });
-            user.click(u"Fer"_s);
-        });
-    }
-
-    void the_choices_become_clauses_and_texts_data()
-    {
-        QTest::addColumn<bool>("french");
-        QTest::addColumn<bool>("on");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("open, French")
-            << true << false
-            << QStringList{
-                   u" "_s, u" "_s, QString(), u"Toutes"_s, u"TOUS LES PARTENAIRES"_s, u"TOUS LES TERRAINS"_s};
-        QTest::newRow("open, English")
-            << false << false
-            << QStringList{u" "_s, u" "_s, QString(), u"ALL"_s, u"All partners"_s, u"All COURSES"_s};
-        QTest::newRow("chosen") << true << true
-                                << QStringList{u" AND (games2.conditionM = 3)"_s,
-                                               u" AND INSTR(GAMES2.PARTNERS,'12')"_s,
-                                               u" AND GAMES2.FC = 'PEBBLE BEACH-3'"_s,
-                                               u"Vent"_s,
-                                               u"Anne, Douze"_s,
-                                               u"Pebble Beach        , OR"_s};
-    }
-    void the_choices_become_clauses_and_texts()
-    {
-        QFETCH(bool, french);
-        QFETCH(bool, on);
-        const filled_bag bag(french);
-        {
-            f_sticks window;
-            if (on) {
-                window.conditions->setCurrentIndex(4);
-                window.pList->setCurrentIndex(1);
-                window.cmb_courses->setCurrentIndex(1);
-            }
-            const selection_arguments got = f_sticks_func::selection_of(window);
-            const QStringList seen{got.weather_clause, got.partner_clause, got.course_clause,
-                                   got.weather_text,   got.partner_text,   got.course_text};
-            QTEST(seen, "expected");
-            QCOMPARE(got.from_key, key_of_day(1));
-            window.closeForm();
-        }
-        QVERIFY(open_recordsets().isEmpty());
-    }
-
     void every_way_out_drops_what_was_typed_data()
     {
         QTest::addColumn<int>("way");
@@ -477,5 +284,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(test_f_sticks)
-#include "test_f_sticks.moc"
+QTEST_MAIN(test_bag_window)
+#include "test_bag_window.moc"

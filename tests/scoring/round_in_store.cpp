@@ -1,8 +1,8 @@
-#include "stored_round.h"
+#include "round_in_store.h"
 
 namespace verdane::testing {
 
-const QString stored_round::key = QStringLiteral("20030614093000");
+const QString round_in_store::key = QStringLiteral("20030614093000");
 
 namespace {
 
@@ -20,7 +20,7 @@ QStringList card()
 
 }  // namespace
 
-stored_round::stored_round()
+round_in_store::round_in_store()
 {
     lay_down();
     open(store.rsgames);
@@ -30,7 +30,7 @@ stored_round::stored_round()
     open(store.rsfield_info);
 }
 
-void stored_round::lay_down() const
+void round_in_store::lay_down() const
 {
     const reader outside(folder_.path());
     outside.write({
@@ -50,21 +50,21 @@ void stored_round::lay_down() const
     outside.write(QStringLiteral("update field_info set %1").arg(card().join(u',')));
 }
 
-void stored_round::open(Recordset& recordset)
+void round_in_store::open(Recordset& recordset)
 {
     recordset.Open();
     if (recordset.name() == QStringLiteral("rsvrd_fields"))
         recordset.MoveNext();
 }
 
-void stored_round::commit()
+void round_in_store::commit()
 {
     store.rsgames.Update();
     store.rsgames2.Update();
     store.rscost.Update();
 }
 
-void stored_round::set_strokes(int hole, int long_shots, int approach, int putts)
+void round_in_store::set_strokes(int hole, int long_shots, int approach, int putts)
 {
     const QString number = QString::number(hole);
     store.rsgames.Fields(QString(u"long_" + number)).set(long_shots);
@@ -72,7 +72,7 @@ void stored_round::set_strokes(int hole, int long_shots, int approach, int putts
     store.rsgames.Fields(QString(u"putt_" + number)).set(putts);
 }
 
-QVariant stored_round::stored(const QString& table, const QString& column) const
+QVariant round_in_store::stored(const QString& table, const QString& column) const
 {
     return reader(folder_.path())
         .value(QStringLiteral("select %1 from %2 where date = '%3'").arg(column, table, key));

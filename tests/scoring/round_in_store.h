@@ -9,11 +9,11 @@ namespace verdane::testing {
 
 /// A fresh store with one course and two fresh rounds on it, the five recordsets open and standing on
 /// the first round. The pars are 4, but 3 on hole 3 and 5 on hole 5; rating 70.5, slope 130.
-class stored_round {
+class round_in_store {
 public:
     static const QString key;
 
-    stored_round();
+    round_in_store();
 
     /// Writes the current rows, so that another connection sees them.
     void commit();

@@ -1,0 +1,97 @@
+#include <benchmark/benchmark.h>
+
+#include "diaries.h"
+#include "f_new_round.h"
+#include "pairs.h"
+#include "plain_store.h"
+#include "round_in_window.h"
+#include "stopwatch.h"
+
+/// Opening a detailed round of a full diary: from the list's command until its window is painted, and
+/// from the click on the detailed page until its shots are; against reading what is then on the screen.
+namespace verdane::bench {
+
+namespace {
+
+constexpr int round_in_diary = 183;
+
+void open_detailed_round(benchmark::State& state)
+{
+    const opened_store store(diaries_of_run().full());
+    for (auto _ : state) {
+        open_tables_of_list();
+        const stopwatch watch;
+        in_round_window(testing::key_in_diary(round_in_diary), [&](f_new_round&) {
+            Form::paint_now();
+            state.SetIterationTime(watch.seconds());
+        });
+    }
+}
+
+void open_detailed_page(benchmark::State& state)
+{
+    constexpr int detailed_page = 2;
+    const opened_store store(diaries_of_run().full());
+    for (auto _ : state) {
+        open_tables_of_list();
+        in_round_window(testing::key_in_diary(round_in_diary), [&](f_new_round& window) {
+            Form::paint_now();
+            const stopwatch watch;
+            window.TabStrip2->click(detailed_page);
+            Form::paint_now();
+            state.SetIterationTime(watch.seconds());
+        });
+    }
+}
+
+void read_all(QSqlQuery rows)
+{
+    while (rows.next())
+        benchmark::DoNotOptimize(rows.value(0));
+}
+
+void read_shots_of_first_hole(const plain_store& store, const QString& key)
+{
+    read_all(store.run(QStringLiteral("select * from Stat_rounds where date = ? and hole = 1 order by shot"),
+                       {key}));
+}
+
+void open_detailed_round_floor(benchmark::State& state)
+{
+    const plain_store store(diaries_of_run().full());
+    const QString key = testing::key_in_diary(round_in_diary);
+    for (auto _ : state) {
+        const stopwatch watch;
+        for (const char* table : {"games", "games2", "cost"})
+            read_all(store.run(QStringLiteral("select * from %1 where date = ?").arg(QLatin1String(table)),
+                               {key}));
+        for (const char* table : {"vrd_fields", "field_info", "partners"})
+            read_all(store.run(u"select * from " + QLatin1String(table)));
+        read_shots_of_first_hole(store, key);
+        state.SetIterationTime(watch.seconds());
+    }
+}
+
+void open_detailed_page_floor(benchmark::State& state)
+{
+    const plain_store store(diaries_of_run().full());
+    const QString key = testing::key_in_diary(round_in_diary);
+    for (auto _ : state) {
+        const stopwatch watch;
+        read_shots_of_first_hole(store, key);
+        read_all(store.run(QStringLiteral("select * from sticknames")));
+        state.SetIterationTime(watch.seconds());
+    }
+}
+
+}  // namespace
+
+void register_detailed_round()
+{
+    register_timed("open_detailed_round", open_detailed_round);
+    register_timed("open_detailed_round_floor", open_detailed_round_floor);
+    register_timed("open_detailed_page", open_detailed_page);
+    register_timed("open_detailed_page_floor", open_detailed_page_floor);
+}
+
+}  // namespace verdane::bench

@@ -1,0 +1,136 @@
+#include <QTest>
+
+#include <benchmark/benchmark.h>
+
+#include "data_grid.h"
+#include "DataEnvironment1.h"
+#include "diaries.h"
+#include "f_new_round.h"
+#include "pairs.h"
+#include "plain_store.h"
+#include "round_in_window.h"
+#include "shot_entry.h"
+#include "shot_menus.h"
+#include "stopwatch.h"
+
+/// The key that makes the next row: Enter behind the distance that a putt has left, until the next putt
+/// stands in the grid with the cursor on it; against the two bare commits that keep both.
+namespace verdane::bench {
+
+namespace {
+
+constexpr int round_in_diary = 183;
+constexpr int putts_told = 3;
+
+QString of_hole()
+{
+    return u" where date = " + quoted(testing::key_in_diary(round_in_diary)) + u" and hole = 1";
+}
+
+/// A drive, an approach and the first putt, of which only the distance left is still to be told.
+QStringList hole_before_its_putts()
+{
+    const QString shot =
+        QStringLiteral("insert into Stat_rounds (date, hole, shot, before, after, unit, stick, stickval, "
+                       "shot_type, shot_type_value, faireway, fairval, normal, verges) "
+                       "values ('%1', 1, ")
+            .arg(testing::key_in_diary(round_in_diary));
+    return {u"delete from Stat_rounds" + of_hole(),
+            shot + u"1, 380, 140, 'Yards', 'D', 1, 'Long', 1, 'Fairway', 1, 4, 380)",
+            shot + u"2, 140, 60, 'Feets', 'F7', 7, 'Approach', 2, 'Fairway', 1, 4, 380)",
+            shot + u"3, 60, null, 'Feets', 'Pu', 14, 'Putt', 3, ' ', 0, 4, 380)"};
+}
+
+/// Types a digit into the distance of the last shot. The box that it is typed into.
+QWidget* type_distance(f_new_round& window, char digit)
+{
+    window.details->bound_model().move_to(data_environment().rsStat_rounds.RecordCount() - 1);
+    window.details->ReBind();
+    window.details->set_Col(f_new_round_func::details_column::distance);
+    Form::paint_now();
+    QTest::keyClick(window.details, digit);
+    return window.focusWidget();
+}
+
+/// The hole with three putts told, each by the key that is measured, and the distance of the next one
+/// typed.
+QWidget* tell_until_last_key(f_new_round& window)
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    shots.CancelUpdate();
+    for (const QString& statement : hole_before_its_putts())
+        data_environment().connection.Execute(statement);
+    f_new_round_func::open_hole_shots(window);
+    for (int putt = 1; putt <= putts_told; ++putt)
+        QTest::keyClick(type_distance(window, '9'), Qt::Key_Return);
+    QWidget* box = type_distance(window, '4');
+    Form::paint_now();
+    return box;
+}
+
+enum class until { in_grid, painted };
+
+void next_shots(benchmark::State& state, until end)
+{
+    const opened_store store(diaries_of_run().full());
+    open_tables_of_list();
+    on_detailed_page_of(testing::key_in_diary(round_in_diary), [&](f_new_round& window) {
+        for (auto _ : state) {
+            QWidget* box = tell_until_last_key(window);
+            const int shots = data_environment().rsStat_rounds.RecordCount();
+            const stopwatch watch;
+            QTest::keyClick(box, Qt::Key_Return);
+            if (end == until::painted)
+                Form::paint_now();
+            state.SetIterationTime(watch.seconds());
+            if (data_environment().rsStat_rounds.RecordCount() != shots + 1)
+                state.SkipWithError("no row was made");
+        }
+    });
+}
+
+void next_shot(benchmark::State& state)
+{
+    next_shots(state, until::in_grid);
+}
+
+void next_shot_painted(benchmark::State& state)
+{
+    next_shots(state, until::painted);
+}
+
+/// The distance goes into the row that was told, and the next row into the table.
+void next_shot_floor(benchmark::State& state)
+{
+    const plain_store store(diaries_of_run().full());
+    const QString key = testing::key_in_diary(round_in_diary);
+    QSqlQuery last =
+        store.run(QStringLiteral("select rowid from Stat_rounds where date = ? and hole = 2"), {key});
+    last.next();
+    const QVariant number = last.value(0);
+    last.finish();
+    int distance = 0;
+    for (auto _ : state) {
+        const stopwatch watch;
+        store.run(QStringLiteral("update Stat_rounds set after = ? where rowid = ?"),
+                  {++distance % 9, number});
+        store.run(QStringLiteral(
+                      "insert into Stat_rounds (date, hole, shot, before, unit, stick, stickval, shot_type, "
+                      "shot_type_value, faireway, fairval, normal, verges) "
+                      "values (?, 1, 20, 4, 'Feets', 'Pu', 14, 'Putt', 3, ' ', 0, 4, 380)"),
+                  {key});
+        state.SetIterationTime(watch.seconds());
+        store.run(QStringLiteral("delete from Stat_rounds where date = ? and hole = 1 and shot = 20"), {key});
+    }
+}
+
+}  // namespace
+
+void register_next_shot()
+{
+    register_timed("next_shot", next_shot);
+    register_timed("next_shot_painted", next_shot_painted);
+    register_timed("next_shot_floor", next_shot_floor);
+}
+
+}  // namespace verdane::bench

@@ -1,0 +1,41 @@
+#include "round_in_window.h"
+
+#include <QTimer>
+
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "Round_records.h"
+#include "stored_round.h"
+
+namespace verdane::bench {
+
+void open_tables_of_list()
+{
+    data_environment().rsgames.Open();
+    data_environment().rsfield_info.Open();
+}
+
+void in_round_window(const QString& key, const std::function<void(f_new_round&)>& work)
+{
+    open_rows_of_round(key);
+    f_new_round window;
+    load_stored_round(window, key);
+    load_round_header(window);
+    QTimer::singleShot(0, &window, [&] {
+        work(window);
+        window.unload();
+    });
+    window.show_modal();
+}
+
+void on_detailed_page_of(const QString& key, const std::function<void(f_new_round&)>& work)
+{
+    constexpr int detailed_page = 2;
+    in_round_window(key, [&](f_new_round& window) {
+        window.TabStrip2->click(detailed_page);
+        Form::paint_now();
+        work(window);
+    });
+}
+
+}  // namespace verdane::bench

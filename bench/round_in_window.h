@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace verdane {
+class f_new_round;
+}
+
+/// A stored round in its window, opened as the list of rounds opens it.
+namespace verdane::bench {
+
+/// A store must be open. Opens what the list has open already.
+void open_tables_of_list();
+
+/// Opens the round in its window, runs `work` once it is up, and takes the window away as it stands.
+void in_round_window(const QString& key, const std::function<void(f_new_round&)>& work);
+
+/// The same, the shots of hole 1 being on screen.
+void on_detailed_page_of(const QString& key, const std::function<void(f_new_round&)>& work);
+
+}  // namespace verdane::bench

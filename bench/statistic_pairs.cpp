@@ -1,0 +1,83 @@
+#include "statistic_pairs.h"
+
+#include <QProgressBar>
+#include <QStringList>
+
+#include <benchmark/benchmark.h>
+
+#include "diaries.h"
+#include "full_diary.h"
+#include "pairs.h"
+#include "round_columns.h"
+#include "stopwatch.h"
+
+namespace verdane::bench {
+
+namespace {
+
+void time_statistic(benchmark::State& state, const statistic_pair& pair, const QString& path, int rounds)
+{
+    const opened_store store(path);
+    const selection_arguments chosen = first_rounds(rounds, pair.clauses);
+    QProgressBar bar;
+    run_progress progress(bar);
+    for (auto _ : state) {
+        pair.prepare();
+        const stopwatch watch;
+        if (!pair.statistic(chosen, progress))
+            state.SkipWithError("the selection holds no round");
+        state.SetIterationTime(watch.seconds());
+    }
+}
+
+void time_floor(benchmark::State& state, const statistic_pair& pair, const QString& path, int rounds)
+{
+    const plain_store store(path);
+    const selection_arguments chosen = first_rounds(rounds, pair.clauses);
+    for (auto _ : state) {
+        const stopwatch watch;
+        pair.floor(store, chosen);
+        state.SetIterationTime(watch.seconds());
+    }
+}
+
+using timing = void (*)(benchmark::State&, const statistic_pair&, const QString&, int);
+
+void register_full_and_half(const std::string& name, const statistic_pair& pair, timing time)
+{
+    register_timed(name, [=](benchmark::State& state) {
+        time(state, pair, diaries_of_run().full(), testing::rounds_of_full_diary);
+    });
+    register_timed(name + "_half", [=](benchmark::State& state) {
+        time(state, pair, diaries_of_run().half(), diaries::rounds_of_half);
+    });
+}
+
+}  // namespace
+
+selection_arguments first_rounds(int rounds, clause_form clauses)
+{
+    selection_arguments chosen;
+    chosen.from_key = testing::key_in_diary(0);
+    chosen.to_key = testing::key_in_diary(rounds - 1);
+    chosen.weather_clause = clause_of(filter::weather, clauses, {});
+    chosen.partner_clause = clause_of(filter::partner, clauses, {});
+    chosen.course_clause = clause_of(filter::course, clauses, {});
+    return chosen;
+}
+
+void register_statistic(const statistic_pair& pair)
+{
+    register_full_and_half(pair.name, pair, time_statistic);
+    register_full_and_half(pair.name + "_floor", pair, time_floor);
+}
+
+QString columns_of_holes(const QString& prefix, const QString& suffix)
+{
+    QStringList columns;
+    for (int h = 1; h <= round_columns::hole_count; ++h)
+        columns << QStringLiteral("%1_%2%3").arg(prefix).arg(h).arg(suffix);
+    return columns.join(u',');
+}
+
+}  // namespace verdane::bench

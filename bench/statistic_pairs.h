@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "plain_store.h"
+#include "run_controls.h"
+#include "selection_arguments.h"
+#include "selection_clauses.h"
+
+/// A statistic of all rounds of a diary, up to the finished table.
+namespace verdane::bench {
+
+/// What is measured, and the same rows read with plain SQL and added up in memory. The tables that the
+/// statistic writes for its report are no part of the floor.
+struct statistic_pair {
+    std::string name;
+    std::function<bool(const selection_arguments&, run_progress&)> statistic;
+    std::function<void(const plain_store&, const selection_arguments&)> floor;
+    /// How the statistic wants its clauses.
+    clause_form clauses = clause_form::appended;
+    /// What the selection window does when it opens, and nobody waits for in the statistic.
+    std::function<void()> prepare = [] {};
+};
+
+/// Registers the statistic and its floor, both on the full diary and, with "_half" behind their names, on
+/// the diary with half the rounds.
+void register_statistic(const statistic_pair& pair);
+
+/// The selection of the first rounds of a diary, as the selection window hands it out with every filter
+/// open.
+selection_arguments first_rounds(int rounds, clause_form clauses);
+
+/// "PREFIX_1SUFFIX, PREFIX_2SUFFIX, ... PREFIX_18SUFFIX".
+QString columns_of_holes(const QString& prefix, const QString& suffix = {});
+
+}  // namespace verdane::bench

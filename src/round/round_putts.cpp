@@ -1,0 +1,27 @@
+#include "round_putts.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "course_box.h"
+#include "detailed_page.h"
+#include "f_new_round.h"
+#include "round_putt_report.h"
+#include "shot_entry.h"
+
+namespace verdane::f_new_round_func {
+
+void report_putts(f_new_round& window)
+{
+    finish_typing(window);
+    // A hole of which nothing is told keeps the figures of the quick page.
+    if (on_detailed_page(window) && !hole_is_untold())
+        finish_hole(window);
+    const QString round = window.caption(u"Ronde : ", u"Round : ") + window.text(2).text() + u' ' +
+                          window.cmb_courses->course();
+    const QString weather = window.caption(u"Conditions atmosphériques : ", u"Weather conditions : ") +
+                            window.conditions->currentText();
+    launch_round_putt_report(window.cr2, round, weather);
+}
+
+}  // namespace verdane::f_new_round_func

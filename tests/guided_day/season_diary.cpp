@@ -1,0 +1,48 @@
+#include "season_diary.h"
+
+#include <QStringList>
+
+#include "full_diary.h"
+#include "reader.h"
+#include "scorecards.h"
+
+namespace verdane::guided_day {
+
+namespace {
+
+/// The kit plays its rounds day after day from 1 January 2023 on; nobody would call that a season.
+QStringList spread_over_the_year()
+{
+    QStringList statements;
+    for (const char* table : {"games", "games2", "cost", "Stat_rounds"}) {
+        statements << QStringLiteral(
+                          "update %1 set date = strftime('%Y%m%d', '2025-04-15', (5 * (julianday("
+                          "substr(date, 1, 4) || '-' || substr(date, 5, 2) || '-' || substr(date, 7, 2)) "
+                          "- julianday('2023-01-01'))) || ' days') || substr(date, 9)")
+                          .arg(QLatin1String(table));
+    }
+    return statements;
+}
+
+/// The words in which the scorecard prints the tees.
+QStringList named_tees()
+{
+    QStringList statements;
+    for (const testing::scorecard& card : testing::published_scorecards()) {
+        statements << QStringLiteral("update vrd_fields set tee = '%1' where code like '%-%2'")
+                          .arg(card.tee.toUpper())
+                          .arg(testing::tee_code(card.tee));
+    }
+    return statements;
+}
+
+}  // namespace
+
+void lay_down_season(const QString& store_path, int rounds)
+{
+    testing::lay_down_diary(store_path, rounds, true);
+    testing::forget_sixth_putts(store_path);
+    testing::reader(store_path).write(spread_over_the_year() + named_tees());
+}
+
+}  // namespace verdane::guided_day

@@ -1,0 +1,46 @@
+#include "day.h"
+
+namespace verdane::guided_day {
+
+namespace {
+
+/// The columns of a hole in the order in which the quick page takes its figures.
+QStringList columns_of(int hole)
+{
+    QStringList columns;
+    for (const char* name :
+         {"games.long_", "games.approach_", "games.putt_", "games2.fairway_", "games2.sand_", "games.missed_",
+          "games2.recovery_", "games.pen_water_", "games.pen_lost_", "games.pen_rule_", "games.pen_bounds_"})
+        columns << QLatin1String(name) + QString::number(hole);
+    return columns;
+}
+
+}  // namespace
+
+void check_round(const day& today, const played_round& round)
+{
+    const QString from =
+        QStringLiteral(" from games join games2 using (date) where date = '%1'").arg(round.key());
+    today.user.same(today.store.number(u"select count(*)" + from), 1, QStringLiteral("rows of the round"));
+    for (int hole = 1; hole <= 18; ++hole) {
+        const QString figures = today.store.text(u"select " + columns_of(hole).join(u" || ") + from);
+        today.user.same(figures, round.holes.at(static_cast<std::size_t>(hole - 1)),
+                        QStringLiteral("stored figures of hole %1").arg(hole));
+    }
+    today.user.same(today.store.text(u"select field" + from), today.card.name,
+                    QStringLiteral("course of the round"));
+}
+
+void check_store(day& today)
+{
+    check_round(today, today.round);
+    const QString where = QStringLiteral(" where date = '%1'").arg(today.round.key());
+    today.user.same(today.store.number(u"select fg * 1000 + nrt from cost" + where), 85020,
+                    QStringLiteral("costs of the round"));
+    today.user.same(today.store.number(u"select conditionM from games2" + where), today.french ? 1 : 3,
+                    QStringLiteral("weather of the round"));
+    today.user.same(today.store.number(QStringLiteral("select all_holes from stats where rowid = 1")),
+                    today.round.gross(), QStringLiteral("strokes in the report"));
+}
+
+}  // namespace verdane::guided_day

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+
+#include "album.h"
+#include "hand.h"
+#include "language.h"
+#include "reader.h"
+
+namespace verdane::guided_day {
+
+/// The program in one language: who uses it, what is seen, where it is kept.
+struct visit {
+    bool french;
+    testing::hand& user;
+    album& pictures;
+    testing::reader store;
+
+    /// The name of a window's twin.
+    QString window(const QString& family) const { return french ? family : family + u"_en"; }
+    QString words(QStringView in_french, QStringView in_english) const
+    {
+        return text_pair{in_french, in_english}.in(french);
+    }
+    /// What is kept is named after what it shows and the language.
+    QString twin(const QString& name) const { return name + (french ? u"_fr" : u"_en"); }
+    void keep(const QString& family, const QString& name) const
+    {
+        pictures.keep(user, window(family), twin(name));
+    }
+    void answer(QStringView in_french, QStringView in_english, QMessageBox::Icon icon = QMessageBox::NoIcon,
+                QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+                QMessageBox::StandardButton answer = QMessageBox::Ok,
+                const QString& title = QStringLiteral("Verdane")) const
+    {
+        user.answer({words(in_french, in_english), icon, title, buttons}, answer);
+    }
+};
+
+void change_language(visit& now);
+void leave_program(visit& now);
+
+}  // namespace verdane::guided_day

@@ -1,0 +1,74 @@
+#include "what_was_left.h"
+
+#include <cstdio>
+
+namespace verdane::guided_day {
+
+namespace {
+
+/// The windows of a day of golf.
+const char* const pictures_of_a_day =
+    "main f_about f_courses_1 f_courses_2 f_courses_3 f_c_list f_partners f_get_date f_new_round f_cost "
+    "f_new_round_18 f_games f_date_range_day preview_day preview_round_putts f_details f_details_menu "
+    "f_details_position_menu "
+    "f_details_told f_details_counts f_new_round_told_18 f_games_removal";
+
+/// The windows in which a season is looked back on.
+const char* const pictures_of_a_season =
+    "f_sticks f_sticks_filters f_sticks_averages f_carte f_date_range_clubs f_date_range_putts "
+    "f_date_range_rounds f_date_range_costs preview_card preview_clubs preview_putts preview_rounds "
+    "preview_costs";
+
+const char* const reports = "day round_putts card clubs putts rounds costs";
+
+void add(QStringList& files, const char* names, const QString& pattern)
+{
+    for (const QString& name : QString::fromLatin1(names).split(u' ')) {
+        for (const QString& twin : {QStringLiteral("fr"), QStringLiteral("en")})
+            files << pattern.arg(name, twin);
+    }
+}
+
+QStringList expected_files()
+{
+    QStringList files{QStringLiteral("f_lang.png")};
+    add(files, pictures_of_a_day, QStringLiteral("%1_%2.png"));
+    add(files, pictures_of_a_season, QStringLiteral("%1_%2.png"));
+    add(files, reports, QStringLiteral("report_%1_%2.pdf"));
+    add(files, reports, QStringLiteral("report_%1_%2.csv"));
+    return files;
+}
+
+void tell_each(const char* words, const QStringList& files)
+{
+    for (const QString& file : files)
+        std::printf("%s %s\n", words, qUtf8Printable(file));
+}
+
+QStringList without(const QStringList& files, const QStringList& others)
+{
+    QStringList left;
+    for (const QString& file : files) {
+        if (!others.contains(file))
+            left << file;
+    }
+    return left;
+}
+
+}  // namespace
+
+bool tell_what_was_left(const album& pictures, bool for_good)
+{
+    const QStringList left = without(pictures.files(), pictures.lost_files());
+    const QStringList missing = without(expected_files(), left);
+    const QStringList unknown = without(left, expected_files());
+    tell_each(" ", left);
+    std::printf("The guided day is over. It left %d pictures and reports in %s%s\n",
+                static_cast<int>(left.size()), qUtf8Printable(pictures.folder()),
+                for_good ? "" : ", which goes with the run: name a folder behind --to to keep them");
+    tell_each("MISSING:", missing);
+    tell_each("UNEXPECTED:", unknown);
+    return missing.isEmpty() && unknown.isEmpty();
+}
+
+}  // namespace verdane::guided_day

@@ -1,0 +1,123 @@
+#include "kept_round.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+#include "shot_words.h"
+
+namespace verdane::testing {
+
+namespace {
+
+constexpr int holes_of_a_round = 18;
+/// The places of the figures in `games`; the others stand in `games2`, with the putts.
+constexpr std::array<std::size_t, 8> strokes_places{0, 1, 2, 5, 7, 8, 9, 10};
+constexpr std::array<std::size_t, 3> situation_places{3, 4, 6};
+
+template <std::size_t Count>
+bool same_at(const stored_hole& one, const stored_hole& other, const std::array<std::size_t, Count>& places)
+{
+    return std::all_of(places.begin(), places.end(),
+                       [&](std::size_t place) { return one.figures[place] == other.figures[place]; });
+}
+
+bool same_strokes(const stored_hole& one, const stored_hole& other)
+{
+    return same_at(one, other, strokes_places);
+}
+
+bool same_situation(const stored_hole& one, const stored_hole& other)
+{
+    return same_at(one, other, situation_places) && one.putts == other.putts;
+}
+
+/// Each table holds the old figures or the new ones.
+bool figures_are_whole(const stored_hole& now, const stored_hole& old, const stored_hole& wanted)
+{
+    return (same_strokes(now, old) || same_strokes(now, wanted)) &&
+           (same_situation(now, old) || same_situation(now, wanted));
+}
+
+/// What is wrong with the shots of a hole that was being told.
+QString trouble_with_shots(const stored_hole& now, const stored_hole& old, const last_words& words)
+{
+    const bool begun = is_start_of(now.shots, words.telling_shots);
+    if (!begun && !is_rest_of(now.shots, old.shots))
+        return QStringLiteral("the shots are neither old nor new");
+    if (words.shots_told > 0 && (!begun || static_cast<int>(now.shots.size()) <= words.shots_told))
+        return QStringLiteral("a shot that was told is lost");
+    const bool old_figures = same_strokes(now, old) && same_situation(now, old);
+    if (!old_figures && now.shots != outcome_of(words.telling_shots).shots)
+        return QStringLiteral("the figures are new and the shots are not");
+    return {};
+}
+
+/// A hole without shots shows a blank one as soon as it is opened.
+bool was_only_opened(const stored_hole& now, const stored_hole& old)
+{
+    stored_hole opened = old;
+    opened.shots.push_back({.number = 1, .position = in_the_fairway});
+    return old.shots.empty() && now == opened;
+}
+
+QString trouble_under_way(const stored_hole& now, const stored_hole& old, const last_words& words)
+{
+    stored_hole wanted = old;
+    if (words.telling != 0)
+        wanted = outcome_of(words.telling_shots);
+    else
+        std::transform(words.typing_figures.begin(), words.typing_figures.end(), wanted.figures.begin(),
+                       [](QChar digit) { return digit.digitValue(); });
+    if (!figures_are_whole(now, old, wanted))
+        return QStringLiteral("a table is half old and half new");
+    if (words.telling != 0)
+        return trouble_with_shots(now, old, words);
+    return now.shots == old.shots ? QString() : QStringLiteral("the quick page changed a shot");
+}
+
+}  // namespace
+
+kept_round::kept_round(const reader& store) : store_(store)
+{
+    for (int number = 1; number <= holes_of_a_round; ++number)
+        at(number) = read_hole(store, number);
+}
+
+void kept_round::take(const last_words& words)
+{
+    for (auto typed = words.typed.begin(); typed != words.typed.end(); ++typed)
+        std::transform(typed.value().begin(), typed.value().end(), at(typed.key()).figures.begin(),
+                       [](QChar digit) { return digit.digitValue(); });
+    for (auto told = words.told.begin(); told != words.told.end(); ++told) {
+        at(told.key()) = outcome_of(told.value());
+        told_[static_cast<std::size_t>(told.key()) - 1] = true;
+    }
+    if (words.telling != 0)
+        told_[static_cast<std::size_t>(words.telling) - 1] = false;
+}
+
+QString kept_round::compare(const last_words& words)
+{
+    take(words);
+    const int under_way = words.telling != 0 ? words.telling : words.typing;
+    QStringList troubles;
+    for (int number = 1; number <= holes_of_a_round; ++number) {
+        const stored_hole now = read_hole(store_, number);
+        QString trouble;
+        if (number == under_way)
+            trouble = trouble_under_way(now, hole(number), words);
+        else if (now != hole(number) && !was_only_opened(now, hole(number)))
+            trouble = QStringLiteral("it is not as it was left");
+        if (!trouble.isEmpty())
+            troubles << QStringLiteral("hole %1: %2; stored %3, expected %4, told %5 of %6")
+                            .arg(number)
+                            .arg(trouble, described(now), described(hole(number)))
+                            .arg(words.shots_told)
+                            .arg(word_of(words.telling_shots));
+        at(number) = now;
+    }
+    return troubles.join(u'\n');
+}
+
+}  // namespace verdane::testing

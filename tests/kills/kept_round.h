@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+#include "last_words.h"
+#include "reader.h"
+#include "told_hole.h"
+
+namespace verdane::testing {
+
+/// What the only round of a store must hold, from one death of the program to the next.
+class kept_round {
+public:
+    explicit kept_round(const reader& store);
+
+    /// Compares the store with what it held and what the dead program said. A hole that was left is stored,
+    /// whole. Of the one that was under way, each of the two tables, which are committed one after the
+    /// other, holds the old figures or the new ones and no mixture; its shots are the old ones, of which
+    /// the last may have gone, or the first of the new ones, and all of them before a figure is new.
+    /// Answers what is wrong, nothing when all is well; what is stored counts from now on.
+    QString compare(const last_words& words);
+
+    /// Holes count from 1.
+    const stored_hole& hole(int number) const { return holes_[static_cast<std::size_t>(number) - 1]; }
+    /// The hole was told and left, and nobody has begun to tell it anew since.
+    bool is_told(int number) const { return told_[static_cast<std::size_t>(number) - 1]; }
+
+private:
+    stored_hole& at(int number) { return holes_[static_cast<std::size_t>(number) - 1]; }
+    void take(const last_words& words);
+
+    const reader& store_;
+    std::array<stored_hole, 18> holes_;
+    std::array<bool, 18> told_{};
+};
+
+}  // namespace verdane::testing

@@ -1,0 +1,245 @@
+#include <QApplication>
+#include <QTest>
+
+#include <functional>
+
+#include "kept_round.h"
+#include "program_run.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+/// What judges a killed program is tried on stores that were written by hand.
+namespace {
+
+const QString drive_pitch_two_putts = QStringLiteral("1,200,1,1,0,0;9,10,2,2,1,1;14,4,3,1,0,0;14,0,3,1,0,0");
+const QString two_woods_and_a_chip = QStringLiteral("3,150,1,1,0,0;3,20,1,3,0,0;12,0,2,1,0,0");
+constexpr int the_hole = 5;
+
+QString assignments(const QStringList& columns, const std::vector<int>& values)
+{
+    QStringList pieces;
+    for (int i = 0; i < columns.size(); ++i)
+        pieces << QStringLiteral("%1%2 = %3")
+                      .arg(columns[i])
+                      .arg(the_hole)
+                      .arg(values[static_cast<std::size_t>(i)]);
+    return pieces.join(u", ");
+}
+
+void put_strokes(const reader& store, const stored_hole& hole)
+{
+    const auto& f = hole.figures;
+    store.write(
+        u"update games set " +
+        assignments({QStringLiteral("long_"), QStringLiteral("approach_"), QStringLiteral("putt_"),
+                     QStringLiteral("missed_"), QStringLiteral("pen_water_"), QStringLiteral("pen_lost_"),
+                     QStringLiteral("pen_rule_"), QStringLiteral("pen_bounds_")},
+                    {f[0], f[1], f[2], f[5], f[7], f[8], f[9], f[10]}));
+}
+
+void put_situation(const reader& store, const stored_hole& hole)
+{
+    const auto& f = hole.figures;
+    store.write(u"update games2 set " + assignments({QStringLiteral("fairway_"), QStringLiteral("sand_"),
+                                                     QStringLiteral("recovery_")},
+                                                    {f[3], f[4], f[6]}));
+    QStringList lengths;
+    for (int putt = 1; putt <= putts_of_a_hole; ++putt)
+        lengths << QStringLiteral("putt_len_%1_%2 = %3")
+                       .arg(the_hole)
+                       .arg(putt)
+                       .arg(hole.putts[static_cast<std::size_t>(putt) - 1]);
+    store.write(u"update games2 set " + lengths.join(u", "));
+}
+
+/// The first so many shots of the hole, in place of those that are there.
+void put_shots(const reader& store, const stored_hole& hole, int count)
+{
+    QStringList statements{QStringLiteral("delete from Stat_rounds")};
+    for (int i = 0; i < count; ++i) {
+        const stored_shot& shot = hole.shots[static_cast<std::size_t>(i)];
+        statements << QStringLiteral(
+                          "insert into Stat_rounds (date, hole, shot, stickval, shot_type_value, "
+                          "after, unit, fairval, penval, ts) values ('20260614093000', %1, %2, %3, "
+                          "%4, %5, '%6', %7, %8, %9)")
+                          .arg(the_hole)
+                          .arg(shot.number)
+                          .arg(shot.club)
+                          .arg(shot.kind)
+                          .arg(shot.after)
+                          .arg(shot.in_feet ? QStringLiteral("Feets") : QStringLiteral("Verges"))
+                          .arg(shot.position)
+                          .arg(shot.penalty)
+                          .arg(shot.sand ? 1 : 0);
+    }
+    store.write(statements);
+}
+
+void put_hole(const reader& store, const stored_hole& hole)
+{
+    put_strokes(store, hole);
+    put_situation(store, hole);
+    put_shots(store, hole, static_cast<int>(hole.shots.size()));
+}
+
+const stored_hole& old_hole()
+{
+    static const stored_hole hole = outcome_of(hole_of(two_woods_and_a_chip));
+    return hole;
+}
+
+const stored_hole& new_hole()
+{
+    static const stored_hole hole = outcome_of(hole_of(drive_pitch_two_putts));
+    return hole;
+}
+
+const QByteArray telling = "telling 5 " + drive_pitch_two_putts.toLatin1() + "\n";
+const QByteArray told_two = telling + "told 5 1\ntold 5 2\n";
+const QByteArray told_all = told_two + "told 5 3\n";
+const QByteArray left = told_all + "left 5\n";
+const QByteArray typed = "typed 5 11111111111\n";
+
+using change = std::function<void(const reader&)>;
+
+/// What a killed program may leave of a hole.
+void lawful_stores()
+{
+    QTest::newRow("left, and all is there")
+        << left << change([](const reader& s) { put_hole(s, new_hole()); });
+    QTest::newRow("nothing was done yet") << telling << change([](const reader&) {});
+    QTest::newRow("the last shot is taken away")
+        << telling << change([](const reader& s) { put_shots(s, old_hole(), 2); });
+    QTest::newRow("all shots are taken away")
+        << telling << change([](const reader& s) { put_shots(s, old_hole(), 0); });
+    QTest::newRow("two shots told and a third begun")
+        << told_two << change([](const reader& s) { put_shots(s, new_hole(), 3); });
+    QTest::newRow("told to the end, not left")
+        << told_all << change([](const reader& s) { put_shots(s, new_hole(), 4); });
+    QTest::newRow("one table is committed") << told_all << change([](const reader& s) {
+        put_shots(s, new_hole(), 4);
+        put_situation(s, new_hole());
+    });
+    QTest::newRow("another hole was opened") << telling << change([](const reader& s) {
+        s.write(QStringLiteral("insert into Stat_rounds (date, hole, shot, fairval) values "
+                               "('20260614093000', 6, 1, 1)"));
+    });
+    QTest::newRow("typed, one table is committed") << typed << change([](const reader& s) {
+        stored_hole ones;
+        ones.figures.fill(1);
+        put_strokes(s, ones);
+    });
+}
+
+/// What it must not leave.
+void unlawful_stores()
+{
+    QTest::newRow("left, and a shot is lost") << left << change([](const reader& s) {
+        put_hole(s, new_hole());
+        put_shots(s, new_hole(), 3);
+    });
+    QTest::newRow("left, and the figures are old")
+        << left << change([](const reader& s) { put_shots(s, new_hole(), 4); });
+    QTest::newRow("left, and the putts are old") << left << change([](const reader& s) {
+        put_hole(s, new_hole());
+        s.write(QStringLiteral("update games2 set putt_len_5_2 = 0"));
+    });
+    QTest::newRow("a shot that was told is lost")
+        << told_two << change([](const reader& s) { put_shots(s, new_hole(), 2); });
+    QTest::newRow("a shot in the middle is taken away")
+        << telling
+        << change([](const reader& s) { s.write(QStringLiteral("delete from Stat_rounds where shot = 2")); });
+    QTest::newRow("a told shot is half there") << told_two << change([](const reader& s) {
+        put_shots(s, new_hole(), 3);
+        s.write(QStringLiteral("update Stat_rounds set shot_type_value = null where shot = 1"));
+    });
+    QTest::newRow("the figures are new before the shots are") << told_two << change([](const reader& s) {
+        put_shots(s, new_hole(), 3);
+        put_strokes(s, new_hole());
+    });
+    QTest::newRow("a table is half new") << told_all << change([](const reader& s) {
+        put_shots(s, new_hole(), 4);
+        s.write(QStringLiteral("update games set putt_5 = 2"));
+    });
+    QTest::newRow("another hole has changed")
+        << told_all
+        << change([](const reader& s) { s.write(QStringLiteral("update games set putt_9 = 2")); });
+    QTest::newRow("a typed table is half new")
+        << typed
+        << change([](const reader& s) { s.write(QStringLiteral("update games set pen_rule_5 = 1")); });
+    QTest::newRow("typing has touched a shot")
+        << typed << change([](const reader& s) { put_shots(s, old_hole(), 2); });
+}
+
+}  // namespace
+
+class test_kept_round : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        QStringList statements;
+        for (const char* table : {"games", "games2", "cost", "Stat_rounds"})
+            statements << u"delete from " + QLatin1String(table);
+        run_.store().write(statements + one_round());
+    }
+
+    void what_a_kill_may_leave_is_taken_data()
+    {
+        add_columns();
+        lawful_stores();
+    }
+    void what_a_kill_may_leave_is_taken() { QCOMPARE(judged(), QString()); }
+
+    void what_a_kill_must_not_leave_is_told_data()
+    {
+        add_columns();
+        unlawful_stores();
+    }
+    void what_a_kill_must_not_leave_is_told() { QVERIFY(judged().startsWith(u"hole ")); }
+
+    void what_is_stored_counts_from_then_on()
+    {
+        kept_round kept(run_.store());
+        put_hole(run_.store(), new_hole());
+        QCOMPARE(kept.compare(understood(left)), QString());
+        QVERIFY(kept.hole(the_hole) == new_hole());
+        QVERIFY(kept.is_told(the_hole));
+        QVERIFY(!kept.is_told(the_hole + 1));
+        QCOMPARE(kept.compare({}), QString());
+        put_shots(run_.store(), new_hole(), 3);
+        QVERIFY(!kept.compare({}).isEmpty());
+    }
+
+    void a_line_that_was_cut_short_says_nothing()
+    {
+        QCOMPARE(understood(telling + "told 5 1").shots_told, 0);
+        QCOMPARE(understood(told_all + "left 5").holes_left(), 0);
+        QCOMPARE(understood(left).holes_left(), 1);
+        QCOMPARE(understood(left).telling, 0);
+    }
+
+private:
+    static void add_columns()
+    {
+        QTest::addColumn<QByteArray>("said");
+        QTest::addColumn<change>("what_happened");
+    }
+
+    QString judged() const
+    {
+        put_hole(run_.store(), old_hole());
+        kept_round kept(run_.store());
+        QFETCH(change, what_happened);
+        QFETCH(QByteArray, said);
+        what_happened(run_.store());
+        return kept.compare(understood(said));
+    }
+
+    const program_run run_{1};
+};
+
+QTEST_MAIN(test_kept_round)
+#include "test_kept_round.moc"

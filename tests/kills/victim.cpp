@@ -1,0 +1,170 @@
+#include "victim.h"
+
+#include <QApplication>
+#include <QRandomGenerator>
+
+#include "language.h"
+#include "last_words.h"
+#include "Main_module.h"
+#include "shot_words.h"
+#include "start_up.h"
+
+namespace verdane::testing {
+
+namespace {
+
+const QString grid = QStringLiteral("details");
+const QString hole_tabs = QStringLiteral("TabStrip1");
+constexpr int last_hole = 18;
+/// The round opens on the first hole: shots of it that a kill left unfinished would keep the window open.
+constexpr int first_detailed_hole = 2;
+
+namespace column {
+enum { number = 1, club = 2, kind = 5, sand = 8, position = 10, penalty = 11 };
+}
+
+void choose(hand& user, int row, int column, const QString& entry)
+{
+    user.open_menu(grid, row, column);
+    user.choose_menu_entry(entry);
+}
+
+bool is_blank(hand& user)
+{
+    return user.grid_rows(grid) == 1 && user.cell(grid, 0, column::club).isEmpty();
+}
+
+/// Takes away what was told of the hole, the last shot first, so that no check stumbles over it.
+void start_anew(hand& user)
+{
+    if (is_blank(user))
+        return;
+    for (int rows = user.grid_rows(grid); rows > 0; rows = user.grid_rows(grid)) {
+        user.click_cell(grid, rows - 1, column::number);
+        user.click(QStringLiteral("CommandSup"));
+    }
+    user.click(QStringLiteral("CommandSuiv"));
+}
+
+void type_distance(hand& user, const told_shot& shot)
+{
+    if (shot.distance == 0)
+        return;
+    user.type(QString::number(shot.distance));
+    user.key(Qt::Key_Return);
+}
+
+void tell_shot(hand& user, int row, const told_shot& shot)
+{
+    choose(user, row, column::club, QStringLiteral("ms1_%1").arg(shot.club));
+    type_distance(user, shot);
+    if (shot.kind == putt)
+        return;
+    choose(user, row, column::kind, QStringLiteral("mshots_%1").arg(shot.kind));
+    if (shot.position != in_the_fairway)
+        choose(user, row, column::position, QStringLiteral("ma_%1").arg(shot.position));
+    if (shot.penalty != 0)
+        choose(user, row, column::penalty, QStringLiteral("mp_%1").arg(shot.penalty));
+    if (shot.sand)
+        choose(user, row, column::sand, QStringLiteral("mb_0"));
+}
+
+/// Behind the first putt the rows come by themselves, with the putter chosen.
+void tell_hole(hand& user, int hole, const told_hole& shots)
+{
+    for (std::size_t i = 0; i < shots.size(); ++i) {
+        const bool came_by_itself = i > 0 && shots[i - 1].kind == putt;
+        if (came_by_itself)
+            type_distance(user, shots[i]);
+        else
+            tell_shot(user, static_cast<int>(i), shots[i]);
+        if (i + 1 == shots.size())
+            break;
+        if (shots[i].kind != putt)
+            user.click(QStringLiteral("CommandSuiv"));
+        say_told(hole, static_cast<int>(i) + 1);
+    }
+}
+
+/// Each save takes one of the 366 places for keys, as long as the program runs, and a quick hand leaves
+/// hundreds of holes in a second.
+void keep_room_for_keys(hand& user)
+{
+    user.look([] {
+        if (Main_module::round_key_count > 300)
+            Main_module::round_key_count = 1;
+    });
+}
+
+void tell_until_killed(hand& user, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    int hole = random.bounded(first_detailed_hole, last_hole + 1);
+    user.click_tab(hole_tabs, hole);
+    user.click_tab(QStringLiteral("TabStrip2"), 2);
+    for (;;) {
+        const told_hole shots = random_hole(random);
+        say_telling(hole, shots);
+        start_anew(user);
+        tell_hole(user, hole, shots);
+        const int next = hole == last_hole ? first_detailed_hole : hole + 1;
+        user.click_tab(hole_tabs, next);
+        say_left(hole);
+        hole = next;
+        keep_room_for_keys(user);
+    }
+}
+
+QString random_figures(QRandomGenerator& random)
+{
+    QString figures;
+    for (int place = 0; place < figures_of_a_hole; ++place)
+        figures += QString::number(random.bounded(10));
+    return figures;
+}
+
+void type_until_killed(hand& user, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    for (int hole = 1;; hole = hole % last_hole + 1) {
+        user.click_tab(hole_tabs, hole);
+        const QString figures = random_figures(random);
+        user.type(figures);
+        say_typed(hole, figures);
+        user.click_tab(hole_tabs, hole % last_hole + 1);
+        say_left(hole);
+        keep_room_for_keys(user);
+    }
+}
+
+}  // namespace
+
+int be_the_victim(bool detailed, quint32 seed)
+{
+    int status = -1;
+    play([&] { status = run_verdane(*qApp); },
+         [detailed, seed](hand& user) {
+             open_the_round(user);
+             if (detailed)
+                 tell_until_killed(user, seed);
+             else
+                 type_until_killed(user, seed);
+         });
+    return status;
+}
+
+void open_the_round(hand& user)
+{
+    user.wait_for_window(QStringLiteral("MainForm"));
+    user.menu(QStringLiteral("mnOPenr"));
+    user.wait_for_window(in_language(u"f_games", u"f_games_en"));
+    user.double_click_row(QStringLiteral("List1"), 0);
+    user.wait_for_window(round_window_name());
+}
+
+QString round_window_name()
+{
+    return in_language(u"f_new_round", u"f_new_round_en");
+}
+
+}  // namespace verdane::testing

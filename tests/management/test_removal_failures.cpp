@@ -1,0 +1,174 @@
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "DataEnvironment1.h"
+#include "recording_frame.h"
+#include "removal_windows.h"
+#include "store_clean_up.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+/// A failure ends the program, so it is tried in a child process: this program again, with a store.
+namespace {
+
+constexpr int not_reached = 77;
+
+/// Another program that is in the middle of its own work on the store.
+void begin_work_elsewhere(Connection1& tool, const QString& path)
+{
+    const QString link = path + u".tool";
+    if (!QFile::link(path, link))
+        qFatal("cannot link the store");
+    tool.Open(link);
+    tool.Execute(u"BEGIN EXCLUSIVE"_s);
+}
+
+/// Removes the second round of three, which the store refuses at some table.
+int run_child(const QString& path, failure_kind kind)
+{
+    language_is_settled = true;
+    data_environment().connection.Open(path);
+    Connection1 tool;
+    if (kind == failure_kind::store_locked)
+        begin_work_elsewhere(tool, path);
+    const recording_frame frame;
+    in_list([kind](hand& user) {
+        user.click_row(u"List1"_s, 1);
+        user.click(u"Command1_3"_s);
+        user.answer(question_on_removal(), QMessageBox::Yes);
+        user.answer({failure_words(kind).in(true), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+    });
+    return not_reached;
+}
+
+void lay_down(const QString& path, const QString& harm)
+{
+    {
+        Connection1 connection;
+        connection.Open(path);
+    }
+    const reader store(path);
+    add_rounds(store, 3);
+    store.write(harm);
+}
+
+/// The store keeps those rows of the second round in a table that also meet a condition.
+QString keep(const QString& table, const QString& condition = u"1"_s)
+{
+    return u"create trigger refuse before delete on %1 when old.date = '%2' and %3 begin "
+           "select raise(abort, 'refused by the test'); end"_s.arg(table, key_of_day(2), condition);
+}
+
+/// Shots of the second round, as "hole.shot".
+QString shots_left(const reader& store)
+{
+    return store.text(
+        u"select ifnull(group_concat(place, ' '), '') from (select hole || '.' || shot as place "
+        "from Stat_rounds where date = '%1' order by hole, shot)"_s.arg(key_of_day(2)));
+}
+
+void tell_nothing_else(hand& user, const QStringList& told)
+{
+    for (const QString& text : told)
+        user.answer({text, QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
+}
+
+}  // namespace
+
+class test_removal_failures : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_failure_between_two_commits_leaves_the_rest_data()
+    {
+        QTest::addColumn<QString>("harm");
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<QString>("shots");
+        const QString all = u"1.1 1.2 2.1 2.2"_s;
+        QTest::newRow("at the strokes") << keep(u"games"_s) << u"1,2,3 | 1,2,3 | 1,2,3 | 1,2,3"_s << all;
+        QTest::newRow("at the situation") << keep(u"games2"_s) << u"1,3 | 1,2,3 | 1,2,3 | 1,2,3"_s << all;
+        QTest::newRow("at the first shot") << keep(u"Stat_rounds"_s) << u"1,3 | 1,3 | 1,2,3 | 1,2,3"_s << all;
+        QTest::newRow("at a later shot") << keep(u"Stat_rounds"_s, u"old.hole = 2 and old.shot = 2"_s)
+                                         << u"1,3 | 1,3 | 1,2,3 | 1,2,3"_s << u"2.2"_s;
+        QTest::newRow("at the costs") << keep(u"cost"_s) << u"1,3 | 1,3 | 1,3 | 1,2,3"_s << QString();
+    }
+    void a_failure_between_two_commits_leaves_the_rest()
+    {
+        QFETCH(QString, harm);
+        QFETCH(QString, left);
+        QFETCH(QString, shots);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        lay_down(path, harm);
+        remove_in_child(path, failure_kind::store_other);
+        QCOMPARE(days_stored(reader(path)), left);
+        QCOMPARE(shots_left(reader(path)), shots);
+    }
+
+    void a_missing_table_is_met_when_its_turn_comes()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        lay_down(path, u"alter table cost rename to money"_s);
+        remove_in_child(path, failure_kind::missing_table);
+        const reader store(path);
+        QCOMPARE(store.text(u"select group_concat(substr(date, 8, 1)) from games"_s), u"1,3"_s);
+        QCOMPARE(shots_left(store), QString());
+    }
+
+    void another_writer_keeps_the_round_whole()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        lay_down(path, u"select 1"_s);
+        remove_in_child(path, failure_kind::store_locked);
+        QCOMPARE(days_stored(reader(path)), u"1,2,3 | 1,2,3 | 1,2,3 | 1,2,3"_s);
+    }
+
+    void the_clean_up_takes_the_shots_that_a_failed_removal_left()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        lay_down(path, keep(u"Stat_rounds"_s, u"old.hole = 2"_s));
+        remove_in_child(path, failure_kind::store_other);
+        QCOMPARE(shots_left(reader(path)), u"2.1 2.2"_s);
+        reader(path).write(u"drop trigger refuse"_s);
+        data_environment().connection.Open(path);
+        play([] { run_event(clean_up_store); },
+             [](hand& user) {
+                 tell_nothing_else(user, {key_of_day(2), u"1"_s, u"Fin"_s});
+             });
+        data_environment().connection.Close();
+        QCOMPARE(days_stored(reader(path)), u"1,3 | 1,3 | 1,3 | 1,2,3"_s);
+    }
+
+private:
+    static void remove_in_child(const QString& path, failure_kind kind)
+    {
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(),
+                    {u"--child"_s, path, QString::number(static_cast<int>(kind))});
+        QVERIFY(child.waitForFinished(120000));
+        const QByteArray said = child.readAllStandardError();
+        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 1);
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == u"--child")
+        return run_child(arguments.value(2), static_cast<failure_kind>(arguments.value(3).toInt()));
+    test_removal_failures test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_removal_failures.moc"

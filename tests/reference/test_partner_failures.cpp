@@ -1,0 +1,163 @@
+#include <QApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "Connection1.h"
+#include "DataEnvironment1.h"
+#include "failure_guard.h"
+#include "language.h"
+#include "partner_windows.h"
+#include "window_look.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+/// What ends the program is tried in a child process: this program again, with a store.
+namespace {
+
+constexpr int not_reached = 77;
+const QString grid = u"pgrid"_s;
+
+void meet(hand& user, failure_kind kind)
+{
+    user.answer({failure_words(kind).in(is_french), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+}
+
+int run_child(const QString& path, const QString& step)
+{
+    language_is_settled = true;
+    is_french = step == u"adding";
+    data_environment().connection.Open(path);
+    const recording_frame frame;
+    play(show_partners, [&](hand& user) {
+        if (step == u"opening") {
+            meet(user, failure_kind::missing_table);
+            return;
+        }
+        user.wait_for_window(partner_window());
+        // A pending edit goes down with the new row: both are one batch.
+        type_into(user, 0, 3, u"Lyon"_s);
+        user.click(u"add"_s);
+        meet(user, failure_kind::store_other);
+    });
+    return not_reached;
+}
+
+void lay_down(const QString& path, const QString& harm)
+{
+    {
+        Connection1 connection;
+        connection.Open(path);
+    }
+    reader(path).write({u"insert into partners (NAME, SURNAME, code) values ('Alder', 'Ann', 1)"_s, harm});
+}
+
+QString refuse(const QString& change)
+{
+    return u"create trigger refuse before %1 on partners begin select raise(abort, 'refused by the test'); "
+           "end"_s.arg(change);
+}
+
+}  // namespace
+
+class test_partner_failures : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_store_that_fails_while_the_window_works_ends_the_program_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<QString>("harm");
+        QTest::newRow("without the table") << u"opening"_s << u"alter table partners rename to persons"_s;
+        QTest::newRow("a new row is refused") << u"adding"_s << refuse(u"insert"_s);
+    }
+    void a_store_that_fails_while_the_window_works_ends_the_program()
+    {
+        QFETCH(QString, step);
+        QFETCH(QString, harm);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        lay_down(path, harm);
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, path, step});
+        QVERIFY(child.waitForFinished(120000));
+        const QByteArray said = child.readAllStandardError();
+        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), 1);
+        if (step == u"adding") {
+            QCOMPARE(reader(path).text(u"select NAME || ifnull(AD2, '-') || code from partners"_s),
+                     u"Alder-1"_s);
+        }
+    }
+
+    void a_missing_name_keeps_the_window_open_although_the_store_refuses_data() { both_languages(); }
+    void a_missing_name_keeps_the_window_open_although_the_store_refuses()
+    {
+        QFETCH(bool, french);
+        const partner_store store(french);
+        store.add_three();
+        store.store.write(refuse(u"update"_s));
+        in_partners([&](hand& user) {
+            user.click_cell(grid, 1, 0);
+            user.key(Qt::Key_Backspace);
+            for (const auto& button : {u"cmdSave"_s, u"cmdAn"_s}) {
+                user.click(button);
+                user.answer(refusal_of_missing_name());
+                user.wait_for_window(partner_window());
+            }
+            user.check(store.frame.locked, u"the menu stays locked"_s);
+            user.close_window(partner_window());
+        });
+        QVERIFY(!store.frame.locked);
+        QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
+    }
+
+    void a_removal_that_the_store_refuses_is_dropped_with_the_window()
+    {
+        const partner_store store;
+        store.add_three();
+        store.store.write(refuse(u"delete"_s));
+        in_partners([](hand& user) {
+            user.click(u"Del"_s);
+            user.answer(question_on_removal(u" Alder Ann"_s), QMessageBox::Yes);
+            user.wait_for_window(partner_window());
+            user.same(user.grid_rows(grid), 2, u"rows"_s);
+            accept_partners(user);
+        });
+        in_partners([](hand& user) {
+            user.same(user.grid_rows(grid), 3, u"rows"_s);
+            accept_partners(user);
+        });
+        QCOMPARE(open_recordsets(), QStringList());
+    }
+
+    void what_waits_is_stored_together_or_not_at_all()
+    {
+        const partner_store store;
+        store.add_three();
+        store.store.write(u"create trigger refuse before update on partners when old.code = 3 begin "
+                          "select raise(abort, 'refused by the test'); end"_s);
+        in_partners([](hand& user) {
+            for (const int row : {0, 1, 2})
+                type_into(user, row, 3, u"Lyon"_s);
+            accept_partners(user);
+        });
+        QCOMPARE(store.store.number(u"select count(*) from partners where AD2 is not null"_s), 0);
+        QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == u"--child")
+        return run_child(arguments.value(2), arguments.value(3));
+    test_partner_failures test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_partner_failures.moc"

@@ -1,0 +1,271 @@
+#include <QTest>
+
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "languages.h"
+#include "Main_module.h"
+#include "round_windows.h"
+#include "shot_entry.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+/// Leaves the window by one of its ways.
+void leave(hand& user, const QString& way)
+{
+    if (way == u"OK") {
+        accept(user);
+        return;
+    }
+    if (way.startsWith(u"Cancel"))
+        user.click(cancel_button);
+    else
+        user.close_window(round_window());
+    const bool yes = way.endsWith(u"Yes");
+    user.answer(question_on_closing(), yes ? QMessageBox::Yes : QMessageBox::No);
+    if (yes)
+        user.answer(notice_of_save());
+    user.wait_until_gone(round_window());
+}
+
+/// How many rows the tables of a round hold: games, games2, cost, shots.
+QString row_counts(const golfer_store& round)
+{
+    QStringList counts;
+    for (const char* table : {"games", "games2", "cost", "Stat_rounds"})
+        counts << round.store.text(QStringLiteral("select count(*) from ") + QLatin1String(table));
+    return counts.join(u' ');
+}
+
+}  // namespace
+
+/// What each way out of the detailed page leaves in the tables, of this round and of others.
+class test_detailed_exits : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void each_way_out_leaves_what_it_should_in_every_table_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("OK") << "OK" << true;
+        QTest::newRow("Cancel, Yes") << "Cancel, Yes" << true;
+        QTest::newRow("Cancel, No") << "Cancel, No" << false;
+        QTest::newRow("title bar, Yes") << "title bar, Yes" << true;
+        QTest::newRow("title bar, No") << "title bar, No" << false;
+    }
+    void each_way_out_leaves_what_it_should_in_every_table()
+    {
+        QFETCH(QString, way);
+        QFETCH(bool, kept);
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            leave(user, way);
+        });
+        // The shots are in the store either way.
+        QCOMPARE(row_counts(round), kept ? QStringLiteral("1 1 1 4") : QStringLiteral("0 0 0 4"));
+        if (kept) {
+            QCOMPARE(stored_figures(round.store, 1), told_hole);
+            QCOMPARE(stored_putts(round.store, 1), told_putts);
+        }
+    }
+
+    void each_way_out_of_a_stored_round_leaves_what_it_should_data()
+    {
+        each_way_out_leaves_what_it_should_in_every_table_data();
+    }
+    void each_way_out_of_a_stored_round_leaves_what_it_should()
+    {
+        QFETCH(QString, way);
+        QFETCH(bool, kept);
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        round.store.store.write(QStringLiteral("update cost set fg = 40, cm = 2"));
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            user.type(QStringLiteral("4"));
+            user.click_tab(hole_tabs, 2);
+            go_to_detailed_page(user);
+            tell_hole(user);
+            leave(user, way);
+        });
+        QCOMPARE(row_counts(round), QStringLiteral("1 1 1 4"));
+        // The hole that was left before is in the store whatever the answer.
+        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("4 0 0 0 0 0 0 0 0 0 0"));
+        QCOMPARE(stored_figures(round.store, 2).startsWith(told_hole), kept);
+        QCOMPARE(stored_putts(round.store, 2), kept ? told_putts : QStringLiteral("0 0 0 0 0 0"));
+        QCOMPARE(round.store.text(QStringLiteral("select fg || ' ' || cm from cost")),
+                 QStringLiteral("40 2"));
+    }
+
+    void a_hole_that_was_only_looked_at_keeps_no_shot_when_the_close_box_leaves_it_data()
+    {
+        QTest::addColumn<bool>("told");
+        QTest::addColumn<int>("shots");
+        QTest::newRow("blank") << false << 0;
+        QTest::newRow("half told") << true << 1;
+    }
+    void a_hole_that_was_only_looked_at_keeps_no_shot_when_the_close_box_leaves_it()
+    {
+        QFETCH(bool, told);
+        QFETCH(int, shots);
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            if (told)
+                tell_shot(user, 0, 1, QString(), 0);
+            user.close_window(round_window());
+            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.answer(question_on_closing(), QMessageBox::Yes);
+            user.answer(notice_of_save());
+        });
+        QCOMPARE(round.shots(1), shots);
+    }
+
+    void leaving_a_hole_gives_its_first_shot_the_par()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        for (const int shot : {1, 2})
+            add_told_shot(round.store, 1, shot, 9, 60 / shot, QStringLiteral("Verges"), 2);
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            accept(user);
+        });
+        QCOMPARE(
+            round.store.text(QStringLiteral("select group_concat(coalesce(normal, '-')) from Stat_rounds")),
+            QStringLiteral("4,-"));
+    }
+
+    void OK_saves_a_detailed_hole_twice_data()
+    {
+        QTest::addColumn<bool>("detailed");
+        QTest::addColumn<int>("saves");
+        QTest::newRow("detailed") << true << 2;
+        QTest::newRow("quick") << false << 1;
+    }
+    void OK_saves_a_detailed_hole_twice()
+    {
+        QFETCH(bool, detailed);
+        QFETCH(int, saves);
+        const golfer_store round;
+        int keys = 0;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            if (detailed)
+                tell_hole(user);
+            else
+                go_to_quick_page(user);
+            user.look([&] { keys = plain(Main_module::round_key_count); });
+            accept(user);
+        });
+        // Each save appends the key.
+        QCOMPARE(plain(Main_module::round_key_count) - keys, saves);
+    }
+
+    void No_closes_the_window_though_its_shots_are_closed_already()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.look([] { data_environment().rsStat_rounds.Close(); });
+            discard(user);
+        });
+        QCOMPARE(row_counts(round), QStringLiteral("0 0 0 0"));
+    }
+
+    void whether_a_blank_shot_was_removed_is_said_to_those_who_ask_data()
+    {
+        QTest::addColumn<int>("asked");
+        QTest::addColumn<bool>("blank");
+        QTest::addColumn<int>("said");
+        QTest::newRow("asked, removed") << 1 << true << 1;
+        QTest::newRow("asked, nothing removed") << 1 << false << 0;
+        QTest::newRow("not asked, removed") << 0 << true << 0;
+        QTest::newRow("not asked, nothing removed") << 0 << false << 0;
+    }
+    void whether_a_blank_shot_was_removed_is_said_to_those_who_ask()
+    {
+        QFETCH(int, asked);
+        QFETCH(bool, blank);
+        QFETCH(int, said);
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            if (!blank)
+                tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            with_round(user, [&](f_new_round& window) {
+                int16 removed = asked;
+                bool ok = false;
+                f_new_round_func::drop_blank_shot(window, removed, ok);
+                QCOMPARE(plain(removed), said);
+                // Only the check, which a removal leaves out, gives the answer.
+                QCOMPARE(ok, !blank);
+                window.unload();
+            });
+        });
+    }
+
+    void shots_that_can_no_longer_be_seen_are_not_opened()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            user.click(QStringLiteral("Command1_2"));
+            user.answer(question_on_closing(), QMessageBox::Cancel);
+            user.wait_for_window(round_window());
+            user.click_tab(hole_tabs, 2);
+            user.click(QStringLiteral("Command4"));
+            accept(user);
+        });
+        QCOMPARE(round.shots(1), 4);
+        QCOMPARE(round.shots(2), 0);
+        QCOMPARE(stored_figures(round.store, 1), told_hole);
+    }
+
+    void a_table_that_a_removal_left_sorted_is_no_hole()
+    {
+        const golfer_store round;
+        round.store.store.write(
+            QStringLiteral("insert into Stat_rounds (date, hole, shot, before, after, stickval, "
+                           "shot_type_value) values ('20230101080000', 1, 1, 77, 9, 5, 1), "
+                           "('20230101080000', 4, 1, 99, 0, 0, 0)"));
+        data_environment().rsStat_rounds.set_Source(
+            QStringLiteral("select * from Stat_rounds order by date,hole"));
+        in_keyed_round([&](hand& user) {
+            user.type(QStringLiteral("112"));
+            accept(user);
+        });
+        QCOMPARE(round.store.text(QStringLiteral("select group_concat(hole || ' ' || shot || ' ' || before "
+                                                 "|| ' ' || coalesce(normal, '-')) from Stat_rounds")),
+                 QStringLiteral("1 1 77 -,4 1 99 -"));
+        QCOMPARE(stored_figures(round.store, 1).left(5), QStringLiteral("1 1 2"));
+    }
+
+    void a_key_with_a_quote_in_it_is_told_like_any_other()
+    {
+        const golfer_store round;
+        in_new_round([&](hand& user) {
+            tee_off(user, QStringLiteral("9'"), QStringLiteral("30"), QStringLiteral("é\""));
+            user.wait_for_window(round_window());
+            go_to_detailed_page(user);
+            tell_hole(user);
+            user.click_tab(hole_tabs, 2);
+            user.click_tab(hole_tabs, 1);
+            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.same(user.grid_rows(details), 4, QStringLiteral("rows"));
+            accept(user);
+        });
+        QCOMPARE(round.store.text(QStringLiteral("select date || ' ' || count(*) from Stat_rounds")),
+                 QStringLiteral("202406149'30é\" 4"));
+        QCOMPARE(stored_figures(round.store, 1), told_hole);
+    }
+};
+
+QTEST_MAIN(test_detailed_exits)
+
+#include "test_detailed_exits.moc"

@@ -1,0 +1,185 @@
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QTest>
+
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "hand_widgets.h"
+#include "languages.h"
+#include "putt_statistics.h"
+#include "report_store.h"
+#include "round_putt_report.h"
+#include "round_windows.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString report = QStringLiteral("report_preview");
+const QString button = QStringLiteral("b_putts");
+
+/// A store that reports read too.
+struct reported_store : golfer_store {
+    explicit reported_store(bool french = true) : golfer_store(french)
+    {
+        set_report_store(data_environment().connection.path());
+    }
+};
+
+/// The report opens above the round window and is closed again.
+void close_report(hand& user)
+{
+    user.wait_until(QStringLiteral("the report"), [] { return visible_window(report) != nullptr; });
+    user.look([] {
+        QWidget* preview = visible_window(report);
+        QCOMPARE(preview->windowTitle(), QStringLiteral("Verdane International Inc."));
+        QCOMPARE(preview->parentWidget()->objectName(), round_window());
+        preview->close();
+    });
+    user.wait_until_gone(report);
+}
+
+void check_control(hand& user)
+{
+    with_round(user, [](f_new_round& window) {
+        QCOMPARE(window.cr2.page_zoom().value_or(0), 75);
+        QCOMPARE(window.cr2.ReportFileName(), QCoreApplication::applicationDirPath() +
+                                                  in_language(u"\\statPuts.rpt", u"\\statPuts_en.rpt"));
+    });
+}
+
+/// The bands of a row (from 1) of a report table that are above 0, as "band=count".
+QString bands(const round_store& store, const QString& table, int row)
+{
+    const auto rows = store.store.rows(
+        QStringLiteral("select band_1, band_2, band_3, band_4, band_5, band_6, band_7 from %1 order by rowid")
+            .arg(table));
+    const auto& wanted = rows[static_cast<std::size_t>(row - 1)];
+    QStringList above_0;
+    for (int band = 1; band <= 7; ++band) {
+        const QString count = wanted[static_cast<std::size_t>(band - 1)].toString();
+        if (count.toInt() > 0)
+            above_0 << QStringLiteral("%1=%2").arg(band).arg(count);
+    }
+    return above_0.join(u' ');
+}
+
+QString head(const round_store& store, const QString& column)
+{
+    return store.text(QStringLiteral("select %1 from s_put1 order by rowid limit 1").arg(column));
+}
+
+}  // namespace
+
+class test_round_putts : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { set_round_putt_report(Statistics::one_round_putt_report); }
+    void cleanupTestCase() { set_round_putt_report({}); }
+
+    void the_putts_of_the_hole_being_told_are_in_the_report_data() { both_languages(); }
+    void the_putts_of_the_hole_being_told_are_in_the_report()
+    {
+        QFETCH(bool, french);
+        const reported_store round(french);
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            user.click(button);
+            close_report(user);
+            check_control(user);
+            // The hole is as it was, and can be told on.
+            user.check(user.visible(details), QStringLiteral("the grid is in sight"));
+            accept(user);
+        });
+        // Putts from 30 and from 4 feet.
+        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("3=1"));
+        QCOMPARE(bands(round.store, QStringLiteral("s_put2"), 3), QStringLiteral("6=1"));
+        QCOMPARE(bands(round.store, QStringLiteral("s_put2"), 7), QStringLiteral("7=1"));
+        QCOMPARE(head(round.store, QStringLiteral("from_date")),
+                 in_language(u"Ronde : 14 Jun 2024 Alpha, BLANC", u"Round : 14 Jun 2024 Alpha, WHITE"));
+        QCOMPARE(head(round.store, QStringLiteral("to_date")),
+                 in_language(u"Conditions atmosphériques : Ensoleillé", u"Weather conditions : Sunny"));
+        QCOMPARE(round.shots(1), 4);
+        QCOMPARE(stored_putts(round.store, 1), told_putts);
+    }
+
+    void a_stored_round_is_reported_from_its_quick_page_by_the_keyboard()
+    {
+        const reported_store round;
+        const QString key = QStringLiteral("20240614093000");
+        round.store.add_round(key);
+        round.store.store.write(
+            QStringLiteral("update games2 set putt_len_3_1 = 52, putt_len_3_2 = 6 where date = '%1'")
+                .arg(key));
+        in_stored_round(key, [&](hand& user) {
+            user.key(Qt::Key_P, Qt::ControlModifier);
+            close_report(user);
+            discard(user);
+        });
+        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("1=1"));
+        QCOMPARE(bands(round.store, QStringLiteral("s_put2"), 1), QStringLiteral("5=1"));
+    }
+
+    void a_round_without_putts_has_an_empty_report()
+    {
+        const reported_store round;
+        in_keyed_round([&](hand& user) {
+            user.click(button);
+            close_report(user);
+            discard(user);
+        });
+        for (int row = 1; row <= 5; ++row)
+            QCOMPARE(bands(round.store, QStringLiteral("s_put1"), row), QString());
+        QCOMPARE(round.store.text(QStringLiteral("select rating_text from s_put2 order by rowid limit 1")),
+                 QStringLiteral("N/A"));
+    }
+
+    void quick_figures_survive_a_report_from_the_detailed_page()
+    {
+        const reported_store round;
+        in_keyed_round([&](hand& user) {
+            user.type(QStringLiteral("11200001000"));
+            go_to_detailed_page(user);
+            user.click(button);
+            close_report(user);
+            user.same(user.grid_rows(details), 1, QStringLiteral("the blank shot"));
+            go_to_quick_page(user);
+            accept(user);
+        });
+        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("1 1 2 0 0 0 0 1 0 0 0"));
+        QCOMPARE(round.shots(1), 0);
+    }
+
+    void an_incomplete_shot_is_told_before_the_report()
+    {
+        const reported_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            leave_second_shot_open(user);
+            user.click(button);
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            close_report(user);
+            user.click(QStringLiteral("CommandSup"));
+            accept(user);
+        });
+        QCOMPARE(round.shots(1), 1);
+    }
+
+    void the_report_of_a_round_goes_with_its_window()
+    {
+        const reported_store round;
+        in_keyed_round([&](hand& user) {
+            user.click(button);
+            user.wait_until(QStringLiteral("the report"), [] { return visible_window(report) != nullptr; });
+            discard(user);
+            user.wait_until_gone(report);
+        });
+    }
+};
+
+QTEST_MAIN(test_round_putts)
+#include "test_round_putts.moc"

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QStringList>
+
+#include "diary.h"
+#include "hand.h"
+#include "selection_arguments.h"
+#include "store_folder.h"
+
+/// What the tests of the putt statistics share.
+namespace verdane::testing {
+
+/// A store with rounds on the first days of a year, without putt lengths; on odd days the weather is 1.
+class stored_rounds {
+public:
+    explicit stored_rounds(int days, bool french = true);
+
+    /// Lengths of a hole's putts, from the first on.
+    void putts(int day, int hole, const QList<int>& lengths) const;
+
+    /// A row of `s_put1` or `s_put2`, counted from 1, as texts by ordinal.
+    QStringList by_first(int row) const;
+    QStringList by_start(int row) const;
+    /// All rows of both.
+    QList<QStringList> grids() const;
+    /// The number of rounds in the head.
+    int rounds_counted() const { return by_first(1).at(26).toInt(); }
+
+    store_folder folder;
+    diary book;
+};
+
+/// The seven counts of a row.
+QStringList bands(const QStringList& row);
+
+/// The rounds between two days, all filters off.
+selection_arguments days(int from, int to);
+
+/// Fills the tables without window and report.
+bool fill_grids(const selection_arguments& chosen);
+
+/// The box that says that no hole with putts was found.
+void answer_no_putts(hand& user);
+
+}  // namespace verdane::testing

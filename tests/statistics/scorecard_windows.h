@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <vector>
+
+#include "diary.h"
+#include "hand.h"
+#include "store_folder.h"
+
+/// What the tests of the scorecard share.
+namespace verdane::testing {
+
+inline const QString preview = QStringLiteral("report_preview");
+
+/// "Pebble Beach" from the golden tee.
+diary_course pebble();
+
+/// A store with a course from two tees and another one, and averages of the clubs.
+class stocked_store {
+public:
+    explicit stocked_store(bool french = true);
+
+    /// A row of `r_card`, counted from 1, by ordinal.
+    std::vector<QVariant> card(int row) const;
+
+private:
+    store_folder folder_;
+
+public:
+    const diary book;
+};
+
+/// "f_carte", or its twin in the language of this moment.
+QString scorecard_window();
+
+/// Opens the scorecard window, runs the script and leaves through the cancel button.
+void in_scorecard_window(const std::function<void(hand&)>& script);
+
+/// Chooses a course by its line (from 0) and presses OK.
+void print_card(hand& user, int course);
+/// Waits until the scorecard's report is open, compares how it was launched and closes it.
+void close_card(hand& user);
+
+}  // namespace verdane::testing

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "diary.h"
+#include "selection_arguments.h"
+#include "store_folder.h"
+
+/// What the tests of the club statistics share.
+namespace verdane::testing {
+
+/// A store with rounds on the first days of a year, without shots; on odd days the weather is 1, and the
+/// first round has a partner.
+class stored_shots {
+public:
+    explicit stored_shots(int days, bool french = true);
+
+    /// A shot of a day's round: before, after, unit, fairway, penalty, missed and kind as SQL values.
+    void shot(int day, int club, const QString& values) const;
+
+    /// The row of a club (1 to 14) in `stat_sticks`, as texts by ordinal.
+    QStringList club(int number) const;
+
+    store_folder folder;
+    diary book;
+};
+
+/// The rounds between two days, all filters off.
+selection_arguments rounds_of_days(int from, int to);
+
+/// Fills the table without window and report; false where no shot was found.
+bool fill_clubs(const selection_arguments& chosen);
+/// The same for a selection without shots, answering the box that says so.
+void fill_in_vain(const selection_arguments& chosen);
+
+/// The nine figures of a club without shots.
+inline const QStringList zeros(9, QStringLiteral("0"));
+
+}  // namespace verdane::testing

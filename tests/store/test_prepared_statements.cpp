@@ -1,0 +1,166 @@
+#include <QTest>
+
+#include "failures.h"
+#include "prepared_statements.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::store_fixture;
+using testing::stored_names;
+
+namespace {
+
+const QString all_partners = QStringLiteral("select * from partners");
+const QString all_rounds = QStringLiteral("select * from games2");
+
+void add_partner(Recordset& partners, const QString& name, const QVariant& telephone = {})
+{
+    partners.AddNew();
+    partners.Fields(u"NAME").set(name);
+    partners.Fields(u"TEL").set(telephone);
+    partners.Update();
+}
+
+QString stored_telephones(const store_fixture& store)
+{
+    QStringList texts;
+    for (const auto& row : store.outside().rows(QStringLiteral("select TEL from partners order by rowid")))
+        texts += row[0].isNull() ? QStringLiteral("null") : row[0].toString();
+    return texts.join(u' ');
+}
+
+}  // namespace
+
+/// Writing the same columns again and again, which is done with one statement that is kept ready.
+class test_prepared_statements : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void each_new_row_has_its_own_values_and_nulls()
+    {
+        store_fixture store;
+        const auto partners = store.opened(all_partners);
+        add_partner(*partners, QStringLiteral("a"), QStringLiteral("1"));
+        add_partner(*partners, QStringLiteral("b"));
+        add_partner(*partners, QStringLiteral("c"), QStringLiteral("3"));
+        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_telephones(store), QStringLiteral("1 null 3"));
+    }
+
+    void each_changed_row_has_its_own_values_and_nulls()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        const auto partners = store.opened(all_partners);
+        for (const QVariant& value :
+             {QVariant(QStringLiteral("1")), QVariant(), QVariant(QStringLiteral("3"))}) {
+            partners->Fields(u"TEL").set(QStringLiteral("before"));
+            partners->Update();
+            partners->Fields(u"TEL").set(value);
+            partners->MoveNext();
+        }
+        QCOMPARE(stored_telephones(store), QStringLiteral("1 null 3"));
+    }
+
+    void rows_are_removed_one_after_the_other()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        const auto partners = store.opened(all_partners);
+        partners->Delete();
+        partners->MoveNext();
+        partners->Delete();
+        QCOMPARE(stored_names(store), QStringLiteral("c"));
+    }
+
+    void more_kinds_of_rows_than_are_kept_are_written_all_the_same()
+    {
+        store_fixture store;
+        const auto rounds = store.opened(all_rounds);
+        rounds->AddNew();
+        rounds->Update();
+        constexpr int kinds = static_cast<int>(prepared_statements::most_kept) * 2;
+        for (int turn = 1; turn <= 2; ++turn) {
+            for (int column = 3; column < 3 + kinds; ++column) {
+                rounds->Fields(column).set(100 * turn + column);
+                rounds->Update();
+            }
+        }
+        const auto row = store.outside().rows(all_rounds).front();
+        for (std::size_t column = 3; column < 3 + kinds; ++column)
+            QCOMPARE(row[column].toInt(), 200 + static_cast<int>(column));
+    }
+
+    void the_next_store_is_written_after_the_first_was_closed()
+    {
+        store_fixture store;
+        store_fixture other;
+        other.connection.Close();
+        const auto partners = store.opened(all_partners);
+        add_partner(*partners, QStringLiteral("a"));
+        partners->Close();
+        store.connection.Close();
+        store.connection.Open(other.path());
+        partners->Open();
+        add_partner(*partners, QStringLiteral("b"));
+        QCOMPARE(stored_names(other), QStringLiteral("b"));
+        QCOMPARE(stored_names(store), QStringLiteral("a"));
+    }
+
+    void a_table_that_went_is_told_and_written_again_once_it_is_back()
+    {
+        store_fixture store;
+        const auto partners = store.opened(all_partners);
+        add_partner(*partners, QStringLiteral("a"));
+        store.outside().write(QStringLiteral("alter table partners rename to away"));
+        QVERIFY(failure_of([&] { add_partner(*partners, QStringLiteral("b")); }) ==
+                failure_kind::missing_table);
+        QVERIFY(partners->pending());
+        store.outside().write(QStringLiteral("alter table away rename to partners"));
+        partners->Update();
+        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+    }
+
+    void a_refused_row_is_told_with_its_statement_and_written_later()
+    {
+        store_fixture store;
+        const auto partners = store.opened(all_partners);
+        add_partner(*partners, QStringLiteral("a"));
+        store.outside().write(QStringLiteral("create trigger no before insert on partners "
+                                             "begin select raise(abort, 'not now'); end"));
+        partners->AddNew();
+        partners->Fields(u"NAME").set(QStringLiteral("b"));
+        partners->Fields(u"TEL").set(QVariant());
+        try {
+            partners->Update();
+            QFAIL("the row was written");
+        } catch (const run_time_failure& failure) {
+            QVERIFY2(failure.details().contains(u"INSERT INTO `partners` (`NAME`,`TEL`)"),
+                     qUtf8Printable(failure.details()));
+            QVERIFY(failure.details().contains(u"not now"));
+            QVERIFY(failure.details().contains(u"rstest"));
+        }
+        store.outside().write(QStringLiteral("drop trigger no"));
+        partners->Update();
+        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+    }
+
+    void a_kept_statement_holds_nothing_that_another_program_waits_for()
+    {
+        store_fixture store;
+        const auto partners = store.opened(all_partners);
+        add_partner(*partners, QStringLiteral("a"));
+        partners->MoveFirst();
+        partners->Fields(u"TEL").set(QStringLiteral("1"));
+        partners->Update();
+        store.outside().write({QStringLiteral("begin exclusive"), QStringLiteral("delete from partners"),
+                               QStringLiteral("commit")});
+        QCOMPARE(stored_names(store), QString());
+        partners->Fields(u"TEL").set(QStringLiteral("2"));
+        QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::misuse);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_prepared_statements)
+#include "test_prepared_statements.moc"

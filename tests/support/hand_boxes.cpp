@@ -1,0 +1,49 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QPointer>
+#include <QTest>
+
+#include "hand.h"
+#include "hand_thread.h"
+
+/// What the hand does with message boxes.
+namespace verdane::testing {
+
+namespace {
+
+QString described(const expected_box& box)
+{
+    return QStringLiteral("title \"%1\", icon %2, buttons %3, text \"%4\"")
+        .arg(box.title)
+        .arg(static_cast<int>(box.icon))
+        .arg(static_cast<int>(box.buttons), 0, 16)
+        .arg(box.text);
+}
+
+expected_box shown_box(const QMessageBox& box)
+{
+    return {box.text(), box.icon(), box.windowTitle(), box.standardButtons()};
+}
+
+QMessageBox* box_on_top()
+{
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+}  // namespace
+
+void hand::answer(const expected_box& box, QMessageBox::StandardButton answer)
+{
+    wait_until(u"a message box: " + described(box), [] { return box_on_top() != nullptr; });
+    const auto seen = asked<expected_box>([] { return shown_box(*box_on_top()); });
+    same(described(seen), described(box), QStringLiteral("message box"));
+    const QPointer<QMessageBox> answered = asked<QMessageBox*>([] { return box_on_top(); });
+    post([answered, answer] {
+        if (answered)
+            QTest::mouseClick(static_cast<QWidget*>(answered->button(answer)), Qt::LeftButton);
+    });
+    wait_until(QStringLiteral("the end of the message box"),
+               [&] { return !answered || !answered->isVisible(); });
+}
+
+}  // namespace verdane::testing

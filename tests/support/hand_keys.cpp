@@ -1,0 +1,62 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QTest>
+
+#include <cstdlib>
+
+#include "hand.h"
+
+/// What the hand does with the keyboard.
+namespace verdane::testing {
+
+void hand::choose(const QString& combo, int index)
+{
+    on_control(combo, [](QWidget& found) { found.setFocus(Qt::TabFocusReason); });
+    const int steps = index - selected(combo);
+    for (int i = 0; i < std::abs(steps); ++i)
+        key(steps > 0 ? Qt::Key_Down : Qt::Key_Up);
+    same(selected(combo), index, u"entry chosen in " + combo);
+}
+
+void hand::type(const QString& characters)
+{
+    wait_for_keyboard();
+    for (const QChar character : characters) {
+        post([character] {
+            if (QWidget* focused = QApplication::focusWidget())
+                QTest::sendKeyEvent(QTest::Click, focused,
+                                    static_cast<Qt::Key>(character.toUpper().unicode()), QString(character),
+                                    Qt::NoModifier);
+        });
+    }
+}
+
+void hand::fill(const QString& box, const QString& characters)
+{
+    click(box);
+    key(Qt::Key_A, Qt::ControlModifier);
+    key(Qt::Key_Delete);
+    type(characters);
+}
+
+void hand::paste(const QString& box, const QString& text)
+{
+    click(box);
+    look([&] { QApplication::clipboard()->setText(text); });
+    key(Qt::Key_A, Qt::ControlModifier);
+    key(Qt::Key_V, Qt::ControlModifier);
+}
+
+void hand::key(int key, Qt::KeyboardModifiers modifiers)
+{
+    wait_for_keyboard();
+    post([key, modifiers] {
+        QWidget* target = QApplication::focusWidget();
+        if (!target)
+            target = QApplication::activeWindow();
+        if (target)
+            QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
+    });
+}
+
+}  // namespace verdane::testing

@@ -1,0 +1,114 @@
+#include <QAction>
+#include <QApplication>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTest>
+
+#include <cstdio>
+
+#include "hand.h"
+#include "hand_thread.h"
+#include "hand_widgets.h"
+
+/// What the hand does with the mouse.
+namespace verdane::testing {
+
+namespace {
+
+QPoint middle_of_row(const QListWidget& list, int row)
+{
+    return list.visualItemRect(list.item(row)).center();
+}
+
+/// The menu that holds the entry; null for an entry of the menu bar itself.
+QMenu* menu_of(const QAction& entry)
+{
+    QMenu* menu = nullptr;
+    for (QObject* owner : entry.associatedObjects()) {
+        if (qobject_cast<QMenuBar*>(owner))
+            return nullptr;
+        if (auto* found = qobject_cast<QMenu*>(owner))
+            menu = found;
+    }
+    return menu;
+}
+
+void click_action(QWidget& owner, const QRect& where)
+{
+    QTest::mouseClick(&owner, Qt::LeftButton, Qt::NoModifier, where.center());
+}
+
+}  // namespace
+
+void hand::click(const QString& control)
+{
+    on_control(control, [&](QWidget& found) {
+        if (!found.isVisible() || !found.isEnabled())
+            std::fprintf(stderr, "note: %s is not to be clicked\n", qUtf8Printable(control));
+    });
+    check(asked<bool>([&] { return find_control(control)->isVisible(); }), control + u" is not visible");
+    post([control] {
+        if (QWidget* found = find_control(control))
+            QTest::mouseClick(found, Qt::LeftButton);
+    });
+}
+
+void hand::click_row(const QString& list, int row)
+{
+    on_control(list, [](QWidget&) {});
+    post([list, row] {
+        auto& rows = dynamic_cast<QListWidget&>(*find_control(list));
+        rows.scrollToItem(rows.item(row));
+        QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, middle_of_row(rows, row));
+    });
+}
+
+void hand::double_click_row(const QString& list, int row)
+{
+    click_row(list, row);
+    post([list, row] {
+        auto& rows = dynamic_cast<QListWidget&>(*find_control(list));
+        QTest::mouseDClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, middle_of_row(rows, row));
+    });
+}
+
+void hand::click_tab(const QString& tabs, int tab)
+{
+    on_control(tabs, [](QWidget&) {});
+    post([tabs, tab] {
+        auto& bar = dynamic_cast<QTabBar&>(*find_control(tabs));
+        QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(tab - 1).center());
+    });
+}
+
+void hand::menu(const QString& entry)
+{
+    wait_until(u"menu entry " + entry, [&] { return find_action(entry) != nullptr; });
+    post([entry] {
+        QAction* action = find_action(entry);
+        QMenu* menu = menu_of(*action);
+        QAction* top = menu ? menu->menuAction() : action;
+        for (QObject* owner : top->associatedObjects()) {
+            if (auto* bar = qobject_cast<QMenuBar*>(owner))
+                click_action(*bar, bar->actionGeometry(top));
+        }
+    });
+    post([entry] {
+        QWidget* popup = QApplication::activePopupWidget();
+        auto* menu = qobject_cast<QMenu*>(popup);
+        for (QAction* action : menu ? menu->actions() : QList<QAction*>()) {
+            if (action->objectName() == entry)
+                return click_action(*menu, menu->actionGeometry(action));
+        }
+    });
+}
+
+void hand::close_window(const QString& window)
+{
+    wait_for_window(window);
+    post([window] { visible_window(window)->close(); });
+}
+
+}  // namespace verdane::testing
