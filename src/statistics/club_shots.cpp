@@ -86,7 +86,7 @@ gathered_shots gather_club_shots(const selection_arguments& chosen)
 {
     Recordset& shots = data_environment().rsStat_rounds;
     shots.set_Source(club_shot_select(chosen));
-    shots.Open();
+    shots.Open(row_reading::one_by_one);
     const gathered_shots gathered = add_up(shots);
     shots.Close();
     shots.set_Source(shots.settings().source);

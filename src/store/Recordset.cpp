@@ -55,6 +55,8 @@ void Recordset::Open(row_reading reading)
     rows_->forget_rows();
     if (reading == row_reading::at_once)
         rows_->set = read_rows(rows_->connection, rows_->source, rows_->where());
+    if (reading == row_reading::one_by_one)
+        rows_->open_stream();
     rows_->unread = reading == row_reading::when_needed;
     rows_->open = true;
 }
@@ -76,6 +78,7 @@ void Recordset::Requery()
     rows_->commit_on_leaving();
     if (rows_->unread)
         return;
+    rows_->need_all_rows();
     // Read first: when that fails, the recordset is as it was.
     row_set fresh = read_rows(rows_->connection, rows_->source, rows_->where());
     rows_->forget_rows();
@@ -84,7 +87,7 @@ void Recordset::Requery()
 
 bool Recordset::bof() const
 {
-    rows_->need_rows();
+    rows_->need_all_rows();
     return rows_->count() == 0 || rows_->place < 0;
 }
 
@@ -96,19 +99,19 @@ bool Recordset::eof() const
 
 bool Recordset::empty() const
 {
-    rows_->need_rows();
+    rows_->need_all_rows();
     return rows_->count() == 0;
 }
 
 int Recordset::RecordCount() const
 {
-    rows_->need_rows();
+    rows_->need_all_rows();
     return rows_->count();
 }
 
 int Recordset::position() const
 {
-    rows_->need_rows();
+    rows_->need_all_rows();
     return rows_->on_row() ? rows_->place : -1;
 }
 
@@ -130,7 +133,10 @@ void Recordset::MoveLast()
 
 void Recordset::MoveNext()
 {
-    Move(1);
+    if (rows_->stream != nullptr)
+        rows_->pass_to_next(*rows_->stream);
+    else
+        Move(1);
 }
 
 void Recordset::MovePrevious()
@@ -212,7 +218,7 @@ column_type Recordset::field_type(int ordinal) const
 
 QVariant Recordset::value_at(int row, int ordinal) const
 {
-    rows_->need_rows();
+    rows_->need_all_rows();
     if (row < 0 || row >= rows_->count())
         rows_->fail(failure_kind::misuse, QStringLiteral("there is no row %1").arg(row));
     return rows_->set.rows[static_cast<std::size_t>(row)]

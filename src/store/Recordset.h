@@ -17,10 +17,19 @@ class Recordset;
 enum class cursor_type { dynamic, fixed };
 enum class lock_type { optimistic, batch_optimistic };
 enum class cursor_location { server, client };
-/// When the rows of a statement are read: as it is opened, or once something asks for one of them. The
-/// second is for a whole table that is open in case it is needed; what is wrong with the statement then
-/// comes out at that moment too.
-enum class row_reading { at_once, when_needed };
+/// When the rows of a statement are read.
+enum class row_reading {
+    /// As it is opened.
+    at_once,
+    /// All of them, once something asks for one. For a whole table that is open in case it is needed; what
+    /// is wrong with the statement comes out at that moment too.
+    when_needed,
+    /// Each as the walk comes to it, the one before let go: for a statement over the whole diary, whose rows
+    /// in memory at once would be many times what is asked of them. They can only be read, and `MoveNext` is
+    /// the only way; what needs the other rows (any other move, counting, finding, `bof`, `empty`,
+    /// `Requery`) fails with `misuse`.
+    one_by_one
+};
 enum class search_direction { forward = 1, backward = -1 };
 
 /// Which rows a batch update writes. Both commit everything that is pending.

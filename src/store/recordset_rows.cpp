@@ -34,6 +34,28 @@ void Recordset::rows::need_rows()
     unread = false;
 }
 
+void Recordset::rows::need_all_rows()
+{
+    need_rows();
+    if (stream != nullptr)
+        fail(failure_kind::misuse, QStringLiteral("its rows are read one by one"));
+}
+
+void Recordset::rows::open_stream()
+{
+    auto rows_to_come = std::make_unique<row_stream>(connection, source, where(), row_use::read_only);
+    set = rows_to_come->columns();
+    pass_to_next(*rows_to_come);
+    stream = std::move(rows_to_come);
+}
+
+void Recordset::rows::pass_to_next(row_stream& rows_to_come)
+{
+    set.rows.clear();
+    if (auto row = rows_to_come.next(set))
+        set.rows.push_back(std::move(row));
+}
+
 recordset_row& Recordset::rows::current()
 {
     need_rows();
@@ -64,6 +86,7 @@ void Recordset::rows::stand_at(int target)
 
 void Recordset::rows::forget_rows()
 {
+    stream.reset();
     set = {};
     removed.clear();
     stand_at(0);
@@ -80,7 +103,7 @@ void Recordset::rows::commit_on_leaving()
 
 void Recordset::rows::leave_row()
 {
-    need_rows();
+    need_all_rows();
     commit_on_leaving();
 }
 

@@ -58,6 +58,26 @@ struct row_set {
     row_list rows;
 };
 
+/// What rows are read for: to be written is only for those of a plain table.
+enum class row_use { read_and_write, read_only };
+
+/// The rows of a statement in the order in which the engine hands them out.
+class row_stream {
+public:
+    /// Runs the statement. `where` names it in a failure.
+    row_stream(const Connection1& connection, const QString& statement, QString where, row_use use);
+
+    /// The columns, without a row.
+    row_set columns() const;
+    /// The next row, read for these columns; nothing behind the last.
+    std::unique_ptr<recordset_row> next(const row_set& columns);
+
+private:
+    QString where_;
+    select_statement shape_;
+    QSqlQuery query_;
+};
+
 /// Runs a statement and reads all its rows. `where` names it in a failure.
 row_set read_rows(const Connection1& connection, const QString& statement, const QString& where);
 
@@ -75,6 +95,8 @@ struct Recordset::rows {
     /// Open, and its rows are still to be read.
     bool unread = false;
     row_set set;
+    /// What is still to come, when the rows are read one by one; `set` then holds the current row alone.
+    std::unique_ptr<row_stream> stream;
     std::vector<removed_row> removed;
     /// The current row; -1 before the first, the number of rows behind the last. In a gap it is the
     /// place of the row that follows the deleted one.
@@ -105,6 +127,11 @@ struct Recordset::rows {
     void need_open() const;
     /// Reads the rows of a recordset that was opened without them.
     void need_rows();
+    /// The same for what a walk row by row cannot give.
+    void need_all_rows();
+    void open_stream();
+    /// Puts the next row in the place of the current one.
+    void pass_to_next(row_stream& rows_to_come);
     recordset_row& current();
     find_criterion read_criterion(const QString& criterion) const;
     int checked_ordinal(int ordinal) const;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 /// From a statement to rows in memory.
 namespace verdane {
@@ -86,19 +87,38 @@ std::unique_ptr<recordset_row> read_row(const QSqlQuery& query, const row_set& s
 
 }  // namespace
 
-row_set read_rows(const Connection1& connection, const QString& statement, const QString& where)
+row_stream::row_stream(const Connection1& connection, const QString& statement, QString where, row_use use)
+    : where_(std::move(where)), shape_(read_select(statement)), query_(connection.database())
+{
+    shape_.updatable = shape_.updatable && use == row_use::read_and_write;
+    query_.setForwardOnly(true);
+    if (!query_.exec(shape_.updatable ? with_row_number(statement, shape_) : statement))
+        throw store_failure(query_.lastError(), where_);
+}
+
+row_set row_stream::columns() const
 {
     row_set set;
-    set.shape = read_select(statement);
-    QSqlQuery query(connection.database());
-    query.setForwardOnly(true);
-    if (!query.exec(set.shape.updatable ? with_row_number(statement, set.shape) : statement))
-        throw store_failure(query.lastError(), where);
-    read_columns(set, query.record());
-    while (query.next())
-        set.rows.push_back(read_row(query, set));
-    if (query.lastError().isValid())
-        throw store_failure(query.lastError(), where);
+    set.shape = shape_;
+    read_columns(set, query_.record());
+    return set;
+}
+
+std::unique_ptr<recordset_row> row_stream::next(const row_set& columns)
+{
+    if (query_.next())
+        return read_row(query_, columns);
+    if (query_.lastError().isValid())
+        throw store_failure(query_.lastError(), where_);
+    return nullptr;
+}
+
+row_set read_rows(const Connection1& connection, const QString& statement, const QString& where)
+{
+    row_stream stream(connection, statement, where, row_use::read_and_write);
+    row_set set = stream.columns();
+    while (auto row = stream.next(set))
+        set.rows.push_back(std::move(row));
     return set;
 }
 

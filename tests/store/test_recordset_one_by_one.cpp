@@ -1,0 +1,150 @@
+#include <QTest>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "failures.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::store_fixture;
+using testing::stored_names;
+
+namespace {
+
+/// A recordset on the partners "a", "b" and "c", open to be walked through once.
+class passing_partners {
+public:
+    passing_partners()
+    {
+        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        rows = store.recordset(QStringLiteral("select * from partners"));
+        rows->Open(row_reading::one_by_one);
+    }
+
+    store_fixture store;
+    std::unique_ptr<Recordset> rows;
+};
+
+QString names_on_the_way(Recordset& rows)
+{
+    QStringList names;
+    for (; !rows.eof(); rows.MoveNext())
+        names << rows.Fields(u"NAME").text();
+    return names.join(u' ');
+}
+
+}  // namespace
+
+class test_recordset_one_by_one : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void each_row_is_met_once()
+    {
+        passing_partners partners;
+        QCOMPARE(names_on_the_way(*partners.rows), QStringLiteral("a b c"));
+        QVERIFY(partners.rows->eof());
+        partners.rows->MoveNext();
+        QVERIFY(partners.rows->eof());
+        QVERIFY(failure_of([&] { partners.rows->Fields(0).value(); }) == failure_kind::misuse);
+    }
+
+    void columns_stand_where_they_stand_otherwise()
+    {
+        passing_partners partners;
+        const auto whole = partners.store.recordset(QStringLiteral("select * from partners"));
+        whole->Open();
+        QCOMPARE(partners.rows->field_count(), whole->field_count());
+        for (int i = 0; i < whole->field_count(); ++i) {
+            QCOMPARE(partners.rows->field_name(i), whole->field_name(i));
+            QCOMPARE(partners.rows->Fields(i).value().toString(), whole->Fields(i).value().toString());
+        }
+    }
+
+    void a_join_can_be_walked_so()
+    {
+        passing_partners partners;
+        const auto pairs = partners.store.recordset(
+            QStringLiteral("select one.NAME, other.NAME from partners one, partners other "
+                           "where one.NAME < other.NAME order by one.NAME, other.NAME"));
+        pairs->Open(row_reading::one_by_one);
+        QStringList met;
+        for (; !pairs->eof(); pairs->MoveNext())
+            met << pairs->Fields(0).text() + pairs->Fields(1).text();
+        QCOMPARE(met, (QStringList{QStringLiteral("ab"), QStringLiteral("ac"), QStringLiteral("bc")}));
+    }
+
+    void a_statement_without_rows_is_at_its_end()
+    {
+        passing_partners partners;
+        const auto none = partners.store.recordset(QStringLiteral("select * from partners where NAME = 'z'"));
+        none->Open(row_reading::one_by_one);
+        QVERIFY(none->eof());
+        QVERIFY(none->field_count() > 0);
+    }
+
+    void what_needs_the_other_rows_is_misuse_data()
+    {
+        QTest::addColumn<int>("act");
+        for (int act = 0; act < 11; ++act)
+            QTest::addRow("act %d", act) << act;
+    }
+    void what_needs_the_other_rows_is_misuse()
+    {
+        QFETCH(int, act);
+        passing_partners partners;
+        Recordset& rows = *partners.rows;
+        const std::vector<std::function<void()>> acts{
+            [&] { rows.MoveFirst(); },
+            [&] { rows.MoveLast(); },
+            [&] { rows.MovePrevious(); },
+            [&] { rows.Move(2); },
+            [&] { rows.MoveTo(1); },
+            [&] { rows.Find(QStringLiteral("NAME = 'b'")); },
+            [&] { rows.Requery(); },
+            [&] { (void)rows.RecordCount(); },
+            [&] { (void)rows.bof(); },
+            [&] { (void)rows.empty(); },
+            [&] { (void)rows.value_at(0, 0); },
+        };
+        QVERIFY(failure_of(acts.at(static_cast<std::size_t>(act))) == failure_kind::misuse);
+        QCOMPARE(names_on_the_way(rows), QStringLiteral("a b c"));
+    }
+
+    void its_rows_cannot_be_written()
+    {
+        passing_partners partners;
+        Recordset& rows = *partners.rows;
+        QVERIFY(failure_of([&] { rows.Fields(u"NAME").set(QStringLiteral("z")); }) == failure_kind::misuse);
+        QVERIFY(failure_of([&] { rows.AddNew(); }) == failure_kind::misuse);
+        QVERIFY(failure_of([&] { rows.Delete(); }) == failure_kind::misuse);
+        QCOMPARE(stored_names(partners.store), QStringLiteral("a b c"));
+    }
+
+    void closing_in_the_middle_lets_go_of_the_store()
+    {
+        passing_partners partners;
+        partners.rows->MoveNext();
+        partners.rows->Close();
+        QVERIFY(failure_of([&] { partners.rows->MoveNext(); }) == failure_kind::misuse);
+        partners.rows->Open();
+        QCOMPARE(partners.rows->RecordCount(), 3);
+        partners.rows->Delete();
+        QCOMPARE(stored_names(partners.store), QStringLiteral("b c"));
+    }
+
+    void a_table_that_is_not_there_comes_out_at_the_opening()
+    {
+        store_fixture store;
+        const auto rows = store.recordset(QStringLiteral("select * from no_such_table"));
+        QVERIFY(failure_of([&] { rows->Open(row_reading::one_by_one); }) == failure_kind::missing_table);
+        QVERIFY(!rows->is_open());
+        QVERIFY(failure_of([&] { rows->MoveNext(); }) == failure_kind::misuse);
+    }
+};
+
+QTEST_MAIN(test_recordset_one_by_one)
+#include "test_recordset_one_by_one.moc"
