@@ -3,13 +3,11 @@
 set(verdane_id io.verdane.Verdane)
 set(verdane_home lib/verdane)
 
-if(TARGET verdane)
-  install(TARGETS verdane RUNTIME DESTINATION ${verdane_home})
-  install(CODE [[
-    set(commands "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
-    file(MAKE_DIRECTORY "${commands}")
-    file(CREATE_LINK ../lib/verdane/verdane "${commands}/verdane" SYMBOLIC)]])
-endif()
+install(TARGETS verdane RUNTIME DESTINATION ${verdane_home})
+install(CODE [[
+  set(commands "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
+  file(MAKE_DIRECTORY "${commands}")
+  file(CREATE_LINK ../lib/verdane/verdane "${commands}/verdane" SYMBOLIC)]])
 
 install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING PATTERN "*.rpt")
 install(FILES packaging/${verdane_id}.desktop DESTINATION share/applications)
