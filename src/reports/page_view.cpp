@@ -62,13 +62,14 @@ void page_view::set_zoom(int percent)
 
 void page_view::zoom_to(int percent)
 {
+    const std::optional<int> asked_page = asked_page_;
     const bool at_top = verticalScrollBar()->value() == 0;
     const double middle = viewport()->height() / 2.0;
     const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->page_count());
     zoom_ = qBound(least_zoom, percent, most_zoom);
     set_up_scroll_bars();
     // What stands at the top stays there: a view that is not laid out yet has no middle to keep.
-    scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle));
+    scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle), asked_page);
 }
 
 void page_view::zoom_in()
@@ -96,29 +97,54 @@ void page_view::zoom_to_width()
     zoom_to(static_cast<int>(room / true_width * 100.0));
 }
 
+bool page_view::is_seen(int page) const
+{
+    const int seen = page_rect(page).intersected(viewport()->rect()).height();
+    return 2 * seen >= qMin(page_size().height(), viewport()->height());
+}
+
+int page_view::topmost_page() const
+{
+    const int half = qMin(page_size().height() + 2 * gap, viewport()->height()) / 2;
+    const int page = (verticalScrollBar()->value() + half - gap / 2) / (page_size().height() + gap);
+    return qBound(0, page, document_->page_count() - 1);
+}
+
 int page_view::current_page() const
 {
-    const int middle = verticalScrollBar()->value() + viewport()->height() / 2;
-    const int page = (middle - gap / 2) / (page_size().height() + gap);
-    return qBound(0, page, document_->page_count() - 1);
+    if (asked_page_ && is_seen(*asked_page_))
+        return *asked_page_;
+    const QScrollBar* bar = verticalScrollBar();
+    const bool at_end = bar->maximum() > 0 && bar->value() == bar->maximum();
+    const bool has_room = page_size().height() <= viewport()->height();
+    return at_end && has_room ? document_->page_count() - 1 : topmost_page();
 }
 
 void page_view::previous_page()
 {
-    const int here = page_top(current_page()) - gap;
-    const bool is_inside = verticalScrollBar()->value() > here;
-    scroll_to(is_inside ? here : page_top(qMax(0, current_page() - 1)) - gap);
+    const int page = current_page();
+    const bool is_inside = verticalScrollBar()->value() > page_top(page);
+    turn_to(is_inside ? page : qMax(0, page - 1));
 }
 
 void page_view::next_page()
 {
-    const bool is_last = current_page() + 1 >= document_->page_count();
-    scroll_to(is_last ? verticalScrollBar()->maximum() : page_top(current_page() + 1) - gap);
+    const int last = document_->page_count() - 1;
+    if (current_page() < last)
+        turn_to(current_page() + 1);
+    else
+        scroll_to(verticalScrollBar()->maximum(), last);
 }
 
-void page_view::scroll_to(int y)
+void page_view::turn_to(int page)
+{
+    scroll_to(page_top(page) - gap, page);
+}
+
+void page_view::scroll_to(int y, std::optional<int> asked_page)
 {
     verticalScrollBar()->setValue(y);
+    asked_page_ = asked_page;
     viewport()->update();
     if (on_change)
         on_change();
@@ -164,8 +190,10 @@ void page_view::resizeEvent(QResizeEvent* event)
         on_change();
 }
 
-void page_view::scrollContentsBy(int, int)
+void page_view::scrollContentsBy(int, int dy)
 {
+    if (dy != 0)
+        asked_page_.reset();
     viewport()->update();
     if (on_change)
         on_change();

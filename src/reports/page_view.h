@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace verdane {
 
@@ -26,7 +27,8 @@ public:
     /// another zoom is set.
     void fit_width();
 
-    /// The page in the middle of the view, counted from 0.
+    /// The page that was turned to, as long as it is what is seen; else the first page of which half is
+    /// in view, or the last one where the view stands at its end. Counted from 0.
     int current_page() const;
     void previous_page();
     void next_page();
@@ -47,13 +49,20 @@ private:
     QRect page_rect(int page) const;
     int page_top(int page) const;
     void paint_page(QPainter& painter, int page) const;
+    /// Whether a page, or what of it has room, is in view for the larger part.
+    bool is_seen(int page) const;
+    int topmost_page() const;
     void set_up_scroll_bars();
-    void scroll_to(int y);
+    void turn_to(int page);
+    void scroll_to(int y, std::optional<int> asked_page = {});
     void zoom_to(int percent);
     void zoom_to_width();
 
     std::shared_ptr<const report_document> document_;
     int zoom_ = 100;
+    /// Several pages may be in view, and the last ones cannot be brought to its top: which of them was
+    /// asked for is known here only.
+    std::optional<int> asked_page_;
     bool fitted_ = false;
 };
 
