@@ -127,6 +127,53 @@ private Q_SLOTS:
         QVERIFY(printed_pages(u"statPuts_en.rpt"_s).front().contains(u"3.70"_s));
     }
 
+    void the_score_never_contradicts_its_words_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("english");
+        const auto add = [](const QString& text, const QString& english) {
+            QTest::newRow(qPrintable(text)) << text << english;
+        };
+        add(u" 1"_s, u"1.00"_s);
+        add(u" 10"_s, u"10.00"_s);
+        add(u" 9.99999999999999"_s, u"9.99"_s);
+        add(u" 1.4975"_s, u"1.49"_s);
+        add(u" 1.5"_s, u"1.50"_s);
+        add(u" 1.50251256281407"_s, u"1.502"_s);
+        add(u" 1.99999"_s, u"1.99"_s);
+        add(u" 2"_s, u"2.00"_s);
+        add(u" 2.005"_s, u"2.005"_s);
+        add(u" 2.4987"_s, u"2.49"_s);
+        add(u" 2.5"_s, u"2.50"_s);
+        add(u" 2.51"_s, u"2.51"_s);
+        add(u" 2.99"_s, u"2.99"_s);
+        add(u" 3"_s, u"3.00"_s);
+        add(u" 3.00003"_s, u"3.00003"_s);
+        add(u" 3.698"_s, u"3.69"_s);
+        add(u" 3.7"_s, u"3.70"_s);
+        add(u" 3.7003"_s, u"3.7003"_s);
+        add(u" 3.71"_s, u"3.71"_s);
+    }
+    void the_score_never_contradicts_its_words()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, english);
+        reader(store_.path())
+            .write(
+                u"update s_put2 set weighted_mean = '%1', rating_text = 'WORDS' where rowid = 7"_s.arg(text));
+        QVERIFY(printed_pages(u"statPuts_en.rpt"_s).front().contains(u' ' + english + u" WORDS"));
+        const QString french = QString(english).replace(u'.', u',');
+        QVERIFY(printed_pages(u"statPuts.rpt"_s).front().contains(u' ' + french + u" WORDS"));
+    }
+
+    void the_scale_of_the_score_reaches_to_its_worst_grade()
+    {
+        for (const QString& name : {u"statPuts.rpt"_s, u"statPuts_en.rpt"_s}) {
+            const QString page = without_blanks(printed_pages(name).front()).replace(u',', u'.');
+            QVERIFY2(page.contains(u"1.01.52.02.53.03.710"_s), qPrintable(page));
+        }
+    }
+
     void extreme_figures_stay_on_one_page()
     {
         fill_putts(store_.path(), figures::extreme);
