@@ -23,20 +23,17 @@ void count_if(bool holds, int16& counter)
         count(counter);
 }
 
-double needed(const std::optional<int16>& length)
+double length_before(const club_shot& shot)
 {
-    if (!length)
+    if (!shot.before)
         throw run_time_failure(failure_kind::invalid_null, QStringLiteral("a shot without its length"));
-    return plain(*length);
+    return plain(*shot.before);
 }
 
 double rest_in_yards(const club_shot& shot)
 {
-    if (!shot.after_in_yards)
-        return needed(shot.after) / feet_in_a_yard;
-    if (!shot.after && !shot.beyond_hole)
-        return 0;
-    return needed(shot.after);
+    const double rest = plain(shot.after.value_or(int16{0}));
+    return shot.after_in_yards ? rest : rest / feet_in_a_yard;
 }
 
 }  // namespace
@@ -50,7 +47,7 @@ bool is_clean(const club_shot& shot)
 int16 shot_distance(const club_shot& shot)
 {
     const double rest = rest_in_yards(shot);
-    return to_int16(needed(shot.before) + (shot.beyond_hole ? rest : -rest));
+    return to_int16(length_before(shot) + (shot.beyond_hole ? rest : -rest));
 }
 
 void club_sums::add(const club_shot& shot)

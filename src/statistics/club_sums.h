@@ -30,8 +30,8 @@ struct club_shot {
 bool is_clean(const club_shot& shot);
 
 /// How far the ball flew, in whole yards, ties to even. A ball past the hole flew the way to the hole
-/// and the rest on top of it. Fails with `overflow`, and with `invalid_null` when a length is needed
-/// that is absent; a missing rest in yards, short of the hole, is none.
+/// and the rest on top of it; a missing rest is none. Fails with `overflow`, and with `invalid_null` when
+/// the length before the shot is absent.
 int16 shot_distance(const club_shot& shot);
 
 /// The sums of one club. A count beyond 16 bits fails with `overflow`.

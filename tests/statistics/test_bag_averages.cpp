@@ -7,6 +7,7 @@
 #include "failures.h"
 #include "golf_bags.h"
 #include "hand_widgets.h"
+#include "report_rows.h"
 #include "selection_windows.h"
 #include "window_look.h"
 
@@ -170,6 +171,29 @@ private Q_SLOTS:
         });
         QCOMPARE(bag.average(5), 0.0);
         QCOMPARE(bag.shots(5), 0);
+    }
+
+    void a_shot_past_the_hole_without_its_rest_flew_the_way_to_the_hole_data()
+    {
+        QTest::addColumn<QString>("unit");
+        QTest::newRow("feet") << u"'Feets'"_s;
+        QTest::newRow("yards") << u"'Yards'"_s;
+        QTest::newRow("no unit") << u"null"_s;
+    }
+    void a_shot_past_the_hole_without_its_rest_flew_the_way_to_the_hole()
+    {
+        QFETCH(QString, unit);
+        const filled_bag bag;
+        put_shot(bag.book.store, key_of_day(1), 6, u"before, after, unit, beyong_hole, shot_type_value"_s,
+                 u"150, null, "_s + unit + u", 1, 0");
+        in_bag([](hand& user) {
+            compute(user, 0, 2);
+            user.same(user.text(u"Text1_5"_s), u"150"_s, u"club 6"_s);
+            user.click(u"enr"_s);
+            answer_keep(user, QMessageBox::Yes);
+        });
+        QCOMPARE(bag.average(6), 150.0);
+        QCOMPARE(bag.shots(6), 1);
     }
 
     void zeros_of_a_selection_without_shots_are_kept_on_a_yes()

@@ -63,16 +63,22 @@ private Q_SLOTS:
         QCOMPARE(shots.club(4).mid(1, 3), (QStringList{u" 8"_s, u" 270"_s, u"240"_s}));
     }
 
-    void a_rest_that_was_never_typed_is_none_in_yards_and_a_failure_in_feet()
+    void a_rest_that_was_never_typed_is_none()
     {
         const stored_shots shots(1);
         shots.shot(1, 5, u"140, null, 'Verges', 1, 0, 0, 2"_s);
         shots.shot(1, 5, u"130, null, null, 1, 0, 0, 2"_s);
+        shots.shot(1, 5, u"120, null, 'Pieds', 1, 0, 0, 2"_s);
         QVERIFY(fill_clubs(rounds_of_days(1, 1)));
-        QCOMPARE(shots.club(5).mid(1, 3), (QStringList{u" 2"_s, u" 140"_s, u"135"_s}));
+        QCOMPARE(shots.club(5).mid(1, 3), (QStringList{u" 3"_s, u" 140"_s, u"130"_s}));
         // A rest that is not known is no ball in the hole.
         QCOMPARE(shots.club(5)[9], u" 0%"_s);
-        shots.shot(1, 5, u"130, null, 'Pieds', 1, 0, 0, 2"_s);
+    }
+
+    void a_length_before_the_shot_is_needed()
+    {
+        const stored_shots shots(1);
+        shots.shot(1, 5, u"null, 10, 'Verges', 1, 0, 0, 2"_s);
         QVERIFY(failure_of([] { fill_clubs(rounds_of_days(1, 1)); }) == failure_kind::invalid_null);
         data_environment().rsStat_rounds.Close();
     }
