@@ -12,7 +12,8 @@ constexpr int against_the_rules = 3;
 constexpr int out_of_bounds = 4;
 constexpr double feet_in_a_yard = 3;
 
-void count(int16& counter)
+template <typename Count>
+void count(Count& counter)
 {
     counter = counter + static_cast<std::int16_t>(1);
 }

@@ -34,9 +34,9 @@ bool is_clean(const club_shot& shot);
 /// the length before the shot is absent.
 int16 shot_distance(const club_shot& shot);
 
-/// The sums of one club. A count beyond 16 bits fails with `overflow`.
+/// The sums of one club. A count beyond 16 bits fails with `overflow`; that of all shots has 32.
 struct club_sums {
-    int16 shots = 0;
+    int32 shots = 0;
     int16 clean_shots = 0;
     double distance_sum = 0;
     int16 longest = 0;

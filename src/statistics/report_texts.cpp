@@ -10,7 +10,7 @@ constexpr int room = 5;
 
 }  // namespace
 
-QString count_text(int16 count)
+QString count_text(int32 count)
 {
     return plain_number_text(plain(count));
 }
@@ -25,7 +25,7 @@ QString average_text(double mean)
     return number_text(mean).left(room);
 }
 
-QString share_text(int16 part, int16 whole)
+QString share_text(int16 part, int32 whole)
 {
     const double percent = plain(part) * 100.0 / plain(whole);
     return QString(plain_number_text(percent) + u'%').left(room);

@@ -211,8 +211,22 @@ private Q_SLOTS:
     void counts_beyond_16_bits_are_a_failure()
     {
         club_sums sums;
-        sums.shots = std::int16_t{32767};
-        QVERIFY(failure_of([&] { sums.add(club_shot()); }) == failure_kind::overflow);
+        sums.clean_shots = std::int16_t{32767};
+        QVERIFY(failure_of([&] { sums.add(shot_over(200, 50)); }) == failure_kind::overflow);
+        sums = {};
+        sums.penalised = std::int16_t{32767};
+        QVERIFY(failure_of([&] { sums.add(with_penalty(1)); }) == failure_kind::overflow);
+    }
+
+    void the_count_of_all_shots_goes_beyond_16_bits()
+    {
+        club_shot missed = shot_over(200, 180);
+        missed.missed = true;
+        club_sums sums;
+        sums.shots = 32767;
+        sums.add(missed);
+        QCOMPARE(plain(sums.shots), 32768);
+        QCOMPARE(club_table::texts_of(sums)[0], QStringLiteral(" 32768"));
     }
 
     void a_club_above_14_is_a_failure()
