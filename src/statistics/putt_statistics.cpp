@@ -153,11 +153,6 @@ bool round_putts(const QString& caption_1, const QString& caption_2)
 void one_round_putt_report(report_control& cr2, const QString& caption_1, const QString& caption_2)
 {
     prepare_putt_report(cr2);
-    // The head would otherwise show the choices of the last selection above this round.
-    putt_tables::open();
-    putt_tables::write_choices(QStringLiteral(" "), QStringLiteral(" "), QStringLiteral(" "));
-    putt_tables::write_round_count(static_cast<std::int16_t>(1));
-    putt_tables::commit_and_close();
     round_putts(caption_1, caption_2);
     cr2.Action(report_control::run_now);
 }
