@@ -8,12 +8,12 @@
 /// Conversions between text and numbers. None of them looks at the locale.
 namespace verdane {
 
-/// The number at the head of a text: leading blanks are skipped, then a sign, digits, one point and
+/// The number at the head of a text: leading white space is skipped, then a sign, digits, one point and
 /// an exponent are read as far as they go; reading stops at the first character that is no part of a
 /// number. An empty text, or one that starts otherwise, is 0.
 double leading_number(QStringView text);
 
-/// True when the whole text, blanks around it aside, is one decimal number ("-3", "12.5", "1e3").
+/// True when the whole text, white space around it aside, is one decimal number ("-3", "12.5", "1e3").
 bool is_numeric(QStringView text);
 
 /// Nearest whole number, ties to even, in 16 or 32 bits. Fails with `overflow` outside them.

@@ -27,9 +27,9 @@ enum class failure_kind {
     report_output,      ///< a report could not be written or printed
 };
 
-/// Anything that goes wrong and is no refusal. It is thrown, caught in one place only (the helper
-/// through which every event of a window reaches its routine), told in plain words, and ends the
-/// program with exit status 1. What was committed stays.
+/// Anything that goes wrong and is no refusal. It is thrown, caught in `run_event`, through which every
+/// event of a window reaches its routine, told in plain words, and ends the program with exit status 1.
+/// What was committed stays.
 class run_time_failure : public std::exception {
 public:
     /// `details` says precisely what failed and where (a statement, a recordset, a file and line);
