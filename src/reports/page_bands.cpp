@@ -11,6 +11,9 @@ namespace verdane {
 
 namespace {
 
+/// The foot of a table with a repeated head: sum, mean and share, and one row that they are of.
+constexpr int foot_rows = 4;
+
 class band_finder {
 public:
     explicit band_finder(const QTextDocument& document) : layout_(*document.documentLayout()) {}
@@ -31,6 +34,7 @@ private:
     {
         band.starts_page = break_waits_;
         break_waits_ = false;
+        band.kept_bottom = qMax(band.kept_bottom, band.place.bottom);
         bands_.push_back(band);
     }
 
@@ -72,7 +76,8 @@ private:
         for (int first = 0; first < table.rows();) {
             const int next = end_of_group(table, first, head_rows);
             const double bottom = next < table.rows() ? row_top(table, next) : place.bottom;
-            add({{top, bottom}, first == 0 ? page_strip() : head});
+            const bool in_foot = head.height() > 0 && next > table.rows() - foot_rows;
+            add({{top, bottom}, first == 0 ? page_strip() : head, false, in_foot ? place.bottom : bottom});
             first = next;
             top = bottom;
         }

@@ -14,6 +14,9 @@ struct page_band {
     /// The head of the table that the row belongs to; of no height for anything else.
     page_strip head;
     bool starts_page = false;
+    /// How far down what should not be parted from it goes, where a page has room for that much: the
+    /// last rows below a head that is repeated would stand there alone.
+    double kept_bottom = 0;
 };
 
 /// The bands of a document from top to bottom, without those that hold nothing.

@@ -13,7 +13,7 @@ public:
 
     void put(const page_band& band)
     {
-        if (pages_.empty() || band.starts_page || band.place.bottom - page().body.top > room())
+        if (pages_.empty() || band.starts_page || !has_room_for(band.place.bottom) || parts_kept(band))
             start_page(band);
         page().body.bottom = band.place.bottom;
         split_overlong();
@@ -30,6 +30,15 @@ private:
     page_cut& page() { return pages_.back(); }
 
     double room() { return page_height_ - page().repeated_head.height(); }
+
+    bool has_room_for(double bottom) { return bottom - page().body.top <= room(); }
+
+    /// Whether what should stay with a band would go to the next page, although a page can hold both.
+    bool parts_kept(const page_band& band)
+    {
+        const double kept = band.head.height() + band.kept_bottom - band.place.top;
+        return !has_room_for(band.kept_bottom) && kept <= page_height_;
+    }
 
     void start_page(const page_band& band)
     {

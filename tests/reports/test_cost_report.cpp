@@ -63,7 +63,8 @@ private Q_SLOTS:
         QVERIFY(pages.size() > 5);
         int rounds = 0;
         for (qsizetype page = 0; page < pages.size(); ++page) {
-            QVERIFY(pages[page].contains(u"Page %1 of %2"_s.arg(page + 1).arg(pages.size())));
+            QVERIFY(
+                pages[page].contains(u"Cost Statistics · Page %1 of %2"_s.arg(page + 1).arg(pages.size())));
             QVERIFY(pages[page].contains(u"Golf Clubs"_s) && pages[page].contains(u"Share %"_s));
             rounds += static_cast<int>(pages[page].count(u" 09:30 "_s));
         }
@@ -73,6 +74,29 @@ private Q_SLOTS:
                 pages.last().contains(u"Total 25,620 · · · 1830 · · · · · · · 27,450 100"_s));
         QVERIFY(pages.last().contains(u"Mean per round 70.00 · · · 5.00 · · · · · · · 75.00"_s));
         QVERIFY(pages.first().contains(u"2023-06-01 2024-05-31 366 27,450 75.00"_s));
+    }
+
+    void the_foot_of_the_table_stays_together_below_a_round_data()
+    {
+        QTest::addColumn<int>("rounds");
+        QTest::addColumn<QString>("name");
+        for (int rounds = 58; rounds <= 64; ++rounds) {
+            QTest::addRow("%d rounds, French", rounds) << rounds << u"r_cost3.rpt"_s;
+            QTest::addRow("%d rounds, English", rounds) << rounds << u"r_cost3_en.rpt"_s;
+        }
+    }
+    void the_foot_of_the_table_stays_together_below_a_round()
+    {
+        QFETCH(int, rounds);
+        QFETCH(QString, name);
+        fill_costs(store_.path(), rounds);
+        const QString last = printed_pages(name).last();
+        const qsizetype total = last.indexOf(u" Total "_s, last.indexOf(u" 09:30 "_s));
+        QVERIFY2(last.contains(u" 09:30 "_s) && total > 0, qPrintable(last));
+        const bool is_english = name.contains(u"_en"_s);
+        const qsizetype mean = last.indexOf(is_english ? u"Mean per round"_s : u"Moyenne par ronde"_s, total);
+        QVERIFY(mean > total);
+        QVERIFY(last.indexOf(is_english ? u"Share %"_s : u"Part %"_s, mean) > mean);
     }
 
     void the_rounds_stand_in_time_order()

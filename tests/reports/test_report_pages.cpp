@@ -142,6 +142,35 @@ private Q_SLOTS:
         QVERIFY2(different < 200, qPrintable(QString::number(different)));
     }
 
+    void the_last_four_rows_stay_together_where_a_page_has_room_for_them_data()
+    {
+        QTest::addColumn<int>("rows");
+        for (int rows = 1; rows <= 40; ++rows)
+            QTest::addRow("%d rows", rows) << rows;
+    }
+    void the_last_four_rows_stay_together_where_a_page_has_room_for_them()
+    {
+        QFETCH(int, rows);
+        const QString body =
+            QStringLiteral("<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
+                           "{{#rows}}<tr><td>start-{{n}}-</td></tr>{{/rows}}</table>");
+        const QString last =
+            pages_of(*rendered(row_head(QStringLiteral("A5 landscape"), rows), body)).constLast();
+        for (int row = qMax(1, rows - 3); row <= rows; ++row)
+            QVERIFY2(last.contains(QStringLiteral("start-%1-").arg(row)), qPrintable(last));
+    }
+
+    void last_rows_too_tall_for_one_page_are_neither_cut_nor_parted_further()
+    {
+        const QString body = QStringLiteral(
+            "<table width=\"120mm\"><thead><tr><th>HEADING</th></tr></thead>\n{{#rows}}<tr><td>start-{{n}}-"
+            "<br>2<br>3<br>4<br>5<br>6<br>7<br>end-{{n}}-</td></tr>{{/rows}}</table>");
+        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A5 landscape"), 7), body));
+        QCOMPARE(pages.size(), 4);
+        for (const QString& page : pages)
+            QCOMPARE(page.count(QStringLiteral("end-")), page.count(QStringLiteral("start-")));
+    }
+
     void rows_that_a_cell_joins_stay_on_one_page()
     {
         const QString body = QStringLiteral(
