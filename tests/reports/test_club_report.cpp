@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "invented_rows.h"
+#include "reader.h"
 #include "report_store.h"
 #include "report_tools.h"
 #include "store_folder.h"
@@ -50,6 +51,24 @@ private Q_SLOTS:
     {
         for (const QString& name : {u"r_statSticks.rpt"_s, u"r_statSticks_en.rpt"_s})
             QVERIFY(!printed_pages(name).front().contains(u"STATISTIQUES SUR"_s));
+    }
+
+    void the_tee_stands_right_behind_the_name_of_its_course_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("printed");
+        QTest::newRow("padded") << u"Pebble Beach        , Gold"_s << u"Pebble Beach, Gold"_s;
+        QTest::newRow("not padded") << u"North Berwick, West Links, Gold"_s
+                                    << u"North Berwick, West Links, Gold"_s;
+    }
+    void the_tee_stands_right_behind_the_name_of_its_course()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, printed);
+        reader(store_.path())
+            .write(u"update stat_sticks set course_text = '"_s + text + u"' where rowid = 1");
+        for (const QString& name : {u"r_statSticks.rpt"_s, u"r_statSticks_en.rpt"_s})
+            QVERIFY(printed_pages(name).front().contains(printed));
     }
 
     void each_club_has_its_line_in_the_order_of_the_bag()
