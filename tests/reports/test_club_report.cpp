@@ -77,13 +77,29 @@ private Q_SLOTS:
         const QString page = printed_pages(u"r_statSticks_en.rpt"_s).front();
         qsizetype at = 0;
         for (const QString& line :
-             {u"Club1 10 270.5 290 16.6 50.0 33.3 8.3 4.0 ·"_s,
-              u"Club10 100 180.5 200 16.6 50.0 33.3 8.3 4.0 2.0"_s, u"Club12 120 – 180 16.6"_s,
-              u"Club13 · · · · · · · · ·"_s, u"Club14 · · ·"_s}) {
+             {u"Club1 10 270.5 290 16.6 50 33.3 8.33 4 ·"_s, u"Club10 100 180.5 200 16.6 50 33.3 8.33 4 2"_s,
+              u"Club12 120 – 180 16.6"_s, u"Club13 · · · · · · · · ·"_s, u"Club14 · · ·"_s}) {
             at = page.indexOf(line, at);
             QVERIFY2(at >= 0, qPrintable(line + u" in "_s + page));
         }
-        QVERIFY(printed_pages(u"r_statSticks.rpt"_s).front().contains(u"Club1 10 270,5 290 16,6 50,0"_s));
+        QVERIFY(printed_pages(u"r_statSticks.rpt"_s)
+                    .front()
+                    .contains(u"Club1 10 270,5 290 16,6 50 33,3 8,33 4 ·"_s));
+    }
+
+    void figures_are_cut_as_the_table_has_them_and_never_rounded()
+    {
+        reader(store_.path())
+            .write(u"update stat_sticks set average = '249.9', pct_fairway = ' 99.9', pct_left = ' 8.97', "
+                   "pct_right = ' .049', pct_missed = ' 0%', pct_penalty = ' 100%', pct_holed = '0' "
+                   "where rowid = 2"_s);
+        QVERIFY(printed_pages(u"r_statSticks_en.rpt"_s)
+                    .front()
+                    .contains(u"Club2 20 249.9 280 8.97 99.9 .049 · 100 ·"_s));
+        QVERIFY(printed_pages(u"r_statSticks.rpt"_s)
+                    .front()
+                    .contains(u"Club2 20 249,9 280 8,97 99,9 ,049 · 100 ·"_s));
+        QCOMPARE(csv_lines(u"r_statSticks_en.rpt"_s).at(2), u"Club2,20,280,249.9,99.9,8.97,0.049,0,100,0"_s);
     }
 
     void without_a_shot_the_names_and_the_heading_are_printed()
@@ -99,7 +115,7 @@ private Q_SLOTS:
         fill_clubs(store_.path(), figures::extreme);
         const QStringList pages = printed_pages(u"r_statSticks_en.rpt"_s);
         QCOMPARE(pages.size(), 1);
-        QVERIFY(pages.front().contains(u"Club1 32767 32767.0 32767 · 100.0 · 0.0 100.0 100.0"_s));
+        QVERIFY(pages.front().contains(u"Club1 32767 32767 32767 · 100 · .003 100 100"_s));
     }
 
     void the_figures_file_has_numbers()
