@@ -156,7 +156,9 @@ QString club_row(int club, figures kind)
     if (club > 1)
         return update.statement();
     const bool extreme = kind == figures::extreme;
-    return update.text(QStringLiteral("heading_text"), QStringLiteral("STATISTIQUES SUR VOS BÂTONS DE 2023"))
+    return update
+        .text(QStringLiteral("heading_text"),
+              QStringLiteral("STATISTIQUES SUR VOS BÂTONS DE 2023-05-06 08:30:00"))
         .text(QStringLiteral("from_date"), QStringLiteral("2023-05-06 08:30:00"))
         .text(QStringLiteral("to_date"), QStringLiteral("2024-10-13 13:40:00"))
         .text(QStringLiteral("course_text"), extreme ? longest_name : QStringLiteral("A & B <c>"))

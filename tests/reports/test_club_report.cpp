@@ -26,16 +26,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("texts");
-        const QStringList shared{u"A & B <c>"_s,           u"Zoé, Sept"_s,           u"Ciel variable"_s,
-                                 u"2023-05-06 08:30:00"_s, u"2024-10-13 13:40:00"_s, u"12 780"_s};
-        QTest::newRow("French") << u"r_statSticks.rpt"_s
-                                << shared + QStringList{u"Statistiques des bâtons"_s, u"Nombre de rondes"_s,
-                                                        u"verges"_s, u"Gauche Allée Droite"_s,
-                                                        u"Page 1 de 1"_s};
-        QTest::newRow("English") << u"r_statSticks_en.rpt"_s
-                                 << shared + QStringList{u"Club Statistics"_s, u"Number of rounds"_s,
-                                                         u"yards"_s, u"Left Fairway Right"_s,
-                                                         u"Page 1 of 1"_s};
+        const QStringList shared{u"A & B <c>"_s, u"Zoé, Sept"_s, u"Ciel variable"_s, u"12 780"_s};
+        QTest::newRow("French")
+            << u"r_statSticks.rpt"_s
+            << shared + QStringList{
+                            u"STATISTIQUES SUR VOS BÂTONS DE 2023-05-06 08:30:00 À 2024-10-13 13:40:00"_s,
+                            u"Nombre de rondes"_s, u"verges"_s, u"Gauche Allée Droite"_s, u"Page 1 de 1"_s};
+        QTest::newRow("English")
+            << u"r_statSticks_en.rpt"_s
+            << shared + QStringList{u"Club Statistics from 2023-05-06 08:30:00 to 2024-10-13 13:40:00"_s,
+                                    u"Number of rounds"_s, u"yards"_s, u"Left Fairway Right"_s,
+                                    u"Page 1 of 1"_s};
     }
     void the_heading_holds_the_selection()
     {
@@ -47,10 +48,18 @@ private Q_SLOTS:
             QVERIFY2(pages.front().contains(text), qPrintable(text + u" in "_s + pages.front()));
     }
 
-    void the_heading_that_is_french_in_both_languages_is_not_printed()
+    void the_heading_that_is_french_in_both_languages_stands_on_the_french_page_only()
+    {
+        reader(store_.path()).write(u"update stat_sticks set heading_text = 'TITRE' where rowid = 1"_s);
+        QVERIFY(printed_pages(u"r_statSticks.rpt"_s).front().contains(u"TITRE À 2024-10-13 13:40:00"_s));
+        QVERIFY(!printed_pages(u"r_statSticks_en.rpt"_s).front().contains(u"TITRE"_s));
+    }
+
+    void a_date_stands_once_in_the_heading()
     {
         for (const QString& name : {u"r_statSticks.rpt"_s, u"r_statSticks_en.rpt"_s})
-            QVERIFY(!printed_pages(name).front().contains(u"STATISTIQUES SUR"_s));
+            for (const QString& date : {u"2023-05-06"_s, u"2024-10-13"_s})
+                QCOMPARE(printed_pages(name).front().count(date), 1);
     }
 
     void the_tee_stands_right_behind_the_name_of_its_course_data()
