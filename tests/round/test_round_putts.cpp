@@ -66,6 +66,16 @@ QString bands(const round_store& store, const QString& table, int row)
     return above_0.join(u' ');
 }
 
+/// Every value of the only row of a table.
+QString whole_row(const round_store& store, const QString& table)
+{
+    const auto rows = store.store.rows(QStringLiteral("select * from ") + table);
+    QStringList values;
+    for (const QVariant& value : rows.at(0))
+        values << (value.isNull() ? QStringLiteral("null") : value.toString());
+    return values.join(u'|');
+}
+
 QString head(const round_store& store, const QString& column)
 {
     return store.text(QStringLiteral("select %1 from s_put1 order by rowid limit 1").arg(column));
@@ -122,6 +132,25 @@ private Q_SLOTS:
         });
         QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("1=1"));
         QCOMPARE(bands(round.store, QStringLiteral("s_put2"), 1), QStringLiteral("5=1"));
+    }
+
+    void a_report_keeps_nothing_of_a_hole_that_is_then_discarded()
+    {
+        const reported_store round;
+        round.store.add_round(key_of_keyed_round());
+        const QString games = whole_row(round.store, QStringLiteral("games"));
+        const QString games2 = whole_row(round.store, QStringLiteral("games2"));
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            user.click(button);
+            close_report(user);
+            discard(user);
+        });
+        QCOMPARE(whole_row(round.store, QStringLiteral("games")), games);
+        QCOMPARE(whole_row(round.store, QStringLiteral("games2")), games2);
+        // The report was about the hole as it was told.
+        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("3=1"));
     }
 
     void a_round_without_putts_has_an_empty_report()
