@@ -79,8 +79,8 @@ next_shot_plan plan_next_shot(shot_list& rows, const unit_words& words);
 
 constexpr int lengths_kept = 6;
 
-/// A count among others of a list.
-struct tally {
+/// The shots of one penalty or kind.
+struct shot_count {
     int16 count = 0;
 };
 
@@ -91,9 +91,9 @@ struct hole_summary {
     int16 recovery = 0;
     int16 fairway = 0;
     /// Shots by penalty: 1 water, 2 lost ball, 3 rules, 4 out of bounds; 0 none.
-    checked_array<tally, 5> penalties;
+    checked_array<shot_count, 5> penalties;
     /// Shots by kind: 1 long, 2 approach, 3 putt; 0 not yet chosen.
-    checked_array<tally, 4> kinds;
+    checked_array<shot_count, 4> kinds;
     /// The lengths in feet of the first six putts; the list ends at a length of 0 after the first.
     std::array<int16, lengths_kept> putt_lengths{0, 0, 0, 0, 0, 0};
     /// At least one shot is classified.
