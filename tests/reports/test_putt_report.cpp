@@ -182,13 +182,41 @@ private Q_SLOTS:
         QVERIFY(pages.front().contains(u"163835 1146845"_s));
     }
 
-    void the_figures_file_has_both_tables()
+    void the_figures_file_has_both_tables_with_their_limits_and_the_score()
     {
         const QStringList lines = csv_lines(u"statPuts_en.rpt"_s);
-        QCOMPARE(lines.size(), 1 + 5 + 1 + 7);
-        QCOMPARE(lines[1], u"Putts by the length of the first (feet),1,1,2,3,4,5,6,7"_s);
-        QVERIFY(lines[6].startsWith(u"Mean,,1.11,2.22,3.33"_s));
-        QCOMPARE(lines[13], u"Where the putts stop that start from (feet) below 5,7,7,14,21,28,35,42,49"_s);
+        QCOMPARE(lines.size(), 1 + 1 + 5 + 1 + 1 + 7 + 2);
+        QCOMPARE(lines[0], u"Table,Line,1,2,3,4,5,6,7,All"_s);
+        QCOMPARE(lines[1], u"Putts by the length of the first (feet),,50 or more,40 to 49,30 to 39,20 to 29,"
+                           "10 to 19,5 to 9,below 5,"_s);
+        QCOMPARE(lines[2], u"Putts by the length of the first (feet),1,1,2,3,4,5,6,7,28"_s);
+        QCOMPARE(lines[7], u"Mean,,1.11,2.22,3.33,4.44,5.55,6.66,7.77,2.5"_s);
+        QCOMPARE(lines[8], u"\"Where the putts stop, by where they start (feet)\",,25 or more,20 to 24,"
+                           "15 to 19,10 to 14,5 to 9,2 to 4,0 or 1,"_s);
+        QCOMPARE(lines[15],
+                 u"Where the putts stop that start from (feet) below 5,7,7,14,21,28,35,42,49,196"_s);
+        QCOMPARE(lines[16], u"Score,,,,,,,,,2.25"_s);
+        QCOMPARE(lines[17], u"Rating,,,,,,,,,MOYEN"_s);
+    }
+
+    void the_figures_file_has_french_words_and_marks()
+    {
+        const QStringList lines = csv_lines(u"statPuts.rpt"_s);
+        QCOMPARE(lines.size(), 18);
+        QVERIFY(lines[1].endsWith(u";50 et plus;40 à 49;30 à 39;20 à 29;10 à 19;5 à 9;moins de 5;"_s));
+        QCOMPARE(lines[7], u"Moyenne;;1,11;2,22;3,33;4,44;5,55;6,66;7,77;2,5"_s);
+        QVERIFY(lines[8].endsWith(u";25 et plus;20 à 24;15 à 19;10 à 14;5 à 9;2 à 4;0 ou 1;"_s));
+        QCOMPARE(lines[16], u"Note;;;;;;;;;2,25"_s);
+        QCOMPARE(lines[17], u"Appréciation;;;;;;;;;MOYEN"_s);
+    }
+
+    void the_figures_file_has_the_words_of_one_round_and_of_none()
+    {
+        make_one_round_putts(store_.path());
+        QCOMPARE(csv_lines(u"statPuts_en.rpt"_s).last(), u"Rating,,,,,,,,,Average"_s);
+        fill_putts(store_.path(), figures::none);
+        QCOMPARE(csv_lines(u"statPuts_en.rpt"_s).mid(16),
+                 QStringList({u"Score,,,,,,,,,"_s, u"Rating,,,,,,,,,N/A"_s}));
     }
 };
 
