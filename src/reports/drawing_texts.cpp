@@ -60,6 +60,8 @@ surroundings inside(surroundings state, const QXmlStreamAttributes& attributes)
             state.text.anchor = anchor_of(value);
         else if (name == u"fill")
             state.text.ink = QColor(value);
+        else if (name == u"data-room")
+            state.text.room = value.toDouble();
         else if (name == u"transform")
             move(state, value);
     }
@@ -86,6 +88,28 @@ QFont font_of(const drawing_text& text, double scale)
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setLetterSpacing(QFont::AbsoluteSpacing, spacing_without_ligatures);
     return font;
+}
+
+/// A text as it is painted: in letters that its room has place for.
+struct set_text {
+    QFont font;
+    QString words;
+    double width = 0;
+};
+
+set_text fitted(const drawing_text& text, double scale_x, double scale_y)
+{
+    set_text result{font_of(text, scale_y), text.words};
+    const auto measure = [&result] { return QFontMetricsF(result.font).horizontalAdvance(result.words); };
+    const double room = text.room * scale_x;
+    result.width = measure();
+    if (room <= 0 || result.width <= room)
+        return result;
+    const double smaller = result.font.pixelSize() * qMax(0.5, room / result.width);
+    result.font.setPixelSize(qMax(1, static_cast<int>(smaller)));
+    result.words = QFontMetricsF(result.font).elidedText(result.words, Qt::ElideRight, room);
+    result.width = measure();
+    return result;
 }
 
 /// Whether letters whose middle is at that height are clipped away. They must not be painted at all: in
@@ -128,18 +152,16 @@ void paint_texts(QPainter& painter, const std::vector<drawing_text>& texts, cons
     const double scale_x = place.width() / view_box.width();
     const double scale_y = place.height() / view_box.height();
     for (const drawing_text& text : texts) {
-        const QFont font = font_of(text, scale_y);
-        const QFontMetricsF metrics(font);
+        const set_text letters = fitted(text, scale_x, scale_y);
         QPointF base = place.topLeft() + QPointF((text.base.x() - view_box.x()) * scale_x,
                                                  (text.base.y() - view_box.y()) * scale_y);
-        const double width = metrics.horizontalAdvance(text.words);
         if (text.anchor != Qt::AlignLeft)
-            base.rx() -= text.anchor == Qt::AlignHCenter ? width / 2 : width;
-        if (is_clipped_away(painter, base.y() - metrics.xHeight() / 2))
+            base.rx() -= text.anchor == Qt::AlignHCenter ? letters.width / 2 : letters.width;
+        if (is_clipped_away(painter, base.y() - QFontMetricsF(letters.font).xHeight() / 2))
             continue;
-        painter.setFont(font);
+        painter.setFont(letters.font);
         painter.setPen(text.ink);
-        painter.drawText(base, text.words);
+        painter.drawText(base, letters.words);
     }
 }
 

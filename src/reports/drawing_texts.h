@@ -20,6 +20,9 @@ struct drawing_text {
     QStringList families{QStringLiteral("DejaVu Sans")};
     double size = 12;
     bool bold = false;
+    /// The width that it has; 0 for any. What is wider is set in smaller letters, down to half their size,
+    /// and then cut with "…".
+    double room = 0;
     QColor ink{Qt::black};
 };
 
@@ -31,8 +34,8 @@ struct parted_drawing {
 
 /// The renderer of the toolkit paints letters as outlines, which nobody can search or copy on a page;
 /// therefore a report sets the texts of its drawings itself. It reads the attributes `x`, `y`,
-/// `font-family`, `font-size`, `font-weight`, `text-anchor` and `fill` of a text and the elements
-/// around it, and groups that are moved by `translate`. A text in a group that is turned or scaled,
+/// `font-family`, `font-size`, `font-weight`, `text-anchor`, `fill` and `data-room` of a text and the
+/// elements around it, and groups that are moved by `translate`. A text in a group that is turned or scaled,
 /// or in a drawing without a `viewBox`, stays in the drawing.
 ///
 /// `svg` is well-formed.

@@ -132,6 +132,45 @@ private Q_SLOTS:
         QVERIFY(printed_pages(u"r_card2.rpt"_s).front().contains(u"THE GOLF A…"_s));
     }
 
+    void the_widest_names_stay_in_their_part_data()
+    {
+        QTest::addColumn<int>("letters");
+        for (const int letters : {30, 60, 80, 98, 195})
+            QTest::addRow("%d letters", letters) << letters;
+    }
+    void the_widest_names_stay_in_their_part()
+    {
+        QFETCH(int, letters);
+        reader(store_.path())
+            .write(u"update r_card set card_name = '%1', card_tee = 'BLANC'"_s.arg(QString(letters, u'W')));
+        const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
+        // Between the names and the tees of the two nines, behind the name on the cover, and the fold.
+        for (const QRect& free : {QRect(172 + 1040, 100, 130, 55), QRect(172 + 1355 + 1000, 100, 130, 55),
+                                  QRect(172 + 2602, 1070, 20, 150)})
+            QCOMPARE(pixels_below(page, free, 250), 0);
+        QCOMPARE(pixels_below(page, QRect(172 + 1290, 100, 50, 55), 100), 0);
+    }
+
+    void clubs_whose_names_begin_alike_are_told_apart()
+    {
+        reader(store_.path())
+            .write(u"update sticknames set club_4 = 'Hybride Titleist 3', club_5 = 'Hybride Titleist 4'"_s);
+        for (const QString& name : {u"r_card2.rpt"_s, u"r_card2_en.rpt"_s}) {
+            const QString page = printed_pages(name).front();
+            QVERIFY(page.contains(u"Hybride Titleist 3 200"_s));
+            QVERIFY(page.contains(u"Hybride Titleist 4 190"_s));
+        }
+    }
+
+    void a_club_name_without_room_says_that_it_is_cut()
+    {
+        reader(store_.path()).write(u"update sticknames set club_4 = '%1'"_s.arg(QString(50, u'W')));
+        QVERIFY(printed_pages(u"r_card2_en.rpt"_s).front().contains(u"WWWW… 200"_s));
+        const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
+        // Between the names and the line where their bars begin.
+        QCOMPARE(pixels_below(page, QRect(170 + 30 + 252, 90 + 980 + 82, 14, 780), 250), 0);
+    }
+
     void the_figures_file_lists_holes_then_clubs()
     {
         const QStringList lines = csv_lines(u"r_card2_en.rpt"_s);

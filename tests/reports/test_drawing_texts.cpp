@@ -7,6 +7,34 @@
 using namespace verdane;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The columns of a picture that hold dark ink, the first and the last one.
+std::pair<int, int> inked_columns(const QImage& paper)
+{
+    int left = paper.width();
+    int right = -1;
+    for (int x = 0; x < paper.width(); ++x)
+        for (int y = 0; y < paper.height(); ++y)
+            if (qGray(paper.pixel(x, y)) < 128) {
+                left = qMin(left, x);
+                right = qMax(right, x);
+            }
+    return {left, right};
+}
+
+/// Paints a text into a drawing of 100 by 30 units, two dots each.
+QImage painted(const drawing_text& text)
+{
+    QImage paper(200, 60, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter painter(&paper);
+    paint_texts(painter, {text}, QRectF(0, 0, 100, 30), QRectF(0, 0, 200, 60));
+    return paper;
+}
+
+}  // namespace
+
 class test_drawing_texts : public QObject {
     Q_OBJECT
 
@@ -16,7 +44,7 @@ private Q_SLOTS:
         const parted_drawing parted = with_texts_apart(
             u"<svg viewBox=\"0 0 100 50\" font-family=\"A B, 'C'\" font-size=\"12\" fill=\"#010203\">"
             "<g transform=\"translate(10 20)\" font-weight=\"bold\"><text x=\"1\" y=\"2\" "
-            "text-anchor=\"end\">"
+            "text-anchor=\"end\" data-room=\"33\">"
             "one &amp; &lt;two&gt;</text></g><text x=\"3\" y=\"4\" font-size=\"7\" fill=\"red\"> three "
             "</text>"
             "</svg>"_s);
@@ -28,12 +56,14 @@ private Q_SLOTS:
         QCOMPARE(first.families, (QStringList{u"A B"_s, u"C"_s}));
         QCOMPARE(first.size, 12.0);
         QVERIFY(first.bold);
+        QCOMPARE(first.room, 33.0);
         QCOMPARE(first.ink, QColor(1, 2, 3));
         const drawing_text& second = parted.texts[1];
         QCOMPARE(second.words, u"three"_s);
         QCOMPARE(second.base, QPointF(3, 4));
         QCOMPARE(second.size, 7.0);
         QVERIFY(!second.bold);
+        QCOMPARE(second.room, 0.0);
         QCOMPARE(second.ink, QColor(Qt::red));
     }
 
@@ -79,25 +109,48 @@ private Q_SLOTS:
         QFETCH(int, anchor);
         QFETCH(int, first);
         QFETCH(int, last);
-        QImage paper(200, 60, QImage::Format_RGB32);
-        paper.fill(Qt::white);
-        QPainter painter(&paper);
         drawing_text text;
         text.words = u"HHHH"_s;
         text.base = {50, 20};
         text.anchor = Qt::Alignment::fromInt(anchor);
-        paint_texts(painter, {text}, QRectF(0, 0, 100, 30), QRectF(0, 0, 200, 60));
-        painter.end();
-        int left = 200;
-        int right = -1;
-        for (int x = 0; x < 200; ++x)
-            for (int y = 0; y < 60; ++y)
-                if (qGray(paper.pixel(x, y)) < 128) {
-                    left = qMin(left, x);
-                    right = qMax(right, x);
-                }
+        const auto [left, right] = inked_columns(painted(text));
         QVERIFY(right > left + 20);
         QVERIFY2(left >= first && right <= last, qPrintable(u"%1 to %2"_s.arg(left).arg(right)));
+    }
+
+    void a_text_stays_in_its_room_data()
+    {
+        QTest::addColumn<int>("letters");
+        QTest::addColumn<double>("room");
+        QTest::addColumn<int>("least");
+        QTest::newRow("has room") << 2 << 60.0 << 20;
+        QTest::newRow("smaller letters") << 8 << 60.0 << 100;
+        QTest::newRow("cut") << 40 << 60.0 << 90;
+        QTest::newRow("any width") << 8 << 0.0 << 130;
+    }
+    void a_text_stays_in_its_room()
+    {
+        QFETCH(int, letters);
+        QFETCH(double, room);
+        QFETCH(int, least);
+        drawing_text text;
+        text.words = QString(letters, u'H');
+        text.base = {10, 20};
+        text.room = room;
+        const auto [left, right] = inked_columns(painted(text));
+        QVERIFY2(right - left >= least, qPrintable(u"%1 to %2"_s.arg(left).arg(right)));
+        if (room > 0)
+            QVERIFY2(right <= 20 + 2 * room, qPrintable(u"%1 to %2"_s.arg(left).arg(right)));
+    }
+
+    void letters_with_room_keep_their_size()
+    {
+        drawing_text text;
+        text.words = u"HH"_s;
+        text.base = {10, 20};
+        const QImage free = painted(text);
+        text.room = 60;
+        QCOMPARE(painted(text), free);
     }
 };
 
