@@ -6,6 +6,7 @@
 #include <QPainterPath>
 
 #include "data_grid.h"
+#include "leaving.h"
 
 namespace verdane {
 
@@ -94,7 +95,18 @@ bool cell_delegate::key_pressed(const QKeyEvent& event) const
     }
 }
 
-bool cell_delegate::eventFilter(QObject*, QEvent* event)
+void cell_delegate::focus_lost(QLineEdit& editor, Qt::FocusReason why) const
+{
+    // Another program, or the box's own menu, takes the keyboard for a while only.
+    if (why == Qt::ActiveWindowFocusReason || why == Qt::PopupFocusReason)
+        return;
+    if (why == Qt::MouseFocusReason)
+        when_click_is_over(editor, [this] { grid_.commit_cell(); });
+    else
+        grid_.commit_cell();
+}
+
+bool cell_delegate::eventFilter(QObject* editor, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress)
         return key_pressed(*static_cast<QKeyEvent*>(event));
@@ -103,12 +115,8 @@ bool cell_delegate::eventFilter(QObject*, QEvent* event)
         event->accept();
         return true;
     }
-    if (event->type() != QEvent::FocusOut)
-        return false;
-    // Another program, or the box's own menu, takes the keyboard for a while only.
-    const Qt::FocusReason why = static_cast<QFocusEvent*>(event)->reason();
-    if (why != Qt::ActiveWindowFocusReason && why != Qt::PopupFocusReason)
-        grid_.commit_cell();
+    if (event->type() == QEvent::FocusOut)
+        focus_lost(static_cast<QLineEdit&>(*editor), static_cast<QFocusEvent*>(event)->reason());
     return false;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QStyledItemDelegate>
 
+class QLineEdit;
+
 namespace verdane {
 
 class data_grid;
@@ -22,6 +24,7 @@ public:
 
 private:
     bool key_pressed(const QKeyEvent& event) const;
+    void focus_lost(QLineEdit& editor, Qt::FocusReason why) const;
 
     data_grid& grid_;
 };

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QValidator>
 
 #include <algorithm>
@@ -19,19 +20,6 @@ namespace verdane {
 namespace {
 
 constexpr int button_width = 16;
-
-/// Sets a flag for the life of this object.
-class while_set {
-public:
-    explicit while_set(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
-    ~while_set() { flag_ = before_; }
-    while_set(const while_set&) = delete;
-    while_set& operator=(const while_set&) = delete;
-
-private:
-    bool& flag_;
-    bool before_;
-};
 
 /// What comes in by another road than the keys (pasted, dropped) has to pass the same filter.
 class filtered_text : public QValidator {
@@ -76,7 +64,7 @@ QRect data_grid::button_in(const QRect& cell)
 
 void data_grid::bind()
 {
-    const while_set guard(following_);
+    const QScopedValueRollback<bool> guard(following_, true);
     model_->bind();
     show_current_row();
 }
@@ -84,14 +72,14 @@ void data_grid::bind()
 void data_grid::unbind()
 {
     drop_cell();
-    const while_set guard(following_);
+    const QScopedValueRollback<bool> guard(following_, true);
     model_->unbind();
 }
 
 void data_grid::ReBind()
 {
     drop_cell();
-    const while_set guard(following_);
+    const QScopedValueRollback<bool> guard(following_, true);
     model_->refresh();
     show_current_row();
 }
@@ -112,7 +100,7 @@ void data_grid::set_Col(int column)
     if (column < 0 || column >= model_->columnCount())
         return;
     col_ = column;
-    const while_set guard(following_);
+    const QScopedValueRollback<bool> guard(following_, true);
     show_current_row();
 }
 
@@ -255,6 +243,18 @@ void data_grid::drop_cell()
         closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
+bool data_grid::keyboard_is_elsewhere() const
+{
+    const QWidget* focused = window()->focusWidget();
+    return focused && focused != this && !isAncestorOf(focused);
+}
+
+void data_grid::take_keyboard()
+{
+    if (!left_)
+        setFocus(Qt::OtherFocusReason);
+}
+
 void data_grid::commit_cell()
 {
     if (!editor_)
@@ -262,6 +262,7 @@ void data_grid::commit_cell()
     const bool changed = editor_->isModified();
     const QString typed = editor_->text();
     const QModelIndex cell = edited_;
+    const QScopedValueRollback<bool> elsewhere(left_, keyboard_is_elsewhere());
     drop_cell();
     if (!changed || !cell.isValid())
         return;
@@ -282,6 +283,8 @@ void data_grid::commit_and_move_on()
 
 void data_grid::mousePressEvent(QMouseEvent* event)
 {
+    // Before the click moves the cursor to another row.
+    commit_cell();
     QTableView::mousePressEvent(event);
     const QModelIndex pressed = indexAt(event->position().toPoint());
     const bool on_button = pressed.isValid() && event->button() == Qt::LeftButton &&

@@ -51,7 +51,9 @@ public:
     void open_cell_menu();
     /// Takes what is being typed. Every routine that works on the rows behind the grid calls it first.
     void commit_cell();
-    bool is_being_typed_into() const { return editor_ != nullptr; }
+    /// The focus comes to the grid, except while it takes what was typed into a cell that the user has left
+    /// for another control.
+    void take_keyboard();
 
     bool has_cell_button(int column) const { return menus_.count(column) > 0; }
     /// Where the button of a cell stands inside the cell's rectangle.
@@ -75,6 +77,7 @@ private:
     void start_typing(const QString& text);
     void watch_editor(QLineEdit& editor, const QModelIndex& index);
     void drop_cell();
+    bool keyboard_is_elsewhere() const;
     void commit_and_move_on();
 
     recordset_model* model_;
@@ -85,6 +88,8 @@ private:
     int col_ = 0;
     /// The cursor follows the recordset, not the other way round.
     bool following_ = false;
+    /// What is being taken was typed into a cell that the user has left for another control.
+    bool left_ = false;
 };
 
 }  // namespace verdane

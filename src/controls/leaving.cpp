@@ -5,6 +5,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimer>
 
 #include <utility>
 
@@ -85,7 +86,43 @@ private:
     bool press_is_refused_ = false;
 };
 
+class click_watch : public QObject {
+public:
+    click_watch(QLineEdit& box, std::function<void()> routine) : QObject(&box), routine_(std::move(routine))
+    {
+        qApp->installEventFilter(this);
+        look_again();
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::Hide)
+            look_again();
+        return false;
+    }
+
+private:
+    /// Behind what the event itself leads to.
+    void look_again()
+    {
+        QTimer::singleShot(0, this, [this] {
+            if (QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget())
+                return;
+            deleteLater();
+            if (auto routine = std::exchange(routine_, nullptr))
+                run_event(routine);
+        });
+    }
+
+    std::function<void()> routine_;
+};
+
 }  // namespace
+
+void when_click_is_over(QLineEdit& box, std::function<void()> routine)
+{
+    new click_watch(box, std::move(routine));
+}
 
 void when_left(QLineEdit& box, std::function<bool()> allows)
 {

@@ -11,4 +11,9 @@ namespace verdane {
 /// it (a button's click, say) does not happen. Closing the window asks nothing.
 void when_left(QLineEdit& box, std::function<bool()> allows);
 
+/// Runs `routine` when the click is over that takes the focus off the box: the mouse button is up, the
+/// control that was clicked has done what it does, and a list that it opened is closed. A window that came
+/// up before would take the release, and the click would be lost. A box that goes away first runs nothing.
+void when_click_is_over(QLineEdit& box, std::function<void()> routine);
+
 }  // namespace verdane

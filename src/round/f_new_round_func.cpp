@@ -226,6 +226,7 @@ void unload(f_new_round& window)
 
 void show_costs(f_new_round& window)
 {
+    finish_typing(window);
     f_cost costs([&window](const QString& total) { window.text(7).setText(total); });
     costs.show_modal();
 }

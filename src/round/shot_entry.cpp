@@ -160,7 +160,7 @@ void add_shot(f_new_round& window, int16 distance)
     shots().MoveLast();
     window.details->ReBind();
     window.details->set_Col(window.PUT_MODE ? distance_column : club_column);
-    window.details->setFocus(Qt::OtherFocusReason);
+    window.details->take_keyboard();
 }
 
 void show_summary(f_new_round& window, const hole_summary& summary)
@@ -267,7 +267,7 @@ void next_shot(f_new_round& window)
     if (plan.refused) {
         window.details->ReBind();
         tell_incomplete(window, QString());
-        window.details->setFocus(Qt::OtherFocusReason);
+        window.details->take_keyboard();
         return;
     }
     window.PUT_MODE = plan.PUT_MODE;

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <functional>
 
+class QPoint;
 class QWidget;
 
 namespace verdane::testing {
@@ -54,7 +55,14 @@ public:
 
     // Doing.
     void click(const QString& control);
+    /// Both clicks are on their way before what the first one starts is over.
+    void double_click(const QString& button);
     void double_click_row(const QString& list, int row);
+    /// Press and release come through the window system, one after the other, as from a mouse: what opens at
+    /// the press takes the release.
+    void press_and_release(const QString& control);
+    void press_and_release_tab(const QString& tabs, int tab);
+    void press_and_release_row(const QString& list, int row);
     void click_row(const QString& list, int row);
     void click_tab(const QString& tabs, int tab);
     /// Chooses an entry of a combo with the keyboard.
@@ -106,6 +114,7 @@ public:
 private:
     void wait_for_keyboard();
     void post(const std::function<void()>& action);
+    void press_and_release(QWidget& control, const QPoint& place);
     void on_control(const QString& name, const std::function<void(QWidget&)>& action);
 
     std::chrono::milliseconds patience_;

@@ -3,8 +3,10 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTabBar>
 #include <QTest>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -55,6 +57,38 @@ void hand::click(const QString& control)
     });
 }
 
+void hand::press_and_release(QWidget& control, const QPoint& place)
+{
+    const QPointer<QWindow> window = control.window()->windowHandle();
+    const QPoint at = control.mapTo(control.window(), place);
+    post([window, at] { QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, at); });
+    post([window, at] {
+        if (window)
+            QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, at);
+    });
+}
+
+void hand::press_and_release(const QString& control)
+{
+    QWidget* found = nullptr;
+    on_control(control, [&found](QWidget& there) { found = &there; });
+    press_and_release(*found, found->rect().center());
+}
+
+void hand::press_and_release_tab(const QString& tabs, int tab)
+{
+    QTabBar* bar = nullptr;
+    on_control(tabs, [&bar](QWidget& there) { bar = &dynamic_cast<QTabBar&>(there); });
+    press_and_release(*bar, bar->tabRect(tab - 1).center());
+}
+
+void hand::press_and_release_row(const QString& list, int row)
+{
+    QListWidget* rows = nullptr;
+    on_control(list, [&rows](QWidget& there) { rows = &dynamic_cast<QListWidget&>(there); });
+    press_and_release(*rows->viewport(), middle_of_row(*rows, row));
+}
+
 void hand::click_row(const QString& list, int row)
 {
     on_control(list, [](QWidget&) {});
@@ -62,6 +96,17 @@ void hand::click_row(const QString& list, int row)
         auto& rows = dynamic_cast<QListWidget&>(*find_control(list));
         rows.scrollToItem(rows.item(row));
         QTest::mouseClick(rows.viewport(), Qt::LeftButton, Qt::NoModifier, middle_of_row(rows, row));
+    });
+}
+
+void hand::double_click(const QString& button)
+{
+    on_control(button, [](QWidget&) {});
+    post([button] {
+        QWidget* found = find_control(button);
+        QTest::mouseClick(found, Qt::LeftButton);
+        QTest::mouseDClick(found, Qt::LeftButton);
+        QTest::mouseRelease(found, Qt::LeftButton);
     });
 }
 

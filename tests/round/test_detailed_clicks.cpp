@@ -1,0 +1,250 @@
+#include <QApplication>
+#include <QTest>
+
+#include "f_new_round.h"
+#include "languages.h"
+#include "round_windows.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString temperature = QStringLiteral("Text1");
+const QString partners = QStringLiteral("pList");
+const QString courses = QStringLiteral("cmb_courses");
+
+/// A hole that has come to its second putt, whose distance is being typed.
+void type_the_last_putt(hand& user, const QString& distance)
+{
+    go_to_detailed_page(user);
+    tell_hole(user);
+    user.type(distance);
+    user.same(user.focus(), QStringLiteral("cell_being_typed"), QStringLiteral("focus"));
+}
+
+void wait_for_rows(hand& user, int rows)
+{
+    user.wait_until(QStringLiteral("%1 shots").arg(rows), [&] { return user.grid_rows(details) == rows; });
+}
+
+}  // namespace
+
+/// What is being typed into the grid when the mouse goes elsewhere: the cell is taken, and the click does
+/// what it always does.
+class test_detailed_clicks : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OK_closes_the_round_behind_a_holed_putt_data() { both_languages(); }
+    void OK_closes_the_round_behind_a_holed_putt()
+    {
+        QFETCH(bool, french);
+        const golfer_store round(french);
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("0"));
+            user.press_and_release(ok_button);
+            user.answer(refusal_of_shot());
+        });
+        QCOMPARE(round.shots(1), 4);
+        QCOMPARE(stored_figures(round.store, 1), told_hole);
+        QCOMPARE(stored_putts(round.store, 1), told_putts);
+    }
+
+    void Cancel_asks_behind_a_holed_putt()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("0"));
+            user.press_and_release(cancel_button);
+            user.answer(refusal_of_shot());
+            user.answer(question_on_closing(), QMessageBox::No);
+        });
+        QCOMPARE(round.shots(1), 4);
+    }
+
+    void OK_refuses_an_incomplete_shot_behind_a_typed_distance()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            leave_second_shot_open(user);
+            user.click_cell(details, 1, 3);
+            user.type(QStringLiteral("12"));
+            user.press_and_release(ok_button);
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.wait_for_window(round_window());
+            user.same(user.cell(details, 1, 3), QStringLiteral("12"), QStringLiteral("distance"));
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+    }
+
+    void the_buttons_of_the_shots_do_their_work_behind_a_holed_putt_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("messages");
+        QTest::addColumn<int>("rows");
+        // No shot comes behind a holed one: the button says so once more.
+        QTest::newRow("next shot") << "CommandSuiv" << 2 << 4;
+        QTest::newRow("remove") << "CommandSup" << 1 << 3;
+        QTest::newRow("shots of the hole") << "Command4" << 1 << 4;
+    }
+    void the_buttons_of_the_shots_do_their_work_behind_a_holed_putt()
+    {
+        QFETCH(QString, button);
+        QFETCH(int, messages);
+        QFETCH(int, rows);
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("0"));
+            user.press_and_release(button);
+            for (int message = 0; message < messages; ++message)
+                user.answer(refusal_of_shot());
+            user.wait_for_window(round_window());
+            wait_for_rows(user, rows);
+            accept(user);
+        });
+        QCOMPARE(round.shots(1), rows);
+    }
+
+    void the_costs_open_behind_a_holed_putt()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("0"));
+            user.press_and_release(QStringLiteral("Command2"));
+            user.answer(refusal_of_shot());
+            user.wait_for_window(QStringLiteral("f_cost"));
+            user.close_window(QStringLiteral("f_cost"));
+            user.wait_for_window(round_window());
+            user.same(round.store.text(QStringLiteral("select after from Stat_rounds where shot = 4")),
+                      QStringLiteral("0"), QStringLiteral("distance of the last putt"));
+            accept(user);
+        });
+    }
+
+    void the_tabs_lead_on_behind_a_holed_putt_data()
+    {
+        QTest::addColumn<QString>("tabs");
+        QTest::newRow("holes") << hole_tabs;
+        QTest::newRow("pages") << QStringLiteral("TabStrip2");
+    }
+    void the_tabs_lead_on_behind_a_holed_putt()
+    {
+        QFETCH(QString, tabs);
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("0"));
+            const int before = user.selected(tabs);
+            user.press_and_release_tab(tabs, 2 - before);
+            user.answer(refusal_of_shot());
+            user.wait_for_window(round_window());
+            user.same(user.selected(tabs), 1 - before, QStringLiteral("tab"));
+            go_to_quick_page(user);
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+        QVERIFY(stored_shots(round.store, 1).contains(u"4 4>0 "));
+    }
+
+    void a_box_that_was_clicked_keeps_the_keyboard_behind_the_next_putt()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("2"));
+            user.press_and_release(temperature);
+            wait_for_rows(user, 5);
+            user.check(user.focus() != details, QStringLiteral("the grid leaves the keyboard where it is"));
+            user.key(Qt::Key_A, Qt::ControlModifier);
+            user.type(QStringLiteral("20"));
+            accept(user);
+        });
+        QCOMPARE(round.store.of_round(QStringLiteral("games2"), QStringLiteral("temperature")),
+                 QStringLiteral("20"));
+        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("30 4 2 0 0 0"));
+    }
+
+    void a_box_that_was_clicked_keeps_the_keyboard_behind_a_holed_putt()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("0"));
+            user.press_and_release(temperature);
+            user.answer(refusal_of_shot());
+            user.wait_for_window(round_window());
+            user.key(Qt::Key_A, Qt::ControlModifier);
+            user.type(QStringLiteral("20"));
+            accept(user);
+        });
+        QCOMPARE(round.store.of_round(QStringLiteral("games2"), QStringLiteral("temperature")),
+                 QStringLiteral("20"));
+        QCOMPARE(round.shots(1), 4);
+    }
+
+    void a_partner_that_was_clicked_is_chosen_behind_the_next_putt()
+    {
+        const golfer_store round;
+        round.store.add_partner(QStringLiteral("Ann"), QStringLiteral("Berg"), 77);
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("2"));
+            user.press_and_release_row(partners, 0);
+            wait_for_rows(user, 5);
+            user.same(user.focus(), partners, QStringLiteral("focus"));
+            accept(user);
+        });
+        const QString chosen = round.store.of_round(QStringLiteral("games2"), QStringLiteral("PARTNERS"));
+        QVERIFY2(chosen.contains(u"77"), qUtf8Printable(chosen));
+    }
+
+    void a_list_that_was_opened_is_left_open_until_its_entry_is_chosen()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("0"));
+            user.press_and_release(courses);
+            user.wait_until(QStringLiteral("the open list"),
+                            [] { return QApplication::activePopupWidget() != nullptr; });
+            user.key(Qt::Key_Down);
+            user.key(Qt::Key_Return);
+            user.answer(refusal_of_shot());
+            user.wait_for_window(round_window());
+            user.same(user.selected(courses), 1, QStringLiteral("course"));
+            user.same(user.focus(), courses, QStringLiteral("focus"));
+            accept(user);
+        });
+        QCOMPARE(round.store.of_round(QStringLiteral("games"), QStringLiteral("CODEF")),
+                 QStringLiteral("BETA-6"));
+        QCOMPARE(round.shots(1), 4);
+    }
+
+    void a_list_that_was_opened_and_left_takes_what_was_typed()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("2"));
+            user.press_and_release(QStringLiteral("conditions"));
+            user.wait_until(QStringLiteral("the open list"),
+                            [] { return QApplication::activePopupWidget() != nullptr; });
+            user.key(Qt::Key_Escape);
+            wait_for_rows(user, 5);
+            user.same(user.focus(), QStringLiteral("conditions"), QStringLiteral("focus"));
+            accept(user);
+        });
+    }
+
+    void another_cell_that_was_clicked_gets_the_cursor()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("2"));
+            user.click_cell(details, 1, 3);
+            user.same(user.cursor(details), QStringLiteral("1,3"), QStringLiteral("cursor"));
+            user.same(user.grid_rows(details), 5, QStringLiteral("rows"));
+            accept(user);
+        });
+    }
+};
+
+QTEST_MAIN(test_detailed_clicks)
+
+#include "test_detailed_clicks.moc"
