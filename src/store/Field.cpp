@@ -1,6 +1,7 @@
 #include "numbers.h"
 #include "recordset_rows.h"
 #include "text.h"
+#include "variant_number.h"
 
 /// Reading and writing one field.
 namespace verdane {
@@ -11,20 +12,6 @@ namespace {
 bool is_nothing(const QVariant& value)
 {
     return value.isNull() || (value.typeId() == QMetaType::QString && value.toString().isEmpty());
-}
-
-double number_of(const QVariant& value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Double:
-        return *static_cast<const double*>(value.constData());
-    case QMetaType::QString:
-        return leading_number(*static_cast<const QString*>(value.constData()));
-    case QMetaType::Bool:
-        return value.toBool() ? 1.0 : 0.0;
-    default:
-        return value.toDouble();
-    }
 }
 
 int16 count_of(const QVariant& value)

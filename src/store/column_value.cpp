@@ -1,22 +1,11 @@
 #include "numbers.h"
 #include "schema.h"
+#include "variant_number.h"
 
 /// Values on their way into a column.
 namespace verdane {
 
 namespace {
-
-double number_of(const QVariant& value)
-{
-    switch (value.typeId()) {
-    case QMetaType::QString:
-        return leading_number(value.toString());
-    case QMetaType::Bool:
-        return value.toBool() ? 1.0 : 0.0;
-    default:
-        return value.toDouble();
-    }
-}
 
 /// An empty text is a value. The toolkit would hand the engine Null for one that was never filled.
 QString never_null(const QString& text)

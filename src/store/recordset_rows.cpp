@@ -2,8 +2,7 @@
 
 #include "Connection1.h"
 #include "row_writer.h"
-
-#include <QSqlQuery>
+#include "single_commit.h"
 
 #include <algorithm>
 
@@ -117,32 +116,6 @@ void Recordset::rows::commit(recordset_row& row)
 
 namespace {
 
-/// Several statements that reach the store together or not at all.
-class one_commit {
-public:
-    explicit one_commit(Connection1& connection) : connection_(connection)
-    {
-        connection_.Execute(QStringLiteral("BEGIN IMMEDIATE"));
-    }
-    ~one_commit()
-    {
-        if (!done_)
-            QSqlQuery(connection_.database()).exec(QStringLiteral("ROLLBACK"));
-    }
-    one_commit(const one_commit&) = delete;
-    one_commit& operator=(const one_commit&) = delete;
-
-    void finish()
-    {
-        connection_.Execute(QStringLiteral("COMMIT"));
-        done_ = true;
-    }
-
-private:
-    Connection1& connection_;
-    bool done_ = false;
-};
-
 std::vector<recordset_row*> waiting_rows(const row_list& rows)
 {
     std::vector<recordset_row*> waiting;
@@ -161,7 +134,7 @@ void Recordset::rows::commit_all()
     if (waiting.empty() && removed.empty())
         return;
     std::vector<qint64> numbers;
-    one_commit together(connection);
+    single_commit together(connection);
     for (const removed_row& gone : removed)
         erase_row(connection, set, gone.row->number, where());
     for (const recordset_row* row : waiting)

@@ -4,10 +4,9 @@ namespace verdane {
 
 class Connection1;
 
-/// Everything that is written while an object of this class lives is committed together by `finish`; a
-/// report would otherwise wait for a commit a row. Without it, as after a failure, nothing of it stays.
-/// For recordsets with an optimistic lock: a batch update makes a commit of its own and cannot stand
-/// inside.
+/// Everything that is written while an object of this class lives reaches the store together, by `finish`,
+/// or not at all: without it, as after a failure, nothing of it stays. A batch update is such a commit
+/// itself and cannot stand inside another.
 class single_commit {
 public:
     explicit single_commit(Connection1& connection);
@@ -19,7 +18,7 @@ public:
 
 private:
     Connection1& connection_;
-    bool open_ = true;
+    bool done_ = false;
 };
 
 }  // namespace verdane

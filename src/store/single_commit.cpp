@@ -1,7 +1,8 @@
 #include "single_commit.h"
 
 #include "Connection1.h"
-#include "failure_guard.h"
+
+#include <QSqlQuery>
 
 namespace verdane {
 
@@ -13,14 +14,14 @@ single_commit::single_commit(Connection1& connection) : connection_(connection)
 single_commit::~single_commit()
 {
     // The engine may have ended the transaction by itself; that it is over is all that counts.
-    if (open_)
-        finishes_without_failure([this] { connection_.Execute(QStringLiteral("ROLLBACK")); });
+    if (!done_)
+        QSqlQuery(connection_.database()).exec(QStringLiteral("ROLLBACK"));
 }
 
 void single_commit::finish()
 {
     connection_.Execute(QStringLiteral("COMMIT"));
-    open_ = false;
+    done_ = true;
 }
 
 }  // namespace verdane

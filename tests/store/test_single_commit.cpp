@@ -1,0 +1,75 @@
+#include <QTest>
+
+#include "failures.h"
+#include "single_commit.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::store_fixture;
+using testing::stored_names;
+
+namespace {
+
+void add(Recordset& partners, const char* name)
+{
+    partners.AddNew();
+    partners.Fields(u"name").set(QString::fromLatin1(name));
+    partners.Update();
+}
+
+}  // namespace
+
+class test_single_commit : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everything_reaches_the_store_together()
+    {
+        store_fixture store;
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        single_commit together(store.connection);
+        add(*partners, "a");
+        add(*partners, "b");
+        QCOMPARE(stored_names(store), QString());
+        together.finish();
+        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+    }
+
+    void nothing_stays_without_its_end()
+    {
+        store_fixture store;
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        add(*partners, "a");
+        {
+            const single_commit together(store.connection);
+            add(*partners, "b");
+        }
+        QCOMPARE(stored_names(store), QStringLiteral("a"));
+        // The connection is free for the next commit.
+        add(*partners, "c");
+        QCOMPARE(stored_names(store), QStringLiteral("a c"));
+    }
+
+    void one_cannot_stand_inside_another()
+    {
+        store_fixture store;
+        const single_commit together(store.connection);
+        QVERIFY(failure_of([&] { single_commit{store.connection}; }).has_value());
+    }
+
+    void it_goes_quietly_when_its_transaction_is_over_already()
+    {
+        store_fixture store;
+        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        {
+            const single_commit together(store.connection);
+            add(*partners, "a");
+            store.connection.Execute(QStringLiteral("ROLLBACK"));
+        }
+        QCOMPARE(stored_names(store), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(test_single_commit)
+#include "test_single_commit.moc"
