@@ -11,6 +11,7 @@
 #include "f_new_round.h"
 #include "round_columns.h"
 #include "round_rows.h"
+#include "weather_words.h"
 
 namespace verdane {
 
@@ -54,10 +55,10 @@ void fill_courses(f_new_round& window)
 
 void fill_conditions(f_new_round& window)
 {
-    fill_silently(*window.conditions,
-                  {window.caption(u"Ensoleillé", u"Sunny"),
-                   window.caption(u"Ciel variable", u"Variable cloudiness"),
-                   window.caption(u"Pluie", u"Rainy"), window.caption(u"Vent", u"Windy")});
+    QStringList weathers;
+    for (const text_pair& weather : weather_words)
+        weathers << weather.in(window.french());
+    fill_silently(*window.conditions, weathers);
     window.conditions->setCurrentIndex(0);
 }
 

@@ -8,8 +8,6 @@ namespace verdane {
 
 namespace {
 
-constexpr int feet_in_a_yard = 3;
-
 void turn_to_feet(hole_shot& row, const unit_words& words)
 {
     row.unit = words.feet;

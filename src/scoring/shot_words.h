@@ -16,7 +16,13 @@ constexpr int putter = 14;
 constexpr int long_shot = 1;
 constexpr int approach_shot = 2;
 constexpr int putt = 3;
+
 constexpr int in_the_fairway = 1;
+constexpr int to_the_left = 2;
+constexpr int to_the_right = 3;
+
+constexpr int against_the_rules = 3;
+constexpr int out_of_bounds = 4;
 /// The entry of the penalty menu that takes a penalty away.
 constexpr int no_penalty = 5;
 
@@ -41,6 +47,7 @@ inline constexpr text_pair no_word{u"Non", u"No"};
 /// The units of a distance. They are read in both languages and written in the interface's.
 inline constexpr text_pair feet_words{u"Pieds", u"Feets"};
 inline constexpr text_pair yards_words{u"Verges", u"Yards"};
+constexpr int feet_in_a_yard = 3;
 
 inline bool is_feet_word(QStringView unit)
 {

@@ -6,12 +6,6 @@ namespace verdane {
 
 namespace {
 
-constexpr int to_the_left = 2;
-constexpr int to_the_right = 3;
-constexpr int against_the_rules = 3;
-constexpr int out_of_bounds = 4;
-constexpr double feet_in_a_yard = 3;
-
 template <typename Count>
 void count(Count& counter)
 {

@@ -4,26 +4,17 @@
 #include <QFormLayout>
 #include <QLabel>
 
-#include <array>
-
 #include "close_if_open.h"
 #include "DataEnvironment1.h"
 #include "language.h"
 #include "round_columns.h"
 #include "text.h"
 #include "Verdane_tools.h"
+#include "weather_words.h"
 
 namespace verdane {
 
 namespace {
-
-constexpr std::array<text_pair, 5> weathers = {{
-    {u"Toutes", u"ALL"},
-    {u"Ensoleillé", u"Sunny"},
-    {u"Ciel variable", u"Variable cloudiness"},
-    {u"Pluie", u"Rainy"},
-    {u"Vent", u"Windy"},
-}};
 
 constexpr int course_width = 20;
 
@@ -80,7 +71,8 @@ void fill_course_filter(QComboBox& list, bool french, tee_letters letters)
 
 void fill_weather_filter(QComboBox& list, bool french)
 {
-    for (const text_pair& weather : weathers)
+    list.addItem(text_pair{u"Toutes", u"ALL"}.in(french));
+    for (const text_pair& weather : weather_words)
         list.addItem(weather.in(french));
     list.setCurrentIndex(0);
 }
