@@ -23,11 +23,12 @@ QString ask_for_file(QWidget* owner, const file_question& question)
     return dialog.selectedFiles().constFirst();
 }
 
-bool ask_for_printer(QWidget* owner, QPrinter& printer)
+bool ask_for_printer(QWidget* owner, QPrinter& printer, int pages)
 {
     QPrintDialog dialog(&printer, owner);
     dialog.setObjectName(QStringLiteral("choose_printer"));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    dialog.setMinMax(1, pages);
     return dialog.exec() == QDialog::Accepted;
 }
 

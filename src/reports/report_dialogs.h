@@ -24,8 +24,8 @@ struct file_question {
 struct report_dialogs {
     /// Where to write to; empty when the user changed their mind.
     std::function<QString(QWidget* owner, const file_question&)> choose_file;
-    /// Sets the printer up; false when the user changed their mind.
-    std::function<bool(QWidget* owner, QPrinter&)> choose_printer;
+    /// Sets the printer up for a report of that many pages; false when the user changed their mind.
+    std::function<bool(QWidget* owner, QPrinter&, int pages)> choose_printer;
 };
 
 /// The dialogs in use.

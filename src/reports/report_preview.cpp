@@ -161,7 +161,7 @@ void report_preview::print()
         printer.setPageOrientation(page.width() > page.height() ? QPageLayout::Landscape
                                                                 : QPageLayout::Portrait);
         const auto document = document_;
-        if (dialogs_of_reports().choose_printer(this, printer))
+        if (dialogs_of_reports().choose_printer(this, printer, document->page_count()))
             document->print(printer);
     });
 }

@@ -39,12 +39,13 @@ struct page_range {
     int last;
 };
 
-/// Pages from 0. A printer that was asked for nothing special has 0 for both ends.
+/// Pages from 0; the last is before the first where none of those that were asked for is there. A printer
+/// that was asked for nothing special has 0 for both ends.
 page_range asked_for(const QPrinter& printer, int page_count)
 {
     if (printer.fromPage() <= 0)
         return {0, page_count - 1};
-    return {qMin(printer.fromPage(), page_count) - 1, qMin(printer.toPage(), page_count) - 1};
+    return {printer.fromPage() - 1, qMin(printer.toPage(), page_count) - 1};
 }
 
 [[noreturn]] void fail_printing(const QPrinter& printer)
@@ -58,11 +59,13 @@ page_range asked_for(const QPrinter& printer, int page_count)
 
 void print_report(const report_document& document, QPrinter& printer)
 {
+    const page_range range = asked_for(printer, document.page_count());
+    if (range.last < range.first)
+        return;
     printer.setFullPage(true);
     QPainter painter;
     if (!painter.begin(&printer))
         fail_printing(printer);
-    const page_range range = asked_for(printer, document.page_count());
     const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
     bool is_first = true;
     for (int copy = 0; copy < copies; ++copy) {

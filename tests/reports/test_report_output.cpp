@@ -175,6 +175,8 @@ private Q_SLOTS:
         QTest::newRow("one") << 2 << 2 << 1;
         QTest::newRow("two") << 2 << 3 << 2;
         QTest::newRow("more than there are") << 3 << 9 << 1;
+        QTest::newRow("none that there is") << 4 << 9 << 0;
+        QTest::newRow("far behind the last") << 1000 << 1000 << 0;
     }
     void printing_gives_the_pages_that_were_asked_for()
     {
@@ -182,13 +184,15 @@ private Q_SLOTS:
         QFETCH(int, last);
         QFETCH(int, pages);
         QPrinter printer(QPrinter::HighResolution);
-        print_to(printer, file(QStringLiteral("printed.pdf")));
+        const QString path = file(QStringLiteral("printed-%1-%2.pdf").arg(first).arg(last));
+        print_to(printer, path);
         if (first > 0)
             printer.setFromTo(first, last);
         three_pages()->print(printer);
-        const QStringList seen = pdf_pages(file(QStringLiteral("printed.pdf")));
+        QCOMPARE(QFile::exists(path), pages > 0);
+        const QStringList seen = pages > 0 ? pdf_pages(path) : QStringList();
         QCOMPARE(seen.size(), pages);
-        QVERIFY(seen.front().contains(QStringLiteral("sheet-%1-").arg(qMax(1, first))));
+        QVERIFY(pages == 0 || seen.front().contains(QStringLiteral("sheet-%1-").arg(qMax(1, first))));
     }
 
     void a_page_comes_whole_on_other_paper()

@@ -3,10 +3,12 @@
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "page_view.h"
 #include "report_control.h"
@@ -29,6 +31,7 @@ class test_report_preview : public QObject {
     QPointer<report_preview> window_;
     file_question asked_;
     QString answer_;
+    std::function<bool(QWidget*, QPrinter&, int)> printer_question_;
 
     QString file(const QString& name) const { return folder_.filePath(name); }
 
@@ -97,6 +100,7 @@ class test_report_preview : public QObject {
     QMessageBox* box() { return window_->findChild<QMessageBox*>(QStringLiteral("message_box")); }
 
 private Q_SLOTS:
+    void initTestCase() { printer_question_ = dialogs_of_reports().choose_printer; }
     void init()
     {
         is_french = false;
@@ -376,7 +380,7 @@ private Q_SLOTS:
     void printing_uses_the_printer_that_was_set_up()
     {
         const QString path = file(QStringLiteral("printed.pdf"));
-        dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer) {
+        dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer, int) {
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(path);
             return true;
@@ -387,10 +391,29 @@ private Q_SLOTS:
         QVERIFY(pdf_fact(path, QStringLiteral("Page size")).startsWith(QStringLiteral("842 x 595")));
     }
 
+    void the_question_for_the_printer_knows_how_many_pages_there_are()
+    {
+        dialogs_of_reports().choose_printer = printer_question_;
+        QList<int> limits;
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&limits] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return;
+            limits = {dialog->minPage(), dialog->maxPage()};
+            dialog->reject();
+        });
+        look.start(10);
+        open();
+        press(Qt::Key_P, Qt::ControlModifier);
+        QCOMPARE(limits, QList<int>({1, 3}));
+        QVERIFY(box() == nullptr);
+    }
+
     void printing_that_fails_is_told_and_one_that_is_left_is_not()
     {
         bool goes_on = true;
-        dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer) {
+        dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer, int) {
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(file(QStringLiteral("nowhere/printed.pdf")));
             return goes_on;
