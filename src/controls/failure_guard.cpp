@@ -40,4 +40,21 @@ void end_after_failure(const run_time_failure& failure)
     std::_Exit(EXIT_FAILURE);
 }
 
+bool is_failure_of_store(failure_kind kind)
+{
+    switch (kind) {
+    case failure_kind::misuse:
+    case failure_kind::missing_table:
+    case failure_kind::store_locked:
+    case failure_kind::store_read_only:
+    case failure_kind::store_damaged:
+    case failure_kind::store_full:
+    case failure_kind::store_unreachable:
+    case failure_kind::store_other:
+        return true;
+    default:
+        return false;
+    }
+}
+
 }  // namespace verdane

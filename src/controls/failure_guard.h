@@ -39,4 +39,22 @@ bool finishes_without_failure(Routine&& routine)
     }
 }
 
+/// True for what only the store brings about: a statement, a recordset or a file that does not do what it
+/// was asked to. False for what the program worked out wrong, such as a count beyond its range.
+bool is_failure_of_store(failure_kind kind);
+
+/// The same for a routine that is laid down to end where the store fails, and there only.
+template <typename Routine>
+bool finishes_without_store_failure(Routine&& routine)
+{
+    try {
+        routine();
+        return true;
+    } catch (const run_time_failure& failure) {
+        if (!is_failure_of_store(failure.kind()))
+            throw;
+        return false;
+    }
+}
+
 }  // namespace verdane

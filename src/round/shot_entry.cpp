@@ -211,7 +211,7 @@ bool check_shots(f_new_round& window)
     if (!shot_rows::a_hole_is_loaded())
         return true;
     int incomplete = 0;
-    finishes_without_failure([&] { incomplete = walk_shots(window); });
+    finishes_without_store_failure([&] { incomplete = walk_shots(window); });
     window.details->ReBind();
     if (incomplete == 0)
         return true;

@@ -6,10 +6,12 @@
 
 #include "boxes.h"
 #include "failure_guard.h"
+#include "failures.h"
 #include "hand.h"
 #include "language.h"
 
 using namespace verdane;
+using verdane::testing::failure_of;
 using verdane::testing::hand;
 using verdane::testing::play;
 
@@ -85,6 +87,30 @@ private Q_SLOTS:
     {
         QVERIFY(finishes_without_failure([] {}));
         QVERIFY(!finishes_without_failure([] { throw run_time_failure(failure_kind::misuse, QString()); }));
+    }
+
+    void only_what_the_store_brings_about_is_forgiven_where_the_store_is_data()
+    {
+        QTest::addColumn<failure_kind>("kind");
+        QTest::addColumn<bool>("forgiven");
+        QTest::newRow("refused row") << failure_kind::store_other << true;
+        QTest::newRow("full disk") << failure_kind::store_full << true;
+        QTest::newRow("missing table") << failure_kind::missing_table << true;
+        QTest::newRow("closed recordset") << failure_kind::misuse << true;
+        QTest::newRow("count beyond its range") << failure_kind::overflow << false;
+        QTest::newRow("index outside its list") << failure_kind::subscript << false;
+        QTest::newRow("no value") << failure_kind::invalid_null << false;
+    }
+    void only_what_the_store_brings_about_is_forgiven_where_the_store_is()
+    {
+        QFETCH(failure_kind, kind);
+        QFETCH(bool, forgiven);
+        bool finished = true;
+        const auto seen = failure_of([&] {
+            finished = finishes_without_store_failure([&] { throw run_time_failure(kind, QString()); });
+        });
+        QCOMPARE(!seen.has_value(), forgiven);
+        QCOMPARE(finished, !forgiven);
     }
 };
 

@@ -6,6 +6,7 @@
 
 #include "Main_module.h"
 #include "round_windows.h"
+#include "told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -71,6 +72,18 @@ void type_strokes_beyond_16_bits(const round_store& store)
     });
 }
 
+void turn_more_to_feet_than_16_bits_hold(const round_store& store)
+{
+    store.add_round(key_of_keyed_round());
+    add_told_shot(store, 1, 1, 9, 11000, QStringLiteral("Verges"), 2);
+    add_told_shot(store, 1, 2, 14, 6, QStringLiteral("Pieds"), 3);
+    in_stored_round(key_of_keyed_round(), [&](hand& user) {
+        go_to_detailed_page(user);
+        user.click(ok_button);
+        report_failure(user, store);
+    });
+}
+
 int run_child(const QString& limit)
 {
     const round_store store;
@@ -81,6 +94,8 @@ int run_child(const QString& limit)
         look_up_in_a_full_list(store);
     else if (limit == u"costs")
         total_costs_beyond_16_bits(store);
+    else if (limit == u"feet")
+        turn_more_to_feet_than_16_bits_hold(store);
     else
         type_strokes_beyond_16_bits(store);
     return 77;  // not reached: the process has ended with the failure
@@ -102,6 +117,8 @@ private Q_SLOTS:
                                  << "holes ";
         QTest::newRow("costs") << ""
                                << "holes --";
+        QTest::newRow("feet") << ""
+                              << "holes --";
         QTest::newRow("strokes") << ""
                                  << "holes ";
     }
