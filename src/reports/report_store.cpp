@@ -6,6 +6,7 @@
 #include <QSqlRecord>
 #include <QUuid>
 
+#include "query_text.h"
 #include "run_time_failure.h"
 
 namespace verdane {
@@ -16,13 +17,6 @@ QString& store_path()
 {
     static QString path;
     return path;
-}
-
-/// Texts, quoted names and remarks of a statement hold no parameter.
-QString without_literals(QString sql)
-{
-    static const QRegularExpression literal(QStringLiteral("'[^']*'|\"[^\"]*\"|--[^\\n]*"));
-    return sql.replace(literal, QStringLiteral(" "));
 }
 
 /// A statement's own `with` joins the list of the queries above it.

@@ -4,6 +4,8 @@
 
 #include <map>
 
+#include "query_text.h"
+
 namespace verdane {
 
 namespace {
@@ -98,6 +100,19 @@ void read_query(template_file& target, const head_setting& setting)
     target.queries.push_back({setting.name, setting.value, setting.line});
 }
 
+/// The value is as it stands in the file here, so that its lines can be counted.
+void check_quoted_names(const template_file& target, const head_setting& setting)
+{
+    const auto stray = stray_quoted_name(setting.value);
+    if (!stray)
+        return;
+    const auto lines_above = QStringView(setting.value).first(*stray).count(u'\n');
+    const QString name = setting.value.sliced(*stray).section(u'"', 0, 1) + u'"';
+    fail_template(target.at(setting.line + static_cast<int>(lines_above)),
+                  QStringLiteral("query %1: %2 is quoted and no heading behind as; SQL takes it for a text")
+                      .arg(setting.name, name));
+}
+
 setting_reader reader_of(const QString& word)
 {
     static const std::map<QString, setting_reader> readers{
@@ -130,8 +145,11 @@ std::vector<head_setting> settings_in(const template_file& target, const QString
     int number = 0;
     for (const QString& text : lines) {
         ++number;
-        if (text.trimmed().isEmpty() || text.startsWith(u'#'))
+        if (text.trimmed().isEmpty() || text.startsWith(u'#')) {
+            if (!result.empty())
+                result.back().value += u'\n';
             continue;
+        }
         if (!goes_on(text))
             result.push_back(start_of_setting(target, text, number));
         else if (result.empty())
@@ -158,6 +176,8 @@ void read_template_head(template_file& target, const QStringList& lines)
         const setting_reader read = reader_of(setting.word);
         if (read == nullptr)
             fail_template(target.at(setting.line), QStringLiteral("unknown setting %1").arg(setting.word));
+        if (read == read_query)
+            check_quoted_names(target, setting);
         setting.value = setting.value.trimmed();
         read(target, setting);
     }

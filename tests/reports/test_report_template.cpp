@@ -93,6 +93,19 @@ private Q_SLOTS:
         add("missing column of a query above",
             plain_head + QStringLiteral("query bad =\n    select nothing from rounds\n"), QString(),
             QStringLiteral("try.rpt:5: query bad: "));
+        add("missing column in double quotes",
+            plain_head + QStringLiteral("query bad =\n\n# a remark\n    select number,\n  \"nothing\" from "
+                                        "rounds\n"),
+            QString(), QStringLiteral("try.rpt:9: query bad: \"nothing\" is quoted"));
+        add("double quotes on the first line",
+            QStringLiteral("query bad = select \"course_text\" from stats"), QString(),
+            QStringLiteral("try.rpt:1: query bad: \"course_text\" is quoted"));
+        add("double quotes in an order",
+            QStringLiteral("query bad =\n    select 1 as \"Line\"\n    order by \"Line\""), QString(),
+            QStringLiteral("try.rpt:3: query bad: \"Line\" is quoted"));
+        add("double quotes behind a word that ends with as",
+            QStringLiteral("query bad = select hole_1 alias \"x\" from stats"), QString(),
+            QStringLiteral("try.rpt:1: query bad: \"x\" is quoted"));
         add("writing statement", QStringLiteral("query bad = delete from stats"), QString(),
             QStringLiteral("try.rpt:1: query bad: "));
         add("query twice", QStringLiteral("query one = select 1\nquery one = select 2"), QString(),
@@ -260,6 +273,15 @@ private Q_SLOTS:
     {
         const template_query query{QStringLiteral("q"), QStringLiteral("select ':a', \":b\" -- :c\n, :d")};
         QCOMPARE(report_snapshot::parameters_of(query), QStringList{QStringLiteral("d")});
+    }
+
+    void double_quotes_stand_in_headings_texts_and_remarks()
+    {
+        const QString head = QStringLiteral("query it =\n    select 'say \"a\", it''s \"b\"' as \"One\",\n"
+                                            "        2 AS\n    \"A \", -- nor \"here\"\n"
+                                            "    /* nor \"here\" */ 3 as n\n");
+        QCOMPARE(filled(head, QStringLiteral("{{#it}}{{One}} {{n}}{{/it}}")),
+                 QStringLiteral("say &quot;a&quot;, it's &quot;b&quot; 3"));
     }
 
     void a_report_sees_committed_rows_only()
