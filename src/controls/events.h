@@ -19,6 +19,10 @@ void on_click(QAbstractButton& button, Routine routine)
                      [routine = std::move(routine)] { run_event(routine); });
 }
 
+/// For a button that starts long work: a double click is one click, not two runs. The second press waits
+/// while the work is done and would start it again.
+void take_double_click_as_one(QAbstractButton& button);
+
 /// Each change of the text, typed or set by the program.
 template <typename Routine>
 void on_change(QLineEdit& box, Routine routine)

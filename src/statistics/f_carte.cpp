@@ -68,6 +68,7 @@ QBoxLayout* f_carte::make_buttons()
 void f_carte::wire()
 {
     on_click(Command1(0), [this] { f_carte_func::print(*this); });
+    take_double_click_as_one(Command1(0));
     on_click(Command1(1), [this] { f_carte_func::cancel(*this); });
     on_double_click(*List1, [this] { f_carte_func::print(*this); });
 }

@@ -166,6 +166,8 @@ void f_date_range::connect_events()
     on_click(*Command2, [this] { f_date_range_func::run_round_statistics(*this); });
     on_click(*Command3, [this] { f_date_range_func::run_cost_statistics(*this); });
     on_click(*OKButton, [this] { f_date_range_func::run_putt_statistics(*this); });
+    for (QPushButton* run : {Command1, Command2, Command3, OKButton})
+        take_double_click_as_one(*run);
     on_click(*CancelButton, [this] { f_date_range_func::cancel(*this); });
 }
 

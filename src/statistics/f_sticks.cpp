@@ -226,6 +226,7 @@ void f_sticks::wire()
 {
     on_click(*Command1, [this] { show_filters(*this); });
     on_click(*Actualiser, [this] { compute_averages(*this); });
+    take_double_click_as_one(*Actualiser);
     on_click(*enr, [this] { f_sticks_func::accept(*this); });
     on_click(*Fer, [this] { cancel(*this); });
 }

@@ -30,7 +30,10 @@ public:
         for (QWidget* widget :
              {static_cast<QWidget*>(opener), static_cast<QWidget*>(asker), static_cast<QWidget*>(box)})
             layout->addWidget(widget);
-        on_click(*asker, [] { tell(QStringLiteral("a notice")); });
+        on_click(*asker, [this] {
+            ++notices;
+            tell(QStringLiteral("a notice"));
+        });
         on_click(*opener, [this] {
             trial child(u"f_child");
             child.show_modal();
@@ -39,6 +42,7 @@ public:
     }
 
     QPushButton* opener = nullptr;
+    int notices = 0;
     QPushButton* asker = nullptr;
     QLineEdit* box = nullptr;
     int activations = 0;
@@ -88,6 +92,21 @@ private Q_SLOTS:
              });
         QCOMPARE(window.activations, 1);
         QCOMPARE(window.unloads, 1);
+    }
+
+    void a_button_of_long_work_takes_a_double_click_as_one()
+    {
+        trial window(u"f_trial");
+        take_double_click_as_one(*window.asker);
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_trial"));
+                 user.double_click(QStringLiteral("asker"));
+                 user.answer(notice);
+                 user.wait_until_gone(QStringLiteral("message_box"));
+                 user.close_window(QStringLiteral("f_trial"));
+             });
+        QCOMPARE(window.notices, 1);
     }
 
     void coming_back_from_another_window_activates_again()

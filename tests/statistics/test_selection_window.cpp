@@ -185,6 +185,20 @@ private Q_SLOTS:
         }
     }
 
+    void a_double_click_runs_it_once()
+    {
+        const store_folder store;
+        add_three_rounds(diary(store.path()));
+        in_selection_window(
+            [](hand& user) {
+                user.double_click(u"OKButton"_s);
+                answer_plain(user, u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
+                             u"Verdane could not find any detailed rounds with the chosen parameters.");
+                user.wait_until_gone(u"message_box"_s);
+            },
+            statistics_mode::putt);
+    }
+
     void opening_the_window_empties_the_cost_report_in_every_mode_data()
     {
         using enum statistics_mode;
