@@ -125,19 +125,22 @@ void remove_row()
         shots().MoveFirst();
 }
 
-/// What the check writes and where it leaves the cursor. The number of the incomplete shot, or 0.
-int walk_shots(const f_new_round& window)
+/// What the check writes and where it leaves the cursor. `incomplete` takes the number of the incomplete
+/// shot as the walk comes to it, so that it stands whatever becomes of that row.
+void walk_shots(const f_new_round& window, int& incomplete)
 {
     shot_list rows = shot_rows::read();
     if (rows.empty())
-        return 0;
+        return;
     const shots_check found = verdane::check_shots(rows, card_of_shots(window).yards, units_of_interface());
-    shot_rows::write(rows);
+    shot_rows::write(rows, [&](int row) {
+        if (row + 1 == found.incomplete)
+            incomplete = found.incomplete;
+    });
     if (found.ok)
         shots().MoveLast();
     else
         shots().MoveTo(found.incomplete - 1);
-    return found.incomplete;
 }
 
 void make_putt()
@@ -211,7 +214,7 @@ bool check_shots(f_new_round& window)
     if (!shot_rows::a_hole_is_loaded())
         return true;
     int incomplete = 0;
-    finishes_without_store_failure([&] { incomplete = walk_shots(window); });
+    finishes_without_store_failure([&] { walk_shots(window, incomplete); });
     window.details->ReBind();
     if (incomplete == 0)
         return true;

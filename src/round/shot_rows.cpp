@@ -116,9 +116,13 @@ shot_list read()
     return shots;
 }
 
-void write(const shot_list& shots)
+void write(const shot_list& shots, const std::function<void(int)>& written)
 {
-    with_each_row([&shots](int row) { write_current(shots[static_cast<std::size_t>(row)]); });
+    with_each_row([&](int row) {
+        write_current(shots[static_cast<std::size_t>(row)]);
+        if (written)
+            written(row);
+    });
     rows().Update();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 #include "hole_shots.h"
 
 /// Where the shots of the hole live: the rows of `rsStat_rounds`.
@@ -47,7 +49,7 @@ bool on_a_row();
 shot_list read();
 
 /// Writes what changed and commits it; the current row stays the current one. `shots` has one entry for
-/// each row.
-void write(const shot_list& shots);
+/// each row. `written` is told the place of each row, from 0, before the row is committed.
+void write(const shot_list& shots, const std::function<void(int)>& written = {});
 
 }  // namespace verdane::shot_rows

@@ -127,6 +127,26 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 2);
     }
 
+    void OK_stays_where_the_store_refuses_the_incomplete_shot()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        add_told_shot(round.store, 1, 1, 1, 60, QStringLiteral("Verges"), 1);
+        add_shot(round.store, 1, 2, QStringLiteral("stickval = 9, stick = 'F9'"));
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            round.store.store.write(QStringLiteral("create trigger refuse before update on Stat_rounds when "
+                                                   "old.shot = 2 begin select raise(abort, 'no'); end"));
+            user.click(ok_button);
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.wait_for_window(round_window());
+            user.check(user.visible(details), QStringLiteral("the detailed page"));
+            round.store.store.write(QStringLiteral("drop trigger refuse"));
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+        QCOMPARE(round.shots(1), 2);
+    }
+
     void the_close_box_leaves_where_a_shot_is_incomplete_once_the_question_is_answered()
     {
         const golfer_store round;
