@@ -46,6 +46,12 @@ bool hole_is_loaded(const f_new_round& window)
     return shots().is_open() && shot_rows::is_loaded(window.date_value, window.hole_shown());
 }
 
+/// The shots of a hole are there to be checked and removed. They are not where they could not be opened.
+bool has_shots_of_a_hole()
+{
+    return shots().is_open() && shot_rows::a_hole_is_loaded();
+}
+
 /// The card of the hole whose shots are loaded. That is the hole on screen, except on the quick page,
 /// where the hole may have changed since its shots were opened.
 Round_functions::hole_card card_of_shots(const f_new_round& window)
@@ -103,6 +109,18 @@ void load_rows(const QString& statement)
         shots().Open();
         shots().Requery();
     });
+}
+
+/// Shots that could not be read leave the grid empty.
+void show_loaded_rows(f_new_round& window)
+{
+    if (shots().is_open()) {
+        if (shots().empty())
+            add_first_row(window);
+        shots().MoveFirst();
+    }
+    window.details->bind();
+    window.details->show();
 }
 
 bool last_is_putt()
@@ -201,17 +219,13 @@ bool open_hole_shots(f_new_round& window)
     window.details->hide();
     window.details->unbind();
     load_rows(shot_rows::statement_of_hole(window.date_value, window.hole_shown()));
-    if (shots().empty())
-        add_first_row(window);
-    shots().MoveFirst();
-    window.details->bind();
-    window.details->show();
+    show_loaded_rows(window);
     return true;
 }
 
 bool check_shots(f_new_round& window)
 {
-    if (!shot_rows::a_hole_is_loaded())
+    if (!has_shots_of_a_hole())
         return true;
     int incomplete = 0;
     finishes_without_store_failure([&] { walk_shots(window, incomplete); });
@@ -224,12 +238,13 @@ bool check_shots(f_new_round& window)
 
 void drop_blank_shot(f_new_round& window, int16& removed, bool& ok)
 {
-    const bool blank = shot_rows::a_hole_is_loaded() && stands_on_blank_top(window);
+    const bool loaded = has_shots_of_a_hole();
+    const bool blank = loaded && stands_on_blank_top(window);
     if (blank) {
         remove_row();
         window.details->ReBind();
     } else {
-        if (shot_rows::a_hole_is_loaded() && !shots().empty()) {
+        if (loaded && !shots().empty()) {
             shots().MoveFirst();
             shots().Fields(at::normal).set(card_of_shots(window).par);
         }
@@ -241,7 +256,7 @@ void drop_blank_shot(f_new_round& window, int16& removed, bool& ok)
 
 bool hole_is_untold()
 {
-    if (!shots().is_open() || !shot_rows::a_hole_is_loaded() || shots().RecordCount() != 1)
+    if (!has_shots_of_a_hole() || shots().RecordCount() != 1)
         return false;
     const std::array told{at::stickval, at::shot_type_value, at::after};
     return std::all_of(told.begin(), told.end(),
