@@ -91,18 +91,19 @@ void ask_tee_off(f_new_round& window)
 void open_shots()
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    if (shots.is_open()) {
-        shots.Update();
-        shots.Close();
-    }
+    // What an earlier round could not store is not stored now.
+    close_if_open(shots);
     shots.Open(shot_rows::a_hole_is_loaded() ? row_reading::at_once : row_reading::when_needed);
     shots.Requery();
 }
 
-/// The window is back from another one: the grid goes on where it was.
+/// The window is back from another one: the grid goes on where it was, on the shot that was being told.
 void go_on_telling(f_new_round& window)
 {
     const int row = window.details->currentIndex().row();
+    Recordset& shots = data_environment().rsStat_rounds;
+    if (shots.is_open())
+        shots.Update();
     open_shots();
     window.details->bound_model().move_to(row);
     window.details->ReBind();

@@ -177,6 +177,40 @@ private Q_SLOTS:
         QCOMPARE(row_counts(round), QStringLiteral("0 0 0 0"));
     }
 
+    void shots_that_cannot_be_opened_leave_an_empty_grid_and_every_way_out_data()
+    {
+        each_way_out_leaves_what_it_should_in_every_table_data();
+    }
+    void shots_that_cannot_be_opened_leave_an_empty_grid_and_every_way_out()
+    {
+        QFETCH(QString, way);
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            user.type(QStringLiteral("4"));
+            round.store.store.write(QStringLiteral("alter table Stat_rounds rename to away"));
+            go_to_detailed_page(user);
+            user.same(user.grid_rows(details), 0, QStringLiteral("rows"));
+            for (const char* button : {"CommandSuiv", "Command4"})
+                user.click(QString::fromLatin1(button));
+            user.click_tab(hole_tabs, 2);
+            user.same(user.grid_rows(details), 0, QStringLiteral("rows of hole 2"));
+            leave(user, way);
+        });
+        QCOMPARE(stored_figures(round.store, 1).left(1), QStringLiteral("4"));
+    }
+
+    void what_an_earlier_round_could_not_store_is_not_stored_by_the_next()
+    {
+        const golfer_store round;
+        Recordset& shots = data_environment().rsStat_rounds;
+        shots.Open();
+        shots.AddNew();
+        shots.Fields(QStringLiteral("date")).set(QStringLiteral("20230101080000"));
+        in_keyed_round(discard);
+        QCOMPARE(row_counts(round), QStringLiteral("0 0 0 0"));
+    }
+
     void whether_a_blank_shot_was_removed_is_said_to_those_who_ask_data()
     {
         QTest::addColumn<int>("asked");
