@@ -155,9 +155,33 @@ private Q_SLOTS:
             leave_second_shot_open(user);
             user.close_window(round_window());
             user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.check(!round.store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save is off"));
             user.answer(question_on_closing(), QMessageBox::No);
         });
         QCOMPARE(round.shots(1), 2);
+        for (const QString& button : {QStringLiteral("B4"), QStringLiteral("B5")})
+            QVERIFY2(round.store.frame.enabled(button), qUtf8Printable(button));
+    }
+
+    void a_store_that_refuses_the_end_still_frees_the_menu_and_the_shots()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            with_round(user, [&](f_new_round& window) {
+                data_environment().rsgames2.Fields(QStringLiteral("conditionM")).set(2);
+                round.store.store.write(QStringLiteral("create trigger refuse before update on games2 begin "
+                                                       "select raise(abort, 'no'); end"));
+                window.unload();
+            });
+        });
+        QVERIFY(!round.store.frame.locked);
+        QVERIFY(!data_environment().rsStat_rounds.is_open());
+        QCOMPARE(data_environment().rsStat_rounds.Source(), QStringLiteral("select * from stat_rounds"));
+        // What came behind the refused row was left as it was.
+        for (const Recordset* left : {&data_environment().rsgames2, &data_environment().rsgames})
+            QVERIFY2(left->is_open(), qUtf8Printable(left->name()));
     }
 
     void a_round_is_reopened_in_the_other_language()
