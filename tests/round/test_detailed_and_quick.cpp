@@ -164,6 +164,22 @@ private Q_SLOTS:
         QCOMPARE(round.store.at(QStringLiteral("cost"), 1), QStringLiteral("25"));
     }
 
+    void a_shot_that_is_being_told_is_there_when_the_costs_are_closed()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_shot(user, 0, 3, QString(), 0);
+            user.click(QStringLiteral("Command2"));
+            user.close_window(QStringLiteral("f_cost"));
+            user.wait_until_gone(QStringLiteral("f_cost"));
+            user.wait_for_window(round_window());
+            user.same(user.cell(details, 0, 2), QStringLiteral("F3"), QStringLiteral("club"));
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+        QCOMPARE(round.store.number(QStringLiteral("select stickval from Stat_rounds")), 3);
+    }
+
     void the_window_is_as_large_after_the_detailed_page_as_before_data() { both_languages(); }
     void the_window_is_as_large_after_the_detailed_page_as_before()
     {
