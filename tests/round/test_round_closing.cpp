@@ -35,6 +35,16 @@ public:
     a_round_list() : Form(u"f_games") {}
 };
 
+void accept_costs(hand& user, const QString& amount)
+{
+    user.click(QStringLiteral("Command2"));
+    user.wait_for_window(QStringLiteral("f_cost"));
+    user.fill(QStringLiteral("cost_0"), amount);
+    user.click(QStringLiteral("OKButton"));
+    user.wait_until_gone(QStringLiteral("f_cost"));
+    user.wait_for_window(round_window());
+}
+
 }  // namespace
 
 class test_round_closing : public QObject {
@@ -186,6 +196,35 @@ private Q_SLOTS:
             discard(user);
         });
         QCOMPARE(store.at(QStringLiteral("cost"), 12), QStringLiteral("0"));
+    }
+
+    void accepted_costs_outlast_the_round_that_is_given_up_and_are_those_of_the_next_at_its_moment()
+    {
+        const round_store store;
+        store.add_two_courses();
+        in_keyed_round([&](hand& user) {
+            accept_costs(user, QStringLiteral("25"));
+            discard(user);
+        });
+        QCOMPARE(store.number(QStringLiteral("select count(*) from games")), 0);
+        QCOMPARE(store.text(QStringLiteral("select date || ' ' || fg from cost")),
+                 QString(key_of_keyed_round() + u" 25"));
+        in_keyed_round([&](hand& user) {
+            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("0"), QStringLiteral("costs"));
+            // The save finds the round's costs by its key: the older row.
+            user.click_tab(tabs, 2);
+            user.click(QStringLiteral("Command2"));
+            user.wait_for_window(QStringLiteral("f_cost"));
+            user.same(user.text(QStringLiteral("cost_0")), QStringLiteral("25"), QStringLiteral("amount"));
+            user.click(QStringLiteral("OKButton"));
+            user.wait_until_gone(QStringLiteral("f_cost"));
+            accept(user);
+        });
+        QCOMPARE(store.text(QStringLiteral("select group_concat(fg) from cost")), QStringLiteral("25,0"));
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("25"), QStringLiteral("costs"));
+            discard(user);
+        });
     }
 
     void the_menu_is_locked_while_the_window_works()
