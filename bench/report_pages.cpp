@@ -18,8 +18,8 @@
 #include "report_control.h"
 #include "report_preview.h"
 #include "report_store.h"
+#include "round_statistics.h"
 #include "statistic_pairs.h"
-#include "Statistics.h"
 #include "stopwatch.h"
 
 /// The reports over a full diary: from the launch until the first page is painted in the preview, and

@@ -8,8 +8,8 @@
 
 #include "detail_pass.h"
 #include "pairs.h"
+#include "round_statistics.h"
 #include "statistic_pairs.h"
-#include "Statistics.h"
 
 /// The statistics of rounds.
 namespace verdane::bench {

@@ -54,14 +54,14 @@ bool fill_stat_sticks(const selection_arguments& chosen, bool store_counts, run_
 
 void club_statistics(const selection_arguments& chosen, const club_run& run)
 {
-    if (!run.window) {
+    if (!run.controls) {
         run_progress no_bar;
         fill_stat_sticks(chosen, run.store_counts, no_bar);
         return;
     }
-    run_progress bar(run.window->Status);
+    run_progress bar(run.controls->Status);
     bar.show(0);
-    report_control& cr1 = run.window->report;
+    report_control& cr1 = run.controls->report;
     prepare_report(cr1, report_opening::maximised(), u"\\r_statSticks.rpt", u"\\r_statSticks_en.rpt");
     if (fill_stat_sticks(chosen, run.store_counts, bar))
         cr1.Action(report_control::run_now);

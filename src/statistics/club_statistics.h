@@ -9,7 +9,7 @@ namespace verdane::Statistics {
 /// What becomes of a run besides the table.
 struct club_run {
     /// Moves the bar and launches the report as the last act; null for a silent run without both.
-    const run_controls* window = nullptr;
+    const run_controls* controls = nullptr;
     /// Puts the number of clean shots of every club into the current row of `rssticks`, which the caller
     /// has open and commits.
     bool store_counts = false;

@@ -13,10 +13,10 @@
 #include "main_frame.h"
 #include "putt_statistics.h"
 #include "round_list.h"
+#include "round_statistics.h"
 #include "selection_choice.h"
 #include "selection_clauses.h"
 #include "selection_lists.h"
-#include "Statistics.h"
 
 namespace verdane::f_date_range_func {
 

@@ -74,8 +74,8 @@ walked_rounds walk_rounds(const QString& to_key, run_progress& bar)
     return walked;
 }
 
-/// Once for all rounds together. That the grids held each single round in between is nothing that a
-/// report could see, and it cost some fifty commits a round.
+/// Once for all rounds together: what a grid would hold between two of them is nothing that a report
+/// could see.
 void write_tables(const selection_arguments& chosen, const walked_rounds& walked, run_progress& bar)
 {
     bar.move_to(30);
@@ -127,13 +127,13 @@ bool fill_putt_tables(const selection_arguments& chosen, run_progress& bar)
     return any_putt;
 }
 
-void putt_statistics(const selection_arguments& chosen, const run_controls& window)
+void putt_statistics(const selection_arguments& chosen, const run_controls& controls)
 {
-    run_progress bar(window.Status);
+    run_progress bar(controls.Status);
     bar.show(5);
-    prepare_putt_report(window.report);
+    prepare_putt_report(controls.report);
     if (fill_putt_tables(chosen, bar))
-        window.report.Action(report_control::run_now);
+        controls.report.Action(report_control::run_now);
 }
 
 bool round_putts(const QString& caption_1, const QString& caption_2)

@@ -19,7 +19,7 @@ QString putt_select(const selection_arguments& chosen);
 /// The walk begins at the round of `from_key`, or the first one after it, and ends with the round of
 /// `to_key`; where the clauses keep that round out it goes on to the last round that passes. A range
 /// that runs backwards has no round.
-void putt_statistics(const selection_arguments& chosen, const run_controls& window);
+void putt_statistics(const selection_arguments& chosen, const run_controls& controls);
 
 /// The same up to the finished tables, without the report. False when there is nothing to print; the
 /// user has been told why.

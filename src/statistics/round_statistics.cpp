@@ -1,4 +1,4 @@
-#include "Statistics.h"
+#include "round_statistics.h"
 
 #include "boxes.h"
 #include "DataEnvironment1.h"
@@ -141,13 +141,14 @@ bool fill_stats(const selection_arguments& chosen, run_progress& bar)
     return finish_table(chosen, filled.rounds, bar);
 }
 
-void round_statistics(const selection_arguments& chosen, const run_controls& window)
+void round_statistics(const selection_arguments& chosen, const run_controls& controls)
 {
-    run_progress bar(window.Status);
+    run_progress bar(controls.Status);
     if (!fill_stats(chosen, bar))
         return;
-    prepare_report(window.report, report_opening::maximised(), u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt");
-    window.report.Action(report_control::run_now);
+    prepare_report(controls.report, report_opening::maximised(), u"\\Stat_rounds.rpt",
+                   u"\\Stat_rounds_en.rpt");
+    controls.report.Action(report_control::run_now);
 }
 
 }  // namespace verdane::Statistics

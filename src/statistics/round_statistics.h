@@ -9,7 +9,7 @@ namespace verdane::Statistics {
 /// Fills the table, moving the bar, and launches the report as its last act. A selection without a
 /// round ends in a message and no report; so does a round that lacks one of its rows. No recordset is
 /// left open.
-void round_statistics(const selection_arguments& chosen, const run_controls& window);
+void round_statistics(const selection_arguments& chosen, const run_controls& controls);
 
 /// The same up to the finished table, without the report. False when there is nothing to print; the
 /// user has been told why.
