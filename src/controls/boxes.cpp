@@ -2,12 +2,20 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QWindow>
 
 namespace verdane {
 
 namespace {
 
 int bells = 0;
+
+/// A window without a title shows the program's name: the toolkit does not leave it empty. A blank it leaves.
+void show_no_title(QWidget& box)
+{
+    box.winId();
+    box.windowHandle()->setTitle(QStringLiteral(" "));
+}
 
 }  // namespace
 
@@ -29,6 +37,8 @@ QMessageBox::StandardButton show_message(const message& what)
     QMessageBox box(what.icon, QString(), what.text, what.buttons, owner);
     box.setObjectName(QStringLiteral("message_box"));
     box.setWindowTitle(what.title);
+    if (what.title.isEmpty())
+        show_no_title(box);
     box.setTextFormat(Qt::PlainText);
     const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
     // Not every platform gives the keyboard back to the window below by itself.

@@ -1,0 +1,51 @@
+#include <QApplication>
+#include <QTest>
+#include <QWindow>
+
+#include "boxes.h"
+#include "hand.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+QString title_on_screen(hand& user)
+{
+    QString title;
+    user.look([&title] { title = QApplication::activeModalWidget()->windowHandle()->title(); });
+    return title;
+}
+
+}  // namespace
+
+class test_boxes : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_box_shows_its_title_and_none_where_it_has_none_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("on_screen");
+        QTest::newRow("title") << "Verdane"
+                               << "Verdane";
+        // Anything shorter would be replaced by the name of the program.
+        QTest::newRow("none") << ""
+                              << " ";
+    }
+    void a_box_shows_its_title_and_none_where_it_has_none()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, on_screen);
+        play([&] { tell(QStringLiteral("Something"), QMessageBox::NoIcon, title); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("message_box"));
+                 user.same(title_on_screen(user), on_screen, QStringLiteral("title on the screen"));
+                 user.answer({QStringLiteral("Something"), QMessageBox::NoIcon, title});
+             });
+    }
+};
+
+QTEST_MAIN(test_boxes)
+
+#include "test_boxes.moc"
