@@ -83,6 +83,7 @@ std::vector<printed_word> pdf_words(const QString& path)
     constexpr double mm_per_pt = 25.4 / 72;
     std::vector<printed_word> words;
     QSizeF page;
+    int page_number = -1;
     const auto number = [](const QRegularExpressionMatch& match, int group) {
         return match.captured(group).toDouble() * mm_per_pt;
     };
@@ -91,13 +92,15 @@ std::vector<printed_word> pdf_words(const QString& path)
              .split(u'\n')) {
         const QRegularExpressionMatch start = page_form.match(line);
         const QRegularExpressionMatch word = word_form.match(line);
-        if (start.hasMatch())
+        if (start.hasMatch()) {
             page = {number(start, 1), number(start, 2)};
+            ++page_number;
+        }
         if (word.hasMatch())
             words.push_back(
                 {word.captured(5),
                  QRectF(QPointF(number(word, 1), number(word, 2)), QPointF(number(word, 3), number(word, 4))),
-                 page});
+                 page, page_number});
     }
     return words;
 }

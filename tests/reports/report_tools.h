@@ -19,11 +19,12 @@ QString built_template(const QString& name);
 /// A PDF file's text as it stands on its pages, one entry a page.
 QStringList pdf_pages(const QString& path);
 
-/// A word on a page of a PDF file, with its place and the page's size in millimetres.
+/// A word on a page of a PDF file, with its place and the page's size in millimetres; pages count from 0.
 struct printed_word {
     QString text;
     QRectF place;
     QSizeF page;
+    int page_number = 0;
 };
 std::vector<printed_word> pdf_words(const QString& path);
 
