@@ -5,9 +5,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QValidator>
 
-#include <algorithm>
 #include <utility>
 
 #include "boxes.h"
@@ -20,24 +18,6 @@ namespace verdane {
 namespace {
 
 constexpr int button_width = 16;
-
-/// What comes in by another road than the keys (pasted, dropped) has to pass the same filter.
-class filtered_text : public QValidator {
-public:
-    filtered_text(QLineEdit& box, const std::function<key_answer(QChar)>& filter)
-        : QValidator(&box), filter_(filter)
-    {
-    }
-
-    State validate(QString& text, int&) const override
-    {
-        const auto passes = [this](QChar character) { return filter_(character) == key_answer::pass; };
-        return std::all_of(text.cbegin(), text.cend(), passes) ? Acceptable : Invalid;
-    }
-
-private:
-    const std::function<key_answer(QChar)>& filter_;
-};
 
 }  // namespace
 
@@ -233,8 +213,7 @@ void data_grid::watch_editor(QLineEdit& editor, const QModelIndex& index)
     if (filter == filters_.end())
         return;
     filter_keys(editor, filter->second);
-    editor.setValidator(new filtered_text(editor, filter->second));
-    connect(&editor, &QLineEdit::inputRejected, &editor, ring_bell);
+    filter_pasted_text(editor, filter->second);
 }
 
 void data_grid::drop_cell()

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimer>
+#include <QValidator>
 
 #include <algorithm>
 #include <utility>
@@ -61,6 +62,23 @@ private:
     std::function<key_answer(QChar)> handler_;
 };
 
+class text_filter : public QValidator {
+public:
+    text_filter(QLineEdit& box, std::function<key_answer(QChar)> filter)
+        : QValidator(&box), filter_(std::move(filter))
+    {
+    }
+
+    State validate(QString& text, int&) const override
+    {
+        const auto passes = [this](QChar character) { return filter_(character) == key_answer::pass; };
+        return std::all_of(text.cbegin(), text.cend(), passes) ? Acceptable : Invalid;
+    }
+
+private:
+    std::function<key_answer(QChar)> filter_;
+};
+
 class entering_filter : public QObject {
 public:
     entering_filter(QLineEdit& box, std::function<void()> handler)
@@ -92,6 +110,17 @@ void filter_keys(QLineEdit& box, std::function<key_answer(QChar)> handler)
 bool is_plain_digit(QChar key)
 {
     return key >= u'0' && key <= u'9';
+}
+
+key_answer digits_only(QChar key)
+{
+    return key == backspace || is_plain_digit(key) ? key_answer::pass : key_answer::refuse;
+}
+
+void filter_pasted_text(QLineEdit& box, std::function<key_answer(QChar)> filter)
+{
+    box.setValidator(new text_filter(box, std::move(filter)));
+    QObject::connect(&box, &QLineEdit::inputRejected, &box, ring_bell);
 }
 
 void when_entered(QLineEdit& box, std::function<void()> handler)

@@ -25,6 +25,14 @@ void filter_keys(QLineEdit& box, std::function<key_answer(QChar)> handler);
 /// True for the characters "0" to "9", compared by code: digits of other scripts are none.
 bool is_plain_digit(QChar key);
 
+/// The filter of a box of digits: those and backspace pass, any other key is refused.
+key_answer digits_only(QChar key);
+
+/// What comes into the box by another road than the keys (pasted, dropped) has to pass, character by
+/// character; else the bell rings and the box stays as it is. A box with a filter for its keys has one for
+/// this, too.
+void filter_pasted_text(QLineEdit& box, std::function<key_answer(QChar)> filter);
+
 /// Runs `handler` each time the box gains the focus.
 void when_entered(QLineEdit& box, std::function<void()> handler);
 

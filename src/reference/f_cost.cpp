@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 
 #include <array>
 #include <utility>
@@ -125,10 +124,9 @@ QLayout* f_cost::make_foot()
 
 void f_cost::wire()
 {
-    static const QRegularExpression digits(QStringLiteral("[0-9]*"));
     for (const auto& [index, box] : cost.members()) {
-        // What is pasted does not pass through the key rule.
-        box->setValidator(new QRegularExpressionValidator(digits, box));
+        // Pasted digits may be fewer than those that stand there, which count for a key.
+        filter_pasted_text(*box, digits_only);
         filter_keys(*box, [this, i = index](QChar key) { return box_key(*this, i, key); });
         when_entered(*box, [this, i = index] { enter_box(*this, i); });
         on_change(*box, [this, i = index] { box_changed(*this, i); });

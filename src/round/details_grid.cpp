@@ -168,11 +168,6 @@ int width_of_words(const f_new_round& window, int column)
                     column == shown::club ? std::min(cells, pixels(widest_club_twips)) : cells);
 }
 
-key_answer digits_only(QChar key)
-{
-    return key == backspace || is_plain_digit(key) ? key_answer::pass : key_answer::refuse;
-}
-
 }  // namespace
 
 data_grid* make_details(f_new_round& window)

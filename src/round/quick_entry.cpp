@@ -3,12 +3,9 @@
 #include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpression>
-#include <QRegularExpressionValidator>
 
 #include <vector>
 
-#include "boxes.h"
 #include "events.h"
 #include "f_new_round.h"
 #include "keys.h"
@@ -59,21 +56,11 @@ void move_on_to(QWidget& next)
 
 key_answer take_key(QLineEdit& box, QWidget& next, QChar key)
 {
-    if (key == backspace)
-        return key_answer::pass;
-    if (!is_plain_digit(key))
-        return key_answer::refuse;
+    if (key == backspace || digits_only(key) == key_answer::refuse)
+        return digits_only(key);
     box.insert(key);
     move_on_to(next);
     return key_answer::taken;
-}
-
-/// What comes in by another road than the keys (pasted, dropped) may hold digits only, too.
-void accept_digits_only(QLineEdit& box)
-{
-    static const QRegularExpression digits(QStringLiteral("[0-9]*"));
-    box.setValidator(new QRegularExpressionValidator(digits, &box));
-    QObject::connect(&box, &QLineEdit::inputRejected, &box, ring_bell);
 }
 
 void watch_keys(QLineEdit& box, QWidget& next)
@@ -81,7 +68,7 @@ void watch_keys(QLineEdit& box, QWidget& next)
     filter_keys(box, [&box, &next](QChar key) { return take_key(box, next, key); });
     when_entered(box, [&box] { select_characters(box, selection_length); });
     new click_selects(box);
-    accept_digits_only(box);
+    filter_pasted_text(box, digits_only);
 }
 
 void stroke_changed(f_new_round& window)

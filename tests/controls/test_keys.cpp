@@ -108,6 +108,31 @@ private Q_SLOTS:
         QCOMPARE(bells_rung(), before);
     }
 
+    void pasted_text_passes_the_filter_whole_or_not_at_all_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("taken");
+        QTest::addColumn<int>("bells");
+        QTest::newRow("digits") << "250"
+                                << "250" << 0;
+        QTest::newRow("a letter among them") << "2a0"
+                                             << "" << 1;
+        QTest::newRow("digits of another script") << "٣٤"
+                                                  << "" << 1;
+    }
+    void pasted_text_passes_the_filter_whole_or_not_at_all()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(QString, taken);
+        QFETCH(int, bells);
+        QLineEdit box;
+        filter_pasted_text(box, digits_only);
+        const int before = bells_rung();
+        box.insert(pasted);
+        QCOMPARE(box.text(), taken);
+        QCOMPARE(bells_rung() - before, bells);
+    }
+
     void what_an_input_method_composes_is_filtered_too()
     {
         QLineEdit box;

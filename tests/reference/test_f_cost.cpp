@@ -207,8 +207,12 @@ private Q_SLOTS:
         QFETCH(QString, after);
         cost_store store;
         in_costs(store, [&](hand& user) {
+            const int bells = user.bells();
             user.paste(u"cost_0"_s, pasted);
             user.same(user.text(u"cost_0"_s), after, u"box"_s);
+            // What is refused is heard, what is taken whole is not.
+            if (after == u"1" || after == pasted)
+                user.same(user.bells() - bells, after == u"1" ? 1 : 0, u"bells"_s);
             leave_by_ok(user);
         });
     }
