@@ -1,117 +1,25 @@
-#include <QAbstractButton>
 #include <QDialog>
 #include <QFile>
-#include <QLabel>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScrollBar>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
-#include "page_view.h"
+#include "preview_reader.h"
 #include "report_control.h"
-#include "report_dialogs.h"
-#include "report_document.h"
-#include "report_preview.h"
-#include "report_store.h"
-#include "report_tools.h"
 #include "run_time_failure.h"
-#include "store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 
-class test_report_preview : public QObject {
+class test_report_preview : public preview_reader {
     Q_OBJECT
 
-    QTemporaryDir folder_;
-    store_folder store_;
-    QPointer<report_preview> window_;
-    file_question asked_;
-    QString answer_;
     std::function<bool(QWidget*, QPrinter&, int)> printer_question_;
-
-    QString file(const QString& name) const { return folder_.filePath(name); }
-
-    void open(QWidget* owner = nullptr, int sheets = 3)
-    {
-        const QString path = template_file_in(
-            folder_.path(), QStringLiteral("Three.rpt"),
-            QStringLiteral("page = A4 landscape\ntitle = Three\n"
-                           "query it = with recursive it_list(n) as (select 1 union all select n + 1 from "
-                           "it_list where n < %1) select n from it_list")
-                .arg(sheets),
-            QStringLiteral("{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"));
-        window_ = new report_preview(render_report(path), QStringLiteral("A title"), owner);
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowActive(window_));
-    }
-
-    void click(const char* name)
-    {
-        auto* button = window_->findChild<QAbstractButton*>(QString::fromLatin1(name));
-        QVERIFY2(button != nullptr, name);
-        QVERIFY(!button->accessibleName().isEmpty());
-        QTest::mouseClick(button, Qt::LeftButton);
-    }
-
-    QString label(const char* name) { return window_->findChild<QLabel*>(QString::fromLatin1(name))->text(); }
-
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(window_->focusWidget() == nullptr ? window_.data() : window_->focusWidget(), key,
-                        modifiers);
-    }
-
-    /// Nine sheets, as small as that, in a view of which a part, several or all have room.
-    void open_small(int zoom, int height)
-    {
-        open(nullptr, 9);
-        window_->resize(900, height);
-        QCoreApplication::processEvents();
-        while (window_->pages().zoom() > zoom)
-            press(Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(window_->pages().zoom(), zoom);
-    }
-
-    /// What the label says after each press of a key.
-    QStringList turned(Qt::Key key, int times)
-    {
-        QStringList seen;
-        for (int time = 0; time < times; ++time) {
-            press(key);
-            seen.append(label("page_of_pages").section(u' ', 1, 1));
-        }
-        return seen;
-    }
-
-    /// Whether "Picture…" saves that page, counted from 1.
-    bool saves_page(int page)
-    {
-        answer_ = file(QStringLiteral("page.png"));
-        click("save_picture");
-        const QImage wanted = render_report(file(QStringLiteral("Three.rpt")))->page_image(page - 1, 200);
-        return QImage(answer_).convertToFormat(QImage::Format_RGB32) ==
-               wanted.convertToFormat(QImage::Format_RGB32);
-    }
-
-    QMessageBox* box() { return window_->findChild<QMessageBox*>(QStringLiteral("message_box")); }
 
 private Q_SLOTS:
     void initTestCase() { printer_question_ = dialogs_of_reports().choose_printer; }
-    void init()
-    {
-        is_french = false;
-        set_report_store(store_.path());
-        asked_ = {};
-        answer_.clear();
-        dialogs_of_reports().choose_file = [this](QWidget*, const file_question& question) {
-            asked_ = question;
-            return answer_;
-        };
-    }
+    void init() { start_in_english(); }
     void cleanup() { delete window_; }
 
     void the_window_has_its_title_and_says_where_it_stands()
@@ -157,71 +65,6 @@ private Q_SLOTS:
             QVERIFY(button->toolTip().startsWith(button->accessibleName()));
         }
         QCOMPARE(seen << label("page_of_pages"), captions);
-    }
-
-    void pages_turn_by_button_and_by_key()
-    {
-        open();
-        click("next_page");
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
-        press(Qt::Key_PageDown);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
-        press(Qt::Key_PageDown);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
-        press(Qt::Key_PageUp);
-        press(Qt::Key_PageUp);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
-        click("previous_page");
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
-    }
-
-    void pages_turn_one_by_one_however_many_are_in_view_data()
-    {
-        QTest::addColumn<int>("zoom");
-        QTest::addColumn<int>("height");
-        for (const int zoom : {25, 33, 50})
-            for (const int height : {480, 600, 1020, 2400, 4200})
-                QTest::addRow("%d percent, %d high", zoom, height) << zoom << height;
-    }
-    void pages_turn_one_by_one_however_many_are_in_view()
-    {
-        QFETCH(int, zoom);
-        QFETCH(int, height);
-        open_small(zoom, height);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
-        QVERIFY(saves_page(1));
-        QCOMPARE(turned(Qt::Key_PageDown, 9), QStringLiteral("2 3 4 5 6 7 8 9 9").split(u' '));
-        QVERIFY(saves_page(9));
-        QCOMPARE(turned(Qt::Key_PageUp, 9), QStringLiteral("8 7 6 5 4 3 2 1 1").split(u' '));
-        QCOMPARE(window_->pages().verticalScrollBar()->value(), 0);
-    }
-
-    void scrolling_by_hand_shows_the_topmost_page_and_at_the_end_the_last()
-    {
-        open_small(50, 1020);
-        QScrollBar* bar = window_->pages().verticalScrollBar();
-        bar->setValue(bar->maximum());
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 9 of 9"));
-        QCOMPARE(turned(Qt::Key_PageUp, 1), QStringList(QStringLiteral("8")));
-        bar->setValue(bar->maximum() - 1);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 8 of 9"));
-        bar->setValue(0);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
-        press(Qt::Key_Down);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
-        for (int step = 0; step < 5; ++step)
-            press(Qt::Key_Down);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 9"));
-    }
-
-    void a_page_that_was_turned_to_stays_through_a_zoom_that_keeps_it_in_view()
-    {
-        open_small(25, 600);
-        turned(Qt::Key_PageDown, 2);
-        press(Qt::Key_Plus, Qt::ControlModifier);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 9"));
-        press(Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 9"));
     }
 
     void the_zoom_steps_within_its_limits()

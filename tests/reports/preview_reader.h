@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "page_view.h"
+#include "report_dialogs.h"
+#include "report_document.h"
+#include "report_preview.h"
+#include "report_store.h"
+#include "report_tools.h"
+#include "store_folder.h"
+
+namespace verdane::testing {
+
+/// A preview of a few sheets, and whoever reads and presses what is in it. The question for a file is
+/// answered with `answer_`.
+class preview_reader : public QObject {
+protected:
+    QTemporaryDir folder_;
+    store_folder store_;
+    QPointer<report_preview> window_;
+    file_question asked_;
+    QString answer_;
+
+    void start_in_english()
+    {
+        is_french = false;
+        set_report_store(store_.path());
+        asked_ = {};
+        answer_.clear();
+        dialogs_of_reports().choose_file = [this](QWidget*, const file_question& question) {
+            asked_ = question;
+            return answer_;
+        };
+    }
+
+    QString file(const QString& name) const { return folder_.filePath(name); }
+
+    void open(QWidget* owner = nullptr, int sheets = 3)
+    {
+        const QString path = template_file_in(
+            folder_.path(), QStringLiteral("Three.rpt"),
+            QStringLiteral("page = A4 landscape\ntitle = Three\n"
+                           "query it = with recursive it_list(n) as (select 1 union all select n + 1 from "
+                           "it_list where n < %1) select n from it_list")
+                .arg(sheets),
+            QStringLiteral("{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"));
+        window_ = new report_preview(render_report(path), QStringLiteral("A title"), owner);
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowActive(window_));
+    }
+
+    void click(const char* name)
+    {
+        auto* button = window_->findChild<QAbstractButton*>(QString::fromLatin1(name));
+        QVERIFY2(button != nullptr, name);
+        QVERIFY(!button->accessibleName().isEmpty());
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    QString label(const char* name) { return window_->findChild<QLabel*>(QString::fromLatin1(name))->text(); }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(window_->focusWidget() == nullptr ? window_.data() : window_->focusWidget(), key,
+                        modifiers);
+    }
+
+    QMessageBox* box() { return window_->findChild<QMessageBox*>(QStringLiteral("message_box")); }
+};
+
+}  // namespace verdane::testing

@@ -1,0 +1,114 @@
+#include <QScrollBar>
+
+#include "preview_reader.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+class test_page_turning : public preview_reader {
+    Q_OBJECT
+
+    /// Nine sheets, as small as that, in a view of which a part, several or all have room.
+    void open_small(int zoom, int height)
+    {
+        open(nullptr, 9);
+        window_->resize(900, height);
+        QCoreApplication::processEvents();
+        while (window_->pages().zoom() > zoom)
+            press(Qt::Key_Minus, Qt::ControlModifier);
+        QCOMPARE(window_->pages().zoom(), zoom);
+    }
+
+    /// What the label says after each press of a key.
+    QStringList turned(Qt::Key key, int times)
+    {
+        QStringList seen;
+        for (int time = 0; time < times; ++time) {
+            press(key);
+            seen.append(label("page_of_pages").section(u' ', 1, 1));
+        }
+        return seen;
+    }
+
+    /// Whether "Picture…" saves that page, counted from 1.
+    bool saves_page(int page)
+    {
+        answer_ = file(QStringLiteral("page.png"));
+        click("save_picture");
+        const QImage wanted = render_report(file(QStringLiteral("Three.rpt")))->page_image(page - 1, 200);
+        return QImage(answer_).convertToFormat(QImage::Format_RGB32) ==
+               wanted.convertToFormat(QImage::Format_RGB32);
+    }
+
+private Q_SLOTS:
+    void init() { start_in_english(); }
+    void cleanup() { delete window_; }
+
+    void pages_turn_by_button_and_by_key()
+    {
+        open();
+        click("next_page");
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        press(Qt::Key_PageDown);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
+        press(Qt::Key_PageDown);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
+        press(Qt::Key_PageUp);
+        press(Qt::Key_PageUp);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        click("previous_page");
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
+    }
+
+    void pages_turn_one_by_one_however_many_are_in_view_data()
+    {
+        QTest::addColumn<int>("zoom");
+        QTest::addColumn<int>("height");
+        for (const int zoom : {25, 33, 50})
+            for (const int height : {480, 600, 1020, 2400, 4200})
+                QTest::addRow("%d percent, %d high", zoom, height) << zoom << height;
+    }
+    void pages_turn_one_by_one_however_many_are_in_view()
+    {
+        QFETCH(int, zoom);
+        QFETCH(int, height);
+        open_small(zoom, height);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
+        QVERIFY(saves_page(1));
+        QCOMPARE(turned(Qt::Key_PageDown, 9), QStringLiteral("2 3 4 5 6 7 8 9 9").split(u' '));
+        QVERIFY(saves_page(9));
+        QCOMPARE(turned(Qt::Key_PageUp, 9), QStringLiteral("8 7 6 5 4 3 2 1 1").split(u' '));
+        QCOMPARE(window_->pages().verticalScrollBar()->value(), 0);
+    }
+
+    void scrolling_by_hand_shows_the_topmost_page_and_at_the_end_the_last()
+    {
+        open_small(50, 1020);
+        QScrollBar* bar = window_->pages().verticalScrollBar();
+        bar->setValue(bar->maximum());
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 9 of 9"));
+        QCOMPARE(turned(Qt::Key_PageUp, 1), QStringList(QStringLiteral("8")));
+        bar->setValue(bar->maximum() - 1);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 8 of 9"));
+        bar->setValue(0);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
+        press(Qt::Key_Down);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
+        for (int step = 0; step < 5; ++step)
+            press(Qt::Key_Down);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 9"));
+    }
+
+    void a_page_that_was_turned_to_stays_through_a_zoom_that_keeps_it_in_view()
+    {
+        open_small(25, 600);
+        turned(Qt::Key_PageDown, 2);
+        press(Qt::Key_Plus, Qt::ControlModifier);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 9"));
+        press(Qt::Key_Minus, Qt::ControlModifier);
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 9"));
+    }
+};
+
+QTEST_MAIN(test_page_turning)
+#include "test_page_turning.moc"
