@@ -1,11 +1,11 @@
 #include "round_in_window.h"
 
+#include <QApplication>
 #include <QTimer>
 
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
 #include "Round_records.h"
-#include "stored_round.h"
 
 namespace verdane::bench {
 
@@ -17,15 +17,12 @@ void open_tables_of_list()
 
 void in_round_window(const QString& key, const std::function<void(f_new_round&)>& work)
 {
-    open_rows_of_round(key);
-    f_new_round window;
-    load_stored_round(window, key);
-    load_round_header(window);
-    QTimer::singleShot(0, &window, [&] {
+    QTimer::singleShot(0, qApp, [&] {
+        auto& window = dynamic_cast<f_new_round&>(*open_form(u"f_new_round"));
         work(window);
         window.unload();
     });
-    window.show_modal();
+    open_stored_round(key);
 }
 
 void on_detailed_page_of(const QString& key, const std::function<void(f_new_round&)>& work)

@@ -1,13 +1,11 @@
 #include "f_games_func.h"
 
 #include <QListWidget>
-#include <QPushButton>
 
 #include "boxes.h"
 #include "close_if_open.h"
 #include "DataEnvironment1.h"
 #include "f_games.h"
-#include "f_new_round.h"
 #include "failure_guard.h"
 #include "list_box.h"
 #include "main_frame.h"
@@ -15,7 +13,6 @@
 #include "round_list.h"
 #include "Round_records.h"
 #include "round_removal.h"
-#include "stored_round.h"
 
 namespace verdane::f_games_func {
 
@@ -45,25 +42,12 @@ void stop_without_rounds(f_games& window)
     close_window(window);
 }
 
-/// The round window takes the list away when it is made.
-void show_stored_round(const QString& key)
-{
-    f_new_round round;
-    load_stored_round(round, key);
-    load_round_header(round);
-    // The key of a stored round never changes.
-    round.b_getdat->setEnabled(false);
-    round.show_modal();
-}
-
 void open_selected_round(f_games& window)
 {
     const QListWidgetItem* selected = window.List1->currentItem();
     if (!selected)
         return;
-    const QString key = Verdane_tools::key_of_entry(selected->text());
-    open_rows_of_round(key);
-    show_stored_round(key);
+    open_stored_round(Verdane_tools::key_of_entry(selected->text()));
     // A round window that refused the round has not come to close everything.
     close_recordsets();
 }

@@ -10,22 +10,8 @@ class f_new_round;
 
 /// How a round comes into the round window and how a hole moves between its boxes and its rows.
 ///
-/// A new round: `start_new_round`, or, where `rsgames` and `rsfield_info` are open already,
-/// `prepare_round_window`. Both return when the window has gone.
-///
-/// A stored round with the key `key`:
-///
-///     open rsgames, rsfield_info; open rsgames2 and Find the key there; Find the key in rsgames
-///     open rsvrd_fields and Find the round's CODEF; open rscost and Find the key, or AddNew
-///     set the Source of rsStat_rounds to the shots of hole 1, and Open
-///     f_new_round window;
-///     load_stored_round(window, key);
-///     load_round_header(window);
-///     window.b_getdat->setEnabled(false);
-///     window.show_modal();
-///
-/// The window closes all of these recordsets when it goes (`rsgames` and `rsfield_info` too), and
-/// takes the round list away when it is made and once more when it goes.
+/// The window closes what it works on when it goes (`rsgames` and `rsfield_info` too), and takes the round
+/// list away when it is made and once more when it goes.
 
 /// The command for a new round: refuses when there is no course.
 void start_new_round();
@@ -33,6 +19,10 @@ void start_new_round();
 /// Adds the rows of a new round, without a key and not committed, and shows the round window on them.
 /// Needs `rsgames` and `rsfield_info` open, and at least one course.
 void prepare_round_window();
+
+/// Opens a stored round in the round window and returns when the window has gone. Needs `rsgames` and
+/// `rsfield_info` open. A round without its row of `cost` gets one, which the window commits.
+void open_stored_round(const QString& key);
 
 /// Brings the round of that key into a window just made: its rows, its course, hole 1. False when the
 /// round's row of `games2` is missing; the user has been told, and the window is unloaded then (what

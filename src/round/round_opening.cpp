@@ -12,6 +12,7 @@
 #include "round_parameters.h"
 #include "Round_records.h"
 #include "round_rows.h"
+#include "shot_rows.h"
 #include "temperature_box.h"
 
 /// How a round, new or stored, comes into the window.
@@ -61,16 +62,18 @@ void add_rows_without_key()
     zero_amounts(store.rscost);
 }
 
-void find_first(Recordset& recordset, QStringView criterion, const QString& value)
+void find_first(Recordset& recordset, QStringView criterion, const QString& value,
+                search_direction direction = search_direction::forward)
 {
     recordset.MoveFirst();
-    recordset.Find(criterion + quoted(value));
+    recordset.Find(criterion + quoted(value), direction);
 }
 
-void find_round(Recordset& recordset, const QString& key)
+void find_round(Recordset& recordset, const QString& key,
+                search_direction direction = search_direction::forward)
 {
     if (!recordset.empty())
-        find_first(recordset, u"Date =", key);
+        find_first(recordset, u"Date =", key, direction);
 }
 
 void commit_and_find(Recordset& recordset, const QString& key)
@@ -81,13 +84,49 @@ void commit_and_find(Recordset& recordset, const QString& key)
     find_round(recordset, key);
 }
 
+/// Not committed yet.
 void add_cost_row(const QString& key)
 {
     Recordset& costs = data_environment().rscost;
     costs.AddNew();
     costs.Fields(at::date).set(key);
     zero_amounts(costs);
-    costs.Update();
+}
+
+void store_cost_row(const QString& key)
+{
+    add_cost_row(key);
+    data_environment().rscost.Update();
+}
+
+void open_costs_of(const QString& key)
+{
+    Recordset& costs = data_environment().rscost;
+    costs.Open();
+    find_round(costs, key);
+    if (costs.eof())
+        add_cost_row(key);
+}
+
+void open_shots_of_first_hole(const QString& key)
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    shots.set_Source(shot_rows::statement_of_hole(key, 1));
+    shots.Open();
+}
+
+/// What the round window works on, every recordset on the row of the round.
+void open_rows_of_round(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Open();
+    find_round(store.rsgames2, key);
+    find_round(store.rsgames, key, search_direction::backward);
+    store.rsvrd_fields.Open();
+    find_first(store.rsvrd_fields, u"CODE = ", store.rsgames.Fields(at::codef).trimmed(),
+               search_direction::backward);
+    open_costs_of(key);
+    open_shots_of_first_hole(key);
 }
 
 void show_date(f_new_round& window, const QString& key)
@@ -126,6 +165,17 @@ void prepare_round_window()
     window.show_modal();
 }
 
+void open_stored_round(const QString& key)
+{
+    open_rows_of_round(key);
+    f_new_round window;
+    load_stored_round(window, key);
+    load_round_header(window);
+    // The key of a stored round never changes.
+    window.b_getdat->setEnabled(false);
+    window.show_modal();
+}
+
 bool load_stored_round(f_new_round& window, const QString& key)
 {
     DataEnvironment1& store = data_environment();
@@ -150,7 +200,7 @@ void load_round_header(f_new_round& window)
     DataEnvironment1& store = data_environment();
     find_round(store.rscost, window.date_value);
     if (store.rscost.eof()) {
-        add_cost_row(store.rsgames.Fields(at::date).text());
+        store_cost_row(store.rsgames.Fields(at::date).text());
         store.rscost.MoveLast();
     }
     const QString cost = QString::number(plain(Round_functions::cost_total()));
@@ -168,7 +218,7 @@ void commit_round(const QString& key)
         commit_and_find(*recordset, key);
     find_first(store.rsvrd_fields, u"CODE = ", store.rsgames.Fields(at::codef).trimmed());
     if (store.rscost.eof())
-        add_cost_row(key);
+        store_cost_row(key);
 }
 
 void find_in_field_info(const QString& code)

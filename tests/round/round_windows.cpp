@@ -40,41 +40,12 @@ QString shown(const QVariant& value)
     return value.isNull() ? QStringLiteral("null") : value.toString();
 }
 
-void find_key(Recordset& recordset, const QString& key)
+/// What the round list has open when it opens a round.
+void open_from_list(const QString& key)
 {
-    recordset.MoveFirst();
-    recordset.Find(QString(u"Date ='" + key + u"'"));
-}
-
-/// What the round list does before it makes the window.
-void open_tables_on(const QString& key)
-{
-    DataEnvironment1& store = data_environment();
-    store.rsgames.Open();
-    store.rsfield_info.Open();
-    store.rsgames2.Open();
-    if (!store.rsgames2.empty())
-        find_key(store.rsgames2, key);
-    find_key(store.rsgames, key);
-    store.rsvrd_fields.Open();
-    store.rscost.Open();
-    if (!store.rscost.empty())
-        find_key(store.rscost, key);
-    if (store.rscost.eof()) {
-        store.rscost.AddNew();
-        store.rscost.Fields(0).set(key);
-    }
-    store.rsStat_rounds.Open();
-}
-
-void open_stored_round(const QString& key)
-{
-    open_tables_on(key);
-    f_new_round window;
-    load_stored_round(window, key);
-    load_round_header(window);
-    window.b_getdat->setEnabled(false);
-    window.show_modal();
+    data_environment().rsgames.Open();
+    data_environment().rsfield_info.Open();
+    open_stored_round(key);
 }
 
 void in_round(const std::function<void()>& program, const std::function<void(hand&)>& script)
@@ -171,7 +142,7 @@ QString key_of_keyed_round()
 
 void in_stored_round(const QString& key, const std::function<void(hand&)>& script)
 {
-    in_round([&] { open_stored_round(key); },
+    in_round([&] { open_from_list(key); },
              [&](hand& user) {
                  user.wait_for_window(round_window());
                  script(user);
@@ -181,12 +152,12 @@ void in_stored_round(const QString& key, const std::function<void(hand&)>& scrip
 
 void in_stored_round_over(hand& user, const QString& key)
 {
-    user.look([key] { QTimer::singleShot(0, qApp, [key] { run_event([&] { open_stored_round(key); }); }); });
+    user.look([key] { QTimer::singleShot(0, qApp, [key] { run_event([&] { open_from_list(key); }); }); });
 }
 
 void open_round_that_refuses(const QString& key, const std::function<void(hand&)>& script)
 {
-    in_round([&] { open_stored_round(key); }, script);
+    in_round([&] { open_from_list(key); }, script);
 }
 
 void fill_tee_off(hand& user, const QString& hours, const QString& minutes, const QString& seconds)
