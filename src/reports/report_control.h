@@ -20,7 +20,6 @@ public:
     /// The window above which reports open. It may be modal; a report stays open beside it and closes
     /// with it at the latest.
     explicit report_control(QWidget* owner = nullptr) : owner_(owner) {}
-    void set_owner(QWidget* owner) { owner_ = owner; }
 
     /// 0 for a window of its own size, 2 for a maximised one.
     int WindowState() const { return window_state_; }
