@@ -7,6 +7,7 @@
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
 #include "Main_module.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "round_panel.h"
 #include "round_parameters.h"
@@ -27,28 +28,28 @@ void show(QLineEdit& box, int16 value)
 
 void show_strokes(f_new_round& window, const Round_functions::strokes& values)
 {
-    show(window.text_vrd(0), values.long_shots);
-    show(window.text_vrd(1), values.approach);
-    show(window.text_vrd(2), values.putts);
+    show(window.text_vrd(round_box::long_shots), values.long_shots);
+    show(window.text_vrd(round_box::approach), values.approach);
+    show(window.text_vrd(round_box::putts), values.putts);
     sum_stroke_boxes(window);
 }
 
 void show_penalties(f_new_round& window, const Round_functions::penalties& values)
 {
-    show(window.text_s(8), values.water);
-    show(window.text_s(9), values.lost);
-    show(window.text_s(10), values.rule);
-    show(window.text_s(11), values.bounds);
+    show(window.text_s(round_box::water), values.water);
+    show(window.text_s(round_box::lost), values.lost);
+    show(window.text_s(round_box::rule), values.rule);
+    show(window.text_s(round_box::bounds), values.bounds);
     sum_penalty_boxes(window);
 }
 
 void show_situation(f_new_round& window, int16 hole)
 {
     const Round_functions::situation values = Round_functions::read_situation(hole);
-    show(window.text_p(3), values.fairway);
-    show(window.text_p(4), values.sand);
-    show(window.text_p(5), values.missed);
-    show(window.text_p(6), Round_functions::read_recovery(hole));
+    show(window.text_p(round_box::fairway), values.fairway);
+    show(window.text_p(round_box::sand), values.sand);
+    show(window.text_p(round_box::missed), values.missed);
+    show(window.text_p(round_box::recovery), Round_functions::read_recovery(hole));
 }
 
 void store_strokes(const f_new_round& window, int16 hole)
@@ -61,7 +62,8 @@ void store_strokes(const f_new_round& window, int16 hole)
 void store_situation(const f_new_round& window, int16 hole)
 {
     const auto box = [&window](int index) { return window.text_p(index).text(); };
-    Round_functions::store_situation(hole, {box(3), box(4), box(5), box(6)});
+    Round_functions::store_situation(hole, {box(round_box::fairway), box(round_box::sand),
+                                            box(round_box::missed), box(round_box::recovery)});
 }
 
 }  // namespace
@@ -72,21 +74,21 @@ void load_hole(f_new_round& window, int16 hole)
     show_penalties(window, Round_functions::read_penalties(hole));
     show_situation(window, hole);
     show_hole_card(window, hole);
-    show(window.text(40), hole);
+    show(window.text(round_box::hole), hole);
     refresh_panel(window, true);
 }
 
 void show_hole_card(f_new_round& window, int16 hole)
 {
     const Round_functions::hole_card card = Round_functions::read_hole_card(hole);
-    show(window.text(39), card.yards);
-    show(window.text(38), card.par);
-    show(window.text(0), card.handicap);
+    show(window.text(round_box::length), card.yards);
+    show(window.text(round_box::par), card.par);
+    show(window.text(round_box::stroke_index), card.handicap);
 }
 
 int16 hole_in_boxes(const f_new_round& window)
 {
-    return figure_of_box(window.text(40).text());
+    return figure_of_box(window.text(round_box::hole).text());
 }
 
 void store_hole(f_new_round& window, int16 hole)

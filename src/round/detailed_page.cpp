@@ -10,6 +10,7 @@
 #include "f_new_round.h"
 #include "f_new_round_layout.h"
 #include "main_frame.h"
+#include "round_boxes.h"
 #include "shot_entry.h"
 #include "shot_menus.h"
 
@@ -29,7 +30,7 @@ void go_to_quick_page(f_new_round& window)
     window.TabStrip2->select(quick_page);
     window.cmb_holes->setCurrentIndex(window.TabStrip1->selected() - 1);
     enable_save_and_close(true);
-    window.text_vrd(0).setFocus(Qt::TabFocusReason);
+    window.text_vrd(round_box::long_shots).setFocus(Qt::TabFocusReason);
 }
 
 /// Nothing changes for who is on the quick page already.

@@ -10,6 +10,7 @@
 #include "f_get_date.h"
 #include "f_new_round.h"
 #include "language.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "Verdane_tools.h"
 
@@ -53,8 +54,8 @@ bool user_is_sure()
 
 void name_round(f_new_round& round, const tee_off& moment)
 {
-    round.text(2).setText(QLocale::system().toString(moment.date, QLocale::ShortFormat));
-    round.text(3).setText(moment.time_text());
+    round.text(round_box::date).setText(QLocale::system().toString(moment.date, QLocale::ShortFormat));
+    round.text(round_box::time).setText(moment.time_text());
     DataEnvironment1& store = data_environment();
     for (Recordset* recordset : {&store.rsgames2, &store.rsgames, &store.rscost})
         recordset->Fields(round_columns::date).set(moment.key());

@@ -12,6 +12,7 @@
 #include "f_new_round_func.h"
 #include "f_new_round_layout.h"
 #include "quick_entry.h"
+#include "round_boxes.h"
 #include "round_putts.h"
 #include "shot_entry.h"
 
@@ -41,13 +42,13 @@ hole_figures f_new_round::figures() const
     const auto stroke = [this](int index) { return figure_of_box(text_vrd(index).text()); };
     const auto penalty = [this](int index) { return figure_of_box(text_s(index).text()); };
     hole_figures f;
-    f.long_shots = stroke(0);
-    f.approach = stroke(1);
-    f.putts = stroke(2);
-    f.pen_rule = penalty(10);
-    f.pen_water = penalty(8);
-    f.pen_bounds = penalty(11);
-    f.pen_lost = penalty(9);
+    f.long_shots = stroke(round_box::long_shots);
+    f.approach = stroke(round_box::approach);
+    f.putts = stroke(round_box::putts);
+    f.pen_rule = penalty(round_box::rule);
+    f.pen_water = penalty(round_box::water);
+    f.pen_bounds = penalty(round_box::bounds);
+    f.pen_lost = penalty(round_box::lost);
     return f;
 }
 

@@ -10,6 +10,7 @@
 #include "f_new_round.h"
 #include "f_new_round_layout.h"
 #include "look.h"
+#include "round_boxes.h"
 
 /// The detailed page: a hole told shot by shot.
 namespace verdane {
@@ -63,7 +64,7 @@ void turn_pages(f_new_round& window, bool detailed)
 /// screen, and it would stay so.
 void show_page(f_new_round& window, bool detailed)
 {
-    const std::initializer_list<QWidget*> quick{&window.Frame5(0), window.Frame1};
+    const std::initializer_list<QWidget*> quick{&window.Frame5(round_box::quick_page), window.Frame1};
     const std::initializer_list<QWidget*> shots{window.Framedet};
     for (QWidget* frame : detailed ? quick : shots)
         frame->hide();

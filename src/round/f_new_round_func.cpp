@@ -16,6 +16,7 @@
 #include "f_new_round_layout.h"
 #include "failure_guard.h"
 #include "main_frame.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "round_parameters.h"
 #include "Round_records.h"
@@ -26,7 +27,6 @@ namespace verdane::f_new_round_func {
 
 namespace {
 
-constexpr int ok_button = 4;
 constexpr int width_twips = 15360;
 constexpr int height_twips = 10020;
 
@@ -36,16 +36,11 @@ void unload_round_list()
         list->unload();
 }
 
-void start_values(f_new_round& window)
+void start_on_first_hole(f_new_round& window)
 {
-    window.get_date_canceled = false;
-    window.closingoK = false;
-    window.first_entry = true;
-    window.last_hole = 0;
     window.Frame7->hide();
     window.b_carte->hide();
-    window.Label(4).setText(QStringLiteral("1"));
-    window.needSave = true;
+    window.Label(round_box::hole_number).setText(QStringLiteral("1"));
 }
 
 /// With room for both pages from the start, the window stays as it is when they turn.
@@ -179,7 +174,7 @@ void save_and_leave(f_new_round& window)
 
 void load(f_new_round& window)
 {
-    start_values(window);
+    start_on_first_hole(window);
     take_place(window);
     // A stored round without its second row has no holes to show; `load_stored_round` says so.
     if (data_environment().rsgames2.eof())
@@ -190,7 +185,7 @@ void load(f_new_round& window)
     data_environment().rsvrd_fields.MoveFirst();
     show_cost_total(window);
     window.conditions->setCurrentIndex(0);
-    window.text(2).clear();
+    window.text(round_box::date).clear();
     unload_round_list();
     // The list has unlocked the menu when it went.
     Lock_menu();
@@ -211,7 +206,7 @@ void activate(f_new_round& window)
         return;
     }
     open_shots();
-    window.text_vrd(0).setFocus(Qt::TabFocusReason);
+    window.text_vrd(round_box::long_shots).setFocus(Qt::TabFocusReason);
 }
 
 void unload(f_new_round& window)
@@ -228,13 +223,13 @@ void unload(f_new_round& window)
 void show_costs(f_new_round& window)
 {
     finish_typing(window);
-    f_cost costs([&window](const QString& total) { window.text(7).setText(total); });
+    f_cost costs([&window](const QString& total) { window.text(round_box::costs).setText(total); });
     costs.show_modal();
 }
 
 void save_round(f_new_round& window, bool silent)
 {
-    if (window.text(2).text().isEmpty()) {
+    if (window.text(round_box::date).text().isEmpty()) {
         tell(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
                             u"Please select a round's date first."),
              QMessageBox::Critical);
@@ -258,7 +253,7 @@ void on_ok_cancel(f_new_round& window, int index)
         window.closingoK = true;
         page_changed(window);
     }
-    if (index == ok_button) {
+    if (index == round_box::ok) {
         save_and_leave(window);
         return;
     }

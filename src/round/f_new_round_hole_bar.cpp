@@ -7,6 +7,7 @@
 #include "f_new_round.h"
 #include "f_new_round_layout.h"
 #include "look.h"
+#include "round_boxes.h"
 
 /// The line below the hole tabs: which hole, its card, when the round was teed off.
 namespace verdane {
@@ -29,7 +30,7 @@ QLineEdit* add_figure(f_new_round& window, QHBoxLayout& line, int index, const Q
 
 void add_hole_choice(f_new_round& window, QHBoxLayout& line)
 {
-    QLabel* number = window.Label.add(4, new QLabel);
+    QLabel* number = window.Label.add(round_box::hole_number, new QLabel);
     QFont large = number->font();
     large.setPointSizeF(large.pointSizeF() * 1.6);
     large.setBold(true);
@@ -47,8 +48,8 @@ void add_hole_choice(f_new_round& window, QHBoxLayout& line)
 void add_date(f_new_round& window, QHBoxLayout& line)
 {
     window.b_getdat = named(make_button(window.caption(u"Choisir", u"Select")), u"b_getdat");
-    for (const int index : {2, 3}) {
-        const bool is_date = index == 2;
+    for (const int index : {round_box::date, round_box::time}) {
+        const bool is_date = index == round_box::date;
         QLineEdit* box = add_figure(
             window, line, index, is_date ? QStringLiteral("Date :") : window.caption(u"Heure :", u"Time :"),
             is_date ? date_characters : time_characters);
@@ -60,7 +61,7 @@ void add_date(f_new_round& window, QHBoxLayout& line)
 /// What the window carries and does not show.
 void add_hidden(f_new_round& window)
 {
-    for (const int index : {1, 40}) {
+    for (const int index : {round_box::course_name, round_box::hole}) {
         QLineEdit* box = window.text.add(index, new QLineEdit(&window));
         box->hide();
     }
@@ -75,9 +76,9 @@ QWidget* make_hole_bar(f_new_round& window)
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(rhythm);
     add_hole_choice(window, *line);
-    add_figure(window, *line, 38, window.caption(u"Normale :", u"Par :"), card_digits);
-    add_figure(window, *line, 39, window.caption(u"Verges :", u"Yards :"), card_digits);
-    add_figure(window, *line, 0, QStringLiteral("Handicap :"), card_digits);
+    add_figure(window, *line, round_box::par, window.caption(u"Normale :", u"Par :"), card_digits);
+    add_figure(window, *line, round_box::length, window.caption(u"Verges :", u"Yards :"), card_digits);
+    add_figure(window, *line, round_box::stroke_index, QStringLiteral("Handicap :"), card_digits);
     line->addStretch();
     add_date(window, *line);
     add_hidden(window);

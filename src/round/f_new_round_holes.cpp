@@ -9,6 +9,7 @@
 #include "f_new_round.h"
 #include "f_new_round_func.h"
 #include "keys.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "round_panel.h"
 #include "Round_records.h"
@@ -25,7 +26,7 @@ namespace {
 void follow_hole(f_new_round& window)
 {
     window.TabStrip1->select(plain(window.hole_shown()));
-    window.Label(4).setText(QString::number(plain(window.hole_shown())));
+    window.Label(round_box::hole_number).setText(QString::number(plain(window.hole_shown())));
     for (QWidget* of_last_hole : {window.Frame7, static_cast<QWidget*>(window.b_carte)})
         of_last_hole->setVisible(window.hole_shown() == round_columns::hole_count);
 }
@@ -82,7 +83,7 @@ bool hole_tab_before_click(f_new_round& window)
 {
     if (on_detailed_page(window))
         return may_leave_shots(window);
-    window.text_vrd(0).setFocus(Qt::TabFocusReason);
+    window.text_vrd(round_box::long_shots).setFocus(Qt::TabFocusReason);
     return true;
 }
 
@@ -98,8 +99,8 @@ void hole_tab_clicked(f_new_round& window)
     if (on_detailed_page(window))
         show_shots_of_hole(window);
     else
-        window.text_vrd(0).setFocus(Qt::TabFocusReason);
-    select_characters(window.text_vrd(0), 4);
+        window.text_vrd(round_box::long_shots).setFocus(Qt::TabFocusReason);
+    select_characters(window.text_vrd(round_box::long_shots), 4);
 }
 
 void course_selected(f_new_round& window)

@@ -14,6 +14,7 @@
 #include "data_grid.h"
 #include "f_new_round.h"
 #include "look.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "steady_wheel.h"
 #include "temperature_box.h"
@@ -46,13 +47,13 @@ QLayout* make_pages(f_new_round& window)
 
 QLayout* make_bottom(f_new_round& window)
 {
-    window.Command1.add(4, make_button(QStringLiteral("OK")));
-    window.Command1.add(2, make_button(window.caption(u"Annuler", u"Cancel")));
+    window.Command1.add(round_box::ok, make_button(QStringLiteral("OK")));
+    window.Command1.add(round_box::cancel, make_button(window.caption(u"Annuler", u"Cancel")));
     auto* bottom = new QHBoxLayout;
     bottom->setSpacing(rhythm);
     bottom->addWidget(make_totals(window));
     bottom->addStretch();
-    for (const int index : {4, 2}) {
+    for (const int index : {round_box::ok, round_box::cancel}) {
         window.Command1(index).setMinimumWidth(12 * rhythm);
         bottom->addWidget(&window.Command1(index), 0, Qt::AlignBottom);
     }
@@ -70,10 +71,10 @@ void order_for_tab_key(f_new_round& window)
         }
     }
     order.insert(order.end(),
-                 {window.details, window.CommandSuiv, window.CommandSup, window.b_carte, &window.Command1(4),
-                  &window.Command1(2), window.cmb_courses, window.conditions, window.UpDown1, window.pList,
-                  window.TabStrip2, window.b_putts, window.Command4, window.TabStrip1, window.cmb_holes,
-                  window.b_getdat});
+                 {window.details, window.CommandSuiv, window.CommandSup, window.b_carte,
+                  &window.Command1(round_box::ok), &window.Command1(round_box::cancel), window.cmb_courses,
+                  window.conditions, window.UpDown1, window.pList, window.TabStrip2, window.b_putts,
+                  window.Command4, window.TabStrip1, window.cmb_holes, window.b_getdat});
     for (std::size_t place = 1; place < order.size(); ++place)
         QWidget::setTabOrder(order[place - 1], order[place]);
 }

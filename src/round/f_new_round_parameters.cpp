@@ -11,6 +11,7 @@
 #include "f_new_round.h"
 #include "f_new_round_layout.h"
 #include "look.h"
+#include "round_boxes.h"
 #include "temperature_box.h"
 
 /// What belongs to the round as a whole, and its totals.
@@ -54,7 +55,7 @@ void add_costs(f_new_round& window, QVBoxLayout& frame)
     auto* line = new QHBoxLayout(costs);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(rhythm);
-    line->addWidget(window.text.add(7, make_figure(money_digits)));
+    line->addWidget(window.text.add(round_box::costs, make_figure(money_digits)));
     line->addWidget(window.Command2);
     add_line(frame, window.caption(u"Coûts", u"Costs"), costs);
 }

@@ -7,6 +7,7 @@
 #include "f_new_round.h"
 #include "f_new_round_layout.h"
 #include "look.h"
+#include "round_boxes.h"
 
 /// The quick page: eleven boxes in three groups.
 namespace verdane {
@@ -54,31 +55,33 @@ private:
 QWidget* make_strokes(f_new_round& window)
 {
     box_group group(window, window.caption(u"Entrée rapide", u"Quick Entry"));
-    group.add(
-        window.text_vrd,
-        {{0, {u"Long :", u"Long :"}}, {1, {u"Approche :", u"Approach :"}}, {2, {u"Putt  :", u"Putt  :"}}});
-    group.add({u"Nombre de coups :", u"Number of Shots :"}, window.text_vrd.add(3, make_figure(box_digits)));
+    group.add(window.text_vrd, {{round_box::long_shots, {u"Long :", u"Long :"}},
+                                {round_box::approach, {u"Approche :", u"Approach :"}},
+                                {round_box::putts, {u"Putt  :", u"Putt  :"}}});
+    group.add({u"Nombre de coups :", u"Number of Shots :"},
+              window.text_vrd.add(round_box::stroke_total, make_figure(box_digits)));
     return group.frame();
 }
 
 QWidget* make_position(f_new_round& window)
 {
     box_group group(window, window.caption(u"Situation", u"Position"));
-    group.add(window.text_p, {{3, {u"Allée :", u"Fairway Shots :"}},
-                              {4, {u"Fosse de sable :", u"Sand Trap Shots :"}},
-                              {5, {u"Coups ratés :", u"Missed Shots :"}},
-                              {6, {u"C. de redressement :", u"Adjustment Shots :"}}});
+    group.add(window.text_p, {{round_box::fairway, {u"Allée :", u"Fairway Shots :"}},
+                              {round_box::sand, {u"Fosse de sable :", u"Sand Trap Shots :"}},
+                              {round_box::missed, {u"Coups ratés :", u"Missed Shots :"}},
+                              {round_box::recovery, {u"C. de redressement :", u"Adjustment Shots :"}}});
     return group.frame();
 }
 
 QWidget* make_penalties(f_new_round& window)
 {
     box_group group(window, window.caption(u"Pénalités", u"Penalties"));
-    group.add(window.text_s, {{8, {u"Pénalité eau :", u"Water Hazard :"}},
-                              {9, {u"Pénalité balle perdue :", u"Lost Ball :"}},
-                              {10, {u"Pén.  (règlement) :", u"Rules :"}},
-                              {11, {u"Pénalité hors limites :", u"Out of Bound :"}}});
-    group.add({u"Total pénalités :", u"Total :"}, window.text.add(36, make_figure(box_digits)));
+    group.add(window.text_s, {{round_box::water, {u"Pénalité eau :", u"Water Hazard :"}},
+                              {round_box::lost, {u"Pénalité balle perdue :", u"Lost Ball :"}},
+                              {round_box::rule, {u"Pén.  (règlement) :", u"Rules :"}},
+                              {round_box::bounds, {u"Pénalité hors limites :", u"Out of Bound :"}}});
+    group.add({u"Total pénalités :", u"Total :"},
+              window.text.add(round_box::penalty_total, make_figure(box_digits)));
     return group.frame();
 }
 
@@ -86,7 +89,7 @@ QWidget* make_penalties(f_new_round& window)
 
 QWidget* make_quick_page(f_new_round& window)
 {
-    QWidget* page = window.Frame5.add(0, new QWidget);
+    QWidget* page = window.Frame5.add(round_box::quick_page, new QWidget);
     auto* groups = new QVBoxLayout(page);
     groups->setContentsMargins(0, 0, 0, 0);
     groups->setSpacing(rhythm);

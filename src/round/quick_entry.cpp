@@ -9,6 +9,7 @@
 #include "events.h"
 #include "f_new_round.h"
 #include "keys.h"
+#include "round_boxes.h"
 #include "round_panel.h"
 
 namespace verdane::quick_entry {
@@ -37,11 +38,11 @@ private:
 std::vector<QLineEdit*> boxes_in_order(const f_new_round& window)
 {
     std::vector<QLineEdit*> boxes;
-    for (int index = 0; index <= 2; ++index)
+    for (const int index : round_box::strokes)
         boxes.push_back(&window.text_vrd(index));
-    for (int index = 3; index <= 6; ++index)
+    for (const int index : round_box::situation)
         boxes.push_back(&window.text_p(index));
-    for (int index = 8; index <= 11; ++index)
+    for (const int index : round_box::penalties)
         boxes.push_back(&window.text_s(index));
     return boxes;
 }
@@ -86,7 +87,7 @@ void penalty_changed(f_new_round& window)
 
 void watch_changes(f_new_round& window)
 {
-    for (int index = 0; index <= 2; ++index)
+    for (const int index : round_box::strokes)
         on_change(window.text_vrd(index), [&window] { stroke_changed(window); });
     for (const auto& [index, box] : window.text_p.members())
         on_change(*box, [&window] { refresh_panel(window, false); });
@@ -101,7 +102,7 @@ void watch_boxes(f_new_round& window)
     const std::vector<QLineEdit*> boxes = boxes_in_order(window);
     for (std::size_t place = 0; place + 1 < boxes.size(); ++place)
         watch_keys(*boxes[place], *boxes[place + 1]);
-    watch_keys(*boxes.back(), window.Command1(4));
+    watch_keys(*boxes.back(), window.Command1(round_box::ok));
     watch_changes(window);
 }
 

@@ -7,6 +7,7 @@
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
 #include "language.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "round_key.h"
 #include "round_parameters.h"
@@ -131,14 +132,14 @@ void open_rows_of_round(const QString& key)
 
 void show_date(f_new_round& window, const QString& key)
 {
-    window.text(2).setText(Verdane_tools::key_date_text(key));
-    window.text(3).setText(Verdane_tools::key_time_text(key));
+    window.text(round_box::date).setText(Verdane_tools::key_date_text(key));
+    window.text(round_box::time).setText(Verdane_tools::key_time_text(key));
 }
 
 bool refuse_without_second_row(f_new_round& window)
 {
     tell(QStringLiteral("Error : games2 record not found"));
-    window.text(40).setText(QStringLiteral("1"));
+    window.text(round_box::hole).setText(QStringLiteral("1"));
     window.unload();
     return false;
 }
@@ -189,7 +190,7 @@ bool load_stored_round(f_new_round& window, const QString& key)
     find_first(store.rsvrd_fields, u"CODE = ", code);
     window.cmb_holes->setCurrentIndex(0);
     window.cmb_courses->setCurrentIndex(window.cmb_courses->place_of(code));
-    window.text(40).setText(QStringLiteral("1"));
+    window.text(round_box::hole).setText(QStringLiteral("1"));
     return true;
 }
 
@@ -206,9 +207,9 @@ void load_round_header(f_new_round& window)
     const QString cost = QString::number(plain(Round_functions::cost_total()));
     window.conditions->setCurrentIndex(plain(store.rsgames2.Fields(at::conditionM).int16_or_zero()));
     window.UpDown1->show_value(plain(store.rsgames2.Fields(at::temperature).int32_or_zero()));
-    window.text(1).setText(store.rsvrd_fields.Fields(at::name).text_or_empty());
+    window.text(round_box::course_name).setText(store.rsvrd_fields.Fields(at::name).text_or_empty());
     show_date(window, window.date_value);
-    window.text(7).setText(cost);
+    window.text(round_box::costs).setText(cost);
 }
 
 void commit_round(const QString& key)

@@ -5,6 +5,7 @@
 
 #include "f_new_round.h"
 #include "hole_classes.h"
+#include "round_boxes.h"
 #include "Round_functions.h"
 
 namespace verdane {
@@ -42,13 +43,16 @@ void refresh_score(f_new_round& window)
 void sum_stroke_boxes(f_new_round& window)
 {
     const auto box = [&window](int index) { return window.text_vrd(index).text(); };
-    window.text_vrd(3).setText(sum_of_boxes({box(0), box(1), box(2)}));
+    window.text_vrd(round_box::stroke_total)
+        .setText(sum_of_boxes({box(round_box::long_shots), box(round_box::approach), box(round_box::putts)}));
 }
 
 void sum_penalty_boxes(f_new_round& window)
 {
     const auto box = [&window](int index) { return window.text_s(index).text(); };
-    window.text(36).setText(sum_of_boxes({box(8), box(9), box(10), box(11)}));
+    window.text(round_box::penalty_total)
+        .setText(sum_of_boxes(
+            {box(round_box::water), box(round_box::lost), box(round_box::rule), box(round_box::bounds)}));
 }
 
 }  // namespace verdane

@@ -9,6 +9,7 @@
 #include "course_box.h"
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "round_rows.h"
 #include "weather_words.h"
@@ -86,7 +87,7 @@ QStringList selected_partners(const f_new_round& window)
 
 void show_cost_total(f_new_round& window)
 {
-    window.text(7).setText(QString::number(plain(Round_functions::cost_total())));
+    window.text(round_box::costs).setText(QString::number(plain(Round_functions::cost_total())));
 }
 
 }  // namespace verdane

@@ -6,6 +6,7 @@
 #include "course_box.h"
 #include "detailed_page.h"
 #include "f_new_round.h"
+#include "round_boxes.h"
 #include "round_putt_report.h"
 #include "shot_entry.h"
 
@@ -17,8 +18,8 @@ void report_putts(f_new_round& window)
     // A hole of which nothing is told keeps the figures of the quick page.
     if (on_detailed_page(window) && !hole_is_untold())
         finish_hole(window);
-    const QString round = window.caption(u"Ronde : ", u"Round : ") + window.text(2).text() + u' ' +
-                          window.cmb_courses->course();
+    const QString round = window.caption(u"Ronde : ", u"Round : ") + window.text(round_box::date).text() +
+                          u' ' + window.cmb_courses->course();
     const QString weather = window.caption(u"Conditions atmosphériques : ", u"Weather conditions : ") +
                             window.conditions->currentText();
     launch_round_putt_report(window.cr2, round, weather);

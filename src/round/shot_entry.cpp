@@ -13,6 +13,7 @@
 #include "failure_guard.h"
 #include "hole_boxes.h"
 #include "numbers.h"
+#include "round_boxes.h"
 #include "round_columns.h"
 #include "round_rows.h"
 #include "shot_rows.h"
@@ -58,14 +59,15 @@ Round_functions::hole_card card_of_shots(const f_new_round& window)
 {
     if (!hole_is_loaded(window) && !shots().empty())
         return Round_functions::read_hole_card(to_int16(shots().value_at(0, at::hole).toDouble()));
-    return {figure_of_box(window.text(39).text()), figure_of_box(window.text(0).text()),
-            figure_of_box(window.text(38).text())};
+    return {figure_of_box(window.text(round_box::length).text()),
+            figure_of_box(window.text(round_box::stroke_index).text()),
+            figure_of_box(window.text(round_box::par).text())};
 }
 
 /// What every new shot starts with: in the fairway, without a penalty.
 void start_row(const f_new_round& window, int number, int16 distance)
 {
-    const int16 length = figure_of_box(window.text(39).text());
+    const int16 length = figure_of_box(window.text(round_box::length).text());
     shots().AddNew();
     shots().Fields(at::faireway).set(position_words[0].in(window.french()));
     shots().Fields(at::fairval).set(in_the_fairway);
@@ -85,7 +87,7 @@ void reopen()
 
 void add_first_row(const f_new_round& window)
 {
-    start_row(window, 1, figure_of_box(window.text(39).text()));
+    start_row(window, 1, figure_of_box(window.text(round_box::length).text()));
     reopen();
 }
 
@@ -175,7 +177,7 @@ void make_putt()
 void add_shot(f_new_round& window, int16 distance)
 {
     start_row(window, shots().RecordCount() + 1, distance);
-    shots().Fields(at::normal).set(figure_of_box(window.text(38).text()));
+    shots().Fields(at::normal).set(figure_of_box(window.text(round_box::par).text()));
     if (window.PUT_MODE)
         make_putt();
     shots().MoveLast();
@@ -188,13 +190,13 @@ void show_summary(f_new_round& window, const hole_summary& summary)
 {
     const auto show = [](QLineEdit& box, int16 value) { box.setText(QString::number(plain(value))); };
     for (int penalty = 1; penalty <= 4; ++penalty)
-        show(window.text_s(penalty + 7), summary.penalties[penalty].count);
-    show(window.text_p(3), summary.fairway);
-    show(window.text_p(4), summary.sand);
-    show(window.text_p(5), summary.missed);
-    show(window.text_p(6), summary.recovery);
+        show(window.text_s(round_box::of_penalty(penalty)), summary.penalties[penalty].count);
+    show(window.text_p(round_box::fairway), summary.fairway);
+    show(window.text_p(round_box::sand), summary.sand);
+    show(window.text_p(round_box::missed), summary.missed);
+    show(window.text_p(round_box::recovery), summary.recovery);
     for (int kind = long_shot; kind <= putt; ++kind)
-        show(window.text_vrd(kind - 1), summary.kinds[kind].count);
+        show(window.text_vrd(round_box::of_kind(kind)), summary.kinds[kind].count);
 }
 
 void note_putt_lengths(const f_new_round& window, const hole_summary& summary)

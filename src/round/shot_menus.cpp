@@ -11,6 +11,7 @@
 #include "failure_guard.h"
 #include "hole_boxes.h"
 #include "Main_module.h"
+#include "round_boxes.h"
 #include "shot_entry.h"
 #include "shot_rows.h"
 #include "shot_words.h"
@@ -172,7 +173,7 @@ void yes_or_no_chosen(f_new_round& window, bool yes)
 
 void column_updated(f_new_round& window, int column)
 {
-    shots().Fields(at::normal).set(figure_of_box(window.text(38).text()));
+    shots().Fields(at::normal).set(figure_of_box(window.text(round_box::par).text()));
     if (column == shown::distance)
         distance_updated(window);
     window.details->ReBind();
