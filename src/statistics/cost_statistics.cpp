@@ -11,6 +11,8 @@ namespace verdane::Statistics {
 
 namespace {
 
+constexpr int first_amount = 1;
+constexpr int last_amount = 12;
 constexpr int round_count = 14;
 constexpr int step_of_a_round = 3;
 
@@ -25,20 +27,42 @@ void remove_rows(Recordset& report)
     report.Close();
 }
 
-/// All rows by one statement, in the store's own order: row by row it took the better part of the time.
+void check_amounts(Recordset& cost)
+{
+    for (int amount = first_amount; amount <= last_amount; ++amount)
+        cost.Fields(amount).int32_or_zero();
+}
+
+/// How many rounds there are to copy. An amount beyond 32 bits fails here with `overflow`.
+int look_through(Recordset& cost, run_progress& bar)
+{
+    int rounds = 0;
+    for (cost.Open(row_reading::one_by_one); !cost.eof(); cost.MoveNext()) {
+        ++rounds;
+        bar.pass_through(rounds * step_of_a_round);
+        check_amounts(cost);
+    }
+    cost.Close();
+    return rounds;
+}
+
+/// All rows by one statement, in the store's own order: to add them one by one takes longer than everything
+/// else together. The statement itself would copy any amount, which is why all of them are looked at before.
 void copy_rows(const QString& selection)
 {
     data_environment().connection.Execute(
         u"insert into r_cost (date,fg,cm,vt,ft,ba,tee,tex,nrt,lg,bs,ln,au) " + selection);
 }
 
-/// Notes the number of rounds on the first row of the table.
-void count_rounds(Recordset& report, run_progress& bar)
+/// On the first row of the table, the only one that is read for it.
+void note_round_count(Recordset& report, int rounds)
 {
-    for (int round = 1; round <= report.RecordCount(); ++round)
-        bar.pass_through(round * step_of_a_round);
-    report.Fields(round_count).set(report.RecordCount());
+    report.set_Source(report.settings().source + u" limit 1");
+    report.Open();
+    report.Fields(round_count).set(rounds);
     report.Update();
+    report.Close();
+    report.set_Source(report.settings().source);
 }
 
 /// False when the selection has no costs; the report table is empty then.
@@ -48,13 +72,12 @@ bool fill_from_costs(const selection_arguments& chosen, run_progress& bar)
     Recordset& report = data_environment().rsr_cost;
     remove_rows(report);
     cost.set_Source(cost_select(chosen));
+    const int rounds = look_through(cost, bar);
+    if (rounds == 0)
+        return false;
     copy_rows(cost.Source());
-    report.Open();
-    const bool any_cost = !report.empty();
-    if (any_cost)
-        count_rounds(report, bar);
-    report.Close();
-    return any_cost;
+    note_round_count(report, rounds);
+    return true;
 }
 
 bool fill_in_one_commit(const selection_arguments& chosen, run_progress& bar)
@@ -98,13 +121,13 @@ bool fill_r_cost(const selection_arguments& chosen, run_progress& bar)
     return true;
 }
 
-void cost_statistics(const selection_arguments& chosen, const run_controls& window)
+void cost_statistics(const selection_arguments& chosen, const run_controls& controls)
 {
-    run_progress bar(window.Status);
+    run_progress bar(controls.Status);
     bar.show(0);
     if (!fill_r_cost(chosen, bar))
         return;
-    report_control& cr2 = window.report;
+    report_control& cr2 = controls.report;
     prepare_report(cr2, report_opening::maximised(), u"\\r_cost3.rpt", u"\\r_cost3_en.rpt");
     cr2.Action(report_control::run_now);
 }

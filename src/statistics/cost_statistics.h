@@ -17,8 +17,8 @@ QString cost_select(const selection_arguments& chosen);
 
 /// Fills the table, moving the bar by 3 for each round up to its end, and launches the report as its
 /// last act. Without a row it says so and no report opens; `rscost` then keeps the selection's statement
-/// as its source.
-void cost_statistics(const selection_arguments& chosen, const run_controls& window);
+/// as its source. An amount beyond 32 bits fails with `overflow`, and the table is as it was.
+void cost_statistics(const selection_arguments& chosen, const run_controls& controls);
 
 /// The same up to the finished table, without the report. False when there is nothing to print; the
 /// user has been told why.

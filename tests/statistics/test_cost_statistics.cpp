@@ -6,6 +6,7 @@
 #include "cost_statistics.h"
 #include "DataEnvironment1.h"
 #include "diary.h"
+#include "failures.h"
 #include "hand_widgets.h"
 #include "report_rows.h"
 #include "report_store.h"
@@ -78,6 +79,7 @@ private Q_SLOTS:
         QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(2, u"2"_s), row_of_day(3, QString())}));
         QVERIFY(open_recordsets().isEmpty());
         QCOMPARE(data_environment().rscost.Source(), u"select * from cost"_s);
+        QCOMPARE(data_environment().rsr_cost.Source(), u"select * from r_cost"_s);
     }
 
     void two_runs_leave_the_rows_of_the_second()
@@ -128,6 +130,24 @@ private Q_SLOTS:
         costs.book.store.write(u"update cost set au = 2000000000"_s);
         QVERIFY(fill(days(1, 1)));
         QCOMPARE(costs.report()[0][12], u"2000000000"_s);
+    }
+
+    void an_amount_beyond_32_bits_is_a_failure_and_nothing_is_copied_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::newRow("too large") << u"au = 2147483648"_s;
+        QTest::newRow("too far below 0") << u"fg = -2147483649"_s;
+    }
+    void an_amount_beyond_32_bits_is_a_failure_and_nothing_is_copied()
+    {
+        QFETCH(QString, change);
+        const stored_costs costs(3);
+        QVERIFY(fill(days(2, 2)));
+        costs.book.store.write(u"update cost set "_s + change + u" where date = '" + key_of_day(3) + u'\'');
+        QVERIFY(failure_of([] { fill(days(1, 3)); }) == failure_kind::overflow);
+        data_environment().rscost.Close();
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(2, u"1"_s)}));
+        QVERIFY(fill(days(1, 2)));
     }
 
     void a_selection_without_costs_empties_the_table_and_keeps_its_statement_data()
