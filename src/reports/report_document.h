@@ -47,8 +47,8 @@ public:
     /// Writes one page as a PNG picture at 200 dots per inch. Fails as `save_pdf`.
     void save_picture(const QString& path, int page) const;
 
-    /// Prints those pages that the printer was asked for and the report has, in the middle of its paper, smaller only
-    /// where the paper is smaller than the page. Fails with `report_output`.
+    /// Prints those pages that the printer was asked for and the report has, in the middle of its paper,
+    /// smaller only where the paper is smaller than the page. Fails with `report_output`.
     void print(QPrinter& printer) const;
 
 private:
