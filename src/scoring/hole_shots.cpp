@@ -26,6 +26,13 @@ void turn_to_yards(hole_shot& row, const unit_words& words)
     row.after = to_int16(plain(row.remaining()) / static_cast<double>(feet_in_a_yard));
 }
 
+/// A putt has none, in words and in code.
+void clear_position(hole_shot& row)
+{
+    row.faireway = blank_word.toString();
+    row.fairval = 0;
+}
+
 QString unit_for(const hole_shot& row, const unit_words& words)
 {
     return row.is_putt() ? words.feet : words.yards;
@@ -103,7 +110,7 @@ private:
     void count_position(hole_shot& row)
     {
         if (row.is_putt() && row.fairval != 0)
-            row.fairval = 0;
+            clear_position(row);
         else if (row.fairval == in_the_fairway)
             result_.fairway += 1;
     }
@@ -170,10 +177,8 @@ next_shot_plan plan_next_shot(shot_list& rows, const unit_words& words)
     if (!last.is_told() || last.remaining() == 0)
         return {true, false, 0};
     const bool PUT_MODE = last.is_putt();
-    if (PUT_MODE) {
-        last.faireway = blank_word.toString();
-        last.fairval = 0;
-    }
+    if (PUT_MODE)
+        clear_position(last);
     const int16 distance = last.remaining();
     if (rows.size() > 1)
         prepare_row_ahead(rows[rows.size() - 2], PUT_MODE, words);

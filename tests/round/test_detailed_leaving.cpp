@@ -5,6 +5,7 @@
 #include "language.h"
 #include "languages.h"
 #include "round_windows.h"
+#include "store_invariants.h"
 #include "told_shots.h"
 
 using namespace verdane;
@@ -182,6 +183,19 @@ private Q_SLOTS:
         // What came behind the refused row was left as it was.
         for (const Recordset* left : {&data_environment().rsgames2, &data_environment().rsgames})
             QVERIFY2(left->is_open(), qUtf8Printable(left->name()));
+    }
+
+    void a_shot_that_became_a_putt_late_is_stored_without_a_position()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_shot(user, 0, 14, QString(), 0);
+            accept(user);
+        });
+        QCOMPARE(round.store.text(QStringLiteral("select fairval || faireway || '|' from Stat_rounds")),
+                 QStringLiteral("0 |"));
+        QCOMPARE(broken_invariants(round.store.store), QStringList());
     }
 
     void a_round_is_reopened_in_the_other_language()

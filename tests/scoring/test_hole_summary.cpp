@@ -105,11 +105,17 @@ private Q_SLOTS:
     {
         shot_list rows =
             shots_of(QStringLiteral("A9 20 Pieds fair=2\nP14 0 Pieds fair=1\nP14 0 Pieds fair=3"));
+        for (hole_shot& row : rows)
+            row.faireway = QStringLiteral("Fairway");
         const hole_summary sum = summarise(rows);
         QCOMPARE(plain(sum.fairway), 0);
         QCOMPARE(plain(rows[0].fairval), 2);
         QCOMPARE(plain(rows[1].fairval), 0);
         QCOMPARE(plain(rows[2].fairval), 0);
+        // The word goes with the code.
+        QCOMPARE(rows[0].faireway, QStringLiteral("Fairway"));
+        QCOMPARE(rows[1].faireway, QStringLiteral(" "));
+        QCOMPARE(rows[2].faireway, QStringLiteral(" "));
     }
 
     void codes_outside_their_sets_fail_data()

@@ -40,7 +40,8 @@ const std::vector<invariant>& invariants()
          "select count(*) from Stat_rounds where (fairval = 1 and faireway not in ('Dans l''allé', "
          "'Fairway')) or "
          "(fairval = 2 and faireway not in ('Gauche', 'Left')) or "
-         "(fairval = 3 and faireway not in ('Droite', 'Right'))"},
+         "(fairval = 3 and faireway not in ('Droite', 'Right')) or "
+         "(shot_type_value = 3 and (coalesce(fairval, 0) = 0) <> (coalesce(faireway, ' ') = ' '))"},
         {"the penalty in words is the penalty in code",
          "select count(*) from Stat_rounds where (penval = 1 and penality not in ('Eau', 'Water Hazard')) or "
          "(penval = 2 and penality not in ('Balle perdue', 'Lost Ball')) or "
