@@ -117,6 +117,22 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), told_putts);
     }
 
+    void the_button_of_the_report_does_its_work_behind_a_holed_putt()
+    {
+        const reported_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            user.type(QStringLiteral("0"));
+            user.press_and_release(button);
+            user.answer(refusal_of_shot());
+            close_report(user);
+            accept(user);
+        });
+        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("3=1"));
+        QCOMPARE(round.shots(1), 4);
+    }
+
     void a_stored_round_is_reported_from_its_quick_page_by_the_keyboard()
     {
         const reported_store round;
