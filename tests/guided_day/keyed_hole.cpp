@@ -94,6 +94,17 @@ void tell_putts(const day& today)
     expect_cursor(today, QStringLiteral("4,3"), QStringLiteral("the first putt"));
 }
 
+/// Behind a hole that ended in putts the first distance leads back to itself, two cells ahead of the kind.
+void begin_the_second_hole(const day& today)
+{
+    today.user.type(QStringLiteral("1"));
+    type_distance(today, QStringLiteral("100"));
+    expect_cursor(today, QStringLiteral("0,3"), QStringLiteral("the first distance of the second hole"));
+    tab(today, 2);
+    today.user.type(QStringLiteral("l"));
+    today.user.same(today.user.cell(grid, 0, 5), QStringLiteral("Long"), QStringLiteral("kind"));
+}
+
 }  // namespace
 
 /// Leaving the hole is its end: the last putt, of which nothing is left, need not be told.
@@ -110,6 +121,7 @@ void tell_hole_by_keys(day& today)
     walk_to(today, QStringLiteral("TabStrip1"), Qt::Key_Backtab);
     today.user.key(Qt::Key_Right);
     today.user.same(today.user.selected(QStringLiteral("cmb_holes")), 1, QStringLiteral("hole on screen"));
+    begin_the_second_hole(today);
 }
 
 QString keyed_shots(const day& today)
