@@ -1,7 +1,5 @@
 #include "course_windows.h"
 
-#include <QTest>
-
 #include "boxes.h"
 #include "Connection1.h"
 #include "course_keys.h"
@@ -183,13 +181,6 @@ QString list_window()
 QString editor_window()
 {
     return u"f_courses" + twin();
-}
-
-void both_languages()
-{
-    QTest::addColumn<bool>("french");
-    QTest::newRow("French") << true;
-    QTest::newRow("English") << false;
 }
 
 }  // namespace verdane::testing

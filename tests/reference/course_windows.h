@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "hand.h"
+#include "languages.h"
 #include "reader.h"
 #include "recording_frame.h"
 #include "store_folder.h"
@@ -87,8 +88,5 @@ expected_box refusal_of_duplicate(const QString& name, const QString& tee);
 QString twin();
 QString list_window();
 QString editor_window();
-
-/// One row a language, in a column "french".
-void both_languages();
 
 }  // namespace verdane::testing

@@ -1,63 +1,15 @@
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QTest>
 
 #include "course_windows.h"
 #include "f_courses.h"
-#include "look.h"
+#include "window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Every named control of the window at work with its kind, in the order in which they were made.
-QStringList controls(hand& user)
-{
-    QStringList lines;
-    user.look([&] {
-        for (const QWidget* control : form_at_work()->findChildren<QWidget*>()) {
-            if (!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"))
-                lines << QString::fromLatin1(control->metaObject()->className()) + u' ' +
-                             control->objectName();
-        }
-    });
-    return lines;
-}
-
-bool shows_a_caption(const QWidget& control)
-{
-    return qobject_cast<const QLabel*>(&control) || qobject_cast<const QPushButton*>(&control) ||
-           qobject_cast<const QComboBox*>(&control) || qobject_cast<const QTabBar*>(&control);
-}
-
-int width_of_text(const QLineEdit& box)
-{
-    return box.fontMetrics().horizontalAdvance(box.text()) + rhythm;
-}
-
-/// Captions that are visible and have less room than they need.
-QStringList clipped(hand& user)
-{
-    QStringList names;
-    user.look([&] {
-        for (const QWidget* control : form_at_work()->findChildren<QWidget*>()) {
-            const QSize wanted = control->sizeHint();
-            const bool small = control->width() < wanted.width() || control->height() < wanted.height();
-            if (control->isVisible() && shows_a_caption(*control) && small)
-                names << control->objectName();
-        }
-        for (const QLineEdit* box : form_at_work()->findChildren<QLineEdit*>()) {
-            if (box->isVisible() && box->width() < width_of_text(*box))
-                names << box->objectName();
-        }
-    });
-    return names;
-}
 
 struct seen {
     QStringList list;
@@ -70,10 +22,10 @@ seen names_in(bool french)
     const course_store store(french);
     store.add({});
     in_course_list_until_ok([&](hand& user) {
-        names.list = controls(user);
+        names.list = controls_of_window(user);
         user.click(u"Command1_0"_s);
         user.wait_for_window(editor_window());
-        names.editor = controls(user);
+        names.editor = controls_of_window(user);
         discard(user);
     });
     return names;
@@ -118,12 +70,13 @@ private Q_SLOTS:
         in_stored_course(0, [](hand& user) {
             for (const int page : {1, 2, 3}) {
                 user.click_tab(u"TabStrip1"_s, page);
-                user.same(clipped(user).join(u'|'), {}, u"clipped on page "_s + QString::number(page));
+                user.same(clipped_controls(user).join(u'|'), {},
+                          u"clipped on page "_s + QString::number(page));
             }
             user.same(user.text(u"lbl_total"_s), u"-32760"_s, u"the widest total"_s);
             discard(user);
             user.wait_for_window(list_window());
-            user.same(clipped(user).join(u'|'), {}, u"clipped in the list"_s);
+            user.same(clipped_controls(user).join(u'|'), {}, u"clipped in the list"_s);
         });
     }
 };

@@ -3,11 +3,13 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
+#include <QTabBar>
 
 #include "DataEnvironment1.h"
 #include "Form.h"
+#include "look.h"
 
 namespace verdane::testing {
 
@@ -16,7 +18,17 @@ namespace {
 bool shows_a_caption(const QWidget& control)
 {
     return qobject_cast<const QLabel*>(&control) || qobject_cast<const QPushButton*>(&control) ||
-           qobject_cast<const QComboBox*>(&control) || qobject_cast<const QGroupBox*>(&control);
+           qobject_cast<const QComboBox*>(&control) || qobject_cast<const QGroupBox*>(&control) ||
+           qobject_cast<const QTabBar*>(&control);
+}
+
+bool is_clipped(const QWidget& control)
+{
+    if (const auto* box = qobject_cast<const QLineEdit*>(&control))
+        return box->width() < box->fontMetrics().horizontalAdvance(box->text()) + rhythm;
+    const QSize wanted = control.minimumSizeHint();
+    return shows_a_caption(control) &&
+           (control.width() < wanted.width() || control.height() < wanted.height());
 }
 
 }  // namespace
@@ -39,9 +51,7 @@ QStringList clipped_controls(hand& user)
     QStringList names;
     user.look([&] {
         for (const QWidget* control : form_at_work()->findChildren<QWidget*>()) {
-            const QSize wanted = control->minimumSizeHint();
-            const bool small = control->width() < wanted.width() || control->height() < wanted.height();
-            if (control->isVisible() && shows_a_caption(*control) && small)
+            if (control->isVisible() && is_clipped(*control))
                 names << control->objectName();
         }
     });
@@ -56,13 +66,6 @@ QStringList open_recordsets()
             names << recordset.name();
     }
     return names;
-}
-
-void both_languages()
-{
-    QTest::addColumn<bool>("french");
-    QTest::newRow("French") << true;
-    QTest::newRow("English") << false;
 }
 
 }  // namespace verdane::testing

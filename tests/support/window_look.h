@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "hand.h"
+#include "languages.h"
 
 /// What the tests of a window look at: its controls, and what it left open.
 namespace verdane::testing {
@@ -10,13 +11,10 @@ namespace verdane::testing {
 /// Kind and name of every named control of the window at work, in the order in which they were made.
 QStringList controls_of_window(hand& user);
 
-/// The names of visible labels, buttons, lists and boxes that have less room than they need.
+/// The names of visible labels, buttons, lists, tabs and boxes that have less room than they need.
 QStringList clipped_controls(hand& user);
 
 /// The names of the recordsets that are open.
 QStringList open_recordsets();
-
-/// Both languages as rows of data in the column `french`.
-void both_languages();
 
 }  // namespace verdane::testing
