@@ -70,6 +70,8 @@ void page_view::zoom_to(int percent)
     set_up_scroll_bars();
     // What stands at the top stays there: a view that is not laid out yet has no middle to keep.
     scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle), asked_page);
+    if (asked_page && !is_seen(*asked_page))
+        turn_to(*asked_page);
 }
 
 void page_view::zoom_in()

@@ -30,7 +30,7 @@ std::optional<qsizetype> stray_quoted_name(const QString& sql)
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         const qsizetype at = match.capturedStart();
-        if (sql[at] == u'"' && !behind_as.match(sql.first(at)).hasMatch())
+        if (sql[at] == u'"' && !behind_as.match(without_literals(sql.first(at))).hasMatch())
             return at;
     }
     return {};

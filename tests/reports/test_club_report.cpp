@@ -55,6 +55,14 @@ private Q_SLOTS:
         QVERIFY(!printed_pages(u"r_statSticks_en.rpt"_s).front().contains(u"TITRE"_s));
     }
 
+    void a_table_that_no_run_has_filled_has_its_title_all_the_same()
+    {
+        reader(store_.path())
+            .write(u"update stat_sticks set heading_text = null, from_date = null, to_date = null"_s);
+        QVERIFY(printed_pages(u"r_statSticks.rpt"_s).front().contains(u"Statistiques des bâtons"_s));
+        QVERIFY(printed_pages(u"r_statSticks_en.rpt"_s).front().contains(u"Club Statistics"_s));
+    }
+
     void a_date_stands_once_in_the_heading()
     {
         for (const QString& name : {u"r_statSticks.rpt"_s, u"r_statSticks_en.rpt"_s})

@@ -99,14 +99,17 @@ private Q_SLOTS:
         QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 9"));
     }
 
-    void a_page_that_was_turned_to_stays_through_a_zoom_that_keeps_it_in_view()
+    void a_page_that_was_turned_to_stays_through_a_zoom()
     {
         open_small(25, 600);
-        turned(Qt::Key_PageDown, 2);
-        press(Qt::Key_Plus, Qt::ControlModifier);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 9"));
+        turned(Qt::Key_PageDown, 3);
+        for (int time = 0; time < 6; ++time) {
+            press(Qt::Key_Plus, Qt::ControlModifier);
+            QCOMPARE(label("page_of_pages"), QStringLiteral("Page 4 of 9"));
+        }
+        QVERIFY(window_->pages().zoom() >= 100);
         press(Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 9"));
+        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 4 of 9"));
     }
 };
 

@@ -106,6 +106,9 @@ private Q_SLOTS:
         add("double quotes behind a word that ends with as",
             QStringLiteral("query bad = select hole_1 alias \"x\" from stats"), QString(),
             QStringLiteral("try.rpt:1: query bad: \"x\" is quoted"));
+        add("double quotes behind a remark that ends with as",
+            QStringLiteral("query bad =\n    select 1, -- the same as\n    \"x\" from stats"), QString(),
+            QStringLiteral("try.rpt:3: query bad: \"x\" is quoted"));
         add("writing statement", QStringLiteral("query bad = delete from stats"), QString(),
             QStringLiteral("try.rpt:1: query bad: "));
         add("query twice", QStringLiteral("query one = select 1\nquery one = select 2"), QString(),
