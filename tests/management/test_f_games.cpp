@@ -1,7 +1,6 @@
 #include <QTest>
 
 #include <functional>
-#include <vector>
 
 #include "boxes.h"
 #include "DataEnvironment1.h"
@@ -10,6 +9,7 @@
 #include "main_frame.h"
 #include "recording_frame.h"
 #include "store_folder.h"
+#include "ways_out.h"
 #include "window_look.h"
 
 using namespace verdane;
@@ -52,20 +52,6 @@ void in_list(const std::function<void(hand&)>& script)
         user.click(u"Command1_2"_s);
         user.wait_until_gone(list_window());
     });
-}
-
-struct named_way {
-    const char* words;
-    std::function<void(hand&)> leave;
-};
-
-std::vector<named_way> ways_out()
-{
-    return {{"OK", [](hand& user) { user.click(u"Command1_2"_s); }},
-            {"the title bar", [](hand& user) { user.close_window(list_window()); }},
-            {"Escape", [](hand& user) { user.key(Qt::Key_Escape); }},
-            {"the command Close of the main window",
-             [](hand& user) { user.look([] { current_form->closeForm(); }); }}};
 }
 
 }  // namespace
@@ -212,14 +198,11 @@ private Q_SLOTS:
 
     void every_way_out_closes_everything_and_unlocks_the_menu_data()
     {
-        QTest::addColumn<int>("way");
-        const auto ways = ways_out();
-        for (std::size_t i = 0; i < ways.size(); ++i)
-            QTest::newRow(ways[i].words) << static_cast<int>(i);
+        every_way_out(ways_out(list_window, {{"OK", [](hand& user) { user.click(u"Command1_2"_s); }}}));
     }
     void every_way_out_closes_everything_and_unlocks_the_menu()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const store_folder store;
         diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
         recording_frame frame;
@@ -231,7 +214,7 @@ private Q_SLOTS:
                 user.check(data_environment().rsgames.is_open() && data_environment().rsfield_info.is_open(),
                            u"both recordsets stay open with the window"_s);
                 user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
-                ways_out()[static_cast<std::size_t>(way)].leave(user);
+                leave(user);
                 user.wait_until_gone(list_window());
             });
             QCOMPARE(open_recordsets(), QStringList());

@@ -3,36 +3,13 @@
 #include "boxes.h"
 #include "Connection1.h"
 #include "course_keys.h"
+#include "diary.h"
 #include "f_c_list.h"
 #include "f_courses.h"
 #include "failure_guard.h"
 #include "language.h"
 
 namespace verdane::testing {
-
-namespace {
-
-constexpr int holes = 18;
-
-QString eighteen(const std::function<QString(int)>& item)
-{
-    QStringList items;
-    for (int hole = 1; hole <= holes; ++hole)
-        items << item(hole);
-    return items.join(u", ");
-}
-
-QString eighteen_columns(QStringView prefix)
-{
-    return eighteen([prefix](int hole) -> QString { return prefix + QString::number(hole); });
-}
-
-QString same_figure(int figure)
-{
-    return eighteen([figure](int) { return QString::number(figure); });
-}
-
-}  // namespace
 
 QString sql(const QString& text)
 {
@@ -46,19 +23,12 @@ course_store::course_store(bool french) : folder_(french)
 
 void add_course(const reader& store, const stored_course& course)
 {
-    const QStringList texts{course.code,     course.name,   QStringLiteral("Main Street 1"),
-                            course.name_tee, course.rating, course.slope,
-                            course.tee};
-    QStringList quoted_texts;
-    for (const QString& text : texts)
-        quoted_texts << sql(text);
-    store.write({u"insert into vrd_fields (code, name, address_1, name_tee, rating, slope, tee) values (" +
-                     quoted_texts.join(u", ") + u')',
-                 u"insert into field_info (FIELD_CODE, " + eighteen_columns(u"yards_") + u", " +
-                     eighteen_columns(u"hcp_") + u", " + eighteen_columns(u"par_") + u") values (" +
-                     sql(course.code) + u", " + same_figure(course.yards) + u", " +
-                     eighteen([](int hole) { return QString::number(hole); }) + u", " +
-                     same_figure(course.par) + u')'});
+    diary_course card = flat_course(course.code, course.par, course.rating, course.slope);
+    card.name = course.name;
+    card.yards.fill(course.yards);
+    diary(store).add(card);
+    store.write(u"update vrd_fields set address_1 = 'Main Street 1', name_tee = " + sql(course.name_tee) +
+                u", tee = " + sql(course.tee) + u" where code = " + sql(course.code));
 }
 
 void course_store::add_round(const QString& key, const QString& code) const

@@ -5,6 +5,7 @@
 #include "f_partners.h"
 #include "main_frame.h"
 #include "partner_windows.h"
+#include "ways_out.h"
 #include "window_look.h"
 
 using namespace verdane;
@@ -26,33 +27,10 @@ QString headers(hand& user)
     return captions.join(u'|');
 }
 
-struct named_way {
-    const char* words;
-    std::function<void(hand&)> leave;
-};
-
-const std::vector<named_way>& ways_out()
+std::vector<way_out> ways()
 {
-    static const std::vector<named_way> ways{
-        {"OK", accept_partners},
-        {"Cancel", [](hand& user) { user.click(u"cmdAn"_s); }},
-        {"the title bar", [](hand& user) { user.close_window(partner_window()); }},
-        {"Escape", [](hand& user) { user.key(Qt::Key_Escape); }},
-        {"the command Close of the main window",
-         [](hand& user) { user.look([] { current_form->closeForm(); }); }}};
-    return ways;
-}
-
-void every_way_out()
-{
-    QTest::addColumn<int>("way");
-    for (int way = 0; way < static_cast<int>(ways_out().size()); ++way)
-        QTest::newRow(ways_out()[static_cast<std::size_t>(way)].words) << way;
-}
-
-void leave_by(int way, hand& user)
-{
-    ways_out()[static_cast<std::size_t>(way)].leave(user);
+    return ways_out(partner_window,
+                    {{"OK", accept_partners}, {"Cancel", [](hand& user) { user.click(u"cmdAn"_s); }}});
 }
 
 }  // namespace
@@ -101,10 +79,10 @@ private Q_SLOTS:
         });
     }
 
-    void the_window_locks_the_menu_and_every_way_out_frees_everything_data() { every_way_out(); }
+    void the_window_locks_the_menu_and_every_way_out_frees_everything_data() { every_way_out(ways()); }
     void the_window_locks_the_menu_and_every_way_out_frees_everything()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const partner_store store;
         store.add_three();
         // Twice: a window that left something open could not be opened again.
@@ -113,7 +91,7 @@ private Q_SLOTS:
                 user.check(store.frame.locked, u"the menu is locked"_s);
                 user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
                 user.check(data_environment().rspartners.is_open(), u"rspartners is open"_s);
-                leave_by(way, user);
+                leave(user);
             });
             QCOMPARE(open_recordsets(), QStringList());
             QVERIFY(!store.frame.locked);
@@ -121,30 +99,30 @@ private Q_SLOTS:
         QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
 
-    void an_empty_table_closes_without_a_word_data() { every_way_out(); }
+    void an_empty_table_closes_without_a_word_data() { every_way_out(ways()); }
     void an_empty_table_closes_without_a_word()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const partner_store store;
         in_partners([&](hand& user) {
             user.same(user.grid_rows(grid), 0, u"rows"_s);
             user.click(u"Del"_s);
             user.check(!user.is_open(u"message_box"_s), u"there is nobody to remove"_s);
-            leave_by(way, user);
+            leave(user);
         });
         QCOMPARE(open_recordsets(), QStringList());
         QVERIFY(!store.frame.locked);
     }
 
-    void every_way_out_stores_what_was_typed_data() { every_way_out(); }
+    void every_way_out_stores_what_was_typed_data() { every_way_out(ways()); }
     void every_way_out_stores_what_was_typed()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const partner_store store;
         store.add_three();
         in_partners([&](hand& user) {
             type_into(user, 0, 5, u"ann@golf.example"_s);
-            leave_by(way, user);
+            leave(user);
         });
         QCOMPARE(store.store.text(u"select MAIL from partners where NAME = 'Alder'"_s),
                  u"ann@golf.example"_s);
@@ -152,19 +130,19 @@ private Q_SLOTS:
 
     void a_cell_that_is_being_typed_is_stored_too_data()
     {
-        QTest::addColumn<int>("way");
-        for (const int way : {0, 1, 2})
-            QTest::newRow(ways_out()[static_cast<std::size_t>(way)].words) << way;
+        auto some = ways();
+        some.resize(3);
+        every_way_out(some);
     }
     void a_cell_that_is_being_typed_is_stored_too()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const partner_store store;
         store.add_three();
         in_partners([&](hand& user) {
             user.click_cell(grid, 2, 1);
             user.type(u"Max"_s);
-            leave_by(way, user);
+            leave(user);
         });
         QCOMPARE(store.rows(), u"Cedar,Max,597 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
@@ -185,14 +163,14 @@ private Q_SLOTS:
         });
     }
 
-    void the_recordset_of_the_rounds_is_closed_whoever_left_it_open_data() { every_way_out(); }
+    void the_recordset_of_the_rounds_is_closed_whoever_left_it_open_data() { every_way_out(ways()); }
     void the_recordset_of_the_rounds_is_closed_whoever_left_it_open()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const partner_store store;
         store.add_three();
         data_environment().rsgames.Open();
-        in_partners([&](hand& user) { leave_by(way, user); });
+        in_partners([&](hand& user) { leave(user); });
         QCOMPARE(open_recordsets(), QStringList());
     }
 

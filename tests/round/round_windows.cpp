@@ -8,6 +8,7 @@
 
 #include "boxes.h"
 #include "DataEnvironment1.h"
+#include "diary.h"
 #include "f_get_date.h"
 #include "f_new_round.h"
 #include "failure_guard.h"
@@ -22,17 +23,16 @@ namespace {
 constexpr int holes = 18;
 const QDate day_of_play(2024, 6, 14);
 
-QString eighteen(const std::function<QString(int)>& item)
+diary_course card_of(const stored_course& course)
 {
-    QStringList items;
-    for (int hole = 1; hole <= holes; ++hole)
-        items << item(hole);
-    return items.join(u", ");
-}
-
-QString eighteen_columns(QStringView prefix)
-{
-    return eighteen([prefix](int hole) -> QString { return prefix + QString::number(hole); });
+    diary_course card{course.code, course.name, course.rating, course.slope};
+    for (int i = 0; i < holes; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        card.pars.at(at) = course.pars.at(i % course.pars.size()).digitValue();
+        card.yards.at(at) = 101 + i;
+        card.stroke_index.at(at) = holes - i;
+    }
+    return card;
 }
 
 QString shown(const QVariant& value)
@@ -59,15 +59,7 @@ round_store::round_store(bool french) : folder_(french) {}
 
 void round_store::add(const stored_course& course) const
 {
-    const auto par = [&](int hole) { return QString(course.pars.at((hole - 1) % course.pars.size())); };
-    store.write(
-        {u"insert into vrd_fields (code, name, rating, slope) values (" + quoted(course.code) + u", " +
-             quoted(course.name) + u", " + quoted(course.rating) + u", " + quoted(course.slope) + u')',
-         u"insert into field_info (FIELD_CODE, " + eighteen_columns(u"yards_") + u", " +
-             eighteen_columns(u"hcp_") + u", " + eighteen_columns(u"par_") + u") values (" +
-             quoted(course.code) + u", " + eighteen([](int hole) { return QString::number(100 + hole); }) +
-             u", " + eighteen([](int hole) { return QString::number(19 - hole); }) + u", " + eighteen(par) +
-             u')'});
+    diary(store).add(card_of(course));
 }
 
 void round_store::add_two_courses() const

@@ -4,37 +4,17 @@
 #include <QListWidget>
 #include <QTest>
 
-#include <functional>
-#include <vector>
-
 #include "f_sticks.h"
 #include "golf_bags.h"
 #include "main_frame.h"
 #include "Main_module.h"
 #include "recording_frame.h"
+#include "ways_out.h"
 #include "window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct named_way {
-    const char* words;
-    std::function<void(hand&)> leave;
-};
-
-std::vector<named_way> ways_out()
-{
-    return {{"the cancel button", [](hand& user) { user.click(u"Fer"_s); }},
-            {"the title bar", [](hand& user) { user.close_window(bag_window()); }},
-            {"Escape", [](hand& user) { user.key(Qt::Key_Escape); }},
-            {"the command Close of the main window",
-             [](hand& user) { user.look([] { current_form->closeForm(); }); }}};
-}
-
-}  // namespace
 
 class test_bag_window : public QObject {
     Q_OBJECT
@@ -261,20 +241,18 @@ private Q_SLOTS:
 
     void every_way_out_drops_what_was_typed_data()
     {
-        QTest::addColumn<int>("way");
-        const auto ways = ways_out();
-        for (std::size_t i = 0; i < ways.size(); ++i)
-            QTest::newRow(ways[i].words) << static_cast<int>(i);
+        every_way_out(
+            ways_out(bag_window, {{"the cancel button", [](hand& user) { user.click(u"Fer"_s); }}}));
     }
     void every_way_out_drops_what_was_typed()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const filled_bag bag;
         const recording_frame frame;
         in_bag([&](hand& user) {
             compute(user, 0, 2);
             user.fill(u"sn_0"_s, u"Big"_s);
-            ways_out()[static_cast<std::size_t>(way)].leave(user);
+            leave(user);
         });
         QVERIFY(!frame.locked);
         QCOMPARE(bag.average(1), 200.5);

@@ -2,9 +2,6 @@
 #include <QLabel>
 #include <QTest>
 
-#include <functional>
-#include <vector>
-
 #include "boxes.h"
 #include "DataEnvironment1.h"
 #include "f_date_range.h"
@@ -13,29 +10,12 @@
 #include "selection_windows.h"
 #include "store_folder.h"
 #include "three_rounds.h"
+#include "ways_out.h"
 #include "window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct named_way {
-    const char* words;
-    std::function<void(hand&)> leave;
-};
-
-std::vector<named_way> ways_out()
-{
-    return {{"the cancel button", [](hand& user) { user.click(u"CancelButton"_s); }},
-            {"the title bar", [](hand& user) { user.close_window(selection_window()); }},
-            {"Escape", [](hand& user) { user.key(Qt::Key_Escape); }},
-            {"the command Close of the main window",
-             [](hand& user) { user.look([] { current_form->closeForm(); }); }}};
-}
-
-}  // namespace
 
 class test_selection_window : public QObject {
     Q_OBJECT
@@ -277,14 +257,12 @@ private Q_SLOTS:
 
     void every_way_out_unlocks_the_menu_and_leaves_nothing_open_data()
     {
-        QTest::addColumn<int>("way");
-        const auto ways = ways_out();
-        for (std::size_t i = 0; i < ways.size(); ++i)
-            QTest::newRow(ways[i].words) << static_cast<int>(i);
+        every_way_out(ways_out(selection_window,
+                               {{"the cancel button", [](hand& user) { user.click(u"CancelButton"_s); }}}));
     }
     void every_way_out_unlocks_the_menu_and_leaves_nothing_open()
     {
-        QFETCH(int, way);
+        QFETCH(leaving, leave);
         const store_folder store;
         add_three_rounds(diary(store.path()));
         recording_frame frame;
@@ -297,7 +275,7 @@ private Q_SLOTS:
                 user.wait_for_window(selection_window());
                 user.check(frame.locked, u"the menu is locked"_s);
                 user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
-                ways_out()[static_cast<std::size_t>(way)].leave(user);
+                leave(user);
                 user.wait_until_gone(selection_window());
             });
         QVERIFY(!frame.locked);
