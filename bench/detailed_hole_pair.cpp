@@ -3,14 +3,11 @@
 #include <benchmark/benchmark.h>
 
 #include "data_grid.h"
-#include "diaries.h"
-#include "f_new_round.h"
-#include "Main_module.h"
+#include "hole_leaving.h"
 #include "pairs.h"
 #include "plain_store.h"
 #include "round_in_window.h"
 #include "shot_menus.h"
-#include "stopwatch.h"
 
 /// Leaving a hole on the detailed page, its first shot changed so that a figure changes in each wide row,
 /// from the click on the next tab until the shots of that hole are in the grid; against the three bare
@@ -18,9 +15,6 @@
 namespace verdane::bench {
 
 namespace {
-
-constexpr int holes = 18;
-constexpr int round_in_diary = 150;
 
 /// Another answer than the one in the cell, chosen by its first letter.
 void turn(f_new_round& window, int column)
@@ -33,50 +27,18 @@ void turn(f_new_round& window, int column)
 /// Changes a figure in each wide row by way of the first shot.
 void change_first_shot(f_new_round& window)
 {
-    // Every save takes a place in the list of keys; a measurement has more saves than a day.
-    Main_module::round_key_count = static_cast<std::int16_t>(diaries::rounds_with_room);
     turn(window, f_new_round_func::details_column::missed);
     turn(window, f_new_round_func::details_column::zero);
-    Form::paint_now();
-}
-
-enum class until { in_grid, painted };
-
-void leave_holes(benchmark::State& state, f_new_round& window, until end)
-{
-    // The first commit of a connection makes its log; that is once a day.
-    int hole = 2;
-    change_first_shot(window);
-    window.TabStrip1->click(hole);
-    for (auto _ : state) {
-        change_first_shot(window);
-        hole = hole % holes + 1;
-        const stopwatch watch;
-        window.TabStrip1->click(hole);
-        if (end == until::painted)
-            Form::paint_now();
-        state.SetIterationTime(watch.seconds());
-        if (window.TabStrip1->selected() != hole)
-            state.SkipWithError("the hole was not left");
-    }
-}
-
-void leave_holes_of_stored_round(benchmark::State& state, until end)
-{
-    const opened_store store(diaries_of_run().with_room());
-    open_tables_of_list();
-    on_detailed_page_of(testing::key_in_diary(round_in_diary),
-                        [&](f_new_round& window) { leave_holes(state, window, end); });
 }
 
 void leave_detailed_hole(benchmark::State& state)
 {
-    leave_holes_of_stored_round(state, until::in_grid);
+    leave_holes_of_stored_round(state, hole_seen::filled_in, on_detailed_page_of, change_first_shot);
 }
 
 void leave_detailed_hole_painted(benchmark::State& state)
 {
-    leave_holes_of_stored_round(state, until::painted);
+    leave_holes_of_stored_round(state, hole_seen::painted, on_detailed_page_of, change_first_shot);
 }
 
 void read_shots(const plain_store& store, const QString& key, int hole)
@@ -90,11 +52,11 @@ void read_shots(const plain_store& store, const QString& key, int hole)
 void leave_detailed_hole_floor(benchmark::State& state)
 {
     const plain_store store(diaries_of_run().with_room());
-    const QString key = testing::key_in_diary(round_in_diary);
+    const QString key = testing::key_in_diary(round_of_left_holes);
     int step = 0;
     for (auto _ : state) {
-        const int hole = step % holes + 1;
-        const int figure = 2 + step / holes % 2;
+        const int hole = step % round_columns::hole_count + 1;
+        const int figure = 2 + step / round_columns::hole_count % 2;
         ++step;
         const stopwatch watch;
         store.run(QStringLiteral(
@@ -103,7 +65,7 @@ void leave_detailed_hole_floor(benchmark::State& state)
         store.run(QStringLiteral("update games set missed_%1 = ? where date = ?").arg(hole), {figure, key});
         store.run(QStringLiteral("update games2 set recovery_%1 = ? where date = ?").arg(hole),
                   {figure, key});
-        read_shots(store, key, hole % holes + 1);
+        read_shots(store, key, hole % round_columns::hole_count + 1);
         state.SetIterationTime(watch.seconds());
     }
 }

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include "diaries.h"
+#include "f_new_round.h"
+#include "full_diary.h"
+#include "Main_module.h"
+#include "round_columns.h"
+#include "round_in_window.h"
+#include "stopwatch.h"
+
+/// What the two pairs share that time the leaving of a hole: its figures changed, the click on the next
+/// tab, and what the user then waits for.
+namespace verdane::bench {
+
+constexpr int round_of_left_holes = 150;
+
+enum class hole_seen { filled_in, painted };
+
+/// Leaves hole after hole of the open round, each changed by `change(window)` before the clock starts.
+template <typename Change>
+void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Change change)
+{
+    const auto change_hole = [&] {
+        // Every save takes a place in the list of keys; a measurement has more saves than a day.
+        Main_module::round_key_count = static_cast<std::int16_t>(diaries::rounds_with_room);
+        change(window);
+        Form::paint_now();
+    };
+    // The first commit of a connection makes its log; that is once a day.
+    int hole = 2;
+    change_hole();
+    window.TabStrip1->click(hole);
+    for (auto _ : state) {
+        change_hole();
+        hole = hole % round_columns::hole_count + 1;
+        const stopwatch watch;
+        window.TabStrip1->click(hole);
+        if (end == hole_seen::painted)
+            Form::paint_now();
+        state.SetIterationTime(watch.seconds());
+        if (window.TabStrip1->selected() != hole)
+            state.SkipWithError("the hole was not left");
+    }
+}
+
+/// The same with the stored round that is opened by `open(key, work)`, on the page that is measured.
+template <typename Open, typename Change>
+void leave_holes_of_stored_round(benchmark::State& state, hole_seen end, Open open, Change change)
+{
+    const opened_store store(diaries_of_run().with_room());
+    open_tables_of_list();
+    open(testing::key_in_diary(round_of_left_holes),
+         [&](f_new_round& window) { leave_holes(state, window, end, change); });
+}
+
+}  // namespace verdane::bench
