@@ -13,6 +13,7 @@
 #include "f_courses_boxes.h"
 #include "main_frame.h"
 #include "numbers.h"
+#include "round_columns.h"
 #include "text.h"
 
 namespace verdane::f_courses_func {
@@ -21,10 +22,6 @@ namespace {
 
 /// A course code and a `name_tee` end in a dash and the tee's digit.
 constexpr int tee_mark_length = 2;
-
-constexpr int first_verge_ordinal = 1;
-constexpr int first_hnd_ordinal = 19;
-constexpr int first_normal_ordinal = 38;
 
 struct box_and_column {
     int index;
@@ -86,9 +83,9 @@ void load_figure(QLineEdit& box, int ordinal)
 void load_holes(f_courses& window)
 {
     for (int i = 0; i < hole_count; ++i) {
-        load_figure(window.txt_verge(i), first_verge_ordinal + i);
-        load_figure(window.txt_hnd(i), first_hnd_ordinal + i);
-        load_figure(window.txt_normal(i), first_normal_ordinal + i);
+        load_figure(window.txt_verge(i), round_columns::yards_h(i + 1));
+        load_figure(window.txt_hnd(i), round_columns::hcp_h(i + 1));
+        load_figure(window.txt_normal(i), round_columns::par_h(i + 1));
     }
     show_totals(window);
 }
@@ -173,9 +170,9 @@ void write_boxes(const f_courses& window)
     for (const auto& [index, column] : columns_of_text)
         course().Fields(column).set(window.text(index).text());
     for (int i = 0; i < hole_count; ++i) {
-        holes().Fields(first_verge_ordinal + i).set(window.txt_verge(i).text());
-        holes().Fields(first_hnd_ordinal + i).set(window.txt_hnd(i).text());
-        holes().Fields(first_normal_ordinal + i).set(window.txt_normal(i).text());
+        holes().Fields(round_columns::yards_h(i + 1)).set(window.txt_verge(i).text());
+        holes().Fields(round_columns::hcp_h(i + 1)).set(window.txt_hnd(i).text());
+        holes().Fields(round_columns::par_h(i + 1)).set(window.txt_normal(i).text());
     }
 }
 

@@ -9,6 +9,7 @@
 #include "course_box.h"
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
+#include "partner_columns.h"
 #include "round_boxes.h"
 #include "round_columns.h"
 #include "round_rows.h"
@@ -18,17 +19,13 @@ namespace verdane {
 
 namespace {
 
-constexpr int partner_name = 0;
-constexpr int partner_surname = 1;
-constexpr int partner_code = 6;
-
 void add_partner(QListWidget& list, Recordset& partners)
 {
     // A column without a value leaves the other one standing.
-    auto* line = new QListWidgetItem(QString(partners.Fields(partner_surname).text_or_empty() + u',' +
-                                             partners.Fields(partner_name).text_or_empty()),
+    auto* line = new QListWidgetItem(QString(partners.Fields(partner_columns::surname).text_or_empty() +
+                                             u',' + partners.Fields(partner_columns::name).text_or_empty()),
                                      &list);
-    const QString number = QString::number(plain(partners.Fields(partner_code).int32_or_zero()));
+    const QString number = QString::number(plain(partners.Fields(partner_columns::code).int32_or_zero()));
     line->setData(Qt::UserRole, number);
     line->setSelected(Round_functions::partner_in_round(number) >= 1);
 }

@@ -6,6 +6,7 @@
 #include "DataEnvironment1.h"
 #include "f_carte.h"
 #include "main_frame.h"
+#include "round_columns.h"
 #include "Verdane_tools.h"
 
 namespace verdane::f_carte_func {
@@ -17,15 +18,12 @@ constexpr int holes_of_a_row = 9;
 /// The fourteenth club, the putter, has no distance to print.
 constexpr int clubs_on_card = 13;
 
-// First columns of the runs: of `r_card`, and of `field_info`.
+// First columns of the runs of `r_card`.
 constexpr int card_yards = 1;
 constexpr int card_hole = 10;
 constexpr int card_hcp = 19;
 constexpr int card_par = 28;
 constexpr int card_club = 42;
-constexpr int info_yards = 1;
-constexpr int info_hcp = 19;
-constexpr int info_par = 38;
 
 Recordset& courses()
 {
@@ -53,11 +51,11 @@ QString list_line()
 void write_holes(int holes_before)
 {
     for (int i = 0; i < holes_of_a_row; ++i) {
-        const int place = holes_before + i;
-        card().Fields(card_yards + i).set(holes().Fields(info_yards + place).value());
-        card().Fields(card_hole + i).set(place + 1);
-        card().Fields(card_hcp + i).set(holes().Fields(info_hcp + place).value());
-        card().Fields(card_par + i).set(holes().Fields(info_par + place).value());
+        const int hole = holes_before + i + 1;
+        card().Fields(card_yards + i).set(holes().Fields(round_columns::yards_h(hole)).value());
+        card().Fields(card_hole + i).set(hole);
+        card().Fields(card_hcp + i).set(holes().Fields(round_columns::hcp_h(hole)).value());
+        card().Fields(card_par + i).set(holes().Fields(round_columns::par_h(hole)).value());
     }
 }
 

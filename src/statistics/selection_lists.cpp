@@ -7,6 +7,7 @@
 #include "close_if_open.h"
 #include "DataEnvironment1.h"
 #include "language.h"
+#include "partner_columns.h"
 #include "round_columns.h"
 #include "text.h"
 #include "Verdane_tools.h"
@@ -20,9 +21,8 @@ constexpr int course_width = 20;
 
 QString partner_line(Recordset& partners)
 {
-    constexpr int name = 0;
-    constexpr int surname = 1;
-    return partners.Fields(surname).text_or_empty() + u", " + partners.Fields(name).text_or_empty();
+    return partners.Fields(partner_columns::surname).text_or_empty() + u", " +
+           partners.Fields(partner_columns::name).text_or_empty();
 }
 
 QString course_line(Recordset& courses, tee_letters letters)
@@ -58,7 +58,7 @@ void fill_partner_filter(QComboBox& list, bool french)
 {
     list.addItem(text_pair{u"Tous", u"All"}.in(french));
     for_each_row(data_environment().rspartners, [&list](Recordset& partners) {
-        list.addItem(partner_line(partners), plain(partners.Fields(u"code").int32_or_zero()));
+        list.addItem(partner_line(partners), plain(partners.Fields(partner_columns::code).int32_or_zero()));
     });
 }
 
