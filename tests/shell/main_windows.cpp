@@ -25,8 +25,14 @@ void in_main_window(int language, const QStringList& statements, const std::func
     run.play_through([&](hand& user) {
         user.wait_for_window(QStringLiteral("MainForm"));
         script(user);
-        user.menu(QStringLiteral("mQuit"));
+        quit(user);
     });
+}
+
+void quit(hand& user)
+{
+    user.wait_for_window(QStringLiteral("MainForm"));
+    user.menu(QStringLiteral("mQuit"));
 }
 
 void both_stored_languages()

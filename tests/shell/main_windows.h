@@ -22,6 +22,9 @@ QWidget* tool(const QString& key);
 /// main window, lets the script work, and leaves.
 void in_main_window(int language, const QStringList& statements, const std::function<void(hand&)>& script);
 
+/// Waits for the main window and leaves the program by its menu.
+void quit(hand& user);
+
 /// Both languages, by the value that the store keeps, as rows of data in the column `language`.
 void both_stored_languages();
 

@@ -88,4 +88,12 @@ QStringList one_round(const QString& key)
         QStringLiteral("insert into cost (date) values ('%1')").arg(key)};
 }
 
+QStringList rounds(int count)
+{
+    QStringList statements = one_course();
+    for (int i = 0; i < count; ++i)
+        statements << one_round(QString::number(20250101000000LL + i));
+    return statements;
+}
+
 }  // namespace verdane::testing

@@ -31,5 +31,7 @@ private:
 /// Statements that put a course with 18 holes of par 4 and one round on it into a store.
 QStringList one_course();
 QStringList one_round(const QString& key = QStringLiteral("20260614093000"));
+/// The course with that many rounds on it.
+QStringList rounds(int count);
 
 }  // namespace verdane::testing

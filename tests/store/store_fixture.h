@@ -11,6 +11,9 @@
 
 namespace verdane::testing {
 
+inline const QStringList three_names{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+inline const QString all_partners = QStringLiteral("select * from partners");
+
 /// A fresh store in a temporary folder with an open connection, and the means to look at it from
 /// outside. One for each test slot.
 class store_fixture {

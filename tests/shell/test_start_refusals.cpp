@@ -1,0 +1,180 @@
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTest>
+
+#include <cstdio>
+#include <unistd.h>
+
+#include "main_windows.h"
+#include "program_run.h"
+#include "run_time_failure.h"
+#include "start_up.h"
+
+using namespace verdane;
+using verdane::testing::hand;
+using verdane::testing::play;
+using verdane::testing::program_run;
+using verdane::testing::quit;
+using verdane::testing::rounds;
+
+namespace {
+
+/// The child process: starts on the data folder of its parent, says what it shows and leaves.
+int start_and_leave()
+{
+    int status = -1;
+    play([&] { status = run_verdane(*qApp); },
+         [](hand& user) {
+             user.wait_until(QStringLiteral("a window"),
+                             [&user] { return QApplication::activeWindow() != nullptr; });
+             if (user.is_open(QStringLiteral("failure_box"))) {
+                 std::printf("failure: %s\n", qUtf8Printable(user.text(QStringLiteral("qt_msgbox_label"))));
+                 std::fflush(stdout);
+                 user.key(Qt::Key_Return);
+                 return;
+             }
+             quit(user);
+         });
+    return status;
+}
+
+struct ended {
+    int status;
+    QString said;
+};
+
+ended child_start(const char* way = "--start")
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(way)});
+    child.waitForFinished(120000);
+    return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
+            QString::fromUtf8(child.readAllStandardOutput())};
+}
+
+constexpr QFile::Permissions owner_only = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+/// As root no permission would ever be missing.
+bool give_up_rights()
+{
+    return geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0);
+}
+
+/// The folder of the store can be entered and read by everyone, and written by nobody.
+void let_everyone_read_only(const QString& path)
+{
+    const QString folder = QFileInfo(path).path();
+    const QFile::Permissions everyone = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                        QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    QFile::setPermissions(QFileInfo(folder).path(), everyone | QFile::WriteOwner);
+    QFile::setPermissions(folder, everyone);
+}
+
+void damage(const QString& path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(100));
+    QCOMPARE(file.write(QByteArray(3000, '\xee')), 3000);
+}
+
+QByteArray content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace
+
+/// Starts of the program in a process of its own: most of them are refused.
+class test_start_refusals : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_diary_of_366_rounds_starts()
+    {
+        program_run run(2, rounds(366));
+        const ended child = child_start();
+        QCOMPARE(child.status, 0);
+    }
+
+    void a_diary_of_367_rounds_does_not_start_and_says_so()
+    {
+        program_run run(2, rounds(367));
+        const ended child = child_start();
+        QCOMPARE(child.status, 1);
+        QVERIFY2(child.said.contains(failure_words(failure_kind::subscript).english), qPrintable(child.said));
+    }
+
+    void a_second_program_on_the_same_diary_says_so_and_stops()
+    {
+        program_run run(2);
+        run.play_through([](hand& user) {
+            user.wait_for_window(QStringLiteral("MainForm"));
+            const ended child = child_start();
+            user.same(child.status, 1, QStringLiteral("exit status of the second program"));
+            const text_pair words = failure_words(failure_kind::store_locked);
+            user.check(child.said.contains(words.french) && child.said.contains(words.english), child.said);
+            quit(user);
+        });
+    }
+
+    void a_store_that_cannot_be_used_is_told_in_both_languages_and_left_as_it_is_data()
+    {
+        QTest::addColumn<QString>("harm");
+        QTest::addColumn<int>("kind");
+        QTest::newRow("damaged file") << "damage" << static_cast<int>(failure_kind::store_damaged);
+        QTest::newRow("settings without a row") << "no row" << static_cast<int>(failure_kind::misuse);
+        QTest::newRow("read-only folder") << "no rights" << static_cast<int>(failure_kind::store_read_only);
+    }
+
+    void a_store_that_cannot_be_used_is_told_in_both_languages_and_left_as_it_is()
+    {
+        QFETCH(QString, harm);
+        QFETCH(int, kind);
+        program_run run(2);
+        const QString path = program_run::store_path();
+        if (harm == u"damage")
+            damage(path);
+        else if (harm == u"no row")
+            run.store().write(QStringLiteral("delete from settings"));
+        const bool no_rights = harm == u"no rights";
+        if (no_rights)
+            let_everyone_read_only(path);
+        const QByteArray before = content(path);
+        const ended child = child_start(no_rights ? "--start-without-rights" : "--start");
+        if (no_rights)
+            QFile::setPermissions(QFileInfo(path).path(), owner_only);
+        QCOMPARE(child.status, 1);
+        const text_pair words = failure_words(static_cast<failure_kind>(kind));
+        QVERIFY2(child.said.contains(words.french) && child.said.contains(words.english),
+                 qPrintable(child.said));
+        QCOMPARE(content(path), before);
+    }
+
+    void a_missing_table_is_told_and_ends_the_program()
+    {
+        program_run run(1, {QStringLiteral("drop table sticknames")});
+        const ended child = child_start();
+        QCOMPARE(child.status, 1);
+        QVERIFY2(child.said.contains(failure_words(failure_kind::missing_table).french),
+                 qPrintable(child.said));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    const QByteArray way(argc == 2 ? argv[1] : "");
+    if (way == "--start-without-rights" && !give_up_rights())
+        return 2;
+    QApplication application(argc, argv);
+    prepare_application(application);
+    if (way.startsWith("--start"))
+        return start_and_leave();
+    test_start_refusals test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_start_refusals.moc"

@@ -1,0 +1,114 @@
+#include <QTest>
+
+#include "failures.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::all_partners;
+using testing::failure_of;
+using testing::store_fixture;
+using testing::stored_names;
+using testing::three_names;
+
+/// Rows that are removed, and the gap that they leave.
+class test_recordset_delete : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void delete_removes_the_row_at_once_and_stays_in_the_gap()
+    {
+        store_fixture store;
+        store.add_partners(three_names);
+        const auto partners = store.opened(all_partners);
+        partners->MoveNext();
+        partners->Delete();
+        QCOMPARE(stored_names(store), QStringLiteral("a c"));
+        QCOMPARE(partners->RecordCount(), 2);
+        QCOMPARE(partners->position(), -1);
+        QVERIFY(!partners->bof());
+        QVERIFY(!partners->eof());
+        QVERIFY(failure_of([&] { partners->Fields(0).text(); }) == failure_kind::misuse);
+        QVERIFY(failure_of([&] { partners->Delete(); }) == failure_kind::misuse);
+        partners->MoveNext();
+        QCOMPARE(partners->Fields(0).text(), QStringLiteral("c"));
+    }
+
+    void back_from_the_gap_is_the_row_before_it()
+    {
+        store_fixture store;
+        store.add_partners(three_names);
+        const auto partners = store.opened(all_partners);
+        partners->MoveLast();
+        partners->Delete();
+        QVERIFY(!partners->eof());
+        partners->MovePrevious();
+        QCOMPARE(partners->Fields(0).text(), QStringLiteral("b"));
+        partners->Delete();
+        partners->UpdateBatch();
+        partners->MoveNext();
+        QVERIFY(partners->eof());
+        QCOMPARE(stored_names(store), QStringLiteral("a"));
+    }
+
+    void after_the_last_row_is_deleted_both_ends_hold()
+    {
+        store_fixture store;
+        store.add_partners({QStringLiteral("a")});
+        const auto partners = store.opened(all_partners);
+        partners->Delete();
+        QVERIFY(partners->bof());
+        QVERIFY(partners->eof());
+        partners->MoveNext();
+        partners->UpdateBatch();
+        QVERIFY(partners->eof());
+    }
+
+    void a_walk_can_delete_every_row()
+    {
+        store_fixture store;
+        store.add_partners(three_names);
+        const auto partners = store.opened(all_partners);
+        for (; !partners->eof(); partners->MoveNext())
+            partners->Delete();
+        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")), 0);
+    }
+
+    void a_walk_can_delete_some_rows()
+    {
+        store_fixture store;
+        store.add_partners(
+            {QStringLiteral("x"), QStringLiteral("x"), QStringLiteral("b"), QStringLiteral("x")});
+        const auto partners = store.opened(all_partners);
+        for (partners->MoveFirst(); !partners->eof(); partners->MoveNext()) {
+            if (partners->Fields(0).text() == u"x")
+                partners->Delete();
+        }
+        partners->UpdateBatch();
+        QCOMPARE(stored_names(store), QStringLiteral("b"));
+    }
+
+    void delete_of_a_row_that_is_gone_already_is_no_failure()
+    {
+        store_fixture store;
+        store.add_partners(three_names);
+        const auto partners = store.opened(all_partners);
+        store.connection.Execute(QStringLiteral("delete from partners where name='a'"));
+        partners->Delete();
+        QCOMPARE(stored_names(store), QStringLiteral("b c"));
+    }
+
+    void a_new_row_can_be_deleted_before_its_commit()
+    {
+        store_fixture store;
+        const auto partners = store.opened(all_partners);
+        partners->AddNew();
+        partners->Delete();
+        QVERIFY(partners->empty());
+        QVERIFY(!partners->pending());
+        partners->MoveNext();
+        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_recordset_delete)
+#include "test_recordset_delete.moc"

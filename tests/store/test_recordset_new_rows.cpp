@@ -1,0 +1,122 @@
+#include <QTest>
+
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::all_partners;
+using testing::store_fixture;
+using testing::stored_names;
+using testing::three_names;
+
+/// Rows that are added under the optimistic lock.
+class test_recordset_new_rows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_new_row_stands_last_and_reaches_the_store_at_its_commit()
+    {
+        store_fixture store;
+        store.add_partners(three_names);
+        const auto partners = store.opened(all_partners);
+        partners->AddNew();
+        QCOMPARE(partners->position(), 3);
+        QCOMPARE(partners->RecordCount(), 4);
+        QVERIFY(partners->pending());
+        partners->Fields(u"name").set(QStringLiteral("d"));
+        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        partners->Update();
+        QCOMPARE(stored_names(store), QStringLiteral("a b c d"));
+        QCOMPARE(partners->position(), 3);
+        partners->Fields(u"name").set(QStringLiteral("d2"));
+        partners->MoveLast();
+        QCOMPARE(stored_names(store), QStringLiteral("a b c d2"));
+    }
+
+    void a_new_row_that_is_left_for_the_last_row_is_the_current_row_still()
+    {
+        store_fixture store;
+        const auto shots = store.opened(QStringLiteral(
+            "Select * from Stat_rounds where ( date= '20030614093000' ) and hole = 1 order by shot"));
+        shots->AddNew();
+        shots->Fields(u"normal").set(4);
+        shots->MoveLast();
+        shots->Fields(u"date").set(QStringLiteral("20030614093000"));
+        shots->Fields(u"hole").set(1);
+        shots->Update();
+        shots->Requery();
+        QCOMPARE(shots->RecordCount(), 1);
+        QCOMPARE(plain(shots->Fields(u"normal").to_int16()), 4);
+    }
+
+    void a_new_row_in_memory_is_the_stored_row()
+    {
+        store_fixture store;
+        const auto shots = store.opened(QStringLiteral("select * from Stat_rounds"));
+        shots->AddNew();
+        shots->Fields(u"date").set(QStringLiteral("20030614093000"));
+        shots->Fields(u"hole").set(QStringLiteral("7"));
+        shots->Fields(u"ts").set(true);
+        shots->Fields(u"unit").set(QString());
+        shots->Update();
+        QList<QVariant> in_memory;
+        for (int i = 0; i < shots->field_count(); ++i)
+            in_memory += shots->Fields(i).value();
+        shots->Requery();
+        for (int i = 0; i < shots->field_count(); ++i)
+            QCOMPARE(shots->Fields(i).value(), in_memory[i]);
+        QVERIFY(!shots->Fields(u"unit").is_null());
+    }
+
+    void a_new_row_of_which_nothing_was_written_is_a_row_of_defaults()
+    {
+        store_fixture store;
+        const auto cost = store.opened(QStringLiteral("select * from cost"));
+        cost->AddNew();
+        cost->Update();
+        QCOMPARE(store.outside().text(QStringLiteral("select fg||'/'||au from cost where date is null")),
+                 QStringLiteral("0/0"));
+    }
+
+    void a_column_set_to_null_is_null_in_spite_of_its_default()
+    {
+        store_fixture store;
+        const auto cost = store.opened(QStringLiteral("select * from cost"));
+        cost->AddNew();
+        cost->Fields(u"fg").set_null();
+        cost->Update();
+        QVERIFY(store.outside().value(QStringLiteral("select fg from cost")).isNull());
+    }
+
+    void cancel_drops_a_new_row_and_stands_where_it_came_from()
+    {
+        store_fixture store;
+        store.add_partners(three_names);
+        const auto partners = store.opened(all_partners);
+        partners->MoveTo(1);
+        partners->AddNew();
+        partners->Fields(u"name").set(QStringLiteral("never"));
+        partners->CancelUpdate();
+        QCOMPARE(partners->position(), 1);
+        QCOMPARE(partners->RecordCount(), 3);
+        partners->MoveLast();
+        partners->MoveNext();
+        partners->AddNew();
+        partners->CancelUpdate();
+        QVERIFY(partners->eof());
+        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+    }
+
+    void cancel_of_the_only_row_leaves_an_empty_recordset()
+    {
+        store_fixture store;
+        const auto games = store.opened(QStringLiteral("select *  from games order by date"));
+        games->AddNew();
+        QVERIFY(!games->eof());
+        games->CancelUpdate();
+        QVERIFY(games->empty());
+        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from games")), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_recordset_new_rows)
+#include "test_recordset_new_rows.moc"
