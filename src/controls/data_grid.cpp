@@ -262,13 +262,24 @@ void data_grid::commit_and_move_on()
 
 void data_grid::mousePressEvent(QMouseEvent* event)
 {
-    // Before the click moves the cursor to another row.
+    const QPoint place = event->position().toPoint();
+    const QModelIndex meant = indexAt(place);
+    const bool meant_a_cell = meant.isValid();
+    const int row = meant.row();
+    const int column = meant.column();
+    // Before the click moves the cursor to another row. A row that this adds may scroll the one that was
+    // meant away from under the mouse.
     commit_cell();
+    const QModelIndex pressed = indexAt(place);
+    if (pressed.row() != row || pressed.column() != column) {
+        if (meant_a_cell)
+            setCurrentIndex(model_->index(row, column));
+        return;
+    }
     QTableView::mousePressEvent(event);
-    const QModelIndex pressed = indexAt(event->position().toPoint());
     const bool on_button = pressed.isValid() && event->button() == Qt::LeftButton &&
                            has_cell_button(pressed.column()) &&
-                           button_in(visualRect(pressed)).contains(event->position().toPoint());
+                           button_in(visualRect(pressed)).contains(place);
     if (on_button && pressed == currentIndex())
         open_cell_menu();
 }

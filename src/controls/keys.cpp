@@ -71,7 +71,9 @@ public:
 
     State validate(QString& text, int&) const override
     {
-        const auto passes = [this](QChar character) { return filter_(character) == key_answer::pass; };
+        const auto passes = [this](QChar character) {
+            return character != backspace && filter_(character) == key_answer::pass;
+        };
         return std::all_of(text.cbegin(), text.cend(), passes) ? Acceptable : Invalid;
     }
 

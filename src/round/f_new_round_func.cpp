@@ -97,9 +97,11 @@ void go_on_telling(f_new_round& window)
 {
     const int row = window.details->currentIndex().row();
     Recordset& shots = data_environment().rsStat_rounds;
-    if (shots.is_open())
+    // What could not be opened before is not tried again behind the golfer's back.
+    if (shots.is_open()) {
         shots.Update();
-    open_shots();
+        open_shots();
+    }
     window.details->bound_model().move_to(row);
     window.details->ReBind();
     window.details->setFocus(Qt::OtherFocusReason);

@@ -105,7 +105,6 @@ void hole_tab_clicked(f_new_round& window)
 
 void course_selected(f_new_round& window)
 {
-    finish_typing(window);
     const QString code = Round_functions::course_code_at(window.cmb_courses->currentIndex());
     find_in_field_info(code);
     show_hole_card(window, window.hole_shown());

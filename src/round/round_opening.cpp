@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "boxes.h"
+#include "close_if_open.h"
 #include "course_box.h"
 #include "DataEnvironment1.h"
 #include "f_new_round.h"
@@ -109,8 +110,18 @@ void open_costs_of(const QString& key)
         add_cost_row(key);
 }
 
+/// A round whose last shot could not be stored, or whose shots could not be opened, has left their
+/// statement behind: no other round works on them.
+void let_go_of_earlier_shots()
+{
+    Recordset& shots = data_environment().rsStat_rounds;
+    close_if_open(shots);
+    shots.set_Source(shots.settings().source);
+}
+
 void open_shots_of_first_hole(const QString& key)
 {
+    let_go_of_earlier_shots();
     Recordset& shots = data_environment().rsStat_rounds;
     shots.set_Source(shot_rows::statement_of_hole(key, 1));
     shots.Open();
@@ -157,6 +168,7 @@ void start_new_round()
 
 void prepare_round_window()
 {
+    let_go_of_earlier_shots();
     add_rows_without_key();
     data_environment().rsvrd_fields.Open();
     f_new_round window;

@@ -25,6 +25,9 @@ public:
 void ignore_wheel(QWidget& control)
 {
     new wheel_filter(control);
+    // The toolkit gives the keyboard to what the wheel turns over, ahead of every filter.
+    if (control.focusPolicy() == Qt::WheelFocus)
+        control.setFocusPolicy(Qt::StrongFocus);
 }
 
 }  // namespace verdane

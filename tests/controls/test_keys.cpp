@@ -117,6 +117,8 @@ private Q_SLOTS:
                                 << "250" << 0;
         QTest::newRow("a letter among them") << "2a0"
                                              << "" << 1;
+        QTest::newRow("the character of the backspace") << "2\b0"
+                                                        << "" << 1;
         QTest::newRow("digits of another script") << "٣٤"
                                                   << "" << 1;
     }

@@ -243,6 +243,35 @@ private Q_SLOTS:
             accept(user);
         });
     }
+
+    void the_cell_that_was_clicked_gets_the_cursor_though_the_rows_scroll_away()
+    {
+        const golfer_store round;
+        for (int shot = 1; shot <= 14; ++shot)
+            add_told_shot(round.store, 1, shot, 14, 20 - shot, QStringLiteral("Pieds"), 3);
+        round.store.add_round(key_of_keyed_round());
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            user.click_cell(details, 13, 3);
+            user.type(QStringLiteral("5"));
+            user.click_cell(details, 11, 3);
+            user.same(user.grid_rows(details), 15, QStringLiteral("rows"));
+            user.same(user.cursor(details), QStringLiteral("11,3"), QStringLiteral("cursor"));
+            discard(user);
+        });
+    }
+
+    void the_title_bar_takes_what_was_being_typed_along()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_the_last_putt(user, QStringLiteral("2"));
+            user.close_window(round_window());
+            user.answer(question_on_closing(), QMessageBox::Yes);
+            user.answer(notice_of_save());
+        });
+        QCOMPARE(round.store.number(QStringLiteral("select after from Stat_rounds where shot = 4")), 2);
+    }
 };
 
 QTEST_MAIN(test_detailed_clicks)

@@ -6,12 +6,15 @@
 #include "Main_module.h"
 #include "round_windows.h"
 #include "shot_entry.h"
+#include "shot_rows.h"
 #include "told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 
 namespace {
+
+const QString earlier_round = QStringLiteral("20230101080000");
 
 /// Leaves the window by one of its ways.
 void leave(hand& user, const QString& way)
@@ -200,15 +203,62 @@ private Q_SLOTS:
         QCOMPARE(stored_figures(round.store, 1).left(1), QStringLiteral("4"));
     }
 
+    void what_an_earlier_round_could_not_store_is_not_stored_by_the_next_data()
+    {
+        QTest::addColumn<bool>("stored");
+        QTest::newRow("a new round comes next") << false;
+        QTest::newRow("a stored round comes next") << true;
+    }
     void what_an_earlier_round_could_not_store_is_not_stored_by_the_next()
     {
+        QFETCH(bool, stored);
         const golfer_store round;
         Recordset& shots = data_environment().rsStat_rounds;
+        shots.set_Source(shot_rows::statement_of_hole(earlier_round, 1));
         shots.Open();
         shots.AddNew();
-        shots.Fields(QStringLiteral("date")).set(QStringLiteral("20230101080000"));
-        in_keyed_round(discard);
-        QCOMPARE(row_counts(round), QStringLiteral("0 0 0 0"));
+        shots.Fields(QStringLiteral("date")).set(earlier_round);
+        if (stored) {
+            round.store.add_round(key_of_keyed_round());
+            in_stored_round(key_of_keyed_round(), accept);
+        } else {
+            in_keyed_round(accept);
+        }
+        QCOMPARE(round.store.number(QStringLiteral("select count(*) from Stat_rounds")), 0);
+    }
+
+    void shots_that_could_not_be_opened_are_left_alone_by_the_next_round()
+    {
+        const golfer_store round;
+        round.store.add_round(earlier_round);
+        round.store.store.write(QStringLiteral("insert into Stat_rounds (date, hole, shot, before) "
+                                               "values ('20230101080000', 1, 7, 99)"));
+        const QString there = QStringLiteral("alter table Stat_rounds rename to away");
+        in_stored_round(earlier_round, [&](hand& user) {
+            round.store.store.write(there);
+            go_to_detailed_page(user);
+            discard(user);
+        });
+        round.store.store.write(QStringLiteral("alter table away rename to Stat_rounds"));
+        in_keyed_round(accept);
+        QCOMPARE(round.store.text(QStringLiteral("select shot || ' ' || before || ' ' || "
+                                                 "coalesce(normal, '-') from Stat_rounds")),
+                 QStringLiteral("7 99 -"));
+    }
+
+    void the_costs_come_and_go_beside_shots_that_cannot_be_opened()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            round.store.store.write(QStringLiteral("alter table Stat_rounds rename to away"));
+            go_to_detailed_page(user);
+            user.click(QStringLiteral("Command2"));
+            user.wait_for_window(QStringLiteral("f_cost"));
+            user.close_window(QStringLiteral("f_cost"));
+            user.wait_for_window(round_window());
+            user.same(user.grid_rows(details), 0, QStringLiteral("rows"));
+            discard(user);
+        });
     }
 
     void whether_a_blank_shot_was_removed_is_said_to_those_who_ask_data()

@@ -227,6 +227,8 @@ private Q_SLOTS:
                 QWheelEvent turn(QPointF(4, 4), target->mapToGlobal(QPointF(4, 4)), {}, {0, -120},
                                  Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
                 QApplication::sendEvent(target, &turn);
+                // A real wheel would bring the keyboard along.
+                QVERIFY(target->focusPolicy() != Qt::WheelFocus);
             });
             stands_on(user, 1);
             user.same(user.selected(QStringLiteral("cmb_courses")), 0, QStringLiteral("course"));
