@@ -1,6 +1,7 @@
 # Flags that every target shares, and the two words the folders are built with:
 #
-#   verdane_library(NAME LINKS ... SOURCES ...)   one folder of src/
+#   verdane_library(NAME HEADERS SET LINKS ... SOURCES ...)   one folder of src/; SET is its set of
+#                                                             precompiled headers
 #   verdane_test(NAME LINKS ... SOURCES ...)      one test program
 #
 # A library hands out its own folder as an include directory and nothing else, so an include that
@@ -27,8 +28,9 @@ if(VERDANE_SANITIZE)
 endif()
 
 function(verdane_library name)
-  cmake_parse_arguments(ARG "" "" "LINKS;SOURCES" ${ARGN})
+  cmake_parse_arguments(ARG "" "HEADERS" "LINKS;SOURCES" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
+  verdane_use_headers(${name} ${ARG_HEADERS})
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC verdane_flags ${ARG_LINKS})
 endfunction()
@@ -47,6 +49,7 @@ function(verdane_test name)
     set(ARG_SOURCES ${name}.cpp)
   endif()
   add_executable(${name} ${ARG_SOURCES})
+  verdane_use_headers(${name} windows)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PRIVATE verdane_test_support ${ARG_LINKS} Qt6::Test)
   add_test(NAME ${name} COMMAND ${name})
