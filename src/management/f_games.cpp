@@ -80,7 +80,7 @@ void f_games::connect_events()
     for (const auto& [index, button] : Command1.members())
         on_click(*button, [this, which = index] { f_games_func::on_command(*this, which); });
     on_double_click(*List1, [this] { f_games_func::on_command(*this, open); });
-    // Enter on a line is the double click of the keyboard.
+    // Enter on a line does the same as a double click.
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* enter = new QShortcut(QKeySequence(key), List1);
         enter->setContext(Qt::WidgetShortcut);

@@ -11,9 +11,9 @@ namespace verdane {
 /// The list of stored rounds, from which the user reopens one, adds another or removes one; in
 /// English `f_games_en`.
 ///
-/// Making the window loads it: `rsgames` and `rsfield_info` are opened and stay open, for a round that
-/// is opened from here works on. That round's window takes the list away and closes both; a list that
-/// the user leaves closes them itself. A store without a round is told in a box, and `show_modal` then
+/// The constructor loads it: `rsgames` and `rsfield_info` are opened and stay open, because a round that is
+/// opened from here uses them. The window of that round unloads the list and closes both; a list that the
+/// user closes closes them itself. If no round is stored, a message box reports that and `show_modal`
 /// returns at once.
 class f_games final : public Form {
 public:
@@ -25,7 +25,7 @@ public:
     QListWidget* List1 = nullptr;
     control_array<QPushButton> Command1{u"Command1"};
 
-    /// As the OK button.
+    /// Same as the OK button.
     void closeForm() override;
 
 protected:

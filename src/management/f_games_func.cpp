@@ -21,7 +21,7 @@ namespace {
 void close_recordsets()
 {
     DataEnvironment1& store = data_environment();
-    // Save and Close of the main window may address a list that has gone already.
+    // Save and Close of the main window may address a list that is already unloaded.
     for (Recordset* rows : {&store.rsgames, &store.rsfield_info})
         close_if_open(*rows);
 }
@@ -48,7 +48,7 @@ void open_selected_round(f_games& window)
     if (!selected)
         return;
     open_stored_round(Verdane_tools::key_of_entry(selected->text()));
-    // A round window that refused the round has not come to close everything.
+    // A round window that refused the round has not closed everything.
     close_recordsets();
 }
 
@@ -104,7 +104,7 @@ void on_command(f_games& window, int index)
         open_selected_round(window);
         break;
     case f_games::add:
-        // A round exists, so there is a course: the new round starts without that test.
+        // A round exists, so there is a course, and the test for one is not needed.
         prepare_round_window();
         close_recordsets();
         break;

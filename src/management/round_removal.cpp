@@ -7,7 +7,7 @@ namespace verdane {
 
 namespace {
 
-/// The rows of the round stand together, but the walk goes on to the end all the same.
+/// The rows of the round are adjacent, but all remaining rows are visited.
 void delete_to_the_end(Recordset& rows, const QString& key)
 {
     while (!rows.eof()) {
@@ -21,7 +21,7 @@ void delete_to_the_end(Recordset& rows, const QString& key)
 void open_at_round(Recordset& rows, const QString& source, const QString& key)
 {
     rows.set_Source(source);
-    // A diary holds tens of thousands of shots: the requery leaves them unread, and they are read once.
+    // A diary holds tens of thousands of shots: the requery does not read them, so they are read once.
     rows.Open(row_reading::when_needed);
     rows.Requery();
     if (!rows.eof())

@@ -12,8 +12,8 @@ namespace {
 
 constexpr int most_orphan_keys = 500;
 
-/// The keys of the missing rounds, from index 1 on. The shots come in the order of their keys, so a
-/// key that differs from the last one is new.
+/// The keys of the missing rounds, from index 1 on. The shots are ordered by key, so a
+/// key that differs from the previous one is new.
 struct orphan_keys {
     checked_array<QString, most_orphan_keys + 1> keys;
     int16 counter = 0;
@@ -35,7 +35,7 @@ void open_rounds_and_shots(Recordset& rounds, Recordset& shots)
     rounds.set_Source(rounds.settings().source);
     rounds.Open();
     shots.set_Source(QStringLiteral("select * from Stat_rounds order by date,hole"));
-    // All shots of the diary: the requery leaves them unread, and they are read once.
+    // All shots of the diary: the requery does not read them, so they are read once.
     shots.Open(row_reading::when_needed);
     shots.Requery();
     shots.MoveFirst();
@@ -57,7 +57,7 @@ void delete_orphans(Recordset& rounds, Recordset& shots, orphan_keys& orphans)
     shots.UpdateBatch(affect::all_chapters);
 }
 
-/// Every pass names the key met last. Its rows have gone by now, so this changes nothing.
+/// Always deletes by the last key, whose rows are deleted already; a no-op, kept on purpose.
 void delete_again(const orphan_keys& orphans)
 {
     for (int pass = 0; pass < plain(orphans.counter); ++pass)

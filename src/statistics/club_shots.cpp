@@ -15,7 +15,7 @@ constexpr QStringView columns =
     u" stat_rounds.stickval, stat_rounds.fairval,stat_rounds.penval,stat_rounds.shot_type_value,"
     u"stat_rounds.cal, games2.date,  stat_rounds.verges, stat_rounds.unit  from  games2, stat_rounds ";
 
-/// Places in the list above, which are not those of the table.
+/// Ordinals in the list above, which differ from those of the table.
 enum column {
     date = 0,
     before = 2,
@@ -43,7 +43,7 @@ club_shot read_shot(Recordset& shots)
     shot.before = length(shots.Fields(before));
     shot.after = length(shots.Fields(after));
     const Field written_unit = shots.Fields(unit);
-    // A shot without a unit is in that of a shot from off the green.
+    // A shot without a unit counts as yards.
     shot.after_in_yards = written_unit.is_null() || is_yards_word(written_unit.text());
     shot.beyond_hole = shots.Fields(beyong_hole).yes();
     shot.missed = shots.Fields(missed).yes();

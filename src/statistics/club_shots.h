@@ -5,11 +5,11 @@
 #include "club_sums.h"
 #include "selection_arguments.h"
 
-/// The shots of a selection, club by club.
+/// Reads the shots of a selection and adds them up club by club.
 namespace verdane::Statistics {
 
-/// The statement of the shots: every shot of the selection but the putts, in the order of rounds and
-/// holes.
+/// The statement that selects every shot of the selection except the putts, ordered by round and
+/// hole.
 QString club_shot_select(const selection_arguments& chosen);
 
 struct gathered_shots {
@@ -19,8 +19,8 @@ struct gathered_shots {
     bool any_shot = false;
 };
 
-/// Reads the statement's rows through `rsStat_rounds`, which is closed before and afterwards and has the
-/// whole table as its source again.
+/// Reads the rows of `club_shot_select` through `rsStat_rounds`, which must be closed. It is closed again
+/// on return, with the whole table as its source.
 gathered_shots gather_club_shots(const selection_arguments& chosen);
 
 }  // namespace verdane::Statistics

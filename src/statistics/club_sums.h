@@ -6,15 +6,15 @@
 #include "counts.h"
 #include "shot_words.h"
 
-/// What the club statistics add up, shot by shot. Everything here is pure.
+/// The sums of the club statistics over shots. Pure functions.
 namespace verdane {
 
-/// A shot that is no putt, as the diary holds it. A length that was not typed yet is absent.
+/// A shot other than a putt, as stored. A length that was not typed yet is absent.
 struct club_shot {
     int16 club = 0;
     std::optional<int16> before;
     std::optional<int16> after;
-    /// `after` is in yards; else it is in feet, the shot having reached the green. `before` is in yards.
+    /// Unit of `after`: yards, or feet if the shot reached the green. `before` is always in yards.
     bool after_in_yards = true;
     bool beyond_hole = false;
     bool missed = false;
@@ -25,16 +25,16 @@ struct club_shot {
     int16 kind = 0;
 };
 
-/// True when the shot says how far the club goes: it was struck well, from the ground, and counted.
-/// Shots into the water and lost balls did go their way and stay.
+/// True when the shot shows how far the club carries: it was not missed, not from sand, gained distance and
+/// was not replayed. Shots into the water and lost balls count.
 bool is_clean(const club_shot& shot);
 
-/// How far the ball flew, in whole yards, ties to even. A ball past the hole flew the way to the hole
-/// and the rest on top of it; a missing rest is none. Fails with `overflow`, and with `invalid_null` when
+/// The distance covered, in whole yards, ties to even: `before` minus `after`, or their sum for a ball
+/// past the hole. An absent `after` counts as 0. Fails with `overflow`, and with `invalid_null` when
 /// the length before the shot is absent.
 int16 shot_distance(const club_shot& shot);
 
-/// The sums of one club. A count beyond 16 bits fails with `overflow`; that of all shots has 32.
+/// The sums of one club. A count that exceeds 16 bits fails with `overflow`; the number of shots has 32 bits.
 struct club_sums {
     int32 shots = 0;
     int16 clean_shots = 0;
@@ -50,7 +50,7 @@ struct club_sums {
     void add(const club_shot& shot);
 };
 
-/// The sums of every club by its number, 1 to 14; 0 takes the shots without a club. A shot with another
+/// The sums of every club by its number, 1 to 14; shots without a club are under 0. A shot with another
 /// number fails with `subscript`.
 using bag_sums = checked_array<club_sums, putter + 1>;
 

@@ -7,11 +7,11 @@
 #include "club_sums.h"
 #include "selection_arguments.h"
 
-/// The rows of the report table `stat_sticks`, one for each club, written through `rsstat_sticks` in the
-/// order laid down for them.
+/// Writes the report table `stat_sticks` through `rsstat_sticks`: one row for each club, in table
+/// order.
 namespace verdane::club_table {
 
-/// The figures of one club as the table's texts: shots, longest, average; then the shares in the
+/// The figures of one club as texts for the table: shots, longest, average; then the shares in the
 /// fairway, right, left, missed, with a penalty, holed. "0" throughout for a club without shots; an
 /// empty average for one without a clean shot.
 using club_texts = std::array<QString, 9>;
@@ -23,9 +23,9 @@ void open();
 void write_heading(const selection_arguments& chosen);
 /// The name of every club.
 void write_names();
-/// The figures of clubs 1 to 13. The putter's row keeps what it has.
+/// The figures of clubs 1 to 13. The putter's row is not changed.
 void write_figures(const bag_sums& clubs);
-/// The number of rounds on row 1; then everything is committed and the table closed.
+/// The number of rounds on row 1; then commits everything and closes the table.
 void write_round_count_and_close(int16 rounds);
 
 }  // namespace verdane::club_table

@@ -46,15 +46,15 @@ int look_through(Recordset& cost, run_progress& bar)
     return rounds;
 }
 
-/// All rows by one statement, in the store's own order: to add them one by one takes longer than everything
-/// else together. The statement itself would copy any amount, which is why all of them are looked at before.
+/// Copies all rows by one statement, in the store's order: adding them one by one takes longer than
+/// everything else together. The statement would copy any amount, so the amounts are checked first.
 void copy_rows(const QString& selection)
 {
     data_environment().connection.Execute(
         u"insert into r_cost (date,fg,cm,vt,ft,ba,tee,tex,nrt,lg,bs,ln,au) " + selection);
 }
 
-/// On the first row of the table, the only one that is read for it.
+/// Written to the first row of the table, the only one that is read for it.
 void note_round_count(Recordset& report, int rounds)
 {
     report.set_Source(report.settings().source + u" limit 1");

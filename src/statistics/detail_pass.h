@@ -14,7 +14,7 @@ QString detail_select(const selection_arguments& chosen);
 /// Opens `rsStat_rounds` on that statement. False when the selection holds no detailed round.
 bool open_detail(const selection_arguments& chosen);
 
-/// Closes it and puts its source back to the whole table.
+/// Closes it and resets its source to the whole table.
 void close_detail();
 
 }  // namespace verdane::Statistics

@@ -17,7 +17,7 @@ namespace verdane {
 
 namespace {
 
-// A course's name of the width that names are padded to, and its tee.
+// A course name padded to its width, and the tee.
 constexpr int characters_of_a_line = 60;
 constexpr int lines_in_view = 12;
 
@@ -42,7 +42,7 @@ QWidget* f_carte::make_courses()
     auto* frame = named(new QGroupBox(caption(u"Terrain / Terte", u"Golf Course / Teeing Area")), u"Frame1");
     auto* heading = named(make_label(caption(u"Choisissez un terrain", u"Select a golf course")), u"Label1");
     List1 = named(make_list_box(characters_of_a_line), u"List1");
-    // The names are filled up with blanks so that the tees stand below one another.
+    // The names are padded with blanks to align the tees.
     List1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     List1->setMinimumWidth(List1->fontMetrics().horizontalAdvance(u'0') * characters_of_a_line + 4 * rhythm);
     List1->setMinimumHeight(List1->fontMetrics().lineSpacing() * lines_in_view);

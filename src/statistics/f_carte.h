@@ -11,16 +11,16 @@ class QWidget;
 
 namespace verdane {
 
-/// The window that prints a blank scorecard of a course (`f_carte`, `f_carte_en`): the holes as they
-/// are played from the chosen tee, and the distances of the clubs in the bag. It stays open, so that
-/// several cards can be printed in a row.
+/// The window that prints a blank scorecard of a course (`f_carte`, `f_carte_en`): the holes for the
+/// chosen tee, and the distances of the clubs in the bag. It stays open, so that several cards can be
+/// printed.
 ///
-/// Making the window loads it; `rsvrd_fields` and `rsfield_info` are open for its life.
+/// The constructor loads it; `rsvrd_fields` and `rsfield_info` are open until the window is unloaded.
 class f_carte final : public Form {
 public:
     f_carte();
 
-    /// One line a row of `vrd_fields`, in table order.
+    /// One line for each row of `vrd_fields`, in table order.
     QListWidget* List1 = nullptr;
     /// 0 OK, 1 cancel.
     control_array<QPushButton> Command1{u"Command1"};

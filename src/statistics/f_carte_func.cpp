@@ -18,7 +18,7 @@ constexpr int holes_of_a_row = 9;
 /// The fourteenth club, the putter, has no distance to print.
 constexpr int clubs_on_card = 13;
 
-// First columns of the runs of `r_card`.
+// First ordinals of the column groups of `r_card`.
 constexpr int card_yards = 1;
 constexpr int card_hole = 10;
 constexpr int card_hcp = 19;
@@ -47,7 +47,7 @@ QString list_line()
     return Verdane_tools::pad_right(name, width_of_name) + u", " + Verdane_tools::tee_name(code.right(1));
 }
 
-/// The nine holes behind `holes_before` on the current row of the card.
+/// Writes the nine holes after `holes_before` to the current row of the card.
 void write_holes(int holes_before)
 {
     for (int i = 0; i < holes_of_a_row; ++i) {
@@ -85,7 +85,7 @@ void write_clubs()
         card().Fields(card_club + club).set(averages.Fields(club).value());
 }
 
-/// The last row of `sticks` is the one that the program works on. The card stands on its second row.
+/// The program uses the last row of `sticks`. The current row of the card is its second one.
 void write_clubs_of_both_rows()
 {
     Recordset& averages = data_environment().rssticks;

@@ -51,7 +51,7 @@ f_date_range::f_date_range(statistics_mode mode)
     f_date_range_func::load(*this);
 }
 
-/// One run button is left, and the title names what it runs.
+/// Shows one run button; the title names what it runs.
 void f_date_range::show_mode()
 {
     const std::array<mode_look, 4> looks{{
@@ -138,7 +138,7 @@ QLayout* f_date_range::make_foot()
     Status->setRange(0, 100);
     Status->setValue(0);
     Status->setTextVisible(false);
-    // The buttons stay where they are when the bar comes and goes.
+    // The buttons keep their place when the bar is shown or hidden.
     QSizePolicy keeps_its_place = Status->sizePolicy();
     keeps_its_place.setRetainSizeWhenHidden(true);
     Status->setSizePolicy(keeps_its_place);

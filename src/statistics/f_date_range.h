@@ -14,14 +14,14 @@ class QPushButton;
 
 namespace verdane {
 
-/// What the selection window is opened for: the statistic that its OK button runs.
+/// The statistic that the run button of the selection window starts.
 enum class statistics_mode { club, putt, round, cost };
 
-/// The window in which the user picks the rounds of a statistic; in English `f_date_range_en`. It
+/// The window in which the user selects the rounds of a statistic (`f_date_range`, `f_date_range_en`). It
 /// stays open after a run.
 ///
-/// Making the window loads it. Without a stored round it says so, and `show_modal` then returns
-/// at once. No recordset is open while it waits.
+/// The constructor loads it. If no round is stored, a message box reports that and `show_modal` returns at
+/// once. No recordset is open while the window waits for input.
 class f_date_range final : public Form {
 public:
     explicit f_date_range(statistics_mode mode = statistics_mode::round);
@@ -33,7 +33,7 @@ public:
     QComboBox* cmb_courses = nullptr;
     QComboBox* pList = nullptr;
     QComboBox* conditions = nullptr;
-    /// The run buttons of the club, round, cost and putt statistics; one of them is there to be seen.
+    /// The run buttons of the club, round, cost and putt statistics; one of them is visible.
     QPushButton* Command1 = nullptr;
     QPushButton* Command2 = nullptr;
     QPushButton* Command3 = nullptr;
@@ -49,8 +49,8 @@ public:
     report_control cr2;
     report_control cr3;
 
-    /// Rounds from the one selected in `List1` to that in `List2`, both included; below 1 when the
-    /// range runs backwards. Nothing shows it.
+    /// Number of rounds from the one selected in `List1` to that in `List2`, both included; below 1 when
+    /// the range is reversed. It is not displayed.
     int16 rounds_between = 0;
 
     void closeForm() override;

@@ -44,8 +44,8 @@ void stop_without_rounds(f_date_range& window)
     window.unload();
 }
 
-/// What is left open reads so in the heads of the reports on rounds and costs; the others show the
-/// entry of the list as it stands.
+/// The text of a filter that is off, in the headings of the round and cost reports; the others show the
+/// entry of the list.
 QString open_weather(const f_date_range& window)
 {
     const statistics_mode mode = window.mode();
@@ -149,7 +149,7 @@ void close_form(f_date_range& window)
 
 void unload()
 {
-    // Cost statistics that found nothing leave their statement behind, to which no row can be added.
+    // After cost statistics without a result the source is their statement, to which no row can be added.
     data_environment().rscost.set_Source(QStringLiteral("select * from cost"));
     Unlock_menu();
 }

@@ -6,17 +6,17 @@ namespace verdane {
 class f_date_range;
 }
 
-/// What the selection window does; both its twins come here.
+/// The logic of the selection window, shared by both twins.
 namespace verdane::f_date_range_func {
 
-/// Empties the cost report and fills the lists. Without a stored round it says so and unloads the
+/// Empties the cost report and fills the lists. If no round is stored, reports that and unloads the
 /// window.
 void load(f_date_range& window);
 
-/// A line was chosen in one of the two lists.
+/// A line was selected in one of the two lists.
 void count_rounds_between(f_date_range& window);
 
-/// What the user picked, as the statistic of the window's mode takes it.
+/// The user's selection in the form that the statistic of the window's mode expects.
 selection_arguments selection_of(const f_date_range& window);
 
 /// The run buttons.

@@ -28,7 +28,7 @@ namespace {
 using namespace f_sticks_func;
 
 constexpr int clubs_in_a_column = 7;
-/// Number, name, average and the gap behind them.
+/// Number, name, average and the gap after them.
 constexpr int columns_of_a_half = 4;
 constexpr int name_characters = 12;
 constexpr int average_digits = 6;
@@ -195,7 +195,7 @@ QLayout* f_sticks::make_choices()
     return form;
 }
 
-/// Boxes for a time of day and a temperature, which no filter goes by: they take nothing.
+/// Boxes for a time of day and a temperature. No filter uses them; they are disabled.
 QLayout* f_sticks::make_unread_boxes()
 {
     auto* grid = new QGridLayout;

@@ -16,12 +16,12 @@ class QPushButton;
 namespace verdane {
 
 /// The golf bag: names and average distances of the fourteen clubs; in English `f_sticks_en`. The
-/// averages are typed, or worked out from the shots of a selection of rounds. Nothing reaches the store
-/// before the question at the end is answered with Yes.
+/// averages are typed, or computed from the shots of a selection of rounds. Nothing is stored before the
+/// final question is answered with Yes.
 ///
-/// It stands with the statistics because it runs one of them. Making the window loads it; `rssticks` and
-/// `rssticknames` are open until it has gone. Without a stored round it says so, and `show_modal` then
-/// returns at once.
+/// It is in this library because it runs a statistic. The constructor loads it; `rssticks` and
+/// `rssticknames` are open until it is unloaded. If no round is stored, a message box reports that and
+/// `show_modal` returns at once.
 class f_sticks final : public Form {
 public:
     f_sticks();
@@ -30,7 +30,7 @@ public:
 
     /// Member i is club i + 1: its name, and its average distance in yards.
     control_array<QLineEdit> sn{u"sn"};
-    /// Behind the fourteen averages stand the boxes of filters that do not exist.
+    /// The members after the fourteen averages are boxes without a function.
     control_array<QLineEdit> Text1{u"Text1"};
     QLabel* head = nullptr;
     QPushButton* Command1 = nullptr;
@@ -44,7 +44,7 @@ public:
     QComboBox* cmb_courses = nullptr;
     QPushButton* Actualiser = nullptr;
 
-    /// Makes the window as wide as it was laid out, or as wide as its controls need.
+    /// Sets the window's width, at least what its controls need.
     void widen_to(int twips);
 
     void closeForm() override;

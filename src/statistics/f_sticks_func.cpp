@@ -57,7 +57,7 @@ void show_bag(f_sticks& window)
 {
     for (int i = 0; i < club_count; ++i) {
         window.sn(i).setText(Main_module::club_names[i]);
-        // A long name is read from its beginning.
+        // Shows a long name from its beginning.
         window.sn(i).setCursorPosition(0);
         window.Text1(i).setText(number_text(data_environment().rssticks.Fields(i).double_or_zero()));
     }
@@ -116,7 +116,7 @@ void show_averages(f_sticks& window)
     Recordset& report = data_environment().rsstat_sticks;
     report.Open();
     report.MoveFirst();
-    // The putter has no distance and keeps what it had.
+    // The putter has no distance and is not changed.
     for (int i = 0; i < club_count - 1; ++i) {
         window.Text1(i).setText(report.Fields(average_column).text_or_empty());
         report.MoveNext();
@@ -124,7 +124,7 @@ void show_averages(f_sticks& window)
     report.Close();
 }
 
-/// A figure without bounds could be stored, but never be shown again.
+/// An infinite figure could be stored but not displayed again.
 double typed_average(const QLineEdit& box)
 {
     const double average = leading_number(box.text());

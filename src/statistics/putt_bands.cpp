@@ -6,7 +6,7 @@ namespace verdane {
 
 namespace {
 
-/// The shortest length, in feet, of bands 1 to 6; what is shorter is band 7.
+/// The shortest length, in feet, of bands 1 to 6; shorter lengths are band 7.
 using band_floors = std::array<int, band_count - 1>;
 constexpr band_floors start_floors{50, 40, 30, 20, 10, 5};
 constexpr band_floors stop_floors{25, 20, 15, 10, 5, 2};
@@ -24,8 +24,8 @@ int band_of(int16 length, const band_floors& floors)
 
 using grades = std::array<int, band_count>;
 
-/// A line for each band in which the putt stopped, a column for each in which it started. Set by hand:
-/// no formula gives these values.
+/// A line for each band in which the putt stopped, a column for each in which it started. The values are
+/// chosen, not computed.
 constexpr std::array<grades, band_count> grade_table{{
     {8, 9, 10, 10, 10, 10, 10},
     {7, 8, 9, 10, 10, 10, 10},
@@ -75,7 +75,7 @@ text_pair putt_rating(double score, int16 putt_count)
         if (score < step.below)
             return step.words;
     }
-    // Above the last step, not from it on.
+    // Above the last limit, excluding the limit itself.
     if (score > rating_scale.back().below)
         return {u"ONT RÉELLEMENT BESOIN D'ÊTRE PRATIQUÉS", u"You really need to practice"};
     return {u"", u""};

@@ -4,8 +4,8 @@
 #include "counts.h"
 #include "language.h"
 
-/// How a putt is judged: seven bands of length, a grade for each pair of them, words for the mean grade.
-/// Lengths are in feet; band 1 is the longest. Everything here is pure.
+/// Rating of putts: seven bands of length, a grade for each pair of bands, words for the mean grade.
+/// Lengths are in feet; band 1 is the longest. Pure functions.
 namespace verdane {
 
 constexpr int band_count = 7;
@@ -17,10 +17,10 @@ using by_band = checked_array<Value, band_count, 1>;
 /// The band of the length from which a putt starts, 1 (50 feet and more) to 7 (below 5).
 int first_putt_band(int16 length);
 
-/// The band of the length that a putt leaves, 1 (25 feet and more) to 7 (0 or 1).
+/// The band of the length that remains after a putt, 1 (25 feet and more) to 7 (0 or 1).
 int after_putt_band(int16 length);
 
-/// How bad a putt is that starts in one band and stops in the other: 1, at best, to 10.
+/// The grade of a putt from the bands in which it starts and stops: 1 (best) to 10.
 int putt_grade(int start_band, int stop_band);
 
 /// The words for a mean grade over a number of putts; "N/A" without putts. The scale has a gap: a mean

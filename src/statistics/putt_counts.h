@@ -5,13 +5,13 @@
 #include "putt_bands.h"
 #include "round_sums.h"
 
-/// What the putt statistics count. Everything here is pure.
+/// The counts of the putt statistics. Pure functions.
 namespace verdane {
 
-/// The most putts that a hole may hold.
+/// The largest number of putts on a hole.
 constexpr int most_putts = 5;
 
-/// Putts of one round or of several. A sum beyond 16 bits fails with `overflow`.
+/// Putts of one or several rounds. A sum that exceeds 16 bits fails with `overflow`.
 struct putt_counts {
     /// Holes by their number of putts (1 to 5) and by the band of the first one's length.
     checked_array<by_band<tally>, most_putts, 1> putts_by_first;
@@ -23,13 +23,13 @@ struct putt_counts {
     void add(const putt_counts& round);
 };
 
-/// The length of a putt in feet, by its place from 0: six places a hole, hole after hole, 0 where there
-/// was no putt.
+/// The length of a putt in feet by its index from 0: six entries for each hole in turn, 0 where there was
+/// no putt.
 using putt_length_at = std::function<int16(int place)>;
 
-/// Counts the putts of one round. A hole's putts end at the first length of 0, and nothing else ends
-/// them: six lengths above 0 are read on into the next hole's, and the count of six putts then fails
-/// with `subscript`. `length` is asked for what is needed only.
+/// Counts the putts of one round. Only a length of 0 ends the putts of a hole: after six lengths above 0
+/// reading continues with those of the next hole, and the count of six putts then fails with
+/// `subscript`. `length` is called only for the entries that are needed.
 putt_counts scan_round_putts(const putt_length_at& length);
 
 }  // namespace verdane

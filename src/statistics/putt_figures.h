@@ -2,7 +2,7 @@
 
 #include "putt_counts.h"
 
-/// What the putt statistics make of their counts. Everything here is pure.
+/// The figures of the putt statistics, computed from the counts. Pure functions.
 namespace verdane {
 
 struct putt_totals {

@@ -17,7 +17,7 @@ void prepare_putt_report(report_control& control)
     prepare_report(control, report_opening::zoomed(75), u"\\statPuts.rpt", u"\\statPuts_en.rpt");
 }
 
-/// The lengths are neighbours in the row, and what lies behind the last one is read like one.
+/// The lengths are adjacent columns; the column after the last one is read as a length, too.
 putt_counts putts_of_current_round()
 {
     Recordset& games2 = data_environment().rsgames2;
@@ -40,7 +40,7 @@ putt_figures figures_of(const putt_counts& counts, run_progress& bar)
     return figures;
 }
 
-/// False when no round of the result lies in the range.
+/// False when no round of the result is in the range.
 bool find_first_round(const selection_arguments& chosen)
 {
     Recordset& games2 = data_environment().rsgames2;
@@ -56,7 +56,7 @@ struct walked_rounds {
     int16 rounds = 0;
 };
 
-/// From the current row on. The key of the last round is the only upper limit.
+/// Starts at the current row. The key of the last round is the only upper limit.
 walked_rounds walk_rounds(const QString& to_key, run_progress& bar)
 {
     Recordset& games2 = data_environment().rsgames2;
@@ -74,8 +74,8 @@ walked_rounds walk_rounds(const QString& to_key, run_progress& bar)
     return walked;
 }
 
-/// Once for all rounds together: what a grid would hold between two of them is nothing that a report
-/// could see.
+/// Written once for all rounds together: no report can see the intermediate state of the
+/// grids.
 void write_tables(const selection_arguments& chosen, const walked_rounds& walked, run_progress& bar)
 {
     bar.move_to(30);

@@ -4,21 +4,21 @@
 
 #include "counts.h"
 
-/// Figures as the report tables hold them. A table's text has room for five characters; what does not
-/// fit is cut off, never rounded.
+/// Figures as texts of the report tables. Such a text has at most five characters; the rest is cut off, never
+/// rounded.
 namespace verdane {
 
-/// A count behind a leading blank.
+/// A count with a leading blank.
 QString count_text(int32 count);
 
-/// A mean behind a leading blank: " 1.666" is cut to " 1.66".
+/// A mean with a leading blank: " 1.666" is cut to " 1.66".
 QString mean_text(double mean);
 
-/// A mean without the blank, which leaves room for one digit more: "213.6".
+/// A mean without the blank, with one more digit: "213.6".
 QString average_text(double mean);
 
-/// The share that a part is of a whole, 1 and up, in percent behind a leading blank. A long share loses
-/// its sign: " 33.3", but " 50%" and " 100%".
+/// `part` in percent of `whole` (at least 1), with a leading blank. The percent sign is cut off if the text
+/// is too long: " 33.3", but " 50%" and " 100%".
 QString share_text(int16 part, int32 whole);
 
 }  // namespace verdane

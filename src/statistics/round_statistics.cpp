@@ -35,7 +35,7 @@ void close_round_tables()
     store.rsgames.set_Source(QStringLiteral("Select * from games"));
 }
 
-/// A hole of the round on the current rows, each of its columns read once.
+/// Reads a hole of the round from the current rows, each column once.
 played_hole read_hole(int16 hole)
 {
     const rows::situation situation = rows::read_situation(hole);
@@ -89,8 +89,8 @@ void stop_at_missing_row(missing_row row, run_progress& bar)
     tell_missing_row(row);
 }
 
-/// Heads, totals and the handicap over the lines of the summary pass. False when a row was missing;
-/// everything is closed either way.
+/// Adds headings, totals and the handicap to the lines of the summary pass. False when a row was missing;
+/// everything is closed in either case.
 bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress& bar)
 {
     stats_table::write_heading(chosen);

@@ -4,8 +4,8 @@
 #include "hole_arithmetic.h"
 #include "hole_classes.h"
 
-/// What the round statistics add up, hole by hole. Everything here is pure: the figures of one hole of
-/// one round go in, sums come out. A sum beyond 16 bits fails with `overflow`.
+/// The sums of the round statistics, hole by hole. Pure: they are computed from the figures of one hole of
+/// one round at a time. A sum that exceeds 16 bits fails with `overflow`.
 namespace verdane {
 
 constexpr int holes_of_round = 18;
@@ -48,11 +48,11 @@ struct round_sums {
     /// Strokes less par. A hole that was not played counts as minus its par.
     by_hole<double> over;
 
-    /// The 24 classes, by their place 1 to 24 in the report (`summary_selector`): how many holes
-    /// belong to each; the places of the three averages hold strokes.
+    /// The 24 classes by their number in the report, 1 to 24 (`summary_selector`): how many holes belong
+    /// to each. The entries of the three averages contain strokes.
     checked_array<by_hole<tally>, class_count, 1> classes;
 
-    /// How many holes entered the averages of par 3, 4 and 5, by that par.
+    /// How many holes are counted in the averages of par 3, 4 and 5, by par.
     checked_array<by_hole<tally>, 3, 3> averaged;
 
     void add_round() { rounds = rounds + static_cast<std::int16_t>(1); }
@@ -62,7 +62,7 @@ private:
     void add_classes(int h, const played_hole& hole);
 };
 
-/// The place in the report of the average of par 3, 4 or 5: 15, 16 or 17.
+/// The number in the report of the average of par 3, 4 or 5: 15, 16 or 17.
 constexpr int place_of_average(int par)
 {
     return par + 12;

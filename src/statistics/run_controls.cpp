@@ -35,7 +35,7 @@ void run_progress::pass_through(int value)
     }
     if (!bar_)
         return;
-    // The bar paints itself in the middle of being set, unless it is held still.
+    // Setting the value repaints the bar at once, unless updates are disabled.
     bar_->setUpdatesEnabled(false);
     set(value);
     bar_->setUpdatesEnabled(true);

@@ -14,18 +14,18 @@ struct run_controls {
     report_control& report;
 };
 
-/// Moves the bar of a run. It is seen while a statistic works, and each step is painted at once.
+/// Moves the progress bar of a run. The bar is visible while a statistic works; each step is painted at once.
 class run_progress {
 public:
     explicit run_progress(QProgressBar& bar) : bar_(&bar) {}
-    /// For a run that shows nothing.
+    /// For a run without a bar.
     run_progress() = default;
 
     void show(int value);
-    /// A value beyond the end of the bar leaves it at its end.
+    /// A value above the maximum sets the maximum.
     void move_to(int value);
-    /// The same for a step that comes once a round: it is painted only when the last painting is some
-    /// time ago, so that the bar costs no more than the work it shows.
+    /// The same for a step that occurs once per round. It is painted only if the last painting was some time
+    /// ago, so that painting does not take longer than the work.
     void pass_through(int value);
     void hide();
 

@@ -33,7 +33,7 @@ QString chosen_course(const QComboBox& courses)
 {
     if (!is_on(courses))
         return {};
-    // A course stands in its table at the place that it has in the list.
+    // A course has the same position in its table and in the list.
     Recordset& rows = data_environment().rsvrd_fields;
     rows.Open();
     const QString code = Round_functions::course_code_at(courses.currentIndex() - 1);

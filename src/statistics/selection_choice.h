@@ -5,8 +5,8 @@
 class QComboBox;
 class QListWidget;
 
-/// What the user picked in the lists of a selection. The entry that filters nothing is the first of
-/// every filter; it reads as the empty text.
+/// The user's choices in the lists of a selection. The first entry of every filter means no filter and is
+/// returned as an empty text.
 namespace verdane {
 
 bool is_on(const QComboBox& filter);
@@ -20,7 +20,7 @@ QString chosen_weather(const QComboBox& conditions);
 /// The partner's number.
 QString chosen_partner(const QComboBox& partners);
 
-/// The code of the course. Reads `rsvrd_fields`, which is closed before and afterwards.
+/// The code of the course. Reads `rsvrd_fields`, which must be closed and is closed again.
 QString chosen_course(const QComboBox& courses);
 
 }  // namespace verdane

@@ -4,18 +4,18 @@ class QComboBox;
 class QFormLayout;
 class QLabel;
 
-/// The filters of the selection window and of the golf bag. Each begins with the entry that filters
-/// nothing; the others follow in the order of their table's rows.
+/// The filters of the selection window and of the golf bag. The first entry of each means no filter; the
+/// others are in the order of the rows of their table.
 namespace verdane {
 
-/// Puts a filter and its label below the others: beside it for the eye, and tied to it for whoever has the
-/// window read out.
+/// Adds a filter with its label below the others. The label is the filter's buddy, so that screen readers
+/// read it.
 void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter);
 
 /// SURNAME, NAME of every partner; an entry's data is the partner's code.
 void fill_partner_filter(QComboBox& list, bool french);
 
-/// Name and tee of every course, the tee as it is called or in capitals.
+/// Name and tee of every course, with the tee's name as it is or in capitals.
 enum class tee_letters { as_called, capitals };
 void fill_course_filter(QComboBox& list, bool french, tee_letters letters = tee_letters::as_called);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Where things stand in the report table `stats`, by ordinal and by row from 0.
+/// Ordinals and rows, both from 0, of the report table `stats`.
 namespace verdane::stats_columns {
 
 constexpr int hole_h(int h)

@@ -4,7 +4,7 @@
 
 #include "round_sums.h"
 
-/// What the rows of the round statistics hold, computed from the sums. Everything here is pure.
+/// The rows of the round statistics, computed from the sums. Pure functions.
 namespace verdane {
 
 /// One row's figures.
@@ -15,8 +15,8 @@ struct stats_line {
     double all_holes = 0;
 };
 
-/// The sums as they stand, both nines and their total. The nines and the total are added in 16 bits
-/// and fail with `overflow` beyond them.
+/// The sums unchanged, both nines and their total. The nines and the total are added in 16 bits and fail
+/// with `overflow`.
 stats_line line_of(const by_hole<tally>& sums);
 
 /// Strokes. With more than one round `all_holes` is the mean score of a round; the holes and the nines

@@ -60,7 +60,7 @@ void write_averages(const round_sums& sums)
     }
 }
 
-/// The penalties upwards from their total, so that the rows above it follow the fields of a hole.
+/// Written upwards from their total, so that the rows above follow the order of a hole's fields.
 void write_penalties(const round_sums& sums)
 {
     move_to_row(at::penalties_row);
@@ -93,7 +93,7 @@ void write_strokes(const round_sums& sums)
     stats().Fields(at::average_mark).set(average_mark(sums));
 }
 
-/// Down one hole's column after the other, as the classes were counted.
+/// Column by column, one for each hole, from top to bottom, in the order in which the classes are counted.
 void write_classes(const round_sums& sums)
 {
     checked_array<by_hole<double>, class_count, 1> lines;
@@ -103,7 +103,7 @@ void write_classes(const round_sums& sums)
         move_to_row(at::classes_row);
         for (int place = 1; place <= class_count; ++place) {
             stats().Fields(at::hole_h(h)).set(lines[place][h]);
-            // Behind the last class this leaves the table; the next column starts from its top.
+            // After the last class this is past the end; the next column starts at the first row.
             stats().MoveNext();
         }
     }
@@ -117,7 +117,7 @@ int checked_hole(int16 hole)
     return plain(hole);
 }
 
-/// The sum of the four kinds of penalty of a hole; the table is left on the row of the total.
+/// The sum of the four kinds of penalty of a hole; the row of the total is then the current one.
 double sum_of_penalty_rows(int h)
 {
     double sum = 0;

@@ -3,11 +3,11 @@
 #include "round_sums.h"
 #include "selection_arguments.h"
 
-/// The rows of the report table `stats`, written through `rsstats` in the order laid down for them. A
-/// row that is left is committed.
+/// Writes the rows of the report table `stats` through `rsstats`, in table order. Moving to another row
+/// commits the changed one.
 namespace verdane::stats_table {
 
-/// Opens `rsstats`, puts every figure of every row to 0 and stands on row 1.
+/// Opens `rsstats`, sets every figure of every row to 0 and moves to row 1.
 void open_cleared();
 
 /// The detail pass: for every row of `rsStat_rounds` (one for each hole, eleven columns) writes the
@@ -18,17 +18,17 @@ void write_detail();
 /// The summary pass: every row, from the sums over the rounds. The table stays open.
 void write_round_lines(const round_sums& sums);
 
-/// The texts of row 0: the choices and both ends of the range.
+/// The texts of row 0: the filters and both ends of the range.
 void write_heading(const selection_arguments& chosen);
 
 /// Both nines and the total of every row from row 1 on, added from its holes. The rows of the averages
-/// keep their means.
+/// are not changed.
 void write_totals();
 
 /// The handicap of row 0, which becomes the current row.
 void write_handicap(const QString& text);
 
-/// The number of rounds of row 0; then everything is committed and the table closed.
+/// The number of rounds of row 0; then commits everything and closes the table.
 void write_round_count_and_close(int16 rounds);
 
 }  // namespace verdane::stats_table
