@@ -135,7 +135,15 @@ double round_half_even(double value)
 
 double round_to_tenth(double value)
 {
-    return round_half_even(value * 10.0) / 10.0;
+    // value * 10 would be rounded itself, which makes a tie of a value beside one. The conversion to digits
+    // rounds the exact value, ties to even.
+    constexpr std::size_t sign_point_and_decimal = 3;
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 1 + sign_point_and_decimal> digits{};
+    const auto* const end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 1).ptr;
+    double rounded = value;
+    std::from_chars(digits.data(), end, rounded);
+    return rounded;
 }
 
 int16 to_int16(double value)

@@ -27,7 +27,10 @@ int32 to_int32(QStringView text);
 /// Nearest whole number, ties to even.
 double round_half_even(double value);
 
-/// Rounds to one decimal place, ties to even: 12.25 gives 12.2.
+/// Rounds the exact value of `value` to one decimal place and returns the double nearest to it. A value
+/// half way between two tenths goes to the even one: 12.25 gives 12.2. Most decimals are not exact as
+/// doubles, and then the double decides: 5.65 is a little above its tie and gives 5.7, -16.95 is a little
+/// nearer to 0 and gives -16.9. A value without bounds, or that is no number, is returned as it is.
 double round_to_tenth(double value);
 
 /// The plain number text that report tables take: a blank before values of 0 and above, a point as

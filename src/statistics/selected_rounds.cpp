@@ -31,11 +31,16 @@ missing_row locate_rows_of_round()
     return found(store.rsgames2, u"Date =" + key) ? missing_row::none : missing_row::games2;
 }
 
+/// Null equals no weather, as in the clauses of the statements.
+bool has_weather(const QString& wanted)
+{
+    const Field weather = data_environment().rsgames2.Fields(round_columns::conditionM);
+    return !weather.is_null() && weather.to_int16() == to_int16(wanted);
+}
+
 bool passes_filters(const selection_arguments& chosen)
 {
-    Recordset& games2 = data_environment().rsgames2;
-    if (!chosen.weather_value.isEmpty() &&
-        games2.Fields(round_columns::conditionM).int16_or_zero() != to_int16(chosen.weather_value))
+    if (!chosen.weather_value.isEmpty() && !has_weather(chosen.weather_value))
         return false;
     return chosen.partner_number.isEmpty() || Round_functions::partner_in_round(chosen.partner_number) > 0;
 }

@@ -8,7 +8,7 @@
 /// The stored rounds of a selection, one after the other, each with its rows of the other tables.
 namespace verdane {
 
-/// The row that a stored round lacks, by the number it is told to the user with.
+/// The row that a stored round lacks, by the number in its message.
 enum class missing_row { none = 0, course = 1, holes = 2, games2 = 3 };
 
 /// The rounds between two keys, on one course when its code has more than one character. Weather and
@@ -16,9 +16,9 @@ enum class missing_row { none = 0, course = 1, holes = 2, games2 = 3 };
 QString selected_rounds_statement(const selection_arguments& chosen);
 
 /// Walks `rsgames` from its first row to its end. For each round `rsvrd_fields`, `rsfield_info` and
-/// `rsgames2` are put on its rows; when weather and partner let it pass, `take` is called. A round
-/// without one of its rows ends the walk, and the answer names that row. The caller has opened the
-/// four recordsets.
+/// `rsgames2` are put on its rows; when weather and partner let it pass, `take` is called. A round whose
+/// weather is Null passes only where no weather was chosen. A round without one of its rows ends the walk,
+/// and the answer names that row. The caller has opened the four recordsets.
 missing_row walk_selected_rounds(const selection_arguments& chosen, const std::function<void()>& take);
 
 /// The critical box for a missing row, the same in both languages.

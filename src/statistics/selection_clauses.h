@@ -13,7 +13,8 @@ enum class filter { weather, partner, course };
 enum class clause_form { appended, alone };
 
 /// `value` is the stored weather (0 to 3), a partner's number or a course's code, empty when the filter
-/// is off. The partner is a plain text search: number 12 also finds the rounds of partner 112.
+/// is off. A round whose weather is Null matches no weather. The partner is a plain text search: number 12
+/// also finds the rounds of partner 112.
 QString clause_of(filter which, clause_form form, const QString& value);
 
 }  // namespace verdane

@@ -158,25 +158,6 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { to_int32(u"9999999999"); }) == failure_kind::overflow);
         QVERIFY(failure_of([] { to_int32(u"1e999"); }) == failure_kind::overflow);
     }
-
-    void rounding_to_a_tenth_sends_ties_to_even_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<double>("rounded");
-        QTest::newRow("tie down") << 12.25 << 12.2;
-        QTest::newRow("tie up") << 12.75 << 12.8;
-        QTest::newRow("negative tie") << -12.25 << -12.2;
-        QTest::newRow("below") << 10.44 << 10.4;
-        QTest::newRow("above") << 10.56 << 10.6;
-        QTest::newRow("zero") << 0.0 << 0.0;
-    }
-
-    void rounding_to_a_tenth_sends_ties_to_even()
-    {
-        QFETCH(double, value);
-        QFETCH(double, rounded);
-        QCOMPARE(round_to_tenth(value), rounded);
-    }
 };
 
 QTEST_GUILESS_MAIN(test_numbers)

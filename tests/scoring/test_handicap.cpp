@@ -39,6 +39,10 @@ private Q_SLOTS:
         QTest::newRow("two, with the factor") << 2 << 10.0 + 12.0 << " 10.6";
         QTest::newRow("a tie goes to even") << 1 << 12.25 << " 12.2";
         QTest::newRow("a tie goes up to even") << 1 << 12.75 << " 12.8";
+        QTest::newRow("5.65, whose double is above the tie") << 1 << 5.65 << " 5.7";
+        QTest::newRow("-5.65, whose double is below the tie") << 1 << -5.65 << "-5.7";
+        QTest::newRow("-16.95, whose double is nearer to 0") << 1 << -16.95 << "-16.9";
+        QTest::newRow("0.05, whose double is above the tie") << 1 << 0.05 << " .1";
         QTest::newRow("whole") << 1 << 12.0 << " 12";
         QTest::newRow("below one") << 1 << 0.5 << " .5";
         QTest::newRow("ten") << 10 << 155.0 << " 14.9";
@@ -48,7 +52,7 @@ private Q_SLOTS:
         QTest::newRow("no round counts, whatever the sum") << 0 << 25.0 << "N/A";
         QTest::newRow("exactly zero") << 3 << 0.0 << "N/A";
         QTest::newRow("rounds to zero") << 1 << 0.04 << "N/A";
-        QTest::newRow("rounds to zero from below") << 1 << -0.05 << "N/A";
+        QTest::newRow("rounds to zero from below") << 1 << -0.04 << "N/A";
     }
 
     void a_handicap_has_its_text()

@@ -114,6 +114,36 @@ private Q_SLOTS:
         QTEST(handicap_of(whole_year()), "expected");
     }
 
+    void a_differential_beside_a_tie_is_rounded_as_its_double_data()
+    {
+        QTest::addColumn<QString>("rating");
+        QTest::addColumn<QString>("expected");
+        // With a slope of 100 and a gross of 80 the differential is (80 - rating) * 1.13.
+        QTest::newRow("5.65") << "75"
+                              << " 5.7";
+        QTest::newRow("-5.65") << "85"
+                               << "-5.7";
+        QTest::newRow("16.95") << "65"
+                               << " 16.9";
+        QTest::newRow("-16.95") << "95"
+                                << "-16.9";
+    }
+    void a_differential_beside_a_tie_is_rounded_as_its_double()
+    {
+        QFETCH(QString, rating);
+        const store_folder store;
+        const diary book(store.path());
+        const diary_course course = flat_course(reference_code, 4, rating, QStringLiteral("100"));
+        const diary_course other =
+            flat_course(QStringLiteral("EASY-0"), 4, QStringLiteral("20"), QStringLiteral("113"));
+        book.add(course);
+        book.add(other);
+        book.add(round_of(1, course, 80));
+        for (int day = 2; day <= 5; ++day)
+            book.add(round_of(day, other, 80));
+        QTEST(handicap_of(whole_year()), "expected");
+    }
+
     void published_courses_give_the_differentials_worked_out_by_hand()
     {
         const store_folder store;

@@ -6,7 +6,7 @@
 
 #include "DataEnvironment1.h"
 #include "diary.h"
-#include "handicap.h"
+#include "handicap_opinion.h"
 #include "report_store.h"
 #include "selection_windows.h"
 #include "store_folder.h"
@@ -278,7 +278,10 @@ private Q_SLOTS:
             user.choose(QStringLiteral("conditions"), chosen.weather);
             run_without_detail(user);
         });
-        const second_opinion opinion(book.store, condition_of(chosen, rounds));
+        const QString condition = condition_of(chosen, rounds);
+        QCOMPARE(stats_head(book.store, QStringLiteral("handicap_text")).toString(),
+                 handicap_opinion(book.store, condition));
+        const second_opinion opinion(book.store, condition);
         QVERIFY(opinion.rounds() > 0);
         QCOMPARE(stats_head(book.store, QStringLiteral("round_count")).toInt(), opinion.rounds());
         for (int line = 0; line < rows_of_stats; ++line) {
