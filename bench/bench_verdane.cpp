@@ -10,8 +10,8 @@
 
 namespace {
 
-/// What holds unless the command line says otherwise: many short repetitions of all measurements in random
-/// order, so that a busy moment of the machine meets a measurement and its floor alike.
+/// Defaults, which the command line can override: many short repetitions of all measurements in random
+/// order, so that a busy moment of the machine affects a measurement and its floor alike.
 std::vector<char*> with_defaults(int argc, char** argv)
 {
     static char random_order[] = "--benchmark_enable_random_interleaving=true";

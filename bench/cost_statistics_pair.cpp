@@ -6,7 +6,7 @@
 #include "pairs.h"
 #include "statistic_pairs.h"
 
-/// The statistics of costs. The sums are the report's; what takes its time is to copy the rows.
+/// The statistics of costs. The report adds up; the statistic spends its time copying the rows.
 namespace verdane::bench {
 
 namespace {

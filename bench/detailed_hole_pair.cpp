@@ -10,7 +10,7 @@
 #include "shot_menus.h"
 
 /// Leaving a hole on the detailed page, its first shot changed so that a figure changes in each wide row,
-/// from the click on the next tab until the shots of that hole are in the grid; against the three bare
+/// from the click on the next tab until the shots of that hole are in the grid. The floor is the plain
 /// commits and reading those shots.
 namespace verdane::bench {
 
@@ -24,7 +24,7 @@ void turn(f_new_round& window, int column)
     QTest::keyClick(&grid, grid.currentIndex().data().toString() == u"Yes" ? 'N' : 'Y');
 }
 
-/// Changes a figure in each wide row by way of the first shot.
+/// Changes the first shot so that a figure changes in each wide row.
 void change_first_shot(f_new_round& window)
 {
     turn(window, f_new_round_func::details_column::missed);

@@ -8,7 +8,7 @@
 #include "stopwatch.h"
 
 /// Opening a detailed round of a full diary: from the list's command until its window is painted, and
-/// from the click on the detailed page until its shots are; against reading what is then on the screen.
+/// from the click on the detailed page until its shots are. The floor reads what is then displayed.
 namespace verdane::bench {
 
 namespace {

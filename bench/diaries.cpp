@@ -14,7 +14,7 @@ namespace verdane::bench {
 
 namespace {
 
-/// The golfer of the diary is allowed six putts, on which the statistics of putts fail by rule.
+/// The generated diary contains holes with six putts, on which the putt statistics fail by rule.
 QString without_sixth_putts()
 {
     QStringList cleared;

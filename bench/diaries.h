@@ -7,20 +7,20 @@
 
 namespace verdane::bench {
 
-/// The diaries that everything is measured on, laid down beside the program so that their commits
-/// reach a real disk (a folder for temporary files may live in memory). Each is made when it is first
-/// asked for.
+/// The diaries for the measurements, created in the program's folder so that their commits reach a
+/// real disk (a folder for temporary files may be in memory). Each is created when it is first
+/// used.
 class diaries {
 public:
     diaries();
 
-    /// 366 rounds, where the program itself looks for its store.
+    /// 366 rounds, in the folder in which the program looks for its store.
     QString full() const;
-    /// The first half of these rounds: how much longer the full diary takes is told by it.
+    /// The first half of these rounds, to measure growth.
     QString half() const;
-    /// 300 rounds: every save takes one of the 366 places for keys, so a full diary takes none.
+    /// 300 rounds: every save uses one of the 366 entries for keys, so a full diary allows no save.
     QString with_room() const;
-    /// What `XDG_DATA_HOME` has to be for a program that starts on the full diary.
+    /// The value of `XDG_DATA_HOME` with which the program opens the full diary.
     QString data_home() const;
 
     static constexpr int rounds_with_room = 300;

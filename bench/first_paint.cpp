@@ -19,8 +19,8 @@ public:
 
     bool eventFilter(QObject* target, QEvent* event) override
     {
-        // What is posted now comes when the whole window has been painted, and before anything that the
-        // painting itself asks for.
+        // An event posted now is handled after the whole window is painted, and before any event that the
+        // painting posts.
         if (event->type() == QEvent::Paint && target->objectName() == name_ && --left_ == 0)
             QTimer::singleShot(0, this, [] { _exit(0); });
         return false;

@@ -10,8 +10,8 @@
 #include "round_in_window.h"
 #include "stopwatch.h"
 
-/// What the two pairs share that time the leaving of a hole: its figures changed, the click on the next
-/// tab, and what the user then waits for.
+/// Shared by the two pairs that measure leaving a hole: its figures are changed, the next tab is
+/// clicked, and the time until the result is measured.
 namespace verdane::bench {
 
 constexpr int round_of_left_holes = 150;
@@ -23,12 +23,13 @@ template <typename Change>
 void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Change change)
 {
     const auto change_hole = [&] {
-        // Every save takes a place in the list of keys; a measurement has more saves than a day.
+        // Every save uses an entry of the list of keys, and a measurement saves more often than the list
+        // allows.
         Main_module::round_key_count = static_cast<std::int16_t>(diaries::rounds_with_room);
         change(window);
         Form::paint_now();
     };
-    // The first commit of a connection makes its log; that is once a day.
+    // The first commit of a connection creates the log, once per start; it is not measured.
     int hole = 2;
     change_hole();
     window.TabStrip1->click(hole);

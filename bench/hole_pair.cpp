@@ -10,12 +10,12 @@
 #include "round_in_window.h"
 
 /// Leaving a hole of which two figures were changed, one in each wide row, from the click on the next
-/// tab until that hole is in the boxes; against the two bare commits. And the same until it is painted.
+/// tab until that hole is in the boxes, and until it is painted. The floor is the two plain commits.
 namespace verdane::bench {
 
 namespace {
 
-/// Another digit than the one in the box, typed as a user types it.
+/// Types a digit that differs from the one in the box.
 void change_figure(QLineEdit& box)
 {
     const char digit = box.text() == u"2" ? '3' : '2';

@@ -13,8 +13,8 @@
 #include "shot_menus.h"
 #include "stopwatch.h"
 
-/// The key that makes the next row: Enter behind the distance that a putt has left, until the next putt
-/// stands in the grid with the cursor on it; against the two bare commits that keep both.
+/// The key that adds the next row: Enter after the remaining distance of a putt, until the next putt is in
+/// the grid with the cursor on it. The floor is the two plain commits of both rows.
 namespace verdane::bench {
 
 namespace {
@@ -27,7 +27,7 @@ QString of_hole()
     return u" where date = " + quoted(testing::key_in_diary(round_in_diary)) + u" and hole = 1";
 }
 
-/// A drive, an approach and the first putt, of which only the distance left is still to be told.
+/// A drive, an approach and the first putt, whose remaining distance is not entered yet.
 QStringList hole_before_its_putts()
 {
     const QString shot =
@@ -41,7 +41,7 @@ QStringList hole_before_its_putts()
             shot + u"3, 60, null, 'Feets', 'Pu', 14, 'Putt', 3, ' ', 0, 4, 380)"};
 }
 
-/// Types a digit into the distance of the last shot. The box that it is typed into.
+/// Types a digit into the distance of the last shot and returns the cell's editor.
 QWidget* type_distance(f_new_round& window, char digit)
 {
     window.details->bound_model().move_to(data_environment().rsStat_rounds.RecordCount() - 1);
@@ -52,8 +52,8 @@ QWidget* type_distance(f_new_round& window, char digit)
     return window.focusWidget();
 }
 
-/// The hole with three putts told, each by the key that is measured, and the distance of the next one
-/// typed.
+/// Enters three putts, each by the key that is measured, and types the distance of the next
+/// one.
 QWidget* tell_until_last_key(f_new_round& window)
 {
     Recordset& shots = data_environment().rsStat_rounds;
@@ -99,7 +99,7 @@ void next_shot_painted(benchmark::State& state)
     next_shots(state, until::painted);
 }
 
-/// The distance goes into the row that was told, and the next row into the table.
+/// Commits the distance of the last row, and the new row.
 void next_shot_floor(benchmark::State& state)
 {
     const plain_store store(diaries_of_run().full());

@@ -9,7 +9,7 @@
 namespace verdane::bench {
 
 /// Prints, once everything has run, the median of each measurement, that of its floor and their ratio;
-/// then how each grows that was measured on half of the rounds too ("_half" behind its name).
+/// then the growth of those that are also measured on half of the rounds (suffix "_half").
 class pair_reporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override;

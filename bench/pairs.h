@@ -4,11 +4,11 @@
 
 #include <string>
 
-/// The pairs. Each registers what a user waits for under a name and its floor under the same name
-/// with "_floor" behind it, both timed by the wall.
+/// The pairs. Each registers a measurement under a name, and its floor under that name with the suffix
+/// "_floor". Both measure wall-clock time.
 namespace verdane::bench {
 
-/// Registers a measurement that takes its own times, told in milliseconds.
+/// Registers a measurement that reports its own times, in milliseconds.
 template <typename Measurement>
 void register_timed(const std::string& name, const Measurement& measurement)
 {

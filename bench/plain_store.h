@@ -7,8 +7,8 @@
 
 namespace verdane::bench {
 
-/// A store read and written by nothing but the toolkit: what the floors stand on. Set up as the
-/// program sets it up (WAL, synchronous=FULL), each statement committed by itself.
+/// A store that is read and written with the toolkit alone, for the floors. It has the program's settings
+/// (WAL, synchronous=FULL), and each statement is a commit of its own.
 class plain_store {
 public:
     explicit plain_store(const QString& path);
@@ -16,7 +16,7 @@ public:
     plain_store(const plain_store&) = delete;
     plain_store& operator=(const plain_store&) = delete;
 
-    /// Runs a statement forward only. One that fails ends the run with the engine's words.
+    /// Runs a statement forward only. A failing one ends the run with the engine's message.
     QSqlQuery run(const QString& statement, const QVariantList& values = {}) const;
 
 private:

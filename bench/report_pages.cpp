@@ -28,7 +28,7 @@ namespace verdane::bench {
 
 namespace {
 
-/// Fills the tables of a report and launches it; what it was launched with stays in its control.
+/// Fills the tables of a report and launches it. Its control keeps the arguments.
 using launch = std::function<void(const run_controls&)>;
 
 void in_filled_store(const launch& run, const std::function<void(report_control&)>& measure)

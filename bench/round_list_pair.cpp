@@ -8,7 +8,7 @@
 #include "plain_store.h"
 #include "stopwatch.h"
 
-/// The list of all rounds, from the command to its painted window, against reading what it shows.
+/// The list of all rounds, from the command to its painted window. The floor reads what it shows.
 namespace verdane::bench {
 
 namespace {

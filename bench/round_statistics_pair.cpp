@@ -43,7 +43,7 @@ pars_by_course read_courses(const plain_store& store)
     return pars;
 }
 
-/// Adds up one figure after the other, each over all rounds of a table, hole by hole.
+/// Adds up each figure over all rounds of a table, hole by hole.
 using sums_of_holes = std::vector<std::array<int, holes>>;
 
 void add_row(const QSqlQuery& row, int first, sums_of_holes& sums)
@@ -89,7 +89,7 @@ void add_games2(const plain_store& store, const QVariantList& range)
     benchmark::DoNotOptimize(figures);
 }
 
-/// The engine itself adds up the shots, here as in the statistic.
+/// The engine adds up the shots, as in the statistic.
 void add_shots(const plain_store& store, const selection_arguments& chosen)
 {
     QSqlQuery shots = store.run(Statistics::detail_select(chosen));

@@ -8,8 +8,8 @@
 
 #include "first_paint.h"
 
-/// The least that a program with a window and a store can do: open the file, ask it something, paint. With
-/// a word as second argument the window shows that word, which makes the toolkit load its letters.
+/// The least that a program with a window and a store can do: open the file, run a query, paint. With a
+/// word as second argument the window shows that word, which makes the toolkit load its glyphs.
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);

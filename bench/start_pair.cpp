@@ -15,13 +15,13 @@
 
 extern char** environ;
 
-/// From nothing to a painted main window, against an empty window that opens the same file; and on to
-/// the moment in which the program rests.
+/// From the start of the process to a painted main window, and until the program is idle. The floor is an
+/// empty window that opens the same file.
 namespace verdane::bench {
 
 namespace {
 
-/// Starts a program that stands beside this one and waits for its end. False when it failed.
+/// Starts a program in this one's folder and waits for its end. False when it failed.
 bool run_to_its_end(const char* program, const QStringList& arguments)
 {
     std::vector<QByteArray> texts{
@@ -38,7 +38,7 @@ bool run_to_its_end(const char* program, const QStringList& arguments)
            waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// A program that is ended by force leaves its lock and its log behind; one that was left does not.
+/// Removes the lock and the log that a killed program leaves in the folder.
 void tidy_up_after_end()
 {
     for (const char* ending : {".lock", "-wal", "-shm"})

@@ -5,8 +5,8 @@
 #include "first_paint.h"
 #include "start_up.h"
 
-/// The program, up to the moment in which its main window has painted itself; with "settled", up to
-/// the moment in which its picture is there too and the whole store was looked through.
+/// The program, until its main window is painted; with "settled", until its picture is painted, too, and
+/// the whole store is checked.
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
