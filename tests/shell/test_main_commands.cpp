@@ -17,6 +17,7 @@ using verdane::testing::hand;
 using verdane::testing::in_main_window;
 using verdane::testing::one_course;
 using verdane::testing::one_round;
+using verdane::testing::rounds;
 
 class test_main_commands : public QObject {
     Q_OBJECT
@@ -127,6 +128,24 @@ private Q_SLOTS:
                 user.answer({words(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
                              QMessageBox::Critical, default_title(), QMessageBox::Ok});
             }
+        });
+    }
+
+    void the_round_list_opens_on_complete_rounds_only_data() { both_stored_languages(); }
+    void the_round_list_opens_on_complete_rounds_only()
+    {
+        QFETCH(int, language);
+        const QString list = language == 1 ? QStringLiteral("f_games") : QStringLiteral("f_games_en");
+        const QStringList complete{QStringLiteral("update games set putt_18 = 2")};
+        in_main_window(language, rounds(2) + complete, [&](hand& user) {
+            user.menu(QStringLiteral("mnOPenr"));
+            user.wait_for_window(list);
+            const QStringList lines = user.entries(QStringLiteral("List1"));
+            user.same(lines.join(u'\n'),
+                      QStringLiteral("2025-01-01 00:00:00 |  - Links\n2025-01-01 00:00:01 |  - Links"),
+                      QStringLiteral("lines"));
+            user.click(QStringLiteral("Command1_2"));
+            user.wait_until_gone(list);
         });
     }
 

@@ -3,6 +3,7 @@
 
 #include "boxes.h"
 #include "DataEnvironment1.h"
+#include "failures.h"
 #include "language.h"
 #include "Main_module.h"
 #include "main_windows.h"
@@ -10,6 +11,8 @@
 #include "start_up.h"
 
 using namespace verdane;
+using verdane::testing::both_stored_languages;
+using verdane::testing::failure_of;
 using verdane::testing::hand;
 using verdane::testing::one_course;
 using verdane::testing::one_round;
@@ -102,6 +105,17 @@ private Q_SLOTS:
         run.play_through([](hand& user) { user.click(QStringLiteral("Command2")); });
         QCOMPARE(Main_module::club_names[0], QStringLiteral("Big"));
         QCOMPARE(Main_module::club_names[13], QStringLiteral("Roller"));
+    }
+
+    void the_language_is_set_before_the_club_names_are_read_data() { both_stored_languages(); }
+    void the_language_is_set_before_the_club_names_are_read()
+    {
+        QFETCH(int, language);
+        // Without their row the club names cannot be read: start-up ends there.
+        const program_run run(language, {QStringLiteral("delete from sticknames")});
+        is_french = language != 1;
+        QCOMPARE(failure_of([] { Main(); }), failure_kind::misuse);
+        QCOMPARE(is_french, language == 1);
     }
 
     void a_null_language_is_a_damaged_store()
