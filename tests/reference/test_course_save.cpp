@@ -154,6 +154,24 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select count(*) from field_info where FIELD_CODE = 'HISTORIC-2'"_s), 1);
     }
 
+    void two_tees_of_one_name_have_codes_that_differ_in_the_last_character_only_data()
+    {
+        QTest::addColumn<QString>("second_name");
+        QTest::newRow("the same capitals") << u"Mont Bleu"_s;
+        QTest::newRow("other capitals and blanks around") << u" mont BLEU "_s;
+    }
+    void two_tees_of_one_name_have_codes_that_differ_in_the_last_character_only()
+    {
+        QFETCH(QString, second_name);
+        const course_store store;
+        in_new_course([](hand& user) { save_new(user, u"Mont Bleu"_s, 0); });
+        in_new_course([&](hand& user) { save_new(user, second_name, 7); });
+        for (const QString& codes : {u"select group_concat(code, '|') from vrd_fields"_s,
+                                     u"select group_concat(FIELD_CODE, '|') from field_info"_s})
+            QCOMPARE(store.text(codes), u"MONT BLEU-0|MONT BLEU-7"_s);
+        QCOMPARE(store.text(u"select group_concat(tee, '|') from vrd_fields"_s), u"BLANC|NOIR"_s);
+    }
+
     void a_longer_name_is_another_course()
     {
         const course_store store;

@@ -248,6 +248,32 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), QStringLiteral("90 9 8 7 6 5"));
     }
 
+    void a_shorter_list_of_putts_leaves_no_length_of_the_longer_one()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        const QList<int> rests{25, 12, 6, 3, 0};
+        for (int i = 0; i < rests.size(); ++i)
+            add_told_shot(round.store, 1, i + 1, i == 0 ? 9 : 14, rests[i], QStringLiteral("Pieds"),
+                          i == 0 ? 2 : 3);
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            go_to_detailed_page(user);
+            accept(user);
+        });
+        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("25 12 6 3 0 0"));
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            for (const int last : {4, 3}) {
+                user.click_cell(details, last, 3);
+                user.click(QStringLiteral("CommandSup"));
+                user.same(user.grid_rows(details), last, QStringLiteral("rows"));
+            }
+            accept(user);
+        });
+        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("25 12 0 0 0 0"));
+        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("0 1 2 1 0 0 0 0 0 0 0"));
+    }
+
     void a_hole_that_lost_its_shots_is_stored_as_nothing()
     {
         const golfer_store round;

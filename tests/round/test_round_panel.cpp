@@ -108,6 +108,22 @@ private Q_SLOTS:
                                                    << "000"
                                                    << "0"
                                                    << "19=1 21=";
+        QTest::newRow("nothing played on a par 0") << "0"
+                                                   << "000"
+                                                   << "0"
+                                                   << "20=1 21=";
+        QTest::newRow("one shot on a par 0") << "0"
+                                             << "100"
+                                             << "0"
+                                             << "15=1 21= 22=1 27=1 35=1";
+        QTest::newRow("two shots on a par 0") << "0"
+                                              << "101"
+                                              << "0"
+                                              << "14=1 15=1 21= 34=1";
+        QTest::newRow("four shots and a penalty on a par 0") << "0"
+                                                             << "112"
+                                                             << "1"
+                                                             << "13=1 15=1 21= 33=1";
     }
 
     void the_panel_classes_the_hole_on_screen()
@@ -192,6 +208,24 @@ private Q_SLOTS:
                        QStringLiteral("13"));
             discard(user);
         });
+    }
+
+    void on_a_course_of_par_0_every_stroke_is_over_par()
+    {
+        const round_store store;
+        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
+                   QStringLiteral("113"), QStringLiteral("0")});
+        add_round_of(store, 5);
+        in_stored_round(key_of_keyed_round(), [](hand& user) {
+            user.same(user.text(QStringLiteral("text_38")), QStringLiteral("0"), QStringLiteral("par"));
+            user.click_tab(QStringLiteral("TabStrip1"), 18);
+            user.type(QStringLiteral("113"));
+            totals_are(user, QStringLiteral("90"), QStringLiteral("20"), QStringLiteral("70"),
+                       QStringLiteral("90"));
+            accept(user);
+        });
+        QCOMPARE(store.text(QStringLiteral("select long_18 || approach_18 || putt_18 from games")),
+                 QStringLiteral("113"));
     }
 
     void the_totals_are_right_when_the_last_hole_looks_like_the_one_before()

@@ -1,0 +1,81 @@
+#include <QTest>
+
+#include "round_windows.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int last_hole = 18;
+
+/// A drive with a penalty and an approach that is holed: two shots on a par 4.
+void enter_hole_with_penalty(hand& user, int entry)
+{
+    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+    user.open_menu(details, 0, 11);
+    user.choose_menu_entry(QStringLiteral("mp_%1").arg(entry));
+    user.click(QStringLiteral("CommandSuiv"));
+    tell_shot(user, 1, 9, QStringLiteral("0"), 2);
+}
+
+QString penalty_boxes(hand& user)
+{
+    QStringList texts;
+    for (int box = 8; box <= 11; ++box)
+        texts << user.text(QStringLiteral("text_s_%1").arg(box));
+    return texts.join(u' ');
+}
+
+void hole_counts_three(hand& user, const QString& penalties)
+{
+    user.same(penalty_boxes(user), penalties, QStringLiteral("penalties"));
+    user.same(user.text(QStringLiteral("text_36")), QStringLiteral("1"), QStringLiteral("their sum"));
+    user.same(user.text(QStringLiteral("text_vrd_3")), QStringLiteral("2"), QStringLiteral("shots"));
+    user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("3"), QStringLiteral("score"));
+    user.same(user.text(QStringLiteral("l_plus")), QStringLiteral("-69"), QStringLiteral("over par"));
+    // A birdie: three strokes on a par 4.
+    user.same(user.text(QStringLiteral("text_24")), QStringLiteral("1"), QStringLiteral("birdie"));
+}
+
+}  // namespace
+
+class test_grid_penalties : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_penalty_of_the_grid_counts_in_its_box_and_in_the_score_data()
+    {
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<QString>("boxes");
+        QTest::newRow("water") << 1 << "1 0 0 0";
+        QTest::newRow("lost ball") << 2 << "0 1 0 0";
+        QTest::newRow("rules") << 3 << "0 0 1 0";
+        QTest::newRow("out of bounds") << 4 << "0 0 0 1";
+    }
+    void a_penalty_of_the_grid_counts_in_its_box_and_in_the_score()
+    {
+        QFETCH(int, entry);
+        QFETCH(QString, boxes);
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.click_tab(hole_tabs, last_hole);
+            go_to_detailed_page(user);
+            enter_hole_with_penalty(user, entry);
+            go_to_quick_page(user);
+            hole_counts_three(user, boxes);
+            accept(user);
+        });
+        QCOMPARE(stored_figures(round.store, last_hole), QString(u"1 1 0 2 0 0 0 " + boxes));
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            user.click_tab(hole_tabs, last_hole);
+            hole_counts_three(user, boxes);
+            discard(user);
+        });
+    }
+};
+
+QTEST_MAIN(test_grid_penalties)
+
+#include "test_grid_penalties.moc"
