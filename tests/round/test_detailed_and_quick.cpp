@@ -43,6 +43,27 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), told_putts);
     }
 
+    void shots_of_a_hole_of_par_0_fold_into_its_boxes()
+    {
+        const golfer_store round;
+        round.store.store.write(QStringLiteral("update field_info set par_1 = 0"));
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_hole(user);
+            go_to_quick_page(user);
+            user.same(boxes(user), told_hole, QStringLiteral("boxes"));
+            user.same(user.text(QStringLiteral("text_38")), QStringLiteral("0"), QStringLiteral("par"));
+            // Four strokes are at least three over a par of 0.
+            user.same(user.text(QStringLiteral("text_33")), QStringLiteral("1"), QStringLiteral("triple"));
+            accept(user);
+        });
+        QCOMPARE(round.shots(1), 4);
+        QCOMPARE(round.store.text(QStringLiteral("select distinct normal from Stat_rounds")),
+                 QStringLiteral("0"));
+        QCOMPARE(stored_figures(round.store, 1), told_hole);
+        QCOMPARE(stored_putts(round.store, 1), told_putts);
+    }
+
     void quick_figures_typed_over_a_detailed_hole_are_stored()
     {
         const golfer_store round;
