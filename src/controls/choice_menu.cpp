@@ -6,6 +6,20 @@
 
 namespace verdane {
 
+namespace {
+
+constexpr std::chrono::seconds longest_pause(1);
+
+std::chrono::milliseconds steady_time()
+{
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+}
+
+}  // namespace
+
+std::function<std::chrono::milliseconds()> choice_menu::clock = steady_time;
+
 QAction* choice_menu::add_choice(const QString& name, const QString& caption)
 {
     QAction* entry = addAction(QString());
@@ -31,6 +45,7 @@ void choice_menu::popup_on(const QPoint& place, const QString& caption)
     const QList<QAction*> all = actions();
     if (all.isEmpty())
         return;
+    typed_.clear();
     const auto same = std::find_if(
         all.begin(), all.end(), [&caption](const QAction* entry) { return caption_of(*entry) == caption; });
     popup(place);
@@ -47,11 +62,11 @@ void choice_menu::keyPressEvent(QKeyEvent* event)
         QMenu::keyPressEvent(event);
 }
 
-QList<QAction*> choice_menu::beginning_with(QChar letter) const
+QList<QAction*> choice_menu::beginning_with(const QString& typed) const
 {
     QList<QAction*> matching;
     for (QAction* entry : actions()) {
-        if (caption_of(*entry).startsWith(letter, Qt::CaseInsensitive))
+        if (caption_of(*entry).remove(u' ').startsWith(typed, Qt::CaseInsensitive))
             matching << entry;
     }
     return matching;
@@ -59,19 +74,36 @@ QList<QAction*> choice_menu::beginning_with(QChar letter) const
 
 bool choice_menu::choose_only(QChar letter)
 {
-    const QList<QAction*> matching = beginning_with(letter);
+    const QList<QAction*> matching = beginning_with(QString(letter));
     if (matching.size() != 1)
         return false;
     matching.front()->trigger();
     return true;
 }
 
+QString choice_menu::continued_by(QChar letter) const
+{
+    const QString longer = typed_ + letter;
+    const bool in_time = clock() - typed_at_ <= longest_pause;
+    return in_time && !beginning_with(longer).isEmpty() ? longer : QString(letter);
+}
+
+void choice_menu::mark(const QList<QAction*>& matching)
+{
+    const qsizetype marked = matching.indexOf(activeAction());
+    // Another letter of the same word stays with the entry that is marked, if it still begins so.
+    const bool stays = typed_.size() > 1 && marked >= 0;
+    setActiveAction(matching[stays ? marked : (marked + 1) % matching.size()]);
+}
+
 bool choice_menu::choose_by_letter(QChar letter)
 {
-    const QList<QAction*> matching = beginning_with(letter);
+    typed_ = continued_by(letter);
+    typed_at_ = clock();
+    const QList<QAction*> matching = beginning_with(typed_);
     if (matching.isEmpty())
         return false;
-    setActiveAction(matching[(matching.indexOf(activeAction()) + 1) % matching.size()]);
+    mark(matching);
     if (matching.size() == 1) {
         hide();
         matching.front()->trigger();

@@ -2,13 +2,21 @@
 
 #include <QMenu>
 
+#include <chrono>
+#include <functional>
+
 namespace verdane {
 
-/// A pop-up of a few words, chosen from by the mouse, the arrows and Enter, or a first letter: a letter
-/// that only one entry begins with chooses it, one that several begin with goes from one to the next.
+/// A pop-up of a few words, chosen from by the mouse, the arrows and Enter, or by typing. A letter that only
+/// one entry begins with chooses that entry; one that several begin with marks the next of them. Letters
+/// typed within a second of each other are one beginning, as long as an entry has it: "P" and "W" choose
+/// "PW". Blanks in the captions need not be typed.
 class choice_menu : public QMenu {
 public:
     using QMenu::QMenu;
+
+    /// The time since some fixed moment. The default is the steady clock; tests set their own.
+    static std::function<std::chrono::milliseconds()> clock;
 
     /// Adds an entry of that name. The caption is shown and found as it stands, whatever it holds.
     QAction* add_choice(const QString& name, const QString& caption);
@@ -21,14 +29,21 @@ public:
     /// Chooses the only entry that begins with a letter, without showing the menu; false when there is
     /// none or more than one.
     bool choose_only(QChar letter);
-    /// Goes to the next entry that begins with the letter, and chooses it when it is the only one.
+    /// Adds the letter to what was typed, marks an entry that begins so, and chooses it when it is the only
+    /// one. False when no entry begins with the letter.
     bool choose_by_letter(QChar letter);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QList<QAction*> beginning_with(QChar letter) const;
+    QList<QAction*> beginning_with(const QString& typed) const;
+    /// The beginning that the letter continues, if it came in time and an entry begins so; else the letter.
+    QString continued_by(QChar letter) const;
+    void mark(const QList<QAction*>& matching);
+
+    QString typed_;
+    std::chrono::milliseconds typed_at_{0};
 };
 
 }  // namespace verdane
