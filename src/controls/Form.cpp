@@ -11,7 +11,9 @@
 
 #include "failure_guard.h"
 #include "language.h"
+#include "leaving.h"
 #include "main_frame.h"
+#include "shortcuts.h"
 
 namespace verdane {
 
@@ -33,12 +35,14 @@ QWidget* window_below_a_new_form()
 
 }  // namespace
 
-Form::Form(QStringView family, twins kind) : french_(is_french)
+Form::Form(QStringView family, twins kind)
+    : french_(is_french), shortcuts_(new window_shortcuts(*this, french_))
 {
     const bool english_twin = kind == twins::two && !french_;
     setObjectName(english_twin ? family.toString() + u"_en" : family.toString());
     setWindowModality(Qt::ApplicationModal);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    shortcuts_->mention(Qt::Key_Escape, {u"Annuler ou fermer la fenêtre", u"Cancel or close the window"});
 }
 
 Form::~Form()
@@ -107,7 +111,12 @@ void Form::closeEvent(QCloseEvent* event)
 
 void Form::reject()
 {
-    run_event([this] { close_requested(); });
+    run_event([this] {
+        if (!cancel_button_)
+            close_requested();
+        else if (leave_focused_box(*this))
+            cancel_button_->click();
+    });
 }
 
 void Form::keyPressEvent(QKeyEvent* event)

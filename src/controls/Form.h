@@ -5,9 +5,12 @@
 #include <QString>
 #include <QStringView>
 
+class QAbstractButton;
 class QPushButton;
 
 namespace verdane {
+
+class window_shortcuts;
 
 /// A window of the program that works on the store: modal, made in one language and keeping it.
 ///
@@ -29,6 +32,9 @@ public:
     /// The caption for the window's language.
     QString caption(QStringView french, QStringView english) const;
 
+    /// The shortcuts of the window; F1 lists them.
+    window_shortcuts& shortcuts() { return *shortcuts_; }
+
     /// Shows the window above the others and returns when it has been unloaded. Afterwards the window
     /// (or the main frame) that was at work is activated.
     void show_modal();
@@ -46,14 +52,18 @@ public:
     static void paint_now();
 
 protected:
+    /// Escape clicks this button. In a window without one Escape is the title bar's close box.
+    void set_cancel_button(QAbstractButton& button) { cancel_button_ = &button; }
+
     /// Shown for the first time, or back from another window of the program.
     virtual void activated() {}
     /// The window is about to go.
     virtual void unloading() {}
-    /// The title bar's close box, or Escape.
+    /// The title bar's close box.
     virtual void close_requested() { unload(); }
 
     void closeEvent(QCloseEvent* event) override;
+    /// Escape.
     void reject() override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -64,6 +74,8 @@ private:
 
     bool french_;
     bool loaded_ = true;
+    window_shortcuts* shortcuts_;
+    QAbstractButton* cancel_button_ = nullptr;
     QEventLoop loop_;
 };
 

@@ -31,9 +31,9 @@ QString default_title()
     return QStringLiteral("Verdane");
 }
 
-QMessageBox::StandardButton show_message(const message& what)
+QMessageBox::StandardButton show_message(const message& what, QWidget* above)
 {
-    const QPointer<QWidget> owner = window_at_work();
+    const QPointer<QWidget> owner = above;
     QMessageBox box(what.icon, QString(), what.text, what.buttons, owner);
     box.setObjectName(QStringLiteral("message_box"));
     box.setWindowTitle(what.title);

@@ -19,8 +19,9 @@ struct message {
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
 };
 
-/// Shows the box above the window that is at work, waits for the answer and gives it back.
-QMessageBox::StandardButton show_message(const message& what);
+/// Shows the box above its owner, waits for the answer and returns it. The owner then gets the keyboard
+/// back.
+QMessageBox::StandardButton show_message(const message& what, QWidget* owner = window_at_work());
 
 /// A notice with an OK button.
 void tell(const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon,

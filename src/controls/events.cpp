@@ -1,6 +1,7 @@
 #include "events.h"
 
 #include <QEvent>
+#include <QShortcut>
 
 namespace verdane {
 
@@ -17,6 +18,15 @@ public:
 };
 
 }  // namespace
+
+void on_enter(QListWidget& list, std::function<void()> routine)
+{
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* enter = new QShortcut(QKeySequence(key), &list);
+        enter->setContext(Qt::WidgetShortcut);
+        QObject::connect(enter, &QShortcut::activated, &list, [routine] { run_event(routine); });
+    }
+}
 
 void take_double_click_as_one(QAbstractButton& button)
 {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include <functional>
 #include <utility>
 
 #include "failure_guard.h"
@@ -18,6 +19,9 @@ void on_click(QAbstractButton& button, Routine routine)
     QObject::connect(&button, &QAbstractButton::clicked, &button,
                      [routine = std::move(routine)] { run_event(routine); });
 }
+
+/// Enter while the list has the focus: the double click of the keyboard.
+void on_enter(QListWidget& list, std::function<void()> routine);
 
 /// For a button that starts long work: a double click is one click, not two runs. The second press waits
 /// while the work is done and would start it again.

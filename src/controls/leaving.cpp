@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 #include "failure_guard.h"
@@ -46,7 +47,6 @@ public:
         }
     }
 
-private:
     bool refused()
     {
         bool stays = false;
@@ -56,6 +56,7 @@ private:
         return stays;
     }
 
+private:
     void keep_from_click()
     {
         if (!refused())
@@ -127,6 +128,18 @@ void when_click_is_over(QLineEdit& box, std::function<void()> routine)
 void when_left(QLineEdit& box, std::function<bool()> allows)
 {
     new leaving_guard(box, std::move(allows));
+}
+
+bool leave_focused_box(const QWidget& window)
+{
+    const QWidget* box = window.focusWidget();
+    if (!box)
+        return true;
+    const QObjectList& helpers = box->children();
+    return std::none_of(helpers.begin(), helpers.end(), [](QObject* helper) {
+        auto* guard = dynamic_cast<leaving_guard*>(helper);
+        return guard && guard->refused();
+    });
 }
 
 }  // namespace verdane

@@ -4,13 +4,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "events.h"
 #include "f_games_func.h"
 #include "list_box.h"
 #include "look.h"
+#include "shortcuts.h"
 
 namespace verdane {
 
@@ -80,13 +80,8 @@ void f_games::connect_events()
     for (const auto& [index, button] : Command1.members())
         on_click(*button, [this, which = index] { f_games_func::on_command(*this, which); });
     on_double_click(*List1, [this] { f_games_func::on_command(*this, open); });
-    // Enter on a line does the same as a double click.
-    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* enter = new QShortcut(QKeySequence(key), List1);
-        enter->setContext(Qt::WidgetShortcut);
-        connect(enter, &QShortcut::activated, this,
-                [this] { run_event([this] { f_games_func::on_command(*this, open); }); });
-    }
+    on_enter(*List1, [this] { f_games_func::on_command(*this, open); });
+    shortcuts().mention(Qt::Key_Return, {u"Ouvrir la ronde choisie", u"Open the selected round"});
 }
 
 void f_games::closeForm()

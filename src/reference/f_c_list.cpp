@@ -9,6 +9,7 @@
 #include "f_c_list_func.h"
 #include "list_box.h"
 #include "look.h"
+#include "shortcuts.h"
 
 namespace verdane {
 
@@ -76,6 +77,8 @@ void f_c_list::wire()
     for (const auto& [index, button] : Command1.members())
         on_click(*button, [this, i = index] { f_c_list_func::command(*this, i); });
     on_double_click(*List1, [this] { f_c_list_func::command(*this, 0); });
+    on_enter(*List1, [this] { f_c_list_func::command(*this, 0); });
+    shortcuts().mention(Qt::Key_Return, {u"Ouvrir le terrain choisi", u"Open the selected course"});
 }
 
 void f_c_list::closeForm()

@@ -6,7 +6,6 @@
 #include <QPointer>
 #include <QPrinter>
 #include <QScreen>
-#include <QShortcut>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -15,12 +14,16 @@
 #include "report_dialogs.h"
 #include "report_document.h"
 #include "run_time_failure.h"
+#include "shortcuts.h"
 
 namespace verdane {
 
 report_preview::report_preview(std::shared_ptr<const report_document> document, const QString& title,
                                QWidget* owner)
-    : QWidget(owner, Qt::Window), document_(std::move(document)), is_french_(is_french)
+    : QWidget(owner, Qt::Window),
+      document_(std::move(document)),
+      is_french_(is_french),
+      shortcuts_(new window_shortcuts(*this, is_french_))
 {
     setObjectName(QStringLiteral("report_preview"));
     setWindowTitle(title);
@@ -41,8 +44,7 @@ void report_preview::build()
     layout->setSpacing(0);
     layout->addWidget(tool_bar());
     layout->addWidget(pages_, 1);
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(escape, &QShortcut::activated, this, &QWidget::close);
+    shortcuts_->add(Qt::Key_Escape, {u"Fermer la fenêtre", u"Close the window"}, [this] { close(); });
     show_state();
 }
 
@@ -74,8 +76,11 @@ QToolButton* report_preview::button_for(const command& what)
     const QString caption = in_own(what.caption);
     auto* action = new QAction(what.sign.isEmpty() ? caption : what.sign, this);
     action->setShortcut(what.keys);
-    const QString keys = what.keys.toString(QKeySequence::NativeText);
-    action->setToolTip(keys.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, keys));
+    action->setToolTip(caption);
+    if (!what.keys.isEmpty()) {
+        action->setToolTip(tool_tip_with_keys(what.caption, what.keys, is_french_));
+        shortcuts_->mention(what.keys, what.caption);
+    }
     connect(action, &QAction::triggered, this, what.run);
     addAction(action);
     auto* button = new QToolButton(this);

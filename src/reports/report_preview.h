@@ -15,6 +15,7 @@ namespace verdane {
 
 class page_view;
 class report_document;
+class window_shortcuts;
 
 /// The window that a report opens in (`report_preview`): its pages, and what can be done with them.
 /// It keeps the language it was made in and goes away when it is closed. Nothing that fails in it
@@ -56,6 +57,7 @@ private:
 
     std::shared_ptr<const report_document> document_;
     bool is_french_;
+    window_shortcuts* shortcuts_;
     page_view* pages_ = nullptr;
     QLabel* page_label_ = nullptr;
     QLabel* zoom_label_ = nullptr;

@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
-#include <QShortcut>
 
 #include "data_grid.h"
 #include "details_grid.h"
@@ -11,31 +10,30 @@
 #include "f_new_round_layout.h"
 #include "look.h"
 #include "round_boxes.h"
+#include "shortcuts.h"
 
 /// The detailed page: a hole told shot by shot.
 namespace verdane {
 
 namespace {
 
-QPushButton* make_command(const QString& caption, QStringView name, const QKeySequence& keys)
+QPushButton* make_command(f_new_round& window, const text_pair& caption, QStringView name,
+                          const QKeySequence& keys, const text_pair& words)
 {
-    QPushButton* button = named(make_button(caption), name);
-    // The button's own short cut would click a tenth of a second later.
-    QObject::connect(new QShortcut(keys, button), &QShortcut::activated, button,
-                     [button] { button->click(); });
-    button->setToolTip(keys.toString(QKeySequence::NativeText));
+    QPushButton* button = named(make_button(caption.in(window.french())), name);
+    window.shortcuts().add(keys, words, *button);
     return button;
 }
 
 QLayout* make_commands(f_new_round& window)
 {
-    window.CommandSuiv = make_command(window.caption(u"Coup suivant", u"Next Shot"), u"CommandSuiv",
-                                      QKeySequence(Qt::CTRL | Qt::Key_N));
-    window.CommandSup = make_command(window.caption(u"Supprimer", u"Remove"), u"CommandSup",
-                                     QKeySequence(Qt::CTRL | Qt::Key_Delete));
+    window.CommandSuiv = make_command(window, {u"Coup suivant", u"Next Shot"}, u"CommandSuiv",
+                                      Qt::CTRL | Qt::Key_N, {u"Coup suivant", u"Next shot"});
+    window.CommandSup = make_command(window, {u"Supprimer", u"Remove"}, u"CommandSup",
+                                     Qt::CTRL | Qt::Key_Delete, {u"Supprimer le coup", u"Remove the shot"});
     window.b_carte =
-        make_command(window.caption(u"Fin - Rafraichir carte de pointage", u"End - Refresh Scorecard"),
-                     u"b_carte", QKeySequence(Qt::Key_F5));
+        make_command(window, {u"Fin - Rafraichir carte de pointage", u"End - Refresh Scorecard"}, u"b_carte",
+                     Qt::Key_F5, {u"Fin du trou, carte rafraîchie", u"End of the hole, scorecard refreshed"});
     auto* line = new QHBoxLayout;
     line->setSpacing(rhythm);
     line->addWidget(window.CommandSuiv);
@@ -102,11 +100,9 @@ QWidget* make_page_bar(f_new_round& window)
     window.TabStrip2->addTab(window.caption(u"Entrée rapide", u"Quick entry"));
     window.TabStrip2->addTab(window.caption(u"Entrée détaillée", u"Detailed Entry"));
     window.Command4 = named(make_button(QStringLiteral("Cliquer pour détailler votre ronde")), u"Command4");
-    window.b_putts = make_command(window.caption(u"Coups roulés", u"Putts"), u"b_putts",
-                                  QKeySequence(Qt::CTRL | Qt::Key_P));
-    window.b_putts->setToolTip(
-        window.caption(u"Rapport sur les coups roulés de la ronde", u"Report on the putts of the round") +
-        u" (" + window.b_putts->toolTip() + u')');
+    window.b_putts =
+        make_command(window, {u"Coups roulés", u"Putts"}, u"b_putts", Qt::CTRL | Qt::Key_P,
+                     {u"Rapport sur les coups roulés de la ronde", u"Report on the putts of the round"});
     line->setSpacing(rhythm);
     line->addWidget(window.TabStrip2);
     line->addStretch();

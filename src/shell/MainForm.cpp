@@ -133,6 +133,7 @@ void MainForm::load()
             actions_.at(entry.name.toString())->setText(caption_of(entry.caption));
     }
     tick_language(is_french ? french_value : english_value);
+    shortcuts_.set_language(is_french);
 }
 
 void MainForm::unload()

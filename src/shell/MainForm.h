@@ -9,6 +9,7 @@
 #include "main_frame.h"
 #include "main_menu.h"
 #include "picture_pane.h"
+#include "shortcuts.h"
 
 namespace verdane {
 
@@ -51,6 +52,7 @@ private:
     void set_locked(bool locked);
     void fit_pictures();
 
+    window_shortcuts shortcuts_{*this, is_french};
     std::map<QString, QAction*> actions_;
     std::map<QString, QAction*> tool_actions_;
     picture_pane* Picture1_ = nullptr;

@@ -9,6 +9,7 @@
 #include "Form.h"
 #include "hand.h"
 #include "language.h"
+#include "leaving.h"
 #include "main_frame.h"
 
 using namespace verdane;
@@ -40,6 +41,8 @@ public:
             child_activations = child.activations;
         });
     }
+
+    void cancel_by_asker() { set_cancel_button(*asker); }
 
     QPushButton* opener = nullptr;
     int notices = 0;
@@ -143,7 +146,42 @@ private Q_SLOTS:
         QCOMPARE(window.unloads, 1);
     }
 
-    void escape_is_the_title_bars_close_box()
+    void escape_clicks_the_cancel_button()
+    {
+        trial window(u"f_trial");
+        window.cancel_by_asker();
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_trial"));
+                 user.key(Qt::Key_Escape);
+                 user.answer(notice);
+                 user.close_window(QStringLiteral("f_trial"));
+             });
+        QCOMPARE(window.notices, 1);
+        QCOMPARE(window.unloads, 1);
+    }
+
+    void escape_leaves_a_box_before_it_cancels()
+    {
+        trial window(u"f_trial");
+        window.cancel_by_asker();
+        bool may_leave = false;
+        when_left(*window.box, [&] { return may_leave; });
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.click(QStringLiteral("box"));
+                 user.key(Qt::Key_Escape);
+                 user.look([&] {
+                     QCOMPARE(window.notices, 0);
+                     may_leave = true;
+                 });
+                 user.key(Qt::Key_Escape);
+                 user.answer(notice);
+                 user.close_window(QStringLiteral("f_trial"));
+             });
+    }
+
+    void escape_is_the_title_bars_close_box_in_a_window_without_a_cancel_button()
     {
         trial window(u"f_trial");
         play([&] { window.show_modal(); },

@@ -97,6 +97,26 @@ private Q_SLOTS:
         });
     }
 
+    void enter_on_a_line_opens_the_course_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Enter of the keypad") << int(Qt::Key_Enter);
+    }
+    void enter_on_a_line_opens_the_course()
+    {
+        QFETCH(int, key);
+        const course_store store;
+        add_three_courses(store);
+        in_course_list_until_ok([&](hand& user) {
+            user.click_row(u"List1"_s, 1);
+            user.key(key);
+            user.wait_for_window(editor_window());
+            user.same(user.text(u"text_1"_s), u"Beta"_s, u"name"_s);
+            discard(user);
+        });
+    }
+
     void an_added_course_has_no_line_before_the_list_opens_again()
     {
         const course_store store;
