@@ -13,6 +13,7 @@
 #include "f_courses_func.h"
 #include "leaving.h"
 #include "main_frame.h"
+#include "shortcuts.h"
 
 namespace verdane {
 
@@ -79,6 +80,11 @@ void f_courses::wire()
         closeForm();
     });
     on_click(*cmdan, [this] { closeForm(); });
+    set_cancel_button(*cmdan);
+    // The modal editor keeps the toolbar of the main window out of reach of the mouse.
+    shortcuts().add(Qt::CTRL | Qt::Key_S, {u"Enregistrer", u"Save"},
+                    [this] { toolbar_clicked(*this, u"B1"); });
+    shortcuts().add(Qt::CTRL | Qt::Key_W, {u"Fermer", u"Close"}, [this] { toolbar_clicked(*this, u"B5"); });
 }
 
 void f_courses::wire_hole(int index)

@@ -23,7 +23,7 @@ void close(f_courses& window);
 /// A click on a tab: shows its page and gives the focus to the page's first box.
 void page_clicked(f_courses& window);
 
-/// A tool button of the main window, by its key: `B1` saves, any other closes.
+/// A tool button of the main window, by its key, pressed through its shortcut: `B1` saves, any other closes.
 void toolbar_clicked(f_courses& window, QStringView key);
 
 /// The window goes: drops what was not saved.

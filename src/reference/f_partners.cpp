@@ -120,6 +120,7 @@ void f_partners::wire()
     on_click(*Del, [this] { remove_partner(*this); });
     on_click(*cmdSave, [] { current_form->closeForm(); });
     on_click(*cmdAn, [this] { closeForm(); });
+    set_cancel_button(*cmdAn);
 }
 
 void f_partners::closeForm()

@@ -80,6 +80,7 @@ void f_get_date::connect_events()
 {
     on_click(*OKbut, [this] { f_get_date_func::accept_date(*this, round_); });
     on_click(*Command1, [this] { f_get_date_func::cancel(*this, round_); });
+    set_cancel_button(*Command1);
     connect(round_date, &QCalendarWidget::activated, this,
             [this](const QDate& date) { run_event([&] { f_get_date_func::date_chosen(*this, date); }); });
 }

@@ -72,6 +72,7 @@ void f_new_round::connect_events()
     }
     for (const auto& [index, button] : Command1.members())
         on_click(*button, [this, pressed = index] { f_new_round_func::on_ok_cancel(*this, pressed); });
+    set_cancel_button(Command1(round_box::cancel));
     quick_entry::watch_boxes(*this);
 }
 

@@ -70,6 +70,7 @@ void f_carte::wire()
     on_click(Command1(0), [this] { f_carte_func::print(*this); });
     take_double_click_as_one(Command1(0));
     on_click(Command1(1), [this] { f_carte_func::cancel(*this); });
+    set_cancel_button(Command1(1));
     on_double_click(*List1, [this] { f_carte_func::print(*this); });
 }
 

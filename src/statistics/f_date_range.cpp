@@ -169,6 +169,7 @@ void f_date_range::connect_events()
     for (QPushButton* run : {Command1, Command2, Command3, OKButton})
         take_double_click_as_one(*run);
     on_click(*CancelButton, [this] { f_date_range_func::cancel(*this); });
+    set_cancel_button(*CancelButton);
 }
 
 void f_date_range::closeForm()

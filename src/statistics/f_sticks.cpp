@@ -229,6 +229,7 @@ void f_sticks::wire()
     take_double_click_as_one(*Actualiser);
     on_click(*enr, [this] { f_sticks_func::accept(*this); });
     on_click(*Fer, [this] { cancel(*this); });
+    set_cancel_button(*Fer);
 }
 
 void f_sticks::closeForm()

@@ -2,7 +2,6 @@
 
 #include "course_windows.h"
 #include "f_courses.h"
-#include "f_courses_func.h"
 #include "language.h"
 #include "main_frame.h"
 
@@ -30,15 +29,23 @@ void change(hand& user)
     user.key(Qt::Key_Tab);
 }
 
-void press_tool_button(hand& user, const QString& key)
+/// Lengths, stroke indexes and pars of all holes: 54 figures.
+void type_all_holes(hand& user)
 {
-    // The window is modal, so that the main window's buttons cannot be clicked; the routine stands ready
-    // for a toolbar that can.
-    QMetaObject::invokeMethod(
-        qApp,
-        [key] { f_courses_func::toolbar_clicked(dynamic_cast<f_courses&>(*open_form(u"f_courses")), key); },
-        Qt::QueuedConnection);
-    user.look([] {});
+    for (int hole = 1; hole <= 18; ++hole) {
+        user.click_tab(u"TabStrip1"_s, hole <= 9 ? 2 : 3);
+        const QString index = QString::number(hole - 1);
+        user.fill(u"txt_verge_"_s + index, QString::number(400 + hole));
+        user.fill(u"txt_hnd_"_s + index, QString::number(hole));
+        user.fill(u"txt_normal_"_s + index, u"3"_s);
+    }
+}
+
+void save_by_shortcut(hand& user)
+{
+    user.key(Qt::Key_S, Qt::ControlModifier);
+    user.answer(notice_of_save());
+    user.wait_for_window(editor_window());
 }
 
 }  // namespace
@@ -140,9 +147,10 @@ private Q_SLOTS:
             fill_required(user, u"Delta"_s);
             if (way == u"button"_s)
                 discard(user);
-            else if (way == u"Escape"_s)
+            else if (way == u"Escape"_s) {
                 user.key(Qt::Key_Escape);
-            else
+                user.answer(question_on_closing(), QMessageBox::No);
+            } else
                 user.close_window(editor_window());
             user.wait_for_window(list_window());
             // The list goes on with the rows that it had.
@@ -155,45 +163,105 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_before);
     }
 
-    void the_title_bar_drops_the_changes_without_a_question_data()
-    {
-        QTest::addColumn<bool>("escape");
-        QTest::newRow("title bar") << false;
-        QTest::newRow("Escape") << true;
-    }
     void the_title_bar_drops_the_changes_without_a_question()
     {
-        QFETCH(bool, escape);
         const course_store store;
         add_three_courses(store);
         in_stored_course(1, [&](hand& user) {
             change(user);
-            if (escape)
-                user.key(Qt::Key_Escape);
-            else
-                user.close_window(editor_window());
+            user.close_window(editor_window());
             user.wait_until_gone(editor_window());
             user.check(!store.frame.locked, u"the menu is unlocked"_s);
         });
         QCOMPARE(figures(store), figures_before);
     }
 
-    void the_first_tool_button_saves_and_any_other_closes()
+    void escape_asks_about_the_figures_of_eighteen_holes_data() { both_languages(); }
+    void escape_asks_about_the_figures_of_eighteen_holes()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            type_all_holes(user);
+            user.key(Qt::Key_Escape);
+            user.answer(question_on_closing(), QMessageBox::Cancel);
+            user.wait_for_window(editor_window());
+            user.key(Qt::Key_Escape);
+            user.answer(question_on_closing(), QMessageBox::Yes);
+            user.answer(notice_of_save());
+            user.wait_until_gone(editor_window());
+        });
+        for (int hole = 1; hole <= 18; ++hole)
+            QCOMPARE(store.text(u"select yards_%1 || ' ' || hcp_%1 || ' ' || par_%1 from field_info "
+                                "where FIELD_CODE = 'BETA-1'"_s.arg(hole)),
+                     u"%1 %2 3"_s.arg(400 + hole).arg(hole));
+    }
+
+    void escape_refuses_a_figure_before_it_asks()
+    {
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.fill(u"txt_normal_0"_s, u"9"_s);
+            user.key(Qt::Key_Escape);
+            user.answer({u"La Normale doit être inférieure à 6 et supérieur à 2."_s, QMessageBox::NoIcon,
+                         u"Verdane"_s});
+            user.wait_for_window(editor_window());
+            user.same(user.text(u"txt_normal_0"_s), u"0"_s, u"par"_s);
+            user.same(user.focus(), u"txt_normal_0"_s, u"focus"_s);
+            discard(user);
+        });
+        QCOMPARE(figures(store), figures_before);
+    }
+
+    void Ctrl_S_saves_and_Ctrl_W_closes_data() { both_languages(); }
+    void Ctrl_S_saves_and_Ctrl_W_closes()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        add_three_courses(store);
+        in_stored_course(1, [&](hand& user) {
+            change(user);
+            save_by_shortcut(user);
+            with_editor(user, [](f_courses& window) {
+                QVERIFY(window.saveSucceed);
+                QVERIFY(!window.needtosave);
+            });
+            user.key(Qt::Key_W, Qt::ControlModifier);
+            user.wait_until_gone(editor_window());
+            user.check(!store.frame.locked, u"the menu is unlocked"_s);
+        });
+        QCOMPARE(figures(store), figures_after);
+    }
+
+    void Ctrl_W_asks_like_Cancel()
     {
         const course_store store;
         add_three_courses(store);
         in_stored_course(1, [](hand& user) {
             change(user);
-            press_tool_button(user, u"B1"_s);
-            user.answer(notice_of_save());
-            user.wait_for_window(editor_window());
-            with_editor(user, [](f_courses& window) {
-                QVERIFY(window.saveSucceed);
-                QVERIFY(!window.needtosave);
-            });
-            press_tool_button(user, u"B5"_s);
+            user.key(Qt::Key_W, Qt::ControlModifier);
+            user.answer(question_on_closing(), QMessageBox::No);
         });
-        QCOMPARE(figures(store), figures_after);
+        QCOMPARE(figures(store), figures_before);
+    }
+
+    void Ctrl_S_saves_no_figure_that_its_box_refuses()
+    {
+        const course_store store;
+        add_three_courses(store);
+        in_stored_course(1, [](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.fill(u"txt_hnd_0"_s, u"19"_s);
+            user.key(Qt::Key_S, Qt::ControlModifier);
+            user.answer(
+                {u"La valeur de l'Handicap doit être inférieure à 19."_s, QMessageBox::NoIcon, u"Verdane"_s});
+            user.wait_for_window(editor_window());
+            user.same(user.text(u"txt_hnd_0"_s), u"0"_s, u"stroke index"_s);
+            discard(user);
+        });
     }
 
     void a_change_after_a_save_asks_again_data()
@@ -208,9 +276,7 @@ private Q_SLOTS:
         const course_store store;
         add_three_courses(store);
         in_stored_course(1, [&](hand& user) {
-            press_tool_button(user, u"B1"_s);
-            user.answer(notice_of_save());
-            user.wait_for_window(editor_window());
+            save_by_shortcut(user);
             user.click_tab(u"TabStrip1"_s, box.startsWith(u"txt"_s) ? 2 : 1);
             user.fill(box, u"0"_s);
             user.key(Qt::Key_Tab);

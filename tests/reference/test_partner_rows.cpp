@@ -94,6 +94,23 @@ private Q_SLOTS:
         QCOMPARE(store.rows().section(u" | "_s, 3), u"Doe,Jane,%1"_s.arg(code_of(u"Doe"_s, u"Jane"_s)));
     }
 
+    void escape_drops_the_cell_first_and_then_refuses_a_missing_name()
+    {
+        const partner_store store;
+        store.add_three();
+        in_partners([&](hand& user) {
+            user.click(u"add"_s);
+            user.type(u"Doe"_s);
+            user.key(Qt::Key_Escape);
+            user.check(!user.is_open(u"message_box"_s), u"only the cell is dropped"_s);
+            user.same(user.cell(grid, 3, 0), QString(), u"name"_s);
+            user.key(Qt::Key_Escape);
+            user.answer(refusal_of_missing_name());
+            user.wait_for_window(partner_window());
+            leave_by_title_bar(user);
+        });
+    }
+
     void which_names_are_missing_data()
     {
         QTest::addColumn<QString>("name");

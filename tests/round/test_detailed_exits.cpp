@@ -129,6 +129,23 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), shots);
     }
 
+    void escape_keeps_the_window_while_a_shot_is_incomplete()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_shot(user, 0, 1, QString(), 0);
+            user.key(Qt::Key_Escape);
+            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.wait_for_window(round_window());
+            user.check(!user.is_open(QStringLiteral("message_box")), QStringLiteral("no question"));
+            user.check(user.visible(details), QStringLiteral("the page stays"));
+            user.close_window(round_window());
+            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.answer(question_on_closing(), QMessageBox::No);
+        });
+    }
+
     void leaving_a_hole_gives_its_first_shot_the_par()
     {
         const golfer_store round;
