@@ -48,10 +48,10 @@ bool refuse(QLineEdit& box, const QString& reason)
     return refuse(box);
 }
 
-bool belongs_to_another_hole(const f_courses& window, int index, int16 value)
+bool belongs_to_another_hole(const f_courses& window, int index, double stored_value)
 {
     for (int other = 0; other < hole_count; ++other) {
-        if (other != index && to_int16(window.txt_hnd(other).text()) == value)
+        if (other != index && plain(to_int16(window.txt_hnd(other).text())) == stored_value)
             return true;
     }
     return false;
@@ -105,14 +105,15 @@ bool leave_hnd(f_courses& window, int index)
     QLineEdit& box = window.txt_hnd(index);
     if (!is_numeric(box.text()))
         return refuse(box);
-    const int16 value = to_int16(box.text());
-    // Several holes may stand at 0: a course can be saved before its indexes are known.
-    if (value == 0)
+    const double value = leading_number(box.text());
+    const double stored_value = round_half_even(value);
+    // Several holes may have 0: a course can be saved before its indexes are known.
+    if (stored_value == 0)
         return true;
-    if (belongs_to_another_hole(window, index, value))
+    if (belongs_to_another_hole(window, index, stored_value))
         return refuse(box, window.caption(u"Cette handicap est attri1buée à un autre trou",
                                           u"This handicap is associated to another hole."));
-    if (value >= stroke_index_limit)
+    if (value >= stroke_index_limit || stored_value >= stroke_index_limit)
         return refuse(box, window.caption(u"La valeur de l'Handicap doit être inférieure à 19.",
                                           u"The handicap must be under 19."));
     return true;
@@ -123,7 +124,9 @@ bool leave_normal(f_courses& window, int index)
     QLineEdit& box = window.txt_normal(index);
     if (!is_numeric(box.text()))
         return refuse(box);
-    const int16 value = to_int16(box.text());
+    // The typed value, not the rounded one: 0.4 is no par, although it would be stored as 0. What lies within
+    // the limits does so when it is rounded, too.
+    const double value = leading_number(box.text());
     if (value != 0 && (value < lowest_par || value > highest_par))
         return refuse(box, window.caption(u"La Normale doit être inférieure à 6 et supérieur à 2.",
                                           u"The par must be under 6 and above 2."));

@@ -149,12 +149,17 @@ private Q_SLOTS:
         row("a stroke index", u"txt_hnd_0"_s, u"18"_s, true);
         row("an unknown stroke index", u"txt_hnd_0"_s, u"0"_s, true);
         row("a negative stroke index", u"txt_hnd_0"_s, u"-3"_s, true);
+        row("a stroke index that rounds down to 18", u"txt_hnd_0"_s, u"18.5"_s, true);
+        row("a stroke index that rounds down to 0", u"txt_hnd_0"_s, u"0.4"_s, true);
+        row("a stroke index that rounds up to 0", u"txt_hnd_0"_s, u"-0.3"_s, true);
         row("no stroke index", u"txt_hnd_0"_s, QString(), false);
         row("a stroke index in letters", u"txt_hnd_0"_s, u"x"_s, false);
         row("par 3", u"txt_normal_0"_s, u"3"_s, true);
         row("par 4", u"txt_normal_0"_s, u"4"_s, true);
         row("par 5", u"txt_normal_0"_s, u"5"_s, true);
         row("an unknown par", u"txt_normal_0"_s, u"0"_s, true);
+        row("a par between two", u"txt_normal_0"_s, u"3.5"_s, true);
+        row("an unknown par with a decimal", u"txt_normal_0"_s, u"0.0"_s, true);
         row("no par", u"txt_normal_0"_s, QString(), false);
         row("a par in letters", u"txt_normal_0"_s, u"p"_s, false);
     }
@@ -180,7 +185,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("typed");
         for (const bool french : {true, false}) {
-            for (const char* par : {"1", "2", "6", "-4", "32767"})
+            for (const char* par :
+                 {"1", "2", "6", "-4", "32767", "5.4", "2.6", "0.4", "-0.3", "99999", "1e9"})
                 QTest::addRow("%s %s", french ? "French" : "English", par)
                     << french << QString::fromLatin1(par);
         }
@@ -223,14 +229,37 @@ private Q_SLOTS:
         });
     }
 
-    void a_stroke_index_of_19_is_refused_data() { both_languages(); }
-    void a_stroke_index_of_19_is_refused()
+    void a_stroke_index_that_rounds_to_that_of_another_hole_is_refused()
     {
-        QFETCH(bool, french);
-        const course_store store(french);
+        const course_store store;
         in_new_course([](hand& user) {
             user.click_tab(u"TabStrip1"_s, 2);
-            type_and_tab(user, u"txt_hnd_0"_s, u"19"_s);
+            type_and_tab(user, u"txt_hnd_0"_s, u"17"_s);
+            type_and_tab(user, u"txt_hnd_4"_s, u"16.6"_s);
+            user.answer(index_is_taken());
+            check_refused(user, u"txt_hnd_4"_s);
+            discard(user);
+        });
+    }
+
+    void a_stroke_index_of_19_typed_or_stored_is_refused_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QString>("typed");
+        for (const bool french : {true, false}) {
+            for (const char* index : {"19", "19.4", "18.6", "99999"})
+                QTest::addRow("%s %s", french ? "French" : "English", index)
+                    << french << QString::fromLatin1(index);
+        }
+    }
+    void a_stroke_index_of_19_typed_or_stored_is_refused()
+    {
+        QFETCH(bool, french);
+        QFETCH(QString, typed);
+        const course_store store(french);
+        in_new_course([&](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            type_and_tab(user, u"txt_hnd_0"_s, typed);
             user.answer(index_is_too_high());
             check_refused(user, u"txt_hnd_0"_s);
             discard(user);
