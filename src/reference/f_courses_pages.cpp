@@ -28,7 +28,9 @@ constexpr int name_characters = 195;
 constexpr int address_characters = 255;
 
 constexpr int left_margin = 3 * rhythm;
-constexpr int departure_width = 20 * rhythm;
+/// Tee, rating and slope: boxes of one width, which share both edges.
+constexpr int short_box_width = 20 * rhythm;
+constexpr int general_box_height = 4 * rhythm;
 constexpr int heading_row = 0;
 /// A hole takes two rows: its figures, and the line below them.
 constexpr int first_hole_row = 2;
@@ -125,10 +127,10 @@ QFrame* f_courses::make_page(int page)
 QFrame* f_courses::make_general_page()
 {
     QFrame* page = make_page(1);
-    QGridLayout* grid = make_grid(*page, 2 * rhythm);
+    QGridLayout* grid = make_grid(*page, 3 * rhythm);
     text.add(1, new QLineEdit)->setMaxLength(name_characters);
     for (const int index : {2, 0})
-        text.add(index, make_number_box(figure_characters + 2));
+        text.add(index, make_number_box(figure_characters))->setFixedWidth(short_box_width);
     for (const int index : {3, 4, 5})
         text.add(index, new QLineEdit)->setMaxLength(address_characters);
     add_labelled_box(*grid, u"lbl_name", caption(u"Nom :", u"Name :"), 1);
@@ -136,6 +138,8 @@ QFrame* f_courses::make_general_page()
     add_labelled_box(*grid, u"lbl_rating", caption(u"Moyenne :", u"Rating :"), 2);
     add_labelled_box(*grid, u"lbl_slope", caption(u"Difficulté :", u"Slope :"), 0);
     add_address(*grid);
+    for (const auto& [index, box] : text.members())
+        box->setMinimumHeight(general_box_height);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return page;
@@ -145,14 +149,16 @@ void f_courses::add_labelled_box(QGridLayout& grid, QStringView name, const QStr
 {
     const int row = grid.rowCount();
     grid.addWidget(make_caption(name.toString(), caption, &text(index)), row, 0);
-    grid.addWidget(&text(index), row, 1);
+    const bool is_short = text(index).maximumWidth() == short_box_width;
+    grid.addWidget(&text(index), row, 1, is_short ? Qt::AlignLeft : Qt::Alignment());
 }
 
 void f_courses::add_departure(QGridLayout& grid)
 {
     auto* label = make_caption(QStringLiteral("lbl_departure"), caption(u"Départ :", u"Teeing Area :"));
     label->setBuddy(departure);
-    departure->setMinimumWidth(departure_width);
+    departure->setFixedWidth(short_box_width);
+    departure->setMinimumHeight(general_box_height);
     const int row = grid.rowCount();
     grid.addWidget(label, row, 0);
     grid.addWidget(departure, row, 1, Qt::AlignLeft);
