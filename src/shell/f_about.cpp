@@ -60,7 +60,8 @@ void f_about::make_controls()
     Label1 = named(make_text(QStringLiteral("Verdane International Inc.")), u"Label1");
     Line1.add(0, make_line());
     Line1.add(1, make_line());
-    cmdSysInfo = named(make_button(caption(u"&Infos système", u"&System Info...")), u"cmdSysInfo");
+    // French in both twins.
+    cmdSysInfo = named(make_button(QStringLiteral("&Infos système")), u"cmdSysInfo");
     cmdOK = named(make_button(QStringLiteral("OK")), u"cmdOK");
 }
 

@@ -148,15 +148,21 @@ void command_store_clean_up()
 
 void command_save()
 {
-    if (current_form)
+    if (current_form && current_form->is_loaded())
         current_form->save();
+    else
+        tell(in_language(u"Il n'y a rien à enregistrer.", u"There is nothing to save."),
+             QMessageBox::Information);
 }
 
 void command_close()
 {
     Unlock_menu();
-    if (current_form)
+    if (current_form && current_form->is_loaded())
         current_form->closeForm();
+    else
+        tell(in_language(u"Il n'y a rien à fermer.", u"There is nothing to close."),
+             QMessageBox::Information);
 }
 
 void command_english()

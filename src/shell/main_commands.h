@@ -19,7 +19,8 @@ void command_about();
 /// The tool behind the entry that is switched off.
 void command_store_clean_up();
 
-/// Save and Close address the window that was at work last; without one nothing happens.
+/// Save and Close address the window that was at work last; when it is closed, or none was opened yet, a
+/// notice says so.
 void command_save();
 void command_close();
 

@@ -7,6 +7,25 @@
 
 namespace verdane {
 
+namespace {
+
+const QString sign = QStringLiteral("sign");
+constexpr double margin = 8;
+
+/// How far a stretch from `first` to `last` is to move to be inside 0 to `end`; its beginning counts if it is
+/// too long. The move keeps `covered_first` at 0 or below and `covered_last` at `end` or above.
+double move_into_view(double first, double last, double end, double covered_first, double covered_last)
+{
+    double move = 0;
+    if (last > end - margin)
+        move = end - margin - last;
+    if (first + move < margin)
+        move = margin - first;
+    return std::min(std::max(move, end - covered_last), -covered_first);
+}
+
+}  // namespace
+
 picture_pane::picture_pane(const QString& drawing, QWidget* parent) : QWidget(parent), file_(drawing)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -18,7 +37,22 @@ QRectF picture_pane::cover() const
     const double scale = std::max(width() / whole.width(), height() / whole.height());
     QRectF area(QPointF(), whole * scale);
     area.moveCenter(QRectF(rect()).center());
+    const QRectF seen = sign_in(area);
+    area.translate(move_into_view(seen.left(), seen.right(), width(), area.left(), area.right()),
+                   move_into_view(seen.top(), seen.bottom(), height(), area.top(), area.bottom()));
     return area;
+}
+
+QRectF picture_pane::sign_in(const QRectF& area) const
+{
+    const QRectF in_drawing = drawing_.boundsOnElement(sign);
+    const double scale = area.width() / drawing_.defaultSize().width();
+    return {area.topLeft() + in_drawing.topLeft() * scale, in_drawing.size() * scale};
+}
+
+QRectF picture_pane::place_of_sign() const
+{
+    return drawing_.isValid() ? sign_in(cover()) : QRectF();
 }
 
 void picture_pane::draw_soon()

@@ -9,7 +9,7 @@ namespace verdane {
 
 wait_form::wait_form() : Form(u"wait", twins::one)
 {
-    setWindowTitle(QStringLiteral("Verdane"));
+    setWindowTitle(QStringLiteral("Please Wait"));
     Label1 = named(make_label(QStringLiteral("Please Wait")), u"Label1");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6 * rhythm, 4 * rhythm, 6 * rhythm, 4 * rhythm);

@@ -1,7 +1,9 @@
 #include <QAction>
 #include <QTest>
 
+#include "boxes.h"
 #include "Form.h"
+#include "language.h"
 #include "main_frame.h"
 #include "main_windows.h"
 #include "MainForm.h"
@@ -9,12 +11,32 @@
 #include "start_up.h"
 
 using namespace verdane;
+using verdane::testing::both_stored_languages;
 using verdane::testing::entry;
+using verdane::testing::expected_box;
 using verdane::testing::hand;
 using verdane::testing::in_main_window;
 using verdane::testing::one_course;
 using verdane::testing::program_run;
 using verdane::testing::tool;
+
+namespace {
+
+expected_box notice(QStringView french, QStringView english)
+{
+    return {in_language(french, english), QMessageBox::Information, default_title()};
+}
+
+/// The upper edge of the board is brown, whatever surrounds it.
+bool is_of_wood(picture_pane& pane, const QRectF& sign)
+{
+    const QImage picture = pane.grab().toImage();
+    const QPoint edge(qRound(sign.center().x()), qRound(sign.top() + sign.height() * 0.12));
+    const int hue = picture.pixelColor(edge * picture.devicePixelRatio()).hslHue();
+    return hue > 15 && hue < 45;
+}
+
+}  // namespace
 
 class test_main_window : public QObject {
     Q_OBJECT
@@ -90,18 +112,55 @@ private Q_SLOTS:
         });
     }
 
-    void save_and_close_without_a_window_do_nothing()
+    void save_and_close_without_a_window_say_that_there_is_nothing_to_do_data() { both_stored_languages(); }
+    void save_and_close_without_a_window_say_that_there_is_nothing_to_do()
     {
-        in_main_window(1, one_course(), [](hand& user) {
-            user.click(QStringLiteral("B4"));
-            user.click(QStringLiteral("B5"));
+        QFETCH(int, language);
+        in_main_window(language, one_course(), [](hand& user) {
+            const auto save_and_close = [&user] {
+                user.click(QStringLiteral("B4"));
+                user.answer(notice(u"Il n'y a rien à enregistrer.", u"There is nothing to save."));
+                user.look([] { Lock_menu(); });
+                user.click(QStringLiteral("B5"));
+                user.answer(notice(u"Il n'y a rien à fermer.", u"There is nothing to close."));
+                user.check(user.enabled(QStringLiteral("mOpen")), QStringLiteral("Close unlocks the menu"));
+            };
+            save_and_close();
             user.menu(QStringLiteral("mManagF"));
-            user.wait_for_window(QStringLiteral("f_c_list"));
             user.click(QStringLiteral("Command1_2"));
-            user.wait_until_gone(QStringLiteral("f_c_list"));
-            user.click(QStringLiteral("B4"));
-            user.click(QStringLiteral("B5"));
-            user.check(user.enabled(QStringLiteral("mOpen")), QStringLiteral("the menu stays open"));
+            user.wait_until_gone(in_language(u"f_c_list", u"f_c_list_en"));
+            save_and_close();
+        });
+    }
+
+    void the_sign_in_the_picture_is_in_view_at_every_size_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QSize>("size");
+        for (const int language : {1, 2}) {
+            for (const QSize size : {QSize(800, 600), QSize(640, 400), QSize(800, 780), QSize(1366, 768),
+                                     QSize(1920, 500), QSize(640, 1000)})
+                QTest::addRow("%s %d x %d", language == 1 ? "French" : "English", size.width(), size.height())
+                    << language << size;
+        }
+    }
+    void the_sign_in_the_picture_is_in_view_at_every_size()
+    {
+        QFETCH(int, language);
+        QFETCH(QSize, size);
+        in_main_window(language, {}, [&](hand& user) {
+            user.look([&] { MainForm::of_run()->resize(size); });
+            const auto pane = [] {
+                return dynamic_cast<picture_pane*>(MainForm::of_run()->findChild<QWidget*>(
+                    is_french ? QStringLiteral("Picture1") : QStringLiteral("Picture2")));
+            };
+            user.wait_until(QStringLiteral("the picture"),
+                            [&] { return !pane()->place_of_sign().isEmpty(); });
+            user.look([&] {
+                QVERIFY(pane()->isVisible());
+                QVERIFY(QRectF(pane()->rect()).contains(pane()->place_of_sign()));
+                QVERIFY(is_of_wood(*pane(), pane()->place_of_sign()));
+            });
         });
     }
 

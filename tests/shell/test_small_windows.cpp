@@ -3,10 +3,14 @@
 #include "boxes.h"
 #include "f_about.h"
 #include "f_flash.h"
+#include "f_report.h"
 #include "language.h"
 #include "MainForm.h"
 #include "program_run.h"
+#include "report_preview.h"
+#include "report_store.h"
 #include "start_up.h"
+#include "store_folder.h"
 #include "system_information.h"
 #include "wait.h"
 
@@ -14,6 +18,7 @@ using namespace verdane;
 using verdane::testing::hand;
 using verdane::testing::play;
 using verdane::testing::program_run;
+using verdane::testing::store_folder;
 
 class test_small_windows : public QObject {
     Q_OBJECT
@@ -43,8 +48,7 @@ private Q_SLOTS:
         QCOMPARE(window.lblTitle->text(), name);
         QCOMPARE(window.lblVersion->text(), QStringLiteral("Version 1.4"));
         QCOMPARE(window.cmdOK->text(), QStringLiteral("OK"));
-        if (french)
-            QCOMPARE(window.cmdSysInfo->text(), QStringLiteral("&Infos système"));
+        QCOMPARE(window.cmdSysInfo->text(), QStringLiteral("&Infos système"));
         for (const QLabel* line : {window.lblDescription, window.lblDisclaimer, window.Label1})
             QVERIFY(!line->text().isEmpty());
     }
@@ -113,7 +117,27 @@ private Q_SLOTS:
     {
         wait_form window;
         QCOMPARE(window.objectName(), QStringLiteral("wait"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Please Wait"));
         QCOMPARE(window.Label1->text(), QStringLiteral("Please Wait"));
+    }
+
+    void the_report_window_has_one_report_control_that_opens_its_preview_above_it()
+    {
+        const store_folder store;
+        set_report_store(store.path());
+        f_report window;
+        QCOMPARE(window.objectName(), QStringLiteral("f_report"));
+        prepare_report(window.cr2, report_opening::zoomed(75), u"\\r_card2.rpt", u"\\r_card2_en.rpt");
+        play([&] { window.show_modal(); },
+             [&](hand& user) {
+                 user.wait_for_window(QStringLiteral("f_report"));
+                 user.look([&] { window.cr2.Action(report_control::run_now); });
+                 user.wait_for_window(QStringLiteral("report_preview"));
+                 user.look([&] { QCOMPARE(window.cr2.preview()->parentWidget(), &window); });
+                 user.close_window(QStringLiteral("report_preview"));
+                 user.wait_until_gone(QStringLiteral("report_preview"));
+                 user.close_window(QStringLiteral("f_report"));
+             });
     }
 
     void the_picture_window_stands_against_the_main_window()

@@ -1,0 +1,169 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTest>
+
+#include "every_window.h"
+#include "hand_widgets.h"
+#include "language.h"
+#include "start_up.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const reachable_window& window_of_row(int window)
+{
+    return every_window()[static_cast<std::size_t>(window)];
+}
+
+/// The list that F1 shows begins with what the window has of its own.
+QString first_lines(const QString& family)
+{
+    if (family == u"MainForm")
+        return in_language(u"Alt+lettre soulignée : ", u"Alt+underlined letter: ");
+    if (family == u"report_preview")
+        return in_language(u"Ctrl+P : Imprimer…\nCtrl+S : Enregistrer en PDF…\n",
+                           u"Ctrl+P: Print…\nCtrl+S: Save as PDF…\n");
+    const QString escape =
+        in_language(u"Échap : Annuler ou fermer la fenêtre\n", u"Esc: Cancel or close the window\n");
+    if (family == u"f_new_round")
+        return escape + in_language(u"Ctrl+N : Coup suivant\n"
+                                    "Ctrl+Suppr : Supprimer le coup\n"
+                                    "F5 : Fin du trou, carte rafraîchie\n",
+                                    u"Ctrl+N: Next shot\n"
+                                    "Ctrl+Del: Remove the shot\n"
+                                    "F5: End of the hole, scorecard refreshed\n");
+    if (family == u"f_games")
+        return escape +
+               in_language(u"Entrée : Ouvrir la ronde choisie\n", u"Enter: Open the selected round\n");
+    if (family == u"f_c_list")
+        return escape +
+               in_language(u"Entrée : Ouvrir le terrain choisi\n", u"Enter: Open the selected course\n");
+    return escape;
+}
+
+/// Letters that act together, each with the captions that have it.
+using mnemonic_group = QMap<QString, QStringList>;
+
+void take(mnemonic_group& group, const QString& caption)
+{
+    const QKeySequence keys = QKeySequence::mnemonic(caption);
+    if (!keys.isEmpty())
+        group[keys.toString()] << caption;
+}
+
+/// The letters of a window, and those of each of its menus, which act while the menu is open.
+QList<mnemonic_group> mnemonics_of(const QWidget& window)
+{
+    QList<mnemonic_group> groups(1);
+    for (const QMenuBar* bar : window.findChildren<QMenuBar*>()) {
+        for (const QAction* top : bar->actions()) {
+            take(groups.front(), top->text());
+            mnemonic_group entries;
+            for (const QAction* entry : top->menu() ? top->menu()->actions() : QList<QAction*>()) {
+                if (entry->isVisible())
+                    take(entries, entry->text());
+            }
+            groups << entries;
+        }
+    }
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
+        take(groups.front(), button->text());
+    for (const QGroupBox* box : window.findChildren<QGroupBox*>())
+        take(groups.front(), box->title());
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        if (label->buddy())
+            take(groups.front(), label->text());
+    }
+    return groups;
+}
+
+/// The captions that share a letter. The two of the English menu bar are the program's own captions.
+QStringList collisions(const mnemonic_group& group)
+{
+    QStringList shared;
+    for (const QStringList& captions : group) {
+        if (captions.size() > 1 && captions != QStringList{u"&Golf Courses"_s, u"&Golf Clubs"_s})
+            shared << captions;
+    }
+    return shared;
+}
+
+}  // namespace
+
+/// Keys that mean the same in every window.
+class test_window_keys : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { prepare_application(*qApp); }
+
+    void f1_lists_the_shortcuts_of_the_window_data() { every_window_in_both_languages(); }
+    void f1_lists_the_shortcuts_of_the_window()
+    {
+        QFETCH(int, language);
+        QFETCH(int, window);
+        in_window(language, window, [&](hand& user) {
+            const QString name = name_of_twin(window_of_row(window));
+            user.look([&] { visible_window(name)->activateWindow(); });
+            user.key(Qt::Key_F1);
+            user.wait_for_window(u"message_box"_s);
+            user.same(user.title(u"message_box"_s), in_language(u"Raccourcis clavier", u"Keyboard shortcuts"),
+                      u"title"_s);
+            QString lines;
+            user.look([&] { lines = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget()).text(); });
+            const QString first = first_lines(QString::fromLatin1(window_of_row(window).family));
+            user.same(lines.left(first.size()), first, u"first lines"_s);
+            const QString last = in_language(u"\nF1 : Montrer cette liste", u"\nF1: Show this list");
+            user.same(lines.right(last.size()), last, u"last line"_s);
+            user.answer({lines, QMessageBox::NoIcon, user.title(u"message_box"_s), QMessageBox::Ok});
+            user.look([&] { QCOMPARE(QApplication::activeWindow(), visible_window(name)); });
+        });
+    }
+
+    void every_mnemonic_of_a_window_is_its_own_data() { every_window_in_both_languages(); }
+    void every_mnemonic_of_a_window_is_its_own()
+    {
+        QFETCH(int, language);
+        QFETCH(int, window);
+        in_window(language, window, [&](hand& user) {
+            user.look([&] {
+                for (const mnemonic_group& group :
+                     mnemonics_of(*visible_window(name_of_twin(window_of_row(window)))))
+                    QCOMPARE(collisions(group), QStringList());
+            });
+        });
+    }
+
+    void escape_clicks_the_cancel_button_data()
+    {
+        every_window_in_both_languages([](const reachable_window& window) { return window.cancel_button; });
+    }
+    void escape_clicks_the_cancel_button()
+    {
+        QFETCH(int, language);
+        QFETCH(int, window);
+        const reachable_window& chosen = window_of_row(window);
+        int clicks = 0;
+        in_window(language, window, [&](hand& user) {
+            user.look([&] {
+                auto* button = visible_window(name_of_twin(chosen))
+                                   ->findChild<QAbstractButton*>(QString::fromLatin1(chosen.cancel_button));
+                QVERIFY(button && button->isVisible());
+                QObject::connect(button, &QAbstractButton::clicked, button, [&clicks] { ++clicks; });
+            });
+            user.key(Qt::Key_Escape);
+            user.look([&] { QCOMPARE(clicks, 1); });
+        });
+    }
+};
+
+QTEST_MAIN(test_window_keys)
+#include "test_window_keys.moc"
