@@ -1,11 +1,14 @@
 #include "every_window.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 
 #include "Form.h"
 #include "hand_widgets.h"
+#include "language.h"
 #include "main_windows.h"
 #include "program_run.h"
 
@@ -49,7 +52,8 @@ void answer_box(hand& user)
     user.look([] {
         auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
         QAbstractButton* no = box.button(QMessageBox::No);
-        QMetaObject::invokeMethod(no ? no : box.button(QMessageBox::Ok), "click", Qt::QueuedConnection);
+        QMetaObject::invokeMethod(no ? no : box.button(QMessageBox::Ok), &QAbstractButton::click,
+                                  Qt::QueuedConnection);
     });
 }
 
