@@ -1,6 +1,7 @@
 #include "page_cuts.h"
 
 #include "page_bands.h"
+#include "page_limits.h"
 
 namespace verdane {
 
@@ -9,7 +10,7 @@ namespace {
 /// Fills pages with bands, from the top of the document to its end.
 class page_filler {
 public:
-    explicit page_filler(double page_height) : page_height_(page_height) {}
+    page_filler(double page_height, const template_place& place) : page_height_(page_height), place_(place) {}
 
     void put(const page_band& band)
     {
@@ -43,7 +44,7 @@ private:
     void start_page(const page_band& band)
     {
         const bool head_fits = band.head.height() + band.place.height() <= page_height_;
-        pages_.push_back({head_fits ? band.head : page_strip(), {band.place.top, band.place.top}});
+        add_page({head_fits ? band.head : page_strip(), {band.place.top, band.place.top}});
     }
 
     /// What is taller than a page goes on where the page ends.
@@ -52,19 +53,29 @@ private:
         while (page().body.height() > room()) {
             const page_strip rest{page().body.top + room(), page().body.bottom};
             page().body.bottom = rest.top;
-            pages_.push_back({page().repeated_head, rest});
+            add_page({page().repeated_head, rest});
         }
     }
 
+    /// The limit also ends the cutting where a page has so little room that the rest never gets smaller.
+    void add_page(const page_cut& cut)
+    {
+        if (pages_.size() == most_pages)
+            fail_template(place_, QStringLiteral("the report has more than %1 pages").arg(most_pages));
+        pages_.push_back(cut);
+    }
+
     double page_height_;
+    template_place place_;
     std::vector<page_cut> pages_;
 };
 
 }  // namespace
 
-std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height)
+std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height,
+                                     const template_place& place)
 {
-    page_filler filler(page_height);
+    page_filler filler(page_height, place);
     for (const page_band& band : bands_of(document))
         filler.put(band);
     return filler.result();

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "template_failure.h"
+
 class QTextDocument;
 
 namespace verdane {
@@ -23,7 +25,9 @@ struct page_cut {
 /// Cuts a document into pages of a height. A cut goes between two lines or two rows of a table, never
 /// through one; rows that a cell joins stay together, and so does a table's head with its first row
 /// and, where the head is repeated, the table's foot with its last row.
-/// Only what is taller than a whole page is cut where the page ends. There is always one page.
-std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height);
+/// Only what is taller than a whole page is cut where the page ends. There is always one page. Fails with
+/// `report_template`, at `place`, on more than `most_pages` pages, whatever the height.
+std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height,
+                                     const template_place& place);
 
 }  // namespace verdane

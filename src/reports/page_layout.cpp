@@ -4,9 +4,10 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QTextDocument>
 
+#include "closed_document.h"
 #include "layout_units.h"
+#include "page_values.h"
 
 namespace verdane {
 
@@ -31,7 +32,7 @@ page_layout::page_layout(const template_file& source, const QString& html)
     : font_(report_font(source)),
       paper_(QPointF(0, 0), source.page_size_mm() * units_per_mm),
       inside_(paper_.marginsRemoved(source.margins * units_per_mm)),
-      document_(std::make_unique<QTextDocument>())
+      document_(std::make_unique<closed_document>())
 {
     document_->setUndoRedoEnabled(false);
     document_->setDocumentMargin(0);
@@ -42,8 +43,11 @@ page_layout::page_layout(const template_file& source, const QString& html)
     // which would be laid out twice otherwise.
     document_->setTextWidth(inside_.width());
     document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
+    // What the check of the page did not see must not pass in silence.
+    if (!document_->refused().isEmpty())
+        fail_template(source.at(source.body_line), file_words(document_->refused().constFirst()));
     shrink_ = qMin(1.0, inside_.width() / document_->size().width());
-    cuts_ = cut_into_pages(*document_, inside_.height() / shrink_);
+    cuts_ = cut_into_pages(*document_, inside_.height() / shrink_, source.at(source.body_line));
 }
 
 page_layout::~page_layout() = default;

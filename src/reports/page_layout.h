@@ -11,15 +11,17 @@
 #include "template_file.h"
 
 class QPainter;
-class QTextDocument;
 
 namespace verdane {
+
+class closed_document;
 
 /// A report's HTML laid out on pages. Everything here is in layout units (`layout_units.h`).
 class page_layout {
 public:
     /// Lays out `html` on the paper and within the margins of `source`. Table heads (`<thead>`) stand
-    /// again on each page. Fails with `report_template` on a drawing that is wrong.
+    /// again on each page. Fails with `report_template` on a drawing that is wrong, on HTML that would load a
+    /// file, and on too many pages.
     page_layout(const template_file& source, const QString& html);
     ~page_layout();
 
@@ -37,7 +39,7 @@ private:
     QRectF paper_;
     QRectF inside_;
     report_drawings drawings_;
-    std::unique_ptr<QTextDocument> document_;
+    std::unique_ptr<closed_document> document_;
     /// Below 1 where the body is wider than the page: letters of another machine may be, and a column
     /// that is printed smaller is better than one that is cut off.
     double shrink_ = 1;

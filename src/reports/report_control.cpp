@@ -6,6 +6,8 @@
 #include "page_view.h"
 #include "report_document.h"
 #include "report_preview.h"
+#include "report_stopped.h"
+#include "report_wait.h"
 #include "run_time_failure.h"
 
 namespace verdane {
@@ -20,6 +22,22 @@ QString path_of_platform(QString path)
     return before_file < 0 ? path : path.replace(before_file, 1, u'/');
 }
 
+/// The report, or nothing when the user stopped it and was shown that.
+std::shared_ptr<const report_document> document_or_stopped(const QString& path, const QString& title)
+{
+    QString where;
+    {
+        report_wait wait(title);
+        try {
+            return render_report(path, [&wait] { return wait.goes_on(); });
+        } catch (const report_stopped& stopped) {
+            where = stopped.where();
+        }
+    }
+    tell_report_stopped(title, where);
+    return nullptr;
+}
+
 }  // namespace
 
 void report_control::Action(int value)
@@ -27,8 +45,11 @@ void report_control::Action(int value)
     if (value != run_now)
         throw run_time_failure(failure_kind::misuse,
                                QStringLiteral("a report control knows no action %1").arg(value));
-    auto* window =
-        new report_preview(render_report(path_of_platform(report_file_name_)), window_title_, owner_);
+    preview_.clear();
+    const auto document = document_or_stopped(path_of_platform(report_file_name_), window_title_);
+    if (document == nullptr)
+        return;
+    auto* window = new report_preview(document, window_title_, owner_);
     preview_ = window;
     if (page_zoom_)
         window->pages().set_zoom(*page_zoom_);

@@ -37,9 +37,10 @@ public:
     const QString& ReportFileName() const { return report_file_name_; }
     void set_ReportFileName(const QString& path) { report_file_name_ = path; }
 
-    /// With 1: reads the template and the committed rows of the store, opens the preview and comes
-    /// back while it is open. Fails with `report_template` or `store_unreachable`, and with `misuse`
-    /// for any other value.
+    /// With 1: reads the template and the committed rows of the store, opens the preview and returns
+    /// while it is open. A user who does not want to wait for the queries can stop them: a box says so, and
+    /// no preview opens. Fails with `report_template` or as the store does, and with `misuse` for any other
+    /// value.
     void Action(int value);
 
     /// The preview that the last `Action` opened, as long as it is open.

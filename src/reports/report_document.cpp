@@ -5,6 +5,7 @@
 
 #include "csv_text.h"
 #include "layout_units.h"
+#include "page_check.h"
 #include "page_layout.h"
 #include "report_drawings.h"
 #include "report_files.h"
@@ -24,14 +25,15 @@ report_document::report_document(std::unique_ptr<contents> made) : contents_(std
 
 report_document::~report_document() = default;
 
-std::shared_ptr<const report_document> render_report(const QString& template_path)
+std::shared_ptr<const report_document> render_report(const QString& template_path, const keep_going& goes_on)
 {
     auto made = std::make_unique<report_document::contents>();
     made->source = read_template(template_path);
     template_file marked = made->source;
     marked.body = report_drawings::marked(marked.body, marked.body_line);
-    const report_snapshot snapshot(marked);
+    const report_snapshot snapshot(marked, goes_on);
     const QString html = fill_body(marked, snapshot);
+    check_page(marked, snapshot, html);
     fill_footer(marked, 1, 1);
     made->figures = snapshot.rows(*marked.find_query(marked.csv_query));
     made->pages = std::make_unique<page_layout>(made->source, html);

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+#include "query_guard.h"
+
 class QPainter;
 class QPrinter;
 
@@ -52,7 +54,8 @@ public:
     void print(QPrinter& printer) const;
 
 private:
-    friend std::shared_ptr<const report_document> render_report(const QString& template_path);
+    friend std::shared_ptr<const report_document> render_report(const QString& template_path,
+                                                                const keep_going& goes_on);
     struct contents;
     explicit report_document(std::unique_ptr<contents> made);
 
@@ -60,7 +63,9 @@ private:
 };
 
 /// Reads a template, asks the store for its figures and lays the pages out. Fails with
-/// `report_template` (file and line in the details) or `store_unreachable`.
-std::shared_ptr<const report_document> render_report(const QString& template_path);
+/// `report_template` (file and line in the details) or as `report_snapshot` does. `goes_on` is asked while
+/// queries run; `report_stopped` is thrown when it says no.
+std::shared_ptr<const report_document> render_report(const QString& template_path,
+                                                     const keep_going& goes_on = {});
 
 }  // namespace verdane

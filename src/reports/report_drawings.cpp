@@ -6,6 +6,7 @@
 #include <QXmlStreamReader>
 
 #include "layout_units.h"
+#include "page_limits.h"
 
 namespace verdane {
 
@@ -19,14 +20,44 @@ QString attribute_of(const QString& start_tag, const QString& name)
     return form.match(start_tag).captured(1);
 }
 
-/// What the XML reader says about a drawing, or nothing when it is well-formed. The renderer itself
-/// only writes to the log.
-QString xml_error(const QString& svg)
+/// Without `use`, which repeats its element as often as somebody likes, and without whatever loads a file.
+bool is_drawn(QStringView element)
+{
+    static const QStringList elements{QStringLiteral("svg"),           QStringLiteral("g"),
+                                      QStringLiteral("defs"),          QStringLiteral("title"),
+                                      QStringLiteral("desc"),          QStringLiteral("line"),
+                                      QStringLiteral("rect"),          QStringLiteral("circle"),
+                                      QStringLiteral("ellipse"),       QStringLiteral("path"),
+                                      QStringLiteral("polyline"),      QStringLiteral("polygon"),
+                                      QStringLiteral("text"),          QStringLiteral("tspan"),
+                                      QStringLiteral("stop"),          QStringLiteral("linearGradient"),
+                                      QStringLiteral("radialGradient")};
+    return elements.contains(element);
+}
+
+/// What is wrong with a drawing in words, or nothing. The renderer itself only writes to the log, and would
+/// load the files that a drawing names.
+QString drawing_error(const QString& svg)
 {
     QXmlStreamReader reader(svg);
-    while (!reader.atEnd())
+    while (!reader.atEnd()) {
         reader.readNext();
-    return reader.hasError() ? reader.errorString() : QString();
+        if (reader.isStartElement() && !is_drawn(reader.name()))
+            return QStringLiteral("a drawing holds no %1").arg(reader.name());
+        if (reader.isProcessingInstruction() || reader.isDTD())
+            return QStringLiteral("a drawing holds no instructions");
+    }
+    return reader.hasError() ? QStringLiteral("a drawing is no SVG: %1").arg(reader.errorString())
+                             : QString();
+}
+
+/// What is wrong with the sizes of the texts on paper, in words, or nothing.
+QString text_error(const std::vector<drawing_text>& texts, double points_per_unit)
+{
+    for (const drawing_text& text : texts)
+        if (!is_printable_size(text.size * points_per_unit))
+            return unprintable_size(QStringLiteral("%1 pt").arg(text.size * points_per_unit, 0, 'g', 3));
+    return {};
 }
 
 }  // namespace
@@ -67,13 +98,17 @@ report_drawings::drawing report_drawings::read(const QString& svg, const templat
                       length_in_units(attribute_of(start_tag, QStringLiteral("height"))));
     if (size.isEmpty())
         fail_template(place, QStringLiteral("a drawing needs a width and a height in mm, pt or px"));
-    const QString error = xml_error(svg);
+    const QString error = drawing_error(svg);
     if (!error.isEmpty())
-        fail_template(place, QStringLiteral("a drawing is no SVG: %1").arg(error));
+        fail_template(place, error);
     parted_drawing parted = with_texts_apart(svg);
     auto renderer = std::make_unique<QSvgRenderer>(parted.svg.toUtf8());
-    if (!renderer->isValid())
+    if (!renderer->isValid() || !(renderer->viewBoxF().height() > 0))
         fail_template(place, QStringLiteral("a drawing is no SVG"));
+    const QString text_words =
+        text_error(parted.texts, size.height() / renderer->viewBoxF().height() / units_per_pt);
+    if (!text_words.isEmpty())
+        fail_template(place, text_words);
     return {std::move(renderer), std::move(parted.texts), size};
 }
 

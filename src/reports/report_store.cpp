@@ -6,7 +6,12 @@
 #include <QSqlRecord>
 #include <QUuid>
 
+#include <sqlite3.h>
+
+#include "page_limits.h"
 #include "query_text.h"
+#include "report_stopped.h"
+#include "report_tables.h"
 #include "run_time_failure.h"
 
 namespace verdane {
@@ -30,19 +35,18 @@ QString as_next_of_list(const QString& sql)
     return QStringLiteral(",\n") + sql.sliced(match.capturedEnd());
 }
 
-report_rows fetched(QSqlQuery& query)
+failure_kind kind_of(const QSqlError& error)
 {
-    report_rows result;
-    const QSqlRecord record = query.record();
-    for (int column = 0; column < record.count(); ++column)
-        result.columns.append(record.fieldName(column));
-    while (query.next()) {
-        std::vector<QVariant> row;
-        for (int column = 0; column < record.count(); ++column)
-            row.push_back(query.isNull(column) ? QVariant() : query.value(column));
-        result.rows.push_back(std::move(row));
+    switch (error.nativeErrorCode().toInt() & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return failure_kind::store_locked;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return failure_kind::store_damaged;
+    default:
+        return failure_kind::store_unreachable;
     }
-    return result;
 }
 
 }  // namespace
@@ -57,28 +61,48 @@ QString report_store()
     return store_path();
 }
 
-report_snapshot::report_snapshot(const template_file& source) : source_(source)
+qsizetype characters_in(const std::vector<QVariant>& row)
+{
+    qsizetype sum = 0;
+    for (const QVariant& value : row)
+        sum += value.toString().size();
+    return sum;
+}
+
+report_snapshot::report_snapshot(const template_file& source, const keep_going& goes_on) : source_(source)
 {
     const QString name = QStringLiteral("verdane_reports_") + QUuid::createUuid().toString();
     database_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-    database_.setDatabaseName(report_store());
-    database_.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=5000"));
-    if (!report_store().isEmpty() && database_.open() && database_.transaction())
-        return;
-    const QString words = database_.lastError().text();
-    database_ = QSqlDatabase();
-    QSqlDatabase::removeDatabase(name);
-    throw run_time_failure(failure_kind::store_unreachable,
-                           QStringLiteral("%1: %2: %3").arg(source.file_name, report_store(), words));
+    database_.setDatabaseName(QStringLiteral(":memory:"));
+    database_.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=5000"));
+    try {
+        open();
+        guard_ = std::make_unique<query_guard>(database_, goes_on);
+    } catch (...) {
+        database_ = QSqlDatabase();
+        QSqlDatabase::removeDatabase(name);
+        throw;
+    }
 }
 
 report_snapshot::~report_snapshot()
 {
+    guard_.reset();
     const QString name = database_.connectionName();
-    database_.rollback();
     database_.close();
     database_ = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
+}
+
+void report_snapshot::open()
+{
+    QSqlError error;
+    if (report_store().isEmpty() || !database_.open())
+        error = database_.lastError();
+    else if (error = copy_report_tables(database_, report_store()); !error.isValid())
+        return;
+    throw run_time_failure(kind_of(error),
+                           QStringLiteral("%1: %2: %3").arg(source_.file_name, report_store(), error.text()));
 }
 
 QStringList report_snapshot::parameters_of(const template_query& query)
@@ -116,6 +140,8 @@ report_rows report_snapshot::rows(const template_query& query, const report_para
 
 report_rows report_snapshot::run(const template_query& query, const report_parameters& parameters) const
 {
+    check_time(query);
+    guard_->take_refusal();
     QSqlQuery statement(database_);
     statement.setForwardOnly(true);
     bool well = statement.prepare(statement_for(query));
@@ -125,10 +151,61 @@ report_rows report_snapshot::run(const template_query& query, const report_param
                             found == parameters.end() ? QVariant() : found->second);
     }
     well = well && statement.exec();
-    if (!well)
-        fail_template(source_.at(query.line),
-                      QStringLiteral("query %1: %2").arg(query.name, statement.lastError().text()));
-    return fetched(statement);
+    if (!well || !statement.isSelect())
+        fail(query, statement);
+    return fetched(query, statement);
+}
+
+report_rows report_snapshot::fetched(const template_query& query, QSqlQuery& statement) const
+{
+    report_rows result;
+    const QSqlRecord record = statement.record();
+    for (int column = 0; column < record.count(); ++column)
+        result.columns.append(record.fieldName(column));
+    qsizetype characters = 0;
+    while (statement.next()) {
+        std::vector<QVariant> row;
+        for (int column = 0; column < record.count(); ++column)
+            row.push_back(statement.isNull(column) ? QVariant() : statement.value(column));
+        characters += characters_in(row);
+        result.rows.push_back(std::move(row));
+        if (result.rows.size() > most_rows_of_query)
+            fail_template(
+                source_.at(query.line),
+                QStringLiteral("query %1: more than %2 rows").arg(query.name).arg(most_rows_of_query));
+        if (characters > most_placed_characters)
+            fail_template(source_.at(query.line), QStringLiteral("query %1: more than %2 characters")
+                                                      .arg(query.name)
+                                                      .arg(most_placed_characters));
+    }
+    if (statement.lastError().isValid())
+        fail(query, statement);
+    return result;
+}
+
+void report_snapshot::fail(const template_query& query, const QSqlQuery& statement) const
+{
+    static const QString no_table = QStringLiteral("no such table: ");
+    check_time(query);
+    const QSqlError error = statement.lastError();
+    QString refusal = guard_->take_refusal();
+    if (refusal.isEmpty() && error.databaseText().startsWith(no_table))
+        refusal = QStringLiteral("%1 is none of them").arg(error.databaseText().sliced(no_table.size()));
+    if (refusal.isEmpty() && !error.isValid())
+        refusal = QStringLiteral("any other statement is refused");
+    if (!refusal.isEmpty())
+        refusal =
+            QStringLiteral("a query can only select from the report tables and the queries above it; %1")
+                .arg(refusal);
+    fail_template(source_.at(query.line),
+                  QStringLiteral("query %1: %2").arg(query.name, refusal.isEmpty() ? error.text() : refusal));
+}
+
+void report_snapshot::check_time(const template_query& query) const
+{
+    if (!guard_->goes_on())
+        throw report_stopped(
+            QStringLiteral("%1:%2: query %3").arg(source_.file_name).arg(query.line).arg(query.name));
 }
 
 }  // namespace verdane

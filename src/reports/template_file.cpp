@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QSizeF>
 
+#include "page_limits.h"
 #include "template_head.h"
 
 namespace verdane {
@@ -16,6 +17,8 @@ QString read_text(const QString& path, const template_place& place)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         fail_template(place, QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
+    if (file.size() > most_template_bytes)
+        fail_template(place, QStringLiteral("the template is longer than %1 bytes").arg(most_template_bytes));
     QString text = QString::fromUtf8(file.readAll());
     return text.remove(u'\r');
 }

@@ -26,6 +26,7 @@ struct template_file {
     bool landscape = false;
     /// Left, top, right, bottom, in millimetres.
     QMarginsF margins{15, 15, 15, 15};
+    int margins_line = 1;
 
     /// The letters of the page: the first of these families that the machine has, in points.
     QStringList font_families{QStringLiteral("DejaVu Sans")};
@@ -54,7 +55,8 @@ struct template_file {
 };
 
 /// Reads a template. Fails with `report_template`, naming file and line, when the file cannot be
-/// opened, a line of the head is not understood or the line `---` before the body is missing.
+/// opened or is longer than `most_template_bytes`, a line of the head is not understood, the margins leave no
+/// page, or the line `---` before the body is missing.
 template_file read_template(const QString& path);
 
 }  // namespace verdane

@@ -2,6 +2,7 @@
 
 #include <kainjow/mustache.hpp>
 
+#include "page_limits.h"
 #include "template_scope.h"
 
 namespace verdane {
@@ -60,8 +61,7 @@ public:
     }
 
 private:
-    void put_queries(data& target, const std::vector<template_node>& nodes,
-                     const report_parameters& around) const
+    void put_queries(data& target, const std::vector<template_node>& nodes, const report_parameters& around)
     {
         for (const template_node& node : nodes) {
             const template_query* query = source_.find_query(node.tag.name);
@@ -75,17 +75,29 @@ private:
     }
 
     void put_rows(data& target, const template_node& node, const template_query& query,
-                  const report_parameters& around) const
+                  const report_parameters& around)
     {
         const report_rows found = snapshot_.rows(query, around);
         data list(data::type::list);
-        for (const std::vector<QVariant>& row : found.rows)
+        for (const std::vector<QVariant>& row : found.rows) {
+            count_row(node, row);
             list.push_back(row_data(node, found.columns, row, around));
+        }
         target.set(query.name.toStdString(), list);
     }
 
+    /// Rows inside rows multiply: a template of a few lines could fill the memory.
+    void count_row(const template_node& node, const std::vector<QVariant>& row)
+    {
+        placed_characters_ += least_row + node.length + characters_in(row);
+        if (placed_characters_ > most_placed_characters)
+            fail_template(
+                source_.at(node.tag.line),
+                QStringLiteral("the sections place more than %1 characters").arg(most_placed_characters));
+    }
+
     data row_data(const template_node& node, const QStringList& columns, const std::vector<QVariant>& row,
-                  report_parameters around) const
+                  report_parameters around)
     {
         data result(data::type::object);
         for (qsizetype column = 0; column < columns.size(); ++column) {
@@ -97,8 +109,12 @@ private:
         return result;
     }
 
+    /// What a row costs without any text in it, in characters.
+    static constexpr qsizetype least_row = 100;
+
     const template_file& source_;
     const report_snapshot& snapshot_;
+    qsizetype placed_characters_ = 0;
 };
 
 std::string escaped(const std::string& text)
@@ -128,7 +144,12 @@ QString fill_body(const template_file& source, const report_snapshot& snapshot)
     if (!body.is_valid())
         fail_template(source.at(source.body_line), QString::fromStdString(body.error_message()));
     body.set_custom_escape(escaped);
-    return QString::fromStdString(body.render(data_builder(source, snapshot).build(nodes)));
+    QString result = QString::fromStdString(body.render(data_builder(source, snapshot).build(nodes)));
+    if (result.size() > most_page_characters)
+        fail_template(
+            source.at(source.body_line),
+            QStringLiteral("the filled body has more than %1 characters").arg(most_page_characters));
+    return result;
 }
 
 QString fill_footer(const template_file& source, int page, int pages)

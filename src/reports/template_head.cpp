@@ -1,9 +1,11 @@
 #include "template_head.h"
 
+#include <QRectF>
 #include <QRegularExpression>
 
 #include <map>
 
+#include "page_limits.h"
 #include "query_text.h"
 
 namespace verdane {
@@ -49,6 +51,7 @@ void read_margins(template_file& target, const head_setting& setting)
         fail_template(target.at(setting.line),
                       QStringLiteral("margins are four numbers in millimetres: top right bottom left"));
     target.margins = QMarginsF(widths[3], widths[0], widths[1], widths[2]);
+    target.margins_line = setting.line;
 }
 
 void read_font(template_file& target, const head_setting& setting)
@@ -59,6 +62,8 @@ void read_font(template_file& target, const head_setting& setting)
         fail_template(target.at(setting.line),
                       QStringLiteral("font is a size in pt, then families with commas between them"));
     target.font_points = match.captured(1).toDouble();
+    if (!is_printable_size(target.font_points))
+        fail_template(target.at(setting.line), unprintable_size(match.captured(1) + QStringLiteral("pt")));
     target.font_families.clear();
     for (const QString& family : match.captured(2).split(u','))
         target.font_families.append(family.trimmed());
@@ -94,6 +99,8 @@ void read_query(template_file& target, const head_setting& setting)
 {
     if (setting.name.isEmpty())
         fail_template(target.at(setting.line), QStringLiteral("a query needs a name"));
+    if (without_literals(setting.value).trimmed().isEmpty())
+        fail_template(target.at(setting.line), QStringLiteral("query %1 is empty").arg(setting.name));
     if (target.find_query(setting.name) != nullptr)
         fail_template(target.at(setting.line),
                       QStringLiteral("there are two queries named %1").arg(setting.name));
@@ -160,8 +167,22 @@ std::vector<head_setting> settings_in(const template_file& target, const QString
     return result;
 }
 
+/// The paper minus the margins. Margins that were never set fit every paper, so their line is known here.
+void check_room(const template_file& target)
+{
+    const QSizeF room = QRectF(QPointF(), target.page_size_mm()).marginsRemoved(target.margins).size();
+    if (qMin(room.width(), room.height()) < least_page_mm)
+        fail_template(target.at(target.margins_line),
+                      QStringLiteral("the margins leave %1 mm by %2 mm of the page; at least %3 mm by %3 mm "
+                                     "must be left")
+                          .arg(qRound(room.width()))
+                          .arg(qRound(room.height()))
+                          .arg(least_page_mm));
+}
+
 void check_head(template_file& target)
 {
+    check_room(target);
     if (target.queries.empty())
         fail_template(target.at(1), QStringLiteral("the head names no query"));
     if (target.csv_query.isEmpty())

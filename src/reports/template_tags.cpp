@@ -2,6 +2,10 @@
 
 #include <QRegularExpression>
 
+#include <iterator>
+
+#include "page_limits.h"
+
 namespace verdane {
 
 namespace {
@@ -45,12 +49,23 @@ private:
             }
             result.push_back({tag, {}});
             if (tag.kind != u' ')
-                result.back().children = nodes(&tag);
+                add_section(result.back(), tag);
         }
         if (around != nullptr)
             fail_template({file_, around->line},
                           QStringLiteral("section %1 is not closed").arg(around->name));
         return result;
+    }
+
+    void add_section(template_node& node, const template_tag& tag)
+    {
+        if (++depth_ > most_nested_sections)
+            fail_template({file_, tag.line},
+                          QStringLiteral("sections are nested more than %1 deep").arg(most_nested_sections));
+        node.children = nodes(&tag);
+        --depth_;
+        const template_tag& end = *std::prev(next_);
+        node.length = end.start + end.length - tag.start;
     }
 
     void check_end(const template_tag& tag, const template_tag* around) const
@@ -67,6 +82,7 @@ private:
     QString file_;
     std::vector<template_tag>::const_iterator next_;
     std::vector<template_tag>::const_iterator end_;
+    int depth_ = 0;
 };
 
 }  // namespace

@@ -29,9 +29,12 @@ std::vector<template_tag> find_tags(const QString& text, const template_place& f
 struct template_node {
     template_tag tag;
     std::vector<template_node> children;
+    /// Of the section in the text, from its first tag to its last one; 0 for a field.
+    qsizetype length = 0;
 };
 
-/// The tags as a tree. Fails with `report_template` on sections that do not close one another.
+/// The tags as a tree. Fails with `report_template` on sections that do not close one another and on more
+/// than `most_nested_sections` inside one another.
 std::vector<template_node> tag_tree(const std::vector<template_tag>& tags, const template_place& place);
 
 }  // namespace verdane

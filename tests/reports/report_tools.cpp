@@ -10,6 +10,7 @@
 #include "Connection1.h"
 #include "reader.h"
 #include "report_document.h"
+#include "run_time_failure.h"
 
 namespace verdane::testing {
 
@@ -59,6 +60,17 @@ QString template_file_in(const QString& folder, const QString& name, const QStri
     const QString end_of_head = head.endsWith(u'\n') ? QStringLiteral("---\n") : QStringLiteral("\n---\n");
     file.write((head + end_of_head + body).toUtf8());
     return path;
+}
+
+QString complaint_about(const QString& path)
+{
+    try {
+        render_report(path);
+    } catch (const run_time_failure& failure) {
+        if (failure.kind() == failure_kind::report_template)
+            return failure.details();
+    }
+    return {};
 }
 
 QString built_template(const QString& name)

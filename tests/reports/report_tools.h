@@ -13,6 +13,9 @@ namespace verdane::testing {
 QString template_file_in(const QString& folder, const QString& name, const QString& head,
                          const QString& body);
 
+/// The details of the failure that a template ends with; empty when it makes a report.
+QString complaint_about(const QString& path);
+
 /// The folder of the program's own templates as it was built.
 QString built_template(const QString& name);
 

@@ -40,18 +40,6 @@ class test_report_template : public QObject {
         return fill_body(source, snapshot);
     }
 
-    /// What the report says when it does not come to be; empty when it does.
-    QString complaint(const QString& path)
-    {
-        try {
-            render_report(path);
-        } catch (const run_time_failure& failure) {
-            if (failure.kind() == failure_kind::report_template)
-                return failure.details();
-        }
-        return {};
-    }
-
 private Q_SLOTS:
     void init() { set_report_store(store_.path()); }
 
@@ -146,13 +134,13 @@ private Q_SLOTS:
         QFETCH(QString, head);
         QFETCH(QString, body);
         QFETCH(QString, words);
-        const QString seen = complaint(written(head, body));
+        const QString seen = complaint_about(written(head, body));
         QVERIFY2(seen.startsWith(words), qPrintable(seen));
     }
 
     void a_template_that_is_not_there_is_an_error_that_names_it()
     {
-        const QString seen = complaint(folder_.filePath(QStringLiteral("gone.rpt")));
+        const QString seen = complaint_about(folder_.filePath(QStringLiteral("gone.rpt")));
         QVERIFY2(seen.startsWith(QStringLiteral("gone.rpt:1: cannot open ")), qPrintable(seen));
     }
 
@@ -163,7 +151,8 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("page = A4 portrait\nquery one = select 1\n");
         file.close();
-        QCOMPARE(complaint(path), QStringLiteral("head.rpt:3: no line --- between the head and the body"));
+        QCOMPARE(complaint_about(path),
+                 QStringLiteral("head.rpt:3: no line --- between the head and the body"));
     }
 
     void what_editors_leave_in_a_file_does_no_harm_data()

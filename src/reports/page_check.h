@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+namespace verdane {
+
+class report_snapshot;
+struct template_file;
+
+/// Something in a filled page that the layout cannot handle or may not do.
+struct page_fault {
+    /// Of a character in the page, from 0.
+    qsizetype position = 0;
+    QString message;
+};
+
+/// The first element nested too deep, font size that cannot be printed, length or span too large, word too
+/// long to break, or reference to a file; nothing where the page may be laid out. `font_points` is the size
+/// of the letters without a style.
+std::optional<page_fault> first_fault(QStringView html, double font_points);
+
+/// Fails with `report_template`, at the line of the template that the fault comes from, on the first fault of
+/// `html`, which is the filled body of `source`.
+void check_page(const template_file& source, const report_snapshot& snapshot, const QString& html);
+
+}  // namespace verdane

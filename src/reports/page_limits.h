@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+namespace verdane {
+
+// What a report may ask for. Each limit is far above what a page that a person reads needs, and low enough
+// for the layout to answer within a few seconds.
+
+constexpr int most_template_bytes = 1'000'000;
+
+/// Width and height that the margins must leave of a page, in millimetres.
+constexpr int least_page_mm = 20;
+constexpr int most_pages = 1000;
+/// Any length in a tag or a style, in millimetres.
+constexpr int most_length_mm = 500;
+/// What the elements and characters of a page could reach below one another, in millimetres.
+constexpr int most_height_mm = 1'000'000;
+
+constexpr double least_font_points = 1;
+constexpr double most_font_points = 500;
+
+/// Sections of a template, and elements and tables of a filled page, one inside the other. The time of the
+/// layout doubles with every table around another.
+constexpr int most_nested_sections = 50;
+constexpr int most_nested_elements = 50;
+constexpr int most_nested_tables = 4;
+/// Columns or rows that one cell covers.
+constexpr int most_spanned = 1000;
+
+constexpr int most_rows_of_query = 10'000;
+/// Characters in the rows of a query, and in the rows and sections that a body places, before empty sections
+/// are left out.
+constexpr int most_placed_characters = 10'000'000;
+/// Characters of a filled body, its tags included, and of a word without a blank in it.
+constexpr int most_page_characters = 1'000'000;
+constexpr int most_word_characters = 10'000;
+
+/// A text of a report table is cut to this length, with "…" as its last character.
+constexpr int most_text_characters = 1000;
+
+/// False for sizes outside the limits, for NaN and for infinity.
+bool is_printable_size(double points);
+
+/// The words for a font size that is not printable, given as it is written.
+QString unprintable_size(const QString& written);
+
+}  // namespace verdane

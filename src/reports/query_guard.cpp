@@ -1,0 +1,117 @@
+#include "query_guard.h"
+
+#include <QSqlDatabase>
+#include <QSqlDriver>
+#include <QVariant>
+
+#include <sqlite3.h>
+
+#include <map>
+#include <utility>
+
+#include "report_tables.h"
+#include "run_time_failure.h"
+
+namespace verdane {
+
+namespace {
+
+/// Steps of the engine between two questions whether to go on: less than a millisecond.
+constexpr int steps_between_questions = 20'000;
+/// Bytes of one value and of a row.
+constexpr int most_bytes = 1'000'000;
+
+sqlite3* connection_of(const QSqlDatabase& database)
+{
+    const QVariant handle = database.driver()->handle();
+    if (!handle.isValid() || qstrcmp(handle.typeName(), "sqlite3*") != 0)
+        throw run_time_failure(failure_kind::misuse, QStringLiteral("no connection to SQLite"));
+    return *static_cast<sqlite3* const*>(handle.constData());
+}
+
+QString name_of(int action)
+{
+    static const std::map<int, QString> names{
+        {SQLITE_ATTACH, QStringLiteral("ATTACH")},
+        {SQLITE_DETACH, QStringLiteral("DETACH")},
+        {SQLITE_PRAGMA, QStringLiteral("PRAGMA")},
+        {SQLITE_INSERT, QStringLiteral("a statement that writes")},
+        {SQLITE_UPDATE, QStringLiteral("a statement that writes")},
+        {SQLITE_DELETE, QStringLiteral("a statement that writes")},
+    };
+    const auto found = names.find(action);
+    return found == names.end() ? QStringLiteral("any other statement") : found->second;
+}
+
+bool is_readable(const QString& table, bool any_column)
+{
+    if (readable_tables().contains(table, Qt::CaseInsensitive))
+        return true;
+    // Without a column the engine also asks for the queries above by their names.
+    return !any_column && !table.startsWith(QStringLiteral("sqlite_"), Qt::CaseInsensitive);
+}
+
+bool is_dangerous(const QString& function)
+{
+    return function == QStringLiteral("load_extension") || function == QStringLiteral("fts3_tokenizer");
+}
+
+}  // namespace
+
+query_guard::query_guard(const QSqlDatabase& database, keep_going goes_on)
+    : connection_(connection_of(database)), goes_on_(std::move(goes_on))
+{
+    sqlite3_set_authorizer(connection_, authorize, this);
+    sqlite3_progress_handler(connection_, steps_between_questions, interrupt, this);
+    sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, most_bytes);
+}
+
+query_guard::~query_guard()
+{
+    sqlite3_set_authorizer(connection_, nullptr, nullptr);
+    sqlite3_progress_handler(connection_, 0, nullptr, nullptr);
+}
+
+QString query_guard::take_refusal()
+{
+    return std::exchange(refusal_, QString());
+}
+
+bool query_guard::goes_on()
+{
+    is_stopped_ = is_stopped_ || (goes_on_ && !goes_on_());
+    return !is_stopped_;
+}
+
+int query_guard::authorize(void* guard, int action, const char* first, const char* second, const char*,
+                           const char*)
+{
+    auto& self = *static_cast<query_guard*>(guard);
+    const QString name = QString::fromUtf8(action == SQLITE_FUNCTION ? second : first);
+    if (action == SQLITE_SELECT || action == SQLITE_RECURSIVE)
+        return SQLITE_OK;
+    if (action == SQLITE_READ)
+        return is_readable(name, second != nullptr && *second != '\0')
+                   ? SQLITE_OK
+                   : self.refuse(QStringLiteral("%1 is none of them").arg(name));
+    if (action == SQLITE_FUNCTION)
+        return is_dangerous(name) ? self.refuse(QStringLiteral("%1 is refused").arg(name)) : SQLITE_OK;
+    // A table, and one that a function makes, is entered into the schema first.
+    if (name.startsWith(QStringLiteral("sqlite_")))
+        return self.refuse(QStringLiteral("a new table is refused"));
+    return self.refuse(QStringLiteral("%1 is refused").arg(name_of(action)));
+}
+
+int query_guard::interrupt(void* guard)
+{
+    return static_cast<query_guard*>(guard)->goes_on() ? 0 : 1;
+}
+
+int query_guard::refuse(const QString& words)
+{
+    if (refusal_.isEmpty())
+        refusal_ = words;
+    return SQLITE_DENY;
+}
+
+}  // namespace verdane

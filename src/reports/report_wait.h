@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QString>
+
+#include <memory>
+
+class QDialog;
+
+namespace verdane {
+
+/// Lets the user stop a report that takes long: after two seconds a window with a Stop button opens above the
+/// window at work, and the program repaints. Other windows take no input meanwhile.
+class report_wait {
+public:
+    /// `title` is the title of the window.
+    explicit report_wait(QString title);
+    ~report_wait();
+    report_wait(const report_wait&) = delete;
+    report_wait& operator=(const report_wait&) = delete;
+
+    /// Handles the events that are waiting; false once the user stopped the report.
+    bool goes_on();
+
+private:
+    void open();
+
+    QString title_;
+    QElapsedTimer since_start_;
+    QElapsedTimer since_events_;
+    std::unique_ptr<QDialog> window_;
+    bool is_stopped_ = false;
+};
+
+/// The message box after a report was stopped; `where` says which query was running.
+void tell_report_stopped(const QString& title, const QString& where);
+
+}  // namespace verdane
