@@ -1,4 +1,6 @@
+#include <QComboBox>
 #include <QFrame>
+#include <QLineEdit>
 #include <QTest>
 
 #include "course_windows.h"
@@ -45,6 +47,30 @@ class test_course_pages : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void the_first_page_uses_its_space_data() { both_languages(); }
+    void the_first_page_uses_its_space()
+    {
+        QFETCH(bool, french);
+        const course_store store(french);
+        in_new_course([](hand& user) {
+            with_editor(user, [](f_courses& window) {
+                const QRect tee = window.departure->geometry();
+                for (const int index : {0, 2}) {
+                    QCOMPARE(window.text(index).geometry().left(), tee.left());
+                    QCOMPARE(window.text(index).geometry().right(), tee.right());
+                }
+                const QRect page = window.frm(1).rect();
+                for (const int index : {1, 3, 4, 5}) {
+                    QCOMPARE(window.text(index).geometry().left(), tee.left());
+                    QCOMPARE(window.text(index).geometry().right(), page.right());
+                }
+                QVERIFY(window.text(5).geometry().bottom() > page.height() * 3 / 4);
+                QCOMPARE(window.size(), QSize(10410 / 15, 8700 / 15));
+            });
+            discard(user);
+        });
+    }
+
     void captions_are_those_of_the_language_data() { both_languages(); }
     void captions_are_those_of_the_language()
     {

@@ -7,9 +7,13 @@
 #include <QMessageBox>
 #include <QTest>
 
+#include <algorithm>
+
 #include "every_window.h"
+#include "Form.h"
 #include "hand_widgets.h"
 #include "language.h"
+#include "main_windows.h"
 #include "start_up.h"
 
 using namespace verdane;
@@ -21,6 +25,15 @@ namespace {
 const reachable_window& window_of_row(int window)
 {
     return every_window()[static_cast<std::size_t>(window)];
+}
+
+int index_of(const char* family)
+{
+    const auto& windows = every_window();
+    const auto found = std::find_if(windows.begin(), windows.end(), [family](const reachable_window& window) {
+        return qstrcmp(window.family, family) == 0;
+    });
+    return static_cast<int>(found - windows.begin());
 }
 
 /// What the list that F1 shows says about the window itself.
@@ -132,6 +145,26 @@ private Q_SLOTS:
                 user.check(lines.split(u'\n').contains(line), u"missing: "_s + line + u" in "_s + lines);
             user.answer({lines, QMessageBox::NoIcon, user.title(u"message_box"_s), QMessageBox::Ok});
             user.look([&] { QCOMPARE(QApplication::activeWindow(), visible_window(name)); });
+        });
+    }
+
+    void tool_tips_in_the_round_window_name_the_keys_data() { both_stored_languages(); }
+    void tool_tips_in_the_round_window_name_the_keys()
+    {
+        QFETCH(int, language);
+        in_window(language, index_of("f_new_round"), [](hand& user) {
+            user.look([] {
+                const auto tip = [](const QString& button) {
+                    return form_at_work()->findChild<QAbstractButton*>(button)->toolTip();
+                };
+                QCOMPARE(tip(u"CommandSuiv"_s), in_language(u"Coup suivant (Ctrl+N)", u"Next shot (Ctrl+N)"));
+                QCOMPARE(tip(u"CommandSup"_s),
+                         in_language(u"Supprimer le coup (Ctrl+Suppr)", u"Remove the shot (Ctrl+Del)"));
+                QCOMPARE(tip(u"b_carte"_s), in_language(u"Fin du trou, carte rafraîchie (F5)",
+                                                        u"End of the hole, scorecard refreshed (F5)"));
+                QCOMPARE(tip(u"b_putts"_s), in_language(u"Rapport sur les coups roulés de la ronde (Ctrl+P)",
+                                                        u"Report on the putts of the round (Ctrl+P)"));
+            });
         });
     }
 
