@@ -149,8 +149,7 @@ void f_courses::add_labelled_box(QGridLayout& grid, QStringView name, const QStr
 {
     const int row = grid.rowCount();
     grid.addWidget(make_caption(name.toString(), caption, &text(index)), row, 0);
-    const bool is_short = text(index).maximumWidth() == short_box_width;
-    grid.addWidget(&text(index), row, 1, is_short ? Qt::AlignLeft : Qt::Alignment());
+    grid.addWidget(&text(index), row, 1);
 }
 
 void f_courses::add_departure(QGridLayout& grid)
