@@ -37,9 +37,8 @@ public:
         case QEvent::Shortcut:
             return box_.hasFocus() && takes_focus(qobject_cast<QWidget*>(target)) && refused();
         case QEvent::FocusOut:
-            if (target == &box_ && static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
-                keep_from_click();
-            return false;
+            return target == &box_ && static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason &&
+                   keeps_focus();
         case QEvent::MouseButtonPress:
             return swallows_press(qobject_cast<QWidget*>(target));
         default:
@@ -57,17 +56,27 @@ public:
     }
 
 private:
-    void keep_from_click()
+    /// A box that has the focus again must not handle its loss any more, which would drop its selection.
+    bool keeps_focus()
     {
         if (!refused())
-            return;
+            return false;
         box_.setFocus(Qt::OtherFocusReason);
         press_is_refused_ = true;
+        return true;
     }
 
     bool swallows_press(const QWidget* pressed)
     {
-        return std::exchange(press_is_refused_, false) && takes_focus(pressed);
+        return std::exchange(press_is_refused_, false) && takes_focus(focused_by_press_on(pressed));
+    }
+
+    /// The rows of a list, say, give the focus to the list.
+    static const QWidget* focused_by_press_on(const QWidget* pressed)
+    {
+        while (pressed && !pressed->isWindow() && !(pressed->focusPolicy() & Qt::ClickFocus))
+            pressed = pressed->parentWidget();
+        return pressed;
     }
 
     bool takes_focus(const QWidget* other) const

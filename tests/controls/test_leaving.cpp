@@ -1,4 +1,5 @@
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
@@ -26,8 +27,9 @@ public:
         box = named(new QLineEdit, u"box");
         next = named(new QLineEdit, u"next");
         button = named(make_button(QStringLiteral("&Press")), u"button");
-        for (QWidget* widget :
-             {static_cast<QWidget*>(box), static_cast<QWidget*>(next), static_cast<QWidget*>(button)})
+        rows = named(new QListWidget, u"rows");
+        rows->addItems({QStringLiteral("first"), QStringLiteral("second")});
+        for (QWidget* widget : std::initializer_list<QWidget*>{box, next, button, rows})
             layout->addWidget(widget);
         when_left(*box, [this] {
             ++asked;
@@ -35,6 +37,8 @@ public:
                 return true;
             tell(QStringLiteral("refused"));
             box->setText(QStringLiteral("0"));
+            box->setFocus();
+            box->selectAll();
             return false;
         });
         on_click(*button, [this] { ++presses; });
@@ -43,6 +47,7 @@ public:
     QLineEdit* box = nullptr;
     QLineEdit* next = nullptr;
     QPushButton* button = nullptr;
+    QListWidget* rows = nullptr;
     int asked = 0;
     int presses = 0;
 };
@@ -99,6 +104,31 @@ private Q_SLOTS:
             user.same(user.focus(), QStringLiteral("box"), QStringLiteral("focus"));
         });
         QCOMPARE(window.presses, 0);
+    }
+
+    void a_refusal_keeps_the_row_of_a_list_from_being_clicked()
+    {
+        careful_form window;
+        in_window(window, [](hand& user) {
+            user.type(QStringLiteral("7"));
+            user.click_row(QStringLiteral("rows"), 1);
+            user.answer(refusal);
+            user.same(user.focus(), QStringLiteral("box"), QStringLiteral("focus"));
+        });
+        QVERIFY(window.rows->selectedItems().isEmpty());
+    }
+
+    void a_box_that_refuses_a_click_keeps_the_selection_that_the_refusal_makes()
+    {
+        careful_form window;
+        in_window(window, [](hand& user) {
+            user.type(QStringLiteral("7"));
+            user.click(QStringLiteral("next"));
+            user.answer(refusal);
+            user.wait_for_window(QStringLiteral("f_careful"));
+            user.same(user.selected_text(QStringLiteral("box")), QStringLiteral("0"),
+                      QStringLiteral("selection"));
+        });
     }
 
     void a_refusal_keeps_a_short_cut_from_pressing_a_button()
