@@ -4,7 +4,6 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTimer>
 #include <QValidator>
 
 #include <algorithm>
@@ -81,27 +80,6 @@ private:
     std::function<key_answer(QChar)> filter_;
 };
 
-class entering_filter : public QObject {
-public:
-    entering_filter(QLineEdit& box, std::function<void()> handler)
-        : QObject(&box), handler_(std::move(handler))
-    {
-        box.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::FocusIn) {
-            // After the toolkit's own handling, which would undo a selection made now.
-            QTimer::singleShot(0, this, [this] { run_event(handler_); });
-        }
-        return false;
-    }
-
-private:
-    std::function<void()> handler_;
-};
-
 }  // namespace
 
 void filter_keys(QLineEdit& box, std::function<key_answer(QChar)> handler)
@@ -123,11 +101,6 @@ void filter_pasted_text(QLineEdit& box, std::function<key_answer(QChar)> filter)
 {
     box.setValidator(new text_filter(box, std::move(filter)));
     QObject::connect(&box, &QLineEdit::inputRejected, &box, ring_bell);
-}
-
-void when_entered(QLineEdit& box, std::function<void()> handler)
-{
-    new entering_filter(box, std::move(handler));
 }
 
 void select_characters(QLineEdit& box, int length)

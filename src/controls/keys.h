@@ -33,10 +33,7 @@ key_answer digits_only(QChar key);
 /// this, too.
 void filter_pasted_text(QLineEdit& box, std::function<key_answer(QChar)> filter);
 
-/// Runs `handler` each time the box gains the focus.
-void when_entered(QLineEdit& box, std::function<void()> handler);
-
-/// Selects the first `length` characters of a box, as a box does whose figure a new digit replaces.
+/// Selects the first `length` characters of a box, so that a new digit replaces its figure.
 void select_characters(QLineEdit& box, int length);
 
 }  // namespace verdane

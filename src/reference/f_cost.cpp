@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "entering.h"
 #include "events.h"
 #include "f_cost_func.h"
 #include "language.h"

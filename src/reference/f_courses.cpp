@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "entering.h"
 #include "events.h"
 #include "f_courses_boxes.h"
 #include "f_courses_func.h"

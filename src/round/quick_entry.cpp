@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "entering.h"
 #include "events.h"
 #include "f_new_round.h"
 #include "keys.h"
@@ -18,8 +19,8 @@ namespace {
 
 constexpr int selection_length = 4;
 
-/// A click into a box that has the focus already selects its figure like the one that came in did:
-/// the next digit replaces it, wherever the pointer stood.
+/// A click into a box that has the focus already selects its figure too: the next digit replaces it,
+/// wherever the pointer is.
 class click_selects : public QObject {
 public:
     explicit click_selects(QLineEdit& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
@@ -47,20 +48,12 @@ std::vector<QLineEdit*> boxes_in_order(const f_new_round& window)
     return boxes;
 }
 
-void move_on_to(QWidget& next)
-{
-    next.setFocus(Qt::TabFocusReason);
-    // At once, because the next digit may be waiting already.
-    if (auto* box = qobject_cast<QLineEdit*>(&next))
-        select_characters(*box, selection_length);
-}
-
 key_answer take_key(QLineEdit& box, QWidget& next, QChar key)
 {
     if (key == backspace || digits_only(key) == key_answer::refuse)
         return digits_only(key);
     box.insert(key);
-    move_on_to(next);
+    next.setFocus(Qt::TabFocusReason);
     return key_answer::taken;
 }
 

@@ -5,6 +5,7 @@
 
 #include "boxes.h"
 #include "control_array.h"
+#include "entering.h"
 #include "Form.h"
 #include "hand.h"
 #include "keys.h"

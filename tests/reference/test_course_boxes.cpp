@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "course_windows.h"
+#include "entering_boxes.h"
 #include "f_courses.h"
 #include "language.h"
 
@@ -317,6 +318,24 @@ private Q_SLOTS:
             user.same(user.text(u"lbl_total"_s), u"1061"_s, u"total"_s);
             type_and_tab(user, u"txt_verge_9"_s, u"y"_s);
             user.same(user.text(u"lbl_total"_s), u"1061"_s, u"total after a refusal"_s);
+            discard(user);
+        });
+    }
+
+    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus_data() { ways_into_a_box(); }
+    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus()
+    {
+        QFETCH(Qt::FocusReason, reason);
+        const course_store store;
+        store.add({});
+        in_stored_course(0, [reason](hand& user) {
+            for (const int page : {2, 3}) {
+                user.click_tab(u"TabStrip1"_s, page);
+                with_editor(user, [reason](f_courses& window) {
+                    for (const auto* boxes : {&window.txt_hnd, &window.txt_normal, &window.txt_verge})
+                        QCOMPARE(boxes_that_replace_their_text(*boxes, reason), 9);
+                });
+            }
             discard(user);
         });
     }

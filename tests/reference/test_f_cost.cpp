@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "cost_windows.h"
+#include "entering_boxes.h"
 #include "window_look.h"
 
 using namespace verdane;
@@ -113,6 +114,20 @@ private Q_SLOTS:
             user.key(Qt::Key_Tab);
             user.same(user.focus(), u"cost_1"_s, u"focus"_s);
             user.same(user.selected_text(u"cost_1"_s), u"1234"_s, u"selection"_s);
+            user.close_window(cost_window());
+        });
+    }
+
+    void a_digit_replaces_the_amount_in_the_moment_a_box_gains_the_focus_data() { ways_into_a_box(); }
+    void a_digit_replaces_the_amount_in_the_moment_a_box_gains_the_focus()
+    {
+        QFETCH(Qt::FocusReason, reason);
+        cost_store store;
+        in_costs(store, [reason](hand& user) {
+            user.look([reason] {
+                const auto& window = dynamic_cast<f_cost&>(*open_form(u"f_cost"));
+                QCOMPARE(boxes_that_replace_their_text(window.cost, reason), 12);
+            });
             user.close_window(cost_window());
         });
     }

@@ -1,6 +1,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "entering_boxes.h"
 #include "f_new_round.h"
 #include "round_windows.h"
 
@@ -74,6 +75,22 @@ private Q_SLOTS:
                 user.type(QString::fromLatin1(digit));
                 same_text(user, QStringLiteral("text_p_3"), QString::fromLatin1(digit));
             }
+            discard(user);
+        });
+    }
+
+    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus_data() { ways_into_a_box(); }
+    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus()
+    {
+        QFETCH(Qt::FocusReason, reason);
+        const round_store store;
+        store.add_two_courses();
+        in_keyed_round([&](hand& user) {
+            with_round(user, [&](f_new_round& window) {
+                QCOMPARE(boxes_that_replace_their_text(window.text_vrd, reason), 3);
+                QCOMPARE(boxes_that_replace_their_text(window.text_p, reason), 4);
+                QCOMPARE(boxes_that_replace_their_text(window.text_s, reason), 4);
+            });
             discard(user);
         });
     }

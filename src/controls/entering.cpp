@@ -1,0 +1,87 @@
+#include "entering.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+#include <utility>
+
+#include "failure_guard.h"
+
+namespace verdane {
+
+namespace {
+
+/// Lets the box handle an event first, because that may change the selection, and runs the handler then.
+class entering_filter : public QObject {
+public:
+    entering_filter(QLineEdit& box, std::function<void()> handler)
+        : QObject(&box), box_(box), handler_(std::move(handler))
+    {
+        box.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::FocusIn:
+            return focus_gained(*static_cast<QFocusEvent*>(event));
+        case QEvent::FocusOut:
+            entered_by_click_ = false;
+            return false;
+        case QEvent::MouseButtonPress:
+            pressed_at_ = static_cast<QMouseEvent*>(event)->position().toPoint();
+            return entered_by_click_ && handled_first_by_box(*event);
+        case QEvent::MouseMove:
+            return entered_by_click_ && !is_dragged(*static_cast<QMouseEvent*>(event));
+        case QEvent::MouseButtonRelease:
+            return std::exchange(entered_by_click_, false) && handled_first_by_box(*event);
+        default:
+            return false;
+        }
+    }
+
+private:
+    bool focus_gained(QFocusEvent& event)
+    {
+        // The box's own menu is no other control: what was selected before it opened is what it acts on.
+        if (event.reason() == Qt::PopupFocusReason)
+            return false;
+        entered_by_click_ = event.reason() == Qt::MouseFocusReason;
+        return handled_first_by_box(event);
+    }
+
+    bool handled_first_by_box(QEvent& event)
+    {
+        static_cast<QObject&>(box_).event(&event);
+        run_event(handler_);
+        return true;
+    }
+
+    /// A mouse that trembles does not drag. Once it does, the selection starts where it was pressed.
+    bool is_dragged(const QMouseEvent& event)
+    {
+        const QPoint way = event.position().toPoint() - pressed_at_;
+        if (way.manhattanLength() < QApplication::startDragDistance())
+            return false;
+        entered_by_click_ = false;
+        box_.setCursorPosition(box_.cursorPositionAt(pressed_at_));
+        return true;
+    }
+
+    QLineEdit& box_;
+    std::function<void()> handler_;
+    /// From the focus that a click brings until that click is over.
+    bool entered_by_click_ = false;
+    QPoint pressed_at_;
+};
+
+}  // namespace
+
+void when_entered(QLineEdit& box, std::function<void()> handler)
+{
+    new entering_filter(box, std::move(handler));
+}
+
+}  // namespace verdane

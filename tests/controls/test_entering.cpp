@@ -1,0 +1,126 @@
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "entering.h"
+#include "entering_boxes.h"
+#include "keys.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int selected = 4;
+
+/// A box that selects four characters when it is entered, below another one that has the focus.
+struct two_boxes {
+    two_boxes()
+    {
+        auto* lines = new QVBoxLayout(&window);
+        lines->addWidget(other);
+        lines->addWidget(box);
+        when_entered(*box, [this] {
+            ++entered;
+            select_characters(*box, selected);
+        });
+        box->setText(QStringLiteral("123456"));
+        window.resize(400, 100);
+        window.show();
+        window.activateWindow();
+        // The focus reaches a box of the active window only.
+        is_active = QTest::qWaitForWindowActive(&window);
+        other->setFocus();
+    }
+
+    QPoint before(int character) const
+    {
+        const QPoint middle = box->rect().center();
+        int x = 0;
+        while (x < box->width() && box->cursorPositionAt({x, middle.y()}) < character)
+            ++x;
+        return {x, middle.y()};
+    }
+
+    QWidget window;
+    QLineEdit* other = new QLineEdit;
+    QLineEdit* box = new QLineEdit;
+    int entered = 0;
+    bool is_active = false;
+};
+
+}  // namespace
+
+class test_entering : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_selection_holds_when_setFocus_returns_data() { ways_into_a_box(); }
+    void the_selection_holds_when_setFocus_returns()
+    {
+        QFETCH(Qt::FocusReason, reason);
+        const two_boxes boxes;
+        boxes.box->setFocus(reason);
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+        QCOMPARE(text_after_focus_and_digit(*boxes.box, reason), QStringLiteral("7"));
+    }
+
+    void a_click_selects_when_the_button_is_pressed_and_when_it_is_released()
+    {
+        const two_boxes boxes;
+        const QPoint place = boxes.before(3);
+        QTest::mousePress(boxes.box, Qt::LeftButton, Qt::NoModifier, place);
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+        QTest::mouseMove(boxes.box, place + QPoint(2, 0));
+        QTest::mouseRelease(boxes.box, Qt::LeftButton, Qt::NoModifier, place + QPoint(2, 0));
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+    }
+
+    void a_mouse_that_drags_selects_what_it_passes()
+    {
+        const two_boxes boxes;
+        QTest::mousePress(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(2));
+        QMouseEvent drag(QEvent::MouseMove, boxes.before(6), boxes.box->mapToGlobal(boxes.before(6)),
+                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(boxes.box, &drag);
+        QTest::mouseRelease(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(6));
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("3456"));
+    }
+
+    void a_later_click_into_the_box_sets_the_cursor()
+    {
+        const two_boxes boxes;
+        QTest::mouseClick(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(2));
+        const int entered = boxes.entered;
+        QTest::mouseClick(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(5));
+        QCOMPARE(boxes.entered, entered);
+        QVERIFY(!boxes.box->hasSelectedText());
+        QCOMPARE(boxes.box->cursorPosition(), 5);
+    }
+
+    void a_click_behind_an_entry_by_key_sets_the_cursor()
+    {
+        const two_boxes boxes;
+        boxes.box->setFocus(Qt::TabFocusReason);
+        QTest::mouseClick(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(1));
+        QVERIFY(!boxes.box->hasSelectedText());
+        QCOMPARE(boxes.box->cursorPosition(), 1);
+    }
+
+    void the_menu_of_the_box_leaves_the_selection_as_it_is()
+    {
+        const two_boxes boxes;
+        boxes.box->setFocus(Qt::TabFocusReason);
+        boxes.box->setSelection(4, 2);
+        QMenu menu;
+        menu.addAction(QStringLiteral("entry"));
+        menu.popup(boxes.window.mapToGlobal(QPoint(5, 5)));
+        menu.close();
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("56"));
+    }
+};
+
+QTEST_MAIN(test_entering)
+#include "test_entering.moc"
