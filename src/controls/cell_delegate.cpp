@@ -1,9 +1,14 @@
 #include "cell_delegate.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegion>
+
+#include <algorithm>
+#include <utility>
 
 #include "data_grid.h"
 #include "leaving.h"
@@ -11,6 +16,32 @@
 namespace verdane {
 
 namespace {
+
+constexpr int frame_width = 2;
+
+/// Where typing starts: beside the words as the style lays them out.
+QRect caret_in(const data_grid& grid, const QStyleOptionViewItem& cell)
+{
+    const int margin = grid.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &grid) + 1;
+    const int width = grid.style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, &grid);
+    const QRect inside = cell.rect.adjusted(margin, 0, -margin, 0);
+    const int words = std::min(cell.fontMetrics.horizontalAdvance(cell.text), inside.width());
+    const int left = cell.displayAlignment & Qt::AlignRight ? inside.right() : inside.left() + words;
+    QRect caret(left, 0, width, cell.fontMetrics.height());
+    caret.moveCenter({caret.center().x(), cell.rect.center().y()});
+    return caret;
+}
+
+/// Two pixels wide where the keys arrive, one while another control has them.
+void paint_frame(QPainter& painter, const QStyleOptionViewItem& cell, bool has_keyboard)
+{
+    const int width = has_keyboard ? frame_width : 1;
+    const QColor green = cell.palette.color(QPalette::Highlight);
+    const QRect& whole = cell.rect;
+    const QRect inside = whole.marginsRemoved({width, width, width, width});
+    for (const QRect& side : QRegion(whole).subtracted(inside))
+        painter.fillRect(side, green);
+}
 
 void paint_chevron(QPainter& painter, const QRect& button, const QColor& color)
 {
@@ -32,27 +63,44 @@ cell_delegate::cell_delegate(data_grid& grid) : QStyledItemDelegate(&grid), grid
 void cell_delegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const
 {
-    if (!grid_.has_cell_button(index.column())) {
-        QStyledItemDelegate::paint(painter, option, index);
-        return;
-    }
-    const bool current = index == grid_.currentIndex();
+    QStyleOptionViewItem cell = option;
+    // The frame says where the cursor is.
+    cell.state &= ~QStyle::State_HasFocus;
+    if (grid_.has_cell_button(index.column()))
+        paint_with_button(*painter, cell, index);
+    else
+        QStyledItemDelegate::paint(painter, cell, index);
+    if (index == grid_.currentIndex())
+        paint_cursor(*painter, cell, index);
+}
+
+void cell_delegate::paint_with_button(QPainter& painter, const QStyleOptionViewItem& option,
+                                      const QModelIndex& index) const
+{
     QStyleOptionViewItem whole = option;
     initStyleOption(&whole, index);
     const QString text = std::exchange(whole.text, QString());
     QStyle* style = grid_.style();
-    style->drawControl(QStyle::CE_ItemViewItem, &whole, painter, &grid_);
+    style->drawControl(QStyle::CE_ItemViewItem, &whole, &painter, &grid_);
     const QRect button = data_grid::button_in(option.rect);
     // The words beside the button, as the style draws them in the cells that have none.
     whole.rect.setRight(button.left());
     whole.text = text;
-    whole.state &= ~QStyle::State_HasFocus;
-    style->drawControl(QStyle::CE_ItemViewItem, &whole, painter, &grid_);
-    const QPalette::ColorRole role =
-        option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;
-    QColor color = option.palette.color(role);
-    color.setAlphaF(current ? 1.0F : 0.4F);
-    paint_chevron(*painter, button, color);
+    style->drawControl(QStyle::CE_ItemViewItem, &whole, &painter, &grid_);
+    QColor color = option.palette.color(QPalette::Text);
+    color.setAlphaF(index == grid_.currentIndex() ? 1.0F : 0.4F);
+    paint_chevron(painter, button, color);
+}
+
+void cell_delegate::paint_cursor(QPainter& painter, const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QWidget* focused = QApplication::focusWidget();
+    paint_frame(painter, cell, focused && (focused == &grid_ || grid_.isAncestorOf(focused)));
+    if (grid_.hasFocus() && grid_.is_typed_into(index))
+        painter.fillRect(caret_in(grid_, cell), cell.palette.color(QPalette::Text));
 }
 
 QWidget* cell_delegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
@@ -64,6 +112,12 @@ QWidget* cell_delegate::createEditor(QWidget* parent, const QStyleOptionViewItem
     box->setAlignment(Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt()));
     grid_.watch_editor(*box, index);
     return box;
+}
+
+void cell_delegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                         const QModelIndex&) const
+{
+    editor->setGeometry(option.rect.marginsRemoved({frame_width, frame_width, frame_width, frame_width}));
 }
 
 void cell_delegate::setEditorData(QWidget* editor, const QModelIndex& index) const

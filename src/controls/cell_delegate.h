@@ -8,7 +8,8 @@ namespace verdane {
 
 class data_grid;
 
-/// Paints the cells of a grid with their buttons and makes the box that is typed into.
+/// Paints the cells of a grid with their buttons, the cursor's cell with a frame and, where it can be typed
+/// into, a caret. Makes the box that is typed into.
 class cell_delegate : public QStyledItemDelegate {
 public:
     explicit cell_delegate(data_grid& grid);
@@ -20,9 +21,14 @@ public:
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     /// The grid takes what was typed itself.
     void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
     bool eventFilter(QObject* editor, QEvent* event) override;
 
 private:
+    void paint_with_button(QPainter& painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const;
+    void paint_cursor(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
     bool key_pressed(const QKeyEvent& event) const;
     void focus_lost(QLineEdit& editor, Qt::FocusReason why) const;
 

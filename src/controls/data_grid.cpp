@@ -12,6 +12,7 @@
 #include "cell_delegate.h"
 #include "choice_menu.h"
 #include "failure_guard.h"
+#include "filled_header.h"
 
 namespace verdane {
 
@@ -28,9 +29,10 @@ data_grid::data_grid(recordset_model* model, QWidget* parent) : QTableView(paren
     setModel(model_);
     setItemDelegate(new cell_delegate(*this));
     setEditTriggers(NoEditTriggers);
-    setSelectionMode(SingleSelection);
-    setSelectionBehavior(SelectItems);
+    // The cursor is all that is marked, by the delegate's frame: nothing works on a selection of cells.
+    setSelectionMode(NoSelection);
     setTabKeyNavigation(true);
+    setHorizontalHeader(new filled_header(this));
     verticalHeader()->hide();
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
@@ -87,8 +89,9 @@ void data_grid::set_Col(int column)
 void data_grid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTableView::currentChanged(current, previous);
-    // The button of the current cell stands out.
+    // Its frame is painted by the delegate.
     update(previous);
+    update(current);
     if (following_ || !current.isValid())
         return;
     col_ = current.column();
@@ -186,17 +189,22 @@ bool data_grid::take_character(const QKeyEvent& event)
     }
     const auto filter = filters_.find(col_);
     const bool refused = filter != filters_.end() && filter->second(key) == key_answer::refuse;
-    if (refused || has_cell_button(col_) || !model_->flags(currentIndex()).testFlag(Qt::ItemIsEditable))
+    if (refused || !is_typed_into(currentIndex()))
         ring_bell();
     else
         start_typing(event.text());
     return true;
 }
 
+bool data_grid::is_typed_into(const QModelIndex& cell) const
+{
+    return cell.isValid() && !has_cell_button(cell.column()) &&
+           model_->flags(cell).testFlag(Qt::ItemIsEditable);
+}
+
 void data_grid::start_typing(const QString& text)
 {
-    if (!currentIndex().isValid() || has_cell_button(col_) ||
-        !model_->flags(currentIndex()).testFlag(Qt::ItemIsEditable))
+    if (!is_typed_into(currentIndex()))
         return;
     edit(currentIndex());
     if (!editor_ || text.isEmpty())

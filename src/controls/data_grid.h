@@ -56,7 +56,9 @@ public:
     void take_keyboard();
 
     bool has_cell_button(int column) const { return menus_.count(column) > 0; }
-    /// Where the button of a cell stands inside the cell's rectangle.
+    /// True for a cell whose text the keys change.
+    bool is_typed_into(const QModelIndex& cell) const;
+    /// Where the button of a cell is inside the cell's rectangle.
     static QRect button_in(const QRect& cell);
 
 protected:

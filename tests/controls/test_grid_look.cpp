@@ -1,0 +1,194 @@
+#include <QApplication>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "choice_menu.h"
+#include "data_grid.h"
+#include "DataEnvironment1.h"
+#include "look.h"
+#include "reader.h"
+#include "store_folder.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int club = 0;
+constexpr int distance = 1;
+
+void use_palette(bool dark)
+{
+    QPalette palette = QApplication::style()->standardPalette();
+    if (dark)
+        palette = QPalette(QColor(0x35, 0x35, 0x35));
+    palette.setColor(QPalette::Highlight, accent_green());
+    QApplication::setPalette(palette);
+}
+
+/// A grid with a club from a menu and a distance that is typed, and a button beside it.
+struct grid_window {
+    explicit grid_window(int rows)
+    {
+        for (int shot = 1; shot <= rows; ++shot)
+            reader(folder.path())
+                .write(QStringLiteral("insert into Stat_rounds (shot, stick) values (%1, 'F5')").arg(shot));
+        data_environment().rsStat_rounds.Open();
+        cells = new data_grid(new recordset_model(data_environment().rsStat_rounds,
+                                                  {{QStringLiteral("stick"), QStringLiteral("Bâton"), true},
+                                                   {QStringLiteral("after"), QStringLiteral("Distance")}}));
+        cells->set_cell_menu(club, &clubs);
+        auto* lines = new QVBoxLayout(&window);
+        lines->addWidget(cells);
+        lines->addWidget(button);
+        cells->bind();
+        window.resize(500, 220);
+        window.show();
+        window.activateWindow();
+        cells->setFocus();
+        is_active = QTest::qWaitForWindowActive(&window);
+    }
+
+    QImage picture_of(const QModelIndex& cell) const
+    {
+        return cells->viewport()->grab(cells->visualRect(cell)).toImage();
+    }
+    QImage picture_of_cursor() const { return picture_of(cells->currentIndex()); }
+    QColor color(QPalette::ColorRole role) const { return cells->palette().color(role); }
+
+    store_folder folder;
+    QWidget window;
+    choice_menu clubs;
+    data_grid* cells = nullptr;
+    QPushButton* button = new QPushButton(QStringLiteral("OK"));
+    bool is_active = false;
+};
+
+bool has_upright_line(const QImage& cell, const QColor& color)
+{
+    const int middle = cell.height() / 2;
+    for (int x = 3; x < cell.width() - 2; ++x) {
+        int y = middle - 5;
+        while (y <= middle + 5 && cell.pixelColor(x, y) == color)
+            ++y;
+        if (y > middle + 5)
+            return true;
+    }
+    return false;
+}
+
+/// How wide a frame of one colour is at all four sides; 0 when a side lacks it.
+int width_of_frame(const QImage& cell, const QColor& color)
+{
+    const int right = cell.width() - 1;
+    const int bottom = cell.height() - 1;
+    int width = 0;
+    while (width < 6 && cell.pixelColor(width, bottom / 2) == color &&
+           cell.pixelColor(right - width, bottom / 2) == color &&
+           cell.pixelColor(right / 2, width) == color && cell.pixelColor(right / 2, bottom - width) == color)
+        ++width;
+    return width;
+}
+
+void light_and_dark()
+{
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
+}  // namespace
+
+/// How a grid shows where the cursor is, and its head.
+class test_grid_look : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { use_palette(false); }
+
+    void the_cell_of_the_cursor_has_a_frame_and_keeps_its_ground_data() { light_and_dark(); }
+    void the_cell_of_the_cursor_has_a_frame_and_keeps_its_ground()
+    {
+        QFETCH(bool, dark);
+        use_palette(dark);
+        const grid_window grid(3);
+        QVERIFY(grid.is_active);
+        for (const int column : {club, distance}) {
+            grid.cells->set_Col(column);
+            const QImage cell = grid.picture_of_cursor();
+            QCOMPARE(width_of_frame(cell, grid.color(QPalette::Highlight)), 2);
+            QCOMPARE(cell.pixelColor(cell.width() / 2, cell.height() / 2), grid.color(QPalette::Base));
+        }
+    }
+
+    void other_cells_have_no_frame()
+    {
+        const grid_window grid(3);
+        grid.cells->set_Col(distance);
+        for (const QModelIndex& other :
+             {grid.cells->model()->index(0, club), grid.cells->model()->index(1, distance)})
+            QCOMPARE(width_of_frame(grid.picture_of(other), grid.color(QPalette::Highlight)), 0);
+    }
+
+    void a_caret_shows_where_typing_starts_data() { light_and_dark(); }
+    void a_caret_shows_where_typing_starts()
+    {
+        QFETCH(bool, dark);
+        use_palette(dark);
+        const grid_window grid(3);
+        grid.cells->set_Col(distance);
+        QVERIFY(has_upright_line(grid.picture_of_cursor(), grid.color(QPalette::Text)));
+        grid.cells->set_Col(club);
+        QVERIFY(!has_upright_line(grid.picture_of_cursor(), grid.color(QPalette::Text)));
+    }
+
+    void while_another_control_has_the_keys_the_frame_is_thin_and_the_caret_hidden()
+    {
+        const grid_window grid(3);
+        grid.cells->set_Col(distance);
+        grid.button->setFocus();
+        const QImage cell = grid.picture_of_cursor();
+        QCOMPARE(width_of_frame(cell, grid.color(QPalette::Highlight)), 1);
+        QVERIFY(!has_upright_line(cell, grid.color(QPalette::Text)));
+    }
+
+    void the_frame_stays_around_the_box_that_is_typed_into()
+    {
+        const grid_window grid(3);
+        grid.cells->set_Col(distance);
+        QTest::keyClick(grid.cells, Qt::Key_4);
+        QVERIFY(grid.cells->findChild<QLineEdit*>(QStringLiteral("cell_being_typed")));
+        QCOMPARE(width_of_frame(grid.picture_of_cursor(), grid.color(QPalette::Highlight)), 2);
+    }
+
+    void the_head_fills_the_width_of_the_grid_data() { light_and_dark(); }
+    void the_head_fills_the_width_of_the_grid()
+    {
+        QFETCH(bool, dark);
+        use_palette(dark);
+        const grid_window grid(3);
+        const QImage head = grid.cells->horizontalHeader()->viewport()->grab().toImage();
+        const int beside_columns = grid.cells->horizontalHeader()->length() + 20;
+        QVERIFY(beside_columns < head.width());
+        for (int y = 0; y < head.height(); ++y) {
+            // The third pixel of a column is left of its caption.
+            QCOMPARE(head.pixelColor(beside_columns, y), head.pixelColor(2, y));
+            QCOMPARE(head.pixelColor(head.width() - 1, y), head.pixelColor(2, y));
+        }
+    }
+
+    void above_the_scroll_bar_nothing_is_left_over()
+    {
+        const grid_window grid(40);
+        const QScrollBar& bar = *grid.cells->verticalScrollBar();
+        QVERIFY(bar.isVisible());
+        const QRect place(bar.mapTo(grid.cells, QPoint()), bar.size());
+        QCOMPARE(place.top(), grid.cells->frameWidth());
+        QCOMPARE(place.right(), grid.cells->width() - grid.cells->frameWidth() - 1);
+    }
+};
+
+QTEST_MAIN(test_grid_look)
+#include "test_grid_look.moc"
