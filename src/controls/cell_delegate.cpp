@@ -149,15 +149,15 @@ bool cell_delegate::key_pressed(const QKeyEvent& event) const
     }
 }
 
-void cell_delegate::focus_lost(QLineEdit& editor, Qt::FocusReason why) const
+bool cell_delegate::focus_lost(QLineEdit& editor, Qt::FocusReason why) const
 {
     // Another program, or the box's own menu, takes the keyboard for a while only.
     if (why == Qt::ActiveWindowFocusReason || why == Qt::PopupFocusReason)
-        return;
-    if (why == Qt::MouseFocusReason)
-        when_click_is_over(editor, [this] { grid_.commit_cell(); });
-    else
-        grid_.commit_cell();
+        return false;
+    if (why != Qt::MouseFocusReason)
+        return !grid_.commit_cell();
+    when_click_is_over(editor, [this] { grid_.commit_cell(); });
+    return false;
 }
 
 bool cell_delegate::eventFilter(QObject* editor, QEvent* event)
@@ -170,7 +170,7 @@ bool cell_delegate::eventFilter(QObject* editor, QEvent* event)
         return true;
     }
     if (event->type() == QEvent::FocusOut)
-        focus_lost(static_cast<QLineEdit&>(*editor), static_cast<QFocusEvent*>(event)->reason());
+        return focus_lost(static_cast<QLineEdit&>(*editor), static_cast<QFocusEvent*>(event)->reason());
     return false;
 }
 

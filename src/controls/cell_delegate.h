@@ -30,7 +30,8 @@ private:
                            const QModelIndex& index) const;
     void paint_cursor(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
     bool key_pressed(const QKeyEvent& event) const;
-    void focus_lost(QLineEdit& editor, Qt::FocusReason why) const;
+    /// True when the box has taken the focus back.
+    bool focus_lost(QLineEdit& editor, Qt::FocusReason why) const;
 
     data_grid& grid_;
 };

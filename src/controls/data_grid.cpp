@@ -13,6 +13,7 @@
 #include "choice_menu.h"
 #include "failure_guard.h"
 #include "filled_header.h"
+#include "leaving.h"
 
 namespace verdane {
 
@@ -125,6 +126,11 @@ void data_grid::set_key_filter(int column, std::function<key_answer(QChar)> filt
     filters_[column] = std::move(filter);
 }
 
+void data_grid::hold_refused_text(int column)
+{
+    holding_columns_.insert(column);
+}
+
 void data_grid::open_cell_menu()
 {
     const auto menu = menus_.find(col_);
@@ -217,6 +223,8 @@ void data_grid::watch_editor(QLineEdit& editor, const QModelIndex& index)
 {
     editor_ = &editor;
     edited_ = index;
+    if (holding_columns_.count(index.column()) > 0)
+        when_left(editor, [this, box = &editor] { return editor_ != box || may_leave_cell(); });
     const auto filter = filters_.find(index.column());
     if (filter == filters_.end())
         return;
@@ -242,17 +250,30 @@ void data_grid::take_keyboard()
         setFocus(Qt::OtherFocusReason);
 }
 
-void data_grid::commit_cell()
+bool data_grid::may_leave_cell()
 {
+    if (!editor_ || !editor_->isModified() || !edited_.isValid() ||
+        holding_columns_.count(edited_.column()) == 0 || model_->takes(edited_.column(), editor_->text()))
+        return true;
+    ring_bell();
+    editor_->setFocus(Qt::OtherFocusReason);
+    editor_->selectAll();
+    return false;
+}
+
+bool data_grid::commit_cell()
+{
+    if (!may_leave_cell())
+        return false;
     if (!editor_)
-        return;
+        return true;
     const bool changed = editor_->isModified();
     const QString typed = editor_->text();
     const QModelIndex cell = edited_;
     const QScopedValueRollback<bool> elsewhere(left_, keyboard_is_elsewhere());
     drop_cell();
     if (!changed || !cell.isValid())
-        return;
+        return true;
     run_event([&] {
         const int column = cell.column();
         if (!model_->write(cell.row(), column, typed))
@@ -260,12 +281,19 @@ void data_grid::commit_cell()
         else if (column_updated)
             column_updated(column);
     });
+    return true;
 }
 
 void data_grid::commit_and_move_on()
 {
-    commit_cell();
-    move_cursor(1);
+    if (commit_cell())
+        move_cursor(1);
+}
+
+QModelIndex data_grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    // A key that the box does not use, such as Up, moves the cursor off the cell.
+    return commit_cell() ? QTableView::moveCursor(action, modifiers) : currentIndex();
 }
 
 void data_grid::mousePressEvent(QMouseEvent* event)
@@ -277,7 +305,8 @@ void data_grid::mousePressEvent(QMouseEvent* event)
     const int column = meant.column();
     // Before the click moves the cursor to another row. A row that this adds may scroll the one that was
     // meant away from under the mouse.
-    commit_cell();
+    if (!commit_cell())
+        return;
     const QModelIndex pressed = indexAt(place);
     if (pressed.row() != row || pressed.column() != column) {
         if (meant_a_cell)

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 
 #include "keys.h"
 #include "recordset_model.h"
@@ -44,13 +45,17 @@ public:
     void set_cell_menu(int column, choice_menu* menu);
     /// Asked for each character that is typed or pasted into the column's cells; it passes or refuses.
     void set_key_filter(int column, std::function<key_answer(QChar)> filter);
+    /// A text that the column cannot take stays in its cell, selected, with the cursor in it, until it is
+    /// corrected or dropped by Escape. In other columns such a text is dropped. The bell rings either way.
+    void hold_refused_text(int column);
     /// Told after the user changed a cell, by its column; the cell's row is the current one.
     std::function<void(int)> column_updated;
 
     /// Opens the menu of the cursor's cell, if it has one.
     void open_cell_menu();
-    /// Takes what is being typed. Every routine that works on the rows behind the grid calls it first.
-    void commit_cell();
+    /// Takes what is being typed. Every routine that works on the rows of the grid calls it first, and does
+    /// nothing more when it answers false: the cell holds a text that its column cannot take.
+    bool commit_cell();
     /// The focus comes to the grid, except while it takes what was typed into a cell that the user has left
     /// for another control.
     void take_keyboard();
@@ -66,6 +71,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 private:
     friend class cell_delegate;
@@ -79,12 +85,14 @@ private:
     void start_typing(const QString& text);
     void watch_editor(QLineEdit& editor, const QModelIndex& index);
     void drop_cell();
+    bool may_leave_cell();
     bool keyboard_is_elsewhere() const;
     void commit_and_move_on();
 
     recordset_model* model_;
     std::map<int, choice_menu*> menus_;
     std::map<int, std::function<key_answer(QChar)>> filters_;
+    std::set<int> holding_columns_;
     QPointer<QLineEdit> editor_;
     QPersistentModelIndex edited_;
     int col_ = 0;

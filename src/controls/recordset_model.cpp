@@ -118,6 +118,14 @@ void recordset_model::move_to(int row)
     source_.MoveTo(row);
 }
 
+bool recordset_model::takes(int column, const QString& text) const
+{
+    if (!source_.is_open())
+        return true;
+    const bound_column& shown = this->column(column);
+    return taken_by(shown, source_.field_type(source_.Fields(shown.field).ordinal()), text).has_value();
+}
+
 bool recordset_model::write(int row, int column, const QString& text)
 {
     if (!source_.is_open() || row < 0 || row >= source_.RecordCount())

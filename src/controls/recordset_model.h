@@ -46,6 +46,8 @@ public:
     /// commit does.
     void move_to(int row);
 
+    /// False when the column cannot take the text: no number, or one outside the column's range.
+    bool takes(int column, const QString& text) const;
     /// Writes a text into a cell, whose row becomes the current one. An empty text is Null in a column
     /// of numbers. False, and nothing is written, when the column cannot take the text.
     bool write(int row, int column, const QString& text);

@@ -71,7 +71,6 @@ bool on_detailed_page(const f_new_round& window)
 
 void page_changed(f_new_round& window)
 {
-    finish_typing(window);
     if (window.closingoK || !on_detailed_page(window))
         leave_detailed_page(window);
     else
@@ -80,7 +79,8 @@ void page_changed(f_new_round& window)
 
 void tell_shot_by_shot(f_new_round& window)
 {
-    finish_typing(window);
+    if (!finish_typing(window))
+        return;
     // Once the window was to be closed its shots stay out of sight, also when the question was answered
     // with Cancel, and a blank one among them would hold it open.
     if (window.closingoK)
@@ -94,9 +94,9 @@ void tell_shot_by_shot(f_new_round& window)
     go_to_detailed_page(window);
 }
 
-void finish_typing(f_new_round& window)
+bool finish_typing(f_new_round& window)
 {
-    window.details->commit_cell();
+    return window.details->commit_cell();
 }
 
 void enable_save_and_close(bool enabled)

@@ -20,8 +20,9 @@ void page_changed(f_new_round& window);
 /// `Command4`: opens the shots of the hole, on the detailed page.
 void tell_shot_by_shot(f_new_round& window);
 
-/// Takes what is being typed into a cell of the grid.
-void finish_typing(f_new_round& window);
+/// Takes what is being typed into a cell of the grid. False when the cell keeps it, because the distance is
+/// too large; whatever would have come next must not happen then.
+bool finish_typing(f_new_round& window);
 
 /// The commands of the main window that must not act while a grid row is open.
 void enable_save_and_close(bool enabled);

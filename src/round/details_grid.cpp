@@ -177,6 +177,7 @@ data_grid* make_details(f_new_round& window)
               u"details");
     give_menus(window, *details);
     details->set_key_filter(shown::distance, digits_only);
+    details->hold_refused_text(shown::distance);
     details->column_updated = [&window](int column) { f_new_round_func::column_updated(window, column); };
     QHeaderView& heads = *details->horizontalHeader();
     heads.setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));

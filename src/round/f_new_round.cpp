@@ -58,6 +58,7 @@ void f_new_round::connect_events()
     on_select(*cmb_courses, [this] { f_new_round_func::course_selected(*this); });
     TabStrip1->before_click = [this] { return f_new_round_func::hole_tab_before_click(*this); };
     TabStrip1->clicked = [this] { f_new_round_func::hole_tab_clicked(*this); };
+    TabStrip2->before_click = [this] { return f_new_round_func::finish_typing(*this); };
     TabStrip2->clicked = [this] { f_new_round_func::page_changed(*this); };
     on_click(*Command2, [this] { f_new_round_func::show_costs(*this); });
     on_click(*Command4, [this] { f_new_round_func::tell_shot_by_shot(*this); });
@@ -66,8 +67,8 @@ void f_new_round::connect_events()
                                           std::pair{CommandSup, &f_new_round_func::remove_shot},
                                           std::pair{b_carte, &f_new_round_func::finish_hole}}) {
         on_click(*button, [this, pressed = routine] {
-            f_new_round_func::finish_typing(*this);
-            pressed(*this);
+            if (f_new_round_func::finish_typing(*this))
+                pressed(*this);
         });
     }
     for (const auto& [index, button] : Command1.members())

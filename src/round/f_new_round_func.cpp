@@ -224,7 +224,8 @@ void unload(f_new_round& window)
 
 void show_costs(f_new_round& window)
 {
-    finish_typing(window);
+    if (!finish_typing(window))
+        return;
     f_cost costs([&window](const QString& total) { window.text(round_box::costs).setText(total); });
     costs.show_modal();
 }
@@ -248,8 +249,7 @@ void save_round(f_new_round& window, bool silent)
 
 void on_ok_cancel(f_new_round& window, int index)
 {
-    finish_typing(window);
-    if (!check_shots(window))
+    if (!finish_typing(window) || !check_shots(window))
         return;
     if (on_detailed_page(window)) {
         window.closingoK = true;
@@ -270,9 +270,11 @@ void on_close_box(f_new_round& window)
         ask_and_close(window, true);
         return;
     }
-    // OK and Cancel stay where they are while a shot is incomplete. The close box says so too, but it is
-    // the way out that is always left.
-    finish_typing(window);
+    // A distance that is too large has to be corrected, or dropped by Escape, here as everywhere.
+    if (!finish_typing(window))
+        return;
+    // OK and Cancel keep the window open while a shot is incomplete. The close box shows the message too, but
+    // it always leads out.
     if (check_shots(window) && on_detailed_page(window)) {
         window.closingoK = true;
         page_changed(window);

@@ -43,7 +43,8 @@ void show_shots_of_hole(f_new_round& window)
 /// the second check, behind a blank first shot, can keep the hole.
 bool may_leave_shots(f_new_round& window)
 {
-    finish_typing(window);
+    if (!finish_typing(window))
+        return false;
     check_shots(window);
     summarise_hole(window);
     int16 removed = 0;

@@ -14,7 +14,8 @@ namespace verdane::f_new_round_func {
 
 void report_putts(f_new_round& window)
 {
-    finish_typing(window);
+    if (!finish_typing(window))
+        return;
     // A hole of which nothing is told keeps the figures of the quick page.
     if (on_detailed_page(window) && !hole_is_untold())
         finish_hole(window);

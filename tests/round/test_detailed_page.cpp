@@ -220,8 +220,6 @@ private Q_SLOTS:
         for (const char* refused : {"-5", "12a", "2.5", "1e3", " 7"})
             QTest::newRow(refused) << QString::fromLatin1(refused) << "60";
         QTest::newRow("digits of another script") << QStringLiteral("\u0661\u0662") << "60";
-        QTest::newRow("beyond 16 bits") << "32768"
-                                        << "60";
         QTest::newRow("the last that fits") << "32767"
                                             << "32767";
         QTest::newRow("digits") << "045"

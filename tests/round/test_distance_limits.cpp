@@ -1,0 +1,150 @@
+#include <QListWidget>
+#include <QTest>
+
+#include <functional>
+
+#include "f_new_round.h"
+#include "round_windows.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString cell = QStringLiteral("cell_being_typed");
+const QString too_far = QStringLiteral("32768");
+
+/// A drive with 60 yards left, whose distance is typed over with one that 16 bits cannot hold.
+void type_too_far(hand& user)
+{
+    go_to_detailed_page(user);
+    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+    user.click_cell(details, 0, 3);
+    user.type(too_far);
+}
+
+using way_out = std::function<void(hand&)>;
+
+way_out by_key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    return [=](hand& user) { user.key(key, modifiers); };
+}
+
+way_out by_click(const char* control)
+{
+    return [name = QString::fromLatin1(control)](hand& user) { user.click(name); };
+}
+
+void rows_of_keys()
+{
+    QTest::newRow("Enter") << by_key(Qt::Key_Return);
+    QTest::newRow("Tab") << by_key(Qt::Key_Tab);
+    QTest::newRow("Shift+Tab") << by_key(Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::newRow("Down") << by_key(Qt::Key_Down);
+    QTest::newRow("PageDown") << by_key(Qt::Key_PageDown);
+    QTest::newRow("the page by key") << by_key(Qt::Key_1, Qt::ControlModifier);
+    QTest::newRow("the next shot by key") << by_key(Qt::Key_N, Qt::ControlModifier);
+    QTest::newRow("the removal by key") << by_key(Qt::Key_Delete, Qt::ControlModifier);
+    QTest::newRow("the putt report by key") << by_key(Qt::Key_P, Qt::ControlModifier);
+}
+
+void rows_of_clicks()
+{
+    for (const char* control :
+         {"Command1_4", "Command1_2", "CommandSuiv", "CommandSup", "Command2", "Command4", "b_putts",
+          "cmb_courses", "cmb_holes", "conditions", "Text1", "pList"})
+        QTest::newRow(control) << by_click(control);
+    QTest::newRow("a hole tab") << way_out([](hand& user) { user.click_tab(hole_tabs, 2); });
+    QTest::newRow("a page tab") << way_out([](hand& user) { go_to_quick_page(user); });
+    QTest::newRow("another cell") << way_out([](hand& user) { user.click_cell(details, 0, 4); });
+    QTest::newRow("a cell with a menu") << way_out([](hand& user) { user.click_cell(details, 0, 5); });
+    QTest::newRow("a partner") << way_out([](hand& user) { user.click_row(QStringLiteral("pList"), 0); });
+    QTest::newRow("the title bar") << way_out([](hand& user) { user.close_window(round_window()); });
+}
+
+/// What would have changed if the way out had led anywhere.
+QString state_of(hand& user)
+{
+    QString partner;
+    with_round(user, [&](f_new_round& window) {
+        partner = window.pList->selectedItems().isEmpty() ? QStringLiteral("none") : QStringLiteral("one");
+    });
+    return QStringLiteral("cursor %1, distance %2, shots %3, hole %4, page %5, partner %6")
+        .arg(user.cursor(details), user.cell(details, 0, 3))
+        .arg(user.grid_rows(details))
+        .arg(user.selected(hole_tabs))
+        .arg(user.selected(QStringLiteral("TabStrip2")))
+        .arg(partner);
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(way_out)
+
+/// A distance of more than 32,767 stays in its cell until it is corrected or dropped.
+class test_distance_limits : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void no_way_out_of_the_cell_takes_or_loses_it_data()
+    {
+        QTest::addColumn<way_out>("leave");
+        rows_of_keys();
+        rows_of_clicks();
+    }
+    void no_way_out_of_the_cell_takes_or_loses_it()
+    {
+        QFETCH(way_out, leave);
+        const golfer_store round;
+        round.store.add_partner(QStringLiteral("Ann"), QStringLiteral("Berg"), 77);
+        in_keyed_round([&](hand& user) {
+            type_too_far(user);
+            const int bells = user.bells();
+            leave(user);
+            user.same(user.focus(), cell, QStringLiteral("focus"));
+            user.same(user.selected_text(cell), too_far, QStringLiteral("selection"));
+            user.same(user.bells() - bells, 1, QStringLiteral("bells"));
+            user.same(state_of(user),
+                      QStringLiteral("cursor 0,3, distance 60, shots 1, hole 0, page 1, partner none"),
+                      QStringLiteral("state"));
+            user.type(QStringLiteral("45"));
+            user.key(Qt::Key_Return);
+            user.same(user.cell(details, 0, 3), QStringLiteral("45"), QStringLiteral("distance"));
+            accept(user);
+        });
+        QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
+    }
+
+    void Escape_drops_it_and_the_window_closes()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_too_far(user);
+            user.key(Qt::Key_Return);
+            user.key(Qt::Key_Escape);
+            user.same(user.focus(), details, QStringLiteral("focus"));
+            user.same(user.cell(details, 0, 3), QStringLiteral("60"), QStringLiteral("distance"));
+            accept(user);
+        });
+        QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>60 "));
+    }
+
+    void the_largest_distance_is_taken()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            type_too_far(user);
+            user.key(Qt::Key_Return);
+            user.type(QStringLiteral("32767"));
+            user.key(Qt::Key_Return);
+            user.same(user.cell(details, 0, 3), QStringLiteral("32767"), QStringLiteral("distance"));
+            accept(user);
+        });
+        QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>32767 "));
+    }
+};
+
+QTEST_MAIN(test_distance_limits)
+
+#include "test_distance_limits.moc"
