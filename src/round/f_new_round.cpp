@@ -11,6 +11,7 @@
 #include "events.h"
 #include "f_new_round_func.h"
 #include "f_new_round_layout.h"
+#include "page_keys.h"
 #include "quick_entry.h"
 #include "round_boxes.h"
 #include "round_putts.h"
@@ -75,6 +76,7 @@ void f_new_round::connect_events()
         on_click(*button, [this, pressed = index] { f_new_round_func::on_ok_cancel(*this, pressed); });
     set_cancel_button(Command1(round_box::cancel));
     quick_entry::watch_boxes(*this);
+    watch_page_keys(*this);
 }
 
 void f_new_round::saveShots()

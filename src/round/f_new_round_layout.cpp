@@ -60,21 +60,30 @@ QLayout* make_bottom(f_new_round& window)
     return bottom;
 }
 
-/// The keys walk the quick page down to OK, as typing does, then what belongs to the round.
-void order_for_tab_key(f_new_round& window)
+/// The boxes of the quick page that take a figure, from top to bottom.
+std::vector<QWidget*> boxes_from_top(const f_new_round& window)
 {
-    std::vector<QWidget*> order;
-    for (const auto* boxes : {&window.text_vrd, &window.text_p, &window.text_s}) {
-        for (const auto& [index, box] : boxes->members()) {
+    std::vector<QWidget*> boxes;
+    for (const auto* group : {&window.text_vrd, &window.text_p, &window.text_s}) {
+        for (const auto& [index, box] : group->members()) {
             if (box->focusPolicy() != Qt::NoFocus)
-                order.push_back(box);
+                boxes.push_back(box);
         }
     }
+    return boxes;
+}
+
+/// Tab goes through the window as it is read, on either page; after OK and Cancel it starts at the top again.
+void order_for_tab_key(f_new_round& window)
+{
+    std::vector<QWidget*> order{window.TabStrip1, window.cmb_holes, window.b_getdat,
+                                window.TabStrip2, window.b_putts,   window.Command4};
+    for (QWidget* box : boxes_from_top(window))
+        order.push_back(box);
     order.insert(order.end(),
-                 {window.details, window.CommandSuiv, window.CommandSup, window.b_carte,
-                  &window.Command1(round_box::ok), &window.Command1(round_box::cancel), window.cmb_courses,
-                  window.conditions, window.UpDown1, window.pList, window.TabStrip2, window.b_putts,
-                  window.Command4, window.TabStrip1, window.cmb_holes, window.b_getdat});
+                 {window.details, window.CommandSuiv, window.CommandSup, window.b_carte, window.cmb_courses,
+                  window.conditions, window.UpDown1, window.pList, window.Command2,
+                  &window.Command1(round_box::ok), &window.Command1(round_box::cancel)});
     for (std::size_t place = 1; place < order.size(); ++place)
         QWidget::setTabOrder(order[place - 1], order[place]);
 }

@@ -1,0 +1,312 @@
+#include <QApplication>
+#include <QTest>
+
+#include "f_new_round.h"
+#include "languages.h"
+#include "round_windows.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int holes = 18;
+const QString page_tabs = QStringLiteral("TabStrip2");
+
+/// Types and counts.
+class typist {
+public:
+    explicit typist(hand& user) : user_(user) {}
+    void type(const QString& characters)
+    {
+        keys_ += static_cast<int>(characters.size());
+        user_.type(characters);
+    }
+    void press(Qt::Key key)
+    {
+        ++keys_;
+        user_.key(key);
+    }
+    int keys() const { return keys_; }
+
+private:
+    hand& user_;
+    int keys_ = 0;
+};
+
+/// Eleven digits that no other hole has.
+QString digits_of(int hole)
+{
+    QString digits = QStringLiteral("12010000000");
+    digits[0] = QChar(u'0' + hole % 10);
+    digits[10] = QChar(u'0' + hole / 10);
+    return digits;
+}
+
+QString figures_of(int hole)
+{
+    return digits_of(hole).split(QString(), Qt::SkipEmptyParts).join(u' ');
+}
+
+void give_focus(hand& user, const QString& control)
+{
+    with_round(user, [&](f_new_round& window) {
+        auto* found = window.findChild<QWidget*>(control);
+        found->setFocus(Qt::OtherFocusReason);
+        QVERIFY2(found->hasFocus() || (found->focusProxy() && found->focusProxy()->hasFocus()),
+                 qUtf8Printable(control));
+    });
+}
+
+int hole_on_screen(hand& user)
+{
+    return user.selected(hole_tabs) + 1;
+}
+
+/// What the parameters of the round show.
+QString parameters(hand& user)
+{
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(user.selected(QStringLiteral("cmb_courses")))
+        .arg(user.selected(QStringLiteral("conditions")))
+        .arg(user.selected(QStringLiteral("pList")))
+        .arg(user.text(QStringLiteral("Text1")));
+}
+
+/// Partners fill more than a page of their list.
+struct partner_store : golfer_store {
+    partner_store()
+    {
+        for (int code = 1; code <= 9; ++code)
+            store.add_partner(QStringLiteral("Ann"), QStringLiteral("Berg"), code);
+    }
+};
+
+/// The controls that Tab visits after OK, as far as OK again.
+QStringList walk_from_ok(hand& user)
+{
+    give_focus(user, ok_button);
+    QStringList visited;
+    for (int step = 0; step < 60; ++step) {
+        user.key(Qt::Key_Tab);
+        const QString focused = user.focus();
+        if (focused == ok_button)
+            break;
+        if (visited.isEmpty() || visited.back() != focused)
+            visited << focused;
+    }
+    return visited;
+}
+
+const QStringList head{QStringLiteral("Command1_2"), QStringLiteral("TabStrip1"), QStringLiteral("cmb_holes"),
+                       QStringLiteral("TabStrip2"),  QStringLiteral("b_putts"),   QStringLiteral("Command4")};
+const QStringList foot{QStringLiteral("cmb_courses"), QStringLiteral("conditions"), QStringLiteral("UpDown1"),
+                       QStringLiteral("pList"), QStringLiteral("Command2")};
+const QStringList quick_boxes{
+    QStringLiteral("text_vrd_0"), QStringLiteral("text_vrd_1"), QStringLiteral("text_vrd_2"),
+    QStringLiteral("text_p_3"),   QStringLiteral("text_p_4"),   QStringLiteral("text_p_5"),
+    QStringLiteral("text_p_6"),   QStringLiteral("text_s_8"),   QStringLiteral("text_s_9"),
+    QStringLiteral("text_s_10"),  QStringLiteral("text_s_11")};
+
+}  // namespace
+
+/// The keys that change the hole and the page from every control of the window.
+class test_page_keys : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eighteen_holes_take_fewer_than_230_keys()
+    {
+        const golfer_store round;
+        int keys = 0;
+        in_keyed_round([&](hand& user) {
+            typist golfer(user);
+            for (int hole = 1; hole <= holes; ++hole) {
+                golfer.type(digits_of(hole));
+                golfer.press(hole < holes ? Qt::Key_PageDown : Qt::Key_Return);
+            }
+            keys = golfer.keys();
+        });
+        QVERIFY2(keys < 230, qPrintable(QString::number(keys)));
+        for (int hole = 1; hole <= holes; ++hole)
+            QCOMPARE(stored_figures(round.store, hole), figures_of(hole));
+    }
+
+    void every_control_of_the_window_leaves_PageDown_and_PageUp_to_the_holes_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<int>("page");
+        for (const QString& control : head + foot + QStringList{ok_button, QStringLiteral("Text1")}) {
+            QTest::addRow("%s on page 1", qPrintable(control)) << control << 1;
+            QTest::addRow("%s on page 2", qPrintable(control)) << control << 2;
+        }
+        for (const QString& control : quick_boxes)
+            QTest::addRow("%s", qPrintable(control)) << control << 1;
+        for (const char* control : {"details", "CommandSuiv", "CommandSup"})
+            QTest::addRow("%s", control) << control << 2;
+    }
+    void every_control_of_the_window_leaves_PageDown_and_PageUp_to_the_holes()
+    {
+        QFETCH(QString, control);
+        QFETCH(int, page);
+        const partner_store round;
+        in_keyed_round([&](hand& user) {
+            user.click_tab(page_tabs, page);
+            if (page == 2)
+                tell_hole(user);
+            give_focus(user, control);
+            const QString before = parameters(user);
+            user.key(Qt::Key_PageDown);
+            user.same(hole_on_screen(user), 2, QStringLiteral("hole after PageDown"));
+            user.same(user.focus(), page == 1 ? quick_boxes.front() : details, QStringLiteral("focus"));
+            if (page == 2)
+                tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            give_focus(user, control);
+            user.key(Qt::Key_PageUp);
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole after PageUp"));
+            user.same(parameters(user), before, QStringLiteral("parameters"));
+            accept(user);
+        });
+    }
+
+    void ahead_of_the_first_hole_and_after_the_last_the_bell_rings()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            const int bells = user.bells();
+            user.key(Qt::Key_PageUp);
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            user.same(user.bells() - bells, 1, QStringLiteral("bells"));
+            user.click_tab(hole_tabs, holes);
+            user.key(Qt::Key_PageDown);
+            user.same(hole_on_screen(user), holes, QStringLiteral("hole"));
+            user.same(user.bells() - bells, 2, QStringLiteral("bells"));
+            discard(user);
+        });
+    }
+
+    void a_distance_that_is_being_typed_is_taken_before_the_hole_changes()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("45"));
+            user.key(Qt::Key_PageDown);
+            user.same(hole_on_screen(user), 2, QStringLiteral("hole"));
+            go_to_quick_page(user);
+            accept(user);
+        });
+        QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
+    }
+
+    void an_incomplete_shot_keeps_the_hole_with_its_messages_data() { both_languages(); }
+    void an_incomplete_shot_keeps_the_hole_with_its_messages()
+    {
+        QFETCH(bool, french);
+        const golfer_store round(french);
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            leave_second_shot_open(user);
+            user.key(Qt::Key_PageDown);
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.wait_for_window(round_window());
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+    }
+
+    void an_open_list_keeps_its_keys()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.press_and_release(QStringLiteral("conditions"));
+            user.wait_until(QStringLiteral("the open list"),
+                            [] { return QApplication::activePopupWidget() != nullptr; });
+            for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_Return}) {
+                user.look([key] {
+                    QWidget* popup = QApplication::activePopupWidget();
+                    QWidget* focused = popup->focusWidget();
+                    QTest::keyClick(focused ? focused : popup, key);
+                });
+            }
+            user.same(user.selected(QStringLiteral("conditions")), 3, QStringLiteral("weather"));
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            discard(user);
+        });
+    }
+
+    void an_open_menu_keeps_its_keys()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            go_to_detailed_page(user);
+            user.open_menu(details, 0, 2);
+            user.menu_key(Qt::Key_PageDown);
+            user.wait_for_menu(QStringLiteral("mSticks"));
+            user.choose_menu_entry(QStringLiteral("ms1_1"));
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            with_round(user, [](f_new_round& window) { window.unload(); });
+        });
+    }
+
+    void Ctrl_and_a_digit_choose_the_page_data()
+    {
+        QTest::addColumn<int>("detailed");
+        QTest::addColumn<int>("quick");
+        QTest::newRow("digits without Shift") << int(Qt::Key_2) << int(Qt::Key_1);
+        QTest::newRow("digits with Shift") << int(Qt::Key_Eacute) << int(Qt::Key_Ampersand);
+    }
+    void Ctrl_and_a_digit_choose_the_page()
+    {
+        QFETCH(int, detailed);
+        QFETCH(int, quick);
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.key(detailed, Qt::ControlModifier);
+            user.same(user.selected(page_tabs), 1, QStringLiteral("page"));
+            user.same(user.focus(), details, QStringLiteral("focus"));
+            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            user.click_cell(details, 0, 3);
+            user.type(QStringLiteral("45"));
+            user.key(quick, Qt::ControlModifier);
+            user.same(user.selected(page_tabs), 0, QStringLiteral("page"));
+            user.same(user.focus(), quick_boxes.front(), QStringLiteral("focus"));
+            user.same(user.text(quick_boxes.front()), QStringLiteral("1"), QStringLiteral("long shots"));
+            accept(user);
+        });
+        QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
+    }
+
+    void Tab_goes_from_OK_to_Cancel_and_then_down_the_quick_page()
+    {
+        const partner_store round;
+        in_keyed_round([&](hand& user) {
+            user.same(walk_from_ok(user).join(u' '), (head + quick_boxes + foot).join(u' '),
+                      QStringLiteral("order"));
+            discard(user);
+        });
+    }
+
+    void Tab_goes_from_OK_to_Cancel_and_then_down_the_detailed_page()
+    {
+        const partner_store round;
+        in_keyed_round([&](hand& user) {
+            user.click_tab(hole_tabs, holes);
+            go_to_detailed_page(user);
+            const QStringList shots{details, QStringLiteral("CommandSuiv"), QStringLiteral("CommandSup"),
+                                    QStringLiteral("b_carte")};
+            user.same(walk_from_ok(user).join(u' '), (head + shots + foot).join(u' '),
+                      QStringLiteral("order"));
+            go_to_quick_page(user);
+            discard(user);
+        });
+    }
+};
+
+QTEST_MAIN(test_page_keys)
+
+#include "test_page_keys.moc"
