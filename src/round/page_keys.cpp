@@ -7,6 +7,7 @@
 #include "detailed_page.h"
 #include "f_new_round.h"
 #include "failure_guard.h"
+#include "shortcuts.h"
 
 namespace verdane {
 
@@ -69,11 +70,32 @@ private:
     f_new_round& window_;
 };
 
+constexpr text_pair next_hole{u"Trou suivant", u"Next hole"};
+constexpr text_pair previous_hole{u"Trou précédent", u"Previous hole"};
+constexpr text_pair quick_entry_words{u"Entrée rapide", u"Quick entry"};
+constexpr text_pair detailed_entry_words{u"Entrée détaillée", u"Detailed Entry"};
+
+/// In the list of F1 and in the tool tips of the tabs.
+void name_keys(f_new_round& window)
+{
+    const auto tip = [&window](const QKeySequence& keys, const text_pair& words) {
+        window.shortcuts().mention(keys, words);
+        return tool_tip_with_keys(words, keys, window.french());
+    };
+    const QString next = tip(Qt::Key_PageDown, next_hole);
+    window.TabStrip1->setToolTip(next + u'\n' + tip(Qt::Key_PageUp, previous_hole));
+    window.TabStrip2->setTabToolTip(f_new_round_func::quick_page - 1,
+                                    tip(Qt::CTRL | Qt::Key_1, quick_entry_words));
+    window.TabStrip2->setTabToolTip(f_new_round_func::detailed_page - 1,
+                                    tip(Qt::CTRL | Qt::Key_2, detailed_entry_words));
+}
+
 }  // namespace
 
 void watch_page_keys(f_new_round& window)
 {
     new page_keys(window);
+    name_keys(window);
 }
 
 }  // namespace verdane

@@ -281,6 +281,28 @@ private Q_SLOTS:
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
     }
 
+    void the_tabs_name_their_keys_data() { both_languages(); }
+    void the_tabs_name_their_keys()
+    {
+        QFETCH(bool, french);
+        const golfer_store round(french);
+        in_keyed_round([&](hand& user) {
+            with_round(user, [&](f_new_round& window) {
+                const auto words = [&](const char* french_tip, const char* english_tip) {
+                    return QString::fromUtf8(french ? french_tip : english_tip);
+                };
+                QCOMPARE(window.TabStrip1->toolTip(),
+                         words("Trou suivant (Page suiv.)\nTrou précédent (Page préc.)",
+                               "Next hole (Page Down)\nPrevious hole (Page Up)"));
+                QCOMPARE(window.TabStrip2->tabToolTip(0),
+                         words("Entrée rapide (Ctrl+1)", "Quick entry (Ctrl+1)"));
+                QCOMPARE(window.TabStrip2->tabToolTip(1),
+                         words("Entrée détaillée (Ctrl+2)", "Detailed Entry (Ctrl+2)"));
+            });
+            discard(user);
+        });
+    }
+
     void Tab_goes_from_OK_to_Cancel_and_then_down_the_quick_page()
     {
         const partner_store round;

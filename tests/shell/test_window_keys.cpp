@@ -50,7 +50,11 @@ QStringList own_lines(const QString& family)
             in_language(u"Ctrl+Suppr : Supprimer le coup", u"Ctrl+Del: Remove the shot"),
             in_language(u"F5 : Fin du trou, carte rafraîchie", u"F5: End of the hole, scorecard refreshed"),
             in_language(u"Ctrl+P : Rapport sur les coups roulés de la ronde",
-                        u"Ctrl+P: Report on the putts of the round")};
+                        u"Ctrl+P: Report on the putts of the round"),
+            in_language(u"Page suiv. : Trou suivant", u"Page Down: Next hole"),
+            in_language(u"Page préc. : Trou précédent", u"Page Up: Previous hole"),
+            in_language(u"Ctrl+1 : Entrée rapide", u"Ctrl+1: Quick entry"),
+            in_language(u"Ctrl+2 : Entrée détaillée", u"Ctrl+2: Detailed Entry")};
     if (family == u"f_courses")
         return {in_language(u"Ctrl+S : Enregistrer", u"Ctrl+S: Save"),
                 in_language(u"Ctrl+W : Fermer", u"Ctrl+W: Close")};
