@@ -62,6 +62,8 @@ surroundings inside(surroundings state, const QXmlStreamAttributes& attributes)
             state.text.ink = QColor(value);
         else if (name == u"data-room")
             state.text.room = value.toDouble();
+        else if (name == u"data-least")
+            state.text.least_size = value.toDouble();
         else if (name == u"transform")
             move(state, value);
     }
@@ -105,7 +107,8 @@ set_text fitted(const drawing_text& text, double scale_x, double scale_y)
     result.width = measure();
     if (room <= 0 || result.width <= room)
         return result;
-    const double smaller = result.font.pixelSize() * qMax(0.5, room / result.width);
+    const double least = text.least_size > 0 ? qMin(1.0, text.least_size / text.size) : 0.5;
+    const double smaller = result.font.pixelSize() * qMax(least, room / result.width);
     result.font.setPixelSize(qMax(1, static_cast<int>(smaller)));
     result.words = QFontMetricsF(result.font).elidedText(result.words, Qt::ElideRight, room);
     result.width = measure();

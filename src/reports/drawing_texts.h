@@ -20,9 +20,11 @@ struct drawing_text {
     QStringList families{QStringLiteral("DejaVu Sans")};
     double size = 12;
     bool bold = false;
-    /// The width that it has; 0 for any. What is wider is set in smaller letters, down to half their size,
+    /// The width that it has; 0 for any. What is wider is set in smaller letters, down to `least_size`,
     /// and then cut with "…".
     double room = 0;
+    /// 0 for half of `size`.
+    double least_size = 0;
     QColor ink{Qt::black};
 };
 
@@ -34,9 +36,9 @@ struct parted_drawing {
 
 /// The renderer of the toolkit paints letters as outlines, which nobody can search or copy on a page;
 /// therefore a report sets the texts of its drawings itself. It reads the attributes `x`, `y`,
-/// `font-family`, `font-size`, `font-weight`, `text-anchor`, `fill` and `data-room` of a text and the
-/// elements around it, and groups that are moved by `translate`. A text in a group that is turned or scaled,
-/// or in a drawing without a `viewBox`, stays in the drawing.
+/// `font-family`, `font-size`, `font-weight`, `text-anchor`, `fill`, `data-room` and `data-least` of a text
+/// and the elements around it, and groups that are moved by `translate`. A text in a group that is turned or
+/// scaled, or in a drawing without a `viewBox`, stays in the drawing.
 ///
 /// `svg` is well-formed.
 parted_drawing with_texts_apart(const QString& svg);

@@ -94,7 +94,8 @@ private Q_SLOTS:
         fill_card(store_.path(), u"Links"_s, figures::extreme);
         const QStringList pages = printed_pages(u"r_card2_en.rpt"_s);
         QCOMPARE(pages.size(), 1);
-        QVERIFY(pages.front().contains(u"Honourable Company Of Invented Golf Courses, Variable White"_s));
+        QVERIFY(pages.front().contains(u"The Very Long And Honourable Company Of Invented"_s));
+        QVERIFY(pages.front().contains(u"Golf Courses, Variable White"_s));
         QVERIFY(pages.front().contains(u"294903 589806"_s));
     }
 
@@ -130,6 +131,17 @@ private Q_SLOTS:
         const QImage page = render_report(built_template(u"r_card2.rpt"_s))->page_image(0, 254);
         QCOMPARE(pixels_below(page, QRect(2801, 0, 169, 2100), 250), 0);
         QVERIFY(printed_pages(u"r_card2.rpt"_s).front().contains(u"THE GOLF A…"_s));
+    }
+
+    void a_name_too_long_for_one_line_is_printed_whole_on_two()
+    {
+        const QString name = u"THE OLD AND HONOURABLE GOLF AND COUNTRY CLUB OF THE UPPER VALLEY AND THE LAKES ABOVE"_s;
+        reader(store_.path()).write(u"update r_card set card_name = '%1'"_s.arg(name));
+        for (const QString& report : {u"r_card2.rpt"_s, u"r_card2_en.rpt"_s}) {
+            const QString page = printed_pages(report).front();
+            QVERIFY(page.contains(u"THE OLD AND HONOURABLE GOLF AND COUNTRY CLUB OF THE"_s));
+            QVERIFY(page.contains(u"UPPER VALLEY AND THE LAKES ABOVE"_s));
+        }
     }
 
     void the_widest_names_stay_in_their_part_data()
@@ -168,7 +180,7 @@ private Q_SLOTS:
         QVERIFY(printed_pages(u"r_card2_en.rpt"_s).front().contains(u"WWWW… 200"_s));
         const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
         // Between the names and the line where their bars begin.
-        QCOMPARE(pixels_below(page, QRect(170 + 30 + 252, 90 + 980 + 82, 14, 780), 250), 0);
+        QCOMPARE(pixels_below(page, QRect(170 + 30 + 287, 90 + 980 + 82, 14, 780), 250), 0);
     }
 
     void the_figures_file_lists_holes_then_clubs()

@@ -1,7 +1,11 @@
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <utility>
 
 #include "invented_rows.h"
 #include "reader.h"
+#include "report_document.h"
 #include "report_store.h"
 #include "report_tools.h"
 #include "store_folder.h"
@@ -14,6 +18,7 @@ class test_cost_report : public QObject {
     Q_OBJECT
 
     store_folder store_;
+    QTemporaryDir folder_;
 
 private Q_SLOTS:
     void init() { set_report_store(store_.path()); }
@@ -96,6 +101,43 @@ private Q_SLOTS:
         const qsizetype mean = last.indexOf(is_english ? u"Mean per round"_s : u"Moyenne par ronde"_s, total);
         QVERIFY(mean > total);
         QVERIFY(last.indexOf(is_english ? u"Share %"_s : u"Part %"_s, mean) > mean);
+    }
+
+    void pages_after_the_first_are_at_least_half_full_data()
+    {
+        QTest::addColumn<int>("rounds");
+        QTest::addColumn<int>("pages");
+        for (const auto& [rounds, pages] : {std::pair(13, 1),
+                                            {14, 2},
+                                            {17, 2},
+                                            {25, 2},
+                                            {42, 2},
+                                            {43, 3},
+                                            {60, 3},
+                                            {87, 3},
+                                            {88, 4},
+                                            {366, 10}})
+            QTest::addRow("%d rounds", rounds) << rounds << pages;
+    }
+    void pages_after_the_first_are_at_least_half_full()
+    {
+        QFETCH(int, rounds);
+        QFETCH(int, pages);
+        fill_costs(store_.path(), rounds);
+        for (const QString& name : {u"r_cost3.rpt"_s, u"r_cost3_en.rpt"_s}) {
+            const QString path = folder_.filePath(u"costs.pdf"_s);
+            const auto document = render_report(built_template(name));
+            QCOMPARE(document->page_count(), pages);
+            document->save_pdf(path);
+            std::vector<double> lowest(static_cast<std::size_t>(pages));
+            for (const printed_word& word : pdf_words(path))
+                if (word.place.bottom() < word.page.height() - document->margins_mm().bottom()) {
+                    double& bottom = lowest[static_cast<std::size_t>(word.page_number)];
+                    bottom = qMax(bottom, word.place.bottom());
+                }
+            for (const double bottom : lowest)
+                QVERIFY2(bottom > document->page_size_mm().height() / 2, qPrintable(QString::number(bottom)));
+        }
     }
 
     void the_rounds_stand_in_time_order()
