@@ -1,8 +1,10 @@
 #include "Connection1.h"
 
+#include "engine_handle.h"
 #include "fresh_store.h"
 #include "prepared_statements.h"
 #include "schema.h"
+#include "store_files.h"
 #include "store_lock.h"
 
 #include <QDir>
@@ -12,6 +14,8 @@
 #include <QSqlQuery>
 #include <QStandardPaths>
 #include <QUuid>
+
+#include <sqlite3.h>
 
 #include <algorithm>
 
@@ -46,34 +50,24 @@ void make_folder(const QString& path)
                                QStringLiteral("the folder %1 cannot be made").arg(folder));
 }
 
-/// Opening the file for writing is the only honest answer to whether it may be written: its
-/// permissions do not tell, and the engine itself finds out as late as its first checkpoint.
-void open_for_check(QFile& file)
+void run(const QSqlDatabase& database, const QString& statement)
 {
-    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        return;
-    const QString reason = file.fileName() + u": " + file.errorString();
-    const bool readable = file.open(QIODevice::ReadOnly);
-    throw run_time_failure(readable ? failure_kind::store_read_only : failure_kind::store_unreachable,
-                           reason);
-}
-
-/// The engine would take a very short text file for a store that was never filled.
-void check_file(const QString& path)
-{
-    QFile file(path);
-    if (!file.exists())
-        return;
-    open_for_check(file);
-    if (file.size() > 0 && file.read(16) != QByteArray("SQLite format 3", 16))
-        throw run_time_failure(failure_kind::store_damaged, QString(path + u": not a store"));
+    QSqlQuery query(database);
+    if (!query.exec(statement))
+        throw store_failure(query.lastError(), statement);
 }
 
 /// Takes the write lock, which changes nothing: a tool in the middle of its own work is met here.
-void check_no_other_writer(Connection1& connection)
+void check_no_other_writer(const QSqlDatabase& database)
 {
-    connection.Execute(QStringLiteral("BEGIN IMMEDIATE"));
-    connection.Execute(QStringLiteral("ROLLBACK"));
+    run(database, QStringLiteral("BEGIN IMMEDIATE"));
+    run(database, QStringLiteral("ROLLBACK"));
+}
+
+/// Whether closing the connection copies the write-ahead log into the file and removes it.
+void copy_log_on_close(const QSqlDatabase& database, bool copy)
+{
+    sqlite3_db_config(engine_handle(database), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, copy ? 0 : 1, nullptr);
 }
 
 /// Whether there is a store to keep; without one it is laid down. A file in which nothing is known is
@@ -120,21 +114,23 @@ void Connection1::Open(const QString& path, soundness_check check)
     make_folder(path);
     lock_ = take_store_lock(path);
     path_ = path;
-    const bool was_there = QFile::exists(path);
+    known_sound_ = false;
+    bool created = false;
     try {
+        check_store_files(path);
+        created = !QFile::exists(path);
         open_engine(check);
     } catch (...) {
         Close();
-        // Nothing was laid down in a file that was made just now: an empty one helps nobody.
-        if (!was_there)
-            QFile::remove(path);
+        // A file that was created just now and could not be filled is of no use to anyone.
+        if (created)
+            remove_store_files(path);
         throw;
     }
 }
 
 void Connection1::open_engine(soundness_check check)
 {
-    check_file(path_);
     {
         QSqlDatabase engine = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
         engine.setDatabaseName(path_);
@@ -142,23 +138,34 @@ void Connection1::open_engine(soundness_check check)
         if (!engine.open())
             throw store_failure(engine.lastError(), path_);
     }
+    // A damaged file stays as it was found.
+    copy_log_on_close(database(), false);
     if (check == soundness_check::while_opening || database().tables().isEmpty())
         check_soundness();
-    check_no_other_writer(*this);
+    check_no_other_writer(database());
     const bool laid_down = has_store(database());
     // WAL lets report printing and other readers look on while the program writes.
     answer(database(), QStringLiteral("PRAGMA journal_mode=WAL"));
-    Execute(QStringLiteral("PRAGMA synchronous=FULL"));
-    Execute(QStringLiteral("PRAGMA cache_size=-%1").arg(kept_pages_kb));
+    run(database(), QStringLiteral("PRAGMA synchronous=FULL"));
+    run(database(), QStringLiteral("PRAGMA cache_size=-%1").arg(kept_pages_kb));
     if (!laid_down)
         lay_down(*this);
 }
 
 void Connection1::check_soundness() const
 {
-    const QString verdict = answer(database(), QStringLiteral("PRAGMA quick_check(1)"));
+    // The short form of this check does not compare the indexes with their tables.
+    const QString verdict = answer(database(), QStringLiteral("PRAGMA integrity_check(1)"));
     if (verdict != u"ok")
         throw run_time_failure(failure_kind::store_damaged, QString(path_ + u": " + verdict));
+    known_sound_ = true;
+    copy_log_on_close(database(), true);
+}
+
+void Connection1::need_soundness() const
+{
+    if (!known_sound_)
+        check_soundness();
 }
 
 void Connection1::Close()
@@ -180,9 +187,8 @@ void Connection1::Execute(const QString& statement)
 {
     if (!is_open())
         throw run_time_failure(failure_kind::misuse, QString(statement + u": the connection is closed"));
-    QSqlQuery query(database());
-    if (!query.exec(statement))
-        throw store_failure(query.lastError(), statement);
+    need_soundness();
+    run(database(), statement);
 }
 
 QSqlDatabase Connection1::database() const

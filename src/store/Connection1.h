@@ -14,8 +14,9 @@ namespace verdane {
 
 class prepared_statements;
 
-/// When the whole file is looked through for damage: while it is opened, or later, by the caller's own
-/// call of `check_soundness`. A file in which no table is found is looked through in either case.
+/// When the whole file is checked for damage: while it is opened, or later, by the caller's own call of
+/// `check_soundness`, and at the latest before the first statement that writes. A file in which no table is
+/// found is checked in either case.
 enum class soundness_check { while_opening, later };
 
 /// The program's one connection to the store. With no data source `Verdbase` registered, the store
@@ -27,7 +28,7 @@ public:
     Connection1(const Connection1&) = delete;
     Connection1& operator=(const Connection1&) = delete;
 
-    /// The design-time connection string.
+    /// The connection string of the data source.
     static QString connection_string();
 
     /// The store's file in the user's data folder (the platform's standard place).
@@ -41,8 +42,13 @@ public:
     /// `misuse` when it is open; the file is then as it was.
     void Open(const QString& path = default_path(), soundness_check check = soundness_check::while_opening);
 
-    /// Looks through the whole file, which changes nothing. Fails with `store_damaged`.
+    /// Checks the whole file, its indexes against its tables too, which changes nothing.
+    /// Fails with `store_damaged`.
     void check_soundness() const;
+
+    /// Checks the file unless it is known to be sound. For whatever is about to write: figures that a
+    /// damaged index hides would be overwritten with zeros. Fails with `store_damaged`.
+    void need_soundness() const;
 
     /// Closes the connection and gives the lock back. Pending rows of recordsets are not written.
     void Close();
@@ -76,6 +82,7 @@ private:
     /// The toolkit's name for this connection; several may be open in one process, on several files.
     QString name_;
     int relaxations_ = 0;
+    mutable bool known_sound_ = false;
     QString path_;
     std::unique_ptr<QLockFile> lock_;
     std::unique_ptr<prepared_statements> prepared_;

@@ -105,6 +105,7 @@ void update_row(const Connection1& connection, const row_set& set, const records
 qint64 write_row(const Connection1& connection, const row_set& set, const recordset_row& row,
                  const QString& where)
 {
+    connection.need_soundness();
     if (row.pending->is_new)
         return insert_row(connection, set, row, where);
     update_row(connection, set, row, where);
@@ -113,6 +114,7 @@ qint64 write_row(const Connection1& connection, const row_set& set, const record
 
 void erase_row(const Connection1& connection, const row_set& set, qint64 number, const QString& where)
 {
+    connection.need_soundness();
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
     statement.text += u" WHERE rowid=";
     statement.add(number);

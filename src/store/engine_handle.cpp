@@ -1,0 +1,22 @@
+#include "engine_handle.h"
+
+#include <QSqlDriver>
+#include <QVariant>
+
+#include <cstring>
+
+#include "run_time_failure.h"
+
+namespace verdane {
+
+sqlite3* engine_handle(const QSqlDatabase& database)
+{
+    const QVariant handle = database.driver()->handle();
+    if (!handle.isValid() || std::strcmp(handle.typeName(), "sqlite3*") != 0)
+        throw run_time_failure(
+            failure_kind::store_unreachable,
+            QStringLiteral("%1: no handle of the embedded engine").arg(database.databaseName()));
+    return *static_cast<sqlite3* const*>(handle.constData());
+}
+
+}  // namespace verdane

@@ -1,0 +1,129 @@
+#include "store_files.h"
+
+#include "run_time_failure.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace verdane {
+
+namespace {
+
+/// The parts of the file header that SQLite's file format documents, by their offset.
+namespace header {
+constexpr int size = 100;
+constexpr int page_size = 16;
+constexpr int write_version = 18;
+constexpr int read_version = 19;
+constexpr int newest_version = 2;
+/// A page of 64 KB does not fit into the two bytes of its field.
+constexpr int largest_page_as_written = 1;
+constexpr int largest_page = 65536;
+}  // namespace header
+
+[[noreturn]] void refuse(const QString& path, QStringView reason)
+{
+    throw run_time_failure(failure_kind::store_damaged, QString(path + u": " + reason));
+}
+
+/// Opening the file for writing is the only reliable answer to whether it may be written: permissions do
+/// not say, and the engine finds out as late as its first checkpoint.
+void open_for_check(QFile& file)
+{
+    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        return;
+    const QString reason = file.fileName() + u": " + file.errorString();
+    const bool readable = file.open(QIODevice::ReadOnly);
+    throw run_time_failure(readable ? failure_kind::store_read_only : failure_kind::store_unreachable,
+                           reason);
+}
+
+/// The engine names its files after the file that a link leads to.
+QString file_of_engine(const QString& path, QStringView suffix)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return (target.isEmpty() ? path : target) + suffix;
+}
+
+bool has_content(const QString& path)
+{
+    return QFileInfo(path).size() > 0;
+}
+
+bool has_dated_copy(const QString& path)
+{
+    const QFileInfo file(path);
+    const QDir copies(file.absolutePath() + u"/copies");
+    const QString digit = QStringLiteral("[0-9]");
+    const QString day = digit.repeated(4) + u'-' + digit.repeated(2) + u'-' + digit.repeated(2);
+    const QString pattern = file.completeBaseName() + u'-' + day + u".db";
+    const QFileInfoList found = copies.entryInfoList({pattern}, QDir::Files);
+    return std::any_of(found.begin(), found.end(), [](const QFileInfo& copy) { return copy.size() > 0; });
+}
+
+/// Opening an empty file the engine would delete the log and start a new store.
+void check_that_nothing_was_lost(const QString& path, bool is_there)
+{
+    if (has_content(file_of_engine(path, u"-wal")))
+        refuse(path, is_there ? u"the file is empty, its write-ahead log is not"
+                              : u"the file is missing, its write-ahead log is not");
+    if (is_there && has_dated_copy(path))
+        refuse(path, u"the file is empty, its copies are not");
+}
+
+int page_size_in(const QByteArray& head)
+{
+    const int written = qFromBigEndian<quint16>(head.constData() + header::page_size);
+    return written == header::largest_page_as_written ? header::largest_page : written;
+}
+
+bool is_known_version(const QByteArray& head, int offset)
+{
+    return head[offset] >= 1 && head[offset] <= header::newest_version;
+}
+
+/// True while a log holds pages that have not reached the file: its size may be anything then.
+bool waits_for_recovery(const QString& path)
+{
+    return has_content(file_of_engine(path, u"-wal")) || has_content(file_of_engine(path, u"-journal"));
+}
+
+/// The engine reads what is missing of the last page as zeros, so a file that was cut there opens.
+void check_head(QFile& file, const QString& path)
+{
+    const QByteArray head = file.read(header::size);
+    if (!head.startsWith(QByteArray("SQLite format 3", 16)) || head.size() < header::size)
+        refuse(path, u"not a store");
+    if (!is_known_version(head, header::write_version) || !is_known_version(head, header::read_version))
+        refuse(path, u"an unknown version of the file format");
+    const int page = page_size_in(head);
+    if (page == 0 || (file.size() % page != 0 && !waits_for_recovery(path)))
+        refuse(path, u"its last page is not complete");
+}
+
+}  // namespace
+
+void check_store_files(const QString& path)
+{
+    QFile file(path);
+    const bool is_there = file.exists();
+    if (is_there)
+        open_for_check(file);
+    if (file.size() == 0)
+        check_that_nothing_was_lost(path, is_there);
+    else
+        check_head(file, path);
+}
+
+void remove_store_files(const QString& path)
+{
+    // The file last: a log without its file would look like a store whose file was lost.
+    for (const QStringView suffix : {u"-journal", u"-shm", u"-wal", u""})
+        QFile::remove(file_of_engine(path, suffix));
+}
+
+}  // namespace verdane

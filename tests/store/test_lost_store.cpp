@@ -1,0 +1,132 @@
+#include <QTest>
+
+#include "failures.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::bytes_of;
+using testing::failure_of;
+using testing::reader;
+
+namespace {
+
+void put(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        qFatal("cannot write the file");
+}
+
+/// The log of a store in which something was written.
+QByteArray log_with_content()
+{
+    testing::store_fixture store;
+    store.add_partners(testing::three_names);
+    return bytes_of(store.path() + u"-wal");
+}
+
+}  // namespace
+
+/// A file that is empty or missing: a new diary is created only where nothing shows that there was one.
+class test_lost_store : public QObject {
+    Q_OBJECT
+
+private:
+    static void add_columns()
+    {
+        QTest::addColumn<bool>("file");
+        QTest::addColumn<QByteArray>("log");
+        QTest::addColumn<QString>("copy");
+        QTest::addColumn<QByteArray>("content_of_copy");
+    }
+
+    /// Puts the files of the row in place.
+    static void prepare(const QString& path)
+    {
+        QFETCH(bool, file);
+        QFETCH(QByteArray, log);
+        QFETCH(QString, copy);
+        QFETCH(QByteArray, content_of_copy);
+        if (file)
+            put(path, {});
+        if (!log.isNull())
+            put(path + u"-wal", log);
+        if (!copy.isEmpty())
+            put(QFileInfo(path).absolutePath() + u"/copies/" + copy, content_of_copy);
+    }
+
+private Q_SLOTS:
+    void a_store_that_was_lost_is_refused_and_its_files_are_left_alone_data()
+    {
+        add_columns();
+        const QString copy = QStringLiteral("Verdbase-2026-06-14.db");
+        QTest::newRow("empty file, log with content")
+            << true << log_with_content() << QString() << QByteArray();
+        QTest::newRow("no file, log with content")
+            << false << log_with_content() << QString() << QByteArray();
+        QTest::newRow("empty file, copy with content")
+            << true << QByteArray() << copy << QByteArray("content");
+        QTest::newRow("empty file, empty log, copy with content")
+            << true << QByteArray("") << copy << QByteArray("content");
+    }
+
+    void a_store_that_was_lost_is_refused_and_its_files_are_left_alone()
+    {
+        QFETCH(bool, file);
+        QFETCH(QByteArray, log);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        prepare(path);
+        for (const soundness_check check : {soundness_check::while_opening, soundness_check::later}) {
+            Connection1 connection;
+            QVERIFY(failure_of([&] { connection.Open(path, check); }) == failure_kind::store_damaged);
+        }
+        QCOMPARE(QFile::exists(path), file);
+        QCOMPARE(QFileInfo(path).size(), 0);
+        QCOMPARE(bytes_of(path + u"-wal"), log);
+    }
+
+    void a_diary_is_created_where_there_was_none_data()
+    {
+        add_columns();
+        QTest::newRow("no file") << false << QByteArray() << QString() << QByteArray();
+        QTest::newRow("empty file") << true << QByteArray() << QString() << QByteArray();
+        QTest::newRow("empty file, empty log") << true << QByteArray("") << QString() << QByteArray();
+        QTest::newRow("no file, empty log") << false << QByteArray("") << QString() << QByteArray();
+        // Whoever takes the file away wants a new diary.
+        QTest::newRow("no file, copy with content")
+            << false << QByteArray() << QStringLiteral("Verdbase-2026-06-14.db") << QByteArray("content");
+        QTest::newRow("empty file, empty copy")
+            << true << QByteArray() << QStringLiteral("Verdbase-2026-06-14.db") << QByteArray();
+        QTest::newRow("empty file, another program's copy")
+            << true << QByteArray() << QStringLiteral("Music-2026-06-14.db") << QByteArray("content");
+    }
+
+    void a_diary_is_created_where_there_was_none()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        prepare(path);
+        Connection1 connection;
+        connection.Open(path);
+        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from settings")), 1);
+    }
+
+    void the_log_of_a_linked_file_is_found_beside_its_target()
+    {
+        const QTemporaryDir folder;
+        const QString target = folder.filePath(QStringLiteral("target.db"));
+        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        put(target, {});
+        const QByteArray log = log_with_content();
+        put(target + u"-wal", log);
+        QVERIFY(QFile::link(target, path));
+        Connection1 connection;
+        QVERIFY(failure_of([&] { connection.Open(path); }) == failure_kind::store_damaged);
+        QCOMPARE(bytes_of(target + u"-wal"), log);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_lost_store)
+#include "test_lost_store.moc"
