@@ -10,6 +10,7 @@
 #include "failure_guard.h"
 #include "language.h"
 #include "language_value.h"
+#include "lock_box.h"
 #include "look.h"
 #include "Main_module.h"
 #include "MainForm.h"
@@ -83,10 +84,12 @@ void load_round_keys()
 start_result Main()
 {
     is_french = true;
-    // Nothing is written before the window is up, so looking through the whole file, which takes as long as
+    // Nothing is written before the window is up, so the check of the whole file, which takes as long as
     // everything else done here, can wait until then: see `run_verdane`.
-    data_environment().connection.Open(Connection1::default_path(), soundness_check::later);
-    set_report_store(data_environment().connection.path());
+    Connection1& connection = data_environment().connection;
+    connection.waiting().set_notice_maker(make_lock_box);
+    connection.Open(Connection1::default_path(), soundness_check::later);
+    set_report_store(connection.path());
     set_round_putt_report(Statistics::one_round_putt_report);
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();

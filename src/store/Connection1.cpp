@@ -87,7 +87,8 @@ bool has_store(const QSqlDatabase& database)
 
 Connection1::Connection1()
     : name_(QUuid::createUuid().toString(QUuid::WithoutBraces)),
-      prepared_(std::make_unique<prepared_statements>())
+      prepared_(std::make_unique<prepared_statements>()),
+      waiting_(std::make_unique<lock_wait>())
 {
 }
 
@@ -134,10 +135,11 @@ void Connection1::open_engine(soundness_check check)
     {
         QSqlDatabase engine = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
         engine.setDatabaseName(path_);
-        engine.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busy_timeout_ms));
         if (!engine.open())
             throw store_failure(engine.lastError(), path_);
     }
+    const lock_wait::limit wait(*waiting_, opening_time_out_s);
+    waiting_->attach(engine_handle(database()));
     // A damaged file stays as it was found.
     copy_log_on_close(database(), false);
     if (check == soundness_check::while_opening || database().tables().isEmpty())
@@ -188,6 +190,7 @@ void Connection1::Execute(const QString& statement)
     if (!is_open())
         throw run_time_failure(failure_kind::misuse, QString(statement + u": the connection is closed"));
     need_soundness();
+    const lock_wait::limit wait(*waiting_, lock_wait::default_time_out_s);
     run(database(), statement);
 }
 

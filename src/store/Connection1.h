@@ -6,6 +6,7 @@
 
 #include <memory>
 
+#include "lock_wait.h"
 #include "run_time_failure.h"
 
 class QLockFile;
@@ -67,11 +68,16 @@ public:
     /// The statements that this room writes rows with, kept ready until the connection is closed.
     prepared_statements& prepared() const { return *prepared_; }
 
+    /// How statements wait for another program's lock. Once the connection is open a statement waits for the
+    /// time-out of its recordset, or for `lock_wait::default_time_out_s`.
+    lock_wait& waiting() const { return *waiting_; }
+
 private:
     friend class relaxed_commits;
 
-    /// How long a statement waits for a tool that holds the file. Short: the user sits before it.
-    static constexpr int busy_timeout_ms = 1000;
+    /// How long opening waits for a tool that holds the file, in seconds. Short: at the start no window is up
+    /// that could show why nothing happens.
+    static constexpr int opening_time_out_s = 1;
 
     /// How much of the file the engine may keep in memory. A full diary is some 4 MB, and the statistics
     /// read it again and again; the engine's own 2 MB would hold only half of it.
@@ -86,6 +92,7 @@ private:
     QString path_;
     std::unique_ptr<QLockFile> lock_;
     std::unique_ptr<prepared_statements> prepared_;
+    std::unique_ptr<lock_wait> waiting_;
 };
 
 /// A text between single quotes, with the quotes inside it doubled. For every value that the system

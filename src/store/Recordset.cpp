@@ -54,7 +54,7 @@ void Recordset::Open(row_reading reading)
         rows_->fail(failure_kind::misuse, QStringLiteral("the connection is closed"));
     rows_->forget_rows();
     if (reading == row_reading::at_once)
-        rows_->set = read_rows(rows_->connection, rows_->source, rows_->where());
+        rows_->set = rows_->read();
     if (reading == row_reading::one_by_one)
         rows_->open_stream();
     rows_->unread = reading == row_reading::when_needed;
@@ -80,7 +80,7 @@ void Recordset::Requery()
         return;
     rows_->need_all_rows();
     // Read first: when that fails, the recordset is as it was.
-    row_set fresh = read_rows(rows_->connection, rows_->source, rows_->where());
+    row_set fresh = rows_->read();
     rows_->forget_rows();
     rows_->set = std::move(fresh);
 }

@@ -6,7 +6,7 @@
 
 namespace verdane {
 
-/// The nineteen recordsets with the settings they are laid down with, in order.
+/// The nineteen recordsets with their settings, in order.
 const std::vector<recordset_settings>& catalogue();
 
 /// The settings of the recordset of that name, which must be in the catalogue.

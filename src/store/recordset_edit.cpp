@@ -48,8 +48,10 @@ void Recordset::Delete()
     rows_->need_updatable();
     recordset_row& row = rows_->current();
     const bool in_store = !row.pending || !row.pending->is_new;
-    if (in_store && !rows_->batch())
+    if (in_store && !rows_->batch()) {
+        const lock_wait::limit wait = rows_->time_out();
         erase_row(rows_->connection, rows_->set, row.number, rows_->where());
+    }
     const auto place = static_cast<std::size_t>(rows_->place);
     auto& all = rows_->set.rows;
     if (in_store && rows_->batch()) {

@@ -29,8 +29,14 @@ void Recordset::rows::need_rows()
     need_open();
     if (!unread)
         return;
-    set = read_rows(connection, source, where());
+    set = read();
     unread = false;
+}
+
+row_set Recordset::rows::read() const
+{
+    const lock_wait::limit wait = time_out();
+    return read_rows(connection, source, where());
 }
 
 void Recordset::rows::need_all_rows()
@@ -42,6 +48,7 @@ void Recordset::rows::need_all_rows()
 
 void Recordset::rows::open_stream()
 {
+    const lock_wait::limit wait = time_out();
     auto rows_to_come = std::make_unique<row_stream>(connection, source, where(), row_use::read_only);
     set = rows_to_come->columns();
     pass_to_next(*rows_to_come);
@@ -110,6 +117,7 @@ void Recordset::rows::commit(recordset_row& row)
 {
     if (!row.pending)
         return;
+    const lock_wait::limit wait = time_out();
     row.number = write_row(connection, set, row, where());
     row.pending.reset();
 }
@@ -134,6 +142,7 @@ void Recordset::rows::commit_all()
     if (waiting.empty() && removed.empty())
         return;
     std::vector<qint64> numbers;
+    const lock_wait::limit wait = time_out();
     single_commit together(connection);
     for (const removed_row& gone : removed)
         erase_row(connection, set, gone.row->number, where());

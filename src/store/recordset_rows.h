@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Connection1.h"
 #include "find_criterion.h"
 #include "Recordset.h"
 #include "schema.h"
@@ -110,6 +111,11 @@ struct Recordset::rows {
     {
         return on_row() ? set.rows[static_cast<std::size_t>(place)].get() : nullptr;
     }
+
+    /// How long a statement of this recordset waits for another program's lock: while the answer lives.
+    [[nodiscard]] lock_wait::limit time_out() const { return {connection.waiting(), settings.time_out_s}; }
+    /// Runs the statement and reads all its rows.
+    row_set read() const;
 
     [[noreturn]] void fail(failure_kind kind, const QString& what) const;
     QString where() const;

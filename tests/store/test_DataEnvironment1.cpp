@@ -18,7 +18,7 @@ struct expected {
     const char* settings;
 };
 
-// As the catalogue is documented: cursor, lock, location, cache rows, time-out.
+// Cursor, lock, location, cache rows, time-out in seconds.
 constexpr expected nineteen[] = {
     {"rsgames", "select *  from games order by date", "dynamic optimistic server 100 30"},
     {"rsvrd_fields", "select * from vrd_fields", "dynamic optimistic server 100 30"},
@@ -68,14 +68,14 @@ private Q_SLOTS:
         data_environment().connection.Open(folder_.filePath(QStringLiteral("Verdbase.db")));
     }
 
-    void a_recordset_has_its_design_time_settings_and_opens_data()
+    void a_recordset_has_the_settings_of_the_catalogue_and_opens_data()
     {
         QTest::addColumn<int>("index");
         for (std::size_t i = 0; i < std::size(nineteen); ++i)
             QTest::addRow("%s", nineteen[i].name) << static_cast<int>(i);
     }
 
-    void a_recordset_has_its_design_time_settings_and_opens()
+    void a_recordset_has_the_settings_of_the_catalogue_and_opens()
     {
         QFETCH(int, index);
         const auto at = static_cast<std::size_t>(index);
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(&data_environment(), &environment);
     }
 
-    void the_connection_string_is_the_design_time_one()
+    void the_connection_string_names_the_data_source()
     {
         QCOMPARE(Connection1::connection_string(),
                  QStringLiteral("Provider=MSDASQL.1;Persist Security Info=False;Data Source=Verdbase;"

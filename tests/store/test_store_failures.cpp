@@ -66,6 +66,12 @@ void let_everyone_in(const store_fixture& store)
     set_mode(QFileInfo(folder_of(store)).absolutePath(), 0755);
 }
 
+/// Gives up as soon as it is asked.
+class impatient_notice final : public lock_notice {
+public:
+    bool keep_waiting() override { return false; }
+};
+
 }  // namespace
 
 class test_store_failures : public QObject {
@@ -214,6 +220,7 @@ private Q_SLOTS:
         store.add_partners({QStringLiteral("a"), QStringLiteral("b")});
         const auto partners = store.opened(QStringLiteral("select * from partners"));
         const QString before = whole_content(store.path());
+        store.connection.waiting().set_notice_maker([] { return std::make_unique<impatient_notice>(); });
         Connection1 tool;
         const QString link = folder_of(store) + u"/tool.db";
         QVERIFY(QFile::link(store.path(), link));

@@ -1,0 +1,83 @@
+#include "lock_box.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+
+#include "boxes.h"
+#include "language.h"
+
+namespace verdane {
+
+namespace {
+
+constexpr int paint_ms = 50;
+
+/// Before the language is settled the words stand in both.
+QString words(QStringView french, QStringView english, QStringView between)
+{
+    if (language_is_settled)
+        return in_language(french, english);
+    return french + between + english;
+}
+
+class lock_box final : public lock_notice {
+public:
+    lock_box();
+    ~lock_box() override;
+
+    bool keep_waiting() override;
+
+private:
+    QPointer<QWidget> owner_;
+    QMessageBox box_;
+    bool gave_up_ = false;
+};
+
+lock_box::lock_box()
+    : owner_(window_at_work()),
+      box_(QMessageBox::Information, default_title(),
+           words(u"Le journal est utilisé par un autre programme. Verdane attend qu'il soit libre.",
+                 u"The diary is in use by another program. Verdane waits until it is free.", u"\n\n"),
+           QMessageBox::NoButton, owner_)
+{
+    box_.setObjectName(QStringLiteral("lock_box"));
+    box_.setTextFormat(Qt::PlainText);
+    box_.setInformativeText(
+        words(u"Si vous abandonnez, Verdane s'arrête. Ce qui était enregistré est intact.",
+              u"If you give up, Verdane stops. What was saved is intact.", u"\n\n"));
+    QPushButton* give_up = box_.addButton(words(u"Abandonner", u"Give Up", u" / "), QMessageBox::RejectRole);
+    give_up->setObjectName(QStringLiteral("give_up"));
+    give_up->setAutoDefault(false);
+    box_.setEscapeButton(give_up);
+    QObject::connect(&box_, &QMessageBox::rejected, &box_, [this] { gave_up_ = true; });
+    QObject::connect(give_up, &QPushButton::clicked, &box_, [this] { gave_up_ = true; });
+    box_.setWindowModality(Qt::ApplicationModal);
+    box_.setFocusPolicy(Qt::StrongFocus);
+    box_.setFocus();
+    box_.show();
+}
+
+lock_box::~lock_box()
+{
+    box_.hide();
+    // Not every platform gives the keyboard back to the window below by itself.
+    if (owner_)
+        owner_->activateWindow();
+}
+
+bool lock_box::keep_waiting()
+{
+    QApplication::processEvents(QEventLoop::AllEvents, paint_ms);
+    return !gave_up_;
+}
+
+}  // namespace
+
+std::unique_ptr<lock_notice> make_lock_box()
+{
+    return std::make_unique<lock_box>();
+}
+
+}  // namespace verdane

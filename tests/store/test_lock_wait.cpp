@@ -1,0 +1,168 @@
+#include <QTest>
+
+#include <functional>
+
+#include "failures.h"
+#include "other_program.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::other_program;
+using testing::store_fixture;
+
+namespace {
+
+/// What became of the notices of a test.
+struct notices {
+    int made = 0;
+    int living = 0;
+    int asked = 0;
+    /// What the notice does and answers each time it is asked.
+    std::function<bool(int asked)> answer = [](int) { return true; };
+};
+
+class counted_notice final : public lock_notice {
+public:
+    explicit counted_notice(notices& all) : all_(all)
+    {
+        ++all_.made;
+        ++all_.living;
+    }
+    ~counted_notice() override { --all_.living; }
+    bool keep_waiting() override { return all_.answer(++all_.asked); }
+
+private:
+    notices& all_;
+};
+
+struct locked_store : store_fixture {
+    locked_store()
+    {
+        add_partners({QStringLiteral("a")});
+        connection.waiting().set_notice_maker([this] { return std::make_unique<counted_notice>(seen); });
+    }
+
+    notices seen;
+};
+
+std::unique_ptr<Recordset> partners_with_time_out(locked_store& store, int seconds)
+{
+    recordset_settings settings;
+    settings.name = QStringLiteral("rstest");
+    settings.source = testing::all_partners;
+    settings.time_out_s = seconds;
+    auto partners = std::make_unique<Recordset>(store.connection, settings);
+    partners->Open();
+    return partners;
+}
+
+}  // namespace
+
+/// Statements that meet the lock of another program.
+class test_lock_wait : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_row_is_stored_once_the_lock_is_free()
+    {
+        locked_store store;
+        other_program other(store.path());
+        store.seen.answer = [&](int asked) {
+            if (asked == 5)
+                other.let_go();
+            return true;
+        };
+        const auto partners = partners_with_time_out(store, 30);
+        partners->Fields(u"name").set(QStringLiteral("b"));
+        partners->Update();
+        QCOMPARE(testing::stored_names(store), QStringLiteral("b"));
+        QCOMPARE(store.seen.made, 1);
+        QCOMPARE(store.seen.living, 0);
+    }
+
+    void a_statement_of_the_connection_waits_too()
+    {
+        locked_store store;
+        other_program other(store.path());
+        store.seen.answer = [&](int) {
+            other.let_go();
+            return true;
+        };
+        store.connection.Execute(QStringLiteral("update partners set NAME = 'b'"));
+        QCOMPARE(testing::stored_names(store), QStringLiteral("b"));
+        QCOMPARE(store.seen.made, 1);
+        QCOMPARE(store.seen.living, 0);
+    }
+
+    void a_store_that_nobody_else_holds_shows_no_notice()
+    {
+        locked_store store;
+        store.connection.Execute(QStringLiteral("update partners set NAME = 'b'"));
+        QCOMPARE(store.seen.made, 0);
+    }
+
+    void giving_up_fails_as_locked_and_leaves_the_row_pending()
+    {
+        locked_store store;
+        other_program other(store.path());
+        store.seen.answer = [](int) { return false; };
+        const auto partners = partners_with_time_out(store, 30);
+        partners->Fields(u"name").set(QStringLiteral("b"));
+        QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
+        QVERIFY(partners->pending());
+        QCOMPARE(store.seen.asked, 1);
+        QCOMPARE(store.seen.living, 0);
+        other.let_go();
+        partners->Update();
+        QCOMPARE(testing::stored_names(store), QStringLiteral("b"));
+    }
+
+    void the_time_out_of_the_recordset_ends_the_wait_data()
+    {
+        QTest::addColumn<int>("seconds");
+        QTest::addColumn<bool>("with_notice");
+        QTest::newRow("longer than the quiet second") << 2 << true;
+        QTest::newRow("over at once") << 0 << false;
+    }
+
+    void the_time_out_of_the_recordset_ends_the_wait()
+    {
+        QFETCH(int, seconds);
+        QFETCH(bool, with_notice);
+        locked_store store;
+        const other_program other(store.path());
+        const auto partners = partners_with_time_out(store, seconds);
+        partners->Fields(u"name").set(QStringLiteral("b"));
+        QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
+        QCOMPARE(store.seen.made, with_notice ? 1 : 0);
+        QCOMPARE(store.seen.living, 0);
+    }
+
+    void the_notice_cannot_run_a_statement()
+    {
+        locked_store store;
+        const other_program other(store.path());
+        std::optional<failure_kind> met;
+        store.seen.answer = [&](int) {
+            met = failure_of([&] { store.connection.Execute(QStringLiteral("delete from partners")); });
+            return false;
+        };
+        const auto partners = partners_with_time_out(store, 30);
+        QVERIFY(failure_of([&] { partners->Delete(); }) == failure_kind::store_locked);
+        QVERIFY(met == failure_kind::store_locked);
+        QCOMPARE(partners->RecordCount(), 1);
+    }
+
+    void opening_shows_no_notice()
+    {
+        locked_store store;
+        store.connection.Close();
+        const other_program other(store.path());
+        QVERIFY(failure_of([&] { store.connection.Open(store.path()); }) == failure_kind::store_locked);
+        QCOMPARE(store.seen.made, 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_lock_wait)
+#include "test_lock_wait.moc"

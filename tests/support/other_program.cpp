@@ -1,0 +1,43 @@
+#include "other_program.h"
+
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QUuid>
+
+namespace verdane::testing {
+
+namespace {
+
+void run(const QString& connection, const QString& statement)
+{
+    QSqlQuery query(QSqlDatabase::database(connection));
+    if (!query.exec(statement))
+        qFatal("%s: %s", qUtf8Printable(statement), qUtf8Printable(query.lastError().text()));
+}
+
+}  // namespace
+
+other_program::other_program(const QString& store_path) : name_(QUuid::createUuid().toString())
+{
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
+    database.setDatabaseName(store_path);
+    if (!database.open())
+        qFatal("cannot open %s", qUtf8Printable(store_path));
+    run(name_, QStringLiteral("BEGIN IMMEDIATE"));
+}
+
+other_program::~other_program()
+{
+    let_go();
+}
+
+void other_program::let_go()
+{
+    if (!QSqlDatabase::contains(name_))
+        return;
+    run(name_, QStringLiteral("ROLLBACK"));
+    QSqlDatabase::removeDatabase(name_);
+}
+
+}  // namespace verdane::testing

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace verdane::testing {
+
+/// Another program that writes to a store: it holds the write lock from its construction to `let_go`, on a
+/// connection of its own. For one thread.
+class other_program {
+public:
+    explicit other_program(const QString& store_path);
+    ~other_program();
+    other_program(const other_program&) = delete;
+    other_program& operator=(const other_program&) = delete;
+
+    void let_go();
+
+private:
+    QString name_;
+};
+
+}  // namespace verdane::testing
