@@ -15,6 +15,7 @@
 #include "f_new_round.h"
 #include "f_new_round_layout.h"
 #include "failure_guard.h"
+#include "joined_commits.h"
 #include "main_frame.h"
 #include "round_boxes.h"
 #include "round_columns.h"
@@ -240,8 +241,11 @@ void save_round(f_new_round& window, bool silent)
     }
     const int16 hole = hole_to_save(window, silent);
     store_hole(window, hole);
+    // A kill in between would leave half of the round's rows, or old figures of a hole beside new ones.
+    joined_commits together(data_environment().connection);
     store_round_header(window);
     commit_round(window.date_value);
+    together.finish();
     window.needSave = false;
     if (!silent)
         tell(window.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));

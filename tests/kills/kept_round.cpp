@@ -11,32 +11,10 @@ namespace verdane::testing {
 namespace {
 
 constexpr int holes_of_a_round = 18;
-/// The places of the figures in `games`; the others stand in `games2`, with the putts.
-constexpr std::array<std::size_t, 8> strokes_places{0, 1, 2, 5, 7, 8, 9, 10};
-constexpr std::array<std::size_t, 3> situation_places{3, 4, 6};
 
-template <std::size_t Count>
-bool same_at(const stored_hole& one, const stored_hole& other, const std::array<std::size_t, Count>& places)
+bool same_figures(const stored_hole& one, const stored_hole& other)
 {
-    return std::all_of(places.begin(), places.end(),
-                       [&](std::size_t place) { return one.figures[place] == other.figures[place]; });
-}
-
-bool same_strokes(const stored_hole& one, const stored_hole& other)
-{
-    return same_at(one, other, strokes_places);
-}
-
-bool same_situation(const stored_hole& one, const stored_hole& other)
-{
-    return same_at(one, other, situation_places) && one.putts == other.putts;
-}
-
-/// Each table holds the old figures or the new ones.
-bool figures_are_whole(const stored_hole& now, const stored_hole& old, const stored_hole& wanted)
-{
-    return (same_strokes(now, old) || same_strokes(now, wanted)) &&
-           (same_situation(now, old) || same_situation(now, wanted));
+    return one.figures == other.figures && one.putts == other.putts;
 }
 
 /// What is wrong with the shots of a hole that was being told.
@@ -47,8 +25,7 @@ QString trouble_with_shots(const stored_hole& now, const stored_hole& old, const
         return QStringLiteral("the shots are neither old nor new");
     if (words.shots_told > 0 && (!begun || static_cast<int>(now.shots.size()) <= words.shots_told))
         return QStringLiteral("a shot that was told is lost");
-    const bool old_figures = same_strokes(now, old) && same_situation(now, old);
-    if (!old_figures && now.shots != outcome_of(words.telling_shots).shots)
+    if (!same_figures(now, old) && now.shots != outcome_of(words.telling_shots).shots)
         return QStringLiteral("the figures are new and the shots are not");
     return {};
 }
@@ -69,8 +46,8 @@ QString trouble_under_way(const stored_hole& now, const stored_hole& old, const 
     else
         std::transform(words.typing_figures.begin(), words.typing_figures.end(), wanted.figures.begin(),
                        [](QChar digit) { return digit.digitValue(); });
-    if (!figures_are_whole(now, old, wanted))
-        return QStringLiteral("a table is half old and half new");
+    if (!same_figures(now, old) && !same_figures(now, wanted))
+        return QStringLiteral("the figures are neither the old nor the new ones");
     if (words.telling != 0)
         return trouble_with_shots(now, old, words);
     return now.shots == old.shots ? QString() : QStringLiteral("the quick page changed a shot");

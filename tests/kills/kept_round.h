@@ -15,11 +15,11 @@ class kept_round {
 public:
     explicit kept_round(const reader& store);
 
-    /// Compares the store with what it held and what the dead program said. A hole that was left is stored,
-    /// whole. Of the one that was under way, each of the two tables, which are committed one after the
-    /// other, holds the old figures or the new ones and no mixture; its shots are the old ones, of which
-    /// the last may have gone, or the first of the new ones, and all of them before a figure is new.
-    /// Answers what is wrong, nothing when all is well; what is stored counts from now on.
+    /// Compares the store with what it held and what the dead program said. A hole that was left has exactly
+    /// its last figures. The one that was under way has all its old figures or all its new ones; its shots
+    /// are the old ones, of which the last may be missing, or the first of the new ones, and all of them
+    /// before a figure is new.
+    /// Returns what is wrong, nothing when all is well; what is stored counts from now on.
     QString compare(const last_words& words);
 
     /// Holes count from 1.

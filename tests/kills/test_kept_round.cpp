@@ -117,18 +117,15 @@ void lawful_stores()
         << told_two << change([](const reader& s) { put_shots(s, new_hole(), 3); });
     QTest::newRow("told to the end, not left")
         << told_all << change([](const reader& s) { put_shots(s, new_hole(), 4); });
-    QTest::newRow("one table is committed") << told_all << change([](const reader& s) {
-        put_shots(s, new_hole(), 4);
-        put_situation(s, new_hole());
-    });
     QTest::newRow("another hole was opened") << telling << change([](const reader& s) {
         s.write(QStringLiteral("insert into Stat_rounds (date, hole, shot, fairval) values "
                                "('20260614093000', 6, 1, 1)"));
     });
-    QTest::newRow("typed, one table is committed") << typed << change([](const reader& s) {
-        stored_hole ones;
+    QTest::newRow("typed, and committed") << typed << change([](const reader& s) {
+        stored_hole ones = old_hole();
         ones.figures.fill(1);
         put_strokes(s, ones);
+        put_situation(s, ones);
     });
 }
 
@@ -161,6 +158,19 @@ void unlawful_stores()
     QTest::newRow("a table is half new") << told_all << change([](const reader& s) {
         put_shots(s, new_hole(), 4);
         s.write(QStringLiteral("update games set putt_5 = 2"));
+    });
+    QTest::newRow("one table is new, the other old") << told_all << change([](const reader& s) {
+        put_shots(s, new_hole(), 4);
+        put_situation(s, new_hole());
+    });
+    QTest::newRow("typed, one table is new, the other old") << typed << change([](const reader& s) {
+        stored_hole ones;
+        ones.figures.fill(1);
+        put_strokes(s, ones);
+    });
+    QTest::newRow("the figures are new, the putts old") << told_all << change([](const reader& s) {
+        put_hole(s, new_hole());
+        s.write(QStringLiteral("update games2 set putt_len_5_1 = 0, putt_len_5_2 = 0"));
     });
     QTest::newRow("another hole has changed")
         << told_all

@@ -4,12 +4,16 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
+#include <functional>
+
 #include "Connection1.h"
 #include "kept_round.h"
 #include "language.h"
 #include "last_words.h"
 #include "program_run.h"
 #include "start_up.h"
+#include "starter.h"
 #include "store_invariants.h"
 #include "victim.h"
 
@@ -20,6 +24,9 @@ namespace {
 
 constexpr int default_kills = 30;
 constexpr int longest_life_ms = 900;
+constexpr int longest_life_of_starter_ms = 3000;
+/// Each run needs minutes of its own in one day.
+constexpr int most_kills_of_new_rounds = 24 * 60 / rounds_of_a_run;
 
 int kills_wanted()
 {
@@ -38,16 +45,17 @@ QStringList a_bag_of_clubs()
     return {u"update sticknames set " + names.join(u", ")};
 }
 
-last_words killed_after(bool detailed, int life_ms, quint32 seed)
+/// Starts this program again, lets it live for so long after it has said that it is under way, kills it and
+/// returns all that it said. A slow start makes no idle kill.
+QByteArray said_until_killed(const QStringList& arguments, int life_ms,
+                             const std::function<bool(const QByteArray&)>& is_busy)
 {
     QProcess victim;
-    victim.start(QCoreApplication::applicationFilePath(),
-                 {detailed ? QStringLiteral("--teller") : QStringLiteral("--typist"), QString::number(seed)});
+    victim.start(QCoreApplication::applicationFilePath(), arguments);
     victim.waitForStarted();
     QElapsedTimer life;
     QByteArray said;
-    // Its life is counted from the first hole, so that a slow start does not make an idle kill.
-    while (!is_under_way(said) && victim.state() == QProcess::Running && victim.waitForReadyRead(60000))
+    while (!is_busy(said) && victim.state() == QProcess::Running && victim.waitForReadyRead(60000))
         said += victim.readAllStandardOutput();
     life.start();
     while (life.elapsed() < life_ms && victim.state() == QProcess::Running) {
@@ -56,7 +64,31 @@ last_words killed_after(bool detailed, int life_ms, quint32 seed)
     }
     victim.kill();
     victim.waitForFinished();
-    return understood(said + victim.readAllStandardOutput());
+    return said + victim.readAllStandardOutput();
+}
+
+last_words killed_after(bool detailed, int life_ms, quint32 seed)
+{
+    const QString role = detailed ? QStringLiteral("--teller") : QStringLiteral("--typist");
+    return understood(said_until_killed({role, QString::number(seed)}, life_ms, is_under_way));
+}
+
+/// The eleven figures of a hole of every round, as they were typed, in the order of the quick page.
+QStringList figures_of_rounds(const reader& store, int hole)
+{
+    QStringList figures;
+    const QString columns = QStringLiteral(
+        "long_%1, approach_%1, putt_%1, fairway_%1, sand_%1, missed_%1, recovery_%1, pen_water_%1, "
+        "pen_lost_%1, pen_rule_%1, pen_bounds_%1");
+    for (const auto& row : store.rows(u"select " + columns.arg(hole) +
+                                      u" from games join games2 on games.date "
+                                      u"= games2.date")) {
+        QString typed;
+        for (const QVariant& value : row)
+            typed += QString::number(value.toInt());
+        figures << typed;
+    }
+    return figures;
 }
 
 }  // namespace
@@ -89,6 +121,27 @@ private Q_SLOTS:
         }
         QVERIFY2(left_by_typing >= kills / 4, qPrintable(QString::number(left_by_typing)));
         QVERIFY2(left_by_telling >= kills / 4, qPrintable(QString::number(left_by_telling)));
+    }
+
+    /// The first save of a round stores its three rows and the figures of its first hole.
+    void a_new_round_is_stored_whole_or_not_at_all()
+    {
+        const int kills = std::min(std::max(kills_wanted() / 4, 1), most_kills_of_new_rounds);
+        QRandomGenerator random(20260615);
+        const program_run run(2, one_course());
+        for (int kill = 0; kill < kills; ++kill) {
+            const int first_round = kill * rounds_of_a_run;
+            said_until_killed({QStringLiteral("--starter"), QString::number(first_round)},
+                              random.bounded(longest_life_of_starter_ms),
+                              [](const QByteArray& said) { return said.contains("ready"); });
+            QCOMPARE(run.store().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+            QCOMPARE(broken_invariants(run.store()), QStringList());
+            for (const QString& figures : figures_of_rounds(run.store(), 1))
+                QCOMPARE(figures, figures_of_new_rounds);
+            for (const QString& figures : figures_of_rounds(run.store(), 2))
+                QVERIFY2(figures == figures_of_new_rounds || figures == u"00000000000", qPrintable(figures));
+        }
+        QVERIFY(run.store().number(QStringLiteral("select count(*) from games")) >= kills / 2);
     }
 
 private:
@@ -153,6 +206,8 @@ int main(int argc, char** argv)
     const QStringList arguments = application.arguments();
     if (arguments.value(1) == u"--typist" || arguments.value(1) == u"--teller")
         return be_the_victim(arguments.at(1) == u"--teller", arguments.at(2).toUInt());
+    if (arguments.value(1) == u"--starter")
+        return be_the_starter(arguments.at(2).toInt());
     test_kills test;
     return QTest::qExec(&test, argc, argv);
 }

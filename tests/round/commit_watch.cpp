@@ -1,0 +1,39 @@
+#include "commit_watch.h"
+
+#include <sqlite3.h>
+
+#include <utility>
+
+#include "DataEnvironment1.h"
+#include "engine_handle.h"
+
+namespace verdane::testing {
+
+namespace {
+
+sqlite3* program_connection()
+{
+    return engine_handle(data_environment().connection.database());
+}
+
+}  // namespace
+
+commit_watch::commit_watch(std::function<QString()> question)
+    : question_(std::move(question)), connection_(program_connection())
+{
+    sqlite3_wal_hook(connection_, committed, this);
+}
+
+commit_watch::~commit_watch()
+{
+    sqlite3_wal_hook(connection_, nullptr, nullptr);
+}
+
+int commit_watch::committed(void* watch, sqlite3*, const char*, int)
+{
+    auto& self = *static_cast<commit_watch*>(watch);
+    self.answers_.push_back(self.question_());
+    return SQLITE_OK;
+}
+
+}  // namespace verdane::testing

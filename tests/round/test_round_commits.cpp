@@ -1,0 +1,211 @@
+#include <QApplication>
+#include <QTest>
+
+#include <memory>
+
+#include "commit_watch.h"
+#include "DataEnvironment1.h"
+#include "f_new_round.h"
+#include "f_new_round_func.h"
+#include "failures.h"
+#include "other_program.h"
+#include "round_windows.h"
+#include "told_shots.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+const QString old_figures = QStringLiteral("9 9 9 9 9 9 9 9 9 9 9");
+const QString new_figures = QStringLiteral("1 2 3 4 5 6 7 8 1 2 3");
+const QString new_keys = QStringLiteral("12345678123");
+
+/// How many rows of the three tables have no counterpart with their key in one of the others.
+int rows_without_counterpart(const round_store& store)
+{
+    return store.number(
+        QStringLiteral("with rows as (select 1 as t, date from games union all select 2, date from games2 "
+                       "union all select 3, date from cost) "
+                       "select coalesce(sum(n), 0) from (select count(*) as n from rows group by date "
+                       "having count(*) <> 3 or count(distinct t) <> 3)"));
+}
+
+QString state_of(const round_store& store, int hole)
+{
+    return QStringLiteral("alone %1; rounds %2; figures %3; putts %4")
+        .arg(rows_without_counterpart(store))
+        .arg(store.number(QStringLiteral("select count(*) from games")))
+        .arg(stored_figures(store, hole), stored_putts(store, hole));
+}
+
+QString state(int rounds, const QString& figures, const QString& putts)
+{
+    return QStringLiteral("alone 0; rounds %1; figures %2; putts %3").arg(rounds).arg(figures, putts);
+}
+
+void put_old_figures(const round_store& store)
+{
+    store.store.write(
+        {QStringLiteral("update games set long_1 = 9, approach_1 = 9, putt_1 = 9, missed_1 = 9, "
+                        "pen_water_1 = 9, pen_lost_1 = 9, pen_rule_1 = 9, pen_bounds_1 = 9"),
+         QStringLiteral("update games2 set fairway_1 = 9, sand_1 = 9, recovery_1 = 9, "
+                        "putt_len_1_1 = 9, putt_len_1_2 = 9, putt_len_1_3 = 9")});
+}
+
+const QString no_putts = QStringLiteral("0 0 0 0 0 0");
+const QString old_putts = QStringLiteral("9 9 9 0 0 0");
+
+/// The connection belongs to the window thread.
+std::unique_ptr<commit_watch> watch_from_now(hand& user, const round_store& store)
+{
+    std::unique_ptr<commit_watch> watch;
+    user.look([&] { watch = std::make_unique<commit_watch>([&store] { return state_of(store, 1); }); });
+    return watch;
+}
+
+void compare_all(const commit_watch& watch, const QString& wanted)
+{
+    QVERIFY(!watch.answers().empty());
+    for (const QString& seen : watch.answers())
+        QCOMPARE(seen, wanted);
+}
+
+}  // namespace
+
+/// What another program sees after each commit of a save.
+class test_round_commits : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_first_save_of_a_round_is_one_commit()
+    {
+        const golfer_store round;
+        const commit_watch watch([&] { return state_of(round.store, 1); });
+        in_keyed_round([&](hand& user) {
+            user.type(new_keys);
+            user.click_tab(hole_tabs, 2);
+            user.same(static_cast<int>(watch.answers().size()), 1, QStringLiteral("commits"));
+            discard(user);
+        });
+        compare_all(watch, state(1, new_figures, no_putts));
+    }
+
+    void a_hole_that_is_typed_anew_is_stored_by_one_commit()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        put_old_figures(round.store);
+        const commit_watch watch([&] { return state_of(round.store, 1); });
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            user.type(new_keys);
+            user.click_tab(hole_tabs, 2);
+            user.same(static_cast<int>(watch.answers().size()), 1, QStringLiteral("commits"));
+            discard(user);
+        });
+        compare_all(watch, state(1, new_figures, old_putts));
+    }
+
+    void figures_and_putts_of_detailed_shots_are_stored_by_one_commit()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        put_old_figures(round.store);
+        const commit_watch watch([&] { return state_of(round.store, 1); });
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            testing::tell_hole(user);
+            user.click_tab(hole_tabs, 2);
+            go_to_quick_page(user);
+            discard(user);
+        });
+        check_old_or_new(watch);
+    }
+
+    void OK_stores_the_hole_on_the_detailed_page_by_one_commit()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        put_old_figures(round.store);
+        const commit_watch watch([&] { return state_of(round.store, 1); });
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            go_to_detailed_page(user);
+            testing::tell_hole(user);
+            accept(user);
+        });
+        check_old_or_new(watch);
+    }
+
+    void a_row_of_costs_that_is_missing_is_added_by_the_same_commit()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        std::size_t commits = 0;
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            round.store.store.write(QStringLiteral("delete from cost"));
+            const auto watch = watch_from_now(user, round.store);
+            user.look([] { data_environment().rscost.Requery(); });
+            user.type(new_keys);
+            user.click_tab(hole_tabs, 2);
+            commits = watch->answers().size();
+            user.same(watch->answers().back(), state(1, new_figures, no_putts), QStringLiteral("committed"));
+            discard(user);
+        });
+        QCOMPARE(commits, std::size_t(1));
+    }
+
+    void a_save_that_changes_nothing_commits_nothing_and_needs_no_lock()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            // The first save of a hole gives its columns a value.
+            for (const int hole : {2, 3, 2})
+                user.click_tab(hole_tabs, hole);
+            const auto watch = watch_from_now(user, round.store);
+            const other_program other(data_environment().connection.path());
+            user.click_tab(hole_tabs, 3);
+            user.same(static_cast<int>(watch->answers().size()), 0, QStringLiteral("commits"));
+            discard(user);
+        });
+    }
+
+    /// The order of the statements: `games2`, then `games`.
+    void a_statement_that_fails_leaves_what_the_one_before_it_has_written()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            round.store.store.write(QStringLiteral("create trigger refuse before update on games begin "
+                                                   "select raise(abort, 'refused by the test'); end"));
+            user.type(new_keys);
+            with_round(user, [&](f_new_round& window) {
+                const auto failure = failure_of([&] { f_new_round_func::save_round(window, true); });
+                QVERIFY(failure == failure_kind::store_other);
+            });
+            round.store.store.write(QStringLiteral("drop trigger refuse"));
+            discard(user);
+        });
+        QCOMPARE(round.store.of_round(QStringLiteral("games2"), QStringLiteral("fairway_1")),
+                 QStringLiteral("4"));
+        QCOMPARE(round.store.of_round(QStringLiteral("games"), QStringLiteral("long_1")),
+                 QStringLiteral("null"));
+    }
+
+private:
+    /// The shots are committed one by one, with the old figures still there.
+    static void check_old_or_new(const commit_watch& watch)
+    {
+        QVERIFY(!watch.answers().empty());
+        int new_ones = 0;
+        for (const QString& seen : watch.answers()) {
+            const bool is_new = seen == state(1, told_hole, told_putts);
+            new_ones += is_new ? 1 : 0;
+            QVERIFY2(is_new || (new_ones == 0 && seen == state(1, old_figures, old_putts)), qPrintable(seen));
+        }
+        QCOMPARE(watch.answers().back(), state(1, told_hole, told_putts));
+    }
+};
+
+QTEST_MAIN(test_round_commits)
+#include "test_round_commits.moc"
