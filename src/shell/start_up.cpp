@@ -14,6 +14,7 @@
 #include "look.h"
 #include "Main_module.h"
 #include "MainForm.h"
+#include "oversized_writes.h"
 #include "putt_statistics.h"
 #include "report_store.h"
 #include "round_putt_report.h"
@@ -105,6 +106,7 @@ start_result Main()
 
 void prepare_application(QApplication& application)
 {
+    let_oversized_writes_fail();
     keep_pictures();
     QCoreApplication::setApplicationName(QStringLiteral("Verdane"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.4"));

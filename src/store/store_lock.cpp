@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStorageInfo>
+#include <QTemporaryFile>
 
 #include <chrono>
 
@@ -12,10 +13,19 @@ namespace verdane {
 
 namespace {
 
+/// The lock does not say why it could not be written. A file that can be created and not be filled means a
+/// full disk, a quota or a limit on the size of files.
+bool takes_no_content(const QString& folder)
+{
+    QTemporaryFile probe(folder + u"/Verdane-XXXXXX");
+    return probe.open() && (probe.write("content") < 0 || !probe.flush());
+}
+
 bool disk_is_full(const QString& path)
 {
-    const QStorageInfo storage(QFileInfo(path).absolutePath());
-    return storage.isValid() && storage.bytesAvailable() == 0;
+    const QString folder = QFileInfo(path).absolutePath();
+    const QStorageInfo storage(folder);
+    return (storage.isValid() && storage.bytesAvailable() == 0) || takes_no_content(folder);
 }
 
 failure_kind kind_of(QLockFile::LockError error, const QString& path)

@@ -1,0 +1,182 @@
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTest>
+
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <sys/resource.h>
+
+#include "DataEnvironment1.h"
+#include "main_windows.h"
+#include "program_run.h"
+#include "run_time_failure.h"
+#include "start_up.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+
+namespace {
+
+constexpr int not_limited = 2;
+constexpr int holes_of_a_round = 18;
+
+/// No file may grow beyond so many bytes, as after `ulimit -f`. The limit that the process may raise again
+/// stays, so that it can be lifted.
+bool limit_files(rlim_t bytes)
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_FSIZE, &limit) != 0)
+        return false;
+    limit.rlim_cur = bytes;
+    return setrlimit(RLIMIT_FSIZE, &limit) == 0;
+}
+
+void say_failure_and_answer(hand& user)
+{
+    user.wait_for_window(QStringLiteral("failure_box"));
+    std::printf("failure: %s\n", qUtf8Printable(user.text(QStringLiteral("qt_msgbox_label"))));
+    std::fflush(stdout);
+    user.key(Qt::Key_Return);
+}
+
+int start_and_fail()
+{
+    int status = -1;
+    play([&] { status = run_verdane(*qApp); }, say_failure_and_answer);
+    return status;
+}
+
+/// Types holes, every lap with another digit, until the log of the store has no more room. Says after each
+/// hole which digit it holds.
+void type_holes(hand& user)
+{
+    for (int count = 0;; ++count) {
+        const int hole = count % holes_of_a_round + 1;
+        const int digit = count / holes_of_a_round % 9 + 1;
+        user.type(QString(11, QChar(u'0' + digit)));
+        user.click_tab(QStringLiteral("TabStrip1"), hole % holes_of_a_round + 1);
+        if (user.is_open(QStringLiteral("failure_box")))
+            return;
+        std::printf("left: %d %d\n", hole, digit);
+        std::fflush(stdout);
+    }
+}
+
+int fail_in_a_round()
+{
+    int status = -1;
+    play([&] { status = run_verdane(*qApp); },
+         [](hand& user) {
+             user.wait_for_window(QStringLiteral("MainForm"));
+             user.menu(QStringLiteral("mnOPenr"));
+             user.wait_for_window(QStringLiteral("f_games_en"));
+             user.double_click_row(QStringLiteral("List1"), 0);
+             user.wait_for_window(QStringLiteral("f_new_round_en"));
+             user.look([] {
+                 const QFileInfo log(program_run::store_path() + u"-wal");
+                 constexpr int room = 150 * 1024;
+                 if (!limit_files(static_cast<rlim_t>(log.size() + room)))
+                     std::_Exit(not_limited);
+             });
+             type_holes(user);
+             say_failure_and_answer(user);
+         });
+    return status;
+}
+
+/// The digit that each hole was left with, by its number.
+std::map<int, int> digits_left(const QString& said)
+{
+    std::map<int, int> digits;
+    for (const QString& line : said.split(u'\n')) {
+        const QStringList words = line.split(u' ');
+        if (words.size() == 3 && words[0] == u"left:")
+            digits[words[1].toInt()] = words[2].toInt();
+    }
+    return digits;
+}
+
+struct ended {
+    bool crashed;
+    int status;
+    QString said;
+};
+
+ended child(const QString& way, const QString& argument = {})
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {way, argument});
+    process.waitForFinished(120000);
+    return {process.exitStatus() == QProcess::CrashExit, process.exitCode(),
+            QString::fromUtf8(process.readAllStandardOutput())};
+}
+
+}  // namespace
+
+/// Starts under a limit on the size of files: it ends no process, and is reported as a full disk.
+class test_full_disk : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_first_start_without_room_says_so_and_leaves_nothing_data()
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : {0, 1, 2000, 4096, 20000, 100000})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
+    void a_first_start_without_room_says_so_and_leaves_nothing()
+    {
+        QFETCH(int, bytes);
+        const program_run run(2);
+        const QString path = program_run::store_path();
+        QVERIFY(QFile::remove(path));
+        const ended start = child(QStringLiteral("--start"), QString::number(bytes));
+        QVERIFY2(!start.crashed, qPrintable(start.said));
+        QCOMPARE(start.status, 1);
+        const text_pair words = failure_words(failure_kind::store_full);
+        QVERIFY2(start.said.contains(words.french) && start.said.contains(words.english),
+                 qPrintable(start.said));
+        const QDir folder = QFileInfo(path).absoluteDir();
+        QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), QStringList());
+        Connection1 connection;
+        connection.Open(path);
+        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from settings")), 1);
+    }
+
+    void a_round_keeps_every_hole_that_was_left_before_the_disk_was_full()
+    {
+        const program_run run(2, one_course() + one_round());
+        const ended round = child(QStringLiteral("--round"));
+        QVERIFY2(!round.crashed, qPrintable(round.said));
+        QCOMPARE(round.status, 1);
+        QVERIFY2(round.said.contains(failure_words(failure_kind::store_full).english),
+                 qPrintable(round.said));
+        const std::map<int, int> digits = digits_left(round.said);
+        QVERIFY2(!digits.empty(), qPrintable(round.said));
+        for (const auto& [hole, digit] : digits)
+            QCOMPARE(run.store().text(QStringLiteral("select long_%1 || ' ' || fairway_%1 from games join "
+                                                     "games2 using (date)")
+                                          .arg(hole)),
+                     QStringLiteral("%1 %1").arg(digit));
+        QCOMPARE(run.store().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    prepare_application(application);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == u"--start")
+        return limit_files(arguments.value(2).toULong()) ? start_and_fail() : not_limited;
+    if (arguments.value(1) == u"--round")
+        return fail_in_a_round();
+    test_full_disk test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_full_disk.moc"
