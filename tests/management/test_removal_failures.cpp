@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "DataEnvironment1.h"
+#include "lock_box.h"
 #include "recording_frame.h"
 #include "removal_windows.h"
 #include "store_clean_up.h"
@@ -32,6 +33,7 @@ void begin_work_elsewhere(Connection1& tool, const QString& path)
 int run_child(const QString& path, failure_kind kind)
 {
     language_is_settled = true;
+    data_environment().connection.waiting().set_notice_maker(make_lock_box);
     data_environment().connection.Open(path);
     Connection1 tool;
     if (kind == failure_kind::store_locked)
@@ -41,6 +43,8 @@ int run_child(const QString& path, failure_kind kind)
         user.click_row(u"List1"_s, 1);
         user.click(u"Command1_3"_s);
         user.answer(question_on_removal(), QMessageBox::Yes);
+        if (kind == failure_kind::store_locked)
+            user.click(u"give_up"_s);
         user.answer({failure_words(kind).in(true), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
     });
     return not_reached;
