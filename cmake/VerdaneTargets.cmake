@@ -35,10 +35,11 @@ function(verdane_library name)
   target_link_libraries(${name} PUBLIC verdane_flags ${ARG_LINKS})
 endfunction()
 
-# What every test runs under: no display, and no leak report, since the toolkit keeps some memory to the
-# end on purpose.
+# What every test runs under: a screen of 1920 x 1080 pixels that nobody sees, and no leak report, since the
+# toolkit keeps some memory to the end on purpose. In plain "offscreen" the screen has 800 x 800 pixels.
+set(VERDANE_TEST_SCREENS "${CMAKE_SOURCE_DIR}/tests/screens")
 set(VERDANE_TEST_ENVIRONMENT
-  "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
+  "QT_QPA_PLATFORM=offscreen:configfile=${VERDANE_TEST_SCREENS}/desktop.json;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
 
 function(verdane_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "LINKS;SOURCES" ${ARGN})

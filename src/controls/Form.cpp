@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPushButton>
 
 #include <algorithm>
@@ -13,6 +14,8 @@
 #include "language.h"
 #include "leaving.h"
 #include "main_frame.h"
+#include "screen_room.h"
+#include "scrolled_content.h"
 #include "shortcuts.h"
 
 namespace verdane {
@@ -55,6 +58,29 @@ QString Form::caption(QStringView french, QStringView english) const
     return text_pair{french, english}.in(french_);
 }
 
+scrolled_content* Form::scrolled(QLayout* content)
+{
+    return scrolled_.emplace_back(new scrolled_content(content));
+}
+
+void Form::resize_now(QSize size)
+{
+    layout()->activate();
+    resize(size);
+    layout()->activate();
+}
+
+void Form::take_size(QSize wanted)
+{
+    resize_now(wanted);
+    // More width can lower a paragraph, so the height is asked for again.
+    for (int pass = 0; pass < 2; ++pass) {
+        for (scrolled_content* content : scrolled_)
+            resize_now(size() + content->missing());
+    }
+    keep_on_screen(*this);
+}
+
 void Form::show_modal()
 {
     if (!loaded_)
@@ -62,7 +88,9 @@ void Form::show_modal()
     Form* opener = form_at_work();
     setParent(window_below_a_new_form(), windowFlags());
     open_forms().push_back(this);
+    keep_on_screen(*this);
     show();
+    keep_on_screen(*this);
     raise();
     activateWindow();
     activated();

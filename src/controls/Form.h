@@ -5,11 +5,15 @@
 #include <QString>
 #include <QStringView>
 
+#include <vector>
+
 class QAbstractButton;
+class QLayout;
 class QPushButton;
 
 namespace verdane {
 
+class scrolled_content;
 class window_shortcuts;
 
 /// A window of the program that works on the store: modal, made in one language and keeping it.
@@ -31,6 +35,14 @@ public:
 
     /// The caption for the window's language.
     QString caption(QStringView french, QStringView english) const;
+
+    /// The part of the window that scrolls where the screen or the user leaves it too little room; what must
+    /// always be seen, such as OK and Cancel, lies outside. Takes the layout over.
+    scrolled_content* scrolled(QLayout* content);
+
+    /// Gives the window a size, or a larger one at which nothing scrolls, limited to what its screen has room
+    /// for. To be called once all controls are in place, and before Place and lock.
+    void take_size(QSize wanted);
 
     /// The shortcuts of the window; F1 lists them.
     window_shortcuts& shortcuts() { return *shortcuts_; }
@@ -69,6 +81,7 @@ protected:
 
 private:
     void work_until_unloaded();
+    void resize_now(QSize size);
     /// Gives the keyboard back to the window below (the main window when null) and activates it.
     static void wake(Form* opener);
 
@@ -77,6 +90,7 @@ private:
     window_shortcuts* shortcuts_;
     QAbstractButton* cancel_button_ = nullptr;
     QEventLoop loop_;
+    std::vector<scrolled_content*> scrolled_;
 };
 
 /// The window at work: the last one shown that has not gone; null when none is up.

@@ -2,11 +2,17 @@
 
 #include <QListWidget>
 
+#include <algorithm>
+
 #include "look.h"
 
 namespace verdane {
 
 namespace {
+
+/// Day and time of a round.
+constexpr int least_characters = 20;
+constexpr int least_lines = 4;
 
 void keep_selection(QListWidget& list)
 {
@@ -15,13 +21,33 @@ void keep_selection(QListWidget& list)
         current->setSelected(true);
 }
 
+class list_box : public QListWidget {
+public:
+    list_box(int characters, int lines) : characters_(characters), lines_(lines) {}
+
+    QSize sizeHint() const override { return room_for(characters_, lines_); }
+    QSize minimumSizeHint() const override
+    {
+        return room_for(std::min(characters_, least_characters), std::min(lines_, least_lines));
+    }
+
+private:
+    QSize room_for(int characters, int lines) const
+    {
+        const QFontMetrics font = fontMetrics();
+        return {font.averageCharWidth() * characters + 4 * rhythm, font.lineSpacing() * lines};
+    }
+
+    int characters_;
+    int lines_;
+};
+
 }  // namespace
 
-QListWidget* make_list_box(int characters)
+QListWidget* make_list_box(int characters, int lines)
 {
-    auto* list = new QListWidget;
+    auto* list = new list_box(characters, lines);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setMinimumWidth(list->fontMetrics().averageCharWidth() * characters + 4 * rhythm);
     QObject::connect(list, &QListWidget::itemSelectionChanged, list, [list] { keep_selection(*list); });
     return list;
 }

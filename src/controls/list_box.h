@@ -6,9 +6,11 @@ class QListWidget;
 
 namespace verdane {
 
+constexpr int usual_lines = 12;
+
 /// A list of lines of which exactly one is selected as soon as there is one: a click beside the lines
-/// does not take the selection away. Wide enough for `characters`.
-QListWidget* make_list_box(int characters);
+/// does not take the selection away. It prefers room for `lines` lines of `characters`, and scrolls in less.
+QListWidget* make_list_box(int characters, int lines = usual_lines);
 
 /// Fills an empty list and selects its first line.
 void fill_list_box(QListWidget& list, const QStringList& lines);

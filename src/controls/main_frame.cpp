@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "screen_room.h"
+
 namespace verdane {
 
 namespace {
@@ -42,6 +44,7 @@ void Place_and_lock(Form& form)
         const QRect frame = frame_of_run->frame_widget()->geometry();
         const int left = (frame.width() - form.width()) / 2;
         form.move(frame.topLeft() + QPoint(left, pixels(top_twips)));
+        keep_on_screen(form);
     }
     Lock_menu();
 }

@@ -37,7 +37,8 @@ extern QPointer<Form> current_form;
 void Lock_menu();
 void Unlock_menu();
 
-/// Puts the window near the top of the main window, centred from left to right, and locks the menu.
+/// Puts the window near the top of the main window, centred from left to right, but with no part off the
+/// screen, and locks the menu.
 void Place_and_lock(Form& form);
 
 /// Pixels of a length in twips (1/1440 inch) at the toolkit's 96 pixels an inch.

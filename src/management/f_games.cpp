@@ -10,6 +10,7 @@
 #include "f_games_func.h"
 #include "list_box.h"
 #include "look.h"
+#include "scrolled_content.h"
 #include "shortcuts.h"
 
 namespace verdane {
@@ -32,27 +33,26 @@ f_games::f_games() : Form(u"f_games")
 void f_games::build()
 {
     setWindowTitle(caption(u"Gestion des rondes", u"Round Management "));
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(2 * rhythm);
-    columns->addWidget(make_rounds_frame(), 1);
-    columns->addWidget(make_buttons());
     auto* warning = named(make_label(caption(u"** Attention : Ces rondes ne sont pas complétées",
                                              u"**Attention : these rounds have not been completed.")),
                           u"Label1");
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    auto* rows = new QVBoxLayout;
     rows->setSpacing(rhythm);
-    rows->addLayout(columns, 1);
+    rows->addWidget(make_rounds_frame(), 1);
     rows->addWidget(warning);
-    adjustSize();
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    columns->setSpacing(2 * rhythm);
+    columns->addWidget(scrolled(rows), 1);
+    columns->addWidget(make_buttons());
+    take_size(sizeHint());
 }
 
 QWidget* f_games::make_rounds_frame()
 {
     auto* frame =
         named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), u"Frame1");
-    List1 = named(make_list_box(characters_of_a_line), u"List1");
-    List1->setMinimumHeight(List1->fontMetrics().lineSpacing() * lines_in_view);
+    List1 = named(make_list_box(characters_of_a_line, lines_in_view), u"List1");
     List1->setAccessibleName(frame->title());
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);

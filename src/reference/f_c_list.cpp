@@ -9,6 +9,7 @@
 #include "f_c_list_func.h"
 #include "list_box.h"
 #include "look.h"
+#include "scrolled_content.h"
 #include "shortcuts.h"
 
 namespace verdane {
@@ -26,11 +27,11 @@ f_c_list::f_c_list() : Form(u"f_c_list"), List1(named(make_list_box(list_charact
     auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     columns->setSpacing(2 * rhythm);
-    columns->addLayout(make_list(), 1);
+    columns->addWidget(scrolled(make_list()), 1);
     columns->addLayout(make_buttons());
     set_tab_order();
     wire();
-    resize(usual_size.expandedTo(minimumSizeHint()));
+    take_size(usual_size);
     f_c_list_func::load(*this);
 }
 

@@ -13,6 +13,7 @@
 #include "f_cost_func.h"
 #include "language.h"
 #include "look.h"
+#include "scrolled_content.h"
 
 namespace verdane {
 
@@ -63,9 +64,9 @@ void f_cost::lay_out()
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(3 * rhythm, 2 * rhythm, 3 * rhythm, 2 * rhythm);
     rows->setSpacing(2 * rhythm);
-    rows->addLayout(make_amounts());
-    rows->addStretch();
+    rows->addWidget(scrolled(make_amounts()), 1);
     rows->addLayout(make_foot());
+    take_size(sizeHint());
 }
 
 QLayout* f_cost::make_amounts()
@@ -77,6 +78,7 @@ QLayout* f_cost::make_amounts()
     for (int index = 0; index < amount_count; ++index)
         add_amount(*grid, index, captions[static_cast<std::size_t>(index)].in(french()));
     add_total(*grid);
+    grid->setRowStretch(grid->rowCount(), 1);
     return grid;
 }
 

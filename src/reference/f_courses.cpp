@@ -22,7 +22,7 @@ namespace {
 
 using namespace f_courses_func;
 
-constexpr QSize prescribed_size(pixels(10410), pixels(8700));
+constexpr QSize usual_size(pixels(10410), pixels(8700));
 
 /// A published scorecard gives the lengths of nine holes in a row, then their stroke indexes, then
 /// their pars: the boxes of a page follow each other in that order.
@@ -50,7 +50,7 @@ f_courses::f_courses(bool new_course)
     setWindowTitle(caption(u"Terrains", u"Golf Course"));
     lay_out();
     set_tab_order();
-    resize(prescribed_size.expandedTo(minimumSizeHint()));
+    take_size(usual_size);
     load(*this);
     wire();
 }

@@ -10,6 +10,7 @@
 #include "f_courses.h"
 #include "f_courses_boxes.h"
 #include "look.h"
+#include "scrolled_content.h"
 
 /// How the course editor is laid out: three pages under a row of tabs, and a foot with the totals and
 /// the buttons.
@@ -92,7 +93,7 @@ void f_courses::lay_out()
     rows->setContentsMargins(left_margin, 2 * rhythm, left_margin, 2 * rhythm);
     rows->setSpacing(rhythm);
     rows->addWidget(TabStrip1);
-    rows->addLayout(make_pages(), 1);
+    rows->addWidget(scrolled(make_pages()), 1);
     rows->addLayout(make_foot());
 }
 

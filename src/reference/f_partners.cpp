@@ -13,6 +13,7 @@
 #include "f_partners_func.h"
 #include "look.h"
 #include "main_frame.h"
+#include "scrolled_content.h"
 
 namespace verdane {
 
@@ -62,7 +63,7 @@ f_partners::f_partners()
     lay_out();
     set_tab_order();
     wire();
-    resize(usual_size.expandedTo(minimumSizeHint()));
+    take_size(usual_size);
     load(*this);
 }
 
@@ -81,14 +82,21 @@ data_grid* f_partners::make_grid() const
 
 void f_partners::lay_out()
 {
-    auto* inside = new QVBoxLayout(Frame1);
-    inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
-    inside->addWidget(pgrid);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     rows->setSpacing(2 * rhythm);
-    rows->addWidget(Frame1, 1);
+    rows->addWidget(scrolled(make_content()), 1);
     rows->addLayout(make_buttons());
+}
+
+QLayout* f_partners::make_content()
+{
+    auto* inside = new QVBoxLayout(Frame1);
+    inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    inside->addWidget(pgrid);
+    auto* content = new QVBoxLayout;
+    content->addWidget(Frame1);
+    return content;
 }
 
 QLayout* f_partners::make_buttons()

@@ -36,6 +36,7 @@ protected:
 private:
     data_grid* make_grid() const;
     void lay_out();
+    QLayout* make_content();
     QLayout* make_buttons();
     void set_tab_order();
     void wire();

@@ -11,6 +11,7 @@
 #include "events.h"
 #include "f_get_date_func.h"
 #include "look.h"
+#include "scrolled_content.h"
 
 namespace verdane {
 
@@ -43,9 +44,13 @@ f_get_date::f_get_date(f_new_round& round)
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     page->setSpacing(2 * rhythm);
-    page->addWidget(round_date, 1);
-    page->addLayout(make_time_line());
+    auto* content = new QVBoxLayout;
+    content->setSpacing(2 * rhythm);
+    content->addWidget(round_date, 1);
+    content->addLayout(make_time_line());
+    page->addWidget(scrolled(content), 1);
     page->addLayout(make_button_line());
+    take_size(sizeHint());
     connect_events();
 }
 

@@ -44,19 +44,14 @@ void start_on_first_hole(f_new_round& window)
     window.Label(round_box::hole_number).setText(QStringLiteral("1"));
 }
 
-/// With room for both pages from the start, the window stays as it is when they turn.
-QSize least_size_of_pages(f_new_round& window)
-{
-    show_detailed_page(window);
-    const QSize detailed = window.minimumSizeHint();
-    show_quick_page(window);
-    return detailed.expandedTo(window.minimumSizeHint());
-}
-
 void take_place(f_new_round& window)
 {
-    const QSize wanted(pixels(width_twips), pixels(height_twips));
-    window.resize(wanted.expandedTo(least_size_of_pages(window)));
+    // With room for both pages from the start, the window keeps its size when they change.
+    show_detailed_page(window);
+    window.take_size({pixels(width_twips), pixels(height_twips)});
+    const QSize size_of_detailed_page = window.size();
+    show_quick_page(window);
+    window.take_size(size_of_detailed_page);
     current_form = &window;
     Place_and_lock(window);
 }

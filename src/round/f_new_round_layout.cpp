@@ -16,6 +16,7 @@
 #include "look.h"
 #include "round_boxes.h"
 #include "round_columns.h"
+#include "scrolled_content.h"
 #include "steady_wheel.h"
 #include "temperature_box.h"
 
@@ -24,6 +25,7 @@ namespace verdane {
 namespace {
 
 constexpr int largest_tab_padding = 2 * rhythm;
+constexpr int gap_between_rows = rhythm + rhythm / 2;
 
 QWidget* make_hole_tabs(f_new_round& window)
 {
@@ -31,6 +33,7 @@ QWidget* make_hole_tabs(f_new_round& window)
     for (int hole = 1; hole <= round_columns::hole_count; ++hole)
         window.TabStrip1->addTab(QString::number(hole));
     window.TabStrip1->setExpanding(true);
+    window.TabStrip1->setUsesScrollButtons(true);
     return window.TabStrip1;
 }
 
@@ -43,6 +46,16 @@ QLayout* make_pages(f_new_round& window)
     window.pages->addWidget(make_detailed_page(window), 1);
     window.pages->addWidget(make_parameters(window));
     return window.pages;
+}
+
+QLayout* make_content(f_new_round& window)
+{
+    auto* content = new QVBoxLayout;
+    content->setSpacing(gap_between_rows);
+    content->addWidget(make_hole_bar(window));
+    content->addWidget(make_page_bar(window));
+    content->addLayout(make_pages(window), 1);
+    return content;
 }
 
 QLayout* make_bottom(f_new_round& window)
@@ -95,11 +108,9 @@ void lay_out(f_new_round& window)
     window.setWindowTitle(window.caption(u"Ronde", u"Round"));
     auto* page = new QVBoxLayout(&window);
     page->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
-    page->setSpacing(rhythm + rhythm / 2);
+    page->setSpacing(gap_between_rows);
     page->addWidget(make_hole_tabs(window));
-    page->addWidget(make_hole_bar(window));
-    page->addWidget(make_page_bar(window));
-    page->addLayout(make_pages(window), 1);
+    page->addWidget(window.scrolled(make_content(window)), 1);
     page->addLayout(make_bottom(window));
     order_for_tab_key(window);
     const std::initializer_list<QWidget*> choices = {window.cmb_holes, window.cmb_courses, window.conditions,

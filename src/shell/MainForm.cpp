@@ -1,18 +1,18 @@
 #include "MainForm.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QToolButton>
 
 #include <memory>
 
+#include "after_first_paint.h"
 #include "control_array.h"
 #include "failure_guard.h"
 #include "language.h"
 #include "language_value.h"
+#include "screen_room.h"
 
 namespace verdane {
 
@@ -42,10 +42,11 @@ QAction* make_action(QStringView name, void (*command)(), QObject* owner)
 MainForm::MainForm()
 {
     setObjectName(QStringLiteral("MainForm"));
-    setMinimumSize(least_size);
+    const QSize room = room_on_screen(*this);
+    setMinimumSize(least_size.boundedTo(room));
     // The toolkit's own menu offers to hide the toolbar, and nothing would bring it back.
     setContextMenuPolicy(Qt::NoContextMenu);
-    resize(wanted_size.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    resize(wanted_size.boundedTo(room));
     for (const top_menu& menu : main_menu())
         add_menu(menu);
     add_toolbar();
@@ -69,6 +70,8 @@ void MainForm::show_first()
     form_of_run = std::make_unique<MainForm>();
     form_of_run->show();
     form_of_run->activated();
+    // The desktop gives the window its frame only when it is on the screen.
+    after_first_paint(*form_of_run, [] { keep_on_screen(*form_of_run); });
 }
 
 void MainForm::end_of_run()

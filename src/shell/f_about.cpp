@@ -7,6 +7,7 @@
 #include "events.h"
 #include "look.h"
 #include "main_frame.h"
+#include "scrolled_content.h"
 #include "system_information.h"
 
 namespace verdane {
@@ -92,9 +93,9 @@ void f_about::lay_out()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(3 * rhythm, 3 * rhythm, 3 * rhythm, 2 * rhythm);
     layout->setSpacing(3 * rhythm);
-    layout->addLayout(top);
+    layout->addWidget(scrolled(top), 1);
     layout->addLayout(buttons);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    take_size(sizeHint());
 }
 
 void f_about::activated()

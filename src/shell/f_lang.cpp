@@ -9,6 +9,7 @@
 #include "language.h"
 #include "language_value.h"
 #include "look.h"
+#include "scrolled_content.h"
 
 namespace verdane {
 
@@ -35,13 +36,15 @@ f_lang::f_lang() : Form(u"f_lang", twins::one)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(5 * rhythm, 4 * rhythm, 5 * rhythm, 4 * rhythm);
     layout->setSpacing(rhythm);
-    layout->addWidget(make_emblem(), 0, Qt::AlignHCenter);
+    auto* emblem = new QVBoxLayout;
+    emblem->addWidget(make_emblem(), 0, Qt::AlignHCenter);
+    layout->addWidget(scrolled(emblem), 1);
     layout->addSpacing(2 * rhythm);
     for (QPushButton* button : {&Command1(1), &Command1(0), Command2}) {
         button->setMinimumSize(30 * rhythm, 5 * rhythm);
         layout->addWidget(button);
     }
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    take_size(sizeHint());
 
     on_click(Command1(1), [this] { choose(french_value); });
     on_click(Command1(0), [this] { choose(english_value); });

@@ -12,6 +12,7 @@
 #include "f_carte_func.h"
 #include "list_box.h"
 #include "look.h"
+#include "scrolled_content.h"
 
 namespace verdane {
 
@@ -29,30 +30,30 @@ f_carte::f_carte() : Form(u"f_carte"), cr2(this)
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     rows->setSpacing(2 * rhythm);
-    rows->addWidget(make_courses(), 1);
+    rows->addWidget(scrolled(make_courses()), 1);
     rows->addLayout(make_buttons());
     List1->setFocus();
     wire();
-    adjustSize();
+    take_size(sizeHint());
     f_carte_func::load(*this);
 }
 
-QWidget* f_carte::make_courses()
+QLayout* f_carte::make_courses()
 {
     auto* frame = named(new QGroupBox(caption(u"Terrain / Terte", u"Golf Course / Teeing Area")), u"Frame1");
     auto* heading = named(make_label(caption(u"Choisissez un terrain", u"Select a golf course")), u"Label1");
-    List1 = named(make_list_box(characters_of_a_line), u"List1");
+    List1 = named(make_list_box(characters_of_a_line, lines_in_view), u"List1");
     // The names are padded with blanks to align the tees.
     List1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    List1->setMinimumWidth(List1->fontMetrics().horizontalAdvance(u'0') * characters_of_a_line + 4 * rhythm);
-    List1->setMinimumHeight(List1->fontMetrics().lineSpacing() * lines_in_view);
     List1->setAccessibleName(heading->text());
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->setSpacing(rhythm / 2);
     inside->addWidget(heading);
     inside->addWidget(List1);
-    return frame;
+    auto* content = new QVBoxLayout;
+    content->addWidget(frame);
+    return content;
 }
 
 QBoxLayout* f_carte::make_buttons()

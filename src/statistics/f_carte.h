@@ -31,7 +31,7 @@ protected:
     void unloading() override;
 
 private:
-    QWidget* make_courses();
+    QLayout* make_courses();
     QBoxLayout* make_buttons();
     void wire();
 };

@@ -16,6 +16,7 @@
 #include "language.h"
 #include "list_box.h"
 #include "look.h"
+#include "scrolled_content.h"
 #include "selection_lists.h"
 
 namespace verdane {
@@ -77,20 +78,22 @@ void f_date_range::build()
     choices->setSpacing(4 * rhythm);
     choices->addLayout(make_filters());
     choices->addLayout(make_counts(), 1);
+    auto* content = new QVBoxLayout;
+    content->setSpacing(2 * rhythm);
+    content->addLayout(lists, 1);
+    content->addLayout(choices);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     rows->setSpacing(2 * rhythm);
-    rows->addLayout(lists, 1);
-    rows->addLayout(choices);
+    rows->addWidget(scrolled(content), 1);
     rows->addLayout(make_foot());
-    adjustSize();
+    take_size(sizeHint());
 }
 
 QWidget* f_date_range::make_list_frame(QStringView name, int label, const QString& words, QListWidget*& list)
 {
     auto* frame = named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), name);
-    list = named(make_list_box(characters_of_a_line), label == 0 ? u"List1" : u"List2");
-    list->setMinimumHeight(list->fontMetrics().lineSpacing() * lines_in_view);
+    list = named(make_list_box(characters_of_a_line, lines_in_view), label == 0 ? u"List1" : u"List2");
     list->setAccessibleName(words);
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);

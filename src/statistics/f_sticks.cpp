@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <array>
 
 #include "events.h"
@@ -19,6 +18,7 @@
 #include "list_box.h"
 #include "look.h"
 #include "main_frame.h"
+#include "scrolled_content.h"
 #include "selection_lists.h"
 
 namespace verdane {
@@ -57,20 +57,22 @@ f_sticks::f_sticks() : Form(u"f_sticks")
 
 void f_sticks::widen_to(int twips)
 {
-    layout()->activate();
-    const int width = std::max(pixels(twips), minimumSizeHint().width());
-    const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : 0;
-    resize(width, std::max(height, minimumSizeHint().height()));
+    // As high as its controls need.
+    take_size({pixels(twips), 0});
 }
 
 void f_sticks::lay_out()
 {
-    auto* columns = new QHBoxLayout(this);
-    columns->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    auto* columns = new QHBoxLayout;
     columns->setSpacing(2 * rhythm);
     columns->addLayout(make_bag_column(), 1);
     columns->addWidget(make_filters());
     Frame1->hide();
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    rows->setSpacing(2 * rhythm);
+    rows->addWidget(scrolled(columns), 1);
+    rows->addLayout(make_foot());
 }
 
 QBoxLayout* f_sticks::make_bag_column()
@@ -89,7 +91,6 @@ QBoxLayout* f_sticks::make_bag_column()
     rows->addWidget(make_bag());
     rows->addWidget(notice);
     rows->addStretch(1);
-    rows->addLayout(make_foot());
     return rows;
 }
 
@@ -161,9 +162,7 @@ QWidget* f_sticks::make_list_frame(QStringView name, const QString& words, QList
 {
     auto* frame = named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), name);
     const bool first = name == u"Fr1";
-    list = named(make_list_box(characters_of_a_line), first ? u"List1" : u"List2");
-    list->setMinimumHeight(list->fontMetrics().lineSpacing() * lines_in_view);
-    list->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    list = named(make_list_box(characters_of_a_line, lines_in_view), first ? u"List1" : u"List2");
     list->setAccessibleName(words);
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);

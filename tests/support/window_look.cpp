@@ -49,12 +49,17 @@ QStringList controls_of_window(hand& user)
 QStringList clipped_controls(hand& user)
 {
     QStringList names;
-    user.look([&] {
-        for (const QWidget* control : form_at_work()->findChildren<QWidget*>()) {
-            if (control->isVisible() && is_clipped(*control))
-                names << control->objectName();
-        }
-    });
+    user.look([&] { names = clipped_controls_of(*form_at_work()); });
+    return names;
+}
+
+QStringList clipped_controls_of(const QWidget& window)
+{
+    QStringList names;
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        if (control->isVisible() && is_clipped(*control))
+            names << control->objectName();
+    }
     return names;
 }
 
