@@ -67,6 +67,8 @@ void Form::resize_now(QSize size)
 {
     layout()->activate();
     resize(size);
+    // A window that is not shown lays its controls out only on request.
+    layout()->invalidate();
     layout()->activate();
 }
 

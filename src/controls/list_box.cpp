@@ -35,7 +35,8 @@ private:
     QSize room_for(int characters, int lines) const
     {
         const QFontMetrics font = fontMetrics();
-        return {font.averageCharWidth() * characters + 4 * rhythm, font.lineSpacing() * lines};
+        return {font.averageCharWidth() * characters + 4 * rhythm,
+                font.lineSpacing() * lines + 2 * frameWidth()};
     }
 
     int characters_;

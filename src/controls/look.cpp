@@ -1,11 +1,65 @@
 #include "look.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 
+#include "accessible_controls.h"
+
 namespace verdane {
+
+namespace {
+
+void set_digits(QLineEdit& box, int digits)
+{
+    box.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const int text_width = box.fontMetrics().horizontalAdvance(QString(digits, u'0'));
+    box.setFixedWidth(text_width + 3 * rhythm);
+}
+
+QColor blended(const QColor& ground, const QColor& ink, double share)
+{
+    const auto mix = [share](int from, int to) { return qRound(from + (to - from) * share); };
+    return {mix(ground.red(), ink.red()), mix(ground.green(), ink.green()), mix(ground.blue(), ink.blue())};
+}
+
+/// A box for reading only. Its ground lies between the window and the text: in a dark palette the frame of a
+/// box hardly shows, and the ground alone has to set it off from the window.
+class figure_box : public QLineEdit {
+public:
+    figure_box()
+    {
+        setReadOnly(true);
+        setFocusPolicy(Qt::NoFocus);
+        take_ground();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QLineEdit::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange)
+            take_ground();
+    }
+
+private:
+    void take_ground()
+    {
+        constexpr double share_of_text = 0.07;
+        QPalette own = palette();
+        const QColor ground =
+            blended(own.color(QPalette::Window), own.color(QPalette::WindowText), share_of_text);
+        // Setting the palette is a change of its own.
+        if (own.color(QPalette::Base) == ground)
+            return;
+        own.setColor(QPalette::Base, ground);
+        setPalette(own);
+    }
+};
+
+}  // namespace
 
 QColor accent_green()
 {
@@ -24,28 +78,23 @@ void apply_look(QApplication& application)
 QLineEdit* make_number_box(int digits)
 {
     auto* box = new QLineEdit;
-    box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    const int text_width = box->fontMetrics().horizontalAdvance(QString(digits, u'0'));
-    box->setFixedWidth(text_width + 3 * rhythm);
+    set_digits(*box, digits);
     return box;
 }
 
 QLineEdit* make_figure(int digits)
 {
-    QLineEdit* box = make_number_box(digits);
-    box->setReadOnly(true);
-    box->setFocusPolicy(Qt::NoFocus);
-    QPalette palette = box->palette();
-    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-    box->setPalette(palette);
+    auto* box = new figure_box;
+    set_digits(*box, digits);
     return box;
 }
 
-QLabel* make_label(const QString& caption, QLineEdit* buddy)
+QLabel* make_label(const QString& caption, QWidget* buddy)
 {
     auto* label = new QLabel(caption);
     label->setTextFormat(Qt::PlainText);
-    label->setBuddy(buddy);
+    if (buddy)
+        label_control(*label, *buddy);
     return label;
 }
 

@@ -9,6 +9,7 @@ class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QString;
+class QWidget;
 
 /// The quiet look that all windows share: the platform's own style and palette, one accent green, an
 /// 8-pixel rhythm, numbers right-aligned.
@@ -27,7 +28,8 @@ QLineEdit* make_number_box(int digits);
 /// A box that shows a figure and takes no focus and no key.
 QLineEdit* make_figure(int digits);
 
-/// A label that gives keyboard access to its box when the caption holds a mnemonic.
-QLabel* make_label(const QString& caption, QLineEdit* buddy = nullptr);
+/// A label. It names the control that it belongs to for screen readers, and gives keyboard access to it when
+/// the caption holds a mnemonic.
+QLabel* make_label(const QString& caption, QWidget* buddy = nullptr);
 
 }  // namespace verdane

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QScrollBar>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -25,7 +26,7 @@ int scrolled_to(int position, int from, int to, int page)
 
 }  // namespace
 
-scrolled_content::scrolled_content(QLayout* layout)
+scrolled_content::scrolled_content(QLayout* layout) : after_layout_(new QTimer(this))
 {
     layout->setContentsMargins(0, 0, 0, 0);
     auto* content = new QWidget;
@@ -34,7 +35,9 @@ scrolled_content::scrolled_content(QLayout* layout)
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setWidget(content);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow_focus(now); });
+    after_layout_->setSingleShot(true);
+    connect(after_layout_, &QTimer::timeout, this, [this] { follow_focus(); });
+    connect(qApp, &QApplication::focusChanged, this, [this] { follow_focus(); });
 }
 
 QSize scrolled_content::missing()
@@ -65,11 +68,26 @@ void scrolled_content::keyPressEvent(QKeyEvent* event)
 void scrolled_content::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
-    follow_focus(QApplication::focusWidget());
+    after_layout_->start(0);
 }
 
-void scrolled_content::follow_focus(QWidget* focused)
+bool scrolled_content::focusNextPrevChild(bool next)
 {
+    // The scroll area of the toolkit would scroll once more, with other margins.
+    return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+bool scrolled_content::eventFilter(QObject* watched, QEvent* event)
+{
+    // The controls have their new places only when the event has been handled.
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        after_layout_->start(0);
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void scrolled_content::follow_focus()
+{
+    QWidget* focused = QApplication::focusWidget();
     if (!focused || !widget()->isAncestorOf(focused))
         return;
     const QRect with_label = place_with_label(*focused);

@@ -3,6 +3,7 @@
 #include <QScrollArea>
 
 class QLayout;
+class QTimer;
 
 namespace verdane {
 
@@ -26,13 +27,17 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void follow_focus(QWidget* focused);
+    void follow_focus();
     /// A control's place in the content.
     QRect place_of(const QWidget& control) const;
     QRect place_with_label(QWidget& control) const;
     void bring_into_view(const QRect& place);
+
+    QTimer* after_layout_;
 };
 
 }  // namespace verdane

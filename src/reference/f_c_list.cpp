@@ -37,8 +37,7 @@ f_c_list::f_c_list() : Form(u"f_c_list"), List1(named(make_list_box(list_charact
 
 QLayout* f_c_list::make_list()
 {
-    auto* heading = make_label(caption(u"Terrain / Terte", u"Golf Course / Teeing Area"));
-    List1->setAccessibleName(heading->text());
+    auto* heading = make_label(caption(u"Terrain / Terte", u"Golf Course / Teeing Area"), List1);
     auto* column = new QVBoxLayout;
     column->setSpacing(rhythm);
     column->addWidget(named(heading, u"lbl_list"));

@@ -86,7 +86,6 @@ void f_cost::add_amount(QGridLayout& grid, int index, const QString& caption)
 {
     QLineEdit* box = cost.add(index, make_number_box(total_digits));
     box->setText(QStringLiteral("0"));
-    box->setAccessibleName(caption);
     const QString number = QString::number(index);
     grid.addWidget(named(make_label(caption, box), QString(u"lbl_cost_" + number)), index, caption_column);
     grid.addWidget(box, index, amount_column);
@@ -104,7 +103,6 @@ void f_cost::add_total(QGridLayout& grid)
     bold.setBold(true);
     label->setFont(bold);
     Text1->setFont(bold);
-    Text1->setAccessibleName(label->text());
     // A row of zeros changes no box, and so makes no total.
     Text1->setText(QStringLiteral("0"));
     const int row = amount_count + 1;

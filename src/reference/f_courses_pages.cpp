@@ -7,6 +7,7 @@
 
 #include <utility>
 
+#include "accessible_controls.h"
 #include "f_courses.h"
 #include "f_courses_boxes.h"
 #include "look.h"
@@ -63,7 +64,7 @@ void add_line(QGridLayout& grid, int row, QWidget* line)
     grid.addWidget(line, row, hole_number, 1, normal + 1);
 }
 
-QLabel* make_caption(const QString& name, const QString& caption, QLineEdit* buddy = nullptr)
+QLabel* make_caption(const QString& name, const QString& caption, QWidget* buddy = nullptr)
 {
     return named(make_label(caption, buddy), name);
 }
@@ -99,6 +100,7 @@ void f_courses::lay_out()
 
 void f_courses::make_tabs()
 {
+    name_control(*TabStrip1, QStringLiteral("Pages"));
     TabStrip1->addTab(caption(u"Information générale", u"General Information"));
     TabStrip1->addTab(caption(u"Aller", u"Front Nine"));
     TabStrip1->addTab(caption(u"Retour", u"Back Nine"));
@@ -155,8 +157,8 @@ void f_courses::add_labelled_box(QGridLayout& grid, QStringView name, const QStr
 
 void f_courses::add_departure(QGridLayout& grid)
 {
-    auto* label = make_caption(QStringLiteral("lbl_departure"), caption(u"Départ :", u"Teeing Area :"));
-    label->setBuddy(departure);
+    auto* label =
+        make_caption(QStringLiteral("lbl_departure"), caption(u"Départ :", u"Teeing Area :"), departure);
     departure->setFixedWidth(short_box_width);
     departure->setMinimumHeight(general_box_height);
     const int row = grid.rowCount();
@@ -237,12 +239,11 @@ QLayout* f_courses::make_total(const QString& caption, QLabel* figure)
 {
     figure->setText(QStringLiteral("0"));
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    figure->setAccessibleName(caption);
     make_bold(*figure);
     figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance(QStringLiteral("-00000")));
     auto* total = new QHBoxLayout;
     total->setSpacing(rhythm / 2);
-    total->addWidget(make_caption(figure->objectName() + u"_caption", caption));
+    total->addWidget(make_caption(figure->objectName() + u"_caption", caption, figure));
     total->addWidget(figure);
     return total;
 }

@@ -38,6 +38,7 @@ report_preview::report_preview(std::shared_ptr<const report_document> document, 
 void report_preview::build()
 {
     pages_ = new page_view(document_, this);
+    pages_->setAccessibleName(QStringLiteral("Pages"));
     pages_->on_change = [this] { show_state(); };
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "accessible_controls.h"
 #include "control_array.h"
 #include "events.h"
 #include "f_get_date_func.h"
@@ -48,10 +49,31 @@ f_get_date::f_get_date(f_new_round& round)
     content->setSpacing(2 * rhythm);
     content->addWidget(round_date, 1);
     content->addLayout(make_time_line());
+    name_controls();
     page->addWidget(scrolled(content), 1);
     page->addLayout(make_button_line());
     take_size(sizeHint());
     connect_events();
+}
+
+void f_get_date::name_controls()
+{
+    const std::pair<QWidget*, QString> boxes[] = {{round_date, caption(u"Date", u"Date")},
+                                                  {Text1, caption(u"Heures", u"Hours")},
+                                                  {Text2, caption(u"Minutes", u"Minutes")},
+                                                  {Text3, caption(u"Secondes", u"Seconds")}};
+    for (const auto& [box, name] : boxes)
+        name_control(*box, name);
+    // The calendar has no name for its own parts.
+    const std::pair<QString, QString> parts[] = {
+        {QStringLiteral("qt_calendar_prevmonth"), caption(u"Mois précédent", u"Previous month")},
+        {QStringLiteral("qt_calendar_nextmonth"), caption(u"Mois suivant", u"Next month")},
+        {QStringLiteral("qt_calendar_yearedit"), caption(u"Année", u"Year")},
+        {QStringLiteral("qt_calendar_calendarview"), caption(u"Jours", u"Days")}};
+    for (const auto& [part, name] : parts) {
+        if (auto* control = round_date->findChild<QWidget*>(part))
+            name_control(*control, name);
+    }
 }
 
 QLayout* f_get_date::make_time_line()

@@ -29,6 +29,7 @@ protected:
     void close_requested() override;
 
 private:
+    void name_controls();
     QLayout* make_time_line();
     QLayout* make_button_line();
     void connect_events();

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "accessible_controls.h"
 #include "data_grid.h"
 #include "details_grid.h"
 #include "f_new_round.h"
@@ -78,12 +79,14 @@ QWidget* make_detailed_page(f_new_round& window)
     auto* frame = named(new QGroupBox(window.caption(u"Coups", u"Shots")), u"Framedet");
     window.Framedet = frame;
     window.details = make_details(window);
+    name_control(*window.details, frame->title());
     set_up_columns(window);
     // While it is hidden for a moment, nothing around it jumps.
     QSizePolicy policy = window.details->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     window.details->setSizePolicy(policy);
     auto* lines = new QVBoxLayout(frame);
+    lines->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     lines->setSpacing(rhythm);
     lines->addWidget(window.details, 1);
     lines->addLayout(make_commands(window));
@@ -97,6 +100,7 @@ QWidget* make_page_bar(f_new_round& window)
     auto* line = new QHBoxLayout(bar);
     line->setContentsMargins(0, 0, 0, 0);
     window.TabStrip2 = named(new TabStrip, u"TabStrip2");
+    name_control(*window.TabStrip2, QStringLiteral("Pages"));
     window.TabStrip2->addTab(window.caption(u"Entrée rapide", u"Quick entry"));
     window.TabStrip2->addTab(window.caption(u"Entrée détaillée", u"Detailed Entry"));
     window.Command4 = named(make_button(QStringLiteral("Cliquer pour détailler votre ronde")), u"Command4");

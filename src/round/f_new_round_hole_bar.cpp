@@ -15,7 +15,7 @@ namespace verdane {
 namespace {
 
 constexpr int card_digits = 4;
-constexpr int date_characters = 12;
+constexpr int date_characters = 10;
 constexpr int time_characters = 8;
 
 QLineEdit* add_figure(f_new_round& window, QHBoxLayout& line, int index, const QString& caption,
@@ -35,11 +35,11 @@ void add_hole_choice(f_new_round& window, QHBoxLayout& line)
     large.setPointSizeF(large.pointSizeF() * 1.6);
     large.setBold(true);
     number->setFont(large);
-    number->setMinimumWidth(QFontMetrics(large).horizontalAdvance(QStringLiteral("18")));
+    // As wide for the first hole as for the last, so that nothing moves between holes.
+    number->setText(QStringLiteral("18"));
+    number->setMinimumWidth(number->sizeHint().width());
     window.cmb_holes = named(new QComboBox, u"cmb_holes");
-    QLabel* label = make_label(window.caption(u"Trou :", u"Hole :"));
-    label->setBuddy(window.cmb_holes);
-    line.addWidget(label);
+    line.addWidget(make_label(window.caption(u"Trou :", u"Hole :"), window.cmb_holes));
     line.addWidget(number);
     line.addWidget(window.cmb_holes);
     line.addSpacing(2 * rhythm);

@@ -10,6 +10,7 @@
 
 #include <vector>
 
+#include "accessible_controls.h"
 #include "course_box.h"
 #include "data_grid.h"
 #include "f_new_round.h"
@@ -24,7 +25,6 @@ namespace verdane {
 
 namespace {
 
-constexpr int largest_tab_padding = 2 * rhythm;
 constexpr int gap_between_rows = rhythm + rhythm / 2;
 
 QWidget* make_hole_tabs(f_new_round& window)
@@ -32,6 +32,7 @@ QWidget* make_hole_tabs(f_new_round& window)
     window.TabStrip1 = named(new TabStrip, u"TabStrip1");
     for (int hole = 1; hole <= round_columns::hole_count; ++hole)
         window.TabStrip1->addTab(QString::number(hole));
+    name_control(*window.TabStrip1, window.caption(u"Trous", u"Holes"));
     window.TabStrip1->setExpanding(true);
     window.TabStrip1->setUsesScrollButtons(true);
     return window.TabStrip1;
@@ -40,7 +41,7 @@ QWidget* make_hole_tabs(f_new_round& window)
 QLayout* make_pages(f_new_round& window)
 {
     window.pages = new QHBoxLayout;
-    window.pages->setSpacing(largest_tab_padding);
+    window.pages->setSpacing(rhythm);
     window.pages->addWidget(make_quick_page(window));
     window.pages->addWidget(make_statistics(window), 1);
     window.pages->addWidget(make_detailed_page(window), 1);

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <initializer_list>
+
 #include "course_box.h"
 #include "f_new_round.h"
 #include "f_new_round_layout.h"
@@ -21,29 +23,24 @@ namespace {
 
 constexpr int money_digits = 6;
 
-QLabel* make_heading(const QString& caption, QWidget* buddy)
-{
-    QLabel* heading = make_label(caption);
-    heading->setBuddy(buddy);
-    return heading;
-}
-
 void add_block(QVBoxLayout& frame, const QString& caption, QWidget* control, int stretch = 0)
 {
     auto* block = new QVBoxLayout;
     block->setSpacing(rhythm / 2);
-    block->addWidget(make_heading(caption, control));
+    block->addWidget(make_label(caption, control));
     block->addWidget(control, stretch);
     frame.addLayout(block, stretch);
 }
 
-void add_line(QVBoxLayout& frame, const QString& caption, QWidget* control)
+/// A caption, and at the other end of the line the control that it names with what follows it.
+void add_line(QVBoxLayout& frame, const QString& caption, std::initializer_list<QWidget*> controls)
 {
     auto* line = new QHBoxLayout;
     line->setSpacing(rhythm);
-    line->addWidget(make_heading(caption, control));
+    line->addWidget(make_label(caption, *controls.begin()));
     line->addStretch();
-    line->addWidget(control);
+    for (QWidget* control : controls)
+        line->addWidget(control);
     frame.addLayout(line);
 }
 
@@ -51,13 +48,8 @@ void add_line(QVBoxLayout& frame, const QString& caption, QWidget* control)
 void add_costs(f_new_round& window, QVBoxLayout& frame)
 {
     window.Command2 = named(make_button(window.caption(u"Détails", u"Details")), u"Command2");
-    auto* costs = new QWidget;
-    auto* line = new QHBoxLayout(costs);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(rhythm);
-    line->addWidget(window.text.add(round_box::costs, make_figure(money_digits)));
-    line->addWidget(window.Command2);
-    add_line(frame, window.caption(u"Coûts", u"Costs"), costs);
+    QLineEdit* total = window.text.add(round_box::costs, make_figure(money_digits));
+    add_line(frame, window.caption(u"Coûts", u"Costs"), {total, window.Command2});
 }
 
 /// Height of a list that shows so many lines, none of them cut.
@@ -82,8 +74,8 @@ QListWidget* make_partner_list()
 
 QLabel* add_total(QHBoxLayout& line, const QString& caption, QStringView name)
 {
-    line.addWidget(make_label(caption), 0, Qt::AlignBottom);
     auto* figure = named(new QLabel, name);
+    line.addWidget(make_label(caption, figure), 0, Qt::AlignBottom);
     QFont bold = figure->font();
     bold.setPointSizeF(bold.pointSizeF() * 1.2);
     bold.setBold(true);
@@ -100,6 +92,7 @@ QWidget* make_parameters(f_new_round& window)
     auto* frame = named(new QGroupBox(window.caption(u"Paramètres", u"Parameters")), u"Frame8");
     window.Frame8 = frame;
     auto* blocks = new QVBoxLayout(frame);
+    blocks->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     blocks->setSpacing(rhythm + rhythm / 2);
     window.cmb_courses = named(new course_box, u"cmb_courses");
     window.conditions = named(new QComboBox, u"conditions");
@@ -110,7 +103,7 @@ QWidget* make_parameters(f_new_round& window)
     add_block(*blocks, window.caption(u"Terrain", u"Golf Course"), window.cmb_courses);
     add_block(*blocks, window.caption(u"Conditions atmosphériques", u"Weather Conditions "),
               window.conditions);
-    add_line(*blocks, QStringLiteral("Temp. :"), window.UpDown1);
+    add_line(*blocks, QStringLiteral("Temp. :"), {window.UpDown1});
     add_block(*blocks, window.caption(u"Partenaires", u"Partners"), window.pList, 1);
     add_costs(window, *blocks);
     return frame;

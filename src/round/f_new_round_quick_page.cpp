@@ -15,6 +15,8 @@ namespace verdane {
 namespace {
 
 constexpr int box_digits = 4;
+/// Thirteen lines and three frames fit into the height of the window.
+constexpr int row_gap = 6;
 
 struct quick_row {
     int index;
@@ -27,7 +29,8 @@ public:
         : window_(window), frame_(new QGroupBox(caption)), rows_(new QGridLayout(frame_))
     {
         rows_->setHorizontalSpacing(2 * rhythm);
-        rows_->setVerticalSpacing(rhythm);
+        rows_->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+        rows_->setVerticalSpacing(row_gap);
         rows_->setColumnStretch(0, 1);
     }
 

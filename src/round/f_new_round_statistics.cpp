@@ -17,7 +17,7 @@ namespace verdane {
 
 namespace {
 
-constexpr int figure_digits = 3;
+constexpr int figure_digits = 2;
 /// A gap between two groups of classes.
 constexpr int gap = 0;
 
@@ -42,7 +42,7 @@ template <typename Selectors>
 QGridLayout* make_column(f_new_round& window, const Selectors& selectors)
 {
     auto* rows = new QGridLayout;
-    rows->setHorizontalSpacing(rhythm);
+    rows->setHorizontalSpacing(rhythm / 2);
     rows->setVerticalSpacing(rhythm);
     rows->setColumnStretch(0, 1);
     for (const int selector : selectors) {
@@ -62,7 +62,8 @@ QWidget* make_statistics(f_new_round& window)
     auto* frame = named(new QGroupBox(window.caption(u"Statistiques", u"Statistics")), u"Frame1");
     window.Frame1 = frame;
     auto* columns = new QHBoxLayout(frame);
-    columns->setSpacing(3 * rhythm);
+    columns->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    columns->setSpacing(2 * rhythm);
     columns->addLayout(make_column(window, left_column), 1);
     columns->addLayout(make_column(window, right_column), 1);
     return frame;

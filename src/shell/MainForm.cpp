@@ -113,8 +113,7 @@ void MainForm::add_toolbar()
         action->setIcon(QIcon(QStringLiteral(":/art/%1.svg").arg(button.key)));
         action->setToolTip(button.tool_tip.toString());
         toolbar->addAction(action);
-        QWidget* face = named(toolbar->widgetForAction(action), button.key);
-        face->setAccessibleName(button.tool_tip.toString());
+        named(toolbar->widgetForAction(action), button.key);
         tool_actions_[button.key.toString()] = action;
     }
     addToolBar(toolbar);
@@ -135,8 +134,16 @@ void MainForm::load()
         for (const menu_entry& entry : menu.entries)
             actions_.at(entry.name.toString())->setText(caption_of(entry.caption));
     }
+    name_tool_buttons();
     tick_language(is_french ? french_value : english_value);
     shortcuts_.set_language(is_french);
+}
+
+void MainForm::name_tool_buttons()
+{
+    for (const tool_button& button : main_toolbar())
+        findChild<QToolButton*>(button.key.toString())
+            ->setAccessibleName(in_language(button.tool_tip, button.english_name));
 }
 
 void MainForm::unload()

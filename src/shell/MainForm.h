@@ -48,6 +48,7 @@ private:
     void add_toolbar();
     void add_pictures();
     void load();
+    void name_tool_buttons();
     void unload();
     void set_locked(bool locked);
     void fit_pictures();

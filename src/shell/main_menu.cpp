@@ -57,14 +57,14 @@ const std::vector<top_menu>& main_menu()
 const std::vector<tool_button>& main_toolbar()
 {
     static const std::vector<tool_button> toolbar{
-        {u"B1", u"Ajouter une ronde", command_new_round, locked},
-        {u"B2", u"Gestion des rondes", command_round_list, locked},
-        {u"B3", u"Gestion des terrain", command_course_list, locked},
-        {u"B4", u"Enregistrer", command_save},
-        {u"B5", u"Fermer", command_close},
-        {u"B6", u"Mes partenaires", command_partners, locked},
-        {u"B7", u"Gestion des battons", command_golf_bag, locked},
-        {u"B8", u"Carte de jeux", command_scorecard, locked},
+        {u"B1", u"Ajouter une ronde", u"New Round", command_new_round, locked},
+        {u"B2", u"Gestion des rondes", u"Round Management", command_round_list, locked},
+        {u"B3", u"Gestion des terrain", u"Golf Course Management", command_course_list, locked},
+        {u"B4", u"Enregistrer", u"Save", command_save},
+        {u"B5", u"Fermer", u"Close", command_close},
+        {u"B6", u"Mes partenaires", u"Partner Management", command_partners, locked},
+        {u"B7", u"Gestion des battons", u"My Golf Clubs", command_golf_bag, locked},
+        {u"B8", u"Carte de jeux", u"Scorecard", command_scorecard, locked},
     };
     return toolbar;
 }

@@ -31,6 +31,8 @@ struct top_menu {
 struct tool_button {
     QStringView key;
     QStringView tool_tip;
+    /// What screen readers call it in English; in French it is the tool tip.
+    QStringView english_name;
     void (*command)() = nullptr;
     bool locked_while_a_window_works = false;
 };

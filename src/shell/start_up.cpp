@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 
+#include "accessible_controls.h"
 #include "after_first_paint.h"
 #include "boxes.h"
 #include "DataEnvironment1.h"
@@ -113,6 +114,7 @@ void prepare_application(QApplication& application)
     QGuiApplication::setDesktopFileName(QStringLiteral("io.verdane.Verdane"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/art/verdane.svg")));
     apply_look(application);
+    describe_controls();
 }
 
 int run_verdane(QApplication& application)

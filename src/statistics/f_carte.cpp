@@ -41,11 +41,11 @@ f_carte::f_carte() : Form(u"f_carte"), cr2(this)
 QLayout* f_carte::make_courses()
 {
     auto* frame = named(new QGroupBox(caption(u"Terrain / Terte", u"Golf Course / Teeing Area")), u"Frame1");
-    auto* heading = named(make_label(caption(u"Choisissez un terrain", u"Select a golf course")), u"Label1");
     List1 = named(make_list_box(characters_of_a_line, lines_in_view), u"List1");
+    auto* heading =
+        named(make_label(caption(u"Choisissez un terrain", u"Select a golf course"), List1), u"Label1");
     // The names are padded with blanks to align the tees.
     List1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    List1->setAccessibleName(heading->text());
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->setSpacing(rhythm / 2);

@@ -11,6 +11,7 @@
 
 #include <array>
 
+#include "accessible_controls.h"
 #include "events.h"
 #include "f_date_range_func.h"
 #include "language.h"
@@ -94,11 +95,10 @@ QWidget* f_date_range::make_list_frame(QStringView name, int label, const QStrin
 {
     auto* frame = named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), name);
     list = named(make_list_box(characters_of_a_line, lines_in_view), label == 0 ? u"List1" : u"List2");
-    list->setAccessibleName(words);
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->setSpacing(rhythm / 2);
-    inside->addWidget(Label1.add(label, make_label(words)));
+    inside->addWidget(Label1.add(label, make_label(words, list)));
     inside->addWidget(list);
     return frame;
 }
@@ -123,8 +123,10 @@ QLayout* f_date_range::make_counts()
 {
     auto* count = new QHBoxLayout;
     count->setSpacing(rhythm);
-    count->addWidget(Label1.add(6, make_label(caption(u"Nombre de parties jouées:", u"Number of rounds :"))));
-    count->addWidget(Label1.add(count_label, make_label(QStringLiteral("XX"))), 1);
+    QLabel* figure = Label1.add(count_label, make_label(QStringLiteral("XX")));
+    const QString words = caption(u"Nombre de parties jouées:", u"Number of rounds :");
+    count->addWidget(Label1.add(6, make_label(words, figure)));
+    count->addWidget(figure, 1);
     auto* rows = new QVBoxLayout;
     rows->setSpacing(rhythm);
     rows->addWidget(
@@ -138,6 +140,7 @@ QLayout* f_date_range::make_counts()
 QLayout* f_date_range::make_foot()
 {
     Status = named(new QProgressBar, u"Status");
+    name_control(*Status, caption(u"Progression", u"Progress"));
     Status->setRange(0, 100);
     Status->setValue(0);
     Status->setTextVisible(false);

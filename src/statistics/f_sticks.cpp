@@ -13,6 +13,7 @@
 
 #include <array>
 
+#include "accessible_controls.h"
 #include "events.h"
 #include "f_sticks_func.h"
 #include "list_box.h"
@@ -30,12 +31,12 @@ using namespace f_sticks_func;
 constexpr int clubs_in_a_column = 7;
 /// Number, name, average and the gap after them.
 constexpr int columns_of_a_half = 4;
-constexpr int name_characters = 12;
-constexpr int average_digits = 6;
+constexpr int name_characters = 10;
+constexpr int average_digits = 5;
 /// Day, time and a course of some length in capitals.
 constexpr int characters_of_a_line = 54;
-constexpr int lines_in_view = 8;
-constexpr int short_figure = 3;
+constexpr int lines_in_view = 6;
+constexpr int short_figure = 2;
 
 QLabel* make_paragraph(QStringView name)
 {
@@ -98,10 +99,9 @@ QGroupBox* f_sticks::make_bag()
 {
     auto* bag = named(new QGroupBox(caption(u"Sac de golf", u"Golf Bag")), u"Frame2");
     auto* grid = new QGridLayout(bag);
-    grid->setContentsMargins(2 * rhythm, rhythm, 2 * rhythm, 2 * rhythm);
+    grid->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     grid->setHorizontalSpacing(rhythm);
     grid->setVerticalSpacing(rhythm / 2);
-    grid->setColumnMinimumWidth(3, 2 * rhythm);
     for (const int half : {0, 1})
         grid->addWidget(
             named(make_label(caption(u"verges", u"yards")), QStringLiteral("lbl_unit_%1").arg(half)), 0,
@@ -146,9 +146,10 @@ QLayout* f_sticks::make_foot()
 QGroupBox* f_sticks::make_filters()
 {
     Frame1 = named(new QGroupBox, u"Frame1");
+    name_control(*Frame1, caption(u"Rondes des moyennes", u"Rounds of the averages"));
     Actualiser = named(make_button(caption(u"Actualiser", u"Update")), u"Actualiser");
     auto* rows = new QVBoxLayout(Frame1);
-    rows->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
+    rows->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     rows->setSpacing(rhythm);
     rows->addWidget(make_list_frame(u"Fr1", caption(u"De...", u"From..."), List1), 1);
     rows->addWidget(make_list_frame(u"Fr2", caption(u"À...", u"To..."), List2), 1);
@@ -163,11 +164,10 @@ QWidget* f_sticks::make_list_frame(QStringView name, const QString& words, QList
     auto* frame = named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), name);
     const bool first = name == u"Fr1";
     list = named(make_list_box(characters_of_a_line, lines_in_view), first ? u"List1" : u"List2");
-    list->setAccessibleName(words);
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->setSpacing(rhythm / 2);
-    inside->addWidget(named(make_label(words), first ? u"lbl_from" : u"lbl_to"));
+    inside->addWidget(named(make_label(words, list), first ? u"lbl_from" : u"lbl_to"));
     inside->addWidget(list, 1);
     return frame;
 }
@@ -181,6 +181,8 @@ QLayout* f_sticks::make_choices()
     form->setHorizontalSpacing(rhythm);
     form->setVerticalSpacing(rhythm / 2);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    // The window has no width for labels beside the lists.
+    form->setRowWrapPolicy(QFormLayout::WrapAllRows);
     const auto label = [](QStringView name, const QString& words) { return named(make_label(words), name); };
     add_filter(*form,
                label(u"lbl_conditions", caption(u"Conditions atmosphériques :", u"Weather Conditions :")),
@@ -198,7 +200,7 @@ QLayout* f_sticks::make_choices()
 QLayout* f_sticks::make_unread_boxes()
 {
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(rhythm);
+    grid->setHorizontalSpacing(rhythm / 2);
     grid->setVerticalSpacing(rhythm / 2);
     grid->setColumnStretch(5, 1);
     const std::array<QString, 2> kinds{caption(u"Heure :", u"Time :"),

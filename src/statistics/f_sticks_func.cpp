@@ -20,6 +20,7 @@
 #include "round_key.h"
 #include "round_list.h"
 #include "round_rows.h"
+#include "screen_room.h"
 #include "selection_choice.h"
 #include "selection_clauses.h"
 #include "selection_lists.h"
@@ -178,6 +179,7 @@ void show_filters(f_sticks& window)
     window.widen_to(width_with_filters);
     if (main_frame())
         window.move(window.x(), main_frame()->frame_widget()->geometry().top() + pixels(top_with_filters));
+    keep_on_screen(window);
 }
 
 selection_arguments selection_of(const f_sticks& window)

@@ -4,6 +4,7 @@
 #include <QFormLayout>
 #include <QLabel>
 
+#include "accessible_controls.h"
 #include "close_if_open.h"
 #include "DataEnvironment1.h"
 #include "language.h"
@@ -50,7 +51,7 @@ void for_each_row(Recordset& rows, Add add)
 
 void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter)
 {
-    label->setBuddy(filter);
+    label_control(*label, *filter);
     form.addRow(label, filter);
 }
 

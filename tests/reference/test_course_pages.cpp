@@ -6,6 +6,7 @@
 #include "course_windows.h"
 #include "f_courses.h"
 #include "language.h"
+#include "window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -176,7 +177,8 @@ private Q_SLOTS:
         course_store store;
         in_new_course([&](hand& user) {
             with_editor(user, [&](f_courses& window) {
-                QVERIFY(window.width() >= 694 && window.height() >= 580);
+                QCOMPARE(window.size(), QSize(694, 580));
+                QVERIFY(!scrolls(window));
                 const QRect frame = store.frame.frame_widget()->geometry();
                 QCOMPARE(window.pos(), frame.topLeft() + QPoint((frame.width() - window.width()) / 2, 2));
                 QCOMPARE(current_form.data(), &window);

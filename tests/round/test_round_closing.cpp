@@ -7,6 +7,7 @@
 #include "main_frame.h"
 #include "Main_module.h"
 #include "round_windows.h"
+#include "window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -286,16 +287,24 @@ private Q_SLOTS:
         QVERIFY(!store.frame.locked);
     }
 
-    void the_window_has_the_size_that_its_pages_need()
+    void the_window_measures_1024_by_668_pixels_on_both_pages_data() { both_languages(); }
+    void the_window_measures_1024_by_668_pixels_on_both_pages()
     {
-        const round_store store;
+        QFETCH(bool, french);
+        const round_store store(french);
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             with_round(user, [](f_new_round& window) {
-                QVERIFY(window.width() >= 1024);
-                QVERIFY(window.height() >= 668);
+                QCOMPARE(window.size(), QSize(1024, 668));
+                QVERIFY(!scrolls(window));
                 QCOMPARE(current_form.data(), static_cast<Form*>(&window));
             });
+            user.click_tab(QStringLiteral("TabStrip2"), 2);
+            with_round(user, [](f_new_round& window) {
+                QCOMPARE(window.size(), QSize(1024, 668));
+                QVERIFY(!scrolls(window));
+            });
+            user.click_tab(QStringLiteral("TabStrip2"), 1);
             discard(user);
         });
     }

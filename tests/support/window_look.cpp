@@ -5,7 +5,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
+
+#include <algorithm>
 
 #include "DataEnvironment1.h"
 #include "Form.h"
@@ -61,6 +65,14 @@ QStringList clipped_controls_of(const QWidget& window)
             names << control->objectName();
     }
     return names;
+}
+
+bool scrolls(const QWidget& window)
+{
+    const auto areas = window.findChildren<QScrollArea*>();
+    return std::any_of(areas.begin(), areas.end(), [](const QScrollArea* area) {
+        return area->verticalScrollBar()->maximum() > 0 || area->horizontalScrollBar()->maximum() > 0;
+    });
 }
 
 QStringList open_recordsets()

@@ -16,6 +16,10 @@ QStringList controls_of_window(hand& user);
 QStringList clipped_controls(hand& user);
 QStringList clipped_controls_of(const QWidget& window);
 
+/// Whether a part of the window has no room and scrolls; lists and grids that scroll by themselves apart. To
+/// be called in the window thread.
+bool scrolls(const QWidget& window);
+
 /// The names of the recordsets that are open.
 QStringList open_recordsets();
 

@@ -6,7 +6,7 @@
 
 #include <cstdlib>
 
-#include "every_window.h"
+#include "every_view.h"
 #include "start_up.h"
 
 using namespace verdane;
@@ -26,7 +26,7 @@ QPalette dark_palette()
 bool draw_all(const QDir& folder, bool french)
 {
     bool complete = true;
-    testing::visit_every_window(french, [&](testing::hand& user, const QString& view, const QString& window) {
+    testing::visit_every_view(french, [&](testing::hand& user, const QString& view, const QString& window) {
         const QString name = view + (french ? u" fr.png"_s : u" en.png"_s);
         complete &= user.picture(window).save(folder.filePath(QString(name).replace(u' ', u'_')));
     });

@@ -1,4 +1,4 @@
-#include "every_window.h"
+#include "every_view.h"
 
 #include <QWidget>
 
@@ -158,7 +158,7 @@ void visit_all(const walk& now)
 
 }  // namespace
 
-void visit_every_window(bool french, const look_at_view& look)
+void visit_every_view(bool french, const look_at_view& look)
 {
     program_run run(not_chosen);
     lay_down_diary(run.store_path(), rounds_of_diary, true);

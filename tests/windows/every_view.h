@@ -15,6 +15,6 @@ using look_at_view = std::function<void(hand& user, const QString& view, const Q
 
 /// Runs the program in a language on a new store with a diary of 20 rounds, and opens every window with each
 /// of its pages and states, the language window first.
-void visit_every_window(bool french, const look_at_view& look);
+void visit_every_view(bool french, const look_at_view& look);
 
 }  // namespace verdane::testing

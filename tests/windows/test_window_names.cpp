@@ -1,0 +1,168 @@
+#include <QAccessible>
+#include <QApplication>
+#include <QTest>
+#include <QWidget>
+
+#include <set>
+
+#include "every_view.h"
+#include "hand_widgets.h"
+#include "languages.h"
+#include "start_up.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a screen reader announces by a name. Cells and lines of a list are read by what they hold, and the
+/// rest only arranges the others.
+const std::set<QAccessible::Role> roles_with_a_name{
+    QAccessible::Window,    QAccessible::Dialog,      QAccessible::PushButton,   QAccessible::ButtonMenu,
+    QAccessible::CheckBox,  QAccessible::ComboBox,    QAccessible::EditableText, QAccessible::SpinBox,
+    QAccessible::List,      QAccessible::Table,       QAccessible::Tree,         QAccessible::PageTab,
+    QAccessible::MenuItem,  QAccessible::PageTabList, QAccessible::ProgressBar,  QAccessible::Grouping,
+    QAccessible::StaticText};
+
+/// Parts of a window as a screen reader meets them, without what is not shown.
+void collect(QAccessibleInterface* part, QList<QAccessibleInterface*>& parts)
+{
+    if (!part || !part->isValid() || part->state().invisible)
+        return;
+    parts << part;
+    for (int index = 0; index < part->childCount(); ++index)
+        collect(part->child(index), parts);
+}
+
+QList<QAccessibleInterface*> parts_of(QWidget& window)
+{
+    QList<QAccessibleInterface*> parts;
+    collect(QAccessible::queryAccessibleInterface(&window), parts);
+    return parts;
+}
+
+QString described(QAccessibleInterface& part)
+{
+    const QObject* object = part.object();
+    return QStringLiteral("%1 (role %2)")
+        .arg(object ? object->objectName() + u' ' + QLatin1String(object->metaObject()->className())
+                    : QStringLiteral("a part"))
+        .arg(static_cast<int>(part.role()));
+}
+
+QStringList unnamed_parts(QWidget& window)
+{
+    QStringList unnamed;
+    for (QAccessibleInterface* part : parts_of(window)) {
+        const bool figure_without_value =
+            part->role() == QAccessible::StaticText && qobject_cast<QWidget*>(part->object());
+        if (roles_with_a_name.count(part->role()) && !figure_without_value &&
+            part->text(QAccessible::Name).trimmed().isEmpty())
+            unnamed << described(*part);
+    }
+    return unnamed;
+}
+
+struct spoken {
+    QString control;
+    QString french;
+    QString english;
+};
+
+/// Names that the toolkit would leave out, or make from the value that the control holds.
+const QHash<QString, QList<spoken>>& names()
+{
+    static const QHash<QString, QList<spoken>> all{
+        {u"MainForm"_s, {{u"B1"_s, u"Ajouter une ronde"_s, u"New Round"_s}}},
+        {u"f_new_round"_s,
+         {{u"cmb_courses"_s, u"Terrain"_s, u"Golf Course"_s},
+          {u"conditions"_s, u"Conditions atmosphériques"_s, u"Weather Conditions"_s},
+          {u"cmb_holes"_s, u"Trou"_s, u"Hole"_s},
+          {u"pList"_s, u"Partenaires"_s, u"Partners"_s},
+          {u"UpDown1"_s, u"Temp."_s, u"Temp."_s},
+          {u"Text1"_s, u"Temp."_s, u"Temp."_s},
+          {u"text_7"_s, u"Coûts"_s, u"Costs"_s},
+          {u"text_38"_s, u"Normale"_s, u"Par"_s}}},
+        {u"f_new_round shot by shot"_s, {{u"details"_s, u"Coups"_s, u"Shots"_s}}},
+        {u"f_get_date"_s,
+         {{u"Text1"_s, u"Heures"_s, u"Hours"_s},
+          {u"qt_calendar_prevmonth"_s, u"Mois précédent"_s, u"Previous month"_s},
+          {u"qt_calendar_calendarview"_s, u"Jours"_s, u"Days"_s}}},
+        {u"f_date_range"_s, {{u"pList"_s, u"Partenaire"_s, u"Partners"_s}}},
+        {u"f_courses page 1"_s, {{u"departure"_s, u"Départ"_s, u"Teeing Area"_s}}},
+    };
+    return all;
+}
+
+QStringList wrong_names(QWidget& window, const QString& view, bool french)
+{
+    QStringList wrong;
+    for (const spoken& expected : names().value(view)) {
+        auto* control = window.findChild<QWidget*>(expected.control);
+        const QString name = control ? QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name)
+                                     : u"no such control"_s;
+        if (name != (french ? expected.french : expected.english))
+            wrong << expected.control + u" is named \"" + name + u'"';
+    }
+    return wrong;
+}
+
+QStringList faults_of(QWidget& window, const QString& view, bool french)
+{
+    QStringList faults = unnamed_parts(window) << wrong_names(window, view, french);
+    const QAccessible::Role role = QAccessible::queryAccessibleInterface(&window)->role();
+    if (role != QAccessible::Window && role != QAccessible::Dialog)
+        faults << u"the window has the role %1"_s.arg(static_cast<int>(role));
+    return faults;
+}
+
+}  // namespace
+
+class test_window_names : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { prepare_application(*qApp); }
+
+    void every_control_has_a_name_in_its_language_data() { both_languages(); }
+    void every_control_has_a_name_in_its_language()
+    {
+        QFETCH(bool, french);
+        QStringList faults;
+        visit_every_view(french, [&](hand& user, const QString& view, const QString& window) {
+            user.look([&] {
+                for (const QString& fault : faults_of(*visible_window(window), view, french))
+                    faults << view + u": " + fault;
+            });
+        });
+        QCOMPARE(faults.join(u'\n'), QString());
+    }
+
+    void the_figures_of_the_statistics_have_a_name_and_a_value_data() { both_languages(); }
+    void the_figures_of_the_statistics_have_a_name_and_a_value()
+    {
+        QFETCH(bool, french);
+        constexpr int classes_of_a_hole = 24;
+        int figures = 0;
+        visit_every_view(french, [&](hand& user, const QString& view, const QString& window) {
+            if (view != u"f_new_round"_s)
+                return;
+            user.look([&] {
+                for (QAccessibleInterface* part :
+                     parts_of(*visible_window(window)->findChild<QWidget*>(u"Frame1"_s))) {
+                    if (part->role() != QAccessible::EditableText)
+                        continue;
+                    ++figures;
+                    QVERIFY2(!part->text(QAccessible::Name).isEmpty(), qPrintable(described(*part)));
+                    QVERIFY2(!part->text(QAccessible::Value).isEmpty(), qPrintable(described(*part)));
+                    QVERIFY(part->state().readOnly);
+                }
+            });
+        });
+        QCOMPARE(figures, classes_of_a_hole);
+    }
+};
+
+QTEST_MAIN(test_window_names)
+#include "test_window_names.moc"
