@@ -40,6 +40,12 @@ scrolled_content::scrolled_content(QLayout* layout) : after_layout_(new QTimer(t
     connect(qApp, &QApplication::focusChanged, this, [this] { follow_focus(); });
 }
 
+scrolled_content::~scrolled_content()
+{
+    // The control with the focus loses it while the content is deleted, when nothing may follow it any more.
+    QObject::disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize scrolled_content::missing()
 {
     QLayout& layout = *widget()->layout();

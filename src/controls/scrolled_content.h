@@ -16,6 +16,7 @@ class scrolled_content : public QScrollArea {
 public:
     /// Takes the layout over and gives it a widget; its outer margins become 0.
     explicit scrolled_content(QLayout* layout);
+    ~scrolled_content() override;
 
     /// What the area lacks in width and height to show its content without scroll bars; 0 where it lacks
     /// nothing.

@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <memory>
+
 #include "Form.h"
 #include "look.h"
 #include "main_frame.h"
@@ -125,6 +127,17 @@ private Q_SLOTS:
         window.boxes[6]->setFocus();
         window.resize(300, 200);
         QTRY_VERIFY(window.in_sight(*window.boxes[6]));
+    }
+
+    void a_window_can_be_deleted_while_a_control_in_it_has_the_focus()
+    {
+        auto window = std::make_unique<long_window>();
+        window->take_size({300, 200});
+        show_active(*window);
+        window->boxes[3]->setFocus();
+        QCOMPARE(QApplication::focusWidget(), window->boxes[3]);
+        window.reset();
+        QVERIFY(!QApplication::focusWidget());
     }
 
     void arrow_and_page_keys_are_left_to_the_window()
