@@ -22,27 +22,45 @@ void click_hole(f_new_round& window, int hole)
         holes.click(hole);
 }
 
-/// False for a key of the controls. With the French layout the keys of 1 and 2 are those of & and é.
-bool act_on(f_new_round& window, const QKeyEvent& event)
+enum class page_key { none, next_hole, previous_hole, quick_page, detailed_page };
+
+/// With the French layout the keys of 1 and 2 are those of & and é.
+page_key meaning_of(const QKeyEvent& event)
 {
     const int modifiers = event.modifiers() & ~Qt::KeypadModifier;
     switch (event.key() | modifiers) {
     case Qt::Key_PageDown:
-        click_hole(window, window.TabStrip1->selected() + 1);
-        return true;
+        return page_key::next_hole;
     case Qt::Key_PageUp:
-        click_hole(window, window.TabStrip1->selected() - 1);
-        return true;
+        return page_key::previous_hole;
     case static_cast<int>(Qt::ControlModifier) | Qt::Key_1:
     case static_cast<int>(Qt::ControlModifier) | Qt::Key_Ampersand:
-        window.TabStrip2->click(f_new_round_func::quick_page);
-        return true;
+        return page_key::quick_page;
     case static_cast<int>(Qt::ControlModifier) | Qt::Key_2:
     case static_cast<int>(Qt::ControlModifier) | Qt::Key_Eacute:
-        window.TabStrip2->click(f_new_round_func::detailed_page);
-        return true;
+        return page_key::detailed_page;
     default:
-        return false;
+        return page_key::none;
+    }
+}
+
+void act_on(f_new_round& window, page_key key)
+{
+    switch (key) {
+    case page_key::next_hole:
+        click_hole(window, window.TabStrip1->selected() + 1);
+        break;
+    case page_key::previous_hole:
+        click_hole(window, window.TabStrip1->selected() - 1);
+        break;
+    case page_key::quick_page:
+        window.TabStrip2->click(f_new_round_func::quick_page);
+        break;
+    case page_key::detailed_page:
+        window.TabStrip2->click(f_new_round_func::detailed_page);
+        break;
+    case page_key::none:
+        break;
     }
 }
 
@@ -61,9 +79,13 @@ public:
         const auto* control = qobject_cast<QWidget*>(target);
         if (!control || control->window() != &window_)
             return false;
-        bool acted = false;
-        run_event([&] { acted = act_on(window_, *static_cast<QKeyEvent*>(event)); });
-        return acted;
+        const auto& pressed = *static_cast<QKeyEvent*>(event);
+        const page_key key = meaning_of(pressed);
+        // A key that is held down acts once: each change of hole takes one of the limited places for round
+        // keys.
+        if (key != page_key::none && !pressed.isAutoRepeat())
+            run_event([&] { act_on(window_, key); });
+        return key != page_key::none;
     }
 
 private:

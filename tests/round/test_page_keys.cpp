@@ -1,8 +1,11 @@
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTest>
 
 #include "f_new_round.h"
+#include "language.h"
 #include "languages.h"
+#include "Main_module.h"
 #include "round_windows.h"
 #include "told_shots.h"
 
@@ -62,6 +65,17 @@ void give_focus(hand& user, const QString& control)
 int hole_on_screen(hand& user)
 {
     return user.selected(hole_tabs) + 1;
+}
+
+/// Presses a key and holds it down while the keyboard repeats it.
+void hold_down(hand& user, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    user.look([&] {
+        for (const bool repeated : {false, true, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, modifiers, QString(), repeated);
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &press);
+        }
+    });
 }
 
 /// What the parameters of the round show.
@@ -186,6 +200,54 @@ private Q_SLOTS:
         });
     }
 
+    void a_key_that_is_held_down_changes_one_hole_and_stores_it_once()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            const int keys = plain(Main_module::round_key_count);
+            hold_down(user, Qt::Key_PageDown);
+            user.same(hole_on_screen(user), 2, QStringLiteral("hole after PageDown"));
+            hold_down(user, Qt::Key_PageUp);
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole after PageUp"));
+            user.same(plain(Main_module::round_key_count) - keys, 2, QStringLiteral("places taken"));
+            discard(user);
+        });
+    }
+
+    void a_key_that_is_held_down_at_the_last_hole_rings_once()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.click_tab(hole_tabs, holes);
+            const int bells = user.bells();
+            hold_down(user, Qt::Key_PageDown);
+            user.same(user.bells() - bells, 1, QStringLiteral("bells"));
+            discard(user);
+        });
+    }
+
+    void a_window_above_the_round_keeps_its_keys()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.click(QStringLiteral("Command2"));
+            user.wait_for_window(in_language(u"f_cost", u"f_cost_en"));
+            user.key(Qt::Key_PageDown);
+            user.key(Qt::Key_2, Qt::ControlModifier);
+            user.click(QStringLiteral("OKButton"));
+            user.wait_for_window(round_window());
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole under the costs"));
+            user.same(user.selected(page_tabs), 0, QStringLiteral("page under the costs"));
+            user.key(Qt::Key_F1);
+            user.wait_for_window(QStringLiteral("message_box"));
+            user.key(Qt::Key_PageDown);
+            user.key(Qt::Key_Return);
+            user.wait_for_window(round_window());
+            user.same(hole_on_screen(user), 1, QStringLiteral("hole under a message box"));
+            discard(user);
+        });
+    }
+
     void a_distance_that_is_being_typed_is_taken_before_the_hole_changes()
     {
         const golfer_store round;
@@ -235,6 +297,24 @@ private Q_SLOTS:
             }
             user.same(user.selected(QStringLiteral("conditions")), 3, QStringLiteral("weather"));
             user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            discard(user);
+        });
+    }
+
+    void F1_does_nothing_while_a_list_is_open()
+    {
+        const golfer_store round;
+        in_keyed_round([&](hand& user) {
+            user.press_and_release(QStringLiteral("conditions"));
+            user.wait_until(QStringLiteral("the open list"),
+                            [] { return QApplication::activePopupWidget() != nullptr; });
+            user.look([] {
+                QWidget* popup = QApplication::activePopupWidget();
+                QWidget* focused = popup->focusWidget();
+                QTest::keyClick(focused ? focused : popup, Qt::Key_F1);
+            });
+            user.check(!user.is_open(QStringLiteral("message_box")), QStringLiteral("no list of F1"));
+            user.menu_key(Qt::Key_Escape);
             discard(user);
         });
     }
