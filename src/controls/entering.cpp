@@ -59,11 +59,13 @@ private:
         return true;
     }
 
-    /// A mouse that trembles does not drag. Once it does, the selection starts where it was pressed.
+    /// A small move during a click is no drag, nor is one with another button. A drag selects from the place
+    /// of the press.
     bool is_dragged(const QMouseEvent& event)
     {
         const QPoint way = event.position().toPoint() - pressed_at_;
-        if (way.manhattanLength() < QApplication::startDragDistance())
+        if (!event.buttons().testFlag(Qt::LeftButton) ||
+            way.manhattanLength() < QApplication::startDragDistance())
             return false;
         entered_by_click_ = false;
         box_.setCursorPosition(box_.cursorPositionAt(pressed_at_));

@@ -1,8 +1,11 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointingDevice>
 #include <QTest>
 #include <QVBoxLayout>
+
+#include <memory>
 
 #include "entering.h"
 #include "entering_boxes.h"
@@ -87,6 +90,35 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(boxes.box, &drag);
         QTest::mouseRelease(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(6));
         QCOMPARE(boxes.box->selectedText(), QStringLiteral("3456"));
+    }
+
+    void the_right_button_leaves_the_selection_as_it_is_also_when_dragged()
+    {
+        const two_boxes boxes;
+        QTest::mousePress(boxes.box, Qt::RightButton, Qt::NoModifier, boxes.before(2));
+        QMouseEvent drag(QEvent::MouseMove, boxes.before(6), boxes.box->mapToGlobal(boxes.before(6)),
+                         Qt::NoButton, Qt::RightButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(boxes.box, &drag);
+        QTest::mouseRelease(boxes.box, Qt::RightButton, Qt::NoModifier, boxes.before(6));
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+    }
+
+    void a_double_click_selects_the_word()
+    {
+        const two_boxes boxes;
+        QTest::mouseDClick(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(2));
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("123456"));
+    }
+
+    void a_finger_selects_like_a_click()
+    {
+        two_boxes boxes;
+        const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+        const QPoint place = boxes.box->mapTo(&boxes.window, boxes.before(3));
+        QTest::touchEvent(&boxes.window, screen.get()).press(0, place, &boxes.window);
+        QTest::touchEvent(&boxes.window, screen.get()).release(0, place, &boxes.window);
+        QTRY_VERIFY(boxes.box->hasFocus());
+        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
     }
 
     void a_later_click_into_the_box_sets_the_cursor()
