@@ -91,9 +91,9 @@ QString choice_menu::continued_by(QChar letter) const
 void choice_menu::mark(const QList<QAction*>& matching)
 {
     const qsizetype marked = matching.indexOf(activeAction());
-    // Another letter of the same word stays with the entry that is marked, if it still begins so.
-    const bool stays = typed_.size() > 1 && marked >= 0;
-    setActiveAction(matching[stays ? marked : (marked + 1) % matching.size()]);
+    // A second letter leaves the mark on an entry that matches both.
+    const bool marked_matches = typed_.size() > 1 && marked >= 0;
+    setActiveAction(matching[marked_matches ? marked : (marked + 1) % matching.size()]);
 }
 
 bool choice_menu::choose_by_letter(QChar letter)

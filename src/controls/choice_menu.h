@@ -38,7 +38,7 @@ protected:
 
 private:
     QList<QAction*> beginning_with(const QString& typed) const;
-    /// The beginning that the letter continues, if it came in time and an entry begins so; else the letter.
+    /// What was typed within the last second and the letter, if an entry begins with both; else the letter.
     QString continued_by(QChar letter) const;
     void mark(const QList<QAction*>& matching);
 

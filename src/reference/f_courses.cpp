@@ -82,7 +82,7 @@ void f_courses::wire()
     });
     on_click(*cmdan, [this] { closeForm(); });
     set_cancel_button(*cmdan);
-    // The modal editor keeps the toolbar of the main window out of reach of the mouse.
+    // The modal editor disables the main window, so the mouse cannot reach its toolbar.
     shortcuts().add(Qt::CTRL | Qt::Key_S, {u"Enregistrer", u"Save"},
                     [this] { toolbar_clicked(*this, u"B1"); });
     shortcuts().add(Qt::CTRL | Qt::Key_W, {u"Fermer", u"Close"}, [this] { toolbar_clicked(*this, u"B5"); });

@@ -272,8 +272,8 @@ void on_close_box(f_new_round& window)
     // A distance that is too large has to be corrected, or dropped by Escape, here as everywhere.
     if (!finish_typing(window))
         return;
-    // OK and Cancel keep the window open while a shot is incomplete. The close box shows the message too, but
-    // it always leads out.
+    // OK and Cancel keep the window open while a shot is incomplete. The close box shows the message, too,
+    // and closes nevertheless.
     if (check_shots(window) && on_detailed_page(window)) {
         window.closingoK = true;
         page_changed(window);

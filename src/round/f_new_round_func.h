@@ -45,8 +45,8 @@ void save_round(f_new_round& window, bool silent);
 /// OK (index 4) saves and closes, Cancel (index 2) asks.
 void on_ok_cancel(f_new_round& window, int index);
 
-/// The title bar's close box: as Cancel, but an incomplete shot, of which it tells, does not
-/// keep the window open.
+/// The title bar's close box: as Cancel, but an incomplete shot is reported and does not keep the window
+/// open.
 void on_close_box(f_new_round& window);
 
 /// Closes the window, asking whether to save what is not saved; with `skip_prompt` it is dropped

@@ -87,7 +87,7 @@ std::vector<QWidget*> boxes_from_top(const f_new_round& window)
     return boxes;
 }
 
-/// Tab goes through the window as it is read, on either page; after OK and Cancel it starts at the top again.
+/// Tab visits the controls of either page in reading order, OK and Cancel last; then the first one again.
 void order_for_tab_key(f_new_round& window)
 {
     std::vector<QWidget*> order{window.TabStrip1, window.cmb_holes, window.b_getdat,

@@ -135,8 +135,8 @@ double round_half_even(double value)
 
 double round_to_tenth(double value)
 {
-    // value * 10 would be rounded itself, which makes a tie of a value beside one. The conversion to digits
-    // rounds the exact value, ties to even.
+    // The product value * 10 is rounded itself and can become a tie that the value is not. The conversion to
+    // digits rounds the exact value, ties to even.
     constexpr std::size_t sign_point_and_decimal = 3;
     std::array<char, std::numeric_limits<double>::max_exponent10 + 1 + sign_point_and_decimal> digits{};
     const auto* const end =

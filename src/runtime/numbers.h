@@ -28,9 +28,9 @@ int32 to_int32(QStringView text);
 double round_half_even(double value);
 
 /// Rounds the exact value of `value` to one decimal place and returns the double nearest to it. A value
-/// half way between two tenths goes to the even one: 12.25 gives 12.2. Most decimals are not exact as
-/// doubles, and then the double decides: 5.65 is a little above its tie and gives 5.7, -16.95 is a little
-/// nearer to 0 and gives -16.9. A value without bounds, or that is no number, is returned as it is.
+/// half way between two tenths is rounded to the even one: 12.25 gives 12.2. Few decimals are exact as
+/// doubles; for the others the double counts: that of 5.65 is above 5.65 and gives 5.7, that of -16.95 is
+/// nearer to 0 and gives -16.9. Infinity and NaN are returned unchanged.
 double round_to_tenth(double value);
 
 /// The plain number text that report tables take: a blank before values of 0 and above, a point as

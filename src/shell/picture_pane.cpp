@@ -12,8 +12,9 @@ namespace {
 const QString sign = QStringLiteral("sign");
 constexpr double margin = 8;
 
-/// How far a stretch from `first` to `last` is to move to be inside 0 to `end`; its beginning counts if it is
-/// too long. The move keeps `covered_first` at 0 or below and `covered_last` at `end` or above.
+/// The shift that brings the range from `first` to `last` inside 0 to `end`, both less the margin. Where the
+/// range is too long, its first end is brought inside. The shift is limited so that `covered_first` stays at
+/// 0 or below and `covered_last` at `end` or above: the drawing still covers the pane.
 double move_into_view(double first, double last, double end, double covered_first, double covered_last)
 {
     double move = 0;

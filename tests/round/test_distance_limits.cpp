@@ -63,7 +63,7 @@ void rows_of_clicks()
     QTest::newRow("the title bar") << way_out([](hand& user) { user.close_window(round_window()); });
 }
 
-/// What would have changed if the way out had led anywhere.
+/// Everything that leaving the cell would change.
 QString state_of(hand& user)
 {
     QString partner;

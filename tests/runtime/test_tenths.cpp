@@ -50,10 +50,10 @@ private Q_SLOTS:
         const auto row = [](const char* name, double value, double rounded) {
             QTest::newRow(name) << value << rounded;
         };
-        row("an exact tie goes down to even", 12.25, 12.2);
-        row("an exact tie goes up to even", 12.75, 12.8);
-        row("a negative tie goes to even", -12.25, -12.2);
-        row("a negative tie goes away from 0 to even", -12.75, -12.8);
+        row("an exact tie is rounded down to even", 12.25, 12.2);
+        row("an exact tie is rounded up to even", 12.75, 12.8);
+        row("a negative tie is rounded towards 0 to even", -12.25, -12.2);
+        row("a negative tie is rounded away from 0 to even", -12.75, -12.8);
         row("the double of 5.65 is above the tie", 5.65, 5.7);
         row("the double of -5.65 is below the tie", -5.65, -5.7);
         row("the double of 16.95 is below the tie", 16.95, 16.9);

@@ -25,7 +25,7 @@ steps choose(const char* entry)
     return [entry](hand& user) { user.menu(QString::fromLatin1(entry)); };
 }
 
-/// The way through another window: by its button, once it is open.
+/// Opens a window by the button of another one.
 steps choose(const char* entry, const char* family, const char* button)
 {
     return [=](hand& user) {

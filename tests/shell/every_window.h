@@ -9,7 +9,7 @@
 
 namespace verdane::testing {
 
-/// A window of the program, and the way to it from the main window.
+/// A window of the program, and how it is opened from the main window.
 struct reachable_window {
     const char* family;
     /// The button that Escape clicks; null in a window without one.

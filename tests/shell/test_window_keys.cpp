@@ -36,7 +36,7 @@ int index_of(const char* family)
     return static_cast<int>(found - windows.begin());
 }
 
-/// What the list that F1 shows says about the window itself.
+/// The lines for the window itself in the list of F1.
 QStringList own_lines(const QString& family)
 {
     if (family == u"report_preview")
@@ -65,7 +65,7 @@ QStringList own_lines(const QString& family)
     return {};
 }
 
-/// What the list says in every window.
+/// The lines of the list that every window has.
 QStringList common_lines(const QString& family)
 {
     QStringList lines{in_language(u"F1 : Montrer cette liste", u"F1: Show this list")};
