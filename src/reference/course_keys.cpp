@@ -25,7 +25,10 @@ void rebuild_course_keys(Recordset& rsvrd_fields)
 
 void remember_new_course(Recordset& rsvrd_fields)
 {
+    const QString code = rsvrd_fields.Fields(u"code").trimmed();
     for (int index = 0; index < most_courses; ++index) {
+        if (course_keys[index].code == code)
+            return;
         if (course_keys[index].code.isEmpty())
             return keep_course_key(index, rsvrd_fields);
     }

@@ -28,8 +28,8 @@ void keep_course_key(int index, Recordset& rsvrd_fields);
 /// be able to shrink. The recordset is left on another row or at `eof()`.
 void rebuild_course_keys(Recordset& rsvrd_fields);
 
-/// Keeps the current row, a course that was just added, at the first free index. The list that shows
-/// no more than the table holds has the last word on a full one: nothing happens then.
+/// Adds the current row at the first free index, unless its code is in the table already. Nothing happens
+/// when the table is full; the list fails then when it is opened again.
 void remember_new_course(Recordset& rsvrd_fields);
 
 }  // namespace verdane

@@ -58,9 +58,9 @@ void add_course()
     holes().AddNew();
     f_courses editor(true);
     editor.show_modal();
-    // The list stays as it is until it is opened again, but the next course that is added must not
-    // take the code of this one.
-    if (editor.saveSucceed && !courses().eof())
+    // The list stays as it is until it is opened again, but the next course that is added must not take the
+    // code of this one. The last save does not say whether there is one: an earlier one may have stored it.
+    if (!courses().eof())
         remember_new_course(courses());
 }
 

@@ -266,6 +266,43 @@ private Q_SLOTS:
         });
     }
 
+    void a_new_course_saved_twice_by_key_has_one_row()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            fill_required(user, u"Delta"_s);
+            save_by_shortcut(user);
+            user.fill(u"text_0"_s, u"55"_s);
+            save_by_shortcut(user);
+            user.key(Qt::Key_W, Qt::ControlModifier);
+            user.wait_until_gone(editor_window());
+        });
+        QCOMPARE(store.text(u"select group_concat(code || ' ' || slope, '|') from vrd_fields"_s),
+                 u"DELTA-0 55"_s);
+        QCOMPARE(store.text(u"select group_concat(FIELD_CODE, '|') from field_info"_s), u"DELTA-0"_s);
+    }
+
+    void a_new_course_saved_by_key_is_a_duplicate_later_although_the_last_save_was_refused()
+    {
+        const course_store store;
+        in_new_course([](hand& user) {
+            fill_required(user, u"Delta"_s);
+            save_by_shortcut(user);
+            user.fill(u"text_0"_s, QString());
+            user.key(Qt::Key_S, Qt::ControlModifier);
+            user.answer(refusal_of_missing());
+            discard(user);
+            user.click(u"Command1_1"_s);
+            user.wait_for_window(editor_window());
+            fill_required(user, u"Delta"_s);
+            user.key(Qt::Key_S, Qt::ControlModifier);
+            user.answer(refusal_of_duplicate(u"Delta"_s, u"Blanc"_s));
+            discard(user);
+        });
+        QCOMPARE(store.text(u"select group_concat(code || ' ' || slope, '|') from vrd_fields"_s),
+                 u"DELTA-0 128"_s);
+    }
+
     void a_change_after_a_save_asks_again_data()
     {
         QTest::addColumn<QString>("box");
