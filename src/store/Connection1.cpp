@@ -70,8 +70,14 @@ void copy_log_on_close(const QSqlDatabase& database, bool copy)
     sqlite3_db_config(engine_handle(database), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, copy ? 0 : 1, nullptr);
 }
 
-/// Whether there is a store to keep; without one it is laid down. A file in which nothing is known is
-/// another program's.
+/// In any other mode, changing to the write-ahead log is itself a write to the file.
+bool uses_write_ahead_log(const QSqlDatabase& database)
+{
+    return answer(database, QStringLiteral("PRAGMA journal_mode")) == u"wal";
+}
+
+/// Whether the file holds a store; if not, one is created. Tables of which none is known belong to another
+/// program.
 bool has_store(const QSqlDatabase& database)
 {
     const QStringList names = database.tables();
@@ -142,19 +148,26 @@ void Connection1::open_engine(soundness_check check)
     waiting_->attach(engine_handle(database()));
     // A damaged file stays as it was found.
     copy_log_on_close(database(), false);
-    if (check == soundness_check::while_opening || database().tables().isEmpty())
-        check_soundness();
+    if (check == soundness_check::while_opening || database().tables().isEmpty() ||
+        !uses_write_ahead_log(database()))
+        check_whole_file();
     check_no_other_writer(database());
-    const bool laid_down = has_store(database());
+    const bool is_complete = has_store(database());
     // WAL lets report printing and other readers look on while the program writes.
     answer(database(), QStringLiteral("PRAGMA journal_mode=WAL"));
     run(database(), QStringLiteral("PRAGMA synchronous=FULL"));
     run(database(), QStringLiteral("PRAGMA cache_size=-%1").arg(kept_pages_kb));
-    if (!laid_down)
+    if (!is_complete)
         lay_down(*this);
 }
 
 void Connection1::check_soundness() const
+{
+    const lock_wait::limit wait(*waiting_, lock_wait::default_time_out_s);
+    check_whole_file();
+}
+
+void Connection1::check_whole_file() const
 {
     // The short form of this check does not compare the indexes with their tables.
     const QString verdict = answer(database(), QStringLiteral("PRAGMA integrity_check(1)"));

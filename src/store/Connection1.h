@@ -16,8 +16,8 @@ namespace verdane {
 class prepared_statements;
 
 /// When the whole file is checked for damage: while it is opened, or later, by the caller's own call of
-/// `check_soundness`, and at the latest before the first statement that writes. A file in which no table is
-/// found is checked in either case.
+/// `check_soundness`, and at the latest before the first statement that writes. A file is checked while it is
+/// opened in either case if no table is found in it, or if opening it changes its journal mode.
 enum class soundness_check { while_opening, later };
 
 /// The program's one connection to the store. With no data source `Verdbase` registered, the store
@@ -84,6 +84,7 @@ private:
     static constexpr int kept_pages_kb = 16 * 1024;
 
     void open_engine(soundness_check check);
+    void check_whole_file() const;
 
     /// The toolkit's name for this connection; several may be open in one process, on several files.
     QString name_;

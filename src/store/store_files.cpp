@@ -86,7 +86,8 @@ bool is_known_version(const QByteArray& head, int offset)
     return head[offset] >= 1 && head[offset] <= header::newest_version;
 }
 
-/// True while a log holds pages that have not reached the file: its size may be anything then.
+/// True while a log may hold pages that have not reached the file. A crash while they are copied can leave a
+/// file of any size, or without a header; the engine then reads those pages from the log.
 bool waits_for_recovery(const QString& path)
 {
     return has_content(file_of_engine(path, u"-wal")) || has_content(file_of_engine(path, u"-journal"));
@@ -96,12 +97,16 @@ bool waits_for_recovery(const QString& path)
 void check_head(QFile& file, const QString& path)
 {
     const QByteArray head = file.read(header::size);
-    if (!head.startsWith(QByteArray("SQLite format 3", 16)) || head.size() < header::size)
+    const bool log_may_repair = waits_for_recovery(path);
+    if (!head.startsWith(QByteArray("SQLite format 3", 16)) || head.size() < header::size) {
+        if (log_may_repair)
+            return;
         refuse(path, u"not a store");
+    }
     if (!is_known_version(head, header::write_version) || !is_known_version(head, header::read_version))
         refuse(path, u"an unknown version of the file format");
     const int page = page_size_in(head);
-    if (page == 0 || (file.size() % page != 0 && !waits_for_recovery(path)))
+    if (page == 0 || (file.size() % page != 0 && !log_may_repair))
         refuse(path, u"its last page is not complete");
 }
 

@@ -1,0 +1,111 @@
+#include <QTest>
+
+#include <sqlite3.h>
+
+#include "engine_handle.h"
+#include "failures.h"
+#include "joined_commits.h"
+#include "other_program.h"
+#include "store_fixture.h"
+
+using namespace verdane;
+using testing::failure_of;
+using testing::store_fixture;
+using testing::stored_names;
+
+namespace {
+
+struct two_partners : store_fixture {
+    two_partners()
+    {
+        add_partners({QStringLiteral("a"), QStringLiteral("b")});
+        partners = opened(testing::all_partners);
+    }
+
+    void rename_current(const QString& name)
+    {
+        partners->Fields(u"NAME").set(name);
+        partners->Update();
+    }
+
+    void rename_both()
+    {
+        partners->MoveFirst();
+        rename_current(QStringLiteral("c"));
+        partners->MoveNext();
+        rename_current(QStringLiteral("d"));
+    }
+
+    std::unique_ptr<Recordset> partners;
+};
+
+int refuse_commit(void*)
+{
+    return 1;
+}
+
+}  // namespace
+
+/// Several commits of recordsets that reach the store together.
+class test_joined_commits : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothing_is_committed_before_finish()
+    {
+        two_partners store;
+        joined_commits together(store.connection);
+        store.rename_both();
+        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+        together.finish();
+        QCOMPARE(stored_names(store), QStringLiteral("c d"));
+    }
+
+    void a_scope_that_a_failure_ends_commits_what_was_written()
+    {
+        two_partners store;
+        QVERIFY(failure_of([&] {
+                    const joined_commits together(store.connection);
+                    store.rename_current(QStringLiteral("c"));
+                    throw run_time_failure(failure_kind::misuse, QStringLiteral("of the test"));
+                }) == failure_kind::misuse);
+        QCOMPARE(stored_names(store), QStringLiteral("c b"));
+    }
+
+    void a_commit_that_fails_stores_nothing_and_ends_the_transaction()
+    {
+        two_partners store;
+        sqlite3* const engine = engine_handle(store.connection.database());
+        {
+            joined_commits together(store.connection);
+            store.rename_both();
+            sqlite3_commit_hook(engine, refuse_commit, nullptr);
+            QVERIFY(failure_of([&] { together.finish(); }) == failure_kind::store_other);
+            sqlite3_commit_hook(engine, nullptr, nullptr);
+        }
+        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+        QVERIFY(sqlite3_get_autocommit(engine) != 0);
+    }
+
+    void no_lock_is_taken_before_the_first_write()
+    {
+        two_partners store;
+        joined_commits together(store.connection);
+        store.rename_current(QStringLiteral("a"));
+        const testing::other_program other(store.path());
+        together.finish();
+    }
+
+    void rows_that_another_program_committed_meanwhile_are_kept()
+    {
+        two_partners store;
+        joined_commits together(store.connection);
+        store.outside().write(QStringLiteral("update partners set NAME = 'x' where NAME = 'b'"));
+        store.rename_current(QStringLiteral("c"));
+        together.finish();
+        QCOMPARE(stored_names(store), QStringLiteral("c x"));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_joined_commits)
+#include "test_joined_commits.moc"
