@@ -59,6 +59,8 @@ window_shortcuts::window_shortcuts(QWidget& window, bool french)
 void window_shortcuts::listen(const QKeySequence& keys, QWidget& place, std::function<void()> routine)
 {
     auto* shortcut = new QShortcut(keys, &place);
+    // Keys that are held down act once: one shot is removed, not one after the other.
+    shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this, [this, routine = std::move(routine)] {
         run_event([&] {
             if (leave_focused_box(window_))

@@ -20,7 +20,8 @@ QString key_text(const QKeySequence& keys, bool french);
 /// A tool tip that names what the keys do: "Coup suivant (Ctrl+N)".
 QString tool_tip_with_keys(const text_pair& words, const QKeySequence& keys, bool french);
 
-/// The shortcuts of one window. F1 lists them in a message box, in the language of the window.
+/// The shortcuts of one window. F1 lists them in a message box, in the language of the window. Keys that are
+/// held down act once.
 class window_shortcuts : public QObject {
 public:
     /// Belongs to the window and is deleted with it.

@@ -111,6 +111,23 @@ private Q_SLOTS:
         QCOMPARE(window.runs, 2);
     }
 
+    void keys_that_are_held_down_act_once()
+    {
+        trial window;
+        in_trial(window, [&](hand& user) {
+            user.look([&] {
+                for (const bool repeated : {false, true, true}) {
+                    QVERIFY(qt_sendShortcutOverrideEvent(window.box, 0, Qt::Key_N, Qt::ControlModifier,
+                                                         QString(), repeated));
+                    QVERIFY(qt_sendShortcutOverrideEvent(window.box, 0, Qt::Key_PageDown, Qt::NoModifier,
+                                                         QString(), repeated));
+                }
+            });
+        });
+        QCOMPARE(window.clicks, 1);
+        QCOMPARE(window.runs, 1);
+    }
+
     void the_keys_of_a_disabled_or_hidden_button_do_nothing()
     {
         trial window;
