@@ -12,7 +12,7 @@ namespace {
 
 // Two characters that no text uses enclose the number of a line.
 constexpr QChar before_number{0xFDD0};
-constexpr QChar behind_number{0xFDD1};
+constexpr QChar after_number{0xFDD1};
 
 bool is_inside_tag(const std::vector<template_tag>& tags, qsizetype position)
 {
@@ -31,7 +31,7 @@ QString with_line_numbers(const template_file& source)
         if (position > 0)
             result += u'\n';
         if (!is_inside_tag(tags, position))
-            result += before_number + QString::number(line) + behind_number;
+            result += before_number + QString::number(line) + after_number;
         result += text;
         position += text.size() + 1;
         ++line;
@@ -59,10 +59,10 @@ lined_text without_line_numbers(const QString& marked)
 
 int lined_text::line_at(qsizetype position) const
 {
-    const auto behind = std::upper_bound(
+    const auto next = std::upper_bound(
         starts.begin(), starts.end(), position,
         [](qsizetype wanted, const std::pair<qsizetype, int>& start) { return wanted < start.first; });
-    return behind == starts.begin() ? 1 : std::prev(behind)->second;
+    return next == starts.begin() ? 1 : std::prev(next)->second;
 }
 
 lined_text fill_body_with_lines(const template_file& source, const report_snapshot& snapshot)

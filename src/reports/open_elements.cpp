@@ -12,7 +12,7 @@ bool never_holds_anything(QStringView name)
     return is_one_of(name, {u"br", u"hr", u"img", u"meta", u"link", u"col", u"input", u"base", u"wbr"});
 }
 
-/// How high an element stands in a table; 0 for what is no part of one.
+/// The level of an element in the structure of a table, cells first; 0 for any other element.
 int level_in_table(QStringView name)
 {
     if (is_one_of(name, {u"td", u"th"}))

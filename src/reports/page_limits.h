@@ -4,8 +4,8 @@
 
 namespace verdane {
 
-// What a report may ask for. Each limit is far above what a page that a person reads needs, and low enough
-// for the layout to answer within a few seconds.
+// Limits of a report. Each is far above what a page that a person reads needs, and low enough for the layout
+// to finish within a few seconds.
 
 constexpr int most_template_bytes = 1'000'000;
 

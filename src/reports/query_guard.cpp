@@ -1,33 +1,28 @@
 #include "query_guard.h"
 
 #include <QSqlDatabase>
-#include <QSqlDriver>
-#include <QVariant>
 
 #include <sqlite3.h>
 
 #include <map>
 #include <utility>
 
+#include "engine_handle.h"
+#include "query_trim.h"
 #include "report_tables.h"
-#include "run_time_failure.h"
 
 namespace verdane {
 
 namespace {
 
-/// Steps of the engine between two questions whether to go on: less than a millisecond.
+/// Steps of the engine between two calls of `may_continue`: less than a millisecond.
 constexpr int steps_between_questions = 20'000;
-/// Bytes of one value and of a row.
-constexpr int most_bytes = 1'000'000;
-
-sqlite3* connection_of(const QSqlDatabase& database)
-{
-    const QVariant handle = database.driver()->handle();
-    if (!handle.isValid() || qstrcmp(handle.typeName(), "sqlite3*") != 0)
-        throw run_time_failure(failure_kind::misuse, QStringLiteral("no connection to SQLite"));
-    return *static_cast<sqlite3* const*>(handle.constData());
-}
+/// Bytes of one value and of a row. A row of a report table with all its texts fits; the functions of the
+/// engine that search a text in another take time with the square of the length, and nothing ends them early.
+constexpr int most_bytes = 200'000;
+/// What the queries of a report may use in addition, in bytes. Compiling a query whose steps name one another
+/// several times doubles the memory with every step, and nothing ends it early.
+constexpr sqlite3_int64 most_memory = 128'000'000;
 
 QString name_of(int action)
 {
@@ -47,7 +42,7 @@ bool is_readable(const QString& table, bool any_column)
 {
     if (readable_tables().contains(table, Qt::CaseInsensitive))
         return true;
-    // Without a column the engine also asks for the queries above by their names.
+    // Without a column the engine also passes the names of the queries above.
     return !any_column && !table.startsWith(QStringLiteral("sqlite_"), Qt::CaseInsensitive);
 }
 
@@ -58,16 +53,19 @@ bool is_dangerous(const QString& function)
 
 }  // namespace
 
-query_guard::query_guard(const QSqlDatabase& database, keep_going goes_on)
-    : connection_(connection_of(database)), goes_on_(std::move(goes_on))
+query_guard::query_guard(const QSqlDatabase& database, continue_check may_continue)
+    : connection_(engine_handle(database)), may_continue_(std::move(may_continue))
 {
     sqlite3_set_authorizer(connection_, authorize, this);
     sqlite3_progress_handler(connection_, steps_between_questions, interrupt, this);
     sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, most_bytes);
+    limit_trim(connection_);
+    memory_limit_before_ = sqlite3_hard_heap_limit64(sqlite3_memory_used() + most_memory);
 }
 
 query_guard::~query_guard()
 {
+    sqlite3_hard_heap_limit64(memory_limit_before_);
     sqlite3_set_authorizer(connection_, nullptr, nullptr);
     sqlite3_progress_handler(connection_, 0, nullptr, nullptr);
 }
@@ -77,9 +75,9 @@ QString query_guard::take_refusal()
     return std::exchange(refusal_, QString());
 }
 
-bool query_guard::goes_on()
+bool query_guard::may_continue()
 {
-    is_stopped_ = is_stopped_ || (goes_on_ && !goes_on_());
+    is_stopped_ = is_stopped_ || (may_continue_ && !may_continue_());
     return !is_stopped_;
 }
 
@@ -104,7 +102,7 @@ int query_guard::authorize(void* guard, int action, const char* first, const cha
 
 int query_guard::interrupt(void* guard)
 {
-    return static_cast<query_guard*>(guard)->goes_on() ? 0 : 1;
+    return static_cast<query_guard*>(guard)->may_continue() ? 0 : 1;
 }
 
 int query_guard::refuse(const QString& words)

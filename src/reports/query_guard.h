@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 
 class QSqlDatabase;
@@ -9,15 +10,16 @@ struct sqlite3;
 
 namespace verdane {
 
-/// Asked again and again while the queries of a report run; false ends them. An empty one never does.
-using keep_going = std::function<bool()>;
+/// Called repeatedly while the queries of a report run; false ends them. An empty one never does.
+using continue_check = std::function<bool()>;
 
 /// Restricts a connection to what the query of a template may do: select from the report tables. Any other
-/// statement, table or dangerous function does not compile, and a query ends when `goes_on` says so.
+/// statement, table or dangerous function does not compile, and a query ends when `may_continue` returns
+/// false. While a guard lives, the engine's memory is limited, for all connections of the program.
 class query_guard {
 public:
     /// `database` is an open SQLite connection that outlives the guard.
-    query_guard(const QSqlDatabase& database, keep_going goes_on);
+    query_guard(const QSqlDatabase& database, continue_check may_continue);
     ~query_guard();
     query_guard(const query_guard&) = delete;
     query_guard& operator=(const query_guard&) = delete;
@@ -25,8 +27,8 @@ public:
     /// What the statement since the last call was refused for, in words; empty where it was not.
     QString take_refusal();
 
-    /// Asks whether to go on. Once that was denied it stays denied.
-    bool goes_on();
+    /// Whether the report continues. After the first false it always is false.
+    bool may_continue();
 
 private:
     static int authorize(void* guard, int action, const char* first, const char* second, const char*,
@@ -35,9 +37,10 @@ private:
     int refuse(const QString& words);
 
     sqlite3* connection_;
-    keep_going goes_on_;
+    continue_check may_continue_;
     bool is_stopped_ = false;
     QString refusal_;
+    std::int64_t memory_limit_before_;
 };
 
 }  // namespace verdane

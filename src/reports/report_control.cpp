@@ -29,12 +29,12 @@ std::shared_ptr<const report_document> document_or_stopped(const QString& path, 
     {
         report_wait wait(title);
         try {
-            return render_report(path, [&wait] { return wait.goes_on(); });
+            return render_report(path, [&wait] { return wait.may_continue(); });
         } catch (const report_stopped& stopped) {
             where = stopped.where();
         }
     }
-    tell_report_stopped(title, where);
+    show_report_stopped(title, where);
     return nullptr;
 }
 

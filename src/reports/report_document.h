@@ -55,7 +55,7 @@ public:
 
 private:
     friend std::shared_ptr<const report_document> render_report(const QString& template_path,
-                                                                const keep_going& goes_on);
+                                                                const continue_check& may_continue);
     struct contents;
     explicit report_document(std::unique_ptr<contents> made);
 
@@ -63,9 +63,9 @@ private:
 };
 
 /// Reads a template, asks the store for its figures and lays the pages out. Fails with
-/// `report_template` (file and line in the details) or as `report_snapshot` does. `goes_on` is asked while
-/// queries run; `report_stopped` is thrown when it says no.
+/// `report_template` (file and line in the details) or as `report_snapshot` does. `may_continue` is asked
+/// while queries run; `report_stopped` is thrown when it says no.
 std::shared_ptr<const report_document> render_report(const QString& template_path,
-                                                     const keep_going& goes_on = {});
+                                                     const continue_check& may_continue = {});
 
 }  // namespace verdane

@@ -8,6 +8,9 @@
 
 #include <sqlite3.h>
 
+#include "engine_handle.h"
+#include "lock_box.h"
+#include "lock_wait.h"
 #include "page_limits.h"
 #include "query_text.h"
 #include "report_stopped.h"
@@ -49,6 +52,18 @@ failure_kind kind_of(const QSqlError& error)
     }
 }
 
+/// Copies the tables; waits for a lock of another program as the program's own connection does.
+QSqlError copy_when_unlocked(QSqlDatabase& database)
+{
+    lock_wait waiting;
+    waiting.set_notice_maker(make_lock_box);
+    waiting.attach(engine_handle(database));
+    const lock_wait::limit limit(waiting, lock_wait::default_time_out_s);
+    const QSqlError error = copy_report_tables(database, report_store());
+    sqlite3_busy_handler(engine_handle(database), nullptr, nullptr);
+    return error;
+}
+
 }  // namespace
 
 void set_report_store(const QString& path)
@@ -69,15 +84,16 @@ qsizetype characters_in(const std::vector<QVariant>& row)
     return sum;
 }
 
-report_snapshot::report_snapshot(const template_file& source, const keep_going& goes_on) : source_(source)
+report_snapshot::report_snapshot(const template_file& source, const continue_check& may_continue)
+    : source_(source)
 {
     const QString name = QStringLiteral("verdane_reports_") + QUuid::createUuid().toString();
     database_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
     database_.setDatabaseName(QStringLiteral(":memory:"));
-    database_.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=5000"));
+    database_.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI"));
     try {
         open();
-        guard_ = std::make_unique<query_guard>(database_, goes_on);
+        guard_ = std::make_unique<query_guard>(database_, may_continue);
     } catch (...) {
         database_ = QSqlDatabase();
         QSqlDatabase::removeDatabase(name);
@@ -99,7 +115,7 @@ void report_snapshot::open()
     QSqlError error;
     if (report_store().isEmpty() || !database_.open())
         error = database_.lastError();
-    else if (error = copy_report_tables(database_, report_store()); !error.isValid())
+    else if (error = copy_when_unlocked(database_); !error.isValid())
         return;
     throw run_time_failure(kind_of(error),
                            QStringLiteral("%1: %2: %3").arg(source_.file_name, report_store(), error.text()));
@@ -203,7 +219,7 @@ void report_snapshot::fail(const template_query& query, const QSqlQuery& stateme
 
 void report_snapshot::check_time(const template_query& query) const
 {
-    if (!guard_->goes_on())
+    if (!guard_->may_continue())
         throw report_stopped(
             QStringLiteral("%1:%2: query %3").arg(source_.file_name).arg(query.line).arg(query.name));
 }

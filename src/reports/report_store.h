@@ -16,7 +16,7 @@ class QSqlQuery;
 
 namespace verdane {
 
-/// Tells the report host where the store is. The program does so once, when it starts.
+/// Sets the path of the store. The program does so once, when it starts.
 void set_report_store(const QString& path);
 QString report_store();
 
@@ -37,9 +37,10 @@ qsizetype characters_in(const std::vector<QVariant>& row);
 /// is being filled.
 class report_snapshot {
 public:
-    /// Fails with `store_unreachable` when the store cannot be opened, `store_locked` and `store_damaged`
-    /// when it cannot be read. `goes_on` is asked while queries run.
-    explicit report_snapshot(const template_file& source, const keep_going& goes_on = {});
+    /// Fails with `store_unreachable` when the store cannot be opened, `store_damaged` when it cannot be
+    /// read, and `store_locked` when another program locks it for longer than `lock_wait::default_time_out_s`
+    /// or the user gives up waiting. `may_continue` is called while queries run.
+    explicit report_snapshot(const template_file& source, const continue_check& may_continue = {});
     ~report_snapshot();
     report_snapshot(const report_snapshot&) = delete;
     report_snapshot& operator=(const report_snapshot&) = delete;

@@ -31,7 +31,7 @@ report_wait::~report_wait()
         window_->parentWidget()->activateWindow();
 }
 
-bool report_wait::goes_on()
+bool report_wait::may_continue()
 {
     if (is_stopped_ || since_start_.elapsed() < ms_before_window)
         return !is_stopped_;
@@ -68,7 +68,7 @@ void report_wait::open()
     window_->activateWindow();
 }
 
-void tell_report_stopped(const QString& title, const QString& where)
+void show_report_stopped(const QString& title, const QString& where)
 {
     tell(in_language(u"Le rapport a été arrêté. Vos données sont intactes.",
                      u"The report was stopped. Your data are intact.") +

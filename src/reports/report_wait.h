@@ -20,7 +20,7 @@ public:
     report_wait& operator=(const report_wait&) = delete;
 
     /// Handles the events that are waiting; false once the user stopped the report.
-    bool goes_on();
+    bool may_continue();
 
 private:
     void open();
@@ -33,6 +33,6 @@ private:
 };
 
 /// The message box after a report was stopped; `where` says which query was running.
-void tell_report_stopped(const QString& title, const QString& where);
+void show_report_stopped(const QString& title, const QString& where);
 
 }  // namespace verdane

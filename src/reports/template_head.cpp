@@ -101,6 +101,11 @@ void read_query(template_file& target, const head_setting& setting)
         fail_template(target.at(setting.line), QStringLiteral("a query needs a name"));
     if (without_literals(setting.value).trimmed().isEmpty())
         fail_template(target.at(setting.line), QStringLiteral("query %1 is empty").arg(setting.name));
+    static const QRegularExpression long_repetition(QStringLiteral("%[-+ 0,#!\\d]*\\.(\\d{5,}|\\*)c"));
+    if (setting.value.contains(long_repetition))
+        fail_template(
+            target.at(setting.line),
+            QStringLiteral("query %1: printf repeats a character at most 9999 times").arg(setting.name));
     if (target.find_query(setting.name) != nullptr)
         fail_template(target.at(setting.line),
                       QStringLiteral("there are two queries named %1").arg(setting.name));

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -7,6 +8,7 @@
 
 #include "failures.h"
 #include "language.h"
+#include "other_program.h"
 #include "reader.h"
 #include "report_control.h"
 #include "report_document.h"
@@ -15,6 +17,7 @@
 #include "report_store.h"
 #include "report_tables.h"
 #include "report_tools.h"
+#include "report_wait.h"
 #include "run_time_failure.h"
 #include "store_folder.h"
 
@@ -26,6 +29,14 @@ namespace {
 
 const QString endless = u"query all =\n    with recursive c(n) as (select 1 union all select n + 1 from c)\n"
                         "    select count(*) as n from c\n"_s;
+
+/// Copies a store into a file without a log, whose readers an exclusive lock keeps out.
+QString copy_without_log(const QString& store, const QString& copy)
+{
+    QFile::remove(copy);
+    reader(store).write(u"vacuum into '%1'"_s.arg(copy));
+    return copy;
+}
 
 QWidget* open_window(const QString& name)
 {
@@ -153,7 +164,7 @@ private Q_SLOTS:
                  u"try.rpt:1: query bad: more than 10000 rows"_s);
         QCOMPARE(complaint_about(
                      written(u"query bad = with recursive c(n) as (select 1 union all select n + 1 from c)"
-                             " select hex(zeroblob(400000)) as n from c\n"_s)),
+                             " select hex(zeroblob(90000)) as n from c\n"_s)),
                  u"try.rpt:1: query bad: more than 10000000 characters"_s);
         const QString too_big =
             complaint_about(written(u"query bad = select hex(zeroblob(99999999)) as n\n"_s));
@@ -220,6 +231,109 @@ private Q_SLOTS:
         control.Action(report_control::run_now);
         QVERIFY(control.preview() != nullptr);
         delete control.preview();
+    }
+
+    void a_query_that_could_not_be_stopped_is_refused_with_file_and_line_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<QString>("words");
+        const QString list = u"trim takes a list of at most 1000 characters"_s;
+        for (const QString& name : {u"trim"_s, u"ltrim"_s, u"rtrim"_s})
+            QTest::newRow(qPrintable(name)) << name + u"('x', hex(zeroblob(501)))"_s << list;
+        const QString repeated = u"printf repeats a character at most 9999 times"_s;
+        QTest::newRow("precision") << u"printf('%.1000000000c', 'x')"_s << repeated;
+        QTest::newRow("precision as a value") << u"printf('%-3.*c', 1e9, 'x')"_s << repeated;
+        const QString too_big = u"string or blob too big"_s;
+        QTest::newRow("search") << u"instr(hex(zeroblob(450000)), hex(zeroblob(220000)) || 'b')"_s << too_big;
+        QString doubled = u"(with q0 as (select 1 as x)"_s;
+        for (int step = 1; step < 26; ++step)
+            doubled += u", q%1 as (select a.x from q%2 a, q%2 b)"_s.arg(step).arg(step - 1);
+        QTest::newRow("doubling steps") << doubled + u" select x from q25)"_s << u"out of memory"_s;
+    }
+    void a_query_that_could_not_be_stopped_is_refused_with_file_and_line()
+    {
+        QFETCH(QString, sql);
+        QFETCH(QString, words);
+        const QString complaint = complaint_about(written(u"query bad = select "_s + sql + u" as n\n"_s));
+        QVERIFY2(complaint.startsWith(u"try.rpt:1: query bad: "_s + words), qPrintable(complaint));
+    }
+
+    void functions_with_a_limit_give_the_results_of_the_engine_data()
+    {
+        QTest::addColumn<QString>("sql");
+        for (const QString& sql :
+             {u"rtrim('2.500', '0')"_s, u"ltrim('0012', '0')"_s, u"trim('--é--', '-')"_s,
+              u"trim('éàxàé', 'àé')"_s, u"trim('xxx', 'x')"_s, u"trim('', 'x')"_s, u"trim('x', '')"_s,
+              u"trim(null, 'x')"_s, u"trim('x', null)"_s, u"rtrim(2.50, 5)"_s, u"trim('  x ')"_s,
+              u"printf('%.9999c', 'x')"_s, u"trim('😀x😁', '😀')"_s})
+            QTest::newRow(qPrintable(sql)) << sql;
+    }
+    void functions_with_a_limit_give_the_results_of_the_engine()
+    {
+        QFETCH(QString, sql);
+        const QString select = u"select quote("_s + sql + u") as n"_s;
+        const template_file source = read_template(written(u"query it = "_s + select + u'\n'));
+        const report_snapshot snapshot(source);
+        QCOMPARE(snapshot.rows(source.queries[0]).rows[0][0].toString(), reader(store_.path()).text(select));
+    }
+
+    void a_report_waits_until_another_program_unlocks_the_store()
+    {
+        set_report_store(copy_without_log(store_.path(), folder_.filePath(u"locked.sqlite"_s)));
+        other_program other(report_store(), u"BEGIN EXCLUSIVE"_s);
+        QTimer timer;
+        bool seen = false;
+        QObject::connect(&timer, &QTimer::timeout, this, [&] {
+            seen = seen || open_window(u"lock_box"_s) != nullptr;
+            if (seen)
+                other.let_go();
+        });
+        timer.start(50);
+        QCOMPARE(complaint_about(written(u"query one = select * from stats\n"_s)), QString());
+        QVERIFY(seen && open_window(u"lock_box"_s) == nullptr);
+    }
+
+    void a_user_who_gives_up_waiting_for_a_lock_ends_the_report_as_locked()
+    {
+        set_report_store(copy_without_log(store_.path(), folder_.filePath(u"locked.sqlite"_s)));
+        other_program other(report_store(), u"BEGIN EXCLUSIVE"_s);
+        QTimer timer;
+        bool gave_up = false;
+        QObject::connect(&timer, &QTimer::timeout, this, [&gave_up] {
+            if (QWidget* box = open_window(u"lock_box"_s)) {
+                box->findChild<QAbstractButton*>(u"give_up"_s)->click();
+                gave_up = true;
+            }
+        });
+        timer.start(50);
+        const QString path = written(u"query one = select * from stats\n"_s);
+        QCOMPARE(failure_of([&] { render_report(path); }), failure_kind::store_locked);
+        QVERIFY(gave_up);
+    }
+
+    void a_window_that_is_open_takes_no_input_while_a_report_runs()
+    {
+        QLineEdit other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        QTimer timer;
+        bool took_input = false;
+        bool is_modal = false;
+        QObject::connect(&other, &QLineEdit::textEdited, this, [&] { took_input = true; });
+        QObject::connect(&timer, &QTimer::timeout, this, [&] {
+            QWidget* wait = open_window(u"report_wait"_s);
+            if (wait == nullptr)
+                return;
+            is_modal =
+                QApplication::activeModalWidget() == wait && wait->windowModality() == Qt::ApplicationModal;
+            QTest::keyClick(other.windowHandle(), Qt::Key_A);
+            QTest::mouseClick(other.windowHandle(), Qt::LeftButton);
+            wait->close();
+        });
+        timer.start(50);
+        report_wait wait(u"x"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!wait.may_continue(), 30'000);
+        QVERIFY(is_modal && !took_input);
     }
 
     void a_text_of_a_table_longer_than_its_limit_ends_with_an_ellipsis_in_every_column()

@@ -18,13 +18,14 @@ void run(const QString& connection, const QString& statement)
 
 }  // namespace
 
-other_program::other_program(const QString& store_path) : name_(QUuid::createUuid().toString())
+other_program::other_program(const QString& store_path, const QString& lock)
+    : name_(QUuid::createUuid().toString())
 {
     QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
     database.setDatabaseName(store_path);
     if (!database.open())
         qFatal("cannot open %s", qUtf8Printable(store_path));
-    run(name_, QStringLiteral("BEGIN IMMEDIATE"));
+    run(name_, lock);
 }
 
 other_program::~other_program()

@@ -4,11 +4,12 @@
 
 namespace verdane::testing {
 
-/// Another program that writes to a store: it holds the write lock from its construction to `let_go`, on a
-/// connection of its own. For one thread.
+/// Another program that locks a store from its construction to `let_go`, on a connection of its own: by
+/// default for writing. For one thread.
 class other_program {
 public:
-    explicit other_program(const QString& store_path);
+    explicit other_program(const QString& store_path,
+                           const QString& lock = QStringLiteral("BEGIN IMMEDIATE"));
     ~other_program();
     other_program(const other_program&) = delete;
     other_program& operator=(const other_program&) = delete;
