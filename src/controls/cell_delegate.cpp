@@ -32,7 +32,7 @@ QRect caret_in(const data_grid& grid, const QStyleOptionViewItem& cell)
     return caret;
 }
 
-/// Two pixels wide where the keys arrive, one while another control has them.
+/// Two pixels wide while the grid has the focus, one pixel otherwise.
 void paint_frame(QPainter& painter, const QStyleOptionViewItem& cell, bool has_keyboard)
 {
     const int width = has_keyboard ? frame_width : 1;

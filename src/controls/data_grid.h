@@ -61,7 +61,7 @@ public:
     void take_keyboard();
 
     bool has_cell_button(int column) const { return menus_.count(column) > 0; }
-    /// True for a cell whose text the keys change.
+    /// True for a cell that can be typed into.
     bool is_typed_into(const QModelIndex& cell) const;
     /// Where the button of a cell is inside the cell's rectangle.
     static QRect button_in(const QRect& cell);

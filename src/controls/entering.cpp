@@ -45,7 +45,7 @@ public:
 private:
     bool focus_gained(QFocusEvent& event)
     {
-        // The box's own menu is no other control: what was selected before it opened is what it acts on.
+        // The box's own menu has closed. Its commands act on the selection, which must not change.
         if (event.reason() == Qt::PopupFocusReason)
             return false;
         entered_by_click_ = event.reason() == Qt::MouseFocusReason;
@@ -74,7 +74,7 @@ private:
 
     QLineEdit& box_;
     std::function<void()> handler_;
-    /// From the focus that a click brings until that click is over.
+    /// True from the moment a click gives the box the focus until the button is released.
     bool entered_by_click_ = false;
     QPoint pressed_at_;
 };

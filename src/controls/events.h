@@ -20,7 +20,7 @@ void on_click(QAbstractButton& button, Routine routine)
                      [routine = std::move(routine)] { run_event(routine); });
 }
 
-/// Enter while the list has the focus: the double click of the keyboard.
+/// Runs the routine on Enter while the list has the focus, as a double click does.
 void on_enter(QListWidget& list, std::function<void()> routine);
 
 /// For a button that starts long work: a double click is one click, not two runs. The second press waits

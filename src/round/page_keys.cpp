@@ -64,7 +64,7 @@ void act_on(f_new_round& window, page_key key)
     }
 }
 
-/// Sees the keys ahead of the controls: lists and boxes with arrows use PageDown and PageUp themselves.
+/// Handles the keys before the controls do: lists and boxes with arrows use PageDown and PageUp themselves.
 class page_keys : public QObject {
 public:
     explicit page_keys(f_new_round& window) : QObject(&window), window_(window)

@@ -7,8 +7,8 @@
 namespace verdane {
 
 /// A drawing that fills its pane at any size: scaled as a whole, what is too wide or too high is cut evenly,
-/// except that the element `sign` of the drawing stays in view. Drawing it takes longer than all the rest of
-/// a window, so the first time it follows once the window is up.
+/// except that the element `sign` of the drawing stays in view. The drawing takes longer than all the
+/// rest of a window, so the first one is made after the window is shown.
 class picture_pane : public QWidget {
 public:
     explicit picture_pane(const QString& drawing, QWidget* parent = nullptr);

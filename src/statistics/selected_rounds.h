@@ -16,9 +16,9 @@ enum class missing_row { none = 0, course = 1, holes = 2, games2 = 3 };
 QString selected_rounds_statement(const selection_arguments& chosen);
 
 /// Walks `rsgames` from its first row to its end. For each round `rsvrd_fields`, `rsfield_info` and
-/// `rsgames2` are put on its rows; when weather and partner let it pass, `take` is called. A round whose
-/// weather is Null passes only where no weather was chosen. A round without one of its rows ends the walk,
-/// and the answer names that row. The caller has opened the four recordsets.
+/// `rsgames2` are moved to its rows, and `take` is called if the round matches the chosen weather and
+/// partner. A round whose weather is Null matches only if no weather was chosen. A round that lacks a row
+/// ends the loop, and that row is returned. The caller has opened the four recordsets.
 missing_row walk_selected_rounds(const selection_arguments& chosen, const std::function<void()>& take);
 
 /// The critical box for a missing row, the same in both languages.

@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.box->cursorPosition(), 5);
     }
 
-    void a_click_behind_an_entry_by_key_sets_the_cursor()
+    void a_click_after_an_entry_by_key_sets_the_cursor()
     {
         const two_boxes boxes;
         boxes.box->setFocus(Qt::TabFocusReason);
