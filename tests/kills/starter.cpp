@@ -35,18 +35,66 @@ void tee_off(hand& user, int round)
                     [&user] { return user.focus() == QStringLiteral("text_vrd_0"); });
 }
 
+void enter_first_shots(hand& user)
+{
+    const QString pages = QStringLiteral("TabStrip2");
+    user.click_tab(pages, 2);
+    enter_shots(user, 1, first_shots());
+    user.click_tab(hole_tabs, 2);
+    user.click_tab(pages, 1);
+}
+
+void enter_hole(hand& user, int round, int hole)
+{
+    if (hole == 1 && starts_with_shots(round)) {
+        enter_first_shots(user);
+    } else {
+        user.type(figures_of_new_rounds);
+        user.click_tab(hole_tabs, hole + 1);
+    }
+    std::printf("left %d %d\n", round, hole);
+    std::fflush(stdout);
+}
+
 void enter_round(hand& user, int round)
 {
     tee_off(user, round);
-    for (const int next : {2, 3}) {
-        user.type(figures_of_new_rounds);
-        user.click_tab(hole_tabs, next);
-    }
+    for (const int hole : {1, 2})
+        enter_hole(user, round, hole);
     user.click(QStringLiteral("Command1_4"));
     user.wait_for_window(QStringLiteral("MainForm"));
 }
 
 }  // namespace
+
+bool starts_with_shots(int round)
+{
+    return round % 2 == 0;
+}
+
+told_hole first_shots()
+{
+    return hole_of(QStringLiteral("1,200,1,2,0,0;9,10,2,1,0,0;14,0,3,1,0,0"));
+}
+
+QString time_of_round(int round)
+{
+    const QString hour_and_minute = QStringLiteral("%1%2");
+    return hour_and_minute.arg(round / 60, 2, 10, QChar(u'0')).arg(round % 60, 2, 10, QChar(u'0')) + u"00";
+}
+
+std::vector<left_hole> left_holes(const QByteArray& said)
+{
+    std::vector<left_hole> holes;
+    // The kill may have cut the last line short.
+    const QByteArray whole_lines = said.left(said.lastIndexOf('\n') + 1);
+    for (const QByteArray& line : whole_lines.split('\n')) {
+        const QList<QByteArray> words = line.split(' ');
+        if (words.size() == 3 && words[0] == "left")
+            holes.push_back({words[1].toInt(), words[2].toInt()});
+    }
+    return holes;
+}
 
 int be_the_starter(int first_round)
 {

@@ -2,14 +2,35 @@
 
 #include <QString>
 
+#include <vector>
+
+#include "told_hole.h"
+
 namespace verdane::testing {
 
-/// What is typed into the eleven boxes of every hole.
+/// What is typed into the eleven boxes of a hole, unless its shots are entered.
 inline const QString figures_of_new_rounds = QStringLiteral("12345678123");
 
-/// Runs the program and enters new rounds until it is killed: a tee-off, two holes, OK. `first_round` numbers
-/// the first tee-off; every run takes numbers of its own, up to `rounds_of_a_run` of them.
+/// The first hole of every second round is entered shot by shot: its shots are stored before its round is.
+bool starts_with_shots(int round);
+told_hole first_shots();
+
+/// A hole that was left, the number of its round from 0.
+struct left_hole {
+    int round = 0;
+    int hole = 0;
+};
+
+/// Runs the program and enters new rounds until it is killed: a tee-off, two holes, OK. Prints "ready", then
+/// a line for each hole that was left. `first_round` numbers the first tee-off; every run uses numbers of its
+/// own, up to `rounds_of_a_run` of them.
 constexpr int rounds_of_a_run = 60;
 int be_the_starter(int first_round);
+
+/// The holes that were left, from what the program printed.
+std::vector<left_hole> left_holes(const QByteArray& said);
+
+/// The end of the key of a round, after its day.
+QString time_of_round(int round);
 
 }  // namespace verdane::testing

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QMap>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
@@ -73,22 +74,41 @@ last_words killed_after(bool detailed, int life_ms, quint32 seed)
     return understood(said_until_killed({role, QString::number(seed)}, life_ms, is_under_way));
 }
 
-/// The eleven figures of a hole of every round, as they were typed, in the order of the quick page.
-QStringList figures_of_rounds(const reader& store, int hole)
+/// The eleven figures of a hole of every round, in the order of the quick page, by the time of the round.
+QMap<QString, QString> figures_of_rounds(const reader& store, int hole)
 {
-    QStringList figures;
+    QMap<QString, QString> figures;
     const QString columns = QStringLiteral(
-        "long_%1, approach_%1, putt_%1, fairway_%1, sand_%1, missed_%1, recovery_%1, pen_water_%1, "
-        "pen_lost_%1, pen_rule_%1, pen_bounds_%1");
-    for (const auto& row : store.rows(u"select " + columns.arg(hole) +
-                                      u" from games join games2 on games.date "
-                                      u"= games2.date")) {
-        QString typed;
-        for (const QVariant& value : row)
-            typed += QString::number(value.toInt());
-        figures << typed;
+        "substr(date, 9), long_%1, approach_%1, putt_%1, fairway_%1, sand_%1, missed_%1, recovery_%1, "
+        "pen_water_%1, pen_lost_%1, pen_rule_%1, pen_bounds_%1");
+    for (const auto& row :
+         store.rows(u"select " + columns.arg(hole) + u" from games join games2 using (date)")) {
+        QString& typed = figures[row[0].toString()];
+        for (std::size_t place = 1; place < row.size(); ++place)
+            typed += QString::number(row[place].toInt());
     }
     return figures;
+}
+
+QString wanted_figures(int round, int hole)
+{
+    if (hole != 1 || !starts_with_shots(round))
+        return figures_of_new_rounds;
+    QString figures;
+    for (const int figure : outcome_of(first_shots()).figures)
+        figures += QString::number(figure);
+    return figures;
+}
+
+/// The shots of a round are stored before the round is: a kill may leave them without it.
+QStringList broken_invariants_of_new_rounds(const reader& store)
+{
+    QStringList broken = broken_invariants(store);
+    broken.erase(
+        std::remove_if(broken.begin(), broken.end(),
+                       [](const QString& rule) { return rule.startsWith(u"every shot has its round"); }),
+        broken.end());
+    return broken;
 }
 
 }  // namespace
@@ -128,23 +148,45 @@ private Q_SLOTS:
     {
         const int kills = std::min(std::max(kills_wanted() / 4, 1), most_kills_of_new_rounds);
         QRandomGenerator random(20260615);
-        const program_run run(2, one_course());
+        const program_run run(2, one_course() + a_bag_of_clubs());
+        std::size_t holes_left = 0;
         for (int kill = 0; kill < kills; ++kill) {
             const int first_round = kill * rounds_of_a_run;
-            said_until_killed({QStringLiteral("--starter"), QString::number(first_round)},
-                              random.bounded(longest_life_of_starter_ms),
-                              [](const QByteArray& said) { return said.contains("ready"); });
+            const QByteArray said =
+                said_until_killed({QStringLiteral("--starter"), QString::number(first_round)},
+                                  random.bounded(longest_life_of_starter_ms),
+                                  [](const QByteArray& words) { return words.contains("ready"); });
             QCOMPARE(run.store().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
-            QCOMPARE(broken_invariants(run.store()), QStringList());
-            for (const QString& figures : figures_of_rounds(run.store(), 1))
-                QCOMPARE(figures, figures_of_new_rounds);
-            for (const QString& figures : figures_of_rounds(run.store(), 2))
-                QVERIFY2(figures == figures_of_new_rounds || figures == u"00000000000", qPrintable(figures));
+            QCOMPARE(broken_invariants_of_new_rounds(run.store()), QStringList());
+            const std::vector<left_hole> left = left_holes(said);
+            holes_left += left.size();
+            look_at_new_rounds(run.store(), first_round, left);
+            if (QTest::currentTestFailed())
+                return;
         }
-        QVERIFY(run.store().number(QStringLiteral("select count(*) from games")) >= kills / 2);
+        QVERIFY2(holes_left >= static_cast<std::size_t>(kills), qPrintable(QString::number(holes_left)));
     }
 
 private:
+    /// A hole that was left has its figures. A round without its first hole is not stored at all.
+    static void look_at_new_rounds(const reader& store, int first_round, const std::vector<left_hole>& left)
+    {
+        const auto first_holes = figures_of_rounds(store, 1);
+        const auto second_holes = figures_of_rounds(store, 2);
+        for (const left_hole& each : left) {
+            const auto& holes = each.hole == 1 ? first_holes : second_holes;
+            QCOMPARE(holes.value(time_of_round(each.round)), wanted_figures(each.round, each.hole));
+        }
+        for (int round = first_round; round < first_round + rounds_of_a_run; ++round) {
+            const QString time = time_of_round(round);
+            if (!first_holes.contains(time))
+                continue;
+            QCOMPARE(first_holes[time], wanted_figures(round, 1));
+            const QString second = second_holes[time];
+            QVERIFY2(second == wanted_figures(round, 2) || second == u"00000000000", qPrintable(second));
+        }
+    }
+
     /// The program opens again and shows what is stored, of a hole that was left or else of the last one.
     static void start_again_and_look(program_run& run, const kept_round& kept, const last_words& words)
     {

@@ -153,6 +153,11 @@ int be_the_victim(bool detailed, quint32 seed)
     return status;
 }
 
+void enter_shots(hand& user, int hole, const told_hole& shots)
+{
+    tell_hole(user, hole, shots);
+}
+
 void open_the_round(hand& user)
 {
     user.wait_for_window(QStringLiteral("MainForm"));

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "hand.h"
+#include "told_hole.h"
 
 namespace verdane::testing {
 
@@ -10,6 +11,10 @@ namespace verdane::testing {
 /// Detailed, the holes are told shot by shot, whatever was told of them before; otherwise figures are
 /// typed on the quick page.
 int be_the_victim(bool detailed, quint32 seed);
+
+/// Enters the shots of the hole whose empty grid is on screen. The last of them is committed when the hole is
+/// left.
+void enter_shots(hand& user, int hole, const told_hole& shots);
 
 /// From the start of the program to the only round, on the quick page.
 void open_the_round(hand& user);
