@@ -14,7 +14,7 @@ namespace {
 
 constexpr int paint_ms = 50;
 
-/// Before the language is settled the words stand in both.
+/// In both languages until one is chosen.
 QString words(QStringView french, QStringView english, QStringView between)
 {
     if (language_is_settled)

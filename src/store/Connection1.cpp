@@ -146,7 +146,7 @@ void Connection1::open_engine(soundness_check check)
     }
     const lock_wait::limit wait(*waiting_, opening_time_out_s);
     waiting_->attach(engine_handle(database()));
-    // A damaged file stays as it was found.
+    // A damaged file is not changed.
     copy_log_on_close(database(), false);
     if (check == soundness_check::while_opening || database().tables().isEmpty() ||
         !uses_write_ahead_log(database()))

@@ -35,22 +35,21 @@ enum class search_direction { forward = 1, backward = -1 };
 /// Which rows a batch update writes. Both commit everything that is pending.
 enum class affect { all = 3, all_chapters = 4 };
 
-/// The settings of a recordset, applied whenever it is opened. They are one table, `catalogue.cpp`.
-///
-/// Three of them have no effect on a store that is one file of the same machine; the table keeps them, so
-/// that it is complete:
+/// The settings of a recordset, applied whenever it is opened. `catalogue.cpp` lists them in one table.
+/// Cursor, location and cache size are listed for completeness: they have no effect on a store that is one
+/// local file, for the reason given at each.
 struct recordset_settings {
     QString name;
     QString source;
-    /// Without effect: both kinds of cursor read their rows once and see later ones after `Requery`. One
-    /// program works on the file, so there is nobody whose changes a dynamic cursor would have to show.
+    /// No effect: both kinds of cursor read their rows once, and later rows after `Requery`. Only one program
+    /// changes the file, so a dynamic cursor would find no changes of others.
     cursor_type cursor = cursor_type::fixed;
     lock_type lock = lock_type::optimistic;
-    /// Without effect: the engine is a library of this process, so the rows of a server-side cursor and
-    /// those of a client-side one are in the same memory.
+    /// No effect: the engine is a library of this process, so the rows of server-side and client-side cursors
+    /// are in the same memory.
     cursor_location location = cursor_location::server;
-    /// Without effect: a recordset keeps all its rows, and a batch of rows saves nothing where no network
-    /// lies between the program and the store.
+    /// No effect: a recordset keeps all its rows, and without a network, fetching several rows at a time
+    /// saves nothing.
     int cache_rows = 100;
     /// How long a statement waits for the lock of another program, in seconds.
     int time_out_s = 30;

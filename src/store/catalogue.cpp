@@ -28,7 +28,7 @@ constexpr auto client = cursor_location::client;
 
 // clang-format off
 constexpr std::array<entry, 19> entries{{
-    // Which of the settings have no effect, and why, is said at `recordset_settings`.
+    // Cursor, location and cache have no effect; `recordset_settings` says why.
     // name             source                                    cursor   lock        location cache time-out
     {u"rsgames",       u"select *  from games order by date",    dynamic, optimistic, server, 100, 30},
     {u"rsvrd_fields",  u"select * from vrd_fields",              dynamic, optimistic, server, 100, 30},

@@ -7,8 +7,8 @@ class Connection1;
 /// The commits that recordsets make while an object of this class lives reach the store together, by
 /// `finish`: a process that is killed before leaves none of them.
 ///
-/// A statement that fails takes nothing back. Where a failure ends the scope, what was written before it is
-/// committed, as it would have been by commits of their own; only a commit that fails itself leaves nothing.
+/// A statement that fails undoes nothing. If a failure ends the scope, what was written before it is
+/// committed, as separate commits would have done; only if that commit fails too is nothing stored.
 ///
 /// Nothing is locked before the first statement that writes. The batch update of a recordset with a batch
 /// lock is a transaction itself and fails inside this one.

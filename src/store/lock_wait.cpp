@@ -16,7 +16,7 @@ constexpr int pause_ms = 20;
 
 lock_wait::limit::limit(lock_wait& wait, int seconds) : wait_(wait), before_ms_(wait.limit_ms_)
 {
-    // An event that the notice let through: the engine takes no second statement meanwhile.
+    // The notice has delivered an event that runs a statement; a second one during the wait is not supported.
     if (wait_.waiting_)
         throw run_time_failure(failure_kind::store_locked,
                                QStringLiteral("another statement waits for the lock already"));

@@ -22,7 +22,7 @@ public:
 using lock_notice_maker = std::function<std::unique_ptr<lock_notice>()>;
 
 /// How the statements of one connection wait for a lock of another program: quietly at first, then with a
-/// notice on the screen, until the lock is free, the user gives up or the time-out of the statement is over.
+/// notice on the screen, until the lock is free, the user gives up or the statement's time-out has passed.
 /// The statement then fails with `store_locked`.
 class lock_wait {
 public:
@@ -38,8 +38,8 @@ public:
     /// What shows the notice. Without a maker statements wait quietly.
     void set_notice_maker(lock_notice_maker maker) { make_notice_ = std::move(maker); }
 
-    /// While an object of this class lives, statements wait for so many seconds at most, and it takes the
-    /// notice off the screen at its end. Fails with `store_locked` while another statement waits.
+    /// Limits the wait of statements to so many seconds during its lifetime, and closes the notice at its
+    /// end. The constructor fails with `store_locked` while another statement waits.
     class limit {
     public:
         limit(lock_wait& wait, int seconds);

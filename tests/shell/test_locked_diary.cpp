@@ -99,8 +99,8 @@ class test_locked_diary : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_round_goes_on_once_the_lock_is_free_data() { both_languages(); }
-    void the_round_goes_on_once_the_lock_is_free()
+    void the_round_continues_once_the_lock_is_free_data() { both_languages(); }
+    void the_round_continues_once_the_lock_is_free()
     {
         QFETCH(bool, french);
         const QString suffix = french ? QString() : QStringLiteral("_en");
