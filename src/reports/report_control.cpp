@@ -9,6 +9,7 @@
 #include "report_stopped.h"
 #include "report_wait.h"
 #include "run_time_failure.h"
+#include "screen_room.h"
 
 namespace verdane {
 
@@ -59,6 +60,7 @@ void report_control::Action(int value)
         window->showMaximized();
     else
         window->show();
+    keep_on_screen(*window);
     window->raise();
     window->activateWindow();
 }

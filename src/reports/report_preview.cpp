@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPrinter>
-#include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -14,6 +13,7 @@
 #include "report_dialogs.h"
 #include "report_document.h"
 #include "run_time_failure.h"
+#include "screen_room.h"
 #include "shortcuts.h"
 
 namespace verdane {
@@ -30,8 +30,8 @@ report_preview::report_preview(std::shared_ptr<const report_document> document, 
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::NonModal);
     build();
-    const QSize room = screen()->availableSize();
-    resize(qMin(1200, room.width() * 9 / 10), qMin(880, room.height() * 9 / 10));
+    constexpr double share_of_screen = 0.9;
+    resize(QSize(1200, 880).boundedTo(room_on_screen(*this) * share_of_screen));
     pages_->setFocus();
 }
 
