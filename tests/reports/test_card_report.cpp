@@ -135,7 +135,8 @@ private Q_SLOTS:
 
     void a_name_too_long_for_one_line_is_printed_whole_on_two()
     {
-        const QString name = u"THE OLD AND HONOURABLE GOLF AND COUNTRY CLUB OF THE UPPER VALLEY AND THE LAKES ABOVE"_s;
+        const QString name =
+            u"THE OLD AND HONOURABLE GOLF AND COUNTRY CLUB OF THE UPPER VALLEY AND THE LAKES ABOVE"_s;
         reader(store_.path()).write(u"update r_card set card_name = '%1'"_s.arg(name));
         for (const QString& report : {u"r_card2.rpt"_s, u"r_card2_en.rpt"_s}) {
             const QString page = printed_pages(report).front();
