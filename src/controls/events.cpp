@@ -19,7 +19,7 @@ public:
 
 }  // namespace
 
-void on_enter(QListWidget& list, std::function<void()> routine)
+void on_enter(QListWidget& list, const std::function<void()>& routine)
 {
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* enter = new QShortcut(QKeySequence(key), &list);

@@ -21,7 +21,7 @@ void on_click(QAbstractButton& button, Routine routine)
 }
 
 /// Runs the routine on Enter while the list has the focus, as a double click does.
-void on_enter(QListWidget& list, std::function<void()> routine);
+void on_enter(QListWidget& list, const std::function<void()>& routine);
 
 /// For a button that starts long work: a double click is one click, not two runs. The second press waits
 /// while the work is done and would start it again.

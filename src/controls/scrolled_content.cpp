@@ -79,7 +79,8 @@ void scrolled_content::resizeEvent(QResizeEvent* event)
 
 bool scrolled_content::focusNextPrevChild(bool next)
 {
-    // The scroll area of the toolkit would scroll once more, with other margins.
+    // QScrollArea itself would scroll once more, with other margins, so its own version is left out.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return QAbstractScrollArea::focusNextPrevChild(next);
 }
 

@@ -27,7 +27,7 @@ enum class page_key { none, next_hole, previous_hole, quick_page, detailed_page 
 /// With the French layout the keys of 1 and 2 are those of & and é.
 page_key meaning_of(const QKeyEvent& event)
 {
-    const int modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const int modifiers = static_cast<int>(event.modifiers() & ~Qt::KeypadModifier);
     switch (event.key() | modifiers) {
     case Qt::Key_PageDown:
         return page_key::next_hole;
