@@ -36,12 +36,12 @@ public:
     /// The caption for the window's language.
     QString caption(QStringView french, QStringView english) const;
 
-    /// The part of the window that scrolls where the screen or the user leaves it too little room; what must
-    /// always be seen, such as OK and Cancel, lies outside. Takes the layout over.
+    /// Adds the part of the window that scrolls when the window is smaller than its content. Controls that
+    /// must stay visible, such as OK and Cancel, are outside of it. Takes ownership of the layout.
     scrolled_content* scrolled(QLayout* content);
 
-    /// Gives the window a size, or a larger one at which nothing scrolls, limited to what its screen has room
-    /// for. To be called once all controls are in place, and before Place and lock.
+    /// Gives the window a size, or a larger one at which nothing scrolls, limited to the available size of
+    /// its screen. To be called after all controls are added, and before Place and lock.
     void take_size(QSize wanted);
 
     /// The shortcuts of the window; F1 lists them.

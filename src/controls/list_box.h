@@ -9,7 +9,7 @@ namespace verdane {
 constexpr int usual_lines = 12;
 
 /// A list of lines of which exactly one is selected as soon as there is one: a click beside the lines
-/// does not take the selection away. It prefers room for `lines` lines of `characters`, and scrolls in less.
+/// does not clear the selection. Its preferred size is `lines` lines of `characters`; below that it scrolls.
 QListWidget* make_list_box(int characters, int lines = usual_lines);
 
 /// Fills an empty list and selects its first line.

@@ -11,7 +11,7 @@ namespace verdane {
 /// taken, or the measure of the style while there is none.
 QSize room_on_screen(const QWidget& window);
 
-/// Makes a window no larger than its screen has room for, and moves it so that no part is off the screen. A
+/// Limits a window to the available size of its screen, and moves it so that no part is off the screen. A
 /// window that is not shown and was never placed keeps its automatic position.
 void keep_on_screen(QWidget& window);
 

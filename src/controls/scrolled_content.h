@@ -7,9 +7,9 @@ class QTimer;
 
 namespace verdane {
 
-/// The content of a window between its fixed lines. It asks for the room that its controls prefer, makes do
-/// with very little, and scrolls what has no room. The control with the focus is scrolled into view, with
-/// its label where both fit.
+/// The content of a window between its fixed lines. Its preferred size is that of its controls, its minimum
+/// is small, and it scrolls when it is smaller than its controls. The control with the focus is scrolled
+/// into view, with its label where both fit.
 ///
 /// It takes neither the focus nor a key: the arrow and page keys belong to the window.
 class scrolled_content : public QScrollArea {

@@ -57,7 +57,7 @@ private:
         }
     }
 
-    /// The limit also ends the cutting where a page has so little room that the rest never gets smaller.
+    /// The limit also ends the loop if a page is so low that the remaining height never decreases.
     void add_page(const page_cut& cut)
     {
         if (pages_.size() == most_pages)

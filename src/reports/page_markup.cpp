@@ -8,7 +8,7 @@ namespace verdane {
 
 namespace {
 
-/// Behind the `>` that ends the tag at `start`.
+/// The position after the `>` that ends the tag at `start`.
 qsizetype end_of_tag(QStringView markup, qsizetype start)
 {
     QChar quote;

@@ -49,8 +49,8 @@ int start_and_fail()
     return status;
 }
 
-/// Types holes, every lap with another digit, until the log of the store has no more room. Says after each
-/// hole which digit it holds.
+/// Types holes, with another digit in each pass over them, until the log of the store reaches the limit.
+/// Prints the digit after each hole.
 void type_holes(hand& user)
 {
     for (int count = 0;; ++count) {
