@@ -4,9 +4,9 @@
 
 #include <vector>
 
-#include "pair_reporter.h"
-#include "pairs.h"
-#include "start_up.h"
+#include "bench/pair_reporter.h"
+#include "bench/pairs.h"
+#include "shell/start_up.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <array>
 #include <cmath>
 
-#include "club_shots.h"
-#include "club_statistics.h"
-#include "pairs.h"
-#include "statistic_pairs.h"
+#include "bench/pairs.h"
+#include "bench/statistic_pairs.h"
+#include "statistics/club_shots.h"
+#include "statistics/club_statistics.h"
 
 /// The statistics of clubs, as the selection window runs them.
 namespace verdane::bench {

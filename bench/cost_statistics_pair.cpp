@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "cost_statistics.h"
-#include "pairs.h"
-#include "statistic_pairs.h"
+#include "bench/pairs.h"
+#include "bench/statistic_pairs.h"
+#include "statistics/cost_statistics.h"
 
 /// The statistics of costs. The report adds up; the statistic spends its time copying the rows.
 namespace verdane::bench {

@@ -2,12 +2,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include "data_grid.h"
-#include "hole_leaving.h"
-#include "pairs.h"
-#include "plain_store.h"
-#include "round_in_window.h"
-#include "shot_menus.h"
+#include "bench/hole_leaving.h"
+#include "bench/pairs.h"
+#include "bench/plain_store.h"
+#include "bench/round_in_window.h"
+#include "controls/data_grid.h"
+#include "round/shot_menus.h"
 
 /// Leaving a hole on the detailed page, its first shot changed so that a figure changes in each wide row,
 /// from the click on the next tab until the shots of that hole are in the grid. The floor is one plain commit

@@ -1,11 +1,11 @@
 #include <benchmark/benchmark.h>
 
-#include "diaries.h"
-#include "f_new_round.h"
-#include "pairs.h"
-#include "plain_store.h"
-#include "round_in_window.h"
-#include "stopwatch.h"
+#include "bench/diaries.h"
+#include "bench/pairs.h"
+#include "bench/plain_store.h"
+#include "bench/round_in_window.h"
+#include "bench/stopwatch.h"
+#include "round/f_new_round.h"
 
 /// Opening a detailed round of a full diary: from the list's command until its window is painted, and
 /// from the click on the detailed page until its shots are. The floor reads what is then displayed.

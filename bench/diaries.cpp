@@ -1,14 +1,14 @@
-#include "diaries.h"
+#include "bench/diaries.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QStringList>
 
-#include "DataEnvironment1.h"
-#include "language.h"
-#include "language_value.h"
-#include "reader.h"
-#include "round_columns.h"
+#include "base/language.h"
+#include "records/round_columns.h"
+#include "shell/language_value.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/reader.h"
 
 namespace verdane::bench {
 

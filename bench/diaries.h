@@ -3,7 +3,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-#include "full_diary.h"
+#include "tests/support/full_diary.h"
 
 namespace verdane::bench {
 

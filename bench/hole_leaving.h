@@ -2,13 +2,13 @@
 
 #include <benchmark/benchmark.h>
 
-#include "diaries.h"
-#include "f_new_round.h"
-#include "full_diary.h"
-#include "Main_module.h"
-#include "round_columns.h"
-#include "round_in_window.h"
-#include "stopwatch.h"
+#include "base/Main_module.h"
+#include "bench/diaries.h"
+#include "bench/round_in_window.h"
+#include "bench/stopwatch.h"
+#include "records/round_columns.h"
+#include "round/f_new_round.h"
+#include "tests/support/full_diary.h"
 
 /// Shared by the two pairs that measure leaving a hole: its figures are changed, the next tab is
 /// clicked, and the time until the result is measured.

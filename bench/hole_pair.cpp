@@ -4,10 +4,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include "hole_leaving.h"
-#include "pairs.h"
-#include "plain_store.h"
-#include "round_in_window.h"
+#include "bench/hole_leaving.h"
+#include "bench/pairs.h"
+#include "bench/plain_store.h"
+#include "bench/round_in_window.h"
 
 /// Leaving a hole of which two figures were changed, one in each wide row, from the click on the next
 /// tab until that hole is in the boxes, and until it is painted. The floor is two plain statements and their

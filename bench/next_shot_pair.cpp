@@ -2,16 +2,16 @@
 
 #include <benchmark/benchmark.h>
 
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "diaries.h"
-#include "f_new_round.h"
-#include "pairs.h"
-#include "plain_store.h"
-#include "round_in_window.h"
-#include "shot_entry.h"
-#include "shot_menus.h"
-#include "stopwatch.h"
+#include "bench/diaries.h"
+#include "bench/pairs.h"
+#include "bench/plain_store.h"
+#include "bench/round_in_window.h"
+#include "bench/stopwatch.h"
+#include "controls/data_grid.h"
+#include "round/f_new_round.h"
+#include "round/shot_entry.h"
+#include "round/shot_menus.h"
+#include "store/DataEnvironment1.h"
 
 /// The key that adds the next row: Enter after the remaining distance of a putt, until the next putt is in
 /// the grid with the cursor on it. The floor is the two plain commits of both rows.

@@ -1,4 +1,4 @@
-#include "pair_reporter.h"
+#include "bench/pair_reporter.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "plain_store.h"
+#include "bench/plain_store.h"
 
 #include <QSqlError>
 #include <QUuid>

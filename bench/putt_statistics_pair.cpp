@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "pairs.h"
-#include "putt_statistics.h"
-#include "statistic_pairs.h"
+#include "bench/pairs.h"
+#include "bench/statistic_pairs.h"
+#include "statistics/putt_statistics.h"
 
 /// The statistics of putts.
 namespace verdane::bench {

@@ -6,21 +6,21 @@
 #include <functional>
 #include <memory>
 
-#include "club_statistics.h"
-#include "cost_statistics.h"
-#include "diaries.h"
-#include "f_carte.h"
-#include "f_carte_func.h"
-#include "Form.h"
-#include "page_view.h"
-#include "pairs.h"
-#include "putt_statistics.h"
-#include "report_control.h"
-#include "report_preview.h"
-#include "report_store.h"
-#include "round_statistics.h"
-#include "statistic_pairs.h"
-#include "stopwatch.h"
+#include "bench/diaries.h"
+#include "bench/pairs.h"
+#include "bench/statistic_pairs.h"
+#include "bench/stopwatch.h"
+#include "controls/Form.h"
+#include "reports/page_view.h"
+#include "reports/report_control.h"
+#include "reports/report_preview.h"
+#include "reports/report_store.h"
+#include "statistics/club_statistics.h"
+#include "statistics/cost_statistics.h"
+#include "statistics/f_carte.h"
+#include "statistics/f_carte_func.h"
+#include "statistics/putt_statistics.h"
+#include "statistics/round_statistics.h"
 
 /// The reports over a full diary: from the launch until the first page is painted in the preview, and
 /// from the key that turns the page until the next one is.

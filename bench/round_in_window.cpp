@@ -1,11 +1,11 @@
-#include "round_in_window.h"
+#include "bench/round_in_window.h"
 
 #include <QApplication>
 #include <QTimer>
 
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "Round_records.h"
+#include "round/f_new_round.h"
+#include "round/Round_records.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::bench {
 

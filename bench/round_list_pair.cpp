@@ -2,11 +2,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include "diaries.h"
-#include "f_games.h"
-#include "pairs.h"
-#include "plain_store.h"
-#include "stopwatch.h"
+#include "bench/diaries.h"
+#include "bench/pairs.h"
+#include "bench/plain_store.h"
+#include "bench/stopwatch.h"
+#include "management/f_games.h"
 
 /// The list of all rounds, from the command to its painted window. The floor reads what it shows.
 namespace verdane::bench {

@@ -6,10 +6,10 @@
 #include <map>
 #include <vector>
 
-#include "detail_pass.h"
-#include "pairs.h"
-#include "round_statistics.h"
-#include "statistic_pairs.h"
+#include "bench/pairs.h"
+#include "bench/statistic_pairs.h"
+#include "statistics/detail_pass.h"
+#include "statistics/round_statistics.h"
 
 /// The statistics of rounds.
 namespace verdane::bench {

@@ -6,7 +6,7 @@
 
 #include <cstdlib>
 
-#include "first_paint.h"
+#include "bench/first_paint.h"
 
 /// The least that a program with a window and a store can do: open the file, run a query, paint. With a
 /// word as second argument the window shows that word, which makes the toolkit load its glyphs.

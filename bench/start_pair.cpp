@@ -9,9 +9,9 @@
 
 #include <vector>
 
-#include "diaries.h"
-#include "pairs.h"
-#include "stopwatch.h"
+#include "bench/diaries.h"
+#include "bench/pairs.h"
+#include "bench/stopwatch.h"
 
 extern char** environ;
 

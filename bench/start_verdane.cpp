@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "first_paint.h"
-#include "start_up.h"
+#include "bench/first_paint.h"
+#include "shell/start_up.h"
 
 /// The program, until its main window is painted; with "settled", until its picture is painted, too, and
 /// the whole store is checked.

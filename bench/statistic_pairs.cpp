@@ -1,15 +1,15 @@
-#include "statistic_pairs.h"
+#include "bench/statistic_pairs.h"
 
 #include <QProgressBar>
 #include <QStringList>
 
 #include <benchmark/benchmark.h>
 
-#include "diaries.h"
-#include "full_diary.h"
-#include "pairs.h"
-#include "round_columns.h"
-#include "stopwatch.h"
+#include "bench/diaries.h"
+#include "bench/pairs.h"
+#include "bench/stopwatch.h"
+#include "records/round_columns.h"
+#include "tests/support/full_diary.h"
 
 namespace verdane::bench {
 

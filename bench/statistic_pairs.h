@@ -3,10 +3,10 @@
 #include <functional>
 #include <string>
 
-#include "plain_store.h"
-#include "run_controls.h"
-#include "selection_arguments.h"
-#include "selection_clauses.h"
+#include "bench/plain_store.h"
+#include "statistics/run_controls.h"
+#include "statistics/selection_arguments.h"
+#include "statistics/selection_clauses.h"
 
 /// A statistic of all rounds of a diary, up to the finished table.
 namespace verdane::bench {

@@ -1,13 +1,14 @@
-# Flags that every target shares, and the two words the folders are built with:
+# Flags that every target shares, and the functions that declare the targets of a folder:
 #
 #   verdane_library(NAME HEADERS SET LINKS ... SOURCES ...)   one folder of src/; SET is its set of
 #                                                             precompiled headers
-#   verdane_test(NAME LINKS ... SOURCES ...)      one test program
+#   verdane_test(NAME LINKS ... SOURCES ...)                  one test program
 #
-# A library hands out its own folder as an include directory and nothing else, so an include that
-# runs against the arrows does not compile.
+# The include root of the program is src/, so an include names its folder: "store/Recordset.h". Tests
+# and benchmarks include their own headers from the root of the project: "tests/support/hand.h".
 
 add_library(verdane_flags INTERFACE)
+target_include_directories(verdane_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(verdane_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
   # GCC 12 sees overlapping copies inside its own std::string once it optimises.
@@ -31,8 +32,9 @@ function(verdane_library name)
   cmake_parse_arguments(ARG "" "HEADERS" "LINKS;SOURCES" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   verdane_use_headers(${name} ${ARG_HEADERS})
-  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC verdane_flags ${ARG_LINKS})
+  list(JOIN ARG_LINKS " " links)
+  set_property(GLOBAL APPEND_STRING PROPERTY VERDANE_LIBRARIES "${name} ${links}\n")
 endfunction()
 
 # What every test runs under: a screen of 1920 x 1080 pixels that nobody sees, and no leak report, since the

@@ -1,4 +1,4 @@
-#include "Form.h"
+#include "controls/Form.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -10,13 +10,13 @@
 #include <algorithm>
 #include <vector>
 
-#include "failure_guard.h"
-#include "language.h"
-#include "leaving.h"
-#include "main_frame.h"
-#include "screen_room.h"
-#include "scrolled_content.h"
-#include "shortcuts.h"
+#include "base/language.h"
+#include "controls/failure_guard.h"
+#include "controls/leaving.h"
+#include "controls/main_frame.h"
+#include "controls/screen_room.h"
+#include "controls/scrolled_content.h"
+#include "controls/shortcuts.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "TabStrip.h"
+#include "controls/TabStrip.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "failure_guard.h"
+#include "controls/failure_guard.h"
 
 namespace verdane {
 

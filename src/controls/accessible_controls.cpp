@@ -1,4 +1,4 @@
-#include "accessible_controls.h"
+#include "controls/accessible_controls.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>

@@ -1,4 +1,4 @@
-#include "boxes.h"
+#include "controls/boxes.h"
 
 #include <QApplication>
 #include <QPointer>

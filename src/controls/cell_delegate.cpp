@@ -1,4 +1,4 @@
-#include "cell_delegate.h"
+#include "controls/cell_delegate.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "data_grid.h"
-#include "leaving.h"
+#include "controls/data_grid.h"
+#include "controls/leaving.h"
 
 namespace verdane {
 

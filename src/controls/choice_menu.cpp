@@ -1,4 +1,4 @@
-#include "choice_menu.h"
+#include "controls/choice_menu.h"
 
 #include <QKeyEvent>
 

@@ -6,7 +6,7 @@
 
 #include <map>
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 namespace verdane {
 

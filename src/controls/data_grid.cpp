@@ -1,4 +1,4 @@
-#include "data_grid.h"
+#include "controls/data_grid.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -8,12 +8,12 @@
 
 #include <utility>
 
-#include "boxes.h"
-#include "cell_delegate.h"
-#include "choice_menu.h"
-#include "failure_guard.h"
-#include "filled_header.h"
-#include "leaving.h"
+#include "controls/boxes.h"
+#include "controls/cell_delegate.h"
+#include "controls/choice_menu.h"
+#include "controls/failure_guard.h"
+#include "controls/filled_header.h"
+#include "controls/leaving.h"
 
 namespace verdane {
 

@@ -9,8 +9,8 @@
 #include <map>
 #include <set>
 
-#include "keys.h"
-#include "recordset_model.h"
+#include "controls/keys.h"
+#include "controls/recordset_model.h"
 
 namespace verdane {
 

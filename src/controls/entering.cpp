@@ -1,4 +1,4 @@
-#include "entering.h"
+#include "controls/entering.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -7,7 +7,7 @@
 
 #include <utility>
 
-#include "failure_guard.h"
+#include "controls/failure_guard.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "events.h"
+#include "controls/events.h"
 
 #include <QEvent>
 #include <QShortcut>

@@ -8,7 +8,7 @@
 #include <functional>
 #include <utility>
 
-#include "failure_guard.h"
+#include "controls/failure_guard.h"
 
 /// How the events of controls reach their routines: each through `run_event`.
 namespace verdane {

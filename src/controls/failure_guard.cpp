@@ -1,12 +1,12 @@
-#include "failure_guard.h"
+#include "controls/failure_guard.h"
 
 #include <QMessageBox>
 
 #include <cstdlib>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "filled_header.h"
+#include "controls/filled_header.h"
 
 #include <QPainter>
 #include <QStyleOptionHeader>

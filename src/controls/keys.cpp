@@ -1,4 +1,4 @@
-#include "keys.h"
+#include "controls/keys.h"
 
 #include <QEvent>
 #include <QInputMethodEvent>
@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "boxes.h"
-#include "failure_guard.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
 
 namespace verdane {
 

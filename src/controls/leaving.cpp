@@ -1,4 +1,4 @@
-#include "leaving.h"
+#include "controls/leaving.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "failure_guard.h"
+#include "controls/failure_guard.h"
 
 namespace verdane {
 

@@ -1,10 +1,10 @@
-#include "list_box.h"
+#include "controls/list_box.h"
 
 #include <QListWidget>
 
 #include <algorithm>
 
-#include "look.h"
+#include "controls/look.h"
 
 namespace verdane {
 

@@ -1,12 +1,12 @@
-#include "lock_box.h"
+#include "controls/lock_box.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 
-#include "boxes.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
 
 namespace verdane {
 

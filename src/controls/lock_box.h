@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "lock_wait.h"
+#include "store/lock_wait.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "look.h"
+#include "controls/look.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QPalette>
 
-#include "accessible_controls.h"
+#include "controls/accessible_controls.h"
 
 namespace verdane {
 

@@ -1,8 +1,8 @@
-#include "main_frame.h"
+#include "controls/main_frame.h"
 
 #include <QWidget>
 
-#include "screen_room.h"
+#include "controls/screen_room.h"
 
 namespace verdane {
 

@@ -4,7 +4,7 @@
 #include <QPointer>
 #include <QStringView>
 
-#include "Form.h"
+#include "controls/Form.h"
 
 namespace verdane {
 

@@ -1,11 +1,11 @@
-#include "recordset_model.h"
+#include "controls/recordset_model.h"
 
 #include <limits>
 #include <optional>
 #include <utility>
 
-#include "numbers.h"
-#include "text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace verdane {
 

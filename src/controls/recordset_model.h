@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-#include "Recordset.h"
+#include "store/Recordset.h"
 
 namespace verdane {
 

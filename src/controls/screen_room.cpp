@@ -1,4 +1,4 @@
-#include "screen_room.h"
+#include "controls/screen_room.h"
 
 #include <QScreen>
 #include <QStyle>
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "main_frame.h"
+#include "controls/main_frame.h"
 
 namespace verdane {
 

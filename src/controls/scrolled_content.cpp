@@ -1,4 +1,4 @@
-#include "scrolled_content.h"
+#include "controls/scrolled_content.h"
 
 #include <QApplication>
 #include <QKeyEvent>

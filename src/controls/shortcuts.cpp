@@ -1,4 +1,4 @@
-#include "shortcuts.h"
+#include "controls/shortcuts.h"
 
 #include <QAbstractButton>
 #include <QShortcut>
@@ -6,9 +6,9 @@
 
 #include <utility>
 
-#include "boxes.h"
-#include "failure_guard.h"
-#include "leaving.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "controls/leaving.h"
 
 namespace verdane {
 

@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "language.h"
+#include "base/language.h"
 
 class QAbstractButton;
 class QWidget;

@@ -1,11 +1,11 @@
-#include "toolkit_language.h"
+#include "controls/toolkit_language.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
-#include "language.h"
+#include "base/language.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "f_games.h"
+#include "management/f_games.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -6,12 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "events.h"
-#include "f_games_func.h"
-#include "list_box.h"
-#include "look.h"
-#include "scrolled_content.h"
-#include "shortcuts.h"
+#include "controls/events.h"
+#include "controls/list_box.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "controls/shortcuts.h"
+#include "management/f_games_func.h"
 
 namespace verdane {
 

@@ -1,18 +1,18 @@
-#include "f_games_func.h"
+#include "management/f_games_func.h"
 
 #include <QListWidget>
 
-#include "boxes.h"
-#include "close_if_open.h"
-#include "DataEnvironment1.h"
-#include "f_games.h"
-#include "failure_guard.h"
-#include "list_box.h"
-#include "main_frame.h"
-#include "round_key.h"
-#include "round_list.h"
-#include "Round_records.h"
-#include "round_removal.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "controls/list_box.h"
+#include "controls/main_frame.h"
+#include "management/f_games.h"
+#include "management/round_removal.h"
+#include "records/round_list.h"
+#include "round/Round_records.h"
+#include "scoring/round_key.h"
+#include "store/close_if_open.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_games_func {
 

@@ -1,7 +1,7 @@
-#include "round_removal.h"
+#include "management/round_removal.h"
 
-#include "DataEnvironment1.h"
-#include "round_columns.h"
+#include "records/round_columns.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

@@ -1,10 +1,10 @@
-#include "store_clean_up.h"
+#include "management/store_clean_up.h"
 
-#include "boxes.h"
-#include "checked_array.h"
-#include "counts.h"
-#include "DataEnvironment1.h"
-#include "round_columns.h"
+#include "base/checked_array.h"
+#include "base/counts.h"
+#include "controls/boxes.h"
+#include "records/round_columns.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

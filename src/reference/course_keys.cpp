@@ -1,6 +1,6 @@
-#include "course_keys.h"
+#include "reference/course_keys.h"
 
-#include "Recordset.h"
+#include "store/Recordset.h"
 
 namespace verdane {
 

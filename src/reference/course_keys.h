@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "checked_array.h"
+#include "base/checked_array.h"
 
 namespace verdane {
 

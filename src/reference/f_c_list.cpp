@@ -1,16 +1,16 @@
-#include "f_c_list.h"
+#include "reference/f_c_list.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 
-#include "events.h"
-#include "f_c_list_func.h"
-#include "list_box.h"
-#include "look.h"
-#include "scrolled_content.h"
-#include "shortcuts.h"
+#include "controls/events.h"
+#include "controls/list_box.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "controls/shortcuts.h"
+#include "reference/f_c_list_func.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "control_array.h"
-#include "Form.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
 
 class QLayout;
 class QListWidget;

@@ -1,16 +1,16 @@
-#include "f_c_list_func.h"
+#include "reference/f_c_list_func.h"
 
 #include <QListWidget>
 
-#include "boxes.h"
-#include "course_keys.h"
-#include "course_rows.h"
-#include "DataEnvironment1.h"
-#include "f_c_list.h"
-#include "f_courses.h"
-#include "main_frame.h"
-#include "round_list.h"
-#include "Verdane_tools.h"
+#include "controls/boxes.h"
+#include "controls/main_frame.h"
+#include "records/course_rows.h"
+#include "records/round_list.h"
+#include "reference/course_keys.h"
+#include "reference/f_c_list.h"
+#include "reference/f_courses.h"
+#include "scoring/Verdane_tools.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_c_list_func {
 

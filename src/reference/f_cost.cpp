@@ -1,4 +1,4 @@
-#include "f_cost.h"
+#include "reference/f_cost.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -8,12 +8,12 @@
 #include <array>
 #include <utility>
 
-#include "entering.h"
-#include "events.h"
-#include "f_cost_func.h"
-#include "language.h"
-#include "look.h"
-#include "scrolled_content.h"
+#include "base/language.h"
+#include "controls/entering.h"
+#include "controls/events.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "reference/f_cost_func.h"
 
 namespace verdane {
 

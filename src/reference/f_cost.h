@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "control_array.h"
-#include "Form.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
 
 class QGridLayout;
 class QLayout;

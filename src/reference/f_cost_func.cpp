@@ -1,15 +1,15 @@
-#include "f_cost_func.h"
+#include "reference/f_cost_func.h"
 
 #include <QLineEdit>
 
 #include <algorithm>
 
-#include "counts.h"
-#include "DataEnvironment1.h"
-#include "f_cost.h"
-#include "numbers.h"
-#include "round_columns.h"
-#include "text.h"
+#include "base/counts.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "records/round_columns.h"
+#include "reference/f_cost.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_cost_func {
 

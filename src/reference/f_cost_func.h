@@ -2,7 +2,7 @@
 
 #include <QChar>
 
-#include "keys.h"
+#include "controls/keys.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "f_courses.h"
+#include "reference/f_courses.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -8,13 +8,13 @@
 #include <algorithm>
 #include <vector>
 
-#include "entering.h"
-#include "events.h"
-#include "f_courses_boxes.h"
-#include "f_courses_func.h"
-#include "leaving.h"
-#include "main_frame.h"
-#include "shortcuts.h"
+#include "controls/entering.h"
+#include "controls/events.h"
+#include "controls/leaving.h"
+#include "controls/main_frame.h"
+#include "controls/shortcuts.h"
+#include "reference/f_courses_boxes.h"
+#include "reference/f_courses_func.h"
 
 namespace verdane {
 

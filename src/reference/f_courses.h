@@ -1,9 +1,9 @@
 #pragma once
 
-#include "control_array.h"
-#include "counts.h"
-#include "Form.h"
-#include "TabStrip.h"
+#include "base/counts.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
+#include "controls/TabStrip.h"
 
 class QComboBox;
 class QFrame;

@@ -1,12 +1,12 @@
-#include "f_courses_boxes.h"
+#include "reference/f_courses_boxes.h"
 
 #include <QLabel>
 #include <QLineEdit>
 
-#include "boxes.h"
-#include "f_courses.h"
-#include "numbers.h"
-#include "text.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "controls/boxes.h"
+#include "reference/f_courses.h"
 
 namespace verdane::f_courses_func {
 

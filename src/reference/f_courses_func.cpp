@@ -1,4 +1,4 @@
-#include "f_courses_func.h"
+#include "reference/f_courses_func.h"
 
 #include <QComboBox>
 #include <QFrame>
@@ -6,15 +6,15 @@
 
 #include <array>
 
-#include "boxes.h"
-#include "course_keys.h"
-#include "DataEnvironment1.h"
-#include "f_courses.h"
-#include "f_courses_boxes.h"
-#include "main_frame.h"
-#include "numbers.h"
-#include "round_columns.h"
-#include "text.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "controls/boxes.h"
+#include "controls/main_frame.h"
+#include "records/round_columns.h"
+#include "reference/course_keys.h"
+#include "reference/f_courses.h"
+#include "reference/f_courses_boxes.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_courses_func {
 

@@ -7,11 +7,11 @@
 
 #include <utility>
 
-#include "accessible_controls.h"
-#include "f_courses.h"
-#include "f_courses_boxes.h"
-#include "look.h"
-#include "scrolled_content.h"
+#include "controls/accessible_controls.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "reference/f_courses.h"
+#include "reference/f_courses_boxes.h"
 
 /// How the course editor is laid out: three pages under a row of tabs, and a foot with the totals and
 /// the buttons.

@@ -1,4 +1,4 @@
-#include "f_partners.h"
+#include "reference/f_partners.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -6,14 +6,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "control_array.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "events.h"
-#include "f_partners_func.h"
-#include "look.h"
-#include "main_frame.h"
-#include "scrolled_content.h"
+#include "controls/control_array.h"
+#include "controls/data_grid.h"
+#include "controls/events.h"
+#include "controls/look.h"
+#include "controls/main_frame.h"
+#include "controls/scrolled_content.h"
+#include "reference/f_partners_func.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

@@ -1,17 +1,17 @@
-#include "f_partners_func.h"
+#include "reference/f_partners_func.h"
 
 #include <QRandomGenerator>
 
 #include <optional>
 
-#include "boxes.h"
-#include "close_if_open.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "f_partners.h"
-#include "failure_guard.h"
-#include "main_frame.h"
-#include "Verdane_tools.h"
+#include "controls/boxes.h"
+#include "controls/data_grid.h"
+#include "controls/failure_guard.h"
+#include "controls/main_frame.h"
+#include "reference/f_partners.h"
+#include "scoring/Verdane_tools.h"
+#include "store/close_if_open.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_partners_func {
 

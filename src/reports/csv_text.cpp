@@ -1,6 +1,6 @@
-#include "csv_text.h"
+#include "reports/csv_text.h"
 
-#include "template_fill.h"
+#include "reports/template_fill.h"
 
 namespace verdane {
 

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QChar>
 
-#include "report_store.h"
+#include "reports/report_store.h"
 
 namespace verdane {
 

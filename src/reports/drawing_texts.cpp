@@ -1,4 +1,4 @@
-#include "drawing_texts.h"
+#include "reports/drawing_texts.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -7,7 +7,7 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-#include "layout_units.h"
+#include "reports/layout_units.h"
 
 namespace verdane {
 

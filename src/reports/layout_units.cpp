@@ -1,4 +1,4 @@
-#include "layout_units.h"
+#include "reports/layout_units.h"
 
 #include <QRegularExpression>
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "template_fill.h"
-#include "template_tags.h"
+#include "reports/template_fill.h"
+#include "reports/template_tags.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "open_elements.h"
+#include "reports/open_elements.h"
 
 #include <algorithm>
 #include <iterator>

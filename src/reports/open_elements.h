@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "page_markup.h"
+#include "reports/page_markup.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "page_bands.h"
+#include "reports/page_bands.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "page_cuts.h"
+#include "reports/page_cuts.h"
 
 class QTextDocument;
 

@@ -1,11 +1,11 @@
-#include "page_check.h"
+#include "reports/page_check.h"
 
-#include "layout_units.h"
-#include "open_elements.h"
-#include "page_limits.h"
-#include "page_markup.h"
-#include "page_values.h"
-#include "template_fill.h"
+#include "reports/layout_units.h"
+#include "reports/open_elements.h"
+#include "reports/page_limits.h"
+#include "reports/page_markup.h"
+#include "reports/page_values.h"
+#include "reports/template_fill.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
-#include "page_cuts.h"
+#include "reports/page_cuts.h"
 
-#include "page_bands.h"
-#include "page_limits.h"
+#include "reports/page_bands.h"
+#include "reports/page_limits.h"
 
 namespace verdane {
 

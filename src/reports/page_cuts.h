@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "template_failure.h"
+#include "reports/template_failure.h"
 
 class QTextDocument;
 

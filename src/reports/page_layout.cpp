@@ -1,13 +1,13 @@
-#include "page_layout.h"
+#include "reports/page_layout.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 
-#include "closed_document.h"
-#include "layout_units.h"
-#include "page_values.h"
+#include "reports/closed_document.h"
+#include "reports/layout_units.h"
+#include "reports/page_values.h"
 
 namespace verdane {
 

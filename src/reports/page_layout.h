@@ -6,9 +6,9 @@
 
 #include <memory>
 
-#include "page_cuts.h"
-#include "report_drawings.h"
-#include "template_file.h"
+#include "reports/page_cuts.h"
+#include "reports/report_drawings.h"
+#include "reports/template_file.h"
 
 class QPainter;
 

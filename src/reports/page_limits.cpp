@@ -1,4 +1,4 @@
-#include "page_limits.h"
+#include "reports/page_limits.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "page_markup.h"
+#include "reports/page_markup.h"
 
 #include <QRegularExpression>
 

@@ -1,12 +1,12 @@
-#include "page_values.h"
+#include "reports/page_values.h"
 
 #include <QRegularExpression>
 
 #include <cmath>
 
-#include "layout_units.h"
-#include "page_limits.h"
-#include "page_markup.h"
+#include "reports/layout_units.h"
+#include "reports/page_limits.h"
+#include "reports/page_markup.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "page_check.h"
+#include "reports/page_check.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "page_view.h"
+#include "reports/page_view.h"
 
 #include <QPainter>
 #include <QPaintEvent>
@@ -7,7 +7,7 @@
 
 #include <array>
 
-#include "report_document.h"
+#include "reports/report_document.h"
 
 namespace verdane {
 

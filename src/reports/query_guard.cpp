@@ -1,4 +1,4 @@
-#include "query_guard.h"
+#include "reports/query_guard.h"
 
 #include <QSqlDatabase>
 
@@ -7,9 +7,9 @@
 #include <map>
 #include <utility>
 
-#include "engine_handle.h"
-#include "query_trim.h"
-#include "report_tables.h"
+#include "reports/query_trim.h"
+#include "reports/report_tables.h"
+#include "store/engine_handle.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "query_text.h"
+#include "reports/query_text.h"
 
 #include <QRegularExpression>
 

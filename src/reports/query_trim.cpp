@@ -1,4 +1,4 @@
-#include "query_trim.h"
+#include "reports/query_trim.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,15 +1,15 @@
-#include "report_control.h"
+#include "reports/report_control.h"
 
 #include <QCoreApplication>
 
-#include "language.h"
-#include "page_view.h"
-#include "report_document.h"
-#include "report_preview.h"
-#include "report_stopped.h"
-#include "report_wait.h"
-#include "run_time_failure.h"
-#include "screen_room.h"
+#include "base/language.h"
+#include "base/run_time_failure.h"
+#include "controls/screen_room.h"
+#include "reports/page_view.h"
+#include "reports/report_document.h"
+#include "reports/report_preview.h"
+#include "reports/report_stopped.h"
+#include "reports/report_wait.h"
 
 namespace verdane {
 

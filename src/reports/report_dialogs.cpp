@@ -1,4 +1,4 @@
-#include "report_dialogs.h"
+#include "reports/report_dialogs.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,17 +1,17 @@
-#include "report_document.h"
+#include "reports/report_document.h"
 
 #include <QFileInfo>
 #include <QPainter>
 
-#include "csv_text.h"
-#include "layout_units.h"
-#include "page_check.h"
-#include "page_layout.h"
-#include "report_drawings.h"
-#include "report_files.h"
-#include "report_print.h"
-#include "report_store.h"
-#include "template_fill.h"
+#include "reports/csv_text.h"
+#include "reports/layout_units.h"
+#include "reports/page_check.h"
+#include "reports/page_layout.h"
+#include "reports/report_drawings.h"
+#include "reports/report_files.h"
+#include "reports/report_print.h"
+#include "reports/report_store.h"
+#include "reports/template_fill.h"
 
 namespace verdane {
 

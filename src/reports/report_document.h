@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "query_guard.h"
+#include "reports/query_guard.h"
 
 class QPainter;
 class QPrinter;

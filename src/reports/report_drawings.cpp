@@ -1,12 +1,12 @@
-#include "report_drawings.h"
+#include "reports/report_drawings.h"
 
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTextImageFormat>
 #include <QXmlStreamReader>
 
-#include "layout_units.h"
-#include "page_limits.h"
+#include "reports/layout_units.h"
+#include "reports/page_limits.h"
 
 namespace verdane {
 

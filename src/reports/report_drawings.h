@@ -7,8 +7,8 @@
 #include <memory>
 #include <vector>
 
-#include "drawing_texts.h"
-#include "template_failure.h"
+#include "reports/drawing_texts.h"
+#include "reports/template_failure.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "report_files.h"
+#include "reports/report_files.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -6,8 +6,8 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 
-#include "report_document.h"
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
+#include "reports/report_document.h"
 
 namespace verdane {
 

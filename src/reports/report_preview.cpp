@@ -1,4 +1,4 @@
-#include "report_preview.h"
+#include "reports/report_preview.h"
 
 #include <QAction>
 #include <QLabel>
@@ -9,12 +9,12 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "page_view.h"
-#include "report_dialogs.h"
-#include "report_document.h"
-#include "run_time_failure.h"
-#include "screen_room.h"
-#include "shortcuts.h"
+#include "base/run_time_failure.h"
+#include "controls/screen_room.h"
+#include "controls/shortcuts.h"
+#include "reports/page_view.h"
+#include "reports/report_dialogs.h"
+#include "reports/report_document.h"
 
 namespace verdane {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "language.h"
+#include "base/language.h"
 
 class QLabel;
 class QToolBar;

@@ -1,11 +1,11 @@
-#include "report_print.h"
+#include "reports/report_print.h"
 
 #include <QPainter>
 #include <QPrinter>
 
-#include "layout_units.h"
-#include "report_document.h"
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
+#include "reports/layout_units.h"
+#include "reports/report_document.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "report_store.h"
+#include "reports/report_store.h"
 
 #include <QRegularExpression>
 #include <QSqlError>
@@ -8,14 +8,14 @@
 
 #include <sqlite3.h>
 
-#include "engine_handle.h"
-#include "lock_box.h"
-#include "lock_wait.h"
-#include "page_limits.h"
-#include "query_text.h"
-#include "report_stopped.h"
-#include "report_tables.h"
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
+#include "controls/lock_box.h"
+#include "reports/page_limits.h"
+#include "reports/query_text.h"
+#include "reports/report_stopped.h"
+#include "reports/report_tables.h"
+#include "store/engine_handle.h"
+#include "store/lock_wait.h"
 
 namespace verdane {
 

@@ -9,8 +9,8 @@
 #include <memory>
 #include <vector>
 
-#include "query_guard.h"
-#include "template_file.h"
+#include "reports/query_guard.h"
+#include "reports/template_file.h"
 
 class QSqlQuery;
 

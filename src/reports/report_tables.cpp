@@ -1,4 +1,4 @@
-#include "report_tables.h"
+#include "reports/report_tables.h"
 
 #include <QFileInfo>
 #include <QSqlDatabase>
@@ -6,7 +6,7 @@
 #include <QUrl>
 #include <QVariant>
 
-#include "page_limits.h"
+#include "reports/page_limits.h"
 
 namespace verdane {
 

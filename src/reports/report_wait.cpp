@@ -1,4 +1,4 @@
-#include "report_wait.h"
+#include "reports/report_wait.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -8,8 +8,8 @@
 
 #include <utility>
 
-#include "boxes.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
 
 namespace verdane {
 

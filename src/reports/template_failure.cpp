@@ -1,6 +1,6 @@
-#include "template_failure.h"
+#include "reports/template_failure.h"
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 namespace verdane {
 

@@ -1,12 +1,12 @@
-#include "template_file.h"
+#include "reports/template_file.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSizeF>
 
-#include "page_limits.h"
-#include "template_head.h"
+#include "reports/page_limits.h"
+#include "reports/template_head.h"
 
 namespace verdane {
 

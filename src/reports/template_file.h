@@ -7,7 +7,7 @@
 
 #include <vector>
 
-#include "template_failure.h"
+#include "reports/template_failure.h"
 
 namespace verdane {
 

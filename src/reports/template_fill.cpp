@@ -1,9 +1,9 @@
-#include "template_fill.h"
+#include "reports/template_fill.h"
 
 #include <kainjow/mustache.hpp>
 
-#include "page_limits.h"
-#include "template_scope.h"
+#include "reports/page_limits.h"
+#include "reports/template_scope.h"
 
 namespace verdane {
 

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "report_store.h"
-#include "template_file.h"
+#include "reports/report_store.h"
+#include "reports/template_file.h"
 
 namespace verdane {
 

@@ -1,12 +1,12 @@
-#include "template_head.h"
+#include "reports/template_head.h"
 
 #include <QRectF>
 #include <QRegularExpression>
 
 #include <map>
 
-#include "page_limits.h"
-#include "query_text.h"
+#include "reports/page_limits.h"
+#include "reports/query_text.h"
 
 namespace verdane {
 

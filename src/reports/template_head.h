@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "template_file.h"
+#include "reports/template_file.h"
 
 namespace verdane {
 

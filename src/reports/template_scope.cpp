@@ -1,4 +1,4 @@
-#include "template_scope.h"
+#include "reports/template_scope.h"
 
 namespace verdane {
 

@@ -5,8 +5,8 @@
 #include <map>
 #include <vector>
 
-#include "report_store.h"
-#include "template_tags.h"
+#include "reports/report_store.h"
+#include "reports/template_tags.h"
 
 namespace verdane {
 

@@ -1,10 +1,10 @@
-#include "template_tags.h"
+#include "reports/template_tags.h"
 
 #include <QRegularExpression>
 
 #include <iterator>
 
-#include "page_limits.h"
+#include "reports/page_limits.h"
 
 namespace verdane {
 

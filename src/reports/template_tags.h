@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "template_file.h"
+#include "reports/template_file.h"
 
 namespace verdane {
 

@@ -1,18 +1,18 @@
-#include "Round_records.h"
+#include "round/Round_records.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "course_box.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "Main_module.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "round_panel.h"
-#include "round_parameters.h"
-#include "round_rows.h"
-#include "temperature_box.h"
+#include "base/Main_module.h"
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "round/course_box.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "round/round_panel.h"
+#include "round/round_parameters.h"
+#include "round/temperature_box.h"
+#include "store/DataEnvironment1.h"
 
 /// A hole between boxes and rows.
 namespace verdane {

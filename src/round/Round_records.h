@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "counts.h"
+#include "base/counts.h"
 
 namespace verdane {
 

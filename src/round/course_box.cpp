@@ -1,4 +1,4 @@
-#include "course_box.h"
+#include "round/course_box.h"
 
 #include <QAbstractItemView>
 #include <QScreen>
@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-#include "text.h"
-#include "Verdane_tools.h"
+#include "base/text.h"
+#include "scoring/Verdane_tools.h"
 
 namespace verdane {
 

@@ -1,18 +1,18 @@
-#include "detailed_page.h"
+#include "round/detailed_page.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "boxes.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "details_grid.h"
-#include "f_new_round.h"
-#include "f_new_round_layout.h"
-#include "main_frame.h"
-#include "round_boxes.h"
-#include "shot_entry.h"
-#include "shot_menus.h"
+#include "controls/boxes.h"
+#include "controls/data_grid.h"
+#include "controls/main_frame.h"
+#include "round/details_grid.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_layout.h"
+#include "round/round_boxes.h"
+#include "round/shot_entry.h"
+#include "round/shot_menus.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_new_round_func {
 

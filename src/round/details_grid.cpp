@@ -1,4 +1,4 @@
-#include "details_grid.h"
+#include "round/details_grid.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -6,16 +6,16 @@
 #include <algorithm>
 #include <array>
 
-#include "choice_menu.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "events.h"
-#include "f_new_round.h"
-#include "keys.h"
-#include "look.h"
-#include "main_frame.h"
-#include "shot_menus.h"
-#include "shot_words.h"
+#include "controls/choice_menu.h"
+#include "controls/data_grid.h"
+#include "controls/events.h"
+#include "controls/keys.h"
+#include "controls/look.h"
+#include "controls/main_frame.h"
+#include "round/f_new_round.h"
+#include "round/shot_menus.h"
+#include "scoring/shot_words.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

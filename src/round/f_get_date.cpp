@@ -1,4 +1,4 @@
-#include "f_get_date.h"
+#include "round/f_get_date.h"
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
@@ -7,12 +7,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "accessible_controls.h"
-#include "control_array.h"
-#include "events.h"
-#include "f_get_date_func.h"
-#include "look.h"
-#include "scrolled_content.h"
+#include "controls/accessible_controls.h"
+#include "controls/control_array.h"
+#include "controls/events.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "round/f_get_date_func.h"
 
 namespace verdane {
 

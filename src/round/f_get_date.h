@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Form.h"
+#include "controls/Form.h"
 
 class QCalendarWidget;
 class QLayout;

@@ -1,18 +1,18 @@
-#include "f_get_date_func.h"
+#include "round/f_get_date_func.h"
 
 #include <QCalendarWidget>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "f_get_date.h"
-#include "f_new_round.h"
-#include "language.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "Verdane_tools.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "records/round_columns.h"
+#include "round/f_get_date.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "scoring/Verdane_tools.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_get_date_func {
 

@@ -1,21 +1,21 @@
-#include "f_new_round.h"
+#include "round/f_new_round.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "course_box.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "detailed_page.h"
-#include "events.h"
-#include "f_new_round_func.h"
-#include "f_new_round_layout.h"
-#include "page_keys.h"
-#include "quick_entry.h"
-#include "round_boxes.h"
-#include "round_putts.h"
-#include "shot_entry.h"
+#include "controls/data_grid.h"
+#include "controls/events.h"
+#include "round/course_box.h"
+#include "round/detailed_page.h"
+#include "round/f_new_round_func.h"
+#include "round/f_new_round_layout.h"
+#include "round/page_keys.h"
+#include "round/quick_entry.h"
+#include "round/round_boxes.h"
+#include "round/round_putts.h"
+#include "round/shot_entry.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

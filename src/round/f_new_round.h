@@ -2,12 +2,12 @@
 
 #include <QString>
 
-#include "control_array.h"
-#include "counts.h"
-#include "Form.h"
-#include "hole_boxes.h"
-#include "report_control.h"
-#include "TabStrip.h"
+#include "base/counts.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
+#include "controls/TabStrip.h"
+#include "records/hole_boxes.h"
+#include "reports/report_control.h"
 
 class QAction;
 class QBoxLayout;

@@ -4,14 +4,14 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "accessible_controls.h"
-#include "data_grid.h"
-#include "details_grid.h"
-#include "f_new_round.h"
-#include "f_new_round_layout.h"
-#include "look.h"
-#include "round_boxes.h"
-#include "shortcuts.h"
+#include "controls/accessible_controls.h"
+#include "controls/data_grid.h"
+#include "controls/look.h"
+#include "controls/shortcuts.h"
+#include "round/details_grid.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_layout.h"
+#include "round/round_boxes.h"
 
 /// The detailed page: a hole told shot by shot.
 namespace verdane {

@@ -1,28 +1,28 @@
-#include "f_new_round_func.h"
+#include "round/f_new_round_func.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "boxes.h"
-#include "close_if_open.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "detailed_page.h"
-#include "f_cost.h"
-#include "f_get_date.h"
-#include "f_new_round.h"
-#include "f_new_round_layout.h"
-#include "failure_guard.h"
-#include "joined_commits.h"
-#include "main_frame.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "round_parameters.h"
-#include "Round_records.h"
-#include "shot_entry.h"
-#include "shot_rows.h"
+#include "controls/boxes.h"
+#include "controls/data_grid.h"
+#include "controls/failure_guard.h"
+#include "controls/main_frame.h"
+#include "records/round_columns.h"
+#include "reference/f_cost.h"
+#include "round/detailed_page.h"
+#include "round/f_get_date.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_layout.h"
+#include "round/round_boxes.h"
+#include "round/round_parameters.h"
+#include "round/Round_records.h"
+#include "round/shot_entry.h"
+#include "round/shot_rows.h"
+#include "store/close_if_open.h"
+#include "store/DataEnvironment1.h"
+#include "store/joined_commits.h"
 
 namespace verdane::f_new_round_func {
 

@@ -4,10 +4,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "f_new_round.h"
-#include "f_new_round_layout.h"
-#include "look.h"
-#include "round_boxes.h"
+#include "controls/look.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_layout.h"
+#include "round/round_boxes.h"
 
 /// The line below the hole tabs: which hole, its card, when the round was teed off.
 namespace verdane {

@@ -3,19 +3,19 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "course_box.h"
-#include "data_grid.h"
-#include "detailed_page.h"
-#include "f_new_round.h"
-#include "f_new_round_func.h"
-#include "keys.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "round_panel.h"
-#include "Round_records.h"
-#include "round_rows.h"
-#include "shot_entry.h"
-#include "shot_menus.h"
+#include "controls/data_grid.h"
+#include "controls/keys.h"
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "round/course_box.h"
+#include "round/detailed_page.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_func.h"
+#include "round/round_boxes.h"
+#include "round/round_panel.h"
+#include "round/Round_records.h"
+#include "round/shot_entry.h"
+#include "round/shot_menus.h"
 
 /// From hole to hole, and from course to course.
 namespace verdane::f_new_round_func {

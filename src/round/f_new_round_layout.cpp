@@ -1,4 +1,4 @@
-#include "f_new_round_layout.h"
+#include "round/f_new_round_layout.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -10,16 +10,16 @@
 
 #include <vector>
 
-#include "accessible_controls.h"
-#include "course_box.h"
-#include "data_grid.h"
-#include "f_new_round.h"
-#include "look.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "scrolled_content.h"
-#include "steady_wheel.h"
-#include "temperature_box.h"
+#include "controls/accessible_controls.h"
+#include "controls/data_grid.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "records/round_columns.h"
+#include "round/course_box.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "round/steady_wheel.h"
+#include "round/temperature_box.h"
 
 namespace verdane {
 

@@ -9,12 +9,12 @@
 
 #include <initializer_list>
 
-#include "course_box.h"
-#include "f_new_round.h"
-#include "f_new_round_layout.h"
-#include "look.h"
-#include "round_boxes.h"
-#include "temperature_box.h"
+#include "controls/look.h"
+#include "round/course_box.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_layout.h"
+#include "round/round_boxes.h"
+#include "round/temperature_box.h"
 
 /// What belongs to the round as a whole, and its totals.
 namespace verdane {

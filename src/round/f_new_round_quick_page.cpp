@@ -4,10 +4,10 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "f_new_round.h"
-#include "f_new_round_layout.h"
-#include "look.h"
-#include "round_boxes.h"
+#include "controls/look.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_layout.h"
+#include "round/round_boxes.h"
 
 /// The quick page: eleven boxes in three groups.
 namespace verdane {

@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <array>
 
-#include "f_new_round.h"
-#include "f_new_round_layout.h"
-#include "hole_classes.h"
-#include "look.h"
+#include "controls/look.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_layout.h"
+#include "scoring/hole_classes.h"
 
 /// The statistics of the hole on screen: its twenty-four classes, in groups that belong together.
 namespace verdane {

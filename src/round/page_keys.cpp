@@ -1,13 +1,13 @@
-#include "page_keys.h"
+#include "round/page_keys.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 
-#include "boxes.h"
-#include "detailed_page.h"
-#include "f_new_round.h"
-#include "failure_guard.h"
-#include "shortcuts.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "controls/shortcuts.h"
+#include "round/detailed_page.h"
+#include "round/f_new_round.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "quick_entry.h"
+#include "round/quick_entry.h"
 
 #include <QEvent>
 #include <QLineEdit>
@@ -6,12 +6,12 @@
 
 #include <vector>
 
-#include "entering.h"
-#include "events.h"
-#include "f_new_round.h"
-#include "keys.h"
-#include "round_boxes.h"
-#include "round_panel.h"
+#include "controls/entering.h"
+#include "controls/events.h"
+#include "controls/keys.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "round/round_panel.h"
 
 namespace verdane::quick_entry {
 

@@ -2,20 +2,20 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "boxes.h"
-#include "close_if_open.h"
-#include "course_box.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "language.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "round_key.h"
-#include "round_parameters.h"
-#include "Round_records.h"
-#include "round_rows.h"
-#include "shot_rows.h"
-#include "temperature_box.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "round/course_box.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "round/round_parameters.h"
+#include "round/Round_records.h"
+#include "round/shot_rows.h"
+#include "round/temperature_box.h"
+#include "scoring/round_key.h"
+#include "store/close_if_open.h"
+#include "store/DataEnvironment1.h"
 
 /// How a round, new or stored, comes into the window.
 namespace verdane {

@@ -1,12 +1,12 @@
-#include "round_panel.h"
+#include "round/round_panel.h"
 
 #include <QLabel>
 #include <QLineEdit>
 
-#include "f_new_round.h"
-#include "hole_classes.h"
-#include "round_boxes.h"
-#include "Round_functions.h"
+#include "records/Round_functions.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "scoring/hole_classes.h"
 
 namespace verdane {
 

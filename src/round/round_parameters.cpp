@@ -1,19 +1,19 @@
-#include "round_parameters.h"
+#include "round/round_parameters.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSignalBlocker>
 
-#include "close_if_open.h"
-#include "course_box.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "partner_columns.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "round_rows.h"
-#include "weather_words.h"
+#include "records/partner_columns.h"
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "round/course_box.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "scoring/weather_words.h"
+#include "store/close_if_open.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

@@ -1,14 +1,14 @@
-#include "round_putts.h"
+#include "round/round_putts.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "course_box.h"
-#include "detailed_page.h"
-#include "f_new_round.h"
-#include "round_boxes.h"
-#include "round_putt_report.h"
-#include "shot_entry.h"
+#include "round/course_box.h"
+#include "round/detailed_page.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "round/shot_entry.h"
+#include "statistics/putt_statistics.h"
 
 namespace verdane::f_new_round_func {
 
@@ -23,7 +23,7 @@ void report_putts(f_new_round& window)
                           u' ' + window.cmb_courses->course();
     const QString weather = window.caption(u"Conditions atmosphériques : ", u"Weather conditions : ") +
                             window.conditions->currentText();
-    launch_round_putt_report(window.cr2, round, weather);
+    Statistics::one_round_putt_report(window.cr2, round, weather);
 }
 
 }  // namespace verdane::f_new_round_func

@@ -1,4 +1,4 @@
-#include "shot_entry.h"
+#include "round/shot_entry.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -6,18 +6,18 @@
 #include <algorithm>
 #include <array>
 
-#include "boxes.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "failure_guard.h"
-#include "hole_boxes.h"
-#include "numbers.h"
-#include "round_boxes.h"
-#include "round_columns.h"
-#include "round_rows.h"
-#include "shot_rows.h"
-#include "shot_words.h"
+#include "base/numbers.h"
+#include "controls/boxes.h"
+#include "controls/data_grid.h"
+#include "controls/failure_guard.h"
+#include "records/hole_boxes.h"
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "round/shot_rows.h"
+#include "scoring/shot_words.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_new_round_func {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "counts.h"
+#include "base/counts.h"
 
 namespace verdane {
 class f_new_round;

@@ -1,20 +1,20 @@
-#include "shot_menus.h"
+#include "round/shot_menus.h"
 
 #include <QAction>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "choice_menu.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "failure_guard.h"
-#include "hole_boxes.h"
-#include "Main_module.h"
-#include "round_boxes.h"
-#include "shot_entry.h"
-#include "shot_rows.h"
-#include "shot_words.h"
+#include "base/Main_module.h"
+#include "controls/choice_menu.h"
+#include "controls/data_grid.h"
+#include "controls/failure_guard.h"
+#include "records/hole_boxes.h"
+#include "round/f_new_round.h"
+#include "round/round_boxes.h"
+#include "round/shot_entry.h"
+#include "round/shot_rows.h"
+#include "scoring/shot_words.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_new_round_func {
 

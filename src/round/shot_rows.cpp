@@ -1,8 +1,8 @@
-#include "shot_rows.h"
+#include "round/shot_rows.h"
 
-#include "DataEnvironment1.h"
-#include "text.h"
-#include "Verdane_tools.h"
+#include "base/text.h"
+#include "scoring/Verdane_tools.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::shot_rows {
 

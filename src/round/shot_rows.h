@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "hole_shots.h"
+#include "scoring/hole_shots.h"
 
 /// Where the shots of the hole live: the rows of `rsStat_rounds`.
 namespace verdane::shot_rows {

@@ -1,4 +1,4 @@
-#include "steady_wheel.h"
+#include "round/steady_wheel.h"
 
 #include <QEvent>
 #include <QWidget>

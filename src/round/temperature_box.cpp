@@ -1,4 +1,4 @@
-#include "temperature_box.h"
+#include "round/temperature_box.h"
 
 #include <QLineEdit>
 #include <QRegularExpression>

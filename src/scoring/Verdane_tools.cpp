@@ -1,10 +1,10 @@
-#include "Verdane_tools.h"
+#include "scoring/Verdane_tools.h"
 
 #include <array>
 
-#include "language.h"
-#include "Main_module.h"
-#include "text.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "base/text.h"
 
 namespace verdane::Verdane_tools {
 

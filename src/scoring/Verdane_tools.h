@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringView>
 
-#include "counts.h"
-#include "round_key.h"
+#include "base/counts.h"
+#include "scoring/round_key.h"
 
 /// The small text functions that windows and statistics share; those of the round key stand in
 /// `round_key.h`.

@@ -1,4 +1,4 @@
-#include "hole_arithmetic.h"
+#include "scoring/hole_arithmetic.h"
 
 namespace verdane {
 

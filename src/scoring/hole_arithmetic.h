@@ -1,6 +1,6 @@
 #pragma once
 
-#include "counts.h"
+#include "base/counts.h"
 
 /// What one hole counts. Everything here is pure: figures and a par in, a count out. A sum beyond 16
 /// bits fails with `overflow`.

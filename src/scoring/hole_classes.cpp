@@ -1,6 +1,6 @@
-#include "hole_classes.h"
+#include "scoring/hole_classes.h"
 
-#include "checked_array.h"
+#include "base/checked_array.h"
 
 namespace verdane {
 

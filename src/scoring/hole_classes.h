@@ -4,8 +4,8 @@
 
 #include <array>
 
-#include "hole_arithmetic.h"
-#include "language.h"
+#include "base/language.h"
+#include "scoring/hole_arithmetic.h"
 
 /// The twenty-four classes of a hole. They overlap by design: a hole in one on a par 3 is an eagle
 /// too.

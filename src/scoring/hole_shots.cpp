@@ -1,8 +1,8 @@
-#include "hole_shots.h"
+#include "scoring/hole_shots.h"
 
-#include "language.h"
-#include "numbers.h"
-#include "shot_words.h"
+#include "base/language.h"
+#include "base/numbers.h"
+#include "scoring/shot_words.h"
 
 namespace verdane {
 

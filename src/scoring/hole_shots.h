@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
-#include "checked_array.h"
-#include "counts.h"
+#include "base/checked_array.h"
+#include "base/counts.h"
 
 /// What the shots of one hole decide, apart from where their rows live. A hole is its rows in the order
 /// of play. Distances are whole numbers, in the unit of their row.

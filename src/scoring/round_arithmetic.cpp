@@ -1,10 +1,10 @@
-#include "round_arithmetic.h"
+#include "scoring/round_arithmetic.h"
 
 #include <array>
 #include <cmath>
 
-#include "numbers.h"
-#include "text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 namespace verdane {
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "counts.h"
+#include "base/counts.h"
 
 /// What a round counts, and what many rounds make of a player's handicap. Everything here is pure.
 namespace verdane {

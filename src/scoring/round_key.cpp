@@ -1,6 +1,6 @@
-#include "round_key.h"
+#include "scoring/round_key.h"
 
-#include "text.h"
+#include "base/text.h"
 
 namespace verdane::Verdane_tools {
 

@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "language.h"
+#include "base/language.h"
 
 /// The codes of a shot and the words beside them. A row's words are those of the language in which it
 /// was entered, so one hole may hold both languages side by side.

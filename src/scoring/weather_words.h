@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "language.h"
+#include "base/language.h"
 
 namespace verdane {
 

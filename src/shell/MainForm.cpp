@@ -1,4 +1,4 @@
-#include "MainForm.h"
+#include "shell/MainForm.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -7,12 +7,12 @@
 
 #include <memory>
 
-#include "after_first_paint.h"
-#include "control_array.h"
-#include "failure_guard.h"
-#include "language.h"
-#include "language_value.h"
-#include "screen_room.h"
+#include "base/language.h"
+#include "controls/control_array.h"
+#include "controls/failure_guard.h"
+#include "controls/screen_room.h"
+#include "shell/after_first_paint.h"
+#include "shell/language_value.h"
 
 namespace verdane {
 

@@ -6,10 +6,10 @@
 
 #include <map>
 
-#include "main_frame.h"
-#include "main_menu.h"
-#include "picture_pane.h"
-#include "shortcuts.h"
+#include "controls/main_frame.h"
+#include "controls/shortcuts.h"
+#include "shell/main_menu.h"
+#include "shell/picture_pane.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "after_first_paint.h"
+#include "shell/after_first_paint.h"
 
 #include <QEvent>
 #include <QTimer>
@@ -6,7 +6,7 @@
 
 #include <utility>
 
-#include "failure_guard.h"
+#include "controls/failure_guard.h"
 
 namespace verdane {
 

@@ -1,14 +1,14 @@
-#include "f_about.h"
+#include "shell/f_about.h"
 
 #include <QHBoxLayout>
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
-#include "events.h"
-#include "look.h"
-#include "main_frame.h"
-#include "scrolled_content.h"
-#include "system_information.h"
+#include "controls/events.h"
+#include "controls/look.h"
+#include "controls/main_frame.h"
+#include "controls/scrolled_content.h"
+#include "shell/system_information.h"
 
 namespace verdane {
 

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "control_array.h"
-#include "Form.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
 
 namespace verdane {
 

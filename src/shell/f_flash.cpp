@@ -1,7 +1,7 @@
-#include "f_flash.h"
+#include "shell/f_flash.h"
 
-#include "control_array.h"
-#include "main_frame.h"
+#include "controls/control_array.h"
+#include "controls/main_frame.h"
 
 namespace verdane {
 

@@ -2,7 +2,7 @@
 
 #include <QSvgWidget>
 
-#include "Form.h"
+#include "controls/Form.h"
 
 namespace verdane {
 

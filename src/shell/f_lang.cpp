@@ -1,15 +1,15 @@
-#include "f_lang.h"
+#include "shell/f_lang.h"
 
 #include <QLabel>
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
-#include "DataEnvironment1.h"
-#include "events.h"
-#include "language.h"
-#include "language_value.h"
-#include "look.h"
-#include "scrolled_content.h"
+#include "base/language.h"
+#include "controls/events.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "shell/language_value.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

@@ -2,8 +2,8 @@
 
 #include <QPushButton>
 
-#include "control_array.h"
-#include "Form.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
 
 namespace verdane {
 

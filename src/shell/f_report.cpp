@@ -1,4 +1,4 @@
-#include "f_report.h"
+#include "shell/f_report.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Form.h"
-#include "report_control.h"
+#include "controls/Form.h"
+#include "reports/report_control.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "start_up.h"
+#include "shell/start_up.h"
 
 int main(int argc, char** argv)
 {

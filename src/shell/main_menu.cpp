@@ -1,6 +1,6 @@
-#include "main_menu.h"
+#include "shell/main_menu.h"
 
-#include "main_commands.h"
+#include "shell/main_commands.h"
 
 namespace verdane {
 

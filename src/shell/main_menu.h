@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "language.h"
+#include "base/language.h"
 
 /// The menu and the toolbar of the main window, as tables.
 namespace verdane {

@@ -1,4 +1,4 @@
-#include "picture_pane.h"
+#include "shell/picture_pane.h"
 
 #include <QPainter>
 #include <QTimer>

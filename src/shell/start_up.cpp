@@ -1,25 +1,23 @@
-#include "start_up.h"
+#include "shell/start_up.h"
 
 #include <QApplication>
 #include <QIcon>
 
-#include "accessible_controls.h"
-#include "after_first_paint.h"
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "f_lang.h"
-#include "failure_guard.h"
-#include "language.h"
-#include "language_value.h"
-#include "lock_box.h"
-#include "look.h"
-#include "Main_module.h"
-#include "MainForm.h"
-#include "oversized_writes.h"
-#include "putt_statistics.h"
-#include "report_store.h"
-#include "round_putt_report.h"
-#include "toolkit_language.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "base/oversized_writes.h"
+#include "controls/accessible_controls.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "controls/lock_box.h"
+#include "controls/look.h"
+#include "controls/toolkit_language.h"
+#include "reports/report_store.h"
+#include "shell/after_first_paint.h"
+#include "shell/f_lang.h"
+#include "shell/language_value.h"
+#include "shell/MainForm.h"
+#include "store/DataEnvironment1.h"
 
 /// The pictures stand in a library, so the linker would leave them out: nothing else asks for them.
 /// The toolkit wants this said outside every namespace.
@@ -92,7 +90,6 @@ start_result Main()
     connection.waiting().set_notice_maker(make_lock_box);
     connection.Open(Connection1::default_path(), soundness_check::later);
     set_report_store(connection.path());
-    set_round_putt_report(Statistics::one_round_putt_report);
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
     const start_result result = settle_language(rssettings);

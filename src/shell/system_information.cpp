@@ -1,10 +1,10 @@
-#include "system_information.h"
+#include "shell/system_information.h"
 
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
 
-#include "boxes.h"
+#include "controls/boxes.h"
 
 namespace verdane {
 

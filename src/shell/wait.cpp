@@ -1,9 +1,9 @@
-#include "wait.h"
+#include "shell/wait.h"
 
 #include <QVBoxLayout>
 
-#include "control_array.h"
-#include "look.h"
+#include "controls/control_array.h"
+#include "controls/look.h"
 
 namespace verdane {
 

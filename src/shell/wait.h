@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "Form.h"
+#include "controls/Form.h"
 
 namespace verdane {
 

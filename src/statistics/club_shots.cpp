@@ -1,7 +1,7 @@
-#include "club_shots.h"
+#include "statistics/club_shots.h"
 
-#include "DataEnvironment1.h"
-#include "shot_words.h"
+#include "scoring/shot_words.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::Statistics {
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "club_sums.h"
-#include "selection_arguments.h"
+#include "statistics/club_sums.h"
+#include "statistics/selection_arguments.h"
 
 /// Reads the shots of a selection and adds them up club by club.
 namespace verdane::Statistics {

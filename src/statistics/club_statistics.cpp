@@ -1,12 +1,12 @@
-#include "club_statistics.h"
+#include "statistics/club_statistics.h"
 
-#include "boxes.h"
-#include "club_shots.h"
-#include "club_table.h"
-#include "DataEnvironment1.h"
-#include "language.h"
-#include "relaxed_commits.h"
-#include "report_control.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "reports/report_control.h"
+#include "statistics/club_shots.h"
+#include "statistics/club_table.h"
+#include "store/DataEnvironment1.h"
+#include "store/relaxed_commits.h"
 
 namespace verdane::Statistics {
 

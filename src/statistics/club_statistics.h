@@ -1,7 +1,7 @@
 #pragma once
 
-#include "run_controls.h"
-#include "selection_arguments.h"
+#include "statistics/run_controls.h"
+#include "statistics/selection_arguments.h"
 
 /// The club statistics: from the shots of a selection to the report table `stat_sticks`.
 namespace verdane::Statistics {

@@ -1,6 +1,6 @@
-#include "club_sums.h"
+#include "statistics/club_sums.h"
 
-#include "numbers.h"
+#include "base/numbers.h"
 
 namespace verdane {
 

@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "checked_array.h"
-#include "counts.h"
-#include "shot_words.h"
+#include "base/checked_array.h"
+#include "base/counts.h"
+#include "scoring/shot_words.h"
 
 /// The sums of the club statistics over shots. Pure functions.
 namespace verdane {

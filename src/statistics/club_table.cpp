@@ -1,8 +1,8 @@
-#include "club_table.h"
+#include "statistics/club_table.h"
 
-#include "DataEnvironment1.h"
-#include "report_texts.h"
-#include "round_key.h"
+#include "scoring/round_key.h"
+#include "statistics/report_texts.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::club_table {
 

@@ -4,8 +4,8 @@
 
 #include <array>
 
-#include "club_sums.h"
-#include "selection_arguments.h"
+#include "statistics/club_sums.h"
+#include "statistics/selection_arguments.h"
 
 /// Writes the report table `stat_sticks` through `rsstat_sticks`: one row for each club, in table
 /// order.

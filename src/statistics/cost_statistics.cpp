@@ -1,11 +1,11 @@
-#include "cost_statistics.h"
+#include "statistics/cost_statistics.h"
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "language.h"
-#include "relaxed_commits.h"
-#include "report_control.h"
-#include "single_commit.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "reports/report_control.h"
+#include "store/DataEnvironment1.h"
+#include "store/relaxed_commits.h"
+#include "store/single_commit.h"
 
 namespace verdane::Statistics {
 

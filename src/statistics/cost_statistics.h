@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "run_controls.h"
-#include "selection_arguments.h"
+#include "statistics/run_controls.h"
+#include "statistics/selection_arguments.h"
 
 /// The cost statistics: copy the costs of the selected rounds to the report table `r_cost`. The report
 /// template adds them up.

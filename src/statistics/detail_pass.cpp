@@ -1,6 +1,6 @@
-#include "detail_pass.h"
+#include "statistics/detail_pass.h"
 
-#include "DataEnvironment1.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::Statistics {
 

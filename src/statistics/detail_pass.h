@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "selection_arguments.h"
+#include "statistics/selection_arguments.h"
 
 namespace verdane::Statistics {
 

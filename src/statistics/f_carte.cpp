@@ -1,4 +1,4 @@
-#include "f_carte.h"
+#include "statistics/f_carte.h"
 
 #include <QFontDatabase>
 #include <QGroupBox>
@@ -8,11 +8,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "events.h"
-#include "f_carte_func.h"
-#include "list_box.h"
-#include "look.h"
-#include "scrolled_content.h"
+#include "controls/events.h"
+#include "controls/list_box.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "statistics/f_carte_func.h"
 
 namespace verdane {
 

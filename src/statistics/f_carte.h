@@ -1,8 +1,8 @@
 #pragma once
 
-#include "control_array.h"
-#include "Form.h"
-#include "report_control.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
+#include "reports/report_control.h"
 
 class QBoxLayout;
 class QListWidget;

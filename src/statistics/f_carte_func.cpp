@@ -1,13 +1,13 @@
-#include "f_carte_func.h"
+#include "statistics/f_carte_func.h"
 
 #include <QListWidget>
 
-#include "course_rows.h"
-#include "DataEnvironment1.h"
-#include "f_carte.h"
-#include "main_frame.h"
-#include "round_columns.h"
-#include "Verdane_tools.h"
+#include "controls/main_frame.h"
+#include "records/course_rows.h"
+#include "records/round_columns.h"
+#include "scoring/Verdane_tools.h"
+#include "statistics/f_carte.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_carte_func {
 

@@ -1,4 +1,4 @@
-#include "f_date_range.h"
+#include "statistics/f_date_range.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -11,14 +11,14 @@
 
 #include <array>
 
-#include "accessible_controls.h"
-#include "events.h"
-#include "f_date_range_func.h"
-#include "language.h"
-#include "list_box.h"
-#include "look.h"
-#include "scrolled_content.h"
-#include "selection_lists.h"
+#include "base/language.h"
+#include "controls/accessible_controls.h"
+#include "controls/events.h"
+#include "controls/list_box.h"
+#include "controls/look.h"
+#include "controls/scrolled_content.h"
+#include "statistics/f_date_range_func.h"
+#include "statistics/selection_lists.h"
 
 namespace verdane {
 

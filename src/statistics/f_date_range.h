@@ -2,10 +2,10 @@
 
 #include <QProgressBar>
 
-#include "control_array.h"
-#include "counts.h"
-#include "Form.h"
-#include "report_control.h"
+#include "base/counts.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
+#include "reports/report_control.h"
 
 class QComboBox;
 class QLabel;

@@ -1,22 +1,22 @@
-#include "f_date_range_func.h"
+#include "statistics/f_date_range_func.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
 
-#include "boxes.h"
-#include "club_statistics.h"
-#include "cost_statistics.h"
-#include "DataEnvironment1.h"
-#include "f_date_range.h"
-#include "list_box.h"
-#include "main_frame.h"
-#include "putt_statistics.h"
-#include "round_list.h"
-#include "round_statistics.h"
-#include "selection_choice.h"
-#include "selection_clauses.h"
-#include "selection_lists.h"
+#include "controls/boxes.h"
+#include "controls/list_box.h"
+#include "controls/main_frame.h"
+#include "records/round_list.h"
+#include "statistics/club_statistics.h"
+#include "statistics/cost_statistics.h"
+#include "statistics/f_date_range.h"
+#include "statistics/putt_statistics.h"
+#include "statistics/round_statistics.h"
+#include "statistics/selection_choice.h"
+#include "statistics/selection_clauses.h"
+#include "statistics/selection_lists.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_date_range_func {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "selection_arguments.h"
+#include "statistics/selection_arguments.h"
 
 namespace verdane {
 class f_date_range;

@@ -1,4 +1,4 @@
-#include "f_sticks.h"
+#include "statistics/f_sticks.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -13,14 +13,14 @@
 
 #include <array>
 
-#include "accessible_controls.h"
-#include "events.h"
-#include "f_sticks_func.h"
-#include "list_box.h"
-#include "look.h"
-#include "main_frame.h"
-#include "scrolled_content.h"
-#include "selection_lists.h"
+#include "controls/accessible_controls.h"
+#include "controls/events.h"
+#include "controls/list_box.h"
+#include "controls/look.h"
+#include "controls/main_frame.h"
+#include "controls/scrolled_content.h"
+#include "statistics/f_sticks_func.h"
+#include "statistics/selection_lists.h"
 
 namespace verdane {
 

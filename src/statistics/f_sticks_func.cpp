@@ -1,4 +1,4 @@
-#include "f_sticks_func.h"
+#include "statistics/f_sticks_func.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -8,23 +8,23 @@
 
 #include <cmath>
 
-#include "boxes.h"
-#include "club_statistics.h"
-#include "DataEnvironment1.h"
-#include "f_sticks.h"
-#include "list_box.h"
-#include "main_frame.h"
-#include "Main_module.h"
-#include "numbers.h"
-#include "round_columns.h"
-#include "round_key.h"
-#include "round_list.h"
-#include "round_rows.h"
-#include "screen_room.h"
-#include "selection_choice.h"
-#include "selection_clauses.h"
-#include "selection_lists.h"
-#include "text.h"
+#include "base/Main_module.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "controls/boxes.h"
+#include "controls/list_box.h"
+#include "controls/main_frame.h"
+#include "controls/screen_room.h"
+#include "records/round_columns.h"
+#include "records/round_list.h"
+#include "records/round_rows.h"
+#include "scoring/round_key.h"
+#include "statistics/club_statistics.h"
+#include "statistics/f_sticks.h"
+#include "statistics/selection_choice.h"
+#include "statistics/selection_clauses.h"
+#include "statistics/selection_lists.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::f_sticks_func {
 

@@ -1,10 +1,10 @@
-#include "handicap.h"
+#include "statistics/handicap.h"
 
-#include "checked_array.h"
-#include "DataEnvironment1.h"
-#include "Main_module.h"
-#include "round_arithmetic.h"
-#include "Round_functions.h"
+#include "base/checked_array.h"
+#include "base/Main_module.h"
+#include "records/Round_functions.h"
+#include "scoring/round_arithmetic.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::Statistics {
 

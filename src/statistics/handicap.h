@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "selected_rounds.h"
+#include "statistics/selected_rounds.h"
 
 namespace verdane::Statistics {
 

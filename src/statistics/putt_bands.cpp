@@ -1,4 +1,4 @@
-#include "putt_bands.h"
+#include "statistics/putt_bands.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "checked_array.h"
-#include "counts.h"
-#include "language.h"
+#include "base/checked_array.h"
+#include "base/counts.h"
+#include "base/language.h"
 
 /// Rating of putts: seven bands of length, a grade for each pair of bands, words for the mean grade.
 /// Lengths are in feet; band 1 is the longest. Pure functions.

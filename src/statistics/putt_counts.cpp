@@ -1,4 +1,4 @@
-#include "putt_counts.h"
+#include "statistics/putt_counts.h"
 
 namespace verdane {
 

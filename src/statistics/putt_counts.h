@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "putt_bands.h"
-#include "round_sums.h"
+#include "statistics/putt_bands.h"
+#include "statistics/round_sums.h"
 
 /// The counts of the putt statistics. Pure functions.
 namespace verdane {

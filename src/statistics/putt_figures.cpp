@@ -1,4 +1,4 @@
-#include "putt_figures.h"
+#include "statistics/putt_figures.h"
 
 namespace verdane {
 

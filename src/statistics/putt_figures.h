@@ -1,6 +1,6 @@
 #pragma once
 
-#include "putt_counts.h"
+#include "statistics/putt_counts.h"
 
 /// The figures of the putt statistics, computed from the counts. Pure functions.
 namespace verdane {

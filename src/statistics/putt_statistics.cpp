@@ -1,12 +1,12 @@
-#include "putt_statistics.h"
+#include "statistics/putt_statistics.h"
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "putt_tables.h"
-#include "relaxed_commits.h"
-#include "report_control.h"
-#include "round_columns.h"
-#include "round_key.h"
+#include "controls/boxes.h"
+#include "records/round_columns.h"
+#include "reports/report_control.h"
+#include "scoring/round_key.h"
+#include "statistics/putt_tables.h"
+#include "store/DataEnvironment1.h"
+#include "store/relaxed_commits.h"
 
 namespace verdane::Statistics {
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "run_controls.h"
-#include "selection_arguments.h"
+#include "statistics/run_controls.h"
+#include "statistics/selection_arguments.h"
 
 /// The putt statistics: from the putt lengths of rounds to the report tables `s_put1` and `s_put2` and
 /// their report. The clauses of the selection have no leading " AND " here.

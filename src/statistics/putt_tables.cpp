@@ -1,8 +1,8 @@
-#include "putt_tables.h"
+#include "statistics/putt_tables.h"
 
-#include "DataEnvironment1.h"
-#include "numbers.h"
-#include "report_texts.h"
+#include "base/numbers.h"
+#include "statistics/report_texts.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::putt_tables {
 

@@ -1,6 +1,6 @@
-#include "report_texts.h"
+#include "statistics/report_texts.h"
 
-#include "numbers.h"
+#include "base/numbers.h"
 
 namespace verdane {
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "counts.h"
+#include "base/counts.h"
 
 /// Figures as texts of the report tables. Such a text has at most five characters; the rest is cut off, never
 /// rounded.

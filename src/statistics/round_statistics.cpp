@@ -1,15 +1,15 @@
-#include "round_statistics.h"
+#include "statistics/round_statistics.h"
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "detail_pass.h"
-#include "handicap.h"
-#include "language.h"
-#include "relaxed_commits.h"
-#include "report_control.h"
-#include "round_rows.h"
-#include "round_sums.h"
-#include "stats_table.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "records/round_rows.h"
+#include "reports/report_control.h"
+#include "statistics/detail_pass.h"
+#include "statistics/handicap.h"
+#include "statistics/round_sums.h"
+#include "statistics/stats_table.h"
+#include "store/DataEnvironment1.h"
+#include "store/relaxed_commits.h"
 
 namespace verdane::Statistics {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "run_controls.h"
-#include "selected_rounds.h"
+#include "statistics/run_controls.h"
+#include "statistics/selected_rounds.h"
 
 /// The round statistics: from a selection to the report table `stats` and its report.
 namespace verdane::Statistics {

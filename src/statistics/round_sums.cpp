@@ -1,4 +1,4 @@
-#include "round_sums.h"
+#include "statistics/round_sums.h"
 
 namespace verdane {
 

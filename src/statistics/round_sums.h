@@ -1,8 +1,8 @@
 #pragma once
 
-#include "checked_array.h"
-#include "hole_arithmetic.h"
-#include "hole_classes.h"
+#include "base/checked_array.h"
+#include "scoring/hole_arithmetic.h"
+#include "scoring/hole_classes.h"
 
 /// The sums of the round statistics, hole by hole. Pure: they are computed from the figures of one hole of
 /// one round at a time. A sum that exceeds 16 bits fails with `overflow`.

@@ -1,10 +1,10 @@
-#include "run_controls.h"
+#include "statistics/run_controls.h"
 
 #include <QProgressBar>
 
 #include <algorithm>
 
-#include "Form.h"
+#include "controls/Form.h"
 
 namespace verdane {
 

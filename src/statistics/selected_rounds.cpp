@@ -1,10 +1,10 @@
-#include "selected_rounds.h"
+#include "statistics/selected_rounds.h"
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "numbers.h"
-#include "round_columns.h"
-#include "round_rows.h"
+#include "base/numbers.h"
+#include "controls/boxes.h"
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "counts.h"
-#include "selection_arguments.h"
+#include "base/counts.h"
+#include "statistics/selection_arguments.h"
 
 /// The stored rounds of a selection, one after the other, each with its rows of the other tables.
 namespace verdane {

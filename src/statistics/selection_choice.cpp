@@ -1,11 +1,11 @@
-#include "selection_choice.h"
+#include "statistics/selection_choice.h"
 
 #include <QComboBox>
 #include <QListWidget>
 
-#include "DataEnvironment1.h"
-#include "round_key.h"
-#include "round_rows.h"
+#include "records/round_rows.h"
+#include "scoring/round_key.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

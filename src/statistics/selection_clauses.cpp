@@ -1,8 +1,8 @@
-#include "selection_clauses.h"
+#include "statistics/selection_clauses.h"
 
 #include <array>
 
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 namespace verdane {
 

@@ -1,18 +1,18 @@
-#include "selection_lists.h"
+#include "statistics/selection_lists.h"
 
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 
-#include "accessible_controls.h"
-#include "close_if_open.h"
-#include "DataEnvironment1.h"
-#include "language.h"
-#include "partner_columns.h"
-#include "round_columns.h"
-#include "text.h"
-#include "Verdane_tools.h"
-#include "weather_words.h"
+#include "base/language.h"
+#include "base/text.h"
+#include "controls/accessible_controls.h"
+#include "records/partner_columns.h"
+#include "records/round_columns.h"
+#include "scoring/Verdane_tools.h"
+#include "scoring/weather_words.h"
+#include "store/close_if_open.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
-#include "stats_lines.h"
+#include "statistics/stats_lines.h"
 
-#include "numbers.h"
+#include "base/numbers.h"
 
 namespace verdane {
 

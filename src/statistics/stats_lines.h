@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "round_sums.h"
+#include "statistics/round_sums.h"
 
 /// The rows of the round statistics, computed from the sums. Pure functions.
 namespace verdane {

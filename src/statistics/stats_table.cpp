@@ -1,11 +1,11 @@
-#include "stats_table.h"
+#include "statistics/stats_table.h"
 
 #include <array>
 
-#include "DataEnvironment1.h"
-#include "round_key.h"
-#include "stats_columns.h"
-#include "stats_lines.h"
+#include "scoring/round_key.h"
+#include "statistics/stats_columns.h"
+#include "statistics/stats_lines.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::stats_table {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "round_sums.h"
-#include "selection_arguments.h"
+#include "statistics/round_sums.h"
+#include "statistics/selection_arguments.h"
 
 /// Writes the rows of the report table `stats` through `rsstats`, in table order. Moving to another row
 /// commits the changed one.

@@ -1,11 +1,11 @@
-#include "Connection1.h"
+#include "store/Connection1.h"
 
-#include "engine_handle.h"
-#include "fresh_store.h"
-#include "prepared_statements.h"
-#include "schema.h"
-#include "store_files.h"
-#include "store_lock.h"
+#include "store/engine_handle.h"
+#include "store/fresh_store.h"
+#include "store/prepared_statements.h"
+#include "store/schema.h"
+#include "store/store_files.h"
+#include "store/store_lock.h"
 
 #include <QDir>
 #include <QFile>

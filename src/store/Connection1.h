@@ -6,8 +6,8 @@
 
 #include <memory>
 
-#include "lock_wait.h"
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
+#include "store/lock_wait.h"
 
 class QLockFile;
 

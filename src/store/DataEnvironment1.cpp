@@ -1,6 +1,6 @@
-#include "DataEnvironment1.h"
+#include "store/DataEnvironment1.h"
 
-#include "catalogue.h"
+#include "store/catalogue.h"
 
 #include <QCoreApplication>
 

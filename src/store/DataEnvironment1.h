@@ -3,8 +3,8 @@
 #include <array>
 #include <functional>
 
-#include "Connection1.h"
-#include "Recordset.h"
+#include "store/Connection1.h"
+#include "store/Recordset.h"
 
 namespace verdane {
 

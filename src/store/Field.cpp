@@ -1,7 +1,7 @@
-#include "numbers.h"
-#include "recordset_rows.h"
-#include "text.h"
-#include "variant_number.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "store/recordset_rows.h"
+#include "store/variant_number.h"
 
 /// Reading and writing one field.
 namespace verdane {

@@ -1,9 +1,9 @@
-#include "Recordset.h"
+#include "store/Recordset.h"
 
-#include "Connection1.h"
-#include "find_criterion.h"
-#include "recordset_rows.h"
-#include "row_writer.h"
+#include "store/Connection1.h"
+#include "store/find_criterion.h"
+#include "store/recordset_rows.h"
+#include "store/row_writer.h"
 
 #include <algorithm>
 

@@ -6,8 +6,8 @@
 
 #include <memory>
 
-#include "counts.h"
-#include "schema.h"
+#include "base/counts.h"
+#include "store/schema.h"
 
 namespace verdane {
 

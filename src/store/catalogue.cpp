@@ -1,9 +1,9 @@
-#include "catalogue.h"
+#include "store/catalogue.h"
 
 #include <algorithm>
 #include <array>
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 namespace verdane {
 

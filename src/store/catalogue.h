@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "Recordset.h"
+#include "store/Recordset.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
-#include "numbers.h"
-#include "schema.h"
-#include "variant_number.h"
+#include "base/numbers.h"
+#include "store/schema.h"
+#include "store/variant_number.h"
 
 /// Values on their way into a column.
 namespace verdane {

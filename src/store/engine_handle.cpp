@@ -1,11 +1,11 @@
-#include "engine_handle.h"
+#include "store/engine_handle.h"
 
 #include <QSqlDriver>
 #include <QVariant>
 
 #include <cstring>
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 namespace verdane {
 

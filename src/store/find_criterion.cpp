@@ -1,7 +1,7 @@
-#include "find_criterion.h"
+#include "store/find_criterion.h"
 
-#include "numbers.h"
-#include "run_time_failure.h"
+#include "base/numbers.h"
+#include "base/run_time_failure.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
-#include "fresh_store.h"
+#include "store/fresh_store.h"
 
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 #include <QSqlQuery>
 

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QVariant>
 
-#include "schema.h"
+#include "store/schema.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
-#include "joined_commits.h"
+#include "store/joined_commits.h"
 
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 #include <QSqlQuery>
 

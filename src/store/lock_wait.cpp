@@ -1,6 +1,6 @@
-#include "lock_wait.h"
+#include "store/lock_wait.h"
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 #include <QThread>
 

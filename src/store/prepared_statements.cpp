@@ -1,8 +1,8 @@
-#include "prepared_statements.h"
+#include "store/prepared_statements.h"
 
 #include <algorithm>
 
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
-#include "Connection1.h"
-#include "recordset_rows.h"
-#include "row_writer.h"
+#include "store/Connection1.h"
+#include "store/recordset_rows.h"
+#include "store/row_writer.h"
 
 #include <algorithm>
 

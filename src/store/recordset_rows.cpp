@@ -1,8 +1,8 @@
-#include "recordset_rows.h"
+#include "store/recordset_rows.h"
 
-#include "Connection1.h"
-#include "row_writer.h"
-#include "single_commit.h"
+#include "store/Connection1.h"
+#include "store/row_writer.h"
+#include "store/single_commit.h"
 
 #include <algorithm>
 

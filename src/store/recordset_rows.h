@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Connection1.h"
-#include "find_criterion.h"
-#include "Recordset.h"
-#include "schema.h"
-#include "select_statement.h"
+#include "store/Connection1.h"
+#include "store/find_criterion.h"
+#include "store/Recordset.h"
+#include "store/schema.h"
+#include "store/select_statement.h"
 
 #include <QHash>
 #include <QSqlQuery>
@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 /// What a recordset holds behind its public face.
 namespace verdane {

@@ -1,6 +1,6 @@
-#include "relaxed_commits.h"
+#include "store/relaxed_commits.h"
 
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 #include <QSqlQuery>
 

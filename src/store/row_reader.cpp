@@ -1,6 +1,6 @@
-#include "recordset_rows.h"
+#include "store/recordset_rows.h"
 
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 #include <QSqlField>
 #include <QSqlRecord>

@@ -1,7 +1,7 @@
-#include "row_writer.h"
+#include "store/row_writer.h"
 
-#include "Connection1.h"
-#include "prepared_statements.h"
+#include "store/Connection1.h"
+#include "store/prepared_statements.h"
 
 namespace verdane {
 

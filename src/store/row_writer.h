@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recordset_rows.h"
+#include "store/recordset_rows.h"
 
 /// From a row in memory to the store: one statement a row, with every value bound.
 namespace verdane {

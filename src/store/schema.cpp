@@ -1,6 +1,6 @@
-#include "schema.h"
+#include "store/schema.h"
 
-#include "schema_parts.h"
+#include "store/schema_parts.h"
 
 #include <algorithm>
 

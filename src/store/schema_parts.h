@@ -1,6 +1,7 @@
 #pragma once
 
-#include "schema.h"
+#include "scoring/limits.h"
+#include "store/schema.h"
 
 #include <initializer_list>
 
@@ -27,8 +28,6 @@ public:
 private:
     std::vector<column> columns_;
 };
-
-constexpr int hole_count = 18;
 
 /// `games`, `games2`, `cost`, `Stat_rounds`.
 std::vector<table> round_tables();

@@ -1,4 +1,4 @@
-#include "schema_parts.h"
+#include "store/schema_parts.h"
 
 /// What rounds refer to, and the settings.
 namespace verdane {

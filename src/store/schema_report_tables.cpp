@@ -1,4 +1,4 @@
-#include "schema_parts.h"
+#include "store/schema_parts.h"
 
 /// What the reports print from: grids whose rows are always there, and lists that each run refills.
 namespace verdane {

@@ -1,4 +1,4 @@
-#include "schema_parts.h"
+#include "store/schema_parts.h"
 
 /// Rounds and shots.
 ///

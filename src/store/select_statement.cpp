@@ -1,4 +1,4 @@
-#include "select_statement.h"
+#include "store/select_statement.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
-#include "single_commit.h"
+#include "store/single_commit.h"
 
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 #include <QSqlQuery>
 

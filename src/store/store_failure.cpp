@@ -1,4 +1,4 @@
-#include "Connection1.h"
+#include "store/Connection1.h"
 
 /// What an engine's error means for the user.
 namespace verdane {

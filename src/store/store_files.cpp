@@ -1,6 +1,6 @@
-#include "store_files.h"
+#include "store/store_files.h"
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 #include <QDir>
 #include <QFile>

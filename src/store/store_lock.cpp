@@ -1,6 +1,6 @@
-#include "store_lock.h"
+#include "store/store_lock.h"
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 #include <QFileInfo>
 #include <QLockFile>

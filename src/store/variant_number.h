@@ -2,7 +2,7 @@
 
 #include <QVariant>
 
-#include "numbers.h"
+#include "base/numbers.h"
 
 namespace verdane {
 

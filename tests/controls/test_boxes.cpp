@@ -2,8 +2,8 @@
 #include <QTest>
 #include <QWindow>
 
-#include "boxes.h"
-#include "hand.h"
+#include "controls/boxes.h"
+#include "tests/support/hand.h"
 
 using namespace verdane;
 using namespace verdane::testing;

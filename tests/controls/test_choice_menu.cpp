@@ -1,7 +1,7 @@
 #include <QPointer>
 #include <QTest>
 
-#include "choice_menu.h"
+#include "controls/choice_menu.h"
 
 using namespace verdane;
 using namespace std::chrono_literals;

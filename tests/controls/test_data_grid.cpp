@@ -2,16 +2,16 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "boxes.h"
-#include "choice_menu.h"
-#include "control_array.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "events.h"
-#include "Form.h"
-#include "hand.h"
-#include "reader.h"
-#include "store_folder.h"
+#include "controls/boxes.h"
+#include "controls/choice_menu.h"
+#include "controls/control_array.h"
+#include "controls/data_grid.h"
+#include "controls/events.h"
+#include "controls/Form.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/hand.h"
+#include "tests/support/reader.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -7,9 +7,9 @@
 
 #include <memory>
 
-#include "entering.h"
-#include "entering_boxes.h"
-#include "keys.h"
+#include "controls/entering.h"
+#include "controls/keys.h"
+#include "tests/support/entering_boxes.h"
 
 using namespace verdane;
 using namespace verdane::testing;

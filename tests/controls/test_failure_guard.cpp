@@ -4,11 +4,11 @@
 
 #include <cstdio>
 
-#include "boxes.h"
-#include "failure_guard.h"
-#include "failures.h"
-#include "hand.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "tests/support/failures.h"
+#include "tests/support/hand.h"
 
 using namespace verdane;
 using verdane::testing::failure_of;

@@ -3,14 +3,14 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "boxes.h"
-#include "control_array.h"
-#include "events.h"
-#include "Form.h"
-#include "hand.h"
-#include "language.h"
-#include "leaving.h"
-#include "main_frame.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/control_array.h"
+#include "controls/events.h"
+#include "controls/Form.h"
+#include "controls/leaving.h"
+#include "controls/main_frame.h"
+#include "tests/support/hand.h"
 
 using namespace verdane;
 using verdane::testing::expected_box;

@@ -4,12 +4,12 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "choice_menu.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "look.h"
-#include "reader.h"
-#include "store_folder.h"
+#include "controls/choice_menu.h"
+#include "controls/data_grid.h"
+#include "controls/look.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/reader.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -3,12 +3,12 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "boxes.h"
-#include "control_array.h"
-#include "entering.h"
-#include "Form.h"
-#include "hand.h"
-#include "keys.h"
+#include "controls/boxes.h"
+#include "controls/control_array.h"
+#include "controls/entering.h"
+#include "controls/Form.h"
+#include "controls/keys.h"
+#include "tests/support/hand.h"
 
 using namespace verdane;
 using verdane::testing::hand;

@@ -4,12 +4,12 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "boxes.h"
-#include "control_array.h"
-#include "events.h"
-#include "Form.h"
-#include "hand.h"
-#include "leaving.h"
+#include "controls/boxes.h"
+#include "controls/control_array.h"
+#include "controls/events.h"
+#include "controls/Form.h"
+#include "controls/leaving.h"
+#include "tests/support/hand.h"
 
 using namespace verdane;
 using verdane::testing::expected_box;

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <memory>
 
-#include "look.h"
+#include "controls/look.h"
 
 using namespace verdane;
 

@@ -1,11 +1,11 @@
 #include <QAbstractItemModelTester>
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "failures.h"
-#include "reader.h"
-#include "recordset_model.h"
-#include "store_folder.h"
+#include "controls/recordset_model.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/failures.h"
+#include "tests/support/reader.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -9,12 +9,12 @@
 
 #include <memory>
 
-#include "Form.h"
-#include "look.h"
-#include "main_frame.h"
-#include "recording_frame.h"
-#include "screen_room.h"
-#include "scrolled_content.h"
+#include "controls/Form.h"
+#include "controls/look.h"
+#include "controls/main_frame.h"
+#include "controls/screen_room.h"
+#include "controls/scrolled_content.h"
+#include "tests/support/recording_frame.h"
 
 using namespace verdane;
 using verdane::testing::recording_frame;

@@ -3,14 +3,14 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "control_array.h"
-#include "events.h"
-#include "Form.h"
-#include "hand.h"
-#include "language.h"
-#include "languages.h"
-#include "leaving.h"
-#include "shortcuts.h"
+#include "base/language.h"
+#include "controls/control_array.h"
+#include "controls/events.h"
+#include "controls/Form.h"
+#include "controls/leaving.h"
+#include "controls/shortcuts.h"
+#include "tests/support/hand.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,10 +2,10 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include "control_array.h"
-#include "Form.h"
-#include "hand.h"
-#include "TabStrip.h"
+#include "controls/control_array.h"
+#include "controls/Form.h"
+#include "controls/TabStrip.h"
+#include "tests/support/hand.h"
 
 using namespace verdane;
 using verdane::testing::hand;

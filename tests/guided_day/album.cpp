@@ -1,4 +1,4 @@
-#include "album.h"
+#include "tests/guided_day/album.h"
 
 #include <QApplication>
 #include <QFile>
@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QWidget>
 
-#include "hand_widgets.h"
+#include "tests/support/hand_widgets.h"
 
 namespace verdane::guided_day {
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "hand.h"
+#include "tests/support/hand.h"
 
 namespace verdane::guided_day {
 

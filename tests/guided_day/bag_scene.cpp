@@ -1,4 +1,4 @@
-#include "season.h"
+#include "tests/guided_day/season.h"
 
 namespace verdane::guided_day {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "played_round.h"
-#include "scorecards.h"
-#include "visit.h"
+#include "tests/guided_day/played_round.h"
+#include "tests/guided_day/visit.h"
+#include "tests/support/scorecards.h"
 
 namespace verdane::guided_day {
 

@@ -1,4 +1,4 @@
-#include "keyed_hole.h"
+#include "tests/guided_day/keyed_hole.h"
 
 namespace verdane::guided_day {
 

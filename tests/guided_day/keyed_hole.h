@@ -1,6 +1,6 @@
 #pragma once
 
-#include "day.h"
+#include "tests/guided_day/day.h"
 
 namespace verdane::guided_day {
 

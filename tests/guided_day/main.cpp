@@ -4,12 +4,12 @@
 
 #include <cstdlib>
 
-#include "day.h"
-#include "program_run.h"
-#include "season.h"
-#include "season_diary.h"
-#include "start_up.h"
-#include "what_was_left.h"
+#include "shell/start_up.h"
+#include "tests/guided_day/day.h"
+#include "tests/guided_day/season.h"
+#include "tests/guided_day/season_diary.h"
+#include "tests/guided_day/what_was_left.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using namespace verdane::guided_day;

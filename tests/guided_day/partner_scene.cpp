@@ -1,7 +1,7 @@
 #include <vector>
 
-#include "Connection1.h"
-#include "day.h"
+#include "store/Connection1.h"
+#include "tests/guided_day/day.h"
 
 namespace verdane::guided_day {
 

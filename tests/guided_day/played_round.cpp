@@ -1,4 +1,4 @@
-#include "played_round.h"
+#include "tests/guided_day/played_round.h"
 
 #include <QDate>
 

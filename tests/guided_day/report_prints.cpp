@@ -1,10 +1,10 @@
-#include "report_prints.h"
+#include "tests/guided_day/report_prints.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QWidget>
 
-#include "report_dialogs.h"
+#include "reports/report_dialogs.h"
 
 namespace verdane::guided_day {
 

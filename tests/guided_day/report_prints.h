@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visit.h"
+#include "tests/guided_day/visit.h"
 
 namespace verdane::guided_day {
 

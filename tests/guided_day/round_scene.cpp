@@ -1,5 +1,5 @@
-#include "day.h"
-#include "round_steps.h"
+#include "tests/guided_day/day.h"
+#include "tests/guided_day/round_steps.h"
 
 namespace verdane::guided_day {
 

@@ -1,4 +1,4 @@
-#include "round_steps.h"
+#include "tests/guided_day/round_steps.h"
 
 namespace verdane::guided_day {
 

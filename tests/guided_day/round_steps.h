@@ -1,6 +1,6 @@
 #pragma once
 
-#include "day.h"
+#include "tests/guided_day/day.h"
 
 /// Steps in the round window that several scenes take.
 namespace verdane::guided_day {

@@ -1,5 +1,5 @@
-#include "report_prints.h"
-#include "season.h"
+#include "tests/guided_day/report_prints.h"
+#include "tests/guided_day/season.h"
 
 namespace verdane::guided_day {
 

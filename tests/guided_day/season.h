@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visit.h"
+#include "tests/guided_day/visit.h"
 
 /// A season is looked back on: a diary of a few dozen rounds, told shot by shot by an invented golfer on
 /// published courses, and every report of it.

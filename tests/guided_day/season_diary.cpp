@@ -1,10 +1,10 @@
-#include "season_diary.h"
+#include "tests/guided_day/season_diary.h"
 
 #include <QStringList>
 
-#include "full_diary.h"
-#include "reader.h"
-#include "scorecards.h"
+#include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
+#include "tests/support/scorecards.h"
 
 namespace verdane::guided_day {
 

@@ -1,5 +1,5 @@
-#include "day.h"
-#include "main_frame.h"
+#include "controls/main_frame.h"
+#include "tests/guided_day/day.h"
 
 namespace verdane::guided_day {
 

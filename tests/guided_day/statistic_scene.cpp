@@ -1,5 +1,5 @@
-#include "day.h"
-#include "report_prints.h"
+#include "tests/guided_day/day.h"
+#include "tests/guided_day/report_prints.h"
 
 namespace verdane::guided_day {
 

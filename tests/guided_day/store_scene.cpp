@@ -1,4 +1,4 @@
-#include "day.h"
+#include "tests/guided_day/day.h"
 
 namespace verdane::guided_day {
 

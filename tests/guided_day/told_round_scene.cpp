@@ -1,9 +1,9 @@
 #include <vector>
 
-#include "day.h"
-#include "keyed_hole.h"
-#include "report_prints.h"
-#include "round_steps.h"
+#include "tests/guided_day/day.h"
+#include "tests/guided_day/keyed_hole.h"
+#include "tests/guided_day/report_prints.h"
+#include "tests/guided_day/round_steps.h"
 
 namespace verdane::guided_day {
 

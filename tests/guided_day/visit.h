@@ -3,10 +3,10 @@
 #include <QMessageBox>
 #include <QString>
 
-#include "album.h"
-#include "hand.h"
-#include "language.h"
-#include "reader.h"
+#include "base/language.h"
+#include "tests/guided_day/album.h"
+#include "tests/support/hand.h"
+#include "tests/support/reader.h"
 
 namespace verdane::guided_day {
 

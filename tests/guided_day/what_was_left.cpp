@@ -1,4 +1,4 @@
-#include "what_was_left.h"
+#include "tests/guided_day/what_was_left.h"
 
 #include <cstdio>
 

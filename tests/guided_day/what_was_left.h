@@ -1,6 +1,6 @@
 #pragma once
 
-#include "album.h"
+#include "tests/guided_day/album.h"
 
 namespace verdane::guided_day {
 

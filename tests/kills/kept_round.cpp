@@ -1,10 +1,10 @@
-#include "kept_round.h"
+#include "tests/kills/kept_round.h"
 
 #include <QStringList>
 
 #include <algorithm>
 
-#include "shot_words.h"
+#include "scoring/shot_words.h"
 
 namespace verdane::testing {
 

@@ -4,9 +4,9 @@
 
 #include <array>
 
-#include "last_words.h"
-#include "reader.h"
-#include "told_hole.h"
+#include "tests/kills/last_words.h"
+#include "tests/kills/told_hole.h"
+#include "tests/support/reader.h"
 
 namespace verdane::testing {
 

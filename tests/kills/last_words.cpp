@@ -1,4 +1,4 @@
-#include "last_words.h"
+#include "tests/kills/last_words.h"
 
 #include <cstdio>
 

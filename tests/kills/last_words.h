@@ -3,7 +3,7 @@
 #include <QMap>
 #include <QStringList>
 
-#include "told_hole.h"
+#include "tests/kills/told_hole.h"
 
 namespace verdane::testing {
 

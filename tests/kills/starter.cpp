@@ -1,13 +1,13 @@
-#include "starter.h"
+#include "tests/kills/starter.h"
 
 #include <QApplication>
 
 #include <cstdio>
 
-#include "hand.h"
-#include "language.h"
-#include "start_up.h"
-#include "victim.h"
+#include "base/language.h"
+#include "shell/start_up.h"
+#include "tests/kills/victim.h"
+#include "tests/support/hand.h"
 
 namespace verdane::testing {
 

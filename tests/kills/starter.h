@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "told_hole.h"
+#include "tests/kills/told_hole.h"
 
 namespace verdane::testing {
 

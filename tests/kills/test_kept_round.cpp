@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "kept_round.h"
-#include "program_run.h"
+#include "tests/kills/kept_round.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -8,15 +8,15 @@
 #include <algorithm>
 #include <functional>
 
-#include "Connection1.h"
-#include "kept_round.h"
-#include "language.h"
-#include "last_words.h"
-#include "program_run.h"
-#include "start_up.h"
-#include "starter.h"
-#include "store_invariants.h"
-#include "victim.h"
+#include "base/language.h"
+#include "shell/start_up.h"
+#include "store/Connection1.h"
+#include "tests/kills/kept_round.h"
+#include "tests/kills/last_words.h"
+#include "tests/kills/starter.h"
+#include "tests/kills/victim.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/store_invariants.h"
 
 using namespace verdane;
 using namespace verdane::testing;

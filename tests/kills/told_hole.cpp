@@ -1,10 +1,10 @@
-#include "told_hole.h"
+#include "tests/kills/told_hole.h"
 
 #include <QStringList>
 
 #include <algorithm>
 
-#include "shot_words.h"
+#include "scoring/shot_words.h"
 
 namespace verdane::testing {
 

@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include "reader.h"
+#include "tests/support/reader.h"
 
 /// A hole as the victim of a kill tells it, and a hole as the store holds it.
 namespace verdane::testing {

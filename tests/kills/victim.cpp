@@ -1,13 +1,13 @@
-#include "victim.h"
+#include "tests/kills/victim.h"
 
 #include <QApplication>
 #include <QRandomGenerator>
 
-#include "language.h"
-#include "last_words.h"
-#include "Main_module.h"
-#include "shot_words.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "scoring/shot_words.h"
+#include "shell/start_up.h"
+#include "tests/kills/last_words.h"
 
 namespace verdane::testing {
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "hand.h"
-#include "told_hole.h"
+#include "tests/kills/told_hole.h"
+#include "tests/support/hand.h"
 
 namespace verdane::testing {
 

@@ -4,12 +4,12 @@
 
 #include <functional>
 
-#include "boxes.h"
-#include "diary.h"
-#include "f_games.h"
-#include "failure_guard.h"
-#include "hand.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "management/f_games.h"
+#include "tests/support/diary.h"
+#include "tests/support/hand.h"
 
 /// What the tests of the removal of rounds share.
 namespace verdane::testing {

@@ -2,15 +2,15 @@
 
 #include <functional>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "diary.h"
-#include "f_games.h"
-#include "main_frame.h"
-#include "recording_frame.h"
-#include "store_folder.h"
-#include "ways_out.h"
-#include "window_look.h"
+#include "controls/boxes.h"
+#include "controls/main_frame.h"
+#include "management/f_games.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/diary.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/store_folder.h"
+#include "tests/support/ways_out.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -4,11 +4,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "lock_box.h"
-#include "recording_frame.h"
-#include "removal_windows.h"
-#include "store_clean_up.h"
+#include "controls/lock_box.h"
+#include "management/store_clean_up.h"
+#include "store/DataEnvironment1.h"
+#include "tests/management/removal_windows.h"
+#include "tests/support/recording_frame.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,11 +1,11 @@
 #include <QApplication>
 #include <QTest>
 
-#include "Main_module.h"
-#include "program_run.h"
-#include "removal_windows.h"
-#include "round_windows.h"
-#include "start_up.h"
+#include "base/Main_module.h"
+#include "shell/start_up.h"
+#include "tests/management/removal_windows.h"
+#include "tests/round/round_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,10 +1,10 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "removal_windows.h"
-#include "round_removal.h"
-#include "round_windows.h"
-#include "window_look.h"
+#include "management/round_removal.h"
+#include "store/DataEnvironment1.h"
+#include "tests/management/removal_windows.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

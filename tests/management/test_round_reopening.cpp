@@ -1,12 +1,12 @@
 #include <QTest>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "diary.h"
-#include "f_games.h"
-#include "failure_guard.h"
-#include "round_windows.h"
-#include "window_look.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "management/f_games.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/diary.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,15 +1,15 @@
 #include <QApplication>
 #include <QTest>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "diary.h"
-#include "failure_guard.h"
-#include "failures.h"
-#include "hand.h"
-#include "store_clean_up.h"
-#include "store_folder.h"
-#include "window_look.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "management/store_clean_up.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/diary.h"
+#include "tests/support/failures.h"
+#include "tests/support/hand.h"
+#include "tests/support/store_folder.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

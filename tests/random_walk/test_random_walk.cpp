@@ -1,10 +1,10 @@
 #include <QApplication>
 #include <QTest>
 
-#include "program_run.h"
-#include "start_up.h"
-#include "store_invariants.h"
-#include "walker.h"
+#include "shell/start_up.h"
+#include "tests/random_walk/walker.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/store_invariants.h"
 
 using namespace verdane;
 using verdane::testing::broken_invariants;

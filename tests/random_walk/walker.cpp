@@ -1,4 +1,4 @@
-#include "walker.h"
+#include "tests/random_walk/walker.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -9,11 +9,11 @@
 #include <QTableView>
 #include <QTest>
 
-#include "data_grid.h"
-#include "f_new_round.h"
-#include "hand_widgets.h"
-#include "Main_module.h"
-#include "numbers.h"
+#include "base/Main_module.h"
+#include "base/numbers.h"
+#include "controls/data_grid.h"
+#include "round/f_new_round.h"
+#include "tests/support/hand_widgets.h"
 
 namespace verdane::testing {
 

@@ -3,8 +3,8 @@
 #include <QRandomGenerator>
 #include <QString>
 
-#include "hand.h"
-#include "reader.h"
+#include "tests/support/hand.h"
+#include "tests/support/reader.h"
 
 namespace verdane::testing {
 

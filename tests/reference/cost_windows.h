@@ -4,15 +4,15 @@
 
 #include <functional>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "f_cost.h"
-#include "failure_guard.h"
-#include "hand.h"
-#include "language.h"
-#include "reader.h"
-#include "recording_frame.h"
-#include "store_folder.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "reference/f_cost.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/hand.h"
+#include "tests/support/reader.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/store_folder.h"
 
 /// What the tests of the window of costs share.
 namespace verdane::testing {

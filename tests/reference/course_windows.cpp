@@ -1,13 +1,13 @@
-#include "course_windows.h"
+#include "tests/reference/course_windows.h"
 
-#include "boxes.h"
-#include "Connection1.h"
-#include "course_keys.h"
-#include "diary.h"
-#include "f_c_list.h"
-#include "f_courses.h"
-#include "failure_guard.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "reference/course_keys.h"
+#include "reference/f_c_list.h"
+#include "reference/f_courses.h"
+#include "store/Connection1.h"
+#include "tests/support/diary.h"
 
 namespace verdane::testing {
 

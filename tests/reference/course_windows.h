@@ -4,11 +4,11 @@
 
 #include <functional>
 
-#include "hand.h"
-#include "languages.h"
-#include "reader.h"
-#include "recording_frame.h"
-#include "store_folder.h"
+#include "tests/support/hand.h"
+#include "tests/support/languages.h"
+#include "tests/support/reader.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/store_folder.h"
 
 namespace verdane {
 class f_courses;

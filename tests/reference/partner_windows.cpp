@@ -1,10 +1,10 @@
-#include "partner_windows.h"
+#include "tests/reference/partner_windows.h"
 
-#include "boxes.h"
-#include "Connection1.h"
-#include "f_partners.h"
-#include "failure_guard.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "reference/f_partners.h"
+#include "store/Connection1.h"
 
 namespace verdane::testing {
 

@@ -4,10 +4,10 @@
 
 #include <functional>
 
-#include "hand.h"
-#include "reader.h"
-#include "recording_frame.h"
-#include "store_folder.h"
+#include "tests/support/hand.h"
+#include "tests/support/reader.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/store_folder.h"
 
 /// What the tests of the window of partners share.
 namespace verdane::testing {

@@ -3,8 +3,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "Connection1.h"
-#include "cost_windows.h"
+#include "store/Connection1.h"
+#include "tests/reference/cost_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

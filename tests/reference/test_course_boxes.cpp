@@ -1,10 +1,10 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "course_windows.h"
-#include "entering_boxes.h"
-#include "f_courses.h"
-#include "language.h"
+#include "base/language.h"
+#include "reference/f_courses.h"
+#include "tests/reference/course_windows.h"
+#include "tests/support/entering_boxes.h"
 
 using namespace verdane;
 using namespace verdane::testing;

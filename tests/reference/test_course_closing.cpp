@@ -1,9 +1,9 @@
 #include <QTest>
 
-#include "course_windows.h"
-#include "f_courses.h"
-#include "language.h"
-#include "main_frame.h"
+#include "base/language.h"
+#include "controls/main_frame.h"
+#include "reference/f_courses.h"
+#include "tests/reference/course_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -4,12 +4,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "course_keys.h"
-#include "course_windows.h"
-#include "DataEnvironment1.h"
-#include "f_c_list.h"
-#include "failure_guard.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/failure_guard.h"
+#include "reference/course_keys.h"
+#include "reference/f_c_list.h"
+#include "store/DataEnvironment1.h"
+#include "tests/reference/course_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

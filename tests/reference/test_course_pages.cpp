@@ -3,10 +3,10 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "course_windows.h"
-#include "f_courses.h"
-#include "language.h"
-#include "window_look.h"
+#include "base/language.h"
+#include "reference/f_courses.h"
+#include "tests/reference/course_windows.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,9 +1,9 @@
 #include <QTest>
 
-#include "course_keys.h"
-#include "course_windows.h"
-#include "DataEnvironment1.h"
-#include "language.h"
+#include "base/language.h"
+#include "reference/course_keys.h"
+#include "store/DataEnvironment1.h"
+#include "tests/reference/course_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

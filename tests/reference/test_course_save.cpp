@@ -1,10 +1,10 @@
 #include <QTest>
 
-#include "course_windows.h"
-#include "DataEnvironment1.h"
-#include "f_courses.h"
-#include "failure_guard.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/failure_guard.h"
+#include "reference/f_courses.h"
+#include "store/DataEnvironment1.h"
+#include "tests/reference/course_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

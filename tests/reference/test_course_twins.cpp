@@ -1,9 +1,9 @@
 #include <QLabel>
 #include <QTest>
 
-#include "course_windows.h"
-#include "f_courses.h"
-#include "window_look.h"
+#include "reference/f_courses.h"
+#include "tests/reference/course_windows.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,9 +2,9 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "cost_windows.h"
-#include "entering_boxes.h"
-#include "window_look.h"
+#include "tests/reference/cost_windows.h"
+#include "tests/support/entering_boxes.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,12 +1,12 @@
 #include <QTest>
 
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "f_partners.h"
-#include "main_frame.h"
-#include "partner_windows.h"
-#include "ways_out.h"
-#include "window_look.h"
+#include "controls/data_grid.h"
+#include "controls/main_frame.h"
+#include "reference/f_partners.h"
+#include "store/DataEnvironment1.h"
+#include "tests/reference/partner_windows.h"
+#include "tests/support/ways_out.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

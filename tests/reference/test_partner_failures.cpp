@@ -3,12 +3,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "Connection1.h"
-#include "DataEnvironment1.h"
-#include "failure_guard.h"
-#include "language.h"
-#include "partner_windows.h"
-#include "window_look.h"
+#include "base/language.h"
+#include "controls/failure_guard.h"
+#include "store/Connection1.h"
+#include "store/DataEnvironment1.h"
+#include "tests/reference/partner_windows.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

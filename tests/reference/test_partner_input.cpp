@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "partner_windows.h"
-#include "Verdane_tools.h"
-#include "window_look.h"
+#include "scoring/Verdane_tools.h"
+#include "tests/reference/partner_windows.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "partner_windows.h"
-#include "window_look.h"
+#include "tests/reference/partner_windows.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

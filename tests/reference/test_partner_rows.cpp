@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "partner_windows.h"
-#include "Verdane_tools.h"
+#include "scoring/Verdane_tools.h"
+#include "store/DataEnvironment1.h"
+#include "tests/reference/partner_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -8,12 +8,12 @@
 
 #include <optional>
 
-#include "invented_rows.h"
-#include "report_document.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "run_time_failure.h"
-#include "store_folder.h"
+#include "base/run_time_failure.h"
+#include "reports/report_document.h"
+#include "reports/report_store.h"
+#include "tests/reports/invented_rows.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 

@@ -1,10 +1,10 @@
-#include "invented_rows.h"
+#include "tests/reports/invented_rows.h"
 
 #include <QDate>
 
-#include "Connection1.h"
-#include "reader.h"
-#include "report_tools.h"
+#include "store/Connection1.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/reader.h"
 
 namespace verdane::testing {
 

@@ -1,9 +1,9 @@
-#include "page_pictures.h"
+#include "tests/reports/page_pictures.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "report_document.h"
+#include "reports/report_document.h"
 
 namespace verdane::testing {
 

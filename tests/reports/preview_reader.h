@@ -7,13 +7,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "page_view.h"
-#include "report_dialogs.h"
-#include "report_document.h"
-#include "report_preview.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "store_folder.h"
+#include "reports/page_view.h"
+#include "reports/report_dialogs.h"
+#include "reports/report_document.h"
+#include "reports/report_preview.h"
+#include "reports/report_store.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/store_folder.h"
 
 namespace verdane::testing {
 

@@ -1,4 +1,4 @@
-#include "printed_texts.h"
+#include "tests/reports/printed_texts.h"
 
 #include <QPaintDevice>
 #include <QPaintEngine>
@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-#include "report_document.h"
+#include "reports/report_document.h"
 
 namespace verdane::testing {
 

@@ -1,4 +1,4 @@
-#include "report_tools.h"
+#include "tests/reports/report_tools.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -7,10 +7,10 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
-#include "Connection1.h"
-#include "reader.h"
-#include "report_document.h"
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
+#include "reports/report_document.h"
+#include "store/Connection1.h"
+#include "tests/support/reader.h"
 
 namespace verdane::testing {
 

@@ -3,12 +3,12 @@
 
 #include <utility>
 
-#include "invented_rows.h"
-#include "reader.h"
-#include "report_document.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "store_folder.h"
+#include "reports/report_document.h"
+#include "reports/report_store.h"
+#include "tests/reports/invented_rows.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/reader.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

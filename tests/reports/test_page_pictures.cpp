@@ -2,12 +2,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "invented_rows.h"
-#include "page_pictures.h"
-#include "report_document.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "store_folder.h"
+#include "reports/report_document.h"
+#include "reports/report_store.h"
+#include "tests/reports/invented_rows.h"
+#include "tests/reports/page_pictures.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

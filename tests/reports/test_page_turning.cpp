@@ -1,6 +1,6 @@
 #include <QScrollBar>
 
-#include "preview_reader.h"
+#include "tests/reports/preview_reader.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -3,14 +3,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "failures.h"
-#include "page_view.h"
-#include "report_control.h"
-#include "report_preview.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "run_time_failure.h"
-#include "store_folder.h"
+#include "base/run_time_failure.h"
+#include "reports/page_view.h"
+#include "reports/report_control.h"
+#include "reports/report_preview.h"
+#include "reports/report_store.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/failures.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -8,11 +8,11 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include "failures.h"
-#include "report_document.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "store_folder.h"
+#include "reports/report_document.h"
+#include "reports/report_store.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/failures.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -5,9 +5,9 @@
 #include <QScrollBar>
 #include <QTimer>
 
-#include "preview_reader.h"
-#include "report_control.h"
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
+#include "reports/report_control.h"
+#include "tests/reports/preview_reader.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,14 +1,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "reader.h"
-#include "report_document.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "run_time_failure.h"
-#include "store_folder.h"
-#include "template_fill.h"
+#include "base/run_time_failure.h"
+#include "reports/report_document.h"
+#include "reports/report_store.h"
+#include "reports/template_fill.h"
+#include "store/DataEnvironment1.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/reader.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

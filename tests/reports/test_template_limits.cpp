@@ -2,14 +2,14 @@
 #include <QTest>
 #include <QTextDocument>
 
-#include "failures.h"
-#include "page_cuts.h"
-#include "page_limits.h"
-#include "report_document.h"
-#include "report_store.h"
-#include "report_tools.h"
-#include "run_time_failure.h"
-#include "store_folder.h"
+#include "base/run_time_failure.h"
+#include "reports/page_cuts.h"
+#include "reports/page_limits.h"
+#include "reports/report_document.h"
+#include "reports/report_store.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/failures.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

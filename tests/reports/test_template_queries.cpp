@@ -6,20 +6,20 @@
 #include <QTest>
 #include <QTimer>
 
-#include "failures.h"
-#include "language.h"
-#include "other_program.h"
-#include "reader.h"
-#include "report_control.h"
-#include "report_document.h"
-#include "report_preview.h"
-#include "report_stopped.h"
-#include "report_store.h"
-#include "report_tables.h"
-#include "report_tools.h"
-#include "report_wait.h"
-#include "run_time_failure.h"
-#include "store_folder.h"
+#include "base/language.h"
+#include "base/run_time_failure.h"
+#include "reports/report_control.h"
+#include "reports/report_document.h"
+#include "reports/report_preview.h"
+#include "reports/report_stopped.h"
+#include "reports/report_store.h"
+#include "reports/report_tables.h"
+#include "reports/report_wait.h"
+#include "tests/reports/report_tools.h"
+#include "tests/support/failures.h"
+#include "tests/support/other_program.h"
+#include "tests/support/reader.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

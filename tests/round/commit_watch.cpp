@@ -1,11 +1,11 @@
-#include "commit_watch.h"
+#include "tests/round/commit_watch.h"
 
 #include <sqlite3.h>
 
 #include <utility>
 
-#include "DataEnvironment1.h"
-#include "engine_handle.h"
+#include "store/DataEnvironment1.h"
+#include "store/engine_handle.h"
 
 namespace verdane::testing {
 

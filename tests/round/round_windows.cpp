@@ -1,4 +1,4 @@
-#include "round_windows.h"
+#include "tests/round/round_windows.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
@@ -6,15 +6,15 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "diary.h"
-#include "f_get_date.h"
-#include "f_new_round.h"
-#include "failure_guard.h"
-#include "language.h"
-#include "Round_records.h"
-#include "Verdane_tools.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "round/f_get_date.h"
+#include "round/f_new_round.h"
+#include "round/Round_records.h"
+#include "scoring/Verdane_tools.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/diary.h"
 
 namespace verdane::testing {
 

@@ -5,10 +5,10 @@
 
 #include <functional>
 
-#include "hand.h"
-#include "reader.h"
-#include "recording_frame.h"
-#include "store_folder.h"
+#include "tests/support/hand.h"
+#include "tests/support/reader.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/store_folder.h"
 
 namespace verdane {
 class f_new_round;

@@ -1,10 +1,10 @@
 #include <QApplication>
 #include <QTest>
 
-#include "f_new_round.h"
-#include "languages.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "round/f_new_round.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

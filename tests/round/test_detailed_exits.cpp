@@ -1,13 +1,13 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "languages.h"
-#include "Main_module.h"
-#include "round_windows.h"
-#include "shot_entry.h"
-#include "shot_rows.h"
-#include "told_shots.h"
+#include "base/Main_module.h"
+#include "round/f_new_round.h"
+#include "round/shot_entry.h"
+#include "round/shot_rows.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,12 +1,12 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "language.h"
-#include "languages.h"
-#include "round_windows.h"
-#include "store_invariants.h"
-#include "told_shots.h"
+#include "base/language.h"
+#include "round/f_new_round.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/languages.h"
+#include "tests/support/store_invariants.h"
 
 using namespace verdane;
 using namespace verdane::testing;

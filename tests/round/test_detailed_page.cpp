@@ -5,16 +5,16 @@
 #include <QMenu>
 #include <QTest>
 
-#include "choice_menu.h"
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "languages.h"
-#include "look.h"
-#include "main_frame.h"
-#include "Main_module.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "base/Main_module.h"
+#include "controls/choice_menu.h"
+#include "controls/data_grid.h"
+#include "controls/look.h"
+#include "controls/main_frame.h"
+#include "round/f_new_round.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -3,9 +3,9 @@
 
 #include <functional>
 
-#include "f_new_round.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "round/f_new_round.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;

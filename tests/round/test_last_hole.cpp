@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "round_windows.h"
-#include "told_shots.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;

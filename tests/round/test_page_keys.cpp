@@ -2,12 +2,12 @@
 #include <QKeyEvent>
 #include <QTest>
 
-#include "f_new_round.h"
-#include "language.h"
-#include "languages.h"
-#include "Main_module.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "round/f_new_round.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

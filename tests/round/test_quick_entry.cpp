@@ -1,9 +1,9 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "entering_boxes.h"
-#include "f_new_round.h"
-#include "round_windows.h"
+#include "round/f_new_round.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/entering_boxes.h"
 
 using namespace verdane;
 using namespace verdane::testing;

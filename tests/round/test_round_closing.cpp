@@ -1,13 +1,13 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "languages.h"
-#include "main_frame.h"
-#include "Main_module.h"
-#include "round_windows.h"
-#include "window_look.h"
+#include "base/Main_module.h"
+#include "controls/main_frame.h"
+#include "round/f_new_round.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/languages.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -3,14 +3,14 @@
 
 #include <memory>
 
-#include "commit_watch.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "f_new_round_func.h"
-#include "failures.h"
-#include "other_program.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "round/f_new_round.h"
+#include "round/f_new_round_func.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/commit_watch.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/failures.h"
+#include "tests/support/other_program.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "language.h"
-#include "languages.h"
-#include "round_windows.h"
+#include "base/language.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -4,12 +4,12 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "f_new_round.h"
-#include "language.h"
-#include "languages.h"
-#include "round_columns.h"
-#include "round_windows.h"
-#include "TabStrip.h"
+#include "base/language.h"
+#include "controls/TabStrip.h"
+#include "records/round_columns.h"
+#include "round/f_new_round.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -4,9 +4,9 @@
 
 #include <cstdio>
 
-#include "Main_module.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "base/Main_module.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;

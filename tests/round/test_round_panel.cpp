@@ -1,8 +1,8 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "f_new_round.h"
-#include "round_windows.h"
+#include "round/f_new_round.h"
+#include "tests/round/round_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

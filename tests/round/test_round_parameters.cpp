@@ -5,14 +5,14 @@
 #include <QStyledItemDelegate>
 #include <QTest>
 
-#include "course_box.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "failure_guard.h"
-#include "languages.h"
-#include "Round_records.h"
-#include "round_windows.h"
-#include "temperature_box.h"
+#include "controls/failure_guard.h"
+#include "round/course_box.h"
+#include "round/f_new_round.h"
+#include "round/Round_records.h"
+#include "round/temperature_box.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,15 +2,14 @@
 #include <QCoreApplication>
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "hand_widgets.h"
-#include "languages.h"
-#include "putt_statistics.h"
-#include "report_store.h"
-#include "round_putt_report.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "reports/report_store.h"
+#include "round/f_new_round.h"
+#include "statistics/putt_statistics.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/hand_widgets.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -87,9 +86,6 @@ class test_round_putts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { set_round_putt_report(Statistics::one_round_putt_report); }
-    void cleanupTestCase() { set_round_putt_report({}); }
-
     void the_putts_of_the_hole_being_told_are_in_the_report_data() { both_languages(); }
     void the_putts_of_the_hole_being_told_are_in_the_report()
     {

@@ -6,12 +6,12 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "f_new_round.h"
-#include "hand_widgets.h"
-#include "hole_classes.h"
-#include "languages.h"
-#include "look.h"
-#include "round_windows.h"
+#include "controls/look.h"
+#include "round/f_new_round.h"
+#include "scoring/hole_classes.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/hand_widgets.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

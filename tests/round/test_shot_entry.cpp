@@ -1,13 +1,13 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "languages.h"
-#include "round_windows.h"
-#include "shot_entry.h"
-#include "told_shots.h"
+#include "controls/data_grid.h"
+#include "round/f_new_round.h"
+#include "round/shot_entry.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,13 +1,13 @@
 #include <QHeaderView>
 #include <QTest>
 
-#include "data_grid.h"
-#include "DataEnvironment1.h"
-#include "f_new_round.h"
-#include "languages.h"
-#include "main_frame.h"
-#include "round_windows.h"
-#include "told_shots.h"
+#include "controls/data_grid.h"
+#include "controls/main_frame.h"
+#include "round/f_new_round.h"
+#include "store/DataEnvironment1.h"
+#include "tests/round/round_windows.h"
+#include "tests/round/told_shots.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,11 +2,11 @@
 #include <QTableView>
 #include <QTest>
 
-#include "f_get_date.h"
-#include "f_new_round.h"
-#include "languages.h"
-#include "Main_module.h"
-#include "round_windows.h"
+#include "base/Main_module.h"
+#include "round/f_get_date.h"
+#include "round/f_new_round.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,9 +1,9 @@
-#include "told_shots.h"
+#include "tests/round/told_shots.h"
 
 #include <QImage>
 
-#include "language.h"
-#include "round_columns.h"
+#include "base/language.h"
+#include "records/round_columns.h"
 
 namespace verdane::testing {
 

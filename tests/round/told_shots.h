@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-#include "hand.h"
-#include "round_windows.h"
+#include "tests/round/round_windows.h"
+#include "tests/support/hand.h"
 
 /// What the tests of the detailed page share.
 namespace verdane::testing {

@@ -1,4 +1,4 @@
-#include "shot_tables.h"
+#include "tests/scoring/shot_tables.h"
 
 #include <QStringList>
 

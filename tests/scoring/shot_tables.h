@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "hole_shots.h"
+#include "scoring/hole_shots.h"
 
 /// The shots of a hole as lines of text, for tables of rows before and after.
 namespace verdane::testing {

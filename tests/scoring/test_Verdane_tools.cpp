@@ -1,9 +1,9 @@
 #include <QTest>
 
-#include "failures.h"
-#include "language.h"
-#include "Main_module.h"
-#include "Verdane_tools.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "scoring/Verdane_tools.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace verdane::Verdane_tools;

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "round_arithmetic.h"
+#include "scoring/round_arithmetic.h"
 
 using namespace verdane;
 

@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "failures.h"
-#include "hole_arithmetic.h"
-#include "hole_boxes.h"
+#include "records/hole_boxes.h"
+#include "scoring/hole_arithmetic.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

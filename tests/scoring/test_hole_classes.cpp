@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "failures.h"
-#include "hole_classes.h"
-#include "numbers.h"
+#include "base/numbers.h"
+#include "scoring/hole_classes.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

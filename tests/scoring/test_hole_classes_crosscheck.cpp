@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "hole_classes.h"
-#include "numbers.h"
+#include "base/numbers.h"
+#include "scoring/hole_classes.h"
 
 using namespace verdane;
 

@@ -1,10 +1,10 @@
 #include <QTest>
 
-#include "failures.h"
-#include "hole_shots.h"
-#include "language.h"
-#include "shot_tables.h"
-#include "shot_words.h"
+#include "base/language.h"
+#include "scoring/hole_shots.h"
+#include "scoring/shot_words.h"
+#include "tests/scoring/shot_tables.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "failures.h"
-#include "hole_shots.h"
-#include "shot_tables.h"
+#include "scoring/hole_shots.h"
+#include "tests/scoring/shot_tables.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "failures.h"
-#include "round_arithmetic.h"
-#include "Round_functions.h"
+#include "records/Round_functions.h"
+#include "scoring/round_arithmetic.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "round_key.h"
-#include "Verdane_tools.h"
+#include "scoring/round_key.h"
+#include "scoring/Verdane_tools.h"
 
 using namespace verdane::Verdane_tools;
 

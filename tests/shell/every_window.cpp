@@ -1,4 +1,4 @@
-#include "every_window.h"
+#include "tests/shell/every_window.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -6,11 +6,11 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "Form.h"
-#include "hand_widgets.h"
-#include "language.h"
-#include "main_windows.h"
-#include "program_run.h"
+#include "base/language.h"
+#include "controls/Form.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/hand_widgets.h"
 
 namespace verdane::testing {
 

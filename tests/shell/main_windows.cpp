@@ -1,11 +1,11 @@
-#include "main_windows.h"
+#include "tests/shell/main_windows.h"
 
 #include <QAction>
 #include <QTest>
 #include <QToolButton>
 
-#include "MainForm.h"
-#include "program_run.h"
+#include "shell/MainForm.h"
+#include "tests/shell/program_run.h"
 
 namespace verdane::testing {
 

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "hand.h"
+#include "tests/support/hand.h"
 
 class QAction;
 class QWidget;

@@ -1,12 +1,12 @@
-#include "program_run.h"
+#include "tests/shell/program_run.h"
 
 #include <QApplication>
 #include <QFile>
 
-#include "Connection1.h"
-#include "DataEnvironment1.h"
-#include "language.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "shell/start_up.h"
+#include "store/Connection1.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::testing {
 

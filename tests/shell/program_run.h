@@ -5,8 +5,8 @@
 
 #include <functional>
 
-#include "hand.h"
-#include "reader.h"
+#include "tests/support/hand.h"
+#include "tests/support/reader.h"
 
 namespace verdane::testing {
 

@@ -9,11 +9,11 @@
 #include <map>
 #include <sys/resource.h>
 
-#include "DataEnvironment1.h"
-#include "main_windows.h"
-#include "program_run.h"
-#include "run_time_failure.h"
-#include "start_up.h"
+#include "base/run_time_failure.h"
+#include "shell/start_up.h"
+#include "store/DataEnvironment1.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -3,11 +3,11 @@
 #include <functional>
 #include <vector>
 
-#include "hand_widgets.h"
-#include "language.h"
-#include "main_windows.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "shell/start_up.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace verdane;
 using verdane::testing::expected_box;

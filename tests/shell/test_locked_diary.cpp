@@ -7,13 +7,13 @@
 
 #include <cstdio>
 
-#include "boxes.h"
-#include "hand_widgets.h"
-#include "languages.h"
-#include "other_program.h"
-#include "program_run.h"
-#include "run_time_failure.h"
-#include "start_up.h"
+#include "base/run_time_failure.h"
+#include "controls/boxes.h"
+#include "shell/start_up.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/hand_widgets.h"
+#include "tests/support/languages.h"
+#include "tests/support/other_program.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,12 +2,12 @@
 #include <QTest>
 #include <QTimer>
 
-#include "boxes.h"
-#include "failure_guard.h"
-#include "main_commands.h"
-#include "main_windows.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "shell/main_commands.h"
+#include "shell/start_up.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using verdane::testing::both_stored_languages;

@@ -3,12 +3,12 @@
 #include <QMenuBar>
 #include <QTest>
 
-#include "Form.h"
-#include "main_frame.h"
-#include "main_windows.h"
-#include "MainForm.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "controls/Form.h"
+#include "controls/main_frame.h"
+#include "shell/MainForm.h"
+#include "shell/start_up.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using verdane::testing::entry;

@@ -3,12 +3,12 @@
 
 #include <vector>
 
-#include "language.h"
-#include "Main_module.h"
-#include "main_windows.h"
-#include "MainForm.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "shell/MainForm.h"
+#include "shell/start_up.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using verdane::testing::both_stored_languages;

@@ -1,14 +1,14 @@
 #include <QAction>
 #include <QTest>
 
-#include "boxes.h"
-#include "Form.h"
-#include "language.h"
-#include "main_frame.h"
-#include "main_windows.h"
-#include "MainForm.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "controls/Form.h"
+#include "controls/main_frame.h"
+#include "shell/MainForm.h"
+#include "shell/start_up.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using verdane::testing::both_stored_languages;

@@ -1,9 +1,9 @@
 #include <QTest>
 
-#include "language.h"
-#include "main_windows.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "shell/start_up.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using verdane::testing::both_stored_languages;

@@ -1,18 +1,18 @@
 #include <QTest>
 
-#include "boxes.h"
-#include "f_about.h"
-#include "f_flash.h"
-#include "f_report.h"
-#include "language.h"
-#include "MainForm.h"
-#include "program_run.h"
-#include "report_preview.h"
-#include "report_store.h"
-#include "start_up.h"
-#include "store_folder.h"
-#include "system_information.h"
-#include "wait.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "reports/report_preview.h"
+#include "reports/report_store.h"
+#include "shell/f_about.h"
+#include "shell/f_flash.h"
+#include "shell/f_report.h"
+#include "shell/MainForm.h"
+#include "shell/start_up.h"
+#include "shell/system_information.h"
+#include "shell/wait.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using verdane::testing::hand;

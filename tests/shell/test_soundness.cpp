@@ -8,13 +8,13 @@
 
 #include <cstdio>
 
-#include "Connection1.h"
-#include "DataEnvironment1.h"
-#include "failures.h"
-#include "hand.h"
-#include "hand_widgets.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "shell/start_up.h"
+#include "store/Connection1.h"
+#include "store/DataEnvironment1.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/failures.h"
+#include "tests/support/hand.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -7,10 +7,10 @@
 #include <cstdio>
 #include <unistd.h>
 
-#include "main_windows.h"
-#include "program_run.h"
-#include "run_time_failure.h"
-#include "start_up.h"
+#include "base/run_time_failure.h"
+#include "shell/start_up.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
 
 using namespace verdane;
 using verdane::testing::hand;

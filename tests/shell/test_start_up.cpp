@@ -1,14 +1,14 @@
 #include <QApplication>
 #include <QTest>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "failures.h"
-#include "language.h"
-#include "Main_module.h"
-#include "main_windows.h"
-#include "program_run.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "controls/boxes.h"
+#include "shell/start_up.h"
+#include "store/DataEnvironment1.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using verdane::testing::both_stored_languages;

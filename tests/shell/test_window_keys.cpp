@@ -9,12 +9,12 @@
 
 #include <algorithm>
 
-#include "every_window.h"
-#include "Form.h"
-#include "hand_widgets.h"
-#include "language.h"
-#include "main_windows.h"
-#include "start_up.h"
+#include "base/language.h"
+#include "controls/Form.h"
+#include "shell/start_up.h"
+#include "tests/shell/every_window.h"
+#include "tests/shell/main_windows.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,12 +1,12 @@
-#include "golf_bags.h"
+#include "tests/statistics/golf_bags.h"
 
 #include <QTest>
 
-#include "f_sticks.h"
-#include "language.h"
-#include "Main_module.h"
-#include "report_rows.h"
-#include "window_look.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "statistics/f_sticks.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/support/window_look.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,9 +5,9 @@
 
 #include <functional>
 
-#include "diary.h"
-#include "hand.h"
-#include "store_folder.h"
+#include "tests/support/diary.h"
+#include "tests/support/hand.h"
+#include "tests/support/store_folder.h"
 
 /// What the tests of the golf bag share.
 namespace verdane::testing {

@@ -1,4 +1,4 @@
-#include "handicap_opinion.h"
+#include "tests/statistics/handicap_opinion.h"
 
 #include <algorithm>
 #include <array>

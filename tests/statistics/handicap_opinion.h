@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "reader.h"
+#include "tests/support/reader.h"
 
 namespace verdane::testing {
 

@@ -1,9 +1,9 @@
-#include "putt_rounds.h"
+#include "tests/statistics/putt_rounds.h"
 
-#include "putt_statistics.h"
-#include "report_rows.h"
-#include "report_store.h"
-#include "selection_windows.h"
+#include "reports/report_store.h"
+#include "statistics/putt_statistics.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/statistics/selection_windows.h"
 
 namespace verdane::testing {
 

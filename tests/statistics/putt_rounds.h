@@ -2,10 +2,10 @@
 
 #include <QStringList>
 
-#include "diary.h"
-#include "hand.h"
-#include "selection_arguments.h"
-#include "store_folder.h"
+#include "statistics/selection_arguments.h"
+#include "tests/support/diary.h"
+#include "tests/support/hand.h"
+#include "tests/support/store_folder.h"
 
 /// What the tests of the putt statistics share.
 namespace verdane::testing {

@@ -1,4 +1,4 @@
-#include "report_rows.h"
+#include "tests/statistics/report_rows.h"
 
 namespace verdane::testing {
 

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-#include "reader.h"
-#include "selection_arguments.h"
+#include "statistics/selection_arguments.h"
+#include "tests/support/reader.h"
 
 /// What the tests of the statistics put into a store beside the rounds, and what they read back.
 namespace verdane::testing {

@@ -1,12 +1,12 @@
-#include "scorecard_windows.h"
+#include "tests/statistics/scorecard_windows.h"
 
 #include <QTest>
 
-#include "f_carte.h"
-#include "hand_widgets.h"
-#include "language.h"
-#include "main_frame.h"
-#include "report_store.h"
+#include "base/language.h"
+#include "controls/main_frame.h"
+#include "reports/report_store.h"
+#include "statistics/f_carte.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace Qt::StringLiterals;
 

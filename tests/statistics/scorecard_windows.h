@@ -6,9 +6,9 @@
 #include <functional>
 #include <vector>
 
-#include "diary.h"
-#include "hand.h"
-#include "store_folder.h"
+#include "tests/support/diary.h"
+#include "tests/support/hand.h"
+#include "tests/support/store_folder.h"
 
 /// What the tests of the scorecard share.
 namespace verdane::testing {

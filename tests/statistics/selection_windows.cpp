@@ -1,14 +1,14 @@
-#include "selection_windows.h"
+#include "tests/statistics/selection_windows.h"
 
 #include <QTest>
 
 #include <algorithm>
 #include <array>
 
-#include "boxes.h"
-#include "f_date_range.h"
-#include "hand_widgets.h"
-#include "language.h"
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "statistics/f_date_range.h"
+#include "tests/support/hand_widgets.h"
 
 namespace verdane::testing {
 

@@ -5,9 +5,9 @@
 
 #include <functional>
 
-#include "f_date_range.h"
-#include "hand.h"
-#include "window_look.h"
+#include "statistics/f_date_range.h"
+#include "tests/support/hand.h"
+#include "tests/support/window_look.h"
 
 /// What the tests of the selection window share.
 namespace verdane::testing {

@@ -1,12 +1,12 @@
-#include "stored_shots.h"
+#include "tests/statistics/stored_shots.h"
 
 #include <QTest>
 
-#include "club_statistics.h"
-#include "hand.h"
-#include "report_rows.h"
-#include "report_store.h"
-#include "selection_windows.h"
+#include "reports/report_store.h"
+#include "statistics/club_statistics.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/hand.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,9 +3,9 @@
 #include <QString>
 #include <QStringList>
 
-#include "diary.h"
-#include "selection_arguments.h"
-#include "store_folder.h"
+#include "statistics/selection_arguments.h"
+#include "tests/support/diary.h"
+#include "tests/support/store_folder.h"
 
 /// What the tests of the club statistics share.
 namespace verdane::testing {

@@ -2,14 +2,14 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "f_sticks.h"
-#include "f_sticks_func.h"
-#include "failures.h"
-#include "golf_bags.h"
-#include "hand_widgets.h"
-#include "report_rows.h"
-#include "selection_windows.h"
-#include "window_look.h"
+#include "statistics/f_sticks.h"
+#include "statistics/f_sticks_func.h"
+#include "tests/statistics/golf_bags.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/failures.h"
+#include "tests/support/hand_widgets.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

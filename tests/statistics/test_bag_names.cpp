@@ -1,10 +1,10 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "f_sticks.h"
-#include "golf_bags.h"
-#include "Main_module.h"
-#include "window_look.h"
+#include "base/Main_module.h"
+#include "statistics/f_sticks.h"
+#include "tests/statistics/golf_bags.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

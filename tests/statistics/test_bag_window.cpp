@@ -4,13 +4,13 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "f_sticks.h"
-#include "golf_bags.h"
-#include "main_frame.h"
-#include "Main_module.h"
-#include "recording_frame.h"
-#include "ways_out.h"
-#include "window_look.h"
+#include "base/Main_module.h"
+#include "controls/main_frame.h"
+#include "statistics/f_sticks.h"
+#include "tests/statistics/golf_bags.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/ways_out.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,10 +1,10 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "failures.h"
-#include "report_rows.h"
-#include "stored_shots.h"
-#include "window_look.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/statistics/stored_shots.h"
+#include "tests/support/failures.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,11 +2,11 @@
 #include <QProgressBar>
 #include <QTest>
 
-#include "club_statistics.h"
-#include "DataEnvironment1.h"
-#include "selection_windows.h"
-#include "stored_shots.h"
-#include "window_look.h"
+#include "statistics/club_statistics.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/statistics/stored_shots.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

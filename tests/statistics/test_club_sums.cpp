@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "club_table.h"
-#include "failures.h"
-#include "report_texts.h"
+#include "statistics/club_table.h"
+#include "statistics/report_texts.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,16 +2,16 @@
 #include <QProgressBar>
 #include <QTest>
 
-#include "boxes.h"
-#include "cost_statistics.h"
-#include "DataEnvironment1.h"
-#include "diary.h"
-#include "failures.h"
-#include "hand_widgets.h"
-#include "report_rows.h"
-#include "report_store.h"
-#include "selection_windows.h"
-#include "store_folder.h"
+#include "controls/boxes.h"
+#include "reports/report_store.h"
+#include "statistics/cost_statistics.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/diary.h"
+#include "tests/support/failures.h"
+#include "tests/support/hand_widgets.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

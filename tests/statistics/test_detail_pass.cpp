@@ -1,14 +1,14 @@
 #include <QTest>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "detail_pass.h"
-#include "diary.h"
-#include "failures.h"
-#include "report_store.h"
-#include "selection_windows.h"
-#include "stats_table.h"
-#include "store_folder.h"
+#include "controls/boxes.h"
+#include "reports/report_store.h"
+#include "statistics/detail_pass.h"
+#include "statistics/stats_table.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/diary.h"
+#include "tests/support/failures.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,11 +1,11 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "diary.h"
-#include "failures.h"
-#include "handicap.h"
-#include "numbers.h"
-#include "store_folder.h"
+#include "base/numbers.h"
+#include "statistics/handicap.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/diary.h"
+#include "tests/support/failures.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

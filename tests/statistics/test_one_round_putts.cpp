@@ -1,13 +1,11 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "failures.h"
-#include "putt_rounds.h"
-#include "putt_statistics.h"
-#include "report_control.h"
-#include "report_preview.h"
-#include "round_putt_report.h"
-#include "window_look.h"
+#include "reports/report_control.h"
+#include "reports/report_preview.h"
+#include "statistics/putt_statistics.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/putt_rounds.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -58,11 +56,10 @@ private Q_SLOTS:
         rounds.putts(1, 1, {20, 3});
         QVERIFY(fill_grids(days(1, 2)));
         const QStringList choices = rounds.by_first(1).mid(23);
-        set_round_putt_report(Statistics::one_round_putt_report);
         Recordset& games2 = data_environment().rsgames2;
         games2.Open();
         report_control cr2;
-        launch_round_putt_report(cr2, u"Ronde : 1"_s, u"Vent"_s);
+        Statistics::one_round_putt_report(cr2, u"Ronde : 1"_s, u"Vent"_s);
         games2.Close();
         QVERIFY(cr2.preview());
         QVERIFY(cr2.ReportFileName().endsWith(french ? u"\\statPuts.rpt"_s : u"\\statPuts_en.rpt"_s));
@@ -72,7 +69,6 @@ private Q_SLOTS:
         // What a head of a single round does not show is left as the last selection wrote it.
         QCOMPARE(choices, (QStringList{u"ALL"_s, u"ALL PARTNERS"_s, u"ALL COURSES"_s, u"2"_s}));
         QCOMPARE(rounds.by_first(1).mid(23), choices);
-        set_round_putt_report({});
     }
 
     void the_report_of_a_round_without_putts_opens_too()
@@ -85,13 +81,6 @@ private Q_SLOTS:
         games2.Close();
         QVERIFY(cr2.preview());
         delete cr2.preview();
-    }
-
-    void a_program_without_that_report_fails()
-    {
-        set_round_putt_report({});
-        report_control cr2;
-        QVERIFY(failure_of([&] { launch_round_putt_report(cr2, {}, {}); }) == failure_kind::misuse);
     }
 };
 

@@ -2,14 +2,14 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "cost_statistics.h"
-#include "diary.h"
-#include "f_date_range.h"
-#include "f_date_range_func.h"
-#include "report_rows.h"
-#include "round_statistics.h"
-#include "store_folder.h"
-#include "Verdane_tools.h"
+#include "scoring/Verdane_tools.h"
+#include "statistics/cost_statistics.h"
+#include "statistics/f_date_range.h"
+#include "statistics/f_date_range_func.h"
+#include "statistics/round_statistics.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/support/diary.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "putt_bands.h"
+#include "statistics/putt_bands.h"
 
 using namespace verdane;
 

@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "failures.h"
-#include "putt_figures.h"
+#include "statistics/putt_figures.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,12 +1,12 @@
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "failures.h"
-#include "putt_bands.h"
-#include "putt_rounds.h"
-#include "putt_statistics.h"
-#include "report_rows.h"
-#include "window_look.h"
+#include "statistics/putt_bands.h"
+#include "statistics/putt_statistics.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/putt_rounds.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/support/failures.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,10 +1,10 @@
 #include <QMessageBox>
 #include <QTest>
 
-#include "DataEnvironment1.h"
-#include "putt_rounds.h"
-#include "report_rows.h"
-#include "selection_windows.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/putt_rounds.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/statistics/selection_windows.h"
 
 using namespace verdane;
 using namespace verdane::testing;

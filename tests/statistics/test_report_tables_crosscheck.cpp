@@ -6,13 +6,13 @@
 #include <cmath>
 #include <map>
 
-#include "club_statistics.h"
-#include "cost_statistics.h"
-#include "DataEnvironment1.h"
-#include "full_diary.h"
-#include "putt_statistics.h"
-#include "report_rows.h"
-#include "selection_clauses.h"
+#include "statistics/club_statistics.h"
+#include "statistics/cost_statistics.h"
+#include "statistics/putt_statistics.h"
+#include "statistics/selection_clauses.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/support/full_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;

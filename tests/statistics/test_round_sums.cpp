@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "failures.h"
-#include "round_sums.h"
-#include "stats_lines.h"
+#include "statistics/round_sums.h"
+#include "statistics/stats_lines.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -3,14 +3,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "f_carte.h"
-#include "f_carte_func.h"
-#include "failures.h"
-#include "language.h"
-#include "report_dialogs.h"
-#include "report_store.h"
-#include "scorecard_windows.h"
-#include "window_look.h"
+#include "base/language.h"
+#include "reports/report_dialogs.h"
+#include "reports/report_store.h"
+#include "statistics/f_carte.h"
+#include "statistics/f_carte_func.h"
+#include "tests/statistics/scorecard_windows.h"
+#include "tests/support/failures.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

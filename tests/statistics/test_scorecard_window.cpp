@@ -2,12 +2,12 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "f_carte.h"
-#include "language.h"
-#include "main_frame.h"
-#include "recording_frame.h"
-#include "scorecard_windows.h"
-#include "window_look.h"
+#include "base/language.h"
+#include "controls/main_frame.h"
+#include "statistics/f_carte.h"
+#include "tests/statistics/scorecard_windows.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -3,13 +3,13 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "f_date_range.h"
-#include "f_date_range_func.h"
-#include "main_frame.h"
-#include "selection_windows.h"
-#include "store_folder.h"
-#include "three_rounds.h"
-#include "window_look.h"
+#include "controls/main_frame.h"
+#include "statistics/f_date_range.h"
+#include "statistics/f_date_range_func.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/statistics/three_rounds.h"
+#include "tests/support/store_folder.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

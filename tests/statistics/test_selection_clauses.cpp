@@ -1,11 +1,11 @@
 #include <QTest>
 
-#include "club_shots.h"
-#include "cost_statistics.h"
-#include "detail_pass.h"
-#include "putt_statistics.h"
-#include "selected_rounds.h"
-#include "selection_clauses.h"
+#include "statistics/club_shots.h"
+#include "statistics/cost_statistics.h"
+#include "statistics/detail_pass.h"
+#include "statistics/putt_statistics.h"
+#include "statistics/selected_rounds.h"
+#include "statistics/selection_clauses.h"
 
 using namespace verdane;
 

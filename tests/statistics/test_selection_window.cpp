@@ -2,16 +2,16 @@
 #include <QLabel>
 #include <QTest>
 
-#include "boxes.h"
-#include "DataEnvironment1.h"
-#include "f_date_range.h"
-#include "main_frame.h"
-#include "recording_frame.h"
-#include "selection_windows.h"
-#include "store_folder.h"
-#include "three_rounds.h"
-#include "ways_out.h"
-#include "window_look.h"
+#include "controls/boxes.h"
+#include "controls/main_frame.h"
+#include "statistics/f_date_range.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/statistics/three_rounds.h"
+#include "tests/support/recording_frame.h"
+#include "tests/support/store_folder.h"
+#include "tests/support/ways_out.h"
+#include "tests/support/window_look.h"
 
 using namespace verdane;
 using namespace verdane::testing;

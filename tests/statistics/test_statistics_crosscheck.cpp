@@ -4,12 +4,12 @@
 #include <map>
 #include <random>
 
-#include "DataEnvironment1.h"
-#include "diary.h"
-#include "handicap_opinion.h"
-#include "report_store.h"
-#include "selection_windows.h"
-#include "store_folder.h"
+#include "reports/report_store.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/handicap_opinion.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/diary.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -4,12 +4,12 @@
 
 #include <cstdio>
 
-#include "diary.h"
-#include "hand.h"
-#include "report_store.h"
-#include "run_time_failure.h"
-#include "selection_windows.h"
-#include "store_folder.h"
+#include "base/run_time_failure.h"
+#include "reports/report_store.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/diary.h"
+#include "tests/support/hand.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -2,17 +2,17 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "club_statistics.h"
-#include "cost_statistics.h"
-#include "DataEnvironment1.h"
-#include "detail_pass.h"
-#include "diary.h"
-#include "f_date_range.h"
-#include "f_date_range_func.h"
-#include "putt_statistics.h"
-#include "report_rows.h"
-#include "round_statistics.h"
-#include "store_folder.h"
+#include "statistics/club_statistics.h"
+#include "statistics/cost_statistics.h"
+#include "statistics/detail_pass.h"
+#include "statistics/f_date_range.h"
+#include "statistics/f_date_range_func.h"
+#include "statistics/putt_statistics.h"
+#include "statistics/round_statistics.h"
+#include "store/DataEnvironment1.h"
+#include "tests/statistics/report_rows.h"
+#include "tests/support/diary.h"
+#include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -1,4 +1,4 @@
-#include "three_rounds.h"
+#include "tests/statistics/three_rounds.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diary.h"
+#include "tests/support/diary.h"
 
 /// The diary that the tests of the selection window select from.
 namespace verdane::testing {

@@ -9,9 +9,9 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include "Connection1.h"
-#include "Recordset.h"
-#include "store_child.h"
+#include "store/Connection1.h"
+#include "store/Recordset.h"
+#include "tests/store/store_child.h"
 
 using namespace verdane;
 

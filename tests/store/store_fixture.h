@@ -5,9 +5,9 @@
 
 #include <memory>
 
-#include "Connection1.h"
-#include "reader.h"
-#include "Recordset.h"
+#include "store/Connection1.h"
+#include "store/Recordset.h"
+#include "tests/support/reader.h"
 
 namespace verdane::testing {
 

@@ -1,9 +1,9 @@
 #include <QTest>
 
-#include "failures.h"
-#include "relaxed_commits.h"
-#include "store_child.h"
-#include "store_fixture.h"
+#include "store/relaxed_commits.h"
+#include "tests/store/store_child.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::child_failure;

@@ -1,10 +1,10 @@
-#include "DataEnvironment1.h"
+#include "store/DataEnvironment1.h"
 
 #include <QTest>
 
-#include "catalogue.h"
-#include "failures.h"
-#include "store_fixture.h"
+#include "store/catalogue.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

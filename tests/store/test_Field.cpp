@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "failures.h"
-#include "store_fixture.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "failures.h"
-#include "schema.h"
+#include "store/schema.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

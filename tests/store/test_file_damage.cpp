@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <map>
 
-#include "failures.h"
-#include "full_diary.h"
-#include "store_files.h"
-#include "store_fixture.h"
+#include "store/store_files.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
+#include "tests/support/full_diary.h"
 
 using namespace verdane;
 using testing::bytes_of;

@@ -1,9 +1,9 @@
-#include "fresh_store.h"
+#include "store/fresh_store.h"
 
 #include <QTest>
 
-#include "failures.h"
-#include "store_fixture.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::bytes_of;

@@ -2,11 +2,11 @@
 
 #include <sqlite3.h>
 
-#include "engine_handle.h"
-#include "failures.h"
-#include "joined_commits.h"
-#include "other_program.h"
-#include "store_fixture.h"
+#include "store/engine_handle.h"
+#include "store/joined_commits.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
+#include "tests/support/other_program.h"
 
 using namespace verdane;
 using testing::failure_of;

@@ -2,9 +2,9 @@
 
 #include <functional>
 
-#include "failures.h"
-#include "other_program.h"
-#include "store_fixture.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
+#include "tests/support/other_program.h"
 
 using namespace verdane;
 using testing::failure_of;

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "failures.h"
-#include "store_fixture.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "store_fixture.h"
+#include "tests/store/store_fixture.h"
 
 using namespace verdane;
 using testing::all_partners;

@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "failures.h"
-#include "store_fixture.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

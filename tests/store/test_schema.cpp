@@ -1,8 +1,8 @@
-#include "schema.h"
+#include "store/schema.h"
 
 #include <QTest>
 
-#include "store_fixture.h"
+#include "tests/store/store_fixture.h"
 
 using namespace verdane;
 using testing::store_fixture;

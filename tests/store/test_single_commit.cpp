@@ -1,8 +1,8 @@
 #include <QTest>
 
-#include "failures.h"
-#include "single_commit.h"
-#include "store_fixture.h"
+#include "store/single_commit.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::failure_of;

@@ -3,9 +3,9 @@
 #include <functional>
 #include <sys/stat.h>
 
-#include "failures.h"
-#include "store_child.h"
-#include "store_fixture.h"
+#include "tests/store/store_child.h"
+#include "tests/store/store_fixture.h"
+#include "tests/support/failures.h"
 
 using namespace verdane;
 using testing::bytes_of;

@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "store_child.h"
-#include "store_fixture.h"
+#include "tests/store/store_child.h"
+#include "tests/store/store_fixture.h"
 
 using namespace verdane;
 using testing::reader;

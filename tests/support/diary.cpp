@@ -1,4 +1,4 @@
-#include "diary.h"
+#include "tests/support/diary.h"
 
 #include <QDate>
 

@@ -5,8 +5,8 @@
 #include <array>
 #include <vector>
 
-#include "reader.h"
-#include "scorecards.h"
+#include "tests/support/reader.h"
+#include "tests/support/scorecards.h"
 
 /// A golfer's diary, written into a store from outside: courses, partners, rounds and shots.
 namespace verdane::testing {

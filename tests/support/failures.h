@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "run_time_failure.h"
+#include "base/run_time_failure.h"
 
 namespace verdane::testing {
 

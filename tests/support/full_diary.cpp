@@ -1,15 +1,15 @@
-#include "full_diary.h"
+#include "tests/support/full_diary.h"
 
 #include <QDate>
 #include <QTime>
 
 #include <algorithm>
 
-#include "Connection1.h"
-#include "diary.h"
-#include "golfer.h"
-#include "schema.h"
-#include "table_filler.h"
+#include "store/Connection1.h"
+#include "store/schema.h"
+#include "tests/support/diary.h"
+#include "tests/support/golfer.h"
+#include "tests/support/table_filler.h"
 
 namespace verdane::testing {
 

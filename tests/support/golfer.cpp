@@ -1,4 +1,4 @@
-#include "golfer.h"
+#include "tests/support/golfer.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "hand.h"
+#include "tests/support/hand.h"
 
 #include <QApplication>
 #include <QTest>
@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <thread>
 
-#include "hand_thread.h"
-#include "hand_widgets.h"
+#include "tests/support/hand_thread.h"
+#include "tests/support/hand_widgets.h"
 
 namespace verdane::testing {
 

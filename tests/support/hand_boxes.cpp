@@ -3,8 +3,8 @@
 #include <QPointer>
 #include <QTest>
 
-#include "hand.h"
-#include "hand_thread.h"
+#include "tests/support/hand.h"
+#include "tests/support/hand_thread.h"
 
 /// What the hand does with message boxes.
 namespace verdane::testing {

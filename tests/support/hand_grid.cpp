@@ -5,9 +5,9 @@
 #include <QTableView>
 #include <QTest>
 
-#include "data_grid.h"
-#include "hand.h"
-#include "hand_widgets.h"
+#include "controls/data_grid.h"
+#include "tests/support/hand.h"
+#include "tests/support/hand_widgets.h"
 
 /// What the hand does with grids and their menus.
 namespace verdane::testing {

@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "hand.h"
+#include "tests/support/hand.h"
 
 /// What the hand does with the keyboard.
 namespace verdane::testing {

@@ -10,9 +10,9 @@
 
 #include <cstdio>
 
-#include "hand.h"
-#include "hand_thread.h"
-#include "hand_widgets.h"
+#include "tests/support/hand.h"
+#include "tests/support/hand_thread.h"
+#include "tests/support/hand_widgets.h"
 
 /// What the hand does with the mouse.
 namespace verdane::testing {

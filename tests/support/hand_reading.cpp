@@ -3,10 +3,10 @@
 #include <QLineEdit>
 #include <QPixmap>
 
-#include "boxes.h"
-#include "hand.h"
-#include "hand_thread.h"
-#include "hand_widgets.h"
+#include "controls/boxes.h"
+#include "tests/support/hand.h"
+#include "tests/support/hand_thread.h"
+#include "tests/support/hand_widgets.h"
 
 /// What the hand reads from windows and controls.
 namespace verdane::testing {

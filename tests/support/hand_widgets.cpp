@@ -1,4 +1,4 @@
-#include "hand_widgets.h"
+#include "tests/support/hand_widgets.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,4 +1,4 @@
-#include "other_program.h"
+#include "tests/support/other_program.h"
 
 #include <QSqlDatabase>
 #include <QSqlError>

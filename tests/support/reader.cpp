@@ -1,4 +1,4 @@
-#include "reader.h"
+#include "tests/support/reader.h"
 
 #include <QSqlDatabase>
 #include <QSqlError>

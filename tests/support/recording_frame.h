@@ -3,7 +3,7 @@
 #include <QHash>
 #include <QWidget>
 
-#include "main_frame.h"
+#include "controls/main_frame.h"
 
 namespace verdane::testing {
 

@@ -1,4 +1,4 @@
-#include "scorecards.h"
+#include "tests/support/scorecards.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,9 +1,9 @@
-#include "store_folder.h"
+#include "tests/support/store_folder.h"
 
-#include "DataEnvironment1.h"
-#include "language.h"
-#include "Main_module.h"
-#include "toolkit_language.h"
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "controls/toolkit_language.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::testing {
 

@@ -1,4 +1,4 @@
-#include "store_invariants.h"
+#include "tests/support/store_invariants.h"
 
 namespace verdane::testing {
 

@@ -1,4 +1,4 @@
-#include "table_filler.h"
+#include "tests/support/table_filler.h"
 
 #include <QSqlError>
 #include <QUuid>

@@ -3,8 +3,8 @@
 
 #include <set>
 
-#include "full_diary.h"
-#include "reader.h"
+#include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
 
 using namespace verdane::testing;
 

@@ -1,8 +1,8 @@
-#include "ways_out.h"
+#include "tests/support/ways_out.h"
 
 #include <QTest>
 
-#include "main_frame.h"
+#include "controls/main_frame.h"
 
 namespace verdane::testing {
 

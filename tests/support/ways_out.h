@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "hand.h"
+#include "tests/support/hand.h"
 
 namespace verdane::testing {
 

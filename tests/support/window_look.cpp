@@ -1,4 +1,4 @@
-#include "window_look.h"
+#include "tests/support/window_look.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -11,9 +11,9 @@
 
 #include <algorithm>
 
-#include "DataEnvironment1.h"
-#include "Form.h"
-#include "look.h"
+#include "controls/Form.h"
+#include "controls/look.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane::testing {
 

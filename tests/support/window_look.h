@@ -2,8 +2,8 @@
 
 #include <QStringList>
 
-#include "hand.h"
-#include "languages.h"
+#include "tests/support/hand.h"
+#include "tests/support/languages.h"
 
 /// What the tests of a window look at: its controls, and what it left open.
 namespace verdane::testing {

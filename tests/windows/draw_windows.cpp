@@ -6,8 +6,8 @@
 
 #include <cstdlib>
 
-#include "every_view.h"
-#include "start_up.h"
+#include "shell/start_up.h"
+#include "tests/windows/every_view.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;

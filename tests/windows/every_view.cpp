@@ -1,11 +1,11 @@
-#include "every_view.h"
+#include "tests/windows/every_view.h"
 
 #include <QWidget>
 
-#include "full_diary.h"
-#include "hand_widgets.h"
-#include "language.h"
-#include "program_run.h"
+#include "base/language.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/full_diary.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace Qt::StringLiterals;
 

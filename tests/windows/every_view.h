@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "hand.h"
+#include "tests/support/hand.h"
 
 /// A walk through every window of the program, for what holds in each of them.
 namespace verdane::testing {

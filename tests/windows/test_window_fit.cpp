@@ -3,12 +3,12 @@
 #include <QScrollArea>
 #include <QTest>
 
-#include "every_view.h"
-#include "hand_widgets.h"
-#include "languages.h"
-#include "look.h"
-#include "TabStrip.h"
-#include "window_look.h"
+#include "controls/look.h"
+#include "controls/TabStrip.h"
+#include "tests/support/hand_widgets.h"
+#include "tests/support/languages.h"
+#include "tests/support/window_look.h"
+#include "tests/windows/every_view.h"
 
 using namespace verdane;
 using namespace verdane::testing;

@@ -5,10 +5,10 @@
 
 #include <set>
 
-#include "every_view.h"
-#include "hand_widgets.h"
-#include "languages.h"
-#include "start_up.h"
+#include "shell/start_up.h"
+#include "tests/support/hand_widgets.h"
+#include "tests/support/languages.h"
+#include "tests/windows/every_view.h"
 
 using namespace verdane;
 using namespace verdane::testing;

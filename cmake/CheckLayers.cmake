@@ -1,0 +1,65 @@
+# Checks that the libraries depend on each other in one direction only, as they are declared. Run by CTest:
+#
+#   cmake -D SOURCES=FOLDER -D LIBRARIES=FILE -P CheckLayers.cmake
+#
+# FILE has one line for each library, from the lowest to the highest: its name, then what it links.
+#
+# - A library links only libraries that are declared before it.
+# - An include in src/ names its folder, and the folder is the file's own or that of a library linked,
+#   directly or through another one.
+# - The diagram of docs/architecture.md has exactly these links.
+
+cmake_minimum_required(VERSION 3.25)
+
+set(problems)
+macro(problem)
+  list(APPEND problems "${ARGN}")
+endmacro()
+
+set(folders)
+set(diagram)
+file(STRINGS ${LIBRARIES} lines)
+foreach(line ${lines})
+  string(REPLACE " " ";" links "${line}")
+  list(POP_FRONT links name)
+  string(REPLACE "verdane_" "" folder ${name})
+  set(reachable_${folder} ${folder})
+  foreach(link ${links})
+    if(NOT link MATCHES "^verdane_")
+      continue()
+    endif()
+    string(REPLACE "verdane_" "" target ${link})
+    if(NOT target IN_LIST folders)
+      problem("${folder} links ${target}, which is not declared before it")
+    endif()
+    list(APPEND reachable_${folder} ${reachable_${target}})
+    string(APPEND diagram "    ${folder} --> ${target}\n")
+  endforeach()
+  list(APPEND folders ${folder})
+endforeach()
+
+foreach(folder ${folders})
+  file(GLOB_RECURSE files ${SOURCES}/src/${folder}/*.h ${SOURCES}/src/${folder}/*.cpp)
+  foreach(file ${files})
+    file(STRINGS ${file} includes REGEX "^#include \"")
+    foreach(include ${includes})
+      string(REGEX REPLACE "^#include \"([^/\"]*).*" "\\1" target "${include}")
+      if(NOT target IN_LIST reachable_${folder})
+        problem("${file}: ${include}")
+      endif()
+    endforeach()
+  endforeach()
+endforeach()
+
+file(READ ${SOURCES}/docs/architecture.md architecture)
+string(FIND "${architecture}" "```mermaid\ngraph BT\n${diagram}```\n" place)
+if(place EQUAL -1)
+  problem("docs/architecture.md lacks this diagram:\n```mermaid\ngraph BT\n${diagram}```")
+endif()
+
+if(problems)
+  list(JOIN problems "\n" text)
+  message(FATAL_ERROR "${text}")
+endif()
+list(LENGTH folders count)
+message(STATUS "${count} libraries, each below those that use it")

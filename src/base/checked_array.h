@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <cstddef>
+
+#include "base/run_time_failure.h"
+
+namespace verdane {
+
+/// A list of fixed length, indexed from `First`, whose index is checked: one outside the list is a
+/// `run_time_failure` of the kind `subscript`.
+template <typename T, std::size_t Length, int First = 0>
+class checked_array {
+public:
+    static constexpr int first_index = First;
+    static constexpr int last_index = First + static_cast<int>(Length) - 1;
+
+    T& operator[](int index) { return items_[position(index)]; }
+    const T& operator[](int index) const { return items_[position(index)]; }
+
+    /// Puts every item back to its initial value.
+    void clear() { items_ = {}; }
+
+private:
+    static std::size_t position(int index)
+    {
+        if (index < first_index || index > last_index)
+            throw run_time_failure(
+                failure_kind::subscript,
+                QStringLiteral("index %1 is outside %2 to %3").arg(index).arg(first_index).arg(last_index));
+        return static_cast<std::size_t>(index - first_index);
+    }
+
+    std::array<T, Length> items_{};
+};
+
+}  // namespace verdane

@@ -1,0 +1,13 @@
+#include "base/language.h"
+
+namespace verdane {
+
+bool is_french = true;
+bool language_is_settled = false;
+
+QString in_language(QStringView french, QStringView english)
+{
+    return text_pair{french, english}.in(is_french);
+}
+
+}  // namespace verdane

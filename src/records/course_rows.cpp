@@ -1,0 +1,23 @@
+#include "records/course_rows.h"
+
+#include "store/Connection1.h"
+#include "store/DataEnvironment1.h"
+
+namespace verdane::Round_functions {
+
+void move_to_course(int list_index)
+{
+    Recordset& courses = data_environment().rsvrd_fields;
+    courses.MoveFirst();
+    courses.Move(list_index);
+}
+
+void find_holes_of_course(search_direction direction)
+{
+    Recordset& holes = data_environment().rsfield_info;
+    const QString code = data_environment().rsvrd_fields.Fields(u"code").trimmed();
+    holes.MoveFirst();
+    holes.Find(u"FIELD_CODE =" + quoted(code), direction);
+}
+
+}  // namespace verdane::Round_functions

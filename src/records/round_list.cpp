@@ -1,0 +1,38 @@
+#include "records/round_list.h"
+
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "scoring/round_key.h"
+#include "store/DataEnvironment1.h"
+
+namespace verdane::Round_functions {
+
+namespace {
+
+QString line_of_current_row(Recordset& games)
+{
+    return Verdane_tools::round_entry(games.Fields(round_columns::date).text_or_empty(),
+                                      games.Fields(round_columns::field).text_or_empty(), round_incomplete());
+}
+
+}  // namespace
+
+void open_rounds_in_time_order()
+{
+    Recordset& games = data_environment().rsgames;
+    games.set_Source(games.settings().source);
+    games.Open();
+}
+
+QStringList round_list_lines()
+{
+    Recordset& games = data_environment().rsgames;
+    QStringList lines;
+    if (games.eof())
+        return lines;
+    for (games.MoveFirst(); !games.eof(); games.MoveNext())
+        lines << line_of_current_row(games);
+    return lines;
+}
+
+}  // namespace verdane::Round_functions

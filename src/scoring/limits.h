@@ -1,0 +1,15 @@
+#pragma once
+
+/// How much the diary holds. Each limit is defined here once; a list of fixed length is declared with it.
+namespace verdane {
+
+constexpr int hole_count = 18;
+/// The clubs of the bag; the last one is the putter.
+constexpr int club_count = 14;
+/// Putts of a hole whose lengths are stored.
+constexpr int putt_lengths_kept = 6;
+constexpr int most_rounds = 366;
+/// Courses, each with one tee.
+constexpr int most_courses = 51;
+
+}  // namespace verdane

@@ -1,0 +1,55 @@
+#include <QTest>
+
+#include "base/Main_module.h"
+#include "tests/support/failures.h"
+
+using namespace verdane;
+using testing::failure_of;
+
+class test_Main_module : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Main_module::round_keys.clear();
+        Main_module::round_key_count = 0;
+    }
+
+    void a_key_goes_to_the_next_place()
+    {
+        Main_module::append_round_key(QStringLiteral("20030614093000"));
+        Main_module::append_round_key(QStringLiteral("20030615093000"));
+        QCOMPARE(plain(Main_module::round_key_count), 2);
+        QCOMPARE(Main_module::round_keys[1], QStringLiteral("20030615093000"));
+        QCOMPARE(Main_module::round_keys[2], QString());
+    }
+
+    void a_key_that_is_there_already_is_appended_again()
+    {
+        Main_module::append_round_key(QStringLiteral("20030614093000"));
+        Main_module::append_round_key(QStringLiteral("20030614093000"));
+        QCOMPARE(plain(Main_module::round_key_count), 2);
+    }
+
+    void the_list_takes_366_keys_and_no_more()
+    {
+        for (int i = 0; i < 366; ++i)
+            Main_module::append_round_key(QString::number(i));
+        QCOMPARE(plain(Main_module::round_key_count), 366);
+        QVERIFY(failure_of([] { Main_module::append_round_key(QStringLiteral("x")); }) ==
+                failure_kind::subscript);
+        QCOMPARE(plain(Main_module::round_key_count), 366);
+        QCOMPARE(Main_module::round_keys[365], QStringLiteral("365"));
+    }
+
+    void there_are_fourteen_clubs()
+    {
+        Main_module::club_names[13] = QStringLiteral("Pu");
+        QCOMPARE(Main_module::club_names[13], QStringLiteral("Pu"));
+        QVERIFY(failure_of([] { Main_module::club_names[14] = QString(); }) == failure_kind::subscript);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_Main_module)
+#include "test_Main_module.moc"

@@ -1,0 +1,70 @@
+#include <QTest>
+
+#include "base/checked_array.h"
+#include "tests/support/failures.h"
+
+using namespace verdane;
+using testing::failure_of;
+
+class test_checked_array : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void every_place_starts_with_the_initial_value()
+    {
+        checked_array<int, 3> list;
+        for (int index = list.first_index; index <= list.last_index; ++index)
+            QCOMPARE(list[index], 0);
+    }
+
+    void both_ends_can_be_written_and_read()
+    {
+        checked_array<int, 18, 1> holes;
+        QCOMPARE(holes.first_index, 1);
+        QCOMPARE(holes.last_index, 18);
+        holes[1] = 7;
+        holes[18] = 9;
+        QCOMPARE(holes[1], 7);
+        QCOMPARE(std::as_const(holes)[18], 9);
+    }
+
+    void an_index_outside_is_a_subscript_failure_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::newRow("right before the first") << 0;
+        QTest::newRow("right behind the last") << 19;
+        QTest::newRow("negative") << -1;
+    }
+
+    void an_index_outside_is_a_subscript_failure()
+    {
+        QFETCH(int, index);
+        checked_array<int, 18, 1> holes;
+        QVERIFY(failure_of([&] { holes[index] = 1; }) == failure_kind::subscript);
+        QVERIFY(failure_of([&] { (void)std::as_const(holes)[index]; }) == failure_kind::subscript);
+    }
+
+    void the_failure_names_the_index_and_the_bounds()
+    {
+        checked_array<int, 18, 1> holes;
+        try {
+            holes[19] = 1;
+            QFAIL("no failure");
+        } catch (const run_time_failure& failure) {
+            QVERIFY(failure.details().contains(u"19"));
+            QVERIFY(failure.details().contains(u"1 to 18"));
+            QCOMPARE(QString::fromUtf8(failure.what()), failure.details());
+        }
+    }
+
+    void clearing_puts_back_the_initial_values()
+    {
+        checked_array<QString, 2> list;
+        list[1] = QStringLiteral("x");
+        list.clear();
+        QCOMPARE(list[1], QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(test_checked_array)
+#include "test_checked_array.moc"

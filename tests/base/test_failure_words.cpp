@@ -1,0 +1,78 @@
+#include <QSet>
+#include <QTest>
+
+#include <array>
+
+#include "base/run_time_failure.h"
+
+using namespace verdane;
+
+namespace {
+
+constexpr std::array every_kind = {
+    failure_kind::overflow,
+    failure_kind::subscript,
+    failure_kind::invalid_null,
+    failure_kind::bad_number,
+    failure_kind::misuse,
+    failure_kind::missing_table,
+    failure_kind::store_locked,
+    failure_kind::store_read_only,
+    failure_kind::store_damaged,
+    failure_kind::store_full,
+    failure_kind::store_unreachable,
+    failure_kind::store_other,
+    failure_kind::report_template,
+    failure_kind::report_output,
+};
+
+}  // namespace
+
+class test_failure_words : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void every_kind_has_words_in_both_languages()
+    {
+        QCOMPARE(static_cast<int>(every_kind.back()) + 1, static_cast<int>(every_kind.size()));
+        for (const failure_kind kind : every_kind) {
+            const text_pair words = failure_words(kind);
+            QVERIFY(words.in(true).endsWith(u'.'));
+            QVERIFY(words.in(false).endsWith(u'.'));
+            QVERIFY(words.in(true) != words.in(false));
+        }
+    }
+
+    void no_two_kinds_share_their_words()
+    {
+        QSet<QString> french;
+        QSet<QString> english;
+        for (const failure_kind kind : every_kind) {
+            french.insert(failure_words(kind).in(true));
+            english.insert(failure_words(kind).in(false));
+        }
+        QCOMPARE(french.size(), static_cast<qsizetype>(every_kind.size()));
+        QCOMPARE(english.size(), static_cast<qsizetype>(every_kind.size()));
+    }
+
+    void every_kind_says_what_became_of_the_data()
+    {
+        for (const failure_kind kind : every_kind) {
+            const QString words = failure_words(kind).in(false);
+            QVERIFY2(words.contains(u"intact") || words.contains(u"Nothing was changed") ||
+                         words.contains(u"was not changed"),
+                     qPrintable(words));
+        }
+    }
+
+    void a_failure_carries_its_kind_and_its_details()
+    {
+        const run_time_failure failure(failure_kind::misuse, QStringLiteral("rsgames: déjà ouvert"));
+        QCOMPARE(failure.kind(), failure_kind::misuse);
+        QCOMPARE(failure.details(), QStringLiteral("rsgames: déjà ouvert"));
+        QCOMPARE(QString::fromUtf8(failure.what()), failure.details());
+    }
+};
+
+QTEST_GUILESS_MAIN(test_failure_words)
+#include "test_failure_words.moc"

@@ -1,0 +1,38 @@
+#include <QTest>
+
+#include "base/language.h"
+
+using namespace verdane;
+
+class test_language : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_program_starts_in_french() { QVERIFY(is_french); }
+
+    void a_text_follows_the_language_of_the_moment()
+    {
+        is_french = true;
+        QCOMPARE(in_language(u"Trou", u"Hole"), QStringLiteral("Trou"));
+        is_french = false;
+        QCOMPARE(in_language(u"Trou", u"Hole"), QStringLiteral("Hole"));
+    }
+
+    void a_pair_answers_for_a_language_settled_earlier()
+    {
+        constexpr text_pair label{u"Verges :", u"Yards :"};
+        is_french = false;
+        QCOMPARE(label.in(true), QStringLiteral("Verges :"));
+        QCOMPARE(label.in(false), QStringLiteral("Yards :"));
+    }
+
+    void slips_and_blanks_stay()
+    {
+        constexpr text_pair label{u"Putt  :", u" ALL "};
+        QCOMPARE(label.in(true), QStringLiteral("Putt  :"));
+        QCOMPARE(label.in(false), QStringLiteral(" ALL "));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_language)
+#include "test_language.moc"

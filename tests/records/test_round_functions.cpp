@@ -1,0 +1,208 @@
+#include <QTest>
+
+#include "records/round_columns.h"
+#include "records/Round_functions.h"
+#include "scoring/hole_classes.h"
+#include "tests/records/round_in_store.h"
+#include "tests/support/failures.h"
+
+using namespace verdane;
+using namespace verdane::Round_functions;
+using testing::failure_of;
+using testing::round_in_store;
+
+namespace {
+
+/// Seven boxes with the texts that a user typed, read as the round window reads them.
+class typed_boxes : public hole_boxes {
+public:
+    explicit typed_boxes(QStringList texts) : texts_(std::move(texts)) {}
+
+    hole_figures figures() const override
+    {
+        const auto box = [this](int i) { return figure_of_box(texts_.value(i)); };
+        return {box(0), box(1), box(2), box(3), box(4), box(5), box(6)};
+    }
+
+private:
+    QStringList texts_;
+};
+
+}  // namespace
+
+class test_round_functions : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { round_ = std::make_unique<round_in_store>(); }
+
+    void cleanup()
+    {
+        set_hole_boxes(nullptr);
+        round_.reset();
+    }
+
+    void the_flag_names_the_source_of_every_figure()
+    {
+        store_strokes(2, {1, 2, 3});
+        store_penalties(2, {4, 5, 6, 7});
+        expect_figures(true, {1, 2, 3, 4, 5, 6, 7});
+        const typed_boxes boxes({u"11"_qs, u"12"_qs, u"13"_qs, u"14"_qs, u"15"_qs, u"16"_qs, u"17"_qs});
+        set_hole_boxes(&boxes);
+        expect_figures(false, {11, 12, 13, 14, 15, 16, 17});
+        expect_figures(true, {1, 2, 3, 4, 5, 6, 7});
+    }
+
+    void both_sources_give_the_same_cells()
+    {
+        store_strokes(4, {2, 1, 1});
+        const typed_boxes boxes({u"2"_qs, u"1a"_qs, u" 1"_qs});
+        set_hole_boxes(&boxes);
+        for (const selector_row& row : panel_selectors)
+            QCOMPARE(hole_cell(row.selector, 4, true), hole_cell(row.selector, 4, false));
+        QCOMPARE(hole_cell(7, 4, false), u"1"_qs);
+        QCOMPARE(hole_cell(10, 4, true), u"1"_qs);
+        QCOMPARE(hole_cell(2, 4, true), QString());
+    }
+
+    void the_boxes_take_only_the_par_from_the_hole()
+    {
+        const typed_boxes boxes({u"1"_qs, u"0"_qs, u"2"_qs});
+        set_hole_boxes(&boxes);
+        QCOMPARE(in_regulation(3, false), 1);
+        QCOMPARE(in_regulation(4, false), 0);
+        QVERIFY(!not_in_regulation(3, false));
+        QVERIFY(not_in_regulation(4, false));
+        QCOMPARE(hole_cell(1, 3, false), u"1"_qs);
+        QCOMPARE(hole_cell(21, 4, false), u"1"_qs);
+    }
+
+    void boxes_without_a_window_are_a_misuse()
+    {
+        QVERIFY(failure_of([] { hole_long(1, false); }) == failure_kind::misuse);
+        QVERIFY(failure_of([] { round_score(false); }) == failure_kind::misuse);
+        QVERIFY(!failure_of([] { round_score(true); }));
+    }
+
+    void a_fresh_hole_counts_nothing()
+    {
+        QCOMPARE(plain(hole_gross(1, true)), 0);
+        QCOMPARE(plain(hole_penalties(1, true)), 0);
+        QCOMPARE(hole_cell(1, 1, true), u" "_qs);
+        QVERIFY(!not_in_regulation(1, true));
+    }
+
+    void a_null_penalty_fails_where_it_is_needed()
+    {
+        round_->store.rsgames.Fields(round_columns::pen_water_h(6)).set_null();
+        QVERIFY(failure_of([] { hole_gross(6, true); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { hole_cell(1, 6, true); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { hole_pen_water(6, true); }) == failure_kind::invalid_null);
+        QCOMPARE(plain(hole_long(6, true)), 0);
+    }
+
+    void a_null_par_fails()
+    {
+        round_->store.rsfield_info.Fields(round_columns::par_h(6)).set_null();
+        QVERIFY(failure_of([] { in_regulation(6, true); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { round_score(true); }) == failure_kind::invalid_null);
+    }
+
+    void a_round_adds_up_its_eighteen_holes()
+    {
+        fill_round();
+        const round_figures score = round_score(true);
+        QCOMPARE(plain(score.totals.gross), 90);
+        QCOMPARE(plain(score.totals.par), 72);
+        QCOMPARE(score.differential, 16.95);
+        const round_labels labels = labels_of(score);
+        QCOMPARE(labels.l_hand, u"16.95"_qs);
+        QCOMPARE(labels.l_brut, u"90"_qs);
+        QCOMPARE(labels.l_net, u"74"_qs);
+        QCOMPARE(labels.l_plus, u"18"_qs);
+    }
+
+    void only_the_last_hole_may_come_from_the_boxes()
+    {
+        fill_round();
+        const typed_boxes boxes({u"3"_qs, u"3"_qs, u"3"_qs, u"1"_qs});
+        set_hole_boxes(&boxes);
+        QCOMPARE(plain(round_score(false).totals.gross), 90 - 5 + 10);
+        QCOMPARE(plain(round_score(true).totals.gross), 90);
+    }
+
+    void penalties_count_in_the_gross_of_a_round()
+    {
+        fill_round();
+        store_penalties(9, {1, 1, 1, 1});
+        QCOMPARE(plain(round_score(true).totals.gross), 94);
+    }
+
+    void a_course_without_slope_gives_no_differential_data()
+    {
+        QTest::addColumn<QVariant>("slope");
+        QTest::newRow("0") << QVariant(0);
+        QTest::newRow("empty") << QVariant(QString());
+        QTest::newRow("none") << QVariant();
+    }
+
+    void a_course_without_slope_gives_no_differential()
+    {
+        QFETCH(QVariant, slope);
+        fill_round();
+        round_->store.rsvrd_fields.Fields(round_columns::slope).set(slope);
+        const round_labels labels = labels_of(round_score(true));
+        QCOMPARE(labels.l_hand, u"0"_qs);
+        QCOMPARE(labels.l_net, labels.l_brut);
+    }
+
+    void a_rating_is_read_up_to_what_is_no_number()
+    {
+        fill_round();
+        round_->store.rsvrd_fields.Fields(round_columns::rating).set(u"70.5.1"_qs);
+        QCOMPARE(round_score(true).differential, 16.95);
+        round_->store.rsvrd_fields.Fields(round_columns::rating).set(QString());
+        QCOMPARE(round_score(true).differential, 90 * 113 / 130.0);
+    }
+
+    void a_round_beyond_16_bits_is_an_overflow()
+    {
+        store_strokes(1, {20000, 0, 0});
+        store_strokes(2, {20000, 0, 0});
+        QVERIFY(failure_of([] { round_score(true); }) == failure_kind::overflow);
+    }
+
+    void scoring_changes_no_row()
+    {
+        round_score(true);
+        hole_cell(1, 1, true);
+        QVERIFY(!round_->store.rsgames.pending());
+        QVERIFY(!round_->store.rsvrd_fields.pending());
+    }
+
+private:
+    /// Five strokes on every hole: 90 on a par 72.
+    void fill_round()
+    {
+        for (int hole = 1; hole <= 18; ++hole)
+            round_->set_strokes(hole, 2, 1, 2);
+    }
+
+    static void expect_figures(bool from_row, const hole_figures& f)
+    {
+        QCOMPARE(plain(hole_long(2, from_row)), plain(f.long_shots));
+        QCOMPARE(plain(hole_approach(2, from_row)), plain(f.approach));
+        QCOMPARE(plain(hole_putts(2, from_row)), plain(f.putts));
+        QCOMPARE(plain(hole_pen_rule(2, from_row)), plain(f.pen_rule));
+        QCOMPARE(plain(hole_pen_water(2, from_row)), plain(f.pen_water));
+        QCOMPARE(plain(hole_pen_bounds(2, from_row)), plain(f.pen_bounds));
+        QCOMPARE(plain(hole_pen_lost(2, from_row)), plain(f.pen_lost));
+        QCOMPARE(plain(hole_penalties(2, from_row)), plain(verdane::hole_penalties(f)));
+        QCOMPARE(plain(hole_gross(2, from_row)), plain(verdane::hole_gross(f)));
+    }
+
+    std::unique_ptr<round_in_store> round_;
+};
+
+QTEST_GUILESS_MAIN(test_round_functions)
+#include "test_round_functions.moc"

@@ -1,0 +1,65 @@
+#include <QTest>
+
+#include "records/round_list.h"
+#include "store/DataEnvironment1.h"
+#include "tests/support/failures.h"
+#include "tests/support/reader.h"
+#include "tests/support/store_folder.h"
+
+using namespace verdane;
+using namespace verdane::Round_functions;
+using testing::failure_of;
+
+class test_round_list : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        folder_ = std::make_unique<testing::store_folder>();
+        testing::reader(folder_->path())
+            .write({
+                QStringLiteral("insert into games (date, field) values ('20240607150000', ' Les Pins ')"),
+                QStringLiteral("insert into games (date, putt_18) values ('20230102081530', 2)"),
+            });
+    }
+
+    void cleanup()
+    {
+        if (rsgames().is_open())
+            rsgames().Close();
+        folder_.reset();
+    }
+
+    void rounds_stand_in_time_order_whatever_the_source_was()
+    {
+        rsgames().set_Source(QStringLiteral("Select * from games"));
+        open_rounds_in_time_order();
+        QCOMPARE(rsgames().Fields(0).text(), QStringLiteral("20230102081530"));
+        QVERIFY(failure_of([] { open_rounds_in_time_order(); }) == failure_kind::misuse);
+    }
+
+    void a_line_has_key_course_and_the_mark_of_an_incomplete_round()
+    {
+        open_rounds_in_time_order();
+        const QStringList lines{QStringLiteral("2023-01-02 08:15:30 |  - "),
+                                QStringLiteral("2024-06-07 15:00:00 |  - Les Pins**")};
+        QCOMPARE(round_list_lines(), lines);
+        QVERIFY(rsgames().eof());
+    }
+
+    void a_store_without_rounds_has_no_lines()
+    {
+        testing::reader(folder_->path()).write(QStringLiteral("delete from games"));
+        open_rounds_in_time_order();
+        QVERIFY(round_list_lines().isEmpty());
+    }
+
+private:
+    static Recordset& rsgames() { return data_environment().rsgames; }
+
+    std::unique_ptr<testing::store_folder> folder_;
+};
+
+QTEST_GUILESS_MAIN(test_round_list)
+#include "test_round_list.moc"

@@ -1,0 +1,220 @@
+#include <QTest>
+
+#include "records/round_columns.h"
+#include "records/round_rows.h"
+#include "tests/records/round_in_store.h"
+#include "tests/support/failures.h"
+
+using namespace verdane;
+using namespace verdane::Round_functions;
+using testing::failure_of;
+using testing::round_in_store;
+
+namespace at = round_columns;
+
+class test_round_rows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void strokes_go_to_their_columns_and_come_back()
+    {
+        store_strokes(18, {3, 2, 1});
+        const strokes read = read_strokes(18);
+        QCOMPARE(plain(read.long_shots), 3);
+        QCOMPARE(plain(read.approach), 2);
+        QCOMPARE(plain(read.putts), 1);
+        round_->commit();
+        QCOMPARE(round_->stored(games_, QStringLiteral("long_18")).toInt(), 3);
+        QCOMPARE(round_->stored(games_, QStringLiteral("approach_18")).toInt(), 2);
+        QCOMPARE(round_->stored(games_, QStringLiteral("putt_18")).toInt(), 1);
+        QVERIFY(round_->stored(games_, QStringLiteral("putt_17")).isNull());
+    }
+
+    void strokes_never_stored_read_as_0()
+    {
+        const strokes read = read_strokes(7);
+        QCOMPARE(plain(read.long_shots), 0);
+        QCOMPARE(plain(read.approach), 0);
+        QCOMPARE(plain(read.putts), 0);
+    }
+
+    void penalties_go_to_their_columns_and_come_back()
+    {
+        store_penalties(1, {1, 2, 3, 4});
+        const penalties read = read_penalties(1);
+        QCOMPARE(plain(read.rule), 1);
+        QCOMPARE(plain(read.water), 2);
+        QCOMPARE(plain(read.bounds), 3);
+        QCOMPARE(plain(read.lost), 4);
+        round_->commit();
+        QCOMPARE(round_->stored(games_, QStringLiteral("pen_rule_1")).toInt(), 1);
+        QCOMPARE(round_->stored(games_, QStringLiteral("pen_water_1")).toInt(), 2);
+        QCOMPARE(round_->stored(games_, QStringLiteral("pen_bounds_1")).toInt(), 3);
+        QCOMPARE(round_->stored(games_, QStringLiteral("pen_lost_1")).toInt(), 4);
+    }
+
+    void a_fresh_row_has_no_penalties_and_no_situations()
+    {
+        for (int hole = 1; hole <= 18; ++hole) {
+            const penalties p = read_penalties(hole);
+            const situation s = read_situation(hole);
+            QVERIFY(p.rule == 0 && p.water == 0 && p.bounds == 0 && p.lost == 0);
+            QVERIFY(s.sand == 0 && s.missed == 0 && s.fairway == 0);
+            QCOMPARE(plain(read_recovery(hole)), 0);
+        }
+    }
+
+    void the_situation_goes_as_text_and_the_store_converts_it()
+    {
+        store_situation(9, {QStringLiteral("2"), QStringLiteral("3a"), QStringLiteral("2.5"), QString()});
+        round_->commit();
+        const situation read = read_situation(9);
+        QCOMPARE(plain(read.fairway), 2);
+        QCOMPARE(plain(read.sand), 3);
+        QCOMPARE(plain(read.missed), 2);
+        QCOMPARE(plain(read_recovery(9)), 0);
+        QCOMPARE(round_->stored(games2_, QStringLiteral("fairway_9")).toInt(), 2);
+        QCOMPARE(round_->stored(games2_, QStringLiteral("sand_9")).toInt(), 3);
+        QCOMPARE(round_->stored(games_, QStringLiteral("missed_9")).toInt(), 2);
+        QCOMPARE(round_->stored(games2_, QStringLiteral("recovery_9")).toInt(), 0);
+    }
+
+    void a_penalty_without_a_value_is_an_invalid_null()
+    {
+        round_->store.rsgames.Fields(at::pen_lost_h(4)).set_null();
+        QVERIFY(failure_of([] { read_penalties(4); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { figures_from_row(4); }) == failure_kind::invalid_null);
+        QCOMPARE(plain(read_penalties(5).lost), 0);
+    }
+
+    void a_situation_without_a_value_is_an_invalid_null()
+    {
+        round_->store.rsgames2.Fields(at::sand_h(4)).set_null();
+        round_->store.rsgames.Fields(at::missed_h(5)).set_null();
+        round_->store.rsgames2.Fields(at::fairway_h(6)).set_null();
+        round_->store.rsgames2.Fields(at::recovery_h(7)).set_null();
+        for (const int hole : {4, 5, 6})
+            QVERIFY(failure_of([=] { read_situation(hole); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { read_recovery(7); }) == failure_kind::invalid_null);
+        QVERIFY(!failure_of([] { read_situation(7); }));
+    }
+
+    void a_par_without_a_value_is_an_invalid_null()
+    {
+        QCOMPARE(plain(hole_par(3)), 3);
+        round_->store.rsfield_info.Fields(at::par_h(3)).set_null();
+        QVERIFY(failure_of([] { hole_par(3); }) == failure_kind::invalid_null);
+    }
+
+    void the_card_of_a_hole_has_yards_handicap_and_par()
+    {
+        const hole_card card = read_hole_card(5);
+        QCOMPARE(plain(card.yards), 305);
+        QCOMPARE(plain(card.handicap), 14);
+        QCOMPARE(plain(card.par), 5);
+    }
+
+    void a_number_that_is_no_hole_is_a_misuse_and_touches_nothing_data()
+    {
+        QTest::addColumn<int>("hole");
+        QTest::newRow("none chosen") << 0;
+        QTest::newRow("behind the last") << 19;
+        QTest::newRow("negative") << -1;
+    }
+
+    void a_number_that_is_no_hole_is_a_misuse_and_touches_nothing()
+    {
+        QFETCH(int, hole);
+        QVERIFY(failure_of([=] { store_strokes(hole, {1, 1, 1}); }) == failure_kind::misuse);
+        QVERIFY(failure_of([=] { store_penalties(hole, {}); }) == failure_kind::misuse);
+        QVERIFY(failure_of([=] { store_situation(hole, {}); }) == failure_kind::misuse);
+        QVERIFY(failure_of([=] { hole_par(hole); }) == failure_kind::misuse);
+        QVERIFY(!round_->store.rsgames.pending());
+        QVERIFY(!round_->store.rsgames2.pending());
+    }
+
+    void a_round_is_incomplete_when_hole_18_has_no_strokes()
+    {
+        QVERIFY(round_incomplete());
+        round_->set_strokes(17, 1, 1, 2);
+        QVERIFY(round_incomplete());
+        round_->set_strokes(18, 0, 0, 0);
+        QVERIFY(round_incomplete());
+        for (const auto& [l, a, p] : {std::tuple(1, 0, 0), std::tuple(0, 1, 0), std::tuple(0, 0, 1)}) {
+            round_->set_strokes(18, l, a, p);
+            QVERIFY(!round_incomplete());
+        }
+    }
+
+    void a_partner_is_looked_up_by_a_plain_text_search_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<int>("position");
+        QTest::newRow("first") << "12" << 1;
+        QTest::newRow("second") << "7" << 4;
+        QTest::newRow("the head of another number") << "1" << 1;
+        QTest::newRow("the tail of another number") << "2" << 2;
+        QTest::newRow("absent") << "3" << 0;
+        QTest::newRow("longer than what is there") << "127" << 0;
+    }
+
+    void a_partner_is_looked_up_by_a_plain_text_search()
+    {
+        QFETCH(QString, number);
+        round_->store.rsgames2.Fields(at::partners).set(QStringLiteral("12-7-"));
+        QTEST(plain(partner_in_round(number)), "position");
+    }
+
+    void a_round_without_partners_has_none()
+    {
+        QVERIFY(round_->store.rsgames2.Fields(at::partners).is_null());
+        QCOMPARE(plain(partner_in_round(u"1")), 0);
+        QCOMPARE(plain(partner_in_round(u"")), 0);
+        round_->store.rsgames2.Fields(at::partners).set(QString());
+        QCOMPARE(plain(partner_in_round(u"")), 0);
+    }
+
+    void every_partner_ends_in_a_dash()
+    {
+        QCOMPARE(partners_text({QStringLiteral("12"), QStringLiteral("7")}), QStringLiteral("12-7-"));
+        QCOMPARE(partners_text({QStringLiteral("-5")}), QStringLiteral("-5-"));
+        QCOMPARE(partners_text({}), QString());
+    }
+
+    void a_course_is_found_by_its_place_and_stays_current()
+    {
+        QCOMPARE(course_code_at(0), QStringLiteral("AUTRE-0"));
+        QCOMPARE(course_code_at(1), QStringLiteral("LES PINS-1"));
+        QCOMPARE(round_->store.rsvrd_fields.Fields(at::name).text(), QStringLiteral("Les Pins"));
+        QVERIFY(failure_of([] { course_code_at(2); }) == failure_kind::misuse);
+    }
+
+    void the_amounts_of_a_round_add_up_in_16_bits()
+    {
+        Recordset& cost = round_->store.rscost;
+        QCOMPARE(plain(cost_total()), 0);
+        for (int ordinal = 1; ordinal <= 12; ++ordinal)
+            cost.Fields(ordinal).set(ordinal);
+        QCOMPARE(plain(cost_total()), 78);
+        for (int ordinal = 1; ordinal <= 4; ++ordinal)
+            cost.Fields(ordinal).set(9999);
+        QVERIFY(failure_of([] { cost_total(); }) == failure_kind::overflow);
+    }
+
+    void an_amount_without_a_value_is_an_invalid_null()
+    {
+        round_->store.rscost.Fields(5).set_null();
+        QVERIFY(failure_of([] { cost_total(); }) == failure_kind::invalid_null);
+    }
+
+    void init() { round_ = std::make_unique<round_in_store>(); }
+    void cleanup() { round_.reset(); }
+
+private:
+    const QString games_ = QStringLiteral("games");
+    const QString games2_ = QStringLiteral("games2");
+    std::unique_ptr<round_in_store> round_;
+};
+
+QTEST_GUILESS_MAIN(test_round_rows)
+#include "test_round_rows.moc"
