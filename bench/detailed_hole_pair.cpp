@@ -14,6 +14,8 @@
 /// for the shot, one for both wide rows, and reading those shots.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Another answer than the one in the cell, chosen by its first letter.
@@ -43,8 +45,8 @@ void leave_detailed_hole_painted(benchmark::State& state)
 
 void read_shots(const plain_store& store, const QString& key, int hole)
 {
-    QSqlQuery shots = store.run(
-        QStringLiteral("select * from Stat_rounds where date = ? and hole = ? order by shot"), {key, hole});
+    QSqlQuery shots =
+        store.run(u"select * from Stat_rounds where date = ? and hole = ? order by shot"_s, {key, hole});
     while (shots.next())
         benchmark::DoNotOptimize(shots.value(0));
 }
@@ -59,14 +61,12 @@ void leave_detailed_hole_floor(benchmark::State& state)
         const int figure = 2 + step / round_columns::hole_count % 2;
         ++step;
         const stopwatch watch;
-        store.run(QStringLiteral(
-                      "update Stat_rounds set missed = ?, dz = ? where date = ? and hole = ? and shot = 1"),
+        store.run(u"update Stat_rounds set missed = ?, dz = ? where date = ? and hole = ? and shot = 1"_s,
                   {figure % 2, figure % 2, key, hole});
-        store.run(QStringLiteral("begin"));
-        store.run(QStringLiteral("update games2 set recovery_%1 = ? where date = ?").arg(hole),
-                  {figure, key});
-        store.run(QStringLiteral("update games set missed_%1 = ? where date = ?").arg(hole), {figure, key});
-        store.run(QStringLiteral("commit"));
+        store.run(u"begin"_s);
+        store.run(u"update games2 set recovery_%1 = ? where date = ?"_s.arg(hole), {figure, key});
+        store.run(u"update games set missed_%1 = ? where date = ?"_s.arg(hole), {figure, key});
+        store.run(u"commit"_s);
         read_shots(store, key, hole % round_columns::hole_count + 1);
         state.SetIterationTime(watch.seconds());
     }

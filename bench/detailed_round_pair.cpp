@@ -11,6 +11,8 @@
 /// from the click on the detailed page until its shots are. The floor reads what is then displayed.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int round_in_diary = 183;
@@ -52,8 +54,7 @@ void read_all(QSqlQuery rows)
 
 void read_shots_of_first_hole(const plain_store& store, const QString& key)
 {
-    read_all(store.run(QStringLiteral("select * from Stat_rounds where date = ? and hole = 1 order by shot"),
-                       {key}));
+    read_all(store.run(u"select * from Stat_rounds where date = ? and hole = 1 order by shot"_s, {key}));
 }
 
 void open_detailed_round_floor(benchmark::State& state)
@@ -63,8 +64,7 @@ void open_detailed_round_floor(benchmark::State& state)
     for (auto _ : state) {
         const stopwatch watch;
         for (const char* table : {"games", "games2", "cost"})
-            read_all(store.run(QStringLiteral("select * from %1 where date = ?").arg(QLatin1String(table)),
-                               {key}));
+            read_all(store.run(u"select * from %1 where date = ?"_s.arg(QLatin1String(table)), {key}));
         for (const char* table : {"vrd_fields", "field_info", "partners"})
             read_all(store.run(u"select * from " + QLatin1String(table)));
         read_shots_of_first_hole(store, key);
@@ -79,7 +79,7 @@ void open_detailed_page_floor(benchmark::State& state)
     for (auto _ : state) {
         const stopwatch watch;
         read_shots_of_first_hole(store, key);
-        read_all(store.run(QStringLiteral("select * from sticknames")));
+        read_all(store.run(u"select * from sticknames"_s));
         state.SetIterationTime(watch.seconds());
     }
 }

@@ -12,6 +12,8 @@
 
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The generated diary contains holes with six putts, on which the putt statistics fail by rule.
@@ -19,7 +21,7 @@ QString without_sixth_putts()
 {
     QStringList cleared;
     for (int h = 1; h <= round_columns::hole_count; ++h)
-        cleared << QStringLiteral("putt_len_%1_6 = 0").arg(h);
+        cleared << u"putt_len_%1_6 = 0"_s.arg(h);
     return u"update games2 set " + cleared.join(u", ");
 }
 
@@ -27,12 +29,12 @@ void lay_down(const QString& path, int rounds)
 {
     testing::lay_down_diary(path, rounds, true);
     testing::reader(path).write(
-        {QStringLiteral("update settings set language = %1").arg(english_value), without_sixth_putts()});
+        {u"update settings set language = %1"_s.arg(english_value), without_sixth_putts()});
 }
 
 }  // namespace
 
-diaries::diaries() : folder_(QCoreApplication::applicationDirPath() + QStringLiteral("/diaries-XXXXXX")) {}
+diaries::diaries() : folder_(QCoreApplication::applicationDirPath() + u"/diaries-XXXXXX"_s) {}
 
 QString diaries::laid_down(const QString& name, int rounds) const
 {
@@ -44,7 +46,7 @@ QString diaries::laid_down(const QString& name, int rounds) const
 
 QString diaries::full() const
 {
-    return laid_down(QStringLiteral("Verdane/Verdbase.db"), testing::rounds_of_full_diary);
+    return laid_down(u"Verdane/Verdbase.db"_s, testing::rounds_of_full_diary);
 }
 
 QString diaries::data_home() const
@@ -55,12 +57,12 @@ QString diaries::data_home() const
 
 QString diaries::half() const
 {
-    return laid_down(QStringLiteral("half.db"), rounds_of_half);
+    return laid_down(u"half.db"_s, rounds_of_half);
 }
 
 QString diaries::with_room() const
 {
-    return laid_down(QStringLiteral("with_room.db"), rounds_with_room);
+    return laid_down(u"with_room.db"_s, rounds_with_room);
 }
 
 const diaries& diaries_of_run()

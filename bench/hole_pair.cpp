@@ -14,6 +14,8 @@
 /// commit.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Types a digit that differs from the one in the box.
@@ -44,8 +46,8 @@ void leave_hole_painted(benchmark::State& state)
 void leave_hole_floor(benchmark::State& state)
 {
     const plain_store store(diaries_of_run().with_room());
-    QSqlQuery row = store.run(QStringLiteral("select rowid from games where date = ?"),
-                              {testing::key_in_diary(round_of_left_holes)});
+    QSqlQuery row =
+        store.run(u"select rowid from games where date = ?"_s, {testing::key_in_diary(round_of_left_holes)});
     row.next();
     const QVariant number = row.value(0);
     row.finish();
@@ -55,11 +57,10 @@ void leave_hole_floor(benchmark::State& state)
         const int figure = 2 + step / round_columns::hole_count % 2;
         ++step;
         const stopwatch watch;
-        store.run(QStringLiteral("begin"));
-        store.run(QStringLiteral("update games2 set fairway_%1 = ? where rowid = ?").arg(hole),
-                  {figure, number});
-        store.run(QStringLiteral("update games set long_%1 = ? where rowid = ?").arg(hole), {figure, number});
-        store.run(QStringLiteral("commit"));
+        store.run(u"begin"_s);
+        store.run(u"update games2 set fairway_%1 = ? where rowid = ?"_s.arg(hole), {figure, number});
+        store.run(u"update games set long_%1 = ? where rowid = ?"_s.arg(hole), {figure, number});
+        store.run(u"commit"_s);
         state.SetIterationTime(watch.seconds());
     }
 }

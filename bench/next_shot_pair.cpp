@@ -17,6 +17,8 @@
 /// the grid with the cursor on it. The floor is the two plain commits of both rows.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int round_in_diary = 183;
@@ -30,11 +32,9 @@ QString of_hole()
 /// A drive, an approach and the first putt, whose remaining distance is not entered yet.
 QStringList hole_before_its_putts()
 {
-    const QString shot =
-        QStringLiteral("insert into Stat_rounds (date, hole, shot, before, after, unit, stick, stickval, "
-                       "shot_type, shot_type_value, faireway, fairval, normal, verges) "
-                       "values ('%1', 1, ")
-            .arg(testing::key_in_diary(round_in_diary));
+    const QString shot = u"insert into Stat_rounds (date, hole, shot, before, after, unit, stick, stickval, "
+                         u"shot_type, shot_type_value, faireway, fairval, normal, verges) "
+                         u"values ('%1', 1, "_s.arg(testing::key_in_diary(round_in_diary));
     return {u"delete from Stat_rounds" + of_hole(),
             shot + u"1, 380, 140, 'Yards', 'D', 1, 'Long', 1, 'Fairway', 1, 4, 380)",
             shot + u"2, 140, 60, 'Feets', 'F7', 7, 'Approach', 2, 'Fairway', 1, 4, 380)",
@@ -104,23 +104,20 @@ void next_shot_floor(benchmark::State& state)
 {
     const plain_store store(diaries_of_run().full());
     const QString key = testing::key_in_diary(round_in_diary);
-    QSqlQuery last =
-        store.run(QStringLiteral("select rowid from Stat_rounds where date = ? and hole = 2"), {key});
+    QSqlQuery last = store.run(u"select rowid from Stat_rounds where date = ? and hole = 2"_s, {key});
     last.next();
     const QVariant number = last.value(0);
     last.finish();
     int distance = 0;
     for (auto _ : state) {
         const stopwatch watch;
-        store.run(QStringLiteral("update Stat_rounds set after = ? where rowid = ?"),
-                  {++distance % 9, number});
-        store.run(QStringLiteral(
-                      "insert into Stat_rounds (date, hole, shot, before, unit, stick, stickval, shot_type, "
-                      "shot_type_value, faireway, fairval, normal, verges) "
-                      "values (?, 1, 20, 4, 'Feets', 'Pu', 14, 'Putt', 3, ' ', 0, 4, 380)"),
+        store.run(u"update Stat_rounds set after = ? where rowid = ?"_s, {++distance % 9, number});
+        store.run(u"insert into Stat_rounds (date, hole, shot, before, unit, stick, stickval, shot_type, "
+                  u"shot_type_value, faireway, fairval, normal, verges) "
+                  u"values (?, 1, 20, 4, 'Feets', 'Pu', 14, 'Putt', 3, ' ', 0, 4, 380)"_s,
                   {key});
         state.SetIterationTime(watch.seconds());
-        store.run(QStringLiteral("delete from Stat_rounds where date = ? and hole = 1 and shot = 20"), {key});
+        store.run(u"delete from Stat_rounds where date = ? and hole = 1 and shot = 20"_s, {key});
     }
 }
 

@@ -6,15 +6,17 @@
 
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 plain_store::plain_store(const QString& path) : name_(QUuid::createUuid().toString())
 {
-    QSqlDatabase engine = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
+    QSqlDatabase engine = QSqlDatabase::addDatabase(u"QSQLITE"_s, name_);
     engine.setDatabaseName(path);
     if (!engine.open())
         qFatal("%s", qUtf8Printable(engine.lastError().text()));
-    run(QStringLiteral("PRAGMA journal_mode=WAL"));
-    run(QStringLiteral("PRAGMA synchronous=FULL"));
-    run(QStringLiteral("PRAGMA cache_size=-16384"));
+    run(u"PRAGMA journal_mode=WAL"_s);
+    run(u"PRAGMA synchronous=FULL"_s);
+    run(u"PRAGMA cache_size=-16384"_s);
 }
 
 plain_store::~plain_store()

@@ -9,6 +9,8 @@
 /// The statistics of putts.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int holes = 18;
@@ -52,7 +54,7 @@ QString columns_of_lengths()
     QStringList columns;
     for (int h = 1; h <= holes; ++h) {
         for (int putt = 1; putt <= lengths_of_hole; ++putt)
-            columns << QStringLiteral("putt_len_%1_%2").arg(h).arg(putt);
+            columns << u"putt_len_%1_%2"_s.arg(h).arg(putt);
     }
     return columns.join(u',');
 }
@@ -60,10 +62,9 @@ QString columns_of_lengths()
 void read_and_add_up(const plain_store& store, const selection_arguments& chosen)
 {
     putt_grids grids;
-    QSqlQuery rounds =
-        store.run(u"select " + columns_of_lengths() +
-                      QStringLiteral(" from games2 where date >= ? and date <= ? order by date"),
-                  {chosen.from_key, chosen.to_key});
+    QSqlQuery rounds = store.run(u"select " + columns_of_lengths() +
+                                     u" from games2 where date >= ? and date <= ? order by date"_s,
+                                 {chosen.from_key, chosen.to_key});
     while (rounds.next()) {
         for (int hole = 0; hole < holes; ++hole)
             add_hole(rounds, lengths_of_hole * hole, grids);

@@ -11,6 +11,8 @@
 /// The list of all rounds, from the command to its painted window. The floor reads what it shows.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void round_list(benchmark::State& state)
@@ -33,8 +35,8 @@ void round_list_floor(benchmark::State& state)
     const plain_store store(diaries_of_run().full());
     for (auto _ : state) {
         const stopwatch watch;
-        QSqlQuery rounds = store.run(
-            QStringLiteral("select date, field, long_18, approach_18, putt_18 from games order by date"));
+        QSqlQuery rounds =
+            store.run(u"select date, field, long_18, approach_18, putt_18 from games order by date"_s);
         while (rounds.next()) {
             for (int column = 0; column < 5; ++column)
                 benchmark::DoNotOptimize(rounds.value(column));

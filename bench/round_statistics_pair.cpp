@@ -14,6 +14,8 @@
 /// The statistics of rounds.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int holes = 18;
@@ -32,9 +34,8 @@ using pars_by_course = std::map<QString, std::array<int, holes>>;
 pars_by_course read_courses(const plain_store& store)
 {
     pars_by_course pars;
-    QSqlQuery cards =
-        store.run(u"select FIELD_CODE, rating, slope, " + columns_of_holes(QStringLiteral("par")) +
-                  QStringLiteral(" from field_info join vrd_fields on vrd_fields.code = FIELD_CODE"));
+    QSqlQuery cards = store.run(u"select FIELD_CODE, rating, slope, " + columns_of_holes(u"par"_s) +
+                                u" from field_info join vrd_fields on vrd_fields.code = FIELD_CODE"_s);
     while (cards.next()) {
         std::array<int, holes>& of_course = pars[cards.value(0).toString()];
         for (int h = 0; h < holes; ++h)
@@ -60,13 +61,11 @@ void add_games(const plain_store& store, const QVariantList& range)
     const pars_by_course pars = read_courses(store);
     sums_of_holes figures(8);
     std::array<int, holes> par_sums{};
-    QSqlQuery rounds =
-        store.run(u"select CODEF, " +
-                      columns_of(QStringLiteral("long approach putt pen_rule pen_water pen_bounds "
-                                                "pen_lost missed")
-                                     .split(u' ')) +
-                      QStringLiteral(" from games where date >= ? and date <= ?"),
-                  range);
+    QSqlQuery rounds = store.run(u"select CODEF, " +
+                                     columns_of(u"long approach putt pen_rule pen_water pen_bounds "
+                                                u"pen_lost missed"_s.split(u' ')) +
+                                     u" from games where date >= ? and date <= ?"_s,
+                                 range);
     while (rounds.next()) {
         add_row(rounds, 1, figures);
         const auto& of_course = pars.at(rounds.value(0).toString());
@@ -80,10 +79,9 @@ void add_games(const plain_store& store, const QVariantList& range)
 void add_games2(const plain_store& store, const QVariantList& range)
 {
     sums_of_holes figures(2);
-    QSqlQuery rounds =
-        store.run(u"select " + columns_of({QStringLiteral("sand"), QStringLiteral("fairway")}) +
-                      QStringLiteral(" from games2 where date >= ? and date <= ?"),
-                  range);
+    QSqlQuery rounds = store.run(u"select " + columns_of({u"sand"_s, u"fairway"_s}) +
+                                     u" from games2 where date >= ? and date <= ?"_s,
+                                 range);
     while (rounds.next())
         add_row(rounds, 0, figures);
     benchmark::DoNotOptimize(figures);

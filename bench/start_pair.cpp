@@ -19,6 +19,8 @@ extern char** environ;
 /// empty window that opens the same file.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Starts a program in this one's folder and waits for its end. False when it failed.
@@ -62,12 +64,12 @@ void time_start(benchmark::State& state, const char* program, const QStringList&
 
 void start(benchmark::State& state)
 {
-    time_start(state, "timed_start_verdane", {QStringLiteral("shown")});
+    time_start(state, "timed_start_verdane", {u"shown"_s});
 }
 
 void start_settled(benchmark::State& state)
 {
-    time_start(state, "timed_start_verdane", {QStringLiteral("settled")});
+    time_start(state, "timed_start_verdane", {u"settled"_s});
 }
 
 void start_floor(benchmark::State& state)
@@ -77,7 +79,7 @@ void start_floor(benchmark::State& state)
 
 void start_of_one_word(benchmark::State& state)
 {
-    time_start(state, "timed_start_empty", {diaries_of_run().full(), QStringLiteral("Verdane")});
+    time_start(state, "timed_start_empty", {diaries_of_run().full(), u"Verdane"_s});
 }
 
 }  // namespace

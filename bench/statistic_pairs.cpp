@@ -13,6 +13,8 @@
 
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void time_statistic(benchmark::State& state, const statistic_pair& pair, const QString& path, int rounds)
@@ -76,7 +78,7 @@ QString columns_of_holes(const QString& prefix, const QString& suffix)
 {
     QStringList columns;
     for (int h = 1; h <= round_columns::hole_count; ++h)
-        columns << QStringLiteral("%1_%2%3").arg(prefix).arg(h).arg(suffix);
+        columns << u"%1_%2%3"_s.arg(prefix).arg(h).arg(suffix);
     return columns.join(u',');
 }
 

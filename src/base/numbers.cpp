@@ -9,6 +9,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int significant_digits = 15;
@@ -67,7 +69,7 @@ void check_fits(double value)
     // Written so that a value that is not a number fails too.
     if (!(value >= std::numeric_limits<Int>::min() && value <= std::numeric_limits<Int>::max()))
         throw run_time_failure(failure_kind::overflow,
-                               QStringLiteral("%1 does not fit in %2 bits").arg(value).arg(8 * sizeof(Int)));
+                               u"%1 does not fit in %2 bits"_s.arg(value).arg(8 * sizeof(Int)));
 }
 
 struct decimal_digits {
@@ -79,7 +81,7 @@ struct decimal_digits {
 decimal_digits decimal_digits_of(double value)
 {
     if (!std::isfinite(value))
-        throw run_time_failure(failure_kind::overflow, QStringLiteral("a figure without bounds"));
+        throw run_time_failure(failure_kind::overflow, u"a figure without bounds"_s);
     std::array<char, 64> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                                    std::chars_format::scientific, significant_digits - 1)

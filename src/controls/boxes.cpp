@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int bells = 0;
@@ -14,7 +16,7 @@ int bells = 0;
 void show_no_title(QWidget& box)
 {
     box.winId();
-    box.windowHandle()->setTitle(QStringLiteral(" "));
+    box.windowHandle()->setTitle(u" "_s);
 }
 
 }  // namespace
@@ -28,14 +30,14 @@ QWidget* window_at_work()
 
 QString default_title()
 {
-    return QStringLiteral("Verdane");
+    return u"Verdane"_s;
 }
 
 QMessageBox::StandardButton show_message(const message& what, QWidget* above)
 {
     const QPointer<QWidget> owner = above;
     QMessageBox box(what.icon, QString(), what.text, what.buttons, owner);
-    box.setObjectName(QStringLiteral("message_box"));
+    box.setObjectName(u"message_box"_s);
     box.setWindowTitle(what.title);
     if (what.title.isEmpty())
         show_no_title(box);

@@ -15,6 +15,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int frame_width = 2;
@@ -107,7 +109,7 @@ QWidget* cell_delegate::createEditor(QWidget* parent, const QStyleOptionViewItem
                                      const QModelIndex& index) const
 {
     auto* box = new QLineEdit(parent);
-    box->setObjectName(QStringLiteral("cell_being_typed"));
+    box->setObjectName(u"cell_being_typed"_s);
     box->setFrame(false);
     box->setAlignment(Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt()));
     grid_.watch_editor(*box, index);

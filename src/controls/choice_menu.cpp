@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::chrono::seconds longest_pause(1);
@@ -32,7 +34,7 @@ void choice_menu::set_caption(QAction& entry, const QString& caption)
 {
     entry.setData(caption);
     // The toolkit would read an ampersand as the mark of a key.
-    entry.setText(QString(caption).replace(u'&', QStringLiteral("&&")));
+    entry.setText(QString(caption).replace(u'&', u"&&"_s));
 }
 
 QString choice_menu::caption_of(const QAction& entry)

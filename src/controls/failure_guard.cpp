@@ -10,6 +10,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString words_for_user(const run_time_failure& failure)
@@ -24,7 +26,7 @@ void tell(const run_time_failure& failure)
 {
     QMessageBox box(QMessageBox::Critical, QString(), words_for_user(failure), QMessageBox::Ok,
                     window_at_work());
-    box.setObjectName(QStringLiteral("failure_box"));
+    box.setObjectName(u"failure_box"_s);
     box.setWindowTitle(default_title());
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(failure.details());

@@ -10,6 +10,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int paint_ms = 50;
@@ -42,13 +44,13 @@ lock_box::lock_box()
                  u"The diary is in use by another program. Verdane waits until it is free.", u"\n\n"),
            QMessageBox::NoButton, owner_)
 {
-    box_.setObjectName(QStringLiteral("lock_box"));
+    box_.setObjectName(u"lock_box"_s);
     box_.setTextFormat(Qt::PlainText);
     box_.setInformativeText(
         words(u"Si vous abandonnez, Verdane s'arrête. Ce qui était enregistré est intact.",
               u"If you give up, Verdane stops. What was saved is intact.", u"\n\n"));
     QPushButton* give_up = box_.addButton(words(u"Abandonner", u"Give Up", u" / "), QMessageBox::RejectRole);
-    give_up->setObjectName(QStringLiteral("give_up"));
+    give_up->setObjectName(u"give_up"_s);
     give_up->setAutoDefault(false);
     box_.setEscapeButton(give_up);
     QObject::connect(&box_, &QMessageBox::rejected, &box_, [this] { gave_up_ = true; });

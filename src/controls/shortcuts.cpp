@@ -12,6 +12,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct key_name {
@@ -45,7 +47,7 @@ QString key_text(const QKeySequence& keys, bool french)
 
 QString tool_tip_with_keys(const text_pair& words, const QKeySequence& keys, bool french)
 {
-    return QStringLiteral("%1 (%2)").arg(words.in(french), key_text(keys, french));
+    return u"%1 (%2)"_s.arg(words.in(french), key_text(keys, french));
 }
 
 window_shortcuts::window_shortcuts(QWidget& window, bool french)

@@ -9,13 +9,14 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 void apply_toolkit_language()
 {
     static QTranslator words;
     QCoreApplication::removeTranslator(&words);
     QLocale::setDefault(is_french ? QLocale(QLocale::French) : QLocale(QLocale::English));
-    if (words.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (words.load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&words);
 }
 

@@ -15,6 +15,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Date, time, a course's name of some length and the mark.
@@ -71,7 +73,7 @@ QWidget* f_games::make_buttons()
     rows->addWidget(Command1.add(add, make_button(caption(u"Ajouter", u"Add"))));
     rows->addWidget(Command1.add(remove, make_button(caption(u"Supprimer", u"Remove"))));
     rows->addStretch(1);
-    rows->addWidget(Command1.add(ok, make_button(QStringLiteral("OK"))));
+    rows->addWidget(Command1.add(ok, make_button(u"OK"_s)));
     return column;
 }
 

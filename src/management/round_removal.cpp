@@ -5,6 +5,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The rows of the round are adjacent, but all remaining rows are visited.
@@ -32,7 +34,7 @@ void open_at_round(Recordset& rows, const QString& source, const QString& key)
 void delete_shots(const QString& key)
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    open_at_round(shots, QStringLiteral("select * from Stat_rounds order by date,hole"), key);
+    open_at_round(shots, u"select * from Stat_rounds order by date,hole"_s, key);
     if (!shots.eof())
         delete_to_the_end(shots, key);
     shots.Close();
@@ -41,7 +43,7 @@ void delete_shots(const QString& key)
 void delete_cost(const QString& key)
 {
     Recordset& cost = data_environment().rscost;
-    open_at_round(cost, QStringLiteral("select * from cost order by date"), key);
+    open_at_round(cost, u"select * from cost order by date"_s, key);
     delete_to_the_end(cost, key);
     cost.Close();
 }

@@ -8,6 +8,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int most_orphan_keys = 500;
@@ -17,7 +19,7 @@ constexpr int most_orphan_keys = 500;
 struct orphan_keys {
     checked_array<QString, most_orphan_keys + 1> keys;
     int16 counter = 0;
-    QString last_key = QStringLiteral("xx");
+    QString last_key = u"xx"_s;
 
     void meet(const QString& key)
     {
@@ -34,7 +36,7 @@ void open_rounds_and_shots(Recordset& rounds, Recordset& shots)
 {
     rounds.set_Source(rounds.settings().source);
     rounds.Open();
-    shots.set_Source(QStringLiteral("select * from Stat_rounds order by date,hole"));
+    shots.set_Source(u"select * from Stat_rounds order by date,hole"_s);
     // All shots of the diary: the requery does not read them, so they are read once.
     shots.Open(row_reading::when_needed);
     shots.Requery();
@@ -78,7 +80,7 @@ void clean_up_store()
     rounds.Close();
     shots.Close();
     delete_again(orphans);
-    tell(QStringLiteral("Fin"));
+    tell(u"Fin"_s);
 }
 
 }  // namespace verdane

@@ -4,6 +4,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const hole_boxes* open_boxes = nullptr;
@@ -18,8 +20,7 @@ void set_hole_boxes(const hole_boxes* boxes)
 hole_figures figures_from_boxes()
 {
     if (open_boxes == nullptr)
-        throw run_time_failure(failure_kind::misuse,
-                               QStringLiteral("a hole's boxes were read with no round window open"));
+        throw run_time_failure(failure_kind::misuse, u"a hole's boxes were read with no round window open"_s);
     return open_boxes->figures();
 }
 

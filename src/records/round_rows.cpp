@@ -6,6 +6,8 @@
 
 namespace verdane::Round_functions {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace at = round_columns;
@@ -30,7 +32,7 @@ int checked_hole(int16 hole)
 {
     const int h = plain(hole);
     if (h < 1 || h > at::hole_count)
-        throw run_time_failure(failure_kind::misuse, QStringLiteral("hole %1 of a round").arg(h));
+        throw run_time_failure(failure_kind::misuse, u"hole %1 of a round"_s.arg(h));
     return h;
 }
 

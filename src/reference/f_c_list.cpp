@@ -14,6 +14,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize usual_size(560, 440);
@@ -49,7 +51,7 @@ QLayout* f_c_list::make_buttons()
 {
     Command1.add(0, make_button(caption(u" Ouvrir", u"Open")));
     Command1.add(1, make_button(caption(u"Ajouter", u"Add")));
-    Command1.add(2, make_button(QStringLiteral("OK")));
+    Command1.add(2, make_button(u"OK"_s));
     Command1.add(3, make_button(caption(u"Supprimer", u"Delete")));
     auto* column = new QVBoxLayout;
     column->setSpacing(rhythm);

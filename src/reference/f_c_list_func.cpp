@@ -14,6 +14,8 @@
 
 namespace verdane::f_c_list_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Recordset& courses()
@@ -45,7 +47,7 @@ void open_selected(f_c_list& window)
         return;
     Round_functions::move_to_course(window.List1->currentRow());
     if (courses().bof() || courses().eof())
-        tell(QStringLiteral("Fatal error : F not found"));
+        tell(u"Fatal error : F not found"_s);
     else
         Round_functions::find_holes_of_course();
     f_courses editor(false);

@@ -20,6 +20,7 @@ namespace verdane {
 namespace {
 
 using namespace f_cost_func;
+using namespace Qt::StringLiterals;
 
 constexpr int total_digits = 6;
 enum column { caption_column, amount_column, mark_column };
@@ -42,7 +43,7 @@ constexpr std::array<text_pair, amount_count> captions = {{
 /// The mark beside every amount; which currency it stands for is the user's affair.
 QLabel* make_mark(const QString& name)
 {
-    return named(make_label(QStringLiteral("$")), name);
+    return named(make_label(u"$"_s), name);
 }
 
 }  // namespace
@@ -50,7 +51,7 @@ QLabel* make_mark(const QString& name)
 f_cost::f_cost(total_listener closed_with_total)
     : Form(u"f_cost"),
       Text1(named(make_figure(total_digits), u"Text1")),
-      OKButton(named(make_button(QStringLiteral("OK")), u"OKButton")),
+      OKButton(named(make_button(u"OK"_s), u"OKButton")),
       closed_with_total_(std::move(closed_with_total))
 {
     setWindowTitle(caption(u"Coûts", u"Costs"));
@@ -85,7 +86,7 @@ QLayout* f_cost::make_amounts()
 void f_cost::add_amount(QGridLayout& grid, int index, const QString& caption)
 {
     QLineEdit* box = cost.add(index, make_number_box(total_digits));
-    box->setText(QStringLiteral("0"));
+    box->setText(u"0"_s);
     const QString number = QString::number(index);
     grid.addWidget(named(make_label(caption, box), QString(u"lbl_cost_" + number)), index, caption_column);
     grid.addWidget(box, index, amount_column);
@@ -98,17 +99,17 @@ void f_cost::add_total(QGridLayout& grid)
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Sunken);
     grid.addWidget(line, amount_count, caption_column, 1, mark_column + 1);
-    auto* label = named(make_label(QStringLiteral("Total :"), Text1), u"lbl_total");
+    auto* label = named(make_label(u"Total :"_s, Text1), u"lbl_total");
     QFont bold = label->font();
     bold.setBold(true);
     label->setFont(bold);
     Text1->setFont(bold);
     // A row of zeros changes no box, and so makes no total.
-    Text1->setText(QStringLiteral("0"));
+    Text1->setText(u"0"_s);
     const int row = amount_count + 1;
     grid.addWidget(label, row, caption_column);
     grid.addWidget(Text1, row, amount_column);
-    grid.addWidget(make_mark(QStringLiteral("lbl_mark_total")), row, mark_column);
+    grid.addWidget(make_mark(u"lbl_mark_total"_s), row, mark_column);
 }
 
 QLayout* f_cost::make_foot()

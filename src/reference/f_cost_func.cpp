@@ -13,6 +13,8 @@
 
 namespace verdane::f_cost_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Field stored_amount(int index)
@@ -46,7 +48,7 @@ void box_changed(f_cost& window, int index)
     QLineEdit& box = window.cost(index);
     if (trimmed_blanks(box.text()).isEmpty()) {
         // Comes back here with the "0". It stands selected, so that the next digit replaces it.
-        box.setText(QStringLiteral("0"));
+        box.setText(u"0"_s);
         box.selectAll();
         return;
     }

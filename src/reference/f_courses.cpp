@@ -21,6 +21,7 @@ namespace verdane {
 namespace {
 
 using namespace f_courses_func;
+using namespace Qt::StringLiterals;
 
 constexpr QSize usual_size(pixels(10410), pixels(8700));
 
@@ -44,7 +45,7 @@ f_courses::f_courses(bool new_course)
       lbl_alle(named(new QLabel, u"lbl_alle")),
       lbl_retour(named(new QLabel, u"lbl_retour")),
       lbl_total(named(new QLabel, u"lbl_total")),
-      smdsave(named(make_button(QStringLiteral("OK")), u"smdsave")),
+      smdsave(named(make_button(u"OK"_s), u"smdsave")),
       cmdan(named(make_button(caption(u"Annuler", u"Cancel")), u"cmdan"))
 {
     setWindowTitle(caption(u"Terrains", u"Golf Course"));

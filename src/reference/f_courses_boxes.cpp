@@ -10,6 +10,8 @@
 
 namespace verdane::f_courses_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The filter's own limit for rating and slope; a point passes it.
@@ -36,7 +38,7 @@ key_answer name_key(QChar key)
 
 bool refuse(QLineEdit& box)
 {
-    box.setText(QStringLiteral("0"));
+    box.setText(u"0"_s);
     box.setFocus();
     select_characters(box, selected_characters);
     return false;

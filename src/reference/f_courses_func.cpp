@@ -18,6 +18,8 @@
 
 namespace verdane::f_courses_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A course code and a `name_tee` end in a dash and the tee's digit.
@@ -110,7 +112,7 @@ void tell_incomplete(const f_courses& window)
 {
     tell(window.caption(u"Attention : Il faut entrer le nom, la moyenne, et la difficulté du terrain.",
                         u"Attention : Attention: Please enter golf course's name, rating and Slop."),
-         QMessageBox::Critical, QStringLiteral("Enregistrer"));
+         QMessageBox::Critical, u"Enregistrer"_s);
 }
 
 void tell_duplicate(const f_courses& window)
@@ -183,7 +185,7 @@ void find_again(const QString& code)
     holes().MoveFirst();
     holes().Find(u"FIELD_CODE= " + quoted(code));
     if (course().bof() || course().eof() || holes().bof() || holes().eof())
-        tell(QStringLiteral("Fatal Error : 101"));
+        tell(u"Fatal Error : 101"_s);
 }
 
 void commit()
@@ -204,7 +206,7 @@ QMessageBox::StandardButton ask_whether_to_save(const f_courses& window)
 {
     return show_message({window.caption(u"Voulez vous enregistrer les modifications avant de sortir ?  ",
                                         u"Do you want to save the modification made ?  "),
-                         QMessageBox::NoIcon, QStringLiteral("Fermer ronde"),
+                         QMessageBox::NoIcon, u"Fermer ronde"_s,
                          QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel});
 }
 

@@ -20,6 +20,7 @@ namespace verdane {
 namespace {
 
 using namespace f_courses_func;
+using namespace Qt::StringLiterals;
 
 /// As many characters as entering a box selects: a length that the store could not take by far cannot
 /// be typed. The largest that it takes is 32767.
@@ -42,7 +43,7 @@ QLineEdit* make_hole_box(const QString& accessible_name)
 {
     QLineEdit* box = make_number_box(hole_box_characters);
     box->setMaxLength(hole_box_characters);
-    box->setText(QStringLiteral("0"));
+    box->setText(u"0"_s);
     box->setAccessibleName(accessible_name);
     return box;
 }
@@ -100,7 +101,7 @@ void f_courses::lay_out()
 
 void f_courses::make_tabs()
 {
-    name_control(*TabStrip1, QStringLiteral("Pages"));
+    name_control(*TabStrip1, u"Pages"_s);
     TabStrip1->addTab(caption(u"Information générale", u"General Information"));
     TabStrip1->addTab(caption(u"Aller", u"Front Nine"));
     TabStrip1->addTab(caption(u"Retour", u"Back Nine"));
@@ -157,8 +158,7 @@ void f_courses::add_labelled_box(QGridLayout& grid, QStringView name, const QStr
 
 void f_courses::add_departure(QGridLayout& grid)
 {
-    auto* label =
-        make_caption(QStringLiteral("lbl_departure"), caption(u"Départ :", u"Teeing Area :"), departure);
+    auto* label = make_caption(u"lbl_departure"_s, caption(u"Départ :", u"Teeing Area :"), departure);
     departure->setFixedWidth(short_box_width);
     departure->setMinimumHeight(general_box_height);
     const int row = grid.rowCount();
@@ -191,10 +191,10 @@ QFrame* f_courses::make_hole_page(int page, int first_index)
 void f_courses::add_headings(QGridLayout& grid, int page)
 {
     const std::pair<QString, QString> headings[] = {
-        {QStringLiteral("lbl_hole"), caption(u"Trou", u"Hole")},
-        {QStringLiteral("lbl_verge"), caption(u"Distance (verges) ", u"Distance (yards)")},
-        {QStringLiteral("lbl_hnd"), QStringLiteral("Handicap")},
-        {QStringLiteral("lbl_normal"), caption(u"Normale", u"Par")},
+        {u"lbl_hole"_s, caption(u"Trou", u"Hole")},
+        {u"lbl_verge"_s, caption(u"Distance (verges) ", u"Distance (yards)")},
+        {u"lbl_hnd"_s, u"Handicap"_s},
+        {u"lbl_normal"_s, caption(u"Normale", u"Par")},
     };
     for (int column = hole_number; column <= normal; ++column) {
         const auto& [name, words] = headings[column];
@@ -228,7 +228,7 @@ QLayout* f_courses::make_foot()
     foot->addSpacing(2 * rhythm);
     foot->addLayout(make_total(caption(u"Retour :", u"Back :"), lbl_retour));
     foot->addSpacing(2 * rhythm);
-    foot->addLayout(make_total(QStringLiteral("Total :"), lbl_total));
+    foot->addLayout(make_total(u"Total :"_s, lbl_total));
     foot->addStretch();
     foot->addWidget(smdsave);
     foot->addWidget(cmdan);
@@ -237,10 +237,10 @@ QLayout* f_courses::make_foot()
 
 QLayout* f_courses::make_total(const QString& caption, QLabel* figure)
 {
-    figure->setText(QStringLiteral("0"));
+    figure->setText(u"0"_s);
     figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     make_bold(*figure);
-    figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance(QStringLiteral("-00000")));
+    figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance(u"-00000"_s));
     auto* total = new QHBoxLayout;
     total->setSpacing(rhythm / 2);
     total->addWidget(make_caption(figure->objectName() + u"_caption", caption, figure));

@@ -20,6 +20,7 @@ namespace verdane {
 namespace {
 
 using namespace f_partners_func;
+using namespace Qt::StringLiterals;
 
 constexpr QSize usual_size(960, 480);
 /// Characters that the columns are wide at first.
@@ -28,13 +29,13 @@ constexpr int widths[] = {18, 18, 26, 18, 18, 28, 8};
 std::vector<bound_column> columns(const Form& window)
 {
     return {
-        {QStringLiteral("NAME"), window.caption(u"Nom", u"Last Name")},
-        {QStringLiteral("SURNAME"), window.caption(u"Prénom", u"First Name")},
-        {QStringLiteral("AD1"), window.caption(u"Adresse", u"Address")},
-        {QStringLiteral("AD2"), window.caption(u"Ville", u"City")},
-        {QStringLiteral("TEL"), window.caption(u"Téléphone", u"Telephone")},
-        {QStringLiteral("MAIL"), window.caption(u"Courriel", u"Email")},
-        {QStringLiteral("code"), QStringLiteral("code")},
+        {u"NAME"_s, window.caption(u"Nom", u"Last Name")},
+        {u"SURNAME"_s, window.caption(u"Prénom", u"First Name")},
+        {u"AD1"_s, window.caption(u"Adresse", u"Address")},
+        {u"AD2"_s, window.caption(u"Ville", u"City")},
+        {u"TEL"_s, window.caption(u"Téléphone", u"Telephone")},
+        {u"MAIL"_s, window.caption(u"Courriel", u"Email")},
+        {u"code"_s, u"code"_s},
     };
 }
 
@@ -56,7 +57,7 @@ f_partners::f_partners()
       pgrid(make_grid()),
       add(named(make_button(caption(u"Ajouter", u"Add")), u"add")),
       Del(named(make_button(caption(u"Supprimer", u"Remove")), u"Del")),
-      cmdSave(named(make_button(QStringLiteral("OK")), u"cmdSave")),
+      cmdSave(named(make_button(u"OK"_s), u"cmdSave")),
       cmdAn(named(make_button(caption(u"Annuler", u"Cancel")), u"cmdAn"))
 {
     setWindowTitle(caption(u"Partenaires", u"Partner Management "));

@@ -4,6 +4,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString field_of(const QVariant& value, QChar separator)
@@ -15,7 +17,7 @@ QString field_of(const QVariant& value, QChar separator)
         text.contains(separator) || text.contains(u'"') || text.contains(u'\n') || text.contains(u'\r');
     if (!needs_quotes)
         return text;
-    return u'"' + text.replace(u'"', QStringLiteral("\"\"")) + u'"';
+    return u'"' + text.replace(u'"', u"\"\""_s) + u'"';
 }
 
 }  // namespace
@@ -26,12 +28,12 @@ QByteArray csv_text(const report_rows& rows, QChar separator)
     QStringList heads;
     for (const QString& column : rows.columns)
         heads.append(field_of(column, separator));
-    text += heads.join(separator) + QStringLiteral("\r\n");
+    text += heads.join(separator) + u"\r\n"_s;
     for (const std::vector<QVariant>& row : rows.rows) {
         QStringList fields;
         for (const QVariant& value : row)
             fields.append(field_of(value, separator));
-        text += fields.join(separator) + QStringLiteral("\r\n");
+        text += fields.join(separator) + u"\r\n"_s;
     }
     return text.toUtf8();
 }

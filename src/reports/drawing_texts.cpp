@@ -11,6 +11,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What an element hands down to those inside it.
@@ -38,7 +40,7 @@ Qt::Alignment anchor_of(QStringView name)
 void move(surroundings& state, const QString& transform)
 {
     static const QRegularExpression form(
-        QStringLiteral("^\\s*translate\\(\\s*([-\\d.eE]+)[\\s,]*([-\\d.eE]+)?\\s*\\)\\s*$"));
+        u"^\\s*translate\\(\\s*([-\\d.eE]+)[\\s,]*([-\\d.eE]+)?\\s*\\)\\s*$"_s);
     const QRegularExpressionMatch match = form.match(transform);
     state.only_moved = state.only_moved && match.hasMatch();
     state.origin += QPointF(match.captured(1).toDouble(), match.captured(2).toDouble());
@@ -74,8 +76,8 @@ drawing_text read_text(const surroundings& state, QXmlStreamReader& reader)
 {
     drawing_text text = state.text;
     const QXmlStreamAttributes attributes = reader.attributes();
-    text.base = state.origin + QPointF(attributes.value(QStringLiteral("x")).toDouble(),
-                                       attributes.value(QStringLiteral("y")).toDouble());
+    text.base =
+        state.origin + QPointF(attributes.value(u"x"_s).toDouble(), attributes.value(u"y"_s).toDouble());
     text.words = reader.readElementText(QXmlStreamReader::IncludeChildElements).simplified();
     return text;
 }
@@ -131,7 +133,7 @@ parted_drawing with_texts_apart(const QString& svg)
     QXmlStreamReader reader(svg);
     QXmlStreamWriter rest(&parted.svg);
     std::vector<surroundings> around{{}};
-    around.back().only_moved = svg.contains(QStringLiteral("viewBox="));
+    around.back().only_moved = svg.contains(u"viewBox="_s);
     while (!reader.atEnd()) {
         reader.readNext();
         if (reader.isStartElement()) {

@@ -4,18 +4,20 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 double unit_size(const QString& unit)
 {
-    if (unit == QStringLiteral("mm"))
+    if (unit == u"mm"_s)
         return units_per_mm;
-    return unit == QStringLiteral("pt") ? units_per_pt : 7.5;
+    return unit == u"pt"_s ? units_per_pt : 7.5;
 }
 
 const QRegularExpression& length_form()
 {
-    static const QRegularExpression form(QStringLiteral("(?<![\\w.#])(\\d*\\.?\\d+)(mm|pt|px)\\b"));
+    static const QRegularExpression form(u"(?<![\\w.#])(\\d*\\.?\\d+)(mm|pt|px)\\b"_s);
     return form;
 }
 
@@ -33,7 +35,7 @@ QString lengths_replaced(const QString& markup)
         result += QStringView(markup).sliced(copied, match.capturedStart() - copied);
         result += QString::number(qRound(units));
         if (!in_attribute)
-            result += QStringLiteral("px");
+            result += u"px"_s;
         copied = match.capturedEnd();
     }
     return result + QStringView(markup).sliced(copied);
@@ -51,7 +53,7 @@ double length_in_units(const QString& text)
 
 QString with_layout_units(const QString& html)
 {
-    static const QRegularExpression markup(QStringLiteral("<style.*?</style>|<[a-zA-Z][^>]*>"),
+    static const QRegularExpression markup(u"<style.*?</style>|<[a-zA-Z][^>]*>"_s,
                                            QRegularExpression::DotMatchesEverythingOption);
     QString result;
     qsizetype copied = 0;

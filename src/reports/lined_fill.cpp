@@ -8,6 +8,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Two characters that no text uses enclose the number of a line.
@@ -41,7 +43,7 @@ QString with_line_numbers(const template_file& source)
 
 lined_text without_line_numbers(const QString& marked)
 {
-    static const QRegularExpression mark(QStringLiteral("\uFDD0(\\d+)\uFDD1"));
+    static const QRegularExpression mark(u"\uFDD0(\\d+)\uFDD1"_s);
     lined_text result;
     qsizetype copied = 0;
     auto matches = mark.globalMatch(marked);

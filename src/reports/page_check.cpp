@@ -9,6 +9,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double mm_per_pt = 25.4 / 72;
@@ -29,7 +31,7 @@ public:
             check_height(*piece);
         }
         if (open_.is_in_drawing())
-            complain({drawing_position_, QStringLiteral("a drawing is not closed")});
+            complain({drawing_position_, u"a drawing is not closed"_s});
         return fault_;
     }
 
@@ -56,11 +58,9 @@ private:
     void check_start(const markup_piece& tag)
     {
         if (open_.depth() > most_nested_elements)
-            complain({tag.position,
-                      QStringLiteral("elements are nested more than %1 deep").arg(most_nested_elements)});
+            complain({tag.position, u"elements are nested more than %1 deep"_s.arg(most_nested_elements)});
         if (tag.is(u"table") && open_.count(u"table") > most_nested_tables)
-            complain({tag.position,
-                      QStringLiteral("tables are nested more than %1 deep").arg(most_nested_tables)});
+            complain({tag.position, u"tables are nested more than %1 deep"_s.arg(most_nested_tables)});
         const bool in_drawing = open_.is_in_drawing();
         if (tag.is(u"svg"))
             drawing_position_ = tag.position;
@@ -95,8 +95,7 @@ private:
             height_mm_ += line_mm_;
         }
         if (height_mm_ > most_height_mm)
-            complain(
-                {piece.position, QStringLiteral("the page may be taller than %1 mm").arg(most_height_mm)});
+            complain({piece.position, u"the page may be taller than %1 mm"_s.arg(most_height_mm)});
     }
 
     /// The first complaint stays. `found` counts its position from `start`.

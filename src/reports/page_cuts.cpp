@@ -5,6 +5,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Fills pages with bands, from the top of the document to its end.
@@ -61,7 +63,7 @@ private:
     void add_page(const page_cut& cut)
     {
         if (pages_.size() == most_pages)
-            fail_template(place_, QStringLiteral("the report has more than %1 pages").arg(most_pages));
+            fail_template(place_, u"the report has more than %1 pages"_s.arg(most_pages));
         pages_.push_back(cut);
     }
 

@@ -2,6 +2,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 bool is_printable_size(double points)
 {
     return points >= least_font_points && points <= most_font_points;
@@ -9,8 +11,7 @@ bool is_printable_size(double points)
 
 QString unprintable_size(const QString& written)
 {
-    return QStringLiteral("a font has a size of %1 pt to %2 pt, not %3")
-        .arg(least_font_points)
+    return u"a font has a size of %1 pt to %2 pt, not %3"_s.arg(least_font_points)
         .arg(most_font_points)
         .arg(written);
 }

@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The position after the `>` that ends the tag at `start`.
@@ -111,7 +113,7 @@ void for_each_attribute(
     QStringView tag, const std::function<void(QStringView name, QStringView value, qsizetype position)>& take)
 {
     static const QRegularExpression form(
-        QStringLiteral("([\\w:-]+)\\s*=\\s*(?:\"([^\"]*)(?:\"|$)|'([^']*)(?:'|$)|([^\\s\"'>]+))"));
+        u"([\\w:-]+)\\s*=\\s*(?:\"([^\"]*)(?:\"|$)|'([^']*)(?:'|$)|([^\\s\"'>]+))"_s);
     if (!tag.contains(u'='))
         return;
     auto matches = form.globalMatch(tag.toString());

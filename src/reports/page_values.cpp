@@ -10,6 +10,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using fault = std::optional<page_fault>;
@@ -39,8 +41,8 @@ fault fault_of_font_size(QStringView style)
 {
     // `font` takes several words, of which the one with a unit, or a bare 0, is the size.
     static const QRegularExpression form(
-        QStringLiteral("\\bfont-size\\s*:\\s*([^;}!]*)"
-                       "|\\bfont\\s*:[^;}]*?(?<![\\w.])([-+]?[\\d.]+(?:mm|pt|px)|0(?=[\\s/;}]|$))"),
+        u"\\bfont-size\\s*:\\s*([^;}!]*)"
+        u"|\\bfont\\s*:[^;}]*?(?<![\\w.])([-+]?[\\d.]+(?:mm|pt|px)|0(?=[\\s/;}]|$))"_s,
         QRegularExpression::CaseInsensitiveOption);
     const auto size = [](const QRegularExpressionMatch& match) {
         return match.captured(match.lastCapturedIndex()).trimmed();
@@ -52,8 +54,7 @@ fault fault_of_font_size(QStringView style)
 
 fault fault_of_file(QStringView style)
 {
-    static const QRegularExpression form(QStringLiteral("(@import|url)\\b"),
-                                         QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression form(u"(@import|url)\\b"_s, QRegularExpression::CaseInsensitiveOption);
     return first_wrong(
         form, style, [](const auto&) { return true; },
         [](const auto& match) { return file_words(match.capturedView()); });
@@ -73,16 +74,15 @@ double mm_of(QStringView unit)
 
 const QRegularExpression& length_form()
 {
-    static const QRegularExpression form(QStringLiteral("(?<![\\w.#])(\\d*\\.?\\d+)(mm|pt|px|em|ex)\\b"),
+    static const QRegularExpression form(u"(?<![\\w.#])(\\d*\\.?\\d+)(mm|pt|px|em|ex)\\b"_s,
                                          QRegularExpression::CaseInsensitiveOption);
     return form;
 }
 
 const QRegularExpression& number_form()
 {
-    static const QRegularExpression form(
-        QStringLiteral("(?<![\\w.#-])(\\d*\\.?\\d+)(mm|pt|px|em|ex|%|)(?![\\w.])"),
-        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression form(u"(?<![\\w.#-])(\\d*\\.?\\d+)(mm|pt|px|em|ex|%|)(?![\\w.])"_s,
+                                         QRegularExpression::CaseInsensitiveOption);
     return form;
 }
 
@@ -96,9 +96,7 @@ fault fault_of_length(const QRegularExpression& form, QStringView text)
     return first_wrong(
         form, text, [](const auto& match) { return !(mm_in(match) <= most_length_mm); },
         [](const auto& match) {
-            return QStringLiteral("a length is at most %1 mm, not %2")
-                .arg(most_length_mm)
-                .arg(match.captured());
+            return u"a length is at most %1 mm, not %2"_s.arg(most_length_mm).arg(match.captured());
         });
 }
 
@@ -114,12 +112,12 @@ fault fault_of_count(QStringView name, QStringView value)
     if (!is_span && !is_one_of(name, {u"width", u"height", u"border", u"cellpadding", u"cellspacing",
                                       u"hspace", u"vspace"}))
         return {};
-    static const QRegularExpression whole(QStringLiteral("^\\s*(\\d+)\\s*$"));
+    static const QRegularExpression whole(u"^\\s*(\\d+)\\s*$"_s);
     const QString digits = whole.match(value.toString()).captured(1);
     const double most = is_span ? most_spanned : most_length_mm * units_per_mm;
     if (digits.toDouble() <= most)
         return {};
-    return page_fault{0, QStringLiteral("%1 is at most %2, not %3").arg(name).arg(int(most)).arg(digits)};
+    return page_fault{0, u"%1 is at most %2, not %3"_s.arg(name).arg(int(most)).arg(digits)};
 }
 
 fault fault_of_drawing_size(const QString& value)
@@ -129,16 +127,15 @@ fault fault_of_drawing_size(const QString& value)
     if (is_number && size > 0 && std::isfinite(size))
         return {};
     return page_fault{
-        0, QStringLiteral("the font-size of a drawing is a number above 0 in the drawing's units, not %1")
-               .arg(value)};
+        0, u"the font-size of a drawing is a number above 0 in the drawing's units, not %1"_s.arg(value)};
 }
 
 fault fault_of_html_size(const QString& value)
 {
-    static const QRegularExpression form(QStringLiteral("^\\s*[-+]?[1-7]\\s*$"));
+    static const QRegularExpression form(u"^\\s*[-+]?[1-7]\\s*$"_s);
     if (form.match(value).hasMatch())
         return {};
-    return page_fault{0, QStringLiteral("the size of a font element is 1 to 7, not %1").arg(value)};
+    return page_fault{0, u"the size of a font element is 1 to 7, not %1"_s.arg(value)};
 }
 
 }  // namespace
@@ -151,8 +148,7 @@ fault fault_of_text(QStringView text)
             start = at + 1;
         else if (at - start == most_word_characters)
             return page_fault{
-                start,
-                QStringLiteral("a word has at most %1 characters without a blank").arg(most_word_characters)};
+                start, u"a word has at most %1 characters without a blank"_s.arg(most_word_characters)};
     }
     return {};
 }
@@ -199,8 +195,7 @@ length_range lengths_in(QStringView text)
 
 QString file_words(QStringView what)
 {
-    return QStringLiteral("%1 would load a file, and a template loads none; a drawing is an svg in its body")
-        .arg(what);
+    return u"%1 would load a file, and a template loads none; a drawing is an svg in its body"_s.arg(what);
 }
 
 }  // namespace verdane

@@ -11,6 +11,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int gap = 16;
@@ -21,7 +23,7 @@ constexpr std::array zoom_steps{25, 33, 50, 67, 75, 90, 100, 110, 125, 150, 175,
 page_view::page_view(std::shared_ptr<const report_document> document, QWidget* parent)
     : QAbstractScrollArea(parent), document_(std::move(document))
 {
-    setObjectName(QStringLiteral("page_view"));
+    setObjectName(u"page_view"_s);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Mid);

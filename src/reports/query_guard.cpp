@@ -13,6 +13,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Steps of the engine between two calls of `may_continue`: less than a millisecond.
@@ -27,15 +29,15 @@ constexpr sqlite3_int64 most_memory = 128'000'000;
 QString name_of(int action)
 {
     static const std::map<int, QString> names{
-        {SQLITE_ATTACH, QStringLiteral("ATTACH")},
-        {SQLITE_DETACH, QStringLiteral("DETACH")},
-        {SQLITE_PRAGMA, QStringLiteral("PRAGMA")},
-        {SQLITE_INSERT, QStringLiteral("a statement that writes")},
-        {SQLITE_UPDATE, QStringLiteral("a statement that writes")},
-        {SQLITE_DELETE, QStringLiteral("a statement that writes")},
+        {SQLITE_ATTACH, u"ATTACH"_s},
+        {SQLITE_DETACH, u"DETACH"_s},
+        {SQLITE_PRAGMA, u"PRAGMA"_s},
+        {SQLITE_INSERT, u"a statement that writes"_s},
+        {SQLITE_UPDATE, u"a statement that writes"_s},
+        {SQLITE_DELETE, u"a statement that writes"_s},
     };
     const auto found = names.find(action);
-    return found == names.end() ? QStringLiteral("any other statement") : found->second;
+    return found == names.end() ? u"any other statement"_s : found->second;
 }
 
 bool is_readable(const QString& table, bool any_column)
@@ -43,12 +45,12 @@ bool is_readable(const QString& table, bool any_column)
     if (readable_tables().contains(table, Qt::CaseInsensitive))
         return true;
     // Without a column the engine also passes the names of the queries above.
-    return !any_column && !table.startsWith(QStringLiteral("sqlite_"), Qt::CaseInsensitive);
+    return !any_column && !table.startsWith(u"sqlite_"_s, Qt::CaseInsensitive);
 }
 
 bool is_dangerous(const QString& function)
 {
-    return function == QStringLiteral("load_extension") || function == QStringLiteral("fts3_tokenizer");
+    return function == u"load_extension"_s || function == u"fts3_tokenizer"_s;
 }
 
 }  // namespace
@@ -91,13 +93,13 @@ int query_guard::authorize(void* guard, int action, const char* first, const cha
     if (action == SQLITE_READ)
         return is_readable(name, second != nullptr && *second != '\0')
                    ? SQLITE_OK
-                   : self.refuse(QStringLiteral("%1 is none of them").arg(name));
+                   : self.refuse(u"%1 is none of them"_s.arg(name));
     if (action == SQLITE_FUNCTION)
-        return is_dangerous(name) ? self.refuse(QStringLiteral("%1 is refused").arg(name)) : SQLITE_OK;
+        return is_dangerous(name) ? self.refuse(u"%1 is refused"_s.arg(name)) : SQLITE_OK;
     // A table, and one that a function makes, is entered into the schema first.
-    if (name.startsWith(QStringLiteral("sqlite_")))
-        return self.refuse(QStringLiteral("a new table is refused"));
-    return self.refuse(QStringLiteral("%1 is refused").arg(name_of(action)));
+    if (name.startsWith(u"sqlite_"_s))
+        return self.refuse(u"a new table is refused"_s);
+    return self.refuse(u"%1 is refused"_s.arg(name_of(action)));
 }
 
 int query_guard::interrupt(void* guard)

@@ -4,14 +4,15 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Texts, quoted names and remarks; an opened one that does not end reaches to the end.
 const QRegularExpression& literal()
 {
-    static const QRegularExpression form(
-        QStringLiteral("'[^']*('|$)|\"[^\"]*(\"|$)|--[^\\n]*|/\\*.*?(\\*/|$)"),
-        QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression form(u"'[^']*('|$)|\"[^\"]*(\"|$)|--[^\\n]*|/\\*.*?(\\*/|$)"_s,
+                                         QRegularExpression::DotMatchesEverythingOption);
     return form;
 }
 
@@ -19,13 +20,12 @@ const QRegularExpression& literal()
 
 QString without_literals(QString sql)
 {
-    return sql.replace(literal(), QStringLiteral(" "));
+    return sql.replace(literal(), u" "_s);
 }
 
 std::optional<qsizetype> stray_quoted_name(const QString& sql)
 {
-    static const QRegularExpression behind_as(QStringLiteral("\\bas\\s*$"),
-                                              QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression behind_as(u"\\bas\\s*$"_s, QRegularExpression::CaseInsensitiveOption);
     auto matches = literal().globalMatch(sql);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();

@@ -13,6 +13,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The literal's backslash parts folder and file. Those before it belong to the folder, whose name may
@@ -44,8 +46,7 @@ std::shared_ptr<const report_document> document_or_stopped(const QString& path, 
 void report_control::Action(int value)
 {
     if (value != run_now)
-        throw run_time_failure(failure_kind::misuse,
-                               QStringLiteral("a report control knows no action %1").arg(value));
+        throw run_time_failure(failure_kind::misuse, u"a report control knows no action %1"_s.arg(value));
     preview_.clear();
     const auto document = document_or_stopped(path_of_platform(report_file_name_), window_title_);
     if (document == nullptr)
@@ -77,7 +78,7 @@ void prepare_report(report_control& control, report_opening opening, QStringView
         control.set_WindowState(report_control::maximised);
     if (opening.zoom_percent)
         control.PageZoom(*opening.zoom_percent);
-    control.set_WindowTitle(QStringLiteral("Verdane International Inc."));
+    control.set_WindowTitle(u"Verdane International Inc."_s);
     control.set_ReportFileName(QCoreApplication::applicationDirPath() +
                                in_language(french_literal, english_literal));
 }

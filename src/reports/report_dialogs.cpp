@@ -7,14 +7,16 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString ask_for_file(QWidget* owner, const file_question& question)
 {
     QFileDialog dialog(owner, question.caption);
-    dialog.setObjectName(QStringLiteral("choose_file"));
+    dialog.setObjectName(u"choose_file"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilter(QStringLiteral("%1 (*.%2)").arg(question.kind, question.ending));
+    dialog.setNameFilter(u"%1 (*.%2)"_s.arg(question.kind, question.ending));
     dialog.setDefaultSuffix(question.ending);
     dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dialog.selectFile(question.proposed);
@@ -26,7 +28,7 @@ QString ask_for_file(QWidget* owner, const file_question& question)
 bool ask_for_printer(QWidget* owner, QPrinter& printer, int pages)
 {
     QPrintDialog dialog(&printer, owner);
-    dialog.setObjectName(QStringLiteral("choose_printer"));
+    dialog.setObjectName(u"choose_printer"_s);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setMinMax(1, pages);
     return dialog.exec() == QDialog::Accepted;

@@ -10,28 +10,25 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString picture_prefix = QStringLiteral("drawing:");
+const QString picture_prefix = u"drawing:"_s;
 
 QString attribute_of(const QString& start_tag, const QString& name)
 {
-    const QRegularExpression form(QStringLiteral("\\s%1=\"([^\"]*)\"").arg(name));
+    const QRegularExpression form(u"\\s%1=\"([^\"]*)\""_s.arg(name));
     return form.match(start_tag).captured(1);
 }
 
 /// Without `use`, which repeats its element as often as somebody likes, and without whatever loads a file.
 bool is_drawn(QStringView element)
 {
-    static const QStringList elements{QStringLiteral("svg"),           QStringLiteral("g"),
-                                      QStringLiteral("defs"),          QStringLiteral("title"),
-                                      QStringLiteral("desc"),          QStringLiteral("line"),
-                                      QStringLiteral("rect"),          QStringLiteral("circle"),
-                                      QStringLiteral("ellipse"),       QStringLiteral("path"),
-                                      QStringLiteral("polyline"),      QStringLiteral("polygon"),
-                                      QStringLiteral("text"),          QStringLiteral("tspan"),
-                                      QStringLiteral("stop"),          QStringLiteral("linearGradient"),
-                                      QStringLiteral("radialGradient")};
+    static const QStringList elements{
+        u"svg"_s,  u"g"_s,      u"defs"_s,    u"title"_s,          u"desc"_s,          u"line"_s,
+        u"rect"_s, u"circle"_s, u"ellipse"_s, u"path"_s,           u"polyline"_s,      u"polygon"_s,
+        u"text"_s, u"tspan"_s,  u"stop"_s,    u"linearGradient"_s, u"radialGradient"_s};
     return elements.contains(element);
 }
 
@@ -43,12 +40,11 @@ QString drawing_error(const QString& svg)
     while (!reader.atEnd()) {
         reader.readNext();
         if (reader.isStartElement() && !is_drawn(reader.name()))
-            return QStringLiteral("a drawing holds no %1").arg(reader.name());
+            return u"a drawing holds no %1"_s.arg(reader.name());
         if (reader.isProcessingInstruction() || reader.isDTD())
-            return QStringLiteral("a drawing holds no instructions");
+            return u"a drawing holds no instructions"_s;
     }
-    return reader.hasError() ? QStringLiteral("a drawing is no SVG: %1").arg(reader.errorString())
-                             : QString();
+    return reader.hasError() ? u"a drawing is no SVG: %1"_s.arg(reader.errorString()) : QString();
 }
 
 /// What is wrong with the sizes of the texts on paper, in words, or nothing.
@@ -56,7 +52,7 @@ QString text_error(const std::vector<drawing_text>& texts, double points_per_uni
 {
     for (const drawing_text& text : texts)
         if (!is_printable_size(text.size * points_per_unit))
-            return unprintable_size(QStringLiteral("%1 pt").arg(text.size * points_per_unit, 0, 'g', 3));
+            return unprintable_size(u"%1 pt"_s.arg(text.size * points_per_unit, 0, 'g', 3));
     return {};
 }
 
@@ -65,26 +61,26 @@ QString text_error(const std::vector<drawing_text>& texts, double points_per_uni
 QString report_drawings::marked(const QString& body, int first_line)
 {
     QString result = body;
-    for (qsizetype at = result.lastIndexOf(QStringLiteral("<svg")); at >= 0;
-         at = at == 0 ? -1 : result.lastIndexOf(QStringLiteral("<svg"), at - 1)) {
+    for (qsizetype at = result.lastIndexOf(u"<svg"_s); at >= 0;
+         at = at == 0 ? -1 : result.lastIndexOf(u"<svg"_s, at - 1)) {
         const auto line = first_line + QStringView(result).first(at).count(u'\n');
-        result.insert(at + 4, QStringLiteral(" data-line=\"%1\"").arg(line));
+        result.insert(at + 4, u" data-line=\"%1\""_s.arg(line));
     }
     return result;
 }
 
 QString report_drawings::taken_out(const QString& html, const QString& file)
 {
-    static const QRegularExpression form(QStringLiteral("(<svg[^>]*>).*?</svg>"),
+    static const QRegularExpression form(u"(<svg[^>]*>).*?</svg>"_s,
                                          QRegularExpression::DotMatchesEverythingOption);
     QString result;
     qsizetype copied = 0;
     auto matches = form.globalMatch(html);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        const int line = attribute_of(match.captured(1), QStringLiteral("data-line")).toInt();
+        const int line = attribute_of(match.captured(1), u"data-line"_s).toInt();
         result += QStringView(html).sliced(copied, match.capturedStart() - copied);
-        result += QStringLiteral("<img src=\"%1%2\">").arg(picture_prefix).arg(drawings_.size());
+        result += u"<img src=\"%1%2\">"_s.arg(picture_prefix).arg(drawings_.size());
         drawings_.push_back(read(match.captured(), {file, line}));
         copied = match.capturedEnd();
     }
@@ -94,17 +90,17 @@ QString report_drawings::taken_out(const QString& html, const QString& file)
 report_drawings::drawing report_drawings::read(const QString& svg, const template_place& place) const
 {
     const QString start_tag = svg.first(svg.indexOf(u'>') + 1);
-    const QSizeF size(length_in_units(attribute_of(start_tag, QStringLiteral("width"))),
-                      length_in_units(attribute_of(start_tag, QStringLiteral("height"))));
+    const QSizeF size(length_in_units(attribute_of(start_tag, u"width"_s)),
+                      length_in_units(attribute_of(start_tag, u"height"_s)));
     if (size.isEmpty())
-        fail_template(place, QStringLiteral("a drawing needs a width and a height in mm, pt or px"));
+        fail_template(place, u"a drawing needs a width and a height in mm, pt or px"_s);
     const QString error = drawing_error(svg);
     if (!error.isEmpty())
         fail_template(place, error);
     parted_drawing parted = with_texts_apart(svg);
     auto renderer = std::make_unique<QSvgRenderer>(parted.svg.toUtf8());
     if (!renderer->isValid() || !(renderer->viewBoxF().height() > 0))
-        fail_template(place, QStringLiteral("a drawing is no SVG"));
+        fail_template(place, u"a drawing is no SVG"_s);
     const QString text_words =
         text_error(parted.texts, size.height() / renderer->viewBoxF().height() / units_per_pt);
     if (!text_words.isEmpty())

@@ -11,6 +11,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 QByteArray pdf_of(const report_document& document)
 {
     QBuffer buffer;
@@ -46,14 +48,13 @@ void write_report_file(const QString& path, const QByteArray& bytes)
     // device or a pipe.
     const QFileInfo there(path);
     if (there.exists() && !there.isFile())
-        throw run_time_failure(failure_kind::report_output, QStringLiteral("%1: not a file").arg(path));
+        throw run_time_failure(failure_kind::report_output, u"%1: not a file"_s.arg(path));
     QSaveFile file(path);
     // Unbuffered, because the toolkit's buffer takes a write that a full disk cut short for a whole one.
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size() &&
         file.commit())
         return;
-    throw run_time_failure(failure_kind::report_output,
-                           QStringLiteral("%1: %2").arg(path, file.errorString()));
+    throw run_time_failure(failure_kind::report_output, u"%1: %2"_s.arg(path, file.errorString()));
 }
 
 }  // namespace verdane

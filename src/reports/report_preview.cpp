@@ -18,6 +18,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 report_preview::report_preview(std::shared_ptr<const report_document> document, const QString& title,
                                QWidget* owner)
     : QWidget(owner, Qt::Window),
@@ -25,7 +27,7 @@ report_preview::report_preview(std::shared_ptr<const report_document> document, 
       is_french_(is_french),
       shortcuts_(new window_shortcuts(*this, is_french_))
 {
-    setObjectName(QStringLiteral("report_preview"));
+    setObjectName(u"report_preview"_s);
     setWindowTitle(title);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::NonModal);
@@ -38,7 +40,7 @@ report_preview::report_preview(std::shared_ptr<const report_document> document, 
 void report_preview::build()
 {
     pages_ = new page_view(document_, this);
-    pages_->setAccessibleName(QStringLiteral("Pages"));
+    pages_->setAccessibleName(u"Pages"_s);
     pages_->on_change = [this] { show_state(); };
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -53,9 +55,9 @@ QToolBar* report_preview::tool_bar()
 {
     auto* bar = new QToolBar(this);
     zoom_label_ = new QLabel(bar);
-    zoom_label_->setObjectName(QStringLiteral("zoom_percent"));
+    zoom_label_->setObjectName(u"zoom_percent"_s);
     page_label_ = new QLabel(bar);
-    page_label_->setObjectName(QStringLiteral("page_of_pages"));
+    page_label_->setObjectName(u"page_of_pages"_s);
     for (QLabel* label : {zoom_label_, page_label_})
         label->setContentsMargins(8, 0, 8, 0);
     for (const command& what : output_commands())
@@ -96,35 +98,31 @@ QToolButton* report_preview::button_for(const command& what)
 std::vector<report_preview::command> report_preview::output_commands()
 {
     return {
-        {QStringLiteral("print"),
-         {u"Imprimer…", u"Print…"},
-         {},
-         QKeySequence(Qt::CTRL | Qt::Key_P),
-         [this] { print(); }},
-        {QStringLiteral("save_pdf"),
+        {u"print"_s, {u"Imprimer…", u"Print…"}, {}, QKeySequence(Qt::CTRL | Qt::Key_P), [this] { print(); }},
+        {u"save_pdf"_s,
          {u"Enregistrer en PDF…", u"Save as PDF…"},
          {},
          QKeySequence(Qt::CTRL | Qt::Key_S),
          [this] { save_pdf(); }},
-        {QStringLiteral("save_csv"), {u"Chiffres (CSV)…", u"Figures (CSV)…"}, {}, {}, [this] { save_csv(); }},
-        {QStringLiteral("save_picture"), {u"Image…", u"Picture…"}, {}, {}, [this] { save_picture(); }},
+        {u"save_csv"_s, {u"Chiffres (CSV)…", u"Figures (CSV)…"}, {}, {}, [this] { save_csv(); }},
+        {u"save_picture"_s, {u"Image…", u"Picture…"}, {}, {}, [this] { save_picture(); }},
     };
 }
 
 std::vector<report_preview::command> report_preview::zoom_commands()
 {
     return {
-        {QStringLiteral("zoom_out"),
+        {u"zoom_out"_s,
          {u"Réduire", u"Zoom out"},
-         QStringLiteral("−"),
+         u"−"_s,
          QKeySequence(Qt::CTRL | Qt::Key_Minus),
          [this] { pages_->zoom_out(); }},
-        {QStringLiteral("zoom_in"),
+        {u"zoom_in"_s,
          {u"Agrandir", u"Zoom in"},
-         QStringLiteral("+"),
+         u"+"_s,
          QKeySequence(Qt::CTRL | Qt::Key_Plus),
          [this] { pages_->zoom_in(); }},
-        {QStringLiteral("fit_width"),
+        {u"fit_width"_s,
          {u"Pleine largeur", u"Fit width"},
          {},
          QKeySequence(Qt::CTRL | Qt::Key_0),
@@ -135,14 +133,14 @@ std::vector<report_preview::command> report_preview::zoom_commands()
 std::vector<report_preview::command> report_preview::page_commands()
 {
     return {
-        {QStringLiteral("previous_page"),
+        {u"previous_page"_s,
          {u"Page précédente", u"Previous page"},
-         QStringLiteral("◀"),
+         u"◀"_s,
          QKeySequence(Qt::Key_PageUp),
          [this] { pages_->previous_page(); }},
-        {QStringLiteral("next_page"),
+        {u"next_page"_s,
          {u"Page suivante", u"Next page"},
-         QStringLiteral("▶"),
+         u"▶"_s,
          QKeySequence(Qt::Key_PageDown),
          [this] { pages_->next_page(); }},
     };
@@ -155,7 +153,7 @@ void report_preview::show_state()
     page_label_->setText(in_own({u"Page %1 de %2", u"Page %1 of %2"})
                              .arg(pages_->current_page() + 1)
                              .arg(document_->page_count()));
-    zoom_label_->setText(QStringLiteral("%1 %").arg(pages_->zoom()));
+    zoom_label_->setText(u"%1 %"_s.arg(pages_->zoom()));
 }
 
 void report_preview::print()
@@ -174,22 +172,21 @@ void report_preview::print()
 
 void report_preview::save_pdf()
 {
-    save({u"Enregistrer en PDF", u"Save as PDF"}, {u"Document PDF", u"PDF document"}, QStringLiteral("pdf"),
+    save({u"Enregistrer en PDF", u"Save as PDF"}, {u"Document PDF", u"PDF document"}, u"pdf"_s,
          [this](const QString& path) { document_->save_pdf(path); });
 }
 
 void report_preview::save_csv()
 {
     save({u"Enregistrer les chiffres", u"Save the figures"},
-         {u"Chiffres pour un tableur", u"Figures for a spreadsheet"}, QStringLiteral("csv"),
+         {u"Chiffres pour un tableur", u"Figures for a spreadsheet"}, u"csv"_s,
          [this](const QString& path) { document_->save_csv(path); });
 }
 
 void report_preview::save_picture()
 {
     save({u"Enregistrer la page comme image", u"Save the page as a picture"}, {u"Image", u"Picture"},
-         QStringLiteral("png"),
-         [this](const QString& path) { document_->save_picture(path, pages_->current_page()); });
+         u"png"_s, [this](const QString& path) { document_->save_picture(path, pages_->current_page()); });
 }
 
 void report_preview::save(const text_pair& caption, const text_pair& kind, const QString& ending,
@@ -215,7 +212,7 @@ void report_preview::guarded(const std::function<void()>& act)
             return;
         auto* box = new QMessageBox(QMessageBox::Critical, windowTitle(),
                                     in_own(failure_words(failure.kind())), QMessageBox::Ok, this);
-        box->setObjectName(QStringLiteral("message_box"));
+        box->setObjectName(u"message_box"_s);
         box->setInformativeText(failure.details());
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->open();

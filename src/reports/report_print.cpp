@@ -9,6 +9,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The part of a page that the paper must have room for: all but the outer rim of its margins.
@@ -50,9 +52,8 @@ page_range asked_for(const QPrinter& printer, int page_count)
 
 [[noreturn]] void fail_printing(const QPrinter& printer)
 {
-    throw run_time_failure(
-        failure_kind::report_output,
-        QStringLiteral("printer %1 %2").arg(printer.printerName(), printer.outputFileName()));
+    throw run_time_failure(failure_kind::report_output,
+                           u"printer %1 %2"_s.arg(printer.printerName(), printer.outputFileName()));
 }
 
 }  // namespace

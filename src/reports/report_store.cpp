@@ -19,6 +19,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString& store_path()
@@ -30,12 +32,12 @@ QString& store_path()
 /// A statement's own `with` joins the list of the queries above it.
 QString as_next_of_list(const QString& sql)
 {
-    static const QRegularExpression leading_with(QStringLiteral("^\\s*with\\s+(recursive\\s+)?"),
+    static const QRegularExpression leading_with(u"^\\s*with\\s+(recursive\\s+)?"_s,
                                                  QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch match = leading_with.match(sql);
     if (!match.hasMatch())
-        return QStringLiteral("\n") + sql;
-    return QStringLiteral(",\n") + sql.sliced(match.capturedEnd());
+        return u"\n"_s + sql;
+    return u",\n"_s + sql.sliced(match.capturedEnd());
 }
 
 failure_kind kind_of(const QSqlError& error)
@@ -87,10 +89,10 @@ qsizetype characters_in(const std::vector<QVariant>& row)
 report_snapshot::report_snapshot(const template_file& source, const continue_check& may_continue)
     : source_(source)
 {
-    const QString name = QStringLiteral("verdane_reports_") + QUuid::createUuid().toString();
-    database_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-    database_.setDatabaseName(QStringLiteral(":memory:"));
-    database_.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI"));
+    const QString name = u"verdane_reports_"_s + QUuid::createUuid().toString();
+    database_ = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
+    database_.setDatabaseName(u":memory:"_s);
+    database_.setConnectOptions(u"QSQLITE_OPEN_URI"_s);
     try {
         open();
         guard_ = std::make_unique<query_guard>(database_, may_continue);
@@ -118,12 +120,12 @@ void report_snapshot::open()
     else if (error = copy_when_unlocked(database_); !error.isValid())
         return;
     throw run_time_failure(kind_of(error),
-                           QStringLiteral("%1: %2: %3").arg(source_.file_name, report_store(), error.text()));
+                           u"%1: %2: %3"_s.arg(source_.file_name, report_store(), error.text()));
 }
 
 QStringList report_snapshot::parameters_of(const template_query& query)
 {
-    static const QRegularExpression parameter(QStringLiteral(":([A-Za-z_]\\w*)"));
+    static const QRegularExpression parameter(u":([A-Za-z_]\\w*)"_s);
     QStringList names;
     auto matches = parameter.globalMatch(without_literals(query.sql));
     while (matches.hasNext())
@@ -139,11 +141,11 @@ QString report_snapshot::statement_for(const template_query& query) const
         if (earlier.name == query.name)
             break;
         if (parameters_of(earlier).isEmpty())
-            above.append(QStringLiteral("%1 as (\n%2\n)").arg(earlier.name, earlier.sql));
+            above.append(u"%1 as (\n%2\n)"_s.arg(earlier.name, earlier.sql));
     }
     if (above.isEmpty())
         return query.sql;
-    return QStringLiteral("with recursive ") + above.join(QStringLiteral(", ")) + as_next_of_list(query.sql);
+    return u"with recursive "_s + above.join(u", "_s) + as_next_of_list(query.sql);
 }
 
 report_rows report_snapshot::rows(const template_query& query, const report_parameters& parameters) const
@@ -163,8 +165,7 @@ report_rows report_snapshot::run(const template_query& query, const report_param
     bool well = statement.prepare(statement_for(query));
     for (const QString& name : parameters_of(query)) {
         const auto found = parameters.find(name);
-        statement.bindValue(QStringLiteral(":") + name,
-                            found == parameters.end() ? QVariant() : found->second);
+        statement.bindValue(u":"_s + name, found == parameters.end() ? QVariant() : found->second);
     }
     well = well && statement.exec();
     if (!well || !statement.isSelect())
@@ -186,13 +187,11 @@ report_rows report_snapshot::fetched(const template_query& query, QSqlQuery& sta
         characters += characters_in(row);
         result.rows.push_back(std::move(row));
         if (result.rows.size() > most_rows_of_query)
-            fail_template(
-                source_.at(query.line),
-                QStringLiteral("query %1: more than %2 rows").arg(query.name).arg(most_rows_of_query));
+            fail_template(source_.at(query.line),
+                          u"query %1: more than %2 rows"_s.arg(query.name).arg(most_rows_of_query));
         if (characters > most_placed_characters)
-            fail_template(source_.at(query.line), QStringLiteral("query %1: more than %2 characters")
-                                                      .arg(query.name)
-                                                      .arg(most_placed_characters));
+            fail_template(source_.at(query.line),
+                          u"query %1: more than %2 characters"_s.arg(query.name).arg(most_placed_characters));
     }
     if (statement.lastError().isValid())
         fail(query, statement);
@@ -201,27 +200,25 @@ report_rows report_snapshot::fetched(const template_query& query, QSqlQuery& sta
 
 void report_snapshot::fail(const template_query& query, const QSqlQuery& statement) const
 {
-    static const QString no_table = QStringLiteral("no such table: ");
+    static const QString no_table = u"no such table: "_s;
     check_time(query);
     const QSqlError error = statement.lastError();
     QString refusal = guard_->take_refusal();
     if (refusal.isEmpty() && error.databaseText().startsWith(no_table))
-        refusal = QStringLiteral("%1 is none of them").arg(error.databaseText().sliced(no_table.size()));
+        refusal = u"%1 is none of them"_s.arg(error.databaseText().sliced(no_table.size()));
     if (refusal.isEmpty() && !error.isValid())
-        refusal = QStringLiteral("any other statement is refused");
+        refusal = u"any other statement is refused"_s;
     if (!refusal.isEmpty())
         refusal =
-            QStringLiteral("a query can only select from the report tables and the queries above it; %1")
-                .arg(refusal);
+            u"a query can only select from the report tables and the queries above it; %1"_s.arg(refusal);
     fail_template(source_.at(query.line),
-                  QStringLiteral("query %1: %2").arg(query.name, refusal.isEmpty() ? error.text() : refusal));
+                  u"query %1: %2"_s.arg(query.name, refusal.isEmpty() ? error.text() : refusal));
 }
 
 void report_snapshot::check_time(const template_query& query) const
 {
     if (!guard_->may_continue())
-        throw report_stopped(
-            QStringLiteral("%1:%2: query %3").arg(source_.file_name).arg(query.line).arg(query.name));
+        throw report_stopped(u"%1:%2: query %3"_s.arg(source_.file_name).arg(query.line).arg(query.name));
 }
 
 }  // namespace verdane

@@ -13,6 +13,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 ms_before_window = 2000;
@@ -47,14 +49,14 @@ bool report_wait::may_continue()
 void report_wait::open()
 {
     window_ = std::make_unique<QDialog>(window_at_work());
-    window_->setObjectName(QStringLiteral("report_wait"));
+    window_->setObjectName(u"report_wait"_s);
     window_->setWindowTitle(title_);
     window_->setWindowModality(Qt::ApplicationModal);
     auto* words = new QLabel(in_language(u"Le rapport demande plus de temps que d'habitude.",
                                          u"The report takes longer than usual."));
-    words->setObjectName(QStringLiteral("report_wait_words"));
+    words->setObjectName(u"report_wait_words"_s);
     auto* stop = new QPushButton(in_language(u"&Arrêter", u"&Stop"));
-    stop->setObjectName(QStringLiteral("stop_report"));
+    stop->setObjectName(u"stop_report"_s);
     auto* layout = new QVBoxLayout(window_.get());
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(16);
@@ -72,7 +74,7 @@ void show_report_stopped(const QString& title, const QString& where)
 {
     tell(in_language(u"Le rapport a été arrêté. Vos données sont intactes.",
                      u"The report was stopped. Your data are intact.") +
-             QStringLiteral("\n\n") + where,
+             u"\n\n"_s + where,
          QMessageBox::Information, title);
 }
 

@@ -4,10 +4,12 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 void fail_template(const template_place& place, const QString& message)
 {
     throw run_time_failure(failure_kind::report_template,
-                           QStringLiteral("%1:%2: %3").arg(place.file).arg(place.line).arg(message));
+                           u"%1:%2: %3"_s.arg(place.file).arg(place.line).arg(message));
 }
 
 }  // namespace verdane

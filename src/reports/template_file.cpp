@@ -10,15 +10,17 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString read_text(const QString& path, const template_place& place)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        fail_template(place, QStringLiteral("cannot open %1: %2").arg(path, file.errorString()));
+        fail_template(place, u"cannot open %1: %2"_s.arg(path, file.errorString()));
     if (file.size() > most_template_bytes)
-        fail_template(place, QStringLiteral("the template is longer than %1 bytes").arg(most_template_bytes));
+        fail_template(place, u"the template is longer than %1 bytes"_s.arg(most_template_bytes));
     QString text = QString::fromUtf8(file.readAll());
     return text.remove(u'\r');
 }
@@ -56,7 +58,7 @@ template_file read_template(const QString& path)
     const qsizetype rule = position_of_rule(lines);
     if (rule < 0)
         fail_template(result.at(static_cast<int>(lines.size())),
-                      QStringLiteral("no line --- between the head and the body"));
+                      u"no line --- between the head and the body"_s);
     read_template_head(result, lines.first(rule));
     result.body = lines.sliced(rule + 1).join(u'\n');
     result.body_line = static_cast<int>(rule) + 2;

@@ -7,6 +7,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using kainjow::mustache::data;
@@ -15,13 +17,13 @@ using kainjow::mustache::data;
 /// name; a field that is printed as 0 and yet counts as absent needs two.
 QString truth_of(const QString& name)
 {
-    return name + QStringLiteral("?");
+    return name + u"?"_s;
 }
 
 bool stands(const QVariant& value)
 {
     const QString text = printed_value(value);
-    return !text.isEmpty() && text != QStringLiteral("0");
+    return !text.isEmpty() && text != u"0"_s;
 }
 
 /// The body with the sections of fields asking for their truth. From the last to the first, so that
@@ -31,7 +33,7 @@ QString with_truths(QString body, const std::vector<template_tag>& tags, const t
     std::vector<std::pair<template_tag, QString>> changes;
     for (const template_tag& tag : tags) {
         if (tag.kind != u' ' && !scope.is_query(tag.name))
-            changes.emplace_back(tag, QStringLiteral("{{%1%2}}").arg(tag.kind).arg(truth_of(tag.name)));
+            changes.emplace_back(tag, u"{{%1%2}}"_s.arg(tag.kind).arg(truth_of(tag.name)));
     }
     for (auto change = changes.rbegin(); change != changes.rend(); ++change)
         body.replace(change->first.start, change->first.length, change->second);
@@ -55,7 +57,7 @@ public:
     data build(const std::vector<template_node>& nodes)
     {
         data root(data::type::object);
-        put_field(root, QStringLiteral("title"), source_.title);
+        put_field(root, u"title"_s, source_.title);
         put_queries(root, nodes, {});
         return root;
     }
@@ -91,9 +93,8 @@ private:
     {
         placed_characters_ += least_row + node.length + characters_in(row);
         if (placed_characters_ > most_placed_characters)
-            fail_template(
-                source_.at(node.tag.line),
-                QStringLiteral("the sections place more than %1 characters").arg(most_placed_characters));
+            fail_template(source_.at(node.tag.line),
+                          u"the sections place more than %1 characters"_s.arg(most_placed_characters));
     }
 
     data row_data(const template_node& node, const QStringList& columns, const std::vector<QVariant>& row,
@@ -146,17 +147,16 @@ QString fill_body(const template_file& source, const report_snapshot& snapshot)
     body.set_custom_escape(escaped);
     QString result = QString::fromStdString(body.render(data_builder(source, snapshot).build(nodes)));
     if (result.size() > most_page_characters)
-        fail_template(
-            source.at(source.body_line),
-            QStringLiteral("the filled body has more than %1 characters").arg(most_page_characters));
+        fail_template(source.at(source.body_line),
+                      u"the filled body has more than %1 characters"_s.arg(most_page_characters));
     return result;
 }
 
 QString fill_footer(const template_file& source, int page, int pages)
 {
     for (const template_tag& tag : find_tags(source.footer, source.at(source.footer_line)))
-        if (tag.name != QStringLiteral("page") && tag.name != QStringLiteral("pages"))
-            fail_template(source.at(tag.line), QStringLiteral("no field %1 in a footer").arg(tag.name));
+        if (tag.name != u"page"_s && tag.name != u"pages"_s)
+            fail_template(source.at(tag.line), u"no field %1 in a footer"_s.arg(tag.name));
     kainjow::mustache::mustache footer(source.footer.toStdString());
     data numbers(data::type::object);
     numbers.set("page", std::to_string(page));

@@ -10,6 +10,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One setting of the head: "word [name] = value", with the lines that go on with it.
@@ -24,17 +26,14 @@ using setting_reader = void (*)(template_file&, const head_setting&);
 
 void read_page(template_file& target, const head_setting& setting)
 {
-    static const QRegularExpression form(QStringLiteral("^(A4|A5|Letter)\\s+(landscape|portrait)$"));
+    static const QRegularExpression form(u"^(A4|A5|Letter)\\s+(landscape|portrait)$"_s);
     const QRegularExpressionMatch match = form.match(setting.value);
     if (!match.hasMatch())
-        fail_template(target.at(setting.line),
-                      QStringLiteral("page is A4, A5 or Letter, then landscape or portrait"));
+        fail_template(target.at(setting.line), u"page is A4, A5 or Letter, then landscape or portrait"_s);
     static const std::map<QString, QPageSize::PageSizeId> papers{
-        {QStringLiteral("A4"), QPageSize::A4},
-        {QStringLiteral("A5"), QPageSize::A5},
-        {QStringLiteral("Letter"), QPageSize::Letter}};
+        {u"A4"_s, QPageSize::A4}, {u"A5"_s, QPageSize::A5}, {u"Letter"_s, QPageSize::Letter}};
     target.paper = papers.at(match.captured(1));
-    target.landscape = match.captured(2) == QStringLiteral("landscape");
+    target.landscape = match.captured(2) == u"landscape"_s;
 }
 
 void read_margins(template_file& target, const head_setting& setting)
@@ -49,21 +48,21 @@ void read_margins(template_file& target, const head_setting& setting)
     }
     if (parts.size() != 4 || widths.size() != 4)
         fail_template(target.at(setting.line),
-                      QStringLiteral("margins are four numbers in millimetres: top right bottom left"));
+                      u"margins are four numbers in millimetres: top right bottom left"_s);
     target.margins = QMarginsF(widths[3], widths[0], widths[1], widths[2]);
     target.margins_line = setting.line;
 }
 
 void read_font(template_file& target, const head_setting& setting)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\d+(?:\\.\\d+)?)pt\\s+(\\S.*)$"));
+    static const QRegularExpression form(u"^(\\d+(?:\\.\\d+)?)pt\\s+(\\S.*)$"_s);
     const QRegularExpressionMatch match = form.match(setting.value);
     if (!match.hasMatch())
         fail_template(target.at(setting.line),
-                      QStringLiteral("font is a size in pt, then families with commas between them"));
+                      u"font is a size in pt, then families with commas between them"_s);
     target.font_points = match.captured(1).toDouble();
     if (!is_printable_size(target.font_points))
-        fail_template(target.at(setting.line), unprintable_size(match.captured(1) + QStringLiteral("pt")));
+        fail_template(target.at(setting.line), unprintable_size(match.captured(1) + u"pt"_s));
     target.font_families.clear();
     for (const QString& family : match.captured(2).split(u','))
         target.font_families.append(family.trimmed());
@@ -83,32 +82,30 @@ void read_footer(template_file& target, const head_setting& setting)
 void read_csv(template_file& target, const head_setting& setting)
 {
     if (setting.value.isEmpty())
-        fail_template(target.at(setting.line), QStringLiteral("csv names no query"));
+        fail_template(target.at(setting.line), u"csv names no query"_s);
     target.csv_query = setting.value;
     target.csv_line = setting.line;
 }
 
 void read_csv_separator(template_file& target, const head_setting& setting)
 {
-    if (setting.value != QStringLiteral(",") && setting.value != QStringLiteral(";"))
-        fail_template(target.at(setting.line), QStringLiteral("csv_separator is , or ;"));
+    if (setting.value != u","_s && setting.value != u";"_s)
+        fail_template(target.at(setting.line), u"csv_separator is , or ;"_s);
     target.csv_separator = setting.value.front();
 }
 
 void read_query(template_file& target, const head_setting& setting)
 {
     if (setting.name.isEmpty())
-        fail_template(target.at(setting.line), QStringLiteral("a query needs a name"));
+        fail_template(target.at(setting.line), u"a query needs a name"_s);
     if (without_literals(setting.value).trimmed().isEmpty())
-        fail_template(target.at(setting.line), QStringLiteral("query %1 is empty").arg(setting.name));
-    static const QRegularExpression long_repetition(QStringLiteral("%[-+ 0,#!\\d]*\\.(\\d{5,}|\\*)c"));
+        fail_template(target.at(setting.line), u"query %1 is empty"_s.arg(setting.name));
+    static const QRegularExpression long_repetition(u"%[-+ 0,#!\\d]*\\.(\\d{5,}|\\*)c"_s);
     if (setting.value.contains(long_repetition))
-        fail_template(
-            target.at(setting.line),
-            QStringLiteral("query %1: printf repeats a character at most 9999 times").arg(setting.name));
-    if (target.find_query(setting.name) != nullptr)
         fail_template(target.at(setting.line),
-                      QStringLiteral("there are two queries named %1").arg(setting.name));
+                      u"query %1: printf repeats a character at most 9999 times"_s.arg(setting.name));
+    if (target.find_query(setting.name) != nullptr)
+        fail_template(target.at(setting.line), u"there are two queries named %1"_s.arg(setting.name));
     target.queries.push_back({setting.name, setting.value, setting.line});
 }
 
@@ -121,17 +118,16 @@ void check_quoted_names(const template_file& target, const head_setting& setting
     const auto lines_above = QStringView(setting.value).first(*stray).count(u'\n');
     const QString name = setting.value.sliced(*stray).section(u'"', 0, 1) + u'"';
     fail_template(target.at(setting.line + static_cast<int>(lines_above)),
-                  QStringLiteral("query %1: %2 is quoted and no heading behind as; SQL takes it for a text")
-                      .arg(setting.name, name));
+                  u"query %1: %2 is quoted and no heading behind as; SQL takes it for a text"_s.arg(
+                      setting.name, name));
 }
 
 setting_reader reader_of(const QString& word)
 {
     static const std::map<QString, setting_reader> readers{
-        {QStringLiteral("page"), read_page},   {QStringLiteral("margins"), read_margins},
-        {QStringLiteral("title"), read_title}, {QStringLiteral("footer"), read_footer},
-        {QStringLiteral("csv"), read_csv},     {QStringLiteral("csv_separator"), read_csv_separator},
-        {QStringLiteral("query"), read_query}, {QStringLiteral("font"), read_font},
+        {u"page"_s, read_page},     {u"margins"_s, read_margins}, {u"title"_s, read_title},
+        {u"footer"_s, read_footer}, {u"csv"_s, read_csv},         {u"csv_separator"_s, read_csv_separator},
+        {u"query"_s, read_query},   {u"font"_s, read_font},
     };
     const auto found = readers.find(word);
     return found == readers.end() ? nullptr : found->second;
@@ -139,10 +135,10 @@ setting_reader reader_of(const QString& word)
 
 head_setting start_of_setting(const template_file& target, const QString& text, int line)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\w+)(?:\\s+(\\w+))?\\s*=\\s*(.*)$"));
+    static const QRegularExpression form(u"^(\\w+)(?:\\s+(\\w+))?\\s*=\\s*(.*)$"_s);
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
-        fail_template(target.at(line), QStringLiteral("not a setting: %1").arg(text));
+        fail_template(target.at(line), u"not a setting: %1"_s.arg(text));
     return {match.captured(1), match.captured(2), match.captured(3), line};
 }
 
@@ -165,9 +161,9 @@ std::vector<head_setting> settings_in(const template_file& target, const QString
         if (!goes_on(text))
             result.push_back(start_of_setting(target, text, number));
         else if (result.empty())
-            fail_template(target.at(number), QStringLiteral("nothing to go on with: %1").arg(text));
+            fail_template(target.at(number), u"nothing to go on with: %1"_s.arg(text));
         else
-            result.back().value += QStringLiteral("\n") + text;
+            result.back().value += u"\n"_s + text;
     }
     return result;
 }
@@ -178,9 +174,8 @@ void check_room(const template_file& target)
     const QSizeF room = QRectF(QPointF(), target.page_size_mm()).marginsRemoved(target.margins).size();
     if (qMin(room.width(), room.height()) < least_page_mm)
         fail_template(target.at(target.margins_line),
-                      QStringLiteral("the margins leave %1 mm by %2 mm of the page; at least %3 mm by %3 mm "
-                                     "must be left")
-                          .arg(qRound(room.width()))
+                      u"the margins leave %1 mm by %2 mm of the page; at least %3 mm by %3 mm "
+                      u"must be left"_s.arg(qRound(room.width()))
                           .arg(qRound(room.height()))
                           .arg(least_page_mm));
 }
@@ -189,7 +184,7 @@ void check_head(template_file& target)
 {
     check_room(target);
     if (target.queries.empty())
-        fail_template(target.at(1), QStringLiteral("the head names no query"));
+        fail_template(target.at(1), u"the head names no query"_s);
     if (target.csv_query.isEmpty())
         target.csv_query = target.queries.front().name;
 }
@@ -201,7 +196,7 @@ void read_template_head(template_file& target, const QStringList& lines)
     for (head_setting& setting : settings_in(target, lines)) {
         const setting_reader read = reader_of(setting.word);
         if (read == nullptr)
-            fail_template(target.at(setting.line), QStringLiteral("unknown setting %1").arg(setting.word));
+            fail_template(target.at(setting.line), u"unknown setting %1"_s.arg(setting.word));
         if (read == read_query)
             check_quoted_names(target, setting);
         setting.value = setting.value.trimmed();

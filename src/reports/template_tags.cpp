@@ -8,14 +8,16 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template_tag read_tag(const QString& inside, const template_place& place)
 {
-    static const QRegularExpression form(QStringLiteral("^\\s*([#^/]?)\\s*([A-Za-z_]\\w*)\\s*$"));
+    static const QRegularExpression form(u"^\\s*([#^/]?)\\s*([A-Za-z_]\\w*)\\s*$"_s);
     const QRegularExpressionMatch match = form.match(inside);
     if (!match.hasMatch())
-        fail_template(place, QStringLiteral("not a field or section: {{%1}}").arg(inside));
+        fail_template(place, u"not a field or section: {{%1}}"_s.arg(inside));
     const QString kind = match.captured(1);
     return {kind.isEmpty() ? QChar(u' ') : kind.front(), match.captured(2), place.line};
 }
@@ -52,8 +54,7 @@ private:
                 add_section(result.back(), tag);
         }
         if (around != nullptr)
-            fail_template({file_, around->line},
-                          QStringLiteral("section %1 is not closed").arg(around->name));
+            fail_template({file_, around->line}, u"section %1 is not closed"_s.arg(around->name));
         return result;
     }
 
@@ -61,7 +62,7 @@ private:
     {
         if (++depth_ > most_nested_sections)
             fail_template({file_, tag.line},
-                          QStringLiteral("sections are nested more than %1 deep").arg(most_nested_sections));
+                          u"sections are nested more than %1 deep"_s.arg(most_nested_sections));
         node.children = nodes(&tag);
         --depth_;
         const template_tag& end = *std::prev(next_);
@@ -71,12 +72,10 @@ private:
     void check_end(const template_tag& tag, const template_tag* around) const
     {
         if (around == nullptr)
-            fail_template({file_, tag.line},
-                          QStringLiteral("section %1 is closed and was not opened").arg(tag.name));
+            fail_template({file_, tag.line}, u"section %1 is closed and was not opened"_s.arg(tag.name));
         if (around->name != tag.name)
-            fail_template(
-                {file_, tag.line},
-                QStringLiteral("section %1 is closed inside section %2").arg(tag.name, around->name));
+            fail_template({file_, tag.line},
+                          u"section %1 is closed inside section %2"_s.arg(tag.name, around->name));
     }
 
     QString file_;
@@ -92,12 +91,11 @@ std::vector<template_tag> find_tags(const QString& text, const template_place& f
     std::vector<template_tag> result;
     template_place place = first_line;
     qsizetype counted = 0;
-    for (qsizetype start = text.indexOf(QStringLiteral("{{")); start >= 0;
-         start = text.indexOf(QStringLiteral("{{"), counted)) {
+    for (qsizetype start = text.indexOf(u"{{"_s); start >= 0; start = text.indexOf(u"{{"_s, counted)) {
         place.line += static_cast<int>(QStringView(text).sliced(counted, start - counted).count(u'\n'));
-        const qsizetype end = text.indexOf(QStringLiteral("}}"), start);
+        const qsizetype end = text.indexOf(u"}}"_s, start);
         if (end < 0)
-            fail_template(place, QStringLiteral("a tag {{ is not closed"));
+            fail_template(place, u"a tag {{ is not closed"_s);
         const QString inside = text.sliced(start + 2, end - start - 2);
         if (!is_remark(inside)) {
             result.push_back(read_tag(inside, place));

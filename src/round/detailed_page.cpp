@@ -16,6 +16,8 @@
 
 namespace verdane::f_new_round_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void go_to_quick_page(f_new_round& window)
@@ -49,8 +51,7 @@ void go_to_detailed_page(f_new_round& window)
         shots.Update();
     show_detailed_page(window);
     if (window.date_value.isEmpty()) {
-        tell(QStringLiteral("Il faut choisir la date du ronde avant d'entrer les détails"),
-             QMessageBox::Critical);
+        tell(u"Il faut choisir la date du ronde avant d'entrer les détails"_s, QMessageBox::Critical);
         return;
     }
     open_hole_shots(window);

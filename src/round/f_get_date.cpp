@@ -16,6 +16,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int time_digits = 3;
@@ -32,14 +34,14 @@ QLineEdit* make_time_box(const QString& start, QStringView name)
 f_get_date::f_get_date(f_new_round& round)
     : Form(u"f_get_date", twins::one),
       round_date(named(new QCalendarWidget, u"round_date")),
-      Text1(make_time_box(QStringLiteral("12"), u"Text1")),
-      Text2(make_time_box(QStringLiteral("00"), u"Text2")),
-      Text3(make_time_box(QStringLiteral("00"), u"Text3")),
-      OKbut(named(make_button(QStringLiteral("OK")), u"OKbut")),
-      Command1(named(make_button(QStringLiteral("Annuler")), u"Command1")),
+      Text1(make_time_box(u"12"_s, u"Text1")),
+      Text2(make_time_box(u"00"_s, u"Text2")),
+      Text3(make_time_box(u"00"_s, u"Text3")),
+      OKbut(named(make_button(u"OK"_s), u"OKbut")),
+      Command1(named(make_button(u"Annuler"_s), u"Command1")),
       round_(round)
 {
-    setWindowTitle(QStringLiteral("Date et heure du coup de départ"));
+    setWindowTitle(u"Date et heure du coup de départ"_s);
     round_date->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     round_date->setSelectedDate(QDate::currentDate());
     auto* page = new QVBoxLayout(this);
@@ -66,10 +68,10 @@ void f_get_date::name_controls()
         name_control(*box, name);
     // The calendar has no name for its own parts.
     const std::pair<QString, QString> parts[] = {
-        {QStringLiteral("qt_calendar_prevmonth"), caption(u"Mois précédent", u"Previous month")},
-        {QStringLiteral("qt_calendar_nextmonth"), caption(u"Mois suivant", u"Next month")},
-        {QStringLiteral("qt_calendar_yearedit"), caption(u"Année", u"Year")},
-        {QStringLiteral("qt_calendar_calendarview"), caption(u"Jours", u"Days")}};
+        {u"qt_calendar_prevmonth"_s, caption(u"Mois précédent", u"Previous month")},
+        {u"qt_calendar_nextmonth"_s, caption(u"Mois suivant", u"Next month")},
+        {u"qt_calendar_yearedit"_s, caption(u"Année", u"Year")},
+        {u"qt_calendar_calendarview"_s, caption(u"Jours", u"Days")}};
     for (const auto& [part, name] : parts) {
         if (auto* control = round_date->findChild<QWidget*>(part))
             name_control(*control, name);
@@ -81,8 +83,7 @@ QLayout* f_get_date::make_time_line()
     auto* line = new QHBoxLayout;
     line->setSpacing(rhythm);
     line->addStretch();
-    const std::pair<QLineEdit*, QString> boxes[] = {
-        {Text1, QStringLiteral("h")}, {Text2, QStringLiteral("min")}, {Text3, QStringLiteral("s")}};
+    const std::pair<QLineEdit*, QString> boxes[] = {{Text1, u"h"_s}, {Text2, u"min"_s}, {Text3, u"s"_s}};
     for (const auto& [box, unit] : boxes) {
         line->addWidget(box);
         line->addWidget(make_label(unit, box));

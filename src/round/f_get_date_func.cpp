@@ -16,6 +16,8 @@
 
 namespace verdane::f_get_date_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::int16_t part_width = 2;
@@ -68,8 +70,8 @@ void name_round(f_new_round& round, const tee_off& moment)
 void activate(f_get_date& dialog)
 {
     if (!is_french) {
-        dialog.Command1->setText(QStringLiteral("Cancel"));
-        dialog.setWindowTitle(QStringLiteral("Tee Off Date and Time"));
+        dialog.Command1->setText(u"Cancel"_s);
+        dialog.setWindowTitle(u"Tee Off Date and Time"_s);
     }
     dialog.OKbut->setFocus(Qt::OtherFocusReason);
 }

@@ -16,6 +16,8 @@
 /// The detailed page: a hole told shot by shot.
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QPushButton* make_command(f_new_round& window, const text_pair& caption, QStringView name,
@@ -100,10 +102,10 @@ QWidget* make_page_bar(f_new_round& window)
     auto* line = new QHBoxLayout(bar);
     line->setContentsMargins(0, 0, 0, 0);
     window.TabStrip2 = named(new TabStrip, u"TabStrip2");
-    name_control(*window.TabStrip2, QStringLiteral("Pages"));
+    name_control(*window.TabStrip2, u"Pages"_s);
     window.TabStrip2->addTab(window.caption(u"Entrée rapide", u"Quick entry"));
     window.TabStrip2->addTab(window.caption(u"Entrée détaillée", u"Detailed Entry"));
-    window.Command4 = named(make_button(QStringLiteral("Cliquer pour détailler votre ronde")), u"Command4");
+    window.Command4 = named(make_button(u"Cliquer pour détailler votre ronde"_s), u"Command4");
     window.b_putts =
         make_command(window, {u"Coups roulés", u"Putts"}, u"b_putts", Qt::CTRL | Qt::Key_P,
                      {u"Rapport sur les coups roulés de la ronde", u"Report on the putts of the round"});

@@ -26,6 +26,8 @@
 
 namespace verdane::f_new_round_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int width_twips = 15360;
@@ -41,7 +43,7 @@ void start_on_first_hole(f_new_round& window)
 {
     window.Frame7->hide();
     window.b_carte->hide();
-    window.Label(round_box::hole_number).setText(QStringLiteral("1"));
+    window.Label(round_box::hole_number).setText(u"1"_s);
 }
 
 void take_place(f_new_round& window)
@@ -118,7 +120,7 @@ void close_shots()
     Recordset& shots = data_environment().rsStat_rounds;
     shots.Update();
     shots.Close();
-    shots.set_Source(QStringLiteral("select * from stat_rounds"));
+    shots.set_Source(u"select * from stat_rounds"_s);
 }
 
 void drop_changes()

@@ -12,6 +12,8 @@
 /// The line below the hole tabs: which hole, its card, when the round was teed off.
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int card_digits = 4;
@@ -36,7 +38,7 @@ void add_hole_choice(f_new_round& window, QHBoxLayout& line)
     large.setBold(true);
     number->setFont(large);
     // As wide for the first hole as for the last, so that nothing moves between holes.
-    number->setText(QStringLiteral("18"));
+    number->setText(u"18"_s);
     number->setMinimumWidth(number->sizeHint().width());
     window.cmb_holes = named(new QComboBox, u"cmb_holes");
     line.addWidget(make_label(window.caption(u"Trou :", u"Hole :"), window.cmb_holes));
@@ -50,9 +52,9 @@ void add_date(f_new_round& window, QHBoxLayout& line)
     window.b_getdat = named(make_button(window.caption(u"Choisir", u"Select")), u"b_getdat");
     for (const int index : {round_box::date, round_box::time}) {
         const bool is_date = index == round_box::date;
-        QLineEdit* box = add_figure(
-            window, line, index, is_date ? QStringLiteral("Date :") : window.caption(u"Heure :", u"Time :"),
-            is_date ? date_characters : time_characters);
+        QLineEdit* box =
+            add_figure(window, line, index, is_date ? u"Date :"_s : window.caption(u"Heure :", u"Time :"),
+                       is_date ? date_characters : time_characters);
         box->setAlignment(Qt::AlignCenter);
     }
     line.addWidget(window.b_getdat);
@@ -78,7 +80,7 @@ QWidget* make_hole_bar(f_new_round& window)
     add_hole_choice(window, *line);
     add_figure(window, *line, round_box::par, window.caption(u"Normale :", u"Par :"), card_digits);
     add_figure(window, *line, round_box::length, window.caption(u"Verges :", u"Yards :"), card_digits);
-    add_figure(window, *line, round_box::stroke_index, QStringLiteral("Handicap :"), card_digits);
+    add_figure(window, *line, round_box::stroke_index, u"Handicap :"_s, card_digits);
     line->addStretch();
     add_date(window, *line);
     add_hidden(window);

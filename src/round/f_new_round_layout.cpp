@@ -23,6 +23,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int gap_between_rows = rhythm + rhythm / 2;
@@ -61,7 +63,7 @@ QLayout* make_content(f_new_round& window)
 
 QLayout* make_bottom(f_new_round& window)
 {
-    window.Command1.add(round_box::ok, make_button(QStringLiteral("OK")));
+    window.Command1.add(round_box::ok, make_button(u"OK"_s));
     window.Command1.add(round_box::cancel, make_button(window.caption(u"Annuler", u"Cancel")));
     auto* bottom = new QHBoxLayout;
     bottom->setSpacing(rhythm);

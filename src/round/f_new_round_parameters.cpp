@@ -19,6 +19,8 @@
 /// What belongs to the round as a whole, and its totals.
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int money_digits = 6;
@@ -55,7 +57,7 @@ void add_costs(f_new_round& window, QVBoxLayout& frame)
 /// Height of a list that shows so many lines, none of them cut.
 int height_of_lines(QListWidget& list, int lines)
 {
-    list.addItem(QStringLiteral("X"));
+    list.addItem(u"X"_s);
     const int line = list.sizeHintForRow(0) + 2 * list.spacing();
     list.clear();
     return lines * line + 2 * list.frameWidth();
@@ -80,7 +82,7 @@ QLabel* add_total(QHBoxLayout& line, const QString& caption, QStringView name)
     bold.setPointSizeF(bold.pointSizeF() * 1.2);
     bold.setBold(true);
     figure->setFont(bold);
-    figure->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(QStringLiteral("-00.00")) + 2 * rhythm);
+    figure->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(u"-00.00"_s) + 2 * rhythm);
     line.addWidget(figure, 0, Qt::AlignBottom);
     return figure;
 }
@@ -103,7 +105,7 @@ QWidget* make_parameters(f_new_round& window)
     add_block(*blocks, window.caption(u"Terrain", u"Golf Course"), window.cmb_courses);
     add_block(*blocks, window.caption(u"Conditions atmosphériques", u"Weather Conditions "),
               window.conditions);
-    add_line(*blocks, QStringLiteral("Temp. :"), {window.UpDown1});
+    add_line(*blocks, u"Temp. :"_s, {window.UpDown1});
     add_block(*blocks, window.caption(u"Partenaires", u"Partners"), window.pList, 1);
     add_costs(window, *blocks);
     return frame;
@@ -119,10 +121,10 @@ QWidget* make_totals(f_new_round& window)
     auto* line = new QHBoxLayout(window.Frame7);
     line->setContentsMargins(rhythm, 0, 0, 0);
     line->setSpacing(rhythm);
-    window.l_brut = add_total(*line, QStringLiteral("Brut"), u"l_brut");
-    window.l_hand = add_total(*line, QStringLiteral("Handicap"), u"l_hand");
-    window.l_net = add_total(*line, QStringLiteral("Net"), u"l_net");
-    window.l_plus = add_total(*line, QStringLiteral("+/-"), u"l_plus");
+    window.l_brut = add_total(*line, u"Brut"_s, u"l_brut");
+    window.l_hand = add_total(*line, u"Handicap"_s, u"l_hand");
+    window.l_net = add_total(*line, u"Net"_s, u"l_net");
+    window.l_plus = add_total(*line, u"+/-"_s, u"l_plus");
     return window.Frame7;
 }
 

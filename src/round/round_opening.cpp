@@ -20,6 +20,8 @@
 /// How a round, new or stored, comes into the window.
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace at = round_columns;
@@ -28,12 +30,12 @@ void tell_no_course()
 {
     // The two languages differ in the icon, too.
     if (is_french)
-        tell(QStringLiteral("Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
-                            "un terrain"),
-             QMessageBox::Critical, QStringLiteral("Verdane"));
+        tell(u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
+             u"un terrain"_s,
+             QMessageBox::Critical, u"Verdane"_s);
     else
-        tell(QStringLiteral("Verdane could not find any course. To create a round, you need to define at "
-                            "least one course."));
+        tell(u"Verdane could not find any course. To create a round, you need to define at "
+             u"least one course."_s);
 }
 
 bool has_a_course()
@@ -149,8 +151,8 @@ void show_date(f_new_round& window, const QString& key)
 
 bool refuse_without_second_row(f_new_round& window)
 {
-    tell(QStringLiteral("Error : games2 record not found"));
-    window.text(round_box::hole).setText(QStringLiteral("1"));
+    tell(u"Error : games2 record not found"_s);
+    window.text(round_box::hole).setText(u"1"_s);
     window.unload();
     return false;
 }
@@ -202,7 +204,7 @@ bool load_stored_round(f_new_round& window, const QString& key)
     find_first(store.rsvrd_fields, u"CODE = ", code);
     window.cmb_holes->setCurrentIndex(0);
     window.cmb_courses->setCurrentIndex(window.cmb_courses->place_of(code));
-    window.text(round_box::hole).setText(QStringLiteral("1"));
+    window.text(round_box::hole).setText(u"1"_s);
     return true;
 }
 

@@ -5,6 +5,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int coldest = -30;
@@ -16,11 +18,11 @@ temperature_box::temperature_box(QWidget* parent) : QSpinBox(parent)
 {
     setRange(coldest, hottest);
     setFocusPolicy(Qt::StrongFocus);
-    lineEdit()->setObjectName(QStringLiteral("Text1"));
+    lineEdit()->setObjectName(u"Text1"_s);
     lineEdit()->setText(textFromValue(0));
     setAlignment(Qt::AlignRight);
     // The blanks of an untouched box would make it too narrow for its figures.
-    const int figures = fontMetrics().horizontalAdvance(QStringLiteral("-30 C"));
+    const int figures = fontMetrics().horizontalAdvance(u"-30 C"_s);
     setMinimumWidth(sizeHint().width() + figures);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { touched_ = true; });
     connect(this, &QSpinBox::valueChanged, this, [this](int celsius) {
@@ -38,20 +40,20 @@ void temperature_box::show_value(int celsius)
 
 QString temperature_box::textFromValue(int value) const
 {
-    return touched_ ? QString(QString::number(value) + u" C") : QStringLiteral("  ");
+    return touched_ ? QString(QString::number(value) + u" C") : u"  "_s;
 }
 
 int temperature_box::valueFromText(const QString& text) const
 {
-    static const QRegularExpression number(QStringLiteral("-?[0-9]+"));
+    static const QRegularExpression number(u"-?[0-9]+"_s);
     const auto found = number.match(text);
     return found.hasMatch() ? found.captured().toInt() : value();
 }
 
 QValidator::State temperature_box::validate(QString& text, int&) const
 {
-    static const QRegularExpression whole(QStringLiteral("^ *(-?[0-9]{1,2})? *C?$"));
-    static const QRegularExpression begun(QStringLiteral("^ *- *C?$"));
+    static const QRegularExpression whole(u"^ *(-?[0-9]{1,2})? *C?$"_s);
+    static const QRegularExpression begun(u"^ *- *C?$"_s);
     if (begun.match(text).hasMatch())
         return QValidator::Intermediate;
     const auto found = whole.match(text);

@@ -4,6 +4,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 const std::array<selector_row, class_count> panel_selectors = {{
     {1, 20, {u"Nombre de normales :", u"Number of Par :"}},
     {6, 15, {u"Vert en coup non réglementaire :", u"Green not in Regulation :"}},
@@ -126,7 +128,7 @@ cell cell_of(int selector, const hole_figures& f, int16 par)
 int summary_selector(int i)
 {
     if (i < 1 || i > class_count)
-        throw run_time_failure(failure_kind::subscript, QStringLiteral("class %1 of 24").arg(i));
+        throw run_time_failure(failure_kind::subscript, u"class %1 of 24"_s.arg(i));
     // The greens in regulation stand up front, right behind the pars.
     constexpr std::array<int, class_count> order = {1,  25, 26, 27, 28, 6,  7,  8,  9,  10, 11, 12,
                                                     13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
@@ -138,7 +140,7 @@ QString hole_cell(int selector, const hole_figures& f, int16 par)
     const cell content = cell_of(selector, f, par);
     if (content.empty)
         return {};
-    return content.figure == 0 ? QStringLiteral(" ") : QString::number(plain(content.figure));
+    return content.figure == 0 ? u" "_s : QString::number(plain(content.figure));
 }
 
 int16 hole_cell_value(int selector, const hole_figures& f, int16 par)

@@ -8,6 +8,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int fewest_rounds = 5;
@@ -66,7 +68,7 @@ int16 handicap_take(int16 rounds)
 QString handicap_text(int16 take, double sum)
 {
     const double figure = handicap(plain(take), sum);
-    return figure == 0 ? QStringLiteral("N/A") : plain_number_text(figure);
+    return figure == 0 ? u"N/A"_s : plain_number_text(figure);
 }
 
 }  // namespace verdane

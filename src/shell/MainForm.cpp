@@ -16,6 +16,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize wanted_size(1200, 780);
@@ -41,7 +43,7 @@ QAction* make_action(QStringView name, void (*command)(), QObject* owner)
 
 MainForm::MainForm()
 {
-    setObjectName(QStringLiteral("MainForm"));
+    setObjectName(u"MainForm"_s);
     const QSize room = room_on_screen(*this);
     setMinimumSize(least_size.boundedTo(room));
     // The toolkit's own menu offers to hide the toolbar, and nothing would bring it back.
@@ -110,7 +112,7 @@ void MainForm::add_toolbar()
     toolbar->setIconSize(tool_icon_size);
     for (const tool_button& button : main_toolbar()) {
         auto* action = make_action(u"", button.command, this);
-        action->setIcon(QIcon(QStringLiteral(":/art/%1.svg").arg(button.key)));
+        action->setIcon(QIcon(u":/art/%1.svg"_s.arg(button.key)));
         action->setToolTip(button.tool_tip.toString());
         toolbar->addAction(action);
         named(toolbar->widgetForAction(action), button.key);
@@ -122,8 +124,8 @@ void MainForm::add_toolbar()
 void MainForm::add_pictures()
 {
     auto* ground = new QWidget;
-    Picture1_ = named(new picture_pane(QStringLiteral(":/art/landscape_fr.svg"), ground), u"Picture1");
-    Picture2_ = named(new picture_pane(QStringLiteral(":/art/landscape_en.svg"), ground), u"Picture2");
+    Picture1_ = named(new picture_pane(u":/art/landscape_fr.svg"_s, ground), u"Picture1");
+    Picture2_ = named(new picture_pane(u":/art/landscape_en.svg"_s, ground), u"Picture2");
     setCentralWidget(ground);
 }
 
@@ -162,10 +164,10 @@ void MainForm::reload()
 
 void MainForm::tick_language(int value)
 {
-    for (const QString& name : {QStringLiteral("mfr"), QStringLiteral("mEn")})
+    for (const QString& name : {u"mfr"_s, u"mEn"_s})
         actions_.at(name)->setCheckable(true);
-    actions_.at(QStringLiteral("mfr"))->setChecked(value == french_value);
-    actions_.at(QStringLiteral("mEn"))->setChecked(value == english_value);
+    actions_.at(u"mfr"_s)->setChecked(value == french_value);
+    actions_.at(u"mEn"_s)->setChecked(value == english_value);
 }
 
 void MainForm::set_locked(bool locked)

@@ -12,6 +12,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int emblem_pixels = 80;
@@ -51,24 +53,24 @@ f_about::f_about() : Form(u"f_about")
 void f_about::make_controls()
 {
     lblTitle = named(make_text(caption(u"VERDANE pour PC", u"VERDANE for PC"), 1.6), u"lblTitle");
-    lblVersion = named(make_text(QStringLiteral("Version 1.4")), u"lblVersion");
+    lblVersion = named(make_text(u"Version 1.4"_s), u"lblVersion");
     lblDescription = named(make_text(caption(u"Le journal et les statistiques de vos rondes de golf.",
                                              u"The diary and the statistics of your rounds of golf.")),
                            u"lblDescription");
     lblDisclaimer = named(make_text(caption(u"Vos rondes restent sur cet ordinateur : Verdane n'envoie rien.",
                                             u"Your rounds stay on this computer: Verdane sends nothing.")),
                           u"lblDisclaimer");
-    Label1 = named(make_text(QStringLiteral("Verdane International Inc.")), u"Label1");
+    Label1 = named(make_text(u"Verdane International Inc."_s), u"Label1");
     Line1.add(0, make_line());
     Line1.add(1, make_line());
     // French in both twins.
-    cmdSysInfo = named(make_button(QStringLiteral("&Infos système")), u"cmdSysInfo");
-    cmdOK = named(make_button(QStringLiteral("OK")), u"cmdOK");
+    cmdSysInfo = named(make_button(u"&Infos système"_s), u"cmdSysInfo");
+    cmdOK = named(make_button(u"OK"_s), u"cmdOK");
 }
 
 void f_about::lay_out()
 {
-    auto* emblem = new QSvgWidget(QStringLiteral(":/art/verdane.svg"));
+    auto* emblem = new QSvgWidget(u":/art/verdane.svg"_s);
     emblem->setFixedSize(emblem_pixels, emblem_pixels);
 
     auto* texts = new QVBoxLayout;

@@ -5,6 +5,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int left_of_edge_twips = 200;
@@ -16,9 +18,9 @@ constexpr int image_pixels = 96;
 
 f_flash::f_flash() : Form(u"f_flash", twins::one)
 {
-    setWindowTitle(QStringLiteral("Verdane"));
+    setWindowTitle(u"Verdane"_s);
     resize(window_size);
-    Image1 = named(new QSvgWidget(QStringLiteral(":/art/verdane.svg"), this), u"Image1");
+    Image1 = named(new QSvgWidget(u":/art/verdane.svg"_s, this), u"Image1");
     Image1->resize(image_pixels, image_pixels);
     if (main_frame()) {
         const QSize frame = main_frame()->frame_widget()->size();

@@ -13,13 +13,15 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int icon_pixels = 96;
 
 QSvgWidget* make_emblem()
 {
-    auto* emblem = new QSvgWidget(QStringLiteral(":/art/verdane.svg"));
+    auto* emblem = new QSvgWidget(u":/art/verdane.svg"_s);
     emblem->setFixedSize(icon_pixels, icon_pixels);
     return emblem;
 }
@@ -28,10 +30,10 @@ QSvgWidget* make_emblem()
 
 f_lang::f_lang() : Form(u"f_lang", twins::one)
 {
-    setWindowTitle(QStringLiteral("Verdane International Inc."));
-    Command1.add(1, make_button(QStringLiteral("Continuer en Français")));
-    Command1.add(0, make_button(QStringLiteral("Continue in English")));
-    Command2 = named(make_button(QStringLiteral("Exit / Quitter")), u"Command2");
+    setWindowTitle(u"Verdane International Inc."_s);
+    Command1.add(1, make_button(u"Continuer en Français"_s));
+    Command1.add(0, make_button(u"Continue in English"_s));
+    Command2 = named(make_button(u"Exit / Quitter"_s), u"Command2");
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(5 * rhythm, 4 * rhythm, 5 * rhythm, 4 * rhythm);

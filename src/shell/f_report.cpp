@@ -2,6 +2,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize window_size(320, 160);
@@ -10,7 +12,7 @@ constexpr QSize window_size(320, 160);
 
 f_report::f_report() : Form(u"f_report", twins::one), cr2(this)
 {
-    setWindowTitle(QStringLiteral("Verdane"));
+    setWindowTitle(u"Verdane"_s);
     resize(window_size);
 }
 

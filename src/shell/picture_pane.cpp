@@ -7,9 +7,11 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString sign = QStringLiteral("sign");
+const QString sign = u"sign"_s;
 constexpr double margin = 8;
 
 /// The shift that brings the range from `first` to `last` inside 0 to `end`, both less the margin. Where the

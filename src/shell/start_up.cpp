@@ -28,13 +28,15 @@ static void keep_pictures()
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Reads the language, asking for it when none was chosen yet.
 start_result settle_language(Recordset& rssettings)
 {
     if (rssettings.Fields(u"language").is_null()) {
-        tell(QStringLiteral("Fatal Error - Unexpected Language Value - 1014"), QMessageBox::Critical);
+        tell(u"Fatal Error - Unexpected Language Value - 1014"_s, QMessageBox::Critical);
         return start_result::damaged;
     }
     if (!is_language_value(plain(rssettings.Fields(u"language").to_int16()))) {
@@ -71,7 +73,7 @@ void load_round_keys()
     Recordset& rsgames = data_environment().rsgames;
     // A row of this table is wide, and nothing but its key is wanted.
     const QString whole_rows = rsgames.Source();
-    rsgames.set_Source(QStringLiteral("select date from games order by date"));
+    rsgames.set_Source(u"select date from games order by date"_s);
     rsgames.Open();
     if (!rsgames.eof()) {
         for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
@@ -106,10 +108,10 @@ void prepare_application(QApplication& application)
 {
     let_oversized_writes_fail();
     keep_pictures();
-    QCoreApplication::setApplicationName(QStringLiteral("Verdane"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.4"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("io.verdane.Verdane"));
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/art/verdane.svg")));
+    QCoreApplication::setApplicationName(u"Verdane"_s);
+    QCoreApplication::setApplicationVersion(u"1.4"_s);
+    QGuiApplication::setDesktopFileName(u"io.verdane.Verdane"_s);
+    QGuiApplication::setWindowIcon(QIcon(u":/art/verdane.svg"_s));
     apply_look(application);
     describe_controls();
 }

@@ -8,12 +8,14 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 #ifdef Q_OS_WIN
 QString registry_value(const QString& key, const QString& value)
 {
-    const QSettings registry(QStringLiteral("HKEY_LOCAL_MACHINE\\") + key, QSettings::NativeFormat);
+    const QSettings registry(u"HKEY_LOCAL_MACHINE\\"_s + key, QSettings::NativeFormat);
     return registry.value(value).toString();
 }
 #else
@@ -27,13 +29,11 @@ QString registry_value(const QString&, const QString&)
 
 QString system_information_tool()
 {
-    const QString tool =
-        registry_value(QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"), QStringLiteral("PATH"));
+    const QString tool = registry_value(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"_s, u"PATH"_s);
     if (!tool.isEmpty())
         return tool;
-    const QString folder = registry_value(QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools Location"),
-                                          QStringLiteral("MSINFO"));
-    const QString in_folder = folder + QStringLiteral("\\MSINFO32.EXE");
+    const QString folder = registry_value(u"SOFTWARE\\Microsoft\\Shared Tools Location"_s, u"MSINFO"_s);
+    const QString in_folder = folder + u"\\MSINFO32.EXE"_s;
     return !folder.isEmpty() && QFileInfo::exists(in_folder) ? in_folder : QString();
 }
 
@@ -41,7 +41,7 @@ void show_system_information()
 {
     const QString tool = system_information_tool();
     if (tool.isEmpty() || !QProcess::startDetached(tool, {}))
-        tell(QStringLiteral("System Information Is Unavailable At This Time"));
+        tell(u"System Information Is Unavailable At This Time"_s);
 }
 
 }  // namespace verdane

@@ -7,10 +7,12 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 wait_form::wait_form() : Form(u"wait", twins::one)
 {
-    setWindowTitle(QStringLiteral("Please Wait"));
-    Label1 = named(make_label(QStringLiteral("Please Wait")), u"Label1");
+    setWindowTitle(u"Please Wait"_s);
+    Label1 = named(make_label(u"Please Wait"_s), u"Label1");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6 * rhythm, 4 * rhythm, 6 * rhythm, 4 * rhythm);
     layout->addWidget(Label1);

@@ -5,6 +5,8 @@
 
 namespace verdane::Statistics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QStringView columns =
@@ -58,7 +60,7 @@ club_shot read_shot(Recordset& shots)
 gathered_shots add_up(Recordset& shots)
 {
     gathered_shots gathered;
-    QString previous = QStringLiteral("X");
+    QString previous = u"X"_s;
     for (; !shots.eof(); shots.MoveNext()) {
         gathered.any_shot = true;
         const QString round = shots.Fields(date).trimmed();

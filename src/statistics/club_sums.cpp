@@ -4,6 +4,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <typename Count>
@@ -21,7 +23,7 @@ void count_if(bool holds, int16& counter)
 double length_before(const club_shot& shot)
 {
     if (!shot.before)
-        throw run_time_failure(failure_kind::invalid_null, QStringLiteral("a shot without its length"));
+        throw run_time_failure(failure_kind::invalid_null, u"a shot without its length"_s);
     return plain(*shot.before);
 }
 

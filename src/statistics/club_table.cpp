@@ -6,6 +6,8 @@
 
 namespace verdane::club_table {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int club_name = 0;
@@ -29,7 +31,7 @@ club_texts texts_of(const club_sums& sums)
 {
     if (sums.shots <= 0) {
         club_texts zeros;
-        zeros.fill(QStringLiteral("0"));
+        zeros.fill(u"0"_s);
         return zeros;
     }
     const auto share = [&sums](int16 part) { return share_text(part, sums.shots); };

@@ -9,6 +9,8 @@
 
 namespace verdane::Statistics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int first_amount = 1;
@@ -115,7 +117,7 @@ bool fill_r_cost(const selection_arguments& chosen, run_progress& bar)
         bar.hide();
         return false;
     }
-    data_environment().rscost.set_Source(QStringLiteral("select * from cost"));
+    data_environment().rscost.set_Source(u"select * from cost"_s);
     bar.move_to(100);
     bar.hide();
     return true;

@@ -4,6 +4,8 @@
 
 namespace verdane::Statistics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A true comparison sums to 1 on one engine and to -1 on another, hence the ABS.
@@ -38,7 +40,7 @@ void close_detail()
 {
     Recordset& shots = data_environment().rsStat_rounds;
     shots.Close();
-    shots.set_Source(QStringLiteral("select * from Stat_rounds"));
+    shots.set_Source(u"select * from Stat_rounds"_s);
 }
 
 }  // namespace verdane::Statistics

@@ -16,6 +16,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A course name padded to its width, and the tee.
@@ -61,7 +63,7 @@ QBoxLayout* f_carte::make_buttons()
     auto* foot = new QHBoxLayout;
     foot->setSpacing(rhythm);
     foot->addStretch(1);
-    foot->addWidget(Command1.add(0, make_button(QStringLiteral("OK"))));
+    foot->addWidget(Command1.add(0, make_button(u"OK"_s)));
     foot->addWidget(Command1.add(1, make_button(caption(u"Annuler", u"Cancel"))));
     return foot;
 }

@@ -22,6 +22,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Date, time, a course's name of some length and the mark.
@@ -123,7 +125,7 @@ QLayout* f_date_range::make_counts()
 {
     auto* count = new QHBoxLayout;
     count->setSpacing(rhythm);
-    QLabel* figure = Label1.add(count_label, make_label(QStringLiteral("XX")));
+    QLabel* figure = Label1.add(count_label, make_label(u"XX"_s));
     const QString words = caption(u"Nombre de parties jouées:", u"Number of rounds :");
     count->addWidget(Label1.add(6, make_label(words, figure)));
     count->addWidget(figure, 1);
@@ -149,10 +151,10 @@ QLayout* f_date_range::make_foot()
     keeps_its_place.setRetainSizeWhenHidden(true);
     Status->setSizePolicy(keeps_its_place);
     Status->hide();
-    Command1 = named(make_button(QStringLiteral("OK")), u"Command1");
-    Command2 = named(make_button(QStringLiteral("OK")), u"Command2");
-    Command3 = named(make_button(QStringLiteral("OK")), u"Command3");
-    OKButton = named(make_button(QStringLiteral("OK")), u"OKButton");
+    Command1 = named(make_button(u"OK"_s), u"Command1");
+    Command2 = named(make_button(u"OK"_s), u"Command2");
+    Command3 = named(make_button(u"OK"_s), u"Command3");
+    OKButton = named(make_button(u"OK"_s), u"OKButton");
     CancelButton = named(make_button(caption(u"Annuler", u"Cancel")), u"CancelButton");
     auto* foot = new QHBoxLayout;
     foot->setSpacing(rhythm);

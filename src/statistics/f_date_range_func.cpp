@@ -20,6 +20,8 @@
 
 namespace verdane::f_date_range_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// False when the store holds no round.
@@ -150,7 +152,7 @@ void close_form(f_date_range& window)
 void unload()
 {
     // After cost statistics without a result the source is their statement, to which no row can be added.
-    data_environment().rscost.set_Source(QStringLiteral("select * from cost"));
+    data_environment().rscost.set_Source(u"select * from cost"_s);
     Unlock_menu();
 }
 

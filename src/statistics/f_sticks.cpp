@@ -27,6 +27,7 @@ namespace verdane {
 namespace {
 
 using namespace f_sticks_func;
+using namespace Qt::StringLiterals;
 
 constexpr int clubs_in_a_column = 7;
 /// Number, name, average and the gap after them.
@@ -103,9 +104,8 @@ QGroupBox* f_sticks::make_bag()
     grid->setHorizontalSpacing(rhythm);
     grid->setVerticalSpacing(rhythm / 2);
     for (const int half : {0, 1})
-        grid->addWidget(
-            named(make_label(caption(u"verges", u"yards")), QStringLiteral("lbl_unit_%1").arg(half)), 0,
-            half * columns_of_a_half + 2, Qt::AlignRight);
+        grid->addWidget(named(make_label(caption(u"verges", u"yards")), u"lbl_unit_%1"_s.arg(half)), 0,
+                        half * columns_of_a_half + 2, Qt::AlignRight);
     for (int index = 0; index < club_count; ++index)
         add_club(*grid, index);
     return bag;
@@ -132,7 +132,7 @@ void f_sticks::add_club(QGridLayout& grid, int index)
 QLayout* f_sticks::make_foot()
 {
     Command1 = named(make_button(caption(u"Actualiser les moyennes >>", u"Update Averages")), u"Command1");
-    enr = named(make_button(QStringLiteral("OK")), u"enr");
+    enr = named(make_button(u"OK"_s), u"enr");
     Fer = named(make_button(caption(u"Annuler", u"Cancel")), u"Fer");
     auto* foot = new QHBoxLayout;
     foot->setSpacing(rhythm);
@@ -208,11 +208,11 @@ QLayout* f_sticks::make_unread_boxes()
     int index = club_count;
     for (int row = 0; row < static_cast<int>(kinds.size()); ++row) {
         int column = 0;
-        grid->addWidget(named(make_label(kinds.at(static_cast<std::size_t>(row))),
-                              QStringLiteral("lbl_unread_%1").arg(row)),
-                        row, column++);
+        grid->addWidget(
+            named(make_label(kinds.at(static_cast<std::size_t>(row))), u"lbl_unread_%1"_s.arg(row)), row,
+            column++);
         for (const QString& word : {caption(u"entre ", u"between "), caption(u"et ", u"and ")}) {
-            auto* label = named(make_label(word), QStringLiteral("lbl_Text1_%1").arg(index));
+            auto* label = named(make_label(word), u"lbl_Text1_%1"_s.arg(index));
             auto* box = Text1.add(index++, make_number_box(short_figure));
             box->setEnabled(false);
             box->setAccessibleName(word);

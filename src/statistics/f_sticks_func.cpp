@@ -28,6 +28,8 @@
 
 namespace verdane::f_sticks_func {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int club_count = f_sticks::club_count;
@@ -36,7 +38,7 @@ constexpr int top_with_filters = 5;
 
 QString title()
 {
-    return QStringLiteral("VERDANE");
+    return u"VERDANE"_s;
 }
 
 void open_bag()

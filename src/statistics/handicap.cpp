@@ -8,6 +8,8 @@
 
 namespace verdane::Statistics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using differentials = checked_array<double, Main_module::most_rounds>;
@@ -17,7 +19,7 @@ void open_recordsets(const selection_arguments& chosen)
     DataEnvironment1& store = data_environment();
     store.rsvrd_fields.Open();
     store.rsfield_info.Open();
-    store.connection.Execute(QStringLiteral("DELETE FROM HAND"));
+    store.connection.Execute(u"DELETE FROM HAND"_s);
     store.rsgames.set_Source(selected_rounds_statement(chosen));
     store.rsgames.Open();
     store.rshand.Open();
@@ -30,8 +32,8 @@ void close_recordsets()
     for (Recordset* rows :
          {&store.rsgames, &store.rsvrd_fields, &store.rsfield_info, &store.rshand, &store.rsgames2})
         rows->Close();
-    store.rsgames.set_Source(QStringLiteral("Select * from games"));
-    store.rshand.set_Source(QStringLiteral("select * from hand"));
+    store.rsgames.set_Source(u"Select * from games"_s);
+    store.rshand.set_Source(u"select * from hand"_s);
 }
 
 /// One row of `hand` for each round. The list in memory is read by nothing, but has no room for more
@@ -55,7 +57,7 @@ void sort_differentials()
     Recordset& hand = data_environment().rshand;
     hand.UpdateBatch(affect::all_chapters);
     hand.Close();
-    hand.set_Source(QStringLiteral(" select * from hand order by hnd asc"));
+    hand.set_Source(u" select * from hand order by hnd asc"_s);
     hand.Open();
 }
 

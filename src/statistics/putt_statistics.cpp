@@ -10,6 +10,8 @@
 
 namespace verdane::Statistics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void prepare_putt_report(report_control& control)
@@ -119,7 +121,7 @@ bool fill_putt_tables(const selection_arguments& chosen, run_progress& bar)
     games2.Open();
     const bool any_putt = fill_from_rounds(chosen, bar);
     games2.Close();
-    games2.set_Source(QStringLiteral("select * from games2"));
+    games2.set_Source(u"select * from games2"_s);
     bar.hide();
     if (!any_putt)
         tell(in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",

@@ -6,6 +6,8 @@
 
 namespace verdane::putt_tables {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int band_j(int j)
@@ -34,7 +36,7 @@ constexpr int rating_text = 12;
 constexpr int axis_after2 = 13;
 constexpr int axis_first2 = 14;
 
-const QString blank = QStringLiteral(" ");
+const QString blank = u" "_s;
 
 Recordset& by_first()
 {

@@ -13,6 +13,8 @@
 
 namespace verdane::Statistics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace rows = Round_functions;
@@ -32,7 +34,7 @@ void close_round_tables()
     DataEnvironment1& store = data_environment();
     for (Recordset* table : {&store.rsgames2, &store.rsgames, &store.rsvrd_fields, &store.rsfield_info})
         table->Close();
-    store.rsgames.set_Source(QStringLiteral("Select * from games"));
+    store.rsgames.set_Source(u"Select * from games"_s);
 }
 
 /// Reads a hole of the round from the current rows, each column once.

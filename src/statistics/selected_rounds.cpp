@@ -8,6 +8,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool found(Recordset& rows, const QString& criterion)
@@ -73,7 +75,7 @@ missing_row walk_selected_rounds(const selection_arguments& chosen, const std::f
 
 void tell_missing_row(missing_row row)
 {
-    tell(QStringLiteral("Fatal Error : %1 ").arg(static_cast<int>(row)), QMessageBox::Critical, QString());
+    tell(u"Fatal Error : %1 "_s.arg(static_cast<int>(row)), QMessageBox::Critical, QString());
 }
 
 }  // namespace verdane

@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct clause_words {
@@ -28,7 +30,7 @@ QString clause_of(filter which, clause_form form, const QString& value)
 {
     const clause_words& clause = words.at(static_cast<std::size_t>(which));
     if (value.isEmpty())
-        return form == clause_form::appended ? QStringLiteral(" ") : clause.off_alone.toString();
+        return form == clause_form::appended ? u" "_s : clause.off_alone.toString();
     const QString alone = clause.before + (clause.value_is_text ? quoted(value) : value) + clause.after;
     return form == clause_form::appended ? QString(u" AND" + alone) : alone;
 }

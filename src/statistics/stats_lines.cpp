@@ -4,6 +4,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct nines {
@@ -106,7 +108,7 @@ stats_line totalled(const by_hole<double>& holes)
 
 QString average_mark(const round_sums& sums)
 {
-    return several_rounds(sums) ? QStringLiteral("0") : QStringLiteral(" ");
+    return several_rounds(sums) ? u"0"_s : u" "_s;
 }
 
 }  // namespace verdane

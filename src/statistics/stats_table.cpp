@@ -9,6 +9,8 @@
 
 namespace verdane::stats_table {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace at = stats_columns;
@@ -113,7 +115,7 @@ int checked_hole(int16 hole)
 {
     if (hole < 1 || hole > holes_of_round)
         throw run_time_failure(failure_kind::subscript,
-                               QStringLiteral("hole %1 in the shots of a selection").arg(plain(hole)));
+                               u"hole %1 in the shots of a selection"_s.arg(plain(hole)));
     return plain(hole);
 }
 

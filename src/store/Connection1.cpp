@@ -21,6 +21,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString answer(const QSqlDatabase& database, const QString& question)
@@ -47,7 +49,7 @@ void make_folder(const QString& path)
     if (!QDir().mkpath(folder))
         throw run_time_failure(file_in_the_way(folder) ? failure_kind::store_unreachable
                                                        : failure_kind::store_read_only,
-                               QStringLiteral("the folder %1 cannot be made").arg(folder));
+                               u"the folder %1 cannot be made"_s.arg(folder));
 }
 
 void run(const QSqlDatabase& database, const QString& statement)
@@ -60,8 +62,8 @@ void run(const QSqlDatabase& database, const QString& statement)
 /// Takes the write lock, which changes nothing: a tool in the middle of its own work is met here.
 void check_no_other_writer(const QSqlDatabase& database)
 {
-    run(database, QStringLiteral("BEGIN IMMEDIATE"));
-    run(database, QStringLiteral("ROLLBACK"));
+    run(database, u"BEGIN IMMEDIATE"_s);
+    run(database, u"ROLLBACK"_s);
 }
 
 /// Whether closing the connection copies the write-ahead log into the file and removes it.
@@ -73,7 +75,7 @@ void copy_log_on_close(const QSqlDatabase& database, bool copy)
 /// In any other mode, changing to the write-ahead log is itself a write to the file.
 bool uses_write_ahead_log(const QSqlDatabase& database)
 {
-    return answer(database, QStringLiteral("PRAGMA journal_mode")) == u"wal";
+    return answer(database, u"PRAGMA journal_mode"_s) == u"wal";
 }
 
 /// Whether the file holds a store; if not, one is created. Tables of which none is known belong to another
@@ -105,8 +107,7 @@ Connection1::~Connection1()
 
 QString Connection1::connection_string()
 {
-    return QStringLiteral(
-        "Provider=MSDASQL.1;Persist Security Info=False;Data Source=Verdbase;Mode=ReadWrite;");
+    return u"Provider=MSDASQL.1;Persist Security Info=False;Data Source=Verdbase;Mode=ReadWrite;"_s;
 }
 
 QString Connection1::default_path()
@@ -139,7 +140,7 @@ void Connection1::Open(const QString& path, soundness_check check)
 void Connection1::open_engine(soundness_check check)
 {
     {
-        QSqlDatabase engine = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
+        QSqlDatabase engine = QSqlDatabase::addDatabase(u"QSQLITE"_s, name_);
         engine.setDatabaseName(path_);
         if (!engine.open())
             throw store_failure(engine.lastError(), path_);
@@ -154,9 +155,9 @@ void Connection1::open_engine(soundness_check check)
     check_no_other_writer(database());
     const bool is_complete = has_store(database());
     // WAL lets report printing and other readers look on while the program writes.
-    answer(database(), QStringLiteral("PRAGMA journal_mode=WAL"));
-    run(database(), QStringLiteral("PRAGMA synchronous=FULL"));
-    run(database(), QStringLiteral("PRAGMA cache_size=-%1").arg(kept_pages_kb));
+    answer(database(), u"PRAGMA journal_mode=WAL"_s);
+    run(database(), u"PRAGMA synchronous=FULL"_s);
+    run(database(), u"PRAGMA cache_size=-%1"_s.arg(kept_pages_kb));
     if (!is_complete)
         lay_down(*this);
 }
@@ -170,7 +171,7 @@ void Connection1::check_soundness() const
 void Connection1::check_whole_file() const
 {
     // The short form of this check does not compare the indexes with their tables.
-    const QString verdict = answer(database(), QStringLiteral("PRAGMA integrity_check(1)"));
+    const QString verdict = answer(database(), u"PRAGMA integrity_check(1)"_s);
     if (verdict != u"ok")
         throw run_time_failure(failure_kind::store_damaged, QString(path_ + u": " + verdict));
     known_sound_ = true;
@@ -215,7 +216,7 @@ QSqlDatabase Connection1::database() const
 QString quoted(const QString& text)
 {
     QString inside = text;
-    inside.replace(u'\'', QStringLiteral("''"));
+    inside.replace(u'\'', u"''"_s);
     return u'\'' + inside + u'\'';
 }
 

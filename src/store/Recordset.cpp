@@ -10,6 +10,8 @@
 /// Opening, walking and finding; editing stands in `recordset_edit.cpp`.
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 find_criterion Recordset::rows::read_criterion(const QString& criterion) const
 {
     try {
@@ -49,9 +51,9 @@ void Recordset::set_Source(const QString& statement)
 void Recordset::Open(row_reading reading)
 {
     if (rows_->open)
-        rows_->fail(failure_kind::misuse, QStringLiteral("the recordset is open already"));
+        rows_->fail(failure_kind::misuse, u"the recordset is open already"_s);
     if (!rows_->connection.is_open())
-        rows_->fail(failure_kind::misuse, QStringLiteral("the connection is closed"));
+        rows_->fail(failure_kind::misuse, u"the connection is closed"_s);
     rows_->forget_rows();
     if (reading == row_reading::at_once)
         rows_->set = rows_->read();
@@ -119,7 +121,7 @@ void Recordset::MoveFirst()
 {
     rows_->leave_row();
     if (rows_->count() == 0)
-        rows_->fail(failure_kind::misuse, QStringLiteral("there is no first row"));
+        rows_->fail(failure_kind::misuse, u"there is no first row"_s);
     rows_->stand_at(0);
 }
 
@@ -127,7 +129,7 @@ void Recordset::MoveLast()
 {
     rows_->leave_row();
     if (rows_->count() == 0)
-        rows_->fail(failure_kind::misuse, QStringLiteral("there is no last row"));
+        rows_->fail(failure_kind::misuse, u"there is no last row"_s);
     rows_->stand_at(rows_->count() - 1);
 }
 
@@ -158,7 +160,7 @@ void Recordset::MoveTo(int row)
 {
     rows_->leave_row();
     if (row < 0 || row >= rows_->count())
-        rows_->fail(failure_kind::misuse, QStringLiteral("there is no row %1").arg(row));
+        rows_->fail(failure_kind::misuse, u"there is no row %1"_s.arg(row));
     rows_->stand_at(row);
 }
 
@@ -220,7 +222,7 @@ QVariant Recordset::value_at(int row, int ordinal) const
 {
     rows_->need_all_rows();
     if (row < 0 || row >= rows_->count())
-        rows_->fail(failure_kind::misuse, QStringLiteral("there is no row %1").arg(row));
+        rows_->fail(failure_kind::misuse, u"there is no row %1"_s.arg(row));
     return rows_->set.rows[static_cast<std::size_t>(row)]
         ->cells[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))];
 }

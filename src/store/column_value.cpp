@@ -5,12 +5,14 @@
 /// Values on their way into a column.
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// An empty text is a value. The toolkit would hand the engine Null for one that was never filled.
 QString never_null(const QString& text)
 {
-    return text.isNull() ? QStringLiteral("") : text;
+    return text.isNull() ? u""_s : text;
 }
 
 QString text_of(const QVariant& value)
@@ -20,7 +22,7 @@ QString text_of(const QVariant& value)
     case QMetaType::Float:
         return number_text(value.toDouble());
     case QMetaType::Bool:
-        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+        return value.toBool() ? u"1"_s : u"0"_s;
     default:
         return never_null(value.toString());
     }

@@ -9,13 +9,14 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 sqlite3* engine_handle(const QSqlDatabase& database)
 {
     const QVariant handle = database.driver()->handle();
     if (!handle.isValid() || std::strcmp(handle.typeName(), "sqlite3*") != 0)
-        throw run_time_failure(
-            failure_kind::store_unreachable,
-            QStringLiteral("%1: no handle of the embedded engine").arg(database.databaseName()));
+        throw run_time_failure(failure_kind::store_unreachable,
+                               u"%1: no handle of the embedded engine"_s.arg(database.databaseName()));
     return *static_cast<sqlite3* const*>(handle.constData());
 }
 

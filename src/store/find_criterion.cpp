@@ -5,6 +5,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void refuse(QStringView criterion)
@@ -59,7 +61,7 @@ void find_criterion::read_value(QStringView written)
         if (written.size() < 2 || !written.endsWith(u'\''))
             refuse(written);
         text_ = written.sliced(1, written.size() - 2).toString();
-        text_.replace(QStringLiteral("''"), QStringLiteral("'"));
+        text_.replace(u"''"_s, u"'"_s);
     } else {
         text_ = written.toString();
     }

@@ -6,31 +6,33 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString engine_type(column_type type)
 {
     switch (type) {
     case column_type::count:
-        return QStringLiteral("SMALLINT");
+        return u"SMALLINT"_s;
     case column_type::amount:
-        return QStringLiteral("INTEGER");
+        return u"INTEGER"_s;
     case column_type::real:
-        return QStringLiteral("DOUBLE");
+        return u"DOUBLE"_s;
     case column_type::yes_no:
-        return QStringLiteral("BOOLEAN");
+        return u"BOOLEAN"_s;
     case column_type::text:
     case column_type::any:
         break;
     }
-    return QStringLiteral("TEXT");
+    return u"TEXT"_s;
 }
 
 /// Round keys are indexed, and an index wants a text of declared length on some engines.
 QString declared_type(const column& column)
 {
     if (column.name == u"date")
-        return QStringLiteral("VARCHAR(14)");
+        return u"VARCHAR(14)"_s;
     return engine_type(column.type);
 }
 
@@ -62,15 +64,15 @@ QVariant fixed_text(const table& table, int row, int ordinal)
     if (table.name == u"stat_sticks" && ordinal == 0)
         return fresh_club_names().at(row);
     if (table.name == u"stat_sticks" && ordinal <= 9)
-        return QStringLiteral("0");
+        return u"0"_s;
     const auto& column = table.columns[static_cast<std::size_t>(ordinal)];
-    return is_blank_text(column) ? QStringLiteral(" ") : QStringLiteral("");
+    return is_blank_text(column) ? u" "_s : u""_s;
 }
 
 QString insertion_statement(const table& table)
 {
     const auto count = static_cast<int>(table.columns.size());
-    const QStringList places(count, QStringLiteral("?"));
+    const QStringList places(count, u"?"_s);
     return u"INSERT INTO `" + table.name + u"` VALUES (" + places.join(u',') + u')';
 }
 
@@ -107,7 +109,7 @@ QString creation_statement(const table& table)
     QStringList definitions;
     for (const column& column : table.columns)
         definitions += column_definition(column);
-    return u"CREATE TABLE `" + table.name + u"` (" + definitions.join(QStringLiteral(", ")) + u')';
+    return u"CREATE TABLE `" + table.name + u"` (" + definitions.join(u", "_s) + u')';
 }
 
 QStringList index_statements()
@@ -115,10 +117,10 @@ QStringList index_statements()
     // None of them is unique: that a key is used once is the program's affair, and a round in the
     // making has rows without a key. The shots are by far the longest table, and every window and
     // statistic asks for one hole's shots in order; the others serve joins and deletions by key.
-    return {QStringLiteral("CREATE INDEX `games_by_date` ON `games` (`date`)"),
-            QStringLiteral("CREATE INDEX `games2_by_date` ON `games2` (`date`)"),
-            QStringLiteral("CREATE INDEX `cost_by_date` ON `cost` (`date`)"),
-            QStringLiteral("CREATE INDEX `shots_by_hole` ON `Stat_rounds` (`date`, `hole`, `shot`)")};
+    return {u"CREATE INDEX `games_by_date` ON `games` (`date`)"_s,
+            u"CREATE INDEX `games2_by_date` ON `games2` (`date`)"_s,
+            u"CREATE INDEX `cost_by_date` ON `cost` (`date`)"_s,
+            u"CREATE INDEX `shots_by_hole` ON `Stat_rounds` (`date`, `hole`, `shot`)"_s};
 }
 
 QVariant fixed_value(const table& table, int row, int ordinal)
@@ -139,13 +141,13 @@ QVariant fixed_value(const table& table, int row, int ordinal)
 
 void lay_down(Connection1& connection)
 {
-    connection.Execute(QStringLiteral("BEGIN IMMEDIATE"));
+    connection.Execute(u"BEGIN IMMEDIATE"_s);
     try {
         lay_down_tables(connection);
-        connection.Execute(QStringLiteral("COMMIT"));
+        connection.Execute(u"COMMIT"_s);
     } catch (...) {
         // The engine may have ended the transaction by itself; that it is over is all that counts.
-        QSqlQuery(connection.database()).exec(QStringLiteral("ROLLBACK"));
+        QSqlQuery(connection.database()).exec(u"ROLLBACK"_s);
         throw;
     }
 }

@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool run(const Connection1& connection, QStringView statement)
@@ -17,7 +19,7 @@ bool run(const Connection1& connection, QStringView statement)
 
 joined_commits::joined_commits(Connection1& connection) : connection_(connection)
 {
-    connection_.Execute(QStringLiteral("BEGIN"));
+    connection_.Execute(u"BEGIN"_s);
 }
 
 joined_commits::~joined_commits()
@@ -31,7 +33,7 @@ void joined_commits::finish()
 {
     finished_ = true;
     try {
-        connection_.Execute(QStringLiteral("COMMIT"));
+        connection_.Execute(u"COMMIT"_s);
     } catch (...) {
         run(connection_, u"ROLLBACK");
         throw;

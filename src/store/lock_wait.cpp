@@ -8,6 +8,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int pause_ms = 20;
@@ -18,8 +20,7 @@ lock_wait::limit::limit(lock_wait& wait, int seconds) : wait_(wait), before_ms_(
 {
     // The notice has delivered an event that runs a statement; a second one during the wait is not supported.
     if (wait_.waiting_)
-        throw run_time_failure(failure_kind::store_locked,
-                               QStringLiteral("another statement waits for the lock already"));
+        throw run_time_failure(failure_kind::store_locked, u"another statement waits for the lock already"_s);
     wait_.limit_ms_ = seconds * 1000;
 }
 

@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The name of a value's place in a statement, from 0. The toolkit makes names of its own for places
@@ -14,7 +16,7 @@ const QString& place_name(std::size_t place)
 {
     static std::vector<QString> names;
     while (names.size() <= place)
-        names.push_back(QStringLiteral(":v%1").arg(names.size()));
+        names.push_back(u":v%1"_s.arg(names.size()));
     return names[place];
 }
 

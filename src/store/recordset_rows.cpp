@@ -8,6 +8,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 void Recordset::rows::fail(failure_kind kind, const QString& what) const
 {
     throw run_time_failure(kind, QString(where() + u": " + what));
@@ -21,7 +23,7 @@ QString Recordset::rows::where() const
 void Recordset::rows::need_open() const
 {
     if (!open)
-        fail(failure_kind::misuse, QStringLiteral("the recordset is closed"));
+        fail(failure_kind::misuse, u"the recordset is closed"_s);
 }
 
 void Recordset::rows::need_rows()
@@ -43,7 +45,7 @@ void Recordset::rows::need_all_rows()
 {
     need_rows();
     if (stream != nullptr)
-        fail(failure_kind::misuse, QStringLiteral("its rows are read one by one"));
+        fail(failure_kind::misuse, u"its rows are read one by one"_s);
 }
 
 void Recordset::rows::open_stream()
@@ -66,14 +68,14 @@ recordset_row& Recordset::rows::current()
 {
     need_rows();
     if (!on_row())
-        fail(failure_kind::misuse, QStringLiteral("there is no current row"));
+        fail(failure_kind::misuse, u"there is no current row"_s);
     return *set.rows[static_cast<std::size_t>(place)];
 }
 
 int Recordset::rows::checked_ordinal(int ordinal) const
 {
     if (ordinal < 0 || ordinal >= static_cast<int>(set.columns.size()))
-        fail(failure_kind::missing_table, QStringLiteral("no column %1").arg(ordinal));
+        fail(failure_kind::missing_table, u"no column %1"_s.arg(ordinal));
     return ordinal;
 }
 
@@ -81,7 +83,7 @@ void Recordset::rows::need_updatable()
 {
     need_rows();
     if (!set.shape.updatable)
-        fail(failure_kind::misuse, QStringLiteral("its rows cannot be written"));
+        fail(failure_kind::misuse, u"its rows cannot be written"_s);
 }
 
 void Recordset::rows::stand_at(int target)

@@ -6,10 +6,12 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 relaxed_commits::relaxed_commits(Connection1& connection) : connection_(connection)
 {
     if (connection_.relaxations_ == 0)
-        connection_.Execute(QStringLiteral("PRAGMA synchronous=NORMAL"));
+        connection_.Execute(u"PRAGMA synchronous=NORMAL"_s);
     ++connection_.relaxations_;
 }
 
@@ -17,7 +19,7 @@ relaxed_commits::~relaxed_commits()
 {
     if (--connection_.relaxations_ > 0 || !connection_.is_open())
         return;
-    QSqlQuery(connection_.database()).exec(QStringLiteral("PRAGMA synchronous=FULL"));
+    QSqlQuery(connection_.database()).exec(u"PRAGMA synchronous=FULL"_s);
 }
 
 }  // namespace verdane

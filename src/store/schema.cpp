@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::vector<table> all_tables()
@@ -36,7 +38,7 @@ const table* find_table(QStringView name)
 const QStringList& fresh_club_names()
 {
     // Woods, irons and wedges as both languages abbreviate them; the last slot is always the putter.
-    static const QStringList names = QStringLiteral("1W 3W 5W 3I 4I 5I 6I 7I 8I 9I PW SW LW Pu").split(u' ');
+    static const QStringList names = u"1W 3W 5W 3I 4I 5I 6I 7I 8I 9I PW SW LW Pu"_s.split(u' ');
     return names;
 }
 

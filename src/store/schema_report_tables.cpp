@@ -3,6 +3,8 @@
 /// What the reports print from: grids whose rows are always there, and lists that each run refills.
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto number = column_type::count;
@@ -10,7 +12,7 @@ constexpr auto real = column_type::real;
 
 table round_statistics()
 {
-    return {QStringLiteral("stats"),
+    return {u"stats"_s,
             column_list()
                 .spare(u"stat_line")
                 .run(u"hole_", 1, 18, real)
@@ -28,7 +30,7 @@ table round_statistics()
 
 table putts_by_first_length()
 {
-    return {QStringLiteral("s_put1"),
+    return {u"s_put1"_s,
             column_list()
                 .spare(u"put_line")
                 .run(u"band_", 1, 7, number)
@@ -43,7 +45,7 @@ table putts_by_first_length()
 
 table putts_by_rest()
 {
-    return {QStringLiteral("s_put2"),
+    return {u"s_put2"_s,
             column_list()
                 .spare(u"put_line")
                 .run(u"band_", 1, 7, number)
@@ -54,7 +56,7 @@ table putts_by_rest()
 
 table club_statistics()
 {
-    return {QStringLiteral("stat_sticks"),
+    return {u"stat_sticks"_s,
             column_list()
                 .text({u"club_name", u"shot_count", u"longest", u"average", u"pct_fairway", u"pct_right",
                        u"pct_left", u"pct_missed", u"pct_penalty", u"pct_holed"})
@@ -73,13 +75,13 @@ table cost_report()
          {u"fg", u"cm", u"vt", u"ft", u"ba", u"tee", u"tex", u"nrt", u"lg", u"bs", u"ln", u"au"})
         columns.one(amount, column_type::amount, QVariant(0));
     columns.spare(u"cost_spare").one(u"round_count", number);
-    return {QStringLiteral("r_cost"), columns};
+    return {u"r_cost"_s, columns};
 }
 
 /// The first row is for holes 1 to 9, the second for holes 10 to 18.
 table scorecard()
 {
-    return {QStringLiteral("r_card"),
+    return {u"r_card"_s,
             column_list()
                 .spare(u"card_row")
                 .run(u"card_yards_", 1, 9, number)
@@ -107,8 +109,8 @@ std::vector<table> report_tables()
             club_statistics(),
             cost_report(),
             scorecard(),
-            differentials(QStringLiteral("hand")),
-            differentials(QStringLiteral("Cryst_hand"))};
+            differentials(u"hand"_s),
+            differentials(u"Cryst_hand"_s)};
 }
 
 }  // namespace verdane

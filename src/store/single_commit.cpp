@@ -6,21 +6,23 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 single_commit::single_commit(Connection1& connection) : connection_(connection)
 {
-    connection_.Execute(QStringLiteral("BEGIN IMMEDIATE"));
+    connection_.Execute(u"BEGIN IMMEDIATE"_s);
 }
 
 single_commit::~single_commit()
 {
     // The engine may have ended the transaction by itself; that it is over is all that counts.
     if (!done_)
-        QSqlQuery(connection_.database()).exec(QStringLiteral("ROLLBACK"));
+        QSqlQuery(connection_.database()).exec(u"ROLLBACK"_s);
 }
 
 void single_commit::finish()
 {
-    connection_.Execute(QStringLiteral("COMMIT"));
+    connection_.Execute(u"COMMIT"_s);
     done_ = true;
 }
 

@@ -11,6 +11,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The parts of the file header that SQLite's file format documents, by their offset.
@@ -58,7 +60,7 @@ bool has_dated_copy(const QString& path)
 {
     const QFileInfo file(path);
     const QDir copies(file.absolutePath() + u"/copies");
-    const QString digit = QStringLiteral("[0-9]");
+    const QString digit = u"[0-9]"_s;
     const QString day = digit.repeated(4) + u'-' + digit.repeated(2) + u'-' + digit.repeated(2);
     const QString pattern = file.completeBaseName() + u'-' + day + u".db";
     const QFileInfoList found = copies.entryInfoList({pattern}, QDir::Files);

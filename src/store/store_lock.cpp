@@ -11,6 +11,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The lock does not say why it could not be written. A file that can be created and not be filled means a
@@ -54,7 +56,7 @@ std::unique_ptr<QLockFile> take_store_lock(const QString& path)
     // name) is removed when no living program holds the file itself.
     if (lock->error() == QLockFile::LockFailedError && lock->removeStaleLockFile() && lock->tryLock())
         return lock;
-    throw run_time_failure(kind_of(lock->error(), path), QStringLiteral("lock file %1").arg(lock_path));
+    throw run_time_failure(kind_of(lock->error(), path), u"lock file %1"_s.arg(lock_path));
 }
 
 }  // namespace verdane

@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 
 class test_Main_module : public QObject {
@@ -18,17 +19,17 @@ private Q_SLOTS:
 
     void a_key_goes_to_the_next_place()
     {
-        Main_module::append_round_key(QStringLiteral("20030614093000"));
-        Main_module::append_round_key(QStringLiteral("20030615093000"));
+        Main_module::append_round_key(u"20030614093000"_s);
+        Main_module::append_round_key(u"20030615093000"_s);
         QCOMPARE(plain(Main_module::round_key_count), 2);
-        QCOMPARE(Main_module::round_keys[1], QStringLiteral("20030615093000"));
+        QCOMPARE(Main_module::round_keys[1], u"20030615093000"_s);
         QCOMPARE(Main_module::round_keys[2], QString());
     }
 
     void a_key_that_is_there_already_is_appended_again()
     {
-        Main_module::append_round_key(QStringLiteral("20030614093000"));
-        Main_module::append_round_key(QStringLiteral("20030614093000"));
+        Main_module::append_round_key(u"20030614093000"_s);
+        Main_module::append_round_key(u"20030614093000"_s);
         QCOMPARE(plain(Main_module::round_key_count), 2);
     }
 
@@ -37,16 +38,15 @@ private Q_SLOTS:
         for (int i = 0; i < 366; ++i)
             Main_module::append_round_key(QString::number(i));
         QCOMPARE(plain(Main_module::round_key_count), 366);
-        QVERIFY(failure_of([] { Main_module::append_round_key(QStringLiteral("x")); }) ==
-                failure_kind::subscript);
+        QVERIFY(failure_of([] { Main_module::append_round_key(u"x"_s); }) == failure_kind::subscript);
         QCOMPARE(plain(Main_module::round_key_count), 366);
-        QCOMPARE(Main_module::round_keys[365], QStringLiteral("365"));
+        QCOMPARE(Main_module::round_keys[365], u"365"_s);
     }
 
     void there_are_fourteen_clubs()
     {
-        Main_module::club_names[13] = QStringLiteral("Pu");
-        QCOMPARE(Main_module::club_names[13], QStringLiteral("Pu"));
+        Main_module::club_names[13] = u"Pu"_s;
+        QCOMPARE(Main_module::club_names[13], u"Pu"_s);
         QVERIFY(failure_of([] { Main_module::club_names[14] = QString(); }) == failure_kind::subscript);
     }
 };

@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 
 class test_checked_array : public QObject {
@@ -60,7 +61,7 @@ private Q_SLOTS:
     void clearing_puts_back_the_initial_values()
     {
         checked_array<QString, 2> list;
-        list[1] = QStringLiteral("x");
+        list[1] = u"x"_s;
         list.clear();
         QCOMPARE(list[1], QString());
     }

@@ -6,6 +6,7 @@
 #include "base/run_time_failure.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -67,9 +68,9 @@ private Q_SLOTS:
 
     void a_failure_carries_its_kind_and_its_details()
     {
-        const run_time_failure failure(failure_kind::misuse, QStringLiteral("rsgames: déjà ouvert"));
+        const run_time_failure failure(failure_kind::misuse, u"rsgames: déjà ouvert"_s);
         QCOMPARE(failure.kind(), failure_kind::misuse);
-        QCOMPARE(failure.details(), QStringLiteral("rsgames: déjà ouvert"));
+        QCOMPARE(failure.details(), u"rsgames: déjà ouvert"_s);
         QCOMPARE(QString::fromUtf8(failure.what()), failure.details());
     }
 };

@@ -3,6 +3,7 @@
 #include "base/language.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 class test_language : public QObject {
     Q_OBJECT
@@ -13,24 +14,24 @@ private Q_SLOTS:
     void a_text_follows_the_language_of_the_moment()
     {
         is_french = true;
-        QCOMPARE(in_language(u"Trou", u"Hole"), QStringLiteral("Trou"));
+        QCOMPARE(in_language(u"Trou", u"Hole"), u"Trou"_s);
         is_french = false;
-        QCOMPARE(in_language(u"Trou", u"Hole"), QStringLiteral("Hole"));
+        QCOMPARE(in_language(u"Trou", u"Hole"), u"Hole"_s);
     }
 
     void a_pair_answers_for_a_language_settled_earlier()
     {
         constexpr text_pair label{u"Verges :", u"Yards :"};
         is_french = false;
-        QCOMPARE(label.in(true), QStringLiteral("Verges :"));
-        QCOMPARE(label.in(false), QStringLiteral("Yards :"));
+        QCOMPARE(label.in(true), u"Verges :"_s);
+        QCOMPARE(label.in(false), u"Yards :"_s);
     }
 
     void slips_and_blanks_stay()
     {
         constexpr text_pair label{u"Putt  :", u" ALL "};
-        QCOMPARE(label.in(true), QStringLiteral("Putt  :"));
-        QCOMPARE(label.in(false), QStringLiteral(" ALL "));
+        QCOMPARE(label.in(true), u"Putt  :"_s);
+        QCOMPARE(label.in(false), u" ALL "_s);
     }
 };
 

@@ -8,6 +8,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 
 class test_number_texts : public QObject {
@@ -86,7 +87,7 @@ private Q_SLOTS:
     {
         const QLocale before;
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
-        QCOMPARE(plain_number_text(1234.5), QStringLiteral(" 1234.5"));
+        QCOMPARE(plain_number_text(1234.5), u" 1234.5"_s);
         QCOMPARE(leading_number(u"1234.5"), 1234.5);
         QCOMPARE(leading_number(u"1234,5"), 1234.0);
         QLocale::setDefault(before);

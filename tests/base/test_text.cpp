@@ -3,6 +3,7 @@
 #include "base/text.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 class test_text : public QObject {
     Q_OBJECT
@@ -22,7 +23,7 @@ private Q_SLOTS:
                                << "";
         QTest::newRow("a tab stays") << " \tab\n"
                                      << "\tab\n";
-        QTest::newRow("a hard space stays") << QStringLiteral("\u00A0ab ") << QStringLiteral("\u00A0ab");
+        QTest::newRow("a hard space stays") << u"\u00A0ab "_s << u"\u00A0ab"_s;
     }
 
     void only_blanks_at_the_ends_are_trimmed()
@@ -38,9 +39,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("capitals");
         QTest::newRow("plain letters") << "Pins"
                                        << "PINS";
-        QTest::newRow("accents") << QStringLiteral("Étang à çœÿ") << QStringLiteral("ÉTANG À ÇŒŸ");
-        QTest::newRow("no single capital") << QStringLiteral("straße") << QStringLiteral("STRAßE");
-        QTest::newRow("signs") << QStringLiteral("µƒ-7'") << QStringLiteral("µƒ-7'");
+        QTest::newRow("accents") << u"Étang à çœÿ"_s << u"ÉTANG À ÇŒŸ"_s;
+        QTest::newRow("no single capital") << u"straße"_s << u"STRAßE"_s;
+        QTest::newRow("signs") << u"µƒ-7'"_s << u"µƒ-7'"_s;
         QTest::newRow("empty") << ""
                                << "";
     }

@@ -7,6 +7,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,11 +38,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, title);
         QFETCH(QString, on_screen);
-        play([&] { tell(QStringLiteral("Something"), QMessageBox::NoIcon, title); },
+        play([&] { tell(u"Something"_s, QMessageBox::NoIcon, title); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("message_box"));
-                 user.same(title_on_screen(user), on_screen, QStringLiteral("title on the screen"));
-                 user.answer({QStringLiteral("Something"), QMessageBox::NoIcon, title});
+                 user.wait_for_window(u"message_box"_s);
+                 user.same(title_on_screen(user), on_screen, u"title on the screen"_s);
+                 user.answer({u"Something"_s, QMessageBox::NoIcon, title});
              });
     }
 };

@@ -15,10 +15,11 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString grid = QStringLiteral("grid");
+const QString grid = u"grid"_s;
 
 /// A window with a grid of three shots: number (hidden), club (by a menu), distance (digits), kind.
 class grid_form : public Form {
@@ -28,14 +29,13 @@ public:
         resize(600, 300);
         auto* layout = new QVBoxLayout(this);
         auto* model = new recordset_model(data_environment().rsStat_rounds,
-                                          {{QStringLiteral("shot"), QStringLiteral("n")},
-                                           {QStringLiteral("stick"), QStringLiteral("Bâton"), true},
-                                           {QStringLiteral("after"), QStringLiteral("Distance")},
-                                           {QStringLiteral("missed"), QStringLiteral("Raté"), true,
-                                            QStringLiteral("Oui"), QStringLiteral("Non")}});
+                                          {{u"shot"_s, u"n"_s},
+                                           {u"stick"_s, u"Bâton"_s, true},
+                                           {u"after"_s, u"Distance"_s},
+                                           {u"missed"_s, u"Raté"_s, true, u"Oui"_s, u"Non"_s}});
         cells = named(new data_grid(model), u"grid");
         clubs = named(new choice_menu(this), u"clubs");
-        for (const QString& club : {QStringLiteral("D"), QStringLiteral("F5"), QStringLiteral("F6")}) {
+        for (const QString& club : {u"D"_s, u"F5"_s, u"F6"_s}) {
             QAction* entry = clubs->add_choice(u"club_" + club, club);
             QObject::connect(entry, &QAction::triggered, this, [this, club] {
                 data_environment().rsStat_rounds.Fields(u"stick").set(club);
@@ -48,7 +48,7 @@ public:
         });
         cells->column_updated = [this](int column) { updated << column; };
         layout->addWidget(cells);
-        layout->addWidget(named(make_button(QStringLiteral("next")), u"next"));
+        layout->addWidget(named(make_button(u"next"_s), u"next"));
         cells->bind();
         cells->hideColumn(0);
         cells->set_Col(1);
@@ -73,9 +73,9 @@ class test_data_grid : public QObject {
         grid_form window;
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_grid"));
+                 user.wait_for_window(u"f_grid"_s);
                  script(user);
-                 user.close_window(QStringLiteral("f_grid"));
+                 user.close_window(u"f_grid"_s);
              });
         return window.updated;
     }
@@ -83,7 +83,7 @@ class test_data_grid : public QObject {
     QString stored(const QString& column, int shot) const
     {
         return reader(folder_->path())
-            .text(QStringLiteral("select %1 from Stat_rounds where shot = %2").arg(column).arg(shot));
+            .text(u"select %1 from Stat_rounds where shot = %2"_s.arg(column).arg(shot));
     }
 
 private Q_SLOTS:
@@ -92,8 +92,7 @@ private Q_SLOTS:
         folder_ = new store_folder;
         for (int shot = 1; shot <= 3; ++shot)
             reader(folder_->path())
-                .write(QStringLiteral("insert into Stat_rounds (shot, stick, after) values (%1, 'D', 100)")
-                           .arg(shot));
+                .write(u"insert into Stat_rounds (shot, stick, after) values (%1, 'D', 100)"_s.arg(shot));
         data_environment().rsStat_rounds.Open();
     }
     void cleanup() { delete folder_; }
@@ -102,13 +101,13 @@ private Q_SLOTS:
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 1, 2);
-            user.type(QStringLiteral("45"));
+            user.type(u"45"_s);
             user.key(Qt::Key_Return);
-            user.same(user.cell(grid, 1, 2), QStringLiteral("45"), QStringLiteral("cell"));
-            user.same(user.cursor(grid), QStringLiteral("1,3"), QStringLiteral("cursor"));
-            user.same(stored(QStringLiteral("after"), 2), QStringLiteral("100"), QStringLiteral("stored"));
+            user.same(user.cell(grid, 1, 2), u"45"_s, u"cell"_s);
+            user.same(user.cursor(grid), u"1,3"_s, u"cursor"_s);
+            user.same(stored(u"after"_s, 2), u"100"_s, u"stored"_s);
             user.key(Qt::Key_Up);
-            user.same(stored(QStringLiteral("after"), 2), QStringLiteral("45"), QStringLiteral("stored"));
+            user.same(stored(u"after"_s, 2), u"45"_s, u"stored"_s);
         });
         QCOMPARE(updated, QList<int>{2});
     }
@@ -118,12 +117,12 @@ private Q_SLOTS:
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
             const int before = user.bells();
-            user.type(QStringLiteral("x"));
-            user.check(!user.exists(QStringLiteral("cell_being_typed")), QStringLiteral("no box"));
-            user.type(QStringLiteral("1y2"));
-            user.same(user.bells() - before, 2, QStringLiteral("bells"));
+            user.type(u"x"_s);
+            user.check(!user.exists(u"cell_being_typed"_s), u"no box"_s);
+            user.type(u"1y2"_s);
+            user.same(user.bells() - before, 2, u"bells"_s);
             user.key(Qt::Key_Tab);
-            user.same(user.cell(grid, 0, 2), QStringLiteral("12"), QStringLiteral("cell"));
+            user.same(user.cell(grid, 0, 2), u"12"_s, u"cell"_s);
         });
         QCOMPARE(updated, QList<int>{2});
     }
@@ -132,10 +131,10 @@ private Q_SLOTS:
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
-            user.type(QStringLiteral("7"));
+            user.type(u"7"_s);
             user.key(Qt::Key_Escape);
-            user.check(user.is_open(QStringLiteral("f_grid")), QStringLiteral("open"));
-            user.same(user.cell(grid, 0, 2), QStringLiteral("100"), QStringLiteral("cell"));
+            user.check(user.is_open(u"f_grid"_s), u"open"_s);
+            user.same(user.cell(grid, 0, 2), u"100"_s, u"cell"_s);
         });
         QVERIFY(updated.isEmpty());
     }
@@ -144,15 +143,15 @@ private Q_SLOTS:
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
-            user.type(QStringLiteral("8"));
+            user.type(u"8"_s);
             user.click_cell(grid, 2, 3);
-            user.same(user.cell(grid, 0, 2), QStringLiteral("8"), QStringLiteral("cell"));
-            user.same(user.cursor(grid), QStringLiteral("2,3"), QStringLiteral("cursor"));
-            user.same(stored(QStringLiteral("after"), 1), QStringLiteral("8"), QStringLiteral("stored"));
+            user.same(user.cell(grid, 0, 2), u"8"_s, u"cell"_s);
+            user.same(user.cursor(grid), u"2,3"_s, u"cursor"_s);
+            user.same(stored(u"after"_s, 1), u"8"_s, u"stored"_s);
             user.click_cell(grid, 2, 2);
-            user.type(QStringLiteral("9"));
-            user.click(QStringLiteral("next"));
-            user.same(user.cell(grid, 2, 2), QStringLiteral("9"), QStringLiteral("cell"));
+            user.type(u"9"_s);
+            user.click(u"next"_s);
+            user.same(user.cell(grid, 2, 2), u"9"_s, u"cell"_s);
         });
         QCOMPARE(updated, (QList<int>{2, 2}));
     }
@@ -162,9 +161,9 @@ private Q_SLOTS:
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
             user.key(Qt::Key_Return);
-            user.check(user.exists(QStringLiteral("cell_being_typed")), QStringLiteral("the box"));
+            user.check(user.exists(u"cell_being_typed"_s), u"the box"_s);
             user.key(Qt::Key_Return);
-            user.check(!user.exists(QStringLiteral("cell_being_typed")), QStringLiteral("no box"));
+            user.check(!user.exists(u"cell_being_typed"_s), u"no box"_s);
         });
         QVERIFY(updated.isEmpty());
     }
@@ -174,10 +173,10 @@ private Q_SLOTS:
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
             const int before = user.bells();
-            user.type(QStringLiteral("99999"));
+            user.type(u"99999"_s);
             user.key(Qt::Key_Return);
-            user.same(user.bells() - before, 1, QStringLiteral("bells"));
-            user.same(user.cell(grid, 0, 2), QStringLiteral("100"), QStringLiteral("cell"));
+            user.same(user.bells() - before, 1, u"bells"_s);
+            user.same(user.cell(grid, 0, 2), u"100"_s, u"cell"_s);
         });
         QVERIFY(updated.isEmpty());
     }
@@ -188,7 +187,7 @@ private Q_SLOTS:
             user.click_cell(grid, 0, 2);
             user.key(Qt::Key_Backspace);
             user.key(Qt::Key_Return);
-            user.same(user.cell(grid, 0, 2), QString(), QStringLiteral("cell"));
+            user.same(user.cell(grid, 0, 2), QString(), u"cell"_s);
         });
     }
 
@@ -196,10 +195,10 @@ private Q_SLOTS:
     {
         play_on_grid([&](hand& user) {
             user.open_menu(grid, 1, 1);
-            user.same(user.menu_entries().join(u' '), QStringLiteral("D F5 F6"), QStringLiteral("menu"));
-            user.choose_menu_entry(QStringLiteral("club_F6"));
-            user.same(user.cell(grid, 1, 1), QStringLiteral("F6"), QStringLiteral("cell"));
-            user.same(user.cursor(grid), QStringLiteral("1,1"), QStringLiteral("cursor"));
+            user.same(user.menu_entries().join(u' '), u"D F5 F6"_s, u"menu"_s);
+            user.choose_menu_entry(u"club_F6"_s);
+            user.same(user.cell(grid, 1, 1), u"F6"_s, u"cell"_s);
+            user.same(user.cursor(grid), u"1,1"_s, u"cursor"_s);
         });
     }
 
@@ -219,10 +218,10 @@ private Q_SLOTS:
         play_on_grid([&](hand& user) {
             user.click_cell(grid, 1, 1);
             user.key(key, alt ? Qt::AltModifier : Qt::NoModifier);
-            user.wait_for_menu(QStringLiteral("clubs"));
+            user.wait_for_menu(u"clubs"_s);
             user.menu_key(Qt::Key_Down);
             user.menu_key(Qt::Key_Return);
-            user.same(user.cell(grid, 1, 1), QStringLiteral("F5"), QStringLiteral("cell"));
+            user.same(user.cell(grid, 1, 1), u"F5"_s, u"cell"_s);
         });
     }
 
@@ -230,13 +229,13 @@ private Q_SLOTS:
     {
         play_on_grid([&](hand& user) {
             user.click_cell(grid, 1, 1);
-            user.type(QStringLiteral("f"));
-            user.wait_for_menu(QStringLiteral("clubs"));
-            user.menu_type(QStringLiteral("f"));
+            user.type(u"f"_s);
+            user.wait_for_menu(u"clubs"_s);
+            user.menu_type(u"f"_s);
             user.menu_key(Qt::Key_Return);
-            user.same(user.cell(grid, 1, 1), QStringLiteral("F6"), QStringLiteral("cell"));
-            user.type(QStringLiteral("d"));
-            user.same(user.cell(grid, 1, 1), QStringLiteral("D"), QStringLiteral("cell"));
+            user.same(user.cell(grid, 1, 1), u"F6"_s, u"cell"_s);
+            user.type(u"d"_s);
+            user.same(user.cell(grid, 1, 1), u"D"_s, u"cell"_s);
         });
     }
 
@@ -245,9 +244,9 @@ private Q_SLOTS:
         play_on_grid([&](hand& user) {
             user.key(Qt::Key_Tab);
             user.key(Qt::Key_Tab);
-            user.same(user.cursor(grid), QStringLiteral("0,3"), QStringLiteral("cursor"));
+            user.same(user.cursor(grid), u"0,3"_s, u"cursor"_s);
             user.key(Qt::Key_Tab);
-            user.same(user.focus(), QStringLiteral("next"), QStringLiteral("focus"));
+            user.same(user.focus(), u"next"_s, u"focus"_s);
         });
     }
 
@@ -266,8 +265,8 @@ private Q_SLOTS:
         play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 3);
             const int before = user.bells();
-            user.type(QStringLiteral("x"));
-            user.same(user.bells() - before, 1, QStringLiteral("bells"));
+            user.type(u"x"_s);
+            user.same(user.bells() - before, 1, u"bells"_s);
         });
     }
 };

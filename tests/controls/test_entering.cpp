@@ -13,6 +13,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,7 +30,7 @@ struct two_boxes {
             ++entered;
             select_characters(*box, selected);
         });
-        box->setText(QStringLiteral("123456"));
+        box->setText(u"123456"_s);
         window.resize(400, 100);
         window.show();
         window.activateWindow();
@@ -66,8 +67,8 @@ private Q_SLOTS:
         QFETCH(Qt::FocusReason, reason);
         const two_boxes boxes;
         boxes.box->setFocus(reason);
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
-        QCOMPARE(text_after_focus_and_digit(*boxes.box, reason), QStringLiteral("7"));
+        QCOMPARE(boxes.box->selectedText(), u"1234"_s);
+        QCOMPARE(text_after_focus_and_digit(*boxes.box, reason), u"7"_s);
     }
 
     void a_click_selects_when_the_button_is_pressed_and_when_it_is_released()
@@ -75,10 +76,10 @@ private Q_SLOTS:
         const two_boxes boxes;
         const QPoint place = boxes.before(3);
         QTest::mousePress(boxes.box, Qt::LeftButton, Qt::NoModifier, place);
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+        QCOMPARE(boxes.box->selectedText(), u"1234"_s);
         QTest::mouseMove(boxes.box, place + QPoint(2, 0));
         QTest::mouseRelease(boxes.box, Qt::LeftButton, Qt::NoModifier, place + QPoint(2, 0));
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+        QCOMPARE(boxes.box->selectedText(), u"1234"_s);
     }
 
     void a_mouse_that_drags_selects_what_it_passes()
@@ -89,7 +90,7 @@ private Q_SLOTS:
                          Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(boxes.box, &drag);
         QTest::mouseRelease(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(6));
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("3456"));
+        QCOMPARE(boxes.box->selectedText(), u"3456"_s);
     }
 
     void the_right_button_leaves_the_selection_as_it_is_also_when_dragged()
@@ -100,14 +101,14 @@ private Q_SLOTS:
                          Qt::NoButton, Qt::RightButton, Qt::NoModifier);
         QCoreApplication::sendEvent(boxes.box, &drag);
         QTest::mouseRelease(boxes.box, Qt::RightButton, Qt::NoModifier, boxes.before(6));
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+        QCOMPARE(boxes.box->selectedText(), u"1234"_s);
     }
 
     void a_double_click_selects_the_word()
     {
         const two_boxes boxes;
         QTest::mouseDClick(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(2));
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("123456"));
+        QCOMPARE(boxes.box->selectedText(), u"123456"_s);
     }
 
     void a_finger_selects_like_a_click()
@@ -118,7 +119,7 @@ private Q_SLOTS:
         QTest::touchEvent(&boxes.window, screen.get()).press(0, place, &boxes.window);
         QTest::touchEvent(&boxes.window, screen.get()).release(0, place, &boxes.window);
         QTRY_VERIFY(boxes.box->hasFocus());
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("1234"));
+        QCOMPARE(boxes.box->selectedText(), u"1234"_s);
     }
 
     void a_later_click_into_the_box_sets_the_cursor()
@@ -147,10 +148,10 @@ private Q_SLOTS:
         boxes.box->setFocus(Qt::TabFocusReason);
         boxes.box->setSelection(4, 2);
         QMenu menu;
-        menu.addAction(QStringLiteral("entry"));
+        menu.addAction(u"entry"_s);
         menu.popup(boxes.window.mapToGlobal(QPoint(5, 5)));
         menu.close();
-        QCOMPARE(boxes.box->selectedText(), QStringLiteral("56"));
+        QCOMPARE(boxes.box->selectedText(), u"56"_s);
     }
 };
 

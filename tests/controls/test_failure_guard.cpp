@@ -11,6 +11,7 @@
 #include "tests/support/hand.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::failure_of;
 using verdane::testing::hand;
 using verdane::testing::play;
@@ -22,21 +23,17 @@ int fail_in_an_event(const QString& settled)
 {
     language_is_settled = settled != u"not";
     is_french = settled == u"fr";
-    play(
-        [] {
-            run_event(
-                [] { throw run_time_failure(failure_kind::store_full, QStringLiteral("insert into x")); });
-        },
-        [](hand& user) {
-            user.wait_for_window(QStringLiteral("failure_box"));
-            user.look([] {
-                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                std::printf("%s|%d|%s\n", qUtf8Printable(box->text()), static_cast<int>(box->icon()),
-                            qUtf8Printable(box->informativeText()));
-                std::fflush(stdout);
-            });
-            user.key(Qt::Key_Return);
-        });
+    play([] { run_event([] { throw run_time_failure(failure_kind::store_full, u"insert into x"_s); }); },
+         [](hand& user) {
+             user.wait_for_window(u"failure_box"_s);
+             user.look([] {
+                 auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                 std::printf("%s|%d|%s\n", qUtf8Printable(box->text()), static_cast<int>(box->icon()),
+                             qUtf8Printable(box->informativeText()));
+                 std::fflush(stdout);
+             });
+             user.key(Qt::Key_Return);
+         });
     return 77;  // not reached: the process has ended with the failure
 }
 
@@ -48,7 +45,7 @@ struct ended {
 ended failed_child(const QString& settled)
 {
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--fail"), settled});
+    child.start(QCoreApplication::applicationFilePath(), {u"--fail"_s, settled});
     child.waitForFinished(60000);
     return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
             QString::fromUtf8(child.readAllStandardOutput())};
@@ -80,7 +77,7 @@ private Q_SLOTS:
         const text_pair words = failure_words(failure_kind::store_full);
         QCOMPARE(child.said.contains(words.french), french);
         QCOMPARE(child.said.contains(words.english), english);
-        QVERIFY2(child.said.contains(QStringLiteral("|3|insert into x")), qPrintable(child.said));
+        QVERIFY2(child.said.contains(u"|3|insert into x"_s), qPrintable(child.said));
     }
 
     void what_must_always_finish_says_whether_it_went_through()

@@ -13,6 +13,7 @@
 #include "tests/support/hand.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::expected_box;
 using verdane::testing::hand;
 using verdane::testing::play;
@@ -25,15 +26,15 @@ public:
     explicit trial(QStringView family) : Form(family)
     {
         auto* layout = new QVBoxLayout(this);
-        opener = named(make_button(QStringLiteral("open")), u"opener");
-        asker = named(make_button(QStringLiteral("ask")), u"asker");
+        opener = named(make_button(u"open"_s), u"opener");
+        asker = named(make_button(u"ask"_s), u"asker");
         box = named(new QLineEdit, u"box");
         for (QWidget* widget :
              {static_cast<QWidget*>(opener), static_cast<QWidget*>(asker), static_cast<QWidget*>(box)})
             layout->addWidget(widget);
         on_click(*asker, [this] {
             ++notices;
-            tell(QStringLiteral("a notice"));
+            tell(u"a notice"_s);
         });
         on_click(*opener, [this] {
             trial child(u"f_child");
@@ -57,7 +58,7 @@ protected:
     void unloading() override { ++unloads; }
 };
 
-const expected_box notice{QStringLiteral("a notice"), QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
+const expected_box notice{u"a notice"_s, QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
 
 }  // namespace
 
@@ -69,18 +70,18 @@ private Q_SLOTS:
 
     void the_english_twin_has_the_name_with_en()
     {
-        QCOMPARE(trial(u"f_trial").objectName(), QStringLiteral("f_trial"));
+        QCOMPARE(trial(u"f_trial").objectName(), u"f_trial"_s);
         is_french = false;
-        QCOMPARE(trial(u"f_trial").objectName(), QStringLiteral("f_trial_en"));
-        QCOMPARE(Form(u"f_single", Form::twins::one).objectName(), QStringLiteral("f_single"));
+        QCOMPARE(trial(u"f_trial").objectName(), u"f_trial_en"_s);
+        QCOMPARE(Form(u"f_single", Form::twins::one).objectName(), u"f_single"_s);
     }
 
     void a_window_keeps_the_language_it_was_made_in()
     {
         trial window(u"f_trial");
         is_french = false;
-        QCOMPARE(window.caption(u"oui", u"yes"), QStringLiteral("oui"));
-        QCOMPARE(trial(u"f_trial").caption(u"oui", u"yes"), QStringLiteral("yes"));
+        QCOMPARE(window.caption(u"oui", u"yes"), u"oui"_s);
+        QCOMPARE(trial(u"f_trial").caption(u"oui", u"yes"), u"yes"_s);
     }
 
     void showing_activates_once_and_a_message_box_does_not()
@@ -88,10 +89,10 @@ private Q_SLOTS:
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_trial"));
-                 user.click(QStringLiteral("asker"));
+                 user.wait_for_window(u"f_trial"_s);
+                 user.click(u"asker"_s);
                  user.answer(notice);
-                 user.close_window(QStringLiteral("f_trial"));
+                 user.close_window(u"f_trial"_s);
              });
         QCOMPARE(window.activations, 1);
         QCOMPARE(window.unloads, 1);
@@ -103,11 +104,11 @@ private Q_SLOTS:
         take_double_click_as_one(*window.asker);
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_trial"));
-                 user.double_click(QStringLiteral("asker"));
+                 user.wait_for_window(u"f_trial"_s);
+                 user.double_click(u"asker"_s);
                  user.answer(notice);
-                 user.wait_until_gone(QStringLiteral("message_box"));
-                 user.close_window(QStringLiteral("f_trial"));
+                 user.wait_until_gone(u"message_box"_s);
+                 user.close_window(u"f_trial"_s);
              });
         QCOMPARE(window.notices, 1);
     }
@@ -117,12 +118,12 @@ private Q_SLOTS:
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_trial"));
-                 user.click(QStringLiteral("opener"));
-                 user.wait_for_window(QStringLiteral("f_child"));
-                 user.close_window(QStringLiteral("f_child"));
-                 user.wait_until_gone(QStringLiteral("f_child"));
-                 user.close_window(QStringLiteral("f_trial"));
+                 user.wait_for_window(u"f_trial"_s);
+                 user.click(u"opener"_s);
+                 user.wait_for_window(u"f_child"_s);
+                 user.close_window(u"f_child"_s);
+                 user.wait_until_gone(u"f_child"_s);
+                 user.close_window(u"f_trial"_s);
              });
         QCOMPARE(window.activations, 2);
         QCOMPARE(window.child_activations, 1);
@@ -152,10 +153,10 @@ private Q_SLOTS:
         window.cancel_by_asker();
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_trial"));
+                 user.wait_for_window(u"f_trial"_s);
                  user.key(Qt::Key_Escape);
                  user.answer(notice);
-                 user.close_window(QStringLiteral("f_trial"));
+                 user.close_window(u"f_trial"_s);
              });
         QCOMPARE(window.notices, 1);
         QCOMPARE(window.unloads, 1);
@@ -169,7 +170,7 @@ private Q_SLOTS:
         when_left(*window.box, [&] { return may_leave; });
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.click(QStringLiteral("box"));
+                 user.click(u"box"_s);
                  user.key(Qt::Key_Escape);
                  user.look([&] {
                      QCOMPARE(window.notices, 0);
@@ -177,7 +178,7 @@ private Q_SLOTS:
                  });
                  user.key(Qt::Key_Escape);
                  user.answer(notice);
-                 user.close_window(QStringLiteral("f_trial"));
+                 user.close_window(u"f_trial"_s);
              });
     }
 
@@ -186,7 +187,7 @@ private Q_SLOTS:
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_trial"));
+                 user.wait_for_window(u"f_trial"_s);
                  user.key(Qt::Key_Escape);
              });
         QCOMPARE(window.unloads, 1);
@@ -197,13 +198,13 @@ private Q_SLOTS:
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.click(QStringLiteral("box"));
+                 user.click(u"box"_s);
                  user.key(Qt::Key_Return);
-                 user.check(!user.is_open(QStringLiteral("message_box")), QStringLiteral("Enter in a box"));
+                 user.check(!user.is_open(u"message_box"_s), u"Enter in a box"_s);
                  user.look([&] { window.asker->setFocus(); });
                  user.key(Qt::Key_Return);
                  user.answer(notice);
-                 user.close_window(QStringLiteral("f_trial"));
+                 user.close_window(u"f_trial"_s);
              });
     }
 
@@ -214,13 +215,13 @@ private Q_SLOTS:
         QCOMPARE(form_at_work(), nullptr);
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_trial_en"));
+                 user.wait_for_window(u"f_trial_en"_s);
                  user.look([&] {
                      QCOMPARE(form_at_work(), &window);
                      QCOMPARE(open_form(u"f_trial"), &window);
                      QCOMPARE(open_form(u"f_other"), nullptr);
                  });
-                 user.close_window(QStringLiteral("f_trial_en"));
+                 user.close_window(u"f_trial_en"_s);
              });
         QCOMPARE(open_form(u"f_trial"), nullptr);
     }
@@ -240,7 +241,7 @@ private Q_SLOTS:
         control_array<QLineEdit> boxes(u"text_vrd");
         QLineEdit box;
         boxes.add(3, &box);
-        QCOMPARE(box.objectName(), QStringLiteral("text_vrd_3"));
+        QCOMPARE(box.objectName(), u"text_vrd_3"_s);
         QCOMPARE(&boxes(3), &box);
         QVERIFY_EXCEPTION_THROWN(boxes(4), run_time_failure);
     }

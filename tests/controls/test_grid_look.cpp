@@ -13,6 +13,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,11 +35,10 @@ struct grid_window {
     {
         for (int shot = 1; shot <= rows; ++shot)
             reader(folder.path())
-                .write(QStringLiteral("insert into Stat_rounds (shot, stick) values (%1, 'F5')").arg(shot));
+                .write(u"insert into Stat_rounds (shot, stick) values (%1, 'F5')"_s.arg(shot));
         data_environment().rsStat_rounds.Open();
-        cells = new data_grid(new recordset_model(data_environment().rsStat_rounds,
-                                                  {{QStringLiteral("stick"), QStringLiteral("Bâton"), true},
-                                                   {QStringLiteral("after"), QStringLiteral("Distance")}}));
+        cells = new data_grid(new recordset_model(
+            data_environment().rsStat_rounds, {{u"stick"_s, u"Bâton"_s, true}, {u"after"_s, u"Distance"_s}}));
         cells->set_cell_menu(club, &clubs);
         auto* lines = new QVBoxLayout(&window);
         lines->addWidget(cells);
@@ -62,7 +62,7 @@ struct grid_window {
     QWidget window;
     choice_menu clubs;
     data_grid* cells = nullptr;
-    QPushButton* button = new QPushButton(QStringLiteral("OK"));
+    QPushButton* button = new QPushButton(u"OK"_s);
     bool is_active = false;
 };
 
@@ -159,7 +159,7 @@ private Q_SLOTS:
         const grid_window grid(3);
         grid.cells->set_Col(distance);
         QTest::keyClick(grid.cells, Qt::Key_4);
-        QVERIFY(grid.cells->findChild<QLineEdit*>(QStringLiteral("cell_being_typed")));
+        QVERIFY(grid.cells->findChild<QLineEdit*>(u"cell_being_typed"_s));
         QCOMPARE(width_of_frame(grid.picture_of_cursor(), grid.color(QPalette::Highlight)), 2);
     }
 

@@ -11,6 +11,7 @@
 #include "tests/support/hand.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::hand;
 using verdane::testing::play;
 
@@ -28,7 +29,7 @@ public:
         layout->addWidget(box);
         filter_keys(*box, [this](QChar key) {
             if (key == u'9') {
-                box->insert(QStringLiteral("(9)"));
+                box->insert(u"(9)"_s);
                 return key_answer::taken;
             }
             return key == backspace || is_plain_digit(key) ? key_answer::pass : key_answer::refuse;
@@ -52,10 +53,10 @@ class test_keys : public QObject {
         QString text;
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.click(QStringLiteral("box"));
+                 user.click(u"box"_s);
                  user.type(keys);
-                 text = user.text(QStringLiteral("box"));
-                 user.close_window(QStringLiteral("f_digits"));
+                 text = user.text(u"box"_s);
+                 user.close_window(u"f_digits"_s);
              });
         if (bells)
             *bells = bells_rung() - before;
@@ -72,8 +73,8 @@ private Q_SLOTS:
                                 << "123" << 0;
         QTest::newRow("a letter") << "1a2"
                                   << "12" << 1;
-        QTest::newRow("an accented letter") << QStringLiteral("é") << "" << 1;
-        QTest::newRow("a digit of another script") << QStringLiteral("٣") << "" << 1;
+        QTest::newRow("an accented letter") << u"é"_s << "" << 1;
+        QTest::newRow("a digit of another script") << u"٣"_s << "" << 1;
         QTest::newRow("signs and quotes") << "-1.'\""
                                           << "1" << 4;
         QTest::newRow("a key the handler takes") << "19"
@@ -96,15 +97,15 @@ private Q_SLOTS:
         const int before = bells_rung();
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.click(QStringLiteral("box"));
-                 user.type(QStringLiteral("12"));
+                 user.click(u"box"_s);
+                 user.type(u"12"_s);
                  user.key(Qt::Key_Backspace);
                  user.key(Qt::Key_Left);
                  user.key(Qt::Key_Delete);
-                 user.same(user.text(QStringLiteral("box")), QString(), QStringLiteral("after deleting"));
-                 user.paste(QStringLiteral("box"), QStringLiteral("a'b"));
-                 user.same(user.text(QStringLiteral("box")), QStringLiteral("a'b"), QStringLiteral("pasted"));
-                 user.close_window(QStringLiteral("f_digits"));
+                 user.same(user.text(u"box"_s), QString(), u"after deleting"_s);
+                 user.paste(u"box"_s, u"a'b"_s);
+                 user.same(user.text(u"box"_s), u"a'b"_s, u"pasted"_s);
+                 user.close_window(u"f_digits"_s);
              });
         QCOMPARE(bells_rung(), before);
     }
@@ -141,25 +142,24 @@ private Q_SLOTS:
         QLineEdit box;
         filter_keys(box,
                     [](QChar key) { return is_plain_digit(key) ? key_answer::pass : key_answer::refuse; });
-        for (const QString& composed : {QStringLiteral("ê"), QStringLiteral("7")}) {
+        for (const QString& composed : {u"ê"_s, u"7"_s}) {
             QInputMethodEvent event;
             event.setCommitString(composed);
             QCoreApplication::sendEvent(&box, &event);
         }
-        QCOMPARE(box.text(), QStringLiteral("7"));
+        QCOMPARE(box.text(), u"7"_s);
     }
 
     void entering_selects_so_that_a_new_figure_replaces_the_old()
     {
         digits_form window;
-        window.box->setText(QStringLiteral("123456"));
+        window.box->setText(u"123456"_s);
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.click(QStringLiteral("other"));
+                 user.click(u"other"_s);
                  user.key(Qt::Key_Tab);
-                 user.same(user.selected_text(QStringLiteral("box")), QStringLiteral("1234"),
-                           QStringLiteral("selection"));
-                 user.close_window(QStringLiteral("f_digits"));
+                 user.same(user.selected_text(u"box"_s), u"1234"_s, u"selection"_s);
+                 user.close_window(u"f_digits"_s);
              });
     }
 };

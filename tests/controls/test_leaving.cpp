@@ -12,6 +12,7 @@
 #include "tests/support/hand.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::expected_box;
 using verdane::testing::hand;
 using verdane::testing::play;
@@ -26,17 +27,17 @@ public:
         auto* layout = new QVBoxLayout(this);
         box = named(new QLineEdit, u"box");
         next = named(new QLineEdit, u"next");
-        button = named(make_button(QStringLiteral("&Press")), u"button");
+        button = named(make_button(u"&Press"_s), u"button");
         rows = named(new QListWidget, u"rows");
-        rows->addItems({QStringLiteral("first"), QStringLiteral("second")});
+        rows->addItems({u"first"_s, u"second"_s});
         for (QWidget* widget : std::initializer_list<QWidget*>{box, next, button, rows})
             layout->addWidget(widget);
         when_left(*box, [this] {
             ++asked;
             if (box->text() == u"1")
                 return true;
-            tell(QStringLiteral("refused"));
-            box->setText(QStringLiteral("0"));
+            tell(u"refused"_s);
+            box->setText(u"0"_s);
             box->setFocus();
             box->selectAll();
             return false;
@@ -52,7 +53,7 @@ public:
     int presses = 0;
 };
 
-const expected_box refusal{QStringLiteral("refused"), QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
+const expected_box refusal{u"refused"_s, QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
 
 }  // namespace
 
@@ -63,10 +64,10 @@ class test_leaving : public QObject {
     {
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_careful"));
-                 user.click(QStringLiteral("box"));
+                 user.wait_for_window(u"f_careful"_s);
+                 user.click(u"box"_s);
                  script(user);
-                 user.close_window(QStringLiteral("f_careful"));
+                 user.close_window(u"f_careful"_s);
              });
     }
 
@@ -75,9 +76,9 @@ private Q_SLOTS:
     {
         careful_form window;
         in_window(window, [](hand& user) {
-            user.type(QStringLiteral("1"));
+            user.type(u"1"_s);
             user.key(Qt::Key_Tab);
-            user.same(user.focus(), QStringLiteral("next"), QStringLiteral("focus"));
+            user.same(user.focus(), u"next"_s, u"focus"_s);
         });
         QCOMPARE(window.asked, 1);
     }
@@ -86,11 +87,11 @@ private Q_SLOTS:
     {
         careful_form window;
         in_window(window, [](hand& user) {
-            user.type(QStringLiteral("7"));
+            user.type(u"7"_s);
             user.key(Qt::Key_Tab);
             user.answer(refusal);
-            user.same(user.focus(), QStringLiteral("box"), QStringLiteral("focus"));
-            user.same(user.text(QStringLiteral("box")), QStringLiteral("0"), QStringLiteral("text"));
+            user.same(user.focus(), u"box"_s, u"focus"_s);
+            user.same(user.text(u"box"_s), u"0"_s, u"text"_s);
         });
     }
 
@@ -98,10 +99,10 @@ private Q_SLOTS:
     {
         careful_form window;
         in_window(window, [](hand& user) {
-            user.type(QStringLiteral("7"));
-            user.click(QStringLiteral("button"));
+            user.type(u"7"_s);
+            user.click(u"button"_s);
             user.answer(refusal);
-            user.same(user.focus(), QStringLiteral("box"), QStringLiteral("focus"));
+            user.same(user.focus(), u"box"_s, u"focus"_s);
         });
         QCOMPARE(window.presses, 0);
     }
@@ -110,10 +111,10 @@ private Q_SLOTS:
     {
         careful_form window;
         in_window(window, [](hand& user) {
-            user.type(QStringLiteral("7"));
-            user.click_row(QStringLiteral("rows"), 1);
+            user.type(u"7"_s);
+            user.click_row(u"rows"_s, 1);
             user.answer(refusal);
-            user.same(user.focus(), QStringLiteral("box"), QStringLiteral("focus"));
+            user.same(user.focus(), u"box"_s, u"focus"_s);
         });
         QVERIFY(window.rows->selectedItems().isEmpty());
     }
@@ -122,12 +123,11 @@ private Q_SLOTS:
     {
         careful_form window;
         in_window(window, [](hand& user) {
-            user.type(QStringLiteral("7"));
-            user.click(QStringLiteral("next"));
+            user.type(u"7"_s);
+            user.click(u"next"_s);
             user.answer(refusal);
-            user.wait_for_window(QStringLiteral("f_careful"));
-            user.same(user.selected_text(QStringLiteral("box")), QStringLiteral("0"),
-                      QStringLiteral("selection"));
+            user.wait_for_window(u"f_careful"_s);
+            user.same(user.selected_text(u"box"_s), u"0"_s, u"selection"_s);
         });
     }
 
@@ -135,7 +135,7 @@ private Q_SLOTS:
     {
         careful_form window;
         in_window(window, [](hand& user) {
-            user.type(QStringLiteral("7"));
+            user.type(u"7"_s);
             user.key(Qt::Key_P, Qt::AltModifier);
             user.answer(refusal);
         });
@@ -146,8 +146,8 @@ private Q_SLOTS:
     {
         careful_form window;
         in_window(window, [](hand& user) {
-            user.type(QStringLiteral("1"));
-            user.click(QStringLiteral("button"));
+            user.type(u"1"_s);
+            user.click(u"button"_s);
         });
         QCOMPARE(window.presses, 1);
     }
@@ -155,7 +155,7 @@ private Q_SLOTS:
     void closing_the_window_asks_nothing()
     {
         careful_form window;
-        in_window(window, [](hand& user) { user.type(QStringLiteral("7")); });
+        in_window(window, [](hand& user) { user.type(u"7"_s); });
         QCOMPARE(window.asked, 0);
     }
 };

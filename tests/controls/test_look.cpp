@@ -9,6 +9,7 @@
 #include "controls/look.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -89,9 +90,9 @@ private Q_SLOTS:
     {
         QWidget window;
         auto* box = new QLineEdit(&window);
-        const std::unique_ptr<QLabel> label(make_label(QStringLiteral("&Normale :"), box));
+        const std::unique_ptr<QLabel> label(make_label(u"&Normale :"_s, box));
         QCOMPARE(label->buddy(), box);
-        QCOMPARE(box->accessibleName(), QStringLiteral("Normale"));
+        QCOMPARE(box->accessibleName(), u"Normale"_s);
     }
 };
 

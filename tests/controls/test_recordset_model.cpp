@@ -9,24 +9,23 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 std::vector<bound_column> shot_columns()
 {
-    return {{QStringLiteral("Shot"), QStringLiteral("Coup")},
-            {QStringLiteral("STICK"), QStringLiteral("Bâton"), true},
-            {QStringLiteral("AFTER"), QStringLiteral("Distance restante")},
-            {QStringLiteral("MISSED"), QStringLiteral("Raté"), false, QStringLiteral("Oui"),
-             QStringLiteral("Non")}};
+    return {{u"Shot"_s, u"Coup"_s},
+            {u"STICK"_s, u"Bâton"_s, true},
+            {u"AFTER"_s, u"Distance restante"_s},
+            {u"MISSED"_s, u"Raté"_s, false, u"Oui"_s, u"Non"_s}};
 }
 
 /// Three shots of one hole in the store, and a model on them with the toolkit's checker at its heels.
 struct bound_shots {
     bound_shots()
     {
-        for (const QString& shot : {QStringLiteral("1, 'D', 200, 0"), QStringLiteral("2, 'F5', 30, 1"),
-                                    QStringLiteral("3, 'Pu', null, null")})
+        for (const QString& shot : {u"1, 'D', 200, 0"_s, u"2, 'F5', 30, 1"_s, u"3, 'Pu', null, null"_s})
             store.write(u"insert into Stat_rounds (shot, stick, after, missed) values (" + shot + u')');
         source.Open();
         model.bind();
@@ -51,12 +50,12 @@ private Q_SLOTS:
     {
         const bound_shots shots;
         QCOMPARE(shots.model.rowCount(), 3);
-        QCOMPARE(shots.model.headerData(2, Qt::Horizontal).toString(), QStringLiteral("Distance restante"));
-        QCOMPARE(shots.shown(1, 1), QStringLiteral("F5"));
-        QCOMPARE(shots.shown(1, 3), QStringLiteral("Oui"));
-        QCOMPARE(shots.shown(0, 3), QStringLiteral("Non"));
+        QCOMPARE(shots.model.headerData(2, Qt::Horizontal).toString(), u"Distance restante"_s);
+        QCOMPARE(shots.shown(1, 1), u"F5"_s);
+        QCOMPARE(shots.shown(1, 3), u"Oui"_s);
+        QCOMPARE(shots.shown(0, 3), u"Non"_s);
         QCOMPARE(shots.shown(2, 2), QString());
-        QCOMPARE(shots.shown(2, 3), QStringLiteral("Non"));
+        QCOMPARE(shots.shown(2, 3), u"Non"_s);
     }
 
     void unbound_it_has_no_rows()
@@ -89,7 +88,7 @@ private Q_SLOTS:
         shots.source.Fields(u"shot").set(4);
         shots.model.refresh();
         QCOMPARE(shots.model.rowCount(), 4);
-        QCOMPARE(shots.shown(3, 0), QStringLiteral("4"));
+        QCOMPARE(shots.shown(3, 0), u"4"_s);
         shots.source.MoveFirst();
         shots.source.Delete();
         shots.source.MoveFirst();
@@ -97,17 +96,17 @@ private Q_SLOTS:
         QCOMPARE(shots.shown(3, 0), QString());
         shots.model.refresh();
         QCOMPARE(shots.model.rowCount(), 2);
-        QCOMPARE(shots.shown(0, 0), QStringLiteral("3"));
+        QCOMPARE(shots.shown(0, 0), u"3"_s);
     }
 
     void writing_moves_the_recordset_and_leaving_commits()
     {
         bound_shots shots;
-        QVERIFY(shots.model.setData(shots.model.index(1, 2), QStringLiteral("45")));
+        QVERIFY(shots.model.setData(shots.model.index(1, 2), u"45"_s));
         QCOMPARE(shots.source.position(), 1);
-        QCOMPARE(shots.store.number(QStringLiteral("select after from Stat_rounds where shot = 2")), 30);
+        QCOMPARE(shots.store.number(u"select after from Stat_rounds where shot = 2"_s), 30);
         shots.model.move_to(0);
-        QCOMPARE(shots.store.number(QStringLiteral("select after from Stat_rounds where shot = 2")), 45);
+        QCOMPARE(shots.store.number(u"select after from Stat_rounds where shot = 2"_s), 45);
     }
 
     void a_row_is_finished_once_before_it_is_committed()
@@ -116,22 +115,21 @@ private Q_SLOTS:
         int finished = 0;
         shots.model.before_row_commit = [&] {
             ++finished;
-            shots.source.Fields(u"unit").set(QStringLiteral("done"));
+            shots.source.Fields(u"unit").set(u"done"_s);
         };
         shots.model.move_to(1);
         QCOMPARE(finished, 0);
-        shots.model.write(1, 2, QStringLiteral("44"));
+        shots.model.write(1, 2, u"44"_s);
         shots.model.move_to(2);
         shots.model.move_to(0);
         QCOMPARE(finished, 1);
-        QCOMPARE(shots.store.text(QStringLiteral("select unit from Stat_rounds where shot = 2")),
-                 QStringLiteral("done"));
+        QCOMPARE(shots.store.text(u"select unit from Stat_rounds where shot = 2"_s), u"done"_s);
     }
 
     void a_locked_column_is_not_written()
     {
         bound_shots shots;
-        QVERIFY(!shots.model.setData(shots.model.index(0, 1), QStringLiteral("Pu")));
+        QVERIFY(!shots.model.setData(shots.model.index(0, 1), u"Pu"_s));
         QVERIFY(!shots.source.pending());
     }
 
@@ -139,9 +137,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("column");
         QTest::addColumn<QString>("text");
-        QTest::newRow("no number") << 2 << QStringLiteral("12a");
-        QTest::newRow("too large") << 2 << QStringLiteral("32768");
-        QTest::newRow("no word of yes and no") << 3 << QStringLiteral("peut-être");
+        QTest::newRow("no number") << 2 << u"12a"_s;
+        QTest::newRow("too large") << 2 << u"32768"_s;
+        QTest::newRow("no word of yes and no") << 3 << u"peut-être"_s;
     }
     void a_text_that_the_column_cannot_take_is_not_written()
     {
@@ -162,9 +160,9 @@ private Q_SLOTS:
     void the_words_write_yes_and_no()
     {
         bound_shots shots;
-        QVERIFY(shots.model.setData(shots.model.index(0, 3), QStringLiteral("Oui")));
+        QVERIFY(shots.model.setData(shots.model.index(0, 3), u"Oui"_s));
         QVERIFY(shots.source.Fields(u"missed").yes());
-        QVERIFY(shots.model.setData(shots.model.index(0, 3), QStringLiteral("Non")));
+        QVERIFY(shots.model.setData(shots.model.index(0, 3), u"Non"_s));
         QVERIFY(!shots.source.Fields(u"missed").yes());
     }
 
@@ -173,15 +171,15 @@ private Q_SLOTS:
         bound_shots shots;
         shots.model.move_to(7);
         QCOMPARE(shots.source.position(), 0);
-        QVERIFY(!shots.model.write(7, 2, QStringLiteral("1")));
+        QVERIFY(!shots.model.write(7, 2, u"1"_s));
     }
 
     void a_commit_that_fails_is_a_failure_of_the_move()
     {
         bound_shots shots;
-        shots.store.write(QStringLiteral("create trigger refuse before update on Stat_rounds begin select "
-                                         "raise(abort, 'no'); end"));
-        shots.model.write(0, 2, QStringLiteral("1"));
+        shots.store.write(u"create trigger refuse before update on Stat_rounds begin select "
+                          u"raise(abort, 'no'); end"_s);
+        shots.model.write(0, 2, u"1"_s);
         QVERIFY(failure_of([&] { shots.model.move_to(1); }).has_value());
         QCOMPARE(shots.source.position(), 0);
     }

@@ -17,6 +17,7 @@
 #include "tests/support/recording_frame.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::recording_frame;
 
 namespace {
@@ -31,13 +32,13 @@ public:
         auto* column = new QVBoxLayout;
         for (int line = 0; line < lines; ++line) {
             auto* box = boxes.emplace_back(new QLineEdit);
-            column->addWidget(labels.emplace_back(make_label(QStringLiteral("label"), box)));
+            column->addWidget(labels.emplace_back(make_label(u"label"_s, box)));
             column->addWidget(box);
         }
         auto* rows = new QVBoxLayout(this);
         content = scrolled(column);
         rows->addWidget(content, 1);
-        ok = make_button(QStringLiteral("OK"));
+        ok = make_button(u"OK"_s);
         rows->addWidget(ok);
     }
 

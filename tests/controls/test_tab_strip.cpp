@@ -8,6 +8,7 @@
 #include "tests/support/hand.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::hand;
 using verdane::testing::play;
 
@@ -43,9 +44,9 @@ class test_tab_strip : public QObject {
     {
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_tabs"));
+                 user.wait_for_window(u"f_tabs"_s);
                  script(user);
-                 user.close_window(QStringLiteral("f_tabs"));
+                 user.close_window(u"f_tabs"_s);
              });
     }
 
@@ -53,16 +54,16 @@ private Q_SLOTS:
     void a_click_asks_on_the_old_tab_and_tells_on_the_new()
     {
         tabs_form window;
-        in_window(window, [](hand& user) { user.click_tab(QStringLiteral("TabStrip1"), 3); });
-        QCOMPARE(window.seen_before, QStringLiteral("1"));
-        QCOMPARE(window.clicks, QStringLiteral("3"));
+        in_window(window, [](hand& user) { user.click_tab(u"TabStrip1"_s, 3); });
+        QCOMPARE(window.seen_before, u"1"_s);
+        QCOMPARE(window.clicks, u"3"_s);
     }
 
     void a_refused_click_keeps_the_tab()
     {
         tabs_form window;
         window.allowed = false;
-        in_window(window, [](hand& user) { user.click_tab(QStringLiteral("TabStrip1"), 2); });
+        in_window(window, [](hand& user) { user.click_tab(u"TabStrip1"_s, 2); });
         QCOMPARE(window.tabs->selected(), 1);
         QCOMPARE(window.clicks, QString());
     }
@@ -70,19 +71,19 @@ private Q_SLOTS:
     void a_click_on_the_selected_tab_is_told_too()
     {
         tabs_form window;
-        in_window(window, [](hand& user) { user.click_tab(QStringLiteral("TabStrip1"), 1); });
-        QCOMPARE(window.clicks, QStringLiteral("1"));
+        in_window(window, [](hand& user) { user.click_tab(u"TabStrip1"_s, 1); });
+        QCOMPARE(window.clicks, u"1"_s);
     }
 
     void the_keyboard_moves_as_a_click_does_and_stops_at_the_ends()
     {
         tabs_form window;
         in_window(window, [](hand& user) {
-            user.click_tab(QStringLiteral("TabStrip1"), 1);
+            user.click_tab(u"TabStrip1"_s, 1);
             for (const int key : {Qt::Key_Right, Qt::Key_End, Qt::Key_Right, Qt::Key_Left, Qt::Key_Home})
                 user.key(key);
         });
-        QCOMPARE(window.clicks, QStringLiteral("12321"));
+        QCOMPARE(window.clicks, u"12321"_s);
     }
 
     void the_wheel_leaves_the_tab_alone()

@@ -11,6 +11,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A window and the menu before it, which may stand out beyond the window.
@@ -48,8 +50,7 @@ void album::keep_with_menu(testing::hand& user, const QString& window, const QSt
 void album::save(testing::hand& user, const QImage& picture, const QString& name)
 {
     const QString path = place_for(user, name + u".png");
-    user.check(!picture.isNull() && picture.save(path),
-               QStringLiteral("the picture %1 cannot be kept").arg(name));
+    user.check(!picture.isNull() && picture.save(path), u"the picture %1 cannot be kept"_s.arg(name));
 }
 
 QString album::place_for(testing::hand& user, const QString& file)

@@ -2,6 +2,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int clubs_with_distance = 13;
@@ -9,7 +11,7 @@ constexpr int clubs_with_distance = 13;
 /// The averages that the store keeps, a club of the bag with each call.
 double kept_average(const visit& now, int club)
 {
-    return now.store.value(QStringLiteral("select avg_%1 from sticks").arg(club)).toDouble();
+    return now.store.value(u"select avg_%1 from sticks"_s.arg(club)).toDouble();
 }
 
 /// The golfer's clubs carry from 70 to 225 yards; what is worked out must be about that.
@@ -17,8 +19,7 @@ void check_averages(const visit& now)
 {
     for (int club = 1; club <= clubs_with_distance; ++club) {
         const double average = kept_average(now, club);
-        now.user.check(average > 20 && average < 250,
-                       QStringLiteral("average of club %1: %2").arg(club).arg(average));
+        now.user.check(average > 20 && average < 250, u"average of club %1: %2"_s.arg(club).arg(average));
     }
 }
 
@@ -26,27 +27,26 @@ void check_averages(const visit& now)
 
 void choose_season(visit& now)
 {
-    const QStringList rounds = now.user.entries(QStringLiteral("List1"));
-    now.user.same(static_cast<int>(rounds.size()), rounds_of_season, QStringLiteral("rounds to choose from"));
-    now.user.click_row(QStringLiteral("List1"), 0);
-    now.user.click_row(QStringLiteral("List2"), rounds_of_season - 1);
+    const QStringList rounds = now.user.entries(u"List1"_s);
+    now.user.same(static_cast<int>(rounds.size()), rounds_of_season, u"rounds to choose from"_s);
+    now.user.click_row(u"List1"_s, 0);
+    now.user.click_row(u"List2"_s, rounds_of_season - 1);
 }
 
 void keep_averages(visit& now)
 {
-    now.user.menu(QStringLiteral("mnBat"));
-    now.user.wait_for_window(now.window(QStringLiteral("f_sticks")));
-    now.keep(QStringLiteral("f_sticks"), QStringLiteral("f_sticks"));
-    now.user.click(QStringLiteral("Command1"));
+    now.user.menu(u"mnBat"_s);
+    now.user.wait_for_window(now.window(u"f_sticks"_s));
+    now.keep(u"f_sticks"_s, u"f_sticks"_s);
+    now.user.click(u"Command1"_s);
     choose_season(now);
-    now.keep(QStringLiteral("f_sticks"), QStringLiteral("f_sticks_filters"));
-    now.user.click(QStringLiteral("Actualiser"));
-    now.keep(QStringLiteral("f_sticks"), QStringLiteral("f_sticks_averages"));
-    now.user.click(QStringLiteral("enr"));
+    now.keep(u"f_sticks"_s, u"f_sticks_filters"_s);
+    now.user.click(u"Actualiser"_s);
+    now.keep(u"f_sticks"_s, u"f_sticks_averages"_s);
+    now.user.click(u"enr"_s);
     now.answer(u"Désirez vous conservés ces moyennes ?", u"Do you want to keep these averages ?",
-               QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes,
-               QStringLiteral("VERDANE"));
-    now.user.wait_until_gone(now.window(QStringLiteral("f_sticks")));
+               QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, u"VERDANE"_s);
+    now.user.wait_until_gone(now.window(u"f_sticks"_s));
     check_averages(now);
 }
 

@@ -2,61 +2,62 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString member(const QString& array, int index)
 {
-    return QStringLiteral("%1_%2").arg(array).arg(index);
+    return u"%1_%2"_s.arg(array).arg(index);
 }
 
 void fill_general_page(day& today)
 {
-    today.user.fill(QStringLiteral("text_1"), today.card.name);
-    today.user.choose(QStringLiteral("departure"), testing::tee_code(today.card.tee));
-    today.user.fill(QStringLiteral("text_2"), today.card.rating);
-    today.user.fill(QStringLiteral("text_0"), today.card.slope);
-    today.keep(QStringLiteral("f_courses"), QStringLiteral("f_courses_1"));
+    today.user.fill(u"text_1"_s, today.card.name);
+    today.user.choose(u"departure"_s, testing::tee_code(today.card.tee));
+    today.user.fill(u"text_2"_s, today.card.rating);
+    today.user.fill(u"text_0"_s, today.card.slope);
+    today.keep(u"f_courses"_s, u"f_courses_1"_s);
 }
 
 /// Nine holes as they stand on the card: a row of figures after another.
 void fill_nine(day& today, int page)
 {
-    today.user.click_tab(QStringLiteral("TabStrip1"), page);
+    today.user.click_tab(u"TabStrip1"_s, page);
     const int first = page == 2 ? 0 : 9;
     for (int i = first; i < first + 9; ++i) {
         const auto hole = static_cast<std::size_t>(i);
-        today.user.fill(member(QStringLiteral("txt_verge"), i), QString::number(today.card.yards[hole]));
-        today.user.fill(member(QStringLiteral("txt_hnd"), i), QString::number(today.card.stroke_index[hole]));
-        today.user.fill(member(QStringLiteral("txt_normal"), i), QString::number(today.card.par[hole]));
+        today.user.fill(member(u"txt_verge"_s, i), QString::number(today.card.yards[hole]));
+        today.user.fill(member(u"txt_hnd"_s, i), QString::number(today.card.stroke_index[hole]));
+        today.user.fill(member(u"txt_normal"_s, i), QString::number(today.card.par[hole]));
     }
     today.user.key(Qt::Key_Tab);
-    today.keep(QStringLiteral("f_courses"),
-               page == 2 ? QStringLiteral("f_courses_2") : QStringLiteral("f_courses_3"));
+    today.keep(u"f_courses"_s, page == 2 ? u"f_courses_2"_s : u"f_courses_3"_s);
 }
 
 }  // namespace
 
 void describe_course(day& today)
 {
-    today.user.menu(QStringLiteral("mManagF"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_c_list")));
-    today.user.click(QStringLiteral("Command1_1"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_courses")));
+    today.user.menu(u"mManagF"_s);
+    today.user.wait_for_window(today.window(u"f_c_list"_s));
+    today.user.click(u"Command1_1"_s);
+    today.user.wait_for_window(today.window(u"f_courses"_s));
     fill_general_page(today);
     fill_nine(today, 2);
     fill_nine(today, 3);
-    today.user.click(QStringLiteral("smdsave"));
+    today.user.click(u"smdsave"_s);
     today.answer(u"Les modifications sont enregistrées.", u"Changes have been saved",
                  QMessageBox::Information);
-    today.user.wait_until_gone(today.window(QStringLiteral("f_courses")));
-    today.user.click(QStringLiteral("Command1_2"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_c_list")));
+    today.user.wait_until_gone(today.window(u"f_courses"_s));
+    today.user.click(u"Command1_2"_s);
+    today.user.wait_until_gone(today.window(u"f_c_list"_s));
 
-    today.user.menu(QStringLiteral("mManagF"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_c_list")));
-    today.keep(QStringLiteral("f_c_list"), QStringLiteral("f_c_list"));
-    today.user.click(QStringLiteral("Command1_2"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_c_list")));
+    today.user.menu(u"mManagF"_s);
+    today.user.wait_for_window(today.window(u"f_c_list"_s));
+    today.keep(u"f_c_list"_s, u"f_c_list"_s);
+    today.user.click(u"Command1_2"_s);
+    today.user.wait_until_gone(today.window(u"f_c_list"_s));
 }
 
 }  // namespace verdane::guided_day

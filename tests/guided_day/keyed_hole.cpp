@@ -2,9 +2,11 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString grid = QStringLiteral("details");
+const QString grid = u"details"_s;
 
 void expect_cursor(const day& today, const QString& cell, const QString& after)
 {
@@ -31,27 +33,27 @@ void next_shot(const day& today)
 /// One letter is enough where only one entry of the cell's menu begins with it.
 void tell_drive(const day& today)
 {
-    expect_cursor(today, QStringLiteral("0,2"), QStringLiteral("the page is opened"));
-    today.user.type(QStringLiteral("1"));
-    expect_cursor(today, QStringLiteral("0,3"), QStringLiteral("the club"));
-    type_distance(today, QStringLiteral("150"));
-    expect_cursor(today, QStringLiteral("0,5"), QStringLiteral("the distance"));
-    today.user.type(QStringLiteral("l"));
+    expect_cursor(today, u"0,2"_s, u"the page is opened"_s);
+    today.user.type(u"1"_s);
+    expect_cursor(today, u"0,3"_s, u"the club"_s);
+    type_distance(today, u"150"_s);
+    expect_cursor(today, u"0,5"_s, u"the distance"_s);
+    today.user.type(u"l"_s);
     next_shot(today);
-    expect_cursor(today, QStringLiteral("1,2"), QStringLiteral("the next shot"));
+    expect_cursor(today, u"1,2"_s, u"the next shot"_s);
 }
 
 /// From the kind five columns on: where the ball lies.
 void tell_approach_to_the_right(day& today)
 {
-    today.user.type(QStringLiteral("9"));
-    type_distance(today, QStringLiteral("20"));
-    today.user.type(QStringLiteral("a"));
+    today.user.type(u"9"_s);
+    type_distance(today, u"20"_s);
+    today.user.type(u"a"_s);
     tab(today, 5);
     today.user.key(Qt::Key_F4);
-    today.user.wait_for_menu(QStringLiteral("mAlle"));
-    today.pictures.keep_with_menu(today.user, today.window(QStringLiteral("f_new_round")),
-                                  today.twin(QStringLiteral("f_details_position_menu")));
+    today.user.wait_for_menu(u"mAlle"_s);
+    today.pictures.keep_with_menu(today.user, today.window(u"f_new_round"_s),
+                                  today.twin(u"f_details_position_menu"_s));
     today.user.menu_key(Qt::Key_Down);
     today.user.menu_key(Qt::Key_Down);
     today.user.menu_key(Qt::Key_Return);
@@ -61,12 +63,12 @@ void tell_approach_to_the_right(day& today)
 void tell_shot_from_sand(day& today)
 {
     today.user.key(Qt::Key_Down, Qt::AltModifier);
-    today.user.wait_for_menu(QStringLiteral("mSticks"));
-    today.pictures.keep_with_menu(today.user, today.window(QStringLiteral("f_new_round")),
-                                  today.twin(QStringLiteral("f_details_menu")));
-    today.user.menu_type(QStringLiteral("s"));
-    type_distance(today, QStringLiteral("5"));
-    today.user.type(QStringLiteral("a"));
+    today.user.wait_for_menu(u"mSticks"_s);
+    today.pictures.keep_with_menu(today.user, today.window(u"f_new_round"_s),
+                                  today.twin(u"f_details_menu"_s));
+    today.user.menu_type(u"s"_s);
+    type_distance(today, u"5"_s);
+    today.user.type(u"a"_s);
     tab(today, 3);
     today.user.type(today.words(u"o", u"y"));
     next_shot(today);
@@ -76,24 +78,24 @@ void tell_shot_from_sand(day& today)
 /// From there on distances are all there is to tell.
 void tell_putts(const day& today)
 {
-    today.user.type(QStringLiteral("p"));
-    today.user.wait_for_menu(QStringLiteral("mSticks"));
-    today.user.menu_type(QStringLiteral("p"));
+    today.user.type(u"p"_s);
+    today.user.wait_for_menu(u"mSticks"_s);
+    today.user.menu_type(u"p"_s);
     today.user.menu_key(Qt::Key_Return);
-    expect_cursor(today, QStringLiteral("3,3"), QStringLiteral("the putter"));
-    type_distance(today, QStringLiteral("3"));
-    expect_cursor(today, QStringLiteral("4,3"), QStringLiteral("the first putt"));
+    expect_cursor(today, u"3,3"_s, u"the putter"_s);
+    type_distance(today, u"3"_s);
+    expect_cursor(today, u"4,3"_s, u"the first putt"_s);
 }
 
 /// Behind a hole that ended in putts the first distance leads back to itself, two cells ahead of the kind.
 void begin_the_second_hole(const day& today)
 {
-    today.user.type(QStringLiteral("1"));
-    type_distance(today, QStringLiteral("100"));
-    expect_cursor(today, QStringLiteral("0,3"), QStringLiteral("the first distance of the second hole"));
+    today.user.type(u"1"_s);
+    type_distance(today, u"100"_s);
+    expect_cursor(today, u"0,3"_s, u"the first distance of the second hole"_s);
     tab(today, 2);
-    today.user.type(QStringLiteral("l"));
-    today.user.same(today.user.cell(grid, 0, 5), QStringLiteral("Long"), QStringLiteral("kind"));
+    today.user.type(u"l"_s);
+    today.user.same(today.user.cell(grid, 0, 5), u"Long"_s, u"kind"_s);
 }
 
 }  // namespace
@@ -102,21 +104,21 @@ void begin_the_second_hole(const day& today)
 void tell_hole_by_keys(day& today)
 {
     today.user.key(Qt::Key_2, Qt::ControlModifier);
-    today.user.same(today.user.focus(), grid, QStringLiteral("focus on the detailed page"));
+    today.user.same(today.user.focus(), grid, u"focus on the detailed page"_s);
     tell_drive(today);
     tell_approach_to_the_right(today);
     tell_shot_from_sand(today);
     tell_putts(today);
-    today.keep(QStringLiteral("f_new_round"), QStringLiteral("f_details"));
+    today.keep(u"f_new_round"_s, u"f_details"_s);
     today.user.key(Qt::Key_PageDown);
-    today.user.same(today.user.selected(QStringLiteral("cmb_holes")), 1, QStringLiteral("hole on screen"));
+    today.user.same(today.user.selected(u"cmb_holes"_s), 1, u"hole on screen"_s);
     begin_the_second_hole(today);
 }
 
 QString keyed_shots(const day& today)
 {
-    const QString lines = QStringLiteral("1 %1>150 %2 1W Long\n2 150>20 %2 9I %3\n3 20>15 %4 SW %3\n"
-                                         "4 15>3 %4 Pu Putt\n5 3>0 %4 Pu Putt");
+    const QString lines = u"1 %1>150 %2 1W Long\n2 150>20 %2 9I %3\n3 20>15 %4 SW %3\n"
+                          u"4 15>3 %4 Pu Putt\n5 3>0 %4 Pu Putt"_s;
     return lines.arg(QString::number(today.card.yards.front()), today.words(u"Verges", u"Yards"),
                      today.words(u"Approche", u"Approach"), today.words(u"Pieds", u"Feets"));
 }

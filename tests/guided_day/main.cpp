@@ -13,6 +13,7 @@
 
 using namespace verdane;
 using namespace verdane::guided_day;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,7 +24,7 @@ constexpr int french = 1;
 /// The folder named behind --to; empty without one.
 QString named_folder(const QStringList& arguments)
 {
-    const auto place = arguments.indexOf(QStringLiteral("--to"));
+    const auto place = arguments.indexOf(u"--to"_s);
     return place > 0 ? arguments.value(place + 1) : QString();
 }
 
@@ -47,14 +48,13 @@ int play_both_days(album& pictures)
     testing::program_run golfer(not_chosen);
     return golfer.play_through([&](testing::hand& user) {
         day morning{{true, user, pictures, golfer.store()},
-                    testing::published_scorecard(QStringLiteral("Pebble Beach"), QStringLiteral("White")),
+                    testing::published_scorecard(u"Pebble Beach"_s, u"White"_s),
                     morning_round(),
-                    told_round(QStringLiteral("11"), QStringLiteral("50"))};
-        day afternoon{
-            {false, user, pictures, golfer.store()},
-            testing::published_scorecard(QStringLiteral("North Berwick West Links"), QStringLiteral("Blue")),
-            afternoon_round(),
-            told_round(QStringLiteral("17"), QStringLiteral("15"))};
+                    told_round(u"11"_s, u"50"_s)};
+        day afternoon{{false, user, pictures, golfer.store()},
+                      testing::published_scorecard(u"North Berwick West Links"_s, u"Blue"_s),
+                      afternoon_round(),
+                      told_round(u"17"_s, u"15"_s)};
         choose_first_language(morning);
         play_day(morning);
         play_day(afternoon);
@@ -70,7 +70,7 @@ int look_back(album& pictures)
     return golfer.play_through([&](testing::hand& user) {
         visit in_french{true, user, pictures, golfer.store()};
         visit in_english{false, user, pictures, golfer.store()};
-        user.wait_for_window(QStringLiteral("MainForm"));
+        user.wait_for_window(u"MainForm"_s);
         for (visit* now : {&in_french, &in_english}) {
             change_language(*now);
             keep_averages(*now);
@@ -90,7 +90,7 @@ int main(int argc, char** argv)
     const QTemporaryDir otherwise;
     const QString named = named_folder(QCoreApplication::arguments());
     const QDir folder(named.isEmpty() ? otherwise.path() : named);
-    folder.mkpath(QStringLiteral("."));
+    folder.mkpath(u"."_s);
     album pictures(folder);
     int status = play_both_days(pictures);
     if (status == EXIT_SUCCESS)

@@ -5,6 +5,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct person {
@@ -15,19 +17,17 @@ struct person {
 
 const std::vector<person>& people_of(const day& today)
 {
-    static const std::vector<person> morning{
-        {QStringLiteral("Tremblay"), QStringLiteral("Josée"), QStringLiteral("Québec")},
-        {QStringLiteral("Côté"), QStringLiteral("Luc"), QStringLiteral("Lévis")}};
-    static const std::vector<person> afternoon{
-        {QStringLiteral("O'Brien"), QStringLiteral("Sean"), QStringLiteral("Dublin")},
-        {QStringLiteral("Baker"), QStringLiteral("Ann"), QStringLiteral("Leith")}};
+    static const std::vector<person> morning{{u"Tremblay"_s, u"Josée"_s, u"Québec"_s},
+                                             {u"Côté"_s, u"Luc"_s, u"Lévis"_s}};
+    static const std::vector<person> afternoon{{u"O'Brien"_s, u"Sean"_s, u"Dublin"_s},
+                                               {u"Baker"_s, u"Ann"_s, u"Leith"_s}};
     return today.french ? morning : afternoon;
 }
 
 /// Names and address are typed from the first column on.
 void add_partner(day& today, const person& partner)
 {
-    today.user.click(QStringLiteral("add"));
+    today.user.click(u"add"_s);
     today.user.type(partner.name);
     today.user.key(Qt::Key_Tab);
     today.user.type(partner.surname);
@@ -41,20 +41,19 @@ void add_partner(day& today, const person& partner)
 
 void keep_partners(day& today)
 {
-    today.user.menu(QStringLiteral("mpartners"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_partners")));
+    today.user.menu(u"mpartners"_s);
+    today.user.wait_for_window(today.window(u"f_partners"_s));
     for (const person& partner : people_of(today))
         add_partner(today, partner);
     // Leaving the last row commits it, which gives the partner a code.
     today.user.key(Qt::Key_Up);
-    today.keep(QStringLiteral("f_partners"), QStringLiteral("f_partners"));
-    today.user.click(QStringLiteral("cmdSave"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_partners")));
+    today.keep(u"f_partners"_s, u"f_partners"_s);
+    today.user.click(u"cmdSave"_s);
+    today.user.wait_until_gone(today.window(u"f_partners"_s));
     for (const person& partner : people_of(today)) {
-        const QString stored =
-            QStringLiteral("select count(*) from partners where name = %1 and surname = %2 "
-                           "and ad2 = %3 and code > 0")
-                .arg(quoted(partner.name), quoted(partner.surname), quoted(partner.city));
+        const QString stored = u"select count(*) from partners where name = %1 and surname = %2 "
+                               u"and ad2 = %3 and code > 0"_s.arg(
+                                   quoted(partner.name), quoted(partner.surname), quoted(partner.city));
         today.user.same(today.store.number(stored), 1, u"the partner " + partner.name);
     }
 }

@@ -4,6 +4,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int strokes = 3;
@@ -12,7 +14,7 @@ constexpr int figures_of_a_hole = 11;
 
 QString today()
 {
-    return QDate::currentDate().toString(QStringLiteral("yyyyMMdd"));
+    return QDate::currentDate().toString(u"yyyyMMdd"_s);
 }
 
 }  // namespace
@@ -43,29 +45,25 @@ int played_round::gross() const
 played_round morning_round()
 {
     return {today(),
-            QStringLiteral("09"),
-            QStringLiteral("30"),
-            QStringLiteral("05"),
-            {QStringLiteral("21210000000"), QStringLiteral("31220000000"), QStringLiteral("21110000000"),
-             QStringLiteral("22201010000"), QStringLiteral("10100000000"), QStringLiteral("31210010000"),
-             QStringLiteral("11210000000"), QStringLiteral("22211000000"), QStringLiteral("21310000000"),
-             QStringLiteral("21210000000"), QStringLiteral("12201011000"), QStringLiteral("10200000000"),
-             QStringLiteral("21210000000"), QStringLiteral("32221010000"), QStringLiteral("21110000000"),
-             QStringLiteral("11210000000"), QStringLiteral("02210100001"), QStringLiteral("31320000000")}};
+            u"09"_s,
+            u"30"_s,
+            u"05"_s,
+            {u"21210000000"_s, u"31220000000"_s, u"21110000000"_s, u"22201010000"_s, u"10100000000"_s,
+             u"31210010000"_s, u"11210000000"_s, u"22211000000"_s, u"21310000000"_s, u"21210000000"_s,
+             u"12201011000"_s, u"10200000000"_s, u"21210000000"_s, u"32221010000"_s, u"21110000000"_s,
+             u"11210000000"_s, u"02210100001"_s, u"31320000000"_s}};
 }
 
 played_round afternoon_round()
 {
     return {today(),
-            QStringLiteral("14"),
-            QStringLiteral("05"),
-            QStringLiteral("00"),
-            {QStringLiteral("11210000000"), QStringLiteral("21210000000"), QStringLiteral("21200000000"),
-             QStringLiteral("10200000000"), QStringLiteral("22310010000"), QStringLiteral("01110000000"),
-             QStringLiteral("11210000000"), QStringLiteral("31210000000"), QStringLiteral("32210010010"),
-             QStringLiteral("10300000000"), QStringLiteral("31220000000"), QStringLiteral("21210000000"),
-             QStringLiteral("21301010100"), QStringLiteral("11110000000"), QStringLiteral("02201000000"),
-             QStringLiteral("11210000000"), QStringLiteral("22210010000"), QStringLiteral("11110000000")}};
+            u"14"_s,
+            u"05"_s,
+            u"00"_s,
+            {u"11210000000"_s, u"21210000000"_s, u"21200000000"_s, u"10200000000"_s, u"22310010000"_s,
+             u"01110000000"_s, u"11210000000"_s, u"31210000000"_s, u"32210010010"_s, u"10300000000"_s,
+             u"31220000000"_s, u"21210000000"_s, u"21301010100"_s, u"11110000000"_s, u"02201000000"_s,
+             u"11210000000"_s, u"22210010000"_s, u"11110000000"_s}};
 }
 
 played_round told_round(const QString& hours, const QString& minutes)
@@ -73,13 +71,11 @@ played_round told_round(const QString& hours, const QString& minutes)
     return {today(),
             hours,
             minutes,
-            QStringLiteral("20"),
-            {QStringLiteral("12221000000"), QStringLiteral("11220000000"), QStringLiteral("11220001000"),
-             QStringLiteral("21210000000"), QStringLiteral("11200000000"), QStringLiteral("22210000000"),
-             QStringLiteral("10100000000"), QStringLiteral("21310010000"), QStringLiteral("11210000000"),
-             QStringLiteral("21210000000"), QStringLiteral("31211000000"), QStringLiteral("10200000000"),
-             QStringLiteral("11110000000"), QStringLiteral("22200100000"), QStringLiteral("21210000000"),
-             QStringLiteral("11210000000"), QStringLiteral("11300010000"), QStringLiteral("21210000000")}};
+            u"20"_s,
+            {u"12221000000"_s, u"11220000000"_s, u"11220001000"_s, u"21210000000"_s, u"11200000000"_s,
+             u"22210000000"_s, u"10100000000"_s, u"21310010000"_s, u"11210000000"_s, u"21210000000"_s,
+             u"31211000000"_s, u"10200000000"_s, u"11110000000"_s, u"22200100000"_s, u"21210000000"_s,
+             u"11210000000"_s, u"11300010000"_s, u"21210000000"_s}};
 }
 
 }  // namespace verdane::guided_day

@@ -3,33 +3,33 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The last moment of the day, so that the round stands last in every list. A shot of it is told.
 void start_round_in_the_dark(day& today)
 {
-    today.user.menu(QStringLiteral("mOpen"));
-    tee_off(today, QStringLiteral("23"), QStringLiteral("59"),
-            today.french ? QStringLiteral("58") : QStringLiteral("59"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_new_round")));
-    today.user.click(QStringLiteral("text_vrd_0"));
-    today.user.type(QStringLiteral("112"));
-    today.user.click_tab(QStringLiteral("TabStrip2"), 2);
-    today.user.open_menu(QStringLiteral("details"), 0, 2);
-    today.user.choose_menu_entry(QStringLiteral("ms1_1"));
-    today.user.type(QStringLiteral("150"));
+    today.user.menu(u"mOpen"_s);
+    tee_off(today, u"23"_s, u"59"_s, today.french ? u"58"_s : u"59"_s);
+    today.user.wait_for_window(today.window(u"f_new_round"_s));
+    today.user.click(u"text_vrd_0"_s);
+    today.user.type(u"112"_s);
+    today.user.click_tab(u"TabStrip2"_s, 2);
+    today.user.open_menu(u"details"_s, 0, 2);
+    today.user.choose_menu_entry(u"ms1_1"_s);
+    today.user.type(u"150"_s);
     today.user.key(Qt::Key_Return);
-    today.user.type(QStringLiteral("l"));
-    today.user.click(QStringLiteral("Command1_4"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_new_round")));
+    today.user.type(u"l"_s);
+    today.user.click(u"Command1_4"_s);
+    today.user.wait_until_gone(today.window(u"f_new_round"_s));
 }
 
 int rounds_stored(const day& today)
 {
     int rows = 0;
-    for (const QString& table : {QStringLiteral("games"), QStringLiteral("games2"), QStringLiteral("cost"),
-                                 QStringLiteral("Stat_rounds")})
-        rows += today.store.number(QStringLiteral("select count(*) from ") + table);
+    for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s, u"Stat_rounds"_s})
+        rows += today.store.number(u"select count(*) from "_s + table);
     return rows;
 }
 
@@ -39,24 +39,23 @@ void remove_round(day& today)
 {
     const int before = rounds_stored(today);
     start_round_in_the_dark(today);
-    today.user.same(rounds_stored(today), before + 4, QStringLiteral("rows of another round"));
-    today.user.menu(QStringLiteral("mnOPenr"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_games")));
-    const int last = static_cast<int>(today.user.entries(QStringLiteral("List1")).size()) - 1;
-    today.user.click_row(QStringLiteral("List1"), last);
-    today.keep(QStringLiteral("f_games"), QStringLiteral("f_games_removal"));
-    today.user.click(QStringLiteral("Command1_3"));
+    today.user.same(rounds_stored(today), before + 4, u"rows of another round"_s);
+    today.user.menu(u"mnOPenr"_s);
+    today.user.wait_for_window(today.window(u"f_games"_s));
+    const int last = static_cast<int>(today.user.entries(u"List1"_s).size()) - 1;
+    today.user.click_row(u"List1"_s, last);
+    today.keep(u"f_games"_s, u"f_games_removal"_s);
+    today.user.click(u"Command1_3"_s);
     today.answer(u"Attention : Toutes les données de cette ronde incluant les statistiques des bâtons et "
                  u"coups roulés seront supprimées. Voulez-vous continuer ?",
                  u"Attention: All data relative to this round will be removed, included associated "
                  u"statistics on clubs and putts. Do you wish to continue?",
                  QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
     today.answer(u"Ronde supprimée", u"Round removed", QMessageBox::Information);
-    today.user.same(static_cast<int>(today.user.entries(QStringLiteral("List1")).size()), last,
-                    QStringLiteral("rounds in the list"));
-    today.user.click(QStringLiteral("Command1_2"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_games")));
-    today.user.same(rounds_stored(today), before, QStringLiteral("rows once it is removed"));
+    today.user.same(static_cast<int>(today.user.entries(u"List1"_s).size()), last, u"rounds in the list"_s);
+    today.user.click(u"Command1_2"_s);
+    today.user.wait_until_gone(today.window(u"f_games"_s));
+    today.user.same(rounds_stored(today), before, u"rows once it is removed"_s);
 }
 
 }  // namespace verdane::guided_day

@@ -8,9 +8,11 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString preview = QStringLiteral("report_preview");
+const QString preview = u"report_preview"_s;
 
 bool begins_with(const QString& path, const QByteArray& bytes)
 {
@@ -40,15 +42,14 @@ void take_keyboard_back(visit& now)
 void keep_report(visit& now, const QString& name)
 {
     now.user.wait_for_window(preview);
-    now.user.same(now.user.title(preview), QStringLiteral("Verdane International Inc."),
-                  u"title of the report " + name);
-    now.user.check(now.user.text(QStringLiteral("page_of_pages")).startsWith(QStringLiteral("Page 1 ")),
+    now.user.same(now.user.title(preview), u"Verdane International Inc."_s, u"title of the report " + name);
+    now.user.check(now.user.text(u"page_of_pages"_s).startsWith(u"Page 1 "_s),
                    u"the preview begins with the first page of the report " + name);
     now.pictures.keep(now.user, preview, now.twin(u"preview_" + name));
     const QString report = now.twin(u"report_" + name);
-    const QString pdf = save(now, QStringLiteral("save_pdf"), report + u".pdf");
+    const QString pdf = save(now, u"save_pdf"_s, report + u".pdf");
     now.user.check(begins_with(pdf, "%PDF-"), pdf + u" is no PDF file");
-    save(now, QStringLiteral("save_csv"), report + u".csv");
+    save(now, u"save_csv"_s, report + u".csv");
     now.user.close_window(preview);
     now.user.wait_until_gone(preview);
     take_keyboard_back(now);

@@ -2,52 +2,52 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 void choose_course(day& today)
 {
-    const int last = static_cast<int>(today.user.entries(QStringLiteral("cmb_courses")).size()) - 1;
-    today.user.choose(QStringLiteral("cmb_courses"), last);
+    const int last = static_cast<int>(today.user.entries(u"cmb_courses"_s).size()) - 1;
+    today.user.choose(u"cmb_courses"_s, last);
 }
 
 void type_holes(day& today, const played_round& round, int first_hole, int last_hole)
 {
     for (int hole = first_hole; hole <= last_hole; ++hole) {
-        today.user.click_tab(QStringLiteral("TabStrip1"), hole);
-        today.user.same(today.user.focus(), QStringLiteral("text_vrd_0"), QStringLiteral("focus on a hole"));
+        today.user.click_tab(u"TabStrip1"_s, hole);
+        today.user.same(today.user.focus(), u"text_vrd_0"_s, u"focus on a hole"_s);
         today.user.type(round.holes.at(static_cast<std::size_t>(hole - 1)));
-        today.user.same(today.user.focus(), QStringLiteral("Command1_4"),
-                        QStringLiteral("focus after a hole"));
+        today.user.same(today.user.focus(), u"Command1_4"_s, u"focus after a hole"_s);
     }
 }
 
 void keep_costs(day& today, int fee, int meal, const QString& picture)
 {
-    today.user.click(QStringLiteral("Command2"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_cost")));
-    today.user.fill(QStringLiteral("cost_0"), QString::number(fee));
-    today.user.fill(QStringLiteral("cost_7"), QString::number(meal));
+    today.user.click(u"Command2"_s);
+    today.user.wait_for_window(today.window(u"f_cost"_s));
+    today.user.fill(u"cost_0"_s, QString::number(fee));
+    today.user.fill(u"cost_7"_s, QString::number(meal));
     if (!picture.isEmpty())
-        today.keep(QStringLiteral("f_cost"), picture);
-    today.user.click(QStringLiteral("OKButton"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_cost")));
-    today.user.same(today.user.text(QStringLiteral("text_7")), QString::number(fee + meal),
-                    QStringLiteral("costs of the round"));
+        today.keep(u"f_cost"_s, picture);
+    today.user.click(u"OKButton"_s);
+    today.user.wait_until_gone(today.window(u"f_cost"_s));
+    today.user.same(today.user.text(u"text_7"_s), QString::number(fee + meal), u"costs of the round"_s);
 }
 
 void tee_off(day& today, const QString& hours, const QString& minutes, const QString& seconds,
              const QString& picture)
 {
-    today.user.wait_for_window(QStringLiteral("f_get_date"));
-    today.user.fill(QStringLiteral("Text1"), hours);
-    today.user.fill(QStringLiteral("Text2"), minutes);
-    today.user.fill(QStringLiteral("Text3"), seconds);
+    today.user.wait_for_window(u"f_get_date"_s);
+    today.user.fill(u"Text1"_s, hours);
+    today.user.fill(u"Text2"_s, minutes);
+    today.user.fill(u"Text3"_s, seconds);
     if (!picture.isEmpty())
-        today.pictures.keep(today.user, QStringLiteral("f_get_date"), today.twin(picture));
-    today.user.click(QStringLiteral("OKbut"));
+        today.pictures.keep(today.user, u"f_get_date"_s, today.twin(picture));
+    today.user.click(u"OKbut"_s);
     today.answer(
         u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",
         u"You will not be able to change this date afterwards. Do you want to use this date and time? ",
         QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
-    today.user.wait_until_gone(QStringLiteral("f_get_date"));
+    today.user.wait_until_gone(u"f_get_date"_s);
 }
 
 }  // namespace verdane::guided_day

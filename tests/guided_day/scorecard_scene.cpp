@@ -3,6 +3,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The course with the longest name is the one that might not fit.
@@ -21,19 +23,19 @@ int row_of_longest_name(const QStringList& lines)
 
 void print_scorecard(visit& now)
 {
-    now.user.menu(QStringLiteral("mCarte"));
-    now.user.wait_for_window(now.window(QStringLiteral("f_carte")));
-    const int row = row_of_longest_name(now.user.entries(QStringLiteral("List1")));
-    now.user.click_row(QStringLiteral("List1"), row);
-    now.keep(QStringLiteral("f_carte"), QStringLiteral("f_carte"));
-    now.user.click(QStringLiteral("Command1_0"));
-    keep_report(now, QStringLiteral("card"));
-    now.user.same(now.store.number(QStringLiteral("select count(*) from r_card where card_name in "
-                                                  "(select name from vrd_fields) and card_club_1 = "
-                                                  "(select avg_1 from sticks)")),
-                  2, QStringLiteral("lines of the scorecard"));
-    now.user.click(QStringLiteral("Command1_1"));
-    now.user.wait_until_gone(now.window(QStringLiteral("f_carte")));
+    now.user.menu(u"mCarte"_s);
+    now.user.wait_for_window(now.window(u"f_carte"_s));
+    const int row = row_of_longest_name(now.user.entries(u"List1"_s));
+    now.user.click_row(u"List1"_s, row);
+    now.keep(u"f_carte"_s, u"f_carte"_s);
+    now.user.click(u"Command1_0"_s);
+    keep_report(now, u"card"_s);
+    now.user.same(now.store.number(u"select count(*) from r_card where card_name in "
+                                   u"(select name from vrd_fields) and card_club_1 = "
+                                   u"(select avg_1 from sticks)"_s),
+                  2, u"lines of the scorecard"_s);
+    now.user.click(u"Command1_1"_s);
+    now.user.wait_until_gone(now.window(u"f_carte"_s));
 }
 
 }  // namespace verdane::guided_day

@@ -8,6 +8,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The kit plays its rounds day after day from 1 January 2023 on; nobody would call that a season.
@@ -15,11 +17,10 @@ QStringList spread_over_the_year()
 {
     QStringList statements;
     for (const char* table : {"games", "games2", "cost", "Stat_rounds"}) {
-        statements << QStringLiteral(
-                          "update %1 set date = strftime('%Y%m%d', '2025-04-15', (5 * (julianday("
-                          "substr(date, 1, 4) || '-' || substr(date, 5, 2) || '-' || substr(date, 7, 2)) "
-                          "- julianday('2023-01-01'))) || ' days') || substr(date, 9)")
-                          .arg(QLatin1String(table));
+        statements << u"update %1 set date = strftime('%Y%m%d', '2025-04-15', (5 * (julianday("
+                      u"substr(date, 1, 4) || '-' || substr(date, 5, 2) || '-' || substr(date, 7, 2)) "
+                      u"- julianday('2023-01-01'))) || ' days') || substr(date, 9)"_s.arg(
+                          QLatin1String(table));
     }
     return statements;
 }
@@ -29,8 +30,7 @@ QStringList named_tees()
 {
     QStringList statements;
     for (const testing::scorecard& card : testing::published_scorecards()) {
-        statements << QStringLiteral("update vrd_fields set tee = '%1' where code like '%-%2'")
-                          .arg(card.tee.toUpper())
+        statements << u"update vrd_fields set tee = '%1' where code like '%-%2'"_s.arg(card.tee.toUpper())
                           .arg(testing::tee_code(card.tee));
     }
     return statements;

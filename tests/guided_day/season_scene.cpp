@@ -5,6 +5,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A statistic: its entry in the menu, the button that runs it and the table of its report.
@@ -17,29 +19,25 @@ struct statistic {
 
 const std::array<statistic, 4>& statistics()
 {
-    static const std::array<statistic, 4> all{{{QStringLiteral("clubs"), QStringLiteral("mnStabat"),
-                                                QStringLiteral("Command1"), QStringLiteral("stat_sticks")},
-                                               {QStringLiteral("putts"), QStringLiteral("mnStatcr"),
-                                                QStringLiteral("OKButton"), QStringLiteral("s_put1")},
-                                               {QStringLiteral("rounds"), QStringLiteral("mnstatr"),
-                                                QStringLiteral("Command2"), QStringLiteral("stats")},
-                                               {QStringLiteral("costs"), QStringLiteral("mncouts"),
-                                                QStringLiteral("Command3"), QStringLiteral("r_cost")}}};
+    static const std::array<statistic, 4> all{{{u"clubs"_s, u"mnStabat"_s, u"Command1"_s, u"stat_sticks"_s},
+                                               {u"putts"_s, u"mnStatcr"_s, u"OKButton"_s, u"s_put1"_s},
+                                               {u"rounds"_s, u"mnstatr"_s, u"Command2"_s, u"stats"_s},
+                                               {u"costs"_s, u"mncouts"_s, u"Command3"_s, u"r_cost"_s}}};
     return all;
 }
 
 void print(visit& now, const statistic& one)
 {
     now.user.menu(one.menu);
-    now.user.wait_for_window(now.window(QStringLiteral("f_date_range")));
+    now.user.wait_for_window(now.window(u"f_date_range"_s));
     choose_season(now);
-    now.keep(QStringLiteral("f_date_range"), u"f_date_range_" + one.name);
+    now.keep(u"f_date_range"_s, u"f_date_range_" + one.name);
     now.user.click(one.button);
     keep_report(now, one.name);
-    now.user.same(now.store.number(QStringLiteral("select round_count from %1 limit 1").arg(one.table)),
-                  rounds_of_season, u"rounds in the report on " + one.name);
-    now.user.click(QStringLiteral("CancelButton"));
-    now.user.wait_until_gone(now.window(QStringLiteral("f_date_range")));
+    now.user.same(now.store.number(u"select round_count from %1 limit 1"_s.arg(one.table)), rounds_of_season,
+                  u"rounds in the report on " + one.name);
+    now.user.click(u"CancelButton"_s);
+    now.user.wait_until_gone(now.window(u"f_date_range"_s));
 }
 
 }  // namespace

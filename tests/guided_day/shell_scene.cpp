@@ -3,18 +3,20 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 void choose_first_language(day& today)
 {
-    today.user.wait_for_window(QStringLiteral("f_lang"));
-    today.pictures.keep(today.user, QStringLiteral("f_lang"), QStringLiteral("f_lang"));
-    today.user.click(today.french ? QStringLiteral("Command1_1") : QStringLiteral("Command1_0"));
-    today.user.wait_for_window(QStringLiteral("MainForm"));
+    today.user.wait_for_window(u"f_lang"_s);
+    today.pictures.keep(today.user, u"f_lang"_s, u"f_lang"_s);
+    today.user.click(today.french ? u"Command1_1"_s : u"Command1_0"_s);
+    today.user.wait_for_window(u"MainForm"_s);
 }
 
 void change_language(visit& now)
 {
-    now.user.menu(now.french ? QStringLiteral("mfr") : QStringLiteral("mEn"));
-    now.user.wait_until(QStringLiteral("the title in the new language"), [&] {
+    now.user.menu(now.french ? u"mfr"_s : u"mEn"_s);
+    now.user.wait_until(u"the title in the new language"_s, [&] {
         return main_frame()->frame_widget()->windowTitle() ==
                now.words(u"Verdane pour PC version 1.4", u"Verdane for PC version 1.4");
     });
@@ -22,17 +24,17 @@ void change_language(visit& now)
 
 void look_around(day& today)
 {
-    today.pictures.keep(today.user, QStringLiteral("MainForm"), today.twin(QStringLiteral("main")));
-    today.user.menu(QStringLiteral("maprop"));
-    today.keep(QStringLiteral("f_about"), QStringLiteral("f_about"));
-    today.user.click(QStringLiteral("cmdOK"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_about")));
+    today.pictures.keep(today.user, u"MainForm"_s, today.twin(u"main"_s));
+    today.user.menu(u"maprop"_s);
+    today.keep(u"f_about"_s, u"f_about"_s);
+    today.user.click(u"cmdOK"_s);
+    today.user.wait_until_gone(today.window(u"f_about"_s));
 }
 
 void leave_program(visit& now)
 {
-    now.user.menu(QStringLiteral("mQuit"));
-    now.user.wait_until_gone(QStringLiteral("MainForm"));
+    now.user.menu(u"mQuit"_s);
+    now.user.wait_until_gone(u"MainForm"_s);
 }
 
 }  // namespace verdane::guided_day

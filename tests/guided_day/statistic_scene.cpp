@@ -3,32 +3,34 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The statistic over this day's round alone: it stands last in both lists.
 void choose_round(day& today)
 {
-    const int last = static_cast<int>(today.user.entries(QStringLiteral("List1")).size()) - 1;
-    today.user.click_row(QStringLiteral("List1"), last);
-    today.user.click_row(QStringLiteral("List2"), last);
+    const int last = static_cast<int>(today.user.entries(u"List1"_s).size()) - 1;
+    today.user.click_row(u"List1"_s, last);
+    today.user.click_row(u"List2"_s, last);
 }
 
 }  // namespace
 
 void print_statistic(day& today)
 {
-    today.user.menu(QStringLiteral("mnstatr"));
-    today.user.wait_for_window(today.window(QStringLiteral("f_date_range")));
+    today.user.menu(u"mnstatr"_s);
+    today.user.wait_for_window(today.window(u"f_date_range"_s));
     choose_round(today);
-    today.keep(QStringLiteral("f_date_range"), QStringLiteral("f_date_range_day"));
-    today.user.click(QStringLiteral("Command2"));
+    today.keep(u"f_date_range"_s, u"f_date_range_day"_s);
+    today.user.click(u"Command2"_s);
     today.answer(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies. Faite OK pour "
                  u"vérifier si des statistiques sommaires existent.",
                  u"Verdane could not find any detailed rounds with the chosen parameters. Click on OK to "
                  u"calculate summary statistics.");
-    keep_report(today, QStringLiteral("day"));
-    today.user.click(QStringLiteral("CancelButton"));
-    today.user.wait_until_gone(today.window(QStringLiteral("f_date_range")));
+    keep_report(today, u"day"_s);
+    today.user.click(u"CancelButton"_s);
+    today.user.wait_until_gone(today.window(u"f_date_range"_s));
 }
 
 }  // namespace verdane::guided_day

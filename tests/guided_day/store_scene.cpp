@@ -2,6 +2,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The columns of a hole in the order in which the quick page takes its figures.
@@ -19,28 +21,26 @@ QStringList columns_of(int hole)
 
 void check_round(const day& today, const played_round& round)
 {
-    const QString from =
-        QStringLiteral(" from games join games2 using (date) where date = '%1'").arg(round.key());
-    today.user.same(today.store.number(u"select count(*)" + from), 1, QStringLiteral("rows of the round"));
+    const QString from = u" from games join games2 using (date) where date = '%1'"_s.arg(round.key());
+    today.user.same(today.store.number(u"select count(*)" + from), 1, u"rows of the round"_s);
     for (int hole = 1; hole <= 18; ++hole) {
         const QString figures = today.store.text(u"select " + columns_of(hole).join(u" || ") + from);
         today.user.same(figures, round.holes.at(static_cast<std::size_t>(hole - 1)),
-                        QStringLiteral("stored figures of hole %1").arg(hole));
+                        u"stored figures of hole %1"_s.arg(hole));
     }
-    today.user.same(today.store.text(u"select field" + from), today.card.name,
-                    QStringLiteral("course of the round"));
+    today.user.same(today.store.text(u"select field" + from), today.card.name, u"course of the round"_s);
 }
 
 void check_store(day& today)
 {
     check_round(today, today.round);
-    const QString where = QStringLiteral(" where date = '%1'").arg(today.round.key());
+    const QString where = u" where date = '%1'"_s.arg(today.round.key());
     today.user.same(today.store.number(u"select fg * 1000 + nrt from cost" + where), 85020,
-                    QStringLiteral("costs of the round"));
+                    u"costs of the round"_s);
     today.user.same(today.store.number(u"select conditionM from games2" + where), today.french ? 1 : 3,
-                    QStringLiteral("weather of the round"));
-    today.user.same(today.store.number(QStringLiteral("select all_holes from stats where rowid = 1")),
-                    today.round.gross(), QStringLiteral("strokes in the report"));
+                    u"weather of the round"_s);
+    today.user.same(today.store.number(u"select all_holes from stats where rowid = 1"_s), today.round.gross(),
+                    u"strokes in the report"_s);
 }
 
 }  // namespace verdane::guided_day

@@ -10,6 +10,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 /// The program in one language: who uses it, what is seen, where it is kept.
 struct visit {
     bool french;
@@ -32,7 +34,7 @@ struct visit {
     void answer(QStringView in_french, QStringView in_english, QMessageBox::Icon icon = QMessageBox::NoIcon,
                 QMessageBox::StandardButtons buttons = QMessageBox::Ok,
                 QMessageBox::StandardButton answer = QMessageBox::Ok,
-                const QString& title = QStringLiteral("Verdane")) const
+                const QString& title = u"Verdane"_s) const
     {
         user.answer({words(in_french, in_english), icon, title, buttons}, answer);
     }

@@ -4,6 +4,8 @@
 
 namespace verdane::guided_day {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The windows of a day of golf.
@@ -24,18 +26,18 @@ const char* const reports = "day round_putts card clubs putts rounds costs";
 void add(QStringList& files, const char* names, const QString& pattern)
 {
     for (const QString& name : QString::fromLatin1(names).split(u' ')) {
-        for (const QString& twin : {QStringLiteral("fr"), QStringLiteral("en")})
+        for (const QString& twin : {u"fr"_s, u"en"_s})
             files << pattern.arg(name, twin);
     }
 }
 
 QStringList expected_files()
 {
-    QStringList files{QStringLiteral("f_lang.png")};
-    add(files, pictures_of_a_day, QStringLiteral("%1_%2.png"));
-    add(files, pictures_of_a_season, QStringLiteral("%1_%2.png"));
-    add(files, reports, QStringLiteral("report_%1_%2.pdf"));
-    add(files, reports, QStringLiteral("report_%1_%2.csv"));
+    QStringList files{u"f_lang.png"_s};
+    add(files, pictures_of_a_day, u"%1_%2.png"_s);
+    add(files, pictures_of_a_season, u"%1_%2.png"_s);
+    add(files, reports, u"report_%1_%2.pdf"_s);
+    add(files, reports, u"report_%1_%2.csv"_s);
     return files;
 }
 

@@ -8,6 +8,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int holes_of_a_round = 18;
@@ -22,11 +24,11 @@ QString trouble_with_shots(const stored_hole& now, const stored_hole& old, const
 {
     const bool begun = is_start_of(now.shots, words.telling_shots);
     if (!begun && !is_rest_of(now.shots, old.shots))
-        return QStringLiteral("the shots are neither old nor new");
+        return u"the shots are neither old nor new"_s;
     if (words.shots_told > 0 && (!begun || static_cast<int>(now.shots.size()) <= words.shots_told))
-        return QStringLiteral("a shot that was told is lost");
+        return u"a shot that was told is lost"_s;
     if (!same_figures(now, old) && now.shots != outcome_of(words.telling_shots).shots)
-        return QStringLiteral("the figures are new and the shots are not");
+        return u"the figures are new and the shots are not"_s;
     return {};
 }
 
@@ -47,10 +49,10 @@ QString trouble_under_way(const stored_hole& now, const stored_hole& old, const 
         std::transform(words.typing_figures.begin(), words.typing_figures.end(), wanted.figures.begin(),
                        [](QChar digit) { return digit.digitValue(); });
     if (!same_figures(now, old) && !same_figures(now, wanted))
-        return QStringLiteral("the figures are neither the old nor the new ones");
+        return u"the figures are neither the old nor the new ones"_s;
     if (words.telling != 0)
         return trouble_with_shots(now, old, words);
-    return now.shots == old.shots ? QString() : QStringLiteral("the quick page changed a shot");
+    return now.shots == old.shots ? QString() : u"the quick page changed a shot"_s;
 }
 
 }  // namespace
@@ -85,10 +87,9 @@ QString kept_round::compare(const last_words& words)
         if (number == under_way)
             trouble = trouble_under_way(now, hole(number), words);
         else if (now != hole(number) && !was_only_opened(now, hole(number)))
-            trouble = QStringLiteral("it is not as it was left");
+            trouble = u"it is not as it was left"_s;
         if (!trouble.isEmpty())
-            troubles << QStringLiteral("hole %1: %2; stored %3, expected %4, told %5 of %6")
-                            .arg(number)
+            troubles << u"hole %1: %2; stored %3, expected %4, told %5 of %6"_s.arg(number)
                             .arg(trouble, described(now), described(hole(number)))
                             .arg(words.shots_told)
                             .arg(word_of(words.telling_shots));

@@ -4,6 +4,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void say(const QString& line)
@@ -43,22 +45,22 @@ void hear(last_words& words, const QStringList& parts)
 
 void say_typed(int hole, const QString& figures)
 {
-    say(QStringLiteral("typed %1 %2").arg(hole).arg(figures));
+    say(u"typed %1 %2"_s.arg(hole).arg(figures));
 }
 
 void say_telling(int hole, const told_hole& shots)
 {
-    say(QStringLiteral("telling %1 %2").arg(hole).arg(word_of(shots)));
+    say(u"telling %1 %2"_s.arg(hole).arg(word_of(shots)));
 }
 
 void say_told(int hole, int shot)
 {
-    say(QStringLiteral("told %1 %2").arg(hole).arg(shot));
+    say(u"told %1 %2"_s.arg(hole).arg(shot));
 }
 
 void say_left(int hole)
 {
-    say(QStringLiteral("left %1").arg(hole));
+    say(u"left %1"_s.arg(hole));
 }
 
 bool is_under_way(const QByteArray& said)

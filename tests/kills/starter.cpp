@@ -11,33 +11,34 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString hole_tabs = QStringLiteral("TabStrip1");
+const QString hole_tabs = u"TabStrip1"_s;
 
 /// Every round is teed off in a minute of its own.
 void tee_off(hand& user, int round)
 {
-    user.menu(QStringLiteral("mOpen"));
-    user.wait_for_window(QStringLiteral("f_get_date"));
-    user.fill(QStringLiteral("Text1"), QString::number(round / 60));
-    user.fill(QStringLiteral("Text2"), QString::number(round % 60));
-    user.fill(QStringLiteral("Text3"), QStringLiteral("0"));
-    user.click(QStringLiteral("OKbut"));
+    user.menu(u"mOpen"_s);
+    user.wait_for_window(u"f_get_date"_s);
+    user.fill(u"Text1"_s, QString::number(round / 60));
+    user.fill(u"Text2"_s, QString::number(round % 60));
+    user.fill(u"Text3"_s, u"0"_s);
+    user.click(u"OKbut"_s);
     user.answer(
         {in_language(u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",
                      u"You will not be able to change this date afterwards. Do you want to use this date and "
                      u"time? "),
-         QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Yes | QMessageBox::No},
+         QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Yes | QMessageBox::No},
         QMessageBox::Yes);
     user.wait_for_window(round_window_name());
-    user.wait_until(QStringLiteral("the first box"),
-                    [&user] { return user.focus() == QStringLiteral("text_vrd_0"); });
+    user.wait_until(u"the first box"_s, [&user] { return user.focus() == u"text_vrd_0"_s; });
 }
 
 void enter_first_shots(hand& user)
 {
-    const QString pages = QStringLiteral("TabStrip2");
+    const QString pages = u"TabStrip2"_s;
     user.click_tab(pages, 2);
     enter_shots(user, 1, first_shots());
     user.click_tab(hole_tabs, 2);
@@ -61,8 +62,8 @@ void enter_round(hand& user, int round)
     tee_off(user, round);
     for (const int hole : {1, 2})
         enter_hole(user, round, hole);
-    user.click(QStringLiteral("Command1_4"));
-    user.wait_for_window(QStringLiteral("MainForm"));
+    user.click(u"Command1_4"_s);
+    user.wait_for_window(u"MainForm"_s);
 }
 
 }  // namespace
@@ -74,12 +75,12 @@ bool starts_with_shots(int round)
 
 told_hole first_shots()
 {
-    return hole_of(QStringLiteral("1,200,1,2,0,0;9,10,2,1,0,0;14,0,3,1,0,0"));
+    return hole_of(u"1,200,1,2,0,0;9,10,2,1,0,0;14,0,3,1,0,0"_s);
 }
 
 QString time_of_round(int round)
 {
-    const QString hour_and_minute = QStringLiteral("%1%2");
+    const QString hour_and_minute = u"%1%2"_s;
     return hour_and_minute.arg(round / 60, 2, 10, QChar(u'0')).arg(round % 60, 2, 10, QChar(u'0')) + u"00";
 }
 
@@ -101,7 +102,7 @@ int be_the_starter(int first_round)
     int status = -1;
     play([&] { status = run_verdane(*qApp); },
          [first_round](hand& user) {
-             user.wait_for_window(QStringLiteral("MainForm"));
+             user.wait_for_window(u"MainForm"_s);
              std::printf("ready\n");
              std::fflush(stdout);
              for (int round = first_round; round < first_round + rounds_of_a_run; ++round)

@@ -8,8 +8,10 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 /// What is typed into the eleven boxes of a hole, unless its shots are entered.
-inline const QString figures_of_new_rounds = QStringLiteral("12345678123");
+inline const QString figures_of_new_rounds = u"12345678123"_s;
 
 /// The first hole of every second round is entered shot by shot: its shots are stored before its round is.
 bool starts_with_shots(int round);

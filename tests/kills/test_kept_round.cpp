@@ -8,67 +8,58 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 /// What judges a killed program is tried on stores that were written by hand.
 namespace {
 
-const QString drive_pitch_two_putts = QStringLiteral("1,200,1,1,0,0;9,10,2,2,1,1;14,4,3,1,0,0;14,0,3,1,0,0");
-const QString two_woods_and_a_chip = QStringLiteral("3,150,1,1,0,0;3,20,1,3,0,0;12,0,2,1,0,0");
+const QString drive_pitch_two_putts = u"1,200,1,1,0,0;9,10,2,2,1,1;14,4,3,1,0,0;14,0,3,1,0,0"_s;
+const QString two_woods_and_a_chip = u"3,150,1,1,0,0;3,20,1,3,0,0;12,0,2,1,0,0"_s;
 constexpr int the_hole = 5;
 
 QString assignments(const QStringList& columns, const std::vector<int>& values)
 {
     QStringList pieces;
     for (int i = 0; i < columns.size(); ++i)
-        pieces << QStringLiteral("%1%2 = %3")
-                      .arg(columns[i])
-                      .arg(the_hole)
-                      .arg(values[static_cast<std::size_t>(i)]);
+        pieces << u"%1%2 = %3"_s.arg(columns[i]).arg(the_hole).arg(values[static_cast<std::size_t>(i)]);
     return pieces.join(u", ");
 }
 
 void put_strokes(const reader& store, const stored_hole& hole)
 {
     const auto& f = hole.figures;
-    store.write(
-        u"update games set " +
-        assignments({QStringLiteral("long_"), QStringLiteral("approach_"), QStringLiteral("putt_"),
-                     QStringLiteral("missed_"), QStringLiteral("pen_water_"), QStringLiteral("pen_lost_"),
-                     QStringLiteral("pen_rule_"), QStringLiteral("pen_bounds_")},
-                    {f[0], f[1], f[2], f[5], f[7], f[8], f[9], f[10]}));
+    store.write(u"update games set " +
+                assignments({u"long_"_s, u"approach_"_s, u"putt_"_s, u"missed_"_s, u"pen_water_"_s,
+                             u"pen_lost_"_s, u"pen_rule_"_s, u"pen_bounds_"_s},
+                            {f[0], f[1], f[2], f[5], f[7], f[8], f[9], f[10]}));
 }
 
 void put_situation(const reader& store, const stored_hole& hole)
 {
     const auto& f = hole.figures;
-    store.write(u"update games2 set " + assignments({QStringLiteral("fairway_"), QStringLiteral("sand_"),
-                                                     QStringLiteral("recovery_")},
-                                                    {f[3], f[4], f[6]}));
+    store.write(u"update games2 set " +
+                assignments({u"fairway_"_s, u"sand_"_s, u"recovery_"_s}, {f[3], f[4], f[6]}));
     QStringList lengths;
     for (int putt = 1; putt <= putts_of_a_hole; ++putt)
-        lengths << QStringLiteral("putt_len_%1_%2 = %3")
-                       .arg(the_hole)
-                       .arg(putt)
-                       .arg(hole.putts[static_cast<std::size_t>(putt) - 1]);
+        lengths << u"putt_len_%1_%2 = %3"_s.arg(the_hole).arg(putt).arg(
+            hole.putts[static_cast<std::size_t>(putt) - 1]);
     store.write(u"update games2 set " + lengths.join(u", "));
 }
 
 /// The first so many shots of the hole, in place of those that are there.
 void put_shots(const reader& store, const stored_hole& hole, int count)
 {
-    QStringList statements{QStringLiteral("delete from Stat_rounds")};
+    QStringList statements{u"delete from Stat_rounds"_s};
     for (int i = 0; i < count; ++i) {
         const stored_shot& shot = hole.shots[static_cast<std::size_t>(i)];
-        statements << QStringLiteral(
-                          "insert into Stat_rounds (date, hole, shot, stickval, shot_type_value, "
-                          "after, unit, fairval, penval, ts) values ('20260614093000', %1, %2, %3, "
-                          "%4, %5, '%6', %7, %8, %9)")
-                          .arg(the_hole)
+        statements << u"insert into Stat_rounds (date, hole, shot, stickval, shot_type_value, "
+                      u"after, unit, fairval, penval, ts) values ('20260614093000', %1, %2, %3, "
+                      u"%4, %5, '%6', %7, %8, %9)"_s.arg(the_hole)
                           .arg(shot.number)
                           .arg(shot.club)
                           .arg(shot.kind)
                           .arg(shot.after)
-                          .arg(shot.in_feet ? QStringLiteral("Feets") : QStringLiteral("Verges"))
+                          .arg(shot.in_feet ? u"Feets"_s : u"Verges"_s)
                           .arg(shot.position)
                           .arg(shot.penalty)
                           .arg(shot.sand ? 1 : 0);
@@ -118,8 +109,8 @@ void lawful_stores()
     QTest::newRow("told to the end, not left")
         << told_all << change([](const reader& s) { put_shots(s, new_hole(), 4); });
     QTest::newRow("another hole was opened") << telling << change([](const reader& s) {
-        s.write(QStringLiteral("insert into Stat_rounds (date, hole, shot, fairval) values "
-                               "('20260614093000', 6, 1, 1)"));
+        s.write(u"insert into Stat_rounds (date, hole, shot, fairval) values "
+                u"('20260614093000', 6, 1, 1)"_s);
     });
     QTest::newRow("typed, and committed") << typed << change([](const reader& s) {
         stored_hole ones = old_hole();
@@ -140,16 +131,15 @@ void unlawful_stores()
         << left << change([](const reader& s) { put_shots(s, new_hole(), 4); });
     QTest::newRow("left, and the putts are old") << left << change([](const reader& s) {
         put_hole(s, new_hole());
-        s.write(QStringLiteral("update games2 set putt_len_5_2 = 0"));
+        s.write(u"update games2 set putt_len_5_2 = 0"_s);
     });
     QTest::newRow("a shot that was told is lost")
         << told_two << change([](const reader& s) { put_shots(s, new_hole(), 2); });
     QTest::newRow("a shot in the middle is taken away")
-        << telling
-        << change([](const reader& s) { s.write(QStringLiteral("delete from Stat_rounds where shot = 2")); });
+        << telling << change([](const reader& s) { s.write(u"delete from Stat_rounds where shot = 2"_s); });
     QTest::newRow("a told shot is half there") << told_two << change([](const reader& s) {
         put_shots(s, new_hole(), 3);
-        s.write(QStringLiteral("update Stat_rounds set shot_type_value = null where shot = 1"));
+        s.write(u"update Stat_rounds set shot_type_value = null where shot = 1"_s);
     });
     QTest::newRow("the figures are new before the shots are") << told_two << change([](const reader& s) {
         put_shots(s, new_hole(), 3);
@@ -157,7 +147,7 @@ void unlawful_stores()
     });
     QTest::newRow("a table is half new") << told_all << change([](const reader& s) {
         put_shots(s, new_hole(), 4);
-        s.write(QStringLiteral("update games set putt_5 = 2"));
+        s.write(u"update games set putt_5 = 2"_s);
     });
     QTest::newRow("one table is new, the other old") << told_all << change([](const reader& s) {
         put_shots(s, new_hole(), 4);
@@ -170,14 +160,12 @@ void unlawful_stores()
     });
     QTest::newRow("the figures are new, the putts old") << told_all << change([](const reader& s) {
         put_hole(s, new_hole());
-        s.write(QStringLiteral("update games2 set putt_len_5_1 = 0, putt_len_5_2 = 0"));
+        s.write(u"update games2 set putt_len_5_1 = 0, putt_len_5_2 = 0"_s);
     });
     QTest::newRow("another hole has changed")
-        << told_all
-        << change([](const reader& s) { s.write(QStringLiteral("update games set putt_9 = 2")); });
+        << told_all << change([](const reader& s) { s.write(u"update games set putt_9 = 2"_s); });
     QTest::newRow("a typed table is half new")
-        << typed
-        << change([](const reader& s) { s.write(QStringLiteral("update games set pen_rule_5 = 1")); });
+        << typed << change([](const reader& s) { s.write(u"update games set pen_rule_5 = 1"_s); });
     QTest::newRow("typing has touched a shot")
         << typed << change([](const reader& s) { put_shots(s, old_hole(), 2); });
 }

@@ -20,6 +20,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,9 +41,7 @@ QStringList a_bag_of_clubs()
 {
     QStringList names;
     for (int club = 1; club <= 14; ++club)
-        names << QStringLiteral("club_%1 = '%2'")
-                     .arg(club)
-                     .arg(club == 14 ? QStringLiteral("Pu") : QStringLiteral("C%1").arg(club));
+        names << u"club_%1 = '%2'"_s.arg(club).arg(club == 14 ? u"Pu"_s : u"C%1"_s.arg(club));
     return {u"update sticknames set " + names.join(u", ")};
 }
 
@@ -70,7 +69,7 @@ QByteArray said_until_killed(const QStringList& arguments, int life_ms,
 
 last_words killed_after(bool detailed, int life_ms, quint32 seed)
 {
-    const QString role = detailed ? QStringLiteral("--teller") : QStringLiteral("--typist");
+    const QString role = detailed ? u"--teller"_s : u"--typist"_s;
     return understood(said_until_killed({role, QString::number(seed)}, life_ms, is_under_way));
 }
 
@@ -78,9 +77,9 @@ last_words killed_after(bool detailed, int life_ms, quint32 seed)
 QMap<QString, QString> figures_of_rounds(const reader& store, int hole)
 {
     QMap<QString, QString> figures;
-    const QString columns = QStringLiteral(
-        "substr(date, 9), long_%1, approach_%1, putt_%1, fairway_%1, sand_%1, missed_%1, recovery_%1, "
-        "pen_water_%1, pen_lost_%1, pen_rule_%1, pen_bounds_%1");
+    const QString columns =
+        u"substr(date, 9), long_%1, approach_%1, putt_%1, fairway_%1, sand_%1, missed_%1, recovery_%1, "
+        u"pen_water_%1, pen_lost_%1, pen_rule_%1, pen_bounds_%1"_s;
     for (const auto& row :
          store.rows(u"select " + columns.arg(hole) + u" from games join games2 using (date)")) {
         QString& typed = figures[row[0].toString()];
@@ -128,11 +127,11 @@ private Q_SLOTS:
         int left_by_telling = 0;
         for (int kill = 0; kill < kills; ++kill) {
             const bool detailed = kill % 2 == 1;
-            run.store().write(QStringLiteral("update settings set language = %1").arg(1 + random.bounded(2)));
+            run.store().write(u"update settings set language = %1"_s.arg(1 + random.bounded(2)));
             const int life_ms = random.bounded(longest_life_ms);
             const last_words words = killed_after(detailed, life_ms, random.generate());
             (detailed ? left_by_telling : left_by_typing) += words.holes_left();
-            QCOMPARE(run.store().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+            QCOMPARE(run.store().text(u"pragma integrity_check"_s), u"ok"_s);
             QCOMPARE(broken_invariants(run.store()), QStringList());
             QCOMPARE(kept.compare(words), QString());
             start_again_and_look(run, kept, words);
@@ -152,11 +151,10 @@ private Q_SLOTS:
         std::size_t holes_left = 0;
         for (int kill = 0; kill < kills; ++kill) {
             const int first_round = kill * rounds_of_a_run;
-            const QByteArray said =
-                said_until_killed({QStringLiteral("--starter"), QString::number(first_round)},
-                                  random.bounded(longest_life_of_starter_ms),
-                                  [](const QByteArray& words) { return words.contains("ready"); });
-            QCOMPARE(run.store().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+            const QByteArray said = said_until_killed(
+                {u"--starter"_s, QString::number(first_round)}, random.bounded(longest_life_of_starter_ms),
+                [](const QByteArray& words) { return words.contains("ready"); });
+            QCOMPARE(run.store().text(u"pragma integrity_check"_s), u"ok"_s);
             QCOMPARE(broken_invariants_of_new_rounds(run.store()), QStringList());
             const std::vector<left_hole> left = left_holes(said);
             holes_left += left.size();
@@ -197,23 +195,21 @@ private:
             hole = words.told.lastKey();
         const int status = run.play_through([&](hand& user) {
             open_the_round(user);
-            user.click_tab(QStringLiteral("TabStrip1"), hole);
+            user.click_tab(u"TabStrip1"_s, hole);
             look_at_boxes(user, kept.hole(hole));
             if (kept.is_told(hole))
                 look_at_shots(user, kept.hole(hole).shots);
             leave_unchanged(user);
-            user.menu(QStringLiteral("mQuit"));
+            user.menu(u"mQuit"_s);
         });
         QCOMPARE(status, 0);
     }
 
     static void look_at_boxes(hand& user, const stored_hole& hole)
     {
-        const QStringList boxes{
-            QStringLiteral("text_vrd_0"), QStringLiteral("text_vrd_1"), QStringLiteral("text_vrd_2"),
-            QStringLiteral("text_p_3"),   QStringLiteral("text_p_4"),   QStringLiteral("text_p_5"),
-            QStringLiteral("text_p_6"),   QStringLiteral("text_s_8"),   QStringLiteral("text_s_9"),
-            QStringLiteral("text_s_10"),  QStringLiteral("text_s_11")};
+        const QStringList boxes{u"text_vrd_0"_s, u"text_vrd_1"_s, u"text_vrd_2"_s, u"text_p_3"_s,
+                                u"text_p_4"_s,   u"text_p_5"_s,   u"text_p_6"_s,   u"text_s_8"_s,
+                                u"text_s_9"_s,   u"text_s_10"_s,  u"text_s_11"_s};
         for (int place = 0; place < figures_of_a_hole; ++place)
             user.same(user.text(boxes[place]), QString::number(hole.figures[static_cast<std::size_t>(place)]),
                       boxes[place]);
@@ -221,17 +217,17 @@ private:
 
     static void look_at_shots(hand& user, const stored_shots& shots)
     {
-        const QString grid = QStringLiteral("details");
-        user.click_tab(QStringLiteral("TabStrip2"), 2);
-        user.same(user.grid_rows(grid), static_cast<int>(shots.size()), QStringLiteral("shots"));
+        const QString grid = u"details"_s;
+        user.click_tab(u"TabStrip2"_s, 2);
+        user.same(user.grid_rows(grid), static_cast<int>(shots.size()), u"shots"_s);
         for (int row = 0; row < static_cast<int>(shots.size()); ++row)
             user.same(user.cell(grid, row, 3), QString::number(shots[static_cast<std::size_t>(row)].after),
-                      QStringLiteral("distance"));
+                      u"distance"_s);
     }
 
     static void leave_unchanged(hand& user)
     {
-        user.click(QStringLiteral("Command1_2"));
+        user.click(u"Command1_2"_s);
         user.answer({in_language(u"Voulez vous enregistrer les modifications avant de sortir ? ",
                                  u"Do you want to save your changes prior to exit?"),
                      QMessageBox::NoIcon, QString(),

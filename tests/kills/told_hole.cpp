@@ -8,6 +8,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int feet_in_a_yard = 3;
@@ -98,19 +100,18 @@ QStringList figure_columns(int hole)
     for (const char* name :
          {"games.long_", "games.approach_", "games.putt_", "games2.fairway_", "games2.sand_", "games.missed_",
           "games2.recovery_", "games.pen_water_", "games.pen_lost_", "games.pen_rule_", "games.pen_bounds_"})
-        columns << QStringLiteral("coalesce(%1%2, 0)").arg(QLatin1String(name)).arg(hole);
+        columns << u"coalesce(%1%2, 0)"_s.arg(QLatin1String(name)).arg(hole);
     for (int length = 1; length <= putts_of_a_hole; ++length)
-        columns << QStringLiteral("coalesce(games2.putt_len_%1_%2, 0)").arg(hole).arg(length);
+        columns << u"coalesce(games2.putt_len_%1_%2, 0)"_s.arg(hole).arg(length);
     return columns;
 }
 
 stored_shots read_shots(const reader& store, int hole)
 {
     stored_shots shots;
-    const auto rows = store.rows(
-        QStringLiteral("select shot, stickval, shot_type_value, after, unit, fairval, penval, ts from "
-                       "Stat_rounds where hole = %1 order by shot")
-            .arg(hole));
+    const auto rows =
+        store.rows(u"select shot, stickval, shot_type_value, after, unit, fairval, penval, ts from "
+                   u"Stat_rounds where hole = %1 order by shot"_s.arg(hole));
     for (const auto& row : rows)
         shots.push_back({row[0].toInt(), row[1].toInt(), row[2].toInt(), row[3].toInt(),
                          is_feet_word(row[4].toString()), row[5].toInt(), row[6].toInt(), row[7].toBool()});
@@ -142,8 +143,7 @@ QString word_of(const told_hole& hole)
 {
     QStringList shots;
     for (const told_shot& shot : hole)
-        shots << QStringLiteral("%1,%2,%3,%4,%5,%6")
-                     .arg(shot.club)
+        shots << u"%1,%2,%3,%4,%5,%6"_s.arg(shot.club)
                      .arg(shot.distance)
                      .arg(shot.kind)
                      .arg(shot.position)

@@ -11,10 +11,12 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString grid = QStringLiteral("details");
-const QString hole_tabs = QStringLiteral("TabStrip1");
+const QString grid = u"details"_s;
+const QString hole_tabs = u"TabStrip1"_s;
 constexpr int last_hole = 18;
 /// The round opens on the first hole: shots of it that a kill left unfinished would keep the window open.
 constexpr int first_detailed_hole = 2;
@@ -41,9 +43,9 @@ void start_anew(hand& user)
         return;
     for (int rows = user.grid_rows(grid); rows > 0; rows = user.grid_rows(grid)) {
         user.click_cell(grid, rows - 1, column::number);
-        user.click(QStringLiteral("CommandSup"));
+        user.click(u"CommandSup"_s);
     }
-    user.click(QStringLiteral("CommandSuiv"));
+    user.click(u"CommandSuiv"_s);
 }
 
 void type_distance(hand& user, const told_shot& shot)
@@ -56,17 +58,17 @@ void type_distance(hand& user, const told_shot& shot)
 
 void tell_shot(hand& user, int row, const told_shot& shot)
 {
-    choose(user, row, column::club, QStringLiteral("ms1_%1").arg(shot.club));
+    choose(user, row, column::club, u"ms1_%1"_s.arg(shot.club));
     type_distance(user, shot);
     if (shot.kind == putt)
         return;
-    choose(user, row, column::kind, QStringLiteral("mshots_%1").arg(shot.kind));
+    choose(user, row, column::kind, u"mshots_%1"_s.arg(shot.kind));
     if (shot.position != in_the_fairway)
-        choose(user, row, column::position, QStringLiteral("ma_%1").arg(shot.position));
+        choose(user, row, column::position, u"ma_%1"_s.arg(shot.position));
     if (shot.penalty != 0)
-        choose(user, row, column::penalty, QStringLiteral("mp_%1").arg(shot.penalty));
+        choose(user, row, column::penalty, u"mp_%1"_s.arg(shot.penalty));
     if (shot.sand)
-        choose(user, row, column::sand, QStringLiteral("mb_0"));
+        choose(user, row, column::sand, u"mb_0"_s);
 }
 
 /// Behind the first putt the rows come by themselves, with the putter chosen.
@@ -81,7 +83,7 @@ void tell_hole(hand& user, int hole, const told_hole& shots)
         if (i + 1 == shots.size())
             break;
         if (shots[i].kind != putt)
-            user.click(QStringLiteral("CommandSuiv"));
+            user.click(u"CommandSuiv"_s);
         say_told(hole, static_cast<int>(i) + 1);
     }
 }
@@ -101,7 +103,7 @@ void tell_until_killed(hand& user, quint32 seed)
     QRandomGenerator random(seed);
     int hole = random.bounded(first_detailed_hole, last_hole + 1);
     user.click_tab(hole_tabs, hole);
-    user.click_tab(QStringLiteral("TabStrip2"), 2);
+    user.click_tab(u"TabStrip2"_s, 2);
     for (;;) {
         const told_hole shots = random_hole(random);
         say_telling(hole, shots);
@@ -160,10 +162,10 @@ void enter_shots(hand& user, int hole, const told_hole& shots)
 
 void open_the_round(hand& user)
 {
-    user.wait_for_window(QStringLiteral("MainForm"));
-    user.menu(QStringLiteral("mnOPenr"));
+    user.wait_for_window(u"MainForm"_s);
+    user.menu(u"mnOPenr"_s);
     user.wait_for_window(in_language(u"f_games", u"f_games_en"));
-    user.double_click_row(QStringLiteral("List1"), 0);
+    user.double_click_row(u"List1"_s, 0);
     user.wait_for_window(round_window_name());
 }
 

@@ -7,6 +7,7 @@
 #include "tests/support/store_invariants.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::broken_invariants;
 using verdane::testing::hand;
 using verdane::testing::one_course;
@@ -35,24 +36,23 @@ private Q_SLOTS:
     {
         const int steps = from_environment("VERDANE_WALK_STEPS", 3000);
         const int seed = from_environment("VERDANE_WALK_SEED", 20260614);
-        program_run run(1, one_course() + one_round(QStringLiteral("20260614093000")) +
-                               one_round(QStringLiteral("20260615093000")));
+        program_run run(1, one_course() + one_round(u"20260614093000"_s) + one_round(u"20260615093000"_s));
         int compared = 0;
         int answered = 0;
         const int status = run.play_through([&](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
+            user.wait_for_window(u"MainForm"_s);
             walker golfer(user, run.store(), static_cast<quint32>(seed));
             golfer.walk(steps);
             golfer.go_home();
             compared = golfer.holes_compared();
             answered = golfer.boxes_answered();
-            user.menu(QStringLiteral("mQuit"));
+            user.menu(u"mQuit"_s);
         });
         QCOMPARE(status, 0);
         QCOMPARE(broken_invariants(run.store()), QStringList());
-        QCOMPARE(run.store().number(QStringLiteral("select count(*) from games")), 2);
-        QVERIFY2(compared > steps / 50, qPrintable(QStringLiteral("%1 holes compared").arg(compared)));
-        QVERIFY2(answered > steps / 100, qPrintable(QStringLiteral("%1 boxes answered").arg(answered)));
+        QCOMPARE(run.store().number(u"select count(*) from games"_s), 2);
+        QVERIFY2(compared > steps / 50, qPrintable(u"%1 holes compared"_s.arg(compared)));
+        QVERIFY2(answered > steps / 100, qPrintable(u"%1 boxes answered"_s.arg(answered)));
     }
 };
 

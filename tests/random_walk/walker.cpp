@@ -17,13 +17,14 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QStringList stored_columns{
-    QStringLiteral("games.long_"),      QStringLiteral("games.approach_"),  QStringLiteral("games.putt_"),
-    QStringLiteral("games2.fairway_"),  QStringLiteral("games2.sand_"),     QStringLiteral("games.missed_"),
-    QStringLiteral("games2.recovery_"), QStringLiteral("games.pen_water_"), QStringLiteral("games.pen_lost_"),
-    QStringLiteral("games.pen_rule_"),  QStringLiteral("games.pen_bounds_")};
+const QStringList stored_columns{u"games.long_"_s,      u"games.approach_"_s,  u"games.putt_"_s,
+                                 u"games2.fairway_"_s,  u"games2.sand_"_s,     u"games.missed_"_s,
+                                 u"games2.recovery_"_s, u"games.pen_water_"_s, u"games.pen_lost_"_s,
+                                 u"games.pen_rule_"_s,  u"games.pen_bounds_"_s};
 
 f_new_round* round_window()
 {
@@ -50,7 +51,7 @@ QString walker::window_at_work()
     QString name;
     user_.look([&] {
         QWidget* modal = QApplication::activeModalWidget();
-        name = modal ? modal->objectName() : QStringLiteral("MainForm");
+        name = modal ? modal->objectName() : u"MainForm"_s;
     });
     return name.endsWith(u"_en") ? name.chopped(3) : name;
 }
@@ -62,12 +63,11 @@ void walker::step()
     if (window == u"message_box")
         answer_box();
     else if (window == u"MainForm")
-        one_of(4) == 0 ? user_.menu(one_of(2) == 0 ? QStringLiteral("mEn") : QStringLiteral("mfr"))
-                       : user_.menu(QStringLiteral("mnOPenr"));
+        one_of(4) == 0 ? user_.menu(one_of(2) == 0 ? u"mEn"_s : u"mfr"_s) : user_.menu(u"mnOPenr"_s);
     else if (window == u"f_games")
-        user_.double_click_row(QStringLiteral("List1"), one_of(2));
+        user_.double_click_row(u"List1"_s, one_of(2));
     else if (window == u"f_cost")
-        one_of(3) == 0 ? user_.click(QStringLiteral("OKButton")) : user_.type(QString::number(one_of(10)));
+        one_of(3) == 0 ? user_.click(u"OKButton"_s) : user_.type(QString::number(one_of(10)));
     else if (window == u"f_new_round")
         step_in_round_window();
     else
@@ -99,22 +99,22 @@ void walker::step_in_round_window()
 {
     switch (one_of(40)) {
     case 0:
-        user_.click(QStringLiteral("Command1_4"));
+        user_.click(u"Command1_4"_s);
         return;
     case 1:
-        user_.click(QStringLiteral("Command1_2"));
+        user_.click(u"Command1_2"_s);
         return;
     case 2:
-        user_.click_tab(QStringLiteral("TabStrip2"), 1 + one_of(2));
+        user_.click_tab(u"TabStrip2"_s, 1 + one_of(2));
         return;
     case 3:
         user_.key(Qt::Key_Escape);
         return;
     case 4:
-        click_if_there(QStringLiteral("Command4"));
+        click_if_there(u"Command4"_s);
         return;
     case 5:
-        click_if_there(QStringLiteral("Command2"));
+        click_if_there(u"Command2"_s);
         return;
     case 6:
     case 7:
@@ -135,7 +135,7 @@ void walker::step_on_quick_page()
 {
     switch (one_of(12)) {
     case 0:
-        user_.type(QStringLiteral("x"));
+        user_.type(u"x"_s);
         break;
     case 1:
         user_.key(Qt::Key_Tab);
@@ -144,10 +144,10 @@ void walker::step_on_quick_page()
         user_.key(Qt::Key_Backspace);
         break;
     case 3:
-        user_.click(QStringLiteral("text_s_%1").arg(8 + one_of(4)));
+        user_.click(u"text_s_%1"_s.arg(8 + one_of(4)));
         break;
     case 4:
-        user_.click(QStringLiteral("text_p_%1").arg(3 + one_of(4)));
+        user_.click(u"text_p_%1"_s.arg(3 + one_of(4)));
         break;
     default:
         press_some_key();
@@ -159,7 +159,7 @@ void walker::step_on_quick_page()
 void walker::press_some_key()
 {
     if (!user_.focus().startsWith(u"text_"))
-        user_.click(QStringLiteral("text_vrd_%1").arg(one_of(3)));
+        user_.click(u"text_vrd_%1"_s.arg(one_of(3)));
     user_.type(QString::number(one_of(10)));
 }
 
@@ -167,13 +167,13 @@ void walker::step_on_detailed_page()
 {
     switch (one_of(8)) {
     case 0:
-        click_if_there(QStringLiteral("CommandSuiv"));
+        click_if_there(u"CommandSuiv"_s);
         break;
     case 1:
-        click_if_there(QStringLiteral("CommandSup"));
+        click_if_there(u"CommandSup"_s);
         break;
     case 2:
-        click_if_there(QStringLiteral("b_carte"));
+        click_if_there(u"b_carte"_s);
         break;
     case 3:
     case 4:
@@ -198,10 +198,10 @@ void walker::click_if_there(const QString& control)
 
 void walker::type_distance()
 {
-    const int rows = user_.grid_rows(QStringLiteral("details"));
+    const int rows = user_.grid_rows(u"details"_s);
     if (rows == 0)
         return;
-    user_.click_cell(QStringLiteral("details"), one_of(rows), 3);
+    user_.click_cell(u"details"_s, one_of(rows), 3);
     user_.type(QString::number(one_of(300)));
     user_.key(Qt::Key_Return);
 }
@@ -209,10 +209,10 @@ void walker::type_distance()
 void walker::choose_from_menu()
 {
     static constexpr int menu_columns[] = {2, 5, 5, 6, 7, 8, 9, 10, 11};
-    const int rows = user_.grid_rows(QStringLiteral("details"));
+    const int rows = user_.grid_rows(u"details"_s);
     if (rows == 0)
         return;
-    user_.click_cell(QStringLiteral("details"), one_of(rows), menu_columns[one_of(std::size(menu_columns))]);
+    user_.click_cell(u"details"_s, one_of(rows), menu_columns[one_of(std::size(menu_columns))]);
     user_.key(Qt::Key_F4);
     for (int down = one_of(4); down >= 0; --down)
         user_.key(Qt::Key_Down);
@@ -231,9 +231,9 @@ void walker::change_hole()
     const int wanted = 1 + one_of(18);
     // Choosing the hole that is shown in the list is no change, and saves nothing.
     if (one_of(3) == 0 && quick && wanted != left)
-        user_.choose(QStringLiteral("cmb_holes"), wanted - 1);
+        user_.choose(u"cmb_holes"_s, wanted - 1);
     else
-        user_.click_tab(QStringLiteral("TabStrip1"), wanted);
+        user_.click_tab(u"TabStrip1"_s, wanted);
     if (!quick || window_at_work() != u"f_new_round")
         return;
     compare_hole(boxes(), hole_shown());
@@ -243,13 +243,13 @@ void walker::change_hole()
 
 void walker::compare_hole(const QString& shown, int hole)
 {
-    user_.same(shown, stored_hole(hole), QStringLiteral("figures of hole %1").arg(hole));
+    user_.same(shown, stored_hole(hole), u"figures of hole %1"_s.arg(hole));
     ++holes_compared_;
 }
 
 bool walker::on_quick_page()
 {
-    return user_.visible(QStringLiteral("Frame5_0"));
+    return user_.visible(u"Frame5_0"_s);
 }
 
 int walker::hole_shown()
@@ -280,7 +280,7 @@ QString walker::stored_hole(int hole)
     user_.look([&] { key = round_window()->date_value; });
     QStringList columns;
     for (const QString& column : stored_columns)
-        columns << QStringLiteral("coalesce(%1%2, 0)").arg(column).arg(hole);
+        columns << u"coalesce(%1%2, 0)"_s.arg(column).arg(hole);
     QStringList figures;
     const auto rows =
         store_.rows(u"select " + columns.join(u", ") +
@@ -295,9 +295,9 @@ QString walker::stored_hole(int hole)
 void walker::remove_a_shot()
 {
     if (!on_quick_page() && one_of(2) == 0)
-        click_if_there(QStringLiteral("CommandSup"));
+        click_if_there(u"CommandSup"_s);
     else
-        user_.click_tab(QStringLiteral("TabStrip2"), on_quick_page() ? 2 : 1);
+        user_.click_tab(u"TabStrip2"_s, on_quick_page() ? 2 : 1);
 }
 
 void walker::go_home()
@@ -305,8 +305,7 @@ void walker::go_home()
     int patience = 400;
     for (QString window = window_at_work(); window != u"MainForm"; window = window_at_work()) {
         if (--patience == 0)
-            user_.fail(QStringLiteral("there is no way out of %1, the keyboard is with %2")
-                           .arg(window, user_.focus()));
+            user_.fail(u"there is no way out of %1, the keyboard is with %2"_s.arg(window, user_.focus()));
         if (window == u"message_box")
             answer_box();
         else if (window == u"f_new_round" && one_of(2) == 0)

@@ -2,7 +2,9 @@
 
 namespace verdane::testing {
 
-const QString round_in_store::key = QStringLiteral("20030614093000");
+using namespace Qt::StringLiterals;
+
+const QString round_in_store::key = u"20030614093000"_s;
 
 namespace {
 
@@ -10,8 +12,7 @@ QStringList card()
 {
     QStringList assignments;
     for (int hole = 1; hole <= 18; ++hole)
-        assignments += QStringLiteral("par_%1 = %2, yards_%1 = %3, hcp_%1 = %4")
-                           .arg(hole)
+        assignments += u"par_%1 = %2, yards_%1 = %3, hcp_%1 = %4"_s.arg(hole)
                            .arg(hole == 3 || hole == 5 ? hole : 4)
                            .arg(300 + hole)
                            .arg(19 - hole);
@@ -34,26 +35,23 @@ void round_in_store::lay_down() const
 {
     const reader outside(folder_.path());
     outside.write({
-        QStringLiteral(
-            "insert into games (date, field, CODEF) values ('20030614093000', 'Les Pins', 'LES PINS-1')"),
-        QStringLiteral(
-            "insert into games (date, field, CODEF) values ('20030615093000', 'Les Pins', 'LES PINS-1')"),
-        QStringLiteral("insert into games2 (date) values ('20030614093000')"),
-        QStringLiteral("insert into games2 (date) values ('20030615093000')"),
-        QStringLiteral("insert into cost (date) values ('20030614093000')"),
-        QStringLiteral(
-            "insert into vrd_fields (code, name, rating, slope) values ('AUTRE-0', 'Autre', 0, 0)"),
-        QStringLiteral("insert into vrd_fields (code, name, rating, slope) "
-                       "values ('LES PINS-1', 'Les Pins', 70.5, 130)"),
-        QStringLiteral("insert into field_info (FIELD_CODE) values ('LES PINS-1')"),
+        u"insert into games (date, field, CODEF) values ('20030614093000', 'Les Pins', 'LES PINS-1')"_s,
+        u"insert into games (date, field, CODEF) values ('20030615093000', 'Les Pins', 'LES PINS-1')"_s,
+        u"insert into games2 (date) values ('20030614093000')"_s,
+        u"insert into games2 (date) values ('20030615093000')"_s,
+        u"insert into cost (date) values ('20030614093000')"_s,
+        u"insert into vrd_fields (code, name, rating, slope) values ('AUTRE-0', 'Autre', 0, 0)"_s,
+        u"insert into vrd_fields (code, name, rating, slope) "
+        u"values ('LES PINS-1', 'Les Pins', 70.5, 130)"_s,
+        u"insert into field_info (FIELD_CODE) values ('LES PINS-1')"_s,
     });
-    outside.write(QStringLiteral("update field_info set %1").arg(card().join(u',')));
+    outside.write(u"update field_info set %1"_s.arg(card().join(u',')));
 }
 
 void round_in_store::open(Recordset& recordset)
 {
     recordset.Open();
-    if (recordset.name() == QStringLiteral("rsvrd_fields"))
+    if (recordset.name() == u"rsvrd_fields"_s)
         recordset.MoveNext();
 }
 
@@ -74,8 +72,7 @@ void round_in_store::set_strokes(int hole, int long_shots, int approach, int put
 
 QVariant round_in_store::stored(const QString& table, const QString& column) const
 {
-    return reader(folder_.path())
-        .value(QStringLiteral("select %1 from %2 where date = '%3'").arg(column, table, key));
+    return reader(folder_.path()).value(u"select %1 from %2 where date = '%3'"_s.arg(column, table, key));
 }
 
 }  // namespace verdane::testing

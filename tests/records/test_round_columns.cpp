@@ -5,6 +5,7 @@
 #include "tests/support/store_folder.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 namespace at = round_columns;
 
@@ -70,7 +71,7 @@ private:
         add("field_info", at::par_h(h), "par_");
         for (const int putt : {1, 6})
             QTest::addRow("putt %d of %d", putt, h)
-                << "games2" << at::putt_len(h, putt) << QStringLiteral("putt_len_%1_%2").arg(h).arg(putt);
+                << "games2" << at::putt_len(h, putt) << u"putt_len_%1_%2"_s.arg(h).arg(putt);
     }
 
     static Recordset& recordset_of(const QString& table)

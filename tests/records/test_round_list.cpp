@@ -8,6 +8,7 @@
 
 using namespace verdane;
 using namespace verdane::Round_functions;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 
 class test_round_list : public QObject {
@@ -19,8 +20,8 @@ private Q_SLOTS:
         folder_ = std::make_unique<testing::store_folder>();
         testing::reader(folder_->path())
             .write({
-                QStringLiteral("insert into games (date, field) values ('20240607150000', ' Les Pins ')"),
-                QStringLiteral("insert into games (date, putt_18) values ('20230102081530', 2)"),
+                u"insert into games (date, field) values ('20240607150000', ' Les Pins ')"_s,
+                u"insert into games (date, putt_18) values ('20230102081530', 2)"_s,
             });
     }
 
@@ -33,24 +34,23 @@ private Q_SLOTS:
 
     void rounds_stand_in_time_order_whatever_the_source_was()
     {
-        rsgames().set_Source(QStringLiteral("Select * from games"));
+        rsgames().set_Source(u"Select * from games"_s);
         open_rounds_in_time_order();
-        QCOMPARE(rsgames().Fields(0).text(), QStringLiteral("20230102081530"));
+        QCOMPARE(rsgames().Fields(0).text(), u"20230102081530"_s);
         QVERIFY(failure_of([] { open_rounds_in_time_order(); }) == failure_kind::misuse);
     }
 
     void a_line_has_key_course_and_the_mark_of_an_incomplete_round()
     {
         open_rounds_in_time_order();
-        const QStringList lines{QStringLiteral("2023-01-02 08:15:30 |  - "),
-                                QStringLiteral("2024-06-07 15:00:00 |  - Les Pins**")};
+        const QStringList lines{u"2023-01-02 08:15:30 |  - "_s, u"2024-06-07 15:00:00 |  - Les Pins**"_s};
         QCOMPARE(round_list_lines(), lines);
         QVERIFY(rsgames().eof());
     }
 
     void a_store_without_rounds_has_no_lines()
     {
-        testing::reader(folder_->path()).write(QStringLiteral("delete from games"));
+        testing::reader(folder_->path()).write(u"delete from games"_s);
         open_rounds_in_time_order();
         QVERIFY(round_list_lines().isEmpty());
     }

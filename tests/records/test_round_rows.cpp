@@ -7,6 +7,7 @@
 
 using namespace verdane;
 using namespace verdane::Round_functions;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::round_in_store;
 
@@ -24,10 +25,10 @@ private Q_SLOTS:
         QCOMPARE(plain(read.approach), 2);
         QCOMPARE(plain(read.putts), 1);
         round_->commit();
-        QCOMPARE(round_->stored(games_, QStringLiteral("long_18")).toInt(), 3);
-        QCOMPARE(round_->stored(games_, QStringLiteral("approach_18")).toInt(), 2);
-        QCOMPARE(round_->stored(games_, QStringLiteral("putt_18")).toInt(), 1);
-        QVERIFY(round_->stored(games_, QStringLiteral("putt_17")).isNull());
+        QCOMPARE(round_->stored(games_, u"long_18"_s).toInt(), 3);
+        QCOMPARE(round_->stored(games_, u"approach_18"_s).toInt(), 2);
+        QCOMPARE(round_->stored(games_, u"putt_18"_s).toInt(), 1);
+        QVERIFY(round_->stored(games_, u"putt_17"_s).isNull());
     }
 
     void strokes_never_stored_read_as_0()
@@ -47,10 +48,10 @@ private Q_SLOTS:
         QCOMPARE(plain(read.bounds), 3);
         QCOMPARE(plain(read.lost), 4);
         round_->commit();
-        QCOMPARE(round_->stored(games_, QStringLiteral("pen_rule_1")).toInt(), 1);
-        QCOMPARE(round_->stored(games_, QStringLiteral("pen_water_1")).toInt(), 2);
-        QCOMPARE(round_->stored(games_, QStringLiteral("pen_bounds_1")).toInt(), 3);
-        QCOMPARE(round_->stored(games_, QStringLiteral("pen_lost_1")).toInt(), 4);
+        QCOMPARE(round_->stored(games_, u"pen_rule_1"_s).toInt(), 1);
+        QCOMPARE(round_->stored(games_, u"pen_water_1"_s).toInt(), 2);
+        QCOMPARE(round_->stored(games_, u"pen_bounds_1"_s).toInt(), 3);
+        QCOMPARE(round_->stored(games_, u"pen_lost_1"_s).toInt(), 4);
     }
 
     void a_fresh_row_has_no_penalties_and_no_situations()
@@ -66,17 +67,17 @@ private Q_SLOTS:
 
     void the_situation_goes_as_text_and_the_store_converts_it()
     {
-        store_situation(9, {QStringLiteral("2"), QStringLiteral("3a"), QStringLiteral("2.5"), QString()});
+        store_situation(9, {u"2"_s, u"3a"_s, u"2.5"_s, QString()});
         round_->commit();
         const situation read = read_situation(9);
         QCOMPARE(plain(read.fairway), 2);
         QCOMPARE(plain(read.sand), 3);
         QCOMPARE(plain(read.missed), 2);
         QCOMPARE(plain(read_recovery(9)), 0);
-        QCOMPARE(round_->stored(games2_, QStringLiteral("fairway_9")).toInt(), 2);
-        QCOMPARE(round_->stored(games2_, QStringLiteral("sand_9")).toInt(), 3);
-        QCOMPARE(round_->stored(games_, QStringLiteral("missed_9")).toInt(), 2);
-        QCOMPARE(round_->stored(games2_, QStringLiteral("recovery_9")).toInt(), 0);
+        QCOMPARE(round_->stored(games2_, u"fairway_9"_s).toInt(), 2);
+        QCOMPARE(round_->stored(games2_, u"sand_9"_s).toInt(), 3);
+        QCOMPARE(round_->stored(games_, u"missed_9"_s).toInt(), 2);
+        QCOMPARE(round_->stored(games2_, u"recovery_9"_s).toInt(), 0);
     }
 
     void a_penalty_without_a_value_is_an_invalid_null()
@@ -161,7 +162,7 @@ private Q_SLOTS:
     void a_partner_is_looked_up_by_a_plain_text_search()
     {
         QFETCH(QString, number);
-        round_->store.rsgames2.Fields(at::partners).set(QStringLiteral("12-7-"));
+        round_->store.rsgames2.Fields(at::partners).set(u"12-7-"_s);
         QTEST(plain(partner_in_round(number)), "position");
     }
 
@@ -176,16 +177,16 @@ private Q_SLOTS:
 
     void every_partner_ends_in_a_dash()
     {
-        QCOMPARE(partners_text({QStringLiteral("12"), QStringLiteral("7")}), QStringLiteral("12-7-"));
-        QCOMPARE(partners_text({QStringLiteral("-5")}), QStringLiteral("-5-"));
+        QCOMPARE(partners_text({u"12"_s, u"7"_s}), u"12-7-"_s);
+        QCOMPARE(partners_text({u"-5"_s}), u"-5-"_s);
         QCOMPARE(partners_text({}), QString());
     }
 
     void a_course_is_found_by_its_place_and_stays_current()
     {
-        QCOMPARE(course_code_at(0), QStringLiteral("AUTRE-0"));
-        QCOMPARE(course_code_at(1), QStringLiteral("LES PINS-1"));
-        QCOMPARE(round_->store.rsvrd_fields.Fields(at::name).text(), QStringLiteral("Les Pins"));
+        QCOMPARE(course_code_at(0), u"AUTRE-0"_s);
+        QCOMPARE(course_code_at(1), u"LES PINS-1"_s);
+        QCOMPARE(round_->store.rsvrd_fields.Fields(at::name).text(), u"Les Pins"_s);
         QVERIFY(failure_of([] { course_code_at(2); }) == failure_kind::misuse);
     }
 
@@ -211,8 +212,8 @@ private Q_SLOTS:
     void cleanup() { round_.reset(); }
 
 private:
-    const QString games_ = QStringLiteral("games");
-    const QString games2_ = QStringLiteral("games2");
+    const QString games_ = u"games"_s;
+    const QString games2_ = u"games2"_s;
     std::unique_ptr<round_in_store> round_;
 };
 

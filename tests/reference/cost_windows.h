@@ -27,8 +27,7 @@ inline QString cost_window()
 /// A store with one row of costs, on which `rscost` stands while a test runs.
 class cost_store {
 public:
-    explicit cost_store(bool french = true,
-                        const QString& amounts = QStringLiteral("1,2,3,4,5,6,7,8,9,10,11,12"))
+    explicit cost_store(bool french = true, const QString& amounts = u"1,2,3,4,5,6,7,8,9,10,11,12"_s)
         : folder_(french)
     {
         store.write({u"insert into cost (date) values ('20230101080000')"_s,

@@ -11,6 +11,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 QString sql(const QString& text)
 {
     return quoted(text);
@@ -39,10 +41,8 @@ void course_store::add_round(const QString& key, const QString& code) const
 void add_three_courses(const course_store& store)
 {
     store.add({});
-    store.add(
-        {QStringLiteral("BETA-1"), QStringLiteral("Beta"), QStringLiteral("Beta-1"), QStringLiteral("BLEU")});
-    store.add({QStringLiteral("GAMMA-2"), QStringLiteral("Gamma"), QStringLiteral("Gamma-2"),
-               QStringLiteral("ROUGE")});
+    store.add({u"BETA-1"_s, u"Beta"_s, u"Beta-1"_s, u"BLEU"_s});
+    store.add({u"GAMMA-2"_s, u"Gamma"_s, u"Gamma-2"_s, u"ROUGE"_s});
 }
 
 void in_course_list(const std::function<void(hand&)>& script)
@@ -65,7 +65,7 @@ void in_course_list_until_ok(const std::function<void(hand&)>& script)
     in_course_list([&](hand& user) {
         script(user);
         user.wait_for_window(list_window());
-        user.click(QStringLiteral("Command1_2"));
+        user.click(u"Command1_2"_s);
         user.wait_until_gone(list_window());
     });
 }
@@ -73,7 +73,7 @@ void in_course_list_until_ok(const std::function<void(hand&)>& script)
 void in_new_course(const std::function<void(hand&)>& script)
 {
     in_course_list_until_ok([&](hand& user) {
-        user.click(QStringLiteral("Command1_1"));
+        user.click(u"Command1_1"_s);
         user.wait_for_window(editor_window());
         script(user);
         user.wait_until_gone(editor_window());
@@ -83,8 +83,8 @@ void in_new_course(const std::function<void(hand&)>& script)
 void in_stored_course(int line, const std::function<void(hand&)>& script)
 {
     in_course_list_until_ok([&](hand& user) {
-        user.click_row(QStringLiteral("List1"), line);
-        user.click(QStringLiteral("Command1_0"));
+        user.click_row(u"List1"_s, line);
+        user.click(u"Command1_0"_s);
         user.wait_for_window(editor_window());
         script(user);
         user.wait_until_gone(editor_window());
@@ -93,16 +93,16 @@ void in_stored_course(int line, const std::function<void(hand&)>& script)
 
 void discard(hand& user)
 {
-    user.click(QStringLiteral("cmdan"));
+    user.click(u"cmdan"_s);
     user.answer(question_on_closing(), QMessageBox::No);
     user.wait_until_gone(editor_window());
 }
 
 void fill_required(hand& user, const QString& name)
 {
-    user.fill(QStringLiteral("text_1"), name);
-    user.fill(QStringLiteral("text_2"), QStringLiteral("71.2"));
-    user.fill(QStringLiteral("text_0"), QStringLiteral("128"));
+    user.fill(u"text_1"_s, name);
+    user.fill(u"text_2"_s, u"71.2"_s);
+    user.fill(u"text_0"_s, u"128"_s);
 }
 
 void with_editor(hand& user, const std::function<void(f_courses&)>& routine)
@@ -114,28 +114,27 @@ expected_box question_on_closing()
 {
     return {in_language(u"Voulez vous enregistrer les modifications avant de sortir ?  ",
                         u"Do you want to save the modification made ?  "),
-            QMessageBox::NoIcon, QStringLiteral("Fermer ronde"),
-            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel};
+            QMessageBox::NoIcon, u"Fermer ronde"_s, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel};
 }
 
 expected_box notice_of_save()
 {
     return {in_language(u"Les modifications sont enregistrées.", u"Changes have been saved"),
-            QMessageBox::Information, QStringLiteral("Verdane"), QMessageBox::Ok};
+            QMessageBox::Information, u"Verdane"_s, QMessageBox::Ok};
 }
 
 expected_box refusal_of_missing()
 {
     return {in_language(u"Attention : Il faut entrer le nom, la moyenne, et la difficulté du terrain.",
                         u"Attention : Attention: Please enter golf course's name, rating and Slop."),
-            QMessageBox::Critical, QStringLiteral("Enregistrer"), QMessageBox::Ok};
+            QMessageBox::Critical, u"Enregistrer"_s, QMessageBox::Ok};
 }
 
 expected_box refusal_of_duplicate(const QString& name, const QString& tee)
 {
     return {in_language(u"Le tererain ", u"The golf course  ") + name + u' ' + tee +
                 in_language(u" exist déjà.", u" already exist."),
-            QMessageBox::Warning, QStringLiteral("Verdane"), QMessageBox::Ok};
+            QMessageBox::Warning, u"Verdane"_s, QMessageBox::Ok};
 }
 
 QString twin()

@@ -11,20 +11,22 @@
 #include "tests/support/store_folder.h"
 
 namespace verdane {
+
+using namespace Qt::StringLiterals;
 class f_courses;
-}
+}  // namespace verdane
 
 /// What the tests of the course windows share.
 namespace verdane::testing {
 
 /// A course as it stands in the store; every hole alike.
 struct stored_course {
-    QString code = QStringLiteral("ALPHA-0");
-    QString name = QStringLiteral("Alpha");
-    QString name_tee = QStringLiteral("Alpha-0");
-    QString tee = QStringLiteral("BLANC");
-    QString rating = QStringLiteral("70.5");
-    QString slope = QStringLiteral("121");
+    QString code = u"ALPHA-0"_s;
+    QString name = u"Alpha"_s;
+    QString name_tee = u"Alpha-0"_s;
+    QString tee = u"BLANC"_s;
+    QString rating = u"70.5"_s;
+    QString slope = u"121"_s;
     int yards = 300;
     int par = 4;
 };

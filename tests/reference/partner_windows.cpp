@@ -8,6 +8,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 void partner_store::add(const QString& name, const QString& surname, int code) const
 {
     store.write(u"insert into partners (NAME, SURNAME, code) values (" + quoted(name) + u", " +
@@ -16,16 +18,15 @@ void partner_store::add(const QString& name, const QString& surname, int code) c
 
 void partner_store::add_three() const
 {
-    add(QStringLiteral("Cedar"), QStringLiteral("Cleo"), 3);
-    add(QStringLiteral("Alder"), QStringLiteral("Ann"), 1);
-    add(QStringLiteral("Birch"), QStringLiteral("Bob"), 2);
+    add(u"Cedar"_s, u"Cleo"_s, 3);
+    add(u"Alder"_s, u"Ann"_s, 1);
+    add(u"Birch"_s, u"Bob"_s, 2);
 }
 
 QString partner_store::rows() const
 {
-    return store.text(
-        QStringLiteral("select ifnull(group_concat(ifnull(NAME, 'null') || ',' || ifnull(SURNAME, 'null') || "
-                       "',' || code, ' | '), '') from (select * from partners order by rowid)"));
+    return store.text(u"select ifnull(group_concat(ifnull(NAME, 'null') || ',' || ifnull(SURNAME, 'null') || "
+                      u"',' || code, ' | '), '') from (select * from partners order by rowid)"_s);
 }
 
 QString partner_window()
@@ -52,14 +53,14 @@ void in_partners(const std::function<void(hand&)>& script)
 
 void type_into(hand& user, int row, int column, const QString& text)
 {
-    user.click_cell(QStringLiteral("pgrid"), row, column);
+    user.click_cell(u"pgrid"_s, row, column);
     user.type(text);
     user.key(Qt::Key_Return);
 }
 
 void accept_partners(hand& user)
 {
-    user.click(QStringLiteral("cmdSave"));
+    user.click(u"cmdSave"_s);
 }
 
 expected_box refusal_of_missing_name()

@@ -26,8 +26,7 @@ expected_box failure_box(failure_kind kind)
 void add_courses(const reader& store, int count)
 {
     for (int i = 0; i < count; ++i)
-        add_course(store, {QStringLiteral("C%1-0").arg(i), QStringLiteral("C%1").arg(i),
-                           QStringLiteral("C%1-0").arg(i)});
+        add_course(store, {u"C%1-0"_s.arg(i), u"C%1"_s.arg(i), u"C%1-0"_s.arg(i)});
 }
 
 void type_length(hand& user, const QString& box, const QString& typed)

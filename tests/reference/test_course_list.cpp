@@ -158,8 +158,7 @@ private Q_SLOTS:
     {
         const course_store store;
         for (int i = 0; i < most_courses; ++i)
-            store.add({QStringLiteral("C%1-0").arg(i), QStringLiteral("C%1").arg(i),
-                       QStringLiteral("C%1-0").arg(i)});
+            store.add({u"C%1-0"_s.arg(i), u"C%1"_s.arg(i), u"C%1-0"_s.arg(i)});
         in_course_list_until_ok([](hand& user) {
             user.same(static_cast<int>(user.entries(u"List1"_s).size()), most_courses, u"lines"_s);
         });

@@ -114,8 +114,7 @@ private Q_SLOTS:
     {
         const course_store store;
         for (int i = 0; i < most_courses; ++i)
-            store.add({QStringLiteral("C%1-0").arg(i), QStringLiteral("C%1").arg(i),
-                       QStringLiteral("C%1-0").arg(i)});
+            store.add({u"C%1-0"_s.arg(i), u"C%1"_s.arg(i), u"C%1-0"_s.arg(i)});
         in_course_list_until_ok([](hand& user) {
             for (const QString& name : {u"Delta"_s, u"Echo"_s}) {
                 user.click(u"Command1_1"_s);

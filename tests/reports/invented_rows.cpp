@@ -8,10 +8,12 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString longest_name =
-    QStringLiteral("The Very Long And Honourable Company Of Invented Golf Courses, Variable White");
+    u"The Very Long And Honourable Company Of Invented Golf Courses, Variable White"_s;
 
 /// `update TABLE set ... where rowid = ROW`, put together column by column.
 class row_update {
@@ -25,15 +27,13 @@ public:
     row_update& text(const QString& column, const QString& value) { return put(column, quoted(value)); }
     QString statement() const
     {
-        return QStringLiteral("update %1 set %2 where rowid = %3")
-            .arg(table_, parts_.join(QStringLiteral(", ")))
-            .arg(row_);
+        return u"update %1 set %2 where rowid = %3"_s.arg(table_, parts_.join(u", "_s)).arg(row_);
     }
 
 private:
     row_update& put(const QString& column, const QString& value)
     {
-        parts_.append(column + QStringLiteral(" = ") + value);
+        parts_.append(column + u" = "_s + value);
         return *this;
     }
 
@@ -59,7 +59,7 @@ int par_of(int hole)
 
 QString card_row(int row, const QString& name, figures kind)
 {
-    row_update update(QStringLiteral("r_card"), row);
+    row_update update(u"r_card"_s, row);
     for (int i = 1; i <= 9; ++i) {
         const int hole = i + (row - 1) * 9;
         update.number(indexed("card_hole_", i), hole)
@@ -69,10 +69,10 @@ QString card_row(int row, const QString& name, figures kind)
     }
     for (int club = 1; club <= 13; ++club)
         update.number(indexed("card_club_", club), figure(kind, 240 - 10 * club));
-    update.text(QStringLiteral("card_name"), kind == figures::extreme ? longest_name : name)
-        .text(QStringLiteral("card_slope"), kind == figures::none ? QString() : QStringLiteral("139"))
-        .text(QStringLiteral("card_tee"), QStringLiteral("BLANC"))
-        .text(QStringLiteral("card_rating"), kind == figures::none ? QString() : QStringLiteral("75.2"));
+    update.text(u"card_name"_s, kind == figures::extreme ? longest_name : name)
+        .text(u"card_slope"_s, kind == figures::none ? QString() : u"139"_s)
+        .text(u"card_tee"_s, u"BLANC"_s)
+        .text(u"card_rating"_s, kind == figures::none ? QString() : u"75.2"_s);
     return update.statement();
 }
 
@@ -83,103 +83,92 @@ QString with_blank(double value)
 
 QString first_putts_row(int row, figures kind)
 {
-    row_update update(QStringLiteral("s_put1"), row);
+    row_update update(u"s_put1"_s, row);
     for (int band = 1; band <= 7; ++band) {
         update.number(indexed("band_", band), figure(kind, row * band));
         update.text(indexed("mean_band_", band),
-                    row < 5 ? QStringLiteral(" ") : with_blank(kind == figures::none ? 0 : band * 1.11));
+                    row < 5 ? u" "_s : with_blank(kind == figures::none ? 0 : band * 1.11));
     }
-    update.text(QStringLiteral("mean_all"),
-                row < 5 ? QStringLiteral(" ") : with_blank(kind == figures::none ? 0 : 2.5));
+    update.text(u"mean_all"_s, row < 5 ? u" "_s : with_blank(kind == figures::none ? 0 : 2.5));
     if (row > 1)
         return update.statement();
     const bool extreme = kind == figures::extreme;
-    return update.text(QStringLiteral("from_date"), QStringLiteral("2023-05-06 08:30:00"))
-        .text(QStringLiteral("to_date"), QStringLiteral("2024-10-13 13:40:00"))
-        .text(QStringLiteral("axis_first"), QStringLiteral("First axis"))
-        .text(QStringLiteral("axis_after"), QStringLiteral("Axis after "))
-        .text(QStringLiteral("weather_text"), QStringLiteral("Ciel variable"))
-        .text(QStringLiteral("partner_text"), extreme ? longest_name : QStringLiteral("Zoé, Sept"))
-        .text(QStringLiteral("course_text"), extreme ? longest_name : QStringLiteral("A & B <c>"))
-        .number(QStringLiteral("round_count"), figure(kind, 12))
+    return update.text(u"from_date"_s, u"2023-05-06 08:30:00"_s)
+        .text(u"to_date"_s, u"2024-10-13 13:40:00"_s)
+        .text(u"axis_first"_s, u"First axis"_s)
+        .text(u"axis_after"_s, u"Axis after "_s)
+        .text(u"weather_text"_s, u"Ciel variable"_s)
+        .text(u"partner_text"_s, extreme ? longest_name : u"Zoé, Sept"_s)
+        .text(u"course_text"_s, extreme ? longest_name : u"A & B <c>"_s)
+        .number(u"round_count"_s, figure(kind, 12))
         .statement();
 }
 
 QString stops_row(int row, figures kind)
 {
-    row_update update(QStringLiteral("s_put2"), row);
+    row_update update(u"s_put2"_s, row);
     for (int band = 1; band <= 7; ++band)
         update.number(indexed("band_", band), figure(kind, row * band));
     if (row == 1)
-        update.text(QStringLiteral("axis_after2"), QStringLiteral("Second axis after"))
-            .text(QStringLiteral("axis_first2"), QStringLiteral("Second axis first"));
+        update.text(u"axis_after2"_s, u"Second axis after"_s).text(u"axis_first2"_s, u"Second axis first"_s);
     const bool none = kind == figures::none;
-    const QString score = none || row < 7 ? QStringLiteral(" ") : QStringLiteral(" 2.25");
-    const QString rating = row < 7 ? QStringLiteral(" ")
-                           : none  ? QStringLiteral("N/A")
-                                   : QStringLiteral("MOYEN");
-    return update.text(QStringLiteral("weighted_mean"), score)
-        .text(QStringLiteral("rating_text"), rating)
-        .statement();
+    const QString score = none || row < 7 ? u" "_s : u" 2.25"_s;
+    const QString rating = row < 7 ? u" "_s : none ? u"N/A"_s : u"MOYEN"_s;
+    return update.text(u"weighted_mean"_s, score).text(u"rating_text"_s, rating).statement();
 }
 
 QStringList club_figures(int club, figures kind)
 {
     if (kind == figures::none || club >= 13)
-        return QStringList(9, QStringLiteral("0"));
+        return QStringList(9, u"0"_s);
     if (kind == figures::extreme)
-        return {QStringLiteral(" 32767"), QStringLiteral(" 32767"), QStringLiteral("32767"),
-                QStringLiteral(" 100%"),  QStringLiteral(" 0%"),    QStringLiteral(" 0%"),
-                QStringLiteral(" .003"),  QStringLiteral(" 100%"),  QStringLiteral(" 100%")};
+        return {u" 32767"_s, u" 32767"_s, u"32767"_s, u" 100%"_s, u" 0%"_s,
+                u" 0%"_s,    u" .003"_s,  u" 100%"_s, u" 100%"_s};
     return {with_blank(10 * club),
             with_blank(300 - 10 * club),
             club == 12 ? QString() : QString::number(280.5 - 10 * club),
-            QStringLiteral(" 50%"),
-            QStringLiteral(" 33.3"),
-            QStringLiteral(" 16.6"),
-            QStringLiteral(" 8.33"),
-            QStringLiteral(" 4%"),
-            club < 10 ? QStringLiteral(" 0%") : QStringLiteral(" 2%")};
+            u" 50%"_s,
+            u" 33.3"_s,
+            u" 16.6"_s,
+            u" 8.33"_s,
+            u" 4%"_s,
+            club < 10 ? u" 0%"_s : u" 2%"_s};
 }
 
 QString club_row(int club, figures kind)
 {
     static const QStringList columns =
-        QStringLiteral("shot_count longest average pct_fairway pct_right pct_left pct_missed pct_penalty "
-                       "pct_holed")
-            .split(u' ');
-    row_update update(QStringLiteral("stat_sticks"), club);
+        u"shot_count longest average pct_fairway pct_right pct_left pct_missed pct_penalty "
+        u"pct_holed"_s.split(u' ');
+    row_update update(u"stat_sticks"_s, club);
     const QStringList values = club_figures(club, kind);
     for (qsizetype i = 0; i < columns.size(); ++i)
         update.text(columns[i], values[i]);
-    update.text(QStringLiteral("club_name"), QStringLiteral("Club%1").arg(club));
+    update.text(u"club_name"_s, u"Club%1"_s.arg(club));
     if (club > 1)
         return update.statement();
     const bool extreme = kind == figures::extreme;
-    return update
-        .text(QStringLiteral("heading_text"),
-              QStringLiteral("STATISTIQUES SUR VOS BÂTONS DE 2023-05-06 08:30:00"))
-        .text(QStringLiteral("from_date"), QStringLiteral("2023-05-06 08:30:00"))
-        .text(QStringLiteral("to_date"), QStringLiteral("2024-10-13 13:40:00"))
-        .text(QStringLiteral("course_text"), extreme ? longest_name : QStringLiteral("A & B <c>"))
-        .text(QStringLiteral("partner_text"), extreme ? longest_name : QStringLiteral("Zoé, Sept"))
-        .text(QStringLiteral("weather_text"), QStringLiteral("Ciel variable"))
-        .number(QStringLiteral("round_count"), figure(kind, 12))
+    return update.text(u"heading_text"_s, u"STATISTIQUES SUR VOS BÂTONS DE 2023-05-06 08:30:00"_s)
+        .text(u"from_date"_s, u"2023-05-06 08:30:00"_s)
+        .text(u"to_date"_s, u"2024-10-13 13:40:00"_s)
+        .text(u"course_text"_s, extreme ? longest_name : u"A & B <c>"_s)
+        .text(u"partner_text"_s, extreme ? longest_name : u"Zoé, Sept"_s)
+        .text(u"weather_text"_s, u"Ciel variable"_s)
+        .number(u"round_count"_s, figure(kind, 12))
         .statement();
 }
 
 QString cost_row(int round, int rounds, figures kind)
 {
-    const QString day = QDate(2023, 6, 1).addDays(round).toString(QStringLiteral("yyyyMMdd"));
+    const QString day = QDate(2023, 6, 1).addDays(round).toString(u"yyyyMMdd"_s);
     QStringList amounts(12, QString::number(figure(kind, 0, 2147483647)));
     if (kind == figures::usual) {
         amounts[0] = QString::number(round % 2 == 0 ? 60 : 80);
-        amounts[4] = QStringLiteral("5");
+        amounts[4] = u"5"_s;
     }
-    return QStringLiteral("insert into r_cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au, "
-                          "round_count) values (%1, %2, %3)")
-        .arg(quoted(day + u"093000"), amounts.join(QStringLiteral(", ")),
-             round == 0 ? QString::number(rounds) : QStringLiteral("null"));
+    return u"insert into r_cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au, "
+           u"round_count) values (%1, %2, %3)"_s.arg(quoted(day + u"093000"), amounts.join(u", "_s),
+                                                     round == 0 ? QString::number(rounds) : u"null"_s);
 }
 
 }  // namespace
@@ -201,10 +190,10 @@ void fill_putts(const QString& store, figures kind)
 
 void make_one_round_putts(const QString& store)
 {
-    reader(store).write({QStringLiteral("update s_put1 set from_date = 'Round : 2024-05-01 Pebble Beach', "
-                                        "to_date = 'Weather conditions : Sunny' where rowid = 1"),
-                         QStringLiteral("update s_put2 set rating_text = ' ' where rowid = 7"),
-                         QStringLiteral("update s_put2 set rating_text = 'Average' where rowid = 1")});
+    reader(store).write({u"update s_put1 set from_date = 'Round : 2024-05-01 Pebble Beach', "
+                         u"to_date = 'Weather conditions : Sunny' where rowid = 1"_s,
+                         u"update s_put2 set rating_text = ' ' where rowid = 7"_s,
+                         u"update s_put2 set rating_text = 'Average' where rowid = 1"_s});
 }
 
 void fill_clubs(const QString& store, figures kind)
@@ -217,17 +206,17 @@ void fill_clubs(const QString& store, figures kind)
 
 void fill_costs(const QString& store, int rounds, figures kind)
 {
-    QStringList statements{QStringLiteral("delete from r_cost"), QStringLiteral("begin")};
+    QStringList statements{u"delete from r_cost"_s, u"begin"_s};
     for (int round = 0; round < rounds; ++round)
         statements.append(cost_row(round, rounds, kind));
-    statements.append(QStringLiteral("commit"));
+    statements.append(u"commit"_s);
     reader(store).write(statements);
 }
 
 void fill_all_reports(const QString& store)
 {
-    fill_stats(store, 40, QStringLiteral("Links"));
-    fill_card(store, QStringLiteral("Links"));
+    fill_stats(store, 40, u"Links"_s);
+    fill_card(store, u"Links"_s);
     fill_putts(store);
     fill_clubs(store);
     fill_costs(store, 60);

@@ -17,6 +17,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 /// A preview of a few sheets, and whoever reads and presses what is in it. The question for a file is
 /// answered with `answer_`.
 class preview_reader : public QObject {
@@ -43,14 +45,13 @@ protected:
 
     void open(QWidget* owner = nullptr, int sheets = 3)
     {
-        const QString path = template_file_in(
-            folder_.path(), QStringLiteral("Three.rpt"),
-            QStringLiteral("page = A4 landscape\ntitle = Three\n"
-                           "query it = with recursive it_list(n) as (select 1 union all select n + 1 from "
-                           "it_list where n < %1) select n from it_list")
-                .arg(sheets),
-            QStringLiteral("{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"));
-        window_ = new report_preview(render_report(path), QStringLiteral("A title"), owner);
+        const QString path =
+            template_file_in(folder_.path(), u"Three.rpt"_s,
+                             u"page = A4 landscape\ntitle = Three\n"
+                             u"query it = with recursive it_list(n) as (select 1 union all select n + 1 from "
+                             u"it_list where n < %1) select n from it_list"_s.arg(sheets),
+                             u"{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"_s);
+        window_ = new report_preview(render_report(path), u"A title"_s, owner);
         window_->show();
         QVERIFY(QTest::qWaitForWindowActive(window_));
     }
@@ -71,7 +72,7 @@ protected:
                         modifiers);
     }
 
-    QMessageBox* box() { return window_->findChild<QMessageBox*>(QStringLiteral("message_box")); }
+    QMessageBox* box() { return window_->findChild<QMessageBox*>(u"message_box"_s); }
 };
 
 }  // namespace verdane::testing

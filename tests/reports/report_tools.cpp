@@ -14,6 +14,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString output_of(const QString& program, const QStringList& arguments)
@@ -39,14 +41,12 @@ QString line_statement(int line)
     for (int hole = 1; hole <= 18; ++hole) {
         const double figure = figure_of(line, hole);
         nines[hole > 9 ? 1 : 0] += figure;
-        values.append(QStringLiteral("hole_%1 = %2").arg(hole).arg(figure));
+        values.append(u"hole_%1 = %2"_s.arg(hole).arg(figure));
     }
-    values.append(QStringLiteral("front_nine = %1").arg(nines[0]));
-    values.append(QStringLiteral("back_nine = %1").arg(nines[1]));
-    values.append(QStringLiteral("all_holes = %1").arg(nines[0] + nines[1]));
-    return QStringLiteral("update stats set %1 where rowid = %2")
-        .arg(values.join(QStringLiteral(", ")))
-        .arg(line + 1);
+    values.append(u"front_nine = %1"_s.arg(nines[0]));
+    values.append(u"back_nine = %1"_s.arg(nines[1]));
+    values.append(u"all_holes = %1"_s.arg(nines[0] + nines[1]));
+    return u"update stats set %1 where rowid = %2"_s.arg(values.join(u", "_s)).arg(line + 1);
 }
 
 }  // namespace
@@ -57,7 +57,7 @@ QString template_file_in(const QString& folder, const QString& name, const QStri
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("cannot write %s", qPrintable(path));
-    const QString end_of_head = head.endsWith(u'\n') ? QStringLiteral("---\n") : QStringLiteral("\n---\n");
+    const QString end_of_head = head.endsWith(u'\n') ? u"---\n"_s : u"\n---\n"_s;
     file.write((head + end_of_head + body).toUtf8());
     return path;
 }
@@ -80,8 +80,7 @@ QString built_template(const QString& name)
 
 QStringList pdf_pages(const QString& path)
 {
-    const QString text =
-        output_of(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+    const QString text = output_of(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s});
     QStringList pages = text.split(u'\f');
     pages.removeLast();
     return pages;
@@ -99,9 +98,7 @@ std::vector<printed_word> pdf_words(const QString& path)
     const auto number = [](const QRegularExpressionMatch& match, int group) {
         return match.captured(group).toDouble() * mm_per_pt;
     };
-    for (const QString& line :
-         output_of(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), path, QStringLiteral("-")})
-             .split(u'\n')) {
+    for (const QString& line : output_of(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}).split(u'\n')) {
         const QRegularExpressionMatch start = page_form.match(line);
         const QRegularExpressionMatch word = word_form.match(line);
         if (start.hasMatch()) {
@@ -119,7 +116,7 @@ std::vector<printed_word> pdf_words(const QString& path)
 
 QString pdf_fact(const QString& path, const QString& word)
 {
-    const QStringList lines = output_of(QStringLiteral("pdfinfo"), {path}).split(u'\n');
+    const QStringList lines = output_of(u"pdfinfo"_s, {path}).split(u'\n');
     for (const QString& line : lines)
         if (line.startsWith(word))
             return line.section(u':', 1).trimmed();
@@ -129,7 +126,7 @@ QString pdf_fact(const QString& path, const QString& word)
 QStringList printed_pages(const QString& name)
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("report.pdf"));
+    const QString path = folder.filePath(u"report.pdf"_s);
     render_report(built_template(name))->save_pdf(path);
     QStringList pages = pdf_pages(path);
     for (QString& page : pages)
@@ -140,13 +137,12 @@ QStringList printed_pages(const QString& name)
 QStringList csv_lines(const QString& name)
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("report.csv"));
+    const QString path = folder.filePath(u"report.csv"_s);
     render_report(built_template(name))->save_csv(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qPrintable(path));
-    QStringList lines =
-        QString::fromUtf8(file.readAll()).remove(QChar::ByteOrderMark).split(QStringLiteral("\r\n"));
+    QStringList lines = QString::fromUtf8(file.readAll()).remove(QChar::ByteOrderMark).split(u"\r\n"_s);
     lines.removeLast();
     return lines;
 }
@@ -162,16 +158,14 @@ void fill_stats(const QString& store, int rounds, const QString& course)
     QStringList statements;
     for (int line = 0; line < 34; ++line)
         statements.append(line_statement(line));
-    statements.append(
-        QStringLiteral("update stats set course_text = %1, weather_text = ' TOUTES', partner_text = "
-                       "'TOUS LES PARTENAIRES', from_text = '2023-05-06 08:30:00', to_text = "
-                       "'2024-10-13 13:40:00', handicap_text = ' 14.3', round_count = %2, "
-                       "average_mark = '%3' where rowid = 1")
-            .arg(quoted(course))
-            .arg(rounds)
-            .arg(rounds > 1 ? QStringLiteral("0") : QStringLiteral(" ")));
+    statements.append(u"update stats set course_text = %1, weather_text = ' TOUTES', partner_text = "
+                      u"'TOUS LES PARTENAIRES', from_text = '2023-05-06 08:30:00', to_text = "
+                      u"'2024-10-13 13:40:00', handicap_text = ' 14.3', round_count = %2, "
+                      u"average_mark = '%3' where rowid = 1"_s.arg(quoted(course))
+                          .arg(rounds)
+                          .arg(rounds > 1 ? u"0"_s : u" "_s));
     if (rounds > 1)
-        statements.append(QStringLiteral("update stats set all_holes = 85.5 where rowid = 1"));
+        statements.append(u"update stats set all_holes = 85.5 where rowid = 1"_s);
     const reader writer(store);
     writer.write(statements);
 }

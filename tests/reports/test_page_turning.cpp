@@ -4,6 +4,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 class test_page_turning : public preview_reader {
     Q_OBJECT
@@ -33,9 +34,9 @@ class test_page_turning : public preview_reader {
     /// Whether "Picture…" saves that page, counted from 1.
     bool saves_page(int page)
     {
-        answer_ = file(QStringLiteral("page.png"));
+        answer_ = file(u"page.png"_s);
         click("save_picture");
-        const QImage wanted = render_report(file(QStringLiteral("Three.rpt")))->page_image(page - 1, 200);
+        const QImage wanted = render_report(file(u"Three.rpt"_s))->page_image(page - 1, 200);
         return QImage(answer_).convertToFormat(QImage::Format_RGB32) ==
                wanted.convertToFormat(QImage::Format_RGB32);
     }
@@ -51,16 +52,16 @@ private Q_SLOTS:
         window_->resize(900, 500);
         QCoreApplication::processEvents();
         click("next_page");
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        QCOMPARE(label("page_of_pages"), u"Page 2 of 3"_s);
         press(Qt::Key_PageDown);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
+        QCOMPARE(label("page_of_pages"), u"Page 3 of 3"_s);
         press(Qt::Key_PageDown);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 3 of 3"));
+        QCOMPARE(label("page_of_pages"), u"Page 3 of 3"_s);
         press(Qt::Key_PageUp);
         press(Qt::Key_PageUp);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        QCOMPARE(label("page_of_pages"), u"Page 2 of 3"_s);
         click("previous_page");
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
+        QCOMPARE(label("page_of_pages"), u"Page 1 of 3"_s);
     }
 
     void pages_turn_one_by_one_however_many_are_in_view_data()
@@ -76,11 +77,11 @@ private Q_SLOTS:
         QFETCH(int, zoom);
         QFETCH(int, height);
         open_small(zoom, height);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
+        QCOMPARE(label("page_of_pages"), u"Page 1 of 9"_s);
         QVERIFY(saves_page(1));
-        QCOMPARE(turned(Qt::Key_PageDown, 9), QStringLiteral("2 3 4 5 6 7 8 9 9").split(u' '));
+        QCOMPARE(turned(Qt::Key_PageDown, 9), u"2 3 4 5 6 7 8 9 9"_s.split(u' '));
         QVERIFY(saves_page(9));
-        QCOMPARE(turned(Qt::Key_PageUp, 9), QStringLiteral("8 7 6 5 4 3 2 1 1").split(u' '));
+        QCOMPARE(turned(Qt::Key_PageUp, 9), u"8 7 6 5 4 3 2 1 1"_s.split(u' '));
         QCOMPARE(window_->pages().verticalScrollBar()->value(), 0);
     }
 
@@ -89,17 +90,17 @@ private Q_SLOTS:
         open_small(50, 1020);
         QScrollBar* bar = window_->pages().verticalScrollBar();
         bar->setValue(bar->maximum());
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 9 of 9"));
-        QCOMPARE(turned(Qt::Key_PageUp, 1), QStringList(QStringLiteral("8")));
+        QCOMPARE(label("page_of_pages"), u"Page 9 of 9"_s);
+        QCOMPARE(turned(Qt::Key_PageUp, 1), QStringList(u"8"_s));
         bar->setValue(bar->maximum() - 1);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 8 of 9"));
+        QCOMPARE(label("page_of_pages"), u"Page 8 of 9"_s);
         bar->setValue(0);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
+        QCOMPARE(label("page_of_pages"), u"Page 1 of 9"_s);
         press(Qt::Key_Down);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 9"));
+        QCOMPARE(label("page_of_pages"), u"Page 1 of 9"_s);
         for (int step = 0; step < 5; ++step)
             press(Qt::Key_Down);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 9"));
+        QCOMPARE(label("page_of_pages"), u"Page 2 of 9"_s);
     }
 
     void a_page_that_was_turned_to_stays_through_a_zoom()
@@ -108,11 +109,11 @@ private Q_SLOTS:
         turned(Qt::Key_PageDown, 3);
         for (int time = 0; time < 6; ++time) {
             press(Qt::Key_Plus, Qt::ControlModifier);
-            QCOMPARE(label("page_of_pages"), QStringLiteral("Page 4 of 9"));
+            QCOMPARE(label("page_of_pages"), u"Page 4 of 9"_s);
         }
         QVERIFY(window_->pages().zoom() >= 100);
         press(Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 4 of 9"));
+        QCOMPARE(label("page_of_pages"), u"Page 4 of 9"_s);
     }
 };
 

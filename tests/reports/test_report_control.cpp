@@ -14,6 +14,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 class test_report_control : public QObject {
     Q_OBJECT
@@ -31,15 +32,15 @@ private Q_SLOTS:
     {
         is_french = true;
         set_report_store(store_.path());
-        fill_stats(store_.path(), 2, QStringLiteral("X"));
+        fill_stats(store_.path(), 2, u"X"_s);
     }
 
     void the_path_is_the_programs_folder_and_the_literal_of_the_language_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("literal");
-        QTest::newRow("French") << true << QStringLiteral("\\Stat_rounds.rpt");
-        QTest::newRow("English") << false << QStringLiteral("\\Stat_rounds_en.rpt");
+        QTest::newRow("French") << true << u"\\Stat_rounds.rpt"_s;
+        QTest::newRow("English") << false << u"\\Stat_rounds_en.rpt"_s;
     }
     void the_path_is_the_programs_folder_and_the_literal_of_the_language()
     {
@@ -49,7 +50,7 @@ private Q_SLOTS:
         report_control control;
         prepare_round_report(control, report_opening::maximised());
         QCOMPARE(control.ReportFileName(), QCoreApplication::applicationDirPath() + literal);
-        QCOMPARE(control.WindowTitle(), QStringLiteral("Verdane International Inc."));
+        QCOMPARE(control.WindowTitle(), u"Verdane International Inc."_s);
         QCOMPARE(control.WindowState(), report_control::maximised);
         QVERIFY(control.preview() == nullptr);
     }
@@ -60,8 +61,8 @@ private Q_SLOTS:
         prepare_round_report(control, report_opening::maximised());
         control.Action(report_control::run_now);
         QVERIFY(control.preview() != nullptr);
-        QCOMPARE(control.preview()->objectName(), QStringLiteral("report_preview"));
-        QCOMPARE(control.preview()->windowTitle(), QStringLiteral("Verdane International Inc."));
+        QCOMPARE(control.preview()->objectName(), u"report_preview"_s);
+        QCOMPARE(control.preview()->windowTitle(), u"Verdane International Inc."_s);
         QVERIFY(control.preview()->isVisible());
         QVERIFY(control.preview()->isMaximized());
         QVERIFY(!control.preview()->isModal());
@@ -117,7 +118,7 @@ private Q_SLOTS:
         prepare_round_report(control, report_opening::plain());
         control.Action(report_control::run_now);
         const QImage before = control.preview()->grab().toImage();
-        fill_stats(store_.path(), 30, QStringLiteral("Y"));
+        fill_stats(store_.path(), 30, u"Y"_s);
         control.preview()->update();
         QCOMPARE(control.preview()->grab().toImage(), before);
         delete control.preview();
@@ -126,10 +127,10 @@ private Q_SLOTS:
     void a_folder_is_one_path_whatever_its_name_holds_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("blanks") << QStringLiteral("my own reports");
-        QTest::newRow("accents") << QStringLiteral("Été à l'étang");
+        QTest::newRow("blanks") << u"my own reports"_s;
+        QTest::newRow("accents") << u"Été à l'étang"_s;
 #ifndef Q_OS_WIN
-        QTest::newRow("a backslash") << QStringLiteral("back\\slash");
+        QTest::newRow("a backslash") << u"back\\slash"_s;
 #endif
     }
     void a_folder_is_one_path_whatever_its_name_holds()
@@ -137,9 +138,9 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QVERIFY(QDir(folder_.path()).mkdir(name));
         const QString folder = folder_.filePath(name);
-        template_file_in(folder, QStringLiteral("try.rpt"), QStringLiteral("query it = select 1"), {});
+        template_file_in(folder, u"try.rpt"_s, u"query it = select 1"_s, {});
         report_control control;
-        control.set_ReportFileName(folder + QStringLiteral("\\try.rpt"));
+        control.set_ReportFileName(folder + u"\\try.rpt"_s);
         control.Action(report_control::run_now);
         QVERIFY(control.preview() != nullptr);
         delete control.preview();
@@ -148,10 +149,10 @@ private Q_SLOTS:
     void a_launch_that_fails_opens_no_window()
     {
         report_control control;
-        control.set_ReportFileName(folder_.path() + QStringLiteral("\\none.rpt"));
+        control.set_ReportFileName(folder_.path() + u"\\none.rpt"_s);
         QCOMPARE(failure_of([&] { control.Action(report_control::run_now); }), failure_kind::report_template);
         prepare_round_report(control, report_opening::plain());
-        set_report_store(folder_.filePath(QStringLiteral("none.sqlite")));
+        set_report_store(folder_.filePath(u"none.sqlite"_s));
         QCOMPARE(failure_of([&] { control.Action(report_control::run_now); }),
                  failure_kind::store_unreachable);
         QVERIFY(control.preview() == nullptr);

@@ -16,6 +16,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,15 +54,14 @@ class test_report_output : public QObject {
 
     std::shared_ptr<const report_document> rendered(const QString& head, const QString& body = {})
     {
-        return render_report(template_file_in(folder_.path(), QStringLiteral("out.rpt"), head, body));
+        return render_report(template_file_in(folder_.path(), u"out.rpt"_s, head, body));
     }
 
     std::shared_ptr<const report_document> three_pages()
     {
-        return rendered(
-            QStringLiteral("page = A4 landscape\nmargins = 10 16 11 16\n"
-                           "query it = select 1 as n union all select 2 union all select 3"),
-            QStringLiteral("{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"));
+        return rendered(u"page = A4 landscape\nmargins = 10 16 11 16\n"
+                        u"query it = select 1 as n union all select 2 union all select 3"_s,
+                        u"{{#it}}<p style=\"page-break-after: always\">sheet-{{n}}-</p>{{/it}}"_s);
     }
 
     static QByteArray content(const QString& path)
@@ -105,23 +105,22 @@ private Q_SLOTS:
         QFETCH(QString, separator);
         QFETCH(QString, value);
         QFETCH(QString, field);
-        const QString path = file(QStringLiteral("out.csv"));
-        rendered(QStringLiteral("csv_separator = %1\nquery it = select %2 as v").arg(separator, value))
-            ->save_csv(path);
+        const QString path = file(u"out.csv"_s);
+        rendered(u"csv_separator = %1\nquery it = select %2 as v"_s.arg(separator, value))->save_csv(path);
         QCOMPARE(content(path), "\xEF\xBB\xBFv\r\n" + field.toUtf8() + "\r\n");
     }
 
     void the_head_names_the_query_of_the_figures_file()
     {
-        const QString path = file(QStringLiteral("out.csv"));
-        rendered(QStringLiteral("csv = second\nquery first = select 1 as a\nquery second = select 2 as b"))
+        const QString path = file(u"out.csv"_s);
+        rendered(u"csv = second\nquery first = select 1 as a\nquery second = select 2 as b"_s)
             ->save_csv(path);
         QVERIFY(content(path).endsWith("b\r\n2\r\n"));
     }
 
     void a_picture_of_a_page_has_its_size_and_ink()
     {
-        const QString path = file(QStringLiteral("out.png"));
+        const QString path = file(u"out.png"_s);
         three_pages()->save_picture(path, 1);
         const QImage picture(path);
         QCOMPARE(picture.size(), QSize(2339, 1654));
@@ -133,7 +132,7 @@ private Q_SLOTS:
     void what_cannot_be_written_is_a_failure_and_loses_nothing_data()
     {
         QTest::addColumn<QString>("path");
-        QTest::newRow("no such folder") << file(QStringLiteral("nowhere/out.pdf"));
+        QTest::newRow("no such folder") << file(u"nowhere/out.pdf"_s);
         QTest::newRow("a folder of that name") << folder_.path();
     }
     void what_cannot_be_written_is_a_failure_and_loses_nothing()
@@ -148,19 +147,19 @@ private Q_SLOTS:
 
     void a_disk_that_takes_no_more_leaves_the_file_as_it_was()
     {
-        const QString path = file(QStringLiteral("kept.pdf"));
+        const QString path = file(u"kept.pdf"_s);
         const auto document = three_pages();
         document->save_csv(path);
         const QByteArray before = content(path);
         const room_on_disk little(1024);
         QCOMPARE(failure_of([&] { document->save_pdf(path); }), failure_kind::report_output);
         QCOMPARE(content(path), before);
-        QCOMPARE(QDir(folder_.path()).entryList({QStringLiteral("kept.pdf*")}).size(), 1);
+        QCOMPARE(QDir(folder_.path()).entryList({u"kept.pdf*"_s}).size(), 1);
     }
 
     void a_pipe_stays_a_pipe()
     {
-        const QString path = file(QStringLiteral("pipe"));
+        const QString path = file(u"pipe"_s);
         QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
         QCOMPARE(failure_of([&] { three_pages()->save_csv(path); }), failure_kind::report_output);
         QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
@@ -184,7 +183,7 @@ private Q_SLOTS:
         QFETCH(int, last);
         QFETCH(int, pages);
         QPrinter printer(QPrinter::HighResolution);
-        const QString path = file(QStringLiteral("printed-%1-%2.pdf").arg(first).arg(last));
+        const QString path = file(u"printed-%1-%2.pdf"_s.arg(first).arg(last));
         print_to(printer, path);
         if (first > 0)
             printer.setFromTo(first, last);
@@ -192,27 +191,26 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(path), pages > 0);
         const QStringList seen = pages > 0 ? pdf_pages(path) : QStringList();
         QCOMPARE(seen.size(), pages);
-        QVERIFY(pages == 0 || seen.front().contains(QStringLiteral("sheet-%1-").arg(qMax(1, first))));
+        QVERIFY(pages == 0 || seen.front().contains(u"sheet-%1-"_s.arg(qMax(1, first))));
     }
 
     void a_page_comes_whole_on_other_paper()
     {
-        fill_stats(store_.path(), 3, QStringLiteral("X"));
+        fill_stats(store_.path(), 3, u"X"_s);
         QPrinter printer(QPrinter::HighResolution);
-        print_to(printer, file(QStringLiteral("letter.pdf")));
+        print_to(printer, file(u"letter.pdf"_s));
         printer.setPageSize(QPageSize(QPageSize::Letter));
-        render_report(built_template(QStringLiteral("Stat_rounds_en.rpt")))->print(printer);
-        const QString page = pdf_pages(file(QStringLiteral("letter.pdf"))).front();
+        render_report(built_template(u"Stat_rounds_en.rpt"_s))->print(printer);
+        const QString page = pdf_pages(file(u"letter.pdf"_s)).front();
         for (const char* corner : {"Round Statistics", "Total", "Triple+", "Page 1 of 1"})
             QVERIFY2(page.contains(QString::fromLatin1(corner)), corner);
-        QVERIFY(pdf_fact(file(QStringLiteral("letter.pdf")), QStringLiteral("Page size"))
-                    .startsWith(QStringLiteral("792 x 612")));
+        QVERIFY(pdf_fact(file(u"letter.pdf"_s), u"Page size"_s).startsWith(u"792 x 612"_s));
     }
 
     void a_printer_that_cannot_start_is_a_failure()
     {
         QPrinter printer(QPrinter::HighResolution);
-        print_to(printer, file(QStringLiteral("nowhere/printed.pdf")));
+        print_to(printer, file(u"nowhere/printed.pdf"_s));
         QCOMPARE(failure_of([&] { three_pages()->print(printer); }), failure_kind::report_output);
     }
 };

@@ -9,24 +9,24 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 /// Rows of three printed lines each, whose first and last line carry the row's number.
 QString row_head(const QString& page, int rows)
 {
-    return QStringLiteral("page = %1\nmargins = 20 15 25 15\nfont = 10pt DejaVu Sans\n"
-                          "title = Rows\nfooter = Page {{page}} of {{pages}}\n"
-                          "query rows = with recursive c(n) as (select 1 union all select n + 1 from c "
-                          "where n < %2) select n from c\n")
-        .arg(page)
-        .arg(rows);
+    return u"page = %1\nmargins = 20 15 25 15\nfont = 10pt DejaVu Sans\n"
+           u"title = Rows\nfooter = Page {{page}} of {{pages}}\n"
+           u"query rows = with recursive c(n) as (select 1 union all select n + 1 from c "
+           u"where n < %2) select n from c\n"_s.arg(page)
+               .arg(rows);
 }
 
 const QString row_body =
-    QStringLiteral("<style>td { padding: 1.3mm; }</style><p>{{title}}</p>"
-                   "<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
-                   "{{#rows}}<tr><td>start-{{n}}-<br>middle<br>end-{{n}}-</td></tr>{{/rows}}</table>");
+    u"<style>td { padding: 1.3mm; }</style><p>{{title}}</p>"
+    u"<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
+    u"{{#rows}}<tr><td>start-{{n}}-<br>middle<br>end-{{n}}-</td></tr>{{/rows}}</table>"_s;
 
 int ink_in(const QImage& image, const QRect& place)
 {
@@ -56,12 +56,12 @@ class test_report_pages : public QObject {
 
     std::shared_ptr<const report_document> rendered(const QString& head, const QString& body)
     {
-        return render_report(template_file_in(folder_.path(), QStringLiteral("pages.rpt"), head, body));
+        return render_report(template_file_in(folder_.path(), u"pages.rpt"_s, head, body));
     }
 
     QStringList pages_of(const report_document& document)
     {
-        const QString path = folder_.filePath(QStringLiteral("pages.pdf"));
+        const QString path = folder_.filePath(u"pages.pdf"_s);
         document.save_pdf(path);
         return pdf_pages(path);
     }
@@ -85,36 +85,34 @@ private Q_SLOTS:
         int next = 1;
         for (qsizetype number = 0; number < pages.size(); ++number) {
             const QString& text = pages[number];
-            QVERIFY(text.contains(QStringLiteral("HEADING")));
-            QVERIFY(text.contains(QStringLiteral("Page %1 of %2").arg(number + 1).arg(pages.size())));
-            for (; text.contains(QStringLiteral("start-%1-").arg(next)); ++next)
-                QVERIFY2(text.contains(QStringLiteral("end-%1-").arg(next)), qPrintable(text));
+            QVERIFY(text.contains(u"HEADING"_s));
+            QVERIFY(text.contains(u"Page %1 of %2"_s.arg(number + 1).arg(pages.size())));
+            for (; text.contains(u"start-%1-"_s.arg(next)); ++next)
+                QVERIFY2(text.contains(u"end-%1-"_s.arg(next)), qPrintable(text));
         }
         QCOMPARE(next, 61);
     }
 
     void no_word_stands_on_two_pages()
     {
-        const QString body =
-            QStringLiteral("<svg width=\"100mm\" height=\"250mm\" viewBox=\"0 0 100 250\">"
-                           "<text x=\"0\" y=\"10\">upper-word</text>"
-                           "<text x=\"0\" y=\"249\">lower-word</text></svg>"
-                           "<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
-                           "{{#rows}}<tr><td>row-{{n}}-</td></tr>{{/rows}}</table>");
-        const QString all =
-            pages_of(*rendered(row_head(QStringLiteral("A4 portrait"), 150), body)).join(u' ');
-        QCOMPARE(all.count(QStringLiteral("upper-word")), 1);
-        QCOMPARE(all.count(QStringLiteral("lower-word")), 1);
+        const QString body = u"<svg width=\"100mm\" height=\"250mm\" viewBox=\"0 0 100 250\">"
+                             u"<text x=\"0\" y=\"10\">upper-word</text>"
+                             u"<text x=\"0\" y=\"249\">lower-word</text></svg>"
+                             u"<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
+                             u"{{#rows}}<tr><td>row-{{n}}-</td></tr>{{/rows}}</table>"_s;
+        const QString all = pages_of(*rendered(row_head(u"A4 portrait"_s, 150), body)).join(u' ');
+        QCOMPARE(all.count(u"upper-word"_s), 1);
+        QCOMPARE(all.count(u"lower-word"_s), 1);
         for (int row = 1; row <= 150; ++row)
-            QCOMPARE(all.count(QStringLiteral("row-%1-").arg(row)), 1);
+            QCOMPARE(all.count(u"row-%1-"_s.arg(row)), 1);
     }
 
     void a_head_stands_again_as_it_stood_first_data()
     {
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("align");
-        const QString plain = QStringLiteral("cellspacing=\"0\" style=\"border-collapse: collapse\"");
-        const QString boxed = QStringLiteral("cellspacing=\"2mm\" border=\"1mm\"");
+        const QString plain = u"cellspacing=\"0\" style=\"border-collapse: collapse\""_s;
+        const QString boxed = u"cellspacing=\"2mm\" border=\"1mm\""_s;
         for (const char* align : {"top", "middle", "bottom"}) {
             QTest::addRow("plain table, %s", align) << plain << QString::fromLatin1(align);
             QTest::addRow("table of boxes, %s", align) << boxed << QString::fromLatin1(align);
@@ -125,13 +123,12 @@ private Q_SLOTS:
         QFETCH(QString, table);
         QFETCH(QString, align);
         const QString body =
-            QStringLiteral("<style>th { vertical-align: %2; background-color: #000000; color: #ffffff; "
-                           "padding: 1mm } td { vertical-align: %2; padding: 1mm }</style>"
-                           "<table width=\"118mm\" %1><thead><tr><th>low</th><th>of<br>three<br>lines</th>"
-                           "</tr></thead>{{#rows}}<tr><td>start-{{n}}-<br>end-{{n}}-</td><td>{{n}}</td></tr>"
-                           "{{/rows}}</table>")
-                .arg(table, align);
-        const auto document = rendered(row_head(QStringLiteral("A5 portrait"), 30), body);
+            u"<style>th { vertical-align: %2; background-color: #000000; color: #ffffff; "
+            u"padding: 1mm } td { vertical-align: %2; padding: 1mm }</style>"
+            u"<table width=\"118mm\" %1><thead><tr><th>low</th><th>of<br>three<br>lines</th>"
+            u"</tr></thead>{{#rows}}<tr><td>start-{{n}}-<br>end-{{n}}-</td><td>{{n}}</td></tr>"
+            u"{{/rows}}</table>"_s.arg(table, align);
+        const auto document = rendered(row_head(u"A5 portrait"_s, 30), body);
         QVERIFY(document->page_count() > 1);
         // 15 mm from the left and 20 from the top, as high as three lines.
         const QRect head(150, 200, 1180, 150);
@@ -151,67 +148,65 @@ private Q_SLOTS:
     void the_last_four_rows_stay_together_where_a_page_has_room_for_them()
     {
         QFETCH(int, rows);
-        const QString body =
-            QStringLiteral("<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
-                           "{{#rows}}<tr><td>start-{{n}}-</td></tr>{{/rows}}</table>");
-        const QString last =
-            pages_of(*rendered(row_head(QStringLiteral("A5 landscape"), rows), body)).constLast();
+        const QString body = u"<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
+                             u"{{#rows}}<tr><td>start-{{n}}-</td></tr>{{/rows}}</table>"_s;
+        const QString last = pages_of(*rendered(row_head(u"A5 landscape"_s, rows), body)).constLast();
         for (int row = qMax(1, rows - 3); row <= rows; ++row)
-            QVERIFY2(last.contains(QStringLiteral("start-%1-").arg(row)), qPrintable(last));
+            QVERIFY2(last.contains(u"start-%1-"_s.arg(row)), qPrintable(last));
     }
 
     void last_rows_too_tall_for_one_page_are_neither_cut_nor_parted_further()
     {
-        const QString body = QStringLiteral(
-            "<table width=\"120mm\"><thead><tr><th>HEADING</th></tr></thead>\n{{#rows}}<tr><td>start-{{n}}-"
-            "<br>2<br>3<br>4<br>5<br>6<br>7<br>end-{{n}}-</td></tr>{{/rows}}</table>");
-        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A5 landscape"), 7), body));
+        const QString body =
+            u"<table width=\"120mm\"><thead><tr><th>HEADING</th></tr></thead>\n{{#rows}}<tr><td>start-{{n}}-"
+            u"<br>2<br>3<br>4<br>5<br>6<br>7<br>end-{{n}}-</td></tr>{{/rows}}</table>"_s;
+        const QStringList pages = pages_of(*rendered(row_head(u"A5 landscape"_s, 7), body));
         QCOMPARE(pages.size(), 4);
         for (const QString& page : pages)
-            QCOMPARE(page.count(QStringLiteral("end-")), page.count(QStringLiteral("start-")));
+            QCOMPARE(page.count(u"end-"_s), page.count(u"start-"_s));
     }
 
     void rows_that_a_cell_joins_stay_on_one_page()
     {
-        const QString body = QStringLiteral(
-            "<table width=\"180mm\"><thead><tr><th>HEADING</th><th>x</th></tr></thead>{{#rows}}"
-            "<tr><td rowspan=\"3\">start-{{n}}-</td><td>a</td></tr><tr><td>b</td></tr>"
-            "<tr><td>end-{{n}}-</td></tr>{{/rows}}</table>");
-        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A4 portrait"), 40), body));
+        const QString body =
+            u"<table width=\"180mm\"><thead><tr><th>HEADING</th><th>x</th></tr></thead>{{#rows}}"
+            u"<tr><td rowspan=\"3\">start-{{n}}-</td><td>a</td></tr><tr><td>b</td></tr>"
+            u"<tr><td>end-{{n}}-</td></tr>{{/rows}}</table>"_s;
+        const QStringList pages = pages_of(*rendered(row_head(u"A4 portrait"_s, 40), body));
         QVERIFY(pages.size() > 1);
         for (const QString& page : pages)
-            QCOMPARE(page.count(QStringLiteral("start-")), page.count(QStringLiteral("end-")));
+            QCOMPARE(page.count(u"start-"_s), page.count(u"end-"_s));
     }
 
     void a_row_taller_than_a_page_goes_on_over_the_next_ones()
     {
-        const QString body = QStringLiteral("<table><tr><td>{{#rows}}start-{{n}}-<br>{{/rows}}</td></tr>"
-                                            "<tr><td>after</td></tr></table>");
-        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A5 landscape"), 60), body));
+        const QString body = u"<table><tr><td>{{#rows}}start-{{n}}-<br>{{/rows}}</td></tr>"
+                             u"<tr><td>after</td></tr></table>"_s;
+        const QStringList pages = pages_of(*rendered(row_head(u"A5 landscape"_s, 60), body));
         QVERIFY(pages.size() > 2);
-        QVERIFY(pages.front().contains(QStringLiteral("start-1-")));
-        QVERIFY(pages.back().contains(QStringLiteral("after")));
-        QVERIFY(pages.join(u' ').contains(QStringLiteral("start-60-")));
+        QVERIFY(pages.front().contains(u"start-1-"_s));
+        QVERIFY(pages.back().contains(u"after"_s));
+        QVERIFY(pages.join(u' ').contains(u"start-60-"_s));
     }
 
     void a_page_break_is_kept_and_leaves_no_empty_page_behind_data()
     {
         QTest::addColumn<QString>("body");
-        QTest::newRow("after") << QStringLiteral(
-            "{{#rows}}<p style=\"page-break-after: always\">start-{{n}}-</p>{{/rows}}");
-        QTest::newRow("before") << QStringLiteral(
-            "{{#rows}}<p style=\"page-break-before: always\">start-{{n}}-</p>{{/rows}}");
-        QTest::newRow("tables") << QStringLiteral(
-            "{{#rows}}<table style=\"page-break-before: always\"><tr><td>start-{{n}}-</td></tr></table>"
-            "{{/rows}}");
+        QTest::newRow("after")
+            << u"{{#rows}}<p style=\"page-break-after: always\">start-{{n}}-</p>{{/rows}}"_s;
+        QTest::newRow("before")
+            << u"{{#rows}}<p style=\"page-break-before: always\">start-{{n}}-</p>{{/rows}}"_s;
+        QTest::newRow("tables")
+            << u"{{#rows}}<table style=\"page-break-before: always\"><tr><td>start-{{n}}-</td></tr></table>"
+               u"{{/rows}}"_s;
     }
     void a_page_break_is_kept_and_leaves_no_empty_page_behind()
     {
         QFETCH(QString, body);
-        const QStringList pages = pages_of(*rendered(row_head(QStringLiteral("A4 portrait"), 4), body));
+        const QStringList pages = pages_of(*rendered(row_head(u"A4 portrait"_s, 4), body));
         QCOMPARE(pages.size(), 4);
         for (int page = 0; page < 4; ++page)
-            QVERIFY(pages[page].contains(QStringLiteral("start-%1-").arg(page + 1)));
+            QVERIFY(pages[page].contains(u"start-%1-"_s.arg(page + 1)));
     }
 
     void few_rows_make_one_page_and_none_make_one_too_data()
@@ -223,31 +218,29 @@ private Q_SLOTS:
     void few_rows_make_one_page_and_none_make_one_too()
     {
         QFETCH(QString, body);
-        QCOMPARE(rendered(row_head(QStringLiteral("A4 portrait"), 3), body)->page_count(), 1);
+        QCOMPARE(rendered(row_head(u"A4 portrait"_s, 3), body)->page_count(), 1);
     }
 
     void a_page_has_the_size_of_its_paper_data()
     {
         QTest::addColumn<QString>("page");
         QTest::addColumn<QString>("points");
-        QTest::newRow("A4 across") << QStringLiteral("A4 landscape") << QStringLiteral("842 x 595 pts");
-        QTest::newRow("A4 upright") << QStringLiteral("A4 portrait") << QStringLiteral("595 x 842 pts");
-        QTest::newRow("Letter across")
-            << QStringLiteral("Letter landscape") << QStringLiteral("792 x 612 pts");
+        QTest::newRow("A4 across") << u"A4 landscape"_s << u"842 x 595 pts"_s;
+        QTest::newRow("A4 upright") << u"A4 portrait"_s << u"595 x 842 pts"_s;
+        QTest::newRow("Letter across") << u"Letter landscape"_s << u"792 x 612 pts"_s;
     }
     void a_page_has_the_size_of_its_paper()
     {
         QFETCH(QString, page);
         QFETCH(QString, points);
         pages_of(*rendered(row_head(page, 3), row_body));
-        const QString seen =
-            pdf_fact(folder_.filePath(QStringLiteral("pages.pdf")), QStringLiteral("Page size"));
+        const QString seen = pdf_fact(folder_.filePath(u"pages.pdf"_s), u"Page size"_s);
         QVERIFY2(seen.startsWith(points), qPrintable(seen));
     }
 
     void margins_are_kept_free_in_millimetres()
     {
-        const auto document = rendered(row_head(QStringLiteral("A4 portrait"), 60), row_body);
+        const auto document = rendered(row_head(u"A4 portrait"_s, 60), row_body);
         const QImage image = document->page_image(0, 254);
         QCOMPARE(image.size(), QSize(2100, 2970));
         QCOMPARE(ink_in(image, QRect(0, 0, 2100, 200)), 0);
@@ -266,8 +259,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, bottom);
         const QString head =
-            row_head(QStringLiteral("A4 portrait"), 1)
-                .replace(QStringLiteral("20 15 25 15"), QStringLiteral("20 15 %1 15").arg(bottom));
+            row_head(u"A4 portrait"_s, 1).replace(u"20 15 25 15"_s, u"20 15 %1 15"_s.arg(bottom));
         const QImage image = rendered(head, row_body)->page_image(0, 254);
         QCOMPARE(ink_in(image, QRect(0, 2970 - 60, 2100, 60)), 0);
         QVERIFY(ink_in(image, QRect(0, 2970 - bottom.toInt() * 10, 2100, bottom.toInt() * 10 - 60)) > 100);
@@ -275,24 +267,24 @@ private Q_SLOTS:
 
     void a_body_wider_than_its_page_is_printed_smaller_and_whole()
     {
-        const QString body = QStringLiteral("<table width=\"300mm\"><tr><td width=\"295mm\">left</td>"
-                                            "<td>|</td></tr></table>");
-        const QImage image = rendered(row_head(QStringLiteral("A4 portrait"), 1), body)->page_image(0, 254);
+        const QString body = u"<table width=\"300mm\"><tr><td width=\"295mm\">left</td>"
+                             u"<td>|</td></tr></table>"_s;
+        const QImage image = rendered(row_head(u"A4 portrait"_s, 1), body)->page_image(0, 254);
         QVERIFY(ink_in(image, QRect(1850, 200, 100, 200)) > 0);
         QCOMPARE(ink_in(image, QRect(1951, 0, 149, 2500)), 0);
     }
 
     void lengths_in_mm_and_pt_are_those_on_paper()
     {
-        const QString body = QStringLiteral(
-            "<svg width=\"40mm\" height=\"20mm\" viewBox=\"0 0 2 1\"><rect width=\"2\" height=\"1\"/></svg>");
-        const QImage image = rendered(row_head(QStringLiteral("A4 portrait"), 1), body)->page_image(0, 254);
+        const QString body =
+            u"<svg width=\"40mm\" height=\"20mm\" viewBox=\"0 0 2 1\"><rect width=\"2\" height=\"1\"/></svg>"_s;
+        const QImage image = rendered(row_head(u"A4 portrait"_s, 1), body)->page_image(0, 254);
         QVERIFY(qAbs(ink_in(image, image.rect().adjusted(0, 0, 0, -300)) - 400 * 200) < 2000);
     }
 
     void a_picture_shows_the_same_page_at_any_resolution()
     {
-        const auto document = rendered(row_head(QStringLiteral("A4 portrait"), 20), row_body);
+        const auto document = rendered(row_head(u"A4 portrait"_s, 20), row_body);
         const QImage coarse = document->page_image(0, 75);
         const QImage fine = document->page_image(0, 300).scaled(coarse.size(), Qt::IgnoreAspectRatio,
                                                                 Qt::SmoothTransformation);
@@ -305,11 +297,11 @@ private Q_SLOTS:
 
     void a_drawing_stays_a_drawing_in_a_pdf()
     {
-        const QString body = QStringLiteral("<svg width=\"60mm\" height=\"60mm\" viewBox=\"0 0 9 9\">"
-                                            "<circle cx=\"4\" cy=\"4\" r=\"4\" fill=\"#1f7a4d\"/></svg>");
-        const auto document = rendered(row_head(QStringLiteral("A4 portrait"), 1), body);
+        const QString body = u"<svg width=\"60mm\" height=\"60mm\" viewBox=\"0 0 9 9\">"
+                             u"<circle cx=\"4\" cy=\"4\" r=\"4\" fill=\"#1f7a4d\"/></svg>"_s;
+        const auto document = rendered(row_head(u"A4 portrait"_s, 1), body);
         pages_of(*document);
-        QFile file(folder_.filePath(QStringLiteral("pages.pdf")));
+        QFile file(folder_.filePath(u"pages.pdf"_s));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(!file.readAll().contains("/Subtype /Image"));
     }
@@ -320,8 +312,7 @@ private Q_SLOTS:
         night.setColor(QPalette::Text, Qt::white);
         night.setColor(QPalette::Base, Qt::black);
         QGuiApplication::setPalette(night);
-        const QImage image =
-            rendered(row_head(QStringLiteral("A4 portrait"), 5), row_body)->page_image(0, 100);
+        const QImage image = rendered(row_head(u"A4 portrait"_s, 5), row_body)->page_image(0, 100);
         QGuiApplication::setPalette(QPalette());
         QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white));
         QVERIFY(ink_in(image, image.rect()) > 200);

@@ -11,6 +11,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 class test_report_preview : public preview_reader {
     Q_OBJECT
@@ -25,29 +26,26 @@ private Q_SLOTS:
     void the_window_has_its_title_and_says_where_it_stands()
     {
         open();
-        QCOMPARE(window_->objectName(), QStringLiteral("report_preview"));
-        QCOMPARE(window_->windowTitle(), QStringLiteral("A title"));
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
-        QCOMPARE(label("zoom_percent"), QStringLiteral("100 %"));
+        QCOMPARE(window_->objectName(), u"report_preview"_s);
+        QCOMPARE(window_->windowTitle(), u"A title"_s);
+        QCOMPARE(label("page_of_pages"), u"Page 1 of 3"_s);
+        QCOMPARE(label("zoom_percent"), u"100 %"_s);
     }
 
     void captions_are_those_of_the_language_it_was_made_in_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QStringList>("captions");
-        QTest::newRow("French")
-            << true << QStringList{QStringLiteral("Imprimer…"),       QStringLiteral("Enregistrer en PDF…"),
-                                   QStringLiteral("Chiffres (CSV)…"), QStringLiteral("Image…"),
-                                   QStringLiteral("Réduire"),         QStringLiteral("Agrandir"),
-                                   QStringLiteral("Pleine largeur"),  QStringLiteral("Page précédente"),
-                                   QStringLiteral("Page suivante"),   QStringLiteral("Page 2 de 3")};
+        QTest::newRow("French") << true << QStringList{u"Imprimer…"_s,       u"Enregistrer en PDF…"_s,
+                                                       u"Chiffres (CSV)…"_s, u"Image…"_s,
+                                                       u"Réduire"_s,         u"Agrandir"_s,
+                                                       u"Pleine largeur"_s,  u"Page précédente"_s,
+                                                       u"Page suivante"_s,   u"Page 2 de 3"_s};
         QTest::newRow("English") << false
-                                 << QStringList{
-                                        QStringLiteral("Print…"),         QStringLiteral("Save as PDF…"),
-                                        QStringLiteral("Figures (CSV)…"), QStringLiteral("Picture…"),
-                                        QStringLiteral("Zoom out"),       QStringLiteral("Zoom in"),
-                                        QStringLiteral("Fit width"),      QStringLiteral("Previous page"),
-                                        QStringLiteral("Next page"),      QStringLiteral("Page 2 of 3")};
+                                 << QStringList{u"Print…"_s,     u"Save as PDF…"_s,  u"Figures (CSV)…"_s,
+                                                u"Picture…"_s,   u"Zoom out"_s,      u"Zoom in"_s,
+                                                u"Fit width"_s,  u"Previous page"_s, u"Next page"_s,
+                                                u"Page 2 of 3"_s};
     }
     void captions_are_those_of_the_language_it_was_made_in()
     {
@@ -71,12 +69,12 @@ private Q_SLOTS:
     {
         open();
         click("zoom_in");
-        QCOMPARE(label("zoom_percent"), QStringLiteral("110 %"));
+        QCOMPARE(label("zoom_percent"), u"110 %"_s);
         press(Qt::Key_Minus, Qt::ControlModifier);
         press(Qt::Key_Minus, Qt::ControlModifier);
-        QCOMPARE(label("zoom_percent"), QStringLiteral("90 %"));
+        QCOMPARE(label("zoom_percent"), u"90 %"_s);
         press(Qt::Key_Plus, Qt::ControlModifier);
-        QCOMPARE(label("zoom_percent"), QStringLiteral("100 %"));
+        QCOMPARE(label("zoom_percent"), u"100 %"_s);
         for (int step = 0; step < 20; ++step)
             click("zoom_out");
         QCOMPARE(window_->pages().zoom(), page_view::least_zoom);
@@ -104,12 +102,12 @@ private Q_SLOTS:
         delete window_;
         report_control control;
         control.set_WindowState(report_control::maximised);
-        control.set_ReportFileName(folder_.path() + QStringLiteral("\\Three.rpt"));
+        control.set_ReportFileName(folder_.path() + u"\\Three.rpt"_s);
         control.Action(report_control::run_now);
         window_ = control.preview();
         QVERIFY(QTest::qWaitForWindowActive(window_));
         QTRY_VERIFY(window_->pages().zoom() != 100);
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 1 of 3"));
+        QCOMPARE(label("page_of_pages"), u"Page 1 of 3"_s);
     }
 
     void what_is_seen_stays_in_the_middle_when_the_zoom_changes()
@@ -118,7 +116,7 @@ private Q_SLOTS:
         click("next_page");
         for (int step = 0; step < 4; ++step) {
             click("zoom_in");
-            QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+            QCOMPARE(label("page_of_pages"), u"Page 2 of 3"_s);
         }
     }
 
@@ -142,11 +140,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("ending");
         QTest::addColumn<QByteArray>("start");
-        QTest::newRow("pdf") << QStringLiteral("save_pdf") << QStringLiteral("pdf") << QByteArray("%PDF");
-        QTest::newRow("figures") << QStringLiteral("save_csv") << QStringLiteral("csv")
-                                 << QByteArray("\xEF\xBB\xBFn\r\n1\r\n");
-        QTest::newRow("picture") << QStringLiteral("save_picture") << QStringLiteral("png")
-                                 << QByteArray("\x89PNG");
+        QTest::newRow("pdf") << u"save_pdf"_s << u"pdf"_s << QByteArray("%PDF");
+        QTest::newRow("figures") << u"save_csv"_s << u"csv"_s << QByteArray("\xEF\xBB\xBFn\r\n1\r\n");
+        QTest::newRow("picture") << u"save_picture"_s << u"png"_s << QByteArray("\x89PNG");
     }
     void a_report_is_saved_where_the_chooser_says()
     {
@@ -154,9 +150,9 @@ private Q_SLOTS:
         QFETCH(QString, ending);
         QFETCH(QByteArray, start);
         open();
-        answer_ = file(QStringLiteral("saved.") + ending);
+        answer_ = file(u"saved."_s + ending);
         click(qPrintable(button));
-        QCOMPARE(asked_.proposed, QStringLiteral("Three.") + ending);
+        QCOMPARE(asked_.proposed, u"Three."_s + ending);
         QCOMPARE(asked_.ending, ending);
         QFile saved(answer_);
         QVERIFY(saved.open(QIODevice::ReadOnly));
@@ -167,7 +163,7 @@ private Q_SLOTS:
     void the_key_of_saving_saves_a_pdf()
     {
         open();
-        answer_ = file(QStringLiteral("keyed.pdf"));
+        answer_ = file(u"keyed.pdf"_s);
         press(Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(pdf_pages(answer_).size(), 3);
     }
@@ -176,20 +172,20 @@ private Q_SLOTS:
     {
         open();
         click("next_page");
-        answer_ = file(QStringLiteral("second.png"));
+        answer_ = file(u"second.png"_s);
         click("save_picture");
-        const QString first = file(QStringLiteral("first.png"));
+        const QString first = file(u"first.png"_s);
         click("previous_page");
         answer_ = first;
         click("save_picture");
-        QVERIFY(QImage(first) != QImage(file(QStringLiteral("second.png"))));
+        QVERIFY(QImage(first) != QImage(file(u"second.png"_s)));
     }
 
     void a_chooser_that_is_left_writes_nothing()
     {
         open();
         click("save_pdf");
-        QCOMPARE(asked_.ending, QStringLiteral("pdf"));
+        QCOMPARE(asked_.ending, u"pdf"_s);
         QVERIFY(box() == nullptr);
     }
 
@@ -204,25 +200,25 @@ private Q_SLOTS:
         QFETCH(bool, french);
         is_french = french;
         open();
-        answer_ = file(QStringLiteral("nowhere/saved.pdf"));
+        answer_ = file(u"nowhere/saved.pdf"_s);
         click("save_pdf");
         QVERIFY(box() != nullptr);
         QCOMPARE(box()->icon(), QMessageBox::Critical);
         QCOMPARE(box()->text(), failure_words(failure_kind::report_output).in(french));
-        QCOMPARE(box()->windowTitle(), QStringLiteral("A title"));
+        QCOMPARE(box()->windowTitle(), u"A title"_s);
         QCOMPARE(box()->standardButtons(), QMessageBox::Ok);
         QVERIFY(box()->informativeText().contains(answer_));
         QTest::keyClick(box(), Qt::Key_Return);
         QTRY_VERIFY(box() == nullptr);
         QVERIFY(window_->isVisible());
-        answer_ = file(QStringLiteral("saved after all.pdf"));
+        answer_ = file(u"saved after all.pdf"_s);
         click("save_pdf");
         QVERIFY(QFile::exists(answer_));
     }
 
     void printing_uses_the_printer_that_was_set_up()
     {
-        const QString path = file(QStringLiteral("printed.pdf"));
+        const QString path = file(u"printed.pdf"_s);
         dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer, int) {
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(path);
@@ -231,7 +227,7 @@ private Q_SLOTS:
         open();
         press(Qt::Key_P, Qt::ControlModifier);
         QCOMPARE(pdf_pages(path).size(), 3);
-        QVERIFY(pdf_fact(path, QStringLiteral("Page size")).startsWith(QStringLiteral("842 x 595")));
+        QVERIFY(pdf_fact(path, u"Page size"_s).startsWith(u"842 x 595"_s));
     }
 
     void the_question_for_the_printer_knows_how_many_pages_there_are()
@@ -258,7 +254,7 @@ private Q_SLOTS:
         bool goes_on = true;
         dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer, int) {
             printer.setOutputFormat(QPrinter::PdfFormat);
-            printer.setOutputFileName(file(QStringLiteral("nowhere/printed.pdf")));
+            printer.setOutputFileName(file(u"nowhere/printed.pdf"_s));
             return goes_on;
         };
         open();
@@ -284,7 +280,7 @@ private Q_SLOTS:
         owner.open();
         open(&owner);
         click("next_page");
-        QCOMPARE(label("page_of_pages"), QStringLiteral("Page 2 of 3"));
+        QCOMPARE(label("page_of_pages"), u"Page 2 of 3"_s);
         press(Qt::Key_Escape);
         QTRY_VERIFY(window_.isNull());
         QVERIFY(owner.isVisible());

@@ -10,11 +10,12 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString french = QStringLiteral("Stat_rounds.rpt");
-const QString english = QStringLiteral("Stat_rounds_en.rpt");
+const QString french = u"Stat_rounds.rpt"_s;
+const QString english = u"Stat_rounds_en.rpt"_s;
 
 /// The printed line that starts with a caption, without its first words and with single blanks.
 QString line_after(const QString& page, const QString& caption)
@@ -38,7 +39,7 @@ class test_round_report : public QObject {
 
     QString page_of(const QString& name)
     {
-        const QString path = folder_.filePath(QStringLiteral("round.pdf"));
+        const QString path = folder_.filePath(u"round.pdf"_s);
         render_report(built_template(name))->save_pdf(path);
         const QStringList pages = pdf_pages(path);
         return pages.size() == 1 ? pages.front() : QString();
@@ -48,7 +49,7 @@ private Q_SLOTS:
     void init()
     {
         set_report_store(store_.path());
-        fill_stats(store_.path(), 40, QStringLiteral("A & B <c> \"d\""));
+        fill_stats(store_.path(), 40, u"A & B <c> \"d\""_s);
     }
 
     void both_languages_stand_on_one_landscape_page_data()
@@ -64,7 +65,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(int, rounds);
-        fill_stats(store_.path(), rounds, QStringLiteral("LE BLAINVILLIER     , Blanc"));
+        fill_stats(store_.path(), rounds, u"LE BLAINVILLIER     , Blanc"_s);
         const auto document = render_report(built_template(name));
         QCOMPARE(document->page_count(), 1);
         QCOMPARE(document->page_size_mm().toSize(), QSize(297, 210));
@@ -77,20 +78,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("texts");
-        const QStringList shared{
-            QStringLiteral("A & B <c> \"d\""),      QStringLiteral("TOUTES"),
-            QStringLiteral("TOUS LES PARTENAIRES"), QStringLiteral("2023-05-06 08:30:00"),
-            QStringLiteral("2024-10-13 13:40:00"),  QStringLiteral("40")};
+        const QStringList shared{u"A & B <c> \"d\""_s,      u"TOUTES"_s,
+                                 u"TOUS LES PARTENAIRES"_s, u"2023-05-06 08:30:00"_s,
+                                 u"2024-10-13 13:40:00"_s,  u"40"_s};
         QTest::newRow("French") << french
-                                << shared + QStringList{QStringLiteral("Statistiques des rondes"),
-                                                        QStringLiteral("14,3"),
-                                                        QStringLiteral("Nombre de parties jouées"),
-                                                        QStringLiteral("Page 1 de 1")};
+                                << shared + QStringList{u"Statistiques des rondes"_s, u"14,3"_s,
+                                                        u"Nombre de parties jouées"_s, u"Page 1 de 1"_s};
         QTest::newRow("English") << english
-                                 << shared + QStringList{QStringLiteral("Round Statistics"),
-                                                         QStringLiteral("14.3"),
-                                                         QStringLiteral("Number of rounds"),
-                                                         QStringLiteral("Page 1 of 1")};
+                                 << shared + QStringList{u"Round Statistics"_s, u"14.3"_s,
+                                                         u"Number of rounds"_s, u"Page 1 of 1"_s};
     }
     void the_heading_holds_the_selection()
     {
@@ -103,9 +99,9 @@ private Q_SLOTS:
 
     void the_tee_stands_right_behind_the_name_of_its_course()
     {
-        fill_stats(store_.path(), 2, QStringLiteral("Pebble Beach        , Gold"));
+        fill_stats(store_.path(), 2, u"Pebble Beach        , Gold"_s);
         for (const QString& name : {french, english})
-            QVERIFY(page_of(name).contains(QStringLiteral("Pebble Beach, Gold")));
+            QVERIFY(page_of(name).contains(u"Pebble Beach, Gold"_s));
     }
 
     void every_line_stands_behind_its_caption_in_table_order_data()
@@ -199,70 +195,68 @@ private Q_SLOTS:
 
     void the_strokes_show_a_mean_of_many_rounds_and_a_total_of_one()
     {
-        const QString many = line_after(page_of(english), QStringLiteral("Strokes"));
-        QCOMPARE(many, QStringLiteral("total: mean per round 1 2 3 4 5 6 7 8 9 45 "
-                                      "10 11 12 13 14 15 16 17 18 126 85.5"));
-        QVERIFY(line_after(page_of(french), QStringLiteral("Coups")).endsWith(QStringLiteral(" 126 85,5")));
-        fill_stats(store_.path(), 1, QStringLiteral("X"));
-        QCOMPARE(line_after(page_of(english), QStringLiteral("Strokes")),
-                 QStringLiteral("1 2 3 4 5 6 7 8 9 45 10 11 12 13 14 15 16 17 18 126 171"));
+        const QString many = line_after(page_of(english), u"Strokes"_s);
+        QCOMPARE(many, u"total: mean per round 1 2 3 4 5 6 7 8 9 45 "
+                       u"10 11 12 13 14 15 16 17 18 126 85.5"_s);
+        QVERIFY(line_after(page_of(french), u"Coups"_s).endsWith(u" 126 85,5"_s));
+        fill_stats(store_.path(), 1, u"X"_s);
+        QCOMPARE(line_after(page_of(english), u"Strokes"_s),
+                 u"1 2 3 4 5 6 7 8 9 45 10 11 12 13 14 15 16 17 18 126 171"_s);
     }
 
     void strokes_against_par_carry_a_sign()
     {
-        QCOMPARE(line_after(page_of(english), QStringLiteral("+/- mean per round")),
-                 QStringLiteral("−0.8 −0.7 −0.6 −0.5 −0.4 −0.3 −0.2 −0.1 0 −3.6 "
-                                "+0.1 +0.2 +0.3 +0.4 +0.5 +0.6 +0.7 +0.8 +0.9 +4.5 +0.9"));
-        QVERIFY(line_after(page_of(french), QStringLiteral("+/- moyenne par ronde"))
-                    .startsWith(QStringLiteral("−0,8 −0,7")));
+        QCOMPARE(line_after(page_of(english), u"+/- mean per round"_s),
+                 u"−0.8 −0.7 −0.6 −0.5 −0.4 −0.3 −0.2 −0.1 0 −3.6 "
+                 u"+0.1 +0.2 +0.3 +0.4 +0.5 +0.6 +0.7 +0.8 +0.9 +4.5 +0.9"_s);
+        QVERIFY(line_after(page_of(french), u"+/- moyenne par ronde"_s).startsWith(u"−0,8 −0,7"_s));
     }
 
     void averages_have_two_decimals_in_their_totals()
     {
-        QVERIFY(line_after(page_of(english), QStringLiteral("Average Par 3"))
-                    .startsWith(QStringLiteral("25 26 27 28 29 30 31 32 33 261.00 34")));
+        QVERIFY(line_after(page_of(english), u"Average Par 3"_s)
+                    .startsWith(u"25 26 27 28 29 30 31 32 33 261.00 34"_s));
     }
 
     void empty_cells_are_dots_and_no_zeros()
     {
-        const QString seen = line_after(page_of(english), QStringLiteral("Chip in"));
-        QCOMPARE(seen, QStringLiteral("· · · · · · · · · · · · · · · · · · · · ·"));
+        const QString seen = line_after(page_of(english), u"Chip in"_s);
+        QCOMPARE(seen, u"· · · · · · · · · · · · · · · · · · · · ·"_s);
     }
 
     void the_figures_file_has_the_34_lines_unrounded()
     {
-        const QString path = folder_.filePath(QStringLiteral("figures.csv"));
+        const QString path = folder_.filePath(u"figures.csv"_s);
         render_report(built_template(english))->save_csv(path);
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QStringList lines = QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"));
+        const QStringList lines = QString::fromUtf8(file.readAll()).split(u"\r\n"_s);
         QCOMPARE(lines.size(), 36);
         QCOMPARE(lines[0],
 
-                 QStringLiteral("Line,1,2,3,4,5,6,7,8,9,Out,10,11,12,13,14,15,16,17,18,In,Total"));
-        QCOMPARE(lines[1],
-                 QStringLiteral("Strokes,1,2,3,4,5,6,7,8,9,45,10,11,12,13,14,15,16,17,18,126,85.5"));
-        QVERIFY(lines[10].startsWith(QStringLiteral("+/-,-0.8,-0.7,")));
-        QVERIFY(lines[34].startsWith(QStringLiteral("Triple+,34,35,")));
+                 u"Line,1,2,3,4,5,6,7,8,9,Out,10,11,12,13,14,15,16,17,18,In,Total"_s);
+        QCOMPARE(lines[1], u"Strokes,1,2,3,4,5,6,7,8,9,45,10,11,12,13,14,15,16,17,18,126,85.5"_s);
+        QVERIFY(lines[10].startsWith(u"+/-,-0.8,-0.7,"_s));
+        QVERIFY(lines[34].startsWith(u"Triple+,34,35,"_s));
     }
 
     void the_french_figures_file_suits_a_french_spreadsheet()
     {
-        const QString path = folder_.filePath(QStringLiteral("figures.csv"));
+        const QString path = folder_.filePath(u"figures.csv"_s);
         render_report(built_template(french))->save_csv(path);
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QStringList lines = QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"));
-        QVERIFY(lines[0].endsWith(QStringLiteral(";18;Retour;Total")));
-        QVERIFY(lines[1].endsWith(QStringLiteral(";126;85,5")));
+        const QStringList lines = QString::fromUtf8(file.readAll()).split(u"\r\n"_s);
+        QVERIFY(lines[0].endsWith(u";18;Retour;Total"_s));
+        QVERIFY(lines[1].endsWith(u";126;85,5"_s));
     }
 
     void a_table_without_figures_prints_too()
     {
         QStringList nulls;
         for (int hole = 1; hole <= 18; ++hole)
-            nulls.append(QStringLiteral("hole_%1 = null").arg(hole));
-        reader(store_.path()).write(QStringLiteral("update stats set ") + nulls.join(u','));
+            nulls.append(u"hole_%1 = null"_s.arg(hole));
+        reader(store_.path()).write(u"update stats set "_s + nulls.join(u','));
         QCOMPARE(render_report(built_template(french))->page_count(), 1);
     }
 };

@@ -18,6 +18,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int holes = 18;
@@ -37,7 +39,7 @@ diary_course card_of(const stored_course& course)
 
 QString shown(const QVariant& value)
 {
-    return value.isNull() ? QStringLiteral("null") : value.toString();
+    return value.isNull() ? u"null"_s : value.toString();
 }
 
 /// What the round list has open when it opens a round.
@@ -65,18 +67,15 @@ void round_store::add(const stored_course& course) const
 void round_store::add_two_courses() const
 {
     add({});
-    add({QStringLiteral("BETA-6"), QStringLiteral("Beta"), QStringLiteral("68"), QStringLiteral("113"),
-         QStringLiteral("5")});
+    add({u"BETA-6"_s, u"Beta"_s, u"68"_s, u"113"_s, u"5"_s});
 }
 
 void round_store::add_partner(const QString& name, const QString& surname, int code) const
 {
-    const auto value = [](const QString& text) {
-        return text.isNull() ? QStringLiteral("null") : quoted(text);
-    };
-    store.write(QStringLiteral("insert into partners (NAME, SURNAME, code) values (%1, %2, %3)")
-                    .arg(value(name), value(surname))
-                    .arg(code));
+    const auto value = [](const QString& text) { return text.isNull() ? u"null"_s : quoted(text); };
+    store.write(
+        u"insert into partners (NAME, SURNAME, code) values (%1, %2, %3)"_s.arg(value(name), value(surname))
+            .arg(code));
 }
 
 void round_store::add_round(const QString& key, const QString& code) const
@@ -100,12 +99,12 @@ QString round_store::at(const QString& table, int ordinal) const
 {
     const auto rows = store.rows(QString(u"select * from " + table));
     return rows.size() == 1 ? shown(rows.front().at(static_cast<std::size_t>(ordinal)))
-                            : QStringLiteral("%1 rows").arg(rows.size());
+                            : u"%1 rows"_s.arg(rows.size());
 }
 
 QString round_window()
 {
-    return is_french ? QStringLiteral("f_new_round") : QStringLiteral("f_new_round_en");
+    return is_french ? u"f_new_round"_s : u"f_new_round_en"_s;
 }
 
 void in_new_round(const std::function<void(hand&)>& script)
@@ -116,9 +115,9 @@ void in_new_round(const std::function<void(hand&)>& script)
 void in_keyed_round(const std::function<void(hand&)>& script)
 {
     in_new_round([&](hand& user) {
-        tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("00"));
+        tee_off(user, u"9"_s, u"30"_s, u"00"_s);
         user.wait_for_window(round_window());
-        user.wait_until(QStringLiteral("the focus in the first box"), [] {
+        user.wait_until(u"the focus in the first box"_s, [] {
             auto* focused = QApplication::focusWidget();
             return focused && focused->objectName() == u"text_vrd_0";
         });
@@ -129,7 +128,7 @@ void in_keyed_round(const std::function<void(hand&)>& script)
 
 QString key_of_keyed_round()
 {
-    return QStringLiteral("20240614093000");
+    return u"20240614093000"_s;
 }
 
 void in_stored_round(const QString& key, const std::function<void(hand&)>& script)
@@ -154,33 +153,33 @@ void open_round_that_refuses(const QString& key, const std::function<void(hand&)
 
 void fill_tee_off(hand& user, const QString& hours, const QString& minutes, const QString& seconds)
 {
-    user.wait_for_window(QStringLiteral("f_get_date"));
+    user.wait_for_window(u"f_get_date"_s);
     user.look([] {
         dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date->setSelectedDate(day_of_play);
     });
-    user.fill(QStringLiteral("Text1"), hours);
-    user.fill(QStringLiteral("Text2"), minutes);
-    user.fill(QStringLiteral("Text3"), seconds);
-    user.click(QStringLiteral("OKbut"));
+    user.fill(u"Text1"_s, hours);
+    user.fill(u"Text2"_s, minutes);
+    user.fill(u"Text3"_s, seconds);
+    user.click(u"OKbut"_s);
 }
 
 void tee_off(hand& user, const QString& hours, const QString& minutes, const QString& seconds)
 {
     fill_tee_off(user, hours, minutes, seconds);
     user.answer(question_on_tee_off(), QMessageBox::Yes);
-    user.wait_until_gone(QStringLiteral("f_get_date"));
+    user.wait_until_gone(u"f_get_date"_s);
 }
 
 void discard(hand& user)
 {
-    user.click(QStringLiteral("Command1_2"));
+    user.click(u"Command1_2"_s);
     user.answer(question_on_closing(), QMessageBox::No);
     user.wait_until_gone(round_window());
 }
 
 void accept(hand& user)
 {
-    user.click(QStringLiteral("Command1_4"));
+    user.click(u"Command1_4"_s);
     user.wait_until_gone(round_window());
 }
 
@@ -191,11 +190,9 @@ void with_round(hand& user, const std::function<void(f_new_round&)>& routine)
 
 QString boxes(hand& user)
 {
-    const QStringList names{
-        QStringLiteral("text_vrd_0"), QStringLiteral("text_vrd_1"), QStringLiteral("text_vrd_2"),
-        QStringLiteral("text_p_3"),   QStringLiteral("text_p_4"),   QStringLiteral("text_p_5"),
-        QStringLiteral("text_p_6"),   QStringLiteral("text_s_8"),   QStringLiteral("text_s_9"),
-        QStringLiteral("text_s_10"),  QStringLiteral("text_s_11")};
+    const QStringList names{u"text_vrd_0"_s, u"text_vrd_1"_s, u"text_vrd_2"_s, u"text_p_3"_s,
+                            u"text_p_4"_s,   u"text_p_5"_s,   u"text_p_6"_s,   u"text_s_8"_s,
+                            u"text_s_9"_s,   u"text_s_10"_s,  u"text_s_11"_s};
     QStringList texts;
     for (const QString& name : names)
         texts << user.text(name);
@@ -208,14 +205,14 @@ expected_box question_on_tee_off()
         in_language(u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",
                     u"You will not be able to change this date afterwards. Do you want to use this date and "
                     u"time? "),
-        QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Yes | QMessageBox::No};
+        QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Yes | QMessageBox::No};
 }
 
 expected_box refusal_of_moment()
 {
     return {in_language(u"Une ronde à la date et à l'heure choisie existe déjà.",
                         u"A round with the selected date and time already exists."),
-            QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Ok};
+            QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok};
 }
 
 expected_box question_on_closing()
@@ -228,14 +225,14 @@ expected_box question_on_closing()
 expected_box notice_of_save()
 {
     return {in_language(u"Les modifications sont enregistrées", u"Changes have been saved"),
-            QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Ok};
+            QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok};
 }
 
 expected_box refusal_without_date()
 {
     return {
         in_language(u"Veuillez d'abord choisir la date de la ronde.", u"Please select a round's date first."),
-        QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok};
+        QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok};
 }
 
 }  // namespace verdane::testing

@@ -11,8 +11,10 @@
 #include "tests/support/store_folder.h"
 
 namespace verdane {
+
+using namespace Qt::StringLiterals;
 class f_new_round;
-}
+}  // namespace verdane
 
 /// What the tests of the round window share.
 namespace verdane::testing {
@@ -20,11 +22,11 @@ namespace verdane::testing {
 /// A course as it stands in the store. The pars go from hole to hole through the digits of `pars`;
 /// hole h is 100 + h yards long and has the handicap index 19 - h.
 struct stored_course {
-    QString code = QStringLiteral("ALPHA-0");
-    QString name = QStringLiteral("Alpha");
-    QString rating = QStringLiteral("70.5");
-    QString slope = QStringLiteral("130");
-    QString pars = QStringLiteral("4");
+    QString code = u"ALPHA-0"_s;
+    QString name = u"Alpha"_s;
+    QString rating = u"70.5"_s;
+    QString slope = u"130"_s;
+    QString pars = u"4"_s;
 };
 
 /// A fresh store with the main window's face beside it, for one test.
@@ -37,7 +39,7 @@ public:
     void add_two_courses() const;
     void add_partner(const QString& name, const QString& surname, int code) const;
     /// A round on a course with nothing but its key in three rows.
-    void add_round(const QString& key, const QString& code = QStringLiteral("ALPHA-0")) const;
+    void add_round(const QString& key, const QString& code = u"ALPHA-0"_s) const;
 
     /// The text of the one value of a statement; "null" where it is Null.
     QString text(const QString& statement) const;

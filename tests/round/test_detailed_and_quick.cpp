@@ -7,6 +7,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 class test_detailed_and_quick : public QObject {
     Q_OBJECT
@@ -16,14 +17,14 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("11200001000"));
+            user.type(u"11200001000"_s);
             go_to_detailed_page(user);
             go_to_quick_page(user);
-            user.same(boxes(user), QStringLiteral("1 1 2 0 0 0 0 1 0 0 0"), QStringLiteral("boxes"));
-            user.same(user.focus(), QStringLiteral("text_vrd_0"), QStringLiteral("focus"));
+            user.same(boxes(user), u"1 1 2 0 0 0 0 1 0 0 0"_s, u"boxes"_s);
+            user.same(user.focus(), u"text_vrd_0"_s, u"focus"_s);
             accept(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("1 1 2 0 0 0 0 1 0 0 0"));
+        QCOMPARE(stored_figures(round.store, 1), u"1 1 2 0 0 0 0 1 0 0 0"_s);
         QCOMPARE(round.shots(1), 0);
     }
 
@@ -31,11 +32,11 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("99999999999"));
+            user.type(u"99999999999"_s);
             go_to_detailed_page(user);
             tell_hole(user);
             go_to_quick_page(user);
-            user.same(boxes(user), told_hole, QStringLiteral("boxes"));
+            user.same(boxes(user), told_hole, u"boxes"_s);
             user.click_tab(hole_tabs, 2);
             discard(user);
         });
@@ -46,20 +47,19 @@ private Q_SLOTS:
     void shots_of_a_hole_of_par_0_fold_into_its_boxes()
     {
         const golfer_store round;
-        round.store.store.write(QStringLiteral("update field_info set par_1 = 0"));
+        round.store.store.write(u"update field_info set par_1 = 0"_s);
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
             tell_hole(user);
             go_to_quick_page(user);
-            user.same(boxes(user), told_hole, QStringLiteral("boxes"));
-            user.same(user.text(QStringLiteral("text_38")), QStringLiteral("0"), QStringLiteral("par"));
+            user.same(boxes(user), told_hole, u"boxes"_s);
+            user.same(user.text(u"text_38"_s), u"0"_s, u"par"_s);
             // Four strokes are at least three over a par of 0.
-            user.same(user.text(QStringLiteral("text_33")), QStringLiteral("1"), QStringLiteral("triple"));
+            user.same(user.text(u"text_33"_s), u"1"_s, u"triple"_s);
             accept(user);
         });
         QCOMPARE(round.shots(1), 4);
-        QCOMPARE(round.store.text(QStringLiteral("select distinct normal from Stat_rounds")),
-                 QStringLiteral("0"));
+        QCOMPARE(round.store.text(u"select distinct normal from Stat_rounds"_s), u"0"_s);
         QCOMPARE(stored_figures(round.store, 1), told_hole);
         QCOMPARE(stored_putts(round.store, 1), told_putts);
     }
@@ -71,11 +71,11 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             tell_hole(user);
             go_to_quick_page(user);
-            user.click(QStringLiteral("text_vrd_0"));
-            user.type(QStringLiteral("3"));
+            user.click(u"text_vrd_0"_s);
+            user.type(u"3"_s);
             accept(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("3 1 2 2 0 0 0 0 0 0 0"));
+        QCOMPARE(stored_figures(round.store, 1), u"3 1 2 2 0 0 0 0 0 0 0"_s);
         QCOMPARE(round.shots(1), 4);
     }
 
@@ -87,9 +87,9 @@ private Q_SLOTS:
             tell_hole(user);
             go_to_quick_page(user);
             user.click_tab(hole_tabs, 2);
-            user.type(QStringLiteral("5"));
+            user.type(u"5"_s);
             go_to_quick_page(user);
-            user.same(user.text(QStringLiteral("text_vrd_0")), QStringLiteral("5"), QStringLiteral("box"));
+            user.same(user.text(u"text_vrd_0"_s), u"5"_s, u"box"_s);
             discard(user);
         });
         QCOMPARE(stored_figures(round.store, 1), told_hole);
@@ -101,18 +101,18 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const golfer_store round(french);
         round.store.add_round(key_of_keyed_round());
-        add_told_shot(round.store, 3, 1, 1, 0, QStringLiteral("Verges"), 1);
+        add_told_shot(round.store, 3, 1, 1, 0, u"Verges"_s, 1);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             user.click_tab(hole_tabs, 3);
-            user.click(QStringLiteral("Command4"));
-            user.check(user.visible(details), QStringLiteral("the detailed page"));
-            user.same(user.selected(QStringLiteral("TabStrip2")), 1, QStringLiteral("tab"));
-            user.same(user.cell(details, 0, 2), QStringLiteral("D"), QStringLiteral("club"));
-            user.click(QStringLiteral("Command4"));
-            user.same(user.cell(details, 0, 2), QStringLiteral("D"), QStringLiteral("club"));
+            user.click(u"Command4"_s);
+            user.check(user.visible(details), u"the detailed page"_s);
+            user.same(user.selected(u"TabStrip2"_s), 1, u"tab"_s);
+            user.same(user.cell(details, 0, 2), u"D"_s, u"club"_s);
+            user.click(u"Command4"_s);
+            user.same(user.cell(details, 0, 2), u"D"_s, u"club"_s);
             accept(user);
         });
-        QCOMPARE(stored_figures(round.store, 3), QStringLiteral("1 0 0 1 0 0 0 0 0 0 0"));
+        QCOMPARE(stored_figures(round.store, 3), u"1 0 0 1 0 0 0 0 0 0 0"_s);
     }
 
     void without_a_date_no_shots_are_opened_data() { both_languages(); }
@@ -122,23 +122,22 @@ private Q_SLOTS:
         const golfer_store round(french);
         in_keyed_round([&](hand& user) {
             with_round(user, [](f_new_round& window) { window.date_value.clear(); });
-            user.click(QStringLiteral("Command4"));
-            user.answer({french ? QStringLiteral("Veuillez d'abord choisir la date de la ronde.")
-                                : QStringLiteral("Please enter the round's date."),
-                         QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok});
-            user.check(!user.visible(QStringLiteral("Framedet")), QStringLiteral("no detailed page"));
-            user.click_tab(QStringLiteral("TabStrip2"), 2);
-            user.answer({QStringLiteral("Il faut choisir la date du ronde avant d'entrer les détails"),
-                         QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok});
-            user.check(user.visible(QStringLiteral("Framedet")), QStringLiteral("the detailed page"));
-            user.same(user.grid_rows(details), 0, QStringLiteral("rows"));
-            user.click(QStringLiteral("CommandSuiv"));
-            user.click(QStringLiteral("CommandSup"));
-            user.answer({french ? QStringLiteral("Choisissez le coup que vous voulez supprimer.")
-                                : QStringLiteral("Please select the shot you wish to remove."),
-                         QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok});
-            user.same(round.store.number(QStringLiteral("select count(*) from Stat_rounds")), 0,
-                      QStringLiteral("shots"));
+            user.click(u"Command4"_s);
+            user.answer({french ? u"Veuillez d'abord choisir la date de la ronde."_s
+                                : u"Please enter the round's date."_s,
+                         QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+            user.check(!user.visible(u"Framedet"_s), u"no detailed page"_s);
+            user.click_tab(u"TabStrip2"_s, 2);
+            user.answer({u"Il faut choisir la date du ronde avant d'entrer les détails"_s,
+                         QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+            user.check(user.visible(u"Framedet"_s), u"the detailed page"_s);
+            user.same(user.grid_rows(details), 0, u"rows"_s);
+            user.click(u"CommandSuiv"_s);
+            user.click(u"CommandSup"_s);
+            user.answer({french ? u"Choisissez le coup que vous voulez supprimer."_s
+                                : u"Please select the shot you wish to remove."_s,
+                         QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+            user.same(round.store.number(u"select count(*) from Stat_rounds"_s), 0, u"shots"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }
@@ -146,20 +145,19 @@ private Q_SLOTS:
     void shots_of_other_rounds_are_never_touched()
     {
         const golfer_store round;
-        round.store.store.write(QStringLiteral(
-            "insert into Stat_rounds (date, hole, shot, before, stickval, shot_type_value) values "
-            "('20230101080000', 1, 1, 77, 0, 0)"));
+        round.store.store.write(
+            u"insert into Stat_rounds (date, hole, shot, before, stickval, shot_type_value) values "
+            u"('20230101080000', 1, 1, 77, 0, 0)"_s);
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("112"));
-            user.click_tab(QStringLiteral("TabStrip2"), 1);
+            user.type(u"112"_s);
+            user.click_tab(u"TabStrip2"_s, 1);
             user.click_tab(hole_tabs, 2);
             accept(user);
         });
-        QCOMPARE(
-            round.store.text(QStringLiteral("select before || ' ' || shot || ' ' || coalesce(normal, '-') "
-                                            "from Stat_rounds")),
-            QStringLiteral("77 1 -"));
-        QCOMPARE(stored_figures(round.store, 1).left(5), QStringLiteral("1 1 2"));
+        QCOMPARE(round.store.text(u"select before || ' ' || shot || ' ' || coalesce(normal, '-') "
+                                  u"from Stat_rounds"_s),
+                 u"77 1 -"_s);
+        QCOMPARE(stored_figures(round.store, 1).left(5), u"1 1 2"_s);
     }
 
     void the_costs_are_opened_from_the_detailed_page_which_goes_on()
@@ -169,20 +167,20 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             tell_hole(user);
             user.click_cell(details, 2, 3);
-            user.click(QStringLiteral("Command2"));
-            user.wait_for_window(QStringLiteral("f_cost"));
-            user.fill(QStringLiteral("cost_0"), QStringLiteral("25"));
-            user.click(QStringLiteral("OKButton"));
-            user.wait_until_gone(QStringLiteral("f_cost"));
+            user.click(u"Command2"_s);
+            user.wait_for_window(u"f_cost"_s);
+            user.fill(u"cost_0"_s, u"25"_s);
+            user.click(u"OKButton"_s);
+            user.wait_until_gone(u"f_cost"_s);
             user.wait_for_window(round_window());
-            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("25"), QStringLiteral("costs"));
-            user.same(user.cursor(details), QStringLiteral("2,3"), QStringLiteral("cursor"));
-            user.same(user.focus(), details, QStringLiteral("focus"));
-            user.same(user.grid_rows(details), 4, QStringLiteral("rows"));
+            user.same(user.text(u"text_7"_s), u"25"_s, u"costs"_s);
+            user.same(user.cursor(details), u"2,3"_s, u"cursor"_s);
+            user.same(user.focus(), details, u"focus"_s);
+            user.same(user.grid_rows(details), 4, u"rows"_s);
             accept(user);
         });
         QCOMPARE(stored_figures(round.store, 1), told_hole);
-        QCOMPARE(round.store.at(QStringLiteral("cost"), 1), QStringLiteral("25"));
+        QCOMPARE(round.store.at(u"cost"_s, 1), u"25"_s);
     }
 
     void a_shot_that_is_being_told_is_there_when_the_costs_are_closed()
@@ -191,14 +189,14 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
             tell_shot(user, 0, 3, QString(), 0);
-            user.click(QStringLiteral("Command2"));
-            user.close_window(QStringLiteral("f_cost"));
-            user.wait_until_gone(QStringLiteral("f_cost"));
+            user.click(u"Command2"_s);
+            user.close_window(u"f_cost"_s);
+            user.wait_until_gone(u"f_cost"_s);
             user.wait_for_window(round_window());
-            user.same(user.cell(details, 0, 2), QStringLiteral("F3"), QStringLiteral("club"));
+            user.same(user.cell(details, 0, 2), u"F3"_s, u"club"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
-        QCOMPARE(round.store.number(QStringLiteral("select stickval from Stat_rounds")), 3);
+        QCOMPARE(round.store.number(u"select stickval from Stat_rounds"_s), 3);
     }
 
     void the_window_is_as_large_after_the_detailed_page_as_before_data() { both_languages(); }
@@ -209,14 +207,14 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             const QSize before = user.picture(round_window()).size();
             user.check(before.width() <= 1200 && before.height() <= 720,
-                       QStringLiteral("%1 x %2 pixels").arg(before.width()).arg(before.height()));
+                       u"%1 x %2 pixels"_s.arg(before.width()).arg(before.height()));
             go_to_detailed_page(user);
             tell_hole(user);
             user.picture(round_window());
             go_to_quick_page(user);
             const QSize after = user.picture(round_window()).size();
-            user.same(after.width(), before.width(), QStringLiteral("width"));
-            user.same(after.height(), before.height(), QStringLiteral("height"));
+            user.same(after.width(), before.width(), u"width"_s);
+            user.same(after.height(), before.height(), u"height"_s);
             accept(user);
         });
     }

@@ -8,12 +8,13 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString temperature = QStringLiteral("Text1");
-const QString partners = QStringLiteral("pList");
-const QString courses = QStringLiteral("cmb_courses");
+const QString temperature = u"Text1"_s;
+const QString partners = u"pList"_s;
+const QString courses = u"cmb_courses"_s;
 
 /// A hole that has come to its second putt, whose distance is being typed.
 void type_the_last_putt(hand& user, const QString& distance)
@@ -21,12 +22,12 @@ void type_the_last_putt(hand& user, const QString& distance)
     go_to_detailed_page(user);
     tell_hole(user);
     user.type(distance);
-    user.same(user.focus(), QStringLiteral("cell_being_typed"), QStringLiteral("focus"));
+    user.same(user.focus(), u"cell_being_typed"_s, u"focus"_s);
 }
 
 void wait_for_rows(hand& user, int rows)
 {
-    user.wait_until(QStringLiteral("%1 shots").arg(rows), [&] { return user.grid_rows(details) == rows; });
+    user.wait_until(u"%1 shots"_s.arg(rows), [&] { return user.grid_rows(details) == rows; });
 }
 
 }  // namespace
@@ -43,7 +44,7 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const golfer_store round(french);
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("0"));
+            type_the_last_putt(user, u"0"_s);
             user.press_and_release(ok_button);
             user.answer(refusal_of_shot());
         });
@@ -56,7 +57,7 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("0"));
+            type_the_last_putt(user, u"0"_s);
             user.press_and_release(cancel_button);
             user.answer(refusal_of_shot());
             user.answer(question_on_closing(), QMessageBox::No);
@@ -71,11 +72,11 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             leave_second_shot_open(user);
             user.click_cell(details, 1, 3);
-            user.type(QStringLiteral("12"));
+            user.type(u"12"_s);
             user.press_and_release(ok_button);
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(refusal_of_shot(u" 2"_s));
             user.wait_for_window(round_window());
-            user.same(user.cell(details, 1, 3), QStringLiteral("12"), QStringLiteral("distance"));
+            user.same(user.cell(details, 1, 3), u"12"_s, u"distance"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }
@@ -97,7 +98,7 @@ private Q_SLOTS:
         QFETCH(int, rows);
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("0"));
+            type_the_last_putt(user, u"0"_s);
             user.press_and_release(button);
             for (int message = 0; message < messages; ++message)
                 user.answer(refusal_of_shot());
@@ -112,14 +113,14 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("0"));
-            user.press_and_release(QStringLiteral("Command2"));
+            type_the_last_putt(user, u"0"_s);
+            user.press_and_release(u"Command2"_s);
             user.answer(refusal_of_shot());
-            user.wait_for_window(QStringLiteral("f_cost"));
-            user.close_window(QStringLiteral("f_cost"));
+            user.wait_for_window(u"f_cost"_s);
+            user.close_window(u"f_cost"_s);
             user.wait_for_window(round_window());
-            user.same(round.store.text(QStringLiteral("select after from Stat_rounds where shot = 4")),
-                      QStringLiteral("0"), QStringLiteral("distance of the last putt"));
+            user.same(round.store.text(u"select after from Stat_rounds where shot = 4"_s), u"0"_s,
+                      u"distance of the last putt"_s);
             accept(user);
         });
     }
@@ -128,19 +129,19 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("tabs");
         QTest::newRow("holes") << hole_tabs;
-        QTest::newRow("pages") << QStringLiteral("TabStrip2");
+        QTest::newRow("pages") << u"TabStrip2"_s;
     }
     void the_tabs_lead_on_behind_a_holed_putt()
     {
         QFETCH(QString, tabs);
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("0"));
+            type_the_last_putt(user, u"0"_s);
             const int before = user.selected(tabs);
             user.press_and_release_tab(tabs, 2 - before);
             user.answer(refusal_of_shot());
             user.wait_for_window(round_window());
-            user.same(user.selected(tabs), 1 - before, QStringLiteral("tab"));
+            user.same(user.selected(tabs), 1 - before, u"tab"_s);
             go_to_quick_page(user);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
@@ -151,48 +152,46 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("2"));
+            type_the_last_putt(user, u"2"_s);
             user.press_and_release(temperature);
             wait_for_rows(user, 5);
-            user.check(user.focus() != details, QStringLiteral("the grid leaves the keyboard where it is"));
+            user.check(user.focus() != details, u"the grid leaves the keyboard where it is"_s);
             user.key(Qt::Key_A, Qt::ControlModifier);
-            user.type(QStringLiteral("20"));
+            user.type(u"20"_s);
             accept(user);
         });
-        QCOMPARE(round.store.of_round(QStringLiteral("games2"), QStringLiteral("temperature")),
-                 QStringLiteral("20"));
-        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("30 4 2 0 0 0"));
+        QCOMPARE(round.store.of_round(u"games2"_s, u"temperature"_s), u"20"_s);
+        QCOMPARE(stored_putts(round.store, 1), u"30 4 2 0 0 0"_s);
     }
 
     void a_box_that_was_clicked_keeps_the_keyboard_behind_a_holed_putt()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("0"));
+            type_the_last_putt(user, u"0"_s);
             user.press_and_release(temperature);
             user.answer(refusal_of_shot());
             user.wait_for_window(round_window());
             user.key(Qt::Key_A, Qt::ControlModifier);
-            user.type(QStringLiteral("20"));
+            user.type(u"20"_s);
             accept(user);
         });
-        QCOMPARE(round.store.of_round(QStringLiteral("games2"), QStringLiteral("temperature")),
-                 QStringLiteral("20"));
+        QCOMPARE(round.store.of_round(u"games2"_s, u"temperature"_s), u"20"_s);
         QCOMPARE(round.shots(1), 4);
     }
 
     void a_partner_that_was_clicked_is_chosen_behind_the_next_putt()
     {
         const golfer_store round;
-        round.store.add_partner(QStringLiteral("Ann"), QStringLiteral("Berg"), 77);
+        round.store.add_partner(u"Ann"_s, u"Berg"_s, 77);
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("2"));
+            type_the_last_putt(user, u"2"_s);
             user.press_and_release_row(partners, 0);
             wait_for_rows(user, 5);
-            user.same(user.focus(), partners, QStringLiteral("focus"));
+            user.same(user.focus(), partners, u"focus"_s);
             accept(user);
         });
-        const QString chosen = round.store.of_round(QStringLiteral("games2"), QStringLiteral("PARTNERS"));
+        const QString chosen = round.store.of_round(u"games2"_s, u"PARTNERS"_s);
         QVERIFY2(chosen.contains(u"77"), qUtf8Printable(chosen));
     }
 
@@ -200,20 +199,18 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("0"));
+            type_the_last_putt(user, u"0"_s);
             user.press_and_release(courses);
-            user.wait_until(QStringLiteral("the open list"),
-                            [] { return QApplication::activePopupWidget() != nullptr; });
+            user.wait_until(u"the open list"_s, [] { return QApplication::activePopupWidget() != nullptr; });
             user.key(Qt::Key_Down);
             user.key(Qt::Key_Return);
             user.answer(refusal_of_shot());
             user.wait_for_window(round_window());
-            user.same(user.selected(courses), 1, QStringLiteral("course"));
-            user.same(user.focus(), courses, QStringLiteral("focus"));
+            user.same(user.selected(courses), 1, u"course"_s);
+            user.same(user.focus(), courses, u"focus"_s);
             accept(user);
         });
-        QCOMPARE(round.store.of_round(QStringLiteral("games"), QStringLiteral("CODEF")),
-                 QStringLiteral("BETA-6"));
+        QCOMPARE(round.store.of_round(u"games"_s, u"CODEF"_s), u"BETA-6"_s);
         QCOMPARE(round.shots(1), 4);
     }
 
@@ -221,13 +218,12 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("2"));
-            user.press_and_release(QStringLiteral("conditions"));
-            user.wait_until(QStringLiteral("the open list"),
-                            [] { return QApplication::activePopupWidget() != nullptr; });
+            type_the_last_putt(user, u"2"_s);
+            user.press_and_release(u"conditions"_s);
+            user.wait_until(u"the open list"_s, [] { return QApplication::activePopupWidget() != nullptr; });
             user.key(Qt::Key_Escape);
             wait_for_rows(user, 5);
-            user.same(user.focus(), QStringLiteral("conditions"), QStringLiteral("focus"));
+            user.same(user.focus(), u"conditions"_s, u"focus"_s);
             accept(user);
         });
     }
@@ -236,10 +232,10 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("2"));
+            type_the_last_putt(user, u"2"_s);
             user.click_cell(details, 1, 3);
-            user.same(user.cursor(details), QStringLiteral("1,3"), QStringLiteral("cursor"));
-            user.same(user.grid_rows(details), 5, QStringLiteral("rows"));
+            user.same(user.cursor(details), u"1,3"_s, u"cursor"_s);
+            user.same(user.grid_rows(details), 5, u"rows"_s);
             accept(user);
         });
     }
@@ -248,15 +244,15 @@ private Q_SLOTS:
     {
         const golfer_store round;
         for (int shot = 1; shot <= 14; ++shot)
-            add_told_shot(round.store, 1, shot, 14, 20 - shot, QStringLiteral("Pieds"), 3);
+            add_told_shot(round.store, 1, shot, 14, 20 - shot, u"Pieds"_s, 3);
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             go_to_detailed_page(user);
             user.click_cell(details, 13, 3);
-            user.type(QStringLiteral("5"));
+            user.type(u"5"_s);
             user.click_cell(details, 11, 3);
-            user.same(user.grid_rows(details), 15, QStringLiteral("rows"));
-            user.same(user.cursor(details), QStringLiteral("11,3"), QStringLiteral("cursor"));
+            user.same(user.grid_rows(details), 15, u"rows"_s);
+            user.same(user.cursor(details), u"11,3"_s, u"cursor"_s);
             discard(user);
         });
     }
@@ -265,12 +261,12 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            type_the_last_putt(user, QStringLiteral("2"));
+            type_the_last_putt(user, u"2"_s);
             user.close_window(round_window());
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(notice_of_save());
         });
-        QCOMPARE(round.store.number(QStringLiteral("select after from Stat_rounds where shot = 4")), 2);
+        QCOMPARE(round.store.number(u"select after from Stat_rounds where shot = 4"_s), 2);
     }
 };
 

@@ -11,10 +11,11 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString earlier_round = QStringLiteral("20230101080000");
+const QString earlier_round = u"20230101080000"_s;
 
 /// Leaves the window by one of its ways.
 void leave(hand& user, const QString& way)
@@ -39,7 +40,7 @@ QString row_counts(const golfer_store& round)
 {
     QStringList counts;
     for (const char* table : {"games", "games2", "cost", "Stat_rounds"})
-        counts << round.store.text(QStringLiteral("select count(*) from ") + QLatin1String(table));
+        counts << round.store.text(u"select count(*) from "_s + QLatin1String(table));
     return counts.join(u' ');
 }
 
@@ -71,7 +72,7 @@ private Q_SLOTS:
             leave(user, way);
         });
         // The shots are in the store either way.
-        QCOMPARE(row_counts(round), kept ? QStringLiteral("1 1 1 4") : QStringLiteral("0 0 0 4"));
+        QCOMPARE(row_counts(round), kept ? u"1 1 1 4"_s : u"0 0 0 4"_s);
         if (kept) {
             QCOMPARE(stored_figures(round.store, 1), told_hole);
             QCOMPARE(stored_putts(round.store, 1), told_putts);
@@ -88,21 +89,20 @@ private Q_SLOTS:
         QFETCH(bool, kept);
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
-        round.store.store.write(QStringLiteral("update cost set fg = 40, cm = 2"));
+        round.store.store.write(u"update cost set fg = 40, cm = 2"_s);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            user.type(QStringLiteral("4"));
+            user.type(u"4"_s);
             user.click_tab(hole_tabs, 2);
             go_to_detailed_page(user);
             tell_hole(user);
             leave(user, way);
         });
-        QCOMPARE(row_counts(round), QStringLiteral("1 1 1 4"));
+        QCOMPARE(row_counts(round), u"1 1 1 4"_s);
         // The hole that was left before is in the store whatever the answer.
-        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("4 0 0 0 0 0 0 0 0 0 0"));
+        QCOMPARE(stored_figures(round.store, 1), u"4 0 0 0 0 0 0 0 0 0 0"_s);
         QCOMPARE(stored_figures(round.store, 2).startsWith(told_hole), kept);
-        QCOMPARE(stored_putts(round.store, 2), kept ? told_putts : QStringLiteral("0 0 0 0 0 0"));
-        QCOMPARE(round.store.text(QStringLiteral("select fg || ' ' || cm from cost")),
-                 QStringLiteral("40 2"));
+        QCOMPARE(stored_putts(round.store, 2), kept ? told_putts : u"0 0 0 0 0 0"_s);
+        QCOMPARE(round.store.text(u"select fg || ' ' || cm from cost"_s), u"40 2"_s);
     }
 
     void a_hole_that_was_only_looked_at_keeps_no_shot_when_the_close_box_leaves_it_data()
@@ -122,7 +122,7 @@ private Q_SLOTS:
             if (told)
                 tell_shot(user, 0, 1, QString(), 0);
             user.close_window(round_window());
-            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.answer(refusal_of_shot(u" 1"_s));
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(notice_of_save());
         });
@@ -136,12 +136,12 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             tell_shot(user, 0, 1, QString(), 0);
             user.key(Qt::Key_Escape);
-            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.answer(refusal_of_shot(u" 1"_s));
             user.wait_for_window(round_window());
-            user.check(!user.is_open(QStringLiteral("message_box")), QStringLiteral("no question"));
-            user.check(user.visible(details), QStringLiteral("the page stays"));
+            user.check(!user.is_open(u"message_box"_s), u"no question"_s);
+            user.check(user.visible(details), u"the page stays"_s);
             user.close_window(round_window());
-            user.answer(refusal_of_shot(QStringLiteral(" 1")));
+            user.answer(refusal_of_shot(u" 1"_s));
             user.answer(question_on_closing(), QMessageBox::No);
         });
     }
@@ -151,14 +151,13 @@ private Q_SLOTS:
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         for (const int shot : {1, 2})
-            add_told_shot(round.store, 1, shot, 9, 60 / shot, QStringLiteral("Verges"), 2);
+            add_told_shot(round.store, 1, shot, 9, 60 / shot, u"Verges"_s, 2);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             go_to_detailed_page(user);
             accept(user);
         });
-        QCOMPARE(
-            round.store.text(QStringLiteral("select group_concat(coalesce(normal, '-')) from Stat_rounds")),
-            QStringLiteral("4,-"));
+        QCOMPARE(round.store.text(u"select group_concat(coalesce(normal, '-')) from Stat_rounds"_s),
+                 u"4,-"_s);
     }
 
     void OK_saves_a_detailed_hole_twice_data()
@@ -194,7 +193,7 @@ private Q_SLOTS:
             user.look([] { data_environment().rsStat_rounds.Close(); });
             discard(user);
         });
-        QCOMPARE(row_counts(round), QStringLiteral("0 0 0 0"));
+        QCOMPARE(row_counts(round), u"0 0 0 0"_s);
     }
 
     void shots_that_cannot_be_opened_leave_an_empty_grid_and_every_way_out_data()
@@ -207,17 +206,17 @@ private Q_SLOTS:
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            user.type(QStringLiteral("4"));
-            round.store.store.write(QStringLiteral("alter table Stat_rounds rename to away"));
+            user.type(u"4"_s);
+            round.store.store.write(u"alter table Stat_rounds rename to away"_s);
             go_to_detailed_page(user);
-            user.same(user.grid_rows(details), 0, QStringLiteral("rows"));
+            user.same(user.grid_rows(details), 0, u"rows"_s);
             for (const char* button : {"CommandSuiv", "Command4"})
                 user.click(QString::fromLatin1(button));
             user.click_tab(hole_tabs, 2);
-            user.same(user.grid_rows(details), 0, QStringLiteral("rows of hole 2"));
+            user.same(user.grid_rows(details), 0, u"rows of hole 2"_s);
             leave(user, way);
         });
-        QCOMPARE(stored_figures(round.store, 1).left(1), QStringLiteral("4"));
+        QCOMPARE(stored_figures(round.store, 1).left(1), u"4"_s);
     }
 
     void what_an_earlier_round_could_not_store_is_not_stored_by_the_next_data()
@@ -234,46 +233,46 @@ private Q_SLOTS:
         shots.set_Source(shot_rows::statement_of_hole(earlier_round, 1));
         shots.Open();
         shots.AddNew();
-        shots.Fields(QStringLiteral("date")).set(earlier_round);
+        shots.Fields(u"date"_s).set(earlier_round);
         if (stored) {
             round.store.add_round(key_of_keyed_round());
             in_stored_round(key_of_keyed_round(), accept);
         } else {
             in_keyed_round(accept);
         }
-        QCOMPARE(round.store.number(QStringLiteral("select count(*) from Stat_rounds")), 0);
+        QCOMPARE(round.store.number(u"select count(*) from Stat_rounds"_s), 0);
     }
 
     void shots_that_could_not_be_opened_are_left_alone_by_the_next_round()
     {
         const golfer_store round;
         round.store.add_round(earlier_round);
-        round.store.store.write(QStringLiteral("insert into Stat_rounds (date, hole, shot, before) "
-                                               "values ('20230101080000', 1, 7, 99)"));
-        const QString there = QStringLiteral("alter table Stat_rounds rename to away");
+        round.store.store.write(u"insert into Stat_rounds (date, hole, shot, before) "
+                                u"values ('20230101080000', 1, 7, 99)"_s);
+        const QString there = u"alter table Stat_rounds rename to away"_s;
         in_stored_round(earlier_round, [&](hand& user) {
             round.store.store.write(there);
             go_to_detailed_page(user);
             discard(user);
         });
-        round.store.store.write(QStringLiteral("alter table away rename to Stat_rounds"));
+        round.store.store.write(u"alter table away rename to Stat_rounds"_s);
         in_keyed_round(accept);
-        QCOMPARE(round.store.text(QStringLiteral("select shot || ' ' || before || ' ' || "
-                                                 "coalesce(normal, '-') from Stat_rounds")),
-                 QStringLiteral("7 99 -"));
+        QCOMPARE(round.store.text(u"select shot || ' ' || before || ' ' || "
+                                  u"coalesce(normal, '-') from Stat_rounds"_s),
+                 u"7 99 -"_s);
     }
 
     void the_costs_come_and_go_beside_shots_that_cannot_be_opened()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            round.store.store.write(QStringLiteral("alter table Stat_rounds rename to away"));
+            round.store.store.write(u"alter table Stat_rounds rename to away"_s);
             go_to_detailed_page(user);
-            user.click(QStringLiteral("Command2"));
-            user.wait_for_window(QStringLiteral("f_cost"));
-            user.close_window(QStringLiteral("f_cost"));
+            user.click(u"Command2"_s);
+            user.wait_for_window(u"f_cost"_s);
+            user.close_window(u"f_cost"_s);
             user.wait_for_window(round_window());
-            user.same(user.grid_rows(details), 0, QStringLiteral("rows"));
+            user.same(user.grid_rows(details), 0, u"rows"_s);
             discard(user);
         });
     }
@@ -297,7 +296,7 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
             if (!blank)
-                tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+                tell_shot(user, 0, 1, u"60"_s, 1);
             with_round(user, [&](f_new_round& window) {
                 int16 removed = asked;
                 bool ok = false;
@@ -316,11 +315,11 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
             tell_hole(user);
-            user.click(QStringLiteral("Command1_2"));
+            user.click(u"Command1_2"_s);
             user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
             user.click_tab(hole_tabs, 2);
-            user.click(QStringLiteral("Command4"));
+            user.click(u"Command4"_s);
             accept(user);
         });
         QCOMPARE(round.shots(1), 4);
@@ -331,38 +330,36 @@ private Q_SLOTS:
     void a_table_that_a_removal_left_sorted_is_no_hole()
     {
         const golfer_store round;
-        round.store.store.write(
-            QStringLiteral("insert into Stat_rounds (date, hole, shot, before, after, stickval, "
-                           "shot_type_value) values ('20230101080000', 1, 1, 77, 9, 5, 1), "
-                           "('20230101080000', 4, 1, 99, 0, 0, 0)"));
-        data_environment().rsStat_rounds.set_Source(
-            QStringLiteral("select * from Stat_rounds order by date,hole"));
+        round.store.store.write(u"insert into Stat_rounds (date, hole, shot, before, after, stickval, "
+                                u"shot_type_value) values ('20230101080000', 1, 1, 77, 9, 5, 1), "
+                                u"('20230101080000', 4, 1, 99, 0, 0, 0)"_s);
+        data_environment().rsStat_rounds.set_Source(u"select * from Stat_rounds order by date,hole"_s);
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("112"));
+            user.type(u"112"_s);
             accept(user);
         });
-        QCOMPARE(round.store.text(QStringLiteral("select group_concat(hole || ' ' || shot || ' ' || before "
-                                                 "|| ' ' || coalesce(normal, '-')) from Stat_rounds")),
-                 QStringLiteral("1 1 77 -,4 1 99 -"));
-        QCOMPARE(stored_figures(round.store, 1).left(5), QStringLiteral("1 1 2"));
+        QCOMPARE(round.store.text(u"select group_concat(hole || ' ' || shot || ' ' || before "
+                                  u"|| ' ' || coalesce(normal, '-')) from Stat_rounds"_s),
+                 u"1 1 77 -,4 1 99 -"_s);
+        QCOMPARE(stored_figures(round.store, 1).left(5), u"1 1 2"_s);
     }
 
     void a_key_with_a_quote_in_it_is_told_like_any_other()
     {
         const golfer_store round;
         in_new_round([&](hand& user) {
-            tee_off(user, QStringLiteral("9'"), QStringLiteral("30"), QStringLiteral("é\""));
+            tee_off(user, u"9'"_s, u"30"_s, u"é\""_s);
             user.wait_for_window(round_window());
             go_to_detailed_page(user);
             tell_hole(user);
             user.click_tab(hole_tabs, 2);
             user.click_tab(hole_tabs, 1);
-            user.answer(refusal_of_shot(QStringLiteral(" 1")));
-            user.same(user.grid_rows(details), 4, QStringLiteral("rows"));
+            user.answer(refusal_of_shot(u" 1"_s));
+            user.same(user.grid_rows(details), 4, u"rows"_s);
             accept(user);
         });
-        QCOMPARE(round.store.text(QStringLiteral("select date || ' ' || count(*) from Stat_rounds")),
-                 QStringLiteral("202406149'30é\" 4"));
+        QCOMPARE(round.store.text(u"select date || ' ' || count(*) from Stat_rounds"_s),
+                 u"202406149'30é\" 4"_s);
         QCOMPARE(stored_figures(round.store, 1), told_hole);
     }
 };

@@ -10,6 +10,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 class test_detailed_leaving : public QObject {
     Q_OBJECT
@@ -29,7 +30,7 @@ private Q_SLOTS:
         QCOMPARE(stored_figures(round.store, 1), told_hole);
         QCOMPARE(stored_putts(round.store, 1), told_putts);
         QVERIFY(!data_environment().rsStat_rounds.is_open());
-        QCOMPARE(data_environment().rsStat_rounds.Source(), QStringLiteral("select * from stat_rounds"));
+        QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
     }
 
     void a_distance_that_is_still_being_typed_is_taken_by_OK()
@@ -39,10 +40,10 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             tell_shot(user, 0, 1, QString(), 1);
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("77"));
+            user.type(u"77"_s);
             accept(user);
         });
-        QCOMPARE(round.store.number(QStringLiteral("select after from Stat_rounds")), 77);
+        QCOMPARE(round.store.number(u"select after from Stat_rounds"_s), 77);
     }
 
     void Cancel_and_Yes_stores_everything()
@@ -80,8 +81,8 @@ private Q_SLOTS:
             user.answer(question_on_closing(), QMessageBox::No);
         });
         QCOMPARE(round.shots(1), 4);
-        QCOMPARE(round.store.at(QStringLiteral("games"), 3), QStringLiteral("null"));
-        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("0 0 0 0 0 0"));
+        QCOMPARE(round.store.at(u"games"_s, 3), u"null"_s);
+        QCOMPARE(stored_putts(round.store, 1), u"0 0 0 0 0 0"_s);
     }
 
     void Cancel_and_Cancel_stays_on_the_quick_page_for_good()
@@ -93,12 +94,12 @@ private Q_SLOTS:
             user.click(cancel_button);
             user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
-            user.same(boxes(user), told_hole, QStringLiteral("boxes"));
-            user.check(user.visible(QStringLiteral("text_vrd_0")), QStringLiteral("the quick page"));
-            user.click_tab(QStringLiteral("TabStrip2"), 2);
-            user.click(QStringLiteral("Command4"));
-            user.check(!user.visible(QStringLiteral("Framedet")), QStringLiteral("no detailed page"));
-            user.same(user.selected(QStringLiteral("TabStrip2")), 0, QStringLiteral("tab"));
+            user.same(boxes(user), told_hole, u"boxes"_s);
+            user.check(user.visible(u"text_vrd_0"_s), u"the quick page"_s);
+            user.click_tab(u"TabStrip2"_s, 2);
+            user.click(u"Command4"_s);
+            user.check(!user.visible(u"Framedet"_s), u"no detailed page"_s);
+            user.same(user.selected(u"TabStrip2"_s), 0, u"tab"_s);
             accept(user);
         });
         QCOMPARE(stored_figures(round.store, 1), told_hole);
@@ -114,12 +115,12 @@ private Q_SLOTS:
             leave_second_shot_open(user);
             for (const QString& button : {ok_button, cancel_button}) {
                 user.click(button);
-                user.answer(refusal_of_shot(QStringLiteral(" 2")));
+                user.answer(refusal_of_shot(u" 2"_s));
                 user.wait_for_window(round_window());
-                user.check(user.visible(details), QStringLiteral("the detailed page"));
+                user.check(user.visible(details), u"the detailed page"_s);
             }
             user.close_window(round_window());
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(refusal_of_shot(u" 2"_s));
             user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
             tell_shot(user, 1, 9, QString(), 2);
@@ -132,17 +133,17 @@ private Q_SLOTS:
     {
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
-        add_told_shot(round.store, 1, 1, 1, 60, QStringLiteral("Verges"), 1);
-        add_shot(round.store, 1, 2, QStringLiteral("stickval = 9, stick = 'F9'"));
+        add_told_shot(round.store, 1, 1, 1, 60, u"Verges"_s, 1);
+        add_shot(round.store, 1, 2, u"stickval = 9, stick = 'F9'"_s);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             go_to_detailed_page(user);
-            round.store.store.write(QStringLiteral("create trigger refuse before update on Stat_rounds when "
-                                                   "old.shot = 2 begin select raise(abort, 'no'); end"));
+            round.store.store.write(u"create trigger refuse before update on Stat_rounds when "
+                                    u"old.shot = 2 begin select raise(abort, 'no'); end"_s);
             user.click(ok_button);
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(refusal_of_shot(u" 2"_s));
             user.wait_for_window(round_window());
-            user.check(user.visible(details), QStringLiteral("the detailed page"));
-            round.store.store.write(QStringLiteral("drop trigger refuse"));
+            user.check(user.visible(details), u"the detailed page"_s);
+            round.store.store.write(u"drop trigger refuse"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
         QCOMPARE(round.shots(1), 2);
@@ -155,12 +156,12 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             leave_second_shot_open(user);
             user.close_window(round_window());
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
-            user.check(!round.store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save is off"));
+            user.answer(refusal_of_shot(u" 2"_s));
+            user.check(!round.store.frame.enabled(u"B4"_s), u"Save is off"_s);
             user.answer(question_on_closing(), QMessageBox::No);
         });
         QCOMPARE(round.shots(1), 2);
-        for (const QString& button : {QStringLiteral("B4"), QStringLiteral("B5")})
+        for (const QString& button : {u"B4"_s, u"B5"_s})
             QVERIFY2(round.store.frame.enabled(button), qUtf8Printable(button));
     }
 
@@ -171,15 +172,15 @@ private Q_SLOTS:
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             go_to_detailed_page(user);
             with_round(user, [&](f_new_round& window) {
-                data_environment().rsgames2.Fields(QStringLiteral("conditionM")).set(2);
-                round.store.store.write(QStringLiteral("create trigger refuse before update on games2 begin "
-                                                       "select raise(abort, 'no'); end"));
+                data_environment().rsgames2.Fields(u"conditionM"_s).set(2);
+                round.store.store.write(u"create trigger refuse before update on games2 begin "
+                                        u"select raise(abort, 'no'); end"_s);
                 window.unload();
             });
         });
         QVERIFY(!round.store.frame.locked);
         QVERIFY(!data_environment().rsStat_rounds.is_open());
-        QCOMPARE(data_environment().rsStat_rounds.Source(), QStringLiteral("select * from stat_rounds"));
+        QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
         // What came behind the refused row was left as it was.
         for (const Recordset* left : {&data_environment().rsgames2, &data_environment().rsgames})
             QVERIFY2(left->is_open(), qUtf8Printable(left->name()));
@@ -193,8 +194,7 @@ private Q_SLOTS:
             tell_shot(user, 0, 14, QString(), 0);
             accept(user);
         });
-        QCOMPARE(round.store.text(QStringLiteral("select fairval || faireway || '|' from Stat_rounds")),
-                 QStringLiteral("0 |"));
+        QCOMPARE(round.store.text(u"select fairval || faireway || '|' from Stat_rounds"_s), u"0 |"_s);
         QCOMPARE(broken_invariants(round.store.store), QStringList());
     }
 
@@ -210,17 +210,17 @@ private Q_SLOTS:
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             go_to_detailed_page(user);
             user.same(user.grid_row(details, 1),
-                      QStringLiteral("2 | F9 | 30 | Pieds | Approche | No | No | No | No | Dans l'allé | "),
-                      QStringLiteral("the approach"));
+                      u"2 | F9 | 30 | Pieds | Approche | No | No | No | No | Dans l'allé | "_s,
+                      u"the approach"_s);
             user.click_cell(details, 3, 3);
-            user.type(QStringLiteral("1"));
+            user.type(u"1"_s);
             user.key(Qt::Key_Return);
             accept(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("1 1 3 2 0 0 0 0 0 0 0"));
-        QCOMPARE(stored_putts(round.store, 1), QStringLiteral("30 4 1 0 0 0"));
-        QCOMPARE(round.store.text(QStringLiteral("select group_concat(unit) from Stat_rounds")),
-                 QStringLiteral("Verges,Pieds,Feets,Feets,Feets"));
+        QCOMPARE(stored_figures(round.store, 1), u"1 1 3 2 0 0 0 0 0 0 0"_s);
+        QCOMPARE(stored_putts(round.store, 1), u"30 4 1 0 0 0"_s);
+        QCOMPARE(round.store.text(u"select group_concat(unit) from Stat_rounds"_s),
+                 u"Verges,Pieds,Feets,Feets,Feets"_s);
     }
 
     void saveShots_commits_the_shot_that_is_being_told()
@@ -229,11 +229,11 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
             tell_shot(user, 0, 3, QString(), 0);
-            user.same(round.store.text(QStringLiteral("select stickval from Stat_rounds")),
-                      QStringLiteral("0"), QStringLiteral("club in the store"));
+            user.same(round.store.text(u"select stickval from Stat_rounds"_s), u"0"_s,
+                      u"club in the store"_s);
             with_round(user, [](f_new_round& window) { window.saveShots(); });
-            user.same(round.store.text(QStringLiteral("select stickval from Stat_rounds")),
-                      QStringLiteral("3"), QStringLiteral("club in the store"));
+            user.same(round.store.text(u"select stickval from Stat_rounds"_s), u"3"_s,
+                      u"club in the store"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }

@@ -18,6 +18,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -93,41 +94,41 @@ private Q_SLOTS:
         const round_store store(french);
         store.add_two_courses();
         name_the_clubs(store);
-        const QString twin = french ? QStringLiteral("fr") : QStringLiteral("en");
+        const QString twin = french ? u"fr"_s : u"en"_s;
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
             // Driver, 60 left, long.
-            user.type(QStringLiteral("d"));
-            user.same(user.cursor(details), QStringLiteral("0,3"), QStringLiteral("on the distance"));
-            user.type(QStringLiteral("60"));
+            user.type(u"d"_s);
+            user.same(user.cursor(details), u"0,3"_s, u"on the distance"_s);
+            user.type(u"60"_s);
             user.key(Qt::Key_Return);
-            user.same(user.cursor(details), QStringLiteral("0,5"), QStringLiteral("on the kind"));
-            user.type(QStringLiteral("l"));
+            user.same(user.cursor(details), u"0,5"_s, u"on the kind"_s);
+            user.type(u"l"_s);
             user.key(Qt::Key_N, Qt::ControlModifier);
-            user.same(user.cursor(details), QStringLiteral("1,2"), QStringLiteral("on the club"));
+            user.same(user.cursor(details), u"1,2"_s, u"on the club"_s);
             // Sand wedge, 10 yards left, approach.
             user.key(Qt::Key_Down, Qt::AltModifier);
-            user.wait_for_menu(QStringLiteral("mSticks"));
+            user.wait_for_menu(u"mSticks"_s);
             for (int steps = 0; steps < 12; ++steps)
                 user.menu_key(Qt::Key_Down);
             user.menu_key(Qt::Key_Return);
-            user.type(QStringLiteral("10"));
+            user.type(u"10"_s);
             user.key(Qt::Key_Return);
-            user.type(QStringLiteral("a"));
+            user.type(u"a"_s);
             user.key(Qt::Key_N, Qt::ControlModifier);
             // The putter; then distances only.
-            user.type(QStringLiteral("p"));
-            for (const QString& left : {QStringLiteral("6"), QStringLiteral("2")}) {
+            user.type(u"p"_s);
+            for (const QString& left : {u"6"_s, u"2"_s}) {
                 user.type(left);
                 user.key(Qt::Key_Return);
             }
-            user.same(user.cursor(details), QStringLiteral("4,3"), QStringLiteral("on the next putt"));
+            user.same(user.cursor(details), u"4,3"_s, u"on the next putt"_s);
             keep_picture(user, u"details_" + twin);
             accept(user);
         });
-        const QString feet = french ? QStringLiteral("Pieds") : QStringLiteral("Feets");
-        const QString yards = french ? QStringLiteral("Verges") : QStringLiteral("Yards");
-        const QString approach = french ? QStringLiteral("Approche") : QStringLiteral("Approach");
+        const QString feet = french ? u"Pieds"_s : u"Feets"_s;
+        const QString yards = french ? u"Verges"_s : u"Yards"_s;
+        const QString approach = french ? u"Approche"_s : u"Approach"_s;
         QCOMPARE(stored_shots(store, 1),
                  (QStringList{u"1 101>60 "_qs + yards + u" D/1 Long/1",
                               u"2 60>30 " + feet + u" SW/13 " + approach + u"/2",
@@ -193,23 +194,14 @@ private Q_SLOTS:
         QFETCH(int, entry);
         QFETCH(QString, kept);
         QFETCH(QString, cursor);
-        const QStringList fields{QString(),
-                                 QString(),
-                                 QStringLiteral("stickval"),
-                                 QString(),
-                                 QString(),
-                                 QStringLiteral("shot_type_value"),
-                                 QStringLiteral("beyong_hole"),
-                                 QStringLiteral("missed"),
-                                 QStringLiteral("ts"),
-                                 QStringLiteral("dz"),
-                                 QStringLiteral("fairval"),
-                                 QStringLiteral("penval")};
+        const QStringList fields{
+            QString(),        QString(),   u"stickval"_s, QString(), QString(),    u"shot_type_value"_s,
+            u"beyong_hole"_s, u"missed"_s, u"ts"_s,       u"dz"_s,   u"fairval"_s, u"penval"_s};
         const golfer_store round;
         on_the_page([&](hand& user) {
             choose_by_keyboard(user, 0, column, menu, entry);
             user.same(QString(user.cell(details, 0, column) + u'/' + held(user, fields[column])), kept, menu);
-            user.same(user.cursor(details), cursor, QStringLiteral("cursor"));
+            user.same(user.cursor(details), cursor, u"cursor"_s);
         });
     }
 
@@ -219,7 +211,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("kept");
         for (const char* refused : {"-5", "12a", "2.5", "1e3", " 7"})
             QTest::newRow(refused) << QString::fromLatin1(refused) << "60";
-        QTest::newRow("digits of another script") << QStringLiteral("\u0661\u0662") << "60";
+        QTest::newRow("digits of another script") << u"\u0661\u0662"_s << "60";
         QTest::newRow("the last that fits") << "32767"
                                             << "32767";
         QTest::newRow("digits") << "045"
@@ -231,10 +223,10 @@ private Q_SLOTS:
         QFETCH(QString, kept);
         const golfer_store round;
         on_the_page([&](hand& user) {
-            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            tell_shot(user, 0, 1, u"60"_s, 1);
             const int before = user.bells();
-            user.same(pasted_distance(user, text), kept, QStringLiteral("distance"));
-            user.check((user.bells() > before) == (kept == u"60"), QStringLiteral("the bell"));
+            user.same(pasted_distance(user, text), kept, u"distance"_s);
+            user.check((user.bells() > before) == (kept == u"60"), u"the bell"_s);
         });
     }
 
@@ -249,47 +241,45 @@ private Q_SLOTS:
                 window.details->set_Col(7);
             });
             go_to_quick_page(user);
-            round.store.store.write(
-                QStringLiteral("update sticknames set club_1 = 'Bois d''été', club_2 = 'R & \"B\"'"));
+            round.store.store.write(u"update sticknames set club_1 = 'Bois d''été', club_2 = 'R & \"B\"'"_s);
             user.look([] { Unlock_menu(); });
             go_to_detailed_page(user);
-            user.check(round.store.frame.locked, QStringLiteral("the menu is locked"));
+            user.check(round.store.frame.locked, u"the menu is locked"_s);
             with_round(user, [](f_new_round& window) {
                 QCOMPARE(window.details->columnWidth(3), pixels(2000));
                 QVERIFY(!window.details->isColumnHidden(11));
                 QVERIFY(window.details->isColumnHidden(12));
             });
-            user.same(user.cursor(details), QStringLiteral("0,2"), QStringLiteral("cursor"));
+            user.same(user.cursor(details), u"0,2"_s, u"cursor"_s);
             tell_shot(user, 0, 1, QString(), 0);
-            user.same(user.cell(details, 0, 2), QStringLiteral("Bois d'été"), QStringLiteral("club 1"));
+            user.same(user.cell(details, 0, 2), u"Bois d'été"_s, u"club 1"_s);
             tell_shot(user, 0, 2, QString(), 0);
             with_round(user, [](f_new_round& window) { window.saveShots(); });
-            user.same(round.store.text(QStringLiteral("select stick from Stat_rounds")),
-                      QStringLiteral("R & \"B\""), QStringLiteral("club 2"));
+            user.same(round.store.text(u"select stick from Stat_rounds"_s), u"R & \"B\""_s, u"club 2"_s);
         });
     }
 
     void names_that_the_golf_bag_did_not_keep_are_in_the_menu_all_the_same()
     {
         const golfer_store round;
-        Main_module::club_names[0] = QStringLiteral("Big & B");
+        Main_module::club_names[0] = u"Big & B"_s;
         Main_module::club_names_kept = false;
         on_the_page([&](hand& user) {
             tell_shot(user, 0, 1, QString(), 0);
-            user.same(user.cell(details, 0, 2), QStringLiteral("Big & B"), QStringLiteral("club 1"));
+            user.same(user.cell(details, 0, 2), u"Big & B"_s, u"club 1"_s);
         });
     }
 
     void the_putter_has_its_own_name_where_the_program_takes_it()
     {
         const golfer_store round;
-        round.store.store.write(QStringLiteral("update sticknames set club_14 = 'Fer droit'"));
+        round.store.store.write(u"update sticknames set club_14 = 'Fer droit'"_s);
         on_the_page([&](hand& user) {
-            tell_shot(user, 0, 5, QStringLiteral("20"), 3);
-            user.same(user.cell(details, 1, 2), QStringLiteral("Pu"), QStringLiteral("by the kind"));
-            tell_shot(user, 1, 14, QStringLiteral("6"), 0);
-            user.same(user.cell(details, 1, 2), QStringLiteral("Fer droit"), QStringLiteral("by the menu"));
-            user.same(user.cell(details, 2, 2), QStringLiteral("Pu"), QStringLiteral("by the distance"));
+            tell_shot(user, 0, 5, u"20"_s, 3);
+            user.same(user.cell(details, 1, 2), u"Pu"_s, u"by the kind"_s);
+            tell_shot(user, 1, 14, u"6"_s, 0);
+            user.same(user.cell(details, 1, 2), u"Fer droit"_s, u"by the menu"_s);
+            user.same(user.cell(details, 2, 2), u"Pu"_s, u"by the distance"_s);
         });
     }
 
@@ -299,14 +289,14 @@ private Q_SLOTS:
         on_the_page([&](hand& user) {
             tell_shot(user, 0, 1, QString(), 1);
             user.click_cell(details, 0, 1);
-            user.type(QStringLiteral("9"));
-            user.click(QStringLiteral("cmb_courses"));
+            user.type(u"9"_s);
+            user.click(u"cmb_courses"_s);
             user.key(Qt::Key_Escape);
-            user.same(user.cursor(details), QStringLiteral("0,4"), QStringLiteral("cursor"));
-            user.same(held(user, QStringLiteral("normal")), QStringLiteral("4"), QStringLiteral("par"));
-            user.same(held(user, QStringLiteral("shot")), QStringLiteral("9"), QStringLiteral("number"));
+            user.same(user.cursor(details), u"0,4"_s, u"cursor"_s);
+            user.same(held(user, u"normal"_s), u"4"_s, u"par"_s);
+            user.same(held(user, u"shot"_s), u"9"_s, u"number"_s);
             go_to_quick_page(user);
-            user.same(held(user, QStringLiteral("shot")), QStringLiteral("1"), QStringLiteral("renumbered"));
+            user.same(held(user, u"shot"_s), u"1"_s, u"renumbered"_s);
         });
     }
 
@@ -314,14 +304,14 @@ private Q_SLOTS:
     {
         const golfer_store round;
         on_the_page([&](hand& user) {
-            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            tell_shot(user, 0, 1, u"60"_s, 1);
             user.click_tab(hole_tabs, 12);
             QString statement;
             user.look([&] { statement = data_environment().rsStat_rounds.Source(); });
             user.same(statement,
-                      QStringLiteral("Select * from Stat_rounds where ( date= '20240614093000' ) and hole = "
-                                     "12 order by shot"),
-                      QStringLiteral("statement"));
+                      u"Select * from Stat_rounds where ( date= '20240614093000' ) and hole = "
+                      u"12 order by shot"_s,
+                      u"statement"_s);
         });
     }
 };

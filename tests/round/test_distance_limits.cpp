@@ -9,17 +9,18 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString cell = QStringLiteral("cell_being_typed");
-const QString too_far = QStringLiteral("32768");
+const QString cell = u"cell_being_typed"_s;
+const QString too_far = u"32768"_s;
 
 /// A drive with 60 yards left, whose distance is typed over with one that 16 bits cannot hold.
 void type_too_far(hand& user)
 {
     go_to_detailed_page(user);
-    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+    tell_shot(user, 0, 1, u"60"_s, 1);
     user.click_cell(details, 0, 3);
     user.type(too_far);
 }
@@ -59,7 +60,7 @@ void rows_of_clicks()
     QTest::newRow("a page tab") << way_out([](hand& user) { go_to_quick_page(user); });
     QTest::newRow("another cell") << way_out([](hand& user) { user.click_cell(details, 0, 4); });
     QTest::newRow("a cell with a menu") << way_out([](hand& user) { user.click_cell(details, 0, 5); });
-    QTest::newRow("a partner") << way_out([](hand& user) { user.click_row(QStringLiteral("pList"), 0); });
+    QTest::newRow("a partner") << way_out([](hand& user) { user.click_row(u"pList"_s, 0); });
     QTest::newRow("the title bar") << way_out([](hand& user) { user.close_window(round_window()); });
 }
 
@@ -68,13 +69,13 @@ QString state_of(hand& user)
 {
     QString partner;
     with_round(user, [&](f_new_round& window) {
-        partner = window.pList->selectedItems().isEmpty() ? QStringLiteral("none") : QStringLiteral("one");
+        partner = window.pList->selectedItems().isEmpty() ? u"none"_s : u"one"_s;
     });
-    return QStringLiteral("cursor %1, distance %2, shots %3, hole %4, page %5, partner %6")
+    return u"cursor %1, distance %2, shots %3, hole %4, page %5, partner %6"_s
         .arg(user.cursor(details), user.cell(details, 0, 3))
         .arg(user.grid_rows(details))
         .arg(user.selected(hole_tabs))
-        .arg(user.selected(QStringLiteral("TabStrip2")))
+        .arg(user.selected(u"TabStrip2"_s))
         .arg(partner);
 }
 
@@ -97,20 +98,19 @@ private Q_SLOTS:
     {
         QFETCH(way_out, leave);
         const golfer_store round;
-        round.store.add_partner(QStringLiteral("Ann"), QStringLiteral("Berg"), 77);
+        round.store.add_partner(u"Ann"_s, u"Berg"_s, 77);
         in_keyed_round([&](hand& user) {
             type_too_far(user);
             const int bells = user.bells();
             leave(user);
-            user.same(user.focus(), cell, QStringLiteral("focus"));
-            user.same(user.selected_text(cell), too_far, QStringLiteral("selection"));
-            user.same(user.bells() - bells, 1, QStringLiteral("bells"));
-            user.same(state_of(user),
-                      QStringLiteral("cursor 0,3, distance 60, shots 1, hole 0, page 1, partner none"),
-                      QStringLiteral("state"));
-            user.type(QStringLiteral("45"));
+            user.same(user.focus(), cell, u"focus"_s);
+            user.same(user.selected_text(cell), too_far, u"selection"_s);
+            user.same(user.bells() - bells, 1, u"bells"_s);
+            user.same(state_of(user), u"cursor 0,3, distance 60, shots 1, hole 0, page 1, partner none"_s,
+                      u"state"_s);
+            user.type(u"45"_s);
             user.key(Qt::Key_Return);
-            user.same(user.cell(details, 0, 3), QStringLiteral("45"), QStringLiteral("distance"));
+            user.same(user.cell(details, 0, 3), u"45"_s, u"distance"_s);
             accept(user);
         });
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
@@ -123,8 +123,8 @@ private Q_SLOTS:
             type_too_far(user);
             user.key(Qt::Key_Return);
             user.key(Qt::Key_Escape);
-            user.same(user.focus(), details, QStringLiteral("focus"));
-            user.same(user.cell(details, 0, 3), QStringLiteral("60"), QStringLiteral("distance"));
+            user.same(user.focus(), details, u"focus"_s);
+            user.same(user.cell(details, 0, 3), u"60"_s, u"distance"_s);
             accept(user);
         });
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>60 "));
@@ -136,9 +136,9 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             type_too_far(user);
             user.key(Qt::Key_Return);
-            user.type(QStringLiteral("32767"));
+            user.type(u"32767"_s);
             user.key(Qt::Key_Return);
-            user.same(user.cell(details, 0, 3), QStringLiteral("32767"), QStringLiteral("distance"));
+            user.same(user.cell(details, 0, 3), u"32767"_s, u"distance"_s);
             accept(user);
         });
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>32767 "));

@@ -5,6 +5,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -13,30 +14,30 @@ constexpr int last_hole = 18;
 /// A drive with a penalty and an approach that is holed: two shots on a par 4.
 void enter_hole_with_penalty(hand& user, int entry)
 {
-    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+    tell_shot(user, 0, 1, u"60"_s, 1);
     user.open_menu(details, 0, 11);
-    user.choose_menu_entry(QStringLiteral("mp_%1").arg(entry));
-    user.click(QStringLiteral("CommandSuiv"));
-    tell_shot(user, 1, 9, QStringLiteral("0"), 2);
+    user.choose_menu_entry(u"mp_%1"_s.arg(entry));
+    user.click(u"CommandSuiv"_s);
+    tell_shot(user, 1, 9, u"0"_s, 2);
 }
 
 QString penalty_boxes(hand& user)
 {
     QStringList texts;
     for (int box = 8; box <= 11; ++box)
-        texts << user.text(QStringLiteral("text_s_%1").arg(box));
+        texts << user.text(u"text_s_%1"_s.arg(box));
     return texts.join(u' ');
 }
 
 void hole_counts_three(hand& user, const QString& penalties)
 {
-    user.same(penalty_boxes(user), penalties, QStringLiteral("penalties"));
-    user.same(user.text(QStringLiteral("text_36")), QStringLiteral("1"), QStringLiteral("their sum"));
-    user.same(user.text(QStringLiteral("text_vrd_3")), QStringLiteral("2"), QStringLiteral("shots"));
-    user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("3"), QStringLiteral("score"));
-    user.same(user.text(QStringLiteral("l_plus")), QStringLiteral("-69"), QStringLiteral("over par"));
+    user.same(penalty_boxes(user), penalties, u"penalties"_s);
+    user.same(user.text(u"text_36"_s), u"1"_s, u"their sum"_s);
+    user.same(user.text(u"text_vrd_3"_s), u"2"_s, u"shots"_s);
+    user.same(user.text(u"l_brut"_s), u"3"_s, u"score"_s);
+    user.same(user.text(u"l_plus"_s), u"-69"_s, u"over par"_s);
     // A birdie: three strokes on a par 4.
-    user.same(user.text(QStringLiteral("text_24")), QStringLiteral("1"), QStringLiteral("birdie"));
+    user.same(user.text(u"text_24"_s), u"1"_s, u"birdie"_s);
 }
 
 }  // namespace

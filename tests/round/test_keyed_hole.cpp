@@ -5,6 +5,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,28 +23,28 @@ void expect_cursor(hand& user, const QString& cell, const QString& after)
 /// Drive, approach and a putt; `tabs` lead from where the first distance leaves the cursor to the kind.
 void tell_by_keys(hand& user, const QString& cell_behind_distance, int tabs)
 {
-    user.type(QStringLiteral("d"));
-    expect_cursor(user, QStringLiteral("0,3"), QStringLiteral("the club"));
-    type_distance(user, QStringLiteral("60"));
-    expect_cursor(user, cell_behind_distance, QStringLiteral("the first distance"));
+    user.type(u"d"_s);
+    expect_cursor(user, u"0,3"_s, u"the club"_s);
+    type_distance(user, u"60"_s);
+    expect_cursor(user, cell_behind_distance, u"the first distance"_s);
     for (int tab = 0; tab < tabs; ++tab)
         user.key(Qt::Key_Tab);
-    user.type(QStringLiteral("l"));
+    user.type(u"l"_s);
     user.key(Qt::Key_N, Qt::ControlModifier);
-    user.type(QStringLiteral("s"));
-    type_distance(user, QStringLiteral("10"));
-    expect_cursor(user, QStringLiteral("1,5"), QStringLiteral("the second distance"));
-    user.type(QStringLiteral("a"));
+    user.type(u"s"_s);
+    type_distance(user, u"10"_s);
+    expect_cursor(user, u"1,5"_s, u"the second distance"_s);
+    user.type(u"a"_s);
     user.key(Qt::Key_N, Qt::ControlModifier);
-    user.type(QStringLiteral("p"));
-    type_distance(user, QStringLiteral("4"));
-    expect_cursor(user, QStringLiteral("3,3"), QStringLiteral("the first putt"));
+    user.type(u"p"_s);
+    type_distance(user, u"4"_s);
+    expect_cursor(user, u"3,3"_s, u"the first putt"_s);
 }
 
 void go_on_to_the_next_hole(hand& user)
 {
     user.key(Qt::Key_PageDown);
-    user.same(user.focus(), details, QStringLiteral("focus on the next hole"));
+    user.same(user.focus(), details, u"focus on the next hole"_s);
 }
 
 }  // namespace
@@ -58,9 +59,9 @@ private Q_SLOTS:
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             user.key(Qt::Key_2, Qt::ControlModifier);
-            tell_by_keys(user, QStringLiteral("0,5"), 0);
+            tell_by_keys(user, u"0,5"_s, 0);
             go_on_to_the_next_hole(user);
-            tell_by_keys(user, QStringLiteral("0,3"), 2);
+            tell_by_keys(user, u"0,3"_s, 2);
             accept(user);
         });
         for (const int hole : {1, 2}) {

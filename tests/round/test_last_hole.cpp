@@ -5,6 +5,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,14 +16,14 @@ void add_round_with_shots(const golfer_store& round)
 {
     round.store.add_round(key_of_keyed_round());
     for (int hole = 1; hole <= last_hole; ++hole)
-        add_told_shot(round.store, hole, 1, 1, 60, QStringLiteral("Verges"), 1);
+        add_told_shot(round.store, hole, 1, 1, 60, u"Verges"_s, 1);
 }
 
 /// By the arrow keys. On the detailed page the grid takes the focus at each hole, so there it is one hole
 /// away.
 void choose_by_list(hand& user, int hole)
 {
-    user.choose(QStringLiteral("cmb_holes"), hole - 1);
+    user.choose(u"cmb_holes"_s, hole - 1);
 }
 
 void choose_by_tab(hand& user, int hole)
@@ -32,8 +33,8 @@ void choose_by_tab(hand& user, int hole)
 
 void end_of_round_is_visible(hand& user, bool visible)
 {
-    user.same(user.visible(QStringLiteral("b_carte")), visible, QStringLiteral("b_carte"));
-    user.same(user.visible(QStringLiteral("Frame7")), visible, QStringLiteral("Frame7"));
+    user.same(user.visible(u"b_carte"_s), visible, u"b_carte"_s);
+    user.same(user.visible(u"Frame7"_s), visible, u"Frame7"_s);
 }
 
 }  // namespace

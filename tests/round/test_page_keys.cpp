@@ -11,11 +11,12 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int holes = 18;
-const QString page_tabs = QStringLiteral("TabStrip2");
+const QString page_tabs = u"TabStrip2"_s;
 
 /// Types and counts.
 class typist {
@@ -41,7 +42,7 @@ private:
 /// Eleven digits that no other hole has.
 QString digits_of(int hole)
 {
-    QString digits = QStringLiteral("12010000000");
+    QString digits = u"12010000000"_s;
     digits[0] = QChar(u'0' + hole % 10);
     digits[10] = QChar(u'0' + hole / 10);
     return digits;
@@ -81,11 +82,10 @@ void hold_down(hand& user, int key, Qt::KeyboardModifiers modifiers = Qt::NoModi
 /// What the parameters of the round show.
 QString parameters(hand& user)
 {
-    return QStringLiteral("%1 %2 %3 %4")
-        .arg(user.selected(QStringLiteral("cmb_courses")))
-        .arg(user.selected(QStringLiteral("conditions")))
-        .arg(user.selected(QStringLiteral("pList")))
-        .arg(user.text(QStringLiteral("Text1")));
+    return u"%1 %2 %3 %4"_s.arg(user.selected(u"cmb_courses"_s))
+        .arg(user.selected(u"conditions"_s))
+        .arg(user.selected(u"pList"_s))
+        .arg(user.text(u"Text1"_s));
 }
 
 /// Partners fill more than a page of their list.
@@ -93,7 +93,7 @@ struct partner_store : golfer_store {
     partner_store()
     {
         for (int code = 1; code <= 9; ++code)
-            store.add_partner(QStringLiteral("Ann"), QStringLiteral("Berg"), code);
+            store.add_partner(u"Ann"_s, u"Berg"_s, code);
     }
 };
 
@@ -113,15 +113,12 @@ QStringList walk_from_ok(hand& user)
     return visited;
 }
 
-const QStringList head{QStringLiteral("Command1_2"), QStringLiteral("TabStrip1"), QStringLiteral("cmb_holes"),
-                       QStringLiteral("TabStrip2"),  QStringLiteral("b_putts"),   QStringLiteral("Command4")};
-const QStringList foot{QStringLiteral("cmb_courses"), QStringLiteral("conditions"), QStringLiteral("UpDown1"),
-                       QStringLiteral("pList"), QStringLiteral("Command2")};
-const QStringList quick_boxes{
-    QStringLiteral("text_vrd_0"), QStringLiteral("text_vrd_1"), QStringLiteral("text_vrd_2"),
-    QStringLiteral("text_p_3"),   QStringLiteral("text_p_4"),   QStringLiteral("text_p_5"),
-    QStringLiteral("text_p_6"),   QStringLiteral("text_s_8"),   QStringLiteral("text_s_9"),
-    QStringLiteral("text_s_10"),  QStringLiteral("text_s_11")};
+const QStringList head{u"Command1_2"_s, u"TabStrip1"_s, u"cmb_holes"_s,
+                       u"TabStrip2"_s,  u"b_putts"_s,   u"Command4"_s};
+const QStringList foot{u"cmb_courses"_s, u"conditions"_s, u"UpDown1"_s, u"pList"_s, u"Command2"_s};
+const QStringList quick_boxes{u"text_vrd_0"_s, u"text_vrd_1"_s, u"text_vrd_2"_s, u"text_p_3"_s,
+                              u"text_p_4"_s,   u"text_p_5"_s,   u"text_p_6"_s,   u"text_s_8"_s,
+                              u"text_s_9"_s,   u"text_s_10"_s,  u"text_s_11"_s};
 
 }  // namespace
 
@@ -151,7 +148,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("control");
         QTest::addColumn<int>("page");
-        for (const QString& control : head + foot + QStringList{ok_button, QStringLiteral("Text1")}) {
+        for (const QString& control : head + foot + QStringList{ok_button, u"Text1"_s}) {
             QTest::addRow("%s on page 1", qPrintable(control)) << control << 1;
             QTest::addRow("%s on page 2", qPrintable(control)) << control << 2;
         }
@@ -172,14 +169,14 @@ private Q_SLOTS:
             give_focus(user, control);
             const QString before = parameters(user);
             user.key(Qt::Key_PageDown);
-            user.same(hole_on_screen(user), 2, QStringLiteral("hole after PageDown"));
-            user.same(user.focus(), page == 1 ? quick_boxes.front() : details, QStringLiteral("focus"));
+            user.same(hole_on_screen(user), 2, u"hole after PageDown"_s);
+            user.same(user.focus(), page == 1 ? quick_boxes.front() : details, u"focus"_s);
             if (page == 2)
-                tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+                tell_shot(user, 0, 1, u"60"_s, 1);
             give_focus(user, control);
             user.key(Qt::Key_PageUp);
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole after PageUp"));
-            user.same(parameters(user), before, QStringLiteral("parameters"));
+            user.same(hole_on_screen(user), 1, u"hole after PageUp"_s);
+            user.same(parameters(user), before, u"parameters"_s);
             accept(user);
         });
     }
@@ -190,12 +187,12 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             const int bells = user.bells();
             user.key(Qt::Key_PageUp);
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
-            user.same(user.bells() - bells, 1, QStringLiteral("bells"));
+            user.same(hole_on_screen(user), 1, u"hole"_s);
+            user.same(user.bells() - bells, 1, u"bells"_s);
             user.click_tab(hole_tabs, holes);
             user.key(Qt::Key_PageDown);
-            user.same(hole_on_screen(user), holes, QStringLiteral("hole"));
-            user.same(user.bells() - bells, 2, QStringLiteral("bells"));
+            user.same(hole_on_screen(user), holes, u"hole"_s);
+            user.same(user.bells() - bells, 2, u"bells"_s);
             discard(user);
         });
     }
@@ -206,10 +203,10 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             const int keys = plain(Main_module::round_key_count);
             hold_down(user, Qt::Key_PageDown);
-            user.same(hole_on_screen(user), 2, QStringLiteral("hole after PageDown"));
+            user.same(hole_on_screen(user), 2, u"hole after PageDown"_s);
             hold_down(user, Qt::Key_PageUp);
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole after PageUp"));
-            user.same(plain(Main_module::round_key_count) - keys, 2, QStringLiteral("places taken"));
+            user.same(hole_on_screen(user), 1, u"hole after PageUp"_s);
+            user.same(plain(Main_module::round_key_count) - keys, 2, u"places taken"_s);
             discard(user);
         });
     }
@@ -221,7 +218,7 @@ private Q_SLOTS:
             user.click_tab(hole_tabs, holes);
             const int bells = user.bells();
             hold_down(user, Qt::Key_PageDown);
-            user.same(user.bells() - bells, 1, QStringLiteral("bells"));
+            user.same(user.bells() - bells, 1, u"bells"_s);
             discard(user);
         });
     }
@@ -230,20 +227,20 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            user.click(QStringLiteral("Command2"));
+            user.click(u"Command2"_s);
             user.wait_for_window(in_language(u"f_cost", u"f_cost_en"));
             user.key(Qt::Key_PageDown);
             user.key(Qt::Key_2, Qt::ControlModifier);
-            user.click(QStringLiteral("OKButton"));
+            user.click(u"OKButton"_s);
             user.wait_for_window(round_window());
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole under the costs"));
-            user.same(user.selected(page_tabs), 0, QStringLiteral("page under the costs"));
+            user.same(hole_on_screen(user), 1, u"hole under the costs"_s);
+            user.same(user.selected(page_tabs), 0, u"page under the costs"_s);
             user.key(Qt::Key_F1);
-            user.wait_for_window(QStringLiteral("message_box"));
+            user.wait_for_window(u"message_box"_s);
             user.key(Qt::Key_PageDown);
             user.key(Qt::Key_Return);
             user.wait_for_window(round_window());
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole under a message box"));
+            user.same(hole_on_screen(user), 1, u"hole under a message box"_s);
             discard(user);
         });
     }
@@ -253,11 +250,11 @@ private Q_SLOTS:
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
-            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            tell_shot(user, 0, 1, u"60"_s, 1);
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("45"));
+            user.type(u"45"_s);
             user.key(Qt::Key_PageDown);
-            user.same(hole_on_screen(user), 2, QStringLiteral("hole"));
+            user.same(hole_on_screen(user), 2, u"hole"_s);
             go_to_quick_page(user);
             accept(user);
         });
@@ -273,10 +270,10 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             leave_second_shot_open(user);
             user.key(Qt::Key_PageDown);
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(refusal_of_shot(u" 2"_s));
+            user.answer(refusal_of_shot(u" 2"_s));
             user.wait_for_window(round_window());
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            user.same(hole_on_screen(user), 1, u"hole"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }
@@ -285,9 +282,8 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            user.press_and_release(QStringLiteral("conditions"));
-            user.wait_until(QStringLiteral("the open list"),
-                            [] { return QApplication::activePopupWidget() != nullptr; });
+            user.press_and_release(u"conditions"_s);
+            user.wait_until(u"the open list"_s, [] { return QApplication::activePopupWidget() != nullptr; });
             for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_Return}) {
                 user.look([key] {
                     QWidget* popup = QApplication::activePopupWidget();
@@ -295,8 +291,8 @@ private Q_SLOTS:
                     QTest::keyClick(focused ? focused : popup, key);
                 });
             }
-            user.same(user.selected(QStringLiteral("conditions")), 3, QStringLiteral("weather"));
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            user.same(user.selected(u"conditions"_s), 3, u"weather"_s);
+            user.same(hole_on_screen(user), 1, u"hole"_s);
             discard(user);
         });
     }
@@ -305,15 +301,14 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            user.press_and_release(QStringLiteral("conditions"));
-            user.wait_until(QStringLiteral("the open list"),
-                            [] { return QApplication::activePopupWidget() != nullptr; });
+            user.press_and_release(u"conditions"_s);
+            user.wait_until(u"the open list"_s, [] { return QApplication::activePopupWidget() != nullptr; });
             user.look([] {
                 QWidget* popup = QApplication::activePopupWidget();
                 QWidget* focused = popup->focusWidget();
                 QTest::keyClick(focused ? focused : popup, Qt::Key_F1);
             });
-            user.check(!user.is_open(QStringLiteral("message_box")), QStringLiteral("no list of F1"));
+            user.check(!user.is_open(u"message_box"_s), u"no list of F1"_s);
             user.menu_key(Qt::Key_Escape);
             discard(user);
         });
@@ -326,9 +321,9 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             user.open_menu(details, 0, 2);
             user.menu_key(Qt::Key_PageDown);
-            user.wait_for_menu(QStringLiteral("mSticks"));
-            user.choose_menu_entry(QStringLiteral("ms1_1"));
-            user.same(hole_on_screen(user), 1, QStringLiteral("hole"));
+            user.wait_for_menu(u"mSticks"_s);
+            user.choose_menu_entry(u"ms1_1"_s);
+            user.same(hole_on_screen(user), 1, u"hole"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }
@@ -347,15 +342,15 @@ private Q_SLOTS:
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             user.key(detailed, Qt::ControlModifier);
-            user.same(user.selected(page_tabs), 1, QStringLiteral("page"));
-            user.same(user.focus(), details, QStringLiteral("focus"));
-            tell_shot(user, 0, 1, QStringLiteral("60"), 1);
+            user.same(user.selected(page_tabs), 1, u"page"_s);
+            user.same(user.focus(), details, u"focus"_s);
+            tell_shot(user, 0, 1, u"60"_s, 1);
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("45"));
+            user.type(u"45"_s);
             user.key(quick, Qt::ControlModifier);
-            user.same(user.selected(page_tabs), 0, QStringLiteral("page"));
-            user.same(user.focus(), quick_boxes.front(), QStringLiteral("focus"));
-            user.same(user.text(quick_boxes.front()), QStringLiteral("1"), QStringLiteral("long shots"));
+            user.same(user.selected(page_tabs), 0, u"page"_s);
+            user.same(user.focus(), quick_boxes.front(), u"focus"_s);
+            user.same(user.text(quick_boxes.front()), u"1"_s, u"long shots"_s);
             accept(user);
         });
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
@@ -387,8 +382,7 @@ private Q_SLOTS:
     {
         const partner_store round;
         in_keyed_round([&](hand& user) {
-            user.same(walk_from_ok(user).join(u' '), (head + quick_boxes + foot).join(u' '),
-                      QStringLiteral("order"));
+            user.same(walk_from_ok(user).join(u' '), (head + quick_boxes + foot).join(u' '), u"order"_s);
             discard(user);
         });
     }
@@ -399,10 +393,8 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             user.click_tab(hole_tabs, holes);
             go_to_detailed_page(user);
-            const QStringList shots{details, QStringLiteral("CommandSuiv"), QStringLiteral("CommandSup"),
-                                    QStringLiteral("b_carte")};
-            user.same(walk_from_ok(user).join(u' '), (head + shots + foot).join(u' '),
-                      QStringLiteral("order"));
+            const QStringList shots{details, u"CommandSuiv"_s, u"CommandSup"_s, u"b_carte"_s};
+            user.same(walk_from_ok(user).join(u' '), (head + shots + foot).join(u' '), u"order"_s);
             go_to_quick_page(user);
             discard(user);
         });

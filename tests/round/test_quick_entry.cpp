@@ -7,14 +7,13 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList order{
-    QStringLiteral("text_vrd_0"), QStringLiteral("text_vrd_1"), QStringLiteral("text_vrd_2"),
-    QStringLiteral("text_p_3"),   QStringLiteral("text_p_4"),   QStringLiteral("text_p_5"),
-    QStringLiteral("text_p_6"),   QStringLiteral("text_s_8"),   QStringLiteral("text_s_9"),
-    QStringLiteral("text_s_10"),  QStringLiteral("text_s_11"),  QStringLiteral("Command1_4")};
+const QStringList order{u"text_vrd_0"_s, u"text_vrd_1"_s, u"text_vrd_2"_s, u"text_p_3"_s,
+                        u"text_p_4"_s,   u"text_p_5"_s,   u"text_p_6"_s,   u"text_s_8"_s,
+                        u"text_s_9"_s,   u"text_s_10"_s,  u"text_s_11"_s,  u"Command1_4"_s};
 
 void same_text(hand& user, const QString& box, const QString& expected)
 {
@@ -32,19 +31,16 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.type(QStringLiteral("12345678910"));
-            user.same(user.focus(), QStringLiteral("Command1_4"), QStringLiteral("focus"));
-            user.same(boxes(user), QStringLiteral("1 2 3 4 5 6 7 8 9 1 0"), QStringLiteral("boxes"));
+            user.type(u"12345678910"_s);
+            user.same(user.focus(), u"Command1_4"_s, u"focus"_s);
+            user.same(boxes(user), u"1 2 3 4 5 6 7 8 9 1 0"_s, u"boxes"_s);
             user.key(Qt::Key_Return);
             user.wait_until_gone(round_window());
         });
-        QCOMPARE(store.of_round(QStringLiteral("games"),
-                                QStringLiteral("long_1 || approach_1 || putt_1 || missed_1 || pen_water_1 || "
-                                               "pen_lost_1 || pen_rule_1 || pen_bounds_1")),
-                 QStringLiteral("12368910"));
-        QCOMPARE(
-            store.of_round(QStringLiteral("games2"), QStringLiteral("fairway_1 || sand_1 || recovery_1")),
-            QStringLiteral("457"));
+        QCOMPARE(store.of_round(u"games"_s, u"long_1 || approach_1 || putt_1 || missed_1 || pen_water_1 || "
+                                            u"pen_lost_1 || pen_rule_1 || pen_bounds_1"_s),
+                 u"12368910"_s);
+        QCOMPARE(store.of_round(u"games2"_s, u"fairway_1 || sand_1 || recovery_1"_s), u"457"_s);
     }
 
     void each_digit_moves_on_to_the_next_box()
@@ -53,13 +49,13 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             for (qsizetype place = 0; place + 1 < order.size(); ++place) {
-                user.same(user.focus(), order.at(place), QStringLiteral("focus before the digit"));
+                user.same(user.focus(), order.at(place), u"focus before the digit"_s);
                 user.same(user.selected_text(order.at(place)), user.text(order.at(place)),
-                          QStringLiteral("what a digit replaces"));
-                user.type(QStringLiteral("1"));
-                same_text(user, order.at(place), QStringLiteral("1"));
+                          u"what a digit replaces"_s);
+                user.type(u"1"_s);
+                same_text(user, order.at(place), u"1"_s);
             }
-            user.same(user.focus(), order.back(), QStringLiteral("focus at the end"));
+            user.same(user.focus(), order.back(), u"focus at the end"_s);
             discard(user);
         });
     }
@@ -70,10 +66,10 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             for (const char* digit : {"3", "4"}) {
-                user.click(QStringLiteral("text_p_3"));
-                user.click(QStringLiteral("text_p_3"));
+                user.click(u"text_p_3"_s);
+                user.click(u"text_p_3"_s);
                 user.type(QString::fromLatin1(digit));
-                same_text(user, QStringLiteral("text_p_3"), QString::fromLatin1(digit));
+                same_text(user, u"text_p_3"_s, QString::fromLatin1(digit));
             }
             discard(user);
         });
@@ -101,10 +97,10 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             for (const QString& box : order.first(order.size() - 1)) {
-                user.same(user.focus(), box, QStringLiteral("focus"));
+                user.same(user.focus(), box, u"focus"_s);
                 user.key(Qt::Key_Tab);
             }
-            user.same(user.focus(), QStringLiteral("cmb_courses"), QStringLiteral("focus"));
+            user.same(user.focus(), u"cmb_courses"_s, u"focus"_s);
             discard(user);
         });
     }
@@ -134,9 +130,9 @@ private Q_SLOTS:
             user.click(box);
             const int bells = user.bells();
             user.type(key);
-            user.same(user.bells(), bells + 1, QStringLiteral("bells"));
-            same_text(user, box, QStringLiteral("0"));
-            user.same(user.focus(), box, QStringLiteral("focus"));
+            user.same(user.bells(), bells + 1, u"bells"_s);
+            same_text(user, box, u"0"_s);
+            user.same(user.focus(), box, u"focus"_s);
             discard(user);
         });
     }
@@ -147,12 +143,12 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             const int bells = user.bells();
-            user.paste(QStringLiteral("text_vrd_0"), QStringLiteral("3a"));
-            same_text(user, QStringLiteral("text_vrd_0"), QStringLiteral("0"));
-            user.check(user.bells() > bells, QStringLiteral("the bell rings"));
-            user.paste(QStringLiteral("text_vrd_0"), QStringLiteral("12"));
-            same_text(user, QStringLiteral("text_vrd_0"), QStringLiteral("12"));
-            same_text(user, QStringLiteral("text_vrd_3"), QStringLiteral("12"));
+            user.paste(u"text_vrd_0"_s, u"3a"_s);
+            same_text(user, u"text_vrd_0"_s, u"0"_s);
+            user.check(user.bells() > bells, u"the bell rings"_s);
+            user.paste(u"text_vrd_0"_s, u"12"_s);
+            same_text(user, u"text_vrd_0"_s, u"12"_s);
+            same_text(user, u"text_vrd_3"_s, u"12"_s);
             discard(user);
         });
     }
@@ -162,17 +158,17 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.type(QStringLiteral("412"));
-            user.click(QStringLiteral("text_vrd_0"));
+            user.type(u"412"_s);
+            user.click(u"text_vrd_0"_s);
             const int bells = user.bells();
             user.key(Qt::Key_Backspace);
-            user.same(user.bells(), bells, QStringLiteral("bells"));
-            same_text(user, QStringLiteral("text_vrd_0"), QString());
-            same_text(user, QStringLiteral("text_vrd_3"), QStringLiteral("3"));
+            user.same(user.bells(), bells, u"bells"_s);
+            same_text(user, u"text_vrd_0"_s, QString());
+            same_text(user, u"text_vrd_3"_s, u"3"_s);
             accept(user);
         });
-        QCOMPARE(store.at(QStringLiteral("games"), 3), QStringLiteral("0"));
-        QCOMPARE(store.at(QStringLiteral("games"), 4), QStringLiteral("1"));
+        QCOMPARE(store.at(u"games"_s, 3), u"0"_s);
+        QCOMPARE(store.at(u"games"_s, 4), u"1"_s);
     }
 
     void an_emptied_situation_box_is_stored_as_the_store_converts_it()
@@ -180,29 +176,28 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.click(QStringLiteral("text_p_4"));
+            user.click(u"text_p_4"_s);
             user.key(Qt::Key_Backspace);
             accept(user);
         });
-        QCOMPARE(store.at(QStringLiteral("games2"), 3), QStringLiteral("0"));
+        QCOMPARE(store.at(u"games2"_s, 3), u"0"_s);
     }
 
     void the_number_of_shots_leaves_the_penalties_out()
     {
         const round_store store;
-        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
-                   QStringLiteral("113"), QStringLiteral("5")});
+        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, u"5"_s});
         in_keyed_round([](hand& user) {
-            user.type(QStringLiteral("412"));
-            same_text(user, QStringLiteral("text_vrd_3"), QStringLiteral("7"));
-            same_text(user, QStringLiteral("text_28"), QStringLiteral("7"));
-            user.click(QStringLiteral("text_s_8"));
-            user.type(QStringLiteral("1"));
-            same_text(user, QStringLiteral("text_vrd_3"), QStringLiteral("7"));
-            same_text(user, QStringLiteral("text_36"), QStringLiteral("1"));
-            same_text(user, QStringLiteral("text_28"), QStringLiteral("8"));
-            user.type(QStringLiteral("234"));
-            same_text(user, QStringLiteral("text_36"), QStringLiteral("10"));
+            user.type(u"412"_s);
+            same_text(user, u"text_vrd_3"_s, u"7"_s);
+            same_text(user, u"text_28"_s, u"7"_s);
+            user.click(u"text_s_8"_s);
+            user.type(u"1"_s);
+            same_text(user, u"text_vrd_3"_s, u"7"_s);
+            same_text(user, u"text_36"_s, u"1"_s);
+            same_text(user, u"text_28"_s, u"8"_s);
+            user.type(u"234"_s);
+            same_text(user, u"text_36"_s, u"10"_s);
             discard(user);
         });
     }
@@ -223,7 +218,7 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             with_round(user, [](f_new_round& window) { window.needSave = false; });
             user.click(box);
-            user.type(QStringLiteral("1"));
+            user.type(u"1"_s);
             with_round(user, [](f_new_round& window) { QVERIFY(window.needSave); });
             discard(user);
         });
@@ -234,11 +229,11 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            with_round(user, [](f_new_round& window) { window.text_vrd(1).setText(QStringLiteral("10")); });
-            same_text(user, QStringLiteral("text_vrd_3"), QStringLiteral("10"));
-            user.type(QStringLiteral("12"));
-            same_text(user, QStringLiteral("text_vrd_1"), QStringLiteral("2"));
-            same_text(user, QStringLiteral("text_vrd_3"), QStringLiteral("3"));
+            with_round(user, [](f_new_round& window) { window.text_vrd(1).setText(u"10"_s); });
+            same_text(user, u"text_vrd_3"_s, u"10"_s);
+            user.type(u"12"_s);
+            same_text(user, u"text_vrd_1"_s, u"2"_s);
+            same_text(user, u"text_vrd_3"_s, u"3"_s);
             discard(user);
         });
     }

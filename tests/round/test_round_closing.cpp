@@ -11,14 +11,15 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString tabs = QStringLiteral("TabStrip1");
+const QString tabs = u"TabStrip1"_s;
 
 QString long_shots(const round_store& store, int hole)
 {
-    return store.at(QStringLiteral("games"), 3 * hole);
+    return store.at(u"games"_s, 3 * hole);
 }
 
 bool all_closed()
@@ -38,11 +39,11 @@ public:
 
 void accept_costs(hand& user, const QString& amount)
 {
-    user.click(QStringLiteral("Command2"));
-    user.wait_for_window(QStringLiteral("f_cost"));
-    user.fill(QStringLiteral("cost_0"), amount);
-    user.click(QStringLiteral("OKButton"));
-    user.wait_until_gone(QStringLiteral("f_cost"));
+    user.click(u"Command2"_s);
+    user.wait_for_window(u"f_cost"_s);
+    user.fill(u"cost_0"_s, amount);
+    user.click(u"OKButton"_s);
+    user.wait_until_gone(u"f_cost"_s);
     user.wait_for_window(round_window());
 }
 
@@ -59,16 +60,14 @@ private Q_SLOTS:
         const round_store store(french);
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.same(user.text(QStringLiteral("Command1_4")), QStringLiteral("OK"),
-                      QStringLiteral("button"));
-            user.type(QStringLiteral("4"));
+            user.same(user.text(u"Command1_4"_s), u"OK"_s, u"button"_s);
+            user.type(u"4"_s);
             accept(user);
         });
-        QCOMPARE(long_shots(store, 1), QStringLiteral("4"));
-        QCOMPARE(
-            store.number(QStringLiteral("select count(*) from cost where date = '20240614093000' and "
-                                        "fg + cm + vt + ft + ba + tee + tex + nrt + lg + bs + ln + au = 0")),
-            1);
+        QCOMPARE(long_shots(store, 1), u"4"_s);
+        QCOMPARE(store.number(u"select count(*) from cost where date = '20240614093000' and "
+                              u"fg + cm + vt + ft + ba + tee + tex + nrt + lg + bs + ln + au = 0"_s),
+                 1);
         QCOMPARE(plain(Main_module::round_key_count), 1);
         QCOMPARE(Main_module::round_keys[0], key_of_keyed_round());
     }
@@ -80,15 +79,13 @@ private Q_SLOTS:
         const round_store store(french);
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            user.same(user.text(QStringLiteral("Command1_2")),
-                      french ? QStringLiteral("Annuler") : QStringLiteral("Cancel"),
-                      QStringLiteral("button"));
-            user.type(QStringLiteral("4"));
-            user.click(QStringLiteral("Command1_2"));
+            user.same(user.text(u"Command1_2"_s), french ? u"Annuler"_s : u"Cancel"_s, u"button"_s);
+            user.type(u"4"_s);
+            user.click(u"Command1_2"_s);
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(notice_of_save());
         });
-        QCOMPARE(long_shots(store, 1), QStringLiteral("4"));
+        QCOMPARE(long_shots(store, 1), u"4"_s);
     }
 
     void No_keeps_the_holes_that_were_left_and_drops_the_one_on_screen()
@@ -96,13 +93,13 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.type(QStringLiteral("4"));
+            user.type(u"4"_s);
             user.click_tab(tabs, 2);
-            user.type(QStringLiteral("5"));
+            user.type(u"5"_s);
             discard(user);
         });
-        QCOMPARE(long_shots(store, 1), QStringLiteral("4"));
-        QCOMPARE(long_shots(store, 2), QStringLiteral("null"));
+        QCOMPARE(long_shots(store, 1), u"4"_s);
+        QCOMPARE(long_shots(store, 2), u"null"_s);
     }
 
     void Cancel_at_the_question_stays()
@@ -110,14 +107,14 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.type(QStringLiteral("4"));
-            user.click(QStringLiteral("Command1_2"));
+            user.type(u"4"_s);
+            user.click(u"Command1_2"_s);
             user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
-            user.same(user.text(QStringLiteral("text_vrd_0")), QStringLiteral("4"), QStringLiteral("box"));
+            user.same(user.text(u"text_vrd_0"_s), u"4"_s, u"box"_s);
             discard(user);
         });
-        QCOMPARE(store.number(QStringLiteral("select count(*) from games")), 0);
+        QCOMPARE(store.number(u"select count(*) from games"_s), 0);
     }
 
     void Escape_and_the_title_bar_ask_like_Cancel()
@@ -131,7 +128,7 @@ private Q_SLOTS:
             user.close_window(round_window());
             user.answer(question_on_closing(), QMessageBox::No);
         });
-        QCOMPARE(store.number(QStringLiteral("select count(*) from games")), 0);
+        QCOMPARE(store.number(u"select count(*) from games"_s), 0);
     }
 
     void an_untouched_stored_round_asks_too()
@@ -140,7 +137,7 @@ private Q_SLOTS:
         store.add_two_courses();
         store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [](hand& user) { discard(user); });
-        QCOMPARE(long_shots(store, 1), QStringLiteral("null"));
+        QCOMPARE(long_shots(store, 1), u"null"_s);
         QCOMPARE(plain(Main_module::round_key_count), 0);
     }
 
@@ -150,7 +147,7 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             with_round(user, [](f_new_round& window) { window.needSave = false; });
-            user.click(QStringLiteral("Command1_2"));
+            user.click(u"Command1_2"_s);
         });
         QVERIFY(all_closed());
     }
@@ -163,13 +160,13 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             with_round(user, [](f_new_round& window) { window.text(2).clear(); });
-            user.click(QStringLiteral("Command1_2"));
+            user.click(u"Command1_2"_s);
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(refusal_without_date());
             user.wait_for_window(round_window());
             discard(user);
         });
-        QCOMPARE(store.number(QStringLiteral("select count(*) from games")), 0);
+        QCOMPARE(store.number(u"select count(*) from games"_s), 0);
     }
 
     void every_save_adds_the_key_to_the_list_once_more()
@@ -192,11 +189,11 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             with_round(user, [](f_new_round&) { data_environment().rscost.CancelUpdate(); });
             user.click_tab(tabs, 2);
-            user.same(store.number(QStringLiteral("select count(*) from cost where date = '20240614093000'")),
-                      1, QStringLiteral("rows of costs"));
+            user.same(store.number(u"select count(*) from cost where date = '20240614093000'"_s), 1,
+                      u"rows of costs"_s);
             discard(user);
         });
-        QCOMPARE(store.at(QStringLiteral("cost"), 12), QStringLiteral("0"));
+        QCOMPARE(store.at(u"cost"_s, 12), u"0"_s);
     }
 
     void accepted_costs_outlast_the_round_that_is_given_up_and_are_those_of_the_next_at_its_moment()
@@ -204,26 +201,25 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            accept_costs(user, QStringLiteral("25"));
+            accept_costs(user, u"25"_s);
             discard(user);
         });
-        QCOMPARE(store.number(QStringLiteral("select count(*) from games")), 0);
-        QCOMPARE(store.text(QStringLiteral("select date || ' ' || fg from cost")),
-                 QString(key_of_keyed_round() + u" 25"));
+        QCOMPARE(store.number(u"select count(*) from games"_s), 0);
+        QCOMPARE(store.text(u"select date || ' ' || fg from cost"_s), QString(key_of_keyed_round() + u" 25"));
         in_keyed_round([&](hand& user) {
-            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("0"), QStringLiteral("costs"));
+            user.same(user.text(u"text_7"_s), u"0"_s, u"costs"_s);
             // The save finds the round's costs by its key: the older row.
             user.click_tab(tabs, 2);
-            user.click(QStringLiteral("Command2"));
-            user.wait_for_window(QStringLiteral("f_cost"));
-            user.same(user.text(QStringLiteral("cost_0")), QStringLiteral("25"), QStringLiteral("amount"));
-            user.click(QStringLiteral("OKButton"));
-            user.wait_until_gone(QStringLiteral("f_cost"));
+            user.click(u"Command2"_s);
+            user.wait_for_window(u"f_cost"_s);
+            user.same(user.text(u"cost_0"_s), u"25"_s, u"amount"_s);
+            user.click(u"OKButton"_s);
+            user.wait_until_gone(u"f_cost"_s);
             accept(user);
         });
-        QCOMPARE(store.text(QStringLiteral("select group_concat(fg) from cost")), QStringLiteral("25,0"));
+        QCOMPARE(store.text(u"select group_concat(fg) from cost"_s), u"25,0"_s);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("25"), QStringLiteral("costs"));
+            user.same(user.text(u"text_7"_s), u"25"_s, u"costs"_s);
             discard(user);
         });
     }
@@ -233,8 +229,8 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            user.check(store.frame.locked, QStringLiteral("the menu is locked"));
-            user.click(QStringLiteral("Command1_2"));
+            user.check(store.frame.locked, u"the menu is locked"_s);
+            user.click(u"Command1_2"_s);
             user.answer(question_on_closing(), QMessageBox::No);
         });
         QVERIFY(!store.frame.locked);
@@ -250,7 +246,7 @@ private Q_SLOTS:
             accept(user);
         });
         QVERIFY(all_closed());
-        QCOMPARE(data_environment().rsStat_rounds.Source(), QStringLiteral("select * from stat_rounds"));
+        QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
     }
 
     void the_list_of_rounds_goes_when_a_round_opens()
@@ -261,10 +257,10 @@ private Q_SLOTS:
         a_round_list list;
         play([&] { list.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_games"));
+                 user.wait_for_window(u"f_games"_s);
                  in_stored_round_over(user, key_of_keyed_round());
                  user.wait_for_window(round_window());
-                 user.wait_until_gone(QStringLiteral("f_games"));
+                 user.wait_until_gone(u"f_games"_s);
                  discard(user);
              });
         QVERIFY(!list.is_loaded());
@@ -276,12 +272,12 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const round_store store(french);
         store.add_two_courses();
-        store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), 5);
+        store.add_partner(u"Gagnon"_s, u"Luc"_s, 5);
         store.add_round(key_of_keyed_round());
-        store.store.write(QStringLiteral("delete from games2"));
+        store.store.write(u"delete from games2"_s);
         open_round_that_refuses(key_of_keyed_round(), [](hand& user) {
-            user.answer({QStringLiteral("Error : games2 record not found"), QMessageBox::NoIcon,
-                         QStringLiteral("Verdane"), QMessageBox::Ok});
+            user.answer(
+                {u"Error : games2 record not found"_s, QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok});
         });
         QVERIFY(all_closed());
         QVERIFY(!store.frame.locked);
@@ -299,12 +295,12 @@ private Q_SLOTS:
                 QVERIFY(!scrolls(window));
                 QCOMPARE(current_form.data(), static_cast<Form*>(&window));
             });
-            user.click_tab(QStringLiteral("TabStrip2"), 2);
+            user.click_tab(u"TabStrip2"_s, 2);
             with_round(user, [](f_new_round& window) {
                 QCOMPARE(window.size(), QSize(1024, 668));
                 QVERIFY(!scrolls(window));
             });
-            user.click_tab(QStringLiteral("TabStrip2"), 1);
+            user.click_tab(u"TabStrip2"_s, 1);
             discard(user);
         });
     }

@@ -14,47 +14,45 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString old_figures = QStringLiteral("9 9 9 9 9 9 9 9 9 9 9");
-const QString new_figures = QStringLiteral("1 2 3 4 5 6 7 8 1 2 3");
-const QString new_keys = QStringLiteral("12345678123");
+const QString old_figures = u"9 9 9 9 9 9 9 9 9 9 9"_s;
+const QString new_figures = u"1 2 3 4 5 6 7 8 1 2 3"_s;
+const QString new_keys = u"12345678123"_s;
 
 /// How many rows of the three tables have no counterpart with their key in one of the others.
 int rows_without_counterpart(const round_store& store)
 {
-    return store.number(
-        QStringLiteral("with rows as (select 1 as t, date from games union all select 2, date from games2 "
-                       "union all select 3, date from cost) "
-                       "select coalesce(sum(n), 0) from (select count(*) as n from rows group by date "
-                       "having count(*) <> 3 or count(distinct t) <> 3)"));
+    return store.number(u"with rows as (select 1 as t, date from games union all select 2, date from games2 "
+                        u"union all select 3, date from cost) "
+                        u"select coalesce(sum(n), 0) from (select count(*) as n from rows group by date "
+                        u"having count(*) <> 3 or count(distinct t) <> 3)"_s);
 }
 
 QString state_of(const round_store& store, int hole)
 {
-    return QStringLiteral("alone %1; rounds %2; figures %3; putts %4")
-        .arg(rows_without_counterpart(store))
-        .arg(store.number(QStringLiteral("select count(*) from games")))
+    return u"alone %1; rounds %2; figures %3; putts %4"_s.arg(rows_without_counterpart(store))
+        .arg(store.number(u"select count(*) from games"_s))
         .arg(stored_figures(store, hole), stored_putts(store, hole));
 }
 
 QString state(int rounds, const QString& figures, const QString& putts)
 {
-    return QStringLiteral("alone 0; rounds %1; figures %2; putts %3").arg(rounds).arg(figures, putts);
+    return u"alone 0; rounds %1; figures %2; putts %3"_s.arg(rounds).arg(figures, putts);
 }
 
 void put_old_figures(const round_store& store)
 {
-    store.store.write(
-        {QStringLiteral("update games set long_1 = 9, approach_1 = 9, putt_1 = 9, missed_1 = 9, "
-                        "pen_water_1 = 9, pen_lost_1 = 9, pen_rule_1 = 9, pen_bounds_1 = 9"),
-         QStringLiteral("update games2 set fairway_1 = 9, sand_1 = 9, recovery_1 = 9, "
-                        "putt_len_1_1 = 9, putt_len_1_2 = 9, putt_len_1_3 = 9")});
+    store.store.write({u"update games set long_1 = 9, approach_1 = 9, putt_1 = 9, missed_1 = 9, "
+                       u"pen_water_1 = 9, pen_lost_1 = 9, pen_rule_1 = 9, pen_bounds_1 = 9"_s,
+                       u"update games2 set fairway_1 = 9, sand_1 = 9, recovery_1 = 9, "
+                       u"putt_len_1_1 = 9, putt_len_1_2 = 9, putt_len_1_3 = 9"_s});
 }
 
-const QString no_putts = QStringLiteral("0 0 0 0 0 0");
-const QString old_putts = QStringLiteral("9 9 9 0 0 0");
+const QString no_putts = u"0 0 0 0 0 0"_s;
+const QString old_putts = u"9 9 9 0 0 0"_s;
 
 /// The connection belongs to the window thread.
 std::unique_ptr<commit_watch> watch_from_now(hand& user, const round_store& store)
@@ -85,7 +83,7 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             user.type(new_keys);
             user.click_tab(hole_tabs, 2);
-            user.same(static_cast<int>(watch.answers().size()), 1, QStringLiteral("commits"));
+            user.same(static_cast<int>(watch.answers().size()), 1, u"commits"_s);
             discard(user);
         });
         compare_all(watch, state(1, new_figures, no_putts));
@@ -100,7 +98,7 @@ private Q_SLOTS:
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             user.type(new_keys);
             user.click_tab(hole_tabs, 2);
-            user.same(static_cast<int>(watch.answers().size()), 1, QStringLiteral("commits"));
+            user.same(static_cast<int>(watch.answers().size()), 1, u"commits"_s);
             discard(user);
         });
         compare_all(watch, state(1, new_figures, old_putts));
@@ -142,13 +140,13 @@ private Q_SLOTS:
         round.store.add_round(key_of_keyed_round());
         std::size_t commits = 0;
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            round.store.store.write(QStringLiteral("delete from cost"));
+            round.store.store.write(u"delete from cost"_s);
             const auto watch = watch_from_now(user, round.store);
             user.look([] { data_environment().rscost.Requery(); });
             user.type(new_keys);
             user.click_tab(hole_tabs, 2);
             commits = watch->answers().size();
-            user.same(watch->answers().back(), state(1, new_figures, no_putts), QStringLiteral("committed"));
+            user.same(watch->answers().back(), state(1, new_figures, no_putts), u"committed"_s);
             discard(user);
         });
         QCOMPARE(commits, std::size_t(1));
@@ -165,7 +163,7 @@ private Q_SLOTS:
             const auto watch = watch_from_now(user, round.store);
             const other_program other(data_environment().connection.path());
             user.click_tab(hole_tabs, 3);
-            user.same(static_cast<int>(watch->answers().size()), 0, QStringLiteral("commits"));
+            user.same(static_cast<int>(watch->answers().size()), 0, u"commits"_s);
             discard(user);
         });
     }
@@ -176,20 +174,18 @@ private Q_SLOTS:
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            round.store.store.write(QStringLiteral("create trigger refuse before update on games begin "
-                                                   "select raise(abort, 'refused by the test'); end"));
+            round.store.store.write(u"create trigger refuse before update on games begin "
+                                    u"select raise(abort, 'refused by the test'); end"_s);
             user.type(new_keys);
             with_round(user, [&](f_new_round& window) {
                 const auto failure = failure_of([&] { f_new_round_func::save_round(window, true); });
                 QVERIFY(failure == failure_kind::store_other);
             });
-            round.store.store.write(QStringLiteral("drop trigger refuse"));
+            round.store.store.write(u"drop trigger refuse"_s);
             discard(user);
         });
-        QCOMPARE(round.store.of_round(QStringLiteral("games2"), QStringLiteral("fairway_1")),
-                 QStringLiteral("4"));
-        QCOMPARE(round.store.of_round(QStringLiteral("games"), QStringLiteral("long_1")),
-                 QStringLiteral("null"));
+        QCOMPARE(round.store.of_round(u"games2"_s, u"fairway_1"_s), u"4"_s);
+        QCOMPARE(round.store.of_round(u"games"_s, u"long_1"_s), u"null"_s);
     }
 
 private:

@@ -6,11 +6,12 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString total_of_costs = QStringLiteral("text_7");
-const QString stored_amounts = QStringLiteral("select fg || ' ' || cm || ' ' || au from cost");
+const QString total_of_costs = u"text_7"_s;
+const QString stored_amounts = u"select fg || ' ' || cm || ' ' || au from cost"_s;
 
 QString cost_window()
 {
@@ -19,7 +20,7 @@ QString cost_window()
 
 void open_costs(hand& user)
 {
-    user.click(QStringLiteral("Command2"));
+    user.click(u"Command2"_s);
     user.wait_for_window(cost_window());
 }
 
@@ -33,7 +34,7 @@ void leave_costs_by_the_close_box(hand& user)
 void type_green_fees(hand& user, const QString& amount)
 {
     open_costs(user);
-    user.fill(QStringLiteral("cost_0"), amount);
+    user.fill(u"cost_0"_s, amount);
     leave_costs_by_the_close_box(user);
 }
 
@@ -50,22 +51,22 @@ private Q_SLOTS:
         const round_store store(french);
         store.add_two_courses();
         store.add_round(key_of_keyed_round());
-        store.store.write(QStringLiteral("update cost set fg = 40, cm = 5, au = 7"));
+        store.store.write(u"update cost set fg = 40, cm = 5, au = 7"_s);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            type_green_fees(user, QStringLiteral("100"));
-            user.same(user.text(total_of_costs), QStringLiteral("112"), QStringLiteral("typed total"));
+            type_green_fees(user, u"100"_s);
+            user.same(user.text(total_of_costs), u"112"_s, u"typed total"_s);
             open_costs(user);
-            user.same(user.text(QStringLiteral("cost_0")), QStringLiteral("40"), QStringLiteral("amount"));
-            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("52"), QStringLiteral("total"));
+            user.same(user.text(u"cost_0"_s), u"40"_s, u"amount"_s);
+            user.same(user.text(u"Text1"_s), u"52"_s, u"total"_s);
             leave_costs_by_the_close_box(user);
-            user.same(user.text(total_of_costs), QStringLiteral("52"), QStringLiteral("stored total"));
-            type_green_fees(user, QStringLiteral("9"));
-            user.same(user.text(total_of_costs), QStringLiteral("21"), QStringLiteral("typed total"));
+            user.same(user.text(total_of_costs), u"52"_s, u"stored total"_s);
+            type_green_fees(user, u"9"_s);
+            user.same(user.text(total_of_costs), u"21"_s, u"typed total"_s);
             accept(user);
         });
-        QCOMPARE(store.text(stored_amounts), QStringLiteral("40 5 7"));
+        QCOMPARE(store.text(stored_amounts), u"40 5 7"_s);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(user.text(total_of_costs), QStringLiteral("52"), QStringLiteral("reopened"));
+            user.same(user.text(total_of_costs), u"52"_s, u"reopened"_s);
             discard(user);
         });
     }
@@ -75,11 +76,11 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            type_green_fees(user, QStringLiteral("25"));
-            user.same(user.text(total_of_costs), QStringLiteral("25"), QStringLiteral("typed total"));
+            type_green_fees(user, u"25"_s);
+            user.same(user.text(total_of_costs), u"25"_s, u"typed total"_s);
             accept(user);
         });
-        QCOMPARE(store.text(stored_amounts), QStringLiteral("0 0 0"));
+        QCOMPARE(store.text(stored_amounts), u"0 0 0"_s);
     }
 };
 

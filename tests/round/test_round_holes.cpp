@@ -13,28 +13,29 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 namespace at = round_columns;
 
-const QString tabs = QStringLiteral("TabStrip1");
-const QString holes = QStringLiteral("cmb_holes");
+const QString tabs = u"TabStrip1"_s;
+const QString holes = u"cmb_holes"_s;
 
 void tell_hole(hand& user, const QString& figures)
 {
-    user.click(QStringLiteral("text_vrd_0"));
+    user.click(u"text_vrd_0"_s);
     user.type(figures);
 }
 
 void stands_on(hand& user, int hole)
 {
     const QString number = QString::number(hole);
-    user.same(user.selected(holes), hole - 1, QStringLiteral("entry of the holes"));
-    user.same(user.selected(tabs), hole - 1, QStringLiteral("tab"));
-    user.same(user.text(QStringLiteral("Label_4")), number, QStringLiteral("number"));
-    user.same(user.text(QStringLiteral("text_39")), QString::number(100 + hole), QStringLiteral("length"));
-    user.same(user.text(QStringLiteral("text_0")), QString::number(19 - hole), QStringLiteral("index"));
+    user.same(user.selected(holes), hole - 1, u"entry of the holes"_s);
+    user.same(user.selected(tabs), hole - 1, u"tab"_s);
+    user.same(user.text(u"Label_4"_s), number, u"number"_s);
+    user.same(user.text(u"text_39"_s), QString::number(100 + hole), u"length"_s);
+    user.same(user.text(u"text_0"_s), QString::number(19 - hole), u"index"_s);
     with_round(user, [&](f_new_round& window) {
         QCOMPARE(window.text(40).text(), number);
         QCOMPARE(plain(window.last_hole), hole - 1);
@@ -69,9 +70,9 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             stands_on(user, 1);
-            user.same(boxes(user), QStringLiteral("0 0 0 0 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
-            user.same(user.text(QStringLiteral("text_38")), QStringLiteral("4"), QStringLiteral("par"));
-            QCOMPARE(store.number(QStringLiteral("select count(*) from games")), 0);
+            user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
+            user.same(user.text(u"text_38"_s), u"4"_s, u"par"_s);
+            QCOMPARE(store.number(u"select count(*) from games"_s), 0);
             discard(user);
         });
     }
@@ -89,14 +90,14 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("12345678901"));
+            user.type(u"12345678901"_s);
             go_on(user, way);
             stands_on(user, 2);
-            user.same(boxes(user), QStringLiteral("0 0 0 0 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
-            user.same(store.at(QStringLiteral("games"), at::long_h(1)), QStringLiteral("1"), way);
-            user.same(store.at(QStringLiteral("games"), at::pen_bounds_h(1)), QStringLiteral("1"), way);
+            user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
+            user.same(store.at(u"games"_s, at::long_h(1)), u"1"_s, way);
+            user.same(store.at(u"games"_s, at::pen_bounds_h(1)), u"1"_s, way);
             user.click_tab(tabs, 1);
-            user.same(boxes(user), QStringLiteral("1 2 3 4 5 6 7 8 9 0 1"), QStringLiteral("boxes"));
+            user.same(boxes(user), u"1 2 3 4 5 6 7 8 9 0 1"_s, u"boxes"_s);
             discard(user);
         });
     }
@@ -115,24 +116,24 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             user.click_tab(tabs, hole);
-            tell_hole(user, QStringLiteral("12345678921"));
+            tell_hole(user, u"12345678921"_s);
             accept(user);
         });
-        const auto games = [&](int ordinal) { return store.at(QStringLiteral("games"), ordinal); };
-        const auto games2 = [&](int ordinal) { return store.at(QStringLiteral("games2"), ordinal); };
-        QCOMPARE(games(3 * hole), QStringLiteral("1"));
-        QCOMPARE(games(3 * hole + 1), QStringLiteral("2"));
-        QCOMPARE(games(3 * hole + 2), QStringLiteral("3"));
-        QCOMPARE(games2(hole + 74), QStringLiteral("4"));
-        QCOMPARE(games2(hole + 2), QStringLiteral("5"));
-        QCOMPARE(games(hole + 152), QStringLiteral("6"));
-        QCOMPARE(games2(hole + 20), QStringLiteral("7"));
-        QCOMPARE(games(4 * (hole - 1) + 64), QStringLiteral("8"));
-        QCOMPARE(games(4 * (hole - 1) + 66), QStringLiteral("9"));
-        QCOMPARE(games(4 * (hole - 1) + 63), QStringLiteral("2"));
-        QCOMPARE(games(4 * (hole - 1) + 65), QStringLiteral("1"));
+        const auto games = [&](int ordinal) { return store.at(u"games"_s, ordinal); };
+        const auto games2 = [&](int ordinal) { return store.at(u"games2"_s, ordinal); };
+        QCOMPARE(games(3 * hole), u"1"_s);
+        QCOMPARE(games(3 * hole + 1), u"2"_s);
+        QCOMPARE(games(3 * hole + 2), u"3"_s);
+        QCOMPARE(games2(hole + 74), u"4"_s);
+        QCOMPARE(games2(hole + 2), u"5"_s);
+        QCOMPARE(games(hole + 152), u"6"_s);
+        QCOMPARE(games2(hole + 20), u"7"_s);
+        QCOMPARE(games(4 * (hole - 1) + 64), u"8"_s);
+        QCOMPARE(games(4 * (hole - 1) + 66), u"9"_s);
+        QCOMPARE(games(4 * (hole - 1) + 63), u"2"_s);
+        QCOMPARE(games(4 * (hole - 1) + 65), u"1"_s);
         const int other = hole == 5 ? 6 : 5;
-        QCOMPARE(games(3 * other), QStringLiteral("null"));
+        QCOMPARE(games(3 * other), u"null"_s);
     }
 
     void a_click_on_the_same_tab_stores_what_was_typed()
@@ -140,14 +141,12 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("53"));
+            user.type(u"53"_s);
             user.click_tab(tabs, 1);
-            user.same(store.at(QStringLiteral("games"), 3), QStringLiteral("5"),
-                      QStringLiteral("long shots"));
-            user.same(boxes(user).left(5), QStringLiteral("5 3 0"), QStringLiteral("boxes"));
-            user.same(user.focus(), QStringLiteral("text_vrd_0"), QStringLiteral("focus"));
-            user.same(user.selected_text(QStringLiteral("text_vrd_0")), QStringLiteral("5"),
-                      QStringLiteral("what a digit replaces"));
+            user.same(store.at(u"games"_s, 3), u"5"_s, u"long shots"_s);
+            user.same(boxes(user).left(5), u"5 3 0"_s, u"boxes"_s);
+            user.same(user.focus(), u"text_vrd_0"_s, u"focus"_s);
+            user.same(user.selected_text(u"text_vrd_0"_s), u"5"_s, u"what a digit replaces"_s);
             discard(user);
         });
     }
@@ -157,11 +156,11 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("11"));
+            user.type(u"11"_s);
             user.click_tab(tabs, 7);
-            user.same(user.focus(), QStringLiteral("text_vrd_0"), QStringLiteral("focus"));
-            user.type(QStringLiteral("3"));
-            user.same(user.text(QStringLiteral("text_vrd_0")), QStringLiteral("3"), QStringLiteral("box"));
+            user.same(user.focus(), u"text_vrd_0"_s, u"focus"_s);
+            user.type(u"3"_s);
+            user.same(user.text(u"text_vrd_0"_s), u"3"_s, u"box"_s);
             discard(user);
         });
     }
@@ -173,25 +172,23 @@ private Q_SLOTS:
         const round_store store(true);
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.choose(QStringLiteral("cmb_courses"), 1);
-            user.click(QStringLiteral("text_vrd_0"));
-            user.type(QStringLiteral("12345678901"));
+            user.choose(u"cmb_courses"_s, 1);
+            user.click(u"text_vrd_0"_s);
+            user.type(u"12345678901"_s);
             user.click_tab(tabs, 18);
-            user.type(QStringLiteral("21110000001"));
+            user.type(u"21110000001"_s);
             accept(user);
         });
         is_french = french;
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(boxes(user), QStringLiteral("1 2 3 4 5 6 7 8 9 0 1"), QStringLiteral("hole 1"));
-            user.same(user.text(QStringLiteral("text_2")), QStringLiteral("2024-06-14"),
-                      QStringLiteral("date"));
-            user.same(user.text(QStringLiteral("text_3")), QStringLiteral("09:30:00"),
-                      QStringLiteral("time"));
-            user.same(user.selected(QStringLiteral("cmb_courses")), 1, QStringLiteral("course"));
-            user.same(user.text(QStringLiteral("text_38")), QStringLiteral("5"), QStringLiteral("par"));
-            user.check(!user.enabled(QStringLiteral("b_getdat")), QStringLiteral("no other date"));
+            user.same(boxes(user), u"1 2 3 4 5 6 7 8 9 0 1"_s, u"hole 1"_s);
+            user.same(user.text(u"text_2"_s), u"2024-06-14"_s, u"date"_s);
+            user.same(user.text(u"text_3"_s), u"09:30:00"_s, u"time"_s);
+            user.same(user.selected(u"cmb_courses"_s), 1, u"course"_s);
+            user.same(user.text(u"text_38"_s), u"5"_s, u"par"_s);
+            user.check(!user.enabled(u"b_getdat"_s), u"no other date"_s);
             user.click_tab(tabs, 18);
-            user.same(boxes(user), QStringLiteral("2 1 1 1 0 0 0 0 0 0 1"), QStringLiteral("hole 18"));
+            user.same(boxes(user), u"2 1 1 1 0 0 0 0 0 0 1"_s, u"hole 18"_s);
             discard(user);
         });
     }
@@ -202,9 +199,9 @@ private Q_SLOTS:
         store.add_two_courses();
         store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(boxes(user), QStringLiteral("0 0 0 0 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
-            user.same(user.text(QStringLiteral("text_vrd_3")), QStringLiteral("0"), QStringLiteral("shots"));
-            user.same(user.text(QStringLiteral("text_36")), QStringLiteral("0"), QStringLiteral("penalties"));
+            user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
+            user.same(user.text(u"text_vrd_3"_s), u"0"_s, u"shots"_s);
+            user.same(user.text(u"text_36"_s), u"0"_s, u"penalties"_s);
             discard(user);
         });
     }
@@ -231,10 +228,9 @@ private Q_SLOTS:
                 QVERIFY(target->focusPolicy() != Qt::WheelFocus);
             });
             stands_on(user, 1);
-            user.same(user.selected(QStringLiteral("cmb_courses")), 0, QStringLiteral("course"));
-            user.same(user.selected(QStringLiteral("conditions")), 0, QStringLiteral("weather"));
-            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("  "),
-                      QStringLiteral("temperature"));
+            user.same(user.selected(u"cmb_courses"_s), 0, u"course"_s);
+            user.same(user.selected(u"conditions"_s), 0, u"weather"_s);
+            user.same(user.text(u"Text1"_s), u"  "_s, u"temperature"_s);
             discard(user);
         });
     }
@@ -244,18 +240,17 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("112"));
-            user.same(user.text(QStringLiteral("text_32")), QStringLiteral("1"), QStringLiteral("par 4"));
-            user.choose(QStringLiteral("cmb_courses"), 1);
-            user.same(user.text(QStringLiteral("text_38")), QStringLiteral("5"), QStringLiteral("par"));
-            user.same(user.text(QStringLiteral("text_32")), QStringLiteral(" "), QStringLiteral("par 4"));
-            user.same(user.text(QStringLiteral("text_24")), QStringLiteral("1"), QStringLiteral("birdie"));
-            user.same(boxes(user).left(5), QStringLiteral("1 1 2"), QStringLiteral("boxes"));
+            user.type(u"112"_s);
+            user.same(user.text(u"text_32"_s), u"1"_s, u"par 4"_s);
+            user.choose(u"cmb_courses"_s, 1);
+            user.same(user.text(u"text_38"_s), u"5"_s, u"par"_s);
+            user.same(user.text(u"text_32"_s), u" "_s, u"par 4"_s);
+            user.same(user.text(u"text_24"_s), u"1"_s, u"birdie"_s);
+            user.same(boxes(user).left(5), u"1 1 2"_s, u"boxes"_s);
             accept(user);
         });
-        QCOMPARE(store.of_round(QStringLiteral("games"), QStringLiteral("CODEF || field")),
-                 QStringLiteral("BETA-6Beta"));
-        QCOMPARE(store.of_round(QStringLiteral("games2"), QStringLiteral("FC")), QStringLiteral("BETA-6"));
+        QCOMPARE(store.of_round(u"games"_s, u"CODEF || field"_s), u"BETA-6Beta"_s);
+        QCOMPARE(store.of_round(u"games2"_s, u"FC"_s), u"BETA-6"_s);
     }
 };
 

@@ -10,6 +10,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 /// Limits that end the program: each is reached in a child process, which prints what it was told.
 namespace {
@@ -17,19 +18,19 @@ namespace {
 void fill_keys(int count)
 {
     for (int i = 0; i < count; ++i)
-        Main_module::append_round_key(QStringLiteral("19990101%1").arg(i, 6, 10, QChar(u'0')));
+        Main_module::append_round_key(u"19990101%1"_s.arg(i, 6, 10, QChar(u'0')));
 }
 
 /// Prints what the failure says and what the store then holds, and answers.
 void report_failure(hand& user, const round_store& store)
 {
-    user.wait_for_window(QStringLiteral("failure_box"));
+    user.wait_for_window(u"failure_box"_s);
     user.look([&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         std::printf(
             "%s|holes %s\n", qUtf8Printable(box->informativeText()),
-            qUtf8Printable(store.text(QStringLiteral(
-                "select ifnull(group_concat(ifnull(long_1, '-') || ifnull(long_2, '-')), '') from games"))));
+            qUtf8Printable(store.text(
+                u"select ifnull(group_concat(ifnull(long_1, '-') || ifnull(long_2, '-')), '') from games"_s)));
         std::fflush(stdout);
     });
     user.key(Qt::Key_Return);
@@ -40,10 +41,10 @@ void overfill_by_saving(const round_store& store)
 {
     fill_keys(365);
     in_keyed_round([&](hand& user) {
-        user.type(QStringLiteral("4"));
-        user.click_tab(QStringLiteral("TabStrip1"), 2);
-        user.type(QStringLiteral("5"));
-        user.click_tab(QStringLiteral("TabStrip1"), 3);
+        user.type(u"4"_s);
+        user.click_tab(u"TabStrip1"_s, 2);
+        user.type(u"5"_s);
+        user.click_tab(u"TabStrip1"_s, 3);
         report_failure(user, store);
     });
 }
@@ -52,7 +53,7 @@ void look_up_in_a_full_list(const round_store& store)
 {
     fill_keys(366);
     in_new_round([&](hand& user) {
-        fill_tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("00"));
+        fill_tee_off(user, u"9"_s, u"30"_s, u"00"_s);
         report_failure(user, store);
     });
 }
@@ -60,14 +61,14 @@ void look_up_in_a_full_list(const round_store& store)
 void total_costs_beyond_16_bits(const round_store& store)
 {
     store.add_round(key_of_keyed_round());
-    store.store.write(QStringLiteral("update cost set fg = 30000, cm = 2768"));
+    store.store.write(u"update cost set fg = 30000, cm = 2768"_s);
     open_round_that_refuses(key_of_keyed_round(), [&](hand& user) { report_failure(user, store); });
 }
 
 void type_strokes_beyond_16_bits(const round_store& store)
 {
     in_keyed_round([&](hand& user) {
-        user.paste(QStringLiteral("text_vrd_0"), QStringLiteral("40000"));
+        user.paste(u"text_vrd_0"_s, u"40000"_s);
         report_failure(user, store);
     });
 }
@@ -75,8 +76,8 @@ void type_strokes_beyond_16_bits(const round_store& store)
 void turn_more_to_feet_than_16_bits_hold(const round_store& store)
 {
     store.add_round(key_of_keyed_round());
-    add_told_shot(store, 1, 1, 9, 11000, QStringLiteral("Verges"), 2);
-    add_told_shot(store, 1, 2, 14, 6, QStringLiteral("Pieds"), 3);
+    add_told_shot(store, 1, 1, 9, 11000, u"Verges"_s, 2);
+    add_told_shot(store, 1, 2, 14, 6, u"Pieds"_s, 3);
     in_stored_round(key_of_keyed_round(), [&](hand& user) {
         go_to_detailed_page(user);
         user.click(ok_button);
@@ -130,7 +131,7 @@ private Q_SLOTS:
         QProcess child;
         child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         child.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("--limit"), QString::fromLatin1(QTest::currentDataTag())});
+                    {u"--limit"_s, QString::fromLatin1(QTest::currentDataTag())});
         QVERIFY(child.waitForFinished(120000));
         const QString said = QString::fromUtf8(child.readAllStandardOutput());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);

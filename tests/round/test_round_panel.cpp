@@ -6,6 +6,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,7 +18,7 @@ QString panel(hand& user)
         for (int box = 12; box <= 35; ++box) {
             const QString text = window.text(box).text();
             if (text != u" ")
-                cells << QStringLiteral("%1=%2").arg(box).arg(text);
+                cells << u"%1=%2"_s.arg(box).arg(text);
         }
     });
     return cells.join(u' ');
@@ -26,10 +27,10 @@ QString panel(hand& user)
 void totals_are(hand& user, const QString& brut, const QString& hand_icap, const QString& net,
                 const QString& plus)
 {
-    user.same(user.text(QStringLiteral("l_brut")), brut, QStringLiteral("gross"));
-    user.same(user.text(QStringLiteral("l_hand")), hand_icap, QStringLiteral("handicap"));
-    user.same(user.text(QStringLiteral("l_net")), net, QStringLiteral("net"));
-    user.same(user.text(QStringLiteral("l_plus")), plus, QStringLiteral("over par"));
+    user.same(user.text(u"l_brut"_s), brut, u"gross"_s);
+    user.same(user.text(u"l_hand"_s), hand_icap, u"handicap"_s);
+    user.same(user.text(u"l_net"_s), net, u"net"_s);
+    user.same(user.text(u"l_plus"_s), plus, u"over par"_s);
 }
 
 /// A stored round whose first 17 holes have so many long shots each.
@@ -37,7 +38,7 @@ void add_round_of(const round_store& store, int strokes)
 {
     store.add_round(key_of_keyed_round());
     for (int hole = 1; hole <= 17; ++hole)
-        store.store.write(QStringLiteral("update games set long_%1 = %2").arg(hole).arg(strokes));
+        store.store.write(u"update games set long_%1 = %2"_s.arg(hole).arg(strokes));
 }
 
 }  // namespace
@@ -133,16 +134,15 @@ private Q_SLOTS:
         QFETCH(QString, water);
         QFETCH(QString, cells);
         const round_store store;
-        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
-                   QStringLiteral("113"), par});
+        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, par});
         in_keyed_round([&](hand& user) {
             user.type(strokes);
-            user.click(QStringLiteral("text_s_8"));
+            user.click(u"text_s_8"_s);
             user.type(water);
-            user.same(panel(user), cells, QStringLiteral("panel while typing"));
-            user.click_tab(QStringLiteral("TabStrip1"), 2);
-            user.click_tab(QStringLiteral("TabStrip1"), 1);
-            user.same(panel(user), cells, QStringLiteral("panel from the rows"));
+            user.same(panel(user), cells, u"panel while typing"_s);
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.click_tab(u"TabStrip1"_s, 1);
+            user.same(panel(user), cells, u"panel from the rows"_s);
             discard(user);
         });
     }
@@ -153,12 +153,10 @@ private Q_SLOTS:
         store.add_two_courses();
         add_round_of(store, 5);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.click_tab(QStringLiteral("TabStrip1"), 18);
-            totals_are(user, QStringLiteral("85"), QStringLiteral("12.60"), QStringLiteral("73"),
-                       QStringLiteral("13"));
-            user.type(QStringLiteral("5"));
-            totals_are(user, QStringLiteral("90"), QStringLiteral("16.95"), QStringLiteral("74"),
-                       QStringLiteral("18"));
+            user.click_tab(u"TabStrip1"_s, 18);
+            totals_are(user, u"85"_s, u"12.60"_s, u"73"_s, u"13"_s);
+            user.type(u"5"_s);
+            totals_are(user, u"90"_s, u"16.95"_s, u"74"_s, u"18"_s);
             discard(user);
         });
     }
@@ -169,14 +167,14 @@ private Q_SLOTS:
         store.add_two_courses();
         add_round_of(store, 5);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.choose(QStringLiteral("cmb_holes"), 17);
-            user.click(QStringLiteral("text_s_9"));
-            user.type(QStringLiteral("2"));
-            user.same(user.text(QStringLiteral("text_36")), QStringLiteral("2"), QStringLiteral("penalties"));
-            user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("85"), QStringLiteral("gross"));
-            user.click(QStringLiteral("text_vrd_2"));
-            user.type(QStringLiteral("1"));
-            user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("88"), QStringLiteral("gross"));
+            user.choose(u"cmb_holes"_s, 17);
+            user.click(u"text_s_9"_s);
+            user.type(u"2"_s);
+            user.same(user.text(u"text_36"_s), u"2"_s, u"penalties"_s);
+            user.same(user.text(u"l_brut"_s), u"85"_s, u"gross"_s);
+            user.click(u"text_vrd_2"_s);
+            user.type(u"1"_s);
+            user.same(user.text(u"l_brut"_s), u"88"_s, u"gross"_s);
             discard(user);
         });
     }
@@ -184,14 +182,12 @@ private Q_SLOTS:
     void a_round_under_the_rating_adds_to_the_net()
     {
         const round_store store;
-        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
-                   QStringLiteral("113"), QStringLiteral("4")});
+        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, u"4"_s});
         add_round_of(store, 3);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.click_tab(QStringLiteral("TabStrip1"), 18);
-            user.type(QStringLiteral("9"));
-            totals_are(user, QStringLiteral("60"), QStringLiteral("-10"), QStringLiteral("70"),
-                       QStringLiteral("-12"));
+            user.click_tab(u"TabStrip1"_s, 18);
+            user.type(u"9"_s);
+            totals_are(user, u"60"_s, u"-10"_s, u"70"_s, u"-12"_s);
             discard(user);
         });
     }
@@ -199,13 +195,11 @@ private Q_SLOTS:
     void without_a_slope_there_is_no_differential()
     {
         const round_store store;
-        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
-                   QStringLiteral("0"), QStringLiteral("4")});
+        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"0"_s, u"4"_s});
         add_round_of(store, 5);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.click_tab(QStringLiteral("TabStrip1"), 18);
-            totals_are(user, QStringLiteral("85"), QStringLiteral("0"), QStringLiteral("85"),
-                       QStringLiteral("13"));
+            user.click_tab(u"TabStrip1"_s, 18);
+            totals_are(user, u"85"_s, u"0"_s, u"85"_s, u"13"_s);
             discard(user);
         });
     }
@@ -213,19 +207,16 @@ private Q_SLOTS:
     void on_a_course_of_par_0_every_stroke_is_over_par()
     {
         const round_store store;
-        store.add({QStringLiteral("ALPHA-0"), QStringLiteral("Alpha"), QStringLiteral("70"),
-                   QStringLiteral("113"), QStringLiteral("0")});
+        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, u"0"_s});
         add_round_of(store, 5);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(user.text(QStringLiteral("text_38")), QStringLiteral("0"), QStringLiteral("par"));
-            user.click_tab(QStringLiteral("TabStrip1"), 18);
-            user.type(QStringLiteral("113"));
-            totals_are(user, QStringLiteral("90"), QStringLiteral("20"), QStringLiteral("70"),
-                       QStringLiteral("90"));
+            user.same(user.text(u"text_38"_s), u"0"_s, u"par"_s);
+            user.click_tab(u"TabStrip1"_s, 18);
+            user.type(u"113"_s);
+            totals_are(user, u"90"_s, u"20"_s, u"70"_s, u"90"_s);
             accept(user);
         });
-        QCOMPARE(store.text(QStringLiteral("select long_18 || approach_18 || putt_18 from games")),
-                 QStringLiteral("113"));
+        QCOMPARE(store.text(u"select long_18 || approach_18 || putt_18 from games"_s), u"113"_s);
     }
 
     void the_totals_are_right_when_the_last_hole_looks_like_the_one_before()
@@ -234,12 +225,12 @@ private Q_SLOTS:
         store.add_two_courses();
         store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.click_tab(QStringLiteral("TabStrip1"), 17);
-            user.type(QStringLiteral("112"));
-            user.click(QStringLiteral("text_s_8"));
-            user.type(QStringLiteral("1"));
-            user.choose(QStringLiteral("cmb_holes"), 17);
-            user.same(user.text(QStringLiteral("l_brut")), QStringLiteral("5"), QStringLiteral("gross"));
+            user.click_tab(u"TabStrip1"_s, 17);
+            user.type(u"112"_s);
+            user.click(u"text_s_8"_s);
+            user.type(u"1"_s);
+            user.choose(u"cmb_holes"_s, 17);
+            user.same(user.text(u"l_brut"_s), u"5"_s, u"gross"_s);
             discard(user);
         });
     }
@@ -250,17 +241,16 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             const auto in_sight = [&](bool expected) {
-                user.same(user.visible(QStringLiteral("Frame7")), expected,
-                          QStringLiteral("totals in sight"));
+                user.same(user.visible(u"Frame7"_s), expected, u"totals in sight"_s);
             };
             in_sight(false);
-            user.choose(QStringLiteral("cmb_holes"), 17);
+            user.choose(u"cmb_holes"_s, 17);
             in_sight(true);
-            user.choose(QStringLiteral("cmb_holes"), 16);
+            user.choose(u"cmb_holes"_s, 16);
             in_sight(false);
-            user.click_tab(QStringLiteral("TabStrip1"), 18);
+            user.click_tab(u"TabStrip1"_s, 18);
             in_sight(true);
-            user.click_tab(QStringLiteral("TabStrip1"), 1);
+            user.click_tab(u"TabStrip1"_s, 1);
             in_sight(false);
             discard(user);
         });

@@ -16,15 +16,16 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString conditions = QStringLiteral("conditions");
-const QString partners = QStringLiteral("pList");
+const QString conditions = u"conditions"_s;
+const QString partners = u"pList"_s;
 
 QString temperature_text(hand& user)
 {
-    return user.text(QStringLiteral("Text1"));
+    return user.text(u"Text1"_s);
 }
 
 void focus_temperature(hand& user)
@@ -34,9 +35,9 @@ void focus_temperature(hand& user)
 
 void add_three_partners(const round_store& store)
 {
-    store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), 5);
-    store.add_partner(QStringLiteral("Roy"), QStringLiteral("Anne"), 12);
-    store.add_partner(QStringLiteral("Tremblay"), QStringLiteral("Marie"), 7);
+    store.add_partner(u"Gagnon"_s, u"Luc"_s, 5);
+    store.add_partner(u"Roy"_s, u"Anne"_s, 12);
+    store.add_partner(u"Tremblay"_s, u"Marie"_s, 7);
 }
 
 QStringList selected_lines(hand& user)
@@ -63,14 +64,13 @@ private Q_SLOTS:
         const round_store store(french);
         in_new_round([&](hand& user) {
             const expected_box in_french{
-                QStringLiteral(
-                    "Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
-                    "un terrain"),
-                QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok};
+                u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
+                u"un terrain"_s,
+                QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok};
             const expected_box in_english{
-                QStringLiteral("Verdane could not find any course. To create a round, you need to define at "
-                               "least one course."),
-                QMessageBox::NoIcon, QStringLiteral("Verdane"), QMessageBox::Ok};
+                u"Verdane could not find any course. To create a round, you need to define at "
+                u"least one course."_s,
+                QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok};
             user.answer(french ? in_french : in_english);
         });
         QVERIFY(!data_environment().rsvrd_fields.is_open());
@@ -84,17 +84,15 @@ private Q_SLOTS:
         const round_store store(french);
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            const QStringList in_french{QStringLiteral("Ensoleillé"), QStringLiteral("Ciel variable"),
-                                        QStringLiteral("Pluie"), QStringLiteral("Vent")};
-            const QStringList in_english{QStringLiteral("Sunny"), QStringLiteral("Variable cloudiness"),
-                                         QStringLiteral("Rainy"), QStringLiteral("Windy")};
+            const QStringList in_french{u"Ensoleillé"_s, u"Ciel variable"_s, u"Pluie"_s, u"Vent"_s};
+            const QStringList in_english{u"Sunny"_s, u"Variable cloudiness"_s, u"Rainy"_s, u"Windy"_s};
             user.same(user.entries(conditions).join(u','), (french ? in_french : in_english).join(u','),
                       conditions);
             user.same(user.selected(conditions), 0, conditions);
             user.choose(conditions, 3);
             accept(user);
         });
-        QCOMPARE(store.at(QStringLiteral("games2"), 1), QStringLiteral("3"));
+        QCOMPARE(store.at(u"games2"_s, 1), u"3"_s);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
             user.same(user.selected(conditions), 3, conditions);
             discard(user);
@@ -106,15 +104,15 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            user.same(temperature_text(user), QStringLiteral("  "), QStringLiteral("temperature"));
+            user.same(temperature_text(user), u"  "_s, u"temperature"_s);
             focus_temperature(user);
-            user.click(QStringLiteral("text_vrd_0"));
-            user.same(temperature_text(user), QStringLiteral("  "), QStringLiteral("temperature"));
+            user.click(u"text_vrd_0"_s);
+            user.same(temperature_text(user), u"  "_s, u"temperature"_s);
             accept(user);
         });
-        QCOMPARE(store.at(QStringLiteral("games2"), 201), QStringLiteral("0"));
+        QCOMPARE(store.at(u"games2"_s, 201), u"0"_s);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(temperature_text(user), QStringLiteral("0 C"), QStringLiteral("temperature"));
+            user.same(temperature_text(user), u"0 C"_s, u"temperature"_s);
             discard(user);
         });
     }
@@ -126,19 +124,19 @@ private Q_SLOTS:
         in_keyed_round([](hand& user) {
             focus_temperature(user);
             user.key(Qt::Key_Up);
-            user.same(temperature_text(user), QStringLiteral("1 C"), QStringLiteral("one up"));
+            user.same(temperature_text(user), u"1 C"_s, u"one up"_s);
             user.key(Qt::Key_Down);
             user.key(Qt::Key_Down);
-            user.same(temperature_text(user), QStringLiteral("-1 C"), QStringLiteral("two down"));
+            user.same(temperature_text(user), u"-1 C"_s, u"two down"_s);
             with_round(user, [](f_new_round& window) { window.UpDown1->setValue(50); });
             user.key(Qt::Key_Up);
-            user.same(temperature_text(user), QStringLiteral("50 C"), QStringLiteral("upper limit"));
+            user.same(temperature_text(user), u"50 C"_s, u"upper limit"_s);
             with_round(user, [](f_new_round& window) { window.UpDown1->setValue(-30); });
             user.key(Qt::Key_Down);
-            user.same(temperature_text(user), QStringLiteral("-30 C"), QStringLiteral("lower limit"));
+            user.same(temperature_text(user), u"-30 C"_s, u"lower limit"_s);
             accept(user);
         });
-        QCOMPARE(store.at(QStringLiteral("games2"), 201), QStringLiteral("-30"));
+        QCOMPARE(store.at(u"games2"_s, 201), u"-30"_s);
     }
 
     void a_typed_temperature_counts_too()
@@ -148,12 +146,12 @@ private Q_SLOTS:
         in_keyed_round([](hand& user) {
             focus_temperature(user);
             user.key(Qt::Key_A, Qt::ControlModifier);
-            user.type(QStringLiteral("-12"));
-            user.click(QStringLiteral("text_vrd_0"));
-            user.same(temperature_text(user), QStringLiteral("-12 C"), QStringLiteral("temperature"));
+            user.type(u"-12"_s);
+            user.click(u"text_vrd_0"_s);
+            user.same(temperature_text(user), u"-12 C"_s, u"temperature"_s);
             accept(user);
         });
-        QCOMPARE(store.at(QStringLiteral("games2"), 201), QStringLiteral("-12"));
+        QCOMPARE(store.at(u"games2"_s, 201), u"-12"_s);
     }
 
     void a_value_set_by_the_program_shows_at_once()
@@ -162,7 +160,7 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             with_round(user, [](f_new_round& window) { window.UpDown1->setValue(21); });
-            user.same(temperature_text(user), QStringLiteral("21 C"), QStringLiteral("temperature"));
+            user.same(temperature_text(user), u"21 C"_s, u"temperature"_s);
             discard(user);
         });
     }
@@ -171,14 +169,13 @@ private Q_SLOTS:
     {
         const round_store store;
         store.add_two_courses();
-        store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), 5);
-        store.add_partner(QString(), QStringLiteral("Anne"), 12);
-        store.add_partner(QStringLiteral("Zed"), QString(), 7);
-        store.add_partner(QStringLiteral("Young"), QStringLiteral(""), 8);
+        store.add_partner(u"Gagnon"_s, u"Luc"_s, 5);
+        store.add_partner(QString(), u"Anne"_s, 12);
+        store.add_partner(u"Zed"_s, QString(), 7);
+        store.add_partner(u"Young"_s, u""_s, 8);
         in_keyed_round([](hand& user) {
-            user.same(user.entries(partners).join(u'|'), QStringLiteral("Anne,|Luc,Gagnon|,Young|,Zed"),
-                      QStringLiteral("partners"));
-            user.same(selected_lines(user).join(u'|'), QString(), QStringLiteral("selected partners"));
+            user.same(user.entries(partners).join(u'|'), u"Anne,|Luc,Gagnon|,Young|,Zed"_s, u"partners"_s);
+            user.same(selected_lines(user).join(u'|'), QString(), u"selected partners"_s);
             discard(user);
         });
     }
@@ -188,10 +185,9 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         data_environment().rspartners.Open();
-        store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), 5);
+        store.add_partner(u"Gagnon"_s, u"Luc"_s, 5);
         in_keyed_round([](hand& user) {
-            user.same(user.entries(partners).join(u'|'), QStringLiteral("Luc,Gagnon"),
-                      QStringLiteral("partners"));
+            user.same(user.entries(partners).join(u'|'), u"Luc,Gagnon"_s, u"partners"_s);
             discard(user);
         });
         QVERIFY(!data_environment().rspartners.is_open());
@@ -202,9 +198,9 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         for (int code = 1; code <= 9; ++code)
-            store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), code);
+            store.add_partner(u"Gagnon"_s, u"Luc"_s, code);
         in_keyed_round([](hand& user) {
-            user.click_tab(QStringLiteral("TabStrip2"), 2);
+            user.click_tab(u"TabStrip2"_s, 2);
             user.picture(round_window());
             with_round(user, [](f_new_round& window) {
                 const QListWidget& list = *window.pList;
@@ -214,7 +210,7 @@ private Q_SLOTS:
                 QVERIFY(list.visualItemRect(lowest).bottom() < height);
                 QCOMPARE(list.row(lowest), 3);
             });
-            user.click_tab(QStringLiteral("TabStrip2"), 1);
+            user.click_tab(u"TabStrip2"_s, 1);
             discard(user);
         });
     }
@@ -227,21 +223,19 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             for (const int row : {2, 0, 1})
                 user.click_row(partners, row);
-            user.click_tab(QStringLiteral("TabStrip1"), 2);
-            user.same(store.at(QStringLiteral("games2"), 2), QStringLiteral("5-12-7-"),
-                      QStringLiteral("partners"));
-            user.click_tab(QStringLiteral("TabStrip1"), 3);
-            user.same(store.at(QStringLiteral("games2"), 2), QStringLiteral("5-12-7-"),
-                      QStringLiteral("partners of a second save"));
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.same(store.at(u"games2"_s, 2), u"5-12-7-"_s, u"partners"_s);
+            user.click_tab(u"TabStrip1"_s, 3);
+            user.same(store.at(u"games2"_s, 2), u"5-12-7-"_s, u"partners of a second save"_s);
             user.click_row(partners, 0);
             accept(user);
         });
-        QCOMPARE(store.at(QStringLiteral("games2"), 2), QStringLiteral("12-7-"));
-        store.add_partner(QStringLiteral("Zola"), QStringLiteral("Emile"), 1);
+        QCOMPARE(store.at(u"games2"_s, 2), u"12-7-"_s);
+        store.add_partner(u"Zola"_s, u"Emile"_s, 1);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
             // "1" stands inside "12-7-": the search is a plain one.
-            user.same(selected_lines(user).join(u'|'), QStringLiteral("Anne,Roy|Emile,Zola|Marie,Tremblay"),
-                      QStringLiteral("selected partners"));
+            user.same(selected_lines(user).join(u'|'), u"Anne,Roy|Emile,Zola|Marie,Tremblay"_s,
+                      u"selected partners"_s);
             discard(user);
         });
     }
@@ -252,7 +246,7 @@ private Q_SLOTS:
         store.add_two_courses();
         add_three_partners(store);
         in_keyed_round([](hand& user) { accept(user); });
-        QCOMPARE(store.at(QStringLiteral("games2"), 2), QString());
+        QCOMPARE(store.at(u"games2"_s, 2), QString());
     }
 
     void a_course_is_its_padded_name_and_its_tee_data() { both_languages(); }
@@ -260,24 +254,22 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const round_store store(french);
-        store.add({QStringLiteral("ZED-6"), QStringLiteral(" Zed ")});
-        store.add({QStringLiteral("ALPHA-1"), QStringLiteral("Alpha")});
-        store.add({QStringLiteral("ODD-9"), QStringLiteral("Odd")});
+        store.add({u"ZED-6"_s, u" Zed "_s});
+        store.add({u"ALPHA-1"_s, u"Alpha"_s});
+        store.add({u"ODD-9"_s, u"Odd"_s});
         in_keyed_round([&](hand& user) {
             const auto line = [](const QString& name, const QString& tee) {
                 return QString(name.leftJustified(195) + u", " + tee);
             };
-            const QStringList expected{
-                line(QStringLiteral("Zed"), french ? QStringLiteral("VERT") : QStringLiteral("GREEN")),
-                line(QStringLiteral("Alpha"), french ? QStringLiteral("BLEU") : QStringLiteral("BLUE")),
-                line(QStringLiteral("Odd"), QString())};
-            user.same(user.entries(QStringLiteral("cmb_courses")).join(u'|'), expected.join(u'|'),
-                      QStringLiteral("courses"));
-            user.same(user.selected(QStringLiteral("cmb_courses")), 0, QStringLiteral("course"));
-            user.choose(QStringLiteral("cmb_courses"), 2);
+            const QStringList expected{line(u"Zed"_s, french ? u"VERT"_s : u"GREEN"_s),
+                                       line(u"Alpha"_s, french ? u"BLEU"_s : u"BLUE"_s),
+                                       line(u"Odd"_s, QString())};
+            user.same(user.entries(u"cmb_courses"_s).join(u'|'), expected.join(u'|'), u"courses"_s);
+            user.same(user.selected(u"cmb_courses"_s), 0, u"course"_s);
+            user.choose(u"cmb_courses"_s, 2);
             accept(user);
         });
-        QCOMPARE(store.of_round(QStringLiteral("games"), QStringLiteral("CODEF")), QStringLiteral("ODD-9"));
+        QCOMPARE(store.of_round(u"games"_s, u"CODEF"_s), u"ODD-9"_s);
     }
 
     void the_open_list_of_courses_leaves_the_padding_out()
@@ -287,8 +279,7 @@ private Q_SLOTS:
         in_keyed_round([](hand& user) {
             with_round(user, [](f_new_round& window) {
                 auto* lines = qobject_cast<QStyledItemDelegate*>(window.cmb_courses->itemDelegate());
-                QCOMPARE(lines->displayText(window.cmb_courses->itemText(1), QLocale()),
-                         QStringLiteral("Beta, VERT"));
+                QCOMPARE(lines->displayText(window.cmb_courses->itemText(1), QLocale()), u"Beta, VERT"_s);
                 window.cmb_courses->showPopup();
                 QCOMPARE(window.cmb_courses->view()->window()->width(), window.cmb_courses->width());
                 window.cmb_courses->hidePopup();
@@ -302,9 +293,9 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         store.add_round(key_of_keyed_round());
-        store.store.write(QStringLiteral("update cost set fg = 40, cm = 5, au = 7"));
+        store.store.write(u"update cost set fg = 40, cm = 5, au = 7"_s);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("52"), QStringLiteral("costs"));
+            user.same(user.text(u"text_7"_s), u"52"_s, u"costs"_s);
             discard(user);
         });
     }
@@ -313,15 +304,15 @@ private Q_SLOTS:
     {
         const round_store store;
         store.add_two_courses();
-        store.add_round(QStringLiteral("20230101120000"));
+        store.add_round(u"20230101120000"_s);
         store.add_round(key_of_keyed_round());
-        store.store.write(QStringLiteral("delete from cost where date = '20240614093000'"));
+        store.store.write(u"delete from cost where date = '20240614093000'"_s);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("0"), QStringLiteral("costs"));
+            user.same(user.text(u"text_7"_s), u"0"_s, u"costs"_s);
             discard(user);
         });
-        QCOMPARE(store.number(QStringLiteral("select fg + au from cost where date = '20240614093000'")), 0);
-        QCOMPARE(store.number(QStringLiteral("select count(*) from cost")), 2);
+        QCOMPARE(store.number(u"select fg + au from cost where date = '20240614093000'"_s), 0);
+        QCOMPARE(store.number(u"select count(*) from cost"_s), 2);
     }
 
     void the_header_adds_the_row_of_costs_when_the_table_is_empty()
@@ -334,8 +325,8 @@ private Q_SLOTS:
                 data_environment().rscost.Delete();
                 load_round_header(window);
             });
-            user.same(user.text(QStringLiteral("text_7")), QStringLiteral("0"), QStringLiteral("costs"));
-            user.same(store.at(QStringLiteral("cost"), 0), key_of_keyed_round(), QStringLiteral("key"));
+            user.same(user.text(u"text_7"_s), u"0"_s, u"costs"_s);
+            user.same(store.at(u"cost"_s, 0), key_of_keyed_round(), u"key"_s);
             discard(user);
         });
     }

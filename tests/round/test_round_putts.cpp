@@ -13,11 +13,12 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString report = QStringLiteral("report_preview");
-const QString button = QStringLiteral("b_putts");
+const QString report = u"report_preview"_s;
+const QString button = u"b_putts"_s;
 
 /// A store that reports read too.
 struct reported_store : golfer_store {
@@ -30,10 +31,10 @@ struct reported_store : golfer_store {
 /// The report opens above the round window and is closed again.
 void close_report(hand& user)
 {
-    user.wait_until(QStringLiteral("the report"), [] { return visible_window(report) != nullptr; });
+    user.wait_until(u"the report"_s, [] { return visible_window(report) != nullptr; });
     user.look([] {
         QWidget* preview = visible_window(report);
-        QCOMPARE(preview->windowTitle(), QStringLiteral("Verdane International Inc."));
+        QCOMPARE(preview->windowTitle(), u"Verdane International Inc."_s);
         QCOMPARE(preview->parentWidget()->objectName(), round_window());
         preview->close();
     });
@@ -53,14 +54,13 @@ void check_control(hand& user)
 QString bands(const round_store& store, const QString& table, int row)
 {
     const auto rows = store.store.rows(
-        QStringLiteral("select band_1, band_2, band_3, band_4, band_5, band_6, band_7 from %1 order by rowid")
-            .arg(table));
+        u"select band_1, band_2, band_3, band_4, band_5, band_6, band_7 from %1 order by rowid"_s.arg(table));
     const auto& wanted = rows[static_cast<std::size_t>(row - 1)];
     QStringList above_0;
     for (int band = 1; band <= 7; ++band) {
         const QString count = wanted[static_cast<std::size_t>(band - 1)].toString();
         if (count.toInt() > 0)
-            above_0 << QStringLiteral("%1=%2").arg(band).arg(count);
+            above_0 << u"%1=%2"_s.arg(band).arg(count);
     }
     return above_0.join(u' ');
 }
@@ -68,16 +68,16 @@ QString bands(const round_store& store, const QString& table, int row)
 /// Every value of the only row of a table.
 QString whole_row(const round_store& store, const QString& table)
 {
-    const auto rows = store.store.rows(QStringLiteral("select * from ") + table);
+    const auto rows = store.store.rows(u"select * from "_s + table);
     QStringList values;
     for (const QVariant& value : rows.at(0))
-        values << (value.isNull() ? QStringLiteral("null") : value.toString());
+        values << (value.isNull() ? u"null"_s : value.toString());
     return values.join(u'|');
 }
 
 QString head(const round_store& store, const QString& column)
 {
-    return store.text(QStringLiteral("select %1 from s_put1 order by rowid limit 1").arg(column));
+    return store.text(u"select %1 from s_put1 order by rowid limit 1"_s.arg(column));
 }
 
 }  // namespace
@@ -98,16 +98,16 @@ private Q_SLOTS:
             close_report(user);
             check_control(user);
             // The hole is as it was, and can be told on.
-            user.check(user.visible(details), QStringLiteral("the grid is in sight"));
+            user.check(user.visible(details), u"the grid is in sight"_s);
             accept(user);
         });
         // Putts from 30 and from 4 feet.
-        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("3=1"));
-        QCOMPARE(bands(round.store, QStringLiteral("s_put2"), 3), QStringLiteral("6=1"));
-        QCOMPARE(bands(round.store, QStringLiteral("s_put2"), 7), QStringLiteral("7=1"));
-        QCOMPARE(head(round.store, QStringLiteral("from_date")),
+        QCOMPARE(bands(round.store, u"s_put1"_s, 2), u"3=1"_s);
+        QCOMPARE(bands(round.store, u"s_put2"_s, 3), u"6=1"_s);
+        QCOMPARE(bands(round.store, u"s_put2"_s, 7), u"7=1"_s);
+        QCOMPARE(head(round.store, u"from_date"_s),
                  in_language(u"Ronde : 14 Jun 2024 Alpha, BLANC", u"Round : 14 Jun 2024 Alpha, WHITE"));
-        QCOMPARE(head(round.store, QStringLiteral("to_date")),
+        QCOMPARE(head(round.store, u"to_date"_s),
                  in_language(u"Conditions atmosphériques : Ensoleillé", u"Weather conditions : Sunny"));
         QCOMPARE(round.shots(1), 4);
         QCOMPARE(stored_putts(round.store, 1), told_putts);
@@ -119,39 +119,38 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             go_to_detailed_page(user);
             tell_hole(user);
-            user.type(QStringLiteral("0"));
+            user.type(u"0"_s);
             user.press_and_release(button);
             user.answer(refusal_of_shot());
             close_report(user);
             accept(user);
         });
-        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("3=1"));
+        QCOMPARE(bands(round.store, u"s_put1"_s, 2), u"3=1"_s);
         QCOMPARE(round.shots(1), 4);
     }
 
     void a_stored_round_is_reported_from_its_quick_page_by_the_keyboard()
     {
         const reported_store round;
-        const QString key = QStringLiteral("20240614093000");
+        const QString key = u"20240614093000"_s;
         round.store.add_round(key);
         round.store.store.write(
-            QStringLiteral("update games2 set putt_len_3_1 = 52, putt_len_3_2 = 6 where date = '%1'")
-                .arg(key));
+            u"update games2 set putt_len_3_1 = 52, putt_len_3_2 = 6 where date = '%1'"_s.arg(key));
         in_stored_round(key, [&](hand& user) {
             user.key(Qt::Key_P, Qt::ControlModifier);
             close_report(user);
             discard(user);
         });
-        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("1=1"));
-        QCOMPARE(bands(round.store, QStringLiteral("s_put2"), 1), QStringLiteral("5=1"));
+        QCOMPARE(bands(round.store, u"s_put1"_s, 2), u"1=1"_s);
+        QCOMPARE(bands(round.store, u"s_put2"_s, 1), u"5=1"_s);
     }
 
     void a_report_keeps_nothing_of_a_hole_that_is_then_discarded()
     {
         const reported_store round;
         round.store.add_round(key_of_keyed_round());
-        const QString games = whole_row(round.store, QStringLiteral("games"));
-        const QString games2 = whole_row(round.store, QStringLiteral("games2"));
+        const QString games = whole_row(round.store, u"games"_s);
+        const QString games2 = whole_row(round.store, u"games2"_s);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             go_to_detailed_page(user);
             tell_hole(user);
@@ -159,10 +158,10 @@ private Q_SLOTS:
             close_report(user);
             discard(user);
         });
-        QCOMPARE(whole_row(round.store, QStringLiteral("games")), games);
-        QCOMPARE(whole_row(round.store, QStringLiteral("games2")), games2);
+        QCOMPARE(whole_row(round.store, u"games"_s), games);
+        QCOMPARE(whole_row(round.store, u"games2"_s), games2);
         // The report was about the hole as it was told.
-        QCOMPARE(bands(round.store, QStringLiteral("s_put1"), 2), QStringLiteral("3=1"));
+        QCOMPARE(bands(round.store, u"s_put1"_s, 2), u"3=1"_s);
     }
 
     void a_round_without_putts_has_an_empty_report()
@@ -174,24 +173,23 @@ private Q_SLOTS:
             discard(user);
         });
         for (int row = 1; row <= 5; ++row)
-            QCOMPARE(bands(round.store, QStringLiteral("s_put1"), row), QString());
-        QCOMPARE(round.store.text(QStringLiteral("select rating_text from s_put2 order by rowid limit 1")),
-                 QStringLiteral("N/A"));
+            QCOMPARE(bands(round.store, u"s_put1"_s, row), QString());
+        QCOMPARE(round.store.text(u"select rating_text from s_put2 order by rowid limit 1"_s), u"N/A"_s);
     }
 
     void quick_figures_survive_a_report_from_the_detailed_page()
     {
         const reported_store round;
         in_keyed_round([&](hand& user) {
-            user.type(QStringLiteral("11200001000"));
+            user.type(u"11200001000"_s);
             go_to_detailed_page(user);
             user.click(button);
             close_report(user);
-            user.same(user.grid_rows(details), 1, QStringLiteral("the blank shot"));
+            user.same(user.grid_rows(details), 1, u"the blank shot"_s);
             go_to_quick_page(user);
             accept(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), QStringLiteral("1 1 2 0 0 0 0 1 0 0 0"));
+        QCOMPARE(stored_figures(round.store, 1), u"1 1 2 0 0 0 0 1 0 0 0"_s);
         QCOMPARE(round.shots(1), 0);
     }
 
@@ -202,9 +200,9 @@ private Q_SLOTS:
             go_to_detailed_page(user);
             leave_second_shot_open(user);
             user.click(button);
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
+            user.answer(refusal_of_shot(u" 2"_s));
             close_report(user);
-            user.click(QStringLiteral("CommandSup"));
+            user.click(u"CommandSup"_s);
             accept(user);
         });
         QCOMPARE(round.shots(1), 1);
@@ -215,7 +213,7 @@ private Q_SLOTS:
         const reported_store round;
         in_keyed_round([&](hand& user) {
             user.click(button);
-            user.wait_until(QStringLiteral("the report"), [] { return visible_window(report) != nullptr; });
+            user.wait_until(u"the report"_s, [] { return visible_window(report) != nullptr; });
             discard(user);
             user.wait_until_gone(report);
         });

@@ -15,6 +15,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,7 +25,7 @@ QStringList controls_of(const QWidget& window)
     QStringList lines;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         if (!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"))
-            lines << QStringLiteral("%1 %2 %3")
+            lines << u"%1 %2 %3"_s
                          .arg(control->objectName(), QLatin1String(control->metaObject()->className()))
                          .arg(control->isVisibleTo(&window));
     }
@@ -50,8 +51,7 @@ QStringList clipped_in(const QWidget& window)
             qobject_cast<const QLabel*>(control) || qobject_cast<const QPushButton*>(control) ||
             qobject_cast<const QGroupBox*>(control) || qobject_cast<const QLineEdit*>(control);
         if (speaks && control->isVisible() && control->width() < words_wide(*control))
-            clipped << QStringLiteral("%1: %2 of %3")
-                           .arg(control->objectName())
+            clipped << u"%1: %2 of %3"_s.arg(control->objectName())
                            .arg(control->width())
                            .arg(words_wide(*control));
         if (speaks && control->isVisible() &&
@@ -190,7 +190,7 @@ void keep_picture(hand& user, const QString& window, const QString& name)
 {
     const QString folder = qEnvironmentVariable("VERDANE_PICTURES");
     if (!folder.isEmpty())
-        user.picture(window).save(QStringLiteral("%1/%2.png").arg(folder, name));
+        user.picture(window).save(u"%1/%2.png"_s.arg(folder, name));
 }
 
 }  // namespace
@@ -233,22 +233,22 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const round_store store(french);
-        store.add({QStringLiteral("CLUB DES PINS-0"), QStringLiteral("Club des Pins du Grand Lac")});
-        store.add({QStringLiteral("CLUB DES PINS-6"), QStringLiteral("Club des Pins du Grand Lac")});
-        store.add_partner(QStringLiteral("Tremblay"), QStringLiteral("Marie-Josée"), 17);
-        store.add_partner(QStringLiteral("Gagnon"), QStringLiteral("Luc"), 23);
-        const QString twin = french ? QStringLiteral("fr") : QStringLiteral("en");
+        store.add({u"CLUB DES PINS-0"_s, u"Club des Pins du Grand Lac"_s});
+        store.add({u"CLUB DES PINS-6"_s, u"Club des Pins du Grand Lac"_s});
+        store.add_partner(u"Tremblay"_s, u"Marie-Josée"_s, 17);
+        store.add_partner(u"Gagnon"_s, u"Luc"_s, 23);
+        const QString twin = french ? u"fr"_s : u"en"_s;
         in_new_round([&](hand& user) {
-            user.wait_for_window(QStringLiteral("f_get_date"));
-            keep_picture(user, QStringLiteral("f_get_date"), u"f_get_date_" + twin);
-            tee_off(user, QStringLiteral("9"), QStringLiteral("5"), QString());
+            user.wait_for_window(u"f_get_date"_s);
+            keep_picture(user, u"f_get_date"_s, u"f_get_date_" + twin);
+            tee_off(user, u"9"_s, u"5"_s, QString());
             user.wait_for_window(round_window());
-            user.type(QStringLiteral("11210000100"));
-            user.choose(QStringLiteral("conditions"), 1);
-            user.click_row(QStringLiteral("pList"), 1);
+            user.type(u"11210000100"_s);
+            user.choose(u"conditions"_s, 1);
+            user.click_row(u"pList"_s, 1);
             keep_picture(user, round_window(), u"f_new_round_" + twin);
-            user.click_tab(QStringLiteral("TabStrip1"), 18);
-            user.type(QStringLiteral("112"));
+            user.click_tab(u"TabStrip1"_s, 18);
+            user.type(u"112"_s);
             keep_picture(user, round_window(), u"f_new_round_18_" + twin);
             with_round(user,
                        [](f_new_round& window) { QCOMPARE(clipped_in(window).join(u'\n'), QString()); });

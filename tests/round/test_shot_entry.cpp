@@ -11,11 +11,12 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString next = QStringLiteral("CommandSuiv");
-const QString away = QStringLiteral("CommandSup");
+const QString next = u"CommandSuiv"_s;
+const QString away = u"CommandSup"_s;
 
 /// Two courses, named clubs and the keyed round in the store, to be reopened on its shots.
 struct round_with_shots {
@@ -51,8 +52,8 @@ bool put_mode(hand& user)
     return on;
 }
 
-const QString yards = QStringLiteral("Verges");
-const QString feet = QStringLiteral("Pieds");
+const QString yards = u"Verges"_s;
+const QString feet = u"Pieds"_s;
 
 }  // namespace
 
@@ -65,22 +66,21 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
-        round.add(1, 1, 60, french ? yards : QStringLiteral("Yards"), 1);
+        round.add(1, 1, 60, french ? yards : u"Yards"_s, 1);
         round.play([&](hand& user) {
             user.click(next);
             user.same(user.grid_row(details, 1),
-                      french ? QStringLiteral("2 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | ")
-                             : QStringLiteral("2 |  |  |  |  | No | No | No | No | Fairway | "),
-                      QStringLiteral("new row"));
-            user.same(user.cursor(details), QStringLiteral("1,2"), QStringLiteral("cursor"));
-            user.same(user.focus(), details, QStringLiteral("focus"));
-            user.same(boxes(user), QStringLiteral("1 0 0 1 0 0 0 0 0 0 0"), QStringLiteral("summed up"));
+                      french ? u"2 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | "_s
+                             : u"2 |  |  |  |  | No | No | No | No | Fairway | "_s,
+                      u"new row"_s);
+            user.same(user.cursor(details), u"1,2"_s, u"cursor"_s);
+            user.same(user.focus(), details, u"focus"_s);
+            user.same(boxes(user), u"1 0 0 1 0 0 0 0 0 0 0"_s, u"summed up"_s);
         });
-        QCOMPARE(stored_shots(round.store, 1).split(u'\n').last(), QStringLiteral("2 60>- - -/0 -/0"));
-        QCOMPARE(
-            round.store.text(QStringLiteral("select normal || ' ' || verges || ' ' || date from Stat_rounds "
-                                            "where shot = 2")),
-            QStringLiteral("4 101 ") + key_of_keyed_round());
+        QCOMPARE(stored_shots(round.store, 1).split(u'\n').last(), u"2 60>- - -/0 -/0"_s);
+        QCOMPARE(round.store.text(u"select normal || ' ' || verges || ' ' || date from Stat_rounds "
+                                  u"where shot = 2"_s),
+                 u"4 101 "_s + key_of_keyed_round());
     }
 
     void no_shot_comes_behind_an_unfinished_one_data()
@@ -104,8 +104,8 @@ private Q_SLOTS:
         round.play([&](hand& user) {
             user.click(next);
             user.answer(refusal_of_shot());
-            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
-            user.same(user.focus(), details, QStringLiteral("focus"));
+            user.same(user.grid_rows(details), 1, u"rows"_s);
+            user.same(user.focus(), details, u"focus"_s);
         });
     }
 
@@ -114,20 +114,19 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
-        round.add(1, 9, 10, french ? yards : QStringLiteral("Yards"), 2);
-        round.add(2, 14, 6, french ? feet : QStringLiteral("Feets"), 3);
+        round.add(1, 9, 10, french ? yards : u"Yards"_s, 2);
+        round.add(2, 14, 6, french ? feet : u"Feets"_s, 3);
         round.play([&](hand& user) {
             user.click(next);
-            user.same(user.cursor(details), QStringLiteral("2,3"), QStringLiteral("cursor"));
-            user.check(put_mode(user), QStringLiteral("PUT_MODE"));
+            user.same(user.cursor(details), u"2,3"_s, u"cursor"_s);
+            user.check(put_mode(user), u"PUT_MODE"_s);
         });
-        const QString unit = french ? feet : QStringLiteral("Feets");
+        const QString unit = french ? feet : u"Feets"_s;
         const QStringList stored = stored_shots(round.store, 1).split(u'\n');
         QCOMPARE(stored[0].section(u' ', 1, 2), QString(u"101>30 " + unit));
         QCOMPARE(stored[2], QString(u"3 6>- " + unit + u" Pu/14 Putt/3"));
-        QCOMPARE(round.store.text(
-                     QStringLiteral("select fairval || faireway || '|' from Stat_rounds where shot = 2")),
-                 QStringLiteral("0 |"));
+        QCOMPARE(round.store.text(u"select fairval || faireway || '|' from Stat_rounds where shot = 2"_s),
+                 u"0 |"_s);
     }
 
     void on_the_green_distances_alone_tell_the_putts()
@@ -136,17 +135,17 @@ private Q_SLOTS:
         round.add(1, 9, 30, yards, 2);
         round.play([&](hand& user) {
             user.click(next);
-            user.type(QStringLiteral("p"));
-            for (const QString& left : {QStringLiteral("9"), QStringLiteral("3"), QStringLiteral("1")}) {
+            user.type(u"p"_s);
+            for (const QString& left : {u"9"_s, u"3"_s, u"1"_s}) {
                 user.type(left);
                 user.key(Qt::Key_Return);
             }
-            user.same(user.grid_rows(details), 5, QStringLiteral("rows"));
-            user.same(user.cursor(details), QStringLiteral("4,3"), QStringLiteral("cursor"));
+            user.same(user.grid_rows(details), 5, u"rows"_s);
+            user.same(user.cursor(details), u"4,3"_s, u"cursor"_s);
         });
         const QStringList stored = stored_shots(round.store, 1).split(u'\n');
-        QCOMPARE(stored[0].section(u' ', 1, 2), QStringLiteral("101>90 Pieds"));
-        QCOMPARE(stored[4].section(u' ', 1, 1), QStringLiteral("1>-"));
+        QCOMPARE(stored[0].section(u' ', 1, 2), u"101>90 Pieds"_s);
+        QCOMPARE(stored[4].section(u' ', 1, 1), u"1>-"_s);
     }
 
     void nothing_left_on_the_last_putt_brings_the_message_and_no_row_data() { both_languages(); }
@@ -154,13 +153,13 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
-        round.add(1, 14, 6, french ? feet : QStringLiteral("Feets"), 3);
+        round.add(1, 14, 6, french ? feet : u"Feets"_s, 3);
         round.play([&](hand& user) {
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("0"));
+            user.type(u"0"_s);
             user.key(Qt::Key_Return);
             user.answer(refusal_of_shot());
-            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
+            user.same(user.grid_rows(details), 1, u"rows"_s);
         });
     }
 
@@ -171,24 +170,23 @@ private Q_SLOTS:
         round.add(2, 14, 2, feet, 3);
         round.play([&](hand& user) {
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("7"));
+            user.type(u"7"_s);
             user.key(Qt::Key_Return);
-            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
-            user.same(user.cell(details, 0, 3), QStringLiteral("7"), QStringLiteral("distance"));
+            user.same(user.grid_rows(details), 2, u"rows"_s);
+            user.same(user.cell(details, 0, 3), u"7"_s, u"distance"_s);
         });
     }
 
     void a_row_of_the_putter_is_a_putt_as_soon_as_its_distance_is_typed()
     {
         const round_with_shots round;
-        add_shot(round.store, 1, 1, QStringLiteral("stickval = 14, stick = 'Pu', unit = 'Verges'"));
+        add_shot(round.store, 1, 1, u"stickval = 14, stick = 'Pu', unit = 'Verges'"_s);
         round.play([&](hand& user) {
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("5"));
+            user.type(u"5"_s);
             user.key(Qt::Key_Return);
-            user.same(user.cell(details, 0, 4) + user.cell(details, 0, 5), QStringLiteral("PiedsPutt"),
-                      QStringLiteral("row"));
-            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
+            user.same(user.cell(details, 0, 4) + user.cell(details, 0, 5), u"PiedsPutt"_s, u"row"_s);
+            user.same(user.grid_rows(details), 2, u"rows"_s);
         });
     }
 
@@ -198,14 +196,12 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const round_with_shots round(french);
         round.play([&](hand& user) {
-            tell_shot(user, 0, 5, QStringLiteral("20"), 3);
-            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
-            user.same(user.cell(details, 0, 2) + user.cell(details, 0, 5), QStringLiteral("F5Putt"),
-                      QStringLiteral("first row"));
+            tell_shot(user, 0, 5, u"20"_s, 3);
+            user.same(user.grid_rows(details), 2, u"rows"_s);
+            user.same(user.cell(details, 0, 2) + user.cell(details, 0, 5), u"F5Putt"_s, u"first row"_s);
             user.same(user.cell(details, 1, 2) + user.cell(details, 1, 4) + user.cell(details, 1, 5),
-                      french ? QStringLiteral("PuPiedsPutt") : QStringLiteral("PuFeetsPutt"),
-                      QStringLiteral("second row"));
-            user.same(user.cursor(details), QStringLiteral("1,3"), QStringLiteral("cursor"));
+                      french ? u"PuPiedsPutt"_s : u"PuFeetsPutt"_s, u"second row"_s);
+            user.same(user.cursor(details), u"1,3"_s, u"cursor"_s);
         });
     }
 
@@ -217,11 +213,10 @@ private Q_SLOTS:
         round.play([&](hand& user) {
             tell_shot(user, 0, 5, QString(), 3);
             user.answer(refusal_of_shot());
-            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
+            user.same(user.grid_rows(details), 1, u"rows"_s);
             user.same(user.cell(details, 0, 2) + user.cell(details, 0, 4) + user.cell(details, 0, 5),
-                      french ? QStringLiteral("PuPiedsPutt") : QStringLiteral("PuFeetsPutt"),
-                      QStringLiteral("row"));
-            user.same(user.cursor(details), QStringLiteral("0,3"), QStringLiteral("cursor"));
+                      french ? u"PuPiedsPutt"_s : u"PuFeetsPutt"_s, u"row"_s);
+            user.same(user.cursor(details), u"0,3"_s, u"cursor"_s);
         });
     }
 
@@ -247,9 +242,9 @@ private Q_SLOTS:
         round.play([&](hand& user) {
             user.click_cell(details, row, 1);
             user.click(away);
-            user.same(user.grid_rows(details), 2, QStringLiteral("rows"));
-            user.check(put_mode(user) == putt_last, QStringLiteral("PUT_MODE"));
-            user.same(user.cursor(details).front(), QStringLiteral("1"), QStringLiteral("cursor"));
+            user.same(user.grid_rows(details), 2, u"rows"_s);
+            user.check(put_mode(user) == putt_last, u"PUT_MODE"_s);
+            user.same(user.cursor(details).front(), u"1"_s, u"cursor"_s);
         });
         QCOMPARE(stored_shots(round.store, 1).remove(u" fairway=0"_qs), left);
     }
@@ -260,17 +255,15 @@ private Q_SLOTS:
         round.add(1, 14, 5, feet, 3);
         round.play([&](hand& user) {
             user.click(away);
-            user.same(user.grid_rows(details), 0, QStringLiteral("rows"));
-            user.check(!put_mode(user), QStringLiteral("no putt"));
+            user.same(user.grid_rows(details), 0, u"rows"_s);
+            user.check(!put_mode(user), u"no putt"_s);
             user.click(away);
-            user.answer({QStringLiteral("Choisissez le coup que vous voulez supprimer."),
-                         QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok});
-            user.same(round.store.number(QStringLiteral("select count(*) from Stat_rounds")), 0,
-                      QStringLiteral("stored"));
+            user.answer({u"Choisissez le coup que vous voulez supprimer."_s, QMessageBox::Critical,
+                         u"Verdane"_s, QMessageBox::Ok});
+            user.same(round.store.number(u"select count(*) from Stat_rounds"_s), 0, u"stored"_s);
             user.click(next);
-            user.same(user.grid_row(details, 0),
-                      QStringLiteral("1 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | "),
-                      QStringLiteral("blank"));
+            user.same(user.grid_row(details, 0), u"1 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | "_s,
+                      u"blank"_s);
         });
     }
 
@@ -280,8 +273,8 @@ private Q_SLOTS:
         round.play([&](hand& user) {
             user.click(away);
             user.click(away);
-            user.answer({QStringLiteral("Please select the shot you wish to remove."), QMessageBox::Critical,
-                         QStringLiteral("Verdane"), QMessageBox::Ok});
+            user.answer({u"Please select the shot you wish to remove."_s, QMessageBox::Critical, u"Verdane"_s,
+                         QMessageBox::Ok});
         });
     }
 
@@ -289,13 +282,13 @@ private Q_SLOTS:
     {
         const round_with_shots round;
         round.add(1, 1, 60, yards, 1);
-        add_shot(round.store, 1, 2, QStringLiteral("after = 5"));
+        add_shot(round.store, 1, 2, u"after = 5"_s);
         round.add(3, 9, 3, yards, 2);
         round.play([&](hand& user) {
             user.click_cell(details, 2, 1);
             user.click(away);
-            user.answer(refusal_of_shot(QStringLiteral(" 2")));
-            user.same(user.cursor(details), QStringLiteral("1,1"), QStringLiteral("cursor"));
+            user.answer(refusal_of_shot(u" 2"_s));
+            user.same(user.cursor(details), u"1,1"_s, u"cursor"_s);
         });
     }
 
@@ -306,19 +299,19 @@ private Q_SLOTS:
         add_told_shot(round.store, 18, 2, 14, 4, feet, 3);
         add_told_shot(round.store, 18, 3, 14, 0, feet, 3);
         round.play([&](hand& user) {
-            user.check(!user.visible(QStringLiteral("b_carte")), QStringLiteral("not on hole 1"));
-            user.click_tab(QStringLiteral("TabStrip1"), 18);
-            user.answer(refusal_of_shot(QStringLiteral(" 1")));
-            user.same(user.grid_rows(details), 3, QStringLiteral("rows"));
-            user.click(QStringLiteral("b_carte"));
-            user.same(boxes(user), QStringLiteral("1 0 2 1 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
+            user.check(!user.visible(u"b_carte"_s), u"not on hole 1"_s);
+            user.click_tab(u"TabStrip1"_s, 18);
+            user.answer(refusal_of_shot(u" 1"_s));
+            user.same(user.grid_rows(details), 3, u"rows"_s);
+            user.click(u"b_carte"_s);
+            user.same(boxes(user), u"1 0 2 1 0 0 0 0 0 0 0"_s, u"boxes"_s);
             user.click_cell(details, 2, 1);
             user.click(away);
             user.click(away);
             user.click(away);
-            user.click(QStringLiteral("b_carte"));
-            user.same(boxes(user), QStringLiteral("0 0 0 0 0 0 0 0 0 0 0"), QStringLiteral("boxes"));
-            user.same(user.grid_rows(details), 1, QStringLiteral("a blank row"));
+            user.click(u"b_carte"_s);
+            user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
+            user.same(user.grid_rows(details), 1, u"a blank row"_s);
         });
     }
 
@@ -329,12 +322,11 @@ private Q_SLOTS:
         round.add(2, 9, 30, yards, 2);
         round.play([&](hand& user) {
             user.click(next);
-            user.type(QStringLiteral("p"));
-            user.type(QStringLiteral("4"));
+            user.type(u"p"_s);
+            user.type(u"4"_s);
             user.key(Qt::Key_Return);
-            user.same(user.cell(details, 0, 4), QStringLiteral("Yards"), QStringLiteral("unit of the drive"));
-            user.same(user.cell(details, 1, 3) + user.cell(details, 1, 4), QStringLiteral("90Feets"),
-                      QStringLiteral("the approach"));
+            user.same(user.cell(details, 0, 4), u"Yards"_s, u"unit of the drive"_s);
+            user.same(user.cell(details, 1, 3) + user.cell(details, 1, 4), u"90Feets"_s, u"the approach"_s);
         });
     }
 
@@ -343,16 +335,15 @@ private Q_SLOTS:
         const round_with_shots round;
         round.add(1, 1, 60, yards, 1);
         round.play([&](hand& user) {
-            round.store.store.write(
-                QStringLiteral("create trigger refuse before update on Stat_rounds begin select "
-                               "raise(abort, 'no'); end"));
+            round.store.store.write(u"create trigger refuse before update on Stat_rounds begin select "
+                                    u"raise(abort, 'no'); end"_s);
             with_round(user, [](f_new_round& window) {
                 data_environment().rsStat_rounds.Fields(u"after").set(61);
                 QVERIFY(f_new_round_func::check_shots(window));
                 QVERIFY(f_new_round_func::open_hole_shots(window));
             });
-            user.same(user.cell(details, 0, 3), QStringLiteral("60"), QStringLiteral("distance"));
-            round.store.store.write(QStringLiteral("drop trigger refuse"));
+            user.same(user.cell(details, 0, 3), u"60"_s, u"distance"_s);
+            round.store.store.write(u"drop trigger refuse"_s);
         });
     }
 };

@@ -11,6 +11,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -91,18 +92,15 @@ private Q_SLOTS:
         QFETCH(bool, french);
         on_the_page(french, [&](hand& user) {
             user.same(user.grid_row(details, 0),
-                      french ? QStringLiteral("1 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | ")
-                             : QStringLiteral("1 |  |  |  |  | No | No | No | No | Fairway | "),
-                      QStringLiteral("first row"));
-            user.same(user.grid_rows(details), 1, QStringLiteral("rows"));
-            user.same(user.cursor(details), QStringLiteral("0,2"), QStringLiteral("cursor"));
-            user.same(user.focus(), details, QStringLiteral("focus"));
-            const QList<std::pair<QString, QString>> born{{QStringLiteral("date"), key_of_keyed_round()},
-                                                          {QStringLiteral("hole"), QStringLiteral("1")},
-                                                          {QStringLiteral("before"), QStringLiteral("101")},
-                                                          {QStringLiteral("verges"), QStringLiteral("101")},
-                                                          {QStringLiteral("fairval"), QStringLiteral("1")},
-                                                          {QStringLiteral("after"), QString()}};
+                      french ? u"1 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | "_s
+                             : u"1 |  |  |  |  | No | No | No | No | Fairway | "_s,
+                      u"first row"_s);
+            user.same(user.grid_rows(details), 1, u"rows"_s);
+            user.same(user.cursor(details), u"0,2"_s, u"cursor"_s);
+            user.same(user.focus(), details, u"focus"_s);
+            const QList<std::pair<QString, QString>> born{
+                {u"date"_s, key_of_keyed_round()}, {u"hole"_s, u"1"_s},    {u"before"_s, u"101"_s},
+                {u"verges"_s, u"101"_s},           {u"fairval"_s, u"1"_s}, {u"after"_s, QString()}};
             for (const auto& [column, expected] : born)
                 user.same(held(user, column), expected, column);
         });
@@ -112,20 +110,18 @@ private Q_SLOTS:
     void each_button_opens_its_menu()
     {
         QFETCH(bool, french);
-        const QString yes_no = french ? QStringLiteral("Oui,Non") : QStringLiteral("Yes,No");
+        const QString yes_no = french ? u"Oui,Non"_s : u"Yes,No"_s;
         const QList<std::tuple<int, QString, QString>> menus{
-            {2, QStringLiteral("mSticks"), QStringLiteral("D,F2,F3,F4,F5,F6,F7,F8,F9,F10,F11,F12,SW,Pu")},
-            {5, QStringLiteral("mshot"),
-             french ? QStringLiteral("Long,Approche,Putt") : QStringLiteral("Long,Approach,Putt")},
-            {6, QStringLiteral("mon"), yes_no},
-            {7, QStringLiteral("mon"), yes_no},
-            {8, QStringLiteral("mon"), yes_no},
-            {9, QStringLiteral("mon"), yes_no},
-            {10, QStringLiteral("mAlle"),
-             french ? QStringLiteral("Dans l'allé,Gauche,Droite") : QStringLiteral("Fairway,Left,Right")},
-            {11, QStringLiteral("mpen"),
-             french ? QStringLiteral("Eau,Balle perdue,Règlement,Hors limites, ")
-                    : QStringLiteral("Water Hazard,Lost Ball,Rules,Out of Bounds, ")}};
+            {2, u"mSticks"_s, u"D,F2,F3,F4,F5,F6,F7,F8,F9,F10,F11,F12,SW,Pu"_s},
+            {5, u"mshot"_s, french ? u"Long,Approche,Putt"_s : u"Long,Approach,Putt"_s},
+            {6, u"mon"_s, yes_no},
+            {7, u"mon"_s, yes_no},
+            {8, u"mon"_s, yes_no},
+            {9, u"mon"_s, yes_no},
+            {10, u"mAlle"_s, french ? u"Dans l'allé,Gauche,Droite"_s : u"Fairway,Left,Right"_s},
+            {11, u"mpen"_s,
+             french ? u"Eau,Balle perdue,Règlement,Hors limites, "_s
+                    : u"Water Hazard,Lost Ball,Rules,Out of Bounds, "_s}};
         on_the_page(french, [&](hand& user) {
             for (const auto& [column, name, entries] : menus) {
                 user.open_menu(details, 0, column);
@@ -146,12 +142,10 @@ private Q_SLOTS:
         QFETCH(bool, french);
         on_the_page(french, [&](hand& user) {
             tell_shot(user, 0, 3, QString(), 0);
-            user.same(held(user, QStringLiteral("stick")) + held(user, QStringLiteral("stickval")),
-                      QStringLiteral("F33"), QStringLiteral("club"));
-            user.same(user.cell(details, 0, 4), french ? QStringLiteral("Verges") : QStringLiteral("Yards"),
-                      QStringLiteral("unit"));
-            user.same(user.cell(details, 0, 5), QString(), QStringLiteral("kind"));
-            user.same(user.cursor(details), QStringLiteral("0,3"), QStringLiteral("cursor"));
+            user.same(held(user, u"stick"_s) + held(user, u"stickval"_s), u"F33"_s, u"club"_s);
+            user.same(user.cell(details, 0, 4), french ? u"Verges"_s : u"Yards"_s, u"unit"_s);
+            user.same(user.cell(details, 0, 5), QString(), u"kind"_s);
+            user.same(user.cursor(details), u"0,3"_s, u"cursor"_s);
         });
     }
 
@@ -161,18 +155,15 @@ private Q_SLOTS:
         QFETCH(bool, french);
         on_the_page(french, [&](hand& user) {
             tell_shot(user, 0, 14, QString(), 0);
-            user.same(user.cell(details, 0, 2), QStringLiteral("Pu"), QStringLiteral("club"));
-            user.same(user.cell(details, 0, 4), french ? QStringLiteral("Pieds") : QStringLiteral("Feets"),
-                      QStringLiteral("unit"));
-            user.same(user.cell(details, 0, 5) + held(user, QStringLiteral("shot_type_value")),
-                      QStringLiteral("Putt3"), QStringLiteral("kind"));
-            user.same(user.cursor(details), QStringLiteral("0,3"), QStringLiteral("cursor"));
+            user.same(user.cell(details, 0, 2), u"Pu"_s, u"club"_s);
+            user.same(user.cell(details, 0, 4), french ? u"Pieds"_s : u"Feets"_s, u"unit"_s);
+            user.same(user.cell(details, 0, 5) + held(user, u"shot_type_value"_s), u"Putt3"_s, u"kind"_s);
+            user.same(user.cursor(details), u"0,3"_s, u"cursor"_s);
             // Another club after the putter: the kind goes, the feet stay.
             tell_shot(user, 0, 5, QString(), 0);
-            user.same(user.cell(details, 0, 4), french ? QStringLiteral("Pieds") : QStringLiteral("Feets"),
-                      QStringLiteral("unit"));
-            user.same(u'<' + user.cell(details, 0, 5) + u'>' + held(user, QStringLiteral("shot_type_value")),
-                      QStringLiteral("< >0"), QStringLiteral("kind"));
+            user.same(user.cell(details, 0, 4), french ? u"Pieds"_s : u"Feets"_s, u"unit"_s);
+            user.same(u'<' + user.cell(details, 0, 5) + u'>' + held(user, u"shot_type_value"_s), u"< >0"_s,
+                      u"kind"_s);
         });
     }
 
@@ -180,9 +171,9 @@ private Q_SLOTS:
     {
         on_the_page(true, [&](hand& user) {
             tell_shot(user, 0, 3, QString(), 1);
-            user.same(user.cursor(details), QStringLiteral("0,5"), QStringLiteral("cursor"));
+            user.same(user.cursor(details), u"0,5"_s, u"cursor"_s);
             tell_shot(user, 0, 4, QString(), 0);
-            user.same(user.cell(details, 0, 5), QStringLiteral("Long"), QStringLiteral("kind"));
+            user.same(user.cell(details, 0, 5), u"Long"_s, u"kind"_s);
         });
     }
 
@@ -191,12 +182,12 @@ private Q_SLOTS:
         on_the_page(true, [&](hand& user) {
             user.click_cell(details, 0, 3);
             const int before = user.bells();
-            user.type(QStringLiteral("a1b.2-"));
-            user.same(user.bells() - before, 4, QStringLiteral("bells"));
+            user.type(u"a1b.2-"_s);
+            user.same(user.bells() - before, 4, u"bells"_s);
             user.key(Qt::Key_Backspace);
-            user.type(QStringLiteral("5"));
+            user.type(u"5"_s);
             user.key(Qt::Key_Tab);
-            user.same(user.cell(details, 0, 3), QStringLiteral("15"), QStringLiteral("distance"));
+            user.same(user.cell(details, 0, 3), u"15"_s, u"distance"_s);
         });
     }
 
@@ -216,12 +207,11 @@ private Q_SLOTS:
             tell_shot(user, 0, 3, QString(), 1);
             set_put_mode(user, put_mode);
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("60"));
+            user.type(u"60"_s);
             user.key(Qt::Key_Return);
-            user.same(user.cell(details, 0, 3) + user.cell(details, 0, 4), QStringLiteral("60Verges"),
-                      QStringLiteral("distance"));
-            user.same(held(user, QStringLiteral("normal")), QStringLiteral("4"), QStringLiteral("par"));
-            user.same(user.cursor(details), cursor, QStringLiteral("cursor"));
+            user.same(user.cell(details, 0, 3) + user.cell(details, 0, 4), u"60Verges"_s, u"distance"_s);
+            user.same(held(user, u"normal"_s), u"4"_s, u"par"_s);
+            user.same(user.cursor(details), cursor, u"cursor"_s);
         });
     }
 
@@ -239,10 +229,10 @@ private Q_SLOTS:
         on_the_page(true, [&](hand& user) {
             set_put_mode(user, put_mode);
             user.click_cell(details, 0, 3);
-            user.type(QStringLiteral("60"));
-            user.click(QStringLiteral("cmb_courses"));
+            user.type(u"60"_s);
+            user.click(u"cmb_courses"_s);
             user.key(Qt::Key_Escape);
-            user.same(user.cursor(details), cursor, QStringLiteral("cursor"));
+            user.same(user.cursor(details), cursor, u"cursor"_s);
         });
     }
 
@@ -250,10 +240,9 @@ private Q_SLOTS:
     {
         on_the_page(false, [&](hand& user) {
             user.open_menu(details, 0, 10);
-            user.choose_menu_entry(QStringLiteral("ma_3"));
-            user.same(user.cell(details, 0, 10) + held(user, QStringLiteral("fairval")),
-                      QStringLiteral("Right3"), QStringLiteral("position"));
-            user.same(user.cursor(details), QStringLiteral("0,11"), QStringLiteral("cursor"));
+            user.choose_menu_entry(u"ma_3"_s);
+            user.same(user.cell(details, 0, 10) + held(user, u"fairval"_s), u"Right3"_s, u"position"_s);
+            user.same(user.cursor(details), u"0,11"_s, u"cursor"_s);
         });
     }
 
@@ -273,14 +262,14 @@ private Q_SLOTS:
         QFETCH(QString, kept);
         on_the_page(true, [&](hand& user) {
             user.open_menu(details, 0, 11);
-            user.choose_menu_entry(QStringLiteral("mp_2"));
+            user.choose_menu_entry(u"mp_2"_s);
             user.open_menu(details, 0, 11);
-            user.choose_menu_entry(QStringLiteral("mp_%1").arg(entry));
-            user.same(QStringList{user.cell(details, 0, 11), held(user, QStringLiteral("penval")),
-                                  held(user, QStringLiteral("addpen"))}
-                          .join(u'/'),
-                      kept, QStringLiteral("penalty"));
-            user.same(user.focus(), QStringLiteral("CommandSuiv"), QStringLiteral("focus"));
+            user.choose_menu_entry(u"mp_%1"_s.arg(entry));
+            user.same(
+                QStringList{user.cell(details, 0, 11), held(user, u"penval"_s), held(user, u"addpen"_s)}.join(
+                    u'/'),
+                kept, u"penalty"_s);
+            user.same(user.focus(), u"CommandSuiv"_s, u"focus"_s);
         });
     }
 
@@ -299,14 +288,14 @@ private Q_SLOTS:
         QFETCH(QString, field);
         on_the_page(false, [&](hand& user) {
             user.open_menu(details, 0, column);
-            user.choose_menu_entry(QStringLiteral("mb_0"));
-            user.same(user.cell(details, 0, column), QStringLiteral("Yes"), QStringLiteral("cell"));
-            user.same(held(user, field), QStringLiteral("true"), field);
-            user.same(user.cursor(details), QStringLiteral("0,%1").arg(column + 1), QStringLiteral("cursor"));
+            user.choose_menu_entry(u"mb_0"_s);
+            user.same(user.cell(details, 0, column), u"Yes"_s, u"cell"_s);
+            user.same(held(user, field), u"true"_s, field);
+            user.same(user.cursor(details), u"0,%1"_s.arg(column + 1), u"cursor"_s);
             user.click_cell(details, 0, column);
-            user.type(QStringLiteral("n"));
-            user.same(user.cell(details, 0, column), QStringLiteral("No"), QStringLiteral("cell"));
-            user.same(held(user, field), QStringLiteral("false"), field);
+            user.type(u"n"_s);
+            user.same(user.cell(details, 0, column), u"No"_s, u"cell"_s);
+            user.same(held(user, field), u"false"_s, field);
         });
     }
 
@@ -316,8 +305,8 @@ private Q_SLOTS:
             user.click_cell(details, 0, 5);
             const int before = user.bells();
             user.key(Qt::Key_Backspace);
-            user.same(user.bells() - before, 1, QStringLiteral("bell"));
-            user.check(!user.exists(QStringLiteral("cell_being_typed")), QStringLiteral("no box"));
+            user.same(user.bells() - before, 1, u"bell"_s);
+            user.check(!user.exists(u"cell_being_typed"_s), u"no box"_s);
         });
     }
 
@@ -326,19 +315,19 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            user.check(store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save before"));
+            user.check(store.frame.enabled(u"B4"_s), u"Save before"_s);
             go_to_detailed_page(user);
-            user.check(store.frame.locked, QStringLiteral("the menu is locked"));
-            user.check(!store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save on the page"));
-            user.check(!store.frame.enabled(QStringLiteral("B5")), QStringLiteral("Close on the page"));
+            user.check(store.frame.locked, u"the menu is locked"_s);
+            user.check(!store.frame.enabled(u"B4"_s), u"Save on the page"_s);
+            user.check(!store.frame.enabled(u"B5"_s), u"Close on the page"_s);
             go_to_quick_page(user);
-            user.check(store.frame.enabled(QStringLiteral("B4")), QStringLiteral("Save after"));
+            user.check(store.frame.enabled(u"B4"_s), u"Save after"_s);
             go_to_detailed_page(user);
-            tell_shot(user, 0, 1, QStringLiteral("0"), 1);
+            tell_shot(user, 0, 1, u"0"_s, 1);
             accept(user);
         });
-        QVERIFY(store.frame.enabled(QStringLiteral("B4")));
-        QVERIFY(store.frame.enabled(QStringLiteral("B5")));
+        QVERIFY(store.frame.enabled(u"B4"_s));
+        QVERIFY(store.frame.enabled(u"B5"_s));
     }
 };
 

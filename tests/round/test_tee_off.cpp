@@ -10,10 +10,11 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString dialog = QStringLiteral("f_get_date");
+const QString dialog = u"f_get_date"_s;
 
 QDate chosen_date(hand& user)
 {
@@ -29,7 +30,7 @@ void double_click_date(hand& user, const QDate& date)
     user.look([date] {
         QCalendarWidget& calendar = *dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date;
         calendar.setSelectedDate(date);
-        auto* days = calendar.findChild<QTableView*>(QStringLiteral("qt_calendar_calendarview"));
+        auto* days = calendar.findChild<QTableView*>(u"qt_calendar_calendarview"_s);
         const QPoint where = days->visualRect(days->currentIndex()).center();
         calendar.setSelectedDate(date.addDays(1));
         QTest::mouseClick(days->viewport(), Qt::LeftButton, Qt::NoModifier, where);
@@ -39,9 +40,8 @@ void double_click_date(hand& user, const QDate& date)
 
 int rows_in(const round_store& store)
 {
-    return store.number(
-        QStringLiteral("select (select count(*) from games) + (select count(*) from games2) + "
-                       "(select count(*) from cost)"));
+    return store.number(u"select (select count(*) from games) + (select count(*) from games2) + "
+                        u"(select count(*) from cost)"_s);
 }
 
 }  // namespace
@@ -59,19 +59,15 @@ private Q_SLOTS:
         in_new_round([&](hand& user) {
             user.wait_for_window(dialog);
             user.same(user.title(dialog),
-                      french ? QStringLiteral("Date et heure du coup de départ")
-                             : QStringLiteral("Tee Off Date and Time"),
-                      QStringLiteral("title"));
-            user.same(user.text(QStringLiteral("Command1")),
-                      french ? QStringLiteral("Annuler") : QStringLiteral("Cancel"),
-                      QStringLiteral("button"));
-            user.same(user.text(QStringLiteral("OKbut")), QStringLiteral("OK"), QStringLiteral("button"));
-            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("12"), QStringLiteral("hours"));
-            user.same(user.text(QStringLiteral("Text2")), QStringLiteral("00"), QStringLiteral("minutes"));
-            user.same(user.text(QStringLiteral("Text3")), QStringLiteral("00"), QStringLiteral("seconds"));
-            user.same(user.focus(), QStringLiteral("OKbut"), QStringLiteral("focus"));
-            user.check(chosen_date(user) == QDate::currentDate(), QStringLiteral("today is chosen"));
-            user.click(QStringLiteral("Command1"));
+                      french ? u"Date et heure du coup de départ"_s : u"Tee Off Date and Time"_s, u"title"_s);
+            user.same(user.text(u"Command1"_s), french ? u"Annuler"_s : u"Cancel"_s, u"button"_s);
+            user.same(user.text(u"OKbut"_s), u"OK"_s, u"button"_s);
+            user.same(user.text(u"Text1"_s), u"12"_s, u"hours"_s);
+            user.same(user.text(u"Text2"_s), u"00"_s, u"minutes"_s);
+            user.same(user.text(u"Text3"_s), u"00"_s, u"seconds"_s);
+            user.same(user.focus(), u"OKbut"_s, u"focus"_s);
+            user.check(chosen_date(user) == QDate::currentDate(), u"today is chosen"_s);
+            user.click(u"Command1"_s);
         });
     }
 
@@ -120,19 +116,17 @@ private Q_SLOTS:
         store.add_two_courses();
         in_new_round([&](hand& user) {
             tee_off(user, hours, minutes, seconds);
-            user.same(user.text(QStringLiteral("text_3")), time, QStringLiteral("time"));
-            user.same(user.text(QStringLiteral("text_2")),
-                      QLocale::system().toString(QDate(2024, 6, 14), QLocale::ShortFormat),
-                      QStringLiteral("date"));
-            user.check(!user.enabled(QStringLiteral("b_getdat")), QStringLiteral("no other date"));
+            user.same(user.text(u"text_3"_s), time, u"time"_s);
+            user.same(user.text(u"text_2"_s),
+                      QLocale::system().toString(QDate(2024, 6, 14), QLocale::ShortFormat), u"date"_s);
+            user.check(!user.enabled(u"b_getdat"_s), u"no other date"_s);
             with_round(user, [&](f_new_round& window) {
                 QCOMPARE(window.date_value, key);
                 QVERIFY(!window.get_date_canceled);
             });
             accept(user);
         });
-        for (const QString& table :
-             {QStringLiteral("games"), QStringLiteral("games2"), QStringLiteral("cost")})
+        for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s})
             QCOMPARE(store.at(table, 0), key);
     }
 
@@ -144,15 +138,14 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) { accept(user); });
         in_new_round([](hand& user) {
-            fill_tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("0"));
+            fill_tee_off(user, u"9"_s, u"30"_s, u"0"_s);
             user.answer(refusal_of_moment());
             user.wait_for_window(dialog);
-            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("9"), QStringLiteral("hours"));
-            tee_off(user, QStringLiteral("9"), QStringLiteral("30"), QStringLiteral("1"));
+            user.same(user.text(u"Text1"_s), u"9"_s, u"hours"_s);
+            tee_off(user, u"9"_s, u"30"_s, u"1"_s);
             accept(user);
         });
-        QCOMPARE(store.text(QStringLiteral("select group_concat(date) from games")),
-                 QStringLiteral("20240614093000,20240614093001"));
+        QCOMPARE(store.text(u"select group_concat(date) from games"_s), u"20240614093000,20240614093001"_s);
     }
 
     void no_at_the_question_leaves_the_dialog_as_it_was()
@@ -160,16 +153,16 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_new_round([](hand& user) {
-            fill_tee_off(user, QStringLiteral("8"), QStringLiteral("15"), QString());
+            fill_tee_off(user, u"8"_s, u"15"_s, QString());
             user.answer(question_on_tee_off(), QMessageBox::No);
             user.wait_for_window(dialog);
-            user.same(user.text(QStringLiteral("Text1")), QStringLiteral("8"), QStringLiteral("hours"));
-            user.same(user.text(QStringLiteral("Text3")), QString(), QStringLiteral("seconds"));
-            user.check(chosen_date(user) == QDate(2024, 6, 14), QStringLiteral("the date stays"));
+            user.same(user.text(u"Text1"_s), u"8"_s, u"hours"_s);
+            user.same(user.text(u"Text3"_s), QString(), u"seconds"_s);
+            user.check(chosen_date(user) == QDate(2024, 6, 14), u"the date stays"_s);
             user.look([] {
                 QCOMPARE(dynamic_cast<f_new_round&>(*open_form(u"f_new_round")).date_value, QString());
             });
-            user.click(QStringLiteral("Command1"));
+            user.click(u"Command1"_s);
         });
         QCOMPARE(rows_in(store), 0);
     }
@@ -190,7 +183,7 @@ private Q_SLOTS:
         in_new_round([&](hand& user) {
             user.wait_for_window(dialog);
             if (road == 0)
-                user.click(QStringLiteral("Command1"));
+                user.click(u"Command1"_s);
             else if (road == 1)
                 user.key(Qt::Key_Escape);
             else
@@ -211,17 +204,15 @@ private Q_SLOTS:
         store.add_two_courses();
         in_new_round([](hand& user) {
             user.wait_for_window(dialog);
-            user.click(QStringLiteral("Text1"));
+            user.click(u"Text1"_s);
             double_click_date(user, QDate(2024, 6, 20));
-            user.same(user.focus(), QStringLiteral("OKbut"), QStringLiteral("focus"));
-            user.check(chosen_date(user) == QDate(2024, 6, 20), QStringLiteral("the date is chosen"));
+            user.same(user.focus(), u"OKbut"_s, u"focus"_s);
+            user.check(chosen_date(user) == QDate(2024, 6, 20), u"the date is chosen"_s);
             user.wait_for_window(dialog);
             user.key(Qt::Key_Return);
             user.answer(question_on_tee_off(), QMessageBox::Yes);
             user.wait_for_window(round_window());
-            with_round(user, [](f_new_round& window) {
-                QCOMPARE(window.date_value, QStringLiteral("20240620120000"));
-            });
+            with_round(user, [](f_new_round& window) { QCOMPARE(window.date_value, u"20240620120000"_s); });
             discard(user);
         });
     }
@@ -232,8 +223,7 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             user.look([] { QCOMPARE(plain(Main_module::round_key_count), 0); });
-            user.check(user.text(QStringLiteral("text_3")) == u"09:30:00",
-                       QStringLiteral("the time is shown"));
+            user.check(user.text(u"text_3"_s) == u"09:30:00", u"the time is shown"_s);
             discard(user);
         });
         QCOMPARE(plain(Main_module::round_key_count), 0);

@@ -7,6 +7,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int clubs = 14;
@@ -14,23 +16,20 @@ constexpr int clubs = 14;
 QString club_word(int club)
 {
     if (club == 1)
-        return QStringLiteral("D");
+        return u"D"_s;
     if (club == 13)
-        return QStringLiteral("SW");
-    return club == clubs ? QStringLiteral("Pu") : QStringLiteral("F%1").arg(club);
+        return u"SW"_s;
+    return club == clubs ? u"Pu"_s : u"F%1"_s.arg(club);
 }
 
 QString kind_word(int kind)
 {
-    return QStringList{QString(), QStringLiteral("Long"),
-                       is_french ? QStringLiteral("Approche") : QStringLiteral("Approach"),
-                       QStringLiteral("Putt")}
-        .at(kind);
+    return QStringList{QString(), u"Long"_s, is_french ? u"Approche"_s : u"Approach"_s, u"Putt"_s}.at(kind);
 }
 
 QString shown(const QVariant& value)
 {
-    return value.isNull() ? QStringLiteral("-") : value.toString();
+    return value.isNull() ? u"-"_s : value.toString();
 }
 
 QString marks(const std::vector<QVariant>& row)
@@ -39,9 +38,8 @@ QString marks(const std::vector<QVariant>& row)
     if (row[10].toInt() != 1 && row[8].toInt() != 3)
         marks += u" fairway=" + row[10].toString();
     if (row[11].toInt() != 0)
-        marks += QStringLiteral(" penalty=%1+%2").arg(row[11].toInt()).arg(row[12].toInt());
-    const QStringList words{QStringLiteral(" missed"), QStringLiteral(" sand"), QStringLiteral(" zero"),
-                            QStringLiteral(" beyond"), QStringLiteral(" cal")};
+        marks += u" penalty=%1+%2"_s.arg(row[11].toInt()).arg(row[12].toInt());
+    const QStringList words{u" missed"_s, u" sand"_s, u" zero"_s, u" beyond"_s, u" cal"_s};
     for (int i = 0; i < words.size(); ++i) {
         if (row[static_cast<std::size_t>(13 + i)].toInt() != 0)
             marks += words[i];
@@ -62,33 +60,31 @@ QString figures(const round_store& store, const QString& table, const QList<int>
 void name_the_clubs(const round_store& store)
 {
     for (int club = 1; club <= clubs; ++club)
-        store.store.write(
-            QStringLiteral("update sticknames set club_%1 = '%2'").arg(club).arg(club_word(club)));
+        store.store.write(u"update sticknames set club_%1 = '%2'"_s.arg(club).arg(club_word(club)));
 }
 
 void go_to_detailed_page(hand& user)
 {
-    user.click_tab(QStringLiteral("TabStrip2"), 2);
-    user.check(user.visible(details), QStringLiteral("the grid is in sight"));
+    user.click_tab(u"TabStrip2"_s, 2);
+    user.check(user.visible(details), u"the grid is in sight"_s);
 }
 
 void go_to_quick_page(hand& user)
 {
-    user.click_tab(QStringLiteral("TabStrip2"), 1);
+    user.click_tab(u"TabStrip2"_s, 1);
 }
 
 QString stored_shots(const round_store& store, int hole)
 {
     const auto rows = store.store.rows(
-        QStringLiteral("select shot, before, after, unit, stick, stickval, shot_type, date, shot_type_value, "
-                       "faireway, fairval, penval, addpen, missed, ts, dz, beyong_hole, cal from Stat_rounds "
-                       "where hole = %1 order by rowid")
-            .arg(hole));
+        u"select shot, before, after, unit, stick, stickval, shot_type, date, shot_type_value, "
+        u"faireway, fairval, penval, addpen, missed, ts, dz, beyong_hole, cal from Stat_rounds "
+        u"where hole = %1 order by rowid"_s.arg(hole));
     QStringList lines;
     for (const auto& row : rows) {
-        lines << QStringLiteral("%1 %2>%3 %4 %5/%6 %7/%8")
-                         .arg(shown(row[0]), shown(row[1]), shown(row[2]), shown(row[3]), shown(row[4]),
-                              shown(row[5]), shown(row[6]), shown(row[8])) +
+        lines << u"%1 %2>%3 %4 %5/%6 %7/%8"_s.arg(shown(row[0]), shown(row[1]), shown(row[2]), shown(row[3]),
+                                                  shown(row[4]), shown(row[5]), shown(row[6]),
+                                                  shown(row[8])) +
                      marks(row);
     }
     return lines.join(u'\n');
@@ -96,23 +92,20 @@ QString stored_shots(const round_store& store, int hole)
 
 void add_shot(const round_store& store, int hole, int shot, const QString& values)
 {
-    store.store.write(QStringLiteral("insert into Stat_rounds (date, hole, shot) values ('%1', %2, %3)")
-                          .arg(key_of_keyed_round())
-                          .arg(hole)
-                          .arg(shot));
-    store.store.write(QStringLiteral("update Stat_rounds set %1 where hole = %2 and shot = %3")
-                          .arg(values)
-                          .arg(hole)
-                          .arg(shot));
+    store.store.write(
+        u"insert into Stat_rounds (date, hole, shot) values ('%1', %2, %3)"_s.arg(key_of_keyed_round())
+            .arg(hole)
+            .arg(shot));
+    store.store.write(
+        u"update Stat_rounds set %1 where hole = %2 and shot = %3"_s.arg(values).arg(hole).arg(shot));
 }
 
 void add_told_shot(const round_store& store, int hole, int shot, int club, int after, const QString& unit,
                    int kind)
 {
     add_shot(store, hole, shot,
-             QStringLiteral("stickval = %1, stick = '%2', after = %3, unit = '%4', shot_type_value = %5, "
-                            "shot_type = '%6', fairval = 1, verges = %7, before = 0")
-                 .arg(club)
+             u"stickval = %1, stick = '%2', after = %3, unit = '%4', shot_type_value = %5, "
+             u"shot_type = '%6', fairval = 1, verges = %7, before = 0"_s.arg(club)
                  .arg(club_word(club))
                  .arg(after)
                  .arg(unit)
@@ -124,7 +117,7 @@ void add_told_shot(const round_store& store, int hole, int shot, int club, int a
 void tell_shot(hand& user, int row, int club, const QString& distance, int kind)
 {
     user.open_menu(details, row, 2);
-    user.choose_menu_entry(QStringLiteral("ms1_%1").arg(club));
+    user.choose_menu_entry(u"ms1_%1"_s.arg(club));
     if (!distance.isEmpty()) {
         user.type(distance);
         user.key(Qt::Key_Return);
@@ -132,19 +125,18 @@ void tell_shot(hand& user, int row, int club, const QString& distance, int kind)
     if (kind == 0)
         return;
     user.open_menu(details, row, 5);
-    user.choose_menu_entry(QStringLiteral("mshots_%1").arg(kind));
+    user.choose_menu_entry(u"mshots_%1"_s.arg(kind));
 }
 
 QString stored_figures(const round_store& store, int hole)
 {
     namespace at = round_columns;
-    return figures(store, QStringLiteral("games"),
-                   {at::long_h(hole), at::approach_h(hole), at::putt_h(hole)}) +
-           u' ' + figures(store, QStringLiteral("games2"), {at::fairway_h(hole), at::sand_h(hole)}) + u' ' +
-           store.at(QStringLiteral("games"), at::missed_h(hole)) + u' ' +
-           store.at(QStringLiteral("games2"), at::recovery_h(hole)) + u' ' +
+    return figures(store, u"games"_s, {at::long_h(hole), at::approach_h(hole), at::putt_h(hole)}) + u' ' +
+           figures(store, u"games2"_s, {at::fairway_h(hole), at::sand_h(hole)}) + u' ' +
+           store.at(u"games"_s, at::missed_h(hole)) + u' ' + store.at(u"games2"_s, at::recovery_h(hole)) +
+           u' ' +
            figures(
-               store, QStringLiteral("games"),
+               store, u"games"_s,
                {at::pen_water_h(hole), at::pen_lost_h(hole), at::pen_rule_h(hole), at::pen_bounds_h(hole)});
 }
 
@@ -153,7 +145,7 @@ QString stored_putts(const round_store& store, int hole)
     QList<int> ordinals;
     for (int putt = 1; putt <= round_columns::putts_kept; ++putt)
         ordinals << round_columns::putt_len(hole, putt);
-    return figures(store, QStringLiteral("games2"), ordinals);
+    return figures(store, u"games2"_s, ordinals);
 }
 
 golfer_store::golfer_store(bool french) : store(french)
@@ -164,23 +156,23 @@ golfer_store::golfer_store(bool french) : store(french)
 
 int golfer_store::shots(int hole) const
 {
-    return store.number(QStringLiteral("select count(*) from Stat_rounds where hole = %1").arg(hole));
+    return store.number(u"select count(*) from Stat_rounds where hole = %1"_s.arg(hole));
 }
 
 void tell_hole(hand& user)
 {
-    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
-    user.click(QStringLiteral("CommandSuiv"));
-    tell_shot(user, 1, 9, QStringLiteral("10"), 2);
-    user.click(QStringLiteral("CommandSuiv"));
-    tell_shot(user, 2, 14, QStringLiteral("4"), 0);
+    tell_shot(user, 0, 1, u"60"_s, 1);
+    user.click(u"CommandSuiv"_s);
+    tell_shot(user, 1, 9, u"10"_s, 2);
+    user.click(u"CommandSuiv"_s);
+    tell_shot(user, 2, 14, u"4"_s, 0);
 }
 
 void leave_second_shot_open(hand& user)
 {
-    tell_shot(user, 0, 1, QStringLiteral("60"), 1);
-    user.click(QStringLiteral("CommandSuiv"));
-    tell_shot(user, 1, 9, QStringLiteral("10"), 0);
+    tell_shot(user, 0, 1, u"60"_s, 1);
+    user.click(u"CommandSuiv"_s);
+    tell_shot(user, 1, 9, u"10"_s, 0);
 }
 
 expected_box refusal_of_shot(const QString& behind)
@@ -188,14 +180,14 @@ expected_box refusal_of_shot(const QString& behind)
     return {in_language(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",
                         u"Please indicate a golf club and the type of shot (VRD) for the shot") +
                 behind,
-            QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok};
+            QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok};
 }
 
 void keep_picture(hand& user, const QString& name)
 {
     const QString folder = qEnvironmentVariable("VERDANE_PICTURES");
     if (!folder.isEmpty())
-        user.picture(round_window()).save(QStringLiteral("%1/%2.png").arg(folder, name));
+        user.picture(round_window()).save(u"%1/%2.png"_s.arg(folder, name));
 }
 
 }  // namespace verdane::testing

@@ -9,10 +9,12 @@
 /// What the tests of the detailed page share.
 namespace verdane::testing {
 
-inline const QString details = QStringLiteral("details");
-inline const QString hole_tabs = QStringLiteral("TabStrip1");
-inline const QString ok_button = QStringLiteral("Command1_4");
-inline const QString cancel_button = QStringLiteral("Command1_2");
+using namespace Qt::StringLiterals;
+
+inline const QString details = u"details"_s;
+inline const QString hole_tabs = u"TabStrip1"_s;
+inline const QString ok_button = u"Command1_4"_s;
+inline const QString cancel_button = u"Command1_2"_s;
 
 /// "D" for club 1, "F2" to "F12", "SW", and "Pu" for the putter.
 void name_the_clubs(const round_store& store);
@@ -53,8 +55,8 @@ struct golfer_store {
 /// Drive, approach and the first putt of the hole on the page; the second putt is open.
 void tell_hole(hand& user);
 /// What that hole comes to.
-inline const QString told_hole = QStringLiteral("1 1 2 2 0 0 0 0 0 0 0");
-inline const QString told_putts = QStringLiteral("30 4 0 0 0 0");
+inline const QString told_hole = u"1 1 2 2 0 0 0 0 0 0 0"_s;
+inline const QString told_putts = u"30 4 0 0 0 0"_s;
 
 /// Tells a first shot and a second one that lacks its kind.
 void leave_second_shot_open(hand& user);

@@ -4,6 +4,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int16 number(const QString& text)
@@ -46,7 +48,7 @@ hole_shot shot_of(const QString& line)
 
 QString shown(const std::optional<int16>& figure)
 {
-    return figure ? QString::number(plain(*figure)) : QStringLiteral("-");
+    return figure ? QString::number(plain(*figure)) : u"-"_s;
 }
 
 }  // namespace
@@ -63,10 +65,9 @@ QString lines_of(const shot_list& rows)
 {
     QStringList lines;
     for (const hole_shot& row : rows)
-        lines << QStringLiteral("%1: %2>%3 %4%5")
-                     .arg(shown(row.shot), shown(row.before), shown(row.after),
-                          row.unit.isEmpty() ? QStringLiteral("-") : row.unit,
-                          row.cal ? QStringLiteral(" cal") : QString());
+        lines << u"%1: %2>%3 %4%5"_s.arg(shown(row.shot), shown(row.before), shown(row.after),
+                                         row.unit.isEmpty() ? u"-"_s : row.unit,
+                                         row.cal ? u" cal"_s : QString());
     return lines.join(u'\n');
 }
 

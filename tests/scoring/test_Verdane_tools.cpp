@@ -7,6 +7,7 @@
 
 using namespace verdane;
 using namespace verdane::Verdane_tools;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 
 class test_Verdane_tools : public QObject {
@@ -126,23 +127,23 @@ private Q_SLOTS:
 
     void a_key_is_free_until_a_round_has_it()
     {
-        const QString key = QStringLiteral("20030614093000");
+        const QString key = u"20030614093000"_s;
         QVERIFY(key_free(key));
-        Main_module::append_round_key(QStringLiteral("20030614093001"));
+        Main_module::append_round_key(u"20030614093001"_s);
         QVERIFY(key_free(key));
         Main_module::append_round_key(key);
-        Main_module::append_round_key(QStringLiteral("20030614093002"));
+        Main_module::append_round_key(u"20030614093002"_s);
         QVERIFY(!key_free(key));
-        QVERIFY(!key_free(QStringLiteral(" 20030614093000 ")));
+        QVERIFY(!key_free(u" 20030614093000 "_s));
     }
 
     void the_place_behind_the_last_key_is_looked_at_too()
     {
         QVERIFY(!key_free(u""));
-        Main_module::round_keys[0] = QStringLiteral("20030614093000");
+        Main_module::round_keys[0] = u"20030614093000"_s;
         QVERIFY(!key_free(u"20030614093000"));
         Main_module::round_keys[0].clear();
-        Main_module::round_keys[1] = QStringLiteral("20030614093000");
+        Main_module::round_keys[1] = u"20030614093000"_s;
         QVERIFY(key_free(u"20030614093000"));
     }
 
@@ -151,7 +152,7 @@ private Q_SLOTS:
         for (int i = 0; i < 365; ++i)
             Main_module::append_round_key(QString::number(i));
         QVERIFY(key_free(u"20030614093000"));
-        Main_module::append_round_key(QStringLiteral("last"));
+        Main_module::append_round_key(u"last"_s);
         QVERIFY(failure_of([] { key_free(u"20030614093000"); }) == failure_kind::subscript);
         QVERIFY(failure_of([] { key_free(u"0"); }) == failure_kind::subscript);
     }
@@ -173,15 +174,15 @@ private Q_SLOTS:
                                                            << "ba" << 65 + 66 + 67 + 3 + 1 + 2;
         QTest::newRow("a blank inside counts") << "a b"
                                                << "" << 65 + 32 + 66 + 3 + 3;
-        QTest::newRow("accent") << QStringLiteral("é") << "" << 0xC9 + 2;
-        QTest::newRow("middle of the code page") << QStringLiteral("œ") << "" << 0x8C + 2;
-        QTest::newRow("capital from the middle") << QStringLiteral("ÿ") << "" << 0x9F + 2;
-        QTest::newRow("euro") << QStringLiteral("€") << "" << 0x80 + 2;
-        QTest::newRow("no single capital") << QStringLiteral("ß") << "" << 0xDF + 2;
-        QTest::newRow("micro sign") << QStringLiteral("µ") << "" << 0xB5 + 2;
-        QTest::newRow("hard space") << QStringLiteral("\u00A0") << "" << 0xA0 + 2;
-        QTest::newRow("last of the code page") << QStringLiteral("þ") << "" << 0xDE + 2;
-        QTest::newRow("not in the code page") << QStringLiteral("Ω") << "" << '?' + 2;
+        QTest::newRow("accent") << u"é"_s << "" << 0xC9 + 2;
+        QTest::newRow("middle of the code page") << u"œ"_s << "" << 0x8C + 2;
+        QTest::newRow("capital from the middle") << u"ÿ"_s << "" << 0x9F + 2;
+        QTest::newRow("euro") << u"€"_s << "" << 0x80 + 2;
+        QTest::newRow("no single capital") << u"ß"_s << "" << 0xDF + 2;
+        QTest::newRow("micro sign") << u"µ"_s << "" << 0xB5 + 2;
+        QTest::newRow("hard space") << u"\u00A0"_s << "" << 0xA0 + 2;
+        QTest::newRow("last of the code page") << u"þ"_s << "" << 0xDE + 2;
+        QTest::newRow("not in the code page") << u"Ω"_s << "" << '?' + 2;
     }
 
     void two_names_make_a_number()
@@ -194,11 +195,11 @@ private Q_SLOTS:
 
     void both_names_are_left_trimmed_and_in_capitals()
     {
-        QString first = QStringLiteral(" Côté ");
-        QString second = QStringLiteral("Éric ");
+        QString first = u" Côté "_s;
+        QString second = u"Éric "_s;
         name_checksum(first, second);
-        QCOMPARE(first, QStringLiteral("CÔTÉ"));
-        QCOMPARE(second, QStringLiteral("ÉRIC"));
+        QCOMPARE(first, u"CÔTÉ"_s);
+        QCOMPARE(second, u"ÉRIC"_s);
     }
 };
 

@@ -5,6 +5,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 
 namespace {
@@ -20,7 +21,7 @@ QString members(const hole_figures& f, int16 par)
 {
     QStringList found;
     for (const selector_row& row : panel_selectors) {
-        if (hole_cell(row.selector, f, par) == QStringLiteral("1"))
+        if (hole_cell(row.selector, f, par) == u"1"_s)
             found += QString::number(row.selector);
     }
     return found.join(u' ');
@@ -78,17 +79,17 @@ private Q_SLOTS:
     {
         const hole_figures unplayed = played(0, 0, 0);
         for (const selector_row& row : panel_selectors)
-            QCOMPARE(hole_cell(row.selector, unplayed, 4), QStringLiteral(" "));
+            QCOMPARE(hole_cell(row.selector, unplayed, 4), u" "_s);
     }
 
     void the_par_3_cell_stays_empty_below_par_3()
     {
         for (const int par : {0, 1, 2})
             QCOMPARE(hole_cell(12, played(1, 0, 2), par), QString());
-        QCOMPARE(hole_cell(12, played(1, 0, 2), 3), QStringLiteral("1"));
-        QCOMPARE(hole_cell(12, played(1, 0, 1), 3), QStringLiteral(" "));
-        QCOMPARE(hole_cell(12, played(1, 0, 2), 4), QStringLiteral(" "));
-        QCOMPARE(hole_cell(13, played(1, 0, 2), 2), QStringLiteral(" "));
+        QCOMPARE(hole_cell(12, played(1, 0, 2), 3), u"1"_s);
+        QCOMPARE(hole_cell(12, played(1, 0, 1), 3), u" "_s);
+        QCOMPARE(hole_cell(12, played(1, 0, 2), 4), u" "_s);
+        QCOMPARE(hole_cell(13, played(1, 0, 2), 2), u" "_s);
     }
 
     void a_class_that_does_not_exist_is_empty_data()
@@ -143,8 +144,8 @@ private Q_SLOTS:
     {
         // Strokes that cancel out: the gross is 0, so only the putts are looked at.
         const hole_figures cancelled = played(-1, 0, 1);
-        QCOMPARE(hole_cell(26, cancelled, 4), QStringLiteral("1"));
-        QCOMPARE(hole_cell(27, cancelled, 4), QStringLiteral(" "));
+        QCOMPARE(hole_cell(26, cancelled, 4), u"1"_s);
+        QCOMPARE(hole_cell(27, cancelled, 4), u" "_s);
     }
 
     void the_panel_asks_for_1_then_6_to_28()
@@ -173,36 +174,30 @@ private Q_SLOTS:
         const auto row = [](int selector, int box, const QString& french, const QString& english) {
             QTest::addRow("class %d", selector) << selector << box << french << english;
         };
-        row(1, 20, QStringLiteral("Nombre de normales :"), QStringLiteral("Number of Par :"));
-        row(6, 15, QStringLiteral("Vert en coup non réglementaire :"),
-            QStringLiteral("Green not in Regulation :"));
-        row(7, 14, QStringLiteral("1 roulés  non réglementaire :"),
-            QStringLiteral("1 Putt not in Regulation :"));
-        row(8, 13, QStringLiteral("2 roulés  non réglementaire :"),
-            QStringLiteral("2 Putts not in Regulation :"));
-        row(9, 12, QStringLiteral("3 roulés et +  non réglementaire :"),
-            QStringLiteral("3+ Putts not in regulation :"));
-        row(10, 23, QStringLiteral("Normales non réglementaires :"), QStringLiteral("Up and Down :"));
-        row(11, 22, QStringLiteral("Approches callés :"), QStringLiteral("Chip in :"));
-        row(12, 21, QStringLiteral("Nombre de normale  3 :"), QStringLiteral("Number of Par 3"));
-        row(13, 32, QStringLiteral("Nombre de normales  4 :"), QStringLiteral("Number of Par 4 :"));
-        row(14, 31, QStringLiteral("Nombre de normales  5 :"), QStringLiteral("Number of Par 5 :"));
-        row(15, 30, QStringLiteral("Moyenne de normales  3 :"), QStringLiteral("Average Par 3 :"));
-        row(16, 29, QStringLiteral("Moyenne de normale  4 :"), QStringLiteral("Average Par 4 :"));
-        row(17, 28, QStringLiteral("Moyenne de normales  5 :"), QStringLiteral("Average Par 5 :"));
-        row(18, 27, QStringLiteral("Trous d’un coup :"), QStringLiteral("Hole in One :"));
-        row(19, 26, QStringLiteral("Albatros :"), QStringLiteral("Double eagle :"));
-        row(20, 25, QStringLiteral("Aigles :"), QStringLiteral("Eagle"));
-        row(21, 24, QStringLiteral("Oiselets :"), QStringLiteral("Birdie"));
-        row(22, 35, QStringLiteral("Bogueys :"), QStringLiteral("Bogey :"));
-        row(23, 34, QStringLiteral("Doubles :"), QStringLiteral("Double :"));
-        row(24, 33, QStringLiteral("Triples et  +  :"), QStringLiteral("Triple+  :"));
-        row(25, 19, QStringLiteral("Verts en coup réglementaires :"),
-            QStringLiteral("Green in Regulation :"));
-        row(26, 18, QStringLiteral("1 roulé  réglementaire :"), QStringLiteral("1 Putt in Regulation :"));
-        row(27, 17, QStringLiteral("2 roulés  réglementaires :"), QStringLiteral("2 Putts in Regulation :"));
-        row(28, 16, QStringLiteral("3 roulés  et + réglementaires :"),
-            QStringLiteral("3+ Putts in Regulation :"));
+        row(1, 20, u"Nombre de normales :"_s, u"Number of Par :"_s);
+        row(6, 15, u"Vert en coup non réglementaire :"_s, u"Green not in Regulation :"_s);
+        row(7, 14, u"1 roulés  non réglementaire :"_s, u"1 Putt not in Regulation :"_s);
+        row(8, 13, u"2 roulés  non réglementaire :"_s, u"2 Putts not in Regulation :"_s);
+        row(9, 12, u"3 roulés et +  non réglementaire :"_s, u"3+ Putts not in regulation :"_s);
+        row(10, 23, u"Normales non réglementaires :"_s, u"Up and Down :"_s);
+        row(11, 22, u"Approches callés :"_s, u"Chip in :"_s);
+        row(12, 21, u"Nombre de normale  3 :"_s, u"Number of Par 3"_s);
+        row(13, 32, u"Nombre de normales  4 :"_s, u"Number of Par 4 :"_s);
+        row(14, 31, u"Nombre de normales  5 :"_s, u"Number of Par 5 :"_s);
+        row(15, 30, u"Moyenne de normales  3 :"_s, u"Average Par 3 :"_s);
+        row(16, 29, u"Moyenne de normale  4 :"_s, u"Average Par 4 :"_s);
+        row(17, 28, u"Moyenne de normales  5 :"_s, u"Average Par 5 :"_s);
+        row(18, 27, u"Trous d’un coup :"_s, u"Hole in One :"_s);
+        row(19, 26, u"Albatros :"_s, u"Double eagle :"_s);
+        row(20, 25, u"Aigles :"_s, u"Eagle"_s);
+        row(21, 24, u"Oiselets :"_s, u"Birdie"_s);
+        row(22, 35, u"Bogueys :"_s, u"Bogey :"_s);
+        row(23, 34, u"Doubles :"_s, u"Double :"_s);
+        row(24, 33, u"Triples et  +  :"_s, u"Triple+  :"_s);
+        row(25, 19, u"Verts en coup réglementaires :"_s, u"Green in Regulation :"_s);
+        row(26, 18, u"1 roulé  réglementaire :"_s, u"1 Putt in Regulation :"_s);
+        row(27, 17, u"2 roulés  réglementaires :"_s, u"2 Putts in Regulation :"_s);
+        row(28, 16, u"3 roulés  et + réglementaires :"_s, u"3+ Putts in Regulation :"_s);
     }
 
     void boxes_and_labels_stand_where_they_belong()

@@ -4,6 +4,7 @@
 #include "scoring/hole_classes.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -28,7 +29,7 @@ public:
         if (selector >= 12 && selector <= 14)
             return pars(selector - 9);
         if (selector >= 15 && selector <= 17)
-            return par_ == selector - 12 && gross_ > 0 ? QString::number(gross_) : QStringLiteral(" ");
+            return par_ == selector - 12 && gross_ > 0 ? QString::number(gross_) : u" "_s;
         if (selector >= 18 && selector <= 24)
             return mark(against_par(selector));
         if (selector >= 25 && selector <= 28)
@@ -37,7 +38,7 @@ public:
     }
 
 private:
-    static QString mark(bool yes) { return yes ? QStringLiteral("1") : QStringLiteral(" "); }
+    static QString mark(bool yes) { return yes ? u"1"_s : u" "_s; }
     bool green_hit() const { return par_ - to_green_ == 2; }
 
     bool around_the_green(int selector) const
@@ -140,8 +141,7 @@ private:
             const QString wanted = naive.cell(selector);
             // A fresh message for each of some 200,000 cells would take longer than the check.
             if (cell != wanted || hole_cell_value(selector, f, par) != to_int16(cell))
-                QFAIL(qPrintable(QStringLiteral("class %1 of %2 %3 %4 +%5 on par %6: \"%7\", not \"%8\"")
-                                     .arg(selector)
+                QFAIL(qPrintable(u"class %1 of %2 %3 %4 +%5 on par %6: \"%7\", not \"%8\""_s.arg(selector)
                                      .arg(long_shots)
                                      .arg(approach)
                                      .arg(putts)

@@ -8,10 +8,11 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const unit_words french_units{QStringLiteral("Pieds"), QStringLiteral("Verges")};
+const unit_words french_units{u"Pieds"_s, u"Verges"_s};
 constexpr std::int16_t hole_length = 300;
 
 void table_of_checks()
@@ -35,11 +36,11 @@ private Q_SLOTS:
         for (const QStringView word : {u"", u"pieds", u"Feet", u"Yard"})
             QVERIFY(!is_yards_word(word) && !is_feet_word(word));
         is_french = false;
-        QCOMPARE(units_of_interface().feet, QStringLiteral("Feets"));
-        QCOMPARE(units_of_interface().yards, QStringLiteral("Yards"));
+        QCOMPARE(units_of_interface().feet, u"Feets"_s);
+        QCOMPARE(units_of_interface().yards, u"Yards"_s);
         is_french = true;
-        QCOMPARE(units_of_interface().feet, QStringLiteral("Pieds"));
-        QCOMPARE(units_of_interface().yards, QStringLiteral("Verges"));
+        QCOMPARE(units_of_interface().feet, u"Pieds"_s);
+        QCOMPARE(units_of_interface().yards, u"Verges"_s);
     }
 
     void the_check_settles_the_rows_data()
@@ -126,17 +127,17 @@ private Q_SLOTS:
 
     void a_second_check_converts_nothing_more()
     {
-        shot_list rows = shots_of(QStringLiteral("L1 30 Verges\nP14 4 Pieds\nP14 0 Pieds"));
+        shot_list rows = shots_of(u"L1 30 Verges\nP14 4 Pieds\nP14 0 Pieds"_s);
         check_shots(rows, hole_length, french_units);
         check_shots(rows, hole_length, french_units);
-        QCOMPARE(lines_of(rows), QStringLiteral("1: 300>90 Pieds\n2: 90>4 Pieds\n3: 4>0 Pieds"));
+        QCOMPARE(lines_of(rows), u"1: 300>90 Pieds\n2: 90>4 Pieds\n3: 4>0 Pieds"_s);
     }
 
     void a_distance_that_is_too_far_in_feet_fails()
     {
-        shot_list rows = shots_of(QStringLiteral("L1 10923 Verges\nP14 0 Pieds"));
+        shot_list rows = shots_of(u"L1 10923 Verges\nP14 0 Pieds"_s);
         QCOMPARE(failure_of([&] { check_shots(rows, hole_length, french_units); }), failure_kind::overflow);
-        rows = shots_of(QStringLiteral("L1 10922 Verges\nP14 0 Pieds"));
+        rows = shots_of(u"L1 10922 Verges\nP14 0 Pieds"_s);
         QVERIFY(check_shots(rows, hole_length, french_units).ok);
         QCOMPARE(plain(*rows[0].after), 32766);
     }
@@ -198,10 +199,10 @@ private Q_SLOTS:
 
     void a_putt_loses_its_position_when_the_next_shot_comes()
     {
-        shot_list rows = shots_of(QStringLiteral("P14 6 Pieds"));
+        shot_list rows = shots_of(u"P14 6 Pieds"_s);
         plan_next_shot(rows, french_units);
         QCOMPARE(plain(rows[0].fairval), 0);
-        QCOMPARE(rows[0].faireway, QStringLiteral(" "));
+        QCOMPARE(rows[0].faireway, u" "_s);
     }
 };
 

@@ -6,6 +6,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -103,19 +104,18 @@ private Q_SLOTS:
 
     void a_putt_loses_its_position_on_the_way()
     {
-        shot_list rows =
-            shots_of(QStringLiteral("A9 20 Pieds fair=2\nP14 0 Pieds fair=1\nP14 0 Pieds fair=3"));
+        shot_list rows = shots_of(u"A9 20 Pieds fair=2\nP14 0 Pieds fair=1\nP14 0 Pieds fair=3"_s);
         for (hole_shot& row : rows)
-            row.faireway = QStringLiteral("Fairway");
+            row.faireway = u"Fairway"_s;
         const hole_summary sum = summarise(rows);
         QCOMPARE(plain(sum.fairway), 0);
         QCOMPARE(plain(rows[0].fairval), 2);
         QCOMPARE(plain(rows[1].fairval), 0);
         QCOMPARE(plain(rows[2].fairval), 0);
         // The word goes with the code.
-        QCOMPARE(rows[0].faireway, QStringLiteral("Fairway"));
-        QCOMPARE(rows[1].faireway, QStringLiteral(" "));
-        QCOMPARE(rows[2].faireway, QStringLiteral(" "));
+        QCOMPARE(rows[0].faireway, u"Fairway"_s);
+        QCOMPARE(rows[1].faireway, u" "_s);
+        QCOMPARE(rows[2].faireway, u" "_s);
     }
 
     void codes_outside_their_sets_fail_data()

@@ -4,6 +4,7 @@
 #include "scoring/Verdane_tools.h"
 
 using namespace verdane::Verdane_tools;
+using namespace Qt::StringLiterals;
 
 class test_round_key : public QObject {
     Q_OBJECT
@@ -11,35 +12,31 @@ class test_round_key : public QObject {
 private Q_SLOTS:
     void a_key_is_cut_for_display()
     {
-        QCOMPARE(key_text(u"20030614093005"), QStringLiteral("2003-06-14 09:30:05"));
-        QCOMPARE(key_date_text(u"20030614093005"), QStringLiteral("2003-06-14"));
-        QCOMPARE(key_time_text(u"20030614093005"), QStringLiteral("09:30:05"));
+        QCOMPARE(key_text(u"20030614093005"), u"2003-06-14 09:30:05"_s);
+        QCOMPARE(key_date_text(u"20030614093005"), u"2003-06-14"_s);
+        QCOMPARE(key_time_text(u"20030614093005"), u"09:30:05"_s);
     }
 
     void a_key_is_cut_and_never_read_as_a_date()
     {
-        QCOMPARE(key_text(u"99991399256199"), QStringLiteral("9999-13-99 25:61:99"));
+        QCOMPARE(key_text(u"99991399256199"), u"9999-13-99 25:61:99"_s);
     }
 
     void a_key_too_short_gives_what_it_has()
     {
-        QCOMPARE(key_text(u"200306"), QStringLiteral("2003-06- ::"));
-        QCOMPARE(key_text(u""), QStringLiteral("-- ::"));
+        QCOMPARE(key_text(u"200306"), u"2003-06- ::"_s);
+        QCOMPARE(key_text(u""), u"-- ::"_s);
     }
 
     void the_boxes_of_a_tee_off_end_the_key()
     {
-        QString hour = QStringLiteral("9");
-        QString minute = QStringLiteral(" 5");
+        QString hour = u"9"_s;
+        QString minute = u" 5"_s;
         QString second;
-        QCOMPARE(QString(pad_zero(hour, 2) + pad_zero(minute, 2) + pad_zero(second, 2)),
-                 QStringLiteral("090500"));
+        QCOMPARE(QString(pad_zero(hour, 2) + pad_zero(minute, 2) + pad_zero(second, 2)), u"090500"_s);
     }
 
-    void keys_sort_as_text_in_time_order()
-    {
-        QVERIFY(QStringLiteral("20031231235959") < QStringLiteral("20040101000000"));
-    }
+    void keys_sort_as_text_in_time_order() { QVERIFY(u"20031231235959"_s < u"20040101000000"_s); }
 
     void a_list_entry_has_its_exact_form_data()
     {
@@ -68,12 +65,12 @@ private Q_SLOTS:
 
     void the_key_is_read_back_from_an_entry_by_position()
     {
-        const QString key = QStringLiteral("20030614093005");
+        const QString key = u"20030614093005"_s;
         for (const QStringView course : {u"Club des Pins", u"", u"1 - 2 | 3"}) {
             QCOMPARE(key_of_entry(round_entry(key, course, true)), key);
             QCOMPARE(key_of_entry(round_entry(key, course, false)), key);
         }
-        QCOMPARE(key_of_entry(u"abcd?ef?gh?ij?kl?mn and more"), QStringLiteral("abcdefghijklmn"));
+        QCOMPARE(key_of_entry(u"abcd?ef?gh?ij?kl?mn and more"), u"abcdefghijklmn"_s);
     }
 
     void no_entry_gives_no_key() { QCOMPARE(key_of_entry(u""), QString()); }

@@ -9,6 +9,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 QAction* entry(const QString& name)
 {
     return MainForm::of_run()->findChild<QAction*>(name);
@@ -23,7 +25,7 @@ void in_main_window(int language, const QStringList& statements, const std::func
 {
     program_run run(language, statements);
     run.play_through([&](hand& user) {
-        user.wait_for_window(QStringLiteral("MainForm"));
+        user.wait_for_window(u"MainForm"_s);
         script(user);
         quit(user);
     });
@@ -31,8 +33,8 @@ void in_main_window(int language, const QStringList& statements, const std::func
 
 void quit(hand& user)
 {
-    user.wait_for_window(QStringLiteral("MainForm"));
-    user.menu(QStringLiteral("mQuit"));
+    user.wait_for_window(u"MainForm"_s);
+    user.menu(u"mQuit"_s);
 }
 
 void both_stored_languages()

@@ -10,12 +10,14 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QTemporaryDir& made_home(QTemporaryDir& home)
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
-    QCoreApplication::setApplicationName(QStringLiteral("Verdane"));
+    QCoreApplication::setApplicationName(u"Verdane"_s);
     Connection1 first_start;
     first_start.Open();
     first_start.Close();
@@ -45,7 +47,7 @@ QString columns(const QString& name, const QString& value)
 program_run::program_run(int language, const QStringList& statements)
     : store_((made_home(home_), store_path()))
 {
-    store_.write(QStringLiteral("update settings set language = %1").arg(language));
+    store_.write(u"update settings set language = %1"_s.arg(language));
     store_.write(statements);
 }
 
@@ -70,22 +72,19 @@ int program_run::play_through(const std::function<void(hand&)>& script)
 
 QStringList one_course()
 {
-    return {QStringLiteral("insert into vrd_fields (code, name, name_tee, rating, slope, tee) values "
-                           "('LINKS-0', 'Links', 'Links-0', '71.2', '128', 'WHITE')"),
-            QStringLiteral("insert into field_info (FIELD_CODE) values ('LINKS-0')"),
-            u"update field_info set " + columns(QStringLiteral("par_%1"), QStringLiteral("4")) + u", " +
-                columns(QStringLiteral("yards_%1"), QStringLiteral("380"))};
+    return {u"insert into vrd_fields (code, name, name_tee, rating, slope, tee) values "
+            u"('LINKS-0', 'Links', 'Links-0', '71.2', '128', 'WHITE')"_s,
+            u"insert into field_info (FIELD_CODE) values ('LINKS-0')"_s,
+            u"update field_info set " + columns(u"par_%1"_s, u"4"_s) + u", " +
+                columns(u"yards_%1"_s, u"380"_s)};
 }
 
 QStringList one_round(const QString& key)
 {
-    return {
-        QStringLiteral("insert into games (date, field, CODEF) values ('%1', 'Links', 'LINKS-0')").arg(key),
-        QStringLiteral(
-            "insert into games2 (date, conditionM, PARTNERS, temperature, FC) values ('%1', 0, '', "
-            "20, 'LINKS-0')")
-            .arg(key),
-        QStringLiteral("insert into cost (date) values ('%1')").arg(key)};
+    return {u"insert into games (date, field, CODEF) values ('%1', 'Links', 'LINKS-0')"_s.arg(key),
+            u"insert into games2 (date, conditionM, PARTNERS, temperature, FC) values ('%1', 0, '', "
+            u"20, 'LINKS-0')"_s.arg(key),
+            u"insert into cost (date) values ('%1')"_s.arg(key)};
 }
 
 QStringList rounds(int count)

@@ -10,6 +10,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 /// The whole program on a store of its own in a temporary data folder, run as `main` runs it.
 class program_run {
 public:
@@ -30,7 +32,7 @@ private:
 
 /// Statements that put a course with 18 holes of par 4 and one round on it into a store.
 QStringList one_course();
-QStringList one_round(const QString& key = QStringLiteral("20260614093000"));
+QStringList one_round(const QString& key = u"20260614093000"_s);
 /// The course with that many rounds on it.
 QStringList rounds(int count);
 

@@ -17,6 +17,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,8 +37,8 @@ bool limit_files(rlim_t bytes)
 
 void say_failure_and_answer(hand& user)
 {
-    user.wait_for_window(QStringLiteral("failure_box"));
-    std::printf("failure: %s\n", qUtf8Printable(user.text(QStringLiteral("qt_msgbox_label"))));
+    user.wait_for_window(u"failure_box"_s);
+    std::printf("failure: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)));
     std::fflush(stdout);
     user.key(Qt::Key_Return);
 }
@@ -57,8 +58,8 @@ void type_holes(hand& user)
         const int hole = count % holes_of_a_round + 1;
         const int digit = count / holes_of_a_round % 9 + 1;
         user.type(QString(11, QChar(u'0' + digit)));
-        user.click_tab(QStringLiteral("TabStrip1"), hole % holes_of_a_round + 1);
-        if (user.is_open(QStringLiteral("failure_box")))
+        user.click_tab(u"TabStrip1"_s, hole % holes_of_a_round + 1);
+        if (user.is_open(u"failure_box"_s))
             return;
         std::printf("left: %d %d\n", hole, digit);
         std::fflush(stdout);
@@ -70,11 +71,11 @@ int fail_in_a_round()
     int status = -1;
     play([&] { status = run_verdane(*qApp); },
          [](hand& user) {
-             user.wait_for_window(QStringLiteral("MainForm"));
-             user.menu(QStringLiteral("mnOPenr"));
-             user.wait_for_window(QStringLiteral("f_games_en"));
-             user.double_click_row(QStringLiteral("List1"), 0);
-             user.wait_for_window(QStringLiteral("f_new_round_en"));
+             user.wait_for_window(u"MainForm"_s);
+             user.menu(u"mnOPenr"_s);
+             user.wait_for_window(u"f_games_en"_s);
+             user.double_click_row(u"List1"_s, 0);
+             user.wait_for_window(u"f_new_round_en"_s);
              user.look([] {
                  const QFileInfo log(program_run::store_path() + u"-wal");
                  constexpr int room = 150 * 1024;
@@ -134,7 +135,7 @@ private Q_SLOTS:
         const program_run run(2);
         const QString path = program_run::store_path();
         QVERIFY(QFile::remove(path));
-        const ended start = child(QStringLiteral("--start"), QString::number(bytes));
+        const ended start = child(u"--start"_s, QString::number(bytes));
         QVERIFY2(!start.crashed, qPrintable(start.said));
         QCOMPARE(start.status, 1);
         const text_pair words = failure_words(failure_kind::store_full);
@@ -144,13 +145,13 @@ private Q_SLOTS:
         QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), QStringList());
         Connection1 connection;
         connection.Open(path);
-        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from settings")), 1);
+        QCOMPARE(reader(path).number(u"select count(*) from settings"_s), 1);
     }
 
     void a_round_keeps_every_hole_that_was_left_before_the_disk_was_full()
     {
         const program_run run(2, one_course() + one_round());
-        const ended round = child(QStringLiteral("--round"));
+        const ended round = child(u"--round"_s);
         QVERIFY2(!round.crashed, qPrintable(round.said));
         QCOMPARE(round.status, 1);
         QVERIFY2(round.said.contains(failure_words(failure_kind::store_full).english),
@@ -158,11 +159,10 @@ private Q_SLOTS:
         const std::map<int, int> digits = digits_left(round.said);
         QVERIFY2(!digits.empty(), qPrintable(round.said));
         for (const auto& [hole, digit] : digits)
-            QCOMPARE(run.store().text(QStringLiteral("select long_%1 || ' ' || fairway_%1 from games join "
-                                                     "games2 using (date)")
-                                          .arg(hole)),
-                     QStringLiteral("%1 %1").arg(digit));
-        QCOMPARE(run.store().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+            QCOMPARE(run.store().text(u"select long_%1 || ' ' || fairway_%1 from games join "
+                                      u"games2 using (date)"_s.arg(hole)),
+                     u"%1 %1"_s.arg(digit));
+        QCOMPARE(run.store().text(u"pragma integrity_check"_s), u"ok"_s);
     }
 };
 

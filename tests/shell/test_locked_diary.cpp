@@ -17,27 +17,28 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString notice = QStringLiteral("lock_box");
-const QString hole_tabs = QStringLiteral("TabStrip1");
-const QString first_hole = QStringLiteral("12345678123");
+const QString notice = u"lock_box"_s;
+const QString hole_tabs = u"TabStrip1"_s;
+const QString first_hole = u"12345678123"_s;
 
 void open_round(hand& user, const QString& suffix)
 {
-    user.wait_for_window(QStringLiteral("MainForm"));
-    user.menu(QStringLiteral("mnOPenr"));
+    user.wait_for_window(u"MainForm"_s);
+    user.menu(u"mnOPenr"_s);
     user.wait_for_window(u"f_games" + suffix);
-    user.double_click_row(QStringLiteral("List1"), 0);
+    user.double_click_row(u"List1"_s, 0);
     user.wait_for_window(u"f_new_round" + suffix);
 }
 
 void close_round(hand& user, const QString& suffix)
 {
-    user.click(QStringLiteral("Command1_4"));
+    user.click(u"Command1_4"_s);
     user.wait_until_gone(u"f_new_round" + suffix);
-    user.menu(QStringLiteral("mQuit"));
+    user.menu(u"mQuit"_s);
 }
 
 QMessageBox* shown_notice()
@@ -72,7 +73,7 @@ int give_up(const QString& way)
     int status = -1;
     play([&] { status = run_verdane(*qApp); },
          [&](hand& user) {
-             open_round(user, QStringLiteral("_en"));
+             open_round(user, u"_en"_s);
              user.type(first_hole);
              user.click_tab(hole_tabs, 2);
              const other_program other(program_run::store_path());
@@ -82,10 +83,9 @@ int give_up(const QString& way)
              if (way == u"--escape")
                  user.key(Qt::Key_Escape);
              else
-                 user.click(QStringLiteral("give_up"));
-             user.wait_for_window(QStringLiteral("failure_box"));
-             std::printf("%s|%d\n", qUtf8Printable(user.text(QStringLiteral("qt_msgbox_label"))),
-                         user.is_open(notice));
+                 user.click(u"give_up"_s);
+             user.wait_for_window(u"failure_box"_s);
+             std::printf("%s|%d\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)), user.is_open(notice));
              std::fflush(stdout);
              user.key(Qt::Key_Return);
          });
@@ -103,7 +103,7 @@ private Q_SLOTS:
     void the_round_continues_once_the_lock_is_free()
     {
         QFETCH(bool, french);
-        const QString suffix = french ? QString() : QStringLiteral("_en");
+        const QString suffix = french ? QString() : u"_en"_s;
         program_run run(french ? 1 : 2, one_course() + one_round());
         const int status = run.play_through([&](hand& user) {
             open_round(user, suffix);
@@ -114,25 +114,24 @@ private Q_SLOTS:
             QString words;
             user.look([&] { words = words_of_notice(); });
             user.same(words,
-                      french
-                          ? QStringLiteral("Le journal est utilisé par un autre programme. Verdane attend "
-                                           "qu'il soit libre.|Si vous abandonnez, Verdane s'arrête. Ce qui "
-                                           "était enregistré est intact.|Verdane|Abandonner")
-                          : QStringLiteral("The diary is in use by another program. Verdane waits until "
-                                           "it is free.|If you give up, Verdane stops. What was saved is "
-                                           "intact.|Verdane|Give Up"),
-                      QStringLiteral("the notice"));
+                      french ? u"Le journal est utilisé par un autre programme. Verdane attend "
+                               u"qu'il soit libre.|Si vous abandonnez, Verdane s'arrête. Ce qui "
+                               u"était enregistré est intact.|Verdane|Abandonner"_s
+                             : u"The diary is in use by another program. Verdane waits until "
+                               u"it is free.|If you give up, Verdane stops. What was saved is "
+                               u"intact.|Verdane|Give Up"_s,
+                      u"the notice"_s);
             keep_picture_of_notice(user, suffix);
             other.let_go();
             user.wait_until_gone(notice);
-            user.same(figure(run, QStringLiteral("long_1")), 1, QStringLiteral("long shots"));
-            user.same(figure(run, QStringLiteral("fairway_1")), 4, QStringLiteral("fairways"));
+            user.same(figure(run, u"long_1"_s), 1, u"long shots"_s);
+            user.same(figure(run, u"fairway_1"_s), 4, u"fairways"_s);
             // The keyboard is back in the first box of the next hole.
-            user.type(QStringLiteral("7"));
+            user.type(u"7"_s);
             close_round(user, suffix);
         });
         QCOMPARE(status, 0);
-        QCOMPARE(figure(run, QStringLiteral("long_2")), 7);
+        QCOMPARE(figure(run, u"long_2"_s), 7);
     }
 
     /// Whoever types fast has not seen the notice yet.
@@ -140,22 +139,22 @@ private Q_SLOTS:
     {
         program_run run(2, one_course() + one_round());
         run.play_through([&](hand& user) {
-            open_round(user, QStringLiteral("_en"));
+            open_round(user, u"_en"_s);
             other_program other(program_run::store_path());
             user.type(first_hole);
             user.click_tab(hole_tabs, 2);
             user.wait_for_window(notice);
-            user.type(QStringLiteral("99"));
+            user.type(u"99"_s);
             for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_G, Qt::Key_A})
                 user.key(key);
-            user.check(user.is_open(notice), QStringLiteral("a key has closed the notice"));
+            user.check(user.is_open(notice), u"a key has closed the notice"_s);
             other.let_go();
             user.wait_until_gone(notice);
-            user.same(user.text(QStringLiteral("text_vrd_0")), QStringLiteral("0"), QStringLiteral("box"));
-            close_round(user, QStringLiteral("_en"));
+            user.same(user.text(u"text_vrd_0"_s), u"0"_s, u"box"_s);
+            close_round(user, u"_en"_s);
         });
-        QCOMPARE(figure(run, QStringLiteral("long_1")), 1);
-        QCOMPARE(figure(run, QStringLiteral("long_2")), 0);
+        QCOMPARE(figure(run, u"long_1"_s), 1);
+        QCOMPARE(figure(run, u"long_2"_s), 0);
     }
 
     void windows_are_painted_while_the_notice_is_up()
@@ -163,30 +162,29 @@ private Q_SLOTS:
         program_run run(2, one_course() + one_round());
         paint_counter painted;
         run.play_through([&](hand& user) {
-            open_round(user, QStringLiteral("_en"));
+            open_round(user, u"_en"_s);
             other_program other(program_run::store_path());
             user.type(first_hole);
             user.click_tab(hole_tabs, 2);
             user.wait_for_window(notice);
             user.look([&] {
-                QWidget* round = visible_window(QStringLiteral("f_new_round_en"));
+                QWidget* round = visible_window(u"f_new_round_en"_s);
                 round->installEventFilter(&painted);
                 round->update();
             });
-            user.wait_until(QStringLiteral("the round window to be painted"),
-                            [&] { return painted.count > 0; });
+            user.wait_until(u"the round window to be painted"_s, [&] { return painted.count > 0; });
             other.let_go();
             user.wait_until_gone(notice);
-            user.look([&] { visible_window(QStringLiteral("f_new_round_en"))->removeEventFilter(&painted); });
-            close_round(user, QStringLiteral("_en"));
+            user.look([&] { visible_window(u"f_new_round_en"_s)->removeEventFilter(&painted); });
+            close_round(user, u"_en"_s);
         });
     }
 
     void giving_up_reports_the_lock_and_keeps_what_was_committed_data()
     {
         QTest::addColumn<QString>("way");
-        QTest::newRow("by the button") << QStringLiteral("--button");
-        QTest::newRow("by Escape") << QStringLiteral("--escape");
+        QTest::newRow("by the button") << u"--button"_s;
+        QTest::newRow("by Escape") << u"--escape"_s;
     }
 
     void giving_up_reports_the_lock_and_keeps_what_was_committed()
@@ -200,8 +198,8 @@ private Q_SLOTS:
         QCOMPARE(child.exitCode(), 1);
         QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()).trimmed(),
                  QString(failure_words(failure_kind::store_locked).english + u"|0"));
-        QCOMPARE(figure(run, QStringLiteral("long_1")), 1);
-        QCOMPARE(figure(run, QStringLiteral("coalesce(long_2, 0) + fairway_2")), 0);
+        QCOMPARE(figure(run, u"long_1"_s), 1);
+        QCOMPARE(figure(run, u"coalesce(long_2, 0) + fairway_2"_s), 0);
     }
 
 private:

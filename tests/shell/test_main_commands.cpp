@@ -10,6 +10,7 @@
 #include "tests/shell/program_run.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::both_stored_languages;
 using verdane::testing::entry;
 using verdane::testing::expected_box;
@@ -29,40 +30,40 @@ private Q_SLOTS:
     void the_clean_up_is_wired_though_its_entry_is_switched_off()
     {
         QFETCH(int, language);
-        const QString orphan = QStringLiteral("20010203040506");
-        const QString shot = QStringLiteral("insert into Stat_rounds (date, hole) values ('%1', 1)");
-        const QStringList shots{shot.arg(orphan), shot.arg(QStringLiteral("20260614093000"))};
+        const QString orphan = u"20010203040506"_s;
+        const QString shot = u"insert into Stat_rounds (date, hole) values ('%1', 1)"_s;
+        const QStringList shots{shot.arg(orphan), shot.arg(u"20260614093000"_s)};
         const auto told = [](const QString& text) {
             return expected_box{text, QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
         };
         in_main_window(language, one_course() + one_round() + shots, [&](hand& user) {
             user.look([] { QTimer::singleShot(0, [] { run_event(command_store_clean_up); }); });
-            for (const QString& text : {orphan, QStringLiteral("1"), QStringLiteral("Fin")})
+            for (const QString& text : {orphan, u"1"_s, u"Fin"_s})
                 user.answer(told(text));
             user.look([] {
-                QAction* clean_up = entry(QStringLiteral("mcoh"));
+                QAction* clean_up = entry(u"mcoh"_s);
                 clean_up->setEnabled(true);
                 QTimer::singleShot(0, clean_up, &QAction::trigger);
             });
-            for (const QString& text : {QStringLiteral("0"), QStringLiteral("Fin")})
+            for (const QString& text : {u"0"_s, u"Fin"_s})
                 user.answer(told(text));
         });
     }
 
     void a_new_round_needs_a_course()
     {
-        const QString french = QStringLiteral(
-            "Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin un terrain");
-        const QString english = QStringLiteral(
-            "Verdane could not find any course. To create a round, you need to define at least one course.");
+        const QString french =
+            u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin un terrain"_s;
+        const QString english =
+            u"Verdane could not find any course. To create a round, you need to define at least one course."_s;
         in_main_window(1, {}, [&](hand& user) {
-            user.menu(QStringLiteral("mOpen"));
-            user.answer({french, QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok});
-            user.click(QStringLiteral("B1"));
-            user.answer({french, QMessageBox::Critical, QStringLiteral("Verdane"), QMessageBox::Ok});
+            user.menu(u"mOpen"_s);
+            user.answer({french, QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+            user.click(u"B1"_s);
+            user.answer({french, QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
         });
         in_main_window(2, {}, [&](hand& user) {
-            user.menu(QStringLiteral("mOpen"));
+            user.menu(u"mOpen"_s);
             user.answer({english, QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
         });
     }
@@ -72,18 +73,16 @@ private Q_SLOTS:
     {
         QFETCH(int, language);
         const expected_box no_course{
-            language == 1
-                ? QStringLiteral(
-                      "Verdane n'a trouver aucun terrain. Il faut au moins un terrain pour imprimmer "
-                      "une carte")
-                : QStringLiteral("Verdane found no golf course. There has to be at least one registered"),
+            language == 1 ? u"Verdane n'a trouver aucun terrain. Il faut au moins un terrain pour imprimmer "
+                            u"une carte"_s
+                          : u"Verdane found no golf course. There has to be at least one registered"_s,
             QMessageBox::Critical, default_title(), QMessageBox::Ok};
         in_main_window(language, {}, [&](hand& user) {
             for (int time = 0; time < 2; ++time) {
-                user.menu(QStringLiteral("mCarte"));
+                user.menu(u"mCarte"_s);
                 user.answer(no_course);
             }
-            user.click(QStringLiteral("B8"));
+            user.click(u"B8"_s);
             user.answer(no_course);
         });
     }
@@ -92,18 +91,18 @@ private Q_SLOTS:
     void the_scorecard_opens_from_the_menu_and_the_toolbar()
     {
         QFETCH(int, language);
-        const QString window = language == 1 ? QStringLiteral("f_carte") : QStringLiteral("f_carte_en");
+        const QString window = language == 1 ? u"f_carte"_s : u"f_carte_en"_s;
         in_main_window(language, one_course(), [&](hand& user) {
             const auto leave = [&] {
                 user.wait_for_window(window);
-                user.check(!user.enabled(QStringLiteral("B8")), QStringLiteral("the toolbar is locked"));
-                user.click(QStringLiteral("Command1_1"));
+                user.check(!user.enabled(u"B8"_s), u"the toolbar is locked"_s);
+                user.click(u"Command1_1"_s);
                 user.wait_until_gone(window);
-                user.check(user.enabled(QStringLiteral("B8")), QStringLiteral("the toolbar is open again"));
+                user.check(user.enabled(u"B8"_s), u"the toolbar is open again"_s);
             };
-            user.menu(QStringLiteral("mCarte"));
+            user.menu(u"mCarte"_s);
             leave();
-            user.click(QStringLiteral("B8"));
+            user.click(u"B8"_s);
             leave();
         });
     }
@@ -119,9 +118,9 @@ private Q_SLOTS:
             const expected_box no_round{
                 words(u"Il n'y a pas de ronde enregistrée", u"There is no round registered"),
                 QMessageBox::Information, default_title(), QMessageBox::Ok};
-            user.menu(QStringLiteral("mnOPenr"));
+            user.menu(u"mnOPenr"_s);
             user.answer(no_round);
-            user.click(QStringLiteral("B2"));
+            user.click(u"B2"_s);
             user.answer(no_round);
             for (const char* statistics : {"mnStabat", "mnStatcr", "mnstatr", "mncouts"}) {
                 user.menu(QLatin1String(statistics));
@@ -135,16 +134,15 @@ private Q_SLOTS:
     void the_round_list_opens_on_complete_rounds_only()
     {
         QFETCH(int, language);
-        const QString list = language == 1 ? QStringLiteral("f_games") : QStringLiteral("f_games_en");
-        const QStringList complete{QStringLiteral("update games set putt_18 = 2")};
+        const QString list = language == 1 ? u"f_games"_s : u"f_games_en"_s;
+        const QStringList complete{u"update games set putt_18 = 2"_s};
         in_main_window(language, rounds(2) + complete, [&](hand& user) {
-            user.menu(QStringLiteral("mnOPenr"));
+            user.menu(u"mnOPenr"_s);
             user.wait_for_window(list);
-            const QStringList lines = user.entries(QStringLiteral("List1"));
-            user.same(lines.join(u'\n'),
-                      QStringLiteral("2025-01-01 00:00:00 |  - Links\n2025-01-01 00:00:01 |  - Links"),
-                      QStringLiteral("lines"));
-            user.click(QStringLiteral("Command1_2"));
+            const QStringList lines = user.entries(u"List1"_s);
+            user.same(lines.join(u'\n'), u"2025-01-01 00:00:00 |  - Links\n2025-01-01 00:00:01 |  - Links"_s,
+                      u"lines"_s);
+            user.click(u"Command1_2"_s);
             user.wait_until_gone(list);
         });
     }
@@ -153,8 +151,8 @@ private Q_SLOTS:
     {
         in_main_window(1, {}, [](hand& user) {
             for (int time = 0; time < 2; ++time) {
-                user.menu(QStringLiteral("mnOPenr"));
-                user.answer({QStringLiteral("Il n'y a pas de ronde enregistrée"), QMessageBox::Information,
+                user.menu(u"mnOPenr"_s);
+                user.answer({u"Il n'y a pas de ronde enregistrée"_s, QMessageBox::Information,
                              default_title(), QMessageBox::Ok});
             }
         });
@@ -164,18 +162,14 @@ private Q_SLOTS:
     void each_command_opens_the_twin_of_the_language()
     {
         QFETCH(int, language);
-        const QString twin = language == 1 ? QString() : QStringLiteral("_en");
+        const QString twin = language == 1 ? QString() : u"_en"_s;
         in_main_window(language, one_course() + one_round(), [&](hand& user) {
             const std::vector<std::pair<QString, QString>> commands{
-                {QStringLiteral("mnOPenr"), QStringLiteral("f_games")},
-                {QStringLiteral("mManagF"), QStringLiteral("f_c_list")},
-                {QStringLiteral("mpartners"), QStringLiteral("f_partners")},
-                {QStringLiteral("mnBat"), QStringLiteral("f_sticks")},
-                {QStringLiteral("mnStabat"), QStringLiteral("f_date_range")},
-                {QStringLiteral("mnStatcr"), QStringLiteral("f_date_range")},
-                {QStringLiteral("mnstatr"), QStringLiteral("f_date_range")},
-                {QStringLiteral("mncouts"), QStringLiteral("f_date_range")},
-                {QStringLiteral("maprop"), QStringLiteral("f_about")}};
+                {u"mnOPenr"_s, u"f_games"_s},       {u"mManagF"_s, u"f_c_list"_s},
+                {u"mpartners"_s, u"f_partners"_s},  {u"mnBat"_s, u"f_sticks"_s},
+                {u"mnStabat"_s, u"f_date_range"_s}, {u"mnStatcr"_s, u"f_date_range"_s},
+                {u"mnstatr"_s, u"f_date_range"_s},  {u"mncouts"_s, u"f_date_range"_s},
+                {u"maprop"_s, u"f_about"_s}};
             for (const auto& [command, window] : commands) {
                 user.menu(command);
                 user.wait_for_window(window + twin);
@@ -188,18 +182,17 @@ private Q_SLOTS:
     void each_statistics_command_leaves_one_run_button()
     {
         in_main_window(1, one_course() + one_round(), [&](hand& user) {
-            const std::vector<std::pair<QString, QString>> commands{
-                {QStringLiteral("mnStabat"), QStringLiteral("Command1")},
-                {QStringLiteral("mnStatcr"), QStringLiteral("OKButton")},
-                {QStringLiteral("mnstatr"), QStringLiteral("Command2")},
-                {QStringLiteral("mncouts"), QStringLiteral("Command3")}};
+            const std::vector<std::pair<QString, QString>> commands{{u"mnStabat"_s, u"Command1"_s},
+                                                                    {u"mnStatcr"_s, u"OKButton"_s},
+                                                                    {u"mnstatr"_s, u"Command2"_s},
+                                                                    {u"mncouts"_s, u"Command3"_s}};
             for (const auto& [command, button] : commands) {
                 user.menu(command);
-                user.wait_for_window(QStringLiteral("f_date_range"));
+                user.wait_for_window(u"f_date_range"_s);
                 for (const auto& [other, each] : commands)
                     user.check(user.visible(each) == (each == button), command + u' ' + each);
-                user.close_window(QStringLiteral("f_date_range"));
-                user.wait_until_gone(QStringLiteral("f_date_range"));
+                user.close_window(u"f_date_range"_s);
+                user.wait_until_gone(u"f_date_range"_s);
             }
         });
     }
@@ -207,10 +200,10 @@ private Q_SLOTS:
     void the_golf_bag_opens_from_the_toolbar()
     {
         in_main_window(1, one_course() + one_round(), [&](hand& user) {
-            user.click(QStringLiteral("B7"));
-            user.wait_for_window(QStringLiteral("f_sticks"));
-            user.click(QStringLiteral("Fer"));
-            user.wait_until_gone(QStringLiteral("f_sticks"));
+            user.click(u"B7"_s);
+            user.wait_for_window(u"f_sticks"_s);
+            user.click(u"Fer"_s);
+            user.wait_until_gone(u"f_sticks"_s);
         });
     }
 };

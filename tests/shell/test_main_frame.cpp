@@ -11,6 +11,7 @@
 #include "tests/shell/program_run.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::entry;
 using verdane::testing::hand;
 using verdane::testing::in_main_window;
@@ -43,17 +44,15 @@ private Q_SLOTS:
     {
         in_main_window(1, {}, [](hand& user) {
             for (const bool english : {true, false}) {
-                user.menu(english ? QStringLiteral("mEn") : QStringLiteral("mfr"));
+                user.menu(english ? u"mEn"_s : u"mfr"_s);
                 user.look([&] {
-                    QCOMPARE(entry(QStringLiteral("mfile"))->text(),
-                             english ? QStringLiteral("&File") : QStringLiteral("&Fichier"));
-                    QCOMPARE(entry(QStringLiteral("mQuit"))->text(),
-                             english ? QStringLiteral("&Exit") : QStringLiteral("&Quitter"));
-                    QCOMPARE(entry(QStringLiteral("mEn"))->isChecked(), english);
-                    QCOMPARE(entry(QStringLiteral("mfr"))->isChecked(), !english);
+                    QCOMPARE(entry(u"mfile"_s)->text(), english ? u"&File"_s : u"&Fichier"_s);
+                    QCOMPARE(entry(u"mQuit"_s)->text(), english ? u"&Exit"_s : u"&Quitter"_s);
+                    QCOMPARE(entry(u"mEn"_s)->isChecked(), english);
+                    QCOMPARE(entry(u"mfr"_s)->isChecked(), !english);
                     auto* frame = MainForm::of_run();
-                    QCOMPARE(frame->findChild<QWidget*>(QStringLiteral("Picture1"))->isVisible(), !english);
-                    QCOMPARE(frame->findChild<QWidget*>(QStringLiteral("Picture2"))->isVisible(), english);
+                    QCOMPARE(frame->findChild<QWidget*>(u"Picture1"_s)->isVisible(), !english);
+                    QCOMPARE(frame->findChild<QWidget*>(u"Picture2"_s)->isVisible(), english);
                 });
             }
         });
@@ -84,10 +83,10 @@ private Q_SLOTS:
                 };
                 ask("mnSave", "B4");
                 QCOMPARE(window.saves, 1);
-                QVERIFY(!entry(QStringLiteral("mOpen"))->isEnabled());
+                QVERIFY(!entry(u"mOpen"_s)->isEnabled());
                 ask("mClose", "B5");
                 QCOMPARE(window.closes, 1);
-                QVERIFY(entry(QStringLiteral("mOpen"))->isEnabled());
+                QVERIFY(entry(u"mOpen"_s)->isEnabled());
             });
         });
     }
@@ -97,8 +96,8 @@ private Q_SLOTS:
         in_main_window(1, {}, [](hand& user) {
             user.look([] {
                 auto* frame = MainForm::of_run();
-                for (QWidget* place : {static_cast<QWidget*>(frame->menuBar()),
-                                       frame->findChild<QWidget*>(QStringLiteral("Toolbar1"))}) {
+                for (QWidget* place :
+                     {static_cast<QWidget*>(frame->menuBar()), frame->findChild<QWidget*>(u"Toolbar1"_s)}) {
                     const QPoint middle = place->rect().center();
                     QContextMenuEvent event(QContextMenuEvent::Mouse, middle, place->mapToGlobal(middle));
                     QCoreApplication::sendEvent(place, &event);
@@ -122,8 +121,8 @@ private Q_SLOTS:
         QFETCH(QString, list);
         program_run run(language, one_course() + one_round());
         const int status = run.play_through([&](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
-            user.menu(QStringLiteral("mnOPenr"));
+            user.wait_for_window(u"MainForm"_s);
+            user.menu(u"mnOPenr"_s);
             user.wait_for_window(list);
             user.look([] {
                 MainForm::of_run()->close();

@@ -11,6 +11,7 @@
 #include "tests/shell/program_run.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::both_stored_languages;
 using verdane::testing::entry;
 using verdane::testing::hand;
@@ -30,29 +31,29 @@ struct caption_row {
 const std::vector<caption_row>& captions()
 {
     static const std::vector<caption_row> rows{
-        {"mfile", QStringLiteral("&Fichier"), QStringLiteral("&File")},
-        {"mnSave", QStringLiteral("&Enregistrer"), QStringLiteral("&Enregistrer")},
-        {"mClose", QStringLiteral("&Fermer"), QStringLiteral("&Fermer")},
-        {"mEn", QStringLiteral("English"), QStringLiteral("English")},
-        {"mfr", QStringLiteral("Français"), QStringLiteral("Français")},
-        {"mQuit", QStringLiteral("&Quitter"), QStringLiteral("&Exit")},
-        {"mcoh", QStringLiteral("TEST"), QStringLiteral("TEST")},
-        {"Rondes", QStringLiteral("&Rondes"), QStringLiteral("&Rounds")},
-        {"mOpen", QStringLiteral("&Nouvelle ronde"), QStringLiteral("&New Round")},
-        {"mnOPenr", QStringLiteral("&Gestion des rondes"), QStringLiteral("&Round Management")},
-        {"mCourses", QStringLiteral("&Terrains"), QStringLiteral("&Golf Courses")},
-        {"mManagF", QStringLiteral("&Gestion des terrains"), QStringLiteral("&Golf Course Management")},
-        {"mCarte", QStringLiteral("&Carte de pointage"), QStringLiteral("&Scorecard")},
-        {"batons", QStringLiteral("&Bâtons"), QStringLiteral("&Golf Clubs")},
-        {"mnBat", QStringLiteral("&Mes bâtons"), QStringLiteral("&My Golf Clubs")},
-        {"partenaires", QStringLiteral("&Partenaires"), QStringLiteral("&Partners")},
-        {"mpartners", QStringLiteral("&Gestion des partenaires"), QStringLiteral("&Partner Management")},
-        {"mnstat", QStringLiteral("&Statistiques"), QStringLiteral("&Statistics")},
-        {"mnStabat", QStringLiteral("Statistiques des &bâtons"), QStringLiteral("Club Statistics")},
-        {"mnStatcr", QStringLiteral("Statistiques des coups &roulés"), QStringLiteral("Putt Statistics")},
-        {"mnstatr", QStringLiteral("Statistiques des r&ondes"), QStringLiteral("Round Statistics")},
-        {"mncouts", QStringLiteral("Satistiques des coû&ts"), QStringLiteral("Cost Statistics")},
-        {"maprop", QStringLiteral("&A propos"), QStringLiteral("&About")},
+        {"mfile", u"&Fichier"_s, u"&File"_s},
+        {"mnSave", u"&Enregistrer"_s, u"&Enregistrer"_s},
+        {"mClose", u"&Fermer"_s, u"&Fermer"_s},
+        {"mEn", u"English"_s, u"English"_s},
+        {"mfr", u"Français"_s, u"Français"_s},
+        {"mQuit", u"&Quitter"_s, u"&Exit"_s},
+        {"mcoh", u"TEST"_s, u"TEST"_s},
+        {"Rondes", u"&Rondes"_s, u"&Rounds"_s},
+        {"mOpen", u"&Nouvelle ronde"_s, u"&New Round"_s},
+        {"mnOPenr", u"&Gestion des rondes"_s, u"&Round Management"_s},
+        {"mCourses", u"&Terrains"_s, u"&Golf Courses"_s},
+        {"mManagF", u"&Gestion des terrains"_s, u"&Golf Course Management"_s},
+        {"mCarte", u"&Carte de pointage"_s, u"&Scorecard"_s},
+        {"batons", u"&Bâtons"_s, u"&Golf Clubs"_s},
+        {"mnBat", u"&Mes bâtons"_s, u"&My Golf Clubs"_s},
+        {"partenaires", u"&Partenaires"_s, u"&Partners"_s},
+        {"mpartners", u"&Gestion des partenaires"_s, u"&Partner Management"_s},
+        {"mnstat", u"&Statistiques"_s, u"&Statistics"_s},
+        {"mnStabat", u"Statistiques des &bâtons"_s, u"Club Statistics"_s},
+        {"mnStatcr", u"Statistiques des coups &roulés"_s, u"Putt Statistics"_s},
+        {"mnstatr", u"Statistiques des r&ondes"_s, u"Round Statistics"_s},
+        {"mncouts", u"Satistiques des coû&ts"_s, u"Cost Statistics"_s},
+        {"maprop", u"&A propos"_s, u"&About"_s},
     };
     return rows;
 }
@@ -76,8 +77,8 @@ private Q_SLOTS:
                     QVERIFY2(action, row.name);
                     QCOMPARE(action->text(), language == 1 ? row.french : row.english);
                 }
-                QCOMPARE(entry(QStringLiteral("mfr"))->isChecked(), language == 1);
-                QCOMPARE(entry(QStringLiteral("mEn"))->isChecked(), language == 2);
+                QCOMPARE(entry(u"mfr"_s)->isChecked(), language == 1);
+                QCOMPARE(entry(u"mEn"_s)->isChecked(), language == 2);
             });
         });
     }
@@ -88,16 +89,16 @@ private Q_SLOTS:
         QFETCH(int, language);
         in_main_window(language, {}, [](hand& user) {
             user.look([] {
-                const QStringList tips{QStringLiteral("Ajouter une ronde"),
-                                       QStringLiteral("Gestion des rondes"),
-                                       QStringLiteral("Gestion des terrain"),
-                                       QStringLiteral("Enregistrer"),
-                                       QStringLiteral("Fermer"),
-                                       QStringLiteral("Mes partenaires"),
-                                       QStringLiteral("Gestion des battons"),
-                                       QStringLiteral("Carte de jeux")};
+                const QStringList tips{u"Ajouter une ronde"_s,
+                                       u"Gestion des rondes"_s,
+                                       u"Gestion des terrain"_s,
+                                       u"Enregistrer"_s,
+                                       u"Fermer"_s,
+                                       u"Mes partenaires"_s,
+                                       u"Gestion des battons"_s,
+                                       u"Carte de jeux"_s};
                 for (int i = 0; i < tips.size(); ++i)
-                    QCOMPARE(tool(QStringLiteral("B%1").arg(i + 1))->toolTip(), tips.at(i));
+                    QCOMPARE(tool(u"B%1"_s.arg(i + 1))->toolTip(), tips.at(i));
             });
         });
     }
@@ -112,7 +113,7 @@ private Q_SLOTS:
                 for (const int size : {900, 1100}) {
                     frame->resize(size, size - 200);
                     for (const int picture : {1, 2}) {
-                        auto* pane = frame->findChild<QWidget*>(QStringLiteral("Picture%1").arg(picture));
+                        auto* pane = frame->findChild<QWidget*>(u"Picture%1"_s.arg(picture));
                         QCOMPARE(pane->isVisible(), picture == language);
                         QCOMPARE(pane->size(), frame->centralWidget()->size());
                     }
@@ -125,46 +126,44 @@ private Q_SLOTS:
     {
         program_run run(1, one_course());
         run.play_through([](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
-            user.menu(QStringLiteral("mEn"));
-            user.same(user.title(QStringLiteral("MainForm")), QStringLiteral("Verdane for PC version 1.4"),
-                      QStringLiteral("title"));
-            user.menu(QStringLiteral("mManagF"));
-            user.wait_for_window(QStringLiteral("f_c_list_en"));
-            user.click(QStringLiteral("Command1_2"));
-            user.wait_until_gone(QStringLiteral("f_c_list_en"));
-            user.menu(QStringLiteral("mfr"));
-            user.same(user.title(QStringLiteral("MainForm")), QStringLiteral("Verdane pour PC version 1.4"),
-                      QStringLiteral("title"));
-            user.menu(QStringLiteral("mEn"));
-            user.menu(QStringLiteral("mQuit"));
+            user.wait_for_window(u"MainForm"_s);
+            user.menu(u"mEn"_s);
+            user.same(user.title(u"MainForm"_s), u"Verdane for PC version 1.4"_s, u"title"_s);
+            user.menu(u"mManagF"_s);
+            user.wait_for_window(u"f_c_list_en"_s);
+            user.click(u"Command1_2"_s);
+            user.wait_until_gone(u"f_c_list_en"_s);
+            user.menu(u"mfr"_s);
+            user.same(user.title(u"MainForm"_s), u"Verdane pour PC version 1.4"_s, u"title"_s);
+            user.menu(u"mEn"_s);
+            user.menu(u"mQuit"_s);
         });
-        QCOMPARE(run.store().number(QStringLiteral("select language from settings")), 2);
+        QCOMPARE(run.store().number(u"select language from settings"_s), 2);
     }
 
     void a_change_of_language_reads_the_club_names_again()
     {
         program_run run(1);
         run.play_through([&](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
-            run.store().write(QStringLiteral("update sticknames set club_3 = 'Spoon'"));
+            user.wait_for_window(u"MainForm"_s);
+            run.store().write(u"update sticknames set club_3 = 'Spoon'"_s);
             user.look([] { Main_module::club_names_kept = false; });
-            user.menu(QStringLiteral("mEn"));
+            user.menu(u"mEn"_s);
             user.look([] {
-                QCOMPARE(Main_module::club_names[2], QStringLiteral("Spoon"));
+                QCOMPARE(Main_module::club_names[2], u"Spoon"_s);
                 QVERIFY(Main_module::club_names_kept);
             });
-            user.menu(QStringLiteral("mQuit"));
+            user.menu(u"mQuit"_s);
         });
     }
 
     void the_language_in_use_may_be_chosen_again()
     {
         in_main_window(1, {}, [](hand& user) {
-            user.menu(QStringLiteral("mfr"));
+            user.menu(u"mfr"_s);
             user.look([] {
-                QVERIFY(entry(QStringLiteral("mfr"))->isChecked());
-                QVERIFY(!entry(QStringLiteral("mEn"))->isChecked());
+                QVERIFY(entry(u"mfr"_s)->isChecked());
+                QVERIFY(!entry(u"mEn"_s)->isChecked());
                 QVERIFY(is_french);
             });
         });

@@ -11,6 +11,7 @@
 #include "tests/shell/program_run.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::both_stored_languages;
 using verdane::testing::entry;
 using verdane::testing::expected_box;
@@ -48,8 +49,7 @@ private Q_SLOTS:
     {
         in_main_window(1, {}, [](hand& user) {
             user.look([] {
-                for (const QString& name :
-                     {QStringLiteral("mnSave"), QStringLiteral("mClose"), QStringLiteral("mcoh")}) {
+                for (const QString& name : {u"mnSave"_s, u"mClose"_s, u"mcoh"_s}) {
                     QVERIFY(!entry(name)->isVisible());
                     QVERIFY(!entry(name)->isEnabled());
                 }
@@ -74,11 +74,11 @@ private Q_SLOTS:
                 });
             };
             locked(false);
-            user.menu(QStringLiteral("mManagF"));
-            user.wait_for_window(QStringLiteral("f_c_list"));
+            user.menu(u"mManagF"_s);
+            user.wait_for_window(u"f_c_list"_s);
             locked(true);
-            user.click(QStringLiteral("Command1_2"));
-            user.wait_until_gone(QStringLiteral("f_c_list"));
+            user.click(u"Command1_2"_s);
+            user.wait_until_gone(u"f_c_list"_s);
             locked(false);
         });
     }
@@ -90,9 +90,9 @@ private Q_SLOTS:
                 Lock_menu();
                 Lock_menu();
                 Unlock_menu();
-                QVERIFY(entry(QStringLiteral("mOpen"))->isEnabled());
+                QVERIFY(entry(u"mOpen"_s)->isEnabled());
                 Unlock_menu();
-                QVERIFY(entry(QStringLiteral("mQuit"))->isEnabled());
+                QVERIFY(entry(u"mQuit"_s)->isEnabled());
             });
         });
     }
@@ -100,15 +100,15 @@ private Q_SLOTS:
     void a_window_is_placed_near_the_top_and_centred()
     {
         in_main_window(1, one_course(), [](hand& user) {
-            user.click(QStringLiteral("B3"));
-            user.wait_for_window(QStringLiteral("f_c_list"));
+            user.click(u"B3"_s);
+            user.wait_for_window(u"f_c_list"_s);
             user.look([] {
                 const QRect frame = MainForm::of_run()->geometry();
                 Form* list = open_form(u"f_c_list");
                 QCOMPARE(list->pos().x() - frame.x(), (frame.width() - list->width()) / 2);
                 QCOMPARE(list->pos().y() - frame.y(), 40 / 15);
             });
-            user.click(QStringLiteral("Command1_2"));
+            user.click(u"Command1_2"_s);
         });
     }
 
@@ -118,16 +118,16 @@ private Q_SLOTS:
         QFETCH(int, language);
         in_main_window(language, one_course(), [](hand& user) {
             const auto save_and_close = [&user] {
-                user.click(QStringLiteral("B4"));
+                user.click(u"B4"_s);
                 user.answer(notice(u"Il n'y a rien à enregistrer.", u"There is nothing to save."));
                 user.look([] { Lock_menu(); });
-                user.click(QStringLiteral("B5"));
+                user.click(u"B5"_s);
                 user.answer(notice(u"Il n'y a rien à fermer.", u"There is nothing to close."));
-                user.check(user.enabled(QStringLiteral("mOpen")), QStringLiteral("Close unlocks the menu"));
+                user.check(user.enabled(u"mOpen"_s), u"Close unlocks the menu"_s);
             };
             save_and_close();
-            user.menu(QStringLiteral("mManagF"));
-            user.click(QStringLiteral("Command1_2"));
+            user.menu(u"mManagF"_s);
+            user.click(u"Command1_2"_s);
             user.wait_until_gone(in_language(u"f_c_list", u"f_c_list_en"));
             save_and_close();
         });
@@ -151,11 +151,10 @@ private Q_SLOTS:
         in_main_window(language, {}, [&](hand& user) {
             user.look([&] { MainForm::of_run()->resize(size); });
             const auto pane = [] {
-                return dynamic_cast<picture_pane*>(MainForm::of_run()->findChild<QWidget*>(
-                    is_french ? QStringLiteral("Picture1") : QStringLiteral("Picture2")));
+                return dynamic_cast<picture_pane*>(
+                    MainForm::of_run()->findChild<QWidget*>(is_french ? u"Picture1"_s : u"Picture2"_s));
             };
-            user.wait_until(QStringLiteral("the picture"),
-                            [&] { return !pane()->place_of_sign().isEmpty(); });
+            user.wait_until(u"the picture"_s, [&] { return !pane()->place_of_sign().isEmpty(); });
             user.look([&] {
                 QVERIFY(pane()->isVisible());
                 QVERIFY(QRectF(pane()->rect()).contains(pane()->place_of_sign()));
@@ -167,8 +166,7 @@ private Q_SLOTS:
     void the_title_bar_ends_the_program()
     {
         program_run run(1);
-        const int status =
-            run.play_through([](hand& user) { user.close_window(QStringLiteral("MainForm")); });
+        const int status = run.play_through([](hand& user) { user.close_window(u"MainForm"_s); });
         QCOMPARE(status, 0);
     }
 };

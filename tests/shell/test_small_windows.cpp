@@ -15,6 +15,7 @@
 #include "tests/support/store_folder.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::hand;
 using verdane::testing::play;
 using verdane::testing::program_run;
@@ -32,7 +33,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("name");
-        QTest::newRow("French") << true << QStringLiteral("À propos de VERDANE") << "VERDANE pour PC";
+        QTest::newRow("French") << true << u"À propos de VERDANE"_s << "VERDANE pour PC";
         QTest::newRow("English") << false << "About VERDANE"
                                  << "VERDANE for PC";
     }
@@ -46,9 +47,9 @@ private Q_SLOTS:
         f_about window;
         QCOMPARE(window.windowTitle(), title);
         QCOMPARE(window.lblTitle->text(), name);
-        QCOMPARE(window.lblVersion->text(), QStringLiteral("Version 1.4"));
-        QCOMPARE(window.cmdOK->text(), QStringLiteral("OK"));
-        QCOMPARE(window.cmdSysInfo->text(), QStringLiteral("&Infos système"));
+        QCOMPARE(window.lblVersion->text(), u"Version 1.4"_s);
+        QCOMPARE(window.cmdOK->text(), u"OK"_s);
+        QCOMPARE(window.cmdSysInfo->text(), u"&Infos système"_s);
         for (const QLabel* line : {window.lblDescription, window.lblDisclaimer, window.Label1})
             QVERIFY(!line->text().isEmpty());
     }
@@ -72,7 +73,7 @@ private Q_SLOTS:
                              QVERIFY2(fits, qPrintable(control->objectName()));
                          }
                      });
-                     user.click(QStringLiteral("cmdOK"));
+                     user.click(u"cmdOK"_s);
                  });
             return seen;
         };
@@ -88,14 +89,14 @@ private Q_SLOTS:
     {
         program_run run(1);
         run.play_through([](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
-            user.menu(QStringLiteral("maprop"));
-            user.wait_for_window(QStringLiteral("f_about"));
+            user.wait_for_window(u"MainForm"_s);
+            user.menu(u"maprop"_s);
+            user.wait_for_window(u"f_about"_s);
             user.look([] { Lock_menu(); });
-            user.click(QStringLiteral("cmdOK"));
-            user.wait_until_gone(QStringLiteral("f_about"));
-            user.check(user.enabled(QStringLiteral("mOpen")), QStringLiteral("menu unlocked"));
-            user.menu(QStringLiteral("mQuit"));
+            user.click(u"cmdOK"_s);
+            user.wait_until_gone(u"f_about"_s);
+            user.check(user.enabled(u"mOpen"_s), u"menu unlocked"_s);
+            user.menu(u"mQuit"_s);
         });
     }
 
@@ -108,10 +109,10 @@ private Q_SLOTS:
             play([&] { window.show_modal(); },
                  [&](hand& user) {
                      user.wait_for_window(window.objectName());
-                     user.click(QStringLiteral("cmdSysInfo"));
-                     user.answer({QStringLiteral("System Information Is Unavailable At This Time"),
-                                  QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
-                     user.click(QStringLiteral("cmdOK"));
+                     user.click(u"cmdSysInfo"_s);
+                     user.answer({u"System Information Is Unavailable At This Time"_s, QMessageBox::NoIcon,
+                                  default_title(), QMessageBox::Ok});
+                     user.click(u"cmdOK"_s);
                  });
         }
     }
@@ -119,9 +120,9 @@ private Q_SLOTS:
     void the_wait_window_asks_for_patience()
     {
         wait_form window;
-        QCOMPARE(window.objectName(), QStringLiteral("wait"));
-        QCOMPARE(window.windowTitle(), QStringLiteral("Please Wait"));
-        QCOMPARE(window.Label1->text(), QStringLiteral("Please Wait"));
+        QCOMPARE(window.objectName(), u"wait"_s);
+        QCOMPARE(window.windowTitle(), u"Please Wait"_s);
+        QCOMPARE(window.Label1->text(), u"Please Wait"_s);
     }
 
     void the_report_window_has_one_report_control_that_opens_its_preview_above_it()
@@ -129,17 +130,17 @@ private Q_SLOTS:
         const store_folder store;
         set_report_store(store.path());
         f_report window;
-        QCOMPARE(window.objectName(), QStringLiteral("f_report"));
+        QCOMPARE(window.objectName(), u"f_report"_s);
         prepare_report(window.cr2, report_opening::zoomed(75), u"\\r_card2.rpt", u"\\r_card2_en.rpt");
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_report"));
+                 user.wait_for_window(u"f_report"_s);
                  user.look([&] { window.cr2.Action(report_control::run_now); });
-                 user.wait_for_window(QStringLiteral("report_preview"));
+                 user.wait_for_window(u"report_preview"_s);
                  user.look([&] { QCOMPARE(window.cr2.preview()->parentWidget(), &window); });
-                 user.close_window(QStringLiteral("report_preview"));
-                 user.wait_until_gone(QStringLiteral("report_preview"));
-                 user.close_window(QStringLiteral("f_report"));
+                 user.close_window(u"report_preview"_s);
+                 user.wait_until_gone(u"report_preview"_s);
+                 user.close_window(u"f_report"_s);
              });
     }
 
@@ -150,11 +151,11 @@ private Q_SLOTS:
         QCOMPARE(window.pos(), QPoint(frame.width() - 200 / 15, frame.height() - 2400 / 15));
         play([&] { window.show_modal(); },
              [&](hand& user) {
-                 user.wait_for_window(QStringLiteral("f_flash"));
+                 user.wait_for_window(u"f_flash"_s);
                  user.look([&] {
                      QCOMPARE(window.Image1->pos(), QPoint(window.width() / 2, window.height() / 2));
                  });
-                 user.close_window(QStringLiteral("f_flash"));
+                 user.close_window(u"f_flash"_s);
              });
     }
 };

@@ -18,6 +18,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,7 +27,7 @@ constexpr int page_size = 4096;
 /// Spoils the page in which a table begins that no start reads.
 void damage_page_of_costs(const reader& store)
 {
-    const int page = store.number(QStringLiteral("select rootpage from sqlite_master where name = 'cost'"));
+    const int page = store.number(u"select rootpage from sqlite_master where name = 'cost'"_s);
     QFile file(program_run::store_path());
     QVERIFY(page > 1 && file.open(QIODevice::ReadWrite));
     QVERIFY(file.seek(qint64(page - 1) * page_size));
@@ -41,7 +42,7 @@ QByteArray content_of_store()
 
 QMessageBox* failure_box()
 {
-    return qobject_cast<QMessageBox*>(visible_window(QStringLiteral("failure_box")));
+    return qobject_cast<QMessageBox*>(visible_window(u"failure_box"_s));
 }
 
 /// The child process: starts on the data folder of its parent and says what failed.
@@ -51,12 +52,11 @@ int start_until_it_fails()
     play([&] { status = run_verdane(*qApp); },
          [](hand& user) {
              // The hand's own waiting takes a failure for the end of its script.
-             while (!user.is_open(QStringLiteral("failure_box")))
+             while (!user.is_open(u"failure_box"_s))
                  QThread::msleep(5);
              user.look([] {
                  std::printf("%s\n", qUtf8Printable(failure_box()->text()));
-                 std::printf("asked for the language: %d\n",
-                             visible_window(QStringLiteral("f_lang")) != nullptr);
+                 std::printf("asked for the language: %d\n", visible_window(u"f_lang"_s) != nullptr);
                  std::fflush(stdout);
              });
              user.look([] { failure_box()->button(QMessageBox::Ok)->click(); });
@@ -84,14 +84,14 @@ private Q_SLOTS:
         damage_page_of_costs(run.store());
         const QByteArray before = content_of_store();
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--start")});
+        child.start(QCoreApplication::applicationFilePath(), {u"--start"_s});
         QVERIFY(child.waitForFinished(120000));
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
         const QString said = QString::fromUtf8(child.readAllStandardOutput());
         const text_pair words = failure_words(failure_kind::store_damaged);
         QVERIFY2(said.contains(words.french) || said.contains(words.english), qPrintable(said));
-        QVERIFY2(said.contains(QStringLiteral("asked for the language: 0")), qPrintable(said));
+        QVERIFY2(said.contains(u"asked for the language: 0"_s), qPrintable(said));
         QCOMPARE(content_of_store(), before);
     }
 

@@ -13,6 +13,7 @@
 #include "tests/shell/program_run.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::hand;
 using verdane::testing::play;
 using verdane::testing::program_run;
@@ -27,10 +28,9 @@ int start_and_leave()
     int status = -1;
     play([&] { status = run_verdane(*qApp); },
          [](hand& user) {
-             user.wait_until(QStringLiteral("a window"),
-                             [&user] { return QApplication::activeWindow() != nullptr; });
-             if (user.is_open(QStringLiteral("failure_box"))) {
-                 std::printf("failure: %s\n", qUtf8Printable(user.text(QStringLiteral("qt_msgbox_label"))));
+             user.wait_until(u"a window"_s, [&user] { return QApplication::activeWindow() != nullptr; });
+             if (user.is_open(u"failure_box"_s)) {
+                 std::printf("failure: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)));
                  std::fflush(stdout);
                  user.key(Qt::Key_Return);
                  return;
@@ -112,9 +112,9 @@ private Q_SLOTS:
     {
         program_run run(2);
         run.play_through([](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
+            user.wait_for_window(u"MainForm"_s);
             const ended child = child_start();
-            user.same(child.status, 1, QStringLiteral("exit status of the second program"));
+            user.same(child.status, 1, u"exit status of the second program"_s);
             const text_pair words = failure_words(failure_kind::store_locked);
             user.check(child.said.contains(words.french) && child.said.contains(words.english), child.said);
             quit(user);
@@ -139,7 +139,7 @@ private Q_SLOTS:
         if (harm == u"damage")
             damage(path);
         else if (harm == u"no row")
-            run.store().write(QStringLiteral("delete from settings"));
+            run.store().write(u"delete from settings"_s);
         const bool no_rights = harm == u"no rights";
         if (no_rights)
             let_everyone_read_only(path);
@@ -156,7 +156,7 @@ private Q_SLOTS:
 
     void a_missing_table_is_told_and_ends_the_program()
     {
-        program_run run(1, {QStringLiteral("drop table sticknames")});
+        program_run run(1, {u"drop table sticknames"_s});
         const ended child = child_start();
         QCOMPARE(child.status, 1);
         QVERIFY2(child.said.contains(failure_words(failure_kind::missing_table).french),

@@ -11,6 +11,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using verdane::testing::both_stored_languages;
 using verdane::testing::failure_of;
 using verdane::testing::hand;
@@ -42,17 +43,17 @@ private Q_SLOTS:
         QFETCH(bool, french);
         program_run run;
         const int status = run.play_through([&](hand& user) {
-            user.wait_for_window(QStringLiteral("f_lang"));
+            user.wait_for_window(u"f_lang"_s);
             user.click(button);
             quit(user);
         });
         QCOMPARE(status, 0);
-        QCOMPARE(run.store().number(QStringLiteral("select language from settings")), stored);
+        QCOMPARE(run.store().number(u"select language from settings"_s), stored);
         QCOMPARE(is_french, french);
 
         run.play_through([&](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
-            user.check(!user.is_open(QStringLiteral("f_lang")), QStringLiteral("asked again"));
+            user.wait_for_window(u"MainForm"_s);
+            user.check(!user.is_open(u"f_lang"_s), u"asked again"_s);
             quit(user);
         });
         QCOMPARE(is_french, french);
@@ -62,15 +63,11 @@ private Q_SLOTS:
     {
         program_run run;
         run.play_through([](hand& user) {
-            user.same(user.title(QStringLiteral("f_lang")), QStringLiteral("Verdane International Inc."),
-                      QStringLiteral("title"));
-            user.same(user.text(QStringLiteral("Command1_1")), QStringLiteral("Continuer en Français"),
-                      QStringLiteral("caption"));
-            user.same(user.text(QStringLiteral("Command1_0")), QStringLiteral("Continue in English"),
-                      QStringLiteral("caption"));
-            user.same(user.text(QStringLiteral("Command2")), QStringLiteral("Exit / Quitter"),
-                      QStringLiteral("caption"));
-            user.click(QStringLiteral("Command2"));
+            user.same(user.title(u"f_lang"_s), u"Verdane International Inc."_s, u"title"_s);
+            user.same(user.text(u"Command1_1"_s), u"Continuer en Français"_s, u"caption"_s);
+            user.same(user.text(u"Command1_0"_s), u"Continue in English"_s, u"caption"_s);
+            user.same(user.text(u"Command2"_s), u"Exit / Quitter"_s, u"caption"_s);
+            user.click(u"Command2"_s);
         });
     }
 
@@ -87,24 +84,24 @@ private Q_SLOTS:
         program_run run;
         for (int start = 0; start < 2; ++start) {
             const int status = run.play_through([&](hand& user) {
-                user.wait_for_window(QStringLiteral("f_lang"));
+                user.wait_for_window(u"f_lang"_s);
                 if (by_title_bar)
-                    user.close_window(QStringLiteral("f_lang"));
+                    user.close_window(u"f_lang"_s);
                 else
-                    user.click(QStringLiteral("Command2"));
+                    user.click(u"Command2"_s);
             });
             QCOMPARE(status, 0);
-            QCOMPARE(run.store().number(QStringLiteral("select language from settings")), 0);
+            QCOMPARE(run.store().number(u"select language from settings"_s), 0);
         }
     }
 
     void the_club_names_are_loaded_also_when_the_user_left()
     {
-        program_run run(0, {QStringLiteral("update sticknames set club_1 = 'Big', club_14 = 'Roller'")});
+        program_run run(0, {u"update sticknames set club_1 = 'Big', club_14 = 'Roller'"_s});
         Main_module::club_names.clear();
-        run.play_through([](hand& user) { user.click(QStringLiteral("Command2")); });
-        QCOMPARE(Main_module::club_names[0], QStringLiteral("Big"));
-        QCOMPARE(Main_module::club_names[13], QStringLiteral("Roller"));
+        run.play_through([](hand& user) { user.click(u"Command2"_s); });
+        QCOMPARE(Main_module::club_names[0], u"Big"_s);
+        QCOMPARE(Main_module::club_names[13], u"Roller"_s);
     }
 
     void the_language_is_set_before_the_club_names_are_read_data() { both_stored_languages(); }
@@ -112,7 +109,7 @@ private Q_SLOTS:
     {
         QFETCH(int, language);
         // Without their row the club names cannot be read: start-up ends there.
-        const program_run run(language, {QStringLiteral("delete from sticknames")});
+        const program_run run(language, {u"delete from sticknames"_s});
         is_french = language != 1;
         QCOMPARE(failure_of([] { Main(); }), failure_kind::misuse);
         QCOMPARE(is_french, language == 1);
@@ -120,26 +117,26 @@ private Q_SLOTS:
 
     void a_null_language_is_a_damaged_store()
     {
-        program_run run(0, {QStringLiteral("update sticknames set club_1 = 'Big'"),
-                            QStringLiteral("update settings set language = null")});
+        program_run run(
+            0, {u"update sticknames set club_1 = 'Big'"_s, u"update settings set language = null"_s});
         Main_module::club_names.clear();
         const int status = run.play_through([](hand& user) {
-            user.answer({QStringLiteral("Fatal Error - Unexpected Language Value - 1014"),
-                         QMessageBox::Critical, default_title(), QMessageBox::Ok});
+            user.answer({u"Fatal Error - Unexpected Language Value - 1014"_s, QMessageBox::Critical,
+                         default_title(), QMessageBox::Ok});
         });
         QCOMPARE(status, 1);
-        QCOMPARE(Main_module::club_names[0], QStringLiteral("Big"));
+        QCOMPARE(Main_module::club_names[0], u"Big"_s);
     }
 
     void any_other_language_value_asks()
     {
         program_run run(7);
         run.play_through([](hand& user) {
-            user.wait_for_window(QStringLiteral("f_lang"));
-            user.click(QStringLiteral("Command1_0"));
+            user.wait_for_window(u"f_lang"_s);
+            user.click(u"Command1_0"_s);
             quit(user);
         });
-        QCOMPARE(run.store().number(QStringLiteral("select language from settings")), 2);
+        QCOMPARE(run.store().number(u"select language from settings"_s), 2);
     }
 
     void the_stored_language_opens_the_program_in_it_data()
@@ -156,7 +153,7 @@ private Q_SLOTS:
         QFETCH(QString, title);
         program_run run(stored);
         run.play_through([&](hand& user) {
-            user.same(user.title(QStringLiteral("MainForm")), title, QStringLiteral("title"));
+            user.same(user.title(u"MainForm"_s), title, u"title"_s);
             quit(user);
         });
     }
@@ -169,8 +166,8 @@ private Q_SLOTS:
         program_run run(1, statements);
         run.play_through(quit);
         QCOMPARE(plain(Main_module::round_key_count), 3);
-        QCOMPARE(Main_module::round_keys[0], QStringLiteral("20251231235959"));
-        QCOMPARE(Main_module::round_keys[2], QStringLiteral("20260101120000"));
+        QCOMPARE(Main_module::round_keys[0], u"20251231235959"_s);
+        QCOMPARE(Main_module::round_keys[2], u"20260101120000"_s);
     }
 
     void an_empty_diary_leaves_no_keys()
@@ -184,7 +181,7 @@ private Q_SLOTS:
     {
         program_run run(1, rounds(2));
         run.play_through([](hand& user) {
-            user.wait_for_window(QStringLiteral("MainForm"));
+            user.wait_for_window(u"MainForm"_s);
             user.look([] {
                 for (Recordset& recordset : data_environment().recordsets())
                     QVERIFY2(!recordset.is_open(), qPrintable(recordset.name()));

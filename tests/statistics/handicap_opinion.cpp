@@ -8,6 +8,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// An expression for the strokes of a row of `games`.
@@ -17,7 +19,7 @@ QString strokes_of_round()
     for (int hole = 1; hole <= 18; ++hole) {
         for (const char* count :
              {"long_", "approach_", "putt_", "pen_rule_", "pen_water_", "pen_bounds_", "pen_lost_"})
-            terms << QStringLiteral("coalesce(%1%2,0)").arg(QLatin1String(count)).arg(hole);
+            terms << u"coalesce(%1%2,0)"_s.arg(QLatin1String(count)).arg(hole);
     }
     return terms.join(u'+');
 }
@@ -50,7 +52,7 @@ QString one_decimal(double value)
     if (text.endsWith(u".0"))
         text.chop(2);
     if (text == u"0" || text == u"-0")
-        return QStringLiteral("N/A");
+        return u"N/A"_s;
     const qsizetype first_digit = value < 0 ? 1 : 0;
     if (text.mid(first_digit).startsWith(u"0."))
         text.remove(first_digit, 1);
@@ -64,7 +66,7 @@ QString handicap_opinion(const reader& store, const QString& condition)
     const std::vector<double> differentials = sorted_differentials(store, condition);
     const std::size_t best = best_of(differentials.size());
     if (best == 0)
-        return QStringLiteral("N/A");
+        return u"N/A"_s;
     const auto end = differentials.begin() + static_cast<std::ptrdiff_t>(best);
     const double sum = std::accumulate(differentials.begin(), end, 0.0);
     return one_decimal(best == 1 ? sum : sum / static_cast<double>(best) * 0.96);

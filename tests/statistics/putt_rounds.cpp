@@ -7,11 +7,12 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 stored_rounds::stored_rounds(int days, bool french) : folder(french), book(folder.path())
 {
     set_report_store(folder.path());
-    const diary_course course =
-        flat_course(QStringLiteral("PINS-0"), 4, QStringLiteral("70"), QStringLiteral("113"));
+    const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
     book.add(course);
     std::vector<diary_round> rounds;
     for (int day = 1; day <= days; ++day)
@@ -26,18 +27,17 @@ void stored_rounds::putts(int day, int hole, const QList<int>& lengths) const
 
 QStringList stored_rounds::by_first(int row) const
 {
-    return table_rows(book.store, QStringLiteral("s_put1")).at(row - 1);
+    return table_rows(book.store, u"s_put1"_s).at(row - 1);
 }
 
 QStringList stored_rounds::by_start(int row) const
 {
-    return table_rows(book.store, QStringLiteral("s_put2")).at(row - 1);
+    return table_rows(book.store, u"s_put2"_s).at(row - 1);
 }
 
 QList<QStringList> stored_rounds::grids() const
 {
-    return table_rows(book.store, QStringLiteral("s_put1")) +
-           table_rows(book.store, QStringLiteral("s_put2"));
+    return table_rows(book.store, u"s_put1"_s) + table_rows(book.store, u"s_put2"_s);
 }
 
 QStringList bands(const QStringList& row)

@@ -2,6 +2,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 QList<QStringList> table_rows(const reader& store, const QString& table)
 {
     QList<QStringList> texts;
@@ -18,7 +20,7 @@ void put_putts(const reader& store, const QString& key, int hole, const QList<in
 {
     QStringList assignments;
     for (int i = 0; i < lengths.size(); ++i)
-        assignments << QStringLiteral("putt_len_%1_%2 = %3").arg(hole).arg(i + 1).arg(lengths[i]);
+        assignments << u"putt_len_%1_%2 = %3"_s.arg(hole).arg(i + 1).arg(lengths[i]);
     store.write(u"update games2 set " + assignments.join(u", ") + u" where date = '" + key + u'\'');
 }
 
@@ -33,11 +35,10 @@ void put_costs(const reader& store, const QString& key, int unit)
 void put_shot(const reader& store, const QString& key, int club, const QString& columns,
               const QString& values)
 {
-    store.write(
-        QStringLiteral("insert into Stat_rounds (date, hole, shot, stickval, %1) values ('%2', 1, 1, %3, ")
-            .arg(columns, key)
-            .arg(club) +
-        values + u')');
+    store.write(u"insert into Stat_rounds (date, hole, shot, stickval, %1) values ('%2', 1, 1, %3, "_s
+                    .arg(columns, key)
+                    .arg(club) +
+                values + u')');
 }
 
 selection_arguments open_selection(const QString& from_key, const QString& to_key)
@@ -45,18 +46,18 @@ selection_arguments open_selection(const QString& from_key, const QString& to_ke
     selection_arguments chosen;
     chosen.from_key = from_key;
     chosen.to_key = to_key;
-    chosen.partner_text = QStringLiteral("ALL PARTNERS");
-    chosen.course_text = QStringLiteral("ALL COURSES");
-    chosen.weather_text = QStringLiteral("ALL");
+    chosen.partner_text = u"ALL PARTNERS"_s;
+    chosen.course_text = u"ALL COURSES"_s;
+    chosen.weather_text = u"ALL"_s;
     return chosen;
 }
 
 selection_arguments open_putt_selection(const QString& from_key, const QString& to_key)
 {
     selection_arguments chosen = open_selection(from_key, to_key);
-    chosen.partner_clause = QStringLiteral(" true");
-    chosen.course_clause = QStringLiteral("true");
-    chosen.weather_clause = QStringLiteral(" true ");
+    chosen.partner_clause = u" true"_s;
+    chosen.course_clause = u"true"_s;
+    chosen.weather_clause = u" true "_s;
     return chosen;
 }
 

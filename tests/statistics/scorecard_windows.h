@@ -13,7 +13,9 @@
 /// What the tests of the scorecard share.
 namespace verdane::testing {
 
-inline const QString preview = QStringLiteral("report_preview");
+using namespace Qt::StringLiterals;
+
+inline const QString preview = u"report_preview"_s;
 
 /// "Pebble Beach" from the golden tee.
 diary_course pebble();

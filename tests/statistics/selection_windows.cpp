@@ -12,6 +12,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct launch {
@@ -26,12 +28,10 @@ const launch& launch_of(statistics_mode mode)
 {
     using enum statistics_mode;
     static const std::array<launch, 4> launches{{
-        {club, QStringLiteral("Command1"), &f_date_range::cr1, u"\\r_statSticks.rpt",
-         u"\\r_statSticks_en.rpt"},
-        {putt, QStringLiteral("OKButton"), &f_date_range::cr3, u"\\statPuts.rpt", u"\\statPuts_en.rpt"},
-        {round, QStringLiteral("Command2"), &f_date_range::cr2, u"\\Stat_rounds.rpt",
-         u"\\Stat_rounds_en.rpt"},
-        {cost, QStringLiteral("Command3"), &f_date_range::cr2, u"\\r_cost3.rpt", u"\\r_cost3_en.rpt"},
+        {club, u"Command1"_s, &f_date_range::cr1, u"\\r_statSticks.rpt", u"\\r_statSticks_en.rpt"},
+        {putt, u"OKButton"_s, &f_date_range::cr3, u"\\statPuts.rpt", u"\\statPuts_en.rpt"},
+        {round, u"Command2"_s, &f_date_range::cr2, u"\\Stat_rounds.rpt", u"\\Stat_rounds_en.rpt"},
+        {cost, u"Command3"_s, &f_date_range::cr2, u"\\r_cost3.rpt", u"\\r_cost3_en.rpt"},
     }};
     return *std::find_if(launches.begin(), launches.end(),
                          [mode](const launch& one) { return one.mode == mode; });
@@ -49,7 +49,7 @@ void in_window(statistics_mode mode, const std::function<void(f_date_range&)>& p
         [&](hand& user) {
             user.wait_for_window(selection_window());
             script(user);
-            user.click(QStringLiteral("CancelButton"));
+            user.click(u"CancelButton"_s);
             user.wait_until_gone(selection_window());
         });
 }
@@ -82,8 +82,8 @@ QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script
 
 void select_range(hand& user, int from, int to)
 {
-    user.click_row(QStringLiteral("List1"), from);
-    user.click_row(QStringLiteral("List2"), to);
+    user.click_row(u"List1"_s, from);
+    user.click_row(u"List2"_s, to);
 }
 
 void run(hand& user, statistics_mode mode)
@@ -123,14 +123,14 @@ void answer_no_round(hand& user)
 
 void close_report(hand& user, statistics_mode mode)
 {
-    const QString preview = QStringLiteral("report_preview");
-    user.wait_until(QStringLiteral("the report"), [&] { return visible_window(preview) != nullptr; });
+    const QString preview = u"report_preview"_s;
+    user.wait_until(u"the report"_s, [&] { return visible_window(preview) != nullptr; });
     user.look([&] {
         const launch& expected = launch_of(mode);
         const auto& control = dynamic_cast<f_date_range&>(*form_at_work()).*expected.control;
         const bool zoomed = mode == statistics_mode::putt;
         QWidget* report = visible_window(preview);
-        QCOMPARE(report->windowTitle(), QStringLiteral("Verdane International Inc."));
+        QCOMPARE(report->windowTitle(), u"Verdane International Inc."_s);
         QCOMPARE(report->isMaximized(), !zoomed);
         QCOMPARE(control.page_zoom().value_or(0), zoomed ? 75 : 0);
         QCOMPARE(report->parentWidget()->objectName(), selection_window());

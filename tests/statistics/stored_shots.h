@@ -10,6 +10,8 @@
 /// What the tests of the club statistics share.
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 /// A store with rounds on the first days of a year, without shots; on odd days the weather is 1, and the
 /// first round has a partner.
 class stored_shots {
@@ -35,6 +37,6 @@ bool fill_clubs(const selection_arguments& chosen);
 void fill_in_vain(const selection_arguments& chosen);
 
 /// The nine figures of a club without shots.
-inline const QStringList zeros(9, QStringLiteral("0"));
+inline const QStringList zeros(9, u"0"_s);
 
 }  // namespace verdane::testing

@@ -6,6 +6,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -129,9 +130,8 @@ private Q_SLOTS:
         shot.missed = row == u"missed";
         shot.sand = row == u"sand";
         shot.no_gain = row == u"no gain";
-        const QStringList penalties{QString(), QStringLiteral("water stays clean"),
-                                    QStringLiteral("a lost ball stays clean"), QStringLiteral("rules"),
-                                    QStringLiteral("out of bounds")};
+        const QStringList penalties{QString(), u"water stays clean"_s, u"a lost ball stays clean"_s,
+                                    u"rules"_s, u"out of bounds"_s};
         shot.penalty = int16(std::max(0, static_cast<int>(penalties.indexOf(row))));
         QTEST(is_clean(shot), "clean");
     }
@@ -226,7 +226,7 @@ private Q_SLOTS:
         sums.shots = 32767;
         sums.add(missed);
         QCOMPARE(plain(sums.shots), 32768);
-        QCOMPARE(club_table::texts_of(sums)[0], QStringLiteral(" 32768"));
+        QCOMPARE(club_table::texts_of(sums)[0], u" 32768"_s);
     }
 
     void a_club_above_14_is_a_failure()
@@ -265,17 +265,15 @@ private Q_SLOTS:
     void a_club_has_nine_texts()
     {
         const club_sums sums = sums_of({placed(1), placed(2), shot_over(301, 100)});
-        const club_table::club_texts expected{
-            QStringLiteral(" 3"),    QStringLiteral(" 201"), QStringLiteral("167"),
-            QStringLiteral(" 33.3"), QStringLiteral(" 0%"),  QStringLiteral(" 33.3"),
-            QStringLiteral(" 0%"),   QStringLiteral(" 0%"),  QStringLiteral(" 0%")};
+        const club_table::club_texts expected{u" 3"_s,    u" 201"_s, u"167"_s, u" 33.3"_s, u" 0%"_s,
+                                              u" 33.3"_s, u" 0%"_s,  u" 0%"_s, u" 0%"_s};
         QCOMPARE(club_table::texts_of(sums), expected);
     }
 
     void a_club_without_shots_shows_zeros()
     {
         for (const QString& text : club_table::texts_of({}))
-            QCOMPARE(text, QStringLiteral("0"));
+            QCOMPARE(text, u"0"_s);
     }
 
     void a_club_without_a_clean_shot_has_no_average()
@@ -283,10 +281,10 @@ private Q_SLOTS:
         club_shot missed = shot_over(200, 180);
         missed.missed = true;
         const auto texts = club_table::texts_of(sums_of({missed}));
-        QCOMPARE(texts[0], QStringLiteral(" 1"));
-        QCOMPARE(texts[1], QStringLiteral(" 0"));
+        QCOMPARE(texts[0], u" 1"_s);
+        QCOMPARE(texts[1], u" 0"_s);
         QCOMPARE(texts[2], QString());
-        QCOMPARE(texts[6], QStringLiteral(" 100%"));
+        QCOMPARE(texts[6], u" 100%"_s);
     }
 };
 

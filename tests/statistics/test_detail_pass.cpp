@@ -12,6 +12,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -31,7 +32,7 @@ void add_shots_of_hole_2(const diary& book, const QString& key)
 
 diary_course course()
 {
-    return course_of(QStringLiteral("Pebble Beach"), QStringLiteral("Gold"));
+    return course_of(u"Pebble Beach"_s, u"Gold"_s);
 }
 
 diary_round round_on(int day, int over)
@@ -74,7 +75,7 @@ private Q_SLOTS:
         book.add(diary_shot{first_key, 18, 1, 1, 1, 3, false, false, 5});
         book.add(diary_shot{first_key, 18, 2, 1, 0, 2, false, false, 5});
         book.add(diary_shot{first_key, 18, 3, 1, 0, 4, false, false, 5});
-        book.store.write(QStringLiteral("update stats set hole_1 = 3, front_nine = 3"));
+        book.store.write(u"update stats set hole_1 = 3, front_nine = 3"_s);
         write_detail_of(days(1, 1));
         const std::vector<double> hole_2{2, 1, 1, 1, 0, 0, 0, 1, 2};
         const std::vector<double> hole_18{1, 0, 0, 0, 1, 1, 1, 3, 1};
@@ -166,13 +167,13 @@ private Q_SLOTS:
         for (int day = 1; day <= 3; ++day)
             book.add(round_on(day, 0));
         add_shots_of_hole_2(book, key_of_day(2));
-        book.store.write(QStringLiteral("delete from games where date = '%1'").arg(key_of_day(2)));
+        book.store.write(u"delete from games where date = '%1'"_s.arg(key_of_day(2)));
         in_selection_window([](hand& user) {
             select_range(user, 0, 1);
-            user.choose(QStringLiteral("conditions"), 3);
+            user.choose(u"conditions"_s, 3);
             run(user);
             answer_no_round(user);
-            user.check(!user.is_open(QStringLiteral("report_preview")), QStringLiteral("no report"));
+            user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
         });
         for (int line = 0; line < 34; ++line)
             QCOMPARE(stats_row(book.store, line)[1], 0.0);

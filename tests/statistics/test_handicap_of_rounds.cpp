@@ -9,15 +9,16 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString reference_code = QStringLiteral("REFERENCE-0");
+const QString reference_code = u"REFERENCE-0"_s;
 
 /// A course on which a differential is the gross less 72.
 diary_course reference_course()
 {
-    return flat_course(reference_code, 4, QStringLiteral("72"), QStringLiteral("113"));
+    return flat_course(reference_code, 4, u"72"_s, u"113"_s);
 }
 
 /// A round of that gross: everything on the first hole.
@@ -82,15 +83,15 @@ private Q_SLOTS:
             all.push_back(round_of(i + 1, course, 72 + rounds - i));
         book.add(all);
         QTEST(handicap_of(whole_year()), "expected");
-        QCOMPARE(book.store.number(QStringLiteral("select count(*) from hand")), rounds);
-        QCOMPARE(book.store.number(QStringLiteral("select min(hnd) from hand")), 1);
+        QCOMPARE(book.store.number(u"select count(*) from hand"_s), rounds);
+        QCOMPARE(book.store.number(u"select min(hnd) from hand"_s), 1);
     }
 
     void the_figure_is_rounded_once_and_a_single_one_takes_no_factor_data()
     {
         QTest::addColumn<QStringList>("ratings");
         QTest::addColumn<QString>("expected");
-        const QStringList rest(3, QStringLiteral("20"));
+        const QStringList rest(3, u"20"_s);
         // Every round has a gross of 80: the rating makes the differential.
         QTest::newRow("10.44 alone is 10.4") << (QStringList{"69.56", "60"} + rest) << " 10.4";
         QTest::newRow("12.25 alone goes to the even tenth") << (QStringList{"67.75", "60"} + rest) << " 12.2";
@@ -106,8 +107,7 @@ private Q_SLOTS:
         const store_folder store;
         const diary book(store.path());
         for (qsizetype i = 0; i < ratings.size(); ++i) {
-            const diary_course course =
-                flat_course(QStringLiteral("COURSE%1-0").arg(i), 4, ratings.at(i), QStringLiteral("113"));
+            const diary_course course = flat_course(u"COURSE%1-0"_s.arg(i), 4, ratings.at(i), u"113"_s);
             book.add(course);
             book.add(round_of(static_cast<int>(i) + 1, course, 80));
         }
@@ -133,9 +133,8 @@ private Q_SLOTS:
         QFETCH(QString, rating);
         const store_folder store;
         const diary book(store.path());
-        const diary_course course = flat_course(reference_code, 4, rating, QStringLiteral("100"));
-        const diary_course other =
-            flat_course(QStringLiteral("EASY-0"), 4, QStringLiteral("20"), QStringLiteral("113"));
+        const diary_course course = flat_course(reference_code, 4, rating, u"100"_s);
+        const diary_course other = flat_course(u"EASY-0"_s, 4, u"20"_s, u"113"_s);
         book.add(course);
         book.add(other);
         book.add(round_of(1, course, 80));
@@ -148,9 +147,8 @@ private Q_SLOTS:
     {
         const store_folder store;
         const diary book(store.path());
-        const diary_course pebble = course_of(QStringLiteral("Pebble Beach"), QStringLiteral("Blue"));
-        const diary_course links =
-            course_of(QStringLiteral("North Berwick West Links"), QStringLiteral("Red"));
+        const diary_course pebble = course_of(u"Pebble Beach"_s, u"Blue"_s);
+        const diary_course links = course_of(u"North Berwick West Links"_s, u"Red"_s);
         book.add(pebble);
         book.add(links);
         for (int day = 1; day <= 5; ++day)
@@ -158,8 +156,8 @@ private Q_SLOTS:
         book.add(round_of(6, links, 80));
         // Pebble Beach, blue: (91 - 74.9) * 113 / 144 = 12.634...; North Berwick, red:
         // (80 - 69.1) * 113 / 121 = 10.179...; their mean 11.4067 * 0.96 = 10.950 -> 11 (10.95042)
-        QCOMPARE(handicap_of(whole_year()), QStringLiteral(" 11"));
-        const auto rows = book.store.rows(QStringLiteral("select hnd from hand order by hnd"));
+        QCOMPARE(handicap_of(whole_year()), u" 11"_s);
+        const auto rows = book.store.rows(u"select hnd from hand order by hnd"_s);
         QCOMPARE(rows.size(), std::size_t(6));
         QCOMPARE(rows.at(0).at(0).toDouble(), (80 - 69.1) * 113 / 121);
         QCOMPARE(rows.at(1).at(0).toDouble(), (91 - 74.9) * 113 / 144);
@@ -176,11 +174,11 @@ private Q_SLOTS:
         QFETCH(QString, slope);
         const store_folder store;
         const diary book(store.path());
-        const diary_course course = flat_course(reference_code, 4, QStringLiteral("70"), slope);
+        const diary_course course = flat_course(reference_code, 4, u"70"_s, slope);
         book.add(course);
         for (int day = 1; day <= 6; ++day)
             book.add(round_of(day, course, 90));
-        QCOMPARE(handicap_of(whole_year()), QStringLiteral("N/A"));
+        QCOMPARE(handicap_of(whole_year()), u"N/A"_s);
     }
 
     void a_round_counts_by_its_dates_course_weather_and_partner_data()
@@ -233,12 +231,10 @@ private Q_SLOTS:
         const store_folder store;
         const diary book(store.path());
         const diary_course reference = reference_course();
-        const diary_course other =
-            flat_course(QStringLiteral("OTHER-1"), 4, QStringLiteral("72"), QStringLiteral("113"));
+        const diary_course other = flat_course(u"OTHER-1"_s, 4, u"72"_s, u"113"_s);
         book.add(reference);
         book.add(other);
-        const QHash<int, QString> partners{
-            {1, QStringLiteral("12-7-")}, {2, QStringLiteral("112-")}, {6, QStringLiteral("5-12-")}};
+        const QHash<int, QString> partners{{1, u"12-7-"_s}, {2, u"112-"_s}, {6, u"5-12-"_s}};
         for (int day = 1; day <= 8; ++day) {
             diary_round round = round_of(day, day < 5 ? reference : other, 72 + day);
             round.weather = day % 4;
@@ -253,7 +249,7 @@ private Q_SLOTS:
         chosen.partner_number = partner;
         QCOMPARE(Statistics::compute_handicap(chosen).missing, missing_row::none);
         QList<int> seen;
-        for (const auto& row : book.store.rows(QStringLiteral("select hnd from hand order by hnd")))
+        for (const auto& row : book.store.rows(u"select hnd from hand order by hnd"_s))
             seen << row.at(0).toInt();
         QCOMPARE(seen, days);
     }
@@ -267,8 +263,8 @@ private Q_SLOTS:
         handicap_of(whole_year());
         for (Recordset& recordset : data_environment().recordsets())
             QVERIFY2(!recordset.is_open(), qPrintable(recordset.name()));
-        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
-        QCOMPARE(data_environment().rshand.Source(), QStringLiteral("select * from hand"));
+        QCOMPARE(data_environment().rsgames.Source(), u"Select * from games"_s);
+        QCOMPARE(data_environment().rshand.Source(), u"select * from hand"_s);
     }
 
     void a_round_without_one_of_its_rows_ends_the_run_data()
@@ -294,7 +290,7 @@ private Q_SLOTS:
         QVERIFY(result.text.isEmpty());
         for (Recordset& recordset : data_environment().recordsets())
             QVERIFY2(!recordset.is_open(), qPrintable(recordset.name()));
-        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
+        QCOMPARE(data_environment().rsgames.Source(), u"Select * from games"_s);
     }
 
     void there_is_room_for_366_rounds_and_no_more()
@@ -306,7 +302,7 @@ private Q_SLOTS:
         for (int day = 1; day <= 366; ++day)
             rounds.push_back(round_of(day, reference_course(), 73));
         book.add(rounds);
-        QCOMPARE(handicap_of(whole_year()), QStringLiteral(" 1"));  // 1 * 0.96 = 0.96
+        QCOMPARE(handicap_of(whole_year()), u" 1"_s);  // 1 * 0.96 = 0.96
         book.add(round_of(367, reference_course(), 73));
         QCOMPARE(failure_of([] { handicap_of(whole_year()); }), failure_kind::subscript);
     }
@@ -321,7 +317,7 @@ private Q_SLOTS:
             round.holes.at(i).stored = false;
         book.add(round);
         handicap_of(whole_year());
-        QCOMPARE(book.store.number(QStringLiteral("select hnd from hand")), 40 - 72);
+        QCOMPARE(book.store.number(u"select hnd from hand"_s), 40 - 72);
     }
 };
 

@@ -3,6 +3,7 @@
 #include "statistics/putt_bands.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 class test_putt_bands : public QObject {
     Q_OBJECT
@@ -70,11 +71,11 @@ private Q_SLOTS:
                                               << "Average";
         QTest::newRow("2.5") << 2.5 << 2 << "PASSABLE"
                              << "Acceptable";
-        QTest::newRow("3.0") << 3.0 << 1 << QStringLiteral("MÉDIOCRE") << "MEDIOCRE";
-        QTest::newRow("below 3.7") << 3.6999 << 9 << QStringLiteral("MÉDIOCRE") << "MEDIOCRE";
+        QTest::newRow("3.0") << 3.0 << 1 << u"MÉDIOCRE"_s << "MEDIOCRE";
+        QTest::newRow("below 3.7") << 3.6999 << 9 << u"MÉDIOCRE"_s << "MEDIOCRE";
         QTest::newRow("exactly 3.7, as 37 over 10") << 37.0 / 10 << 10 << ""
                                                     << "";
-        QTest::newRow("above 3.7") << 3.7001 << 9 << QStringLiteral("ONT RÉELLEMENT BESOIN D'ÊTRE PRATIQUÉS")
+        QTest::newRow("above 3.7") << 3.7001 << 9 << u"ONT RÉELLEMENT BESOIN D'ÊTRE PRATIQUÉS"_s
                                    << "You really need to practice";
     }
     void a_mean_grade_has_its_words()

@@ -5,6 +5,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -65,8 +66,8 @@ private Q_SLOTS:
         QCOMPARE(plain(figures.graded), 4);
         QCOMPARE(plain(figures.putts), 2);
         QCOMPARE(figures.score(), 2.0);
-        QCOMPARE(figures.rating().in(true), QStringLiteral("MOYEN"));
-        QCOMPARE(figures.rating().in(false), QStringLiteral("Average"));
+        QCOMPARE(figures.rating().in(true), u"MOYEN"_s);
+        QCOMPARE(figures.rating().in(false), u"Average"_s);
     }
 
     void a_holed_putt_of_4_feet_is_excellent()
@@ -75,7 +76,7 @@ private Q_SLOTS:
         QCOMPARE(by_first(figures.counts, 1, 7), 1);
         QCOMPARE(by_start(figures.counts, 7, 7), 1);
         QCOMPARE(figures.score(), 1.0);
-        QCOMPARE(figures.rating().in(false), QStringLiteral("EXCELLENT"));
+        QCOMPARE(figures.rating().in(false), u"EXCELLENT"_s);
     }
 
     void a_foot_left_after_50_is_the_best_grade()
@@ -109,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(!counts.any_putt);
         QCOMPARE(plain(putt_count(counts)), 0);
         QCOMPARE(holes_counted(counts), 0);
-        QCOMPARE(figures_of(counts).rating().in(true), QStringLiteral("N/A"));
+        QCOMPARE(figures_of(counts).rating().in(true), u"N/A"_s);
     }
 
     void a_length_below_0_ends_a_hole()

@@ -11,6 +11,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,12 +28,12 @@ row flat(double figure)
 
 diary_course pebble()
 {
-    return course_of(QStringLiteral("Pebble Beach"), QStringLiteral("Gold"));
+    return course_of(u"Pebble Beach"_s, u"Gold"_s);
 }
 
 diary_course carnoustie()
 {
-    return course_of(QStringLiteral("Carnoustie Championship"), QStringLiteral("White"));
+    return course_of(u"Carnoustie Championship"_s, u"White"_s);
 }
 
 /// A fresh store with courses and rounds, which reports read too.
@@ -92,17 +93,14 @@ private Q_SLOTS:
         QCOMPARE(strokes[6], 5.0);
         QCOMPARE(total(strokes), 91.0);
         QCOMPARE(strokes[18] + strokes[19], 91.0);
-        QCOMPARE(store.head(QStringLiteral("average_mark")), QStringLiteral(" "));
-        QCOMPARE(store.head(QStringLiteral("handicap_text")), QStringLiteral("N/A"));
-        QCOMPARE(store.head(QStringLiteral("round_count")), QStringLiteral("1"));
-        QCOMPARE(store.head(QStringLiteral("from_text")), QStringLiteral("2003-01-01 09:30:00"));
-        QCOMPARE(store.head(QStringLiteral("to_text")), QStringLiteral("2003-01-01 09:30:00"));
-        QCOMPARE(store.head(QStringLiteral("course_text")),
-                 french ? QStringLiteral("TOUS LES TERRAINS") : QStringLiteral("ALL COURSES"));
-        QCOMPARE(store.head(QStringLiteral("partner_text")),
-                 french ? QStringLiteral("TOUS LES PARTENAIRES") : QStringLiteral("ALL PARTNERS"));
-        QCOMPARE(store.head(QStringLiteral("weather_text")),
-                 french ? QStringLiteral(" TOUTES") : QStringLiteral(" ALL"));
+        QCOMPARE(store.head(u"average_mark"_s), u" "_s);
+        QCOMPARE(store.head(u"handicap_text"_s), u"N/A"_s);
+        QCOMPARE(store.head(u"round_count"_s), u"1"_s);
+        QCOMPARE(store.head(u"from_text"_s), u"2003-01-01 09:30:00"_s);
+        QCOMPARE(store.head(u"to_text"_s), u"2003-01-01 09:30:00"_s);
+        QCOMPARE(store.head(u"course_text"_s), french ? u"TOUS LES TERRAINS"_s : u"ALL COURSES"_s);
+        QCOMPARE(store.head(u"partner_text"_s), french ? u"TOUS LES PARTENAIRES"_s : u"ALL PARTNERS"_s);
+        QCOMPARE(store.head(u"weather_text"_s), french ? u" TOUTES"_s : u" ALL"_s);
         QCOMPARE(store.stats(1)[6], 1.0);
         QCOMPARE(store.stats(2)[6], 2.0);
         QCOMPARE(store.stats(3)[6], 3.0);
@@ -130,9 +128,9 @@ private Q_SLOTS:
         QCOMPARE(strokes[0], 9.0);
         QCOMPARE(strokes[18] + strokes[19], 72.0 + 90.0);
         QCOMPARE(total(strokes), 81.0);
-        QCOMPARE(store.head(QStringLiteral("average_mark")), QStringLiteral("0"));
-        QCOMPARE(store.head(QStringLiteral("round_count")), QStringLiteral("2"));
-        QCOMPARE(store.head(QStringLiteral("to_text")), QStringLiteral("2003-01-02 09:30:00"));
+        QCOMPARE(store.head(u"average_mark"_s), u"0"_s);
+        QCOMPARE(store.head(u"round_count"_s), u"2"_s);
+        QCOMPARE(store.head(u"to_text"_s), u"2003-01-02 09:30:00"_s);
         QCOMPARE(store.stats(9), flat(0.5));
         QCOMPARE(store.stats(10), flat(1));
         // Par 3s at 3 and 4 strokes: 3.5 goes to the even 4; 4.5 to 4; 5.5 to 6.
@@ -171,7 +169,7 @@ private Q_SLOTS:
             run_without_detail(user);
         });
         // The best is 90: (90 - 73.4) * 113 / 137 = 13.69...
-        QCOMPARE(store.head(QStringLiteral("handicap_text")), QStringLiteral(" 13.7"));
+        QCOMPARE(store.head(u"handicap_text"_s), u" 13.7"_s);
     }
 
     void a_hole_without_strokes_counts_nothing_but_its_par()
@@ -214,14 +212,14 @@ private Q_SLOTS:
         QFETCH(QString, column);
         std::vector<diary_round> rounds{pebble_round(1, 0), pebble_round(2, 1), pebble_round(3, 2)};
         rounds.push_back({key_of_day(4), carnoustie(), holes_over(carnoustie().pars, 3), 3, {}});
-        rounds[0].partners = QStringLiteral("12-");
-        rounds[1].partners = QStringLiteral("7-33-");
+        rounds[0].partners = u"12-"_s;
+        rounds[1].partners = u"7-33-"_s;
         rounds[1].weather = 1;
-        rounds[2].partners = QStringLiteral("112-");
+        rounds[2].partners = u"112-"_s;
         rounds[2].weather = 2;
         const filled_store store(rounds);
-        store.book.add_partner(QStringLiteral("Anne"), QStringLiteral("Douze"), 12);
-        store.book.add_partner(QStringLiteral("Zoé"), QStringLiteral("Sept"), 7);
+        store.book.add_partner(u"Anne"_s, u"Douze"_s, 12);
+        store.book.add_partner(u"Zoé"_s, u"Sept"_s, 7);
         in_selection_window([&](hand& user) {
             select_range(user, 0, 3);
             user.choose(filter, entry);
@@ -230,7 +228,7 @@ private Q_SLOTS:
         QTEST(store.head(column), "text");
         QCOMPARE(total(store.stats(0)), strokes);
         const bool two_rounds = entry == 1 && filter == u"pList";
-        QCOMPARE(store.head(QStringLiteral("round_count")).toInt(), two_rounds ? 2 : 1);
+        QCOMPARE(store.head(u"round_count"_s).toInt(), two_rounds ? 2 : 1);
     }
 
     void a_range_that_runs_backwards_holds_no_round_data() { both_languages(); }
@@ -238,14 +236,14 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const filled_store store({pebble_round(1), pebble_round(2)}, french);
-        store.book.store.write(QStringLiteral("update stats set hole_3 = 7, front_nine = 9, all_holes = 1"));
+        store.book.store.write(u"update stats set hole_3 = 7, front_nine = 9, all_holes = 1"_s);
         const auto steps = bar_in_selection_window([](hand& user) {
             select_range(user, 1, 0);
             run(user);
             answer_no_detail(user);
             answer_no_round(user);
-            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("the bar is gone"));
-            user.check(!user.is_open(QStringLiteral("report_preview")), QStringLiteral("no report"));
+            user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+            user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
         });
         QCOMPARE(steps, (QList<bar_step>{{20, true}, {40, true}, {30, true}}));
         for (int line = 0; line < 34; ++line)
@@ -257,9 +255,9 @@ private Q_SLOTS:
     {
         const filled_store store({pebble_round(1)});
         const auto steps = bar_in_selection_window([](hand& user) {
-            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("no bar before the run"));
+            user.check(!user.visible(u"Status"_s), u"no bar before the run"_s);
             run_without_detail(user);
-            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("no bar after the run"));
+            user.check(!user.visible(u"Status"_s), u"no bar after the run"_s);
         });
         QList<bar_step> expected;
         for (const int value : {20, 40, 30, 50, 60, 80, 100})
@@ -272,10 +270,10 @@ private Q_SLOTS:
         const filled_store store({pebble_round(1, 0), pebble_round(2, 3)});
         in_selection_window([&](hand& user) {
             run_without_detail(user);
-            user.same(static_cast<int>(total(store.stats(0))), 72, QStringLiteral("first run"));
+            user.same(static_cast<int>(total(store.stats(0))), 72, u"first run"_s);
             select_range(user, 1, 1);
             run_without_detail(user);
-            user.same(static_cast<int>(total(store.stats(0))), 126, QStringLiteral("second run"));
+            user.same(static_cast<int>(total(store.stats(0))), 126, u"second run"_s);
         });
     }
 
@@ -283,11 +281,10 @@ private Q_SLOTS:
     {
         const filled_store store({pebble_round(1)});
         in_selection_window(run_without_detail);
-        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
-        QCOMPARE(data_environment().rshand.Source(), QStringLiteral("select * from hand"));
-        QCOMPARE(data_environment().rsStat_rounds.Source().toUpper(),
-                 QStringLiteral("SELECT * FROM STAT_ROUNDS"));
-        QCOMPARE(store.book.store.number(QStringLiteral("select count(*) from stats")), 34);
+        QCOMPARE(data_environment().rsgames.Source(), u"Select * from games"_s);
+        QCOMPARE(data_environment().rshand.Source(), u"select * from hand"_s);
+        QCOMPARE(data_environment().rsStat_rounds.Source().toUpper(), u"SELECT * FROM STAT_ROUNDS"_s);
+        QCOMPARE(store.book.store.number(u"select count(*) from stats"_s), 34);
     }
 
     void a_round_without_one_of_its_rows_ends_the_run_with_its_box_data()
@@ -320,15 +317,15 @@ private Q_SLOTS:
             answer_no_detail(user);
             user.answer({text, QMessageBox::Critical, QString(), QMessageBox::Ok});
             user.wait_for_window(selection_window());
-            user.check(!user.visible(QStringLiteral("Status")), QStringLiteral("the bar is gone"));
-            user.check(!user.is_open(QStringLiteral("report_preview")), QStringLiteral("no report"));
-            user.check(open_recordsets().isEmpty(), QStringLiteral("open: ") + open_recordsets().join(u' '));
+            user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+            user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
+            user.check(open_recordsets().isEmpty(), u"open: "_s + open_recordsets().join(u' '));
             // The window goes on with what is whole.
             select_range(user, 1, 1);
             run_without_detail(user);
         });
         QCOMPARE(total(store.stats(0)), 72.0);
-        QCOMPARE(data_environment().rsgames.Source(), QStringLiteral("Select * from games"));
+        QCOMPARE(data_environment().rsgames.Source(), u"Select * from games"_s);
     }
 };
 

@@ -8,6 +8,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -191,14 +192,14 @@ private Q_SLOTS:
         round_sums sums;
         add_round_of(sums, gross_on(4, 4));
         QCOMPARE(strokes_line(sums).all_holes, 72.0);
-        QCOMPARE(average_mark(sums), QStringLiteral(" "));
+        QCOMPARE(average_mark(sums), u" "_s);
         add_round_of(sums, gross_on(5, 4));
         const stats_line line = strokes_line(sums);
         QCOMPARE(line.holes[1], 9.0);
         QCOMPARE(line.front_nine, 81.0);
         QCOMPARE(line.back_nine, 81.0);
         QCOMPARE(line.all_holes, 81.0);
-        QCOMPARE(average_mark(sums), QStringLiteral("0"));
+        QCOMPARE(average_mark(sums), u"0"_s);
     }
 
     void strokes_over_par_are_a_mean_a_round_with_decimals()
@@ -222,7 +223,7 @@ private Q_SLOTS:
             QCOMPARE(over_line(sums).holes[h], 0.0);
         }
         QCOMPARE(strokes_line(sums).all_holes, 0.0);
-        QCOMPARE(average_mark(sums), QStringLiteral(" "));
+        QCOMPARE(average_mark(sums), u" "_s);
     }
 
     void both_nines_and_their_total_are_added_as_decimals()

@@ -8,17 +8,18 @@
 #include "statistics/selection_clauses.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 selection_arguments pieces()
 {
     selection_arguments chosen;
-    chosen.from_key = QStringLiteral("20030101093000");
-    chosen.to_key = QStringLiteral("20031231093000");
-    chosen.partner_clause = QStringLiteral("<partner>");
-    chosen.course_clause = QStringLiteral("<course>");
-    chosen.weather_clause = QStringLiteral("<weather>");
+    chosen.from_key = u"20030101093000"_s;
+    chosen.to_key = u"20031231093000"_s;
+    chosen.partner_clause = u"<partner>"_s;
+    chosen.course_clause = u"<course>"_s;
+    chosen.weather_clause = u"<weather>"_s;
     return chosen;
 }
 
@@ -54,8 +55,8 @@ private Q_SLOTS:
                                 << " AND GAMES2.FC = 'CLUB DES PINS-2'"
                                 << " GAMES2.FC = 'CLUB DES PINS-2'";
         QTest::newRow("a quote in a code ends no text")
-            << course << QStringLiteral("L'ESTÉREL-0") << QStringLiteral(" AND GAMES2.FC = 'L''ESTÉREL-0'")
-            << QStringLiteral(" GAMES2.FC = 'L''ESTÉREL-0'");
+            << course << u"L'ESTÉREL-0"_s << u" AND GAMES2.FC = 'L''ESTÉREL-0'"_s
+            << u" GAMES2.FC = 'L''ESTÉREL-0'"_s;
     }
     void a_filter_becomes_a_fragment_of_the_condition()
     {
@@ -68,47 +69,43 @@ private Q_SLOTS:
     void the_statement_of_the_shots_is_put_together_from_its_pieces()
     {
         QCOMPARE(Statistics::club_shot_select(pieces()),
-                 QStringLiteral(
-                     "select stat_rounds.date,stat_rounds.hole,stat_rounds.before, "
-                     "stat_rounds.after,stat_rounds.shot_type,stat_rounds.stick, "
-                     "stat_rounds.beyong_hole,stat_rounds.missed,stat_rounds.ts,stat_rounds.dz, "
-                     "stat_rounds.faireway,stat_rounds.penality,stat_rounds.shot, stat_rounds.stickval, "
-                     "stat_rounds.fairval,stat_rounds.penval,stat_rounds.shot_type_value,stat_rounds.cal, "
-                     "games2.date,  stat_rounds.verges, stat_rounds.unit  from  games2, stat_rounds where ( "
-                     "games2.date>= '20030101093000' AND games2.date <='20031231093000'  AND  "
-                     "stat_rounds.date=games2.date) <weather><partner><course>  AND (NOT "
-                     "stat_rounds.shot_type_value = 3 ) ORDER BY STAT_ROUNDS.DATE,STAT_ROUNDS.HOLE "));
+                 u"select stat_rounds.date,stat_rounds.hole,stat_rounds.before, "
+                 u"stat_rounds.after,stat_rounds.shot_type,stat_rounds.stick, "
+                 u"stat_rounds.beyong_hole,stat_rounds.missed,stat_rounds.ts,stat_rounds.dz, "
+                 u"stat_rounds.faireway,stat_rounds.penality,stat_rounds.shot, stat_rounds.stickval, "
+                 u"stat_rounds.fairval,stat_rounds.penval,stat_rounds.shot_type_value,stat_rounds.cal, "
+                 u"games2.date,  stat_rounds.verges, stat_rounds.unit  from  games2, stat_rounds where ( "
+                 u"games2.date>= '20030101093000' AND games2.date <='20031231093000'  AND  "
+                 u"stat_rounds.date=games2.date) <weather><partner><course>  AND (NOT "
+                 u"stat_rounds.shot_type_value = 3 ) ORDER BY STAT_ROUNDS.DATE,STAT_ROUNDS.HOLE "_s);
     }
 
     void the_statement_of_the_costs_is_put_together_from_its_pieces()
     {
-        QCOMPARE(
-            Statistics::cost_select(pieces()),
-            QStringLiteral("select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
-                           "cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au from  cost "
-                           ", games2 where ( cost.date=games2.date and cost.date>= '20030101093000' AND "
-                           "cost.date <='20031231093000' ) <partner><course><weather>"));
+        QCOMPARE(Statistics::cost_select(pieces()),
+                 u"select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
+                 u"cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au from  cost "
+                 u", games2 where ( cost.date=games2.date and cost.date>= '20030101093000' AND "
+                 u"cost.date <='20031231093000' ) <partner><course><weather>"_s);
     }
 
     void no_date_stands_in_the_statement_of_the_putts()
     {
-        QCOMPARE(
-            Statistics::putt_select(pieces()),
-            QStringLiteral("select * from games2 where <weather> AND <partner> AND <course> order by date "));
+        QCOMPARE(Statistics::putt_select(pieces()),
+                 u"select * from games2 where <weather> AND <partner> AND <course> order by date "_s);
     }
 
     void the_detail_statement_is_put_together_from_its_pieces()
     {
         QCOMPARE(
             Statistics::detail_select(pieces()),
-            QStringLiteral(
-                "SELECT ABS(SUM(STAT_ROUNDS.FAIRVAL=1 and STAT_ROUNDS.shot_type_value<>3 )), "
-                "ABS(SUM(STAT_ROUNDS.TS)), ABS(SUM(STAT_ROUNDS.MISSED)), ABS(SUM(STAT_ROUNDS.PENVAL=1)), "
-                "ABS(SUM(STAT_ROUNDS.PENVAL=2)), ABS(SUM(STAT_ROUNDS.PENVAL=3)),  "
-                "ABS(SUM(STAT_ROUNDS.PENVAL=4)), SUM(STAT_ROUNDS.NORMAL)/COUNT(STAT_ROUNDS.HOLE) , "
-                "COUNT(STAT_ROUNDS.HOLE), SUM(STAT_ROUNDS.ADDPEN),STAT_ROUNDS.HOLE FROM STAT_ROUNDS, GAMES2 "
-                "WHERE (STAT_ROUNDS.DATE = GAMES2.DATE AND  games2.date>= '20030101093000' AND games2.date "
-                "<='20031231093000' )<partner><course><weather> GROUP BY STAT_ROUNDS.HOLE"));
+            u"SELECT ABS(SUM(STAT_ROUNDS.FAIRVAL=1 and STAT_ROUNDS.shot_type_value<>3 )), "
+            u"ABS(SUM(STAT_ROUNDS.TS)), ABS(SUM(STAT_ROUNDS.MISSED)), ABS(SUM(STAT_ROUNDS.PENVAL=1)), "
+            u"ABS(SUM(STAT_ROUNDS.PENVAL=2)), ABS(SUM(STAT_ROUNDS.PENVAL=3)),  "
+            u"ABS(SUM(STAT_ROUNDS.PENVAL=4)), SUM(STAT_ROUNDS.NORMAL)/COUNT(STAT_ROUNDS.HOLE) , "
+            u"COUNT(STAT_ROUNDS.HOLE), SUM(STAT_ROUNDS.ADDPEN),STAT_ROUNDS.HOLE FROM STAT_ROUNDS, GAMES2 "
+            u"WHERE (STAT_ROUNDS.DATE = GAMES2.DATE AND  games2.date>= '20030101093000' AND games2.date "
+            u"<='20031231093000' )<partner><course><weather> GROUP BY STAT_ROUNDS.HOLE"_s);
     }
 
     void the_rounds_are_chosen_by_date_and_by_a_course_code_of_more_than_one_character_data()
@@ -127,8 +124,8 @@ private Q_SLOTS:
         QFETCH(QString, code);
         QFETCH(QString, rest);
         selection_arguments chosen;
-        chosen.from_key = QStringLiteral("20030101093000");
-        chosen.to_key = QStringLiteral("20031231093000");
+        chosen.from_key = u"20030101093000"_s;
+        chosen.to_key = u"20031231093000"_s;
         chosen.course_code = code;
         QCOMPARE(
             selected_rounds_statement(chosen),

@@ -13,6 +13,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,9 +22,8 @@ constexpr int rows_of_stats = 34;
 
 std::vector<diary_course> courses()
 {
-    return {course_of(QStringLiteral("Pebble Beach"), QStringLiteral("Gold")),
-            course_of(QStringLiteral("Carnoustie Championship"), QStringLiteral("Yellow")),
-            course_of(QStringLiteral("North Berwick West Links"), QStringLiteral("Blue"))};
+    return {course_of(u"Pebble Beach"_s, u"Gold"_s), course_of(u"Carnoustie Championship"_s, u"Yellow"_s),
+            course_of(u"North Berwick West Links"_s, u"Blue"_s)};
 }
 
 class generator {
@@ -47,8 +47,7 @@ public:
 
     QString partners()
     {
-        static const QStringList lists{QString(), QStringLiteral("12-"), QStringLiteral("112-7-"),
-                                       QStringLiteral("7-")};
+        static const QStringList lists{QString(), u"12-"_s, u"112-7-"_s, u"7-"_s};
         return lists.at(pick(0, 3));
     }
 
@@ -127,11 +126,10 @@ private:
     void add_hole(int h, const QString& condition)
     {
         const QString statement =
-            QStringLiteral("select coalesce(long_%1,0), coalesce(approach_%1,0), coalesce(putt_%1,0), "
-                           "pen_rule_%1, pen_water_%1, pen_bounds_%1, pen_lost_%1, missed_%1, sand_%1, "
-                           "fairway_%1, par_%1 from games g join games2 s on g.date = s.date "
-                           "join field_info f on f.FIELD_CODE = g.CODEF where ")
-                .arg(h) +
+            u"select coalesce(long_%1,0), coalesce(approach_%1,0), coalesce(putt_%1,0), "
+            u"pen_rule_%1, pen_water_%1, pen_bounds_%1, pen_lost_%1, missed_%1, sand_%1, "
+            u"fairway_%1, par_%1 from games g join games2 s on g.date = s.date "
+            u"join field_info f on f.FIELD_CODE = g.CODEF where "_s.arg(h) +
             condition;
         for (const auto& found : store_.rows(statement)) {
             std::array<int, 11> v{};
@@ -226,16 +224,16 @@ private:
 
 QString condition_of(const choice& chosen, const std::vector<diary_round>& rounds)
 {
-    QString condition = QStringLiteral("g.date between '%1' and '%2'")
-                            .arg(rounds.at(static_cast<std::size_t>(chosen.from)).key,
-                                 rounds.at(static_cast<std::size_t>(chosen.to)).key);
+    QString condition =
+        u"g.date between '%1' and '%2'"_s.arg(rounds.at(static_cast<std::size_t>(chosen.from)).key,
+                                              rounds.at(static_cast<std::size_t>(chosen.to)).key);
     if (chosen.course > 0)
-        condition += QStringLiteral(" and g.CODEF = '%1'")
-                         .arg(courses().at(static_cast<std::size_t>(chosen.course - 1)).code);
+        condition +=
+            u" and g.CODEF = '%1'"_s.arg(courses().at(static_cast<std::size_t>(chosen.course - 1)).code);
     if (chosen.partner > 0)
-        condition += QStringLiteral(" and s.PARTNERS like '%%1%'").arg(chosen.partner == 1 ? 12 : 7);
+        condition += u" and s.PARTNERS like '%%1%'"_s.arg(chosen.partner == 1 ? 12 : 7);
     if (chosen.weather > 0)
-        condition += QStringLiteral(" and s.conditionM = %1").arg(chosen.weather - 1);
+        condition += u" and s.conditionM = %1"_s.arg(chosen.weather - 1);
     return condition;
 }
 
@@ -267,29 +265,28 @@ private Q_SLOTS:
         const diary book(store.path());
         for (const diary_course& course : courses())
             book.add(course);
-        book.add_partner(QStringLiteral("Anne"), QStringLiteral("Douze"), 12);
-        book.add_partner(QStringLiteral("Zoé"), QStringLiteral("Sept"), 7);
+        book.add_partner(u"Anne"_s, u"Douze"_s, 12);
+        book.add_partner(u"Zoé"_s, u"Sept"_s, 7);
         const auto rounds = generated_diary();
         book.add(rounds);
         in_selection_window([&](hand& user) {
             select_range(user, chosen.from, chosen.to);
-            user.choose(QStringLiteral("cmb_courses"), chosen.course);
-            user.choose(QStringLiteral("pList"), chosen.partner);
-            user.choose(QStringLiteral("conditions"), chosen.weather);
+            user.choose(u"cmb_courses"_s, chosen.course);
+            user.choose(u"pList"_s, chosen.partner);
+            user.choose(u"conditions"_s, chosen.weather);
             run_without_detail(user);
         });
         const QString condition = condition_of(chosen, rounds);
-        QCOMPARE(stats_head(book.store, QStringLiteral("handicap_text")).toString(),
+        QCOMPARE(stats_head(book.store, u"handicap_text"_s).toString(),
                  handicap_opinion(book.store, condition));
         const second_opinion opinion(book.store, condition);
         QVERIFY(opinion.rounds() > 0);
-        QCOMPARE(stats_head(book.store, QStringLiteral("round_count")).toInt(), opinion.rounds());
+        QCOMPARE(stats_head(book.store, u"round_count"_s).toInt(), opinion.rounds());
         for (int line = 0; line < rows_of_stats; ++line) {
             const auto expected = opinion.row(line);
             const auto seen = stats_row(book.store, line);
             for (std::size_t i = 0; i < expected.size(); ++i) {
-                const QString where = QStringLiteral("row %1, column %2: %3, expected %4")
-                                          .arg(line)
+                const QString where = u"row %1, column %2: %3, expected %4"_s.arg(line)
                                           .arg(i + 1)
                                           .arg(seen.at(i))
                                           .arg(expected.at(i));

@@ -13,6 +13,7 @@
 
 using namespace verdane;
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,7 +21,7 @@ constexpr int most_rounds = 366;
 
 diary_course course()
 {
-    return flat_course(QStringLiteral("LONG-0"), 4, QStringLiteral("72"), QStringLiteral("113"));
+    return flat_course(u"LONG-0"_s, 4, u"72"_s, u"113"_s);
 }
 
 /// 366 rounds of 89 strokes are 32574, of 90 strokes 32940.
@@ -47,8 +48,8 @@ int run_over_full_list(int gross)
         select_range(user, 0, most_rounds - 1);
         run(user);
         answer_no_detail(user);
-        user.wait_for_window(QStringLiteral("failure_box"));
-        std::printf("%s\n", qUtf8Printable(user.text(QStringLiteral("qt_msgbox_label"))));
+        user.wait_for_window(u"failure_box"_s);
+        std::printf("%s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)));
         std::fflush(stdout);
         user.key(Qt::Key_Return);
     });
@@ -75,14 +76,14 @@ private Q_SLOTS:
         const auto strokes = stats_row(book.store, 0);
         QCOMPARE(strokes[18] + strokes[19], most_rounds * 89.0);
         QCOMPARE(strokes[20], 89.0);
-        QCOMPARE(stats_head(book.store, QStringLiteral("round_count")).toInt(), most_rounds);
-        QCOMPARE(stats_head(book.store, QStringLiteral("handicap_text")).toString(), QStringLiteral(" 16.3"));
+        QCOMPARE(stats_head(book.store, u"round_count"_s).toInt(), most_rounds);
+        QCOMPARE(stats_head(book.store, u"handicap_text"_s).toString(), u" 16.3"_s);
     }
 
     void more_than_that_ends_the_program_with_its_words()
     {
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--run"), QStringLiteral("90")});
+        child.start(QCoreApplication::applicationFilePath(), {u"--run"_s, u"90"_s});
         QVERIFY(child.waitForFinished(120000));
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);

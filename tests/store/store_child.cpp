@@ -14,6 +14,7 @@
 #include "tests/store/store_child.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,7 +45,7 @@ void say(int number)
 /// Adds partners for ever, and says after each commit how many there are.
 void write_partners(Connection1& connection)
 {
-    Recordset partners(connection, {QStringLiteral("rspartners"), QStringLiteral("select * from partners")});
+    Recordset partners(connection, {u"rspartners"_s, u"select * from partners"_s});
     partners.Open();
     const QString filler(500, u'x');
     for (int code = partners.RecordCount() + 1;; ++code) {

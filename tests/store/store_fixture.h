@@ -11,8 +11,10 @@
 
 namespace verdane::testing {
 
-inline const QStringList three_names{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
-inline const QString all_partners = QStringLiteral("select * from partners");
+using namespace Qt::StringLiterals;
+
+inline const QStringList three_names{u"a"_s, u"b"_s, u"c"_s};
+inline const QString all_partners = u"select * from partners"_s;
 
 /// A fresh store in a temporary folder with an open connection, and the means to look at it from
 /// outside. One for each test slot.
@@ -20,14 +22,14 @@ class store_fixture {
 public:
     store_fixture() { connection.Open(path()); }
 
-    QString path() const { return folder_.filePath(QStringLiteral("diary/Verdbase.db")); }
+    QString path() const { return folder_.filePath(u"diary/Verdbase.db"_s); }
     reader outside() const { return reader(path()); }
 
     /// A recordset on a statement, not opened yet.
     std::unique_ptr<Recordset> recordset(const QString& source, lock_type lock = lock_type::optimistic)
     {
         recordset_settings settings;
-        settings.name = QStringLiteral("rstest");
+        settings.name = u"rstest"_s;
         settings.source = source;
         settings.lock = lock;
         return std::make_unique<Recordset>(connection, settings);
@@ -46,9 +48,8 @@ public:
     {
         int code = 0;
         for (const QString& name : names)
-            connection.Execute(QStringLiteral("insert into partners (NAME, code) values (%1, %2)")
-                                   .arg(quoted(name))
-                                   .arg(++code));
+            connection.Execute(
+                u"insert into partners (NAME, code) values (%1, %2)"_s.arg(quoted(name)).arg(++code));
     }
 
 private:
@@ -76,7 +77,7 @@ inline QString names_of(Recordset& recordset)
 inline QString stored_names(const store_fixture& store)
 {
     QStringList names;
-    for (const auto& row : store.outside().rows(QStringLiteral("select NAME from partners order by rowid")))
+    for (const auto& row : store.outside().rows(u"select NAME from partners order by rowid"_s))
         names += row[0].toString();
     return names.join(u' ');
 }
@@ -86,13 +87,13 @@ inline QString whole_content(const QString& path)
 {
     const reader outside(path);
     QString content;
-    const QString tables = QStringLiteral("select name from sqlite_master where type='table' order by name");
+    const QString tables = u"select name from sqlite_master where type='table' order by name"_s;
     for (const auto& table : outside.rows(tables)) {
         content += table[0].toString() + u'\n';
-        for (const auto& row : outside.rows(
-                 QStringLiteral("select rowid, * from `%1` order by rowid").arg(table[0].toString()))) {
+        for (const auto& row :
+             outside.rows(u"select rowid, * from `%1` order by rowid"_s.arg(table[0].toString()))) {
             for (const QVariant& value : row)
-                content += (value.isNull() ? QStringLiteral("NULL") : value.toString()) + u'|';
+                content += (value.isNull() ? u"NULL"_s : value.toString()) + u'|';
             content += u'\n';
         }
     }

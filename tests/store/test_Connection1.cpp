@@ -6,6 +6,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::child_failure;
 using testing::failure_of;
 using testing::start_child;
@@ -15,7 +16,7 @@ namespace {
 
 QString setting(Connection1& connection, const char* name)
 {
-    Recordset answer(connection, {QStringLiteral("rsanswer"), u"PRAGMA " + QString::fromLatin1(name)});
+    Recordset answer(connection, {u"rsanswer"_s, u"PRAGMA " + QString::fromLatin1(name)});
     answer.Open();
     return answer.Fields(0).text();
 }
@@ -29,7 +30,7 @@ private Q_SLOTS:
     void the_folder_is_made_when_it_is_missing()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("a/b c/é/Verdbase.db"));
+        const QString path = folder.filePath(u"a/b c/é/Verdbase.db"_s);
         Connection1 connection;
         connection.Open(path);
         QVERIFY(QFile::exists(path));
@@ -38,15 +39,15 @@ private Q_SLOTS:
 
     void the_default_place_is_the_users_data_folder()
     {
-        QVERIFY(Connection1::default_path().endsWith(QStringLiteral("/Verdbase.db")));
+        QVERIFY(Connection1::default_path().endsWith(u"/Verdbase.db"_s));
         QVERIFY(QDir::isAbsolutePath(Connection1::default_path()));
     }
 
     void commits_survive_a_power_cut()
     {
         store_fixture store;
-        QCOMPARE(setting(store.connection, "journal_mode"), QStringLiteral("wal"));
-        QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("2"));
+        QCOMPARE(setting(store.connection, "journal_mode"), u"wal"_s);
+        QCOMPARE(setting(store.connection, "synchronous"), u"2"_s);
     }
 
     void a_full_diary_has_room_in_memory()
@@ -66,23 +67,23 @@ private Q_SLOTS:
     void closing_twice_is_harmless_and_leaves_one_file()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a")});
+        store.add_partners({u"a"_s});
         store.connection.Close();
         store.connection.Close();
         QVERIFY(!store.connection.is_open());
         const QDir folder = QFileInfo(store.path()).absoluteDir();
-        QCOMPARE(folder.entryList(QDir::Files), QStringList{QStringLiteral("Verdbase.db")});
-        QCOMPARE(testing::stored_names(store), QStringLiteral("a"));
+        QCOMPARE(folder.entryList(QDir::Files), QStringList{u"Verdbase.db"_s});
+        QCOMPARE(testing::stored_names(store), u"a"_s);
     }
 
     void another_connection_reads_while_the_program_writes()
     {
         store_fixture store;
-        store.connection.Execute(QStringLiteral("BEGIN IMMEDIATE"));
-        store.add_partners({QStringLiteral("a")});
+        store.connection.Execute(u"BEGIN IMMEDIATE"_s);
+        store.add_partners({u"a"_s});
         QCOMPARE(testing::stored_names(store), QString());
-        store.connection.Execute(QStringLiteral("COMMIT"));
-        QCOMPARE(testing::stored_names(store), QStringLiteral("a"));
+        store.connection.Execute(u"COMMIT"_s);
+        QCOMPARE(testing::stored_names(store), u"a"_s);
     }
 
     void a_second_connection_of_the_same_program_is_kept_off()
@@ -91,7 +92,7 @@ private Q_SLOTS:
         Connection1 second;
         QVERIFY(failure_of([&] { second.Open(store.path()); }) == failure_kind::store_locked);
         QVERIFY(!second.is_open());
-        store.add_partners({QStringLiteral("a")});
+        store.add_partners({u"a"_s});
         store.connection.Close();
         second.Open(store.path());
         QVERIFY(second.is_open());
@@ -100,13 +101,13 @@ private Q_SLOTS:
     void a_second_program_is_kept_off_until_the_first_ends()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        const QString path = folder.filePath(u"Verdbase.db"_s);
         QProcess first;
-        start_child(first, QStringLiteral("hold"), path);
+        start_child(first, u"hold"_s, path);
         QVERIFY(first.waitForReadyRead(60000));
         Connection1 second;
         QVERIFY(failure_of([&] { second.Open(path); }) == failure_kind::store_locked);
-        QCOMPARE(testing::reader(path).number(QStringLiteral("select count(*) from stats")), 34);
+        QCOMPARE(testing::reader(path).number(u"select count(*) from stats"_s), 34);
         first.closeWriteChannel();
         QVERIFY(!child_failure(first));
         second.Open(path);
@@ -117,7 +118,7 @@ private Q_SLOTS:
     {
         store_fixture store;
         QProcess second;
-        start_child(second, QStringLiteral("hold"), store.path());
+        start_child(second, u"hold"_s, store.path());
         QVERIFY(child_failure(second) == failure_kind::store_locked);
     }
 
@@ -150,13 +151,13 @@ private Q_SLOTS:
             const relaxed_commits outer(store.connection);
             {
                 const relaxed_commits inner(store.connection);
-                store.add_partners({QStringLiteral("a")});
+                store.add_partners({u"a"_s});
             }
-            QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("1"));
-            QCOMPARE(testing::stored_names(store), QStringLiteral("a"));
+            QCOMPARE(setting(store.connection, "synchronous"), u"1"_s);
+            QCOMPARE(testing::stored_names(store), u"a"_s);
         }
-        QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("2"));
-        QCOMPARE(testing::stored_names(store), QStringLiteral("a"));
+        QCOMPARE(setting(store.connection, "synchronous"), u"2"_s);
+        QCOMPARE(testing::stored_names(store), u"a"_s);
     }
 
     void relaxed_commits_may_outlive_the_connection()
@@ -167,7 +168,7 @@ private Q_SLOTS:
             store.connection.Close();
         }
         store.connection.Open(store.path());
-        QCOMPARE(setting(store.connection, "synchronous"), QStringLiteral("2"));
+        QCOMPARE(setting(store.connection, "synchronous"), u"2"_s);
     }
 
     void the_bulk_deletes_run_as_they_are_written_data()
@@ -202,7 +203,7 @@ private Q_SLOTS:
     void a_statement_on_a_missing_table_is_a_missing_part()
     {
         store_fixture store;
-        QVERIFY(failure_of([&] { store.connection.Execute(QStringLiteral("delete from golfers")); }) ==
+        QVERIFY(failure_of([&] { store.connection.Execute(u"delete from golfers"_s); }) ==
                 failure_kind::missing_table);
     }
 
@@ -210,9 +211,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("result");
-        QTest::newRow("key") << QStringLiteral("20030614093000") << QStringLiteral("'20030614093000'");
-        QTest::newRow("quote") << QStringLiteral("l'allée") << QStringLiteral("'l''allée'");
-        QTest::newRow("empty") << QString() << QStringLiteral("''");
+        QTest::newRow("key") << u"20030614093000"_s << u"'20030614093000'"_s;
+        QTest::newRow("quote") << u"l'allée"_s << u"'l''allée'"_s;
+        QTest::newRow("empty") << QString() << u"''"_s;
     }
 
     void a_quoted_text_doubles_its_quotes()

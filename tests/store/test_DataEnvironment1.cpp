@@ -7,6 +7,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::reader;
 
@@ -43,11 +44,10 @@ constexpr expected nineteen[] = {
 
 QString described(const recordset_settings& s)
 {
-    const QStringList words{
-        s.cursor == cursor_type::dynamic ? QStringLiteral("dynamic") : QStringLiteral("static"),
-        s.lock == lock_type::optimistic ? QStringLiteral("optimistic") : QStringLiteral("batch"),
-        s.location == cursor_location::server ? QStringLiteral("server") : QStringLiteral("client"),
-        QString::number(s.cache_rows), QString::number(s.time_out_s)};
+    const QStringList words{s.cursor == cursor_type::dynamic ? u"dynamic"_s : u"static"_s,
+                            s.lock == lock_type::optimistic ? u"optimistic"_s : u"batch"_s,
+                            s.location == cursor_location::server ? u"server"_s : u"client"_s,
+                            QString::number(s.cache_rows), QString::number(s.time_out_s)};
     return words.join(u' ');
 }
 
@@ -63,10 +63,7 @@ private Q_SLOTS:
     // The folder goes before the application object does.
     void cleanupTestCase() { data_environment().abandon(); }
 
-    void initTestCase()
-    {
-        data_environment().connection.Open(folder_.filePath(QStringLiteral("Verdbase.db")));
-    }
+    void initTestCase() { data_environment().connection.Open(folder_.filePath(u"Verdbase.db"_s)); }
 
     void a_recordset_has_the_settings_of_the_catalogue_and_opens_data()
     {
@@ -99,8 +96,8 @@ private Q_SLOTS:
     void the_members_are_the_recordsets_of_their_names()
     {
         DataEnvironment1& environment = data_environment();
-        QCOMPARE(environment.rsStat_rounds.name(), QStringLiteral("rsStat_rounds"));
-        QCOMPARE(environment.rscryst_hand.name(), QStringLiteral("rscryst_hand"));
+        QCOMPARE(environment.rsStat_rounds.name(), u"rsStat_rounds"_s);
+        QCOMPARE(environment.rscryst_hand.name(), u"rscryst_hand"_s);
         QCOMPARE(&environment.rscost, &environment.recordsets()[18].get());
         QCOMPARE(&data_environment(), &environment);
     }
@@ -108,15 +105,15 @@ private Q_SLOTS:
     void the_connection_string_names_the_data_source()
     {
         QCOMPARE(Connection1::connection_string(),
-                 QStringLiteral("Provider=MSDASQL.1;Persist Security Info=False;Data Source=Verdbase;"
-                                "Mode=ReadWrite;"));
+                 u"Provider=MSDASQL.1;Persist Security Info=False;Data Source=Verdbase;"
+                 u"Mode=ReadWrite;"_s);
     }
 
     void abandoning_drops_what_is_pending_and_closes_everything()
     {
         DataEnvironment1& environment = data_environment();
         const QString path = environment.connection.path();
-        environment.rsgames.set_Source(QStringLiteral("Select * from games"));
+        environment.rsgames.set_Source(u"Select * from games"_s);
         environment.rsgames.Open();
         environment.rsgames.AddNew();
         environment.rspartners.Open();
@@ -124,9 +121,9 @@ private Q_SLOTS:
         environment.abandon();
         QVERIFY(!environment.connection.is_open());
         QVERIFY(!environment.rsgames.is_open());
-        QCOMPARE(environment.rsgames.Source(), QStringLiteral("select *  from games order by date"));
-        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from games")), 0);
-        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from partners")), 0);
+        QCOMPARE(environment.rsgames.Source(), u"select *  from games order by date"_s);
+        QCOMPARE(reader(path).number(u"select count(*) from games"_s), 0);
+        QCOMPARE(reader(path).number(u"select count(*) from partners"_s), 0);
         environment.abandon();
         environment.connection.Open(path);
         environment.rsgames.Open();

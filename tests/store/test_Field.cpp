@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::store_fixture;
 
@@ -80,21 +81,21 @@ private Q_SLOTS:
     void text_keeps_its_blanks_and_trimmed_does_not()
     {
         const auto recordset = field_of("'  TOUTES '");
-        QCOMPARE(recordset->Fields(0).text(), QStringLiteral("  TOUTES "));
-        QCOMPARE(recordset->Fields(0).text_or_empty(), QStringLiteral("  TOUTES "));
-        QCOMPARE(recordset->Fields(0).trimmed(), QStringLiteral("TOUTES"));
+        QCOMPARE(recordset->Fields(0).text(), u"  TOUTES "_s);
+        QCOMPARE(recordset->Fields(0).text_or_empty(), u"  TOUTES "_s);
+        QCOMPARE(recordset->Fields(0).trimmed(), u"TOUTES"_s);
     }
 
     void trimming_takes_blanks_and_nothing_else()
     {
         const auto recordset = field_of("' ' || char(9) || 'TOUTES' || char(10) || ' '");
-        QCOMPARE(recordset->Fields(0).trimmed(), QStringLiteral("\tTOUTES\n"));
+        QCOMPARE(recordset->Fields(0).trimmed(), u"\tTOUTES\n"_s);
     }
 
     void a_number_reads_as_text_without_a_leading_blank()
     {
-        QCOMPARE(field_of("42")->Fields(0).text(), QStringLiteral("42"));
-        QCOMPARE(field_of("0.5")->Fields(0).text(), QStringLiteral("0.5"));
+        QCOMPARE(field_of("42")->Fields(0).text(), u"42"_s);
+        QCOMPARE(field_of("0.5")->Fields(0).text(), u"0.5"_s);
     }
 
     void yes_is_any_number_but_zero()
@@ -106,14 +107,14 @@ private Q_SLOTS:
 
     void every_kind_of_value_can_be_set_and_read_back()
     {
-        const auto shots = store_.opened(QStringLiteral("select * from Stat_rounds"));
+        const auto shots = store_.opened(u"select * from Stat_rounds"_s);
         shots->AddNew();
         shots->Fields(u"hole").set(int16(18));
-        shots->Fields(u"after").set(QStringLiteral("35"));
+        shots->Fields(u"after").set(u"35"_s);
         shots->Fields(u"before").set(149.6);
         shots->Fields(u"ts").set(true);
         shots->Fields(u"dz").set(0);
-        shots->Fields(u"stick").set(QStringLiteral("Pu"));
+        shots->Fields(u"stick").set(u"Pu"_s);
         shots->Fields(u"unit").set_null();
         shots->Update();
         shots->Requery();
@@ -122,9 +123,9 @@ private Q_SLOTS:
         QCOMPARE(plain(shots->Fields(u"before").to_int16()), 150);
         QCOMPARE(shots->Fields(u"ts").value(), QVariant(true));
         QCOMPARE(shots->Fields(u"dz").value(), QVariant(false));
-        QCOMPARE(shots->Fields(u"stick").text(), QStringLiteral("Pu"));
+        QCOMPARE(shots->Fields(u"stick").text(), u"Pu"_s);
         QVERIFY(shots->Fields(u"unit").is_null());
-        const auto cost = store_.opened(QStringLiteral("select * from cost"));
+        const auto cost = store_.opened(u"select * from cost"_s);
         cost->AddNew();
         cost->Fields(u"fg").set(int32(99999));
         cost->Update();
@@ -133,13 +134,13 @@ private Q_SLOTS:
 
     void rating_and_slope_are_the_text_of_their_boxes()
     {
-        const auto courses = store_.opened(QStringLiteral("select * from vrd_fields"));
+        const auto courses = store_.opened(u"select * from vrd_fields"_s);
         courses->AddNew();
-        courses->Fields(8).set(QStringLiteral("71.30"));
-        courses->Fields(9).set(QStringLiteral(""));
+        courses->Fields(8).set(u"71.30"_s);
+        courses->Fields(9).set(u""_s);
         courses->Update();
         courses->Requery();
-        QCOMPARE(courses->Fields(8).text(), QStringLiteral("71.30"));
+        QCOMPARE(courses->Fields(8).text(), u"71.30"_s);
         QCOMPARE(courses->Fields(8).to_double(), 71.3);
         QCOMPARE(courses->Fields(9).to_double(), 0.0);
     }

@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 
 class test_column_value : public QObject {
@@ -58,7 +59,7 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("written");
         QTest::addColumn<column_type>("type");
         QTest::newRow("count, above") << QVariant(32768) << column_type::count;
-        QTest::newRow("count, below") << QVariant(QStringLiteral("-32769")) << column_type::count;
+        QTest::newRow("count, below") << QVariant(u"-32769"_s) << column_type::count;
         QTest::newRow("count, rounds up") << QVariant(32767.5) << column_type::count;
         QTest::newRow("amount, above") << QVariant(2147483648.0) << column_type::amount;
     }

@@ -14,6 +14,7 @@
 #include "tests/support/full_diary.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::bytes_of;
 using testing::failure_of;
 using testing::reader;
@@ -39,7 +40,7 @@ struct content {
 class one_connection {
 public:
     explicit one_connection(const QString& path)
-        : database_(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("content")))
+        : database_(QSqlDatabase::addDatabase(u"QSQLITE"_s, u"content"_s))
     {
         database_.setDatabaseName(path);
         if (!database_.open())
@@ -48,7 +49,7 @@ public:
     ~one_connection()
     {
         database_ = QSqlDatabase();
-        QSqlDatabase::removeDatabase(QStringLiteral("content"));
+        QSqlDatabase::removeDatabase(u"content"_s);
     }
     one_connection(const one_connection&) = delete;
     one_connection& operator=(const one_connection&) = delete;
@@ -65,7 +66,7 @@ public:
         while (query.next()) {
             QString& text = texts.emplace_back();
             for (int i = 0; i < columns; ++i)
-                text += (query.isNull(i) ? QStringLiteral("null") : query.value(i).toString()) + u'|';
+                text += (query.isNull(i) ? u"null"_s : query.value(i).toString()) + u'|';
         }
         return texts;
     }
@@ -88,19 +89,15 @@ QString keys_of_rounds()
 QStringList lookups(const one_connection& store, bool indexed)
 {
     const auto way = [indexed](const QString& index) {
-        return indexed ? QString(u"indexed by " + index) : QStringLiteral("not indexed");
+        return indexed ? QString(u"indexed by " + index) : u"not indexed"_s;
     };
     QStringList found = store.rows(
-        keys_of_rounds() +
-        QStringLiteral("select k, h, (select group_concat(shot || ':' || after || ':' || rowid) from "
-                       "(select shot, after, rowid from Stat_rounds %1 where date = k and hole = h "
-                       "order by shot, rowid)) from keys, holes")
-            .arg(way(QStringLiteral("shots_by_hole"))));
-    for (const QString& table : {QStringLiteral("games"), QStringLiteral("games2"), QStringLiteral("cost")})
-        found += store.rows(keys_of_rounds() +
-                            QStringLiteral("select k, (select group_concat(rowid) from %1 %2 where "
-                                           "date = k) from keys")
-                                .arg(table, way(table + u"_by_date")));
+        keys_of_rounds() + u"select k, h, (select group_concat(shot || ':' || after || ':' || rowid) from "
+                           u"(select shot, after, rowid from Stat_rounds %1 where date = k and hole = h "
+                           u"order by shot, rowid)) from keys, holes"_s.arg(way(u"shots_by_hole"_s)));
+    for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s})
+        found += store.rows(keys_of_rounds() + u"select k, (select group_concat(rowid) from %1 %2 where "
+                                               u"date = k) from keys"_s.arg(table, way(table + u"_by_date")));
     return found;
 }
 
@@ -108,10 +105,9 @@ content content_of(const QString& path)
 {
     const one_connection store(path);
     content all;
-    for (const QString& name :
-         store.rows(QStringLiteral("select name from sqlite_master where type = 'table'")))
-        all.rows += store.rows(QStringLiteral("select '%1', rowid, * from `%1` not indexed order by rowid")
-                                   .arg(name.chopped(1)));
+    for (const QString& name : store.rows(u"select name from sqlite_master where type = 'table'"_s))
+        all.rows +=
+            store.rows(u"select '%1', rowid, * from `%1` not indexed order by rowid"_s.arg(name.chopped(1)));
     all.by_index = lookups(store, true);
     all.by_scan = lookups(store, false);
     return all;
@@ -161,7 +157,7 @@ class test_file_damage : public QObject {
 
 private:
     QTemporaryDir folder_;
-    QString path_ = folder_.filePath(QStringLiteral("Verdbase.db"));
+    QString path_ = folder_.filePath(u"Verdbase.db"_s);
     QByteArray sound_bytes_;
     content sound_;
     /// The name of the table or index that a page belongs to; pages count from 1.
@@ -172,8 +168,8 @@ private Q_SLOTS:
     {
         testing::lay_down_diary(path_, rounds, true);
         const reader store(path_);
-        store.write(QStringLiteral("pragma wal_checkpoint(truncate)"));
-        for (const auto& page : store.rows(QStringLiteral("select pageno, name from dbstat")))
+        store.write(u"pragma wal_checkpoint(truncate)"_s);
+        for (const auto& page : store.rows(u"select pageno, name from dbstat"_s))
             owners_[page[0].toInt()] = page[1].toString();
         sound_bytes_ = bytes_of(path_);
         sound_ = content_of(path_);
@@ -214,7 +210,7 @@ private Q_SLOTS:
             missing.push_back(bytes);
         for (const qsizetype bytes : missing) {
             put(path_, sound_bytes_.chopped(bytes));
-            QVERIFY2(is_refused(), qPrintable(QStringLiteral("%1 bytes missing").arg(bytes)));
+            QVERIFY2(is_refused(), qPrintable(u"%1 bytes missing"_s.arg(bytes)));
         }
     }
 
@@ -226,7 +222,7 @@ private Q_SLOTS:
             const qint64 size = sound_bytes_.size() - missing;
             QVERIFY(file.resize(size));
             QVERIFY2(failure_of([&] { check_store_files(path_); }) == failure_kind::store_damaged,
-                     qPrintable(QStringLiteral("%1 bytes missing").arg(missing)));
+                     qPrintable(u"%1 bytes missing"_s.arg(missing)));
             QCOMPARE(QFileInfo(path_).size(), size);
         }
         QCOMPARE(bytes_of(path_), sound_bytes_.chopped(page_size - 1));
@@ -238,25 +234,25 @@ private Q_SLOTS:
         using write = std::function<void(Connection1&)>;
         QTest::addColumn<write>("write");
         QTest::newRow("a changed row") << write([](Connection1& connection) {
-            Recordset partners(connection, {QStringLiteral("rstest"), testing::all_partners});
+            Recordset partners(connection, {u"rstest"_s, testing::all_partners});
             partners.Open();
-            partners.Fields(u"name").set(QStringLiteral("changed"));
+            partners.Fields(u"name").set(u"changed"_s);
             partners.Update();
         });
         QTest::newRow("a new row") << write([](Connection1& connection) {
-            Recordset partners(connection, {QStringLiteral("rstest"), testing::all_partners});
+            Recordset partners(connection, {u"rstest"_s, testing::all_partners});
             partners.Open();
             partners.AddNew();
-            partners.Fields(u"name").set(QStringLiteral("new"));
+            partners.Fields(u"name").set(u"new"_s);
             partners.Update();
         });
         QTest::newRow("a removed row") << write([](Connection1& connection) {
-            Recordset partners(connection, {QStringLiteral("rstest"), testing::all_partners});
+            Recordset partners(connection, {u"rstest"_s, testing::all_partners});
             partners.Open();
             partners.Delete();
         });
         QTest::newRow("a statement") << write(
-            [](Connection1& connection) { connection.Execute(QStringLiteral("delete from partners")); });
+            [](Connection1& connection) { connection.Execute(u"delete from partners"_s); });
     }
 
     void a_file_that_is_checked_later_takes_no_write_while_it_is_damaged()
@@ -275,7 +271,7 @@ private Q_SLOTS:
     void a_damaged_file_in_another_journal_mode_is_refused_while_it_is_opened()
     {
         put(path_, sound_bytes_);
-        reader(path_).text(QStringLiteral("pragma journal_mode=delete"));
+        reader(path_).text(u"pragma journal_mode=delete"_s);
         const QByteArray damaged = flipped(bytes_of(path_), bit_of_shot_in_index());
         put(path_, damaged);
         Connection1 connection;
@@ -374,8 +370,7 @@ private:
     /// Opens the flipped file that stands in place; true when it was refused as it must be.
     bool look_at(qint64 bit)
     {
-        const QByteArray place = QStringLiteral("bit %1 of byte %2 (%3)")
-                                     .arg(bit % 8)
+        const QByteArray place = u"bit %1 of byte %2 (%3)"_s.arg(bit % 8)
                                      .arg(bit / 8)
                                      .arg(owners_[static_cast<int>(bit / 8 / page_size) + 1])
                                      .toUtf8();
@@ -436,12 +431,9 @@ private:
         return log;
     }
 
-    QByteArray log_of_settings() const
-    {
-        return log_after({QStringLiteral("update settings set language = 1")});
-    }
+    QByteArray log_of_settings() const { return log_after({u"update settings set language = 1"_s}); }
 
-    QByteArray log_of_all_pages() const { return log_after({QStringLiteral("vacuum")}); }
+    QByteArray log_of_all_pages() const { return log_after({u"vacuum"_s}); }
 
     void put_log(const QByteArray& bytes) const
     {

@@ -6,6 +6,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::bytes_of;
 using testing::failure_of;
 using testing::reader;
@@ -41,25 +42,25 @@ private Q_SLOTS:
     void the_language_is_not_chosen_yet()
     {
         store_fixture store;
-        QCOMPARE(store.outside().text(QStringLiteral("select language from settings")), QStringLiteral("0"));
+        QCOMPARE(store.outside().text(u"select language from settings"_s), u"0"_s);
     }
 
     void the_clubs_have_fourteen_different_names_and_the_putter_is_last()
     {
         store_fixture store;
-        const auto names = store.opened(QStringLiteral("select * from sticknames"));
+        const auto names = store.opened(u"select * from sticknames"_s);
         QStringList all;
         for (int i = 0; i < 14; ++i)
             all += names->Fields(i).text();
         QCOMPARE(all.removeDuplicates(), 0);
         QVERIFY(!all.contains(QString()));
-        QCOMPARE(all.last(), QStringLiteral("Pu"));
+        QCOMPARE(all.last(), u"Pu"_s);
     }
 
     void averages_and_shot_counts_start_at_zero()
     {
         store_fixture store;
-        const auto sticks = store.opened(QStringLiteral("select * from sticks"));
+        const auto sticks = store.opened(u"select * from sticks"_s);
         sticks->MoveLast();
         for (int i = 0; i < 14; ++i) {
             QCOMPARE(sticks->Fields(i).to_double(), 0.0);
@@ -70,12 +71,12 @@ private Q_SLOTS:
     void the_club_grid_starts_with_the_names_and_zeros_as_text()
     {
         store_fixture store;
-        const auto names = store.opened(QStringLiteral("select * from sticknames"));
-        const auto grid = store.opened(QStringLiteral("select * from stat_sticks"));
+        const auto names = store.opened(u"select * from sticknames"_s);
+        const auto grid = store.opened(u"select * from stat_sticks"_s);
         for (int club = 0; club < 14; ++club, grid->MoveNext()) {
             QCOMPARE(grid->Fields(0).text(), names->Fields(club).text());
             for (int i = 1; i <= 9; ++i)
-                QCOMPARE(grid->Fields(i).value(), QVariant(QStringLiteral("0")));
+                QCOMPARE(grid->Fields(i).value(), QVariant(u"0"_s));
         }
         QVERIFY(grid->eof());
     }
@@ -105,18 +106,18 @@ private Q_SLOTS:
     void the_rows_of_a_grid_come_in_the_order_in_which_they_were_laid_down()
     {
         store_fixture store;
-        const auto stats = store.opened(QStringLiteral("select * from stats"));
+        const auto stats = store.opened(u"select * from stats"_s);
         for (int row = 0; row < 34; ++row, stats->MoveNext())
             QCOMPARE(stats->Fields(0).text(), QString::number(row));
-        const auto putts = store.opened(QStringLiteral("select * from s_put2"));
+        const auto putts = store.opened(u"select * from s_put2"_s);
         putts->MoveLast();
-        QCOMPARE(putts->Fields(0).text(), QStringLiteral("7"));
+        QCOMPARE(putts->Fields(0).text(), u"7"_s);
     }
 
     void the_next_start_finds_the_store_as_it_was_left()
     {
         store_fixture store;
-        store.connection.Execute(QStringLiteral("update settings set language=2"));
+        store.connection.Execute(u"update settings set language=2"_s);
         const QString before = whole_content(store.path());
         store.connection.Close();
         store.connection.Open(store.path());
@@ -126,46 +127,46 @@ private Q_SLOTS:
     void an_empty_file_is_laid_down()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        const QString path = folder.filePath(u"Verdbase.db"_s);
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.close();
         Connection1 connection;
         connection.Open(path);
-        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from stats")), 34);
+        QCOMPARE(reader(path).number(u"select count(*) from stats"_s), 34);
     }
 
     void a_failure_half_way_leaves_no_table_and_the_next_start_lays_all_down()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        const QString path = folder.filePath(u"Verdbase.db"_s);
         {
             // A file without tables that may not grow: laying down fails in the middle.
             store_fixture other;
             Connection1& connection = other.connection;
             for (const auto& row :
-                 other.outside().rows(QStringLiteral("select name from sqlite_master where type='table'")))
+                 other.outside().rows(u"select name from sqlite_master where type='table'"_s))
                 connection.Execute(u"drop table " + row[0].toString());
-            connection.Execute(QStringLiteral("vacuum"));
-            connection.Execute(QStringLiteral("pragma max_page_count=6"));
+            connection.Execute(u"vacuum"_s);
+            connection.Execute(u"pragma max_page_count=6"_s);
             QVERIFY(failure_of([&] { lay_down(connection); }) == failure_kind::store_full);
-            QCOMPARE(other.outside().number(QStringLiteral("select count(*) from sqlite_master")), 0);
+            QCOMPARE(other.outside().number(u"select count(*) from sqlite_master"_s), 0);
             connection.Close();
             QVERIFY(QFile::copy(other.path(), path));
         }
         Connection1 connection;
         connection.Open(path);
-        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from stat_sticks")), 14);
+        QCOMPARE(reader(path).number(u"select count(*) from stat_sticks"_s), 14);
     }
 
     void a_store_that_lacks_a_table_is_not_repaired()
     {
         store_fixture store;
-        store.connection.Execute(QStringLiteral("drop table partners"));
+        store.connection.Execute(u"drop table partners"_s);
         store.connection.Close();
         const QString before = whole_content(store.path());
         store.connection.Open(store.path());
-        const auto partners = store.recordset(QStringLiteral("select * from partners order by name"));
+        const auto partners = store.recordset(u"select * from partners order by name"_s);
         QVERIFY(failure_of([&] { partners->Open(); }) == failure_kind::missing_table);
         QVERIFY(!partners->is_open());
         QCOMPARE(whole_content(store.path()), before);

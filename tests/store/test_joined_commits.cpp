@@ -9,6 +9,7 @@
 #include "tests/support/other_program.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::store_fixture;
 using testing::stored_names;
@@ -18,7 +19,7 @@ namespace {
 struct two_partners : store_fixture {
     two_partners()
     {
-        add_partners({QStringLiteral("a"), QStringLiteral("b")});
+        add_partners({u"a"_s, u"b"_s});
         partners = opened(testing::all_partners);
     }
 
@@ -31,9 +32,9 @@ struct two_partners : store_fixture {
     void rename_both()
     {
         partners->MoveFirst();
-        rename_current(QStringLiteral("c"));
+        rename_current(u"c"_s);
         partners->MoveNext();
-        rename_current(QStringLiteral("d"));
+        rename_current(u"d"_s);
     }
 
     std::unique_ptr<Recordset> partners;
@@ -56,9 +57,9 @@ private Q_SLOTS:
         two_partners store;
         joined_commits together(store.connection);
         store.rename_both();
-        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+        QCOMPARE(stored_names(store), u"a b"_s);
         together.finish();
-        QCOMPARE(stored_names(store), QStringLiteral("c d"));
+        QCOMPARE(stored_names(store), u"c d"_s);
     }
 
     void a_scope_that_a_failure_ends_commits_what_was_written()
@@ -66,10 +67,10 @@ private Q_SLOTS:
         two_partners store;
         QVERIFY(failure_of([&] {
                     const joined_commits together(store.connection);
-                    store.rename_current(QStringLiteral("c"));
-                    throw run_time_failure(failure_kind::misuse, QStringLiteral("of the test"));
+                    store.rename_current(u"c"_s);
+                    throw run_time_failure(failure_kind::misuse, u"of the test"_s);
                 }) == failure_kind::misuse);
-        QCOMPARE(stored_names(store), QStringLiteral("c b"));
+        QCOMPARE(stored_names(store), u"c b"_s);
     }
 
     void a_commit_that_fails_stores_nothing_and_ends_the_transaction()
@@ -83,7 +84,7 @@ private Q_SLOTS:
             QVERIFY(failure_of([&] { together.finish(); }) == failure_kind::store_other);
             sqlite3_commit_hook(engine, nullptr, nullptr);
         }
-        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+        QCOMPARE(stored_names(store), u"a b"_s);
         QVERIFY(sqlite3_get_autocommit(engine) != 0);
     }
 
@@ -91,7 +92,7 @@ private Q_SLOTS:
     {
         two_partners store;
         joined_commits together(store.connection);
-        store.rename_current(QStringLiteral("a"));
+        store.rename_current(u"a"_s);
         const testing::other_program other(store.path());
         together.finish();
     }
@@ -100,10 +101,10 @@ private Q_SLOTS:
     {
         two_partners store;
         joined_commits together(store.connection);
-        store.outside().write(QStringLiteral("update partners set NAME = 'x' where NAME = 'b'"));
-        store.rename_current(QStringLiteral("c"));
+        store.outside().write(u"update partners set NAME = 'x' where NAME = 'b'"_s);
+        store.rename_current(u"c"_s);
         together.finish();
-        QCOMPARE(stored_names(store), QStringLiteral("c x"));
+        QCOMPARE(stored_names(store), u"c x"_s);
     }
 };
 

@@ -7,6 +7,7 @@
 #include "tests/support/other_program.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::other_program;
 using testing::store_fixture;
@@ -39,7 +40,7 @@ private:
 struct locked_store : store_fixture {
     locked_store()
     {
-        add_partners({QStringLiteral("a")});
+        add_partners({u"a"_s});
         connection.waiting().set_notice_maker([this] { return std::make_unique<counted_notice>(seen); });
     }
 
@@ -49,7 +50,7 @@ struct locked_store : store_fixture {
 std::unique_ptr<Recordset> partners_with_time_out(locked_store& store, int seconds)
 {
     recordset_settings settings;
-    settings.name = QStringLiteral("rstest");
+    settings.name = u"rstest"_s;
     settings.source = testing::all_partners;
     settings.time_out_s = seconds;
     auto partners = std::make_unique<Recordset>(store.connection, settings);
@@ -74,9 +75,9 @@ private Q_SLOTS:
             return true;
         };
         const auto partners = partners_with_time_out(store, 30);
-        partners->Fields(u"name").set(QStringLiteral("b"));
+        partners->Fields(u"name").set(u"b"_s);
         partners->Update();
-        QCOMPARE(testing::stored_names(store), QStringLiteral("b"));
+        QCOMPARE(testing::stored_names(store), u"b"_s);
         QCOMPARE(store.seen.made, 1);
         QCOMPARE(store.seen.living, 0);
     }
@@ -89,8 +90,8 @@ private Q_SLOTS:
             other.let_go();
             return true;
         };
-        store.connection.Execute(QStringLiteral("update partners set NAME = 'b'"));
-        QCOMPARE(testing::stored_names(store), QStringLiteral("b"));
+        store.connection.Execute(u"update partners set NAME = 'b'"_s);
+        QCOMPARE(testing::stored_names(store), u"b"_s);
         QCOMPARE(store.seen.made, 1);
         QCOMPARE(store.seen.living, 0);
     }
@@ -98,7 +99,7 @@ private Q_SLOTS:
     void a_store_that_nobody_else_holds_shows_no_notice()
     {
         locked_store store;
-        store.connection.Execute(QStringLiteral("update partners set NAME = 'b'"));
+        store.connection.Execute(u"update partners set NAME = 'b'"_s);
         QCOMPARE(store.seen.made, 0);
     }
 
@@ -108,14 +109,14 @@ private Q_SLOTS:
         other_program other(store.path());
         store.seen.answer = [](int) { return false; };
         const auto partners = partners_with_time_out(store, 30);
-        partners->Fields(u"name").set(QStringLiteral("b"));
+        partners->Fields(u"name").set(u"b"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
         QVERIFY(partners->pending());
         QCOMPARE(store.seen.asked, 1);
         QCOMPARE(store.seen.living, 0);
         other.let_go();
         partners->Update();
-        QCOMPARE(testing::stored_names(store), QStringLiteral("b"));
+        QCOMPARE(testing::stored_names(store), u"b"_s);
     }
 
     void the_time_out_of_the_recordset_ends_the_wait_data()
@@ -133,7 +134,7 @@ private Q_SLOTS:
         locked_store store;
         const other_program other(store.path());
         const auto partners = partners_with_time_out(store, seconds);
-        partners->Fields(u"name").set(QStringLiteral("b"));
+        partners->Fields(u"name").set(u"b"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
         QCOMPARE(store.seen.made, with_notice ? 1 : 0);
         QCOMPARE(store.seen.living, 0);
@@ -145,7 +146,7 @@ private Q_SLOTS:
         const other_program other(store.path());
         std::optional<failure_kind> met;
         store.seen.answer = [&](int) {
-            met = failure_of([&] { store.connection.Execute(QStringLiteral("delete from partners")); });
+            met = failure_of([&] { store.connection.Execute(u"delete from partners"_s); });
             return false;
         };
         const auto partners = partners_with_time_out(store, 30);

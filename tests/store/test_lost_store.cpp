@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::bytes_of;
 using testing::failure_of;
 using testing::reader;
@@ -60,7 +61,7 @@ private Q_SLOTS:
     void a_store_that_was_lost_is_refused_and_its_files_are_left_alone_data()
     {
         add_columns();
-        const QString copy = QStringLiteral("Verdbase-2026-06-14.db");
+        const QString copy = u"Verdbase-2026-06-14.db"_s;
         QTest::newRow("empty file, log with content")
             << true << log_with_content() << QString() << QByteArray();
         QTest::newRow("no file, log with content")
@@ -76,7 +77,7 @@ private Q_SLOTS:
         QFETCH(bool, file);
         QFETCH(QByteArray, log);
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        const QString path = folder.filePath(u"Verdbase.db"_s);
         prepare(path);
         for (const soundness_check check : {soundness_check::while_opening, soundness_check::later}) {
             Connection1 connection;
@@ -96,28 +97,28 @@ private Q_SLOTS:
         QTest::newRow("no file, empty log") << false << QByteArray("") << QString() << QByteArray();
         // Whoever takes the file away wants a new diary.
         QTest::newRow("no file, copy with content")
-            << false << QByteArray() << QStringLiteral("Verdbase-2026-06-14.db") << QByteArray("content");
+            << false << QByteArray() << u"Verdbase-2026-06-14.db"_s << QByteArray("content");
         QTest::newRow("empty file, empty copy")
-            << true << QByteArray() << QStringLiteral("Verdbase-2026-06-14.db") << QByteArray();
+            << true << QByteArray() << u"Verdbase-2026-06-14.db"_s << QByteArray();
         QTest::newRow("empty file, another program's copy")
-            << true << QByteArray() << QStringLiteral("Music-2026-06-14.db") << QByteArray("content");
+            << true << QByteArray() << u"Music-2026-06-14.db"_s << QByteArray("content");
     }
 
     void a_diary_is_created_where_there_was_none()
     {
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        const QString path = folder.filePath(u"Verdbase.db"_s);
         prepare(path);
         Connection1 connection;
         connection.Open(path);
-        QCOMPARE(reader(path).number(QStringLiteral("select count(*) from settings")), 1);
+        QCOMPARE(reader(path).number(u"select count(*) from settings"_s), 1);
     }
 
     void the_log_of_a_linked_file_is_found_beside_its_target()
     {
         const QTemporaryDir folder;
-        const QString target = folder.filePath(QStringLiteral("target.db"));
-        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        const QString target = folder.filePath(u"target.db"_s);
+        const QString path = folder.filePath(u"Verdbase.db"_s);
         put(target, {});
         const QByteArray log = log_with_content();
         put(target + u"-wal", log);

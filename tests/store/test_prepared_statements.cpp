@@ -5,14 +5,15 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::store_fixture;
 using testing::stored_names;
 
 namespace {
 
-const QString all_partners = QStringLiteral("select * from partners");
-const QString all_rounds = QStringLiteral("select * from games2");
+const QString all_partners = u"select * from partners"_s;
+const QString all_rounds = u"select * from games2"_s;
 
 void add_partner(Recordset& partners, const QString& name, const QVariant& telephone = {})
 {
@@ -25,8 +26,8 @@ void add_partner(Recordset& partners, const QString& name, const QVariant& telep
 QString stored_telephones(const store_fixture& store)
 {
     QStringList texts;
-    for (const auto& row : store.outside().rows(QStringLiteral("select TEL from partners order by rowid")))
-        texts += row[0].isNull() ? QStringLiteral("null") : row[0].toString();
+    for (const auto& row : store.outside().rows(u"select TEL from partners order by rowid"_s))
+        texts += row[0].isNull() ? u"null"_s : row[0].toString();
     return texts.join(u' ');
 }
 
@@ -41,37 +42,36 @@ private Q_SLOTS:
     {
         store_fixture store;
         const auto partners = store.opened(all_partners);
-        add_partner(*partners, QStringLiteral("a"), QStringLiteral("1"));
-        add_partner(*partners, QStringLiteral("b"));
-        add_partner(*partners, QStringLiteral("c"), QStringLiteral("3"));
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
-        QCOMPARE(stored_telephones(store), QStringLiteral("1 null 3"));
+        add_partner(*partners, u"a"_s, u"1"_s);
+        add_partner(*partners, u"b"_s);
+        add_partner(*partners, u"c"_s, u"3"_s);
+        QCOMPARE(stored_names(store), u"a b c"_s);
+        QCOMPARE(stored_telephones(store), u"1 null 3"_s);
     }
 
     void each_changed_row_has_its_own_values_and_nulls()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        store.add_partners({u"a"_s, u"b"_s, u"c"_s});
         const auto partners = store.opened(all_partners);
-        for (const QVariant& value :
-             {QVariant(QStringLiteral("1")), QVariant(), QVariant(QStringLiteral("3"))}) {
-            partners->Fields(u"TEL").set(QStringLiteral("before"));
+        for (const QVariant& value : {QVariant(u"1"_s), QVariant(), QVariant(u"3"_s)}) {
+            partners->Fields(u"TEL").set(u"before"_s);
             partners->Update();
             partners->Fields(u"TEL").set(value);
             partners->MoveNext();
         }
-        QCOMPARE(stored_telephones(store), QStringLiteral("1 null 3"));
+        QCOMPARE(stored_telephones(store), u"1 null 3"_s);
     }
 
     void rows_are_removed_one_after_the_other()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        store.add_partners({u"a"_s, u"b"_s, u"c"_s});
         const auto partners = store.opened(all_partners);
         partners->Delete();
         partners->MoveNext();
         partners->Delete();
-        QCOMPARE(stored_names(store), QStringLiteral("c"));
+        QCOMPARE(stored_names(store), u"c"_s);
     }
 
     void more_kinds_of_rows_than_are_kept_are_written_all_the_same()
@@ -98,39 +98,38 @@ private Q_SLOTS:
         store_fixture other;
         other.connection.Close();
         const auto partners = store.opened(all_partners);
-        add_partner(*partners, QStringLiteral("a"));
+        add_partner(*partners, u"a"_s);
         partners->Close();
         store.connection.Close();
         store.connection.Open(other.path());
         partners->Open();
-        add_partner(*partners, QStringLiteral("b"));
-        QCOMPARE(stored_names(other), QStringLiteral("b"));
-        QCOMPARE(stored_names(store), QStringLiteral("a"));
+        add_partner(*partners, u"b"_s);
+        QCOMPARE(stored_names(other), u"b"_s);
+        QCOMPARE(stored_names(store), u"a"_s);
     }
 
     void a_table_that_went_is_told_and_written_again_once_it_is_back()
     {
         store_fixture store;
         const auto partners = store.opened(all_partners);
-        add_partner(*partners, QStringLiteral("a"));
-        store.outside().write(QStringLiteral("alter table partners rename to away"));
-        QVERIFY(failure_of([&] { add_partner(*partners, QStringLiteral("b")); }) ==
-                failure_kind::missing_table);
+        add_partner(*partners, u"a"_s);
+        store.outside().write(u"alter table partners rename to away"_s);
+        QVERIFY(failure_of([&] { add_partner(*partners, u"b"_s); }) == failure_kind::missing_table);
         QVERIFY(partners->pending());
-        store.outside().write(QStringLiteral("alter table away rename to partners"));
+        store.outside().write(u"alter table away rename to partners"_s);
         partners->Update();
-        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+        QCOMPARE(stored_names(store), u"a b"_s);
     }
 
     void a_refused_row_is_told_with_its_statement_and_written_later()
     {
         store_fixture store;
         const auto partners = store.opened(all_partners);
-        add_partner(*partners, QStringLiteral("a"));
-        store.outside().write(QStringLiteral("create trigger no before insert on partners "
-                                             "begin select raise(abort, 'not now'); end"));
+        add_partner(*partners, u"a"_s);
+        store.outside().write(u"create trigger no before insert on partners "
+                              u"begin select raise(abort, 'not now'); end"_s);
         partners->AddNew();
-        partners->Fields(u"NAME").set(QStringLiteral("b"));
+        partners->Fields(u"NAME").set(u"b"_s);
         partners->Fields(u"TEL").set(QVariant());
         try {
             partners->Update();
@@ -141,23 +140,22 @@ private Q_SLOTS:
             QVERIFY(failure.details().contains(u"not now"));
             QVERIFY(failure.details().contains(u"rstest"));
         }
-        store.outside().write(QStringLiteral("drop trigger no"));
+        store.outside().write(u"drop trigger no"_s);
         partners->Update();
-        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+        QCOMPARE(stored_names(store), u"a b"_s);
     }
 
     void a_kept_statement_holds_nothing_that_another_program_waits_for()
     {
         store_fixture store;
         const auto partners = store.opened(all_partners);
-        add_partner(*partners, QStringLiteral("a"));
+        add_partner(*partners, u"a"_s);
         partners->MoveFirst();
-        partners->Fields(u"TEL").set(QStringLiteral("1"));
+        partners->Fields(u"TEL").set(u"1"_s);
         partners->Update();
-        store.outside().write({QStringLiteral("begin exclusive"), QStringLiteral("delete from partners"),
-                               QStringLiteral("commit")});
+        store.outside().write({u"begin exclusive"_s, u"delete from partners"_s, u"commit"_s});
         QCOMPARE(stored_names(store), QString());
-        partners->Fields(u"TEL").set(QStringLiteral("2"));
+        partners->Fields(u"TEL").set(u"2"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::misuse);
     }
 };

@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::names_of;
 using testing::store_fixture;
@@ -11,11 +12,11 @@ using testing::stored_names;
 
 namespace {
 
-const QStringList three{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+const QStringList three{u"a"_s, u"b"_s, u"c"_s};
 
 std::unique_ptr<Recordset> partners_of(store_fixture& store)
 {
-    return store.opened(QStringLiteral("select * from partners"), lock_type::batch_optimistic);
+    return store.opened(u"select * from partners"_s, lock_type::batch_optimistic);
 }
 
 void add(Recordset& partners, const char* name)
@@ -44,17 +45,17 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = partners_of(store);
-        partners->Fields(u"name").set(QStringLiteral("A"));
+        partners->Fields(u"name").set(u"A"_s);
         partners->MoveNext();
         partners->Delete();
         add(*partners, "d");
         partners->Update();
         partners->MoveFirst();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
-        QCOMPARE(names_of(*partners), QStringLiteral("A c d"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
+        QCOMPARE(names_of(*partners), u"A c d"_s);
         QVERIFY(partners->pending());
         partners->UpdateBatch(static_cast<affect>(rows));
-        QCOMPARE(stored_names(store), QStringLiteral("A c d"));
+        QCOMPARE(stored_names(store), u"A c d"_s);
         QVERIFY(!partners->pending());
     }
 
@@ -70,7 +71,7 @@ private Q_SLOTS:
     void new_rows_are_stored_in_the_order_in_which_they_were_added()
     {
         store_fixture store;
-        const auto hand = store.opened(QStringLiteral("select hnd from HAND "), lock_type::batch_optimistic);
+        const auto hand = store.opened(u"select hnd from HAND "_s, lock_type::batch_optimistic);
         for (const double differential : {12.5, 3.0, 8.25}) {
             hand->AddNew();
             hand->Fields(u"hnd").set(differential);
@@ -78,12 +79,12 @@ private Q_SLOTS:
         QCOMPARE(hand->RecordCount(), 3);
         hand->UpdateBatch(affect::all_chapters);
         hand->Close();
-        hand->set_Source(QStringLiteral(" select * from hand order by hnd asc"));
+        hand->set_Source(u" select * from hand order by hnd asc"_s);
         hand->Open();
         QStringList sorted;
         for (; !hand->eof(); hand->MoveNext())
             sorted += QString::number(hand->Fields(0).to_double());
-        QCOMPARE(sorted.join(u' '), QStringLiteral("3 8.25 12.5"));
+        QCOMPARE(sorted.join(u' '), u"3 8.25 12.5"_s);
     }
 
     void cancel_concerns_the_current_row_only()
@@ -91,15 +92,15 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = partners_of(store);
-        partners->Fields(u"name").set(QStringLiteral("A"));
+        partners->Fields(u"name").set(u"A"_s);
         partners->MoveNext();
-        partners->Fields(u"name").set(QStringLiteral("B"));
+        partners->Fields(u"name").set(u"B"_s);
         partners->CancelUpdate();
         add(*partners, "never");
         partners->CancelUpdate();
         QCOMPARE(partners->position(), 1);
         partners->UpdateBatch();
-        QCOMPARE(stored_names(store), QStringLiteral("A b c"));
+        QCOMPARE(stored_names(store), u"A b c"_s);
     }
 
     void cancel_after_the_row_it_came_from_was_deleted_stands_at_the_end()
@@ -113,7 +114,7 @@ private Q_SLOTS:
         partners->MoveLast();
         partners->CancelUpdate();
         QVERIFY(partners->eof());
-        QCOMPARE(names_of(*partners), QStringLiteral("b c"));
+        QCOMPARE(names_of(*partners), u"b c"_s);
     }
 
     void a_new_row_that_is_deleted_was_never_there()
@@ -134,7 +135,7 @@ private Q_SLOTS:
         const auto partners = partners_of(store);
         for (; !partners->eof(); partners->MoveNext())
             partners->Delete();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
         partners->UpdateBatch();
         QCOMPARE(stored_names(store), QString());
     }
@@ -144,33 +145,32 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = partners_of(store);
-        partners->Fields(u"name").set(QStringLiteral("A"));
+        partners->Fields(u"name").set(u"A"_s);
         partners->MoveNext();
         partners->Delete();
         partners->Requery();
         QVERIFY(!partners->pending());
-        QCOMPARE(names_of(*partners), QStringLiteral("a b c"));
+        QCOMPARE(names_of(*partners), u"a b c"_s);
     }
 
     void dropping_brings_every_row_back_to_its_place()
     {
         store_fixture store;
-        store.add_partners(
-            {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")});
+        store.add_partners({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
         const auto partners = partners_of(store);
         add(*partners, "new");
         partners->MoveFirst();
         partners->Delete();
         partners->MoveNext();
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        partners->Fields(u"name").set(u"typed"_s);
         partners->Delete();
         partners->MoveNext();
-        partners->Fields(u"name").set(QStringLiteral("C"));
+        partners->Fields(u"name").set(u"C"_s);
         partners->drop_pending();
         QVERIFY(!partners->pending());
-        QCOMPARE(names_of(*partners), QStringLiteral("a b c d"));
+        QCOMPARE(names_of(*partners), u"a b c d"_s);
         partners->UpdateBatch();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c d"));
+        QCOMPARE(stored_names(store), u"a b c d"_s);
     }
 
     void a_batch_that_fails_in_the_middle_stores_none_of_it_and_keeps_all_of_it()
@@ -180,16 +180,16 @@ private Q_SLOTS:
         const auto partners = partners_of(store);
         partners->Delete();
         partners->MoveNext();
-        partners->Fields(u"name").set(QStringLiteral("B"));
+        partners->Fields(u"name").set(u"B"_s);
         add(*partners, "bad");
-        store.connection.Execute(QStringLiteral("create temp trigger none before insert on partners "
-                                                "begin select raise(abort, 'refused'); end"));
+        store.connection.Execute(u"create temp trigger none before insert on partners "
+                                 u"begin select raise(abort, 'refused'); end"_s);
         QVERIFY(failure_of([&] { partners->UpdateBatch(); }) == failure_kind::store_other);
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
         QVERIFY(partners->pending());
-        store.connection.Execute(QStringLiteral("drop trigger none"));
+        store.connection.Execute(u"drop trigger none"_s);
         partners->UpdateBatch();
-        QCOMPARE(stored_names(store), QStringLiteral("B c bad"));
+        QCOMPARE(stored_names(store), u"B c bad"_s);
     }
 };
 

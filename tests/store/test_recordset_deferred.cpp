@@ -6,6 +6,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::names_of;
 using testing::store_fixture;
@@ -19,10 +20,10 @@ class unread_partners {
 public:
     explicit unread_partners(lock_type lock = lock_type::optimistic)
     {
-        store.add_partners({QStringLiteral("a")});
-        rows = store.recordset(QStringLiteral("select * from partners"), lock);
+        store.add_partners({u"a"_s});
+        rows = store.recordset(u"select * from partners"_s, lock);
         rows->Open(row_reading::when_needed);
-        store.add_partners({QStringLiteral("b")});
+        store.add_partners({u"b"_s});
     }
 
     store_fixture store;
@@ -67,23 +68,23 @@ private Q_SLOTS:
             rows.MoveLast();
             break;
         case 6:
-            rows.Find(QStringLiteral("NAME = 'b'"));
+            rows.Find(u"NAME = 'b'"_s);
             break;
         case 7:
-            QCOMPARE(rows.Fields(u"NAME").text(), QStringLiteral("a"));
+            QCOMPARE(rows.Fields(u"NAME").text(), u"a"_s);
             break;
         default:
             QVERIFY(rows.field_count() > 0);
             break;
         }
-        QCOMPARE(names_of(rows), QStringLiteral("a b"));
+        QCOMPARE(names_of(rows), u"a b"_s);
     }
 
     void the_rows_are_read_once()
     {
         unread_partners partners;
         QCOMPARE(partners.rows->RecordCount(), 2);
-        partners.store.add_partners({QStringLiteral("c")});
+        partners.store.add_partners({u"c"_s});
         QCOMPARE(partners.rows->RecordCount(), 2);
         partners.rows->Requery();
         QCOMPARE(partners.rows->RecordCount(), 3);
@@ -120,28 +121,28 @@ private Q_SLOTS:
             rows.drop_pending();
             break;
         }
-        partners.store.add_partners({QStringLiteral("c")});
-        QCOMPARE(names_of(rows), QStringLiteral("a b c"));
+        partners.store.add_partners({u"c"_s});
+        QCOMPARE(names_of(rows), u"a b c"_s);
     }
 
     void a_row_can_be_added_and_one_removed()
     {
         const unread_partners partners;
         partners.rows->AddNew();
-        partners.rows->Fields(u"NAME").set(QStringLiteral("c"));
+        partners.rows->Fields(u"NAME").set(u"c"_s);
         partners.rows->Update();
-        QCOMPARE(stored_names(partners.store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(partners.store), u"a b c"_s);
         partners.rows->Close();
         partners.rows->Open(row_reading::when_needed);
         partners.rows->Delete();
-        QCOMPARE(stored_names(partners.store), QStringLiteral("b c"));
+        QCOMPARE(stored_names(partners.store), u"b c"_s);
     }
 
     void a_batch_without_rows_stores_nothing()
     {
         const unread_partners partners(lock_type::batch_optimistic);
         partners.rows->UpdateBatch();
-        QCOMPARE(stored_names(partners.store), QStringLiteral("a b"));
+        QCOMPARE(stored_names(partners.store), u"a b"_s);
         QCOMPARE(partners.rows->RecordCount(), 2);
     }
 
@@ -151,14 +152,14 @@ private Q_SLOTS:
         partners.rows->Close();
         QVERIFY(failure_of([&] { partners.rows->RecordCount(); }) == failure_kind::misuse);
         partners.rows->Open();
-        partners.store.add_partners({QStringLiteral("c")});
+        partners.store.add_partners({u"c"_s});
         QCOMPARE(partners.rows->RecordCount(), 2);
     }
 
     void a_table_that_is_not_there_comes_out_at_the_first_look()
     {
         store_fixture store;
-        const auto rows = store.recordset(QStringLiteral("select * from no_such_table"));
+        const auto rows = store.recordset(u"select * from no_such_table"_s);
         rows->Open(row_reading::when_needed);
         QVERIFY(failure_of([&] { rows->MoveFirst(); }) == failure_kind::missing_table);
         QVERIFY(rows->is_open());

@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::all_partners;
 using testing::failure_of;
 using testing::store_fixture;
@@ -22,7 +23,7 @@ private Q_SLOTS:
         const auto partners = store.opened(all_partners);
         partners->MoveNext();
         partners->Delete();
-        QCOMPARE(stored_names(store), QStringLiteral("a c"));
+        QCOMPARE(stored_names(store), u"a c"_s);
         QCOMPARE(partners->RecordCount(), 2);
         QCOMPARE(partners->position(), -1);
         QVERIFY(!partners->bof());
@@ -30,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { partners->Fields(0).text(); }) == failure_kind::misuse);
         QVERIFY(failure_of([&] { partners->Delete(); }) == failure_kind::misuse);
         partners->MoveNext();
-        QCOMPARE(partners->Fields(0).text(), QStringLiteral("c"));
+        QCOMPARE(partners->Fields(0).text(), u"c"_s);
     }
 
     void back_from_the_gap_is_the_row_before_it()
@@ -42,18 +43,18 @@ private Q_SLOTS:
         partners->Delete();
         QVERIFY(!partners->eof());
         partners->MovePrevious();
-        QCOMPARE(partners->Fields(0).text(), QStringLiteral("b"));
+        QCOMPARE(partners->Fields(0).text(), u"b"_s);
         partners->Delete();
         partners->UpdateBatch();
         partners->MoveNext();
         QVERIFY(partners->eof());
-        QCOMPARE(stored_names(store), QStringLiteral("a"));
+        QCOMPARE(stored_names(store), u"a"_s);
     }
 
     void after_the_last_row_is_deleted_both_ends_hold()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a")});
+        store.add_partners({u"a"_s});
         const auto partners = store.opened(all_partners);
         partners->Delete();
         QVERIFY(partners->bof());
@@ -70,21 +71,20 @@ private Q_SLOTS:
         const auto partners = store.opened(all_partners);
         for (; !partners->eof(); partners->MoveNext())
             partners->Delete();
-        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")), 0);
+        QCOMPARE(store.outside().number(u"select count(*) from partners"_s), 0);
     }
 
     void a_walk_can_delete_some_rows()
     {
         store_fixture store;
-        store.add_partners(
-            {QStringLiteral("x"), QStringLiteral("x"), QStringLiteral("b"), QStringLiteral("x")});
+        store.add_partners({u"x"_s, u"x"_s, u"b"_s, u"x"_s});
         const auto partners = store.opened(all_partners);
         for (partners->MoveFirst(); !partners->eof(); partners->MoveNext()) {
             if (partners->Fields(0).text() == u"x")
                 partners->Delete();
         }
         partners->UpdateBatch();
-        QCOMPARE(stored_names(store), QStringLiteral("b"));
+        QCOMPARE(stored_names(store), u"b"_s);
     }
 
     void delete_of_a_row_that_is_gone_already_is_no_failure()
@@ -92,9 +92,9 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        store.connection.Execute(QStringLiteral("delete from partners where name='a'"));
+        store.connection.Execute(u"delete from partners where name='a'"_s);
         partners->Delete();
-        QCOMPARE(stored_names(store), QStringLiteral("b c"));
+        QCOMPARE(stored_names(store), u"b c"_s);
     }
 
     void a_new_row_can_be_deleted_before_its_commit()
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QVERIFY(partners->empty());
         QVERIFY(!partners->pending());
         partners->MoveNext();
-        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")), 0);
+        QCOMPARE(store.outside().number(u"select count(*) from partners"_s), 0);
     }
 };
 

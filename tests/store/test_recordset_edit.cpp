@@ -4,6 +4,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::all_partners;
 using testing::failure_of;
 using testing::names_of;
@@ -61,11 +62,11 @@ private Q_SLOTS:
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
         partners->MoveNext();
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        partners->Fields(u"name").set(u"typed"_s);
         QVERIFY(partners->pending());
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
         leave_by(*partners, way);
-        QCOMPARE(stored_names(store), QStringLiteral("a typed c"));
+        QCOMPARE(stored_names(store), u"a typed c"_s);
         partners->CancelUpdate();
         QVERIFY(!partners->pending());
     }
@@ -75,11 +76,11 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        partners->Fields(u"name").set(u"typed"_s);
         partners->Close();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
         partners->Open();
-        QCOMPARE(names_of(*partners), QStringLiteral("a b c"));
+        QCOMPARE(names_of(*partners), u"a b c"_s);
     }
 
     void only_the_columns_that_changed_are_written()
@@ -87,13 +88,12 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        store.connection.Execute(QStringLiteral("update partners set TEL='later'"));
-        partners->Fields(u"tel").set(QStringLiteral("x"));
+        store.connection.Execute(u"update partners set TEL='later'"_s);
+        partners->Fields(u"tel").set(u"x"_s);
         partners->Fields(u"tel").set_null();
-        partners->Fields(u"surname").set(QStringLiteral("s"));
+        partners->Fields(u"surname").set(u"s"_s);
         partners->Update();
-        QCOMPARE(store.outside().text(QStringLiteral("select TEL||SURNAME from partners where code=1")),
-                 QStringLiteral("laters"));
+        QCOMPARE(store.outside().text(u"select TEL||SURNAME from partners where code=1"_s), u"laters"_s);
     }
 
     void a_commit_that_changes_nothing_writes_nothing()
@@ -101,13 +101,13 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        partners->Fields(u"name").set(QStringLiteral("a"));
+        partners->Fields(u"name").set(u"a"_s);
         // A write would fail now: the table refuses every one.
-        store.connection.Execute(QStringLiteral("create temp trigger none before update on partners "
-                                                "begin select raise(abort, 'written'); end"));
+        store.connection.Execute(u"create temp trigger none before update on partners "
+                                 u"begin select raise(abort, 'written'); end"_s);
         partners->Update();
         QVERIFY(!partners->pending());
-        partners->Fields(u"name").set(QStringLiteral("other"));
+        partners->Fields(u"name").set(u"other"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_other);
     }
 
@@ -122,7 +122,7 @@ private Q_SLOTS:
         partners->MoveNext();
         partners->Update();
         partners->UpdateBatch(affect::all_chapters);
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
     }
 
     void cancel_brings_the_row_back()
@@ -130,14 +130,14 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        partners->Fields(u"name").set(QStringLiteral("typed"));
-        partners->Fields(u"name").set(QStringLiteral("typed again"));
+        partners->Fields(u"name").set(u"typed"_s);
+        partners->Fields(u"name").set(u"typed again"_s);
         partners->Fields(u"code").set(77);
         partners->CancelUpdate();
-        QCOMPARE(partners->Fields(u"name").text(), QStringLiteral("a"));
+        QCOMPARE(partners->Fields(u"name").text(), u"a"_s);
         QCOMPARE(plain(partners->Fields(u"code").to_int32()), 1);
         partners->MoveNext();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
         partners->CancelUpdate();
         QCOMPARE(partners->position(), 1);
     }
@@ -147,16 +147,16 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        store.connection.Execute(QStringLiteral("create temp trigger none before update on partners "
-                                                "begin select raise(abort, 'refused'); end"));
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        store.connection.Execute(u"create temp trigger none before update on partners "
+                                 u"begin select raise(abort, 'refused'); end"_s);
+        partners->Fields(u"name").set(u"typed"_s);
         QVERIFY(failure_of([&] { partners->MoveLast(); }) == failure_kind::store_other);
         QCOMPARE(partners->position(), 0);
         QVERIFY(partners->pending());
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
-        store.connection.Execute(QStringLiteral("drop trigger none"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
+        store.connection.Execute(u"drop trigger none"_s);
         partners->MoveLast();
-        QCOMPARE(stored_names(store), QStringLiteral("typed b c"));
+        QCOMPARE(stored_names(store), u"typed b c"_s);
     }
 
     void a_row_that_left_the_store_cannot_be_changed()
@@ -164,10 +164,10 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        store.connection.Execute(QStringLiteral("delete from partners where name='a'"));
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        store.connection.Execute(u"delete from partners where name='a'"_s);
+        partners->Fields(u"name").set(u"typed"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::misuse);
-        QCOMPARE(stored_names(store), QStringLiteral("b c"));
+        QCOMPARE(stored_names(store), u"b c"_s);
     }
 
     void drop_pending_forgets_the_current_rows_change()
@@ -175,24 +175,24 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        partners->Fields(u"name").set(u"typed"_s);
         partners->drop_pending();
         QVERIFY(!partners->pending());
         partners->AddNew();
         partners->drop_pending();
         partners->Close();
         partners->drop_pending();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
     }
 
     void texts_reach_the_store_as_they_are_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("quote") << QStringLiteral("l'allée");
-        QTest::newRow("blanks") << QStringLiteral("  TOUTES ");
-        QTest::newRow("empty") << QStringLiteral("");
-        QTest::newRow("statement") << QStringLiteral("'; delete from partners; --");
-        QTest::newRow("digits") << QStringLiteral("00120");
+        QTest::newRow("quote") << u"l'allée"_s;
+        QTest::newRow("blanks") << u"  TOUTES "_s;
+        QTest::newRow("empty") << u""_s;
+        QTest::newRow("statement") << u"'; delete from partners; --"_s;
+        QTest::newRow("digits") << u"00120"_s;
     }
 
     void texts_reach_the_store_as_they_are()
@@ -203,7 +203,7 @@ private Q_SLOTS:
         partners->AddNew();
         partners->Fields(u"name").set(text);
         partners->Update();
-        QCOMPARE(store.outside().rows(QStringLiteral("select NAME from partners"))[0][0], QVariant(text));
+        QCOMPARE(store.outside().rows(u"select NAME from partners"_s)[0][0], QVariant(text));
         partners->Requery();
         QCOMPARE(partners->Fields(u"name").text(), text);
     }

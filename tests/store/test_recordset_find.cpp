@@ -5,6 +5,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::store_fixture;
 
@@ -69,34 +70,34 @@ private Q_SLOTS:
     {
         QFETCH(QString, criterion);
         store_fixture store;
-        const auto games = store.opened(QStringLiteral("select * from games"));
+        const auto games = store.opened(u"select * from games"_s);
         QVERIFY(failure_of([&] { games->Find(criterion); }) == failure_kind::misuse);
     }
 
     void forward_it_starts_at_the_current_row()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("a")});
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
-        partners->Find(QStringLiteral("name='a'"));
+        store.add_partners({u"a"_s, u"b"_s, u"a"_s});
+        const auto partners = store.opened(u"select * from partners"_s);
+        partners->Find(u"name='a'"_s);
         QCOMPARE(partners->position(), 0);
         partners->MoveNext();
-        partners->Find(QStringLiteral("name='a'"));
+        partners->Find(u"name='a'"_s);
         QCOMPARE(partners->position(), 2);
         partners->MoveNext();
         QVERIFY(partners->eof());
-        partners->Find(QStringLiteral("name='a'"));
+        partners->Find(u"name='a'"_s);
         QVERIFY(partners->eof());
     }
 
     void an_absent_value_leads_to_the_end()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b")});
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        store.add_partners({u"a"_s, u"b"_s});
+        const auto partners = store.opened(u"select * from partners"_s);
         for (const auto direction : {search_direction::forward, search_direction::backward}) {
             partners->MoveFirst();
-            partners->Find(QStringLiteral("name='z'"), direction);
+            partners->Find(u"name='z'"_s, direction);
             QVERIFY(partners->eof());
             QVERIFY(!partners->bof());
         }
@@ -105,12 +106,11 @@ private Q_SLOTS:
     void backward_it_finds_every_row_after_a_move_to_the_first()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        store.add_partners({u"a"_s, u"b"_s, u"c"_s});
+        const auto partners = store.opened(u"select * from partners"_s);
         for (const char* name : {"a", "b", "c"}) {
             partners->MoveFirst();
-            partners->Find(QStringLiteral("NAME = '%1'").arg(QString::fromLatin1(name)),
-                           search_direction::backward);
+            partners->Find(u"NAME = '%1'"_s.arg(QString::fromLatin1(name)), search_direction::backward);
             QCOMPARE(partners->Fields(u"name").text(), QString::fromLatin1(name));
         }
     }
@@ -118,59 +118,56 @@ private Q_SLOTS:
     void backward_it_takes_the_nearest_row_before()
     {
         store_fixture store;
-        store.add_partners(
-            {QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("a")});
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        store.add_partners({u"a"_s, u"a"_s, u"b"_s, u"a"_s});
+        const auto partners = store.opened(u"select * from partners"_s);
         partners->MoveTo(2);
-        partners->Find(QStringLiteral("name='a'"), search_direction::backward);
+        partners->Find(u"name='a'"_s, search_direction::backward);
         QCOMPARE(partners->position(), 1);
-        partners->Find(QStringLiteral("name='a'"), search_direction::backward);
+        partners->Find(u"name='a'"_s, search_direction::backward);
         QCOMPARE(partners->position(), 1);
         partners->MoveLast();
         partners->MoveNext();
-        partners->Find(QStringLiteral("name='b'"), search_direction::backward);
+        partners->Find(u"name='b'"_s, search_direction::backward);
         QCOMPARE(partners->position(), 2);
     }
 
     void on_an_empty_recordset_it_stays_at_the_end()
     {
         store_fixture store;
-        const auto games = store.opened(QStringLiteral("select * from games"));
-        games->Find(QStringLiteral("date='x'"));
+        const auto games = store.opened(u"select * from games"_s);
+        games->Find(u"date='x'"_s);
         QVERIFY(games->eof());
-        games->Find(QStringLiteral("date='x'"), search_direction::backward);
+        games->Find(u"date='x'"_s, search_direction::backward);
         QVERIFY(games->eof());
     }
 
     void it_leaves_the_row_and_so_commits_it()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b")});
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
-        partners->Fields(u"name").set(QStringLiteral("changed"));
-        partners->Find(QStringLiteral("name='b'"));
-        QCOMPARE(testing::stored_names(store), QStringLiteral("changed b"));
+        store.add_partners({u"a"_s, u"b"_s});
+        const auto partners = store.opened(u"select * from partners"_s);
+        partners->Fields(u"name").set(u"changed"_s);
+        partners->Find(u"name='b'"_s);
+        QCOMPARE(testing::stored_names(store), u"changed b"_s);
     }
 
     void it_sees_what_is_pending_in_a_batch()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a")});
-        const auto partners =
-            store.opened(QStringLiteral("select * from partners"), lock_type::batch_optimistic);
+        store.add_partners({u"a"_s});
+        const auto partners = store.opened(u"select * from partners"_s, lock_type::batch_optimistic);
         partners->AddNew();
-        partners->Fields(u"name").set(QStringLiteral("new"));
+        partners->Fields(u"name").set(u"new"_s);
         partners->MoveFirst();
-        partners->Find(QStringLiteral("name='new'"));
+        partners->Find(u"name='new'"_s);
         QCOMPARE(partners->position(), 1);
     }
 
     void a_column_that_is_not_there_is_a_missing_part()
     {
         store_fixture store;
-        const auto games = store.opened(QStringLiteral("select * from games"));
-        QVERIFY(failure_of([&] { games->Find(QStringLiteral("golfer='x'")); }) ==
-                failure_kind::missing_table);
+        const auto games = store.opened(u"select * from games"_s);
+        QVERIFY(failure_of([&] { games->Find(u"golfer='x'"_s); }) == failure_kind::missing_table);
     }
 };
 

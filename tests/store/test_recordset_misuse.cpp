@@ -6,6 +6,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::store_fixture;
 
@@ -32,7 +33,7 @@ const std::vector<operation>& all_operations()
         {"MovePrevious", [](Recordset& r) { r.MovePrevious(); }},
         {"Move", [](Recordset& r) { r.Move(1); }},
         {"MoveTo", [](Recordset& r) { r.MoveTo(0); }},
-        {"Find", [](Recordset& r) { r.Find(QStringLiteral("name='a'")); }},
+        {"Find", [](Recordset& r) { r.Find(u"name='a'"_s); }},
         {"Fields by place", [](Recordset& r) { r.Fields(0); }},
         {"Fields by name", [](Recordset& r) { r.Fields(u"name"); }},
         {"field_count", [](Recordset& r) { r.field_count(); }},
@@ -56,7 +57,7 @@ const std::vector<operation>& current_row_operations()
         {"trimmed", [](Recordset& r) { r.Fields(0).trimmed(); }},
         {"int16_or_zero", [](Recordset& r) { r.Fields(6).int16_or_zero(); }},
         {"yes", [](Recordset& r) { r.Fields(6).yes(); }},
-        {"set", [](Recordset& r) { r.Fields(0).set(QStringLiteral("x")); }},
+        {"set", [](Recordset& r) { r.Fields(0).set(u"x"_s); }},
         {"Delete", [](Recordset& r) { r.Delete(); }},
     };
     return operations;
@@ -78,14 +79,14 @@ private:
     store_fixture store_;
 
 private Q_SLOTS:
-    void initTestCase() { store_.add_partners({QStringLiteral("a")}); }
+    void initTestCase() { store_.add_partners({u"a"_s}); }
 
     void nothing_works_on_a_closed_recordset_data() { rows_of(all_operations()); }
 
     void nothing_works_on_a_closed_recordset()
     {
         QFETCH(int, index);
-        const auto partners = store_.recordset(QStringLiteral("select * from partners"));
+        const auto partners = store_.recordset(u"select * from partners"_s);
         QVERIFY(failure_of([&] { all_operations()[static_cast<std::size_t>(index)].run(*partners); }) ==
                 failure_kind::misuse);
     }
@@ -95,7 +96,7 @@ private Q_SLOTS:
     void there_is_no_field_at_the_end()
     {
         QFETCH(int, index);
-        const auto partners = store_.opened(QStringLiteral("select * from partners"));
+        const auto partners = store_.opened(u"select * from partners"_s);
         partners->MoveNext();
         QVERIFY(failure_of([&] {
                     current_row_operations()[static_cast<std::size_t>(index)].run(*partners);
@@ -107,21 +108,21 @@ private Q_SLOTS:
     void there_is_no_field_on_an_empty_recordset()
     {
         QFETCH(int, index);
-        const auto nobody = store_.opened(QStringLiteral("select * from partners where name='nobody'"));
+        const auto nobody = store_.opened(u"select * from partners where name='nobody'"_s);
         QVERIFY(failure_of([&] { current_row_operations()[static_cast<std::size_t>(index)].run(*nobody); }) ==
                 failure_kind::misuse);
     }
 
     void an_open_recordset_cannot_be_opened()
     {
-        const auto partners = store_.opened(QStringLiteral("select * from partners"));
+        const auto partners = store_.opened(u"select * from partners"_s);
         QVERIFY(failure_of([&] { partners->Open(); }) == failure_kind::misuse);
         QCOMPARE(partners->RecordCount(), 1);
     }
 
     void an_empty_recordset_has_no_first_and_no_last_row()
     {
-        const auto games = store_.opened(QStringLiteral("select * from games"));
+        const auto games = store_.opened(u"select * from games"_s);
         QVERIFY(failure_of([&] { games->MoveFirst(); }) == failure_kind::misuse);
         QVERIFY(failure_of([&] { games->MoveLast(); }) == failure_kind::misuse);
         QVERIFY(failure_of([&] { games->MoveTo(0); }) == failure_kind::misuse);
@@ -130,19 +131,18 @@ private Q_SLOTS:
     void nothing_opens_without_a_connection()
     {
         Connection1 closed;
-        Recordset partners(closed, {QStringLiteral("rspartners"), QStringLiteral("select * from partners")});
+        Recordset partners(closed, {u"rspartners"_s, u"select * from partners"_s});
         QVERIFY(failure_of([&] { partners.Open(); }) == failure_kind::misuse);
-        QVERIFY(failure_of([&] { closed.Execute(QStringLiteral("delete from hand")); }) ==
-                failure_kind::misuse);
+        QVERIFY(failure_of([&] { closed.Execute(u"delete from hand"_s); }) == failure_kind::misuse);
     }
 
     void a_table_or_column_that_is_not_there_is_a_missing_part_data()
     {
         QTest::addColumn<QString>("statement");
-        QTest::newRow("table") << QStringLiteral("select * from golfers");
-        QTest::newRow("column") << QStringLiteral("select nickname from partners");
-        QTest::newRow("order") << QStringLiteral("select * from partners order by nickname");
-        QTest::newRow("join") << QStringLiteral("select games.date from games, golfers");
+        QTest::newRow("table") << u"select * from golfers"_s;
+        QTest::newRow("column") << u"select nickname from partners"_s;
+        QTest::newRow("order") << u"select * from partners order by nickname"_s;
+        QTest::newRow("join") << u"select games.date from games, golfers"_s;
     }
 
     void a_table_or_column_that_is_not_there_is_a_missing_part()
@@ -155,7 +155,7 @@ private Q_SLOTS:
 
     void a_field_outside_the_columns_is_a_missing_part()
     {
-        const auto partners = store_.opened(QStringLiteral("select * from partners"));
+        const auto partners = store_.opened(u"select * from partners"_s);
         QVERIFY(failure_of([&] { partners->Fields(7); }) == failure_kind::missing_table);
         QVERIFY(failure_of([&] { partners->Fields(-1); }) == failure_kind::missing_table);
         QVERIFY(failure_of([&] { partners->Fields(u"nickname"); }) == failure_kind::missing_table);
@@ -164,33 +164,33 @@ private Q_SLOTS:
 
     void a_statement_that_is_none_is_refused()
     {
-        const auto recordset = store_.recordset(QStringLiteral("choose * from partners"));
+        const auto recordset = store_.recordset(u"choose * from partners"_s);
         QVERIFY(failure_of([&] { recordset->Open(); }) == failure_kind::store_other);
     }
 
     void a_failure_names_the_recordset_and_its_statement()
     {
-        const auto partners = store_.opened(QStringLiteral("select * from partners"));
+        const auto partners = store_.opened(u"select * from partners"_s);
         partners->MoveNext();
         try {
             partners->Fields(0).text();
             QFAIL("no failure");
         } catch (const run_time_failure& failure) {
-            QVERIFY(failure.details().contains(QStringLiteral("rstest")));
-            QVERIFY(failure.details().contains(QStringLiteral("select * from partners")));
+            QVERIFY(failure.details().contains(u"rstest"_s));
+            QVERIFY(failure.details().contains(u"select * from partners"_s));
         }
     }
 
     void a_failed_conversion_names_the_column()
     {
-        const auto partners = store_.opened(QStringLiteral("select * from partners"));
+        const auto partners = store_.opened(u"select * from partners"_s);
         try {
             partners->Fields(u"code").set(3e9);
             QFAIL("no failure");
         } catch (const run_time_failure& failure) {
             QCOMPARE(failure.kind(), failure_kind::overflow);
-            QVERIFY(failure.details().contains(QStringLiteral("rstest")));
-            QVERIFY(failure.details().contains(QStringLiteral("code")));
+            QVERIFY(failure.details().contains(u"rstest"_s));
+            QVERIFY(failure.details().contains(u"code"_s));
         }
         QVERIFY(!partners->pending());
     }

@@ -3,6 +3,7 @@
 #include "tests/store/store_fixture.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::all_partners;
 using testing::store_fixture;
 using testing::stored_names;
@@ -22,25 +23,25 @@ private Q_SLOTS:
         QCOMPARE(partners->position(), 3);
         QCOMPARE(partners->RecordCount(), 4);
         QVERIFY(partners->pending());
-        partners->Fields(u"name").set(QStringLiteral("d"));
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        partners->Fields(u"name").set(u"d"_s);
+        QCOMPARE(stored_names(store), u"a b c"_s);
         partners->Update();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c d"));
+        QCOMPARE(stored_names(store), u"a b c d"_s);
         QCOMPARE(partners->position(), 3);
-        partners->Fields(u"name").set(QStringLiteral("d2"));
+        partners->Fields(u"name").set(u"d2"_s);
         partners->MoveLast();
-        QCOMPARE(stored_names(store), QStringLiteral("a b c d2"));
+        QCOMPARE(stored_names(store), u"a b c d2"_s);
     }
 
     void a_new_row_that_is_left_for_the_last_row_is_the_current_row_still()
     {
         store_fixture store;
-        const auto shots = store.opened(QStringLiteral(
-            "Select * from Stat_rounds where ( date= '20030614093000' ) and hole = 1 order by shot"));
+        const auto shots = store.opened(
+            u"Select * from Stat_rounds where ( date= '20030614093000' ) and hole = 1 order by shot"_s);
         shots->AddNew();
         shots->Fields(u"normal").set(4);
         shots->MoveLast();
-        shots->Fields(u"date").set(QStringLiteral("20030614093000"));
+        shots->Fields(u"date").set(u"20030614093000"_s);
         shots->Fields(u"hole").set(1);
         shots->Update();
         shots->Requery();
@@ -51,10 +52,10 @@ private Q_SLOTS:
     void a_new_row_in_memory_is_the_stored_row()
     {
         store_fixture store;
-        const auto shots = store.opened(QStringLiteral("select * from Stat_rounds"));
+        const auto shots = store.opened(u"select * from Stat_rounds"_s);
         shots->AddNew();
-        shots->Fields(u"date").set(QStringLiteral("20030614093000"));
-        shots->Fields(u"hole").set(QStringLiteral("7"));
+        shots->Fields(u"date").set(u"20030614093000"_s);
+        shots->Fields(u"hole").set(u"7"_s);
         shots->Fields(u"ts").set(true);
         shots->Fields(u"unit").set(QString());
         shots->Update();
@@ -70,21 +71,20 @@ private Q_SLOTS:
     void a_new_row_of_which_nothing_was_written_is_a_row_of_defaults()
     {
         store_fixture store;
-        const auto cost = store.opened(QStringLiteral("select * from cost"));
+        const auto cost = store.opened(u"select * from cost"_s);
         cost->AddNew();
         cost->Update();
-        QCOMPARE(store.outside().text(QStringLiteral("select fg||'/'||au from cost where date is null")),
-                 QStringLiteral("0/0"));
+        QCOMPARE(store.outside().text(u"select fg||'/'||au from cost where date is null"_s), u"0/0"_s);
     }
 
     void a_column_set_to_null_is_null_in_spite_of_its_default()
     {
         store_fixture store;
-        const auto cost = store.opened(QStringLiteral("select * from cost"));
+        const auto cost = store.opened(u"select * from cost"_s);
         cost->AddNew();
         cost->Fields(u"fg").set_null();
         cost->Update();
-        QVERIFY(store.outside().value(QStringLiteral("select fg from cost")).isNull());
+        QVERIFY(store.outside().value(u"select fg from cost"_s).isNull());
     }
 
     void cancel_drops_a_new_row_and_stands_where_it_came_from()
@@ -94,7 +94,7 @@ private Q_SLOTS:
         const auto partners = store.opened(all_partners);
         partners->MoveTo(1);
         partners->AddNew();
-        partners->Fields(u"name").set(QStringLiteral("never"));
+        partners->Fields(u"name").set(u"never"_s);
         partners->CancelUpdate();
         QCOMPARE(partners->position(), 1);
         QCOMPARE(partners->RecordCount(), 3);
@@ -103,18 +103,18 @@ private Q_SLOTS:
         partners->AddNew();
         partners->CancelUpdate();
         QVERIFY(partners->eof());
-        QCOMPARE(stored_names(store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(store), u"a b c"_s);
     }
 
     void cancel_of_the_only_row_leaves_an_empty_recordset()
     {
         store_fixture store;
-        const auto games = store.opened(QStringLiteral("select *  from games order by date"));
+        const auto games = store.opened(u"select *  from games order by date"_s);
         games->AddNew();
         QVERIFY(!games->eof());
         games->CancelUpdate();
         QVERIFY(games->empty());
-        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from games")), 0);
+        QCOMPARE(store.outside().number(u"select count(*) from games"_s), 0);
     }
 };
 

@@ -8,6 +8,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::store_fixture;
 using testing::stored_names;
@@ -19,8 +20,8 @@ class passing_partners {
 public:
     passing_partners()
     {
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-        rows = store.recordset(QStringLiteral("select * from partners"));
+        store.add_partners({u"a"_s, u"b"_s, u"c"_s});
+        rows = store.recordset(u"select * from partners"_s);
         rows->Open(row_reading::one_by_one);
     }
 
@@ -45,7 +46,7 @@ private Q_SLOTS:
     void each_row_is_met_once()
     {
         passing_partners partners;
-        QCOMPARE(names_on_the_way(*partners.rows), QStringLiteral("a b c"));
+        QCOMPARE(names_on_the_way(*partners.rows), u"a b c"_s);
         QVERIFY(partners.rows->eof());
         partners.rows->MoveNext();
         QVERIFY(partners.rows->eof());
@@ -55,7 +56,7 @@ private Q_SLOTS:
     void columns_stand_where_they_stand_otherwise()
     {
         passing_partners partners;
-        const auto whole = partners.store.recordset(QStringLiteral("select * from partners"));
+        const auto whole = partners.store.recordset(u"select * from partners"_s);
         whole->Open();
         QCOMPARE(partners.rows->field_count(), whole->field_count());
         for (int i = 0; i < whole->field_count(); ++i) {
@@ -67,20 +68,20 @@ private Q_SLOTS:
     void a_join_can_be_walked_so()
     {
         passing_partners partners;
-        const auto pairs = partners.store.recordset(
-            QStringLiteral("select one.NAME, other.NAME from partners one, partners other "
-                           "where one.NAME < other.NAME order by one.NAME, other.NAME"));
+        const auto pairs =
+            partners.store.recordset(u"select one.NAME, other.NAME from partners one, partners other "
+                                     u"where one.NAME < other.NAME order by one.NAME, other.NAME"_s);
         pairs->Open(row_reading::one_by_one);
         QStringList met;
         for (; !pairs->eof(); pairs->MoveNext())
             met << pairs->Fields(0).text() + pairs->Fields(1).text();
-        QCOMPARE(met, (QStringList{QStringLiteral("ab"), QStringLiteral("ac"), QStringLiteral("bc")}));
+        QCOMPARE(met, (QStringList{u"ab"_s, u"ac"_s, u"bc"_s}));
     }
 
     void a_statement_without_rows_is_at_its_end()
     {
         passing_partners partners;
-        const auto none = partners.store.recordset(QStringLiteral("select * from partners where NAME = 'z'"));
+        const auto none = partners.store.recordset(u"select * from partners where NAME = 'z'"_s);
         none->Open(row_reading::one_by_one);
         QVERIFY(none->eof());
         QVERIFY(none->field_count() > 0);
@@ -103,7 +104,7 @@ private Q_SLOTS:
             [&] { rows.MovePrevious(); },
             [&] { rows.Move(2); },
             [&] { rows.MoveTo(1); },
-            [&] { rows.Find(QStringLiteral("NAME = 'b'")); },
+            [&] { rows.Find(u"NAME = 'b'"_s); },
             [&] { rows.Requery(); },
             [&] { (void)rows.RecordCount(); },
             [&] { (void)rows.bof(); },
@@ -111,17 +112,17 @@ private Q_SLOTS:
             [&] { (void)rows.value_at(0, 0); },
         };
         QVERIFY(failure_of(acts.at(static_cast<std::size_t>(act))) == failure_kind::misuse);
-        QCOMPARE(names_on_the_way(rows), QStringLiteral("a b c"));
+        QCOMPARE(names_on_the_way(rows), u"a b c"_s);
     }
 
     void its_rows_cannot_be_written()
     {
         passing_partners partners;
         Recordset& rows = *partners.rows;
-        QVERIFY(failure_of([&] { rows.Fields(u"NAME").set(QStringLiteral("z")); }) == failure_kind::misuse);
+        QVERIFY(failure_of([&] { rows.Fields(u"NAME").set(u"z"_s); }) == failure_kind::misuse);
         QVERIFY(failure_of([&] { rows.AddNew(); }) == failure_kind::misuse);
         QVERIFY(failure_of([&] { rows.Delete(); }) == failure_kind::misuse);
-        QCOMPARE(stored_names(partners.store), QStringLiteral("a b c"));
+        QCOMPARE(stored_names(partners.store), u"a b c"_s);
     }
 
     void closing_in_the_middle_lets_go_of_the_store()
@@ -133,13 +134,13 @@ private Q_SLOTS:
         partners.rows->Open();
         QCOMPARE(partners.rows->RecordCount(), 3);
         partners.rows->Delete();
-        QCOMPARE(stored_names(partners.store), QStringLiteral("b c"));
+        QCOMPARE(stored_names(partners.store), u"b c"_s);
     }
 
     void a_table_that_is_not_there_comes_out_at_the_opening()
     {
         store_fixture store;
-        const auto rows = store.recordset(QStringLiteral("select * from no_such_table"));
+        const auto rows = store.recordset(u"select * from no_such_table"_s);
         QVERIFY(failure_of([&] { rows->Open(row_reading::one_by_one); }) == failure_kind::missing_table);
         QVERIFY(!rows->is_open());
         QVERIFY(failure_of([&] { rows->MoveNext(); }) == failure_kind::misuse);

@@ -4,14 +4,15 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::names_of;
 using testing::store_fixture;
 
 namespace {
 
-const QStringList three{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
-const QString all_partners = QStringLiteral("select * from partners");
+const QStringList three{u"a"_s, u"b"_s, u"c"_s};
+const QString all_partners = u"select * from partners"_s;
 
 }  // namespace
 
@@ -29,7 +30,7 @@ private Q_SLOTS:
         QVERIFY(!partners->bof());
         QVERIFY(!partners->eof());
         QVERIFY(!partners->empty());
-        QCOMPARE(names_of(*partners), QStringLiteral("a b c"));
+        QCOMPARE(names_of(*partners), u"a b c"_s);
     }
 
     void an_empty_recordset_is_at_both_ends()
@@ -58,7 +59,7 @@ private Q_SLOTS:
         partners->MoveNext();
         QVERIFY(partners->eof());
         partners->MovePrevious();
-        QCOMPARE(partners->Fields(u"name").text(), QStringLiteral("c"));
+        QCOMPARE(partners->Fields(u"name").text(), u"c"_s);
         partners->MoveFirst();
         partners->MovePrevious();
         QVERIFY(partners->bof());
@@ -78,11 +79,10 @@ private Q_SLOTS:
         QTest::newRow("forward") << 0 << 2 << 2 << QString();
         QTest::newRow("back") << 2 << -1 << 1 << QString();
         QTest::newRow("nowhere") << 1 << 0 << 1 << QString();
-        QTest::newRow("past the end") << 0 << 9 << -1 << QStringLiteral("eof");
-        QTest::newRow("just past the end") << 2 << 1 << -1 << QStringLiteral("eof");
-        QTest::newRow("before the first") << 1 << -5 << -1 << QStringLiteral("bof");
-        QTest::newRow("farther than any number")
-            << 1 << std::numeric_limits<int>::max() << -1 << QStringLiteral("eof");
+        QTest::newRow("past the end") << 0 << 9 << -1 << u"eof"_s;
+        QTest::newRow("just past the end") << 2 << 1 << -1 << u"eof"_s;
+        QTest::newRow("before the first") << 1 << -5 << -1 << u"bof"_s;
+        QTest::newRow("farther than any number") << 1 << std::numeric_limits<int>::max() << -1 << u"eof"_s;
     }
 
     void move_goes_by_so_many_rows()
@@ -106,14 +106,14 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = store.recordset(all_partners);
-        partners->set_Source(QStringLiteral("select * from partners where name='b'"));
+        partners->set_Source(u"select * from partners where name='b'"_s);
         partners->Open();
-        QCOMPARE(names_of(*partners), QStringLiteral("b"));
+        QCOMPARE(names_of(*partners), u"b"_s);
         partners->Close();
         partners->Open();
-        QCOMPARE(names_of(*partners), QStringLiteral("b"));
+        QCOMPARE(names_of(*partners), u"b"_s);
         partners->Close();
-        QCOMPARE(partners->Source(), QStringLiteral("select * from partners where name='b'"));
+        QCOMPARE(partners->Source(), u"select * from partners where name='b'"_s);
         QCOMPARE(partners->settings().source, all_partners);
     }
 
@@ -122,10 +122,10 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = store.opened(all_partners);
-        partners->set_Source(QStringLiteral("select * from partners where name='c'"));
+        partners->set_Source(u"select * from partners where name='c'"_s);
         QCOMPARE(partners->RecordCount(), 3);
         partners->Requery();
-        QCOMPARE(names_of(*partners), QStringLiteral("c"));
+        QCOMPARE(names_of(*partners), u"c"_s);
     }
 
     void requery_no_longer_shows_rows_that_a_statement_deleted()
@@ -134,11 +134,11 @@ private Q_SLOTS:
         store.add_partners(three);
         const auto partners = store.opened(all_partners);
         partners->MoveLast();
-        store.connection.Execute(QStringLiteral("delete from partners where name='a'"));
+        store.connection.Execute(u"delete from partners where name='a'"_s);
         QCOMPARE(partners->RecordCount(), 3);
         partners->Requery();
         QCOMPARE(partners->position(), 0);
-        QCOMPARE(names_of(*partners), QStringLiteral("b c"));
+        QCOMPARE(names_of(*partners), u"b c"_s);
     }
 
     void a_requery_that_fails_leaves_the_rows_as_they_were()
@@ -146,10 +146,10 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = store.opened(all_partners);
-        partners->set_Source(QStringLiteral("select * from golfers"));
+        partners->set_Source(u"select * from golfers"_s);
         QVERIFY(failure_of([&] { partners->Requery(); }) == failure_kind::missing_table);
         QVERIFY(partners->is_open());
-        QCOMPARE(names_of(*partners), QStringLiteral("a b c"));
+        QCOMPARE(names_of(*partners), u"a b c"_s);
     }
 
     void fields_are_reached_by_place_or_by_name_in_any_case()
@@ -157,8 +157,8 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = store.opened(all_partners);
-        QCOMPARE(partners->Fields(0).text(), QStringLiteral("a"));
-        QCOMPARE(partners->Fields(u"Name").text(), QStringLiteral("a"));
+        QCOMPARE(partners->Fields(0).text(), u"a"_s);
+        QCOMPARE(partners->Fields(u"Name").text(), u"a"_s);
         QCOMPARE(plain(partners->Fields(u"CODE").to_int32()), 1);
         QCOMPARE(partners->field_count(), 7);
         QCOMPARE(partners->field_type(6), column_type::amount);
@@ -167,12 +167,12 @@ private Q_SLOTS:
     void a_join_has_the_ordinals_of_its_own_list_and_is_read_only()
     {
         store_fixture store;
-        store.connection.Execute(QStringLiteral("insert into games2 (date) values ('20030614093000')"));
-        store.connection.Execute(QStringLiteral(
-            "insert into stat_rounds (date, hole, verges, ts) values ('20030614093000', 4, 380, 1)"));
-        const auto shots = store.opened(
-            QStringLiteral("select STAT_ROUNDS.date, hole, games2.date, verges, ts from STAT_ROUNDS, GAMES2 "
-                           "where STAT_ROUNDS.date=games2.date"));
+        store.connection.Execute(u"insert into games2 (date) values ('20030614093000')"_s);
+        store.connection.Execute(
+            u"insert into stat_rounds (date, hole, verges, ts) values ('20030614093000', 4, 380, 1)"_s);
+        const auto shots =
+            store.opened(u"select STAT_ROUNDS.date, hole, games2.date, verges, ts from STAT_ROUNDS, GAMES2 "
+                         u"where STAT_ROUNDS.date=games2.date"_s);
         QCOMPARE(shots->field_count(), 5);
         QCOMPARE(plain(shots->Fields(1).to_int16()), 4);
         QCOMPARE(plain(shots->Fields(3).to_int16()), 380);
@@ -187,9 +187,9 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three);
         const auto partners = store.opened(all_partners);
-        partners->Fields(0).set(QStringLiteral("typed"));
-        QCOMPARE(partners->value_at(2, 0), QVariant(QStringLiteral("c")));
-        QCOMPARE(partners->value_at(0, 0), QVariant(QStringLiteral("typed")));
+        partners->Fields(0).set(u"typed"_s);
+        QCOMPARE(partners->value_at(2, 0), QVariant(u"c"_s));
+        QCOMPARE(partners->value_at(0, 0), QVariant(u"typed"_s));
         QVERIFY(!partners->value_at(1, 1).isValid());
         QVERIFY(partners->pending());
         QVERIFY(failure_of([&] { partners->value_at(3, 0); }) == failure_kind::misuse);

@@ -5,6 +5,7 @@
 #include "tests/store/store_fixture.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::store_fixture;
 
 class test_schema : public QObject {
@@ -19,13 +20,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("column");
         for (const char* name : {"pen_rule_1", "pen_water_9", "pen_bounds_12", "pen_lost_18", "missed_7"})
-            QTest::addRow("%s", name) << QStringLiteral("games") << QString::fromLatin1(name);
+            QTest::addRow("%s", name) << u"games"_s << QString::fromLatin1(name);
         for (const char* name : {"sand_1", "recovery_18", "fairway_5", "putt_len_1_1", "putt_len_18_6"})
-            QTest::addRow("%s", name) << QStringLiteral("games2") << QString::fromLatin1(name);
+            QTest::addRow("%s", name) << u"games2"_s << QString::fromLatin1(name);
         for (const char* name : {"fg", "cm", "vt", "ft", "ba", "tee", "tex", "nrt", "lg", "bs", "ln", "au"})
-            QTest::addRow("%s", name) << QStringLiteral("cost") << QString::fromLatin1(name);
+            QTest::addRow("%s", name) << u"cost"_s << QString::fromLatin1(name);
         for (const char* name : {"beyong_hole", "missed", "ts", "dz", "cal", "penval"})
-            QTest::addRow("%s", name) << QStringLiteral("Stat_rounds") << QString::fromLatin1(name);
+            QTest::addRow("%s", name) << u"Stat_rounds"_s << QString::fromLatin1(name);
     }
 
     void a_fresh_row_reads_zero_where_nobody_tests_for_null()
@@ -35,9 +36,9 @@ private Q_SLOTS:
         const auto recordset = store_.opened(u"select * from " + table);
         recordset->AddNew();
         QCOMPARE(plain(recordset->Fields(column).to_int16()), 0);
-        recordset->Fields(u"date").set(QStringLiteral("20030614093000"));
+        recordset->Fields(u"date").set(u"20030614093000"_s);
         recordset->Update();
-        QCOMPARE(store_.outside().text(u"select " + column + u" from " + table), QStringLiteral("0"));
+        QCOMPARE(store_.outside().text(u"select " + column + u" from " + table), u"0"_s);
         recordset->Delete();
     }
 
@@ -51,11 +52,11 @@ private Q_SLOTS:
     void the_strokes_of_a_fresh_row_are_null()
     {
         QFETCH(QString, column);
-        const auto recordset = store_.opened(QStringLiteral("select * from games"));
+        const auto recordset = store_.opened(u"select * from games"_s);
         recordset->AddNew();
         QVERIFY(recordset->Fields(column).is_null());
         QCOMPARE(plain(recordset->Fields(column).int16_or_zero()), 0);
-        recordset->Fields(u"date").set(QStringLiteral("20030614093000"));
+        recordset->Fields(u"date").set(u"20030614093000"_s);
         recordset->Update();
         QVERIFY(store_.outside().value(u"select " + column + u" from games").isNull());
         recordset->Delete();
@@ -63,29 +64,28 @@ private Q_SLOTS:
 
     void yes_no_columns_count_under_a_sum()
     {
-        const auto shots = store_.opened(QStringLiteral("select * from Stat_rounds"));
+        const auto shots = store_.opened(u"select * from Stat_rounds"_s);
         for (const bool sand : {true, false, true}) {
             shots->AddNew();
             shots->Fields(u"ts").set(sand);
             shots->Update();
         }
-        QCOMPARE(store_.outside().number(QStringLiteral("select ABS(SUM(STAT_ROUNDS.TS)) from stat_rounds")),
-                 2);
+        QCOMPARE(store_.outside().number(u"select ABS(SUM(STAT_ROUNDS.TS)) from stat_rounds"_s), 2);
         QVERIFY(shots->Fields(u"ts").yes());
-        store_.connection.Execute(QStringLiteral("delete from stat_rounds"));
+        store_.connection.Execute(u"delete from stat_rounds"_s);
     }
 
     void the_shots_of_a_hole_are_found_by_an_index()
     {
-        const auto plan = store_.outside().rows(QStringLiteral(
-            "explain query plan select * from Stat_rounds where (date='1') and hole=2 order by shot"));
+        const auto plan = store_.outside().rows(
+            u"explain query plan select * from Stat_rounds where (date='1') and hole=2 order by shot"_s);
         QCOMPARE(plan.size(), std::size_t(1));
-        QVERIFY(plan[0].back().toString().contains(QStringLiteral("shots_by_hole")));
+        QVERIFY(plan[0].back().toString().contains(u"shots_by_hole"_s));
     }
 
     void a_table_is_known_by_its_name_in_any_case()
     {
-        QCOMPARE(find_table(u"STAT_ROUNDS")->name, QStringLiteral("Stat_rounds"));
+        QCOMPARE(find_table(u"STAT_ROUNDS")->name, u"Stat_rounds"_s);
         QVERIFY(find_table(u"rounds") == nullptr);
     }
 };

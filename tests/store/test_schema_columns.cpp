@@ -5,6 +5,7 @@
 #include "tests/store/store_fixture.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::store_fixture;
 
 namespace {
@@ -232,7 +233,7 @@ private Q_SLOTS:
         QFETCH(QString, table);
         QFETCH(QString, column);
         QFETCH(int, ordinal);
-        const QString question = QStringLiteral("select cid from pragma_table_info('%1') where name='%2'");
+        const QString question = u"select cid from pragma_table_info('%1') where name='%2'"_s;
         QCOMPARE(store_.outside().number(question.arg(table, column)), ordinal);
         const auto recordset = store_.opened(u"select * from " + table);
         QCOMPARE(recordset->field_name(ordinal), column);
@@ -251,23 +252,22 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(int, columns);
-        const QString question = QStringLiteral("select count(*) from pragma_table_info('%1')").arg(name);
+        const QString question = u"select count(*) from pragma_table_info('%1')"_s.arg(name);
         QCOMPARE(store_.outside().number(question), columns);
         QCOMPARE(store_.opened(u"select * from " + name)->field_count(), columns);
     }
 
     void the_file_holds_these_eighteen_tables_and_no_other()
     {
-        QCOMPARE(
-            store_.outside().number(QStringLiteral("select count(*) from sqlite_master where type='table'")),
-            static_cast<int>(std::size(widths)));
+        QCOMPARE(store_.outside().number(u"select count(*) from sqlite_master where type='table'"_s),
+                 static_cast<int>(std::size(widths)));
     }
 
     void every_column_of_the_file_is_the_declared_one()
     {
         for (const table& t : schema()) {
-            const auto rows = store_.outside().rows(
-                QStringLiteral("select name from pragma_table_info('%1') order by cid").arg(t.name));
+            const auto rows =
+                store_.outside().rows(u"select name from pragma_table_info('%1') order by cid"_s.arg(t.name));
             QCOMPARE(rows.size(), t.columns.size());
             for (std::size_t i = 0; i < rows.size(); ++i)
                 QCOMPARE(rows[i][0].toString(), t.columns[i].name);

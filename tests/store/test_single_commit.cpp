@@ -5,6 +5,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::store_fixture;
 using testing::stored_names;
@@ -27,28 +28,28 @@ private Q_SLOTS:
     void everything_reaches_the_store_together()
     {
         store_fixture store;
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        const auto partners = store.opened(u"select * from partners"_s);
         single_commit together(store.connection);
         add(*partners, "a");
         add(*partners, "b");
         QCOMPARE(stored_names(store), QString());
         together.finish();
-        QCOMPARE(stored_names(store), QStringLiteral("a b"));
+        QCOMPARE(stored_names(store), u"a b"_s);
     }
 
     void nothing_stays_without_its_end()
     {
         store_fixture store;
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        const auto partners = store.opened(u"select * from partners"_s);
         add(*partners, "a");
         {
             const single_commit together(store.connection);
             add(*partners, "b");
         }
-        QCOMPARE(stored_names(store), QStringLiteral("a"));
+        QCOMPARE(stored_names(store), u"a"_s);
         // The connection is free for the next commit.
         add(*partners, "c");
-        QCOMPARE(stored_names(store), QStringLiteral("a c"));
+        QCOMPARE(stored_names(store), u"a c"_s);
     }
 
     void one_cannot_stand_inside_another()
@@ -61,11 +62,11 @@ private Q_SLOTS:
     void it_goes_quietly_when_its_transaction_is_over_already()
     {
         store_fixture store;
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        const auto partners = store.opened(u"select * from partners"_s);
         {
             const single_commit together(store.connection);
             add(*partners, "a");
-            store.connection.Execute(QStringLiteral("ROLLBACK"));
+            store.connection.Execute(u"ROLLBACK"_s);
         }
         QCOMPARE(stored_names(store), QString());
     }

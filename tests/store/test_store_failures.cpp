@@ -8,6 +8,7 @@
 #include "tests/support/failures.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::bytes_of;
 using testing::child_failure;
 using testing::failure_of;
@@ -22,10 +23,10 @@ void fill_and_close(store_fixture& store)
 {
     QStringList names;
     for (int i = 0; i < 300; ++i)
-        names += QStringLiteral("partner number %1 with a rather long name").arg(i);
-    store.connection.Execute(QStringLiteral("BEGIN"));
+        names += u"partner number %1 with a rather long name"_s.arg(i);
+    store.connection.Execute(u"BEGIN"_s);
     store.add_partners(names);
-    store.connection.Execute(QStringLiteral("COMMIT"));
+    store.connection.Execute(u"COMMIT"_s);
     store.connection.Close();
 }
 
@@ -119,8 +120,8 @@ private Q_SLOTS:
     void another_programs_file_is_left_alone()
     {
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("music.db"));
-        testing::reader(path).write(QStringLiteral("create table songs (title)"));
+        const QString path = folder.filePath(u"music.db"_s);
+        testing::reader(path).write(u"create table songs (title)"_s);
         const QByteArray before = bytes_of(path);
         Connection1 connection;
         QVERIFY(failure_of([&] { connection.Open(path); }) == failure_kind::store_damaged);
@@ -133,8 +134,8 @@ private Q_SLOTS:
         fill_and_close(store);
         store.connection.Open(store.path());
         overwrite(store.path(), partners_page(store.path()), QByteArray(4096, '\xaa'));
-        store.connection.Execute(QStringLiteral("PRAGMA shrink_memory"));
-        const auto partners = store.recordset(QStringLiteral("select * from partners order by name"));
+        store.connection.Execute(u"PRAGMA shrink_memory"_s);
+        const auto partners = store.recordset(u"select * from partners order by name"_s);
         QVERIFY(failure_of([&] { partners->Open(); }) == failure_kind::store_damaged);
         QVERIFY(!partners->is_open());
     }
@@ -178,13 +179,13 @@ private Q_SLOTS:
         set_mode(store.path(), static_cast<mode_t>(file_mode));
         set_mode(folder_of(store), static_cast<mode_t>(folder_mode));
         QProcess child;
-        start_child(child, QStringLiteral("nobody"), store.path());
+        start_child(child, u"nobody"_s, store.path());
         const auto failure = child_failure(child);
         set_mode(folder_of(store), 0777);
         set_mode(store.path(), 0666);
         QVERIFY(failure == static_cast<failure_kind>(kind));
         QCOMPARE(bytes_of(store.path()), before);
-        QCOMPARE(QDir(folder_of(store)).entryList(QDir::Files), QStringList{QStringLiteral("Verdbase.db")});
+        QCOMPARE(QDir(folder_of(store)).entryList(QDir::Files), QStringList{u"Verdbase.db"_s});
     }
 
     void a_folder_that_cannot_be_made_is_read_only()
@@ -192,7 +193,7 @@ private Q_SLOTS:
         QTemporaryDir folder;
         set_mode(folder.path(), 0555);
         QProcess child;
-        start_child(child, QStringLiteral("nobody"), folder.filePath(QStringLiteral("diary/Verdbase.db")));
+        start_child(child, u"nobody"_s, folder.filePath(u"diary/Verdbase.db"_s));
         const auto failure = child_failure(child);
         set_mode(folder.path(), 0755);
         QVERIFY(failure == failure_kind::store_read_only);
@@ -207,26 +208,26 @@ private Q_SLOTS:
         const QString link = folder_of(store) + u"/tool.db";
         QVERIFY(QFile::link(store.path(), link));
         tool.Open(link);
-        tool.Execute(QStringLiteral("BEGIN EXCLUSIVE"));
+        tool.Execute(u"BEGIN EXCLUSIVE"_s);
         QVERIFY(failure_of([&] { store.connection.Open(store.path()); }) == failure_kind::store_locked);
         QVERIFY(!store.connection.is_open());
-        tool.Execute(QStringLiteral("ROLLBACK"));
+        tool.Execute(u"ROLLBACK"_s);
         store.connection.Open(store.path());
     }
 
     void a_tool_that_writes_keeps_a_row_pending()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a"), QStringLiteral("b")});
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        store.add_partners({u"a"_s, u"b"_s});
+        const auto partners = store.opened(u"select * from partners"_s);
         const QString before = whole_content(store.path());
         store.connection.waiting().set_notice_maker([] { return std::make_unique<impatient_notice>(); });
         Connection1 tool;
         const QString link = folder_of(store) + u"/tool.db";
         QVERIFY(QFile::link(store.path(), link));
         tool.Open(link);
-        tool.Execute(QStringLiteral("BEGIN EXCLUSIVE"));
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        tool.Execute(u"BEGIN EXCLUSIVE"_s);
+        partners->Fields(u"name").set(u"typed"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
         QVERIFY(failure_of([&] { partners->MoveNext(); }) == failure_kind::store_locked);
         QVERIFY(partners->pending());
@@ -235,38 +236,37 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { partners->Delete(); }) == failure_kind::store_locked);
         QCOMPARE(partners->RecordCount(), 2);
         QCOMPARE(whole_content(store.path()), before);
-        tool.Execute(QStringLiteral("ROLLBACK"));
-        partners->Fields(u"name").set(QStringLiteral("typed"));
+        tool.Execute(u"ROLLBACK"_s);
+        partners->Fields(u"name").set(u"typed"_s);
         partners->Update();
-        QCOMPARE(testing::stored_names(store), QStringLiteral("typed b"));
+        QCOMPARE(testing::stored_names(store), u"typed b"_s);
     }
 
     void a_full_store_refuses_the_row_and_keeps_what_was_committed()
     {
         store_fixture store;
-        store.add_partners({QStringLiteral("a")});
+        store.add_partners({u"a"_s});
         const QString before = whole_content(store.path());
-        const int pages = store.outside().number(QStringLiteral("pragma page_count"));
-        store.connection.Execute(QStringLiteral("pragma max_page_count=%1").arg(pages));
-        const auto partners = store.opened(QStringLiteral("select * from partners"));
+        const int pages = store.outside().number(u"pragma page_count"_s);
+        store.connection.Execute(u"pragma max_page_count=%1"_s.arg(pages));
+        const auto partners = store.opened(u"select * from partners"_s);
         partners->AddNew();
         partners->Fields(u"name").set(QString(100000, u'x'));
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_full);
         QVERIFY(partners->pending());
         QCOMPARE(whole_content(store.path()), before);
-        store.connection.Execute(QStringLiteral("pragma max_page_count=100000"));
+        store.connection.Execute(u"pragma max_page_count=100000"_s);
         partners->Update();
-        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")), 2);
+        QCOMPARE(store.outside().number(u"select count(*) from partners"_s), 2);
     }
 
     void a_full_store_refuses_a_whole_batch()
     {
         store_fixture store;
         const QString before = whole_content(store.path());
-        const int pages = store.outside().number(QStringLiteral("pragma page_count"));
-        store.connection.Execute(QStringLiteral("pragma max_page_count=%1").arg(pages + 2));
-        const auto partners =
-            store.opened(QStringLiteral("select * from partners"), lock_type::batch_optimistic);
+        const int pages = store.outside().number(u"pragma page_count"_s);
+        store.connection.Execute(u"pragma max_page_count=%1"_s.arg(pages + 2));
+        const auto partners = store.opened(u"select * from partners"_s, lock_type::batch_optimistic);
         for (int i = 0; i < 10; ++i) {
             partners->AddNew();
             partners->Fields(u"name").set(QString(2000, u'x'));
@@ -290,13 +290,12 @@ private Q_SLOTS:
         store_fixture store;
         store.connection.Close();
         QProcess child;
-        start_child(child, QStringLiteral("fill"), store.path(), bytes);
+        start_child(child, u"fill"_s, store.path(), bytes);
         QVERIFY(child_failure(child) == failure_kind::store_full);
         const auto said = child.readAllStandardOutput().trimmed().split('\n');
         store.connection.Open(store.path());
-        QCOMPARE(store.outside().number(QStringLiteral("select count(*) from partners")),
-                 said.last().toInt());
-        QCOMPARE(store.outside().text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+        QCOMPARE(store.outside().number(u"select count(*) from partners"_s), said.last().toInt());
+        QCOMPARE(store.outside().text(u"pragma integrity_check"_s), u"ok"_s);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "tests/store/store_fixture.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 using testing::reader;
 using testing::start_child;
 
@@ -13,7 +14,7 @@ class test_store_kill : public QObject {
 
 private:
     QTemporaryDir folder_;
-    QString path_ = folder_.filePath(QStringLiteral("Verdbase.db"));
+    QString path_ = folder_.filePath(u"Verdbase.db"_s);
 
 private Q_SLOTS:
     void what_was_committed_stays_and_the_next_start_is_not_kept_out_data()
@@ -27,7 +28,7 @@ private Q_SLOTS:
     {
         QFETCH(int, commits);
         QProcess child;
-        start_child(child, QStringLiteral("write"), path_);
+        start_child(child, u"write"_s, path_);
         for (int seen = 0; seen < commits;) {
             QVERIFY(child.waitForReadyRead(60000));
             while (child.canReadLine() && seen < commits) {
@@ -43,13 +44,12 @@ private Q_SLOTS:
         connection.Open(path_);
         const reader outside(path_);
         // One more may have been committed without having been said.
-        const int stored = outside.number(QStringLiteral("select count(*) from partners"));
+        const int stored = outside.number(u"select count(*) from partners"_s);
         QVERIFY(stored == last_said_ || stored == last_said_ + 1);
-        QCOMPARE(outside.number(QStringLiteral("select max(code) from partners")), stored);
-        QCOMPARE(
-            outside.number(QStringLiteral("select count(distinct code) from partners where length(AD1)=500")),
-            stored);
-        QCOMPARE(outside.text(QStringLiteral("pragma integrity_check")), QStringLiteral("ok"));
+        QCOMPARE(outside.number(u"select max(code) from partners"_s), stored);
+        QCOMPARE(outside.number(u"select count(distinct code) from partners where length(AD1)=500"_s),
+                 stored);
+        QCOMPARE(outside.text(u"pragma integrity_check"_s), u"ok"_s);
     }
 
     void a_first_start_that_is_killed_leaves_nothing_half_laid_down_data()
@@ -63,9 +63,9 @@ private Q_SLOTS:
     {
         QFETCH(int, milliseconds);
         QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("Verdbase.db"));
+        const QString path = folder.filePath(u"Verdbase.db"_s);
         QProcess child;
-        start_child(child, QStringLiteral("hold"), path);
+        start_child(child, u"hold"_s, path);
         QVERIFY(child.waitForStarted());
         child.waitForReadyRead(milliseconds);
         child.kill();
@@ -73,10 +73,10 @@ private Q_SLOTS:
         Connection1 connection;
         connection.Open(path);
         const reader outside(path);
-        QCOMPARE(outside.number(QStringLiteral("select count(*) from sqlite_master where type='table'")), 18);
-        QCOMPARE(outside.number(QStringLiteral("select count(*) from sqlite_master where type='index'")), 4);
-        QCOMPARE(outside.number(QStringLiteral("select count(*) from stat_sticks")), 14);
-        QCOMPARE(outside.number(QStringLiteral("select count(*) from settings")), 1);
+        QCOMPARE(outside.number(u"select count(*) from sqlite_master where type='table'"_s), 18);
+        QCOMPARE(outside.number(u"select count(*) from sqlite_master where type='index'"_s), 4);
+        QCOMPARE(outside.number(u"select count(*) from stat_sticks"_s), 14);
+        QCOMPARE(outside.number(u"select count(*) from settings"_s), 1);
     }
 
 private:

@@ -6,6 +6,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// `insert into TABLE (...) values (...)`, put together column by column.
@@ -15,14 +17,13 @@ public:
 
     void text(const QString& column, QString value)
     {
-        literal(column, u'\'' + value.replace(u'\'', QStringLiteral("''")) + u'\'');
+        literal(column, u'\'' + value.replace(u'\'', u"''"_s) + u'\'');
     }
     void number(const QString& column, int value) { literal(column, QString::number(value)); }
 
     QString statement() const
     {
-        return QStringLiteral("insert into %1 (%2) values (%3)")
-            .arg(table_, columns_.join(u", "), values_.join(u", "));
+        return u"insert into %1 (%2) values (%3)"_s.arg(table_, columns_.join(u", "), values_.join(u", "));
     }
 
 private:
@@ -45,31 +46,31 @@ QString of_hole(const QString& column, int h)
 void put_hole(insertion& games, insertion& games2, int h, const hole_entry& hole)
 {
     if (hole.stored) {
-        games.number(of_hole(QStringLiteral("long"), h), hole.long_shots);
-        games.number(of_hole(QStringLiteral("approach"), h), hole.approach);
-        games.number(of_hole(QStringLiteral("putt"), h), hole.putts);
+        games.number(of_hole(u"long"_s, h), hole.long_shots);
+        games.number(of_hole(u"approach"_s, h), hole.approach);
+        games.number(of_hole(u"putt"_s, h), hole.putts);
     }
-    games.number(of_hole(QStringLiteral("pen_rule"), h), hole.rule);
-    games.number(of_hole(QStringLiteral("pen_water"), h), hole.water);
-    games.number(of_hole(QStringLiteral("pen_bounds"), h), hole.bounds);
-    games.number(of_hole(QStringLiteral("pen_lost"), h), hole.lost);
-    games.number(of_hole(QStringLiteral("missed"), h), hole.missed);
-    games2.number(of_hole(QStringLiteral("sand"), h), hole.sand);
-    games2.number(of_hole(QStringLiteral("fairway"), h), hole.fairway);
+    games.number(of_hole(u"pen_rule"_s, h), hole.rule);
+    games.number(of_hole(u"pen_water"_s, h), hole.water);
+    games.number(of_hole(u"pen_bounds"_s, h), hole.bounds);
+    games.number(of_hole(u"pen_lost"_s, h), hole.lost);
+    games.number(of_hole(u"missed"_s, h), hole.missed);
+    games2.number(of_hole(u"sand"_s, h), hole.sand);
+    games2.number(of_hole(u"fairway"_s, h), hole.fairway);
 }
 
 QStringList statements_of(const diary_round& round)
 {
-    insertion games(QStringLiteral("games"));
-    games.text(QStringLiteral("date"), round.key);
-    games.text(QStringLiteral("field"), round.course.name);
-    games.text(QStringLiteral("CODEF"), round.course.code);
-    insertion games2(QStringLiteral("games2"));
-    games2.text(QStringLiteral("date"), round.key);
-    games2.number(QStringLiteral("conditionM"), round.weather);
-    games2.text(QStringLiteral("FC"), round.course.code);
+    insertion games(u"games"_s);
+    games.text(u"date"_s, round.key);
+    games.text(u"field"_s, round.course.name);
+    games.text(u"CODEF"_s, round.course.code);
+    insertion games2(u"games2"_s);
+    games2.text(u"date"_s, round.key);
+    games2.number(u"conditionM"_s, round.weather);
+    games2.text(u"FC"_s, round.course.code);
     if (!round.partners.isEmpty())
-        games2.text(QStringLiteral("PARTNERS"), round.partners);
+        games2.text(u"PARTNERS"_s, round.partners);
     for (int h = 1; h <= 18; ++h)
         put_hole(games, games2, h, round.holes.at(static_cast<std::size_t>(h - 1)));
     return {games.statement(), games2.statement()};
@@ -119,23 +120,23 @@ diary_course flat_course(const QString& code, int par, const QString& rating, co
 
 QString key_of_day(int day)
 {
-    return QDate(2003, 1, 1).addDays(day - 1).toString(QStringLiteral("yyyyMMdd")) + QStringLiteral("093000");
+    return QDate(2003, 1, 1).addDays(day - 1).toString(u"yyyyMMdd"_s) + u"093000"_s;
 }
 
 void diary::add(const diary_course& course) const
 {
-    insertion fields(QStringLiteral("vrd_fields"));
-    fields.text(QStringLiteral("code"), course.code);
-    fields.text(QStringLiteral("name"), course.name);
-    fields.text(QStringLiteral("rating"), course.rating);
-    fields.text(QStringLiteral("slope"), course.slope);
-    insertion holes(QStringLiteral("field_info"));
-    holes.text(QStringLiteral("FIELD_CODE"), course.code);
+    insertion fields(u"vrd_fields"_s);
+    fields.text(u"code"_s, course.code);
+    fields.text(u"name"_s, course.name);
+    fields.text(u"rating"_s, course.rating);
+    fields.text(u"slope"_s, course.slope);
+    insertion holes(u"field_info"_s);
+    holes.text(u"FIELD_CODE"_s, course.code);
     for (int h = 1; h <= 18; ++h) {
         const auto at = static_cast<std::size_t>(h - 1);
-        holes.number(of_hole(QStringLiteral("par"), h), course.pars.at(at));
-        holes.number(of_hole(QStringLiteral("yards"), h), course.yards.at(at));
-        holes.number(of_hole(QStringLiteral("hcp"), h), course.stroke_index.at(at));
+        holes.number(of_hole(u"par"_s, h), course.pars.at(at));
+        holes.number(of_hole(u"yards"_s, h), course.yards.at(at));
+        holes.number(of_hole(u"hcp"_s, h), course.stroke_index.at(at));
     }
     store.write({fields.statement(), holes.statement()});
 }
@@ -147,41 +148,40 @@ void diary::add(const diary_round& round) const
 
 void diary::add(const std::vector<diary_round>& rounds) const
 {
-    QStringList statements{QStringLiteral("begin")};
+    QStringList statements{u"begin"_s};
     for (const diary_round& round : rounds)
         statements << statements_of(round);
-    store.write(statements << QStringLiteral("commit"));
+    store.write(statements << u"commit"_s);
 }
 
 void diary::add(const diary_shot& shot) const
 {
-    insertion row(QStringLiteral("Stat_rounds"));
-    row.text(QStringLiteral("date"), shot.key);
-    row.number(QStringLiteral("hole"), shot.hole);
-    row.number(QStringLiteral("shot"), shot.shot);
-    row.number(QStringLiteral("shot_type_value"), shot.kind);
-    row.number(QStringLiteral("fairval"), shot.fairway);
-    row.number(QStringLiteral("penval"), shot.penalty);
-    row.number(QStringLiteral("addpen"), shot.penalty > 0 ? 1 : 0);
-    row.number(QStringLiteral("ts"), shot.sand ? 1 : 0);
-    row.number(QStringLiteral("missed"), shot.missed ? 1 : 0);
-    row.number(QStringLiteral("normal"), shot.par);
+    insertion row(u"Stat_rounds"_s);
+    row.text(u"date"_s, shot.key);
+    row.number(u"hole"_s, shot.hole);
+    row.number(u"shot"_s, shot.shot);
+    row.number(u"shot_type_value"_s, shot.kind);
+    row.number(u"fairval"_s, shot.fairway);
+    row.number(u"penval"_s, shot.penalty);
+    row.number(u"addpen"_s, shot.penalty > 0 ? 1 : 0);
+    row.number(u"ts"_s, shot.sand ? 1 : 0);
+    row.number(u"missed"_s, shot.missed ? 1 : 0);
+    row.number(u"normal"_s, shot.par);
     store.write(row.statement());
 }
 
 void diary::add_partner(const QString& surname, const QString& name, int code) const
 {
-    insertion row(QStringLiteral("partners"));
-    row.text(QStringLiteral("NAME"), name);
-    row.text(QStringLiteral("SURNAME"), surname);
-    row.number(QStringLiteral("code"), code);
+    insertion row(u"partners"_s);
+    row.text(u"NAME"_s, name);
+    row.text(u"SURNAME"_s, surname);
+    row.number(u"code"_s, code);
     store.write(row.statement());
 }
 
 std::vector<double> stats_row(const reader& store, int row)
 {
-    const auto rows =
-        store.rows(QStringLiteral("select * from stats order by rowid limit 1 offset %1").arg(row));
+    const auto rows = store.rows(u"select * from stats order by rowid limit 1 offset %1"_s.arg(row));
     std::vector<double> figures;
     for (int ordinal = 1; ordinal <= 18; ++ordinal)
         figures.push_back(rows.at(0).at(static_cast<std::size_t>(ordinal)).toDouble());

@@ -7,6 +7,8 @@
 /// How the tests look at what a box does when it gains the focus.
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 /// Rows of the ways in which a box gains the focus, in a column "reason".
 inline void ways_into_a_box()
 {
@@ -23,7 +25,7 @@ inline QString text_after_focus_and_digit(QLineEdit& box, Qt::FocusReason reason
 {
     if (QWidget* focused = QApplication::focusWidget())
         focused->clearFocus();
-    box.setText(QStringLiteral("12"));
+    box.setText(u"12"_s);
     box.setFocus(reason);
     QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_7, u'7', Qt::NoModifier);
     return box.text();

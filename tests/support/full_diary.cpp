@@ -13,6 +13,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr unsigned seed = 19980614;
@@ -29,12 +31,9 @@ struct partner {
 
 const std::vector<partner>& partners()
 {
-    static const std::vector<partner> all{{QStringLiteral("Anne"), QStringLiteral("Larivière"), 1507},
-                                          {QStringLiteral("Bruno"), QStringLiteral("Keller"), 1129},
-                                          {QStringLiteral("Chloé"), QStringLiteral("O Brien"), 1266},
-                                          {QStringLiteral("Denis"), QStringLiteral("Tremblay"), 1418},
-                                          {QStringLiteral("Ella"), QStringLiteral("Fraser"), 1003},
-                                          {QStringLiteral("Félix"), QStringLiteral("Gagnon"), 1187}};
+    static const std::vector<partner> all{
+        {u"Anne"_s, u"Larivière"_s, 1507}, {u"Bruno"_s, u"Keller"_s, 1129}, {u"Chloé"_s, u"O Brien"_s, 1266},
+        {u"Denis"_s, u"Tremblay"_s, 1418}, {u"Ella"_s, u"Fraser"_s, 1003},  {u"Félix"_s, u"Gagnon"_s, 1187}};
     return all;
 }
 
@@ -94,11 +93,11 @@ QVariantList putt_lengths(const played_shots& shots)
 
 QStringList columns_of_games()
 {
-    QStringList columns{QStringLiteral("date"), QStringLiteral("field"), QStringLiteral("CODEF")};
+    QStringList columns{u"date"_s, u"field"_s, u"CODEF"_s};
     for (int h = 1; h <= holes; ++h) {
         for (const char* figure :
              {"long", "approach", "putt", "pen_rule", "pen_water", "pen_bounds", "pen_lost", "missed"})
-            columns << QStringLiteral("%1_%2").arg(QLatin1String(figure)).arg(h);
+            columns << u"%1_%2"_s.arg(QLatin1String(figure)).arg(h);
     }
     return columns;
 }
@@ -113,13 +112,12 @@ QVariantList figures_in_games(const played_shots& shots)
 
 QStringList columns_of_games2()
 {
-    QStringList columns{QStringLiteral("date"), QStringLiteral("FC"), QStringLiteral("conditionM"),
-                        QStringLiteral("PARTNERS"), QStringLiteral("temperature")};
+    QStringList columns{u"date"_s, u"FC"_s, u"conditionM"_s, u"PARTNERS"_s, u"temperature"_s};
     for (int h = 1; h <= holes; ++h) {
         for (const char* figure : {"sand", "recovery", "fairway"})
-            columns << QStringLiteral("%1_%2").arg(QLatin1String(figure)).arg(h);
+            columns << u"%1_%2"_s.arg(QLatin1String(figure)).arg(h);
         for (int putt = 1; putt <= putts_kept; ++putt)
-            columns << QStringLiteral("putt_len_%1_%2").arg(h).arg(putt);
+            columns << u"putt_len_%1_%2"_s.arg(h).arg(putt);
     }
     return columns;
 }
@@ -143,9 +141,8 @@ QStringList columns_of_cost()
 
 QStringList columns_of_shots()
 {
-    return QStringLiteral("date hole before after shot_type stick beyong_hole missed ts dz faireway penality "
-                          "shot stickval fairval penval shot_type_value cal normal addpen unit verges")
-        .split(u' ');
+    return u"date hole before after shot_type stick beyong_hole missed ts dz faireway penality "
+           u"shot stickval fairval penval shot_type_value cal normal addpen unit verges"_s.split(u' ');
 }
 
 /// The captions of a code in the language of a round.
@@ -159,21 +156,17 @@ struct captions {
 
 const captions& captions_in(bool french)
 {
-    static const captions in_french{
-        {QStringLiteral(" "), QStringLiteral("Long"), QStringLiteral("Approche"), QStringLiteral("Putt")},
-        {QStringLiteral(" "), QStringLiteral("Dans l'allé"), QStringLiteral("Gauche"),
-         QStringLiteral("Droite")},
-        {QStringLiteral(" "), QStringLiteral("Eau"), QStringLiteral("Balle perdue"),
-         QStringLiteral("Règlement"), QStringLiteral("Hors limites")},
-        QStringLiteral("Verges"),
-        QStringLiteral("Pieds")};
+    static const captions in_french{{u" "_s, u"Long"_s, u"Approche"_s, u"Putt"_s},
+                                    {u" "_s, u"Dans l'allé"_s, u"Gauche"_s, u"Droite"_s},
+                                    {u" "_s, u"Eau"_s, u"Balle perdue"_s, u"Règlement"_s, u"Hors limites"_s},
+                                    u"Verges"_s,
+                                    u"Pieds"_s};
     static const captions in_english{
-        {QStringLiteral(" "), QStringLiteral("Long"), QStringLiteral("Approach"), QStringLiteral("Putt")},
-        {QStringLiteral(" "), QStringLiteral("Fairway"), QStringLiteral("Left"), QStringLiteral("Right")},
-        {QStringLiteral(" "), QStringLiteral("Water Hazard"), QStringLiteral("Lost Ball"),
-         QStringLiteral("Rules"), QStringLiteral("Out of Bounds")},
-        QStringLiteral("Yards"),
-        QStringLiteral("Feets")};
+        {u" "_s, u"Long"_s, u"Approach"_s, u"Putt"_s},
+        {u" "_s, u"Fairway"_s, u"Left"_s, u"Right"_s},
+        {u" "_s, u"Water Hazard"_s, u"Lost Ball"_s, u"Rules"_s, u"Out of Bounds"_s},
+        u"Yards"_s,
+        u"Feets"_s};
     return french ? in_french : in_english;
 }
 
@@ -181,10 +174,10 @@ const captions& captions_in(bool french)
 class diary_writer {
 public:
     diary_writer(const QSqlDatabase& database, bool detailed)
-        : games_(database, QStringLiteral("games"), columns_of_games()),
-          games2_(database, QStringLiteral("games2"), columns_of_games2()),
-          cost_(database, QStringLiteral("cost"), columns_of_cost()),
-          shots_(database, QStringLiteral("Stat_rounds"), columns_of_shots()),
+        : games_(database, u"games"_s, columns_of_games()),
+          games2_(database, u"games2"_s, columns_of_games2()),
+          cost_(database, u"cost"_s, columns_of_cost()),
+          shots_(database, u"Stat_rounds"_s, columns_of_shots()),
           detailed_(detailed)
     {
     }
@@ -292,7 +285,7 @@ void forget_sixth_putts(const QString& store_path)
 {
     QStringList forgotten;
     for (int h = 1; h <= holes; ++h)
-        forgotten << QStringLiteral("putt_len_%1_%2 = 0").arg(h).arg(putts_kept);
+        forgotten << u"putt_len_%1_%2 = 0"_s.arg(h).arg(putts_kept);
     reader(store_path).write(u"update games2 set " + forgotten.join(u", "));
 }
 

@@ -13,6 +13,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 hand::hand(std::chrono::milliseconds patience) : patience_(patience) {}
 
 void hand::look(const std::function<void()>& routine)
@@ -35,7 +37,7 @@ void hand::wait_until(const QString& what, const std::function<bool()>& holds)
     bool failed = false;
     const auto holds_or_failed = [&] {
         const bool there = holds();
-        failed = !there && visible_window(QStringLiteral("failure_box"));
+        failed = !there && visible_window(u"failure_box"_s);
         return there;
     };
     while (!asked<bool>(holds_or_failed)) {
@@ -44,7 +46,7 @@ void hand::wait_until(const QString& what, const std::function<bool()>& holds)
         if (failed)
             end = std::min(end, clock::now() + std::chrono::seconds(2));
         if (clock::now() > end)
-            fail(QStringLiteral("waited in vain for ") + what);
+            fail(u"waited in vain for "_s + what);
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
 }
@@ -59,7 +61,7 @@ void hand::wait_for_window(const QString& name)
 
 void hand::wait_until_gone(const QString& window)
 {
-    wait_until(QStringLiteral("the end of ") + window, [&] { return !visible_window(window); });
+    wait_until(u"the end of "_s + window, [&] { return !visible_window(window); });
 }
 
 void hand::on_control(const QString& name, const std::function<void(QWidget&)>& action)
@@ -72,7 +74,7 @@ void hand::wait_for_keyboard()
 {
     // A window that opens, or comes back from under another, gets the keyboard with a later event: under
     // a window manager some time after it is shown, and until then keys would go to the window before.
-    wait_until(QStringLiteral("a window with the keyboard"), [] {
+    wait_until(u"a window with the keyboard"_s, [] {
         return windows_taking_input().contains(QApplication::activeWindow()) ||
                QApplication::activePopupWidget();
     });
@@ -87,7 +89,7 @@ void hand::check(bool holds, const QString& words)
 void hand::same(const QString& seen, const QString& expected, const QString& what)
 {
     if (seen != expected)
-        fail(QStringLiteral("%1\n     saw: %2\nexpected: %3").arg(what, seen, expected));
+        fail(u"%1\n     saw: %2\nexpected: %3"_s.arg(what, seen, expected));
 }
 
 void hand::same(int seen, int expected, const QString& what)

@@ -9,12 +9,13 @@
 /// What the hand does with message boxes.
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString described(const expected_box& box)
 {
-    return QStringLiteral("title \"%1\", icon %2, buttons %3, text \"%4\"")
-        .arg(box.title)
+    return u"title \"%1\", icon %2, buttons %3, text \"%4\""_s.arg(box.title)
         .arg(static_cast<int>(box.icon))
         .arg(static_cast<int>(box.buttons), 0, 16)
         .arg(box.text);
@@ -36,14 +37,13 @@ void hand::answer(const expected_box& box, QMessageBox::StandardButton answer)
 {
     wait_until(u"a message box: " + described(box), [] { return box_on_top() != nullptr; });
     const auto seen = asked<expected_box>([] { return shown_box(*box_on_top()); });
-    same(described(seen), described(box), QStringLiteral("message box"));
+    same(described(seen), described(box), u"message box"_s);
     const QPointer<QMessageBox> answered = asked<QMessageBox*>([] { return box_on_top(); });
     post([answered, answer] {
         if (answered)
             QTest::mouseClick(static_cast<QWidget*>(answered->button(answer)), Qt::LeftButton);
     });
-    wait_until(QStringLiteral("the end of the message box"),
-               [&] { return !answered || !answered->isVisible(); });
+    wait_until(u"the end of the message box"_s, [&] { return !answered || !answered->isVisible(); });
 }
 
 }  // namespace verdane::testing

@@ -12,6 +12,8 @@
 /// What the hand does with grids and their menus.
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QTableView& grid_named(const QString& name)
@@ -56,7 +58,7 @@ void hand::open_menu(const QString& grid, int row, int column)
         QTableView& cells = grid_named(grid);
         press(cells, data_grid::button_in(cell_in_sight(cells, row, column)).center());
     });
-    wait_until(QStringLiteral("the menu of a cell"), [] { return menu_on_top() != nullptr; });
+    wait_until(u"the menu of a cell"_s, [] { return menu_on_top() != nullptr; });
 }
 
 void hand::wait_for_menu(const QString& menu)
@@ -136,8 +138,7 @@ QString hand::cursor(const QString& grid)
 {
     QModelIndex current;
     on_control(grid, [&](QWidget&) { current = grid_named(grid).currentIndex(); });
-    return current.isValid() ? QStringLiteral("%1,%2").arg(current.row()).arg(current.column())
-                             : QStringLiteral("none");
+    return current.isValid() ? u"%1,%2"_s.arg(current.row()).arg(current.column()) : u"none"_s;
 }
 
 }  // namespace verdane::testing

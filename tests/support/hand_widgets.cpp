@@ -14,6 +14,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A window that hangs on a modal one takes input beside it.
@@ -120,12 +122,12 @@ QString what_is_open()
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (!window->isVisible())
             continue;
-        lines += QStringLiteral("  %1 \"%2\"").arg(window->objectName(), window->windowTitle());
+        lines += u"  %1 \"%2\""_s.arg(window->objectName(), window->windowTitle());
         if (auto* box = qobject_cast<QMessageBox*>(window))
-            lines += QStringLiteral(" says \"%1\" %2").arg(box->text(), box->informativeText());
+            lines += u" says \"%1\" %2"_s.arg(box->text(), box->informativeText());
         lines += u'\n';
     }
-    return lines.isEmpty() ? QStringLiteral("  no window\n") : lines;
+    return lines.isEmpty() ? u"  no window\n"_s : lines;
 }
 
 }  // namespace verdane::testing

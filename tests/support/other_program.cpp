@@ -7,6 +7,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void run(const QString& connection, const QString& statement)
@@ -21,7 +23,7 @@ void run(const QString& connection, const QString& statement)
 other_program::other_program(const QString& store_path, const QString& lock)
     : name_(QUuid::createUuid().toString())
 {
-    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
+    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name_);
     database.setDatabaseName(store_path);
     if (!database.open())
         qFatal("cannot open %s", qUtf8Printable(store_path));
@@ -37,7 +39,7 @@ void other_program::let_go()
 {
     if (!QSqlDatabase::contains(name_))
         return;
-    run(name_, QStringLiteral("ROLLBACK"));
+    run(name_, u"ROLLBACK"_s);
     QSqlDatabase::removeDatabase(name_);
 }
 

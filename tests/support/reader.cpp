@@ -12,15 +12,17 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void with_connection(const QString& path, const std::function<void(QSqlDatabase&)>& work)
 {
     const QString name = QUuid::createUuid().toString();
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
         database.setDatabaseName(path);
-        database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=5000"));
+        database.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=5000"_s);
         if (!database.open())
             qFatal("cannot read the store: %s", qUtf8Printable(database.lastError().text()));
         work(database);

@@ -5,6 +5,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int holes = 18;
@@ -61,9 +63,8 @@ const scorecard& published_scorecard(const QString& name, const QString& tee)
 
 int tee_code(const QString& tee)
 {
-    static const QStringList tees{QStringLiteral("White"), QStringLiteral("Blue"),   QStringLiteral("Red"),
-                                  QStringLiteral("Gold"),  QStringLiteral("Bronze"), QStringLiteral("Yellow"),
-                                  QStringLiteral("Green"), QStringLiteral("Black")};
+    static const QStringList tees{u"White"_s,  u"Blue"_s,   u"Red"_s,   u"Gold"_s,
+                                  u"Bronze"_s, u"Yellow"_s, u"Green"_s, u"Black"_s};
     return static_cast<int>(tees.indexOf(tee));
 }
 

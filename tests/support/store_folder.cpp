@@ -7,6 +7,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 store_folder::store_folder(bool french)
 {
     is_french = french;
@@ -30,7 +32,7 @@ store_folder::~store_folder()
 
 QString store_folder::path() const
 {
-    return folder_.filePath(QStringLiteral("verdbase.sqlite"));
+    return folder_.filePath(u"verdbase.sqlite"_s);
 }
 
 }  // namespace verdane::testing

@@ -2,6 +2,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A sentence, and a statement that counts what breaks it.
@@ -67,7 +69,7 @@ QStringList broken_invariants(const reader& store)
     for (const invariant& rule : invariants()) {
         const int breaches = store.number(QString::fromUtf8(rule.breaches));
         if (breaches > 0)
-            broken << QStringLiteral("%1: %2 times not").arg(QLatin1String(rule.sentence)).arg(breaches);
+            broken << u"%1: %2 times not"_s.arg(QLatin1String(rule.sentence)).arg(breaches);
     }
     return broken;
 }

@@ -5,6 +5,8 @@
 
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void must(bool done, const QSqlError& error)
@@ -19,7 +21,7 @@ void in_one_transaction(const QString& path, const std::function<void(QSqlDataba
 {
     const QString name = QUuid::createUuid().toString();
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
         database.setDatabaseName(path);
         must(database.open(), database.lastError());
         must(database.transaction(), database.lastError());
@@ -32,9 +34,9 @@ void in_one_transaction(const QString& path, const std::function<void(QSqlDataba
 table_filler::table_filler(const QSqlDatabase& database, const QString& table, const QStringList& columns)
     : query_(database)
 {
-    const QStringList places(columns.size(), QStringLiteral("?"));
-    must(query_.prepare(QStringLiteral("insert into %1 (`%2`) values (%3)")
-                            .arg(table, columns.join(QStringLiteral("`, `")), places.join(u','))),
+    const QStringList places(columns.size(), u"?"_s);
+    must(query_.prepare(
+             u"insert into %1 (`%2`) values (%3)"_s.arg(table, columns.join(u"`, `"_s), places.join(u','))),
          query_.lastError());
 }
 

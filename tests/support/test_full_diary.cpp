@@ -7,6 +7,7 @@
 #include "tests/support/reader.h"
 
 using namespace verdane::testing;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,8 +18,8 @@ QString over_the_holes(const QString& prefix)
 {
     QStringList columns;
     for (int h = 1; h <= holes; ++h)
-        columns << QStringLiteral("%1_%2").arg(prefix).arg(h);
-    return columns.join(QStringLiteral(" + "));
+        columns << u"%1_%2"_s.arg(prefix).arg(h);
+    return columns.join(u" + "_s);
 }
 
 }  // namespace
@@ -36,21 +37,20 @@ private Q_SLOTS:
             QCOMPARE(store().number(u"select count(*) from " + name), rounds_of_full_diary);
             QCOMPARE(store().number(u"select count(distinct date) from " + name), rounds_of_full_diary);
         }
-        QCOMPARE(store().number(QStringLiteral("select count(distinct date) from Stat_rounds")),
-                 rounds_of_full_diary);
+        QCOMPARE(store().number(u"select count(distinct date) from Stat_rounds"_s), rounds_of_full_diary);
     }
 
     void every_key_has_14_digits()
     {
-        QCOMPARE(store().number(QStringLiteral(
-                     "select count(*) from games where length(date) <> 14 or date glob '*[^0-9]*'")),
-                 0);
-        QCOMPARE(store().text(QStringLiteral("select min(date) from games")), key_in_diary(0));
+        QCOMPARE(
+            store().number(u"select count(*) from games where length(date) <> 14 or date glob '*[^0-9]*'"_s),
+            0);
+        QCOMPARE(store().text(u"select min(date) from games"_s), key_in_diary(0));
     }
 
     void there_are_about_33000_shots()
     {
-        const int shots = store().number(QStringLiteral("select count(*) from Stat_rounds"));
+        const int shots = store().number(u"select count(*) from Stat_rounds"_s);
         QVERIFY2(shots >= 30000 && shots <= 36000, qPrintable(QString::number(shots)));
     }
 
@@ -60,8 +60,7 @@ private Q_SLOTS:
         for (const char* figure :
              {"long", "approach", "putt", "pen_rule", "pen_water", "pen_bounds", "pen_lost"})
             figures << over_the_holes(QLatin1String(figure));
-        const int strokes =
-            store().number(u"select sum(" + figures.join(QStringLiteral(" + ")) + u") from games");
+        const int strokes = store().number(u"select sum(" + figures.join(u" + "_s) + u") from games");
         QVERIFY2(strokes <= 32767, qPrintable(QString::number(strokes)));
     }
 
@@ -92,52 +91,46 @@ private Q_SLOTS:
         QFETCH(QString, shots);
         int all = 0;
         for (int h = 1; h <= holes; ++h) {
-            const QString column = QStringLiteral("%1_%2").arg(figure).arg(h);
-            const QString counted =
-                QStringLiteral("(select count(*) from Stat_rounds s where s.date = r.date "
-                               "and s.hole = %1 and (%2))")
-                    .arg(h)
-                    .arg(shots);
-            QCOMPARE(store().number(QStringLiteral("select count(*) from %1 r where %2 is null or %2 <> %3")
-                                        .arg(table, column, counted)),
+            const QString column = u"%1_%2"_s.arg(figure).arg(h);
+            const QString counted = u"(select count(*) from Stat_rounds s where s.date = r.date "
+                                    u"and s.hole = %1 and (%2))"_s.arg(h)
+                                        .arg(shots);
+            QCOMPARE(store().number(u"select count(*) from %1 r where %2 is null or %2 <> %3"_s.arg(
+                         table, column, counted)),
                      0);
-            all += store().number(QStringLiteral("select sum(%1) from %2").arg(column, table));
+            all += store().number(u"select sum(%1) from %2"_s.arg(column, table));
         }
         QVERIFY2(all > 0, "the diary knows this figure");
     }
 
     void a_shot_starts_where_the_one_before_it_ended()
     {
-        const QString torn = QStringLiteral(
-            "select count(*) from Stat_rounds s join Stat_rounds p on p.date = s.date and p.hole = s.hole "
-            "and p.shot = s.shot - 1 where s.before <> p.after");
+        const QString torn =
+            u"select count(*) from Stat_rounds s join Stat_rounds p on p.date = s.date and p.hole = s.hole "
+            u"and p.shot = s.shot - 1 where s.before <> p.after"_s;
         QCOMPARE(store().number(torn), 0);
-        QCOMPARE(store().number(
-                     QStringLiteral("select count(*) from Stat_rounds where shot = 1 and before <> verges")),
+        QCOMPARE(store().number(u"select count(*) from Stat_rounds where shot = 1 and before <> verges"_s),
                  0);
     }
 
     void every_hole_is_holed_once_and_ends_there()
     {
-        const QString holed = QStringLiteral("select count(*) from Stat_rounds where after = 0");
+        const QString holed = u"select count(*) from Stat_rounds where after = 0"_s;
         QCOMPARE(store().number(holed), rounds_of_full_diary * holes);
-        const QString behind = QStringLiteral(
-            "select count(*) from Stat_rounds p join Stat_rounds s on p.date = s.date and p.hole = s.hole "
-            "and s.shot > p.shot where p.after = 0");
+        const QString behind =
+            u"select count(*) from Stat_rounds p join Stat_rounds s on p.date = s.date and p.hole = s.hole "
+            u"and s.shot > p.shot where p.after = 0"_s;
         QCOMPARE(store().number(behind), 0);
     }
 
     void the_lengths_of_the_putts_are_where_they_started_from()
     {
         for (int h = 1; h <= holes; ++h) {
-            const QString first =
-                QStringLiteral("(select s.before from Stat_rounds s where s.date = r.date and "
-                               "s.hole = %1 and shot_type_value = 3 order by shot limit 1)")
-                    .arg(h);
+            const QString first = u"(select s.before from Stat_rounds s where s.date = r.date and "
+                                  u"s.hole = %1 and shot_type_value = 3 order by shot limit 1)"_s.arg(h);
             QCOMPARE(store().number(
-                         QStringLiteral("select count(*) from games2 r where putt_len_%1_1 <> ifnull(%2, 0)")
-                             .arg(h)
-                             .arg(first)),
+                         u"select count(*) from games2 r where putt_len_%1_1 <> ifnull(%2, 0)"_s.arg(h).arg(
+                             first)),
                      0);
         }
     }
@@ -145,25 +138,24 @@ private Q_SLOTS:
     void both_languages_stand_side_by_side()
     {
         std::set<QString> units;
-        for (const auto& row : store().rows(QStringLiteral("select distinct unit from Stat_rounds")))
+        for (const auto& row : store().rows(u"select distinct unit from Stat_rounds"_s))
             units.insert(row.front().toString());
-        QCOMPARE(units, (std::set<QString>{QStringLiteral("Feets"), QStringLiteral("Pieds"),
-                                           QStringLiteral("Verges"), QStringLiteral("Yards")}));
-        QCOMPARE(store().number(QStringLiteral("select count(distinct conditionM) from games2")), 4);
-        QVERIFY(store().number(QStringLiteral("select count(distinct PARTNERS) from games2")) > 10);
+        QCOMPARE(units, (std::set<QString>{u"Feets"_s, u"Pieds"_s, u"Verges"_s, u"Yards"_s}));
+        QCOMPARE(store().number(u"select count(distinct conditionM) from games2"_s), 4);
+        QVERIFY(store().number(u"select count(distinct PARTNERS) from games2"_s) > 10);
     }
 
     void without_shots_the_figures_are_the_same()
     {
-        const QString quick = folder_.filePath(QStringLiteral("quick.db"));
+        const QString quick = folder_.filePath(u"quick.db"_s);
         lay_down_diary(quick, 20, false);
-        QCOMPARE(reader(quick).number(QStringLiteral("select count(*) from Stat_rounds")), 0);
-        const QString first = QStringLiteral("select * from games order by date limit 20");
+        QCOMPARE(reader(quick).number(u"select count(*) from Stat_rounds"_s), 0);
+        const QString first = u"select * from games order by date limit 20"_s;
         QCOMPARE(reader(quick).rows(first), store().rows(first));
     }
 
 private:
-    QString path() const { return folder_.filePath(QStringLiteral("diary.db")); }
+    QString path() const { return folder_.filePath(u"diary.db"_s); }
     reader store() const { return reader(path()); }
 
     QTemporaryDir folder_;

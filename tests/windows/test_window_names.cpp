@@ -45,9 +45,9 @@ QList<QAccessibleInterface*> parts_of(QWidget& window)
 QString described(QAccessibleInterface& part)
 {
     const QObject* object = part.object();
-    return QStringLiteral("%1 (role %2)")
+    return u"%1 (role %2)"_s
         .arg(object ? object->objectName() + u' ' + QLatin1String(object->metaObject()->className())
-                    : QStringLiteral("a part"))
+                    : u"a part"_s)
         .arg(static_cast<int>(part.role()));
 }
 
