@@ -9,6 +9,7 @@
 #include "management/store_clean_up.h"
 #include "reference/f_c_list.h"
 #include "reference/f_partners.h"
+#include "reference/f_sticks.h"
 #include "round/Round_records.h"
 #include "shell/f_about.h"
 #include "shell/language_value.h"
@@ -16,7 +17,6 @@
 #include "shell/start_up.h"
 #include "statistics/f_carte.h"
 #include "statistics/f_date_range.h"
-#include "statistics/f_sticks.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane {

@@ -2,9 +2,9 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "statistics/f_sticks.h"
-#include "statistics/f_sticks_func.h"
-#include "tests/statistics/golf_bags.h"
+#include "reference/f_sticks.h"
+#include "reference/f_sticks_func.h"
+#include "tests/reference/golf_bags.h"
 #include "tests/statistics/report_rows.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/support/failures.h"

@@ -1,10 +1,10 @@
-#include "tests/statistics/golf_bags.h"
+#include "tests/reference/golf_bags.h"
 
 #include <QTest>
 
 #include "base/language.h"
 #include "base/Main_module.h"
-#include "statistics/f_sticks.h"
+#include "reference/f_sticks.h"
 #include "tests/statistics/report_rows.h"
 #include "tests/support/window_look.h"
 

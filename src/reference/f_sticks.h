@@ -19,9 +19,8 @@ namespace verdane {
 /// averages are typed, or computed from the shots of a selection of rounds. Nothing is stored before the
 /// final question is answered with Yes.
 ///
-/// It is in this library because it runs a statistic. The constructor loads it; `rssticks` and
-/// `rssticknames` are open until it is unloaded. If no round is stored, a message box reports that and
-/// `show_modal` returns at once.
+/// The constructor loads it; `rssticks` and `rssticknames` are open until it is unloaded. If no round is
+/// stored, a message box reports that and `show_modal` returns at once.
 class f_sticks final : public Form {
 public:
     f_sticks();

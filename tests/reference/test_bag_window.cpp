@@ -6,8 +6,8 @@
 
 #include "base/Main_module.h"
 #include "controls/main_frame.h"
-#include "statistics/f_sticks.h"
-#include "tests/statistics/golf_bags.h"
+#include "reference/f_sticks.h"
+#include "tests/reference/golf_bags.h"
 #include "tests/support/recording_frame.h"
 #include "tests/support/ways_out.h"
 #include "tests/support/window_look.h"

@@ -1,4 +1,4 @@
-#include "statistics/f_sticks.h"
+#include "reference/f_sticks.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -19,7 +19,7 @@
 #include "controls/look.h"
 #include "controls/main_frame.h"
 #include "controls/scrolled_content.h"
-#include "statistics/f_sticks_func.h"
+#include "reference/f_sticks_func.h"
 #include "statistics/selection_lists.h"
 
 namespace verdane {

@@ -2,8 +2,8 @@
 #include <QTest>
 
 #include "base/Main_module.h"
-#include "statistics/f_sticks.h"
-#include "tests/statistics/golf_bags.h"
+#include "reference/f_sticks.h"
+#include "tests/reference/golf_bags.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;

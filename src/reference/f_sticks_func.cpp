@@ -1,4 +1,4 @@
-#include "statistics/f_sticks_func.h"
+#include "reference/f_sticks_func.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -18,9 +18,9 @@
 #include "records/round_columns.h"
 #include "records/round_list.h"
 #include "records/round_rows.h"
+#include "reference/f_sticks.h"
 #include "scoring/round_key.h"
 #include "statistics/club_statistics.h"
-#include "statistics/f_sticks.h"
 #include "statistics/selection_choice.h"
 #include "statistics/selection_clauses.h"
 #include "statistics/selection_lists.h"
