@@ -3,111 +3,110 @@
 #include "base/numbers.h"
 #include "records/round_columns.h"
 #include "scoring/hole_classes.h"
+#include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::Round_functions {
 
 namespace {
 
-strokes strokes_of(int16 hole, bool from_row)
+strokes strokes_of(int16 hole, const figure_source& source)
 {
-    if (from_row)
+    if (!source)
         return read_strokes(hole);
-    const hole_figures f = figures_from_boxes();
-    return {f.long_shots, f.approach, f.putts};
+    return {source->long_shots, source->approach, source->putts};
 }
 
-penalties penalties_of(int16 hole, bool from_row)
+penalties penalties_of(int16 hole, const figure_source& source)
 {
-    if (from_row)
+    if (!source)
         return read_penalties(hole);
-    const hole_figures f = figures_from_boxes();
-    return {f.pen_rule, f.pen_water, f.pen_bounds, f.pen_lost};
+    return {source->pen_rule, source->pen_water, source->pen_bounds, source->pen_lost};
 }
 
-void add_holes(round_totals& totals, bool last_hole_from_row)
+void add_holes(round_totals& totals, const figure_source& last_hole)
 {
-    for (int h = 1; h <= round_columns::hole_count; ++h) {
+    for (int h = 1; h <= hole_count; ++h) {
         const int16 hole = static_cast<std::int16_t>(h);
-        const bool from_row = h < round_columns::hole_count || last_hole_from_row;
-        totals.add_hole(hole_gross(hole, from_row), hole_par(hole));
+        const int16 gross = h < hole_count ? hole_gross(hole, from_row) : hole_gross(hole, last_hole);
+        totals.add_hole(gross, hole_par(hole));
     }
 }
 
 }  // namespace
 
-hole_figures figures_of(int16 hole, bool from_row)
+hole_figures figures_of(int16 hole, const figure_source& source)
 {
-    return from_row ? figures_from_row(hole) : figures_from_boxes();
+    return source ? *source : figures_from_row(hole);
 }
 
-int16 hole_long(int16 hole, bool from_row)
+int16 hole_long(int16 hole, const figure_source& source)
 {
-    return strokes_of(hole, from_row).long_shots;
+    return strokes_of(hole, source).long_shots;
 }
 
-int16 hole_approach(int16 hole, bool from_row)
+int16 hole_approach(int16 hole, const figure_source& source)
 {
-    return strokes_of(hole, from_row).approach;
+    return strokes_of(hole, source).approach;
 }
 
-int16 hole_putts(int16 hole, bool from_row)
+int16 hole_putts(int16 hole, const figure_source& source)
 {
-    return strokes_of(hole, from_row).putts;
+    return strokes_of(hole, source).putts;
 }
 
-int16 hole_pen_rule(int16 hole, bool from_row)
+int16 hole_pen_rule(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, from_row).rule;
+    return penalties_of(hole, source).rule;
 }
 
-int16 hole_pen_water(int16 hole, bool from_row)
+int16 hole_pen_water(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, from_row).water;
+    return penalties_of(hole, source).water;
 }
 
-int16 hole_pen_bounds(int16 hole, bool from_row)
+int16 hole_pen_bounds(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, from_row).bounds;
+    return penalties_of(hole, source).bounds;
 }
 
-int16 hole_pen_lost(int16 hole, bool from_row)
+int16 hole_pen_lost(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, from_row).lost;
+    return penalties_of(hole, source).lost;
 }
 
-int16 hole_penalties(int16 hole, bool from_row)
+int16 hole_penalties(int16 hole, const figure_source& source)
 {
-    return verdane::hole_penalties(figures_of(hole, from_row));
+    return verdane::hole_penalties(figures_of(hole, source));
 }
 
-int16 hole_gross(int16 hole, bool from_row)
+int16 hole_gross(int16 hole, const figure_source& source)
 {
-    return verdane::hole_gross(figures_of(hole, from_row));
+    return verdane::hole_gross(figures_of(hole, source));
 }
 
-int in_regulation(int16 hole, bool from_row)
+int in_regulation(int16 hole, const figure_source& source)
 {
-    return verdane::in_regulation(figures_of(hole, from_row), hole_par(hole));
+    return verdane::in_regulation(figures_of(hole, source), hole_par(hole));
 }
 
-bool not_in_regulation(int16 hole, bool from_row)
+bool not_in_regulation(int16 hole, const figure_source& source)
 {
-    return verdane::not_in_regulation(figures_of(hole, from_row), hole_par(hole));
+    return verdane::not_in_regulation(figures_of(hole, source), hole_par(hole));
 }
 
-QString hole_cell(int selector, int16 hole, bool from_row)
+QString hole_cell(int selector, int16 hole, const figure_source& source)
 {
-    return verdane::hole_cell(selector, figures_of(hole, from_row), hole_par(hole));
+    return verdane::hole_cell(selector, figures_of(hole, source), hole_par(hole));
 }
 
-round_figures round_score(bool last_hole_from_row)
+round_figures round_score(const figure_source& last_hole)
 {
     Recordset& course = data_environment().rsvrd_fields;
     const double rating = course.Fields(round_columns::rating).double_or_zero();
     const double slope = course.Fields(round_columns::slope).double_or_zero();
     round_figures result;
-    add_holes(result.totals, last_hole_from_row);
+    add_holes(result.totals, last_hole);
     result.differential = differential(result.totals.gross, rating, slope);
     return result;
 }

@@ -2,48 +2,55 @@
 
 #include <QString>
 
-#include "records/hole_boxes.h"
+#include <optional>
+
 #include "records/round_rows.h"
+#include "scoring/hole_arithmetic.h"
 #include "scoring/round_arithmetic.h"
 
-/// The scoring of a hole and of a round. With `from_row` the figures come from the current row of
-/// `rsgames`, without it from the boxes of the open round window, whatever hole they show. The card
-/// always comes from the current row of `rsfield_info`. A caller that asks many questions about one
-/// hole takes `figures_of` once and asks the pure functions.
+/// The scoring of a hole and of a round. The par of a hole always comes from the current row of
+/// `rsfield_info`. A caller that needs several results for one hole calls `figures_of` once and then the pure
+/// functions of `scoring`.
 namespace verdane::Round_functions {
 
-/// The figures of a hole from the source that the flag names.
-hole_figures figures_of(int16 hole, bool from_row);
+/// Where the figures of a hole come from: `from_row` reads them from the current row of `rsgames`. Otherwise
+/// the caller passes them, as read from the boxes of the round window; the hole argument then selects the par
+/// only.
+using figure_source = std::optional<hole_figures>;
+inline constexpr std::nullopt_t from_row = std::nullopt;
 
-int16 hole_long(int16 hole, bool from_row);
-int16 hole_approach(int16 hole, bool from_row);
-int16 hole_putts(int16 hole, bool from_row);
-int16 hole_pen_rule(int16 hole, bool from_row);
-int16 hole_pen_water(int16 hole, bool from_row);
-int16 hole_pen_bounds(int16 hole, bool from_row);
-int16 hole_pen_lost(int16 hole, bool from_row);
+/// The figures of a hole from that source.
+hole_figures figures_of(int16 hole, const figure_source& source);
+
+int16 hole_long(int16 hole, const figure_source& source);
+int16 hole_approach(int16 hole, const figure_source& source);
+int16 hole_putts(int16 hole, const figure_source& source);
+int16 hole_pen_rule(int16 hole, const figure_source& source);
+int16 hole_pen_water(int16 hole, const figure_source& source);
+int16 hole_pen_bounds(int16 hole, const figure_source& source);
+int16 hole_pen_lost(int16 hole, const figure_source& source);
 
 /// The four penalties added.
-int16 hole_penalties(int16 hole, bool from_row);
+int16 hole_penalties(int16 hole, const figure_source& source);
 /// Penalties, long shots, approach shots and putts added.
-int16 hole_gross(int16 hole, bool from_row);
+int16 hole_gross(int16 hole, const figure_source& source);
 
 /// 1 or 0.
-int in_regulation(int16 hole, bool from_row);
-bool not_in_regulation(int16 hole, bool from_row);
+int in_regulation(int16 hole, const figure_source& source);
+bool not_in_regulation(int16 hole, const figure_source& source);
 
 /// The text of one class of `hole_classes.h` for the hole.
-QString hole_cell(int selector, int16 hole, bool from_row);
+QString hole_cell(int selector, int16 hole, const figure_source& source);
 
 struct round_figures {
     round_totals totals;
     double differential = 0;
 };
 
-/// Totals of the round on the current rows and its differential against the current row of
-/// `rsvrd_fields`. Holes 1 to 17 come from the row; hole 18 too when the flag says so, else from the
-/// boxes, because the window shows totals before hole 18 is stored. It touches no window.
-round_figures round_score(bool last_hole_from_row);
+/// Totals of the round on the current rows, and its differential against the current row of
+/// `rsvrd_fields`. Holes 1 to 17 come from the row. Hole 18 comes from `last_hole`, because the round window
+/// shows totals before hole 18 is stored. Fails with `overflow` beyond 16 bits.
+round_figures round_score(const figure_source& last_hole);
 
 /// The labels of the window's totals, as text.
 struct round_labels {

@@ -21,16 +21,9 @@ namespace verdane {
 
 f_new_round::f_new_round() : Form(u"f_new_round")
 {
-    set_hole_boxes(this);
     lay_out(*this);
     connect_events();
     f_new_round_func::load(*this);
-}
-
-f_new_round::~f_new_round()
-{
-    if (is_loaded())
-        set_hole_boxes(nullptr);
 }
 
 int16 f_new_round::hole_shown() const
@@ -92,7 +85,6 @@ void f_new_round::activated()
 void f_new_round::unloading()
 {
     f_new_round_func::unload(*this);
-    set_hole_boxes(nullptr);
 }
 
 void f_new_round::close_requested()

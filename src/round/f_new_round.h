@@ -6,8 +6,8 @@
 #include "controls/control_array.h"
 #include "controls/Form.h"
 #include "controls/TabStrip.h"
-#include "records/hole_boxes.h"
 #include "reports/report_control.h"
+#include "scoring/hole_arithmetic.h"
 
 class QAction;
 class QBoxLayout;
@@ -35,10 +35,9 @@ class temperature_box;
 /// open by then, with the round's rows as their current ones. Its end closes them. `Round_records.h`
 /// says how it is opened on a new round and on a stored one. The logic stands in `f_new_round_func.h`,
 /// that of the detailed page in `detailed_page.h`, `shot_entry.h` and `shot_menus.h`.
-class f_new_round : public Form, public hole_boxes {
+class f_new_round : public Form {
 public:
     f_new_round();
-    ~f_new_round() override;
 
     /// The key of the round; empty until the tee-off dialog has settled it.
     QString date_value;
@@ -110,7 +109,7 @@ public:
     void saveShots();
 
     /// What the boxes of the quick page hold.
-    hole_figures figures() const override;
+    hole_figures figures() const;
 
 protected:
     void activated() override;

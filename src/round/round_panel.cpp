@@ -25,7 +25,7 @@ void refresh_panel(f_new_round& window, bool from_row)
 {
     window.needSave = true;
     const int16 hole = window.hole_shown();
-    const hole_figures figures = Round_functions::figures_of(hole, from_row);
+    const hole_figures figures = from_row ? Round_functions::figures_from_row(hole) : window.figures();
     const int16 par = Round_functions::hole_par(hole);
     for (const selector_row& row : panel_selectors)
         show_class(window.text(row.box), hole_cell(row.selector, figures, par));
@@ -33,7 +33,7 @@ void refresh_panel(f_new_round& window, bool from_row)
 
 void refresh_score(f_new_round& window)
 {
-    const auto labels = Round_functions::labels_of(Round_functions::round_score(false));
+    const auto labels = Round_functions::labels_of(Round_functions::round_score(window.figures()));
     window.l_hand->setText(labels.l_hand);
     window.l_brut->setText(labels.l_brut);
     window.l_net->setText(labels.l_net);

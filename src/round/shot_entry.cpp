@@ -10,7 +10,6 @@
 #include "controls/boxes.h"
 #include "controls/data_grid.h"
 #include "controls/failure_guard.h"
-#include "records/hole_boxes.h"
 #include "records/round_columns.h"
 #include "records/round_rows.h"
 #include "round/f_new_round.h"

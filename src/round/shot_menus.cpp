@@ -8,7 +8,6 @@
 #include "controls/choice_menu.h"
 #include "controls/data_grid.h"
 #include "controls/failure_guard.h"
-#include "records/hole_boxes.h"
 #include "round/f_new_round.h"
 #include "round/round_boxes.h"
 #include "round/shot_entry.h"

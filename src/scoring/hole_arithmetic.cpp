@@ -1,5 +1,7 @@
 #include "scoring/hole_arithmetic.h"
 
+#include "base/numbers.h"
+
 namespace verdane {
 
 namespace {
@@ -38,6 +40,19 @@ int in_regulation(const hole_figures& f, int16 par)
 bool not_in_regulation(const hole_figures& f, int16 par)
 {
     return hole_gross(f) != 0 && in_regulation(f, par) != 1;
+}
+
+int16 figure_of_box(QStringView text)
+{
+    return to_int16(text);
+}
+
+QString sum_of_boxes(std::initializer_list<QString> texts)
+{
+    double sum = 0;
+    for (const QString& text : texts)
+        sum += leading_number(text);
+    return number_text(sum);
 }
 
 }  // namespace verdane

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <QString>
+#include <QStringView>
+
+#include <initializer_list>
+
 #include "base/counts.h"
 
 /// What one hole counts. Everything here is pure: figures and a par in, a count out. A sum beyond 16
@@ -32,5 +37,12 @@ int in_regulation(const hole_figures& f, int16 par);
 
 /// True when the hole was played (its gross is not 0) and is not in regulation.
 bool not_in_regulation(const hole_figures& f, int16 par);
+
+/// The text of a box as a count: its leading number, rounded to the nearest whole number (ties to even); 0
+/// for an empty box. Fails with `overflow` outside 16 bits.
+int16 figure_of_box(QStringView text);
+
+/// The sum of the leading numbers of several boxes, as decimals, in the text form of a box of totals.
+QString sum_of_boxes(std::initializer_list<QString> texts);
 
 }  // namespace verdane

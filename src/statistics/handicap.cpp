@@ -44,7 +44,7 @@ missing_row gather_differentials(const selection_arguments& chosen)
     differentials list;
     int taken = 0;
     return walk_selected_rounds(chosen, [&] {
-        const double figure = Round_functions::round_score(true).differential;
+        const double figure = Round_functions::round_score(Round_functions::from_row).differential;
         list[taken++] = figure;
         hand.AddNew();
         hand.Fields(u"hnd").set(figure);

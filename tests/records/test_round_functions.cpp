@@ -13,20 +13,12 @@ using testing::round_in_store;
 
 namespace {
 
-/// Seven boxes with the texts that a user typed, read as the round window reads them.
-class typed_boxes : public hole_boxes {
-public:
-    explicit typed_boxes(QStringList texts) : texts_(std::move(texts)) {}
-
-    hole_figures figures() const override
-    {
-        const auto box = [this](int i) { return figure_of_box(texts_.value(i)); };
-        return {box(0), box(1), box(2), box(3), box(4), box(5), box(6)};
-    }
-
-private:
-    QStringList texts_;
-};
+/// The figures in seven boxes with the texts that a user typed.
+hole_figures typed_boxes(const QStringList& texts)
+{
+    const auto box = [&texts](int i) { return figure_of_box(texts.value(i)); };
+    return {box(0), box(1), box(2), box(3), box(4), box(5), box(6)};
+}
 
 }  // namespace
 
@@ -36,82 +28,69 @@ class test_round_functions : public QObject {
 private Q_SLOTS:
     void init() { round_ = std::make_unique<round_in_store>(); }
 
-    void cleanup()
-    {
-        set_hole_boxes(nullptr);
-        round_.reset();
-    }
+    void cleanup() { round_.reset(); }
 
-    void the_flag_names_the_source_of_every_figure()
+    void every_figure_comes_from_the_source_that_is_passed()
     {
         store_strokes(2, {1, 2, 3});
         store_penalties(2, {4, 5, 6, 7});
-        expect_figures(true, {1, 2, 3, 4, 5, 6, 7});
-        const typed_boxes boxes({u"11"_qs, u"12"_qs, u"13"_qs, u"14"_qs, u"15"_qs, u"16"_qs, u"17"_qs});
-        set_hole_boxes(&boxes);
-        expect_figures(false, {11, 12, 13, 14, 15, 16, 17});
-        expect_figures(true, {1, 2, 3, 4, 5, 6, 7});
+        expect_figures(from_row, {1, 2, 3, 4, 5, 6, 7});
+        const hole_figures boxes =
+            typed_boxes({u"11"_qs, u"12"_qs, u"13"_qs, u"14"_qs, u"15"_qs, u"16"_qs, u"17"_qs});
+        expect_figures(boxes, {11, 12, 13, 14, 15, 16, 17});
+        expect_figures(from_row, {1, 2, 3, 4, 5, 6, 7});
     }
 
     void both_sources_give_the_same_cells()
     {
         store_strokes(4, {2, 1, 1});
-        const typed_boxes boxes({u"2"_qs, u"1a"_qs, u" 1"_qs});
-        set_hole_boxes(&boxes);
+        const hole_figures boxes = typed_boxes({u"2"_qs, u"1a"_qs, u" 1"_qs});
         for (const selector_row& row : panel_selectors)
-            QCOMPARE(hole_cell(row.selector, 4, true), hole_cell(row.selector, 4, false));
-        QCOMPARE(hole_cell(7, 4, false), u"1"_qs);
-        QCOMPARE(hole_cell(10, 4, true), u"1"_qs);
-        QCOMPARE(hole_cell(2, 4, true), QString());
+            QCOMPARE(hole_cell(row.selector, 4, from_row), hole_cell(row.selector, 4, boxes));
+        QCOMPARE(hole_cell(7, 4, boxes), u"1"_qs);
+        QCOMPARE(hole_cell(10, 4, from_row), u"1"_qs);
+        QCOMPARE(hole_cell(2, 4, from_row), QString());
     }
 
     void the_boxes_take_only_the_par_from_the_hole()
     {
-        const typed_boxes boxes({u"1"_qs, u"0"_qs, u"2"_qs});
-        set_hole_boxes(&boxes);
-        QCOMPARE(in_regulation(3, false), 1);
-        QCOMPARE(in_regulation(4, false), 0);
-        QVERIFY(!not_in_regulation(3, false));
-        QVERIFY(not_in_regulation(4, false));
-        QCOMPARE(hole_cell(1, 3, false), u"1"_qs);
-        QCOMPARE(hole_cell(21, 4, false), u"1"_qs);
-    }
-
-    void boxes_without_a_window_are_a_misuse()
-    {
-        QVERIFY(failure_of([] { hole_long(1, false); }) == failure_kind::misuse);
-        QVERIFY(failure_of([] { round_score(false); }) == failure_kind::misuse);
-        QVERIFY(!failure_of([] { round_score(true); }));
+        const hole_figures boxes = typed_boxes({u"1"_qs, u"0"_qs, u"2"_qs});
+        QCOMPARE(in_regulation(3, boxes), 1);
+        QCOMPARE(in_regulation(4, boxes), 0);
+        QVERIFY(!not_in_regulation(3, boxes));
+        QVERIFY(not_in_regulation(4, boxes));
+        QCOMPARE(hole_cell(1, 3, boxes), u"1"_qs);
+        QCOMPARE(hole_cell(21, 4, boxes), u"1"_qs);
     }
 
     void a_fresh_hole_counts_nothing()
     {
-        QCOMPARE(plain(hole_gross(1, true)), 0);
-        QCOMPARE(plain(hole_penalties(1, true)), 0);
-        QCOMPARE(hole_cell(1, 1, true), u" "_qs);
-        QVERIFY(!not_in_regulation(1, true));
+        QCOMPARE(plain(hole_gross(1, from_row)), 0);
+        QCOMPARE(plain(hole_penalties(1, from_row)), 0);
+        QCOMPARE(hole_cell(1, 1, from_row), u" "_qs);
+        QVERIFY(!not_in_regulation(1, from_row));
     }
 
     void a_null_penalty_fails_where_it_is_needed()
     {
         round_->store.rsgames.Fields(round_columns::pen_water_h(6)).set_null();
-        QVERIFY(failure_of([] { hole_gross(6, true); }) == failure_kind::invalid_null);
-        QVERIFY(failure_of([] { hole_cell(1, 6, true); }) == failure_kind::invalid_null);
-        QVERIFY(failure_of([] { hole_pen_water(6, true); }) == failure_kind::invalid_null);
-        QCOMPARE(plain(hole_long(6, true)), 0);
+        QVERIFY(failure_of([] { hole_gross(6, from_row); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { hole_cell(1, 6, from_row); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { hole_pen_water(6, from_row); }) == failure_kind::invalid_null);
+        QCOMPARE(plain(hole_long(6, from_row)), 0);
     }
 
     void a_null_par_fails()
     {
         round_->store.rsfield_info.Fields(round_columns::par_h(6)).set_null();
-        QVERIFY(failure_of([] { in_regulation(6, true); }) == failure_kind::invalid_null);
-        QVERIFY(failure_of([] { round_score(true); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { in_regulation(6, from_row); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { round_score(from_row); }) == failure_kind::invalid_null);
     }
 
     void a_round_adds_up_its_eighteen_holes()
     {
         fill_round();
-        const round_figures score = round_score(true);
+        const round_figures score = round_score(from_row);
         QCOMPARE(plain(score.totals.gross), 90);
         QCOMPARE(plain(score.totals.par), 72);
         QCOMPARE(score.differential, 16.95);
@@ -125,17 +104,16 @@ private Q_SLOTS:
     void only_the_last_hole_may_come_from_the_boxes()
     {
         fill_round();
-        const typed_boxes boxes({u"3"_qs, u"3"_qs, u"3"_qs, u"1"_qs});
-        set_hole_boxes(&boxes);
-        QCOMPARE(plain(round_score(false).totals.gross), 90 - 5 + 10);
-        QCOMPARE(plain(round_score(true).totals.gross), 90);
+        const hole_figures boxes = typed_boxes({u"3"_qs, u"3"_qs, u"3"_qs, u"1"_qs});
+        QCOMPARE(plain(round_score(boxes).totals.gross), 90 - 5 + 10);
+        QCOMPARE(plain(round_score(from_row).totals.gross), 90);
     }
 
     void penalties_count_in_the_gross_of_a_round()
     {
         fill_round();
         store_penalties(9, {1, 1, 1, 1});
-        QCOMPARE(plain(round_score(true).totals.gross), 94);
+        QCOMPARE(plain(round_score(from_row).totals.gross), 94);
     }
 
     void a_course_without_slope_gives_no_differential_data()
@@ -151,7 +129,7 @@ private Q_SLOTS:
         QFETCH(QVariant, slope);
         fill_round();
         round_->store.rsvrd_fields.Fields(round_columns::slope).set(slope);
-        const round_labels labels = labels_of(round_score(true));
+        const round_labels labels = labels_of(round_score(from_row));
         QCOMPARE(labels.l_hand, u"0"_qs);
         QCOMPARE(labels.l_net, labels.l_brut);
     }
@@ -160,22 +138,22 @@ private Q_SLOTS:
     {
         fill_round();
         round_->store.rsvrd_fields.Fields(round_columns::rating).set(u"70.5.1"_qs);
-        QCOMPARE(round_score(true).differential, 16.95);
+        QCOMPARE(round_score(from_row).differential, 16.95);
         round_->store.rsvrd_fields.Fields(round_columns::rating).set(QString());
-        QCOMPARE(round_score(true).differential, 90 * 113 / 130.0);
+        QCOMPARE(round_score(from_row).differential, 90 * 113 / 130.0);
     }
 
     void a_round_beyond_16_bits_is_an_overflow()
     {
         store_strokes(1, {20000, 0, 0});
         store_strokes(2, {20000, 0, 0});
-        QVERIFY(failure_of([] { round_score(true); }) == failure_kind::overflow);
+        QVERIFY(failure_of([] { round_score(from_row); }) == failure_kind::overflow);
     }
 
     void scoring_changes_no_row()
     {
-        round_score(true);
-        hole_cell(1, 1, true);
+        round_score(from_row);
+        hole_cell(1, 1, from_row);
         QVERIFY(!round_->store.rsgames.pending());
         QVERIFY(!round_->store.rsvrd_fields.pending());
     }
@@ -188,17 +166,17 @@ private:
             round_->set_strokes(hole, 2, 1, 2);
     }
 
-    static void expect_figures(bool from_row, const hole_figures& f)
+    static void expect_figures(const figure_source& source, const hole_figures& f)
     {
-        QCOMPARE(plain(hole_long(2, from_row)), plain(f.long_shots));
-        QCOMPARE(plain(hole_approach(2, from_row)), plain(f.approach));
-        QCOMPARE(plain(hole_putts(2, from_row)), plain(f.putts));
-        QCOMPARE(plain(hole_pen_rule(2, from_row)), plain(f.pen_rule));
-        QCOMPARE(plain(hole_pen_water(2, from_row)), plain(f.pen_water));
-        QCOMPARE(plain(hole_pen_bounds(2, from_row)), plain(f.pen_bounds));
-        QCOMPARE(plain(hole_pen_lost(2, from_row)), plain(f.pen_lost));
-        QCOMPARE(plain(hole_penalties(2, from_row)), plain(verdane::hole_penalties(f)));
-        QCOMPARE(plain(hole_gross(2, from_row)), plain(verdane::hole_gross(f)));
+        QCOMPARE(plain(hole_long(2, source)), plain(f.long_shots));
+        QCOMPARE(plain(hole_approach(2, source)), plain(f.approach));
+        QCOMPARE(plain(hole_putts(2, source)), plain(f.putts));
+        QCOMPARE(plain(hole_pen_rule(2, source)), plain(f.pen_rule));
+        QCOMPARE(plain(hole_pen_water(2, source)), plain(f.pen_water));
+        QCOMPARE(plain(hole_pen_bounds(2, source)), plain(f.pen_bounds));
+        QCOMPARE(plain(hole_pen_lost(2, source)), plain(f.pen_lost));
+        QCOMPARE(plain(hole_penalties(2, source)), plain(verdane::hole_penalties(f)));
+        QCOMPARE(plain(hole_gross(2, source)), plain(verdane::hole_gross(f)));
     }
 
     std::unique_ptr<round_in_store> round_;

@@ -1,6 +1,5 @@
 #include <QTest>
 
-#include "records/hole_boxes.h"
 #include "scoring/hole_arithmetic.h"
 #include "tests/support/failures.h"
 
