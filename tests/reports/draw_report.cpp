@@ -34,7 +34,12 @@ int main(int argc, char** argv)
             testing::fill_all_reports(invented->path());
         }
         set_report_store(invented ? invented->path() : arguments[2]);
-        render_report(arguments[1])->save_pdf(arguments.constLast());
+        const auto report = render_report(arguments[1]);
+        const QString& path = arguments.constLast();
+        if (path.endsWith(QStringLiteral(".csv")))
+            report->save_csv(path);
+        else
+            report->save_pdf(path);
     } catch (const run_time_failure& failure) {
         errors << failure.details() << '\n';
         return 1;
