@@ -5,11 +5,11 @@
 #include "base/language.h"
 #include "base/run_time_failure.h"
 #include "controls/screen_room.h"
-#include "reports/page_view.h"
+#include "reports/preview/page_view.h"
+#include "reports/preview/report_preview.h"
+#include "reports/preview/report_wait.h"
 #include "reports/report_document.h"
-#include "reports/report_preview.h"
 #include "reports/report_stopped.h"
-#include "reports/report_wait.h"
 
 namespace verdane {
 

@@ -3,15 +3,15 @@
 #include <QFileInfo>
 #include <QPainter>
 
-#include "reports/csv_text.h"
-#include "reports/layout_units.h"
-#include "reports/page_check.h"
-#include "reports/page_layout.h"
-#include "reports/report_drawings.h"
-#include "reports/report_files.h"
-#include "reports/report_print.h"
+#include "reports/check/page_check.h"
+#include "reports/fill/template_fill.h"
+#include "reports/output/csv_text.h"
+#include "reports/output/report_files.h"
+#include "reports/output/report_print.h"
+#include "reports/page/layout_units.h"
+#include "reports/page/page_layout.h"
+#include "reports/page/report_drawings.h"
 #include "reports/report_store.h"
-#include "reports/template_fill.h"
 
 namespace verdane {
 

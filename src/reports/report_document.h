@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "reports/query_guard.h"
+#include "reports/query/query_guard.h"
 
 class QPainter;
 class QPrinter;

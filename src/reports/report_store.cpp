@@ -10,10 +10,10 @@
 
 #include "base/run_time_failure.h"
 #include "controls/lock_box.h"
-#include "reports/page_limits.h"
-#include "reports/query_text.h"
+#include "reports/query/report_tables.h"
 #include "reports/report_stopped.h"
-#include "reports/report_tables.h"
+#include "reports/template/page_limits.h"
+#include "reports/template/query_text.h"
 #include "store/engine_handle.h"
 #include "store/lock_wait.h"
 

@@ -9,8 +9,8 @@
 #include <memory>
 #include <vector>
 
-#include "reports/query_guard.h"
-#include "reports/template_file.h"
+#include "reports/query/query_guard.h"
+#include "reports/template/template_file.h"
 
 class QSqlQuery;
 

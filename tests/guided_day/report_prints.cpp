@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QWidget>
 
-#include "reports/report_dialogs.h"
+#include "reports/preview/report_dialogs.h"
 
 namespace verdane::guided_day {
 

@@ -2,7 +2,7 @@
 #include <QPainter>
 #include <QTest>
 
-#include "reports/drawing_texts.h"
+#include "reports/page/drawing_texts.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;

@@ -4,9 +4,9 @@
 #include <QTest>
 
 #include "base/run_time_failure.h"
-#include "reports/page_view.h"
+#include "reports/preview/page_view.h"
+#include "reports/preview/report_preview.h"
 #include "reports/report_control.h"
-#include "reports/report_preview.h"
 #include "reports/report_store.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/failures.h"

@@ -2,9 +2,9 @@
 #include <QTest>
 
 #include "base/run_time_failure.h"
+#include "reports/fill/template_fill.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
-#include "reports/template_fill.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/reader.h"

@@ -9,8 +9,8 @@
 
 #include "reports/report_document.h"
 #include "reports/report_store.h"
-#include "reports/template_file.h"
-#include "reports/template_tags.h"
+#include "reports/template/template_file.h"
+#include "reports/template/template_tags.h"
 #include "tests/reports/invented_rows.h"
 #include "tests/reports/page_pictures.h"
 #include "tests/reports/report_tools.h"

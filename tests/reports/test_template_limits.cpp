@@ -3,10 +3,10 @@
 #include <QTextDocument>
 
 #include "base/run_time_failure.h"
-#include "reports/page_cuts.h"
-#include "reports/page_limits.h"
+#include "reports/page/page_cuts.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
+#include "reports/template/page_limits.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/failures.h"
 #include "tests/support/store_folder.h"

@@ -2,7 +2,7 @@
 
 #include "base/language.h"
 #include "controls/boxes.h"
-#include "reports/report_preview.h"
+#include "reports/preview/report_preview.h"
 #include "reports/report_store.h"
 #include "shell/f_about.h"
 #include "shell/f_flash.h"

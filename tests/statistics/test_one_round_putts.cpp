@@ -1,7 +1,7 @@
 #include <QTest>
 
+#include "reports/preview/report_preview.h"
 #include "reports/report_control.h"
-#include "reports/report_preview.h"
 #include "statistics/putt_statistics.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/putt_rounds.h"

@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "reports/report_dialogs.h"
+#include "reports/preview/report_dialogs.h"
 #include "reports/report_store.h"
 #include "statistics/f_carte.h"
 #include "statistics/f_carte_func.h"

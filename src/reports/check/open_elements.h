@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QStringView>
+
+#include <vector>
+
+#include "reports/check/page_markup.h"
+
+namespace verdane {
+
+/// The elements that are open at a place of a page, as the toolkit's reader counts them: a row ends the row
+/// before it, a cell the cell, a paragraph the paragraph, and elements that never hold anything are not open.
+class open_elements {
+public:
+    void open(const markup_piece& start_tag);
+    void close(QStringView name);
+
+    std::size_t depth() const { return names_.size(); }
+    std::size_t count(QStringView name) const;
+    bool is_in_drawing() const { return count(u"svg") > 0; }
+
+private:
+    void close_implied(QStringView name);
+
+    std::vector<QStringView> names_;
+};
+
+}  // namespace verdane

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+#include <utility>
+#include <vector>
+
+#include "reports/report_store.h"
+#include "reports/template/template_file.h"
+
+namespace verdane {
+
+/// The template's body with the store's figures in it, every value escaped. A section of a query
+/// stands once for each row, a section of a field stands when the field holds something other than
+/// nothing and 0. Fails with `report_template`, at the line of the body, on a query, field or
+/// section that does not exist, and on more characters than `page_limits.h` allows.
+QString fill_body(const template_file& source, const report_snapshot& snapshot);
+
+/// A filled body that knows the line of the template that each of its characters comes from.
+struct lined_text {
+    QString text;
+    /// Where the characters of a line start, in the order of the text; a line may come several times.
+    std::vector<std::pair<qsizetype, int>> starts;
+
+    int line_at(qsizetype position) const;
+};
+
+/// The same as `fill_body`, but for blanks around its sections.
+lined_text fill_body_with_lines(const template_file& source, const report_snapshot& snapshot);
+
+/// The text below a page. Fails with `report_template` on any field other than `page` and `pages`.
+QString fill_footer(const template_file& source, int page, int pages);
+
+/// A value as it is printed: whole numbers without a point, Null as nothing.
+QString printed_value(const QVariant& value);
+
+}  // namespace verdane

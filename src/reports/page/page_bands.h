@@ -1,0 +1,25 @@
+#pragma once
+
+#include <vector>
+
+#include "reports/page/page_cuts.h"
+
+class QTextDocument;
+
+namespace verdane {
+
+/// A strip that stays in one piece: a line of text, or a row of a table.
+struct page_band {
+    page_strip place;
+    /// The head of the table that the row belongs to; of no height for anything else.
+    page_strip head;
+    bool starts_page = false;
+    /// How far down what should not be parted from it goes, where a page has room for that much: the
+    /// last rows below a head that is repeated would stand there alone.
+    double kept_bottom = 0;
+};
+
+/// The bands of a document from top to bottom, without those that hold nothing.
+std::vector<page_band> bands_of(const QTextDocument& document);
+
+}  // namespace verdane

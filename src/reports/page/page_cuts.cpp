@@ -1,0 +1,86 @@
+#include "reports/page/page_cuts.h"
+
+#include "reports/page/page_bands.h"
+#include "reports/template/page_limits.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Fills pages with bands, from the top of the document to its end.
+class page_filler {
+public:
+    page_filler(double page_height, const template_place& place) : page_height_(page_height), place_(place) {}
+
+    void put(const page_band& band)
+    {
+        if (pages_.empty() || band.starts_page || !has_room_for(band.place.bottom) || parts_kept(band))
+            start_page(band);
+        page().body.bottom = band.place.bottom;
+        split_overlong();
+    }
+
+    std::vector<page_cut> result()
+    {
+        if (pages_.empty())
+            pages_.push_back({});
+        return std::move(pages_);
+    }
+
+private:
+    page_cut& page() { return pages_.back(); }
+
+    double room() { return page_height_ - page().repeated_head.height(); }
+
+    bool has_room_for(double bottom) { return bottom - page().body.top <= room(); }
+
+    /// Whether what should stay with a band would go to the next page, although a page can hold both.
+    bool parts_kept(const page_band& band)
+    {
+        const double kept = band.head.height() + band.kept_bottom - band.place.top;
+        return !has_room_for(band.kept_bottom) && kept <= page_height_;
+    }
+
+    void start_page(const page_band& band)
+    {
+        const bool head_fits = band.head.height() + band.place.height() <= page_height_;
+        add_page({head_fits ? band.head : page_strip(), {band.place.top, band.place.top}});
+    }
+
+    /// What is taller than a page goes on where the page ends.
+    void split_overlong()
+    {
+        while (page().body.height() > room()) {
+            const page_strip rest{page().body.top + room(), page().body.bottom};
+            page().body.bottom = rest.top;
+            add_page({page().repeated_head, rest});
+        }
+    }
+
+    /// The limit also ends the loop if a page is so low that the remaining height never decreases.
+    void add_page(const page_cut& cut)
+    {
+        if (pages_.size() == most_pages)
+            fail_template(place_, u"the report has more than %1 pages"_s.arg(most_pages));
+        pages_.push_back(cut);
+    }
+
+    double page_height_;
+    template_place place_;
+    std::vector<page_cut> pages_;
+};
+
+}  // namespace
+
+std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height,
+                                     const template_place& place)
+{
+    page_filler filler(page_height, place);
+    for (const page_band& band : bands_of(document))
+        filler.put(band);
+    return filler.result();
+}
+
+}  // namespace verdane

@@ -1,0 +1,222 @@
+#include "reports/preview/report_preview.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPrinter>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "base/run_time_failure.h"
+#include "controls/screen_room.h"
+#include "controls/shortcuts.h"
+#include "reports/preview/page_view.h"
+#include "reports/preview/report_dialogs.h"
+#include "reports/report_document.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+report_preview::report_preview(std::shared_ptr<const report_document> document, const QString& title,
+                               QWidget* owner)
+    : QWidget(owner, Qt::Window),
+      document_(std::move(document)),
+      is_french_(is_french),
+      shortcuts_(new window_shortcuts(*this, is_french_))
+{
+    setObjectName(u"report_preview"_s);
+    setWindowTitle(title);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::NonModal);
+    build();
+    constexpr double share_of_screen = 0.9;
+    resize(QSize(1200, 880).boundedTo(room_on_screen(*this) * share_of_screen));
+    pages_->setFocus();
+}
+
+void report_preview::build()
+{
+    pages_ = new page_view(document_, this);
+    pages_->setAccessibleName(u"Pages"_s);
+    pages_->on_change = [this] { show_state(); };
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(tool_bar());
+    layout->addWidget(pages_, 1);
+    shortcuts_->add(Qt::Key_Escape, {u"Fermer la fenêtre", u"Close the window"}, [this] { close(); });
+    show_state();
+}
+
+QToolBar* report_preview::tool_bar()
+{
+    auto* bar = new QToolBar(this);
+    zoom_label_ = new QLabel(bar);
+    zoom_label_->setObjectName(u"zoom_percent"_s);
+    page_label_ = new QLabel(bar);
+    page_label_->setObjectName(u"page_of_pages"_s);
+    for (QLabel* label : {zoom_label_, page_label_})
+        label->setContentsMargins(8, 0, 8, 0);
+    for (const command& what : output_commands())
+        bar->addWidget(button_for(what));
+    bar->addSeparator();
+    for (const command& what : zoom_commands())
+        bar->addWidget(button_for(what));
+    bar->addWidget(zoom_label_);
+    bar->addSeparator();
+    const std::vector<command> turning = page_commands();
+    bar->addWidget(button_for(turning.front()));
+    bar->addWidget(page_label_);
+    bar->addWidget(button_for(turning.back()));
+    return bar;
+}
+
+QToolButton* report_preview::button_for(const command& what)
+{
+    const QString caption = in_own(what.caption);
+    auto* action = new QAction(what.sign.isEmpty() ? caption : what.sign, this);
+    action->setShortcut(what.keys);
+    action->setToolTip(caption);
+    if (!what.keys.isEmpty()) {
+        action->setToolTip(tool_tip_with_keys(what.caption, what.keys, is_french_));
+        shortcuts_->mention(what.keys, what.caption);
+    }
+    connect(action, &QAction::triggered, this, what.run);
+    addAction(action);
+    auto* button = new QToolButton(this);
+    button->setObjectName(what.name);
+    button->setAccessibleName(caption);
+    button->setDefaultAction(action);
+    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+std::vector<report_preview::command> report_preview::output_commands()
+{
+    return {
+        {u"print"_s, {u"Imprimer…", u"Print…"}, {}, QKeySequence(Qt::CTRL | Qt::Key_P), [this] { print(); }},
+        {u"save_pdf"_s,
+         {u"Enregistrer en PDF…", u"Save as PDF…"},
+         {},
+         QKeySequence(Qt::CTRL | Qt::Key_S),
+         [this] { save_pdf(); }},
+        {u"save_csv"_s, {u"Chiffres (CSV)…", u"Figures (CSV)…"}, {}, {}, [this] { save_csv(); }},
+        {u"save_picture"_s, {u"Image…", u"Picture…"}, {}, {}, [this] { save_picture(); }},
+    };
+}
+
+std::vector<report_preview::command> report_preview::zoom_commands()
+{
+    return {
+        {u"zoom_out"_s,
+         {u"Réduire", u"Zoom out"},
+         u"−"_s,
+         QKeySequence(Qt::CTRL | Qt::Key_Minus),
+         [this] { pages_->zoom_out(); }},
+        {u"zoom_in"_s,
+         {u"Agrandir", u"Zoom in"},
+         u"+"_s,
+         QKeySequence(Qt::CTRL | Qt::Key_Plus),
+         [this] { pages_->zoom_in(); }},
+        {u"fit_width"_s,
+         {u"Pleine largeur", u"Fit width"},
+         {},
+         QKeySequence(Qt::CTRL | Qt::Key_0),
+         [this] { pages_->fit_width(); }},
+    };
+}
+
+std::vector<report_preview::command> report_preview::page_commands()
+{
+    return {
+        {u"previous_page"_s,
+         {u"Page précédente", u"Previous page"},
+         u"◀"_s,
+         QKeySequence(Qt::Key_PageUp),
+         [this] { pages_->previous_page(); }},
+        {u"next_page"_s,
+         {u"Page suivante", u"Next page"},
+         u"▶"_s,
+         QKeySequence(Qt::Key_PageDown),
+         [this] { pages_->next_page(); }},
+    };
+}
+
+void report_preview::show_state()
+{
+    if (page_label_ == nullptr)
+        return;
+    page_label_->setText(in_own({u"Page %1 de %2", u"Page %1 of %2"})
+                             .arg(pages_->current_page() + 1)
+                             .arg(document_->page_count()));
+    zoom_label_->setText(u"%1 %"_s.arg(pages_->zoom()));
+}
+
+void report_preview::print()
+{
+    guarded([this] {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setDocName(document_->title());
+        const QSizeF page = document_->page_size_mm();
+        printer.setPageOrientation(page.width() > page.height() ? QPageLayout::Landscape
+                                                                : QPageLayout::Portrait);
+        const auto document = document_;
+        if (dialogs_of_reports().choose_printer(this, printer, document->page_count()))
+            document->print(printer);
+    });
+}
+
+void report_preview::save_pdf()
+{
+    save({u"Enregistrer en PDF", u"Save as PDF"}, {u"Document PDF", u"PDF document"}, u"pdf"_s,
+         [this](const QString& path) { document_->save_pdf(path); });
+}
+
+void report_preview::save_csv()
+{
+    save({u"Enregistrer les chiffres", u"Save the figures"},
+         {u"Chiffres pour un tableur", u"Figures for a spreadsheet"}, u"csv"_s,
+         [this](const QString& path) { document_->save_csv(path); });
+}
+
+void report_preview::save_picture()
+{
+    save({u"Enregistrer la page comme image", u"Save the page as a picture"}, {u"Image", u"Picture"},
+         u"png"_s, [this](const QString& path) { document_->save_picture(path, pages_->current_page()); });
+}
+
+void report_preview::save(const text_pair& caption, const text_pair& kind, const QString& ending,
+                          const std::function<void(const QString&)>& write)
+{
+    guarded([&] {
+        const QString proposed = document_->base_name() + u'.' + ending;
+        const QPointer<report_preview> still_there(this);
+        const QString path =
+            dialogs_of_reports().choose_file(this, {in_own(caption), proposed, in_own(kind), ending});
+        if (!path.isEmpty() && still_there)
+            write(path);
+    });
+}
+
+void report_preview::guarded(const std::function<void()>& act)
+{
+    const QPointer<report_preview> still_there(this);
+    try {
+        act();
+    } catch (const run_time_failure& failure) {
+        if (!still_there)
+            return;
+        auto* box = new QMessageBox(QMessageBox::Critical, windowTitle(),
+                                    in_own(failure_words(failure.kind())), QMessageBox::Ok, this);
+        box->setObjectName(u"message_box"_s);
+        box->setInformativeText(failure.details());
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+    }
+}
+
+}  // namespace verdane

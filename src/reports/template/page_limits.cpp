@@ -1,0 +1,19 @@
+#include "reports/template/page_limits.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+bool is_printable_size(double points)
+{
+    return points >= least_font_points && points <= most_font_points;
+}
+
+QString unprintable_size(const QString& written)
+{
+    return u"a font has a size of %1 pt to %2 pt, not %3"_s.arg(least_font_points)
+        .arg(most_font_points)
+        .arg(written);
+}
+
+}  // namespace verdane

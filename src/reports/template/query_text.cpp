@@ -1,0 +1,39 @@
+#include "reports/template/query_text.h"
+
+#include <QRegularExpression>
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Texts, quoted names and remarks; an opened one that does not end reaches to the end.
+const QRegularExpression& literal()
+{
+    static const QRegularExpression form(u"'[^']*('|$)|\"[^\"]*(\"|$)|--[^\\n]*|/\\*.*?(\\*/|$)"_s,
+                                         QRegularExpression::DotMatchesEverythingOption);
+    return form;
+}
+
+}  // namespace
+
+QString without_literals(QString sql)
+{
+    return sql.replace(literal(), u" "_s);
+}
+
+std::optional<qsizetype> stray_quoted_name(const QString& sql)
+{
+    static const QRegularExpression behind_as(u"\\bas\\s*$"_s, QRegularExpression::CaseInsensitiveOption);
+    auto matches = literal().globalMatch(sql);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const qsizetype at = match.capturedStart();
+        if (sql[at] == u'"' && !behind_as.match(without_literals(sql.first(at))).hasMatch())
+            return at;
+    }
+    return {};
+}
+
+}  // namespace verdane
