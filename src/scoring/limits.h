@@ -8,6 +8,10 @@ constexpr int hole_count = 18;
 constexpr int club_count = 14;
 /// Putts of a hole whose lengths are stored.
 constexpr int putt_lengths_kept = 6;
+/// Bands into which the lengths of putts are divided.
+constexpr int putt_band_count = 7;
+/// The most putts on a hole that the statistics count.
+constexpr int most_putts_counted = 5;
 constexpr int most_rounds = 366;
 /// Courses, each with one tee.
 constexpr int most_courses = 51;

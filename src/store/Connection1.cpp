@@ -159,7 +159,7 @@ void Connection1::open_engine(soundness_check check)
     run(database(), u"PRAGMA synchronous=FULL"_s);
     run(database(), u"PRAGMA cache_size=-%1"_s.arg(kept_pages_kb));
     if (!is_complete)
-        lay_down(*this);
+        create_tables(*this);
 }
 
 void Connection1::check_soundness() const

@@ -8,9 +8,9 @@
 
 namespace verdane {
 
-/// The object through which the program sees the store: one connection and one long-lived, shared
-/// recordset for each table. They live for the whole run and hold no rows between uses: whoever opens
-/// a recordset closes it.
+/// The connection to the store and the catalogue: one shared recordset for each table, with the settings that
+/// are declared next to the table (`store/tables/`). They live for the whole run and hold no rows between
+/// uses: the caller that opens a recordset closes it.
 class DataEnvironment1 {
 public:
     DataEnvironment1();
@@ -37,10 +37,11 @@ public:
     Recordset rsr_cost;
     Recordset rscost;
 
-    /// The nineteen recordsets, in the order of the catalogue.
+    /// All of them, in the order above.
     std::array<std::reference_wrapper<Recordset>, 19> recordsets();
 
-    /// Drops every pending row and closes the connection: the last act after a failure.
+    /// Drops every pending row, closes all recordsets and the connection and restores the statements of the
+    /// catalogue. Called at the end of the run and after a failure.
     void abandon();
 };
 

@@ -1,7 +1,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
+#include "store/column_value.h"
 #include "store/recordset_rows.h"
-#include "store/variant_number.h"
 
 /// Reading and writing one field.
 namespace verdane {

@@ -7,16 +7,14 @@
 #include <memory>
 
 #include "base/counts.h"
-#include "store/schema.h"
+#include "store/recordset_settings.h"
+#include "store/tables/columns.h"
 
 namespace verdane {
 
 class Connection1;
 class Recordset;
 
-enum class cursor_type { dynamic, fixed };
-enum class lock_type { optimistic, batch_optimistic };
-enum class cursor_location { server, client };
 /// When the rows of a statement are read.
 enum class row_reading {
     /// As it is opened.
@@ -34,26 +32,6 @@ enum class search_direction { forward = 1, backward = -1 };
 
 /// Which rows a batch update writes. Both commit everything that is pending.
 enum class affect { all = 3, all_chapters = 4 };
-
-/// The settings of a recordset, applied whenever it is opened. `catalogue.cpp` lists them in one table.
-/// Cursor, location and cache size are listed for completeness: they have no effect on a store that is one
-/// local file, for the reason given at each.
-struct recordset_settings {
-    QString name;
-    QString source;
-    /// No effect: both kinds of cursor read their rows once, and later rows after `Requery`. Only one program
-    /// changes the file, so a dynamic cursor would find no changes of others.
-    cursor_type cursor = cursor_type::fixed;
-    lock_type lock = lock_type::optimistic;
-    /// No effect: the engine is a library of this process, so the rows of server-side and client-side cursors
-    /// are in the same memory.
-    cursor_location location = cursor_location::server;
-    /// No effect: a recordset keeps all its rows, and without a network, fetching several rows at a time
-    /// saves nothing.
-    int cache_rows = 100;
-    /// How long a statement waits for the lock of another program, in seconds.
-    int time_out_s = 30;
-};
 
 /// One field of a recordset's current row. Reading it at `eof()`, or on a row that was deleted,
 /// fails with `misuse`.

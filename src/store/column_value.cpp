@@ -1,15 +1,14 @@
-#include "base/numbers.h"
-#include "store/schema.h"
-#include "store/variant_number.h"
+#include "store/column_value.h"
 
-/// Values on their way into a column.
+#include "base/numbers.h"
+
 namespace verdane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// An empty text is a value. The toolkit would hand the engine Null for one that was never filled.
+/// An empty text is a value; Qt would store a default-constructed one as Null.
 QString never_null(const QString& text)
 {
     return text.isNull() ? u""_s : text;
@@ -37,6 +36,20 @@ bool yes_of(const QVariant& value)
 
 }  // namespace
 
+double number_of(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Double:
+        return *static_cast<const double*>(value.constData());
+    case QMetaType::QString:
+        return leading_number(*static_cast<const QString*>(value.constData()));
+    case QMetaType::Bool:
+        return value.toBool() ? 1.0 : 0.0;
+    default:
+        return value.toDouble();
+    }
+}
+
 QVariant converted(const QVariant& value, column_type type)
 {
     if (value.isNull())
@@ -47,7 +60,6 @@ QVariant converted(const QVariant& value, column_type type)
     case column_type::count:
         return plain(to_int16(number_of(value)));
     case column_type::amount:
-        // Whole numbers of 32 bits are what such a column holds.
         return value.typeId() == QMetaType::Int ? value : QVariant(plain(to_int32(number_of(value))));
     case column_type::real:
         return number_of(value);

@@ -1,8 +1,9 @@
 #include "store/fresh_store.h"
 
-#include "store/Connection1.h"
-
 #include <QSqlQuery>
+
+#include "store/Connection1.h"
+#include "store/tables/golf_bag.h"
 
 namespace verdane {
 
@@ -28,52 +29,49 @@ QString engine_type(column_type type)
     return u"TEXT"_s;
 }
 
-/// Round keys are indexed, and an index wants a text of declared length on some engines.
 QString declared_type(const column& column)
 {
-    if (column.name == u"date")
-        return u"VARCHAR(14)"_s;
+    if (column.characters > 0)
+        return u"VARCHAR(%1)"_s.arg(column.characters);
     return engine_type(column.type);
+}
+
+/// Both engines accept names between back quotes. Some of the columns are reserved words in one of them.
+QString in_back_quotes(const QString& name)
+{
+    return u'`' + name + u'`';
 }
 
 QString column_definition(const column& column)
 {
-    QString definition = u'`' + column.name + u"` " + declared_type(column);
+    QString definition = in_back_quotes(column.name) + u' ' + declared_type(column);
     if (!column.default_value.isNull())
         definition += u" DEFAULT " + QString::number(column.default_value.toInt());
     return definition;
 }
 
-/// The first column of a report grid tells a template which line it is on.
-bool is_line_number(const column& column)
+QVariant value_by_type(column_type type)
 {
-    return column.name == u"stat_line" || column.name == u"put_line" || column.name == u"card_row";
+    switch (type) {
+    case column_type::text:
+        return u""_s;
+    case column_type::any:
+        return {};
+    default:
+        return 0;
+    }
 }
 
-/// Texts of which the statistics themselves say that a row without a value holds one blank.
-bool is_blank_text(const column& column)
+QString name_of_club(int place)
 {
-    return column.name.startsWith(u"mean_") || column.name == u"weighted_mean" ||
-           column.name == u"rating_text" || column.name == u"average_mark";
-}
-
-QVariant fixed_text(const table& table, int row, int ordinal)
-{
-    if (table.name == u"sticknames")
-        return fresh_club_names().at(ordinal);
-    if (table.name == u"stat_sticks" && ordinal == 0)
-        return fresh_club_names().at(row);
-    if (table.name == u"stat_sticks" && ordinal <= 9)
-        return u"0"_s;
-    const auto& column = table.columns[static_cast<std::size_t>(ordinal)];
-    return is_blank_text(column) ? u" "_s : u""_s;
+    return QStringView(tables::sticknames::new_names[static_cast<std::size_t>(place)]).toString();
 }
 
 QString insertion_statement(const table& table)
 {
     const auto count = static_cast<int>(table.columns.size());
     const QStringList places(count, u"?"_s);
-    return u"INSERT INTO `" + table.name + u"` VALUES (" + places.join(u',') + u')';
+    return u"INSERT INTO " + in_back_quotes(table.name) + u" VALUES (" + places.join(u',') + u')';
 }
 
 void insert_fixed_rows(Connection1& connection, const table& table)
@@ -85,14 +83,15 @@ void insert_fixed_rows(Connection1& connection, const table& table)
     if (!query.prepare(statement))
         throw store_failure(query.lastError(), statement);
     for (int row = 0; row < table.fixed_rows; ++row) {
-        for (int ordinal = 0; ordinal < static_cast<int>(table.columns.size()); ++ordinal)
-            query.bindValue(ordinal, fixed_value(table, row, ordinal));
+        int ordinal = 0;
+        for (const column& column : table.columns)
+            query.bindValue(ordinal++, value_of_fixed_row(column, row));
         if (!query.exec())
             throw store_failure(query.lastError(), statement);
     }
 }
 
-void lay_down_tables(Connection1& connection)
+void create_tables_and_indexes(Connection1& connection)
 {
     for (const table& table : schema()) {
         connection.Execute(creation_statement(table));
@@ -109,44 +108,51 @@ QString creation_statement(const table& table)
     QStringList definitions;
     for (const column& column : table.columns)
         definitions += column_definition(column);
-    return u"CREATE TABLE `" + table.name + u"` (" + definitions.join(u", "_s) + u')';
+    return u"CREATE TABLE " + in_back_quotes(table.name) + u" (" + definitions.join(u", "_s) + u')';
 }
 
 QStringList index_statements()
 {
-    // None of them is unique: that a key is used once is the program's affair, and a round in the
-    // making has rows without a key. The shots are by far the longest table, and every window and
-    // statistic asks for one hole's shots in order; the others serve joins and deletions by key.
-    return {u"CREATE INDEX `games_by_date` ON `games` (`date`)"_s,
-            u"CREATE INDEX `games2_by_date` ON `games2` (`date`)"_s,
-            u"CREATE INDEX `cost_by_date` ON `cost` (`date`)"_s,
-            u"CREATE INDEX `shots_by_hole` ON `Stat_rounds` (`date`, `hole`, `shot`)"_s};
-}
-
-QVariant fixed_value(const table& table, int row, int ordinal)
-{
-    const auto& column = table.columns[static_cast<std::size_t>(ordinal)];
-    switch (column.type) {
-    case column_type::text:
-        return fixed_text(table, row, ordinal);
-    case column_type::any:
-        // The lines of `stats` are counted from 0, those of the other grids from 1.
-        if (is_line_number(column))
-            return QString::number(table.name == u"stats" ? row : row + 1);
-        return {};
-    default:
-        return 0;
+    QStringList statements;
+    for (const table& table : schema()) {
+        if (table.index_name.isEmpty())
+            continue;
+        QStringList columns;
+        for (const QString& column : table.indexed_columns)
+            columns << in_back_quotes(column);
+        statements << u"CREATE INDEX " + in_back_quotes(table.index_name) + u" ON " +
+                          in_back_quotes(table.name) + u" (" + columns.join(u", "_s) + u')';
     }
+    return statements;
 }
 
-void lay_down(Connection1& connection)
+QVariant value_of_fixed_row(const column& column, int row)
+{
+    switch (column.fixed) {
+    case fixed_value::by_type:
+        break;
+    case fixed_value::blank:
+        return u" "_s;
+    case fixed_value::digit_zero:
+        return u"0"_s;
+    case fixed_value::row_from_zero:
+        return QString::number(row);
+    case fixed_value::row_from_one:
+        return QString::number(row + 1);
+    case fixed_value::name_of_club:
+        return name_of_club(row + column.place);
+    }
+    return value_by_type(column.type);
+}
+
+void create_tables(Connection1& connection)
 {
     connection.Execute(u"BEGIN IMMEDIATE"_s);
     try {
-        lay_down_tables(connection);
+        create_tables_and_indexes(connection);
         connection.Execute(u"COMMIT"_s);
     } catch (...) {
-        // The engine may have ended the transaction by itself; that it is over is all that counts.
+        // Fails if the engine has ended the transaction by itself, which has the same result.
         QSqlQuery(connection.database()).exec(u"ROLLBACK"_s);
         throw;
     }

@@ -10,18 +10,18 @@ namespace verdane {
 
 class Connection1;
 
-/// The statement that creates a table. Names stand between back quotes, which both engines take;
-/// some of the columns are reserved words in one of them.
+/// The statement that creates a table.
 QString creation_statement(const table& table);
 
-/// The statements that create the indexes.
+/// The statements that create the indexes of all tables. No index is unique: the program itself checks that a
+/// key is used once, and the rows of a new round have no key yet.
 QStringList index_statements();
 
-/// What a fixed row of a fresh table holds in a column; `row` counts from 0.
-QVariant fixed_value(const table& table, int row, int ordinal);
+/// The value of a column in a fixed row, which counts from 0.
+QVariant value_of_fixed_row(const column& column, int row);
 
-/// Lays down every table, its fixed rows and the indexes in one transaction: what is found at the
-/// next start is either all of it or nothing.
-void lay_down(Connection1& connection);
+/// Creates every table, its fixed rows and the indexes in one transaction. After a failure none of them
+/// exists.
+void create_tables(Connection1& connection);
 
 }  // namespace verdane

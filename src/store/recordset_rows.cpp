@@ -1,5 +1,6 @@
 #include "store/recordset_rows.h"
 
+#include "store/column_value.h"
 #include "store/Connection1.h"
 #include "store/row_writer.h"
 #include "store/single_commit.h"

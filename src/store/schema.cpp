@@ -1,45 +1,106 @@
 #include "store/schema.h"
 
-#include "store/schema_parts.h"
-
 #include <algorithm>
+#include <array>
+
+#include "store/tables/cost.h"
+#include "store/tables/courses.h"
+#include "store/tables/games.h"
+#include "store/tables/games2.h"
+#include "store/tables/golf_bag.h"
+#include "store/tables/hand.h"
+#include "store/tables/partners.h"
+#include "store/tables/putts.h"
+#include "store/tables/r_card.h"
+#include "store/tables/settings.h"
+#include "store/tables/Stat_rounds.h"
+#include "store/tables/stat_sticks.h"
+#include "store/tables/stats.h"
 
 namespace verdane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-std::vector<table> all_tables()
+constexpr std::array declarations{
+    tables::games::table,       tables::games2::table,      tables::cost::table,
+    tables::Stat_rounds::table, tables::vrd_fields::table,  tables::field_info::table,
+    tables::partners::table,    tables::sticks::table,      tables::sticknames::table,
+    tables::settings::table,    tables::stats::table,       tables::s_put1::table,
+    tables::s_put2::table,      tables::stat_sticks::table, tables::r_cost::table,
+    tables::r_card::table,      tables::hand::table,        tables::Cryst_hand::table,
+};
+
+QString text_of(std::u16string_view text)
 {
-    std::vector<table> tables;
-    for (const auto& part : {round_tables(), reference_tables(), report_tables()})
-        tables.insert(tables.end(), part.begin(), part.end());
-    return tables;
+    return QStringView(text).toString();
+}
+
+QVariant default_of(const tables::column_group& group)
+{
+    if (group.initial == default_value::null)
+        return {};
+    return group.type == column_type::yes_no ? QVariant(false) : QVariant(0);
+}
+
+void add_column(std::vector<column>& columns, const tables::column_group& group, const QString& name,
+                int place)
+{
+    columns.push_back({name, group.type, default_of(group), group.characters, group.fixed, place});
+}
+
+void add_parts(std::vector<column>& columns, const tables::column_group& group, const QString& name,
+               int number)
+{
+    if (group.parts == 0)
+        add_column(columns, group, name, number - 1);
+    for (int part = 1; part <= group.parts; ++part)
+        add_column(columns, group, QString(name + u'_' + QString::number(part)), number - 1);
+}
+
+void add_group(std::vector<column>& columns, const tables::column_group& group)
+{
+    for (int number = 1; number <= std::max(group.numbers, 1); ++number) {
+        const QString suffix = group.numbers == 0 ? QString() : QString::number(number);
+        for (int i = 0; i < group.name_count; ++i)
+            add_parts(columns, group, text_of(group.names[static_cast<std::size_t>(i)]) + suffix, number);
+    }
+}
+
+table table_of(const tables::table_declaration& declaration)
+{
+    table made;
+    made.name = text_of(declaration.name);
+    for (const tables::column_group& group : declaration.columns)
+        add_group(made.columns, group);
+    made.fixed_rows = declaration.fixed_rows;
+    made.index_name = text_of(declaration.index.name);
+    for (const std::u16string_view column : declaration.index.columns) {
+        if (!column.empty())
+            made.indexed_columns << text_of(column);
+    }
+    return made;
 }
 
 }  // namespace
 
 const std::vector<table>& schema()
 {
-    static const std::vector<table> tables = all_tables();
+    static const std::vector<table> tables = [] {
+        std::vector<table> all;
+        for (const tables::table_declaration& declaration : declarations)
+            all.push_back(table_of(declaration));
+        return all;
+    }();
     return tables;
 }
 
 const table* find_table(QStringView name)
 {
-    const auto& tables = schema();
-    const auto found = std::find_if(tables.begin(), tables.end(), [name](const table& candidate) {
+    const auto& all = schema();
+    const auto found = std::find_if(all.begin(), all.end(), [name](const table& candidate) {
         return candidate.name.compare(name, Qt::CaseInsensitive) == 0;
     });
-    return found == tables.end() ? nullptr : &*found;
-}
-
-const QStringList& fresh_club_names()
-{
-    // Woods, irons and wedges as both languages abbreviate them; the last slot is always the putter.
-    static const QStringList names = u"1W 3W 5W 3I 4I 5I 6I 7I 8I 9I PW SW LW Pu"_s.split(u' ');
-    return names;
+    return found == all.end() ? nullptr : &*found;
 }
 
 }  // namespace verdane

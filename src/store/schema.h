@@ -7,39 +7,37 @@
 
 #include <vector>
 
-/// The tables of the store, column by column. The order of the columns is part of the format: every
-/// reader reaches them by ordinal.
-namespace verdane {
+#include "store/tables/declaration.h"
 
-/// A `count` has 16 bits, an `amount` 32; `any` is a place that nothing reads or writes.
-enum class column_type { text, count, amount, real, yes_no, any };
+/// The tables of the store as they are at run time: every column of every declaration by name.
+namespace verdane {
 
 struct column {
     QString name;
     column_type type = column_type::any;
-    /// What a fresh row holds where nothing was written; an invalid QVariant is Null.
+    /// The value in a new row when nothing was written; an invalid QVariant is Null.
     QVariant default_value;
+    /// The declared number of characters of a text; 0 for any number.
+    int characters = 0;
+    fixed_value fixed = fixed_value::by_type;
+    /// The place in a numbered group, from 0.
+    int place = 0;
 };
 
 struct table {
     QString name;
     std::vector<column> columns;
-    /// How many rows the store is laid down with, for the grids of fixed size (0 for the others).
+    /// The rows of a table of fixed size, which are created with it; 0 for the others.
     int fixed_rows = 0;
+    /// Both empty for a table without an index.
+    QString index_name;
+    QStringList indexed_columns;
 };
 
-/// Every table of the store, in the order in which they are laid down.
+/// Every table of the store, in the order in which they are created.
 const std::vector<table>& schema();
 
-/// The table of that name, capitals or not; null when the store has none of that name.
+/// The table of that name, in any case; null if the store has none.
 const table* find_table(QStringView name);
-
-/// The names that the 14 clubs have in a fresh store; the last is the putter.
-const QStringList& fresh_club_names();
-
-/// A value brought into a column's type, as the engine's own conversion would: a text written to a
-/// number column gives its leading number, rounded to nearest (ties to even) and checked against the
-/// column's bits (`overflow`). Null stays Null.
-QVariant converted(const QVariant& value, column_type type);
 
 }  // namespace verdane

@@ -2,13 +2,10 @@
 
 #include <QTest>
 
-#include "store/catalogue.h"
 #include "tests/store/store_fixture.h"
-#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
-using testing::failure_of;
 using testing::reader;
 
 namespace {
@@ -87,10 +84,9 @@ private Q_SLOTS:
         recordset.Close();
     }
 
-    void the_catalogue_has_nineteen_entries()
+    void the_catalogue_has_nineteen_recordsets()
     {
-        QCOMPARE(catalogue().size(), std::size(nineteen));
-        QVERIFY(failure_of([] { catalogue_entry(u"rsgolfers"); }) == failure_kind::misuse);
+        QCOMPARE(data_environment().recordsets().size(), std::size(nineteen));
     }
 
     void the_members_are_the_recordsets_of_their_names()

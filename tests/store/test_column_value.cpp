@@ -1,6 +1,7 @@
+#include "store/column_value.h"
+
 #include <QTest>
 
-#include "store/schema.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;

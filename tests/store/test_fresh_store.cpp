@@ -149,7 +149,7 @@ private Q_SLOTS:
                 connection.Execute(u"drop table " + row[0].toString());
             connection.Execute(u"vacuum"_s);
             connection.Execute(u"pragma max_page_count=6"_s);
-            QVERIFY(failure_of([&] { lay_down(connection); }) == failure_kind::store_full);
+            QVERIFY(failure_of([&] { create_tables(connection); }) == failure_kind::store_full);
             QCOMPARE(other.outside().number(u"select count(*) from sqlite_master"_s), 0);
             connection.Close();
             QVERIFY(QFile::copy(other.path(), path));

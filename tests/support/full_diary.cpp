@@ -7,6 +7,7 @@
 
 #include "store/Connection1.h"
 #include "store/schema.h"
+#include "store/tables/golf_bag.h"
 #include "tests/support/diary.h"
 #include "tests/support/golfer.h"
 #include "tests/support/table_filler.h"
@@ -35,6 +36,11 @@ const std::vector<partner>& partners()
         {u"Anne"_s, u"Larivière"_s, 1507}, {u"Bruno"_s, u"Keller"_s, 1129}, {u"Chloé"_s, u"O Brien"_s, 1266},
         {u"Denis"_s, u"Tremblay"_s, 1418}, {u"Ella"_s, u"Fraser"_s, 1003},  {u"Félix"_s, u"Gagnon"_s, 1187}};
     return all;
+}
+
+QString name_of_club(int club)
+{
+    return QStringView(tables::sticknames::new_names.at(static_cast<std::size_t>(club - 1))).toString();
 }
 
 const std::vector<diary_course>& courses()
@@ -235,7 +241,7 @@ private:
                         s.before,
                         s.after,
                         words.kind.at(s.kind),
-                        fresh_club_names().at(s.club - 1),
+                        name_of_club(s.club),
                         s.beyond,
                         s.missed,
                         s.sand,
