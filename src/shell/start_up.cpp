@@ -18,6 +18,7 @@
 #include "shell/language_value.h"
 #include "shell/MainForm.h"
 #include "store/DataEnvironment1.h"
+#include "store/scoped_source.h"
 
 /// The pictures stand in a library, so the linker would leave them out: nothing else asks for them.
 /// The toolkit wants this said outside every namespace.
@@ -71,16 +72,14 @@ void load_round_keys()
 {
     Main_module::round_key_count = 0;
     Recordset& rsgames = data_environment().rsgames;
-    // A row of this table is wide, and nothing but its key is wanted.
-    const QString whole_rows = rsgames.Source();
-    rsgames.set_Source(u"select date from games order by date"_s);
+    // A row of this table is wide, and only its key is used here.
+    const scoped_source keys_only(rsgames, u"select date from games order by date"_s);
     rsgames.Open();
     if (!rsgames.eof()) {
         for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
             Main_module::append_round_key(rsgames.Fields(0).trimmed());
     }
     rsgames.Close();
-    rsgames.set_Source(whole_rows);
 }
 
 start_result Main()
