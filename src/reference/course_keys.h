@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "base/checked_array.h"
+#include "scoring/limits.h"
 
 namespace verdane {
 
@@ -13,9 +14,6 @@ struct course_key {
     QString name_tee;
     QString code;
 };
-
-/// As many courses and tees as the course list can show.
-constexpr int most_courses = 51;
 
 /// The courses of the store in table order, filled by the course list and read by the editor's save.
 /// An entry that is not in use is empty.
