@@ -3,6 +3,7 @@
 #include <QChar>
 
 #include "controls/keys.h"
+#include "scoring/limits.h"
 
 namespace verdane {
 
@@ -11,8 +12,7 @@ class f_courses;
 /// What the boxes of the course editor accept.
 namespace f_courses_func {
 
-constexpr int hole_count = 18;
-constexpr int front_hole_count = 9;
+constexpr int front_hole_count = hole_count / 2;
 
 /// A key typed into `text(index)`.
 key_answer text_key(const f_courses& window, int index, QChar key);

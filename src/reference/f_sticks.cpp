@@ -20,6 +20,7 @@
 #include "controls/main_frame.h"
 #include "controls/scrolled_content.h"
 #include "reference/f_sticks_func.h"
+#include "scoring/limits.h"
 #include "statistics/selection_lists.h"
 
 namespace verdane {

@@ -25,8 +25,6 @@ class f_sticks final : public Form {
 public:
     f_sticks();
 
-    static constexpr int club_count = 14;
-
     /// Member i is club i + 1: its name, and its average distance in yards.
     control_array<QLineEdit> sn{u"sn"};
     /// The members after the fourteen averages are boxes without a function.

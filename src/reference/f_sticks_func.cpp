@@ -19,6 +19,7 @@
 #include "records/round_list.h"
 #include "records/round_rows.h"
 #include "reference/f_sticks.h"
+#include "scoring/limits.h"
 #include "scoring/round_key.h"
 #include "statistics/club_statistics.h"
 #include "statistics/selection_choice.h"
@@ -32,7 +33,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int club_count = f_sticks::club_count;
 constexpr int average_column = 3;
 constexpr int top_with_filters = 5;
 

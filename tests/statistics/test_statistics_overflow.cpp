@@ -6,6 +6,7 @@
 
 #include "base/run_time_failure.h"
 #include "reports/report_store.h"
+#include "scoring/limits.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/support/diary.h"
 #include "tests/support/hand.h"
@@ -16,8 +17,6 @@ using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int most_rounds = 366;
 
 diary_course course()
 {
