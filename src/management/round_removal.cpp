@@ -1,7 +1,8 @@
 #include "management/round_removal.h"
 
-#include "records/round_columns.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/cost.h"
+#include "store/tables/Stat_rounds.h"
 
 namespace verdane {
 
@@ -9,11 +10,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Shots and costs are deleted by the same loop.
+constexpr int date = tables::Stat_rounds::date;
+static_assert(date == tables::cost::date);
+
 /// The rows of the round are adjacent, but all remaining rows are visited.
 void delete_to_the_end(Recordset& rows, const QString& key)
 {
     while (!rows.eof()) {
-        if (rows.Fields(round_columns::date).text_or_empty() == key)
+        if (rows.Fields(date).text_or_empty() == key)
             rows.Delete();
         rows.MoveNext();
     }

@@ -3,8 +3,8 @@
 #include "base/checked_array.h"
 #include "base/counts.h"
 #include "controls/boxes.h"
-#include "records/round_columns.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/Stat_rounds.h"
 
 namespace verdane {
 
@@ -47,7 +47,7 @@ void open_rounds_and_shots(Recordset& rounds, Recordset& shots)
 void delete_orphans(Recordset& rounds, Recordset& shots, orphan_keys& orphans)
 {
     while (!shots.eof()) {
-        const QString key = shots.Fields(round_columns::date).text_or_empty();
+        const QString key = shots.Fields(tables::Stat_rounds::date).text_or_empty();
         rounds.Find(u"date=" + key);
         if (rounds.eof()) {
             orphans.meet(key);

@@ -2,6 +2,7 @@
 
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/courses.h"
 
 namespace verdane::Round_functions {
 
@@ -15,7 +16,7 @@ void move_to_course(int list_index)
 void find_holes_of_course(search_direction direction)
 {
     Recordset& holes = data_environment().rsfield_info;
-    const QString code = data_environment().rsvrd_fields.Fields(u"code").trimmed();
+    const QString code = data_environment().rsvrd_fields.Fields(tables::vrd_fields::code).trimmed();
     holes.MoveFirst();
     holes.Find(u"FIELD_CODE =" + quoted(code), direction);
 }

@@ -2,16 +2,15 @@
 
 #include "store/Recordset.h"
 
-/// The rows of a course in the two tables that hold it: `rsvrd_fields` and `rsfield_info`. The caller
-/// has opened them.
+/// Positions `rsvrd_fields` and `rsfield_info` on the rows of a course. The caller has opened them.
 namespace verdane::Round_functions {
 
-/// Puts `rsvrd_fields` on the row at that place, from 0. A list that was filled in row order finds its
-/// entry's row this way; a place beyond the last row leaves the table at its end.
+/// Moves `rsvrd_fields` to the row with the index that the course has in a list filled in row order, from 0.
+/// An index beyond the last row leads to `eof()`.
 void move_to_course(int list_index);
 
-/// Puts `rsfield_info` on the holes of the course on the current row of `rsvrd_fields`, and at its end
-/// where there are none.
+/// Moves `rsfield_info` to the holes of the course in the current row of `rsvrd_fields`, or to `eof()` if
+/// there are none.
 void find_holes_of_course(search_direction direction = search_direction::forward);
 
 }  // namespace verdane::Round_functions

@@ -1,9 +1,9 @@
 #include "records/round_list.h"
 
-#include "records/round_columns.h"
 #include "records/round_rows.h"
 #include "scoring/round_key.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/games.h"
 
 namespace verdane::Round_functions {
 
@@ -11,8 +11,8 @@ namespace {
 
 QString line_of_current_row(Recordset& games)
 {
-    return Verdane_tools::round_entry(games.Fields(round_columns::date).text_or_empty(),
-                                      games.Fields(round_columns::field).text_or_empty(), round_incomplete());
+    return Verdane_tools::round_entry(games.Fields(tables::games::date).text_or_empty(),
+                                      games.Fields(tables::games::field).text_or_empty(), round_incomplete());
 }
 
 }  // namespace

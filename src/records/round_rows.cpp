@@ -1,8 +1,12 @@
 #include "records/round_rows.h"
 
 #include "records/course_rows.h"
-#include "records/round_columns.h"
+#include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/cost.h"
+#include "store/tables/courses.h"
+#include "store/tables/games.h"
+#include "store/tables/games2.h"
 
 namespace verdane::Round_functions {
 
@@ -10,28 +14,31 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-namespace at = round_columns;
+namespace games = tables::games;
+namespace games2 = tables::games2;
+namespace field_info = tables::field_info;
+namespace cost = tables::cost;
 
-Field games(int ordinal)
+Field in_games(int ordinal)
 {
     return data_environment().rsgames.Fields(ordinal);
 }
 
-Field games2(int ordinal)
+Field in_games2(int ordinal)
 {
     return data_environment().rsgames2.Fields(ordinal);
 }
 
-Field field_info(int ordinal)
+Field in_field_info(int ordinal)
 {
     return data_environment().rsfield_info.Fields(ordinal);
 }
 
-/// With a number outside the holes the arithmetic of the columns would meet the round's key.
+/// A number outside the holes would select other columns of the row.
 int checked_hole(int16 hole)
 {
     const int h = plain(hole);
-    if (h < 1 || h > at::hole_count)
+    if (h < 1 || h > hole_count)
         throw run_time_failure(failure_kind::misuse, u"hole %1 of a round"_s.arg(h));
     return h;
 }
@@ -41,53 +48,53 @@ int checked_hole(int16 hole)
 void store_strokes(int16 hole, const strokes& values)
 {
     const int h = checked_hole(hole);
-    games(at::long_h(h)).set(values.long_shots);
-    games(at::approach_h(h)).set(values.approach);
-    games(at::putt_h(h)).set(values.putts);
+    in_games(games::long_h(h)).set(values.long_shots);
+    in_games(games::approach_h(h)).set(values.approach);
+    in_games(games::putt_h(h)).set(values.putts);
 }
 
 strokes read_strokes(int16 hole)
 {
     const int h = checked_hole(hole);
-    return {games(at::long_h(h)).int16_or_zero(), games(at::approach_h(h)).int16_or_zero(),
-            games(at::putt_h(h)).int16_or_zero()};
+    return {in_games(games::long_h(h)).int16_or_zero(), in_games(games::approach_h(h)).int16_or_zero(),
+            in_games(games::putt_h(h)).int16_or_zero()};
 }
 
 void store_penalties(int16 hole, const penalties& values)
 {
     const int h = checked_hole(hole);
-    games(at::pen_rule_h(h)).set(values.rule);
-    games(at::pen_water_h(h)).set(values.water);
-    games(at::pen_bounds_h(h)).set(values.bounds);
-    games(at::pen_lost_h(h)).set(values.lost);
+    in_games(games::pen_rule_h(h)).set(values.rule);
+    in_games(games::pen_water_h(h)).set(values.water);
+    in_games(games::pen_bounds_h(h)).set(values.bounds);
+    in_games(games::pen_lost_h(h)).set(values.lost);
 }
 
 penalties read_penalties(int16 hole)
 {
     const int h = checked_hole(hole);
-    return {games(at::pen_rule_h(h)).to_int16(), games(at::pen_water_h(h)).to_int16(),
-            games(at::pen_bounds_h(h)).to_int16(), games(at::pen_lost_h(h)).to_int16()};
+    return {in_games(games::pen_rule_h(h)).to_int16(), in_games(games::pen_water_h(h)).to_int16(),
+            in_games(games::pen_bounds_h(h)).to_int16(), in_games(games::pen_lost_h(h)).to_int16()};
 }
 
 void store_situation(int16 hole, const situation_texts& boxes)
 {
     const int h = checked_hole(hole);
-    games2(at::fairway_h(h)).set(boxes.fairway);
-    games2(at::sand_h(h)).set(boxes.sand);
-    games(at::missed_h(h)).set(boxes.missed);
-    games2(at::recovery_h(h)).set(boxes.recovery);
+    in_games2(games2::fairway_h(h)).set(boxes.fairway);
+    in_games2(games2::sand_h(h)).set(boxes.sand);
+    in_games(games::missed_h(h)).set(boxes.missed);
+    in_games2(games2::recovery_h(h)).set(boxes.recovery);
 }
 
 situation read_situation(int16 hole)
 {
     const int h = checked_hole(hole);
-    return {games2(at::sand_h(h)).to_int16(), games(at::missed_h(h)).to_int16(),
-            games2(at::fairway_h(h)).to_int16()};
+    return {in_games2(games2::sand_h(h)).to_int16(), in_games(games::missed_h(h)).to_int16(),
+            in_games2(games2::fairway_h(h)).to_int16()};
 }
 
 int16 read_recovery(int16 hole)
 {
-    return games2(at::recovery_h(checked_hole(hole))).to_int16();
+    return in_games2(games2::recovery_h(checked_hole(hole))).to_int16();
 }
 
 hole_figures figures_from_row(int16 hole)
@@ -99,28 +106,28 @@ hole_figures figures_from_row(int16 hole)
 
 int16 hole_par(int16 hole)
 {
-    return field_info(at::par_h(checked_hole(hole))).to_int16();
+    return in_field_info(field_info::par_h(checked_hole(hole))).to_int16();
 }
 
 hole_card read_hole_card(int16 hole)
 {
     const int h = checked_hole(hole);
-    return {field_info(at::yards_h(h)).to_int16(), field_info(at::hcp_h(h)).to_int16(),
-            field_info(at::par_h(h)).to_int16()};
+    return {in_field_info(field_info::yards_h(h)).to_int16(), in_field_info(field_info::hcp_h(h)).to_int16(),
+            in_field_info(field_info::par_h(h)).to_int16()};
 }
 
 bool round_incomplete()
 {
-    const strokes last = read_strokes(static_cast<std::int16_t>(at::hole_count));
+    const strokes last = read_strokes(hole_count);
     return last.long_shots == 0 && last.approach == 0 && last.putts == 0;
 }
 
 int16 partner_in_round(QStringView number_text)
 {
-    const QString partners = games2(at::partners).text_or_empty();
+    const QString partners = in_games2(games2::PARTNERS).text_or_empty();
     if (partners.isEmpty())
-        return static_cast<std::int16_t>(0);
-    return static_cast<std::int16_t>(partners.indexOf(number_text) + 1);
+        return 0;
+    return static_cast<int>(partners.indexOf(number_text)) + 1;
 }
 
 QString partners_text(const QStringList& numbers)
@@ -134,15 +141,15 @@ QString partners_text(const QStringList& numbers)
 QString course_code_at(int list_index)
 {
     move_to_course(list_index);
-    return data_environment().rsvrd_fields.Fields(at::code).text();
+    return data_environment().rsvrd_fields.Fields(tables::vrd_fields::code).text();
 }
 
 int16 cost_total()
 {
-    int16 total = static_cast<std::int16_t>(0);
-    for (int ordinal = at::first_amount; ordinal <= at::last_amount; ++ordinal) {
+    int16 total = 0;
+    for (int ordinal = cost::first_amount; ordinal <= cost::last_amount; ++ordinal) {
         const int32 amount = data_environment().rscost.Fields(ordinal).to_int32();
-        total = static_cast<std::int16_t>(plain(total)) + amount;
+        total = plain(total) + amount;
     }
     return total;
 }

@@ -8,8 +8,8 @@
 /// One hole of a stored round in the current rows of the shared recordsets: `rsgames`, `rsgames2`,
 /// `rsfield_info`, `rsvrd_fields`, `rscost`. The caller has opened and positioned them, and commits.
 ///
-/// Holes are 1 to 18; another number fails with `misuse` and touches nothing. Stroke columns without
-/// a value read as 0; a penalty, situation or card column without one fails with `invalid_null`.
+/// Holes are 1 to 18; another number fails with `misuse` and changes nothing. Strokes without a value are
+/// read as 0. A penalty, a situation or a card without a value fails with `invalid_null`.
 namespace verdane::Round_functions {
 
 struct strokes {
@@ -31,7 +31,7 @@ struct situation {
     int16 fairway = 0;
 };
 
-/// The situation boxes as they stand; the store converts them.
+/// The texts of the situation boxes, which the store converts.
 struct situation_texts {
     QString fairway;
     QString sand;
@@ -39,9 +39,10 @@ struct situation_texts {
     QString recovery;
 };
 
-/// The card of a hole: yards, stroke index, par.
+/// What the scorecard of the course says about a hole.
 struct hole_card {
     int16 yards = 0;
+    /// The stroke index.
     int16 handicap = 0;
     int16 par = 0;
 };
@@ -55,29 +56,29 @@ penalties read_penalties(int16 hole);
 void store_situation(int16 hole, const situation_texts& boxes);
 situation read_situation(int16 hole);
 
-/// Recovery shots; the round window alone shows them.
+/// The recovery shots, which only the round window shows.
 int16 read_recovery(int16 hole);
 
-/// All counts of the hole that make its gross.
+/// All counts of the hole of which its gross consists.
 hole_figures figures_from_row(int16 hole);
 
 int16 hole_par(int16 hole);
 hole_card read_hole_card(int16 hole);
 
-/// True when hole 18 has no strokes, whatever the other holes hold.
+/// True if hole 18 has no strokes. The other holes do not count.
 bool round_incomplete();
 
-/// The position (from 1) of a partner's number in the text of partners, 0 when it is not there or
-/// the round has none. A plain text search: "1" is found in "12-7-".
+/// The position (from 1) of a partner's number in the text of partners, 0 if it is absent or the round has no
+/// partners. A plain text search: "1" is found in "12-7-".
 int16 partner_in_round(QStringView number_text);
 
-/// The numbers of the chosen partners, each followed by "-".
+/// The text of partners: their numbers, each followed by "-".
 QString partners_text(const QStringList& numbers);
 
-/// The code of the course at that position of `rsvrd_fields`, which is left on that row.
+/// The code of the course with that index in a list filled from `rsvrd_fields`, which is then on its row.
 QString course_code_at(int list_index);
 
-/// The twelve amounts of the round's cost row, added up in 16 bits.
+/// The sum of the twelve amounts of the round. Fails with `overflow` beyond 16 bits.
 int16 cost_total();
 
 }  // namespace verdane::Round_functions

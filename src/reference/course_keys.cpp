@@ -1,6 +1,7 @@
 #include "reference/course_keys.h"
 
 #include "store/Recordset.h"
+#include "store/tables/courses.h"
 
 namespace verdane {
 
@@ -8,7 +9,8 @@ checked_array<course_key, most_courses> course_keys;
 
 void keep_course_key(int index, Recordset& rsvrd_fields)
 {
-    course_keys[index] = {rsvrd_fields.Fields(u"name_tee").trimmed(), rsvrd_fields.Fields(u"code").trimmed()};
+    course_keys[index] = {rsvrd_fields.Fields(tables::vrd_fields::name_tee).trimmed(),
+                          rsvrd_fields.Fields(tables::vrd_fields::code).trimmed()};
 }
 
 void rebuild_course_keys(Recordset& rsvrd_fields)
@@ -25,7 +27,7 @@ void rebuild_course_keys(Recordset& rsvrd_fields)
 
 void remember_new_course(Recordset& rsvrd_fields)
 {
-    const QString code = rsvrd_fields.Fields(u"code").trimmed();
+    const QString code = rsvrd_fields.Fields(tables::vrd_fields::code).trimmed();
     for (int index = 0; index < most_courses; ++index) {
         if (course_keys[index].code == code)
             return;

@@ -11,6 +11,8 @@
 #include "reference/f_courses.h"
 #include "scoring/Verdane_tools.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/courses.h"
+#include "store/tables/games.h"
 
 namespace verdane::f_c_list_func {
 
@@ -30,8 +32,9 @@ Recordset& holes()
 
 QString list_line()
 {
-    const QString code = courses().Fields(u"code").trimmed();
-    return courses().Fields(u"name").trimmed() + u", " + Verdane_tools::tee_name(code.right(1));
+    const QString code = courses().Fields(tables::vrd_fields::code).trimmed();
+    return courses().Fields(tables::vrd_fields::name).trimmed() + u", " +
+           Verdane_tools::tee_name(code.right(1));
 }
 
 /// A course that was added since the list was filled has no line, so rows do not mean that a line is
@@ -113,7 +116,7 @@ void remove_selected(f_c_list& window)
     if (!has_selection(window))
         return;
     Round_functions::move_to_course(window.List1->currentRow());
-    const QString code = courses().Fields(u"code").text();
+    const QString code = courses().Fields(tables::vrd_fields::code).text();
     // Only the first round that is found is named: the earliest.
     Round_functions::open_rounds_in_time_order();
     Recordset& rsgames = data_environment().rsgames;
@@ -121,7 +124,7 @@ void remove_selected(f_c_list& window)
     if (rsgames.eof())
         ask_and_remove(window, code);
     else
-        tell_in_use(window, Verdane_tools::key_text(rsgames.Fields(0).trimmed()));
+        tell_in_use(window, Verdane_tools::key_text(rsgames.Fields(tables::games::date).trimmed()));
     rsgames.Close();
 }
 

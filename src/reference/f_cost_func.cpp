@@ -7,9 +7,9 @@
 #include "base/counts.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "records/round_columns.h"
 #include "reference/f_cost.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/cost.h"
 
 namespace verdane::f_cost_func {
 
@@ -19,7 +19,7 @@ namespace {
 
 Field stored_amount(int index)
 {
-    return data_environment().rscost.Fields(round_columns::first_amount + index);
+    return data_environment().rscost.Fields(tables::cost::first_amount + index);
 }
 
 /// The total of the twelve boxes, rounded box by box.

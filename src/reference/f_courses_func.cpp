@@ -10,11 +10,11 @@
 #include "base/text.h"
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
-#include "records/round_columns.h"
 #include "reference/course_keys.h"
 #include "reference/f_courses.h"
 #include "reference/f_courses_boxes.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/courses.h"
 
 namespace verdane::f_courses_func {
 
@@ -27,16 +27,16 @@ constexpr int tee_mark_length = 2;
 
 struct box_and_column {
     int index;
-    QStringView column;
+    int ordinal;
 };
 
 constexpr std::array<box_and_column, 6> columns_of_text = {{
-    {1, u"name"},
-    {2, u"rating"},
-    {0, u"slope"},
-    {3, u"address_1"},
-    {4, u"address_2"},
-    {5, u"address_3"},
+    {1, tables::vrd_fields::name},
+    {2, tables::vrd_fields::rating},
+    {0, tables::vrd_fields::slope},
+    {3, tables::vrd_fields::address_1},
+    {4, tables::vrd_fields::address_2},
+    {5, tables::vrd_fields::address_3},
 }};
 
 constexpr std::array<text_pair, 8> tees = {{
@@ -69,9 +69,9 @@ void fill_tees(f_courses& window, int selected)
 
 void load_general_page(f_courses& window)
 {
-    for (const auto& [index, column] : columns_of_text)
-        window.text(index).setText(course().Fields(column).text_or_empty());
-    const QString code = course().Fields(u"code").trimmed();
+    for (const auto& [index, ordinal] : columns_of_text)
+        window.text(index).setText(course().Fields(ordinal).text_or_empty());
+    const QString code = course().Fields(tables::vrd_fields::code).trimmed();
     fill_tees(window, plain(to_int16(code.right(1))));
     // The tee is part of the course's key, which is set once.
     window.departure->setEnabled(false);
@@ -85,9 +85,9 @@ void load_figure(QLineEdit& box, int ordinal)
 void load_holes(f_courses& window)
 {
     for (int i = 0; i < hole_count; ++i) {
-        load_figure(window.txt_verge(i), round_columns::yards_h(i + 1));
-        load_figure(window.txt_hnd(i), round_columns::hcp_h(i + 1));
-        load_figure(window.txt_normal(i), round_columns::par_h(i + 1));
+        load_figure(window.txt_verge(i), tables::field_info::yards_h(i + 1));
+        load_figure(window.txt_hnd(i), tables::field_info::hcp_h(i + 1));
+        load_figure(window.txt_normal(i), tables::field_info::par_h(i + 1));
     }
     show_totals(window);
 }
@@ -148,10 +148,10 @@ known_course look_up(const f_courses& window, const QString& name_in_capitals)
 void write_key(const f_courses& window, const QString& base)
 {
     const QString code = base + tee_mark(window);
-    course().Fields(u"code").set(code);
-    holes().Fields(u"FIELD_CODE").set(code);
-    course().Fields(u"tee").set(in_capitals(window.departure->currentText()));
-    course().Fields(u"name_tee").set(trimmed_text(window, 1) + tee_mark(window));
+    course().Fields(tables::vrd_fields::code).set(code);
+    holes().Fields(tables::field_info::FIELD_CODE).set(code);
+    course().Fields(tables::vrd_fields::tee).set(in_capitals(window.departure->currentText()));
+    course().Fields(tables::vrd_fields::name_tee).set(trimmed_text(window, 1) + tee_mark(window));
 }
 
 /// False when the course stands in the store already; nothing is written then.
@@ -169,12 +169,12 @@ bool settle_key(const f_courses& window)
 
 void write_boxes(const f_courses& window)
 {
-    for (const auto& [index, column] : columns_of_text)
-        course().Fields(column).set(window.text(index).text());
+    for (const auto& [index, ordinal] : columns_of_text)
+        course().Fields(ordinal).set(window.text(index).text());
     for (int i = 0; i < hole_count; ++i) {
-        holes().Fields(round_columns::yards_h(i + 1)).set(window.txt_verge(i).text());
-        holes().Fields(round_columns::hcp_h(i + 1)).set(window.txt_hnd(i).text());
-        holes().Fields(round_columns::par_h(i + 1)).set(window.txt_normal(i).text());
+        holes().Fields(tables::field_info::yards_h(i + 1)).set(window.txt_verge(i).text());
+        holes().Fields(tables::field_info::hcp_h(i + 1)).set(window.txt_hnd(i).text());
+        holes().Fields(tables::field_info::par_h(i + 1)).set(window.txt_normal(i).text());
     }
 }
 
@@ -190,7 +190,7 @@ void find_again(const QString& code)
 
 void commit()
 {
-    const QString code = course().Fields(u"code").text();
+    const QString code = course().Fields(tables::vrd_fields::code).text();
     holes().Update();
     course().Update();
     find_again(code);

@@ -12,6 +12,7 @@
 #include "scoring/Verdane_tools.h"
 #include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/partners.h"
 
 namespace verdane::f_partners_func {
 
@@ -136,7 +137,9 @@ void add_partner(f_partners& window)
 {
     finish_typing(window);
     partners().AddNew();
-    partners().Fields(u"code").set(QRandomGenerator::global()->bounded(highest_provisional_code + 1));
+    partners()
+        .Fields(tables::partners::code)
+        .set(QRandomGenerator::global()->bounded(highest_provisional_code + 1));
     partners().UpdateBatch();
     partners().MoveLast();
     show_cell(window, name_column);
@@ -146,9 +149,9 @@ void before_row_commit()
 {
     empty_for_null(u"SURNAME");
     empty_for_null(u"NAME");
-    QString name = partners().Fields(u"NAME").text();
-    QString surname = partners().Fields(u"SURNAME").text();
-    partners().Fields(u"code").set(Verdane_tools::name_checksum(name, surname));
+    QString name = partners().Fields(tables::partners::NAME).text();
+    QString surname = partners().Fields(tables::partners::SURNAME).text();
+    partners().Fields(tables::partners::code).set(Verdane_tools::name_checksum(name, surname));
 }
 
 void remove_partner(f_partners& window)

@@ -15,7 +15,6 @@
 #include "controls/list_box.h"
 #include "controls/main_frame.h"
 #include "controls/screen_room.h"
-#include "records/round_columns.h"
 #include "records/round_list.h"
 #include "records/round_rows.h"
 #include "reference/f_sticks.h"
@@ -26,6 +25,9 @@
 #include "statistics/selection_clauses.h"
 #include "statistics/selection_lists.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/games.h"
+#include "store/tables/golf_bag.h"
+#include "store/tables/stat_sticks.h"
 
 namespace verdane::f_sticks_func {
 
@@ -33,7 +35,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int average_column = 3;
 constexpr int top_with_filters = 5;
 
 QString title()
@@ -62,7 +63,8 @@ void show_bag(f_sticks& window)
         window.sn(i).setText(Main_module::club_names[i]);
         // Shows a long name from its beginning.
         window.sn(i).setCursorPosition(0);
-        window.Text1(i).setText(number_text(data_environment().rssticks.Fields(i).double_or_zero()));
+        window.Text1(i).setText(
+            number_text(data_environment().rssticks.Fields(tables::sticks::avg(i + 1)).double_or_zero()));
     }
     window.head->setText(
         window.caption(u"Les moyennes des bâtons affichés ci dessous seront utilisées pour les suggestions "
@@ -77,8 +79,8 @@ QStringList round_lines()
     Recordset& games = data_environment().rsgames;
     QStringList lines;
     for (; !games.eof(); games.MoveNext())
-        lines << Verdane_tools::round_entry(games.Fields(round_columns::date).text_or_empty(),
-                                            in_capitals(games.Fields(round_columns::field).text_or_empty()),
+        lines << Verdane_tools::round_entry(games.Fields(tables::games::date).text_or_empty(),
+                                            in_capitals(games.Fields(tables::games::field).text_or_empty()),
                                             Round_functions::round_incomplete());
     return lines;
 }
@@ -121,7 +123,7 @@ void show_averages(f_sticks& window)
     report.MoveFirst();
     // The putter has no distance and is not changed.
     for (int i = 0; i < club_count - 1; ++i) {
-        window.Text1(i).setText(report.Fields(average_column).text_or_empty());
+        window.Text1(i).setText(report.Fields(tables::stat_sticks::average).text_or_empty());
         report.MoveNext();
     }
     report.Close();
@@ -139,8 +141,8 @@ double typed_average(const QLineEdit& box)
 void take_boxes_over(const f_sticks& window)
 {
     for (int i = 0; i < club_count; ++i) {
-        data_environment().rssticks.Fields(i).set(typed_average(window.Text1(i)));
-        data_environment().rssticknames.Fields(i).set(window.sn(i).text());
+        data_environment().rssticks.Fields(tables::sticks::avg(i + 1)).set(typed_average(window.Text1(i)));
+        data_environment().rssticknames.Fields(tables::sticknames::club(i + 1)).set(window.sn(i).text());
         Main_module::club_names[i] = window.sn(i).text();
     }
 }

@@ -10,6 +10,7 @@
 #include "controls/scrolled_content.h"
 #include "shell/language_value.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/settings.h"
 
 namespace verdane {
 
@@ -56,7 +57,7 @@ f_lang::f_lang() : Form(u"f_lang", twins::one)
 void f_lang::choose(int language)
 {
     Recordset& rssettings = data_environment().rssettings;
-    rssettings.Fields(u"language").set(language);
+    rssettings.Fields(tables::settings::language).set(language);
     rssettings.Update();
     is_french = language == french_value;
     unload();

@@ -18,6 +18,7 @@
 #include "statistics/f_carte.h"
 #include "statistics/f_date_range.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/settings.h"
 
 namespace verdane {
 
@@ -57,7 +58,7 @@ void store_language(int value)
 {
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
-    rssettings.Fields(u"language").set(value);
+    rssettings.Fields(tables::settings::language).set(value);
     rssettings.Update();
     rssettings.Close();
 }

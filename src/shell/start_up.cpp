@@ -19,6 +19,8 @@
 #include "shell/MainForm.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
+#include "store/tables/golf_bag.h"
+#include "store/tables/settings.h"
 
 /// The pictures stand in a library, so the linker would leave them out: nothing else asks for them.
 /// The toolkit wants this said outside every namespace.
@@ -36,17 +38,17 @@ namespace {
 /// Reads the language, asking for it when none was chosen yet.
 start_result settle_language(Recordset& rssettings)
 {
-    if (rssettings.Fields(u"language").is_null()) {
+    if (rssettings.Fields(tables::settings::language).is_null()) {
         tell(u"Fatal Error - Unexpected Language Value - 1014"_s, QMessageBox::Critical);
         return start_result::damaged;
     }
-    if (!is_language_value(plain(rssettings.Fields(u"language").to_int16()))) {
+    if (!is_language_value(plain(rssettings.Fields(tables::settings::language).to_int16()))) {
         // The answer is written, and nothing is written into a store that is not sound.
         data_environment().connection.check_soundness();
         f_lang window;
         window.show_modal();
     }
-    const int language = plain(rssettings.Fields(u"language").int16_or_zero());
+    const int language = plain(rssettings.Fields(tables::settings::language).int16_or_zero());
     if (!is_language_value(language))
         return start_result::left;
     is_french = language == french_value;
@@ -63,7 +65,7 @@ void load_club_names()
     rssticknames.Open();
     rssticknames.MoveFirst();
     for (int i = 0; i < Main_module::club_count; ++i)
-        Main_module::club_names[i] = rssticknames.Fields(i).text_or_empty();
+        Main_module::club_names[i] = rssticknames.Fields(tables::sticknames::club(i + 1)).text_or_empty();
     rssticknames.Close();
     Main_module::club_names_kept = true;
 }
@@ -77,7 +79,7 @@ void load_round_keys()
     rsgames.Open();
     if (!rsgames.eof()) {
         for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
-            Main_module::append_round_key(rsgames.Fields(0).trimmed());
+            Main_module::append_round_key(rsgames.Fields(u"date").trimmed());
     }
     rsgames.Close();
 }

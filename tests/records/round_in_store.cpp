@@ -23,7 +23,7 @@ QStringList card()
 
 round_in_store::round_in_store()
 {
-    lay_down();
+    add_rows();
     open(store.rsgames);
     open(store.rsgames2);
     open(store.rscost);
@@ -31,7 +31,7 @@ round_in_store::round_in_store()
     open(store.rsfield_info);
 }
 
-void round_in_store::lay_down() const
+void round_in_store::add_rows() const
 {
     const reader outside(folder_.path());
     outside.write({

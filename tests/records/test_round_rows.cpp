@@ -1,7 +1,9 @@
 #include <QTest>
 
-#include "records/round_columns.h"
 #include "records/round_rows.h"
+#include "store/tables/courses.h"
+#include "store/tables/games.h"
+#include "store/tables/games2.h"
 #include "tests/records/round_in_store.h"
 #include "tests/support/failures.h"
 
@@ -11,13 +13,11 @@ using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::round_in_store;
 
-namespace at = round_columns;
-
 class test_round_rows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void strokes_go_to_their_columns_and_come_back()
+    void stored_strokes_are_in_their_columns_and_are_read_back()
     {
         store_strokes(18, {3, 2, 1});
         const strokes read = read_strokes(18);
@@ -31,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(round_->stored(games_, u"putt_17"_s).isNull());
     }
 
-    void strokes_never_stored_read_as_0()
+    void strokes_without_a_value_are_read_as_0()
     {
         const strokes read = read_strokes(7);
         QCOMPARE(plain(read.long_shots), 0);
@@ -39,7 +39,7 @@ private Q_SLOTS:
         QCOMPARE(plain(read.putts), 0);
     }
 
-    void penalties_go_to_their_columns_and_come_back()
+    void stored_penalties_are_in_their_columns_and_are_read_back()
     {
         store_penalties(1, {1, 2, 3, 4});
         const penalties read = read_penalties(1);
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(round_->stored(games_, u"pen_lost_1"_s).toInt(), 4);
     }
 
-    void a_fresh_row_has_no_penalties_and_no_situations()
+    void a_new_row_has_no_penalties_and_no_situations()
     {
         for (int hole = 1; hole <= 18; ++hole) {
             const penalties p = read_penalties(hole);
@@ -65,7 +65,7 @@ private Q_SLOTS:
         }
     }
 
-    void the_situation_goes_as_text_and_the_store_converts_it()
+    void the_texts_of_the_situation_are_converted_by_the_store()
     {
         store_situation(9, {u"2"_s, u"3a"_s, u"2.5"_s, QString()});
         round_->commit();
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void a_penalty_without_a_value_is_an_invalid_null()
     {
-        round_->store.rsgames.Fields(at::pen_lost_h(4)).set_null();
+        round_->store.rsgames.Fields(tables::games::pen_lost_h(4)).set_null();
         QVERIFY(failure_of([] { read_penalties(4); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { figures_from_row(4); }) == failure_kind::invalid_null);
         QCOMPARE(plain(read_penalties(5).lost), 0);
@@ -90,10 +90,10 @@ private Q_SLOTS:
 
     void a_situation_without_a_value_is_an_invalid_null()
     {
-        round_->store.rsgames2.Fields(at::sand_h(4)).set_null();
-        round_->store.rsgames.Fields(at::missed_h(5)).set_null();
-        round_->store.rsgames2.Fields(at::fairway_h(6)).set_null();
-        round_->store.rsgames2.Fields(at::recovery_h(7)).set_null();
+        round_->store.rsgames2.Fields(tables::games2::sand_h(4)).set_null();
+        round_->store.rsgames.Fields(tables::games::missed_h(5)).set_null();
+        round_->store.rsgames2.Fields(tables::games2::fairway_h(6)).set_null();
+        round_->store.rsgames2.Fields(tables::games2::recovery_h(7)).set_null();
         for (const int hole : {4, 5, 6})
             QVERIFY(failure_of([=] { read_situation(hole); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { read_recovery(7); }) == failure_kind::invalid_null);
@@ -103,7 +103,7 @@ private Q_SLOTS:
     void a_par_without_a_value_is_an_invalid_null()
     {
         QCOMPARE(plain(hole_par(3)), 3);
-        round_->store.rsfield_info.Fields(at::par_h(3)).set_null();
+        round_->store.rsfield_info.Fields(tables::field_info::par_h(3)).set_null();
         QVERIFY(failure_of([] { hole_par(3); }) == failure_kind::invalid_null);
     }
 
@@ -115,15 +115,15 @@ private Q_SLOTS:
         QCOMPARE(plain(card.par), 5);
     }
 
-    void a_number_that_is_no_hole_is_a_misuse_and_touches_nothing_data()
+    void a_number_that_is_no_hole_is_a_misuse_and_changes_nothing_data()
     {
         QTest::addColumn<int>("hole");
         QTest::newRow("none chosen") << 0;
-        QTest::newRow("behind the last") << 19;
+        QTest::newRow("after the last") << 19;
         QTest::newRow("negative") << -1;
     }
 
-    void a_number_that_is_no_hole_is_a_misuse_and_touches_nothing()
+    void a_number_that_is_no_hole_is_a_misuse_and_changes_nothing()
     {
         QFETCH(int, hole);
         QVERIFY(failure_of([=] { store_strokes(hole, {1, 1, 1}); }) == failure_kind::misuse);
@@ -162,16 +162,16 @@ private Q_SLOTS:
     void a_partner_is_looked_up_by_a_plain_text_search()
     {
         QFETCH(QString, number);
-        round_->store.rsgames2.Fields(at::partners).set(u"12-7-"_s);
+        round_->store.rsgames2.Fields(tables::games2::PARTNERS).set(u"12-7-"_s);
         QTEST(plain(partner_in_round(number)), "position");
     }
 
     void a_round_without_partners_has_none()
     {
-        QVERIFY(round_->store.rsgames2.Fields(at::partners).is_null());
+        QVERIFY(round_->store.rsgames2.Fields(tables::games2::PARTNERS).is_null());
         QCOMPARE(plain(partner_in_round(u"1")), 0);
         QCOMPARE(plain(partner_in_round(u"")), 0);
-        round_->store.rsgames2.Fields(at::partners).set(QString());
+        round_->store.rsgames2.Fields(tables::games2::PARTNERS).set(QString());
         QCOMPARE(plain(partner_in_round(u"")), 0);
     }
 
@@ -186,7 +186,7 @@ private Q_SLOTS:
     {
         QCOMPARE(course_code_at(0), u"AUTRE-0"_s);
         QCOMPARE(course_code_at(1), u"LES PINS-1"_s);
-        QCOMPARE(round_->store.rsvrd_fields.Fields(at::name).text(), u"Les Pins"_s);
+        QCOMPARE(round_->store.rsvrd_fields.Fields(tables::vrd_fields::name).text(), u"Les Pins"_s);
         QVERIFY(failure_of([] { course_code_at(2); }) == failure_kind::misuse);
     }
 
