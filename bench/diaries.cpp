@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QStringList>
 
-#include "base/language.h"
+#include "controls/interface_language.h"
 #include "records/round_columns.h"
 #include "shell/language_value.h"
 #include "store/DataEnvironment1.h"
@@ -73,8 +73,7 @@ const diaries& diaries_of_run()
 
 opened_store::opened_store(const QString& path)
 {
-    is_french = false;
-    language_is_settled = true;
+    set_interface_language(false);
     data_environment().connection.Open(path);
 }
 

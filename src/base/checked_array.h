@@ -9,7 +9,7 @@
 
 namespace verdane {
 
-/// A list of fixed length, indexed from `First`, whose index is checked: one outside the list is a
+/// An array of fixed length with the indices `First` to `First + Length - 1`. Any other index is a
 /// `run_time_failure` of the kind `subscript`.
 template <typename T, std::size_t Length, int First = 0>
 class checked_array {
@@ -20,7 +20,7 @@ public:
     T& operator[](int index) { return items_[position(index)]; }
     const T& operator[](int index) const { return items_[position(index)]; }
 
-    /// Puts every item back to its initial value.
+    /// Sets every item to its initial value.
     void clear() { items_ = {}; }
 
 private:

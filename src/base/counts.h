@@ -2,9 +2,9 @@
 
 #include <QString>
 
+// In a block of its own, because it must be included before native.hpp, which uses its declarations.
 #include <boost/safe_numerics/safe_integer.hpp>
 
-// native.hpp does not stand on its own: it needs what safe_integer.hpp declares.
 #include <boost/safe_numerics/exception_policies.hpp>
 #include <boost/safe_numerics/native.hpp>
 #include <cstdint>
@@ -13,8 +13,8 @@
 
 namespace verdane {
 
-/// Turns a checked integer's error into the program's own failure. The library's policies act by
-/// being constructed.
+/// Error policy of the checked integers: throws a `run_time_failure`. Boost calls a policy by constructing
+/// it.
 struct throw_overflow {
     [[noreturn]] throw_overflow(const boost::safe_numerics::safe_numerics_error&, const char* message)
     {
@@ -32,8 +32,8 @@ using int16 = boost::safe_numerics::safe<std::int16_t, boost::safe_numerics::nat
 /// An amount of money: the same in 32 bits.
 using int32 = boost::safe_numerics::safe<std::int32_t, boost::safe_numerics::native, overflow_policy>;
 
-/// The plain integer inside a checked one, for use as an index, in a text or in a sum of decimals
-/// (the library has no sound conversion from a checked integer to a double).
+/// The value of a checked integer as an `int`, for an index, a text or a calculation with doubles: Boost does
+/// not convert checked integers to doubles reliably.
 inline int plain(int16 value)
 {
     return static_cast<std::int16_t>(value);

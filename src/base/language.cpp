@@ -3,7 +3,6 @@
 namespace verdane {
 
 bool is_french = true;
-bool language_is_settled = false;
 
 QString in_language(QStringView french, QStringView english)
 {

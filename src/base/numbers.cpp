@@ -32,7 +32,7 @@ qsizetype skip_sign(QStringView text, qsizetype from)
     return from < text.size() && (text[from] == u'+' || text[from] == u'-') ? from + 1 : from;
 }
 
-/// Where an exponent that starts at `from` ends; `from` itself when there is none.
+/// The end of the exponent that starts at `from`; `from` when there is none.
 qsizetype exponent_end(QStringView text, qsizetype from)
 {
     if (from >= text.size() || text[from].toLower() != u'e')
@@ -42,7 +42,7 @@ qsizetype exponent_end(QStringView text, qsizetype from)
     return end > digits ? end : from;
 }
 
-/// Length of the number at the head of `text`, 0 when there is none.
+/// The length of the number at the start of `text`; 0 when there is none.
 qsizetype number_length(QStringView text)
 {
     const qsizetype whole = skip_sign(text, 0);
@@ -66,7 +66,7 @@ QStringView without_leading_blanks(QStringView text)
 template <typename Int>
 void check_fits(double value)
 {
-    // Written so that a value that is not a number fails too.
+    // NaN fails, too: every comparison with it is false.
     if (!(value >= std::numeric_limits<Int>::min() && value <= std::numeric_limits<Int>::max()))
         throw run_time_failure(failure_kind::overflow,
                                u"%1 does not fit in %2 bits"_s.arg(value).arg(8 * sizeof(Int)));
@@ -75,7 +75,7 @@ void check_fits(double value)
 struct decimal_digits {
     bool negative = false;
     std::string digits;  ///< without trailing zeros; "0" for zero
-    int point = 0;       ///< how many of the digits stand before the decimal point
+    int point = 0;       ///< how many of the digits are before the decimal point
 };
 
 decimal_digits decimal_digits_of(double value)
@@ -99,8 +99,8 @@ decimal_digits decimal_digits_of(double value)
     return result;
 }
 
-/// Digits with a point where one is needed, and nothing before the point for values below 1.
-std::string laid_out(const decimal_digits& number)
+/// The digits with a decimal point where one is needed, and nothing before the point for values below 1.
+std::string with_point(const decimal_digits& number)
 {
     const int length = static_cast<int>(number.digits.size());
     if (number.point >= length)
@@ -137,8 +137,8 @@ double round_half_even(double value)
 
 double round_to_tenth(double value)
 {
-    // The product value * 10 is rounded itself and can become a tie that the value is not. The conversion to
-    // digits rounds the exact value, ties to even.
+    // Rounding `value * 10` would be wrong: the product is rounded itself and can become a tie that `value`
+    // is not. `to_chars` rounds the exact value, ties to even.
     constexpr std::size_t sign_point_and_decimal = 3;
     std::array<char, std::numeric_limits<double>::max_exponent10 + 1 + sign_point_and_decimal> digits{};
     const auto* const end =
@@ -175,14 +175,14 @@ int32 to_int32(QStringView text)
 QString plain_number_text(double value)
 {
     const decimal_digits number = decimal_digits_of(value);
-    return QString::fromStdString((number.negative ? "-" : " ") + laid_out(number));
+    return QString::fromStdString((number.negative ? "-" : " ") + with_point(number));
 }
 
 QString number_text(double value)
 {
     const decimal_digits number = decimal_digits_of(value);
     const std::string zero = number.point <= 0 ? "0" : "";
-    return QString::fromStdString((number.negative ? "-" : "") + zero + laid_out(number));
+    return QString::fromStdString((number.negative ? "-" : "") + zero + with_point(number));
 }
 
 }  // namespace verdane

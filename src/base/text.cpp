@@ -11,7 +11,7 @@ constexpr QChar florin_sign = u'\u0192';
 
 QChar capital(QChar c)
 {
-    // Signs that look like letters: their "capitals" are letters of other alphabets.
+    // Two signs that Unicode treats as letters: their capitals are letters of other alphabets.
     return c == micro_sign || c == florin_sign ? c : c.toUpper();
 }
 

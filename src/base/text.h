@@ -5,12 +5,11 @@
 
 namespace verdane {
 
-/// The text without the blanks at either end. Only the blank (U+0020) counts as one: tabs, line ends
-/// and hard spaces are text.
+/// The text without blanks (U+0020) at either end. Tabs, line ends and no-break spaces are kept.
 QStringView trimmed_blanks(QStringView text);
 
-/// The text in capitals, accented letters included, letter by letter: the length never changes, so a
-/// letter that has no single capital ("ß") stays as it is.
+/// The text in capitals, accented letters included. Each letter is converted on its own and the length does
+/// not change: a letter without a single capital ("ß") stays as it is.
 QString in_capitals(QStringView text);
 
 }  // namespace verdane

@@ -4,8 +4,9 @@
 
 #include <cstdlib>
 
-#include "base/language.h"
+#include "base/failure_words.h"
 #include "controls/boxes.h"
+#include "controls/interface_language.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane {
@@ -14,18 +15,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString words_for_user(const run_time_failure& failure)
+void show(const run_time_failure& failure)
 {
-    const text_pair words = failure_words(failure.kind());
-    if (language_is_settled)
-        return words.in(is_french);
-    return words.in(true) + u"\n\n" + words.in(false);
-}
-
-void tell(const run_time_failure& failure)
-{
-    QMessageBox box(QMessageBox::Critical, QString(), words_for_user(failure), QMessageBox::Ok,
-                    window_at_work());
+    QMessageBox box(QMessageBox::Critical, QString(), in_known_language(failure_words(failure.kind())),
+                    QMessageBox::Ok, window_at_work());
     box.setObjectName(u"failure_box"_s);
     box.setWindowTitle(default_title());
     box.setTextFormat(Qt::PlainText);
@@ -37,7 +30,7 @@ void tell(const run_time_failure& failure)
 
 void end_after_failure(const run_time_failure& failure)
 {
-    tell(failure);
+    show(failure);
     data_environment().abandon();
     std::_Exit(EXIT_FAILURE);
 }

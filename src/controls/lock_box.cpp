@@ -5,8 +5,8 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include "base/language.h"
 #include "controls/boxes.h"
+#include "controls/interface_language.h"
 
 namespace verdane {
 
@@ -15,14 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int paint_ms = 50;
-
-/// In both languages until one is chosen.
-QString words(QStringView french, QStringView english, QStringView between)
-{
-    if (language_is_settled)
-        return in_language(french, english);
-    return french + between + english;
-}
 
 class lock_box final : public lock_notice {
 public:
@@ -40,16 +32,18 @@ private:
 lock_box::lock_box()
     : owner_(window_at_work()),
       box_(QMessageBox::Information, default_title(),
-           words(u"Le journal est utilisé par un autre programme. Verdane attend qu'il soit libre.",
-                 u"The diary is in use by another program. Verdane waits until it is free.", u"\n\n"),
+           in_known_language(
+               {u"Le journal est utilisé par un autre programme. Verdane attend qu'il soit libre.",
+                u"The diary is in use by another program. Verdane waits until it is free."}),
            QMessageBox::NoButton, owner_)
 {
     box_.setObjectName(u"lock_box"_s);
     box_.setTextFormat(Qt::PlainText);
     box_.setInformativeText(
-        words(u"Si vous abandonnez, Verdane s'arrête. Ce qui était enregistré est intact.",
-              u"If you give up, Verdane stops. What was saved is intact.", u"\n\n"));
-    QPushButton* give_up = box_.addButton(words(u"Abandonner", u"Give Up", u" / "), QMessageBox::RejectRole);
+        in_known_language({u"Si vous abandonnez, Verdane s'arrête. Ce qui était enregistré est intact.",
+                           u"If you give up, Verdane stops. What was saved is intact."}));
+    QPushButton* give_up =
+        box_.addButton(in_known_language({u"Abandonner", u"Give Up"}, u" / "), QMessageBox::RejectRole);
     give_up->setObjectName(u"give_up"_s);
     give_up->setAutoDefault(false);
     box_.setEscapeButton(give_up);

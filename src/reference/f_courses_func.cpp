@@ -6,6 +6,7 @@
 
 #include <array>
 
+#include "base/language.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "controls/boxes.h"

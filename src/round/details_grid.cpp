@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/language.h"
 #include "controls/choice_menu.h"
 #include "controls/data_grid.h"
 #include "controls/events.h"

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "base/language.h"
 #include "controls/accessible_controls.h"
 #include "controls/data_grid.h"
 #include "controls/look.h"

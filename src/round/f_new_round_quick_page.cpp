@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "base/language.h"
 #include "controls/look.h"
 #include "round/f_new_round.h"
 #include "round/f_new_round_layout.h"

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 #include "controls/shortcuts.h"

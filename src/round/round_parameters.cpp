@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 
+#include "base/language.h"
 #include "records/partner_columns.h"
 #include "records/round_columns.h"
 #include "records/round_rows.h"

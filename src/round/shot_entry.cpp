@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/language.h"
 #include "base/numbers.h"
 #include "controls/boxes.h"
 #include "controls/data_grid.h"

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "base/language.h"
 #include "base/Main_module.h"
 #include "controls/choice_menu.h"
 #include "controls/data_grid.h"

@@ -6,6 +6,7 @@
 
 #include <map>
 
+#include "base/language.h"
 #include "controls/main_frame.h"
 #include "controls/shortcuts.h"
 #include "shell/main_menu.h"

@@ -3,8 +3,8 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "controls/interface_language.h"
 #include "controls/main_frame.h"
-#include "controls/toolkit_language.h"
 #include "management/f_games.h"
 #include "management/store_clean_up.h"
 #include "reference/f_c_list.h"
@@ -67,8 +67,7 @@ void change_language(int value)
 {
     store_language(value);
     MainForm::of_run()->tick_language(value);
-    is_french = value == french_value;
-    apply_toolkit_language();
+    set_interface_language(value == french_value);
     load_club_names();
     MainForm::of_run()->reload();
 }

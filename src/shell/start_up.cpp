@@ -3,15 +3,14 @@
 #include <QApplication>
 #include <QIcon>
 
-#include "base/language.h"
 #include "base/Main_module.h"
 #include "base/oversized_writes.h"
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "controls/interface_language.h"
 #include "controls/lock_box.h"
 #include "controls/look.h"
-#include "controls/toolkit_language.h"
 #include "reports/report_store.h"
 #include "shell/after_first_paint.h"
 #include "shell/f_lang.h"
@@ -51,9 +50,7 @@ start_result settle_language(Recordset& rssettings)
     const int language = plain(rssettings.Fields(tables::settings::language).int16_or_zero());
     if (!is_language_value(language))
         return start_result::left;
-    is_french = language == french_value;
-    language_is_settled = true;
-    apply_toolkit_language();
+    set_interface_language(language == french_value);
     return start_result::running;
 }
 
@@ -86,7 +83,7 @@ void load_round_keys()
 
 start_result Main()
 {
-    is_french = true;
+    reset_interface_language();
     // Nothing is written before the window is up, so the check of the whole file, which takes as long as
     // everything else done here, can wait until then: see `run_verdane`.
     Connection1& connection = data_environment().connection;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/language.h"
 #include "statistics/putt_counts.h"
 
 /// The figures of the putt statistics, computed from the counts. Pure functions.

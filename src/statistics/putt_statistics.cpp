@@ -1,5 +1,6 @@
 #include "statistics/putt_statistics.h"
 
+#include "base/language.h"
 #include "controls/boxes.h"
 #include "records/round_columns.h"
 #include "reports/report_control.h"

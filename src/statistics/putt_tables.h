@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/language.h"
 #include "statistics/putt_figures.h"
 #include "statistics/selection_arguments.h"
 

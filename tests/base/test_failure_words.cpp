@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "base/failure_words.h"
+#include "base/language.h"
 #include "base/run_time_failure.h"
 
 using namespace verdane;

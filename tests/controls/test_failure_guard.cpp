@@ -4,9 +4,11 @@
 
 #include <cstdio>
 
+#include "base/failure_words.h"
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "controls/interface_language.h"
 #include "tests/support/failures.h"
 #include "tests/support/hand.h"
 
@@ -21,8 +23,8 @@ namespace {
 /// The child process: fails in an event and prints what the box says before it is answered.
 int fail_in_an_event(const QString& settled)
 {
-    language_is_settled = settled != u"not";
-    is_french = settled == u"fr";
+    if (settled != u"not")
+        set_interface_language(settled == u"fr");
     play([] { run_event([] { throw run_time_failure(failure_kind::store_full, u"insert into x"_s); }); },
          [](hand& user) {
              user.wait_for_window(u"failure_box"_s);

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"

@@ -4,6 +4,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "base/failure_words.h"
+#include "controls/interface_language.h"
 #include "controls/lock_box.h"
 #include "management/store_clean_up.h"
 #include "store/DataEnvironment1.h"
@@ -32,7 +34,7 @@ void begin_work_elsewhere(Connection1& tool, const QString& path)
 /// Removes the second round of three, which the store refuses at some table.
 int run_child(const QString& path, failure_kind kind)
 {
-    language_is_settled = true;
+    set_interface_language(true);
     data_environment().connection.waiting().set_notice_maker(make_lock_box);
     data_environment().connection.Open(path);
     Connection1 tool;

@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 #include "management/f_games.h"

@@ -3,6 +3,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "base/failure_words.h"
+#include "base/language.h"
+#include "controls/interface_language.h"
 #include "store/Connection1.h"
 #include "tests/reference/cost_windows.h"
 
@@ -63,8 +66,7 @@ void accept_what_is_refused(hand& user)
 
 int run_child(const QString& path, const QString& limit)
 {
-    language_is_settled = true;
-    is_french = limit != u"typing";
+    set_interface_language(limit != u"typing");
     data_environment().connection.Open(path);
     const recording_frame frame;
     data_environment().rscost.Open();

@@ -4,8 +4,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "base/failure_words.h"
 #include "base/language.h"
 #include "controls/failure_guard.h"
+#include "controls/interface_language.h"
 #include "reference/course_keys.h"
 #include "reference/f_c_list.h"
 #include "store/DataEnvironment1.h"
@@ -80,7 +82,7 @@ void open_a_line_without_a_row(const reader& store)
 
 int run_child(const QString& what, const QString& path)
 {
-    language_is_settled = true;
+    set_interface_language(true);
     data_environment().connection.Open(path);
     const recording_frame frame;
     const reader store(path);

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "base/language.h"
 #include "tests/reference/cost_windows.h"
 #include "tests/support/entering_boxes.h"
 #include "tests/support/window_look.h"

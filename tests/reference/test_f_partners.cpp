@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "base/language.h"
 #include "controls/data_grid.h"
 #include "controls/main_frame.h"
 #include "reference/f_partners.h"

@@ -3,8 +3,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "base/failure_words.h"
 #include "base/language.h"
 #include "controls/failure_guard.h"
+#include "controls/interface_language.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"
@@ -27,8 +29,7 @@ void meet(hand& user, failure_kind kind)
 
 int run_child(const QString& path, const QString& step)
 {
-    language_is_settled = true;
-    is_french = step == u"adding";
+    set_interface_language(step == u"adding");
     data_environment().connection.Open(path);
     const recording_frame frame;
     play(show_partners, [&](hand& user) {

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "base/language.h"
 #include "reports/preview/page_view.h"
 #include "reports/preview/report_dialogs.h"
 #include "reports/preview/report_preview.h"

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "base/language.h"
 #include "base/run_time_failure.h"
 #include "reports/preview/page_view.h"
 #include "reports/preview/report_preview.h"

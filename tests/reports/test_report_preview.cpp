@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <QTimer>
 
+#include "base/failure_words.h"
+#include "base/language.h"
 #include "base/run_time_failure.h"
 #include "reports/report_control.h"
 #include "tests/reports/preview_reader.h"

@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <QTest>
 
+#include "base/language.h"
 #include "reports/report_store.h"
 #include "round/f_new_round.h"
 #include "statistics/putt_statistics.h"

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFile>
 
-#include "base/language.h"
 #include "shell/start_up.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
@@ -63,7 +62,6 @@ QString program_run::store_path()
 
 int program_run::play_through(const std::function<void(hand&)>& script)
 {
-    language_is_settled = false;
     int status = -1;
     play([&] { status = run_verdane(*qApp); }, script);
     let_go_of_the_store();

@@ -9,6 +9,8 @@
 #include <map>
 #include <sys/resource.h>
 
+#include "base/failure_words.h"
+#include "base/language.h"
 #include "base/run_time_failure.h"
 #include "shell/start_up.h"
 #include "store/DataEnvironment1.h"

@@ -7,6 +7,7 @@
 
 #include <cstdio>
 
+#include "base/failure_words.h"
 #include "base/run_time_failure.h"
 #include "controls/boxes.h"
 #include "shell/start_up.h"

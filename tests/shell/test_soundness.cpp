@@ -8,6 +8,8 @@
 
 #include <cstdio>
 
+#include "base/failure_words.h"
+#include "base/language.h"
 #include "shell/start_up.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"

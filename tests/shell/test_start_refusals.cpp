@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+#include "base/failure_words.h"
+#include "base/language.h"
 #include "base/run_time_failure.h"
 #include "shell/start_up.h"
 #include "tests/shell/main_windows.h"

@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "base/language.h"
 #include "statistics/putt_bands.h"
 
 using namespace verdane;

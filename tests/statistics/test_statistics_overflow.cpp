@@ -4,6 +4,7 @@
 
 #include <cstdio>
 
+#include "base/failure_words.h"
 #include "base/run_time_failure.h"
 #include "reports/report_store.h"
 #include "scoring/limits.h"

@@ -1,8 +1,7 @@
 #include "tests/support/store_folder.h"
 
-#include "base/language.h"
 #include "base/Main_module.h"
-#include "controls/toolkit_language.h"
+#include "controls/interface_language.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::testing {
@@ -11,9 +10,7 @@ using namespace Qt::StringLiterals;
 
 store_folder::store_folder(bool french)
 {
-    is_french = french;
-    language_is_settled = true;
-    apply_toolkit_language();
+    set_interface_language(french);
     Main_module::round_keys.clear();
     Main_module::round_key_count = 0;
     Main_module::club_names_kept = true;

@@ -9,6 +9,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "base/failure_words.h"
 #include "base/run_time_failure.h"
 #include "controls/screen_room.h"
 #include "controls/shortcuts.h"
