@@ -11,14 +11,14 @@ class test_checked_array : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void every_place_starts_with_the_initial_value()
+    void a_new_array_holds_initial_values()
     {
         checked_array<int, 3> list;
         for (int index = list.first_index; index <= list.last_index; ++index)
             QCOMPARE(list[index], 0);
     }
 
-    void both_ends_can_be_written_and_read()
+    void the_first_and_the_last_item_can_be_written_and_read()
     {
         checked_array<int, 18, 1> holes;
         QCOMPARE(holes.first_index, 1);
@@ -29,15 +29,15 @@ private Q_SLOTS:
         QCOMPARE(std::as_const(holes)[18], 9);
     }
 
-    void an_index_outside_is_a_subscript_failure_data()
+    void an_index_outside_the_bounds_fails_with_subscript_data()
     {
         QTest::addColumn<int>("index");
-        QTest::newRow("right before the first") << 0;
-        QTest::newRow("right behind the last") << 19;
+        QTest::newRow("one before the first") << 0;
+        QTest::newRow("one after the last") << 19;
         QTest::newRow("negative") << -1;
     }
 
-    void an_index_outside_is_a_subscript_failure()
+    void an_index_outside_the_bounds_fails_with_subscript()
     {
         QFETCH(int, index);
         checked_array<int, 18, 1> holes;
@@ -58,7 +58,7 @@ private Q_SLOTS:
         }
     }
 
-    void clearing_puts_back_the_initial_values()
+    void clear_sets_every_item_to_its_initial_value()
     {
         checked_array<QString, 2> list;
         list[1] = u"x"_s;

@@ -10,7 +10,7 @@ class test_counts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_count_holds_both_ends_of_its_16_bits()
+    void a_count_has_16_bits()
     {
         int16 count = 32766;
         count = count + 1;
@@ -20,7 +20,7 @@ private Q_SLOTS:
         QCOMPARE(plain(count), -32768);
     }
 
-    void a_count_beyond_16_bits_is_an_overflow()
+    void a_count_beyond_16_bits_fails_with_overflow_and_keeps_its_value()
     {
         int16 count = 32767;
         QVERIFY(failure_of([&] { count = count + 1; }) == failure_kind::overflow);
@@ -31,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { count = 40000; }) == failure_kind::overflow);
     }
 
-    void a_sum_of_two_counts_that_is_kept_in_16_bits_is_checked()
+    void a_sum_beyond_16_bits_that_is_assigned_to_a_count_fails_with_overflow()
     {
         const int16 a = 20000;
         const int16 b = 20000;
@@ -49,14 +49,14 @@ private Q_SLOTS:
         QCOMPARE(plain(amount), 2147483647);
     }
 
-    void an_amount_too_large_for_a_count_is_an_overflow()
+    void an_amount_too_large_for_a_count_fails_with_overflow()
     {
         const int32 amount = 32768;
         int16 count = 0;
         QVERIFY(failure_of([&] { count = amount; }) == failure_kind::overflow);
     }
 
-    void a_failure_leaves_words_behind_for_whoever_is_asked_for_help()
+    void an_overflow_has_details()
     {
         int16 count = 32767;
         try {

@@ -35,7 +35,7 @@ class test_failure_words : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void every_kind_has_words_in_both_languages()
+    void every_kind_has_a_text_in_both_languages()
     {
         QCOMPARE(static_cast<int>(every_kind.back()) + 1, static_cast<int>(every_kind.size()));
         for (const failure_kind kind : every_kind) {
@@ -46,7 +46,7 @@ private Q_SLOTS:
         }
     }
 
-    void no_two_kinds_share_their_words()
+    void no_two_kinds_have_the_same_text()
     {
         QSet<QString> french;
         QSet<QString> english;
@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(english.size(), static_cast<qsizetype>(every_kind.size()));
     }
 
-    void every_kind_says_what_became_of_the_data()
+    void every_text_says_what_the_failure_means_for_the_data()
     {
         for (const failure_kind kind : every_kind) {
             const QString words = failure_words(kind).in(false);
@@ -68,7 +68,7 @@ private Q_SLOTS:
         }
     }
 
-    void a_failure_carries_its_kind_and_its_details()
+    void a_failure_returns_its_kind_and_its_details()
     {
         const run_time_failure failure(failure_kind::misuse, u"rsgames: déjà ouvert"_s);
         QCOMPARE(failure.kind(), failure_kind::misuse);

@@ -11,7 +11,7 @@ class test_language : public QObject {
 private Q_SLOTS:
     void the_program_starts_in_french() { QVERIFY(is_french); }
 
-    void a_text_follows_the_language_of_the_moment()
+    void in_language_returns_the_text_of_the_current_language()
     {
         is_french = true;
         QCOMPARE(in_language(u"Trou", u"Hole"), u"Trou"_s);
@@ -19,7 +19,7 @@ private Q_SLOTS:
         QCOMPARE(in_language(u"Trou", u"Hole"), u"Hole"_s);
     }
 
-    void a_pair_answers_for_a_language_settled_earlier()
+    void a_pair_returns_the_text_of_a_given_language()
     {
         constexpr text_pair label{u"Verges :", u"Yards :"};
         is_french = false;
@@ -27,7 +27,7 @@ private Q_SLOTS:
         QCOMPARE(label.in(false), u"Yards :"_s);
     }
 
-    void slips_and_blanks_stay()
+    void blanks_in_texts_are_kept()
     {
         constexpr text_pair label{u"Putt  :", u" ALL "};
         QCOMPARE(label.in(true), u"Putt  :"_s);

@@ -15,7 +15,7 @@ class test_number_texts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_number_has_its_texts_data()
+    void numbers_are_written_for_report_tables_and_for_boxes_data()
     {
         QTest::addColumn<double>("value");
         QTest::addColumn<QString>("plain_text");
@@ -34,8 +34,8 @@ private Q_SLOTS:
                                 << "0.5";
         QTest::newRow("minus a half") << -0.5 << "-.5"
                                       << "-0.5";
-        QTest::newRow("zeros behind the point") << 0.05 << " .05"
-                                                << "0.05";
+        QTest::newRow("zeros after the point") << 0.05 << " .05"
+                                               << "0.05";
         QTest::newRow("decimals") << 16.95 << " 16.95"
                                   << "16.95";
         QTest::newRow("negative decimals") << -1.2 << "-1.2"
@@ -44,8 +44,8 @@ private Q_SLOTS:
                                               << "0.333333333333333";
         QTest::newRow("15 digits of two thirds") << 200.0 / 3 << " 66.6666666666667"
                                                  << "66.6666666666667";
-        QTest::newRow("the noise of a sum is not shown") << 0.1 + 0.2 << " .3"
-                                                         << "0.3";
+        QTest::newRow("the rounding error of a sum is not shown") << 0.1 + 0.2 << " .3"
+                                                                  << "0.3";
         QTest::newRow("rounding carries to a new digit") << 9.9999999999999999 << " 10"
                                                          << "10";
         QTest::newRow("just below one") << 0.99999999999999989 << " 1"
@@ -60,7 +60,7 @@ private Q_SLOTS:
                                        << "32767";
     }
 
-    void a_number_has_its_texts()
+    void numbers_are_written_for_report_tables_and_for_boxes()
     {
         QFETCH(double, value);
         QFETCH(QString, plain_text);
@@ -69,14 +69,14 @@ private Q_SLOTS:
         QCOMPARE(number_text(value), box_text);
     }
 
-    void both_texts_read_back_as_the_number_data()
+    void reading_either_text_gives_the_number_data()
     {
         QTest::addColumn<double>("value");
         for (const double value : {0.0, 0.5, -0.5, 16.95, -10.0, 366.0, 1e20, 1e-7})
             QTest::addRow("%g", value) << value;
     }
 
-    void both_texts_read_back_as_the_number()
+    void reading_either_text_gives_the_number()
     {
         QFETCH(double, value);
         QCOMPARE(leading_number(plain_number_text(value)), value);
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QLocale::setDefault(before);
     }
 
-    void a_figure_without_bounds_has_no_text()
+    void infinity_and_nan_fail_with_overflow()
     {
         QVERIFY(failure_of([] { plain_number_text(std::numeric_limits<double>::infinity()); }) ==
                 failure_kind::overflow);

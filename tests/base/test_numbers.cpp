@@ -12,7 +12,7 @@ class test_numbers : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_number_at_the_head_of_a_text_is_read_data()
+    void the_number_at_the_start_of_a_text_is_read_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("number");
@@ -29,7 +29,7 @@ private Q_SLOTS:
         QTest::newRow("decimals") << "70.5" << 70.5;
         QTest::newRow("no digit before the point") << ".5" << 0.5;
         QTest::newRow("minus and no digit before the point") << "-.5" << -0.5;
-        QTest::newRow("no digit behind the point") << "5." << 5.0;
+        QTest::newRow("no digit after the point") << "5." << 5.0;
         QTest::newRow("minus") << "-12" << -12.0;
         QTest::newRow("plus") << "+12" << 12.0;
         QTest::newRow("a sign alone") << "-" << 0.0;
@@ -40,22 +40,22 @@ private Q_SLOTS:
         QTest::newRow("exponent without digits") << "4e" << 4.0;
         QTest::newRow("exponent with a sign only") << "4e+" << 4.0;
         QTest::newRow("an exponent alone") << "e5" << 0.0;
-        QTest::newRow("unit behind") << "20 C" << 20.0;
+        QTest::newRow("unit after the number") << "20 C" << 20.0;
         QTest::newRow("leading zeros") << "007" << 7.0;
         QTest::newRow("plain number text") << " .5" << 0.5;
         QTest::newRow("digits of other scripts are no digits") << QString::fromUtf8("٣") << 0.0;
-        QTest::newRow("words for no number") << "nan" << 0.0;
-        QTest::newRow("words for no bound") << "inf" << 0.0;
+        QTest::newRow("nan is not a number") << "nan" << 0.0;
+        QTest::newRow("inf is not a number") << "inf" << 0.0;
     }
 
-    void the_number_at_the_head_of_a_text_is_read()
+    void the_number_at_the_start_of_a_text_is_read()
     {
         QFETCH(QString, text);
         QFETCH(double, number);
         QCOMPARE(leading_number(text), number);
     }
 
-    void a_text_is_numeric_when_it_is_one_number_whole_data()
+    void a_text_is_numeric_if_all_of_it_is_one_number_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("numeric");
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QTest::newRow("no digit before the point") << ".5" << true;
         QTest::newRow("empty") << "" << false;
         QTest::newRow("blanks") << "  " << false;
-        QTest::newRow("letter behind") << "3a" << false;
+        QTest::newRow("letter after the number") << "3a" << false;
         QTest::newRow("two numbers") << "1 2" << false;
         QTest::newRow("sign alone") << "-" << false;
         QTest::newRow("point alone") << "." << false;
@@ -76,14 +76,14 @@ private Q_SLOTS:
         QTest::newRow("comma") << "1,5" << false;
     }
 
-    void a_text_is_numeric_when_it_is_one_number_whole()
+    void a_text_is_numeric_if_all_of_it_is_one_number()
     {
         QFETCH(QString, text);
         QFETCH(bool, numeric);
         QCOMPARE(is_numeric(text), numeric);
     }
 
-    void rounding_goes_to_the_nearest_and_ties_go_to_even_data()
+    void values_are_rounded_to_the_nearest_and_ties_to_even_data()
     {
         QTest::addColumn<double>("value");
         QTest::addColumn<int>("whole");
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QTest::newRow("tie at the lower end") << -32768.5 << -32768;
     }
 
-    void rounding_goes_to_the_nearest_and_ties_go_to_even()
+    void values_are_rounded_to_the_nearest_and_ties_to_even()
     {
         QFETCH(double, value);
         QFETCH(int, whole);
@@ -111,20 +111,20 @@ private Q_SLOTS:
         QCOMPARE(round_half_even(value), static_cast<double>(whole));
     }
 
-    void a_value_that_does_not_fit_is_an_overflow_data()
+    void a_value_that_does_not_fit_fails_with_overflow_data()
     {
         QTest::addColumn<double>("value");
         QTest::addColumn<bool>("fits_32_bits");
-        QTest::newRow("one too many") << 32768.0 << true;
-        QTest::newRow("tie that rounds out") << 32767.5 << true;
-        QTest::newRow("one too few") << -32769.0 << true;
+        QTest::newRow("one above 16 bits") << 32768.0 << true;
+        QTest::newRow("tie that is rounded to one above") << 32767.5 << true;
+        QTest::newRow("one below 16 bits") << -32769.0 << true;
         QTest::newRow("beyond 32 bits") << 2147483648.0 << false;
         QTest::newRow("far below") << -1e300 << false;
-        QTest::newRow("no bound") << std::numeric_limits<double>::infinity() << false;
-        QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << false;
+        QTest::newRow("infinity") << std::numeric_limits<double>::infinity() << false;
+        QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN() << false;
     }
 
-    void a_value_that_does_not_fit_is_an_overflow()
+    void a_value_that_does_not_fit_fails_with_overflow()
     {
         QFETCH(double, value);
         QFETCH(bool, fits_32_bits);
@@ -132,18 +132,18 @@ private Q_SLOTS:
         QCOMPARE(failure_of([&] { to_int32(value); }) == failure_kind::overflow, !fits_32_bits);
     }
 
-    void a_box_text_becomes_a_count_data()
+    void a_text_of_a_box_is_converted_to_a_count_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("count");
         QTest::newRow("empty") << "" << 0;
-        QTest::newRow("letter behind") << "3a" << 3;
+        QTest::newRow("letter after the number") << "3a" << 3;
         QTest::newRow("tie down to even") << "2.5" << 2;
         QTest::newRow("tie up to even") << "3.5" << 4;
         QTest::newRow("minus") << "-4" << -4;
     }
 
-    void a_box_text_becomes_a_count()
+    void a_text_of_a_box_is_converted_to_a_count()
     {
         QFETCH(QString, text);
         QFETCH(int, count);
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(plain(to_int32(text)), count);
     }
 
-    void a_box_text_too_large_is_an_overflow()
+    void a_text_of_a_box_with_a_number_too_large_fails_with_overflow()
     {
         QVERIFY(failure_of([] { to_int16(u"99999"); }) == failure_kind::overflow);
         QCOMPARE(plain(to_int32(u"99999")), 99999);

@@ -13,8 +13,8 @@ using namespace verdane;
 
 namespace {
 
-/// The exact rule in whole numbers, for 2^-5 <= |value| < 2^45: the 53 bits of the double times 10, divided
-/// by a power of two, the rest compared with one half.
+/// The rule in whole-number arithmetic, for 2^-5 <= |value| < 2^45: the 53 bits of the double are multiplied
+/// by 10 and divided by a power of two, and the remainder is compared with one half.
 double tenth_in_whole_numbers(double value)
 {
     int exponent = 0;
@@ -29,7 +29,7 @@ double tenth_in_whole_numbers(double value)
     return std::copysign(static_cast<double>(tenths) / 10, value);
 }
 
-/// The same by the C library, which rounds the exact value of the double as well.
+/// The result of the C library, which rounds the exact value of the double, too.
 double tenth_in_digits(double value)
 {
     std::array<char, 400> digits{};
@@ -78,26 +78,23 @@ private Q_SLOTS:
         row("the largest double", std::numeric_limits<double>::max(), std::numeric_limits<double>::max());
         row("the lowest double", std::numeric_limits<double>::lowest(),
             std::numeric_limits<double>::lowest());
-        row("no bound", std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity());
+        row("infinity", std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity());
     }
     void a_double_is_rounded_by_its_exact_value()
     {
         QFETCH(double, value);
         QFETCH(double, rounded);
-        // Not QCOMPARE, which takes neighbouring doubles for equal.
+        // QCOMPARE would accept a neighbouring double.
         QVERIFY2(round_to_tenth(value) == rounded, qPrintable(plain_text(round_to_tenth(value))));
     }
 
-    void what_rounds_to_0_equals_0_with_either_sign()
+    void values_that_round_to_0_give_0_with_either_sign()
     {
         for (const double value : {-0.0, -0.04, -std::numeric_limits<double>::denorm_min()})
             QVERIFY(round_to_tenth(value) == 0);
     }
 
-    void what_is_no_number_stays_none()
-    {
-        QVERIFY(std::isnan(round_to_tenth(std::numeric_limits<double>::quiet_NaN())));
-    }
+    void nan_stays_nan() { QVERIFY(std::isnan(round_to_tenth(std::numeric_limits<double>::quiet_NaN()))); }
 
     void doubles_of_every_size_agree_with_whole_number_arithmetic()
     {
@@ -123,7 +120,7 @@ private Q_SLOTS:
         }
     }
 
-    void any_bits_that_are_a_number_agree_with_the_library()
+    void random_doubles_agree_with_the_c_library()
     {
         std::mt19937_64 engine(1225);
         for (int i = 0; i < 50000; ++i) {

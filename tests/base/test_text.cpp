@@ -21,9 +21,9 @@ private Q_SLOTS:
                                       << "";
         QTest::newRow("empty") << ""
                                << "";
-        QTest::newRow("a tab stays") << " \tab\n"
-                                     << "\tab\n";
-        QTest::newRow("a hard space stays") << u"\u00A0ab "_s << u"\u00A0ab"_s;
+        QTest::newRow("a tab is kept") << " \tab\n"
+                                       << "\tab\n";
+        QTest::newRow("a no-break space is kept") << u"\u00A0ab "_s << u"\u00A0ab"_s;
     }
 
     void only_blanks_at_the_ends_are_trimmed()
@@ -33,7 +33,7 @@ private Q_SLOTS:
         QCOMPARE(trimmed_blanks(text).toString(), trimmed);
     }
 
-    void capitals_go_letter_by_letter_data()
+    void each_letter_is_converted_on_its_own_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("capitals");
@@ -46,7 +46,7 @@ private Q_SLOTS:
                                << "";
     }
 
-    void capitals_go_letter_by_letter()
+    void each_letter_is_converted_on_its_own()
     {
         QFETCH(QString, text);
         QFETCH(QString, capitals);

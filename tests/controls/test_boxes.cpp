@@ -24,17 +24,17 @@ class test_boxes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_box_shows_its_title_and_none_where_it_has_none_data()
+    void a_message_box_shows_its_title_or_none_data()
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("on_screen");
         QTest::newRow("title") << "Verdane"
                                << "Verdane";
-        // Anything shorter would be replaced by the name of the program.
+        // The toolkit would replace an empty title by the name of the program.
         QTest::newRow("none") << ""
                               << " ";
     }
-    void a_box_shows_its_title_and_none_where_it_has_none()
+    void a_message_box_shows_its_title_or_none()
     {
         QFETCH(QString, title);
         QFETCH(QString, on_screen);

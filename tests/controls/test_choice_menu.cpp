@@ -11,7 +11,7 @@ namespace {
 
 std::chrono::milliseconds now = 0ms;
 
-/// A menu of clubs that is shown, and what was chosen from it.
+/// A menu of clubs that is shown, and the name of the chosen one.
 class club_menu : public choice_menu {
 public:
     club_menu()
@@ -46,7 +46,7 @@ private Q_SLOTS:
         choice_menu::clock = [] { return now; };
     }
 
-    void letters_within_a_second_are_one_beginning_data()
+    void letters_typed_within_a_second_are_combined_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("club");
@@ -57,7 +57,7 @@ private Q_SLOTS:
         QTest::newRow("the only one with its letter") << u"s"_s << u"SW"_s;
         QTest::newRow("without its blank") << u"bois3"_s << u"Bois 3"_s;
     }
-    void letters_within_a_second_are_one_beginning()
+    void letters_typed_within_a_second_are_combined()
     {
         QFETCH(QString, typed);
         QFETCH(QString, club);
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(!menu.isVisible());
     }
 
-    void a_letter_after_more_than_a_second_is_a_new_beginning()
+    void a_letter_after_more_than_a_second_starts_a_new_search()
     {
         club_menu menu;
         menu.type('b');
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(menu.chosen, u"SW"_s);
     }
 
-    void a_letter_that_continues_nothing_is_a_new_beginning()
+    void a_letter_with_which_no_combination_begins_starts_a_new_search()
     {
         club_menu menu;
         menu.type('p');
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(menu.chosen, u"PW"_s);
     }
 
-    void a_beginning_that_several_have_stays_on_the_marked_entry()
+    void a_second_letter_keeps_the_marked_entry_if_it_matches()
     {
         club_menu menu;
         menu.type('b');
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(menu.chosen, QString());
     }
 
-    void a_menu_that_opens_again_starts_a_new_beginning()
+    void a_menu_that_opens_again_starts_a_new_search()
     {
         club_menu menu;
         menu.type('p');

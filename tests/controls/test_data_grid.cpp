@@ -67,7 +67,7 @@ class test_data_grid : public QObject {
 
     store_folder* folder_ = nullptr;
 
-    /// Runs a script on the window and gives back the columns that were told as updated.
+    /// Runs a script on the window and returns the columns that `column_updated` was called with.
     QList<int> play_on_grid(const std::function<void(hand&)>& script)
     {
         grid_form window;
@@ -97,7 +97,7 @@ private Q_SLOTS:
     }
     void cleanup() { delete folder_; }
 
-    void typing_replaces_the_cell_and_Enter_goes_on()
+    void typing_replaces_the_text_and_Enter_moves_to_the_next_cell()
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 1, 2);
@@ -112,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(updated, QList<int>{2});
     }
 
-    void a_letter_rings_and_opens_nothing()
+    void a_letter_in_a_column_of_digits_rings_the_bell()
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(updated, QList<int>{2});
     }
 
-    void Escape_drops_what_was_typed_and_leaves_the_window_open()
+    void Escape_discards_the_text_and_leaves_the_window_open()
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(updated.isEmpty());
     }
 
-    void a_click_elsewhere_takes_what_was_typed()
+    void a_click_elsewhere_writes_the_text()
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(updated, (QList<int>{2, 2}));
     }
 
-    void opening_a_cell_and_changing_nothing_updates_nothing()
+    void a_cell_opened_and_not_changed_is_not_updated()
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
@@ -168,7 +168,7 @@ private Q_SLOTS:
         QVERIFY(updated.isEmpty());
     }
 
-    void a_figure_that_does_not_fit_rings_and_changes_nothing()
+    void a_number_that_does_not_fit_rings_the_bell_and_is_not_written()
     {
         const auto updated = play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 2);
@@ -225,7 +225,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_letter_chooses_from_the_menu()
+    void a_letter_chooses_an_entry_of_the_menu()
     {
         play_on_grid([&](hand& user) {
             user.click_cell(grid, 1, 1);
@@ -239,7 +239,7 @@ private Q_SLOTS:
         });
     }
 
-    void Tab_walks_the_row_and_leaves_the_grid_behind_its_last_cell()
+    void Tab_moves_along_the_row_and_leaves_the_grid_after_its_last_cell()
     {
         play_on_grid([&](hand& user) {
             user.key(Qt::Key_Tab);
@@ -250,7 +250,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_cursor_moves_the_recordset()
+    void moving_the_cursor_moves_the_recordset()
     {
         play_on_grid([&](hand& user) {
             user.click_cell(grid, 2, 1);
@@ -260,7 +260,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_locked_cell_rings()
+    void typing_in_a_locked_cell_rings_the_bell()
     {
         play_on_grid([&](hand& user) {
             user.click_cell(grid, 0, 3);

@@ -34,7 +34,7 @@ struct two_boxes {
         window.resize(400, 100);
         window.show();
         window.activateWindow();
-        // The focus reaches a box of the active window only.
+        // A box can have the focus only in the active window.
         is_active = QTest::qWaitForWindowActive(&window);
         other->setFocus();
     }
@@ -61,8 +61,8 @@ class test_entering : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_selection_holds_when_setFocus_returns_data() { ways_into_a_box(); }
-    void the_selection_holds_when_setFocus_returns()
+    void the_text_is_selected_when_setFocus_returns_data() { ways_into_a_box(); }
+    void the_text_is_selected_when_setFocus_returns()
     {
         QFETCH(Qt::FocusReason, reason);
         const two_boxes boxes;
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.box->selectedText(), u"1234"_s);
     }
 
-    void a_mouse_that_drags_selects_what_it_passes()
+    void dragging_the_mouse_selects_the_text_between()
     {
         const two_boxes boxes;
         QTest::mousePress(boxes.box, Qt::LeftButton, Qt::NoModifier, boxes.before(2));
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.box->selectedText(), u"3456"_s);
     }
 
-    void the_right_button_leaves_the_selection_as_it_is_also_when_dragged()
+    void dragging_with_the_right_button_keeps_the_selection()
     {
         const two_boxes boxes;
         QTest::mousePress(boxes.box, Qt::RightButton, Qt::NoModifier, boxes.before(2));
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.box->selectedText(), u"123456"_s);
     }
 
-    void a_finger_selects_like_a_click()
+    void a_touch_selects_as_a_click_does()
     {
         two_boxes boxes;
         const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.box->cursorPosition(), 5);
     }
 
-    void a_click_after_an_entry_by_key_sets_the_cursor()
+    void a_click_into_a_box_entered_by_key_sets_the_cursor()
     {
         const two_boxes boxes;
         boxes.box->setFocus(Qt::TabFocusReason);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(boxes.box->cursorPosition(), 1);
     }
 
-    void the_menu_of_the_box_leaves_the_selection_as_it_is()
+    void the_context_menu_keeps_the_selection()
     {
         const two_boxes boxes;
         boxes.box->setFocus(Qt::TabFocusReason);

@@ -20,11 +20,11 @@ using verdane::testing::play;
 
 namespace {
 
-/// The child process: fails in an event and prints what the box says before it is answered.
-int fail_in_an_event(const QString& settled)
+/// The child process: fails in an event, prints the text of the message box and closes it.
+int fail_in_an_event(const QString& language)
 {
-    if (settled != u"not")
-        set_interface_language(settled == u"fr");
+    if (language != u"not")
+        set_interface_language(language == u"fr");
     play([] { run_event([] { throw run_time_failure(failure_kind::store_full, u"insert into x"_s); }); },
          [](hand& user) {
              user.wait_for_window(u"failure_box"_s);
@@ -36,7 +36,7 @@ int fail_in_an_event(const QString& settled)
              });
              user.key(Qt::Key_Return);
          });
-    return 77;  // not reached: the process has ended with the failure
+    return 77;  // Not reached: the failure ends the process.
 }
 
 struct ended {
@@ -44,10 +44,10 @@ struct ended {
     QString said;
 };
 
-ended failed_child(const QString& settled)
+ended failed_child(const QString& language)
 {
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {u"--fail"_s, settled});
+    child.start(QCoreApplication::applicationFilePath(), {u"--fail"_s, language});
     child.waitForFinished(60000);
     return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
             QString::fromUtf8(child.readAllStandardOutput())};
@@ -59,22 +59,22 @@ class test_failure_guard : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_failure_is_told_in_plain_words_and_ends_the_program_with_status_1_data()
+    void a_failure_is_shown_and_ends_the_program_with_status_1_data()
     {
-        QTest::addColumn<QString>("settled");
+        QTest::addColumn<QString>("language");
         QTest::addColumn<bool>("french");
         QTest::addColumn<bool>("english");
         QTest::newRow("French") << "fr" << true << false;
         QTest::newRow("English") << "en" << false << true;
-        QTest::newRow("language not settled yet") << "not" << true << true;
+        QTest::newRow("no language set yet") << "not" << true << true;
     }
 
-    void a_failure_is_told_in_plain_words_and_ends_the_program_with_status_1()
+    void a_failure_is_shown_and_ends_the_program_with_status_1()
     {
-        QFETCH(QString, settled);
+        QFETCH(QString, language);
         QFETCH(bool, french);
         QFETCH(bool, english);
-        const ended child = failed_child(settled);
+        const ended child = failed_child(language);
         QCOMPARE(child.status, 1);
         const text_pair words = failure_words(failure_kind::store_full);
         QCOMPARE(child.said.contains(words.french), french);
@@ -82,16 +82,16 @@ private Q_SLOTS:
         QVERIFY2(child.said.contains(u"|3|insert into x"_s), qPrintable(child.said));
     }
 
-    void what_must_always_finish_says_whether_it_went_through()
+    void finishes_without_failure_returns_whether_there_was_none()
     {
         QVERIFY(finishes_without_failure([] {}));
         QVERIFY(!finishes_without_failure([] { throw run_time_failure(failure_kind::misuse, QString()); }));
     }
 
-    void only_what_the_store_brings_about_is_forgiven_where_the_store_is_data()
+    void finishes_without_store_failure_ignores_failures_of_the_store_only_data()
     {
         QTest::addColumn<failure_kind>("kind");
-        QTest::addColumn<bool>("forgiven");
+        QTest::addColumn<bool>("ignored");
         QTest::newRow("refused row") << failure_kind::store_other << true;
         QTest::newRow("full disk") << failure_kind::store_full << true;
         QTest::newRow("missing table") << failure_kind::missing_table << true;
@@ -100,16 +100,16 @@ private Q_SLOTS:
         QTest::newRow("index outside its list") << failure_kind::subscript << false;
         QTest::newRow("no value") << failure_kind::invalid_null << false;
     }
-    void only_what_the_store_brings_about_is_forgiven_where_the_store_is()
+    void finishes_without_store_failure_ignores_failures_of_the_store_only()
     {
         QFETCH(failure_kind, kind);
-        QFETCH(bool, forgiven);
+        QFETCH(bool, ignored);
         bool finished = true;
         const auto seen = failure_of([&] {
             finished = finishes_without_store_failure([&] { throw run_time_failure(kind, QString()); });
         });
-        QCOMPARE(!seen.has_value(), forgiven);
-        QCOMPARE(finished, !forgiven);
+        QCOMPARE(!seen.has_value(), ignored);
+        QCOMPARE(finished, !ignored);
     }
 };
 

@@ -20,7 +20,7 @@ using verdane::testing::play;
 
 namespace {
 
-/// A window that opens another of its kind and counts what happens to it.
+/// A window that opens another one and counts its events.
 class trial : public Form {
 public:
     explicit trial(QStringView family) : Form(family)
@@ -68,7 +68,7 @@ class test_form : public QObject {
 private Q_SLOTS:
     void init() { is_french = true; }
 
-    void the_english_twin_has_the_name_with_en()
+    void the_name_of_the_english_twin_ends_in_en()
     {
         QCOMPARE(trial(u"f_trial").objectName(), u"f_trial"_s);
         is_french = false;
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(trial(u"f_trial").caption(u"oui", u"yes"), u"yes"_s);
     }
 
-    void showing_activates_once_and_a_message_box_does_not()
+    void a_window_is_activated_when_shown_and_not_after_a_message_box()
     {
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(window.unloads, 1);
     }
 
-    void a_button_of_long_work_takes_a_double_click_as_one()
+    void a_double_click_on_a_button_of_long_work_acts_once()
     {
         trial window(u"f_trial");
         take_double_click_as_one(*window.asker);
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(window.notices, 1);
     }
 
-    void coming_back_from_another_window_activates_again()
+    void a_window_is_activated_again_when_another_one_is_closed()
     {
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(window.unloads, 1);
     }
 
-    void unloading_twice_does_no_harm()
+    void a_second_unload_does_nothing()
     {
         trial window(u"f_trial");
         window.unload();
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QCOMPARE(window.unloads, 1);
     }
 
-    void escape_leaves_a_box_before_it_cancels()
+    void escape_clicks_the_cancel_button_only_if_the_box_may_be_left()
     {
         trial window(u"f_trial");
         window.cancel_by_asker();
@@ -182,7 +182,7 @@ private Q_SLOTS:
              });
     }
 
-    void escape_is_the_title_bars_close_box_in_a_window_without_a_cancel_button()
+    void escape_closes_a_window_without_a_cancel_button()
     {
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(window.unloads, 1);
     }
 
-    void enter_presses_the_button_with_the_focus_and_no_other()
+    void enter_clicks_only_the_button_with_the_focus()
     {
         trial window(u"f_trial");
         play([&] { window.show_modal(); },
@@ -208,7 +208,7 @@ private Q_SLOTS:
              });
     }
 
-    void the_window_at_work_and_the_window_of_a_family_are_found()
+    void the_active_window_and_the_window_of_a_family_are_found()
     {
         is_french = false;
         trial window(u"f_trial");
@@ -226,7 +226,7 @@ private Q_SLOTS:
         QCOMPARE(open_form(u"f_trial"), nullptr);
     }
 
-    void the_current_window_reads_null_once_it_is_gone()
+    void the_current_window_is_null_after_it_is_deleted()
     {
         {
             trial window(u"f_trial");
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QVERIFY(!current_form);
     }
 
-    void a_member_that_an_array_lacks_is_a_failure()
+    void an_index_without_a_control_is_a_failure()
     {
         control_array<QLineEdit> boxes(u"text_vrd");
         QLineEdit box;

@@ -29,7 +29,7 @@ void use_palette(bool dark)
     QApplication::setPalette(palette);
 }
 
-/// A grid with a club from a menu and a distance that is typed, and a button beside it.
+/// A grid with a column for a club, chosen from a menu, and one for a distance, and a button below it.
 struct grid_window {
     explicit grid_window(int rows)
     {
@@ -79,7 +79,7 @@ bool has_upright_line(const QImage& cell, const QColor& color)
     return false;
 }
 
-/// How wide a frame of one colour is at all four sides; 0 when a side lacks it.
+/// The width of a frame of one colour; 0 if one of the four sides lacks it.
 int width_of_frame(const QImage& cell, const QColor& color)
 {
     const int right = cell.width() - 1;
@@ -101,15 +101,15 @@ void light_and_dark()
 
 }  // namespace
 
-/// How a grid shows where the cursor is, and its head.
+/// How a grid paints the cursor and its header.
 class test_grid_look : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup() { use_palette(false); }
 
-    void the_cell_of_the_cursor_has_a_frame_and_keeps_its_ground_data() { light_and_dark(); }
-    void the_cell_of_the_cursor_has_a_frame_and_keeps_its_ground()
+    void the_cell_with_the_cursor_has_a_frame_and_keeps_its_background_data() { light_and_dark(); }
+    void the_cell_with_the_cursor_has_a_frame_and_keeps_its_background()
     {
         QFETCH(bool, dark);
         use_palette(dark);
@@ -132,8 +132,8 @@ private Q_SLOTS:
             QCOMPARE(width_of_frame(grid.picture_of(other), grid.color(QPalette::Highlight)), 0);
     }
 
-    void a_caret_shows_where_typing_starts_data() { light_and_dark(); }
-    void a_caret_shows_where_typing_starts()
+    void a_cell_that_can_be_edited_shows_a_caret_data() { light_and_dark(); }
+    void a_cell_that_can_be_edited_shows_a_caret()
     {
         QFETCH(bool, dark);
         use_palette(dark);
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QVERIFY(!has_upright_line(grid.picture_of_cursor(), grid.color(QPalette::Text)));
     }
 
-    void while_another_control_has_the_keys_the_frame_is_thin_and_the_caret_hidden()
+    void the_frame_is_thin_and_the_caret_hidden_while_another_control_has_the_focus()
     {
         const grid_window grid(3);
         grid.cells->set_Col(distance);
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QVERIFY(!has_upright_line(cell, grid.color(QPalette::Text)));
     }
 
-    void the_frame_stays_around_the_box_that_is_typed_into()
+    void the_frame_is_visible_while_the_cell_is_edited()
     {
         const grid_window grid(3);
         grid.cells->set_Col(distance);
@@ -163,8 +163,8 @@ private Q_SLOTS:
         QCOMPARE(width_of_frame(grid.picture_of_cursor(), grid.color(QPalette::Highlight)), 2);
     }
 
-    void the_head_fills_the_width_of_the_grid_data() { light_and_dark(); }
-    void the_head_fills_the_width_of_the_grid()
+    void the_header_fills_the_width_of_the_grid_data() { light_and_dark(); }
+    void the_header_fills_the_width_of_the_grid()
     {
         QFETCH(bool, dark);
         use_palette(dark);
@@ -173,13 +173,13 @@ private Q_SLOTS:
         const int beside_columns = grid.cells->horizontalHeader()->length() + 20;
         QVERIFY(beside_columns < head.width());
         for (int y = 0; y < head.height(); ++y) {
-            // The third pixel of a column is left of its caption.
+            // The third pixel of a column is outside its caption.
             QCOMPARE(head.pixelColor(beside_columns, y), head.pixelColor(2, y));
             QCOMPARE(head.pixelColor(head.width() - 1, y), head.pixelColor(2, y));
         }
     }
 
-    void above_the_scroll_bar_nothing_is_left_over()
+    void the_scroll_bar_extends_to_the_corner_of_the_grid()
     {
         const grid_window grid(40);
         const QScrollBar& bar = *grid.cells->verticalScrollBar();

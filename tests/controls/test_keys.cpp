@@ -17,7 +17,7 @@ using verdane::testing::play;
 
 namespace {
 
-/// One box that takes digits only; "9" is put in by the handler as "(9)".
+/// A window with a box for digits, whose handler inserts "9" as "(9)".
 class digits_form : public Form {
 public:
     digits_form() : Form(u"f_digits")
@@ -64,7 +64,7 @@ class test_keys : public QObject {
     }
 
 private Q_SLOTS:
-    void only_what_passes_reaches_the_box_and_the_rest_rings_data()
+    void refused_characters_are_not_inserted_and_ring_the_bell_data()
     {
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QString>("text");
@@ -77,11 +77,11 @@ private Q_SLOTS:
         QTest::newRow("a digit of another script") << u"٣"_s << "" << 1;
         QTest::newRow("signs and quotes") << "-1.'\""
                                           << "1" << 4;
-        QTest::newRow("a key the handler takes") << "19"
-                                                 << "1(9)" << 0;
+        QTest::newRow("a key that the handler inserts") << "19"
+                                                        << "1(9)" << 0;
     }
 
-    void only_what_passes_reaches_the_box_and_the_rest_rings()
+    void refused_characters_are_not_inserted_and_ring_the_bell()
     {
         QFETCH(QString, keys);
         QFETCH(QString, text);
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(rung, bells);
     }
 
-    void commands_of_the_keyboard_are_no_characters()
+    void keys_that_are_no_characters_do_not_pass_the_filter()
     {
         digits_form window;
         const int before = bells_rung();
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(bells_rung(), before);
     }
 
-    void pasted_text_passes_the_filter_whole_or_not_at_all_data()
+    void pasted_text_is_inserted_only_if_all_characters_pass_data()
     {
         QTest::addColumn<QString>("pasted");
         QTest::addColumn<QString>("taken");
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QTest::newRow("digits of another script") << "٣٤"
                                                   << "" << 1;
     }
-    void pasted_text_passes_the_filter_whole_or_not_at_all()
+    void pasted_text_is_inserted_only_if_all_characters_pass()
     {
         QFETCH(QString, pasted);
         QFETCH(QString, taken);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(bells_rung() - before, bells);
     }
 
-    void what_an_input_method_composes_is_filtered_too()
+    void composed_characters_pass_the_filter()
     {
         QLineEdit box;
         filter_keys(box,
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(box.text(), u"7"_s);
     }
 
-    void entering_selects_so_that_a_new_figure_replaces_the_old()
+    void the_text_of_a_box_is_selected_when_it_gains_the_focus()
     {
         digits_form window;
         window.box->setText(u"123456"_s);

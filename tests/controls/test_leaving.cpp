@@ -19,7 +19,7 @@ using verdane::testing::play;
 
 namespace {
 
-/// A box that is left only while it holds "1"; a refusal says so.
+/// A window with a box that may be left only if its text is "1"; otherwise a message box says so.
 class careful_form : public Form {
 public:
     careful_form() : Form(u"f_careful")
@@ -72,7 +72,7 @@ class test_leaving : public QObject {
     }
 
 private Q_SLOTS:
-    void an_allowed_box_is_left_by_tab_and_asked_once()
+    void tab_leaves_a_box_that_allows_it_and_checks_once()
     {
         careful_form window;
         in_window(window, [](hand& user) {
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(window.asked, 1);
     }
 
-    void a_refused_box_keeps_the_focus_on_tab()
+    void a_box_that_refuses_keeps_the_focus_on_tab()
     {
         careful_form window;
         in_window(window, [](hand& user) {
@@ -95,7 +95,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_refusal_keeps_a_button_from_being_clicked()
+    void a_click_on_a_button_has_no_effect_if_the_box_refuses()
     {
         careful_form window;
         in_window(window, [](hand& user) {
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(window.presses, 0);
     }
 
-    void a_refusal_keeps_the_row_of_a_list_from_being_clicked()
+    void a_click_on_a_line_of_a_list_has_no_effect_if_the_box_refuses()
     {
         careful_form window;
         in_window(window, [](hand& user) {
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(window.rows->selectedItems().isEmpty());
     }
 
-    void a_box_that_refuses_a_click_keeps_the_selection_that_the_refusal_makes()
+    void a_box_that_refuses_a_click_keeps_its_selection()
     {
         careful_form window;
         in_window(window, [](hand& user) {
@@ -131,7 +131,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_refusal_keeps_a_short_cut_from_pressing_a_button()
+    void a_shortcut_has_no_effect_if_the_box_refuses()
     {
         careful_form window;
         in_window(window, [](hand& user) {
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(window.presses, 0);
     }
 
-    void an_allowed_box_lets_the_click_through()
+    void a_click_on_a_button_acts_if_the_box_may_be_left()
     {
         careful_form window;
         in_window(window, [](hand& user) {
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(window.presses, 1);
     }
 
-    void closing_the_window_asks_nothing()
+    void closing_the_window_does_not_check_the_box()
     {
         careful_form window;
         in_window(window, [](hand& user) { user.type(u"7"_s); });

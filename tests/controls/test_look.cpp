@@ -22,7 +22,7 @@ double luminance(const QColor& colour)
            0.0722 * linear(colour.blueF());
 }
 
-/// 1 for equal colours, 21 for black on white; text is easy to read from 4.5.
+/// The contrast ratio: 1 for equal colours, 21 for black on white. Text needs 4.5.
 double contrast(const QColor& one, const QColor& other)
 {
     const double light = std::max(luminance(one), luminance(other));
@@ -59,13 +59,13 @@ private Q_SLOTS:
     void init() { before_ = QApplication::palette(); }
     void cleanup() { QApplication::setPalette(before_); }
 
-    void a_figure_differs_from_the_window_and_from_boxes_for_typing_data()
+    void the_background_of_a_figure_differs_from_that_of_windows_and_of_boxes_data()
     {
         QTest::addColumn<bool>("dark");
         QTest::newRow("light") << false;
         QTest::newRow("dark") << true;
     }
-    void a_figure_differs_from_the_window_and_from_boxes_for_typing()
+    void the_background_of_a_figure_differs_from_that_of_windows_and_of_boxes()
     {
         QFETCH(bool, dark);
         QApplication::setPalette(palette_of(dark));
@@ -73,7 +73,7 @@ private Q_SLOTS:
         check_figure(*figure);
     }
 
-    void a_figure_follows_a_change_of_the_palette()
+    void the_background_of_a_figure_follows_the_palette()
     {
         QApplication::setPalette(palette_of(false));
         QWidget window;

@@ -21,7 +21,7 @@ std::vector<bound_column> shot_columns()
             {u"MISSED"_s, u"Raté"_s, false, u"Oui"_s, u"Non"_s}};
 }
 
-/// Three shots of one hole in the store, and a model on them with the toolkit's checker at its heels.
+/// Three shots of one hole in the store, and a model bound to them, checked by QAbstractItemModelTester.
 struct bound_shots {
     bound_shots()
     {
@@ -46,7 +46,7 @@ class test_recordset_model : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void it_shows_rows_captions_and_words()
+    void it_shows_rows_captions_and_texts_of_yes_and_no()
     {
         const bound_shots shots;
         QCOMPARE(shots.model.rowCount(), 3);
@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(shots.shown(2, 3), u"Non"_s);
     }
 
-    void unbound_it_has_no_rows()
+    void an_unbound_model_has_no_rows()
     {
         bound_shots shots;
         shots.model.unbind();
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(shots.model.rowCount(), 3);
     }
 
-    void bound_to_a_closed_recordset_it_has_no_rows_until_that_opens()
+    void a_model_of_a_closed_recordset_has_no_rows_until_it_is_opened_and_refreshed()
     {
         bound_shots shots;
         shots.source.Close();
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(shots.model.rowCount(), 3);
     }
 
-    void it_follows_rows_that_come_and_go_behind_its_back()
+    void refresh_shows_rows_added_and_removed_by_other_code()
     {
         bound_shots shots;
         shots.source.AddNew();
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(shots.shown(0, 0), u"3"_s);
     }
 
-    void writing_moves_the_recordset_and_leaving_commits()
+    void writing_makes_the_row_current_and_leaving_it_commits()
     {
         bound_shots shots;
         QVERIFY(shots.model.setData(shots.model.index(1, 2), u"45"_s));
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(shots.store.number(u"select after from Stat_rounds where shot = 2"_s), 45);
     }
 
-    void a_row_is_finished_once_before_it_is_committed()
+    void before_row_commit_is_called_once_before_the_commit()
     {
         bound_shots shots;
         int finished = 0;
@@ -133,15 +133,15 @@ private Q_SLOTS:
         QVERIFY(!shots.source.pending());
     }
 
-    void a_text_that_the_column_cannot_take_is_not_written_data()
+    void a_text_that_is_not_valid_in_the_column_is_not_written_data()
     {
         QTest::addColumn<int>("column");
         QTest::addColumn<QString>("text");
-        QTest::newRow("no number") << 2 << u"12a"_s;
+        QTest::newRow("not a number") << 2 << u"12a"_s;
         QTest::newRow("too large") << 2 << u"32768"_s;
-        QTest::newRow("no word of yes and no") << 3 << u"peut-être"_s;
+        QTest::newRow("neither yes nor no") << 3 << u"peut-être"_s;
     }
-    void a_text_that_the_column_cannot_take_is_not_written()
+    void a_text_that_is_not_valid_in_the_column_is_not_written()
     {
         QFETCH(int, column);
         QFETCH(QString, text);
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(shots.source.Fields(u"after").is_null());
     }
 
-    void the_words_write_yes_and_no()
+    void the_texts_of_yes_and_no_are_written_as_values()
     {
         bound_shots shots;
         QVERIFY(shots.model.setData(shots.model.index(0, 3), u"Oui"_s));
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QVERIFY(!shots.source.Fields(u"missed").yes());
     }
 
-    void a_row_that_is_not_there_is_neither_entered_nor_written()
+    void a_row_beyond_the_last_is_neither_made_current_nor_written()
     {
         bound_shots shots;
         shots.model.move_to(7);
@@ -174,7 +174,7 @@ private Q_SLOTS:
         QVERIFY(!shots.model.write(7, 2, u"1"_s));
     }
 
-    void a_commit_that_fails_is_a_failure_of_the_move()
+    void a_failure_of_the_commit_is_a_failure_of_move_to()
     {
         bound_shots shots;
         shots.store.write(u"create trigger refuse before update on Stat_rounds begin select "

@@ -51,7 +51,7 @@ class test_tab_strip : public QObject {
     }
 
 private Q_SLOTS:
-    void a_click_asks_on_the_old_tab_and_tells_on_the_new()
+    void before_click_is_called_on_the_old_tab_and_clicked_on_the_new()
     {
         tabs_form window;
         in_window(window, [](hand& user) { user.click_tab(u"TabStrip1"_s, 3); });
@@ -68,14 +68,14 @@ private Q_SLOTS:
         QCOMPARE(window.clicks, QString());
     }
 
-    void a_click_on_the_selected_tab_is_told_too()
+    void a_click_on_the_selected_tab_calls_clicked()
     {
         tabs_form window;
         in_window(window, [](hand& user) { user.click_tab(u"TabStrip1"_s, 1); });
         QCOMPARE(window.clicks, u"1"_s);
     }
 
-    void the_keyboard_moves_as_a_click_does_and_stops_at_the_ends()
+    void keys_select_tabs_as_clicks_do_and_stop_at_the_ends()
     {
         tabs_form window;
         in_window(window, [](hand& user) {
@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(window.clicks, u"12321"_s);
     }
 
-    void the_wheel_leaves_the_tab_alone()
+    void the_wheel_does_not_change_the_tab()
     {
         tabs_form window;
         QWheelEvent turn({5, 5}, {5, 5}, {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QTemporaryDir& made_home(QTemporaryDir& home)
+QTemporaryDir& with_new_store(QTemporaryDir& home)
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
     QCoreApplication::setApplicationName(u"Verdane"_s);
@@ -23,7 +23,7 @@ QTemporaryDir& made_home(QTemporaryDir& home)
     return home;
 }
 
-void let_go_of_the_store()
+void close_the_store()
 {
     for (Recordset& recordset : data_environment().recordsets()) {
         if (recordset.is_open())
@@ -44,7 +44,7 @@ QString columns(const QString& name, const QString& value)
 }  // namespace
 
 program_run::program_run(int language, const QStringList& statements)
-    : store_((made_home(home_), store_path()))
+    : store_((with_new_store(home_), store_path()))
 {
     store_.write(u"update settings set language = %1"_s.arg(language));
     store_.write(statements);
@@ -52,7 +52,7 @@ program_run::program_run(int language, const QStringList& statements)
 
 program_run::~program_run()
 {
-    let_go_of_the_store();
+    close_the_store();
 }
 
 QString program_run::store_path()
@@ -64,7 +64,7 @@ int program_run::play_through(const std::function<void(hand&)>& script)
 {
     int status = -1;
     play([&] { status = run_verdane(*qApp); }, script);
-    let_go_of_the_store();
+    close_the_store();
     return status;
 }
 

@@ -12,14 +12,14 @@ namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-/// The whole program on a store of its own in a temporary data folder, run as `main` runs it.
+/// Runs the whole program, as `main` does, on a store in a temporary data folder.
 class program_run {
 public:
-    /// Lays the store down and prepares it with statements; `language` is the stored value.
+    /// Creates the store and runs statements on it; `language` is the stored value.
     explicit program_run(int language = 0, const QStringList& statements = {});
     ~program_run();
 
-    /// Runs the program while the script plays; the exit status.
+    /// Runs the program together with the script, and returns the exit status.
     int play_through(const std::function<void(hand&)>& script);
 
     const reader& store() const { return store_; }
@@ -30,10 +30,10 @@ private:
     reader store_;
 };
 
-/// Statements that put a course with 18 holes of par 4 and one round on it into a store.
+/// Statements that insert a course with 18 holes of par 4, and one round on it.
 QStringList one_course();
 QStringList one_round(const QString& key = u"20260614093000"_s);
-/// The course with that many rounds on it.
+/// Statements that insert the course and `count` rounds on it.
 QStringList rounds(int count);
 
 }  // namespace verdane::testing

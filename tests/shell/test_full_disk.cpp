@@ -26,8 +26,8 @@ namespace {
 constexpr int not_limited = 2;
 constexpr int holes_of_a_round = 18;
 
-/// No file may grow beyond so many bytes, as after `ulimit -f`. The limit that the process may raise again
-/// stays, so that it can be lifted.
+/// Limits the size of files, as `ulimit -f` does. Only the soft limit is set, so that the process can raise
+/// it again.
 bool limit_files(rlim_t bytes)
 {
     rlimit limit{};
@@ -119,19 +119,19 @@ ended child(const QString& way, const QString& argument = {})
 
 }  // namespace
 
-/// Starts under a limit on the size of files: it ends no process, and is reported as a full disk.
+/// A write beyond the limit on file sizes does not kill the process and is reported as a full disk.
 class test_full_disk : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_first_start_without_room_says_so_and_leaves_nothing_data()
+    void a_first_start_on_a_full_disk_reports_it_and_leaves_no_file_data()
     {
         QTest::addColumn<int>("bytes");
         for (const int bytes : {0, 1, 2000, 4096, 20000, 100000})
             QTest::addRow("%d bytes", bytes) << bytes;
     }
 
-    void a_first_start_without_room_says_so_and_leaves_nothing()
+    void a_first_start_on_a_full_disk_reports_it_and_leaves_no_file()
     {
         QFETCH(int, bytes);
         const program_run run(2);
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(reader(path).number(u"select count(*) from settings"_s), 1);
     }
 
-    void a_round_keeps_every_hole_that_was_left_before_the_disk_was_full()
+    void every_hole_that_was_left_before_the_disk_was_full_is_stored()
     {
         const program_run run(2, one_course() + one_round());
         const ended round = child(u"--round"_s);

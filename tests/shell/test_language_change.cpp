@@ -26,7 +26,7 @@ struct window_of_entry {
     QString english_title;
 };
 
-/// What the main menu opens, the new round aside.
+/// The windows that the main menu opens, without that of a new round.
 const std::vector<window_of_entry>& windows_of_the_menu()
 {
     static const std::vector<window_of_entry> windows{
@@ -101,7 +101,7 @@ void open_a_stored_round_and_its_costs(hand& user)
     leave_the_round(user);
 }
 
-/// The dialog of the tee-off is one window in both languages; the round window is below it.
+/// The tee-off dialog is one window for both languages, above the round window.
 void open_a_new_round(hand& user)
 {
     user.menu(u"mOpen"_s);
@@ -131,7 +131,7 @@ class test_language_change : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void every_window_opens_as_the_twin_of_the_new_language()
+    void after_a_change_of_language_every_window_opens_as_its_twin()
     {
         in_main_window(1, one_course() + one_round(), [](hand& user) {
             open_every_window(user);

@@ -95,13 +95,13 @@ int give_up(const QString& way)
 
 }  // namespace
 
-/// Another program holds the diary while a hole is left.
+/// Another program has locked the diary when a hole is left.
 class test_locked_diary : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_round_continues_once_the_lock_is_free_data() { both_languages(); }
-    void the_round_continues_once_the_lock_is_free()
+    void the_round_continues_when_the_lock_is_released_data() { both_languages(); }
+    void the_round_continues_when_the_lock_is_released()
     {
         QFETCH(bool, french);
         const QString suffix = french ? QString() : u"_en"_s;
@@ -127,7 +127,7 @@ private Q_SLOTS:
             user.wait_until_gone(notice);
             user.same(figure(run, u"long_1"_s), 1, u"long shots"_s);
             user.same(figure(run, u"fairway_1"_s), 4, u"fairways"_s);
-            // The keyboard is back in the first box of the next hole.
+            // The focus is in the first box of the next hole.
             user.type(u"7"_s);
             close_round(user, suffix);
         });
@@ -135,8 +135,8 @@ private Q_SLOTS:
         QCOMPARE(figure(run, u"long_2"_s), 7);
     }
 
-    /// Whoever types fast has not seen the notice yet.
-    void what_is_typed_meanwhile_neither_answers_the_notice_nor_reaches_the_round()
+    /// The user may not have seen the notice yet.
+    void keys_typed_while_the_notice_is_shown_have_no_effect()
     {
         program_run run(2, one_course() + one_round());
         run.play_through([&](hand& user) {
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QCOMPARE(figure(run, u"long_2"_s), 0);
     }
 
-    void windows_are_painted_while_the_notice_is_up()
+    void windows_are_painted_while_the_notice_is_shown()
     {
         program_run run(2, one_course() + one_round());
         paint_counter painted;

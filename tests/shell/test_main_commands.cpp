@@ -26,27 +26,27 @@ class test_main_commands : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void the_clean_up_is_wired_though_its_entry_is_switched_off_data() { both_stored_languages(); }
-    void the_clean_up_is_wired_though_its_entry_is_switched_off()
+    void the_hidden_entry_of_the_clean_up_is_connected_to_its_command_data() { both_stored_languages(); }
+    void the_hidden_entry_of_the_clean_up_is_connected_to_its_command()
     {
         QFETCH(int, language);
         const QString orphan = u"20010203040506"_s;
         const QString shot = u"insert into Stat_rounds (date, hole) values ('%1', 1)"_s;
         const QStringList shots{shot.arg(orphan), shot.arg(u"20260614093000"_s)};
-        const auto told = [](const QString& text) {
+        const auto notice = [](const QString& text) {
             return expected_box{text, QMessageBox::NoIcon, default_title(), QMessageBox::Ok};
         };
         in_main_window(language, one_course() + one_round() + shots, [&](hand& user) {
             user.look([] { QTimer::singleShot(0, [] { run_event(command_store_clean_up); }); });
             for (const QString& text : {orphan, u"1"_s, u"Fin"_s})
-                user.answer(told(text));
+                user.answer(notice(text));
             user.look([] {
                 QAction* clean_up = entry(u"mcoh"_s);
                 clean_up->setEnabled(true);
                 QTimer::singleShot(0, clean_up, &QAction::trigger);
             });
             for (const QString& text : {u"0"_s, u"Fin"_s})
-                user.answer(told(text));
+                user.answer(notice(text));
         });
     }
 
@@ -130,8 +130,8 @@ private Q_SLOTS:
         });
     }
 
-    void the_round_list_opens_on_complete_rounds_only_data() { both_stored_languages(); }
-    void the_round_list_opens_on_complete_rounds_only()
+    void the_round_list_opens_if_all_rounds_are_complete_data() { both_stored_languages(); }
+    void the_round_list_opens_if_all_rounds_are_complete()
     {
         QFETCH(int, language);
         const QString list = language == 1 ? u"f_games"_s : u"f_games_en"_s;
@@ -147,7 +147,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_refused_command_leaves_its_recordset_closed()
+    void a_refused_command_closes_its_recordset()
     {
         in_main_window(1, {}, [](hand& user) {
             for (int time = 0; time < 2; ++time) {
@@ -179,7 +179,7 @@ private Q_SLOTS:
         });
     }
 
-    void each_statistics_command_leaves_one_run_button()
+    void each_statistics_command_shows_one_run_button()
     {
         in_main_window(1, one_course() + one_round(), [&](hand& user) {
             const std::vector<std::pair<QString, QString>> commands{{u"mnStabat"_s, u"Command1"_s},

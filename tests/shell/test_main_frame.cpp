@@ -20,10 +20,9 @@ using verdane::testing::one_round;
 using verdane::testing::program_run;
 using verdane::testing::tool;
 
-/// What the main window does besides opening windows: Save and Close, the change of language, its end.
 namespace {
 
-/// A window that counts what the main window asks of it.
+/// A window that counts the calls of the main window.
 struct counting_form : Form {
     counting_form() : Form(u"f_counting") {}
     void save() override { ++saves; }
@@ -34,6 +33,7 @@ struct counting_form : Form {
 
 }  // namespace
 
+/// The main window besides its commands that open windows.
 class test_main_frame : public QObject {
     Q_OBJECT
 
@@ -58,14 +58,14 @@ private Q_SLOTS:
         });
     }
 
-    void save_and_close_act_on_the_window_that_was_current_last_data()
+    void save_and_close_act_on_the_current_window_data()
     {
         QTest::addColumn<bool>("by_menu");
         QTest::newRow("tool buttons") << false;
-        QTest::newRow("menu entries, once switched on") << true;
+        QTest::newRow("menu entries, enabled by the test") << true;
     }
 
-    void save_and_close_act_on_the_window_that_was_current_last()
+    void save_and_close_act_on_the_current_window()
     {
         QFETCH(bool, by_menu);
         in_main_window(1, {}, [&](hand& user) {
@@ -73,7 +73,7 @@ private Q_SLOTS:
                 counting_form window;
                 current_form = &window;
                 Lock_menu();
-                const auto ask = [&](const char* menu_name, const char* key) {
+                const auto run = [&](const char* menu_name, const char* key) {
                     if (by_menu) {
                         entry(QString::fromLatin1(menu_name))->setEnabled(true);
                         entry(QString::fromLatin1(menu_name))->trigger();
@@ -81,17 +81,17 @@ private Q_SLOTS:
                         QTest::mouseClick(tool(QString::fromLatin1(key)), Qt::LeftButton);
                     }
                 };
-                ask("mnSave", "B4");
+                run("mnSave", "B4");
                 QCOMPARE(window.saves, 1);
                 QVERIFY(!entry(u"mOpen"_s)->isEnabled());
-                ask("mClose", "B5");
+                run("mClose", "B5");
                 QCOMPARE(window.closes, 1);
                 QVERIFY(entry(u"mOpen"_s)->isEnabled());
             });
         });
     }
 
-    void the_toolbar_cannot_be_put_away()
+    void the_context_menu_that_hides_the_toolbar_is_not_shown()
     {
         in_main_window(1, {}, [](hand& user) {
             user.look([] {
@@ -107,7 +107,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_end_of_the_main_window_takes_the_round_list_along_data()
+    void closing_the_main_window_closes_the_round_list_data()
     {
         QTest::addColumn<int>("language");
         QTest::addColumn<QString>("list");
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QTest::newRow("English") << 2 << "f_games_en";
     }
 
-    void the_end_of_the_main_window_takes_the_round_list_along()
+    void closing_the_main_window_closes_the_round_list()
     {
         QFETCH(int, language);
         QFETCH(QString, list);

@@ -83,8 +83,8 @@ private Q_SLOTS:
         });
     }
 
-    void the_tool_tips_stay_french_data() { both_stored_languages(); }
-    void the_tool_tips_stay_french()
+    void the_tool_tips_are_french_in_both_languages_data() { both_stored_languages(); }
+    void the_tool_tips_are_french_in_both_languages()
     {
         QFETCH(int, language);
         in_main_window(language, {}, [](hand& user) {
@@ -122,7 +122,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_change_of_language_takes_effect_at_once_and_is_kept()
+    void a_change_of_language_takes_effect_immediately_and_is_stored()
     {
         program_run run(1, one_course());
         run.play_through([](hand& user) {
@@ -157,7 +157,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_language_in_use_may_be_chosen_again()
+    void the_current_language_can_be_chosen_again()
     {
         in_main_window(1, {}, [](hand& user) {
             user.menu(u"mfr"_s);

@@ -28,7 +28,7 @@ expected_box notice(QStringView french, QStringView english)
     return {in_language(french, english), QMessageBox::Information, default_title()};
 }
 
-/// The upper edge of the board is brown, whatever surrounds it.
+/// The upper edge of the sign is brown, unlike its surroundings.
 bool is_of_wood(picture_pane& pane, const QRectF& sign)
 {
     const QImage picture = pane.grab().toImage();
@@ -45,7 +45,7 @@ class test_main_window : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void save_close_and_clean_up_are_switched_off_in_the_menu()
+    void save_close_and_clean_up_are_hidden_and_disabled_in_the_menu()
     {
         in_main_window(1, {}, [](hand& user) {
             user.look([] {
@@ -57,7 +57,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_window_locks_the_menu_and_its_end_unlocks_it()
+    void an_open_window_locks_the_menu()
     {
         in_main_window(1, one_course(), [](hand& user) {
             const auto locked = [&](bool expected) {
@@ -83,7 +83,7 @@ private Q_SLOTS:
         });
     }
 
-    void locking_twice_and_unlocking_twice_does_no_harm()
+    void locking_twice_and_unlocking_twice_has_no_further_effect()
     {
         in_main_window(1, {}, [](hand& user) {
             user.look([] {
@@ -112,8 +112,8 @@ private Q_SLOTS:
         });
     }
 
-    void save_and_close_without_a_window_say_that_there_is_nothing_to_do_data() { both_stored_languages(); }
-    void save_and_close_without_a_window_say_that_there_is_nothing_to_do()
+    void save_and_close_without_a_window_show_a_notice_data() { both_stored_languages(); }
+    void save_and_close_without_a_window_show_a_notice()
     {
         QFETCH(int, language);
         in_main_window(language, one_course(), [](hand& user) {
@@ -133,7 +133,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_sign_in_the_picture_is_in_view_at_every_size_data()
+    void the_sign_in_the_picture_is_visible_at_every_size_data()
     {
         QTest::addColumn<int>("language");
         QTest::addColumn<QSize>("size");
@@ -144,7 +144,7 @@ private Q_SLOTS:
                     << language << size;
         }
     }
-    void the_sign_in_the_picture_is_in_view_at_every_size()
+    void the_sign_in_the_picture_is_visible_at_every_size()
     {
         QFETCH(int, language);
         QFETCH(QSize, size);
@@ -163,7 +163,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_title_bar_ends_the_program()
+    void closing_the_main_window_ends_the_program()
     {
         program_run run(1);
         const int status = run.play_through([](hand& user) { user.close_window(u"MainForm"_s); });

@@ -28,7 +28,7 @@ QString round_window()
     return in_language(u"f_new_round", u"f_new_round_en");
 }
 
-/// Types a name for the first club, presses OK and answers that the store is to stay as it is.
+/// Types a name for the first club, clicks OK and answers No, so that the store does not change.
 void rename_first_club_and_answer_no(hand& user, const QString& name)
 {
     user.menu(u"mnBat"_s);
@@ -51,7 +51,7 @@ void open_the_shots_of_the_stored_round(hand& user)
     user.click_tab(u"TabStrip2"_s, 2);
 }
 
-/// The first entry of the club menu, which is then chosen, so that it is in the cell as well.
+/// The first entry of the club menu. Chooses it and checks that the cell shows the same name.
 QString first_club_of_the_menu(hand& user)
 {
     open_the_shots_of_the_stored_round(user);
@@ -74,8 +74,11 @@ class test_renamed_clubs : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void a_no_keeps_the_new_name_in_the_club_menu_until_the_next_start_data() { both_stored_languages(); }
-    void a_no_keeps_the_new_name_in_the_club_menu_until_the_next_start()
+    void a_new_club_name_that_is_not_stored_is_in_the_menu_until_the_next_start_data()
+    {
+        both_stored_languages();
+    }
+    void a_new_club_name_that_is_not_stored_is_in_the_menu_until_the_next_start()
     {
         QFETCH(int, language);
         program_run run(language, rounds(1) + QStringList{u"update sticknames set club_1 = 'Old'"_s});

@@ -26,7 +26,7 @@ namespace {
 
 constexpr int page_size = 4096;
 
-/// Spoils the page in which a table begins that no start reads.
+/// Overwrites the first page of a table that the start does not read.
 void damage_page_of_costs(const reader& store)
 {
     const int page = store.number(u"select rootpage from sqlite_master where name = 'cost'"_s);
@@ -47,13 +47,13 @@ QMessageBox* failure_box()
     return qobject_cast<QMessageBox*>(visible_window(u"failure_box"_s));
 }
 
-/// The child process: starts on the data folder of its parent and says what failed.
+/// The child process: starts on the data folder of its parent and prints the failure.
 int start_until_it_fails()
 {
     int status = -1;
     play([&] { status = run_verdane(*qApp); },
          [](hand& user) {
-             // The hand's own waiting takes a failure for the end of its script.
+             // hand::wait_for_window would end the script on a failure.
              while (!user.is_open(u"failure_box"_s))
                  QThread::msleep(5);
              user.look([] {
@@ -68,18 +68,18 @@ int start_until_it_fails()
 
 }  // namespace
 
-/// A start shows its window first and looks through the whole file then.
+/// The whole file is checked after the first window of a start is painted.
 class test_soundness : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void damage_that_no_start_meets_is_told_all_the_same_data()
+    void damage_in_a_table_that_the_start_does_not_read_is_reported_data()
     {
         QTest::addColumn<int>("language");
         QTest::newRow("language chosen") << 2;
         QTest::newRow("language not chosen yet") << 0;
     }
-    void damage_that_no_start_meets_is_told_all_the_same()
+    void damage_in_a_table_that_the_start_does_not_read_is_reported()
     {
         QFETCH(int, language);
         program_run run(language);
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(content_of_store(), before);
     }
 
-    void a_file_can_be_opened_first_and_looked_through_later()
+    void a_file_can_be_checked_after_it_was_opened()
     {
         program_run run(2);
         Connection1 sound;

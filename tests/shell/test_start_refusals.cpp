@@ -24,7 +24,7 @@ using verdane::testing::rounds;
 
 namespace {
 
-/// The child process: starts on the data folder of its parent, says what it shows and leaves.
+/// The child process: starts on the data folder of its parent, prints the failure if there is one, and quits.
 int start_and_leave()
 {
     int status = -1;
@@ -58,13 +58,13 @@ ended child_start(const char* way = "--start")
 
 constexpr QFile::Permissions owner_only = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 
-/// As root no permission would ever be missing.
+/// Root has every permission.
 bool give_up_rights()
 {
     return geteuid() != 0 || (setgid(65534) == 0 && setuid(65534) == 0);
 }
 
-/// The folder of the store can be entered and read by everyone, and written by nobody.
+/// Makes the folder of the store readable for everyone and writable for no one.
 void let_everyone_read_only(const QString& path)
 {
     const QString folder = QFileInfo(path).path();
@@ -90,7 +90,7 @@ QByteArray content(const QString& path)
 
 }  // namespace
 
-/// Starts of the program in a process of its own: most of them are refused.
+/// Starts of the program, most of which fail, each in a process of its own.
 class test_start_refusals : public QObject {
     Q_OBJECT
 
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(child.status, 0);
     }
 
-    void a_diary_of_367_rounds_does_not_start_and_says_so()
+    void a_diary_of_367_rounds_is_a_failure_of_the_start()
     {
         program_run run(2, rounds(367));
         const ended child = child_start();
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QVERIFY2(child.said.contains(failure_words(failure_kind::subscript).english), qPrintable(child.said));
     }
 
-    void a_second_program_on_the_same_diary_says_so_and_stops()
+    void a_second_program_on_the_same_diary_reports_the_lock_and_stops()
     {
         program_run run(2);
         run.play_through([](hand& user) {
@@ -123,7 +123,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_store_that_cannot_be_used_is_told_in_both_languages_and_left_as_it_is_data()
+    void a_store_that_cannot_be_used_is_reported_in_both_languages_and_not_changed_data()
     {
         QTest::addColumn<QString>("harm");
         QTest::addColumn<int>("kind");
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QTest::newRow("read-only folder") << "no rights" << static_cast<int>(failure_kind::store_read_only);
     }
 
-    void a_store_that_cannot_be_used_is_told_in_both_languages_and_left_as_it_is()
+    void a_store_that_cannot_be_used_is_reported_in_both_languages_and_not_changed()
     {
         QFETCH(QString, harm);
         QFETCH(int, kind);
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(content(path), before);
     }
 
-    void a_missing_table_is_told_and_ends_the_program()
+    void a_missing_table_is_reported_and_ends_the_program()
     {
         program_run run(1, {u"drop table sticknames"_s});
         const ended child = child_start();

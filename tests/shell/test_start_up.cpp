@@ -27,7 +27,7 @@ class test_start_up : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void a_fresh_store_asks_for_the_language_and_keeps_the_answer_data()
+    void the_language_chosen_for_a_new_store_is_stored_data()
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<int>("stored");
@@ -36,7 +36,7 @@ private Q_SLOTS:
         QTest::newRow("English") << "Command1_0" << 2 << false;
     }
 
-    void a_fresh_store_asks_for_the_language_and_keeps_the_answer()
+    void the_language_chosen_for_a_new_store_is_stored()
     {
         QFETCH(QString, button);
         QFETCH(int, stored);
@@ -71,14 +71,14 @@ private Q_SLOTS:
         });
     }
 
-    void leaving_the_language_window_ends_the_program_and_asks_again_next_time_data()
+    void closing_the_language_window_ends_the_program_and_stores_no_language_data()
     {
         QTest::addColumn<bool>("by_title_bar");
         QTest::newRow("Exit / Quitter") << false;
         QTest::newRow("title bar") << true;
     }
 
-    void leaving_the_language_window_ends_the_program_and_asks_again_next_time()
+    void closing_the_language_window_ends_the_program_and_stores_no_language()
     {
         QFETCH(bool, by_title_bar);
         program_run run;
@@ -95,7 +95,7 @@ private Q_SLOTS:
         }
     }
 
-    void the_club_names_are_loaded_also_when_the_user_left()
+    void the_club_names_are_loaded_even_if_no_language_is_chosen()
     {
         program_run run(0, {u"update sticknames set club_1 = 'Big', club_14 = 'Roller'"_s});
         Main_module::club_names.clear();
@@ -108,14 +108,14 @@ private Q_SLOTS:
     void the_language_is_set_before_the_club_names_are_read()
     {
         QFETCH(int, language);
-        // Without their row the club names cannot be read: start-up ends there.
+        // Without a row the club names cannot be read, so the start fails there.
         const program_run run(language, {u"delete from sticknames"_s});
         is_french = language != 1;
         QCOMPARE(failure_of([] { Main(); }), failure_kind::misuse);
         QCOMPARE(is_french, language == 1);
     }
 
-    void a_null_language_is_a_damaged_store()
+    void a_null_language_is_reported_as_fatal_error()
     {
         program_run run(
             0, {u"update sticknames set club_1 = 'Big'"_s, u"update settings set language = null"_s});
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(Main_module::club_names[0], u"Big"_s);
     }
 
-    void any_other_language_value_asks()
+    void any_other_language_value_opens_the_language_window()
     {
         program_run run(7);
         run.play_through([](hand& user) {
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(run.store().number(u"select language from settings"_s), 2);
     }
 
-    void the_stored_language_opens_the_program_in_it_data()
+    void the_program_starts_in_the_stored_language_data()
     {
         QTest::addColumn<int>("stored");
         QTest::addColumn<QString>("title");
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QTest::newRow("English") << 2 << "Verdane for PC version 1.4";
     }
 
-    void the_stored_language_opens_the_program_in_it()
+    void the_program_starts_in_the_stored_language()
     {
         QFETCH(int, stored);
         QFETCH(QString, title);
@@ -170,14 +170,14 @@ private Q_SLOTS:
         QCOMPARE(Main_module::round_keys[2], u"20260101120000"_s);
     }
 
-    void an_empty_diary_leaves_no_keys()
+    void an_empty_diary_gives_no_round_keys()
     {
         program_run run(1);
         run.play_through(quit);
         QCOMPARE(plain(Main_module::round_key_count), 0);
     }
 
-    void nothing_is_left_open_while_the_main_window_waits()
+    void no_recordset_is_open_after_the_start()
     {
         program_run run(1, rounds(2));
         run.play_through([](hand& user) {

@@ -1,4 +1,4 @@
-#include "controls/screen_room.h"
+#include "controls/screen_limits.h"
 
 #include <QScreen>
 #include <QStyle>
@@ -42,15 +42,15 @@ const QScreen& screen_of(const QWidget& window)
 
 }  // namespace
 
-QSize room_on_screen(const QWidget& window)
+QSize largest_size_on_screen(const QWidget& window)
 {
     return screen_of(window).availableGeometry().marginsRemoved(expected_frame(window)).size();
 }
 
 void keep_on_screen(QWidget& window)
 {
-    const QSize limited = window.size().boundedTo(room_on_screen(window));
-    // A resize, even to the same size, would keep the toolkit from choosing one when the window is shown.
+    const QSize limited = window.size().boundedTo(largest_size_on_screen(window));
+    // The toolkit chooses a size when a window is shown, unless it was resized, even to the same size.
     if (limited != window.size())
         window.resize(limited);
     if (!window.testAttribute(Qt::WA_Moved) && !window.isVisible())
