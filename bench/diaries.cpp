@@ -6,7 +6,7 @@
 
 #include "controls/interface_language.h"
 #include "records/round_columns.h"
-#include "shell/language_value.h"
+#include "shell/language_change.h"
 #include "store/DataEnvironment1.h"
 #include "tests/support/reader.h"
 

@@ -14,7 +14,7 @@
 #include "controls/failure_guard.h"
 #include "controls/leaving.h"
 #include "controls/main_frame.h"
-#include "controls/screen_room.h"
+#include "controls/screen_limits.h"
 #include "controls/scrolled_content.h"
 #include "controls/shortcuts.h"
 
@@ -22,14 +22,14 @@ namespace verdane {
 
 namespace {
 
-/// The windows that are up, the one at work last.
+/// The windows that are shown, in the order in which they were opened.
 std::vector<Form*>& open_forms()
 {
     static std::vector<Form*> forms;
     return forms;
 }
 
-QWidget* window_below_a_new_form()
+QWidget* parent_of_a_new_form()
 {
     if (Form* opener = form_at_work())
         return opener;
@@ -45,7 +45,7 @@ Form::Form(QStringView family, twins kind)
     setObjectName(english_twin ? family.toString() + u"_en" : family.toString());
     setWindowModality(Qt::ApplicationModal);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    shortcuts_->mention(Qt::Key_Escape, {u"Annuler ou fermer la fenêtre", u"Cancel or close the window"});
+    shortcuts_->mention(shortcut_table::cancel);
 }
 
 Form::~Form()
@@ -67,7 +67,7 @@ void Form::resize_now(QSize size)
 {
     layout()->activate();
     resize(size);
-    // A window that is not shown lays its controls out only on request.
+    // The layout of a window that is not shown is updated only on request.
     layout()->invalidate();
     layout()->activate();
 }
@@ -75,7 +75,7 @@ void Form::resize_now(QSize size)
 void Form::take_size(QSize wanted)
 {
     resize_now(wanted);
-    // More width can lower a paragraph, so the height is asked for again.
+    // A wider paragraph can be less high, so the second pass measures the height again.
     for (int pass = 0; pass < 2; ++pass) {
         for (scrolled_content* content : scrolled_)
             resize_now(size() + content->missing());
@@ -88,7 +88,7 @@ void Form::show_modal()
     if (!loaded_)
         return;
     Form* opener = form_at_work();
-    setParent(window_below_a_new_form(), windowFlags());
+    setParent(parent_of_a_new_form(), windowFlags());
     open_forms().push_back(this);
     keep_on_screen(*this);
     show();
@@ -96,12 +96,12 @@ void Form::show_modal()
     raise();
     activateWindow();
     activated();
-    work_until_unloaded();
+    run_until_unloaded();
     std::erase(open_forms(), this);
-    wake(opener);
+    activate_opener(opener);
 }
 
-void Form::wake(Form* opener)
+void Form::activate_opener(Form* opener)
 {
     if (opener && opener->is_loaded()) {
         opener->activateWindow();
@@ -112,7 +112,7 @@ void Form::wake(Form* opener)
     }
 }
 
-void Form::work_until_unloaded()
+void Form::run_until_unloaded()
 {
     if (loaded_)
         loop_.exec();

@@ -16,62 +16,63 @@ namespace verdane {
 class scrolled_content;
 class window_shortcuts;
 
-/// A window of the program that works on the store: modal, made in one language and keeping it.
+/// The base class of every window that the main window opens. It is modal, and keeps the language in which it
+/// was made.
 ///
-/// One class serves a family. Made while the interface is French it is `f_games`, made in English it
-/// is `f_games_en`: the name and the captions differ, nothing else can.
+/// One class makes both twins of a family: `f_games` while the interface is French, `f_games_en` while it is
+/// English. Only the name and the captions differ.
 ///
-/// The life of a window: its constructor builds the controls and loads it; `show_modal` shows it, runs
-/// `activated` and lets it work until `unload`. A window that opened another is activated again when
-/// that one has gone. Message boxes, pop-ups and other programs coming and going activate nothing.
+/// Life cycle: the constructor builds the controls and loads the data. `show_modal` shows the window, calls
+/// `activated` and runs until `unload`. `activated` is called again when another window that this one opened
+/// is closed. Message boxes, pop-ups and other programs do not cause it.
 class Form : public QDialog {
 public:
-    /// `family` is the French twin's name. A single form for both languages has no twin.
+    /// `family` is the name of the French twin. A window that is one for both languages has no twin.
     enum class twins { two, one };
     explicit Form(QStringView family, twins kind = twins::two);
     ~Form() override;
 
     bool french() const { return french_; }
 
-    /// The caption for the window's language.
+    /// The caption in the language of the window.
     QString caption(QStringView french, QStringView english) const;
 
-    /// Adds the part of the window that scrolls when the window is smaller than its content. Controls that
-    /// must stay visible, such as OK and Cancel, are outside of it. Takes ownership of the layout.
+    /// Adds a part of the window that scrolls when the window is smaller than its content, and takes
+    /// ownership of its layout. Controls that must stay visible, such as OK and Cancel, do not belong in it.
     scrolled_content* scrolled(QLayout* content);
 
-    /// Gives the window a size, or a larger one at which nothing scrolls, limited to the available size of
-    /// its screen. To be called after all controls are added, and before Place and lock.
+    /// Resizes the window to a size, or to a larger one at which nothing scrolls, limited to the available
+    /// size of its screen. To be called after all controls are added, and before `Place_and_lock`.
     void take_size(QSize wanted);
 
     /// The shortcuts of the window; F1 lists them.
     window_shortcuts& shortcuts() { return *shortcuts_; }
 
-    /// Shows the window above the others and returns when it has been unloaded. Afterwards the window
-    /// (or the main frame) that was at work is activated.
+    /// Shows the window above the others and returns after it is unloaded. Then the window that was active
+    /// before, or the main window, is activated.
     void show_modal();
 
-    /// Takes the window away, after its own `unloading`, once. Safe to call again.
+    /// Calls `unloading` and closes the window. Further calls do nothing.
     void unload();
     bool is_loaded() const { return loaded_; }
 
-    /// The public operations of every window, reached from the main frame.
+    /// The operations of every window that the commands Save and Close of the main window call.
     virtual void save() {}
     virtual void closeForm() { unload(); }
 
-    /// Takes keyboard input away while a long computation runs, and paints what changed. Called
-    /// whenever the computation moves its progress bar.
+    /// Paints what has changed, without handling input. Called during a long computation, each time it moves
+    /// its progress bar.
     static void paint_now();
 
 protected:
-    /// Escape clicks this button. In a window without one Escape is the title bar's close box.
+    /// Escape clicks this button. In a window without one, Escape acts as the close button of the title bar.
     void set_cancel_button(QAbstractButton& button) { cancel_button_ = &button; }
 
-    /// Shown for the first time, or back from another window of the program.
+    /// The window is shown for the first time, or another window that it opened was closed.
     virtual void activated() {}
-    /// The window is about to go.
+    /// The window is about to be closed.
     virtual void unloading() {}
-    /// The title bar's close box.
+    /// The close button of the title bar.
     virtual void close_requested() { unload(); }
 
     void closeEvent(QCloseEvent* event) override;
@@ -80,10 +81,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void work_until_unloaded();
+    void run_until_unloaded();
     void resize_now(QSize size);
-    /// Gives the keyboard back to the window below (the main window when null) and activates it.
-    static void wake(Form* opener);
+    /// Activates the window that opened this one; the main window when null.
+    static void activate_opener(Form* opener);
 
     bool french_;
     bool loaded_ = true;
@@ -93,13 +94,13 @@ private:
     std::vector<scrolled_content*> scrolled_;
 };
 
-/// The window at work: the last one shown that has not gone; null when none is up.
+/// The active window: the last one shown that is not unloaded; null when there is none.
 Form* form_at_work();
 
-/// The open window of a family ("f_games"), whichever twin it is; null when there is none.
+/// The open window of a family ("f_games"), either twin; null when there is none.
 Form* open_form(QStringView family);
 
-/// A push button that Enter presses only while it has the focus.
+/// A push button that Enter clicks only while it has the focus.
 QPushButton* make_button(const QString& caption);
 
 }  // namespace verdane

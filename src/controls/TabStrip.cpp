@@ -63,7 +63,7 @@ void TabStrip::keyPressEvent(QKeyEvent* event)
 
 void TabStrip::wheelEvent(QWheelEvent* event)
 {
-    // Turning the wheel over the tabs must not leave a page without being asked.
+    // By default the wheel changes the tab, without `before_click`.
     event->ignore();
 }
 

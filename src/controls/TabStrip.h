@@ -6,25 +6,25 @@
 
 namespace verdane {
 
-/// A row of tabs that asks before it changes and tells every click, also one on the tab that is
-/// shown already. Tabs are numbered from 1, as the windows number their pages and holes.
+/// A row of tabs that can refuse a change, and reports every click, also one on the selected tab. Tabs are
+/// numbered from 1, as pages and holes are.
 ///
-/// Keyboard: Left, Right, Home and End choose a tab as a click would.
+/// Keyboard: Left, Right, Home and End select a tab as a click does.
 class TabStrip : public QTabBar {
 public:
     explicit TabStrip(QWidget* parent = nullptr);
 
-    /// Asked before a click of the user changes the tab; the answer false keeps the old one.
+    /// Called before a click changes the tab; false keeps the old one.
     std::function<bool()> before_click;
-    /// Told after a click of the user, the new tab being selected.
+    /// Called after a click, when the new tab is selected.
     std::function<void()> clicked;
 
     /// The selected tab, from 1.
     int selected() const { return currentIndex() + 1; }
-    /// Selects a tab without asking or telling.
+    /// Selects a tab without calling `before_click` and `clicked`.
     void select(int tab) { setCurrentIndex(tab - 1); }
 
-    /// A click of the user on a tab (from 1): asks, selects, tells.
+    /// Acts as a click on a tab: calls `before_click`, selects the tab and calls `clicked`.
     void click(int tab);
 
 protected:

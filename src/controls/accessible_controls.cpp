@@ -12,7 +12,7 @@ namespace verdane {
 
 namespace {
 
-/// A list of choices. On some desktops the toolkit names it by the entry that is chosen.
+/// A combo box. On some desktops the toolkit uses the selected entry as its name.
 class accessible_choice : public QAccessibleWidget {
 public:
     explicit accessible_choice(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), box_(box) {}
@@ -59,8 +59,8 @@ QAccessibleInterface* describe(const QString& kind, QObject* object)
     return nullptr;
 }
 
-/// Without the marks: "&Normale :" is spoken as "Normale".
-QString spoken(QString caption)
+/// The caption without the mark of a mnemonic and without a colon: "&Normale :" is read as "Normale".
+QString caption_to_read(QString caption)
 {
     caption = caption.remove(u'&').trimmed();
     if (caption.endsWith(u':'))
@@ -81,8 +81,8 @@ void describe_controls()
 
 void name_control(QWidget& control, const QString& caption)
 {
-    control.setAccessibleName(spoken(caption));
-    // In a spin box the box inside has the focus.
+    control.setAccessibleName(caption_to_read(caption));
+    // The focus is in the line edit of a spin box.
     if (qobject_cast<QAbstractSpinBox*>(&control))
         control.findChild<QLineEdit*>()->setAccessibleName(control.accessibleName());
 }
@@ -90,7 +90,7 @@ void name_control(QWidget& control, const QString& caption)
 void label_control(QLabel& label, QWidget& control)
 {
     label.setBuddy(&control);
-    // A label that shows a figure is read out by its text; the relation to its caption is enough.
+    // A label that shows a figure is read by its text; naming it would replace that text.
     if (!qobject_cast<QLabel*>(&control))
         name_control(control, label.text());
 }

@@ -12,7 +12,7 @@ namespace {
 
 int bells = 0;
 
-/// A window without a title shows the program's name: the toolkit does not leave it empty. A blank it leaves.
+/// The toolkit replaces an empty title by the name of the program, but keeps a blank.
 void show_no_title(QWidget& box)
 {
     box.winId();
@@ -43,7 +43,7 @@ QMessageBox::StandardButton show_message(const message& what, QWidget* above)
         show_no_title(box);
     box.setTextFormat(Qt::PlainText);
     const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
-    // Not every platform gives the keyboard back to the window below by itself.
+    // Some platforms do not activate the window below on their own.
     if (owner)
         owner->activateWindow();
     return answer;

@@ -5,13 +5,13 @@
 
 namespace verdane {
 
-/// The title of a box to which no other was given.
+/// The title of a message box that has no other.
 QString default_title();
 
-/// The window above which a box belongs: the modal one, else the active one; null when there is none.
+/// The parent of a message box: the modal window, else the active one; null when there is none.
 QWidget* window_at_work();
 
-/// One message box: what a refusal, a notice or a question shows.
+/// The content of a message box: a refusal, a notice or a question.
 struct message {
     QString text;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
@@ -19,21 +19,21 @@ struct message {
     QMessageBox::StandardButtons buttons = QMessageBox::Ok;
 };
 
-/// Shows the box above its owner, waits for the answer and returns it. The owner then gets the keyboard
-/// back.
+/// Shows the message box above its owner, waits until it is closed and returns the button that closed it. The
+/// owner is the active window afterwards.
 QMessageBox::StandardButton show_message(const message& what, QWidget* owner = window_at_work());
 
-/// A notice with an OK button.
+/// Shows a notice with an OK button.
 void tell(const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon,
           const QString& title = default_title());
 
-/// A question with Yes and No; true for Yes.
+/// Shows a question with Yes and No; true for Yes.
 bool ask_yes_no(const QString& text, const QString& title = default_title());
 
-/// The platform's bell: how a refused key is signalled.
+/// Rings the bell of the platform, which signals a refused key.
 void ring_bell();
 
-/// How often the bell rang since the start.
+/// The number of times that the bell rang since the start.
 int bells_rung();
 
 }  // namespace verdane

@@ -4,61 +4,16 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPainterPath>
-#include <QRegion>
 
-#include <algorithm>
 #include <utility>
 
 #include "controls/data_grid.h"
+#include "controls/grid_painting.h"
 #include "controls/leaving.h"
 
 namespace verdane {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int frame_width = 2;
-
-/// Where typing starts: beside the words as the style lays them out.
-QRect caret_in(const data_grid& grid, const QStyleOptionViewItem& cell)
-{
-    const int margin = grid.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &grid) + 1;
-    const int width = grid.style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, &grid);
-    const QRect inside = cell.rect.adjusted(margin, 0, -margin, 0);
-    const int words = std::min(cell.fontMetrics.horizontalAdvance(cell.text), inside.width());
-    const int left = cell.displayAlignment & Qt::AlignRight ? inside.right() : inside.left() + words;
-    QRect caret(left, 0, width, cell.fontMetrics.height());
-    caret.moveCenter({caret.center().x(), cell.rect.center().y()});
-    return caret;
-}
-
-/// Two pixels wide while the grid has the focus, one pixel otherwise.
-void paint_frame(QPainter& painter, const QStyleOptionViewItem& cell, bool has_keyboard)
-{
-    const int width = has_keyboard ? frame_width : 1;
-    const QColor green = cell.palette.color(QPalette::Highlight);
-    const QRect& whole = cell.rect;
-    const QRect inside = whole.marginsRemoved({width, width, width, width});
-    for (const QRect& side : QRegion(whole).subtracted(inside))
-        painter.fillRect(side, green);
-}
-
-void paint_chevron(QPainter& painter, const QRect& button, const QColor& color)
-{
-    const QPointF middle = QRectF(button).center();
-    QPainterPath chevron(middle + QPointF(-3.5, -1.5));
-    chevron.lineTo(middle + QPointF(0, 2));
-    chevron.lineTo(middle + QPointF(3.5, -1.5));
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 1.2));
-    painter.drawPath(chevron);
-    painter.restore();
-}
-
-}  // namespace
 
 cell_delegate::cell_delegate(data_grid& grid) : QStyledItemDelegate(&grid), grid_(grid) {}
 
@@ -66,7 +21,7 @@ void cell_delegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const
 {
     QStyleOptionViewItem cell = option;
-    // The frame says where the cursor is.
+    // The frame marks the cursor; the focus rectangle of the style is not needed.
     cell.state &= ~QStyle::State_HasFocus;
     if (grid_.has_cell_button(index.column()))
         paint_with_button(*painter, cell, index);
@@ -85,7 +40,7 @@ void cell_delegate::paint_with_button(QPainter& painter, const QStyleOptionViewI
     QStyle* style = grid_.style();
     style->drawControl(QStyle::CE_ItemViewItem, &whole, &painter, &grid_);
     const QRect button = data_grid::button_in(option.rect);
-    // The words beside the button, as the style draws them in the cells that have none.
+    // The style draws the text beside the button as in a cell without one.
     whole.rect.setRight(button.left());
     whole.text = text;
     style->drawControl(QStyle::CE_ItemViewItem, &whole, &painter, &grid_);
@@ -100,9 +55,9 @@ void cell_delegate::paint_cursor(QPainter& painter, const QStyleOptionViewItem& 
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const QWidget* focused = QApplication::focusWidget();
-    paint_frame(painter, cell, focused && (focused == &grid_ || grid_.isAncestorOf(focused)));
+    paint_cursor_frame(painter, cell, focused && (focused == &grid_ || grid_.isAncestorOf(focused)));
     if (grid_.hasFocus() && grid_.is_typed_into(index))
-        painter.fillRect(caret_in(grid_, cell), cell.palette.color(QPalette::Text));
+        paint_caret(painter, cell, grid_);
 }
 
 QWidget* cell_delegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
@@ -119,13 +74,14 @@ QWidget* cell_delegate::createEditor(QWidget* parent, const QStyleOptionViewItem
 void cell_delegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                          const QModelIndex&) const
 {
-    editor->setGeometry(option.rect.marginsRemoved({frame_width, frame_width, frame_width, frame_width}));
+    constexpr int width = cursor_frame_width;
+    editor->setGeometry(option.rect.marginsRemoved({width, width, width, width}));
 }
 
 void cell_delegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     auto& box = static_cast<QLineEdit&>(*editor);
-    // A refresh of the rows must not undo what is being typed.
+    // A refresh of the rows must not replace the text that is being edited.
     if (box.isModified())
         return;
     box.setText(index.data(Qt::EditRole).toString());
@@ -153,7 +109,7 @@ bool cell_delegate::key_pressed(const QKeyEvent& event) const
 
 bool cell_delegate::focus_lost(QLineEdit& editor, Qt::FocusReason why) const
 {
-    // Another program, or the box's own menu, takes the keyboard for a while only.
+    // The focus returns from another program or from the context menu of the editor.
     if (why == Qt::ActiveWindowFocusReason || why == Qt::PopupFocusReason)
         return false;
     if (why != Qt::MouseFocusReason)

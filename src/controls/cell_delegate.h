@@ -8,8 +8,8 @@ namespace verdane {
 
 class data_grid;
 
-/// Paints the cells of a grid with their buttons, the cursor's cell with a frame and, where it can be typed
-/// into, a caret. Makes the box that is typed into.
+/// Paints the cells of a grid with their buttons, and the cell with the cursor with a frame and, if its text
+/// can be edited, a caret. Creates the editor of a cell.
 class cell_delegate : public QStyledItemDelegate {
 public:
     explicit cell_delegate(data_grid& grid);
@@ -19,7 +19,7 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    /// The grid takes what was typed itself.
+    /// Does nothing: the grid writes the text (`data_grid::commit_cell`).
     void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
@@ -30,7 +30,7 @@ private:
                            const QModelIndex& index) const;
     void paint_cursor(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
     bool key_pressed(const QKeyEvent& event) const;
-    /// True when the box has taken the focus back.
+    /// True if the editor keeps the focus.
     bool focus_lost(QLineEdit& editor, Qt::FocusReason why) const;
 
     data_grid& grid_;

@@ -33,7 +33,7 @@ QAction* choice_menu::add_choice(const QString& name, const QString& caption)
 void choice_menu::set_caption(QAction& entry, const QString& caption)
 {
     entry.setData(caption);
-    // The toolkit would read an ampersand as the mark of a key.
+    // A single ampersand would mark a mnemonic.
     entry.setText(QString(caption).replace(u'&', u"&&"_s));
 }
 
@@ -93,7 +93,7 @@ QString choice_menu::continued_by(QChar letter) const
 void choice_menu::mark(const QList<QAction*>& matching)
 {
     const qsizetype marked = matching.indexOf(activeAction());
-    // A second letter leaves the mark on an entry that matches both.
+    // After a second letter the marked entry stays marked if it matches both.
     const bool marked_matches = typed_.size() > 1 && marked >= 0;
     setActiveAction(matching[marked_matches ? marked : (marked + 1) % matching.size()]);
 }

@@ -7,30 +7,30 @@
 
 namespace verdane {
 
-/// A pop-up of a few words, chosen from by the mouse, the arrows and Enter, or by typing. A letter that only
-/// one entry begins with chooses that entry; one that several begin with marks the next of them. Letters
-/// typed within a second of each other are one beginning, as long as an entry has it: "P" and "W" choose
-/// "PW". Blanks in the captions need not be typed.
+/// A pop-up menu whose entries can also be chosen by typing. A letter with which only one entry begins
+/// chooses that entry; one with which several begin marks the next of them. Letters that are typed within a
+/// second of each other are combined as long as an entry begins with them: "P" and "W" choose "PW". Blanks in
+/// the captions are ignored.
 class choice_menu : public QMenu {
 public:
     using QMenu::QMenu;
 
-    /// The time since some fixed moment. The default is the steady clock; tests set their own.
+    /// The time since a fixed moment. The default is the steady clock; tests set their own.
     static std::function<std::chrono::milliseconds()> clock;
 
-    /// Adds an entry of that name. The caption is shown and found as it stands, whatever it holds.
+    /// Adds an entry. Its caption is shown and found literally: an ampersand marks no mnemonic.
     QAction* add_choice(const QString& name, const QString& caption);
     static void set_caption(QAction& entry, const QString& caption);
     static QString caption_of(const QAction& entry);
 
-    /// Shows the menu with the entry of that caption marked, the first entry when there is none.
+    /// Shows the menu and marks the entry with that caption, or the first entry if there is none.
     void popup_on(const QPoint& place, const QString& caption);
 
-    /// Chooses the only entry that begins with a letter, without showing the menu; false when there is
-    /// none or more than one.
+    /// Chooses the entry that begins with a letter, without showing the menu; false if there is not exactly
+    /// one.
     bool choose_only(QChar letter);
-    /// Adds the letter to what was typed, marks an entry that begins so, and chooses it when it is the only
-    /// one. False when no entry begins with the letter.
+    /// Adds a letter to those typed before, marks an entry that begins with them, and chooses it when it is
+    /// the only one. False if no entry begins with the letter.
     bool choose_by_letter(QChar letter);
 
 protected:
@@ -38,7 +38,7 @@ protected:
 
 private:
     QList<QAction*> beginning_with(const QString& typed) const;
-    /// What was typed within the last second and the letter, if an entry begins with both; else the letter.
+    /// The letters typed within the last second and this one, if an entry begins with them; else this one.
     QString continued_by(QChar letter) const;
     void mark(const QList<QAction*>& matching);
 

@@ -10,7 +10,7 @@
 
 namespace verdane {
 
-/// Gives a control its system name, under which tests, scripts and screen readers find it.
+/// Sets the object name of a control, by which tests, scripts and screen readers find it.
 template <typename Control>
 Control* named(Control* control, QStringView name)
 {
@@ -18,13 +18,13 @@ Control* named(Control* control, QStringView name)
     return control;
 }
 
-/// Controls of one name, told apart by an index; the members are called NAME_INDEX.
+/// Controls with one name and an index each. The object name of a member is NAME_INDEX.
 template <typename Control>
 class control_array {
 public:
     explicit control_array(QStringView name) : name_(name.toString()) {}
 
-    /// Takes a control in under an index.
+    /// Adds a control and names it. Returns the control.
     Control* add(int index, Control* control)
     {
         members_[index] = named(control, QStringLiteral("%1_%2").arg(name_).arg(index));

@@ -12,7 +12,7 @@
 #include "controls/cell_delegate.h"
 #include "controls/choice_menu.h"
 #include "controls/failure_guard.h"
-#include "controls/filled_header.h"
+#include "controls/grid_painting.h"
 #include "controls/leaving.h"
 
 namespace verdane {
@@ -30,7 +30,7 @@ data_grid::data_grid(recordset_model* model, QWidget* parent) : QTableView(paren
     setModel(model_);
     setItemDelegate(new cell_delegate(*this));
     setEditTriggers(NoEditTriggers);
-    // The cursor is all that is marked, by the delegate's frame: nothing works on a selection of cells.
+    // The delegate marks the cell with the cursor by a frame; nothing uses a selection of cells.
     setSelectionMode(NoSelection);
     setTabKeyNavigation(true);
     setHorizontalHeader(new filled_header(this));
@@ -90,7 +90,7 @@ void data_grid::set_Col(int column)
 void data_grid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTableView::currentChanged(current, previous);
-    // Its frame is painted by the delegate.
+    // The delegate paints the frame of the cursor.
     update(previous);
     update(current);
     if (following_ || !current.isValid())
@@ -162,7 +162,7 @@ void data_grid::keyPressEvent(QKeyEvent* event)
 {
     const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
     if (tab) {
-        // Not taken, the key leaves the grid.
+        // The window moves the focus on a key that is not accepted.
         event->setAccepted(move_cursor(event->key() == Qt::Key_Tab ? 1 : -1));
     } else if (opens_menu(*event)) {
         open_cell_menu();
@@ -292,24 +292,24 @@ void data_grid::commit_and_move_on()
 
 QModelIndex data_grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
-    // A key that the box does not use, such as Up, moves the cursor off the cell.
+    // A key that the editor does not use, such as Up, moves the cursor to another cell.
     return commit_cell() ? QTableView::moveCursor(action, modifiers) : currentIndex();
 }
 
 void data_grid::mousePressEvent(QMouseEvent* event)
 {
     const QPoint place = event->position().toPoint();
-    const QModelIndex meant = indexAt(place);
-    const bool meant_a_cell = meant.isValid();
-    const int row = meant.row();
-    const int column = meant.column();
-    // Before the click moves the cursor to another row. A row that this adds may scroll the one that was
-    // meant away from under the mouse.
+    const QModelIndex clicked = indexAt(place);
+    const bool clicked_a_cell = clicked.isValid();
+    const int row = clicked.row();
+    const int column = clicked.column();
+    // The text is written before the click moves the cursor to another row. This can add a row and scroll the
+    // clicked one away from under the mouse.
     if (!commit_cell())
         return;
     const QModelIndex pressed = indexAt(place);
     if (pressed.row() != row || pressed.column() != column) {
-        if (meant_a_cell)
+        if (clicked_a_cell)
             setCurrentIndex(model_->index(row, column));
         return;
     }

@@ -16,15 +16,15 @@ namespace verdane {
 
 class choice_menu;
 
-/// A grid bound to a recordset. The cursor's row is the recordset's current row; moving it commits the
-/// row that is left.
+/// A grid bound to a recordset. The row of the cursor is the current row of the recordset; moving the cursor
+/// to another row commits the row that is left.
 ///
-/// A cell is typed into by just typing (what stood there is replaced), by F2, Enter or a double click;
-/// Enter and Tab take what was typed and go one cell to the right, Escape drops it, a click elsewhere
-/// takes it. Tab behind the last cell of a row, and Shift+Tab before the first, leave the grid.
+/// Typing a character replaces the content of a cell; F2, Enter or a double click edits it. Enter and Tab
+/// write the text and move the cursor one cell to the right, a click elsewhere writes it, Escape discards it.
+/// Tab in the last cell of a row and Shift+Tab in the first leave the grid.
 ///
-/// A column may have a cell button, which opens a menu: by a click on it, a double click on the cell,
-/// Space, Enter, F4, Alt+Down, or the first letter of an entry. Such cells are not typed into.
+/// The cells of a column may have a button that opens a menu: by a click on it, a double click on the cell,
+/// Space, Enter, F4, Alt+Down, or the first letter of an entry. The text of such cells cannot be edited.
 class data_grid : public QTableView {
 public:
     explicit data_grid(recordset_model* model, QWidget* parent = nullptr);
@@ -33,37 +33,37 @@ public:
 
     void bind();
     void unbind();
-    /// Shows again what the recordset holds, the cursor on its current row.
+    /// Reads the rows of the recordset again and moves the cursor to the current row.
     void ReBind();
 
-    /// The cursor's column and row, from 0; the row is -1 when no row is current.
+    /// Column and row of the cursor, from 0; the row is -1 if no row is current.
     int Col() const { return col_; }
     void set_Col(int column);
     int Row() const;
 
-    /// Gives a column's cells a button that opens the menu.
+    /// Adds a button to the cells of a column, which opens the menu.
     void set_cell_menu(int column, choice_menu* menu);
-    /// Asked for each character that is typed or pasted into the column's cells; it passes or refuses.
+    /// Sets the filter that accepts or refuses each character typed or pasted into a column.
     void set_key_filter(int column, std::function<key_answer(QChar)> filter);
-    /// A text that the column cannot take stays in its cell, selected, with the cursor in it, until it is
-    /// corrected or dropped by Escape. In other columns such a text is dropped. The bell rings either way.
+    /// A text that is not valid in this column stays in its cell, selected and with the focus, until it is
+    /// corrected or discarded by Escape. In other columns it is discarded. The bell rings in both cases.
     void hold_refused_text(int column);
-    /// Told after the user changed a cell, by its column; the cell's row is the current one.
+    /// Called with the column after the user has changed a cell of the current row.
     std::function<void(int)> column_updated;
 
-    /// Opens the menu of the cursor's cell, if it has one.
+    /// Opens the menu of the cell with the cursor, if it has one.
     void open_cell_menu();
-    /// Takes what is being typed. Every routine that works on the rows of the grid calls it first, and does
-    /// nothing more when it answers false: the cell holds a text that its column cannot take.
+    /// Writes the text that is being edited. False if it is not valid and stays in its cell. Every routine
+    /// that works on the rows of the grid calls this first, and returns on false.
     bool commit_cell();
-    /// The focus comes to the grid, except while it takes what was typed into a cell that the user has left
-    /// for another control.
+    /// Sets the focus to the grid, except while it writes the text of a cell because the user moved the focus
+    /// to another control.
     void take_keyboard();
 
     bool has_cell_button(int column) const { return menus_.count(column) > 0; }
-    /// True for a cell that can be typed into.
+    /// True for a cell whose text can be edited.
     bool is_typed_into(const QModelIndex& cell) const;
-    /// Where the button of a cell is inside the cell's rectangle.
+    /// The rectangle of the button of a cell, from the rectangle of the cell.
     static QRect button_in(const QRect& cell);
 
 protected:
@@ -96,9 +96,10 @@ private:
     QPointer<QLineEdit> editor_;
     QPersistentModelIndex edited_;
     int col_ = 0;
-    /// The cursor follows the recordset, not the other way round.
+    /// True while the cursor is moved to the current row of the recordset; otherwise a move of the cursor
+    /// moves the recordset.
     bool following_ = false;
-    /// What is being taken was typed into a cell that the user has left for another control.
+    /// True while a text is written because the user moved the focus to another control.
     bool left_ = false;
 };
 

@@ -13,7 +13,7 @@ namespace verdane {
 
 namespace {
 
-/// Lets the box handle an event first, because that may change the selection, and runs the handler then.
+/// Passes each event to the box first, because that may change the selection, and then calls the handler.
 class entering_filter : public QObject {
 public:
     entering_filter(QLineEdit& box, std::function<void()> handler)
@@ -45,7 +45,7 @@ public:
 private:
     bool focus_gained(QFocusEvent& event)
     {
-        // The box's own menu has closed. Its commands act on the selection, which must not change.
+        // The context menu of the box has closed. Its commands act on the selection, which must not change.
         if (event.reason() == Qt::PopupFocusReason)
             return false;
         entered_by_click_ = event.reason() == Qt::MouseFocusReason;
@@ -59,13 +59,13 @@ private:
         return true;
     }
 
-    /// A small move during a click is no drag, nor is one with another button. A drag selects from the place
-    /// of the press.
+    /// A small move during a click is not a drag, nor is a move with another button. A drag selects from the
+    /// position of the press.
     bool is_dragged(const QMouseEvent& event)
     {
-        const QPoint way = event.position().toPoint() - pressed_at_;
+        const QPoint distance = event.position().toPoint() - pressed_at_;
         if (!event.buttons().testFlag(Qt::LeftButton) ||
-            way.manhattanLength() < QApplication::startDragDistance())
+            distance.manhattanLength() < QApplication::startDragDistance())
             return false;
         entered_by_click_ = false;
         box_.setCursorPosition(box_.cursorPositionAt(pressed_at_));
@@ -74,7 +74,7 @@ private:
 
     QLineEdit& box_;
     std::function<void()> handler_;
-    /// True from the moment a click gives the box the focus until the button is released.
+    /// True from the click that gives the box the focus until the button is released.
     bool entered_by_click_ = false;
     QPoint pressed_at_;
 };

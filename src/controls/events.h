@@ -10,9 +10,11 @@
 
 #include "controls/failure_guard.h"
 
-/// How the events of controls reach their routines: each through `run_event`.
+/// Connects events of controls with routines. Each routine is called through `run_event`, which handles
+/// failures.
 namespace verdane {
 
+/// A click on a button, by mouse or key.
 template <typename Routine>
 void on_click(QAbstractButton& button, Routine routine)
 {
@@ -20,14 +22,14 @@ void on_click(QAbstractButton& button, Routine routine)
                      [routine = std::move(routine)] { run_event(routine); });
 }
 
-/// Runs the routine on Enter while the list has the focus, as a double click does.
+/// Enter while the list has the focus.
 void on_enter(QListWidget& list, const std::function<void()>& routine);
 
-/// For a button that starts long work: a double click is one click, not two runs. The second press waits
-/// while the work is done and would start it again.
+/// Makes a double click on a button act as one click. For a button that starts long work: the second press is
+/// handled after the work and would start it again.
 void take_double_click_as_one(QAbstractButton& button);
 
-/// Each change of the text, typed or set by the program.
+/// Each change of the text, by the user or by the program.
 template <typename Routine>
 void on_change(QLineEdit& box, Routine routine)
 {
@@ -50,11 +52,15 @@ void on_select(QListWidget& list, Routine routine)
                      [routine = std::move(routine)] { run_event(routine); });
 }
 
+/// A double click on a line.
 template <typename Routine>
 void on_double_click(QListWidget& list, Routine routine)
 {
     QObject::connect(&list, &QListWidget::itemDoubleClicked, &list,
                      [routine = std::move(routine)] { run_event(routine); });
 }
+
+/// Once, after the window has painted itself for the first time: for work of a start that need not delay it.
+void after_first_paint(QWidget& window, std::function<void()> routine);
 
 }  // namespace verdane

@@ -6,14 +6,13 @@
 
 namespace verdane {
 
-/// Tells the user what failed, in plain words and in both languages while the language is not
-/// settled; then drops every pending row, closes the connection and ends the process at once with
-/// exit status 1. The windows that are open are not unwound: after a failure no routine goes on and
-/// commits.
+/// Shows the user what failed, in both languages until a language is set. Then discards every pending row,
+/// closes the connection and ends the process with exit status 1. It does not return and does not unwind the
+/// stack, so that no routine of an open window continues and commits after a failure.
 [[noreturn]] void end_after_failure(const run_time_failure& failure);
 
-/// Runs what an event of a window asks for. This is the one place where failures are caught, so that
-/// none is thrown through the toolkit's own frames.
+/// Calls the routine of an event and handles its failure. Every event of a window is handled through this
+/// function, because an exception must not pass through the toolkit.
 template <typename Routine>
 void run_event(Routine&& routine)
 {
@@ -26,8 +25,8 @@ void run_event(Routine&& routine)
     }
 }
 
-/// Runs a routine that must always finish and says whether it went through. Only the few routines
-/// that are laid down to ignore failures use it; every other failure ends the program.
+/// Calls a routine and ignores a failure. True if there was none. Only for the few routines that must always
+/// finish; every other failure ends the program.
 template <typename Routine>
 bool finishes_without_failure(Routine&& routine)
 {
@@ -39,11 +38,11 @@ bool finishes_without_failure(Routine&& routine)
     }
 }
 
-/// True for what only the store brings about: a statement, a recordset or a file that does not do what it
-/// was asked to. False for what the program worked out wrong, such as a count beyond its range.
+/// True for a failure of a statement, a recordset or a file of the store; false for other failures, such as a
+/// count beyond its range.
 bool is_failure_of_store(failure_kind kind);
 
-/// The same for a routine that is laid down to end where the store fails, and there only.
+/// Calls a routine and ignores a failure of the store. True if there was none. Other failures are thrown on.
 template <typename Routine>
 bool finishes_without_store_failure(Routine&& routine)
 {

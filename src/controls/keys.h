@@ -8,32 +8,31 @@ class QLineEdit;
 
 namespace verdane {
 
-/// What a box does with a key that was typed into it.
+/// What happens to a character that is typed into a box.
 enum class key_answer {
-    pass,    ///< the box takes the character
-    refuse,  ///< the bell rings and the box stays as it is
-    taken,   ///< the handler has put the character where it belongs itself
+    pass,    ///< the box inserts the character
+    refuse,  ///< the bell rings and the text does not change
+    taken,   ///< the handler has already handled the character
 };
 
 /// Character 8, which always passes.
 constexpr QChar backspace = u'\b';
 
-/// Asks `handler` for every character that is typed into the box (also those composed by an input
-/// method). Commands of the keyboard, such as pasting, moving and Enter, do not pass through it.
+/// Calls `handler` for every character that is typed into the box or composed by an input method. It is not
+/// called for other keys, such as those for pasting, moving the cursor and Enter.
 void filter_keys(QLineEdit& box, std::function<key_answer(QChar)> handler);
 
-/// True for the characters "0" to "9", compared by code: digits of other scripts are none.
+/// True for the characters "0" to "9", false for digits of other scripts.
 bool is_plain_digit(QChar key);
 
-/// The filter of a box of digits: those and backspace pass, any other key is refused.
+/// The filter of a box for digits: digits and backspace pass, any other character is refused.
 key_answer digits_only(QChar key);
 
-/// What comes into the box by another road than the keys (pasted, dropped) has to pass, character by
-/// character; else the bell rings and the box stays as it is. A box with a filter for its keys has one for
-/// this, too.
+/// Applies a filter to text that is pasted or dropped into the box: if it refuses one of the characters, the
+/// bell rings and the text does not change. A box with `filter_keys` has this filter, too.
 void filter_pasted_text(QLineEdit& box, std::function<key_answer(QChar)> filter);
 
-/// Selects the first `length` characters of a box, so that a new digit replaces its figure.
+/// Selects the first `length` characters of a box, so that the next digit replaces them.
 void select_characters(QLineEdit& box, int length);
 
 }  // namespace verdane

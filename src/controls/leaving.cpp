@@ -16,9 +16,9 @@ namespace verdane {
 
 namespace {
 
-/// Watches the application's events for those that take the focus off the box. Tab and short cuts are
-/// stopped before they act. A click has moved the focus by the time any filter sees it: the box takes
-/// the focus back, and the click is kept from the control that it was meant for.
+/// Filters the events of the application for those that move the focus from the box. Tab and shortcuts are
+/// stopped before they act. A click has already moved the focus when a filter gets its event: the box takes
+/// the focus back, and the press does not reach the clicked control.
 class leaving_guard : public QObject {
 public:
     leaving_guard(QLineEdit& box, std::function<bool()> allows)
@@ -29,7 +29,7 @@ public:
 
     bool eventFilter(QObject* target, QEvent* event) override
     {
-        if (asking_)
+        if (checking_)
             return false;
         switch (event->type()) {
         case QEvent::KeyPress:
@@ -49,14 +49,15 @@ public:
     bool refused()
     {
         bool stays = false;
-        asking_ = true;
+        checking_ = true;
         run_event([&] { stays = !allows_(); });
-        asking_ = false;
+        checking_ = false;
         return stays;
     }
 
 private:
-    /// A box that has the focus again must not handle its loss any more, which would drop its selection.
+    /// The box has the focus again, so it must not handle the event of the loss, which would clear its
+    /// selection.
     bool keeps_focus()
     {
         if (!refused())
@@ -71,7 +72,7 @@ private:
         return std::exchange(press_is_refused_, false) && takes_focus(focused_by_press_on(pressed));
     }
 
-    /// The rows of a list, say, give the focus to the list.
+    /// The control that gets the focus: for a click on the rows of a list, the list.
     static const QWidget* focused_by_press_on(const QWidget* pressed)
     {
         while (pressed && !pressed->isWindow() && !(pressed->focusPolicy() & Qt::ClickFocus))
@@ -92,7 +93,7 @@ private:
 
     QLineEdit& box_;
     std::function<bool()> allows_;
-    bool asking_ = false;
+    bool checking_ = false;
     bool press_is_refused_ = false;
 };
 
@@ -101,19 +102,19 @@ public:
     click_watch(QLineEdit& box, std::function<void()> routine) : QObject(&box), routine_(std::move(routine))
     {
         qApp->installEventFilter(this);
-        look_again();
+        check_later();
     }
 
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::Hide)
-            look_again();
+            check_later();
         return false;
     }
 
 private:
-    /// Behind what the event itself leads to.
-    void look_again()
+    /// Runs the check after the current event is handled.
+    void check_later()
     {
         QTimer::singleShot(0, this, [this] {
             if (QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget())

@@ -7,18 +7,19 @@ class QWidget;
 
 namespace verdane {
 
-/// Asks `allows` before the box is left for another control of its window: by Tab, by a click or by a
-/// keyboard short cut. When it answers false, the box keeps the focus and whatever would have taken
-/// it (a button's click, say) does not happen. Closing the window asks nothing.
+/// Calls `allows` before the focus moves from the box to another control of its window: by Tab, by a click or
+/// by a keyboard shortcut. If it returns false, the box keeps the focus, and the key or click has no effect.
+/// Closing the window does not call it.
 void when_left(QLineEdit& box, std::function<bool()> allows);
 
-/// Asks the box of the window that has the focus whether it may be left, as a click on another control
-/// would. True when it may, or when the box has no such question.
+/// Calls `allows` of the box with the focus, as a click on another control does. True if the box may be left,
+/// or if the control with the focus has no such check.
 bool leave_focused_box(const QWidget& window);
 
-/// Runs `routine` when the click is over that takes the focus off the box: the mouse button is up, the
-/// control that was clicked has done what it does, and a list that it opened is closed. A window that came
-/// up before would take the release, and the click would be lost. A box that goes away first runs nothing.
+/// Calls `routine` after the end of the click that moves the focus from the box: the mouse button is
+/// released, the clicked control has handled it, and a list that it opened is closed. A window that is shown
+/// before that would get the release, and the click would have no effect. A box that is deleted before calls
+/// nothing.
 void when_click_is_over(QLineEdit& box, std::function<void()> routine);
 
 }  // namespace verdane

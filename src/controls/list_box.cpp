@@ -10,7 +10,7 @@ namespace verdane {
 
 namespace {
 
-/// Day and time of a round.
+/// The width of the day and time of a round.
 constexpr int least_characters = 20;
 constexpr int least_lines = 4;
 
@@ -25,14 +25,14 @@ class list_box : public QListWidget {
 public:
     list_box(int characters, int lines) : characters_(characters), lines_(lines) {}
 
-    QSize sizeHint() const override { return room_for(characters_, lines_); }
+    QSize sizeHint() const override { return size_for(characters_, lines_); }
     QSize minimumSizeHint() const override
     {
-        return room_for(std::min(characters_, least_characters), std::min(lines_, least_lines));
+        return size_for(std::min(characters_, least_characters), std::min(lines_, least_lines));
     }
 
 private:
-    QSize room_for(int characters, int lines) const
+    QSize size_for(int characters, int lines) const
     {
         const QFontMetrics font = fontMetrics();
         return {font.averageCharWidth() * characters + 4 * rhythm,

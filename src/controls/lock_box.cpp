@@ -58,7 +58,7 @@ lock_box::lock_box()
 lock_box::~lock_box()
 {
     box_.hide();
-    // Not every platform gives the keyboard back to the window below by itself.
+    // Some platforms do not activate the window below on their own.
     if (owner_)
         owner_->activateWindow();
 }

@@ -6,9 +6,9 @@
 
 namespace verdane {
 
-/// The notice that another program holds the diary: a box above the window at work, which takes no input
-/// meanwhile. Its button gives up, as Escape does; no other key does, because what is being typed when the
-/// box appears is not meant for it.
+/// The notice that another program has locked the diary: a modal box above the active window. Its button, or
+/// Escape, stops the wait. No other key does, because keys that are typed while the box appears are meant for
+/// the window below.
 std::unique_ptr<lock_notice> make_lock_box();
 
 }  // namespace verdane

@@ -19,21 +19,22 @@ void set_digits(QLineEdit& box, int digits)
     box.setFixedWidth(text_width + 3 * rhythm);
 }
 
-QColor blended(const QColor& ground, const QColor& ink, double share)
+QColor blended(const QColor& background, const QColor& text, double share)
 {
     const auto mix = [share](int from, int to) { return qRound(from + (to - from) * share); };
-    return {mix(ground.red(), ink.red()), mix(ground.green(), ink.green()), mix(ground.blue(), ink.blue())};
+    return {mix(background.red(), text.red()), mix(background.green(), text.green()),
+            mix(background.blue(), text.blue())};
 }
 
-/// A box for reading only. Its ground lies between the window and the text: in a dark palette the frame of a
-/// box hardly shows, and the ground alone has to set it off from the window.
+/// A read-only box. Its background has a colour between those of the window and of the text: in a dark
+/// palette the frame of a box is hardly visible, and only the background distinguishes it from the window.
 class figure_box : public QLineEdit {
 public:
     figure_box()
     {
         setReadOnly(true);
         setFocusPolicy(Qt::NoFocus);
-        take_ground();
+        set_background();
     }
 
 protected:
@@ -41,20 +42,20 @@ protected:
     {
         QLineEdit::changeEvent(event);
         if (event->type() == QEvent::PaletteChange)
-            take_ground();
+            set_background();
     }
 
 private:
-    void take_ground()
+    void set_background()
     {
         constexpr double share_of_text = 0.07;
         QPalette own = palette();
-        const QColor ground =
+        const QColor background =
             blended(own.color(QPalette::Window), own.color(QPalette::WindowText), share_of_text);
-        // Setting the palette is a change of its own.
-        if (own.color(QPalette::Base) == ground)
+        // setPalette sends another PaletteChange event.
+        if (own.color(QPalette::Base) == background)
             return;
-        own.setColor(QPalette::Base, ground);
+        own.setColor(QPalette::Base, background);
         setPalette(own);
     }
 };

@@ -11,25 +11,26 @@ class QLineEdit;
 class QString;
 class QWidget;
 
-/// The quiet look that all windows share: the platform's own style and palette, one accent green, an
-/// 8-pixel rhythm, numbers right-aligned.
+/// The look of all windows: style and palette of the platform, one accent colour, distances in multiples of 8
+/// pixels, numbers aligned to the right.
 namespace verdane {
 
+/// The unit of all distances, in pixels.
 constexpr int rhythm = 8;
 
 QColor accent_green();
 
-/// Sets the accent for the whole program.
+/// Sets the accent colour in the palette of the application.
 void apply_look(QApplication& application);
 
-/// A box for a whole number of up to `digits` digits: narrow and right-aligned.
+/// A box for a whole number, as wide as `digits` digits.
 QLineEdit* make_number_box(int digits);
 
-/// A box that shows a figure and takes no focus and no key.
+/// A box of the same width that shows a figure and cannot have the focus.
 QLineEdit* make_figure(int digits);
 
-/// A label. It names the control that it belongs to for screen readers, and gives keyboard access to it when
-/// the caption holds a mnemonic.
+/// A label. It names its control, `buddy`, for screen readers, and gives it the focus by the mnemonic of its
+/// caption, if there is one.
 QLabel* make_label(const QString& caption, QWidget* buddy = nullptr);
 
 }  // namespace verdane

@@ -2,13 +2,14 @@
 
 #include <QWidget>
 
-#include "controls/screen_room.h"
+#include "controls/Form.h"
+#include "controls/screen_limits.h"
 
 namespace verdane {
 
 namespace {
 
-main_frame_interface* frame_of_run = nullptr;
+main_frame_interface* the_main_frame = nullptr;
 
 constexpr int top_twips = 40;
 
@@ -18,30 +19,30 @@ QPointer<Form> current_form;
 
 main_frame_interface* main_frame()
 {
-    return frame_of_run;
+    return the_main_frame;
 }
 
 void set_main_frame(main_frame_interface* frame)
 {
-    frame_of_run = frame;
+    the_main_frame = frame;
 }
 
 void Lock_menu()
 {
-    if (frame_of_run)
-        frame_of_run->lock_menu();
+    if (the_main_frame)
+        the_main_frame->lock_menu();
 }
 
 void Unlock_menu()
 {
-    if (frame_of_run)
-        frame_of_run->unlock_menu();
+    if (the_main_frame)
+        the_main_frame->unlock_menu();
 }
 
 void Place_and_lock(Form& form)
 {
-    if (frame_of_run) {
-        const QRect frame = frame_of_run->frame_widget()->geometry();
+    if (the_main_frame) {
+        const QRect frame = the_main_frame->frame_widget()->geometry();
         const int left = (frame.width() - form.width()) / 2;
         form.move(frame.topLeft() + QPoint(left, pixels(top_twips)));
         keep_on_screen(form);

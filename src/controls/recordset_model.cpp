@@ -34,8 +34,8 @@ bool fits(double value, column_type type)
     }
 }
 
-/// What a text becomes in a column; nothing when the column cannot take it.
-std::optional<QVariant> taken_by(const bound_column& column, column_type type, const QString& text)
+/// The value of a text in a column; empty if the text is not valid there.
+std::optional<QVariant> value_in(const bound_column& column, column_type type, const QString& text)
 {
     if (type == column_type::yes_no) {
         if (text != column.yes && text != column.no)
@@ -123,7 +123,7 @@ bool recordset_model::takes(int column, const QString& text) const
     if (!source_.is_open())
         return true;
     const bound_column& shown = this->column(column);
-    return taken_by(shown, source_.field_type(source_.Fields(shown.field).ordinal()), text).has_value();
+    return value_in(shown, source_.field_type(source_.Fields(shown.field).ordinal()), text).has_value();
 }
 
 bool recordset_model::write(int row, int column, const QString& text)
@@ -133,12 +133,12 @@ bool recordset_model::write(int row, int column, const QString& text)
     move_to(row);
     const bound_column& shown = this->column(column);
     Field field = source_.Fields(shown.field);
-    const auto value = taken_by(shown, source_.field_type(field.ordinal()), text);
+    const auto value = value_in(shown, source_.field_type(field.ordinal()), text);
     if (!value)
         return false;
     field.set(*value);
     row_written_ = true;
-    // The row may stand twice in the grid's columns.
+    // Two columns of the grid may show the same field.
     Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
     return true;
 }

@@ -12,19 +12,20 @@ namespace verdane {
 
 /// One column of a grid that is bound to a recordset.
 struct bound_column {
-    QString field;    ///< the recordset's column, capitals or not
-    QString caption;  ///< the words above the column
+    QString field;    ///< the column of the recordset, in any case
+    QString caption;  ///< the text in the header
     bool locked = false;
-    /// The words for a yes/no column; Null reads as no.
+    /// The texts of the values of a yes/no column; Null is shown as no.
     QString yes = {};
     QString no = {};
 };
 
-/// Binds a table view to a recordset: its rows are the recordset's rows, the view's current row is the
-/// recordset's current row. Leaving a row commits it as the recordset's lock says.
+/// Binds a table view to a recordset: the rows of the model are those of the recordset, and the current row
+/// of the view is the current row of the recordset. Leaving a row commits it if the lock of the recordset
+/// does.
 ///
-/// The recordset may be worked on behind the model's back (rows added, removed, read again): what the
-/// model shows follows at the next `refresh`. While unbound it has no rows, whatever the recordset is.
+/// Other code may change the recordset (add and remove rows, open it again); `refresh` updates the model.
+/// While unbound the model has no rows.
 class recordset_model : public QAbstractTableModel {
 public:
     recordset_model(Recordset& source, std::vector<bound_column> columns, QObject* parent = nullptr);
@@ -35,21 +36,21 @@ public:
     void bind();
     void unbind();
     bool is_bound() const { return bound_; }
-    /// Shows again what the recordset holds.
+    /// Updates the rows of the model from the recordset.
     void refresh();
 
-    /// Runs before a row that was written through this model is left and so committed.
+    /// Called before a row that was written through this model is left and committed.
     std::function<void()> before_row_commit;
-    /// Runs `before_row_commit` when the current row was written since it was entered.
+    /// Calls `before_row_commit` if the current row was written since it became current.
     void finish_row();
-    /// Makes a row the recordset's current one; the row that is left is finished first. Fails as the
-    /// commit does.
+    /// Makes a row the current one, after `finish_row` for the row that is left. A failure of the commit is a
+    /// failure of this function.
     void move_to(int row);
 
-    /// False when the column cannot take the text: no number, or one outside the column's range.
+    /// False if the text is not valid in the column: not a number, or a number outside its range.
     bool takes(int column, const QString& text) const;
-    /// Writes a text into a cell, whose row becomes the current one. An empty text is Null in a column
-    /// of numbers. False, and nothing is written, when the column cannot take the text.
+    /// Writes a text into a cell, whose row becomes the current one. In a column of numbers an empty text is
+    /// Null. False if the text is not valid in the column; then nothing is written.
     bool write(int row, int column, const QString& text);
 
     int rowCount(const QModelIndex& parent = {}) const override;

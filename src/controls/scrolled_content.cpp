@@ -15,8 +15,8 @@ namespace {
 
 constexpr QSize least_size(160, 96);
 
-/// The position that brings [from, to] into a view of `page` pixels with the least scrolling; where the
-/// range is longer than the view, its start counts.
+/// The scroll position that shows the range from `from` to `to` in a view of `page` pixels with the least
+/// scrolling; the start of the range if it is longer than the view.
 int scrolled_to(int position, int from, int to, int page)
 {
     if (from < position || to - from > page)
@@ -42,7 +42,7 @@ scrolled_content::scrolled_content(QLayout* layout) : after_layout_(new QTimer(t
 
 scrolled_content::~scrolled_content()
 {
-    // The control with the focus loses it while the content is deleted, when nothing may follow it any more.
+    // A control with the focus loses it while the content is deleted; `follow_focus` must not run then.
     QObject::disconnect(qApp, nullptr, this, nullptr);
 }
 
@@ -79,14 +79,14 @@ void scrolled_content::resizeEvent(QResizeEvent* event)
 
 bool scrolled_content::focusNextPrevChild(bool next)
 {
-    // QScrollArea itself would scroll once more, with other margins, so its own version is left out.
+    // The version of QScrollArea would scroll a second time, with other margins.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return QAbstractScrollArea::focusNextPrevChild(next);
 }
 
 bool scrolled_content::eventFilter(QObject* watched, QEvent* event)
 {
-    // The controls have their new places only when the event has been handled.
+    // The controls are moved only after the event is handled.
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
         after_layout_->start(0);
     return QScrollArea::eventFilter(watched, event);

@@ -7,19 +7,19 @@ class QTimer;
 
 namespace verdane {
 
-/// The content of a window between its fixed lines. Its preferred size is that of its controls, its minimum
-/// is small, and it scrolls when it is smaller than its controls. The control with the focus is scrolled
-/// into view, with its label where both fit.
+/// The part of a window that scrolls when it is smaller than its controls. Its preferred size is that of its
+/// controls, its minimum size is small. The control with the focus is scrolled into view, together with its
+/// label if both fit.
 ///
-/// It takes neither the focus nor a key: the arrow and page keys belong to the window.
+/// It cannot have the focus and handles no key: the window uses the arrow and page keys.
 class scrolled_content : public QScrollArea {
 public:
-    /// Takes the layout over and gives it a widget; its outer margins become 0.
+    /// Takes ownership of the layout and sets its outer margins to 0.
     explicit scrolled_content(QLayout* layout);
     ~scrolled_content() override;
 
-    /// What the area lacks in width and height to show its content without scroll bars; 0 where it lacks
-    /// nothing.
+    /// The width and height by which the area is too small to show its content without scroll bars; 0 if it
+    /// is large enough.
     QSize missing();
 
     QSize sizeHint() const override;
@@ -33,7 +33,7 @@ protected:
 
 private:
     void follow_focus();
-    /// A control's place in the content.
+    /// The rectangle of a control in the content.
     QRect place_of(const QWidget& control) const;
     QRect place_with_label(QWidget& control) const;
     void bring_into_view(const QRect& place);

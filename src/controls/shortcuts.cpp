@@ -1,6 +1,7 @@
 #include "controls/shortcuts.h"
 
 #include <QAbstractButton>
+#include <QKeySequence>
 #include <QShortcut>
 #include <QWidget>
 
@@ -18,7 +19,7 @@ namespace {
 
 struct key_name {
     QStringView portable;
-    text_pair words;
+    text_pair name;
 };
 
 constexpr key_name key_names[] = {
@@ -27,43 +28,49 @@ constexpr key_name key_names[] = {
     {u"PgUp", {u"Page préc.", u"Page Up"}},
 };
 
-QString line(const QString& keys, const text_pair& words, bool french)
+QString line_of(const QString& keys, const text_pair& caption, bool french)
 {
-    return keys + (french ? u" : " : u": ") + words.in(french);
+    return keys + (french ? u" : " : u": ") + caption.in(french);
+}
+
+QString line_of(const shortcut& which, bool french)
+{
+    return line_of(key_text(which.keys, french), which.caption, french);
 }
 
 }  // namespace
 
-QString key_text(const QKeySequence& keys, bool french)
+QString key_text(QKeyCombination keys, bool french)
 {
-    QString text = keys.toString(QKeySequence::PortableText);
-    for (const auto& [portable, words] : key_names) {
+    QString text = QKeySequence(keys).toString(QKeySequence::PortableText);
+    for (const auto& [portable, name] : key_names) {
         const qsizetype start = text.size() - portable.size();
         if (text == portable || text.endsWith(u'+' + portable.toString()))
-            return text.left(start) + words.in(french);
+            return text.left(start) + name.in(french);
     }
     return text;
 }
 
-QString tool_tip_with_keys(const text_pair& words, const QKeySequence& keys, bool french)
+QString tool_tip_of(const shortcut& which, bool french)
 {
-    return u"%1 (%2)"_s.arg(words.in(french), key_text(keys, french));
+    return u"%1 (%2)"_s.arg(which.caption.in(french), key_text(which.keys, french));
 }
 
 window_shortcuts::window_shortcuts(QWidget& window, bool french)
     : QObject(&window), window_(window), french_(french)
 {
-    // The list leaves the window as it is, so a box with a wrong text keeps the focus without a question.
-    auto* help = new QShortcut(QKeySequence(Qt::Key_F1), &window);
+    // The list changes nothing in the window, so it does not matter whether the box with the focus may be
+    // left.
+    auto* help = new QShortcut(shortcut_table::list_of_shortcuts.keys, &window);
     connect(help, &QShortcut::activated, this, [this] { run_event([this] { show_list(); }); });
 }
 
-void window_shortcuts::listen(const QKeySequence& keys, QWidget& place, std::function<void()> routine)
+void window_shortcuts::listen(QKeyCombination keys, QWidget& place, std::function<void()> routine)
 {
-    auto* shortcut = new QShortcut(keys, &place);
-    // Keys that are held down act once: one shot is removed, not one after the other.
-    shortcut->setAutoRepeat(false);
-    connect(shortcut, &QShortcut::activated, this, [this, routine = std::move(routine)] {
+    auto* listener = new QShortcut(keys, &place);
+    // Otherwise Ctrl+Delete, held down, would remove one shot after the other.
+    listener->setAutoRepeat(false);
+    connect(listener, &QShortcut::activated, this, [this, routine = std::move(routine)] {
         run_event([&] {
             if (leave_focused_box(window_))
                 routine();
@@ -71,38 +78,32 @@ void window_shortcuts::listen(const QKeySequence& keys, QWidget& place, std::fun
     });
 }
 
-void window_shortcuts::add(const QKeySequence& keys, const text_pair& words, QAbstractButton& button)
+void window_shortcuts::add(const shortcut& which, QAbstractButton& button)
 {
-    // The button's own shortcut would click a tenth of a second later.
-    listen(keys, button, [&button] { button.click(); });
-    button.setToolTip(tool_tip_with_keys(words, keys, french_));
-    mention(keys, words);
+    // The shortcut property of a button would click it a tenth of a second later.
+    listen(which.keys, button, [&button] { button.click(); });
+    button.setToolTip(tool_tip_of(which, french_));
+    mention(which);
 }
 
-void window_shortcuts::add(const QKeySequence& keys, const text_pair& words, std::function<void()> routine,
-                           QWidget* control)
+void window_shortcuts::add(const shortcut& which, std::function<void()> routine, QWidget* control)
 {
-    listen(keys, window_, std::move(routine));
+    listen(which.keys, window_, std::move(routine));
     if (control) {
         QStringList tips = control->toolTip().split(u'\n', Qt::SkipEmptyParts);
-        control->setToolTip((tips << tool_tip_with_keys(words, keys, french_)).join(u'\n'));
+        control->setToolTip((tips << tool_tip_of(which, french_)).join(u'\n'));
     }
-    mention(keys, words);
-}
-
-void window_shortcuts::mention(const QKeySequence& keys, const text_pair& words)
-{
-    entries_.push_back({keys, words});
+    mention(which);
 }
 
 QStringList window_shortcuts::lines() const
 {
     QStringList lines;
-    for (const auto& [keys, words] : entries_)
-        lines << line(key_text(keys, french_), words, french_);
-    lines << line(text_pair{u"Alt+lettre soulignée", u"Alt+underlined letter"}.in(french_),
-                  {u"Choisir le menu, le bouton ou la zone", u"Choose the menu, button or box"}, french_);
-    lines << line(key_text(Qt::Key_F1, french_), {u"Montrer cette liste", u"Show this list"}, french_);
+    for (const shortcut& which : listed_)
+        lines << line_of(which, french_);
+    lines << line_of(text_pair{u"Alt+lettre soulignée", u"Alt+underlined letter"}.in(french_),
+                     {u"Choisir le menu, le bouton ou la zone", u"Choose the menu, button or box"}, french_);
+    lines << line_of(shortcut_table::list_of_shortcuts, french_);
     return lines;
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QKeySequence>
 #include <QObject>
 #include <QStringList>
 
 #include <functional>
 #include <vector>
 
-#include "base/language.h"
+#include "controls/shortcut_table.h"
 
 class QAbstractButton;
 class QWidget;
@@ -15,47 +14,42 @@ class QWidget;
 namespace verdane {
 
 /// The keys as a keyboard of the language names them: "Ctrl+Suppr" in French, "Ctrl+Del" in English.
-QString key_text(const QKeySequence& keys, bool french);
+QString key_text(QKeyCombination keys, bool french);
 
-/// A tool tip that names what the keys do: "Coup suivant (Ctrl+N)".
-QString tool_tip_with_keys(const text_pair& words, const QKeySequence& keys, bool french);
+/// The tool tip of a shortcut: "Coup suivant (Ctrl+N)".
+QString tool_tip_of(const shortcut& which, bool french);
 
 /// The shortcuts of one window. F1 lists them in a message box, in the language of the window. Keys that are
 /// held down act once.
 class window_shortcuts : public QObject {
 public:
-    /// Belongs to the window and is deleted with it.
+    /// Is deleted with the window.
     window_shortcuts(QWidget& window, bool french);
 
-    /// The keys click the button while it is visible and enabled, from any control of the window. The
-    /// button gets the tool tip.
-    void add(const QKeySequence& keys, const text_pair& words, QAbstractButton& button);
+    /// The keys click the button from any control of the window, while it is visible and enabled. Sets the
+    /// tool tip of the button.
+    void add(const shortcut& which, QAbstractButton& button);
 
-    /// The keys run the routine from any control of the window. With a control, its tool tip gets a line
-    /// for the keys.
-    void add(const QKeySequence& keys, const text_pair& words, std::function<void()> routine,
-             QWidget* control = nullptr);
+    /// The keys call the routine from any control of the window. A line is added to the tool tip of the
+    /// control, if there is one.
+    void add(const shortcut& which, std::function<void()> routine, QWidget* control = nullptr);
 
-    /// Keys that a control handles by itself: they are listed only.
-    void mention(const QKeySequence& keys, const text_pair& words);
+    /// Lists a shortcut that a control handles on its own.
+    void mention(const shortcut& which) { listed_.push_back(which); }
 
     void set_language(bool french) { french_ = french; }
 
-    /// One line for each shortcut in the order in which they were added, then those of every window.
+    /// The list of F1: one line for each shortcut, in the order in which they were added, then the lines of
+    /// every window.
     QStringList lines() const;
 
 private:
-    struct entry {
-        QKeySequence keys;
-        text_pair words;
-    };
-
-    void listen(const QKeySequence& keys, QWidget& place, std::function<void()> routine);
+    void listen(QKeyCombination keys, QWidget& place, std::function<void()> routine);
     void show_list() const;
 
     QWidget& window_;
     bool french_;
-    std::vector<entry> entries_;
+    std::vector<shortcut> listed_;
 };
 
 }  // namespace verdane

@@ -83,7 +83,7 @@ void f_games::connect_events()
         on_click(*button, [this, which = index] { f_games_func::on_command(*this, which); });
     on_double_click(*List1, [this] { f_games_func::on_command(*this, open); });
     on_enter(*List1, [this] { f_games_func::on_command(*this, open); });
-    shortcuts().mention(Qt::Key_Return, {u"Ouvrir la ronde choisie", u"Open the selected round"});
+    shortcuts().mention(shortcut_table::open_round);
 }
 
 void f_games::closeForm()

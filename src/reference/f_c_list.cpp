@@ -80,7 +80,7 @@ void f_c_list::wire()
         on_click(*button, [this, i = index] { f_c_list_func::command(*this, i); });
     on_double_click(*List1, [this] { f_c_list_func::command(*this, 0); });
     on_enter(*List1, [this] { f_c_list_func::command(*this, 0); });
-    shortcuts().mention(Qt::Key_Return, {u"Ouvrir le terrain choisi", u"Open the selected course"});
+    shortcuts().mention(shortcut_table::open_course);
 }
 
 void f_c_list::closeForm()

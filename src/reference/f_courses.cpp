@@ -84,9 +84,8 @@ void f_courses::wire()
     on_click(*cmdan, [this] { closeForm(); });
     set_cancel_button(*cmdan);
     // The modal editor disables the main window, so the mouse cannot reach its toolbar.
-    shortcuts().add(Qt::CTRL | Qt::Key_S, {u"Enregistrer", u"Save"},
-                    [this] { toolbar_clicked(*this, u"B1"); });
-    shortcuts().add(Qt::CTRL | Qt::Key_W, {u"Fermer", u"Close"}, [this] { toolbar_clicked(*this, u"B5"); });
+    shortcuts().add(shortcut_table::save_course, [this] { toolbar_clicked(*this, u"B1"); });
+    shortcuts().add(shortcut_table::close_course, [this] { toolbar_clicked(*this, u"B5"); });
 }
 
 void f_courses::wire_hole(int index)

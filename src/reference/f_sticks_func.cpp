@@ -14,7 +14,7 @@
 #include "controls/boxes.h"
 #include "controls/list_box.h"
 #include "controls/main_frame.h"
-#include "controls/screen_room.h"
+#include "controls/screen_limits.h"
 #include "records/round_list.h"
 #include "records/round_rows.h"
 #include "reference/f_sticks.h"

@@ -4,7 +4,7 @@
 
 #include "base/language.h"
 #include "base/run_time_failure.h"
-#include "controls/screen_room.h"
+#include "controls/screen_limits.h"
 #include "reports/preview/page_view.h"
 #include "reports/preview/report_preview.h"
 #include "reports/preview/report_wait.h"

@@ -22,22 +22,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QPushButton* make_command(f_new_round& window, const text_pair& caption, QStringView name,
-                          const QKeySequence& keys, const text_pair& words)
+                          const shortcut& keys)
 {
     QPushButton* button = named(make_button(caption.in(window.french())), name);
-    window.shortcuts().add(keys, words, *button);
+    window.shortcuts().add(keys, *button);
     return button;
 }
 
 QLayout* make_commands(f_new_round& window)
 {
-    window.CommandSuiv = make_command(window, {u"Coup suivant", u"Next Shot"}, u"CommandSuiv",
-                                      Qt::CTRL | Qt::Key_N, {u"Coup suivant", u"Next shot"});
-    window.CommandSup = make_command(window, {u"Supprimer", u"Remove"}, u"CommandSup",
-                                     Qt::CTRL | Qt::Key_Delete, {u"Supprimer le coup", u"Remove the shot"});
-    window.b_carte =
-        make_command(window, {u"Fin - Rafraichir carte de pointage", u"End - Refresh Scorecard"}, u"b_carte",
-                     Qt::Key_F5, {u"Fin du trou, carte rafraîchie", u"End of the hole, scorecard refreshed"});
+    window.CommandSuiv =
+        make_command(window, {u"Coup suivant", u"Next Shot"}, u"CommandSuiv", shortcut_table::next_shot);
+    window.CommandSup =
+        make_command(window, {u"Supprimer", u"Remove"}, u"CommandSup", shortcut_table::remove_shot);
+    window.b_carte = make_command(window, {u"Fin - Rafraichir carte de pointage", u"End - Refresh Scorecard"},
+                                  u"b_carte", shortcut_table::end_of_hole);
     auto* line = new QHBoxLayout;
     line->setSpacing(rhythm);
     line->addWidget(window.CommandSuiv);
@@ -108,8 +107,7 @@ QWidget* make_page_bar(f_new_round& window)
     window.TabStrip2->addTab(window.caption(u"Entrée détaillée", u"Detailed Entry"));
     window.Command4 = named(make_button(u"Cliquer pour détailler votre ronde"_s), u"Command4");
     window.b_putts =
-        make_command(window, {u"Coups roulés", u"Putts"}, u"b_putts", Qt::CTRL | Qt::Key_P,
-                     {u"Rapport sur les coups roulés de la ronde", u"Report on the putts of the round"});
+        make_command(window, {u"Coups roulés", u"Putts"}, u"b_putts", shortcut_table::putt_report);
     line->setSpacing(rhythm);
     line->addWidget(window.TabStrip2);
     line->addStretch();

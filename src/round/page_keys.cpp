@@ -28,17 +28,17 @@ enum class page_key { none, next_hole, previous_hole, quick_page, detailed_page 
 /// With the French layout the keys of 1 and 2 are those of & and é.
 page_key meaning_of(const QKeyEvent& event)
 {
-    const int modifiers = static_cast<int>(event.modifiers() & ~Qt::KeypadModifier);
-    switch (event.key() | modifiers) {
-    case Qt::Key_PageDown:
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    switch (QKeyCombination(modifiers, static_cast<Qt::Key>(event.key())).toCombined()) {
+    case shortcut_table::next_hole.keys.toCombined():
         return page_key::next_hole;
-    case Qt::Key_PageUp:
+    case shortcut_table::previous_hole.keys.toCombined():
         return page_key::previous_hole;
-    case static_cast<int>(Qt::ControlModifier) | Qt::Key_1:
-    case static_cast<int>(Qt::ControlModifier) | Qt::Key_Ampersand:
+    case shortcut_table::quick_page.keys.toCombined():
+    case (Qt::CTRL | Qt::Key_Ampersand).toCombined():
         return page_key::quick_page;
-    case static_cast<int>(Qt::ControlModifier) | Qt::Key_2:
-    case static_cast<int>(Qt::ControlModifier) | Qt::Key_Eacute:
+    case shortcut_table::detailed_page.keys.toCombined():
+    case (Qt::CTRL | Qt::Key_Eacute).toCombined():
         return page_key::detailed_page;
     default:
         return page_key::none;
@@ -93,24 +93,17 @@ private:
     f_new_round& window_;
 };
 
-constexpr text_pair next_hole{u"Trou suivant", u"Next hole"};
-constexpr text_pair previous_hole{u"Trou précédent", u"Previous hole"};
-constexpr text_pair quick_entry_words{u"Entrée rapide", u"Quick entry"};
-constexpr text_pair detailed_entry_words{u"Entrée détaillée", u"Detailed Entry"};
-
 /// In the list of F1 and in the tool tips of the tabs.
 void name_keys(f_new_round& window)
 {
-    const auto tip = [&window](const QKeySequence& keys, const text_pair& words) {
-        window.shortcuts().mention(keys, words);
-        return tool_tip_with_keys(words, keys, window.french());
+    const auto tip = [&window](const shortcut& which) {
+        window.shortcuts().mention(which);
+        return tool_tip_of(which, window.french());
     };
-    const QString next = tip(Qt::Key_PageDown, next_hole);
-    window.TabStrip1->setToolTip(next + u'\n' + tip(Qt::Key_PageUp, previous_hole));
-    window.TabStrip2->setTabToolTip(f_new_round_func::quick_page - 1,
-                                    tip(Qt::CTRL | Qt::Key_1, quick_entry_words));
-    window.TabStrip2->setTabToolTip(f_new_round_func::detailed_page - 1,
-                                    tip(Qt::CTRL | Qt::Key_2, detailed_entry_words));
+    const QString next = tip(shortcut_table::next_hole);
+    window.TabStrip1->setToolTip(next + u'\n' + tip(shortcut_table::previous_hole));
+    window.TabStrip2->setTabToolTip(f_new_round_func::quick_page - 1, tip(shortcut_table::quick_page));
+    window.TabStrip2->setTabToolTip(f_new_round_func::detailed_page - 1, tip(shortcut_table::detailed_page));
 }
 
 }  // namespace

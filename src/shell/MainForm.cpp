@@ -9,10 +9,10 @@
 
 #include "base/language.h"
 #include "controls/control_array.h"
+#include "controls/events.h"
 #include "controls/failure_guard.h"
-#include "controls/screen_room.h"
-#include "shell/after_first_paint.h"
-#include "shell/language_value.h"
+#include "controls/screen_limits.h"
+#include "shell/language_change.h"
 
 namespace verdane {
 
@@ -24,7 +24,7 @@ constexpr QSize wanted_size(1200, 780);
 constexpr QSize least_size(640, 400);
 constexpr QSize tool_icon_size(28, 28);
 
-std::unique_ptr<MainForm> form_of_run;
+std::unique_ptr<MainForm> the_main_form;
 
 QString caption_of(const text_pair& caption)
 {
@@ -44,11 +44,11 @@ QAction* make_action(QStringView name, void (*command)(), QObject* owner)
 MainForm::MainForm()
 {
     setObjectName(u"MainForm"_s);
-    const QSize room = room_on_screen(*this);
-    setMinimumSize(least_size.boundedTo(room));
-    // The toolkit's own menu offers to hide the toolbar, and nothing would bring it back.
+    const QSize largest = largest_size_on_screen(*this);
+    setMinimumSize(least_size.boundedTo(largest));
+    // The default context menu hides the toolbar, and no command would show it again.
     setContextMenuPolicy(Qt::NoContextMenu);
-    resize(wanted_size.boundedTo(room));
+    resize(wanted_size.boundedTo(largest));
     for (const top_menu& menu : main_menu())
         add_menu(menu);
     add_toolbar();
@@ -64,28 +64,28 @@ MainForm::~MainForm()
 
 MainForm* MainForm::of_run()
 {
-    return form_of_run.get();
+    return the_main_form.get();
 }
 
 void MainForm::show_first()
 {
-    form_of_run = std::make_unique<MainForm>();
-    form_of_run->show();
-    form_of_run->activated();
-    // The desktop gives the window its frame only when it is on the screen.
-    after_first_paint(*form_of_run, [] { keep_on_screen(*form_of_run); });
+    the_main_form = std::make_unique<MainForm>();
+    the_main_form->show();
+    the_main_form->activated();
+    // The size of its frame is known only after the window is shown.
+    after_first_paint(*the_main_form, [] { keep_on_screen(*the_main_form); });
 }
 
 void MainForm::end_of_run()
 {
-    form_of_run.reset();
+    the_main_form.reset();
 }
 
 QAction* MainForm::add_entry(const menu_entry& entry)
 {
     QAction* action = make_action(entry.name, entry.command, this);
-    action->setVisible(!entry.switched_off);
-    action->setEnabled(!entry.switched_off);
+    action->setVisible(!entry.hidden);
+    action->setEnabled(!entry.hidden);
     actions_[entry.name.toString()] = action;
     return action;
 }
@@ -94,7 +94,7 @@ void MainForm::add_menu(const top_menu& top)
 {
     if (top.command) {
         menuBar()->addAction(
-            add_entry({top.name, top.caption, top.command, top.locked_while_a_window_works}));
+            add_entry({top.name, top.caption, top.command, top.locked_while_a_window_is_open}));
         return;
     }
     QMenu* menu = menuBar()->addMenu(QString());
@@ -123,10 +123,10 @@ void MainForm::add_toolbar()
 
 void MainForm::add_pictures()
 {
-    auto* ground = new QWidget;
-    Picture1_ = named(new picture_pane(u":/art/landscape_fr.svg"_s, ground), u"Picture1");
-    Picture2_ = named(new picture_pane(u":/art/landscape_en.svg"_s, ground), u"Picture2");
-    setCentralWidget(ground);
+    auto* background = new QWidget;
+    Picture1_ = named(new picture_pane(u":/art/landscape_fr.svg"_s, background), u"Picture1");
+    Picture2_ = named(new picture_pane(u":/art/landscape_en.svg"_s, background), u"Picture2");
+    setCentralWidget(background);
 }
 
 void MainForm::load()
@@ -173,15 +173,15 @@ void MainForm::tick_language(int value)
 void MainForm::set_locked(bool locked)
 {
     for (const top_menu& menu : main_menu()) {
-        if (menu.locked_while_a_window_works)
+        if (menu.locked_while_a_window_is_open)
             actions_.at(menu.name.toString())->setEnabled(!locked);
         for (const menu_entry& entry : menu.entries) {
-            if (entry.locked_while_a_window_works)
+            if (entry.locked_while_a_window_is_open)
                 actions_.at(entry.name.toString())->setEnabled(!locked);
         }
     }
     for (const tool_button& button : main_toolbar()) {
-        if (button.locked_while_a_window_works)
+        if (button.locked_while_a_window_is_open)
             enable_tool_button(button.key, !locked);
     }
 }

@@ -14,23 +14,23 @@
 
 namespace verdane {
 
-/// The one top-level window: a frame with a menu, a toolbar and a picture, holding no data of its own.
-/// It keeps its name in both languages.
+/// The main window: a menu, a toolbar and a picture. It has the same name in both languages.
 class MainForm : public QMainWindow, public main_frame_interface {
 public:
     MainForm();
     ~MainForm() override;
 
-    /// The main window of the run; null before the start has reached it.
+    /// The main window; null before `show_first`.
     static MainForm* of_run();
-    /// Makes the main window of the run and shows it.
+    /// Creates the main window and shows it.
     static void show_first();
-    /// Lets go of it, once the last window has gone.
+    /// Deletes it, after the last window is closed.
     static void end_of_run();
 
-    /// Ticks the entry of the chosen language and takes the tick from the other.
+    /// Ticks the menu entry of a language (`french_value` or `english_value`) and removes the tick of the
+    /// other.
     void tick_language(int value);
-    /// Unloads the window, loads it again in the language of this moment and shows it.
+    /// Unloads the window, loads it again in the current language and shows it.
     void reload();
 
     QWidget* frame_widget() override { return this; }

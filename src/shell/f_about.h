@@ -9,7 +9,7 @@
 
 namespace verdane {
 
-/// Tells the version and offers the platform's system information tool.
+/// Shows the version, and opens the system information tool of the platform.
 class f_about : public Form {
 public:
     f_about();

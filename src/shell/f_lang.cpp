@@ -8,7 +8,7 @@
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
-#include "shell/language_value.h"
+#include "shell/language_change.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/settings.h"
 

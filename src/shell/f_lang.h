@@ -7,8 +7,8 @@
 
 namespace verdane {
 
-/// Asks for the language when the store holds none yet. Bilingual by nature, so it has no twin.
-/// `rssettings` is open on its row.
+/// Lets the user choose the language when the store has none yet. One window with captions in both languages,
+/// so it has no twin. Writes the language to the current row of `rssettings`, which must be open.
 class f_lang : public Form {
 public:
     f_lang();

@@ -3,7 +3,6 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
-#include "controls/interface_language.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"
 #include "management/store_clean_up.h"
@@ -12,13 +11,11 @@
 #include "reference/f_sticks.h"
 #include "round/Round_records.h"
 #include "shell/f_about.h"
-#include "shell/language_value.h"
+#include "shell/language_change.h"
 #include "shell/MainForm.h"
-#include "shell/start_up.h"
 #include "statistics/f_carte.h"
 #include "statistics/f_date_range.h"
 #include "store/DataEnvironment1.h"
-#include "store/tables/settings.h"
 
 namespace verdane {
 
@@ -52,24 +49,6 @@ void open_statistics(statistics_mode mode)
         return;
     }
     open_window<f_date_range>(mode);
-}
-
-void store_language(int value)
-{
-    Recordset& rssettings = data_environment().rssettings;
-    rssettings.Open();
-    rssettings.Fields(tables::settings::language).set(value);
-    rssettings.Update();
-    rssettings.Close();
-}
-
-void change_language(int value)
-{
-    store_language(value);
-    MainForm::of_run()->tick_language(value);
-    set_interface_language(value == french_value);
-    load_club_names();
-    MainForm::of_run()->reload();
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 #pragma once
 
-/// What the user can ask of the main window: one plain routine for each command. Each tests what its
-/// window needs, then opens the window of the current language.
+/// The commands of the menu and the toolbar (`main_menu.cpp` has the table of both). A command that opens a
+/// window checks its precondition first, shows a message box if it is not met, and opens the twin of the
+/// current language otherwise.
 namespace verdane {
 
 void command_new_round();
@@ -16,11 +17,11 @@ void command_cost_statistics();
 void command_partners();
 void command_about();
 
-/// The tool behind the entry that is switched off.
+/// The command of the hidden menu entry `mcoh`.
 void command_store_clean_up();
 
-/// Save and Close address the window that was at work last; when it is closed, or none was opened yet, a
-/// notice says so.
+/// Save and Close act on `current_form`. If that window is closed, or none was opened yet, they show a
+/// notice.
 void command_save();
 void command_close();
 

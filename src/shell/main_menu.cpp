@@ -7,18 +7,18 @@ namespace verdane {
 namespace {
 
 constexpr bool locked = true;
-constexpr bool switched_off = true;
+constexpr bool hidden = true;
 
 top_menu file_menu()
 {
     return {u"mfile",
             {u"&Fichier", u"&File"},
-            {{u"mnSave", {u"&Enregistrer", u""}, command_save, !locked, switched_off},
-             {u"mClose", {u"&Fermer", u""}, command_close, !locked, switched_off},
+            {{u"mnSave", {u"&Enregistrer", u""}, command_save, !locked, hidden},
+             {u"mClose", {u"&Fermer", u""}, command_close, !locked, hidden},
              {u"mEn", {u"English", u"English"}, command_english},
              {u"mfr", {u"Français", u"Français"}, command_french},
              {u"mQuit", {u"&Quitter", u"&Exit"}, command_quit, locked},
-             {u"mcoh", {u"TEST", u"TEST"}, command_store_clean_up, !locked, switched_off}}};
+             {u"mcoh", {u"TEST", u"TEST"}, command_store_clean_up, !locked, hidden}}};
 }
 
 }  // namespace

@@ -14,17 +14,17 @@ namespace {
 const QString sign = u"sign"_s;
 constexpr double margin = 8;
 
-/// The shift that brings the range from `first` to `last` inside 0 to `end`, both less the margin. Where the
-/// range is too long, its first end is brought inside. The shift is limited so that `covered_first` stays at
-/// 0 or below and `covered_last` at `end` or above: the drawing still covers the pane.
-double move_into_view(double first, double last, double end, double covered_first, double covered_last)
+/// The shift that moves the range from `first` to `last` between 0 and `end`, with a margin at both ends. If
+/// the range is too long, its start is moved there. The shift is limited so that `covered_first` stays at 0
+/// or below and `covered_last` at `end` or above, and the drawing still covers the pane.
+double shift_into_view(double first, double last, double end, double covered_first, double covered_last)
 {
-    double move = 0;
+    double shift = 0;
     if (last > end - margin)
-        move = end - margin - last;
-    if (first + move < margin)
-        move = margin - first;
-    return std::min(std::max(move, end - covered_last), -covered_first);
+        shift = end - margin - last;
+    if (first + shift < margin)
+        shift = margin - first;
+    return std::min(std::max(shift, end - covered_last), -covered_first);
 }
 
 }  // namespace
@@ -41,8 +41,8 @@ QRectF picture_pane::cover() const
     QRectF area(QPointF(), whole * scale);
     area.moveCenter(QRectF(rect()).center());
     const QRectF seen = sign_in(area);
-    area.translate(move_into_view(seen.left(), seen.right(), width(), area.left(), area.right()),
-                   move_into_view(seen.top(), seen.bottom(), height(), area.top(), area.bottom()));
+    area.translate(shift_into_view(seen.left(), seen.right(), width(), area.left(), area.right()),
+                   shift_into_view(seen.top(), seen.bottom(), height(), area.top(), area.bottom()));
     return area;
 }
 

@@ -6,14 +6,14 @@
 
 namespace verdane {
 
-/// A drawing that fills its pane at any size: scaled as a whole, what is too wide or too high is cut evenly,
-/// except that the element `sign` of the drawing stays in view. The drawing takes longer than all the
-/// rest of a window, so the first one is made after the window is shown.
+/// A drawing that fills its pane at any size. It is scaled and centred, and cut where it is too wide or too
+/// high, but shifted so that its element `sign` stays visible. Drawing takes longer than building the rest of
+/// the window, so the picture is drawn after the window is shown for the first time.
 class picture_pane : public QWidget {
 public:
     explicit picture_pane(const QString& drawing, QWidget* parent = nullptr);
 
-    /// Where the sign is in the pane; empty until the drawing was read.
+    /// The rectangle of the sign in the pane; empty until the drawing is loaded.
     QRectF place_of_sign() const;
 
 protected:
@@ -21,7 +21,7 @@ protected:
 
 private:
     QRectF cover() const;
-    /// The sign, with the drawing scaled to an area of the pane.
+    /// The rectangle of the sign if the drawing fills `area`.
     QRectF sign_in(const QRectF& area) const;
     void draw_soon();
     void redraw();

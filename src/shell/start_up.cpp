@@ -7,23 +7,23 @@
 #include "base/oversized_writes.h"
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
+#include "controls/events.h"
 #include "controls/failure_guard.h"
 #include "controls/interface_language.h"
 #include "controls/lock_box.h"
 #include "controls/look.h"
 #include "reports/report_store.h"
-#include "shell/after_first_paint.h"
 #include "shell/f_lang.h"
-#include "shell/language_value.h"
+#include "shell/language_change.h"
 #include "shell/MainForm.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
 #include "store/tables/golf_bag.h"
 #include "store/tables/settings.h"
 
-/// The pictures stand in a library, so the linker would leave them out: nothing else asks for them.
-/// The toolkit wants this said outside every namespace.
-static void keep_pictures()
+/// The pictures are resources of a static library. The linker would leave them out without this call, which
+/// the toolkit allows outside namespaces only.
+static void link_pictures()
 {
     Q_INIT_RESOURCE(art);
 }
@@ -34,15 +34,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Reads the language, asking for it when none was chosen yet.
-start_result settle_language(Recordset& rssettings)
+/// Sets the language to that of the store. Opens the language window if none has been chosen yet.
+start_result load_language(Recordset& rssettings)
 {
     if (rssettings.Fields(tables::settings::language).is_null()) {
         tell(u"Fatal Error - Unexpected Language Value - 1014"_s, QMessageBox::Critical);
         return start_result::damaged;
     }
     if (!is_language_value(plain(rssettings.Fields(tables::settings::language).to_int16()))) {
-        // The answer is written, and nothing is written into a store that is not sound.
+        // The window writes the language, and a damaged store must not be written to.
         data_environment().connection.check_soundness();
         f_lang window;
         window.show_modal();
@@ -71,7 +71,7 @@ void load_round_keys()
 {
     Main_module::round_key_count = 0;
     Recordset& rsgames = data_environment().rsgames;
-    // A row of this table is wide, and only its key is used here.
+    // The rows of this table have many columns; only the key is needed.
     const scoped_source keys_only(rsgames, u"select date from games order by date"_s);
     rsgames.Open();
     if (!rsgames.eof()) {
@@ -84,15 +84,15 @@ void load_round_keys()
 start_result Main()
 {
     reset_interface_language();
-    // Nothing is written before the window is up, so the check of the whole file, which takes as long as
-    // everything else done here, can wait until then: see `run_verdane`.
+    // The check of the whole file takes as long as the rest of the start. It can run after the main window is
+    // shown (`run_verdane`), because nothing is written before.
     Connection1& connection = data_environment().connection;
     connection.waiting().set_notice_maker(make_lock_box);
     connection.Open(Connection1::default_path(), soundness_check::later);
     set_report_store(connection.path());
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
-    const start_result result = settle_language(rssettings);
+    const start_result result = load_language(rssettings);
     load_club_names();
     if (result != start_result::running)
         return result;
@@ -105,7 +105,7 @@ start_result Main()
 void prepare_application(QApplication& application)
 {
     let_oversized_writes_fail();
-    keep_pictures();
+    link_pictures();
     QCoreApplication::setApplicationName(u"Verdane"_s);
     QCoreApplication::setApplicationVersion(u"1.4"_s);
     QGuiApplication::setDesktopFileName(u"io.verdane.Verdane"_s);

@@ -12,7 +12,7 @@
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
-#include "controls/screen_room.h"
+#include "controls/screen_limits.h"
 #include "controls/scrolled_content.h"
 #include "tests/support/recording_frame.h"
 
@@ -47,7 +47,7 @@ public:
     scrolled_content* content;
     QPushButton* ok;
 
-    bool in_sight(const QWidget& control) const
+    bool in_view(const QWidget& control) const
     {
         const QRect view = content->viewport()->rect();
         return view.contains(QRect(control.mapTo(content->viewport(), QPoint()), control.size()));
@@ -67,17 +67,17 @@ class test_scrolled_content : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_window_takes_the_size_at_which_nothing_scrolls()
+    void a_window_gets_a_size_at_which_nothing_scrolls()
     {
         long_window window(6);
         window.take_size({200, 100});
         show_active(window);
         QVERIFY(window.height() > 100);
         QVERIFY(!window.content->verticalScrollBar()->isVisible());
-        QVERIFY(window.in_sight(*window.boxes.back()));
+        QVERIFY(window.in_view(*window.boxes.back()));
     }
 
-    void a_window_with_room_keeps_the_wanted_size()
+    void a_window_large_enough_keeps_the_wanted_size()
     {
         long_window window(2);
         window.take_size({410, 333});
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(window.rect().contains(window.ok->geometry()));
     }
 
-    void a_window_made_small_by_hand_keeps_its_buttons()
+    void a_window_resized_to_its_minimum_shows_its_buttons()
     {
         long_window window;
         window.take_size({300, 200});
@@ -114,12 +114,12 @@ private Q_SLOTS:
         show_active(window);
         for (const std::size_t line : {line_count - 1, 0, line_count / 2}) {
             window.boxes[line]->setFocus();
-            QVERIFY(window.in_sight(*window.boxes[line]));
-            QVERIFY(window.in_sight(*window.labels[line]));
+            QVERIFY(window.in_view(*window.boxes[line]));
+            QVERIFY(window.in_view(*window.labels[line]));
         }
     }
 
-    void the_control_with_the_focus_stays_in_view_when_the_window_becomes_smaller()
+    void the_control_with_the_focus_stays_in_view_when_the_window_shrinks()
     {
         long_window window;
         window.take_size({300, 200});
@@ -127,7 +127,7 @@ private Q_SLOTS:
         show_active(window);
         window.boxes[6]->setFocus();
         window.resize(300, 200);
-        QTRY_VERIFY(window.in_sight(*window.boxes[6]));
+        QTRY_VERIFY(window.in_view(*window.boxes[6]));
     }
 
     void a_window_can_be_deleted_while_a_control_in_it_has_the_focus()
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(!QApplication::focusWidget());
     }
 
-    void arrow_and_page_keys_are_left_to_the_window()
+    void arrow_and_page_keys_are_not_handled()
     {
         long_window window;
         window.resize(300, 300);

@@ -33,12 +33,12 @@ public:
             ++questions;
             return may_leave;
         });
-        shortcuts().add(Qt::CTRL | Qt::Key_N, {u"Coup suivant", u"Next shot"}, *press);
+        shortcuts().add(shortcut_table::next_shot, *press);
         shortcuts().add(
-            Qt::Key_PageDown, {u"Trou suivant", u"Next hole"}, [this] { ++runs; }, box);
+            shortcut_table::next_hole, [this] { ++runs; }, box);
         shortcuts().add(
-            Qt::Key_PageUp, {u"Trou précédent", u"Previous hole"}, [] {}, box);
-        shortcuts().mention(Qt::Key_Return, {u"Ouvrir", u"Open"});
+            shortcut_table::previous_hole, [] {}, box);
+        shortcuts().mention({Qt::Key_Return, {u"Ouvrir", u"Open"}});
     }
 
     QLineEdit* box;
@@ -76,29 +76,29 @@ private Q_SLOTS:
 
     void keys_are_named_in_the_language_data()
     {
-        QTest::addColumn<QKeySequence>("keys");
+        QTest::addColumn<QKeyCombination>("keys");
         QTest::addColumn<QString>("french");
         QTest::addColumn<QString>("english");
-        QTest::newRow("letter") << QKeySequence(Qt::CTRL | Qt::Key_N) << u"Ctrl+N"_s << u"Ctrl+N"_s;
-        QTest::newRow("delete") << QKeySequence(Qt::CTRL | Qt::Key_Delete) << u"Ctrl+Suppr"_s
+        QTest::newRow("letter") << QKeyCombination(Qt::CTRL | Qt::Key_N) << u"Ctrl+N"_s << u"Ctrl+N"_s;
+        QTest::newRow("delete") << QKeyCombination(Qt::CTRL | Qt::Key_Delete) << u"Ctrl+Suppr"_s
                                 << u"Ctrl+Del"_s;
-        QTest::newRow("page") << QKeySequence(Qt::Key_PageDown) << u"Page suiv."_s << u"Page Down"_s;
-        QTest::newRow("page up") << QKeySequence(Qt::Key_PageUp) << u"Page préc."_s << u"Page Up"_s;
-        QTest::newRow("escape") << QKeySequence(Qt::Key_Escape) << u"Échap"_s << u"Esc"_s;
-        QTest::newRow("enter") << QKeySequence(Qt::Key_Return) << u"Entrée"_s << u"Enter"_s;
-        QTest::newRow("plus") << QKeySequence(Qt::CTRL | Qt::Key_Plus) << u"Ctrl++"_s << u"Ctrl++"_s;
-        QTest::newRow("function key") << QKeySequence(Qt::Key_F5) << u"F5"_s << u"F5"_s;
+        QTest::newRow("page") << QKeyCombination(Qt::Key_PageDown) << u"Page suiv."_s << u"Page Down"_s;
+        QTest::newRow("page up") << QKeyCombination(Qt::Key_PageUp) << u"Page préc."_s << u"Page Up"_s;
+        QTest::newRow("escape") << QKeyCombination(Qt::Key_Escape) << u"Échap"_s << u"Esc"_s;
+        QTest::newRow("enter") << QKeyCombination(Qt::Key_Return) << u"Entrée"_s << u"Enter"_s;
+        QTest::newRow("plus") << QKeyCombination(Qt::CTRL | Qt::Key_Plus) << u"Ctrl++"_s << u"Ctrl++"_s;
+        QTest::newRow("function key") << QKeyCombination(Qt::Key_F5) << u"F5"_s << u"F5"_s;
     }
     void keys_are_named_in_the_language()
     {
-        QFETCH(QKeySequence, keys);
+        QFETCH(QKeyCombination, keys);
         QFETCH(QString, french);
         QFETCH(QString, english);
         QCOMPARE(key_text(keys, true), french);
         QCOMPARE(key_text(keys, false), english);
     }
 
-    void the_keys_run_from_any_control()
+    void a_shortcut_acts_from_any_control()
     {
         trial window;
         in_trial(window, [&](hand& user) {
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(window.runs, 2);
     }
 
-    void keys_that_are_held_down_act_once()
+    void a_shortcut_that_is_held_down_acts_once()
     {
         trial window;
         in_trial(window, [&](hand& user) {
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(window.runs, 1);
     }
 
-    void the_keys_of_a_disabled_or_hidden_button_do_nothing()
+    void the_shortcut_of_a_disabled_or_hidden_button_does_nothing()
     {
         trial window;
         in_trial(window, [&](hand& user) {
@@ -143,7 +143,7 @@ private Q_SLOTS:
         QCOMPARE(window.clicks, 0);
     }
 
-    void a_box_that_refuses_to_be_left_stops_the_keys_but_not_F1()
+    void a_box_that_refuses_to_be_left_stops_shortcuts_but_not_F1()
     {
         trial window;
         window.may_leave = false;
@@ -169,8 +169,8 @@ private Q_SLOTS:
                                                     u"Next hole (Page Down)\nPrevious hole (Page Up)"));
     }
 
-    void f1_lists_the_keys_in_the_language_of_the_window_data() { both_languages(); }
-    void f1_lists_the_keys_in_the_language_of_the_window()
+    void f1_lists_the_shortcuts_in_the_language_of_the_window_data() { both_languages(); }
+    void f1_lists_the_shortcuts_in_the_language_of_the_window()
     {
         QFETCH(bool, french);
         is_french = french;

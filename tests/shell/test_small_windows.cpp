@@ -5,12 +5,10 @@
 #include "reports/preview/report_preview.h"
 #include "reports/report_store.h"
 #include "shell/f_about.h"
-#include "shell/f_flash.h"
-#include "shell/f_report.h"
 #include "shell/MainForm.h"
 #include "shell/start_up.h"
 #include "shell/system_information.h"
-#include "shell/wait.h"
+#include "shell/unopened_windows.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/store_folder.h"
 
@@ -28,7 +26,7 @@ private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
     void init() { is_french = true; }
 
-    void the_about_box_tells_the_version_data()
+    void the_about_window_shows_the_version_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("title");
@@ -38,7 +36,7 @@ private Q_SLOTS:
                                  << "VERDANE for PC";
     }
 
-    void the_about_box_tells_the_version()
+    void the_about_window_shows_the_version()
     {
         QFETCH(bool, french);
         QFETCH(QString, title);
@@ -54,7 +52,7 @@ private Q_SLOTS:
             QVERIFY(!line->text().isEmpty());
     }
 
-    void both_about_boxes_have_the_same_controls_and_room_for_their_captions()
+    void both_about_windows_have_the_same_controls_and_show_their_captions_completely()
     {
         const auto names = [] {
             QStringList seen;
@@ -65,7 +63,7 @@ private Q_SLOTS:
                      user.look([&] {
                          for (const QWidget* control : window.findChildren<QWidget*>()) {
                              seen << control->objectName();
-                             // The scroll bars, which nothing needs here.
+                             // The scroll bars.
                              if (!control->isVisible())
                                  continue;
                              const bool fits = control->width() >= control->minimumSizeHint().width() &&
@@ -85,7 +83,7 @@ private Q_SLOTS:
             QCOMPARE(french.count(QString::fromLatin1(name)), 1);
     }
 
-    void the_about_box_leaves_the_menu_unlocked_when_it_goes()
+    void closing_the_about_window_unlocks_the_menu()
     {
         program_run run(1);
         run.play_through([](hand& user) {
@@ -100,7 +98,7 @@ private Q_SLOTS:
         });
     }
 
-    void without_the_platforms_tool_the_about_box_says_so_in_both_languages()
+    void without_a_system_information_tool_the_about_window_shows_a_notice()
     {
         QVERIFY(system_information_tool().isEmpty());
         for (const bool french : {true, false}) {
@@ -117,7 +115,7 @@ private Q_SLOTS:
         }
     }
 
-    void the_wait_window_asks_for_patience()
+    void the_wait_window_has_its_captions()
     {
         wait_form window;
         QCOMPARE(window.objectName(), u"wait"_s);
@@ -144,7 +142,7 @@ private Q_SLOTS:
              });
     }
 
-    void the_picture_window_stands_against_the_main_window()
+    void the_picture_window_is_placed_relative_to_the_main_window()
     {
         MainForm frame;
         f_flash window;

@@ -11,7 +11,7 @@
 
 #include "base/failure_words.h"
 #include "base/run_time_failure.h"
-#include "controls/screen_room.h"
+#include "controls/screen_limits.h"
 #include "controls/shortcuts.h"
 #include "reports/preview/page_view.h"
 #include "reports/preview/report_dialogs.h"
@@ -34,7 +34,7 @@ report_preview::report_preview(std::shared_ptr<const report_document> document, 
     setWindowModality(Qt::NonModal);
     build();
     constexpr double share_of_screen = 0.9;
-    resize(QSize(1200, 880).boundedTo(room_on_screen(*this) * share_of_screen));
+    resize(QSize(1200, 880).boundedTo(largest_size_on_screen(*this) * share_of_screen));
     pages_->setFocus();
 }
 
@@ -48,7 +48,7 @@ void report_preview::build()
     layout->setSpacing(0);
     layout->addWidget(tool_bar());
     layout->addWidget(pages_, 1);
-    shortcuts_->add(Qt::Key_Escape, {u"Fermer la fenêtre", u"Close the window"}, [this] { close(); });
+    shortcuts_->add(shortcut_table::close_preview, [this] { close(); });
     show_state();
 }
 
@@ -77,13 +77,13 @@ QToolBar* report_preview::tool_bar()
 
 QToolButton* report_preview::button_for(const command& what)
 {
-    const QString caption = in_own(what.caption);
+    const QString caption = in_own(what.shown.caption);
     auto* action = new QAction(what.sign.isEmpty() ? caption : what.sign, this);
-    action->setShortcut(what.keys);
     action->setToolTip(caption);
-    if (!what.keys.isEmpty()) {
-        action->setToolTip(tool_tip_with_keys(what.caption, what.keys, is_french_));
-        shortcuts_->mention(what.keys, what.caption);
+    if (what.shown.keys != no_keys) {
+        action->setShortcut(what.shown.keys);
+        action->setToolTip(tool_tip_of(what.shown, is_french_));
+        shortcuts_->mention(what.shown);
     }
     connect(action, &QAction::triggered, this, what.run);
     addAction(action);
@@ -99,51 +99,27 @@ QToolButton* report_preview::button_for(const command& what)
 std::vector<report_preview::command> report_preview::output_commands()
 {
     return {
-        {u"print"_s, {u"Imprimer…", u"Print…"}, {}, QKeySequence(Qt::CTRL | Qt::Key_P), [this] { print(); }},
-        {u"save_pdf"_s,
-         {u"Enregistrer en PDF…", u"Save as PDF…"},
-         {},
-         QKeySequence(Qt::CTRL | Qt::Key_S),
-         [this] { save_pdf(); }},
-        {u"save_csv"_s, {u"Chiffres (CSV)…", u"Figures (CSV)…"}, {}, {}, [this] { save_csv(); }},
-        {u"save_picture"_s, {u"Image…", u"Picture…"}, {}, {}, [this] { save_picture(); }},
+        {u"print"_s, shortcut_table::print, {}, [this] { print(); }},
+        {u"save_pdf"_s, shortcut_table::save_pdf, {}, [this] { save_pdf(); }},
+        {u"save_csv"_s, {no_keys, {u"Chiffres (CSV)…", u"Figures (CSV)…"}}, {}, [this] { save_csv(); }},
+        {u"save_picture"_s, {no_keys, {u"Image…", u"Picture…"}}, {}, [this] { save_picture(); }},
     };
 }
 
 std::vector<report_preview::command> report_preview::zoom_commands()
 {
     return {
-        {u"zoom_out"_s,
-         {u"Réduire", u"Zoom out"},
-         u"−"_s,
-         QKeySequence(Qt::CTRL | Qt::Key_Minus),
-         [this] { pages_->zoom_out(); }},
-        {u"zoom_in"_s,
-         {u"Agrandir", u"Zoom in"},
-         u"+"_s,
-         QKeySequence(Qt::CTRL | Qt::Key_Plus),
-         [this] { pages_->zoom_in(); }},
-        {u"fit_width"_s,
-         {u"Pleine largeur", u"Fit width"},
-         {},
-         QKeySequence(Qt::CTRL | Qt::Key_0),
-         [this] { pages_->fit_width(); }},
+        {u"zoom_out"_s, shortcut_table::zoom_out, u"−"_s, [this] { pages_->zoom_out(); }},
+        {u"zoom_in"_s, shortcut_table::zoom_in, u"+"_s, [this] { pages_->zoom_in(); }},
+        {u"fit_width"_s, shortcut_table::fit_width, {}, [this] { pages_->fit_width(); }},
     };
 }
 
 std::vector<report_preview::command> report_preview::page_commands()
 {
     return {
-        {u"previous_page"_s,
-         {u"Page précédente", u"Previous page"},
-         u"◀"_s,
-         QKeySequence(Qt::Key_PageUp),
-         [this] { pages_->previous_page(); }},
-        {u"next_page"_s,
-         {u"Page suivante", u"Next page"},
-         u"▶"_s,
-         QKeySequence(Qt::Key_PageDown),
-         [this] { pages_->next_page(); }},
+        {u"previous_page"_s, shortcut_table::previous_page, u"◀"_s, [this] { pages_->previous_page(); }},
+        {u"next_page"_s, shortcut_table::next_page, u"▶"_s, [this] { pages_->next_page(); }},
     };
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "base/language.h"
+#include "controls/shortcut_table.h"
 
 class QLabel;
 class QToolBar;
@@ -30,9 +31,8 @@ public:
 private:
     struct command {
         QString name;
-        text_pair caption;
+        shortcut shown;
         QString sign;
-        QKeySequence keys;
         std::function<void()> run;
     };
 

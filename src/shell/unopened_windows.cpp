@@ -1,6 +1,9 @@
-#include "shell/f_flash.h"
+#include "shell/unopened_windows.h"
+
+#include <QVBoxLayout>
 
 #include "controls/control_array.h"
+#include "controls/look.h"
 #include "controls/main_frame.h"
 
 namespace verdane {
@@ -31,6 +34,22 @@ f_flash::f_flash() : Form(u"f_flash", twins::one)
 void f_flash::activated()
 {
     Image1->move(width() / 2, height() / 2);
+}
+
+wait_form::wait_form() : Form(u"wait", twins::one)
+{
+    setWindowTitle(u"Please Wait"_s);
+    Label1 = named(make_label(u"Please Wait"_s), u"Label1");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6 * rhythm, 4 * rhythm, 6 * rhythm, 4 * rhythm);
+    layout->addWidget(Label1);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+f_report::f_report() : Form(u"f_report", twins::one), cr2(this)
+{
+    setWindowTitle(u"Verdane"_s);
+    resize(window_size);
 }
 
 }  // namespace verdane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLabel>
+#include <QSvgWidget>
+
+#include "controls/Form.h"
+#include "reports/report_control.h"
+
+/// Windows that no command opens.
+namespace verdane {
+
+/// A window with a picture, placed relative to the main window.
+class f_flash : public Form {
+public:
+    f_flash();
+
+    QSvgWidget* Image1 = nullptr;
+
+protected:
+    void activated() override;
+};
+
+/// The window "Please Wait".
+class wait_form : public Form {
+public:
+    wait_form();
+
+    QLabel* Label1 = nullptr;
+};
+
+/// A window with a report control.
+class f_report : public Form {
+public:
+    f_report();
+
+    report_control cr2;
+};
+
+}  // namespace verdane
