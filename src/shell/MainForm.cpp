@@ -11,6 +11,7 @@
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/failure_guard.h"
+#include "controls/Form.h"
 #include "controls/screen_limits.h"
 #include "shell/language_change.h"
 
