@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 
 namespace verdane::testing {
