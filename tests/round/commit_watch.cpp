@@ -18,8 +18,8 @@ sqlite3* program_connection()
 
 }  // namespace
 
-commit_watch::commit_watch(std::function<QString()> question)
-    : question_(std::move(question)), connection_(program_connection())
+commit_watch::commit_watch(std::function<QString()> read_state)
+    : read_state_(std::move(read_state)), connection_(program_connection())
 {
     sqlite3_wal_hook(connection_, committed, this);
 }
@@ -32,7 +32,7 @@ commit_watch::~commit_watch()
 int commit_watch::committed(void* watch, sqlite3*, const char*, int)
 {
     auto& self = *static_cast<commit_watch*>(watch);
-    self.answers_.push_back(self.question_());
+    self.states_.push_back(self.read_state_());
     return SQLITE_OK;
 }
 

@@ -9,24 +9,25 @@ struct sqlite3;
 
 namespace verdane::testing {
 
-/// Asks a question after every commit of the program's own connection, when another program would see what
-/// was committed: what a kill leaves at any moment is what one of these answers says. The connection outlives
-/// the watch.
+/// Calls a function after every commit of the program's connection, when another program sees what was
+/// committed, and collects its results. After a kill the store has one of these states. The connection must
+/// outlive the watch.
 class commit_watch {
 public:
-    explicit commit_watch(std::function<QString()> question);
+    explicit commit_watch(std::function<QString()> read_state);
     ~commit_watch();
     commit_watch(const commit_watch&) = delete;
     commit_watch& operator=(const commit_watch&) = delete;
 
-    const std::vector<QString>& answers() const { return answers_; }
+    /// The states after the commits so far, in their order.
+    const std::vector<QString>& states() const { return states_; }
 
 private:
     static int committed(void* watch, sqlite3* connection, const char* schema, int pages_in_log);
 
-    std::function<QString()> question_;
+    std::function<QString()> read_state_;
     sqlite3* connection_;
-    std::vector<QString> answers_;
+    std::vector<QString> states_;
 };
 
 }  // namespace verdane::testing

@@ -42,7 +42,7 @@ QString shown(const QVariant& value)
     return value.isNull() ? u"null"_s : value.toString();
 }
 
-/// What the round list has open when it opens a round.
+/// Opens a stored round as the round list does, with two recordsets open.
 void open_from_list(const QString& key)
 {
     data_environment().rsgames.Open();
@@ -146,7 +146,7 @@ void in_stored_round_over(hand& user, const QString& key)
     user.look([key] { QTimer::singleShot(0, qApp, [key] { run_event([&] { open_from_list(key); }); }); });
 }
 
-void open_round_that_refuses(const QString& key, const std::function<void(hand&)>& script)
+void open_refused_round(const QString& key, const std::function<void(hand&)>& script)
 {
     in_round([&] { open_from_list(key); }, script);
 }

@@ -1,8 +1,8 @@
 #include <QTest>
 
 #include "round/f_new_round.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -13,13 +13,13 @@ class test_detailed_and_quick : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void quick_figures_survive_a_look_at_the_detailed_page()
+    void quick_figures_are_kept_when_the_detailed_page_is_only_viewed()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             user.type(u"11200001000"_s);
-            go_to_detailed_page(user);
-            go_to_quick_page(user);
+            open_detailed_page(user);
+            open_quick_page(user);
             user.same(boxes(user), u"1 1 2 0 0 0 0 1 0 0 0"_s, u"boxes"_s);
             user.same(user.focus(), u"text_vrd_0"_s, u"focus"_s);
             accept(user);
@@ -33,44 +33,44 @@ private Q_SLOTS:
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             user.type(u"99999999999"_s);
-            go_to_detailed_page(user);
-            tell_hole(user);
-            go_to_quick_page(user);
-            user.same(boxes(user), told_hole, u"boxes"_s);
+            open_detailed_page(user);
+            enter_hole(user);
+            open_quick_page(user);
+            user.same(boxes(user), entered_figures, u"boxes"_s);
             user.click_tab(hole_tabs, 2);
             discard(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
-        QCOMPARE(stored_putts(round.store, 1), told_putts);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
+        QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
-    void shots_of_a_hole_of_par_0_fold_into_its_boxes()
+    void shots_of_a_hole_of_par_0_are_summed_in_its_boxes()
     {
         const golfer_store round;
         round.store.store.write(u"update field_info set par_1 = 0"_s);
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
-            go_to_quick_page(user);
-            user.same(boxes(user), told_hole, u"boxes"_s);
+            open_detailed_page(user);
+            enter_hole(user);
+            open_quick_page(user);
+            user.same(boxes(user), entered_figures, u"boxes"_s);
             user.same(user.text(u"text_38"_s), u"0"_s, u"par"_s);
-            // Four strokes are at least three over a par of 0.
+            // Four strokes are three or more over a par of 0.
             user.same(user.text(u"text_33"_s), u"1"_s, u"triple"_s);
             accept(user);
         });
         QCOMPARE(round.shots(1), 4);
         QCOMPARE(round.store.text(u"select distinct normal from Stat_rounds"_s), u"0"_s);
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
-        QCOMPARE(stored_putts(round.store, 1), told_putts);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
+        QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
     void quick_figures_typed_over_a_detailed_hole_are_stored()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
-            go_to_quick_page(user);
+            open_detailed_page(user);
+            enter_hole(user);
+            open_quick_page(user);
             user.click(u"text_vrd_0"_s);
             user.type(u"3"_s);
             accept(user);
@@ -79,20 +79,20 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 4);
     }
 
-    void a_click_on_the_quick_tab_when_it_is_up_changes_nothing()
+    void a_click_on_the_selected_quick_tab_changes_nothing()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
-            go_to_quick_page(user);
+            open_detailed_page(user);
+            enter_hole(user);
+            open_quick_page(user);
             user.click_tab(hole_tabs, 2);
             user.type(u"5"_s);
-            go_to_quick_page(user);
+            open_quick_page(user);
             user.same(user.text(u"text_vrd_0"_s), u"5"_s, u"box"_s);
             discard(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
     }
 
     void Command4_opens_the_shots_of_the_hole_data() { both_languages(); }
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const golfer_store round(french);
         round.store.add_round(key_of_keyed_round());
-        add_told_shot(round.store, 3, 1, 1, 0, u"Verges"_s, 1);
+        add_complete_shot(round.store, 3, 1, 1, 0, u"Verges"_s, 1);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             user.click_tab(hole_tabs, 3);
             user.click(u"Command4"_s);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         });
     }
 
-    void shots_of_other_rounds_are_never_touched()
+    void shots_of_other_rounds_are_not_changed()
     {
         const golfer_store round;
         round.store.store.write(
@@ -160,12 +160,12 @@ private Q_SLOTS:
         QCOMPARE(stored_figures(round.store, 1).left(5), u"1 1 2"_s);
     }
 
-    void the_costs_are_opened_from_the_detailed_page_which_goes_on()
+    void the_costs_are_opened_from_the_detailed_page_which_keeps_its_state()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click_cell(details, 2, 3);
             user.click(u"Command2"_s);
             user.wait_for_window(u"f_cost"_s);
@@ -179,16 +179,16 @@ private Q_SLOTS:
             user.same(user.grid_rows(details), 4, u"rows"_s);
             accept(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
         QCOMPARE(round.store.at(u"cost"_s, 1), u"25"_s);
     }
 
-    void a_shot_that_is_being_told_is_there_when_the_costs_are_closed()
+    void an_incomplete_shot_is_kept_while_the_costs_are_open()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_shot(user, 0, 3, QString(), 0);
+            open_detailed_page(user);
+            enter_shot(user, 0, 3, QString(), 0);
             user.click(u"Command2"_s);
             user.close_window(u"f_cost"_s);
             user.wait_until_gone(u"f_cost"_s);
@@ -199,8 +199,8 @@ private Q_SLOTS:
         QCOMPARE(round.store.number(u"select stickval from Stat_rounds"_s), 3);
     }
 
-    void the_window_is_as_large_after_the_detailed_page_as_before_data() { both_languages(); }
-    void the_window_is_as_large_after_the_detailed_page_as_before()
+    void the_detailed_page_does_not_change_the_size_of_the_window_data() { both_languages(); }
+    void the_detailed_page_does_not_change_the_size_of_the_window()
     {
         QFETCH(bool, french);
         const golfer_store round(french);
@@ -208,10 +208,10 @@ private Q_SLOTS:
             const QSize before = user.picture(round_window()).size();
             user.check(before.width() <= 1200 && before.height() <= 720,
                        u"%1 x %2 pixels"_s.arg(before.width()).arg(before.height()));
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.picture(round_window());
-            go_to_quick_page(user);
+            open_quick_page(user);
             const QSize after = user.picture(round_window()).size();
             user.same(after.width(), before.width(), u"width"_s);
             user.same(after.height(), before.height(), u"height"_s);

@@ -2,8 +2,8 @@
 #include <QTest>
 
 #include "round/f_new_round.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -16,11 +16,11 @@ const QString temperature = u"Text1"_s;
 const QString partners = u"pList"_s;
 const QString courses = u"cmb_courses"_s;
 
-/// A hole that has come to its second putt, whose distance is being typed.
+/// Enters a hole up to its second putt and types the distance of that putt.
 void type_the_last_putt(hand& user, const QString& distance)
 {
-    go_to_detailed_page(user);
-    tell_hole(user);
+    open_detailed_page(user);
+    enter_hole(user);
     user.type(distance);
     user.same(user.focus(), u"cell_being_typed"_s, u"focus"_s);
 }
@@ -32,14 +32,14 @@ void wait_for_rows(hand& user, int rows)
 
 }  // namespace
 
-/// What is being typed into the grid when the mouse goes elsewhere: the cell is taken, and the click does
-/// what it always does.
+/// A click on another control while a distance is being typed into the grid: the distance is taken, and the
+/// click has its usual effect.
 class test_detailed_clicks : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void OK_closes_the_round_behind_a_holed_putt_data() { both_languages(); }
-    void OK_closes_the_round_behind_a_holed_putt()
+    void OK_takes_a_holed_putt_that_is_being_typed_and_closes_the_round_data() { both_languages(); }
+    void OK_takes_a_holed_putt_that_is_being_typed_and_closes_the_round()
     {
         QFETCH(bool, french);
         const golfer_store round(french);
@@ -49,11 +49,11 @@ private Q_SLOTS:
             user.answer(refusal_of_shot());
         });
         QCOMPARE(round.shots(1), 4);
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
-        QCOMPARE(stored_putts(round.store, 1), told_putts);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
+        QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
-    void Cancel_asks_behind_a_holed_putt()
+    void Cancel_takes_a_holed_putt_that_is_being_typed_and_asks()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -65,12 +65,12 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 4);
     }
 
-    void OK_refuses_an_incomplete_shot_behind_a_typed_distance()
+    void OK_takes_a_typed_distance_and_refuses_the_incomplete_shot()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            leave_second_shot_open(user);
+            open_detailed_page(user);
+            enter_incomplete_second_shot(user);
             user.click_cell(details, 1, 3);
             user.type(u"12"_s);
             user.press_and_release(ok_button);
@@ -81,17 +81,17 @@ private Q_SLOTS:
         });
     }
 
-    void the_buttons_of_the_shots_do_their_work_behind_a_holed_putt_data()
+    void the_buttons_of_the_shots_take_a_holed_putt_and_run_data()
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<int>("messages");
         QTest::addColumn<int>("rows");
-        // No shot comes behind a holed one: the button says so once more.
+        // No shot follows a holed one: the button shows the message a second time.
         QTest::newRow("next shot") << "CommandSuiv" << 2 << 4;
         QTest::newRow("remove") << "CommandSup" << 1 << 3;
         QTest::newRow("shots of the hole") << "Command4" << 1 << 4;
     }
-    void the_buttons_of_the_shots_do_their_work_behind_a_holed_putt()
+    void the_buttons_of_the_shots_take_a_holed_putt_and_run()
     {
         QFETCH(QString, button);
         QFETCH(int, messages);
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), rows);
     }
 
-    void the_costs_open_behind_a_holed_putt()
+    void Command2_takes_a_holed_putt_and_opens_the_costs()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -125,13 +125,13 @@ private Q_SLOTS:
         });
     }
 
-    void the_tabs_lead_on_behind_a_holed_putt_data()
+    void the_tabs_take_a_holed_putt_and_change_the_hole_or_page_data()
     {
         QTest::addColumn<QString>("tabs");
         QTest::newRow("holes") << hole_tabs;
         QTest::newRow("pages") << u"TabStrip2"_s;
     }
-    void the_tabs_lead_on_behind_a_holed_putt()
+    void the_tabs_take_a_holed_putt_and_change_the_hole_or_page()
     {
         QFETCH(QString, tabs);
         const golfer_store round;
@@ -142,20 +142,20 @@ private Q_SLOTS:
             user.answer(refusal_of_shot());
             user.wait_for_window(round_window());
             user.same(user.selected(tabs), 1 - before, u"tab"_s);
-            go_to_quick_page(user);
+            open_quick_page(user);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
         QVERIFY(stored_shots(round.store, 1).contains(u"4 4>0 "));
     }
 
-    void a_box_that_was_clicked_keeps_the_keyboard_behind_the_next_putt()
+    void a_clicked_box_keeps_the_focus_when_the_next_putt_is_added()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             type_the_last_putt(user, u"2"_s);
             user.press_and_release(temperature);
             wait_for_rows(user, 5);
-            user.check(user.focus() != details, u"the grid leaves the keyboard where it is"_s);
+            user.check(user.focus() != details, u"the focus is not in the grid"_s);
             user.key(Qt::Key_A, Qt::ControlModifier);
             user.type(u"20"_s);
             accept(user);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), u"30 4 2 0 0 0"_s);
     }
 
-    void a_box_that_was_clicked_keeps_the_keyboard_behind_a_holed_putt()
+    void a_clicked_box_keeps_the_focus_after_the_message_about_a_holed_putt()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 4);
     }
 
-    void a_partner_that_was_clicked_is_chosen_behind_the_next_putt()
+    void a_clicked_partner_is_selected_when_the_next_putt_is_added()
     {
         const golfer_store round;
         round.store.add_partner(u"Ann"_s, u"Berg"_s, 77);
@@ -195,7 +195,7 @@ private Q_SLOTS:
         QVERIFY2(chosen.contains(u"77"), qUtf8Printable(chosen));
     }
 
-    void a_list_that_was_opened_is_left_open_until_its_entry_is_chosen()
+    void an_opened_list_stays_open_until_an_entry_is_chosen()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -214,7 +214,7 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 4);
     }
 
-    void a_list_that_was_opened_and_left_takes_what_was_typed()
+    void opening_and_closing_a_list_takes_the_typed_distance()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -228,7 +228,7 @@ private Q_SLOTS:
         });
     }
 
-    void another_cell_that_was_clicked_gets_the_cursor()
+    void a_clicked_cell_gets_the_cursor()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -240,14 +240,14 @@ private Q_SLOTS:
         });
     }
 
-    void the_cell_that_was_clicked_gets_the_cursor_though_the_rows_scroll_away()
+    void a_clicked_cell_gets_the_cursor_although_the_rows_scroll()
     {
         const golfer_store round;
         for (int shot = 1; shot <= 14; ++shot)
-            add_told_shot(round.store, 1, shot, 14, 20 - shot, u"Pieds"_s, 3);
+            add_complete_shot(round.store, 1, shot, 14, 20 - shot, u"Pieds"_s, 3);
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.click_cell(details, 13, 3);
             user.type(u"5"_s);
             user.click_cell(details, 11, 3);
@@ -257,7 +257,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_title_bar_takes_what_was_being_typed_along()
+    void the_close_box_takes_a_distance_that_is_being_typed()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {

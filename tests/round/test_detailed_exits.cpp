@@ -5,8 +5,8 @@
 #include "round/shot_entry.h"
 #include "round/shot_rows.h"
 #include "store/DataEnvironment1.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -17,7 +17,7 @@ namespace {
 
 const QString earlier_round = u"20230101080000"_s;
 
-/// Leaves the window by one of its ways.
+/// Closes the window in one of the ways in which it can be closed.
 void leave(hand& user, const QString& way)
 {
     if (way == u"OK") {
@@ -35,7 +35,7 @@ void leave(hand& user, const QString& way)
     user.wait_until_gone(round_window());
 }
 
-/// How many rows the tables of a round hold: games, games2, cost, shots.
+/// The number of rows in games, games2, cost and Stat_rounds.
 QString row_counts(const golfer_store& round)
 {
     QStringList counts;
@@ -46,12 +46,12 @@ QString row_counts(const golfer_store& round)
 
 }  // namespace
 
-/// What each way out of the detailed page leaves in the tables, of this round and of others.
+/// The contents of the tables after each way to close the window from the detailed page.
 class test_detailed_exits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void each_way_out_leaves_what_it_should_in_every_table_data()
+    void each_way_out_of_a_new_round_stores_or_discards_its_rows_data()
     {
         QTest::addColumn<QString>("way");
         QTest::addColumn<bool>("kept");
@@ -61,29 +61,29 @@ private Q_SLOTS:
         QTest::newRow("title bar, Yes") << "title bar, Yes" << true;
         QTest::newRow("title bar, No") << "title bar, No" << false;
     }
-    void each_way_out_leaves_what_it_should_in_every_table()
+    void each_way_out_of_a_new_round_stores_or_discards_its_rows()
     {
         QFETCH(QString, way);
         QFETCH(bool, kept);
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             leave(user, way);
         });
-        // The shots are in the store either way.
+        // The shots are stored in either case.
         QCOMPARE(row_counts(round), kept ? u"1 1 1 4"_s : u"0 0 0 4"_s);
         if (kept) {
-            QCOMPARE(stored_figures(round.store, 1), told_hole);
-            QCOMPARE(stored_putts(round.store, 1), told_putts);
+            QCOMPARE(stored_figures(round.store, 1), entered_figures);
+            QCOMPARE(stored_putts(round.store, 1), entered_putts);
         }
     }
 
-    void each_way_out_of_a_stored_round_leaves_what_it_should_data()
+    void each_way_out_of_a_stored_round_stores_or_discards_its_changes_data()
     {
-        each_way_out_leaves_what_it_should_in_every_table_data();
+        each_way_out_of_a_new_round_stores_or_discards_its_rows_data();
     }
-    void each_way_out_of_a_stored_round_leaves_what_it_should()
+    void each_way_out_of_a_stored_round_stores_or_discards_its_changes()
     {
         QFETCH(QString, way);
         QFETCH(bool, kept);
@@ -93,34 +93,34 @@ private Q_SLOTS:
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             user.type(u"4"_s);
             user.click_tab(hole_tabs, 2);
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             leave(user, way);
         });
         QCOMPARE(row_counts(round), u"1 1 1 4"_s);
-        // The hole that was left before is in the store whatever the answer.
+        // The hole that was left before is stored whatever the answer is.
         QCOMPARE(stored_figures(round.store, 1), u"4 0 0 0 0 0 0 0 0 0 0"_s);
-        QCOMPARE(stored_figures(round.store, 2).startsWith(told_hole), kept);
-        QCOMPARE(stored_putts(round.store, 2), kept ? told_putts : u"0 0 0 0 0 0"_s);
+        QCOMPARE(stored_figures(round.store, 2).startsWith(entered_figures), kept);
+        QCOMPARE(stored_putts(round.store, 2), kept ? entered_putts : u"0 0 0 0 0 0"_s);
         QCOMPARE(round.store.text(u"select fg || ' ' || cm from cost"_s), u"40 2"_s);
     }
 
-    void a_hole_that_was_only_looked_at_keeps_no_shot_when_the_close_box_leaves_it_data()
+    void the_close_box_removes_a_blank_shot_and_keeps_an_incomplete_one_data()
     {
-        QTest::addColumn<bool>("told");
+        QTest::addColumn<bool>("incomplete");
         QTest::addColumn<int>("shots");
         QTest::newRow("blank") << false << 0;
-        QTest::newRow("half told") << true << 1;
+        QTest::newRow("incomplete") << true << 1;
     }
-    void a_hole_that_was_only_looked_at_keeps_no_shot_when_the_close_box_leaves_it()
+    void the_close_box_removes_a_blank_shot_and_keeps_an_incomplete_one()
     {
-        QFETCH(bool, told);
+        QFETCH(bool, incomplete);
         QFETCH(int, shots);
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            if (told)
-                tell_shot(user, 0, 1, QString(), 0);
+            open_detailed_page(user);
+            if (incomplete)
+                enter_shot(user, 0, 1, QString(), 0);
             user.close_window(round_window());
             user.answer(refusal_of_shot(u" 1"_s));
             user.answer(question_on_closing(), QMessageBox::Yes);
@@ -129,31 +129,31 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), shots);
     }
 
-    void escape_keeps_the_window_while_a_shot_is_incomplete()
+    void Escape_keeps_the_window_open_while_a_shot_is_incomplete()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_shot(user, 0, 1, QString(), 0);
+            open_detailed_page(user);
+            enter_shot(user, 0, 1, QString(), 0);
             user.key(Qt::Key_Escape);
             user.answer(refusal_of_shot(u" 1"_s));
             user.wait_for_window(round_window());
             user.check(!user.is_open(u"message_box"_s), u"no question"_s);
-            user.check(user.visible(details), u"the page stays"_s);
+            user.check(user.visible(details), u"the detailed page is shown"_s);
             user.close_window(round_window());
             user.answer(refusal_of_shot(u" 1"_s));
             user.answer(question_on_closing(), QMessageBox::No);
         });
     }
 
-    void leaving_a_hole_gives_its_first_shot_the_par()
+    void leaving_a_hole_writes_the_par_to_its_first_shot()
     {
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         for (const int shot : {1, 2})
-            add_told_shot(round.store, 1, shot, 9, 60 / shot, u"Verges"_s, 2);
+            add_complete_shot(round.store, 1, shot, 9, 60 / shot, u"Verges"_s, 2);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             accept(user);
         });
         QCOMPARE(round.store.text(u"select group_concat(coalesce(normal, '-')) from Stat_rounds"_s),
@@ -174,11 +174,11 @@ private Q_SLOTS:
         const golfer_store round;
         int keys = 0;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             if (detailed)
-                tell_hole(user);
+                enter_hole(user);
             else
-                go_to_quick_page(user);
+                open_quick_page(user);
             user.look([&] { keys = plain(Main_module::round_key_count); });
             accept(user);
         });
@@ -186,7 +186,7 @@ private Q_SLOTS:
         QCOMPARE(plain(Main_module::round_key_count) - keys, saves);
     }
 
-    void No_closes_the_window_though_its_shots_are_closed_already()
+    void No_closes_the_window_although_its_shots_are_closed()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -196,11 +196,11 @@ private Q_SLOTS:
         QCOMPARE(row_counts(round), u"0 0 0 0"_s);
     }
 
-    void shots_that_cannot_be_opened_leave_an_empty_grid_and_every_way_out_data()
+    void if_the_shots_cannot_be_opened_the_grid_is_empty_and_every_way_out_works_data()
     {
-        each_way_out_leaves_what_it_should_in_every_table_data();
+        each_way_out_of_a_new_round_stores_or_discards_its_rows_data();
     }
-    void shots_that_cannot_be_opened_leave_an_empty_grid_and_every_way_out()
+    void if_the_shots_cannot_be_opened_the_grid_is_empty_and_every_way_out_works()
     {
         QFETCH(QString, way);
         const golfer_store round;
@@ -208,7 +208,7 @@ private Q_SLOTS:
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             user.type(u"4"_s);
             round.store.store.write(u"alter table Stat_rounds rename to away"_s);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.same(user.grid_rows(details), 0, u"rows"_s);
             for (const char* button : {"CommandSuiv", "Command4"})
                 user.click(QString::fromLatin1(button));
@@ -219,13 +219,13 @@ private Q_SLOTS:
         QCOMPARE(stored_figures(round.store, 1).left(1), u"4"_s);
     }
 
-    void what_an_earlier_round_could_not_store_is_not_stored_by_the_next_data()
+    void a_row_pending_from_an_earlier_round_is_not_stored_by_the_next_data()
     {
         QTest::addColumn<bool>("stored");
-        QTest::newRow("a new round comes next") << false;
-        QTest::newRow("a stored round comes next") << true;
+        QTest::newRow("a new round follows") << false;
+        QTest::newRow("a stored round follows") << true;
     }
-    void what_an_earlier_round_could_not_store_is_not_stored_by_the_next()
+    void a_row_pending_from_an_earlier_round_is_not_stored_by_the_next()
     {
         QFETCH(bool, stored);
         const golfer_store round;
@@ -243,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(round.store.number(u"select count(*) from Stat_rounds"_s), 0);
     }
 
-    void shots_that_could_not_be_opened_are_left_alone_by_the_next_round()
+    void shots_that_could_not_be_opened_are_not_changed_by_the_next_round()
     {
         const golfer_store round;
         round.store.add_round(earlier_round);
@@ -252,7 +252,7 @@ private Q_SLOTS:
         const QString there = u"alter table Stat_rounds rename to away"_s;
         in_stored_round(earlier_round, [&](hand& user) {
             round.store.store.write(there);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             discard(user);
         });
         round.store.store.write(u"alter table away rename to Stat_rounds"_s);
@@ -262,12 +262,12 @@ private Q_SLOTS:
                  u"7 99 -"_s);
     }
 
-    void the_costs_come_and_go_beside_shots_that_cannot_be_opened()
+    void the_costs_open_and_close_although_the_shots_cannot_be_opened()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             round.store.store.write(u"alter table Stat_rounds rename to away"_s);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.click(u"Command2"_s);
             user.wait_for_window(u"f_cost"_s);
             user.close_window(u"f_cost"_s);
@@ -294,9 +294,9 @@ private Q_SLOTS:
         QFETCH(int, said);
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             if (!blank)
-                tell_shot(user, 0, 1, u"60"_s, 1);
+                enter_shot(user, 0, 1, u"60"_s, 1);
             with_round(user, [&](f_new_round& window) {
                 int16 removed = asked;
                 bool ok = false;
@@ -309,12 +309,12 @@ private Q_SLOTS:
         });
     }
 
-    void shots_that_can_no_longer_be_seen_are_not_opened()
+    void shots_are_not_opened_after_Cancel_has_closed_the_detailed_page()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click(u"Command1_2"_s);
             user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
@@ -324,10 +324,10 @@ private Q_SLOTS:
         });
         QCOMPARE(round.shots(1), 4);
         QCOMPARE(round.shots(2), 0);
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
     }
 
-    void a_table_that_a_removal_left_sorted_is_no_hole()
+    void the_statement_of_a_removal_is_not_taken_for_the_shots_of_a_hole()
     {
         const golfer_store round;
         round.store.store.write(u"insert into Stat_rounds (date, hole, shot, before, after, stickval, "
@@ -344,14 +344,14 @@ private Q_SLOTS:
         QCOMPARE(stored_figures(round.store, 1).left(5), u"1 1 2"_s);
     }
 
-    void a_key_with_a_quote_in_it_is_told_like_any_other()
+    void shots_are_stored_under_a_key_with_a_quote()
     {
         const golfer_store round;
         in_new_round([&](hand& user) {
             tee_off(user, u"9'"_s, u"30"_s, u"é\""_s);
             user.wait_for_window(round_window());
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click_tab(hole_tabs, 2);
             user.click_tab(hole_tabs, 1);
             user.answer(refusal_of_shot(u" 1"_s));
@@ -360,7 +360,7 @@ private Q_SLOTS:
         });
         QCOMPARE(round.store.text(u"select date || ' ' || count(*) from Stat_rounds"_s),
                  u"202406149'30é\" 4"_s);
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
     }
 };
 

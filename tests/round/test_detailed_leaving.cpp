@@ -3,8 +3,8 @@
 #include "base/language.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 #include "tests/support/store_invariants.h"
 
@@ -22,23 +22,23 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const golfer_store round(french);
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             accept(user);
         });
         QCOMPARE(round.shots(1), 4);
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
-        QCOMPARE(stored_putts(round.store, 1), told_putts);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
+        QCOMPARE(stored_putts(round.store, 1), entered_putts);
         QVERIFY(!data_environment().rsStat_rounds.is_open());
         QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
     }
 
-    void a_distance_that_is_still_being_typed_is_taken_by_OK()
+    void OK_takes_a_distance_that_is_being_typed()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_shot(user, 0, 1, QString(), 1);
+            open_detailed_page(user);
+            enter_shot(user, 0, 1, QString(), 1);
             user.click_cell(details, 0, 3);
             user.type(u"77"_s);
             accept(user);
@@ -50,14 +50,14 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click(cancel_button);
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(notice_of_save());
         });
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
-        QCOMPARE(stored_putts(round.store, 1), told_putts);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
+        QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
     void Cancel_and_No_keeps_the_shots_and_loses_the_counts_data()
@@ -72,8 +72,8 @@ private Q_SLOTS:
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             if (title_bar)
                 user.close_window(round_window());
             else
@@ -85,16 +85,16 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), u"0 0 0 0 0 0"_s);
     }
 
-    void Cancel_and_Cancel_stays_on_the_quick_page_for_good()
+    void Cancel_and_Cancel_keep_the_window_on_the_quick_page()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click(cancel_button);
             user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
-            user.same(boxes(user), told_hole, u"boxes"_s);
+            user.same(boxes(user), entered_figures, u"boxes"_s);
             user.check(user.visible(u"text_vrd_0"_s), u"the quick page"_s);
             user.click_tab(u"TabStrip2"_s, 2);
             user.click(u"Command4"_s);
@@ -102,17 +102,17 @@ private Q_SLOTS:
             user.same(user.selected(u"TabStrip2"_s), 0, u"tab"_s);
             accept(user);
         });
-        QCOMPARE(stored_figures(round.store, 1), told_hole);
+        QCOMPARE(stored_figures(round.store, 1), entered_figures);
     }
 
-    void OK_and_Cancel_stay_where_a_shot_is_incomplete_data() { both_languages(); }
-    void OK_and_Cancel_stay_where_a_shot_is_incomplete()
+    void OK_and_Cancel_are_refused_while_a_shot_is_incomplete_data() { both_languages(); }
+    void OK_and_Cancel_are_refused_while_a_shot_is_incomplete()
     {
         QFETCH(bool, french);
         const golfer_store round(french);
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            leave_second_shot_open(user);
+            open_detailed_page(user);
+            enter_incomplete_second_shot(user);
             for (const QString& button : {ok_button, cancel_button}) {
                 user.click(button);
                 user.answer(refusal_of_shot(u" 2"_s));
@@ -123,20 +123,20 @@ private Q_SLOTS:
             user.answer(refusal_of_shot(u" 2"_s));
             user.answer(question_on_closing(), QMessageBox::Cancel);
             user.wait_for_window(round_window());
-            tell_shot(user, 1, 9, QString(), 2);
+            enter_shot(user, 1, 9, QString(), 2);
             accept(user);
         });
         QCOMPARE(round.shots(1), 2);
     }
 
-    void OK_stays_where_the_store_refuses_the_incomplete_shot()
+    void OK_is_refused_when_the_incomplete_shot_cannot_be_stored()
     {
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
-        add_told_shot(round.store, 1, 1, 1, 60, u"Verges"_s, 1);
+        add_complete_shot(round.store, 1, 1, 1, 60, u"Verges"_s, 1);
         add_shot(round.store, 1, 2, u"stickval = 9, stick = 'F9'"_s);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             round.store.store.write(u"create trigger refuse before update on Stat_rounds when "
                                     u"old.shot = 2 begin select raise(abort, 'no'); end"_s);
             user.click(ok_button);
@@ -149,12 +149,12 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 2);
     }
 
-    void the_close_box_leaves_where_a_shot_is_incomplete_once_the_question_is_answered()
+    void the_close_box_closes_an_incomplete_shot_after_the_question()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            leave_second_shot_open(user);
+            open_detailed_page(user);
+            enter_incomplete_second_shot(user);
             user.close_window(round_window());
             user.answer(refusal_of_shot(u" 2"_s));
             user.check(!round.store.frame.enabled(u"B4"_s), u"Save is off"_s);
@@ -165,12 +165,12 @@ private Q_SLOTS:
             QVERIFY2(round.store.frame.enabled(button), qUtf8Printable(button));
     }
 
-    void a_store_that_refuses_the_end_still_frees_the_menu_and_the_shots()
+    void a_failure_while_closing_still_unlocks_the_menu_and_closes_the_shots()
     {
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             with_round(user, [&](f_new_round& window) {
                 data_environment().rsgames2.Fields(u"conditionM"_s).set(2);
                 round.store.store.write(u"create trigger refuse before update on games2 begin "
@@ -181,34 +181,34 @@ private Q_SLOTS:
         QVERIFY(!round.store.frame.locked);
         QVERIFY(!data_environment().rsStat_rounds.is_open());
         QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
-        // What came behind the refused row was left as it was.
+        // The recordsets after the failure were not closed.
         for (const Recordset* left : {&data_environment().rsgames2, &data_environment().rsgames})
             QVERIFY2(left->is_open(), qUtf8Printable(left->name()));
     }
 
-    void a_shot_that_became_a_putt_late_is_stored_without_a_position()
+    void a_shot_that_becomes_a_putt_when_it_is_stored_has_no_position()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_shot(user, 0, 14, QString(), 0);
+            open_detailed_page(user);
+            enter_shot(user, 0, 14, QString(), 0);
             accept(user);
         });
         QCOMPARE(round.store.text(u"select fairval || faireway || '|' from Stat_rounds"_s), u"0 |"_s);
         QCOMPARE(broken_invariants(round.store.store), QStringList());
     }
 
-    void a_round_is_reopened_in_the_other_language()
+    void a_round_is_continued_in_the_other_language()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             accept(user);
         });
         is_french = false;
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.same(user.grid_row(details, 1),
                       u"2 | F9 | 30 | Pieds | Approche | No | No | No | No | Dans l'allé | "_s,
                       u"the approach"_s);
@@ -223,12 +223,12 @@ private Q_SLOTS:
                  u"Verges,Pieds,Feets,Feets,Feets"_s);
     }
 
-    void saveShots_commits_the_shot_that_is_being_told()
+    void saveShots_commits_the_shot_that_is_being_entered()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_shot(user, 0, 3, QString(), 0);
+            open_detailed_page(user);
+            enter_shot(user, 0, 3, QString(), 0);
             user.same(round.store.text(u"select stickval from Stat_rounds"_s), u"0"_s,
                       u"club in the store"_s);
             with_round(user, [](f_new_round& window) { window.saveShots(); });

@@ -12,8 +12,8 @@
 #include "controls/main_frame.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -22,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A value of a row as the program holds it, committed or not.
-QString held(hand& user, const QString& column, int shot = 1)
+/// A value of a row of the program's recordset, committed or not.
+QString pending_value(hand& user, const QString& column, int shot = 1)
 {
     QString text;
     user.look([&] {
@@ -33,7 +33,7 @@ QString held(hand& user, const QString& column, int shot = 1)
     return text;
 }
 
-/// The place of the marked entry in the menu that is up.
+/// The index of the marked entry in the open menu.
 int marked_entry(hand& user)
 {
     int place = -1;
@@ -45,29 +45,29 @@ int marked_entry(hand& user)
     return place;
 }
 
-/// Chooses from the menu of a cell by the keyboard alone: an entry counted from 0.
+/// Chooses an entry (from 0) from the menu of a cell by the keyboard alone.
 void choose_by_keyboard(hand& user, int row, int column, const QString& menu, int entry)
 {
     user.click_cell(details, row, column);
     user.key(Qt::Key_F4);
     user.wait_for_menu(menu);
-    // The menu opens on what the cell holds, if that is one of its entries.
+    // The menu opens at the entry that equals the text of the cell, if there is one.
     for (int steps = 0; steps < 20 && marked_entry(user) != entry; ++steps)
         user.menu_key(Qt::Key_Down);
     user.menu_key(Qt::Key_Return);
 }
 
-/// A keyed round on its detailed page, taken away as it stands.
-void on_the_page(const std::function<void(hand&)>& script)
+/// Opens a new round on its detailed page, runs the script and unloads the window.
+void in_detailed_page(const std::function<void(hand&)>& script)
 {
     in_keyed_round([&](hand& user) {
-        go_to_detailed_page(user);
+        open_detailed_page(user);
         script(user);
         with_round(user, [](f_new_round& window) { window.unload(); });
     });
 }
 
-/// Pastes into the distance of the first shot and gives back what the cell holds then.
+/// Pastes a text into the distance of the first shot and returns the text of the cell.
 QString pasted_distance(hand& user, const QString& text)
 {
     user.look([&] { QApplication::clipboard()->setText(text); });
@@ -87,8 +87,8 @@ class test_detailed_page : public QObject {
 private Q_SLOTS:
     void initTestCase() { apply_look(*qApp); }
 
-    void a_hole_of_five_shots_is_told_by_the_keyboard_alone_data() { both_languages(); }
-    void a_hole_of_five_shots_is_told_by_the_keyboard_alone()
+    void a_hole_of_five_shots_is_entered_by_the_keyboard_alone_data() { both_languages(); }
+    void a_hole_of_five_shots_is_entered_by_the_keyboard_alone()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -96,8 +96,8 @@ private Q_SLOTS:
         name_the_clubs(store);
         const QString twin = french ? u"fr"_s : u"en"_s;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            // Driver, 60 left, long.
+            open_detailed_page(user);
+            // The driver, 60 yards left, long.
             user.type(u"d"_s);
             user.same(user.cursor(details), u"0,3"_s, u"on the distance"_s);
             user.type(u"60"_s);
@@ -106,7 +106,7 @@ private Q_SLOTS:
             user.type(u"l"_s);
             user.key(Qt::Key_N, Qt::ControlModifier);
             user.same(user.cursor(details), u"1,2"_s, u"on the club"_s);
-            // Sand wedge, 10 yards left, approach.
+            // The sand wedge, 10 yards left, approach.
             user.key(Qt::Key_Down, Qt::AltModifier);
             user.wait_for_menu(u"mSticks"_s);
             for (int steps = 0; steps < 12; ++steps)
@@ -116,7 +116,7 @@ private Q_SLOTS:
             user.key(Qt::Key_Return);
             user.type(u"a"_s);
             user.key(Qt::Key_N, Qt::ControlModifier);
-            // The putter; then distances only.
+            // The putter, then only distances.
             user.type(u"p"_s);
             for (const QString& left : {u"6"_s, u"2"_s}) {
                 user.type(left);
@@ -142,7 +142,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const golfer_store round(french);
-        on_the_page([&](hand& user) {
+        in_detailed_page([&](hand& user) {
             with_round(user, [](f_new_round& window) {
                 const data_grid& grid = *window.details;
                 const QList<std::pair<int, const control_array<QAction>*>> menus{{2, &window.ms1},
@@ -198,9 +198,10 @@ private Q_SLOTS:
             QString(),        QString(),   u"stickval"_s, QString(), QString(),    u"shot_type_value"_s,
             u"beyong_hole"_s, u"missed"_s, u"ts"_s,       u"dz"_s,   u"fairval"_s, u"penval"_s};
         const golfer_store round;
-        on_the_page([&](hand& user) {
+        in_detailed_page([&](hand& user) {
             choose_by_keyboard(user, 0, column, menu, entry);
-            user.same(QString(user.cell(details, 0, column) + u'/' + held(user, fields[column])), kept, menu);
+            user.same(QString(user.cell(details, 0, column) + u'/' + pending_value(user, fields[column])),
+                      kept, menu);
             user.same(user.cursor(details), cursor, u"cursor"_s);
         });
     }
@@ -222,28 +223,28 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QString, kept);
         const golfer_store round;
-        on_the_page([&](hand& user) {
-            tell_shot(user, 0, 1, u"60"_s, 1);
+        in_detailed_page([&](hand& user) {
+            enter_shot(user, 0, 1, u"60"_s, 1);
             const int before = user.bells();
             user.same(pasted_distance(user, text), kept, u"distance"_s);
             user.check((user.bells() > before) == (kept == u"60"), u"the bell"_s);
         });
     }
 
-    void columns_and_clubs_are_set_up_anew_on_each_entering()
+    void columns_and_clubs_are_set_up_again_whenever_the_page_is_opened()
     {
         const golfer_store round;
-        on_the_page([&](hand& user) {
+        in_detailed_page([&](hand& user) {
             with_round(user, [](f_new_round& window) {
                 window.details->setColumnWidth(3, 40);
                 window.details->setColumnHidden(11, true);
                 window.details->setColumnHidden(12, false);
                 window.details->set_Col(7);
             });
-            go_to_quick_page(user);
+            open_quick_page(user);
             round.store.store.write(u"update sticknames set club_1 = 'Bois d''été', club_2 = 'R & \"B\"'"_s);
             user.look([] { Unlock_menu(); });
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.check(round.store.frame.locked, u"the menu is locked"_s);
             with_round(user, [](f_new_round& window) {
                 QCOMPARE(window.details->columnWidth(3), pixels(2000));
@@ -251,60 +252,60 @@ private Q_SLOTS:
                 QVERIFY(window.details->isColumnHidden(12));
             });
             user.same(user.cursor(details), u"0,2"_s, u"cursor"_s);
-            tell_shot(user, 0, 1, QString(), 0);
+            enter_shot(user, 0, 1, QString(), 0);
             user.same(user.cell(details, 0, 2), u"Bois d'été"_s, u"club 1"_s);
-            tell_shot(user, 0, 2, QString(), 0);
+            enter_shot(user, 0, 2, QString(), 0);
             with_round(user, [](f_new_round& window) { window.saveShots(); });
             user.same(round.store.text(u"select stick from Stat_rounds"_s), u"R & \"B\""_s, u"club 2"_s);
         });
     }
 
-    void names_that_the_golf_bag_did_not_keep_are_in_the_menu_all_the_same()
+    void the_menu_shows_club_names_that_the_golf_bag_did_not_store()
     {
         const golfer_store round;
         Main_module::club_names[0] = u"Big & B"_s;
         Main_module::club_names_kept = false;
-        on_the_page([&](hand& user) {
-            tell_shot(user, 0, 1, QString(), 0);
+        in_detailed_page([&](hand& user) {
+            enter_shot(user, 0, 1, QString(), 0);
             user.same(user.cell(details, 0, 2), u"Big & B"_s, u"club 1"_s);
         });
     }
 
-    void the_putter_has_its_own_name_where_the_program_takes_it()
+    void a_putter_that_the_program_selects_has_its_fixed_name()
     {
         const golfer_store round;
         round.store.store.write(u"update sticknames set club_14 = 'Fer droit'"_s);
-        on_the_page([&](hand& user) {
-            tell_shot(user, 0, 5, u"20"_s, 3);
+        in_detailed_page([&](hand& user) {
+            enter_shot(user, 0, 5, u"20"_s, 3);
             user.same(user.cell(details, 1, 2), u"Pu"_s, u"by the kind"_s);
-            tell_shot(user, 1, 14, u"6"_s, 0);
+            enter_shot(user, 1, 14, u"6"_s, 0);
             user.same(user.cell(details, 1, 2), u"Fer droit"_s, u"by the menu"_s);
             user.same(user.cell(details, 2, 2), u"Pu"_s, u"by the distance"_s);
         });
     }
 
-    void any_typed_cell_takes_the_par_and_moves_the_cursor()
+    void a_change_of_any_cell_writes_the_par_and_moves_the_cursor()
     {
         const golfer_store round;
-        on_the_page([&](hand& user) {
-            tell_shot(user, 0, 1, QString(), 1);
+        in_detailed_page([&](hand& user) {
+            enter_shot(user, 0, 1, QString(), 1);
             user.click_cell(details, 0, 1);
             user.type(u"9"_s);
             user.click(u"cmb_courses"_s);
             user.key(Qt::Key_Escape);
             user.same(user.cursor(details), u"0,4"_s, u"cursor"_s);
-            user.same(held(user, u"normal"_s), u"4"_s, u"par"_s);
-            user.same(held(user, u"shot"_s), u"9"_s, u"number"_s);
-            go_to_quick_page(user);
-            user.same(held(user, u"shot"_s), u"1"_s, u"renumbered"_s);
+            user.same(pending_value(user, u"normal"_s), u"4"_s, u"par"_s);
+            user.same(pending_value(user, u"shot"_s), u"9"_s, u"number"_s);
+            open_quick_page(user);
+            user.same(pending_value(user, u"shot"_s), u"1"_s, u"renumbered"_s);
         });
     }
 
-    void the_hole_on_the_page_is_read_by_its_own_statement()
+    void the_shots_of_the_current_hole_are_read_by_its_statement()
     {
         const golfer_store round;
-        on_the_page([&](hand& user) {
-            tell_shot(user, 0, 1, u"60"_s, 1);
+        in_detailed_page([&](hand& user) {
+            enter_shot(user, 0, 1, u"60"_s, 1);
             user.click_tab(hole_tabs, 12);
             QString statement;
             user.look([&] { statement = data_environment().rsStat_rounds.Source(); });

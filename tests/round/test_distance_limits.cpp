@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "round/f_new_round.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -16,11 +16,11 @@ namespace {
 const QString cell = u"cell_being_typed"_s;
 const QString too_far = u"32768"_s;
 
-/// A drive with 60 yards left, whose distance is typed over with one that 16 bits cannot hold.
+/// Enters a drive with 60 yards left and replaces that distance by one that exceeds 16 bits.
 void type_too_far(hand& user)
 {
-    go_to_detailed_page(user);
-    tell_shot(user, 0, 1, u"60"_s, 1);
+    open_detailed_page(user);
+    enter_shot(user, 0, 1, u"60"_s, 1);
     user.click_cell(details, 0, 3);
     user.type(too_far);
 }
@@ -57,14 +57,14 @@ void rows_of_clicks()
           "cmb_courses", "cmb_holes", "conditions", "Text1", "pList"})
         QTest::newRow(control) << by_click(control);
     QTest::newRow("a hole tab") << way_out([](hand& user) { user.click_tab(hole_tabs, 2); });
-    QTest::newRow("a page tab") << way_out([](hand& user) { go_to_quick_page(user); });
+    QTest::newRow("a page tab") << way_out([](hand& user) { open_quick_page(user); });
     QTest::newRow("another cell") << way_out([](hand& user) { user.click_cell(details, 0, 4); });
     QTest::newRow("a cell with a menu") << way_out([](hand& user) { user.click_cell(details, 0, 5); });
     QTest::newRow("a partner") << way_out([](hand& user) { user.click_row(u"pList"_s, 0); });
     QTest::newRow("the title bar") << way_out([](hand& user) { user.close_window(round_window()); });
 }
 
-/// Everything that leaving the cell would change.
+/// The state that a way out of the cell could change.
 QString state_of(hand& user)
 {
     QString partner;
@@ -83,18 +83,18 @@ QString state_of(hand& user)
 
 Q_DECLARE_METATYPE(way_out)
 
-/// A distance of more than 32,767 stays in its cell until it is corrected or dropped.
+/// A distance of more than 32,767 stays in its cell until it is corrected or discarded.
 class test_distance_limits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void no_way_out_of_the_cell_takes_or_loses_it_data()
+    void no_way_out_of_the_cell_takes_or_discards_the_distance_data()
     {
         QTest::addColumn<way_out>("leave");
         rows_of_keys();
         rows_of_clicks();
     }
-    void no_way_out_of_the_cell_takes_or_loses_it()
+    void no_way_out_of_the_cell_takes_or_discards_the_distance()
     {
         QFETCH(way_out, leave);
         const golfer_store round;
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
     }
 
-    void Escape_drops_it_and_the_window_closes()
+    void Escape_discards_the_distance_and_the_window_closes()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>60 "));
     }
 
-    void the_largest_distance_is_taken()
+    void the_largest_distance_is_stored()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {

@@ -1,7 +1,7 @@
 #include <QTest>
 
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -11,14 +11,14 @@ namespace {
 
 constexpr int last_hole = 18;
 
-/// A drive with a penalty and an approach that is holed: two shots on a par 4.
+/// Enters a drive with a penalty and an approach that is holed: two shots on a par 4.
 void enter_hole_with_penalty(hand& user, int entry)
 {
-    tell_shot(user, 0, 1, u"60"_s, 1);
+    enter_shot(user, 0, 1, u"60"_s, 1);
     user.open_menu(details, 0, 11);
     user.choose_menu_entry(u"mp_%1"_s.arg(entry));
     user.click(u"CommandSuiv"_s);
-    tell_shot(user, 1, 9, u"0"_s, 2);
+    enter_shot(user, 1, 9, u"0"_s, 2);
 }
 
 QString penalty_boxes(hand& user)
@@ -62,9 +62,9 @@ private Q_SLOTS:
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             user.click_tab(hole_tabs, last_hole);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             enter_hole_with_penalty(user, entry);
-            go_to_quick_page(user);
+            open_quick_page(user);
             hole_counts_three(user, boxes);
             accept(user);
         });

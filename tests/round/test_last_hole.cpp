@@ -1,7 +1,7 @@
 #include <QTest>
 
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -11,16 +11,16 @@ namespace {
 
 constexpr int last_hole = 18;
 
-/// A round with a shot on each hole, so that no hole is left with a message.
+/// Adds a round with a shot on each hole, so that no hole is left with a message.
 void add_round_with_shots(const golfer_store& round)
 {
     round.store.add_round(key_of_keyed_round());
     for (int hole = 1; hole <= last_hole; ++hole)
-        add_told_shot(round.store, hole, 1, 1, 60, u"Verges"_s, 1);
+        add_complete_shot(round.store, hole, 1, 1, 60, u"Verges"_s, 1);
 }
 
-/// By the arrow keys. On the detailed page the grid takes the focus at each hole, so there it is one hole
-/// away.
+/// Selects a hole with the arrow keys. On the detailed page the grid takes the focus at each hole, so the
+/// hole must be the next one there.
 void choose_by_list(hand& user, int hole)
 {
     user.choose(u"cmb_holes"_s, hole - 1);
@@ -43,13 +43,13 @@ class test_last_hole : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void its_button_is_visible_whichever_control_selects_the_hole_data()
+    void the_button_is_visible_whichever_control_selects_the_last_hole_data()
     {
         QTest::addColumn<bool>("by_list");
         QTest::newRow("the list of holes") << true;
         QTest::newRow("the hole tabs") << false;
     }
-    void its_button_is_visible_whichever_control_selects_the_hole()
+    void the_button_is_visible_whichever_control_selects_the_last_hole()
     {
         QFETCH(bool, by_list);
         const golfer_store round;
@@ -57,31 +57,31 @@ private Q_SLOTS:
         const auto choose = by_list ? choose_by_list : choose_by_tab;
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             user.click_tab(hole_tabs, last_hole - 1);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             end_of_round_is_visible(user, false);
             choose(user, last_hole);
             end_of_round_is_visible(user, true);
             choose(user, last_hole - 1);
             end_of_round_is_visible(user, false);
-            go_to_quick_page(user);
+            open_quick_page(user);
             choose(user, last_hole);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             end_of_round_is_visible(user, true);
-            go_to_quick_page(user);
+            open_quick_page(user);
             choose(user, last_hole - 1);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             end_of_round_is_visible(user, false);
-            go_to_quick_page(user);
+            open_quick_page(user);
             discard(user);
         });
     }
 
-    void its_button_is_hidden_where_the_other_control_selects_another_hole()
+    void the_button_is_hidden_when_the_other_control_selects_another_hole()
     {
         const golfer_store round;
         add_round_with_shots(round);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             choose_by_tab(user, last_hole);
             choose_by_list(user, last_hole - 1);
             end_of_round_is_visible(user, false);
@@ -89,7 +89,7 @@ private Q_SLOTS:
             end_of_round_is_visible(user, true);
             choose_by_tab(user, 1);
             end_of_round_is_visible(user, false);
-            go_to_quick_page(user);
+            open_quick_page(user);
             discard(user);
         });
     }

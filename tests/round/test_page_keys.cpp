@@ -5,8 +5,8 @@
 #include "base/language.h"
 #include "base/Main_module.h"
 #include "round/f_new_round.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -18,7 +18,7 @@ namespace {
 constexpr int holes = 18;
 const QString page_tabs = u"TabStrip2"_s;
 
-/// Types and counts.
+/// Types and counts the keys.
 class typist {
 public:
     explicit typist(hand& user) : user_(user) {}
@@ -39,7 +39,7 @@ private:
     int keys_ = 0;
 };
 
-/// Eleven digits that no other hole has.
+/// Eleven digits that differ from hole to hole.
 QString digits_of(int hole)
 {
     QString digits = u"12010000000"_s;
@@ -53,7 +53,7 @@ QString figures_of(int hole)
     return digits_of(hole).split(QString(), Qt::SkipEmptyParts).join(u' ');
 }
 
-void give_focus(hand& user, const QString& control)
+void set_focus(hand& user, const QString& control)
 {
     with_round(user, [&](f_new_round& window) {
         auto* found = window.findChild<QWidget*>(control);
@@ -68,7 +68,7 @@ int hole_on_screen(hand& user)
     return user.selected(hole_tabs) + 1;
 }
 
-/// Presses a key and holds it down while the keyboard repeats it.
+/// Presses a key and holds it down, so that the keyboard repeats it.
 void hold_down(hand& user, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     user.look([&] {
@@ -79,7 +79,7 @@ void hold_down(hand& user, int key, Qt::KeyboardModifiers modifiers = Qt::NoModi
     });
 }
 
-/// What the parameters of the round show.
+/// The displayed parameters of the round.
 QString parameters(hand& user)
 {
     return u"%1 %2 %3 %4"_s.arg(user.selected(u"cmb_courses"_s))
@@ -88,7 +88,7 @@ QString parameters(hand& user)
         .arg(user.text(u"Text1"_s));
 }
 
-/// Partners fill more than a page of their list.
+/// A store with more partners than fit into their list.
 struct partner_store : golfer_store {
     partner_store()
     {
@@ -97,10 +97,10 @@ struct partner_store : golfer_store {
     }
 };
 
-/// The controls that Tab visits after OK, as far as OK again.
-QStringList walk_from_ok(hand& user)
+/// The controls that Tab visits after OK, until it is at OK again.
+QStringList tab_order_from_ok(hand& user)
 {
-    give_focus(user, ok_button);
+    set_focus(user, ok_button);
     QStringList visited;
     for (int step = 0; step < 60; ++step) {
         user.key(Qt::Key_Tab);
@@ -144,7 +144,7 @@ private Q_SLOTS:
             QCOMPARE(stored_figures(round.store, hole), figures_of(hole));
     }
 
-    void every_control_of_the_window_leaves_PageDown_and_PageUp_to_the_holes_data()
+    void PageDown_and_PageUp_change_the_hole_from_every_control_data()
     {
         QTest::addColumn<QString>("control");
         QTest::addColumn<int>("page");
@@ -157,7 +157,7 @@ private Q_SLOTS:
         for (const char* control : {"details", "CommandSuiv", "CommandSup"})
             QTest::addRow("%s", control) << control << 2;
     }
-    void every_control_of_the_window_leaves_PageDown_and_PageUp_to_the_holes()
+    void PageDown_and_PageUp_change_the_hole_from_every_control()
     {
         QFETCH(QString, control);
         QFETCH(int, page);
@@ -165,15 +165,15 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             user.click_tab(page_tabs, page);
             if (page == 2)
-                tell_hole(user);
-            give_focus(user, control);
+                enter_hole(user);
+            set_focus(user, control);
             const QString before = parameters(user);
             user.key(Qt::Key_PageDown);
             user.same(hole_on_screen(user), 2, u"hole after PageDown"_s);
             user.same(user.focus(), page == 1 ? quick_boxes.front() : details, u"focus"_s);
             if (page == 2)
-                tell_shot(user, 0, 1, u"60"_s, 1);
-            give_focus(user, control);
+                enter_shot(user, 0, 1, u"60"_s, 1);
+            set_focus(user, control);
             user.key(Qt::Key_PageUp);
             user.same(hole_on_screen(user), 1, u"hole after PageUp"_s);
             user.same(parameters(user), before, u"parameters"_s);
@@ -181,7 +181,7 @@ private Q_SLOTS:
         });
     }
 
-    void ahead_of_the_first_hole_and_after_the_last_the_bell_rings()
+    void before_the_first_hole_and_after_the_last_the_bell_rings()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -223,7 +223,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_window_above_the_round_keeps_its_keys()
+    void a_window_above_the_round_gets_its_keys()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -249,26 +249,26 @@ private Q_SLOTS:
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_shot(user, 0, 1, u"60"_s, 1);
+            open_detailed_page(user);
+            enter_shot(user, 0, 1, u"60"_s, 1);
             user.click_cell(details, 0, 3);
             user.type(u"45"_s);
             user.key(Qt::Key_PageDown);
             user.same(hole_on_screen(user), 2, u"hole"_s);
-            go_to_quick_page(user);
+            open_quick_page(user);
             accept(user);
         });
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
     }
 
-    void an_incomplete_shot_keeps_the_hole_with_its_messages_data() { both_languages(); }
-    void an_incomplete_shot_keeps_the_hole_with_its_messages()
+    void while_a_shot_is_incomplete_the_keys_show_its_messages_and_keep_the_hole_data() { both_languages(); }
+    void while_a_shot_is_incomplete_the_keys_show_its_messages_and_keep_the_hole()
     {
         QFETCH(bool, french);
         const golfer_store round(french);
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            leave_second_shot_open(user);
+            open_detailed_page(user);
+            enter_incomplete_second_shot(user);
             user.key(Qt::Key_PageDown);
             user.answer(refusal_of_shot(u" 2"_s));
             user.answer(refusal_of_shot(u" 2"_s));
@@ -278,7 +278,7 @@ private Q_SLOTS:
         });
     }
 
-    void an_open_list_keeps_its_keys()
+    void an_open_list_gets_its_keys()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -314,11 +314,11 @@ private Q_SLOTS:
         });
     }
 
-    void an_open_menu_keeps_its_keys()
+    void an_open_menu_gets_its_keys()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.open_menu(details, 0, 2);
             user.menu_key(Qt::Key_PageDown);
             user.wait_for_menu(u"mSticks"_s);
@@ -328,14 +328,14 @@ private Q_SLOTS:
         });
     }
 
-    void Ctrl_and_a_digit_choose_the_page_data()
+    void Ctrl_and_a_digit_select_the_page_data()
     {
         QTest::addColumn<int>("detailed");
         QTest::addColumn<int>("quick");
         QTest::newRow("digits without Shift") << int(Qt::Key_2) << int(Qt::Key_1);
         QTest::newRow("digits with Shift") << int(Qt::Key_Eacute) << int(Qt::Key_Ampersand);
     }
-    void Ctrl_and_a_digit_choose_the_page()
+    void Ctrl_and_a_digit_select_the_page()
     {
         QFETCH(int, detailed);
         QFETCH(int, quick);
@@ -344,7 +344,7 @@ private Q_SLOTS:
             user.key(detailed, Qt::ControlModifier);
             user.same(user.selected(page_tabs), 1, u"page"_s);
             user.same(user.focus(), details, u"focus"_s);
-            tell_shot(user, 0, 1, u"60"_s, 1);
+            enter_shot(user, 0, 1, u"60"_s, 1);
             user.click_cell(details, 0, 3);
             user.type(u"45"_s);
             user.key(quick, Qt::ControlModifier);
@@ -356,8 +356,8 @@ private Q_SLOTS:
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
     }
 
-    void the_tabs_name_their_keys_data() { both_languages(); }
-    void the_tabs_name_their_keys()
+    void the_tool_tips_of_the_tabs_name_their_keys_data() { both_languages(); }
+    void the_tool_tips_of_the_tabs_name_their_keys()
     {
         QFETCH(bool, french);
         const golfer_store round(french);
@@ -378,24 +378,24 @@ private Q_SLOTS:
         });
     }
 
-    void Tab_goes_from_OK_to_Cancel_and_then_down_the_quick_page()
+    void Tab_visits_Cancel_after_OK_and_then_the_quick_page()
     {
         const partner_store round;
         in_keyed_round([&](hand& user) {
-            user.same(walk_from_ok(user).join(u' '), (head + quick_boxes + foot).join(u' '), u"order"_s);
+            user.same(tab_order_from_ok(user).join(u' '), (head + quick_boxes + foot).join(u' '), u"order"_s);
             discard(user);
         });
     }
 
-    void Tab_goes_from_OK_to_Cancel_and_then_down_the_detailed_page()
+    void Tab_visits_Cancel_after_OK_and_then_the_detailed_page()
     {
         const partner_store round;
         in_keyed_round([&](hand& user) {
             user.click_tab(hole_tabs, holes);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             const QStringList shots{details, u"CommandSuiv"_s, u"CommandSup"_s, u"b_carte"_s};
-            user.same(walk_from_ok(user).join(u' '), (head + shots + foot).join(u' '), u"order"_s);
-            go_to_quick_page(user);
+            user.same(tab_order_from_ok(user).join(u' '), (head + shots + foot).join(u' '), u"order"_s);
+            open_quick_page(user);
             discard(user);
         });
     }

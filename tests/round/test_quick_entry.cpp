@@ -26,7 +26,7 @@ class test_quick_entry : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void eleven_keys_tell_a_hole_and_Enter_stores_it()
+    void eleven_keys_enter_a_hole_and_Enter_stores_it()
     {
         const round_store store;
         store.add_two_courses();
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(store.of_round(u"games2"_s, u"fairway_1 || sand_1 || recovery_1"_s), u"457"_s);
     }
 
-    void each_digit_moves_on_to_the_next_box()
+    void each_digit_moves_the_focus_to_the_next_box()
     {
         const round_store store;
         store.add_two_courses();
@@ -60,7 +60,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_digit_replaces_the_figure_after_a_click_too()
+    void a_digit_replaces_the_figure_after_a_click()
     {
         const round_store store;
         store.add_two_courses();
@@ -75,8 +75,8 @@ private Q_SLOTS:
         });
     }
 
-    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus_data() { ways_into_a_box(); }
-    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus()
+    void a_digit_replaces_the_figure_as_soon_as_a_box_has_the_focus_data() { ways_into_a_box(); }
+    void a_digit_replaces_the_figure_as_soon_as_a_box_has_the_focus()
     {
         QFETCH(Qt::FocusReason, reason);
         const round_store store;
@@ -91,7 +91,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_Tab_key_walks_the_same_boxes()
+    void Tab_visits_the_boxes_in_the_same_order()
     {
         const round_store store;
         store.add_two_courses();
@@ -105,7 +105,7 @@ private Q_SLOTS:
         });
     }
 
-    void what_is_no_digit_rings_and_changes_nothing_data()
+    void a_key_that_is_no_digit_rings_the_bell_and_changes_nothing_data()
     {
         QTest::addColumn<QString>("box");
         QTest::addColumn<QString>("key");
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QTest::newRow("a digit of another script") << "text_vrd_0" << QString(QChar(0x0663));
     }
 
-    void what_is_no_digit_rings_and_changes_nothing()
+    void a_key_that_is_no_digit_rings_the_bell_and_changes_nothing()
     {
         QFETCH(QString, box);
         QFETCH(QString, key);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_pasted_text_must_be_digits()
+    void a_pasted_text_must_consist_of_digits()
     {
         const round_store store;
         store.add_two_courses();
@@ -153,7 +153,7 @@ private Q_SLOTS:
         });
     }
 
-    void an_emptied_box_counts_as_nothing()
+    void an_empty_box_counts_as_0()
     {
         const round_store store;
         store.add_two_courses();
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(store.at(u"games"_s, 4), u"1"_s);
     }
 
-    void an_emptied_situation_box_is_stored_as_the_store_converts_it()
+    void an_empty_situation_box_is_stored_as_0()
     {
         const round_store store;
         store.add_two_courses();
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QCOMPARE(store.at(u"games2"_s, 3), u"0"_s);
     }
 
-    void the_number_of_shots_leaves_the_penalties_out()
+    void the_number_of_shots_does_not_include_penalties()
     {
         const round_store store;
         store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, u"5"_s});
@@ -202,7 +202,7 @@ private Q_SLOTS:
         });
     }
 
-    void every_change_of_a_box_is_something_to_save_data()
+    void every_change_of_a_box_marks_the_round_as_changed_data()
     {
         QTest::addColumn<QString>("box");
         QTest::newRow("strokes") << "text_vrd_1";
@@ -210,7 +210,7 @@ private Q_SLOTS:
         QTest::newRow("penalties") << "text_s_10";
     }
 
-    void every_change_of_a_box_is_something_to_save()
+    void every_change_of_a_box_marks_the_round_as_changed()
     {
         QFETCH(QString, box);
         const round_store store;
@@ -224,7 +224,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_figure_of_two_digits_set_by_the_program_is_kept_and_replaced_by_a_digit()
+    void a_figure_of_two_digits_set_by_the_program_is_shown_and_replaced_by_a_digit()
     {
         const round_store store;
         store.add_two_courses();

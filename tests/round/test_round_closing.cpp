@@ -31,7 +31,7 @@ bool all_closed()
     return true;
 }
 
-/// Stands in for the window with the list of rounds.
+/// A substitute for the list of rounds.
 class a_round_list : public Form {
 public:
     a_round_list() : Form(u"f_games") {}
@@ -53,8 +53,8 @@ class test_round_closing : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void OK_stores_and_closes_without_a_word_data() { both_languages(); }
-    void OK_stores_and_closes_without_a_word()
+    void OK_stores_and_closes_without_a_message_data() { both_languages(); }
+    void OK_stores_and_closes_without_a_message()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -72,8 +72,8 @@ private Q_SLOTS:
         QCOMPARE(Main_module::round_keys[0], key_of_keyed_round());
     }
 
-    void Yes_stores_and_says_so_data() { both_languages(); }
-    void Yes_stores_and_says_so()
+    void Yes_stores_and_shows_a_notice_data() { both_languages(); }
+    void Yes_stores_and_shows_a_notice()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(long_shots(store, 1), u"4"_s);
     }
 
-    void No_keeps_the_holes_that_were_left_and_drops_the_one_on_screen()
+    void No_keeps_the_holes_that_were_left_and_discards_the_current_one()
     {
         const round_store store;
         store.add_two_courses();
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(long_shots(store, 2), u"null"_s);
     }
 
-    void Cancel_at_the_question_stays()
+    void Cancel_at_the_question_keeps_the_window_open()
     {
         const round_store store;
         store.add_two_courses();
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QCOMPARE(Main_module::round_keys[2], key_of_keyed_round());
     }
 
-    void a_cost_row_that_is_gone_is_added_at_the_save()
+    void a_missing_cost_row_is_added_by_the_save()
     {
         const round_store store;
         store.add_two_courses();
@@ -196,7 +196,7 @@ private Q_SLOTS:
         QCOMPARE(store.at(u"cost"_s, 12), u"0"_s);
     }
 
-    void accepted_costs_outlast_the_round_that_is_given_up_and_are_those_of_the_next_at_its_moment()
+    void accepted_costs_of_a_discarded_round_are_those_of_the_next_with_its_key()
     {
         const round_store store;
         store.add_two_courses();
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QCOMPARE(store.text(u"select date || ' ' || fg from cost"_s), QString(key_of_keyed_round() + u" 25"));
         in_keyed_round([&](hand& user) {
             user.same(user.text(u"text_7"_s), u"0"_s, u"costs"_s);
-            // The save finds the round's costs by its key: the older row.
+            // The save finds the costs of the round by its key, which is the older row.
             user.click_tab(tabs, 2);
             user.click(u"Command2"_s);
             user.wait_for_window(u"f_cost"_s);
@@ -224,7 +224,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_menu_is_locked_while_the_window_works()
+    void the_menu_is_locked_while_the_window_is_open()
     {
         const round_store store;
         store.add_two_courses();
@@ -249,7 +249,7 @@ private Q_SLOTS:
         QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
     }
 
-    void the_list_of_rounds_goes_when_a_round_opens()
+    void the_list_of_rounds_is_closed_when_a_round_opens()
     {
         const round_store store;
         store.add_two_courses();
@@ -266,8 +266,8 @@ private Q_SLOTS:
         QVERIFY(!list.is_loaded());
     }
 
-    void a_round_without_its_second_row_is_told_and_does_not_open_data() { both_languages(); }
-    void a_round_without_its_second_row_is_told_and_does_not_open()
+    void a_round_without_its_games2_row_is_reported_and_does_not_open_data() { both_languages(); }
+    void a_round_without_its_games2_row_is_reported_and_does_not_open()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -275,7 +275,7 @@ private Q_SLOTS:
         store.add_partner(u"Gagnon"_s, u"Luc"_s, 5);
         store.add_round(key_of_keyed_round());
         store.store.write(u"delete from games2"_s);
-        open_round_that_refuses(key_of_keyed_round(), [](hand& user) {
+        open_refused_round(key_of_keyed_round(), [](hand& user) {
             user.answer(
                 {u"Error : games2 record not found"_s, QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok});
         });

@@ -7,8 +7,8 @@
 #include "round/f_new_round_func.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/commit_watch.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/failures.h"
 #include "tests/support/other_program.h"
 
@@ -22,7 +22,7 @@ const QString old_figures = u"9 9 9 9 9 9 9 9 9 9 9"_s;
 const QString new_figures = u"1 2 3 4 5 6 7 8 1 2 3"_s;
 const QString new_keys = u"12345678123"_s;
 
-/// How many rows of the three tables have no counterpart with their key in one of the others.
+/// The number of rows of the three tables whose key is missing in one of the others.
 int rows_without_counterpart(const round_store& store)
 {
     return store.number(u"with rows as (select 1 as t, date from games union all select 2, date from games2 "
@@ -43,18 +43,25 @@ QString state(int rounds, const QString& figures, const QString& putts)
     return u"alone 0; rounds %1; figures %2; putts %3"_s.arg(rounds).arg(figures, putts);
 }
 
-void put_old_figures(const round_store& store)
-{
-    store.store.write({u"update games set long_1 = 9, approach_1 = 9, putt_1 = 9, missed_1 = 9, "
-                       u"pen_water_1 = 9, pen_lost_1 = 9, pen_rule_1 = 9, pen_bounds_1 = 9"_s,
-                       u"update games2 set fairway_1 = 9, sand_1 = 9, recovery_1 = 9, "
-                       u"putt_len_1_1 = 9, putt_len_1_2 = 9, putt_len_1_3 = 9"_s});
-}
-
 const QString no_putts = u"0 0 0 0 0 0"_s;
 const QString old_putts = u"9 9 9 0 0 0"_s;
 
-/// The connection belongs to the window thread.
+/// A store with a round whose first hole has the old figures and putts, and a watch on its commits.
+struct old_round {
+    old_round()
+    {
+        round.store.add_round(key_of_keyed_round());
+        round.store.store.write({u"update games set long_1 = 9, approach_1 = 9, putt_1 = 9, missed_1 = 9, "
+                                 u"pen_water_1 = 9, pen_lost_1 = 9, pen_rule_1 = 9, pen_bounds_1 = 9"_s,
+                                 u"update games2 set fairway_1 = 9, sand_1 = 9, recovery_1 = 9, "
+                                 u"putt_len_1_1 = 9, putt_len_1_2 = 9, putt_len_1_3 = 9"_s});
+    }
+
+    golfer_store round;
+    commit_watch watch{[this] { return state_of(round.store, 1); }};
+};
+
+/// Creates a watch in the window thread, to which the connection belongs.
 std::unique_ptr<commit_watch> watch_from_now(hand& user, const round_store& store)
 {
     std::unique_ptr<commit_watch> watch;
@@ -64,14 +71,14 @@ std::unique_ptr<commit_watch> watch_from_now(hand& user, const round_store& stor
 
 void compare_all(const commit_watch& watch, const QString& wanted)
 {
-    QVERIFY(!watch.answers().empty());
-    for (const QString& seen : watch.answers())
+    QVERIFY(!watch.states().empty());
+    for (const QString& seen : watch.states())
         QCOMPARE(seen, wanted);
 }
 
 }  // namespace
 
-/// What another program sees after each commit of a save.
+/// The state that another program sees after each commit of a save.
 class test_round_commits : public QObject {
     Q_OBJECT
 
@@ -83,58 +90,49 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             user.type(new_keys);
             user.click_tab(hole_tabs, 2);
-            user.same(static_cast<int>(watch.answers().size()), 1, u"commits"_s);
+            user.same(static_cast<int>(watch.states().size()), 1, u"commits"_s);
             discard(user);
         });
         compare_all(watch, state(1, new_figures, no_putts));
     }
 
-    void a_hole_that_is_typed_anew_is_stored_by_one_commit()
+    void a_changed_hole_is_stored_by_one_commit()
     {
-        const golfer_store round;
-        round.store.add_round(key_of_keyed_round());
-        put_old_figures(round.store);
-        const commit_watch watch([&] { return state_of(round.store, 1); });
+        const old_round stored;
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             user.type(new_keys);
             user.click_tab(hole_tabs, 2);
-            user.same(static_cast<int>(watch.answers().size()), 1, u"commits"_s);
+            user.same(static_cast<int>(stored.watch.states().size()), 1, u"commits"_s);
             discard(user);
         });
-        compare_all(watch, state(1, new_figures, old_putts));
+        compare_all(stored.watch, state(1, new_figures, old_putts));
     }
 
     void figures_and_putts_of_detailed_shots_are_stored_by_one_commit()
     {
-        const golfer_store round;
-        round.store.add_round(key_of_keyed_round());
-        put_old_figures(round.store);
-        const commit_watch watch([&] { return state_of(round.store, 1); });
+        const old_round stored;
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
-            testing::tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click_tab(hole_tabs, 2);
-            go_to_quick_page(user);
+            open_quick_page(user);
             discard(user);
         });
-        check_old_or_new(watch);
+        check_old_or_new(stored.watch);
     }
 
     void OK_stores_the_hole_on_the_detailed_page_by_one_commit()
     {
-        const golfer_store round;
-        round.store.add_round(key_of_keyed_round());
-        put_old_figures(round.store);
-        const commit_watch watch([&] { return state_of(round.store, 1); });
+        const old_round stored;
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
-            testing::tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             accept(user);
         });
-        check_old_or_new(watch);
+        check_old_or_new(stored.watch);
     }
 
-    void a_row_of_costs_that_is_missing_is_added_by_the_same_commit()
+    void a_missing_cost_row_is_added_by_the_same_commit()
     {
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
@@ -145,8 +143,8 @@ private Q_SLOTS:
             user.look([] { data_environment().rscost.Requery(); });
             user.type(new_keys);
             user.click_tab(hole_tabs, 2);
-            commits = watch->answers().size();
-            user.same(watch->answers().back(), state(1, new_figures, no_putts), u"committed"_s);
+            commits = watch->states().size();
+            user.same(watch->states().back(), state(1, new_figures, no_putts), u"committed"_s);
             discard(user);
         });
         QCOMPARE(commits, std::size_t(1));
@@ -157,19 +155,19 @@ private Q_SLOTS:
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            // The first save of a hole gives its columns a value.
+            // The first save of a hole writes its columns, which were Null.
             for (const int hole : {2, 3, 2})
                 user.click_tab(hole_tabs, hole);
             const auto watch = watch_from_now(user, round.store);
             const other_program other(data_environment().connection.path());
             user.click_tab(hole_tabs, 3);
-            user.same(static_cast<int>(watch->answers().size()), 0, u"commits"_s);
+            user.same(static_cast<int>(watch->states().size()), 0, u"commits"_s);
             discard(user);
         });
     }
 
-    /// The order of the statements: `games2`, then `games`.
-    void a_statement_that_fails_leaves_what_the_one_before_it_has_written()
+    /// `games2` is written before `games`.
+    void a_failing_statement_keeps_what_the_earlier_one_has_written()
     {
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
@@ -189,17 +187,17 @@ private Q_SLOTS:
     }
 
 private:
-    /// The shots are committed one by one, with the old figures still there.
+    /// Each commit shows the old figures, as the shots are committed one by one, or the new ones.
     static void check_old_or_new(const commit_watch& watch)
     {
-        QVERIFY(!watch.answers().empty());
+        QVERIFY(!watch.states().empty());
         int new_ones = 0;
-        for (const QString& seen : watch.answers()) {
-            const bool is_new = seen == state(1, told_hole, told_putts);
+        for (const QString& seen : watch.states()) {
+            const bool is_new = seen == state(1, entered_figures, entered_putts);
             new_ones += is_new ? 1 : 0;
             QVERIFY2(is_new || (new_ones == 0 && seen == state(1, old_figures, old_putts)), qPrintable(seen));
         }
-        QCOMPARE(watch.answers().back(), state(1, told_hole, told_putts));
+        QCOMPARE(watch.states().back(), state(1, entered_figures, entered_putts));
     }
 };
 

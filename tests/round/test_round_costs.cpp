@@ -71,7 +71,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_new_round_keeps_its_zeros_when_the_close_box_leaves_the_costs()
+    void a_new_round_has_zeros_after_the_close_box_of_the_costs()
     {
         const round_store store;
         store.add_two_courses();

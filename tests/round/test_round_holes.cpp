@@ -22,13 +22,13 @@ namespace at = round_columns;
 const QString tabs = u"TabStrip1"_s;
 const QString holes = u"cmb_holes"_s;
 
-void tell_hole(hand& user, const QString& figures)
+void type_figures(hand& user, const QString& figures)
 {
     user.click(u"text_vrd_0"_s);
     user.type(figures);
 }
 
-void stands_on(hand& user, int hole)
+void check_hole(hand& user, int hole)
 {
     const QString number = QString::number(hole);
     user.same(user.selected(holes), hole - 1, u"entry of the holes"_s);
@@ -42,8 +42,8 @@ void stands_on(hand& user, int hole)
     });
 }
 
-/// Four ways to go from hole 1 to hole 2.
-void go_on(hand& user, const QString& way)
+/// Changes from hole 1 to hole 2 in one of four ways.
+void go_to_hole_2(hand& user, const QString& way)
 {
     if (way == u"tab") {
         user.click_tab(tabs, 2);
@@ -69,7 +69,7 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            stands_on(user, 1);
+            check_hole(user, 1);
             user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
             user.same(user.text(u"text_38"_s), u"4"_s, u"par"_s);
             QCOMPARE(store.number(u"select count(*) from games"_s), 0);
@@ -91,8 +91,8 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             user.type(u"12345678901"_s);
-            go_on(user, way);
-            stands_on(user, 2);
+            go_to_hole_2(user, way);
+            check_hole(user, 2);
             user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
             user.same(store.at(u"games"_s, at::long_h(1)), u"1"_s, way);
             user.same(store.at(u"games"_s, at::pen_bounds_h(1)), u"1"_s, way);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             user.click_tab(tabs, hole);
-            tell_hole(user, u"12345678921"_s);
+            type_figures(user, u"12345678921"_s);
             accept(user);
         });
         const auto games = [&](int ordinal) { return store.at(u"games"_s, ordinal); };
@@ -151,7 +151,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_click_on_a_tab_leads_to_the_first_box()
+    void a_click_on_a_tab_sets_the_focus_to_the_first_box()
     {
         const round_store store;
         store.add_two_courses();
@@ -165,8 +165,8 @@ private Q_SLOTS:
         });
     }
 
-    void a_stored_round_comes_back_in_either_language_data() { both_languages(); }
-    void a_stored_round_comes_back_in_either_language()
+    void a_stored_round_is_shown_again_in_both_languages_data() { both_languages(); }
+    void a_stored_round_is_shown_again_in_both_languages()
     {
         QFETCH(bool, french);
         const round_store store(true);
@@ -193,7 +193,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_round_never_played_shows_noughts()
+    void a_round_without_figures_shows_zeros()
     {
         const round_store store;
         store.add_two_courses();
@@ -224,10 +224,10 @@ private Q_SLOTS:
                 QWheelEvent turn(QPointF(4, 4), target->mapToGlobal(QPointF(4, 4)), {}, {0, -120},
                                  Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
                 QApplication::sendEvent(target, &turn);
-                // A real wheel would bring the keyboard along.
+                // A real wheel would also set the focus.
                 QVERIFY(target->focusPolicy() != Qt::WheelFocus);
             });
-            stands_on(user, 1);
+            check_hole(user, 1);
             user.same(user.selected(u"cmb_courses"_s), 0, u"course"_s);
             user.same(user.selected(u"conditions"_s), 0, u"weather"_s);
             user.same(user.text(u"Text1"_s), u"  "_s, u"temperature"_s);
@@ -235,7 +235,7 @@ private Q_SLOTS:
         });
     }
 
-    void another_course_brings_its_card()
+    void selecting_another_course_shows_its_card()
     {
         const round_store store;
         store.add_two_courses();

@@ -5,14 +5,14 @@
 #include <cstdio>
 
 #include "base/Main_module.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// Limits that end the program: each is reached in a child process, which prints what it was told.
+/// Limits that end the program: each is exceeded in a child process, which prints the failure.
 namespace {
 
 void fill_keys(int count)
@@ -21,7 +21,7 @@ void fill_keys(int count)
         Main_module::append_round_key(u"19990101%1"_s.arg(i, 6, 10, QChar(u'0')));
 }
 
-/// Prints what the failure says and what the store then holds, and answers.
+/// Prints the text of the failure and the stored holes, and closes the message box.
 void report_failure(hand& user, const round_store& store)
 {
     user.wait_for_window(u"failure_box"_s);
@@ -36,7 +36,7 @@ void report_failure(hand& user, const round_store& store)
     user.key(Qt::Key_Return);
 }
 
-/// One place is left in the list: the first hole takes it, the second finds none.
+/// Fills the list of keys except for one entry: the save of the second hole exceeds it.
 void overfill_by_saving(const round_store& store)
 {
     fill_keys(365);
@@ -62,7 +62,7 @@ void total_costs_beyond_16_bits(const round_store& store)
 {
     store.add_round(key_of_keyed_round());
     store.store.write(u"update cost set fg = 30000, cm = 2768"_s);
-    open_round_that_refuses(key_of_keyed_round(), [&](hand& user) { report_failure(user, store); });
+    open_refused_round(key_of_keyed_round(), [&](hand& user) { report_failure(user, store); });
 }
 
 void type_strokes_beyond_16_bits(const round_store& store)
@@ -76,10 +76,10 @@ void type_strokes_beyond_16_bits(const round_store& store)
 void turn_more_to_feet_than_16_bits_hold(const round_store& store)
 {
     store.add_round(key_of_keyed_round());
-    add_told_shot(store, 1, 1, 9, 11000, u"Verges"_s, 2);
-    add_told_shot(store, 1, 2, 14, 6, u"Pieds"_s, 3);
+    add_complete_shot(store, 1, 1, 9, 11000, u"Verges"_s, 2);
+    add_complete_shot(store, 1, 2, 14, 6, u"Pieds"_s, 3);
     in_stored_round(key_of_keyed_round(), [&](hand& user) {
-        go_to_detailed_page(user);
+        open_detailed_page(user);
         user.click(ok_button);
         report_failure(user, store);
     });
@@ -99,7 +99,7 @@ int run_child(const QString& limit)
         turn_more_to_feet_than_16_bits_hold(store);
     else
         type_strokes_beyond_16_bits(store);
-    return 77;  // not reached: the process has ended with the failure
+    return 77;  // not reached: the failure ends the process
 }
 
 }  // namespace
@@ -108,7 +108,7 @@ class test_round_limits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_limit_that_is_passed_ends_the_program_and_keeps_what_was_stored_data()
+    void exceeding_a_limit_ends_the_program_and_keeps_what_was_stored_data()
     {
         QTest::addColumn<QString>("details");
         QTest::addColumn<QString>("kept");
@@ -124,7 +124,7 @@ private Q_SLOTS:
                                  << "holes ";
     }
 
-    void a_limit_that_is_passed_ends_the_program_and_keeps_what_was_stored()
+    void exceeding_a_limit_ends_the_program_and_keeps_what_was_stored()
     {
         QFETCH(QString, details);
         QFETCH(QString, kept);
@@ -133,11 +133,11 @@ private Q_SLOTS:
         child.start(QCoreApplication::applicationFilePath(),
                     {u"--limit"_s, QString::fromLatin1(QTest::currentDataTag())});
         QVERIFY(child.waitForFinished(120000));
-        const QString said = QString::fromUtf8(child.readAllStandardOutput());
+        const QString output = QString::fromUtf8(child.readAllStandardOutput());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
-        QVERIFY2(said.contains(details), qPrintable(said));
-        QVERIFY2(said.endsWith(QString(u'|' + kept + u'\n')), qPrintable(said));
+        QVERIFY2(output.contains(details), qPrintable(output));
+        QVERIFY2(output.endsWith(QString(u'|' + kept + u'\n')), qPrintable(output));
     }
 };
 

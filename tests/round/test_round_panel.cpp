@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What stands on the panel: "box=text" for every box that is not blank, in the order of the boxes.
+/// The contents of the panel: "box=text" for every box that is not blank, in the order of the boxes.
 QString panel(hand& user)
 {
     QStringList cells;
@@ -33,7 +33,7 @@ void totals_are(hand& user, const QString& brut, const QString& hand_icap, const
     user.same(user.text(u"l_plus"_s), plus, u"over par"_s);
 }
 
-/// A stored round whose first 17 holes have so many long shots each.
+/// Adds a round whose first 17 holes have that many long shots each.
 void add_round_of(const round_store& store, int strokes)
 {
     store.add_round(key_of_keyed_round());
@@ -161,7 +161,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_penalty_reaches_the_totals_at_the_next_stroke()
+    void a_penalty_is_added_to_the_totals_at_the_next_stroke()
     {
         const round_store store;
         store.add_two_courses();
@@ -192,7 +192,7 @@ private Q_SLOTS:
         });
     }
 
-    void without_a_slope_there_is_no_differential()
+    void without_a_slope_the_differential_is_0()
     {
         const round_store store;
         store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"0"_s, u"4"_s});
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QCOMPARE(store.text(u"select long_18 || approach_18 || putt_18 from games"_s), u"113"_s);
     }
 
-    void the_totals_are_right_when_the_last_hole_looks_like_the_one_before()
+    void the_totals_are_computed_when_the_last_hole_equals_the_one_before()
     {
         const round_store store;
         store.add_two_courses();
@@ -235,13 +235,13 @@ private Q_SLOTS:
         });
     }
 
-    void the_totals_are_in_sight_on_the_last_hole_only()
+    void the_totals_are_visible_on_the_last_hole_only()
     {
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             const auto in_sight = [&](bool expected) {
-                user.same(user.visible(u"Frame7"_s), expected, u"totals in sight"_s);
+                user.same(user.visible(u"Frame7"_s), expected, u"totals are visible"_s);
             };
             in_sight(false);
             user.choose(u"cmb_holes"_s, 17);

@@ -57,8 +57,8 @@ class test_round_parameters : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void without_a_course_there_is_no_round_data() { both_languages(); }
-    void without_a_course_there_is_no_round()
+    void without_a_course_no_round_is_started_data() { both_languages(); }
+    void without_a_course_no_round_is_started()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -117,7 +117,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_temperature_goes_by_degrees_between_its_limits()
+    void the_temperature_changes_by_degrees_within_its_limits()
     {
         const round_store store;
         store.add_two_courses();
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(store.at(u"games2"_s, 201), u"-30"_s);
     }
 
-    void a_typed_temperature_counts_too()
+    void a_typed_temperature_is_stored()
     {
         const round_store store;
         store.add_two_courses();
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QCOMPARE(store.at(u"games2"_s, 201), u"-12"_s);
     }
 
-    void a_value_set_by_the_program_shows_at_once()
+    void a_value_set_by_the_program_is_shown_at_once()
     {
         const round_store store;
         store.add_two_courses();
@@ -165,7 +165,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_partner_shows_as_first_and_last_name()
+    void a_partner_is_listed_by_first_and_last_name()
     {
         const round_store store;
         store.add_two_courses();
@@ -180,7 +180,7 @@ private Q_SLOTS:
         });
     }
 
-    void partners_that_their_window_had_to_leave_open_are_read_anew()
+    void an_open_recordset_of_partners_is_read_again()
     {
         const round_store store;
         store.add_two_courses();
@@ -215,7 +215,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_partners_of_a_round_are_stored_by_number_and_come_back()
+    void the_partners_of_a_round_are_stored_by_number_and_selected_again()
     {
         const round_store store;
         store.add_two_courses();
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(store.at(u"games2"_s, 2), u"12-7-"_s);
         store.add_partner(u"Zola"_s, u"Emile"_s, 1);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
-            // "1" stands inside "12-7-": the search is a plain one.
+            // "1" is found in "12-7-": it is a plain text search.
             user.same(selected_lines(user).join(u'|'), u"Anne,Roy|Emile,Zola|Marie,Tremblay"_s,
                       u"selected partners"_s);
             discard(user);
@@ -249,8 +249,8 @@ private Q_SLOTS:
         QCOMPARE(store.at(u"games2"_s, 2), QString());
     }
 
-    void a_course_is_its_padded_name_and_its_tee_data() { both_languages(); }
-    void a_course_is_its_padded_name_and_its_tee()
+    void a_course_is_listed_by_its_padded_name_and_its_tee_data() { both_languages(); }
+    void a_course_is_listed_by_its_padded_name_and_its_tee()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -272,7 +272,7 @@ private Q_SLOTS:
         QCOMPARE(store.of_round(u"games"_s, u"CODEF"_s), u"ODD-9"_s);
     }
 
-    void the_open_list_of_courses_leaves_the_padding_out()
+    void the_open_list_of_courses_omits_the_padding()
     {
         const round_store store;
         store.add_two_courses();
@@ -300,7 +300,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_stored_round_without_costs_gets_a_row_of_noughts()
+    void a_stored_round_without_costs_gets_a_row_of_zeros()
     {
         const round_store store;
         store.add_two_courses();

@@ -7,8 +7,8 @@
 #include "round/f_new_round.h"
 #include "statistics/putt_statistics.h"
 #include "store/DataEnvironment1.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/hand_widgets.h"
 #include "tests/support/languages.h"
 
@@ -21,7 +21,7 @@ namespace {
 const QString report = u"report_preview"_s;
 const QString button = u"b_putts"_s;
 
-/// A store that reports read too.
+/// A store that reports can read.
 struct reported_store : golfer_store {
     explicit reported_store(bool french = true) : golfer_store(french)
     {
@@ -29,7 +29,7 @@ struct reported_store : golfer_store {
     }
 };
 
-/// The report opens above the round window and is closed again.
+/// Waits for the report above the round window and closes it.
 void close_report(hand& user)
 {
     user.wait_until(u"the report"_s, [] { return visible_window(report) != nullptr; });
@@ -87,19 +87,19 @@ class test_round_putts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_putts_of_the_hole_being_told_are_in_the_report_data() { both_languages(); }
-    void the_putts_of_the_hole_being_told_are_in_the_report()
+    void the_report_includes_the_putts_of_the_current_hole_data() { both_languages(); }
+    void the_report_includes_the_putts_of_the_current_hole()
     {
         QFETCH(bool, french);
         const reported_store round(french);
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click(button);
             close_report(user);
             check_control(user);
-            // The hole is as it was, and can be told on.
-            user.check(user.visible(details), u"the grid is in sight"_s);
+            // The hole is unchanged, and more shots can be entered.
+            user.check(user.visible(details), u"the grid is visible"_s);
             accept(user);
         });
         // Putts from 30 and from 4 feet.
@@ -111,15 +111,15 @@ private Q_SLOTS:
         QCOMPARE(head(round.store, u"to_date"_s),
                  in_language(u"Conditions atmosphériques : Ensoleillé", u"Weather conditions : Sunny"));
         QCOMPARE(round.shots(1), 4);
-        QCOMPARE(stored_putts(round.store, 1), told_putts);
+        QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
-    void the_button_of_the_report_does_its_work_behind_a_holed_putt()
+    void the_button_of_the_report_takes_a_holed_putt_and_runs()
     {
         const reported_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.type(u"0"_s);
             user.press_and_release(button);
             user.answer(refusal_of_shot());
@@ -146,22 +146,22 @@ private Q_SLOTS:
         QCOMPARE(bands(round.store, u"s_put2"_s, 1), u"5=1"_s);
     }
 
-    void a_report_keeps_nothing_of_a_hole_that_is_then_discarded()
+    void a_report_stores_nothing_of_a_hole_that_is_then_discarded()
     {
         const reported_store round;
         round.store.add_round(key_of_keyed_round());
         const QString games = whole_row(round.store, u"games"_s);
         const QString games2 = whole_row(round.store, u"games2"_s);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
-            tell_hole(user);
+            open_detailed_page(user);
+            enter_hole(user);
             user.click(button);
             close_report(user);
             discard(user);
         });
         QCOMPARE(whole_row(round.store, u"games"_s), games);
         QCOMPARE(whole_row(round.store, u"games2"_s), games2);
-        // The report was about the hole as it was told.
+        // The report showed the entered shots.
         QCOMPARE(bands(round.store, u"s_put1"_s, 2), u"3=1"_s);
     }
 
@@ -178,28 +178,28 @@ private Q_SLOTS:
         QCOMPARE(round.store.text(u"select rating_text from s_put2 order by rowid limit 1"_s), u"N/A"_s);
     }
 
-    void quick_figures_survive_a_report_from_the_detailed_page()
+    void quick_figures_are_kept_by_a_report_from_the_detailed_page()
     {
         const reported_store round;
         in_keyed_round([&](hand& user) {
             user.type(u"11200001000"_s);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.click(button);
             close_report(user);
             user.same(user.grid_rows(details), 1, u"the blank shot"_s);
-            go_to_quick_page(user);
+            open_quick_page(user);
             accept(user);
         });
         QCOMPARE(stored_figures(round.store, 1), u"1 1 2 0 0 0 0 1 0 0 0"_s);
         QCOMPARE(round.shots(1), 0);
     }
 
-    void an_incomplete_shot_is_told_before_the_report()
+    void an_incomplete_shot_is_reported_before_the_report_opens()
     {
         const reported_store round;
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
-            leave_second_shot_open(user);
+            open_detailed_page(user);
+            enter_incomplete_second_shot(user);
             user.click(button);
             user.answer(refusal_of_shot(u" 2"_s));
             close_report(user);
@@ -209,7 +209,7 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 1);
     }
 
-    void the_report_of_a_round_goes_with_its_window()
+    void the_report_of_a_round_is_closed_with_its_window()
     {
         const reported_store round;
         in_keyed_round([&](hand& user) {

@@ -5,8 +5,8 @@
 #include "round/f_new_round.h"
 #include "round/shot_entry.h"
 #include "store/DataEnvironment1.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -18,7 +18,7 @@ namespace {
 const QString next = u"CommandSuiv"_s;
 const QString away = u"CommandSup"_s;
 
-/// Two courses, named clubs and the keyed round in the store, to be reopened on its shots.
+/// A store with two courses, club names and a round whose shots are opened.
 struct round_with_shots {
     explicit round_with_shots(bool french = true) : store(french)
     {
@@ -27,11 +27,11 @@ struct round_with_shots {
         store.add_round(key_of_keyed_round());
     }
 
-    /// Opens the round on its detailed page, runs the script and takes the window away as it stands.
+    /// Opens the round on its detailed page, runs the script and unloads the window.
     void play(const std::function<void(hand&)>& script) const
     {
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             script(user);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
@@ -39,7 +39,7 @@ struct round_with_shots {
 
     void add(int shot, int club, int after, const QString& unit, int kind) const
     {
-        add_told_shot(store, 1, shot, club, after, unit, kind);
+        add_complete_shot(store, 1, shot, club, after, unit, kind);
     }
 
     round_store store;
@@ -61,8 +61,8 @@ class test_shot_entry : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_next_shot_is_born_behind_the_last_data() { both_languages(); }
-    void the_next_shot_is_born_behind_the_last()
+    void the_next_shot_is_added_after_the_last_data() { both_languages(); }
+    void the_next_shot_is_added_after_the_last()
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
@@ -75,7 +75,7 @@ private Q_SLOTS:
                       u"new row"_s);
             user.same(user.cursor(details), u"1,2"_s, u"cursor"_s);
             user.same(user.focus(), details, u"focus"_s);
-            user.same(boxes(user), u"1 0 0 1 0 0 0 0 0 0 0"_s, u"summed up"_s);
+            user.same(boxes(user), u"1 0 0 1 0 0 0 0 0 0 0"_s, u"boxes"_s);
         });
         QCOMPARE(stored_shots(round.store, 1).split(u'\n').last(), u"2 60>- - -/0 -/0"_s);
         QCOMPARE(round.store.text(u"select normal || ' ' || verges || ' ' || date from Stat_rounds "
@@ -83,7 +83,7 @@ private Q_SLOTS:
                  u"4 101 "_s + key_of_keyed_round());
     }
 
-    void no_shot_comes_behind_an_unfinished_one_data()
+    void no_shot_is_added_after_an_incomplete_one_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("values");
@@ -95,7 +95,7 @@ private Q_SLOTS:
             QTest::addRow("%s, holed", language) << french << "after = 0, stickval = 14, shot_type_value = 3";
         }
     }
-    void no_shot_comes_behind_an_unfinished_one()
+    void no_shot_is_added_after_an_incomplete_one()
     {
         QFETCH(bool, french);
         QFETCH(QString, values);
@@ -109,8 +109,8 @@ private Q_SLOTS:
         });
     }
 
-    void behind_a_putt_the_next_is_a_putt_data() { both_languages(); }
-    void behind_a_putt_the_next_is_a_putt()
+    void the_shot_after_a_putt_is_a_putt_data() { both_languages(); }
+    void the_shot_after_a_putt_is_a_putt()
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
@@ -129,7 +129,7 @@ private Q_SLOTS:
                  u"0 |"_s);
     }
 
-    void on_the_green_distances_alone_tell_the_putts()
+    void on_the_green_putts_are_entered_by_distances_alone()
     {
         const round_with_shots round;
         round.add(1, 9, 30, yards, 2);
@@ -148,8 +148,8 @@ private Q_SLOTS:
         QCOMPARE(stored[4].section(u' ', 1, 1), u"1>-"_s);
     }
 
-    void nothing_left_on_the_last_putt_brings_the_message_and_no_row_data() { both_languages(); }
-    void nothing_left_on_the_last_putt_brings_the_message_and_no_row()
+    void a_distance_of_0_after_the_last_putt_shows_a_message_and_adds_no_row_data() { both_languages(); }
+    void a_distance_of_0_after_the_last_putt_shows_a_message_and_adds_no_row()
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
@@ -163,7 +163,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_distance_on_a_putt_further_up_opens_nothing()
+    void a_distance_of_an_earlier_putt_adds_no_row()
     {
         const round_with_shots round;
         round.add(1, 14, 6, feet, 3);
@@ -177,7 +177,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_row_of_the_putter_is_a_putt_as_soon_as_its_distance_is_typed()
+    void a_row_with_the_putter_becomes_a_putt_when_its_distance_is_typed()
     {
         const round_with_shots round;
         add_shot(round.store, 1, 1, u"stickval = 14, stick = 'Pu', unit = 'Verges'"_s);
@@ -190,13 +190,13 @@ private Q_SLOTS:
         });
     }
 
-    void the_kind_putt_opens_the_next_putt_data() { both_languages(); }
-    void the_kind_putt_opens_the_next_putt()
+    void choosing_the_kind_putt_adds_the_next_putt_data() { both_languages(); }
+    void choosing_the_kind_putt_adds_the_next_putt()
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
         round.play([&](hand& user) {
-            tell_shot(user, 0, 5, u"20"_s, 3);
+            enter_shot(user, 0, 5, u"20"_s, 3);
             user.same(user.grid_rows(details), 2, u"rows"_s);
             user.same(user.cell(details, 0, 2) + user.cell(details, 0, 5), u"F5Putt"_s, u"first row"_s);
             user.same(user.cell(details, 1, 2) + user.cell(details, 1, 4) + user.cell(details, 1, 5),
@@ -205,13 +205,16 @@ private Q_SLOTS:
         });
     }
 
-    void the_kind_putt_without_a_distance_is_told_and_fills_the_row_itself_data() { both_languages(); }
-    void the_kind_putt_without_a_distance_is_told_and_fills_the_row_itself()
+    void choosing_the_kind_putt_without_a_distance_shows_a_message_and_fills_the_row_data()
+    {
+        both_languages();
+    }
+    void choosing_the_kind_putt_without_a_distance_shows_a_message_and_fills_the_row()
     {
         QFETCH(bool, french);
         const round_with_shots round(french);
         round.play([&](hand& user) {
-            tell_shot(user, 0, 5, QString(), 3);
+            enter_shot(user, 0, 5, QString(), 3);
             user.answer(refusal_of_shot());
             user.same(user.grid_rows(details), 1, u"rows"_s);
             user.same(user.cell(details, 0, 2) + user.cell(details, 0, 4) + user.cell(details, 0, 5),
@@ -220,17 +223,17 @@ private Q_SLOTS:
         });
     }
 
-    void a_shot_is_removed_and_the_others_close_up_data()
+    void a_shot_is_removed_and_the_others_are_renumbered_data()
     {
         QTest::addColumn<int>("row");
         QTest::addColumn<QString>("left");
         QTest::addColumn<bool>("putt_last");
         QTest::newRow("first") << 0 << "1 101>90 Pieds F9/9 Approche/2\n2 90>0 Pieds Pu/14 Putt/3" << true;
         QTest::newRow("middle") << 1 << "1 101>180 Pieds D/1 Long/1\n2 60>0 Pieds Pu/14 Putt/3" << true;
-        QTest::newRow("last: feet go back to yards")
+        QTest::newRow("last: feet are converted back to yards")
             << 2 << "1 101>60 Verges D/1 Long/1\n2 60>30 Verges F9/9 Approche/2" << false;
     }
-    void a_shot_is_removed_and_the_others_close_up()
+    void a_shot_is_removed_and_the_others_are_renumbered()
     {
         QFETCH(int, row);
         QFETCH(QString, left);
@@ -249,7 +252,7 @@ private Q_SLOTS:
         QCOMPARE(stored_shots(round.store, 1).remove(u" fairway=0"_qs), left);
     }
 
-    void the_only_shot_is_removed_and_a_blank_one_is_asked_for()
+    void after_the_only_shot_is_removed_the_next_shot_is_a_blank_one()
     {
         const round_with_shots round;
         round.add(1, 14, 5, feet, 3);
@@ -267,7 +270,7 @@ private Q_SLOTS:
         });
     }
 
-    void nothing_to_remove_is_told_in_English()
+    void without_shots_the_English_message_says_what_to_select()
     {
         const round_with_shots round(false);
         round.play([&](hand& user) {
@@ -278,7 +281,7 @@ private Q_SLOTS:
         });
     }
 
-    void removing_behind_an_incomplete_shot_names_that_shot()
+    void a_removal_after_an_incomplete_shot_names_that_shot()
     {
         const round_with_shots round;
         round.add(1, 1, 60, yards, 1);
@@ -292,14 +295,14 @@ private Q_SLOTS:
         });
     }
 
-    void the_end_of_the_round_sums_up_the_last_hole()
+    void the_button_for_the_end_of_the_round_sums_up_the_last_hole()
     {
         const round_with_shots round;
-        add_told_shot(round.store, 18, 1, 1, 30, yards, 1);
-        add_told_shot(round.store, 18, 2, 14, 4, feet, 3);
-        add_told_shot(round.store, 18, 3, 14, 0, feet, 3);
+        add_complete_shot(round.store, 18, 1, 1, 30, yards, 1);
+        add_complete_shot(round.store, 18, 2, 14, 4, feet, 3);
+        add_complete_shot(round.store, 18, 3, 14, 0, feet, 3);
         round.play([&](hand& user) {
-            user.check(!user.visible(u"b_carte"_s), u"not on hole 1"_s);
+            user.check(!user.visible(u"b_carte"_s), u"the button is hidden on hole 1"_s);
             user.click_tab(u"TabStrip1"_s, 18);
             user.answer(refusal_of_shot(u" 1"_s));
             user.same(user.grid_rows(details), 3, u"rows"_s);
@@ -315,7 +318,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_hole_told_in_the_other_language_goes_on_in_this_one()
+    void a_hole_entered_in_the_other_language_is_continued_in_this_one()
     {
         const round_with_shots round(false);
         round.add(1, 1, 60, yards, 1);
@@ -330,7 +333,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_hole_that_cannot_be_read_is_not_told()
+    void a_pending_change_that_cannot_be_stored_is_discarded_when_the_shots_are_opened()
     {
         const round_with_shots round;
         round.add(1, 1, 60, yards, 1);

@@ -5,8 +5,8 @@
 #include "controls/main_frame.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
+#include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
-#include "tests/round/told_shots.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -30,8 +30,8 @@ QString value(const QString& column, int shot = 1)
     return shots.value_at(shot - 1, shots.Fields(column).ordinal()).toString();
 }
 
-/// A value of a row as the program holds it, committed or not.
-QString held(hand& user, const QString& column, int shot = 1)
+/// A value of a row of the program's recordset, committed or not.
+QString pending_value(hand& user, const QString& column, int shot = 1)
 {
     QString text;
     user.look([&] { text = value(column, shot); });
@@ -48,25 +48,26 @@ void set_put_mode(hand& user, bool on)
 class test_shot_grid : public QObject {
     Q_OBJECT
 
-    /// A round on its detailed page; hole 1 is par 4, 101 yards. Leaves by the quick page.
-    static void on_the_page(bool french, const std::function<void(hand&)>& script)
+    /// Opens a new round on its detailed page; hole 1 is par 4 and 101 yards long. Closes it from the quick
+    /// page.
+    static void in_detailed_page(bool french, const std::function<void(hand&)>& script)
     {
         const round_store store(french);
         store.add_two_courses();
         name_the_clubs(store);
         in_keyed_round([&](hand& user) {
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             script(user);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }
 
 private Q_SLOTS:
-    void the_columns_are_as_laid_down_data() { both_languages(); }
-    void the_columns_are_as_laid_down()
+    void the_columns_have_their_captions_and_order_data() { both_languages(); }
+    void the_columns_have_their_captions_and_order()
     {
         QFETCH(bool, french);
-        on_the_page(french, [&](hand& user) {
+        in_detailed_page(french, [&](hand& user) {
             with_round(user, [&](f_new_round& window) {
                 const QAbstractItemModel& model = *window.details->model();
                 QCOMPARE(model.columnCount(), 13);
@@ -90,7 +91,7 @@ private Q_SLOTS:
     void a_hole_without_shots_shows_a_blank_one()
     {
         QFETCH(bool, french);
-        on_the_page(french, [&](hand& user) {
+        in_detailed_page(french, [&](hand& user) {
             user.same(user.grid_row(details, 0),
                       french ? u"1 |  |  |  |  | Non | Non | Non | Non | Dans l'allé | "_s
                              : u"1 |  |  |  |  | No | No | No | No | Fairway | "_s,
@@ -102,7 +103,7 @@ private Q_SLOTS:
                 {u"date"_s, key_of_keyed_round()}, {u"hole"_s, u"1"_s},    {u"before"_s, u"101"_s},
                 {u"verges"_s, u"101"_s},           {u"fairval"_s, u"1"_s}, {u"after"_s, QString()}};
             for (const auto& [column, expected] : born)
-                user.same(held(user, column), expected, column);
+                user.same(pending_value(user, column), expected, column);
         });
     }
 
@@ -122,7 +123,7 @@ private Q_SLOTS:
             {11, u"mpen"_s,
              french ? u"Eau,Balle perdue,Règlement,Hors limites, "_s
                     : u"Water Hazard,Lost Ball,Rules,Out of Bounds, "_s}};
-        on_the_page(french, [&](hand& user) {
+        in_detailed_page(french, [&](hand& user) {
             for (const auto& [column, name, entries] : menus) {
                 user.open_menu(details, 0, column);
                 user.wait_for_menu(name);
@@ -136,50 +137,52 @@ private Q_SLOTS:
         });
     }
 
-    void a_club_of_the_course_brings_yards_and_goes_to_the_distance_data() { both_languages(); }
-    void a_club_of_the_course_brings_yards_and_goes_to_the_distance()
+    void a_club_sets_yards_and_moves_the_cursor_to_the_distance_data() { both_languages(); }
+    void a_club_sets_yards_and_moves_the_cursor_to_the_distance()
     {
         QFETCH(bool, french);
-        on_the_page(french, [&](hand& user) {
-            tell_shot(user, 0, 3, QString(), 0);
-            user.same(held(user, u"stick"_s) + held(user, u"stickval"_s), u"F33"_s, u"club"_s);
+        in_detailed_page(french, [&](hand& user) {
+            enter_shot(user, 0, 3, QString(), 0);
+            user.same(pending_value(user, u"stick"_s) + pending_value(user, u"stickval"_s), u"F33"_s,
+                      u"club"_s);
             user.same(user.cell(details, 0, 4), french ? u"Verges"_s : u"Yards"_s, u"unit"_s);
             user.same(user.cell(details, 0, 5), QString(), u"kind"_s);
             user.same(user.cursor(details), u"0,3"_s, u"cursor"_s);
         });
     }
 
-    void the_putter_makes_a_putt_in_feet_data() { both_languages(); }
-    void the_putter_makes_a_putt_in_feet()
+    void the_putter_sets_the_kind_putt_and_feet_data() { both_languages(); }
+    void the_putter_sets_the_kind_putt_and_feet()
     {
         QFETCH(bool, french);
-        on_the_page(french, [&](hand& user) {
-            tell_shot(user, 0, 14, QString(), 0);
+        in_detailed_page(french, [&](hand& user) {
+            enter_shot(user, 0, 14, QString(), 0);
             user.same(user.cell(details, 0, 2), u"Pu"_s, u"club"_s);
             user.same(user.cell(details, 0, 4), french ? u"Pieds"_s : u"Feets"_s, u"unit"_s);
-            user.same(user.cell(details, 0, 5) + held(user, u"shot_type_value"_s), u"Putt3"_s, u"kind"_s);
-            user.same(user.cursor(details), u"0,3"_s, u"cursor"_s);
-            // Another club after the putter: the kind goes, the feet stay.
-            tell_shot(user, 0, 5, QString(), 0);
-            user.same(user.cell(details, 0, 4), french ? u"Pieds"_s : u"Feets"_s, u"unit"_s);
-            user.same(u'<' + user.cell(details, 0, 5) + u'>' + held(user, u"shot_type_value"_s), u"< >0"_s,
+            user.same(user.cell(details, 0, 5) + pending_value(user, u"shot_type_value"_s), u"Putt3"_s,
                       u"kind"_s);
+            user.same(user.cursor(details), u"0,3"_s, u"cursor"_s);
+            // Another club after the putter: the kind is cleared, the unit is still feet.
+            enter_shot(user, 0, 5, QString(), 0);
+            user.same(user.cell(details, 0, 4), french ? u"Pieds"_s : u"Feets"_s, u"unit"_s);
+            user.same(u'<' + user.cell(details, 0, 5) + u'>' + pending_value(user, u"shot_type_value"_s),
+                      u"< >0"_s, u"kind"_s);
         });
     }
 
-    void a_kind_stays_when_another_club_follows_a_club()
+    void the_kind_is_kept_when_a_club_is_replaced_by_another()
     {
-        on_the_page(true, [&](hand& user) {
-            tell_shot(user, 0, 3, QString(), 1);
+        in_detailed_page(true, [&](hand& user) {
+            enter_shot(user, 0, 3, QString(), 1);
             user.same(user.cursor(details), u"0,5"_s, u"cursor"_s);
-            tell_shot(user, 0, 4, QString(), 0);
+            enter_shot(user, 0, 4, QString(), 0);
             user.same(user.cell(details, 0, 5), u"Long"_s, u"kind"_s);
         });
     }
 
-    void only_digits_reach_the_distance()
+    void the_distance_takes_only_digits()
     {
-        on_the_page(true, [&](hand& user) {
+        in_detailed_page(true, [&](hand& user) {
             user.click_cell(details, 0, 3);
             const int before = user.bells();
             user.type(u"a1b.2-"_s);
@@ -191,42 +194,42 @@ private Q_SLOTS:
         });
     }
 
-    void a_typed_distance_takes_yards_and_the_par_data()
+    void a_typed_distance_sets_yards_and_the_par_data()
     {
         QTest::addColumn<bool>("put_mode");
         QTest::addColumn<QString>("cursor");
-        // The key that takes the figure goes one cell on: from the unit, or in a putt from the club.
+        // Enter moves the cursor by one cell: from the unit, or from the club if a putt is being entered.
         QTest::newRow("a shot") << false << "0,5";
         QTest::newRow("a putt is being entered") << true << "0,3";
     }
-    void a_typed_distance_takes_yards_and_the_par()
+    void a_typed_distance_sets_yards_and_the_par()
     {
         QFETCH(bool, put_mode);
         QFETCH(QString, cursor);
-        on_the_page(true, [&](hand& user) {
-            tell_shot(user, 0, 3, QString(), 1);
+        in_detailed_page(true, [&](hand& user) {
+            enter_shot(user, 0, 3, QString(), 1);
             set_put_mode(user, put_mode);
             user.click_cell(details, 0, 3);
             user.type(u"60"_s);
             user.key(Qt::Key_Return);
             user.same(user.cell(details, 0, 3) + user.cell(details, 0, 4), u"60Verges"_s, u"distance"_s);
-            user.same(held(user, u"normal"_s), u"4"_s, u"par"_s);
+            user.same(pending_value(user, u"normal"_s), u"4"_s, u"par"_s);
             user.same(user.cursor(details), cursor, u"cursor"_s);
         });
     }
 
-    void a_distance_left_by_the_mouse_puts_the_cursor_beside_it_data()
+    void a_distance_left_by_a_click_moves_the_cursor_to_the_next_cell_data()
     {
         QTest::addColumn<bool>("put_mode");
         QTest::addColumn<QString>("cursor");
         QTest::newRow("a shot") << false << "0,4";
         QTest::newRow("a putt is being entered") << true << "0,2";
     }
-    void a_distance_left_by_the_mouse_puts_the_cursor_beside_it()
+    void a_distance_left_by_a_click_moves_the_cursor_to_the_next_cell()
     {
         QFETCH(bool, put_mode);
         QFETCH(QString, cursor);
-        on_the_page(true, [&](hand& user) {
+        in_detailed_page(true, [&](hand& user) {
             set_put_mode(user, put_mode);
             user.click_cell(details, 0, 3);
             user.type(u"60"_s);
@@ -236,17 +239,18 @@ private Q_SLOTS:
         });
     }
 
-    void a_position_is_kept_with_its_code_and_the_cursor_goes_on()
+    void a_position_is_stored_with_its_code_and_the_cursor_moves()
     {
-        on_the_page(false, [&](hand& user) {
+        in_detailed_page(false, [&](hand& user) {
             user.open_menu(details, 0, 10);
             user.choose_menu_entry(u"ma_3"_s);
-            user.same(user.cell(details, 0, 10) + held(user, u"fairval"_s), u"Right3"_s, u"position"_s);
+            user.same(user.cell(details, 0, 10) + pending_value(user, u"fairval"_s), u"Right3"_s,
+                      u"position"_s);
             user.same(user.cursor(details), u"0,11"_s, u"cursor"_s);
         });
     }
 
-    void a_penalty_is_kept_with_its_code_and_stroke_data()
+    void a_penalty_is_stored_with_its_code_and_stroke_data()
     {
         QTest::addColumn<int>("entry");
         QTest::addColumn<QString>("kept");
@@ -256,24 +260,24 @@ private Q_SLOTS:
         QTest::newRow("out of bounds") << 4 << "Hors limites/4/1";
         QTest::newRow("none") << 5 << " /0/0";
     }
-    void a_penalty_is_kept_with_its_code_and_stroke()
+    void a_penalty_is_stored_with_its_code_and_stroke()
     {
         QFETCH(int, entry);
         QFETCH(QString, kept);
-        on_the_page(true, [&](hand& user) {
+        in_detailed_page(true, [&](hand& user) {
             user.open_menu(details, 0, 11);
             user.choose_menu_entry(u"mp_2"_s);
             user.open_menu(details, 0, 11);
             user.choose_menu_entry(u"mp_%1"_s.arg(entry));
-            user.same(
-                QStringList{user.cell(details, 0, 11), held(user, u"penval"_s), held(user, u"addpen"_s)}.join(
-                    u'/'),
-                kept, u"penalty"_s);
+            user.same(QStringList{user.cell(details, 0, 11), pending_value(user, u"penval"_s),
+                                  pending_value(user, u"addpen"_s)}
+                          .join(u'/'),
+                      kept, u"penalty"_s);
             user.same(user.focus(), u"CommandSuiv"_s, u"focus"_s);
         });
     }
 
-    void yes_and_no_go_to_the_column_of_the_cursor_data()
+    void yes_and_no_are_stored_in_the_column_of_the_cursor_data()
     {
         QTest::addColumn<int>("column");
         QTest::addColumn<QString>("field");
@@ -282,26 +286,26 @@ private Q_SLOTS:
         QTest::newRow("sand") << 8 << "ts";
         QTest::newRow("distance zero") << 9 << "dz";
     }
-    void yes_and_no_go_to_the_column_of_the_cursor()
+    void yes_and_no_are_stored_in_the_column_of_the_cursor()
     {
         QFETCH(int, column);
         QFETCH(QString, field);
-        on_the_page(false, [&](hand& user) {
+        in_detailed_page(false, [&](hand& user) {
             user.open_menu(details, 0, column);
             user.choose_menu_entry(u"mb_0"_s);
             user.same(user.cell(details, 0, column), u"Yes"_s, u"cell"_s);
-            user.same(held(user, field), u"true"_s, field);
+            user.same(pending_value(user, field), u"true"_s, field);
             user.same(user.cursor(details), u"0,%1"_s.arg(column + 1), u"cursor"_s);
             user.click_cell(details, 0, column);
             user.type(u"n"_s);
             user.same(user.cell(details, 0, column), u"No"_s, u"cell"_s);
-            user.same(held(user, field), u"false"_s, field);
+            user.same(pending_value(user, field), u"false"_s, field);
         });
     }
 
     void a_cell_with_a_menu_is_not_typed_into()
     {
-        on_the_page(true, [&](hand& user) {
+        in_detailed_page(true, [&](hand& user) {
             user.click_cell(details, 0, 5);
             const int before = user.bells();
             user.key(Qt::Key_Backspace);
@@ -310,20 +314,20 @@ private Q_SLOTS:
         });
     }
 
-    void the_page_holds_Save_and_Close_and_the_menu()
+    void the_page_disables_Save_and_Close_and_the_menu()
     {
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             user.check(store.frame.enabled(u"B4"_s), u"Save before"_s);
-            go_to_detailed_page(user);
+            open_detailed_page(user);
             user.check(store.frame.locked, u"the menu is locked"_s);
-            user.check(!store.frame.enabled(u"B4"_s), u"Save on the page"_s);
-            user.check(!store.frame.enabled(u"B5"_s), u"Close on the page"_s);
-            go_to_quick_page(user);
-            user.check(store.frame.enabled(u"B4"_s), u"Save after"_s);
-            go_to_detailed_page(user);
-            tell_shot(user, 0, 1, u"0"_s, 1);
+            user.check(!store.frame.enabled(u"B4"_s), u"Save is disabled"_s);
+            user.check(!store.frame.enabled(u"B5"_s), u"Close is disabled"_s);
+            open_quick_page(user);
+            user.check(store.frame.enabled(u"B4"_s), u"Save is enabled again"_s);
+            open_detailed_page(user);
+            enter_shot(user, 0, 1, u"0"_s, 1);
             accept(user);
         });
         QVERIFY(store.frame.enabled(u"B4"_s));

@@ -50,8 +50,8 @@ class test_tee_off : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_dialog_comes_up_by_itself_with_today_and_noon_data() { both_languages(); }
-    void the_dialog_comes_up_by_itself_with_today_and_noon()
+    void the_dialog_opens_by_itself_with_today_and_noon_data() { both_languages(); }
+    void the_dialog_opens_by_itself_with_today_and_noon()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -83,26 +83,26 @@ private Q_SLOTS:
                                                    << ""
                                                    << "09:05:00"
                                                    << "20240614090500";
-        QTest::newRow("two digits stay") << "23"
-                                         << "59"
-                                         << "58"
-                                         << "23:59:58"
-                                         << "20240614235958";
-        QTest::newRow("blanks go") << " 7"
-                                   << "1 "
-                                   << " 3 "
-                                   << "07:01:03"
-                                   << "20240614070103";
+        QTest::newRow("two digits are kept") << "23"
+                                             << "59"
+                                             << "58"
+                                             << "23:59:58"
+                                             << "20240614235958";
+        QTest::newRow("blanks are trimmed") << " 7"
+                                            << "1 "
+                                            << " 3 "
+                                            << "07:01:03"
+                                            << "20240614070103";
         QTest::newRow("three digits make a longer key") << "123"
                                                         << "00"
                                                         << "00"
                                                         << "123:00:00"
                                                         << "202406141230000";
-        QTest::newRow("letters pass") << "ab"
-                                      << "99"
-                                      << "x"
-                                      << "ab:99:0x"
-                                      << "20240614ab990x";
+        QTest::newRow("letters are accepted") << "ab"
+                                              << "99"
+                                              << "x"
+                                              << "ab:99:0x"
+                                              << "20240614ab990x";
     }
 
     void the_boxes_are_padded_to_two_characters()
@@ -130,8 +130,8 @@ private Q_SLOTS:
             QCOMPARE(store.at(table, 0), key);
     }
 
-    void a_moment_that_is_taken_is_refused_and_the_next_second_accepted_data() { both_languages(); }
-    void a_moment_that_is_taken_is_refused_and_the_next_second_accepted()
+    void a_date_and_time_in_use_are_refused_and_the_next_second_is_accepted_data() { both_languages(); }
+    void a_date_and_time_in_use_are_refused_and_the_next_second_is_accepted()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(store.text(u"select group_concat(date) from games"_s), u"20240614093000,20240614093001"_s);
     }
 
-    void no_at_the_question_leaves_the_dialog_as_it_was()
+    void No_at_the_question_keeps_the_dialog_as_it_was()
     {
         const round_store store;
         store.add_two_courses();
@@ -158,7 +158,7 @@ private Q_SLOTS:
             user.wait_for_window(dialog);
             user.same(user.text(u"Text1"_s), u"8"_s, u"hours"_s);
             user.same(user.text(u"Text3"_s), QString(), u"seconds"_s);
-            user.check(chosen_date(user) == QDate(2024, 6, 14), u"the date stays"_s);
+            user.check(chosen_date(user) == QDate(2024, 6, 14), u"the date is unchanged"_s);
             user.look([] {
                 QCOMPARE(dynamic_cast<f_new_round&>(*open_form(u"f_new_round")).date_value, QString());
             });
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(rows_in(store), 0);
     }
 
-    void leaving_the_dialog_without_a_moment_leaves_nothing_behind_data()
+    void closing_the_dialog_without_a_date_stores_nothing_data()
     {
         QTest::addColumn<int>("road");
         QTest::newRow("by Cancel") << 0;
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QTest::newRow("by the title bar") << 2;
     }
 
-    void leaving_the_dialog_without_a_moment_leaves_nothing_behind()
+    void closing_the_dialog_without_a_date_stores_nothing()
     {
         QFETCH(int, road);
         const round_store store;
@@ -198,7 +198,7 @@ private Q_SLOTS:
         QCOMPARE(rows_in(store), 3);
     }
 
-    void a_double_click_on_a_date_chooses_it_and_goes_to_OK()
+    void a_double_click_on_a_date_selects_it_and_sets_the_focus_to_OK()
     {
         const round_store store;
         store.add_two_courses();
@@ -217,7 +217,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_key_joins_the_list_at_the_first_save_only()
+    void the_key_is_added_to_the_list_at_the_first_save_only()
     {
         const round_store store;
         store.add_two_courses();

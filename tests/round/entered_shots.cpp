@@ -1,4 +1,4 @@
-#include "tests/round/told_shots.h"
+#include "tests/round/entered_shots.h"
 
 #include <QImage>
 
@@ -39,10 +39,10 @@ QString marks(const std::vector<QVariant>& row)
         marks += u" fairway=" + row[10].toString();
     if (row[11].toInt() != 0)
         marks += u" penalty=%1+%2"_s.arg(row[11].toInt()).arg(row[12].toInt());
-    const QStringList words{u" missed"_s, u" sand"_s, u" zero"_s, u" beyond"_s, u" cal"_s};
-    for (int i = 0; i < words.size(); ++i) {
+    const QStringList marks_in_order{u" missed"_s, u" sand"_s, u" zero"_s, u" beyond"_s, u" cal"_s};
+    for (int i = 0; i < marks_in_order.size(); ++i) {
         if (row[static_cast<std::size_t>(13 + i)].toInt() != 0)
-            marks += words[i];
+            marks += marks_in_order[i];
     }
     return marks;
 }
@@ -63,13 +63,13 @@ void name_the_clubs(const round_store& store)
         store.store.write(u"update sticknames set club_%1 = '%2'"_s.arg(club).arg(club_word(club)));
 }
 
-void go_to_detailed_page(hand& user)
+void open_detailed_page(hand& user)
 {
     user.click_tab(u"TabStrip2"_s, 2);
-    user.check(user.visible(details), u"the grid is in sight"_s);
+    user.check(user.visible(details), u"the grid is visible"_s);
 }
 
-void go_to_quick_page(hand& user)
+void open_quick_page(hand& user)
 {
     user.click_tab(u"TabStrip2"_s, 1);
 }
@@ -100,8 +100,8 @@ void add_shot(const round_store& store, int hole, int shot, const QString& value
         u"update Stat_rounds set %1 where hole = %2 and shot = %3"_s.arg(values).arg(hole).arg(shot));
 }
 
-void add_told_shot(const round_store& store, int hole, int shot, int club, int after, const QString& unit,
-                   int kind)
+void add_complete_shot(const round_store& store, int hole, int shot, int club, int after, const QString& unit,
+                       int kind)
 {
     add_shot(store, hole, shot,
              u"stickval = %1, stick = '%2', after = %3, unit = '%4', shot_type_value = %5, "
@@ -114,7 +114,7 @@ void add_told_shot(const round_store& store, int hole, int shot, int club, int a
                  .arg(100 + hole));
 }
 
-void tell_shot(hand& user, int row, int club, const QString& distance, int kind)
+void enter_shot(hand& user, int row, int club, const QString& distance, int kind)
 {
     user.open_menu(details, row, 2);
     user.choose_menu_entry(u"ms1_%1"_s.arg(club));
@@ -159,27 +159,27 @@ int golfer_store::shots(int hole) const
     return store.number(u"select count(*) from Stat_rounds where hole = %1"_s.arg(hole));
 }
 
-void tell_hole(hand& user)
+void enter_hole(hand& user)
 {
-    tell_shot(user, 0, 1, u"60"_s, 1);
+    enter_shot(user, 0, 1, u"60"_s, 1);
     user.click(u"CommandSuiv"_s);
-    tell_shot(user, 1, 9, u"10"_s, 2);
+    enter_shot(user, 1, 9, u"10"_s, 2);
     user.click(u"CommandSuiv"_s);
-    tell_shot(user, 2, 14, u"4"_s, 0);
+    enter_shot(user, 2, 14, u"4"_s, 0);
 }
 
-void leave_second_shot_open(hand& user)
+void enter_incomplete_second_shot(hand& user)
 {
-    tell_shot(user, 0, 1, u"60"_s, 1);
+    enter_shot(user, 0, 1, u"60"_s, 1);
     user.click(u"CommandSuiv"_s);
-    tell_shot(user, 1, 9, u"10"_s, 0);
+    enter_shot(user, 1, 9, u"10"_s, 0);
 }
 
-expected_box refusal_of_shot(const QString& behind)
+expected_box refusal_of_shot(const QString& suffix)
 {
     return {in_language(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",
                         u"Please indicate a golf club and the type of shot (VRD) for the shot") +
-                behind,
+                suffix,
             QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok};
 }
 
