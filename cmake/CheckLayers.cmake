@@ -1,4 +1,4 @@
-# Checks that the libraries depend on each other in one direction only, as they are declared. Run by CTest:
+# Checks that each library depends only on libraries that are declared before it. Run by CTest:
 #
 #   cmake -D SOURCES=FOLDER -D LIBRARIES=FILE -P CheckLayers.cmake
 #

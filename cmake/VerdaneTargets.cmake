@@ -11,9 +11,9 @@ add_library(verdane_flags INTERFACE)
 target_include_directories(verdane_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(verdane_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
-  # GCC 12 sees overlapping copies inside its own std::string once it optimises.
+  # When GCC 12 optimises, it warns of overlapping copies in its own std::string.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-  # With all optimisation it also sees null pointers where one has just been asked for.
+  # With full optimisation it also warns of null pointers that were checked just before.
   $<$<CONFIG:Release>:-Wno-null-dereference>)
 target_compile_definitions(verdane_flags INTERFACE
   QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
@@ -23,7 +23,7 @@ endif()
 if(VERDANE_SANITIZE)
   target_compile_options(verdane_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer
-    # GCC 12 reports null dereferences that only its own instrumentation makes.
+    # GCC 12 warns of null dereferences in its own instrumentation.
     -Wno-null-dereference -Wno-maybe-uninitialized)
   target_link_options(verdane_flags INTERFACE -fsanitize=address,undefined)
 endif()
@@ -37,8 +37,8 @@ function(verdane_library name)
   set_property(GLOBAL APPEND_STRING PROPERTY VERDANE_LIBRARIES "${name} ${links}\n")
 endfunction()
 
-# What every test runs under: a screen of 1920 x 1080 pixels that nobody sees, and no leak report, since the
-# toolkit keeps some memory to the end on purpose. In plain "offscreen" the screen has 800 x 800 pixels.
+# The environment of every test: an offscreen screen of 1920 x 1080 pixels (the default has 800 x 800), and no
+# leak report, because the toolkit does not free some of its memory.
 set(VERDANE_TEST_SCREENS "${CMAKE_SOURCE_DIR}/tests/screens")
 set(VERDANE_TEST_ENVIRONMENT
   "QT_QPA_PLATFORM=offscreen:configfile=${VERDANE_TEST_SCREENS}/desktop.json;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
@@ -56,7 +56,7 @@ function(verdane_test name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PRIVATE verdane_test_support ${ARG_LINKS} Qt6::Test)
   add_test(NAME ${name} COMMAND ${name})
-  # The test framework would end a long function after five minutes, whatever it was given here.
+  # By default Qt Test ends a test function after five minutes.
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
     ENVIRONMENT "${VERDANE_TEST_ENVIRONMENT};QTEST_FUNCTION_TIMEOUT=${ARG_TIMEOUT}000")
 endfunction()
