@@ -1,5 +1,5 @@
-# What an installation lays down. The program and its report templates stand side by side, since it
-# looks for them in its own folder and nowhere else; the command is a link to it.
+# What an installation contains. The program and its report templates with their layouts are in one folder,
+# since it reads them in its own folder only. The command is a link to the program.
 set(verdane_id io.verdane.Verdane)
 set(verdane_home lib/verdane)
 
@@ -9,7 +9,8 @@ install(CODE [[
   file(MAKE_DIRECTORY "${commands}")
   file(CREATE_LINK ../lib/verdane/verdane "${commands}/verdane" SYMBOLIC)]])
 
-install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING PATTERN "*.rpt")
+install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING
+  PATTERN "*.rpt" PATTERN "*.layout")
 install(FILES packaging/${verdane_id}.desktop DESTINATION share/applications)
 install(FILES packaging/${verdane_id}.metainfo.xml DESTINATION share/metainfo)
 install(FILES src/shell/art/verdane.svg RENAME ${verdane_id}.svg

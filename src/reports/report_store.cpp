@@ -218,7 +218,7 @@ void report_snapshot::fail(const template_query& query, const QSqlQuery& stateme
 void report_snapshot::check_time(const template_query& query) const
 {
     if (!guard_->may_continue())
-        throw report_stopped(u"%1:%2: query %3"_s.arg(source_.file_name).arg(query.line).arg(query.name));
+        throw report_stopped(u"%1:%2: query %3"_s.arg(source_.layout_name).arg(query.line).arg(query.name));
 }
 
 }  // namespace verdane

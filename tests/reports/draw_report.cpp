@@ -1,7 +1,7 @@
-// Prints a template to a PDF file, for whoever works on a template: with the figures of any store, or,
-// where none is named, with the invented ones that the tests look at.
+// Prints a template to a PDF file, or its figures to a CSV file: with the figures of a store, or without one
+// with the invented figures of the tests.
 //
-//   draw_report TEMPLATE.rpt [STORE] OUT.pdf
+//   draw_report TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv
 
 #include <QApplication>
 #include <QTextStream>
@@ -24,7 +24,7 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     QTextStream errors(stderr);
     if (arguments.size() < 3 || arguments.size() > 4) {
-        errors << "draw_report TEMPLATE.rpt [STORE] OUT.pdf\n";
+        errors << "draw_report TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv\n";
         return 2;
     }
     try {

@@ -154,9 +154,9 @@ QString fill_body(const template_file& source, const report_snapshot& snapshot)
 
 QString fill_footer(const template_file& source, int page, int pages)
 {
-    for (const template_tag& tag : find_tags(source.footer, source.at(source.footer_line)))
+    for (const template_tag& tag : find_tags(source.footer, source.footer_place))
         if (tag.name != u"page"_s && tag.name != u"pages"_s)
-            fail_template(source.at(tag.line), u"no field %1 in a footer"_s.arg(tag.name));
+            fail_template({source.footer_place.file, tag.line}, u"no field %1 in a footer"_s.arg(tag.name));
     kainjow::mustache::mustache footer(source.footer.toStdString());
     data numbers(data::type::object);
     numbers.set("page", std::to_string(page));

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "reports/template/template_failure.h"
+#include "reports/template/template_file.h"
 
 class QTextDocument;
 

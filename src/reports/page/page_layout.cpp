@@ -42,7 +42,7 @@ page_layout::page_layout(const template_file& source, const QString& html)
     // One endless page: the toolkit's own paging cuts rows of several lines in two. Set ahead of the text,
     // which would be laid out twice otherwise.
     document_->setTextWidth(inside_.width());
-    document_->setHtml(with_layout_units(drawings_.taken_out(html, source.file_name)));
+    document_->setHtml(with_layout_units(drawings_.taken_out(html, source.layout_name)));
     // What the check of the page did not see must not pass in silence.
     if (!document_->refused().isEmpty())
         fail_template(source.at(source.body_line), file_words(document_->refused().constFirst()));

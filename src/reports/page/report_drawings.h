@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "reports/page/drawing_texts.h"
-#include "reports/template/template_failure.h"
+#include "reports/template/template_file.h"
 
 namespace verdane {
 

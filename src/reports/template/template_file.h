@@ -7,20 +7,31 @@
 
 #include <vector>
 
-#include "reports/template/template_failure.h"
-
 namespace verdane {
 
-/// A named question to the store, as it stands in a template's head.
+/// A place in a template or a layout: the name of the file without its folder, and a line, from 1.
+struct template_place {
+    QString file;
+    int line = 1;
+};
+
+/// Stops a report whose template is wrong: `run_time_failure` of the kind `report_template`, with
+/// "file.rpt:LINE: message" as its details.
+[[noreturn]] void fail_template(const template_place& place, const QString& message);
+
+/// A named query of a template's head.
 struct template_query {
     QString name;
     QString sql;
     int line = 1;
 };
 
-/// A report template as it was read: the head taken apart, the body as it stands.
+/// A report template as it was read, with the words of its language in their places.
 struct template_file {
+    /// Of the template, without its folder.
     QString file_name;
+    /// Of the file with the page, the queries and the body: the layout, or the template itself.
+    QString layout_name;
 
     QPageSize::PageSizeId paper = QPageSize::A4;
     bool landscape = false;
@@ -28,14 +39,14 @@ struct template_file {
     QMarginsF margins{15, 15, 15, 15};
     int margins_line = 1;
 
-    /// The letters of the page: the first of these families that the machine has, in points.
+    /// The font of the page: the first of these families that the machine has, in points.
     QStringList font_families{QStringLiteral("DejaVu Sans")};
     double font_points = 9;
 
     QString title;
     /// Printed below every page; may hold `{{page}}` and `{{pages}}`. Empty for none.
     QString footer;
-    int footer_line = 1;
+    template_place footer_place;
 
     /// The query whose rows a CSV file gets; the first one unless the head names another.
     QString csv_query;
@@ -47,16 +58,18 @@ struct template_file {
     QString body;
     int body_line = 1;
 
-    template_place at(int line) const { return {file_name, line}; }
+    /// A line of the layout.
+    template_place at(int line) const { return {layout_name, line}; }
     const template_query* find_query(const QString& name) const;
 
     /// Width and height of a whole page as it is printed, in millimetres.
     QSizeF page_size_mm() const;
 };
 
-/// Reads a template. Fails with `report_template`, naming file and line, when the file cannot be
-/// opened or is longer than `most_template_bytes`, a line of the head is not understood, the margins leave no
-/// page, or the line `---` before the body is missing.
+/// Reads a template and the layout that it names, which is in its folder. Fails with `report_template`,
+/// naming file and line, when one of them cannot be opened or is longer than `most_template_bytes`, a line of
+/// a head is not understood, the margins leave no page, the line `---` before the body is missing, or the
+/// words are not those that the layout takes.
 template_file read_template(const QString& path);
 
 }  // namespace verdane
