@@ -8,8 +8,8 @@
 #include "reports/preview/page_view.h"
 #include "reports/preview/report_preview.h"
 #include "reports/preview/report_wait.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_stopped.h"
 
 namespace verdane {
 

@@ -5,13 +5,12 @@
 
 #include "reports/check/page_check.h"
 #include "reports/fill/template_fill.h"
-#include "reports/output/csv_text.h"
 #include "reports/output/report_files.h"
 #include "reports/output/report_print.h"
 #include "reports/page/layout_units.h"
 #include "reports/page/page_layout.h"
 #include "reports/page/report_drawings.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 
 namespace verdane {
 

@@ -1,72 +1,11 @@
 #pragma once
 
-#include <QSqlDatabase>
 #include <QString>
-#include <QStringList>
-#include <QVariant>
-
-#include <map>
-#include <memory>
-#include <vector>
-
-#include "reports/query/query_guard.h"
-#include "reports/template/template_file.h"
-
-class QSqlQuery;
 
 namespace verdane {
 
 /// Sets the path of the store. The program does so once, when it starts.
 void set_report_store(const QString& path);
 QString report_store();
-
-/// The rows that a query gave, null values as invalid variants.
-struct report_rows {
-    QStringList columns;
-    std::vector<std::vector<QVariant>> rows;
-};
-
-/// The values that an inner query takes from the rows around it, by their column's name.
-using report_parameters = std::map<QString, QVariant>;
-
-/// The characters of all values of a row, as they are printed.
-qsizetype characters_in(const std::vector<QVariant>& row);
-
-/// The store as a report sees it: one moment of the committed rows of the report tables, copied into a
-/// database in memory, so that nothing else can be read and nothing written. It lives as long as the report
-/// is being filled.
-class report_snapshot {
-public:
-    /// Fails with `store_unreachable` when the store cannot be opened, `store_damaged` when it cannot be
-    /// read, and `store_locked` when another program locks it for longer than `lock_wait::default_time_out_s`
-    /// or the user gives up waiting. `may_continue` is called while queries run.
-    explicit report_snapshot(const template_file& source, const continue_check& may_continue = {});
-    ~report_snapshot();
-    report_snapshot(const report_snapshot&) = delete;
-    report_snapshot& operator=(const report_snapshot&) = delete;
-
-    /// The rows of a query of the template. One that takes nothing from the rows around it runs once, at
-    /// the first call. Fails with `report_template`, at the query's line, with the engine's own words, on a
-    /// statement or table that a template may not use, and on more rows than `page_limits.h` allows. Throws
-    /// `report_stopped` when the user does not want to wait.
-    report_rows rows(const template_query& query, const report_parameters& parameters = {}) const;
-
-    /// The names that a query takes from the rows around it (`:line` in its text).
-    static QStringList parameters_of(const template_query& query);
-
-private:
-    void open();
-    QString statement_for(const template_query& query) const;
-    report_rows run(const template_query& query, const report_parameters& parameters) const;
-    report_rows fetched(const template_query& query, QSqlQuery& statement) const;
-    [[noreturn]] void fail(const template_query& query, const QSqlQuery& statement) const;
-    void check_time(const template_query& query) const;
-
-    const template_file& source_;
-    QSqlDatabase database_;
-    std::unique_ptr<query_guard> guard_;
-    /// By the query's name. A section may stand in several places, and every query is tried before.
-    mutable std::map<QString, report_rows> known_;
-};
 
 }  // namespace verdane

@@ -3,6 +3,7 @@
 
 #include "base/run_time_failure.h"
 #include "reports/fill/template_fill.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
 #include "store/DataEnvironment1.h"

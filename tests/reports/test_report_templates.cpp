@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
 #include "reports/template/template_file.h"

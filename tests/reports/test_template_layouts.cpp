@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "reports/fill/template_fill.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
 #include "tests/reports/report_tools.h"

@@ -2,8 +2,7 @@
 
 #include "reports/check/open_elements.h"
 #include "reports/check/page_markup.h"
-#include "reports/check/page_values.h"
-#include "reports/fill/template_fill.h"
+#include "reports/fill/lined_fill.h"
 #include "reports/page/layout_units.h"
 #include "reports/template/page_limits.h"
 

@@ -5,17 +5,12 @@
 
 #include <optional>
 
+#include "reports/check/page_values.h"
+
 namespace verdane {
 
 class report_snapshot;
 struct template_file;
-
-/// Something in a filled page that the layout cannot handle or may not do.
-struct page_fault {
-    /// Of a character in the page, from 0.
-    qsizetype position = 0;
-    QString message;
-};
 
 /// The first element nested too deep, font size that cannot be printed, length or span too large, word too
 /// long to break, or reference to a file; nothing where the page may be laid out. `font_points` is the size

@@ -193,9 +193,4 @@ length_range lengths_in(QStringView text)
     return result;
 }
 
-QString file_words(QStringView what)
-{
-    return u"%1 would load a file, and a template loads none; a drawing is an svg in its body"_s.arg(what);
-}
-
 }  // namespace verdane

@@ -1,8 +1,18 @@
 #pragma once
 
-#include "reports/check/page_check.h"
+#include <QString>
+#include <QStringView>
+
+#include <optional>
 
 namespace verdane {
+
+/// Something in a filled page that the layout cannot handle or may not do.
+struct page_fault {
+    /// Of a character in the page, from 0.
+    qsizetype position = 0;
+    QString message;
+};
 
 // What the texts, styles and attributes of a page may hold. Positions count from the start of the argument.
 
@@ -22,8 +32,5 @@ struct length_range {
     double longest = 0;
 };
 length_range lengths_in(QStringView text);
-
-/// The words for an element or property that would load a file.
-QString file_words(QStringView what);
 
 }  // namespace verdane

@@ -1,3 +1,5 @@
+#include "reports/fill/lined_fill.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>

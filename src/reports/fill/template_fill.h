@@ -2,10 +2,7 @@
 
 #include <QString>
 
-#include <utility>
-#include <vector>
-
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/template/template_file.h"
 
 namespace verdane {
@@ -15,18 +12,6 @@ namespace verdane {
 /// nothing and 0. Fails with `report_template`, at the line of the body, on a query, field or
 /// section that does not exist, and on more characters than `page_limits.h` allows.
 QString fill_body(const template_file& source, const report_snapshot& snapshot);
-
-/// A filled body that knows the line of the template that each of its characters comes from.
-struct lined_text {
-    QString text;
-    /// Where the characters of a line start, in the order of the text; a line may come several times.
-    std::vector<std::pair<qsizetype, int>> starts;
-
-    int line_at(qsizetype position) const;
-};
-
-/// The same as `fill_body`, but for blanks around its sections.
-lined_text fill_body_with_lines(const template_file& source, const report_snapshot& snapshot);
 
 /// The text below a page. Fails with `report_template` on any field other than `page` and `pages`.
 QString fill_footer(const template_file& source, int page, int pages);

@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/template/template_tags.h"
 
 namespace verdane {

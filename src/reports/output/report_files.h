@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QByteArray>
+#include <QChar>
 #include <QImage>
 #include <QString>
+
+#include "reports/query/report_snapshot.h"
 
 namespace verdane {
 
@@ -13,6 +16,11 @@ QByteArray pdf_of(const report_document& document);
 
 /// A picture as a PNG file's bytes.
 QByteArray png_of(const QImage& image);
+
+/// Rows as the bytes of a CSV file: UTF-8 with its mark, lines that end as RFC 4180 says, fields
+/// between quotes where they hold a separator, a quote or a line's end. With `;` as separator,
+/// numbers take a decimal comma.
+QByteArray csv_text(const report_rows& rows, QChar separator);
 
 /// Writes a file whole or not at all. Fails with `report_output`; a file of that name is then as it
 /// was.

@@ -2,11 +2,17 @@
 
 #include <vector>
 
-#include "reports/page/page_cuts.h"
-
 class QTextDocument;
 
 namespace verdane {
+
+/// A strip across a document laid out on one endless page, in its units.
+struct page_strip {
+    double top = 0;
+    double bottom = 0;
+
+    double height() const { return bottom - top; }
+};
 
 /// A strip that stays in one piece: a line of text, or a row of a table.
 struct page_band {

@@ -1,6 +1,5 @@
 #include "reports/page/page_cuts.h"
 
-#include "reports/page/page_bands.h"
 #include "reports/template/page_limits.h"
 
 namespace verdane {

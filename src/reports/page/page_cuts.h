@@ -2,19 +2,12 @@
 
 #include <vector>
 
+#include "reports/page/page_bands.h"
 #include "reports/template/template_file.h"
 
 class QTextDocument;
 
 namespace verdane {
-
-/// A strip across a document laid out on one endless page, in its units.
-struct page_strip {
-    double top = 0;
-    double bottom = 0;
-
-    double height() const { return bottom - top; }
-};
 
 /// What stands on one page: the strip of the document, below the table head that stands again.
 struct page_cut {

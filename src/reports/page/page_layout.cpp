@@ -4,12 +4,31 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QStringList>
+#include <QTextDocument>
+#include <QUrl>
 
-#include "reports/check/page_values.h"
-#include "reports/page/closed_document.h"
 #include "reports/page/layout_units.h"
+#include "reports/template/page_limits.h"
 
 namespace verdane {
+
+/// A document that loads nothing: no picture, background or style sheet, whatever its HTML names.
+class closed_document : public QTextDocument {
+public:
+    /// The names of what its HTML asked for.
+    const QStringList& refused() const { return refused_; }
+
+protected:
+    QVariant loadResource(int, const QUrl& name) override
+    {
+        refused_.append(name.toString());
+        return {};
+    }
+
+private:
+    QStringList refused_;
+};
 
 namespace {
 

@@ -16,4 +16,9 @@ QString unprintable_size(const QString& written)
         .arg(written);
 }
 
+QString file_words(QStringView what)
+{
+    return u"%1 would load a file, and a template loads none; a drawing is an svg in its body"_s.arg(what);
+}
+
 }  // namespace verdane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 
 namespace verdane {
 
@@ -44,5 +45,8 @@ bool is_printable_size(double points);
 
 /// The words for a font size that is not printable, given as it is written.
 QString unprintable_size(const QString& written);
+
+/// The words for an element or property that would load a file.
+QString file_words(QStringView what);
 
 }  // namespace verdane

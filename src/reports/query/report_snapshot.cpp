@@ -1,0 +1,208 @@
+#include "reports/query/report_snapshot.h"
+
+#include <QRegularExpression>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QUuid>
+
+#include <sqlite3.h>
+
+#include "base/run_time_failure.h"
+#include "controls/lock_box.h"
+#include "reports/query/report_tables.h"
+#include "reports/report_store.h"
+#include "reports/template/page_limits.h"
+#include "reports/template/query_text.h"
+#include "store/engine_handle.h"
+#include "store/lock_wait.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A statement's own `with` joins the list of the queries above it.
+QString as_next_of_list(const QString& sql)
+{
+    static const QRegularExpression leading_with(u"^\\s*with\\s+(recursive\\s+)?"_s,
+                                                 QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = leading_with.match(sql);
+    if (!match.hasMatch())
+        return u"\n"_s + sql;
+    return u",\n"_s + sql.sliced(match.capturedEnd());
+}
+
+failure_kind kind_of(const QSqlError& error)
+{
+    switch (error.nativeErrorCode().toInt() & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return failure_kind::store_locked;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return failure_kind::store_damaged;
+    default:
+        return failure_kind::store_unreachable;
+    }
+}
+
+/// Copies the tables; waits for a lock of another program as the program's own connection does.
+QSqlError copy_when_unlocked(QSqlDatabase& database)
+{
+    lock_wait waiting;
+    waiting.set_notice_maker(make_lock_box);
+    waiting.attach(engine_handle(database));
+    const lock_wait::limit limit(waiting, lock_wait::default_time_out_s);
+    const QSqlError error = copy_report_tables(database, report_store());
+    sqlite3_busy_handler(engine_handle(database), nullptr, nullptr);
+    return error;
+}
+
+}  // namespace
+
+qsizetype characters_in(const std::vector<QVariant>& row)
+{
+    qsizetype sum = 0;
+    for (const QVariant& value : row)
+        sum += value.toString().size();
+    return sum;
+}
+
+report_snapshot::report_snapshot(const template_file& source, const continue_check& may_continue)
+    : source_(source)
+{
+    const QString name = u"verdane_reports_"_s + QUuid::createUuid().toString();
+    database_ = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
+    database_.setDatabaseName(u":memory:"_s);
+    database_.setConnectOptions(u"QSQLITE_OPEN_URI"_s);
+    try {
+        open();
+        guard_ = std::make_unique<query_guard>(database_, may_continue);
+    } catch (...) {
+        database_ = QSqlDatabase();
+        QSqlDatabase::removeDatabase(name);
+        throw;
+    }
+}
+
+report_snapshot::~report_snapshot()
+{
+    guard_.reset();
+    const QString name = database_.connectionName();
+    database_.close();
+    database_ = QSqlDatabase();
+    QSqlDatabase::removeDatabase(name);
+}
+
+void report_snapshot::open()
+{
+    QSqlError error;
+    if (report_store().isEmpty() || !database_.open())
+        error = database_.lastError();
+    else if (error = copy_when_unlocked(database_); !error.isValid())
+        return;
+    throw run_time_failure(kind_of(error),
+                           u"%1: %2: %3"_s.arg(source_.file_name, report_store(), error.text()));
+}
+
+QStringList report_snapshot::parameters_of(const template_query& query)
+{
+    static const QRegularExpression parameter(u":([A-Za-z_]\\w*)"_s);
+    QStringList names;
+    auto matches = parameter.globalMatch(without_literals(query.sql));
+    while (matches.hasNext())
+        names.append(matches.next().captured(1));
+    names.removeDuplicates();
+    return names;
+}
+
+QString report_snapshot::statement_for(const template_query& query) const
+{
+    QStringList above;
+    for (const template_query& earlier : source_.queries) {
+        if (earlier.name == query.name)
+            break;
+        if (parameters_of(earlier).isEmpty())
+            above.append(u"%1 as (\n%2\n)"_s.arg(earlier.name, earlier.sql));
+    }
+    if (above.isEmpty())
+        return query.sql;
+    return u"with recursive "_s + above.join(u", "_s) + as_next_of_list(query.sql);
+}
+
+report_rows report_snapshot::rows(const template_query& query, const report_parameters& parameters) const
+{
+    if (!parameters_of(query).isEmpty())
+        return run(query, parameters);
+    const auto known = known_.find(query.name);
+    return known != known_.end() ? known->second : known_.emplace(query.name, run(query, {})).first->second;
+}
+
+report_rows report_snapshot::run(const template_query& query, const report_parameters& parameters) const
+{
+    check_time(query);
+    guard_->take_refusal();
+    QSqlQuery statement(database_);
+    statement.setForwardOnly(true);
+    bool well = statement.prepare(statement_for(query));
+    for (const QString& name : parameters_of(query)) {
+        const auto found = parameters.find(name);
+        statement.bindValue(u":"_s + name, found == parameters.end() ? QVariant() : found->second);
+    }
+    well = well && statement.exec();
+    if (!well || !statement.isSelect())
+        fail(query, statement);
+    return fetched(query, statement);
+}
+
+report_rows report_snapshot::fetched(const template_query& query, QSqlQuery& statement) const
+{
+    report_rows result;
+    const QSqlRecord record = statement.record();
+    for (int column = 0; column < record.count(); ++column)
+        result.columns.append(record.fieldName(column));
+    qsizetype characters = 0;
+    while (statement.next()) {
+        std::vector<QVariant> row;
+        for (int column = 0; column < record.count(); ++column)
+            row.push_back(statement.isNull(column) ? QVariant() : statement.value(column));
+        characters += characters_in(row);
+        result.rows.push_back(std::move(row));
+        if (result.rows.size() > most_rows_of_query)
+            fail_template(source_.at(query.line),
+                          u"query %1: more than %2 rows"_s.arg(query.name).arg(most_rows_of_query));
+        if (characters > most_placed_characters)
+            fail_template(source_.at(query.line),
+                          u"query %1: more than %2 characters"_s.arg(query.name).arg(most_placed_characters));
+    }
+    if (statement.lastError().isValid())
+        fail(query, statement);
+    return result;
+}
+
+void report_snapshot::fail(const template_query& query, const QSqlQuery& statement) const
+{
+    static const QString no_table = u"no such table: "_s;
+    check_time(query);
+    const QSqlError error = statement.lastError();
+    QString refusal = guard_->take_refusal();
+    if (refusal.isEmpty() && error.databaseText().startsWith(no_table))
+        refusal = u"%1 is none of them"_s.arg(error.databaseText().sliced(no_table.size()));
+    if (refusal.isEmpty() && !error.isValid())
+        refusal = u"any other statement is refused"_s;
+    if (!refusal.isEmpty())
+        refusal =
+            u"a query can only select from the report tables and the queries above it; %1"_s.arg(refusal);
+    fail_template(source_.at(query.line),
+                  u"query %1: %2"_s.arg(query.name, refusal.isEmpty() ? error.text() : refusal));
+}
+
+void report_snapshot::check_time(const template_query& query) const
+{
+    if (!guard_->may_continue())
+        throw report_stopped(u"%1:%2: query %3"_s.arg(source_.layout_name).arg(query.line).arg(query.name));
+}
+
+}  // namespace verdane
