@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The literal's backslash parts folder and file. Those before it belong to the folder, whose name may
-/// hold one where it parts nothing.
+/// The last backslash separates folder and file. Earlier ones belong to the name of the folder, which may
+/// contain one on some platforms.
 QString path_of_platform(QString path)
 {
     const qsizetype before_file = path.lastIndexOf(u'\\');

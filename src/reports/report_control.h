@@ -10,15 +10,15 @@ namespace verdane {
 
 class report_preview;
 
-/// A report control of a window (`cr1`, `cr2`, `cr3`): what a report is to show and how. Nothing
-/// resets it; each launch sets what it needs.
+/// A report control of a window (`cr1`, `cr2`, `cr3`): the template of a report and the state of its window.
+/// Nothing resets it; each launch sets what it needs.
 class report_control {
 public:
     static constexpr int maximised = 2;
     static constexpr int run_now = 1;
 
-    /// The window above which reports open. It may be modal; a report stays open beside it and closes
-    /// with it at the latest.
+    /// The window above which reports open. It may be modal. A report can be open at the same time, and
+    /// closes with the window at the latest.
     explicit report_control(QWidget* owner = nullptr) : owner_(owner) {}
 
     /// 0 for a window of its own size, 2 for a maximised one.
@@ -38,9 +38,8 @@ public:
     void set_ReportFileName(const QString& path) { report_file_name_ = path; }
 
     /// With 1: reads the template and the committed rows of the store, opens the preview and returns
-    /// while it is open. A user who does not want to wait for the queries can stop them: a box says so, and
-    /// no preview opens. Fails with `report_template` or as the store does, and with `misuse` for any other
-    /// value.
+    /// while it is open. If the user stops the queries, a message box confirms it and no preview opens. Fails
+    /// with `report_template` or as the store does, and with `misuse` for any other value.
     void Action(int value);
 
     /// The preview that the last `Action` opened, as long as it is open.

@@ -14,9 +14,9 @@ class QPrinter;
 
 namespace verdane {
 
-/// A report with its figures in place, cut into pages. Screen, printer, PDF and picture all paint
-/// these pages; the CSV file holds the figures behind them. Nothing of it depends on a screen, a
-/// window or a printer, and a report keeps what it read when it was made.
+/// A report with its figures, cut into pages. Screen, printer, PDF and picture all paint these pages; the CSV
+/// file has their figures. It depends on no screen, window or printer, and does not change when the store
+/// does.
 class report_document {
 public:
     ~report_document();
@@ -49,8 +49,8 @@ public:
     /// Writes one page as a PNG picture at 200 dots per inch. Fails as `save_pdf`.
     void save_picture(const QString& path, int page) const;
 
-    /// Prints those pages that the printer was asked for and the report has, in the middle of its paper,
-    /// smaller only where the paper is smaller than the page. Fails with `report_output`.
+    /// Prints the pages of the range that is set in the printer, in the middle of its paper, smaller only if
+    /// the paper is smaller than the page. Fails with `report_output`.
     void print(QPrinter& printer) const;
 
 private:
@@ -62,9 +62,9 @@ private:
     std::unique_ptr<contents> contents_;
 };
 
-/// Reads a template, asks the store for its figures and lays the pages out. Fails with
-/// `report_template` (file and line in the details) or as `report_snapshot` does. `may_continue` is asked
-/// while queries run; `report_stopped` is thrown when it says no.
+/// Reads a template, gets its figures from the store and lays the pages out. Fails with `report_template`
+/// (file and line in the details) or as `report_snapshot` does. `may_continue` is called while queries run;
+/// `report_stopped` is thrown when it returns false.
 std::shared_ptr<const report_document> render_report(const QString& template_path,
                                                      const continue_check& may_continue = {});
 

@@ -15,7 +15,7 @@ namespace {
 const QString longest_name =
     u"The Very Long And Honourable Company Of Invented Golf Courses, Variable White"_s;
 
-/// `update TABLE set ... where rowid = ROW`, put together column by column.
+/// `update TABLE set ... where rowid = ROW`, built column by column.
 class row_update {
 public:
     row_update(const QString& table, int row) : table_(table), row_(row) {}

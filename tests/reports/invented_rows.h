@@ -6,17 +6,17 @@
 /// Invented rows in the tables that the reports print.
 namespace verdane::testing {
 
-/// How the figures of a table look.
+/// The kind of figures in a table.
 enum class figures { usual, none, extreme };
 
 /// Both rows of `r_card`: hole h is 300 + 10 h yards long, has the stroke index h and a par of 4 (3 on
-/// holes 3 and 12, 5 on 9 and 18); club k goes 240 - 10 k yards. `name` is the course.
+/// holes 3 and 12, 5 on 9 and 18); club k has 240 - 10 k yards. `name` is the course.
 void fill_card(const QString& store, const QString& name, figures kind = figures::usual);
 
-/// Both tables of the putts. Usual: a hole in k putts from band j counts k * j, row i of `s_put2` holds
-/// i * j in band j; the means are 1.11 to 7.77 and 2.5, the score 2.25 is "MOYEN".
+/// Both tables of the putts. Usual: k * j holes in k putts from band j, and in row i of `s_put2`
+/// i * j putts in band j; the means are 1.11 to 7.77 and 2.5, the score 2.25 is "MOYEN".
 void fill_putts(const QString& store, figures kind = figures::usual);
-/// The heads and words of a report over one round.
+/// The captions and the rating of a report over one round.
 void make_one_round_putts(const QString& store);
 
 /// The 14 rows of `stat_sticks`. Usual: club k (from 1) has 10 k shots, the longest 300 - 10 k, the mean
@@ -28,7 +28,7 @@ void fill_clubs(const QString& store, figures kind = figures::usual);
 /// more in every second one, and 5 for balls.
 void fill_costs(const QString& store, int rounds, figures kind = figures::usual);
 
-/// All of these and the lines of `stats`, as the pages that are kept for comparison show them.
+/// All of these and the lines of `stats`, as on the pages that are stored for comparison.
 void fill_all_reports(const QString& store);
 
 }  // namespace verdane::testing

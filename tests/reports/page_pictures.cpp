@@ -9,7 +9,7 @@ namespace verdane::testing {
 
 namespace {
 
-/// The side of a square, and how far one is from the next, in dots.
+/// The side of a square, and the distance from one to the next, in dots.
 constexpr int side = 6;
 constexpr int stride = 2;
 
@@ -31,8 +31,8 @@ struct shade_range {
     int distance_to(int shade) const { return std::max({0, least - shade, shade - most}); }
 };
 
-/// How far a dot's colour is from all that stands there and beside it in the other picture.
-int strangeness(QRgb dot, const QImage& other, const QPoint& place)
+/// The distance of a dot's colour from those at the same place and beside it in the other picture.
+int dot_difference(QRgb dot, const QImage& other, const QPoint& place)
 {
     if (dot == row_of(other, place.y())[place.x()])
         return 0;
@@ -49,14 +49,14 @@ int strangeness(QRgb dot, const QImage& other, const QPoint& place)
         {red.distance_to(qRed(dot)), green.distance_to(qGreen(dot)), blue.distance_to(qBlue(dot))});
 }
 
-/// The strangeness of each dot of an area, row by row.
-std::vector<int> strange_dots(const QImage& one, const QImage& other, const QRect& area)
+/// The differences of all dots of an area, row by row.
+std::vector<int> dot_differences(const QImage& one, const QImage& other, const QRect& area)
 {
     std::vector<int> dots;
     dots.reserve(static_cast<std::size_t>(area.width() * area.height()));
     for (int y = area.top(); y <= area.bottom(); ++y)
         for (int x = area.left(); x <= area.right(); ++x)
-            dots.push_back(strangeness(row_of(one, y)[x], other, {x, y}));
+            dots.push_back(dot_difference(row_of(one, y)[x], other, {x, y}));
     return dots;
 }
 
@@ -69,9 +69,9 @@ int sum_of_square(const std::vector<int>& dots, int width, int left, int top)
     return sum;
 }
 
-double strangest_square(const QImage& one, const QImage& other, const QRect& area)
+double most_different_square(const QImage& one, const QImage& other, const QRect& area)
 {
-    const std::vector<int> dots = strange_dots(one, other, area);
+    const std::vector<int> dots = dot_differences(one, other, area);
     int most = 0;
     for (int top = 0; top + side <= area.height(); top += stride)
         for (int left = 0; left + side <= area.width(); left += stride)
@@ -89,8 +89,8 @@ QImage picture_of(const report_document& document, int page)
 double largest_difference(const QImage& one, const QImage& other, const QRect& area)
 {
     const QRect inside = area.intersected(one.rect());
-    // What is missing is strange in the one picture, what is new in the other.
-    return std::max(strangest_square(one, other, inside), strangest_square(other, one, inside));
+    // What is missing differs in the one picture, what is new in the other.
+    return std::max(most_different_square(one, other, inside), most_different_square(other, one, inside));
 }
 
 }  // namespace verdane::testing

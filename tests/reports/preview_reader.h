@@ -20,8 +20,8 @@ namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-/// A preview of a few sheets, and whoever reads and presses what is in it. The question for a file is
-/// answered with `answer_`.
+/// The base of a test of the preview: opens one with a few pages, reads its texts and presses its buttons.
+/// The file chooser returns `answer_`.
 class preview_reader : public QObject {
 protected:
     QTemporaryDir folder_;

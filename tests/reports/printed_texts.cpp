@@ -14,7 +14,7 @@ namespace {
 
 constexpr double points_per_mm = 72 / 25.4;
 
-/// Keeps the texts that are painted and draws nothing. One unit of the device is one millimetre.
+/// Stores the texts that are painted and draws nothing. One unit of the device is one millimetre.
 class text_collector : public QPaintEngine {
 public:
     text_collector() : QPaintEngine(QPaintEngine::AllFeatures) {}

@@ -6,20 +6,20 @@
 
 #include <vector>
 
-/// What the tests of reports share.
+/// Helpers for the tests of reports.
 namespace verdane::testing {
 
-/// Writes a template of that head and body and gives its path.
+/// Writes a template with that head and body and returns its path.
 QString template_file_in(const QString& folder, const QString& name, const QString& head,
                          const QString& body);
 
-/// The details of the failure that a template ends with; empty when it makes a report.
+/// The details of the failure of a template; empty if it makes a report.
 QString complaint_about(const QString& path);
 
-/// The folder of the program's own templates as it was built.
+/// The path of one of the program's own templates in the build.
 QString built_template(const QString& name);
 
-/// A PDF file's text as it stands on its pages, one entry a page.
+/// The text of a PDF file, one entry for each page.
 QStringList pdf_pages(const QString& path);
 
 /// A word on a page of a PDF file, with its place and the page's size in millimetres; pages count from 0.
@@ -34,16 +34,16 @@ std::vector<printed_word> pdf_words(const QString& path);
 /// The line that `pdfinfo` has for a word ("Page size").
 QString pdf_fact(const QString& path, const QString& word);
 
-/// A report of the program's own templates as it leaves the program: the text of each page of its PDF
-/// file, with single blanks, and the lines of its CSV file.
+/// The output of one of the program's own templates: the text of each page of its PDF file, with single
+/// blanks, and the lines of its CSV file.
 QStringList printed_pages(const QString& name);
 QStringList csv_lines(const QString& name);
 
-/// A text without any blank: what stands close together on a page comes out of a PDF file without one.
+/// A text without any blank. Texts that are close together on a page have none between them in a PDF file.
 QString without_blanks(QString text);
 
-/// Gives every line of `stats` figures: hole h of line r holds `r + h`, line 9 holds a tenth of it
-/// and line 20 nothing; the totals are sums. The texts of the selection say `rounds` rounds.
+/// Fills every line of `stats`: hole h of line r is `r + h`, of line 9 `(h - 9) / 10`, of line 20 0. The
+/// totals are sums. The texts of the selection are those of `rounds` rounds.
 void fill_stats(const QString& store, int rounds, const QString& course);
 
 }  // namespace verdane::testing

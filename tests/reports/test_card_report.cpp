@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(pages.front().count(u"A & B <c>"_s), 3);
     }
 
-    void thirteen_clubs_stand_on_the_card_and_the_putter_does_not()
+    void the_card_has_thirteen_clubs_and_no_putter()
     {
         const QString page = printed_pages(u"r_card2_en.rpt"_s).front();
         QVERIFY(page.contains(u"1W 230"_s));
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QVERIFY(!page.contains(u"Pu "_s));
     }
 
-    void without_figures_the_card_keeps_quiet()
+    void without_figures_the_card_prints_dots()
     {
         fill_card(store_.path(), u"Links"_s, figures::none);
         const QString page = printed_pages(u"r_card2_en.rpt"_s).front();
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QVERIFY(pages.front().contains(u"294903 589806"_s));
     }
 
-    void the_card_folds_into_equal_parts_between_what_is_printed_data()
+    void the_folds_divide_the_card_into_equal_parts_and_cross_no_text_data()
     {
         QTest::addColumn<figures>("kind");
         QTest::addColumn<QString>("name");
@@ -108,7 +108,7 @@ private Q_SLOTS:
             QTest::newRow(qPrintable(u"longest name, "_s + name)) << figures::extreme << name;
         }
     }
-    void the_card_folds_into_equal_parts_between_what_is_printed()
+    void the_folds_divide_the_card_into_equal_parts_and_cross_no_text()
     {
         QFETCH(figures, kind);
         QFETCH(QString, name);
@@ -124,7 +124,7 @@ private Q_SLOTS:
         }
     }
 
-    void a_name_as_long_as_can_be_is_cut_and_stays_in_its_part()
+    void a_name_of_the_greatest_length_is_cut_and_stays_in_its_part()
     {
         const QString name = u"THE GOLF AND COUNTRY CLUB OF "_s.repeated(7).left(195);
         reader(store_.path()).write(u"update r_card set card_name = '%1'"_s.arg(name));
@@ -157,14 +157,14 @@ private Q_SLOTS:
         reader(store_.path())
             .write(u"update r_card set card_name = '%1', card_tee = 'BLANC'"_s.arg(QString(letters, u'W')));
         const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
-        // Between the names and the tees of the two nines, behind the name on the cover, and the fold.
+        // Between the names and the tees of the two nines, after the name on the cover, and the fold.
         for (const QRect& free : {QRect(172 + 1040, 100, 130, 55), QRect(172 + 1355 + 1000, 100, 130, 55),
                                   QRect(172 + 2602, 1070, 20, 150)})
             QCOMPARE(pixels_below(page, free, 250), 0);
         QCOMPARE(pixels_below(page, QRect(172 + 1290, 100, 50, 55), 100), 0);
     }
 
-    void clubs_whose_names_begin_alike_are_told_apart()
+    void clubs_whose_names_begin_alike_are_distinguishable()
     {
         reader(store_.path())
             .write(u"update sticknames set club_4 = 'Hybride Titleist 3', club_5 = 'Hybride Titleist 4'"_s);
@@ -175,7 +175,7 @@ private Q_SLOTS:
         }
     }
 
-    void a_club_name_without_room_says_that_it_is_cut()
+    void a_club_name_that_is_too_wide_ends_with_an_ellipsis()
     {
         reader(store_.path()).write(u"update sticknames set club_4 = '%1'"_s.arg(QString(50, u'W')));
         QVERIFY(printed_pages(u"r_card2_en.rpt"_s).front().contains(u"WWWW… 200"_s));

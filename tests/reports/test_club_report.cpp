@@ -22,7 +22,7 @@ private Q_SLOTS:
         fill_clubs(store_.path());
     }
 
-    void the_heading_holds_the_selection_data()
+    void the_heading_has_the_selection_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("texts");
@@ -38,7 +38,7 @@ private Q_SLOTS:
                                     u"Number of rounds"_s, u"yards"_s, u"Left Fairway Right"_s,
                                     u"Page 1 of 1"_s};
     }
-    void the_heading_holds_the_selection()
+    void the_heading_has_the_selection()
     {
         QFETCH(QString, name);
         QFETCH(QStringList, texts);
@@ -48,14 +48,14 @@ private Q_SLOTS:
             QVERIFY2(pages.front().contains(text), qPrintable(text + u" in "_s + pages.front()));
     }
 
-    void the_heading_that_is_french_in_both_languages_stands_on_the_french_page_only()
+    void the_heading_of_the_table_is_on_the_french_page_only()
     {
         reader(store_.path()).write(u"update stat_sticks set heading_text = 'TITRE' where rowid = 1"_s);
         QVERIFY(printed_pages(u"r_statSticks.rpt"_s).front().contains(u"TITRE À 2024-10-13 13:40:00"_s));
         QVERIFY(!printed_pages(u"r_statSticks_en.rpt"_s).front().contains(u"TITRE"_s));
     }
 
-    void a_table_that_no_run_has_filled_has_its_title_all_the_same()
+    void a_table_that_no_run_has_filled_is_printed_with_its_title()
     {
         reader(store_.path())
             .write(u"update stat_sticks set heading_text = null, from_date = null, to_date = null"_s);
@@ -63,14 +63,14 @@ private Q_SLOTS:
         QVERIFY(printed_pages(u"r_statSticks_en.rpt"_s).front().contains(u"Club Statistics"_s));
     }
 
-    void a_date_stands_once_in_the_heading()
+    void a_date_is_once_in_the_heading()
     {
         for (const QString& name : {u"r_statSticks.rpt"_s, u"r_statSticks_en.rpt"_s})
             for (const QString& date : {u"2023-05-06"_s, u"2024-10-13"_s})
                 QCOMPARE(printed_pages(name).front().count(date), 1);
     }
 
-    void the_tee_stands_right_behind_the_name_of_its_course_data()
+    void the_tee_follows_the_name_of_its_course_without_padding_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("printed");
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QTest::newRow("not padded") << u"North Berwick, West Links, Gold"_s
                                     << u"North Berwick, West Links, Gold"_s;
     }
-    void the_tee_stands_right_behind_the_name_of_its_course()
+    void the_tee_follows_the_name_of_its_course_without_padding()
     {
         QFETCH(QString, text);
         QFETCH(QString, printed);

@@ -61,7 +61,7 @@ private Q_SLOTS:
             QVERIFY2(pages.front().contains(text), qPrintable(text + u" in "_s + pages.front()));
     }
 
-    void a_year_of_rounds_goes_over_pages_that_each_have_the_head_and_whole_rows()
+    void a_year_of_rounds_takes_several_pages_with_a_head_and_whole_rows_each()
     {
         fill_costs(store_.path(), 366);
         const QStringList pages = printed_pages(u"r_cost3_en.rpt"_s);
@@ -140,7 +140,7 @@ private Q_SLOTS:
         }
     }
 
-    void the_rounds_stand_in_time_order()
+    void the_rounds_are_in_order_of_time()
     {
         fill_costs(store_.path(), 3);
         const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
@@ -152,7 +152,7 @@ private Q_SLOTS:
                 page.indexOf(u"2023-06-03 09:30 60"_s, table));
     }
 
-    void rounds_that_cost_nothing_print_quiet_zeros()
+    void rounds_that_cost_nothing_print_dots()
     {
         fill_costs(store_.path(), 2, figures::none);
         const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
@@ -164,7 +164,7 @@ private Q_SLOTS:
             QVERIFY2(page.contains(row), qPrintable(row + u" in "_s + page));
     }
 
-    void an_amount_that_was_never_entered_is_a_quiet_zero_and_spoils_no_sum()
+    void an_amount_that_was_never_entered_is_a_dot_and_counts_as_0_in_the_sums()
     {
         fill_costs(store_.path(), 2);
         reader(store_.path()).write(u"update r_cost set vt = null, au = null"_s);

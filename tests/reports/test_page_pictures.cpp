@@ -26,7 +26,7 @@ void each_template()
             QTest::newRow(qPrintable(report + twin)) << report + twin;
 }
 
-/// A picture in which what stands at a place was painted over in the colour beside it.
+/// A picture in which a place was painted over in the colour beside it.
 QImage without(const QImage& picture, const QRect& place)
 {
     QImage result = picture;
@@ -35,7 +35,7 @@ QImage without(const QImage& picture, const QRect& place)
     return result;
 }
 
-/// Where the first square of that side is green all over; empty where none is.
+/// The first square of that side that is completely green; empty if there is none.
 QRect green_square(const QImage& picture, int side)
 {
     for (int top = 0; top + side <= picture.height(); ++top)
@@ -73,9 +73,9 @@ private Q_SLOTS:
         QCOMPARE(largest_difference(once, again, once.rect()), 0.0);
     }
 
-    /// The letters of a fine picture made small stand between the dots, those of a small one on them.
-    void letters_a_hair_apart_are_no_difference_data() { each_template(); }
-    void letters_a_hair_apart_are_no_difference()
+    /// The letters of a scaled-down picture are between the dots, those of a small one on them.
+    void letters_a_fraction_of_a_dot_apart_are_no_difference_data() { each_template(); }
+    void letters_a_fraction_of_a_dot_apart_are_no_difference()
     {
         QFETCH(QString, name);
         const auto document = render_report(built_template(name));
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QVERIFY2(shades > 0 && shades < noticed_shades, qPrintable(QString::number(shades)));
     }
 
-    /// But for a mark that stands alone; the dots in place of zeros are meant to be overlooked.
+    /// Except for a mark alone: the dots in place of zeros are meant to be inconspicuous.
     void a_word_that_is_missing_is_noticed_data() { each_template(); }
     void a_word_that_is_missing_is_noticed()
     {

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 class test_page_turning : public preview_reader {
     Q_OBJECT
 
-    /// Nine sheets, as small as that, in a view of which a part, several or all have room.
+    /// Nine pages of that size, in a view into which a part of one, several or all of them fit.
     void open_small(int zoom, int height)
     {
         open(nullptr, 9);
@@ -20,7 +20,7 @@ class test_page_turning : public preview_reader {
         QCOMPARE(window_->pages().zoom(), zoom);
     }
 
-    /// What the label says after each press of a key.
+    /// The text of the label after each press of a key.
     QStringList turned(Qt::Key key, int times)
     {
         QStringList seen;
@@ -48,7 +48,7 @@ private Q_SLOTS:
     void pages_turn_by_button_and_by_key()
     {
         open();
-        // Less high than a page: Page Up first goes back to the top of the last page.
+        // The view is lower than a page: Page Up first scrolls to the top of the last page.
         window_->resize(900, 500);
         QCoreApplication::processEvents();
         click("next_page");
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(label("page_of_pages"), u"Page 2 of 9"_s);
     }
 
-    void a_page_that_was_turned_to_stays_through_a_zoom()
+    void a_page_to_which_the_user_turned_stays_current_after_a_zoom()
     {
         open_small(25, 600);
         turned(Qt::Key_PageDown, 3);

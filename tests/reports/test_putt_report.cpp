@@ -22,7 +22,7 @@ private Q_SLOTS:
         fill_putts(store_.path());
     }
 
-    void the_heading_and_the_bands_stand_in_the_language_data()
+    void the_heading_and_the_bands_are_in_the_language_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("texts");
@@ -49,7 +49,7 @@ private Q_SLOTS:
                                     u"2.25 MOYEN"_s,
                                     u"Page 1 of 1"_s};
     }
-    void the_heading_and_the_bands_stand_in_the_language()
+    void the_heading_and_the_bands_are_in_the_language()
     {
         QFETCH(QString, name);
         QFETCH(QStringList, texts);
@@ -74,33 +74,33 @@ private Q_SLOTS:
         QVERIFY(printed_pages(u"statPuts.rpt"_s).front().contains(u"Moyenne par trou 1,11 2,22 3,33"_s));
     }
 
-    void one_round_has_its_own_heading_and_its_words_on_the_first_line()
+    void one_round_has_its_own_heading_and_its_rating_from_the_first_line()
     {
         make_one_round_putts(store_.path());
         const QString page = printed_pages(u"statPuts_en.rpt"_s).front();
         QVERIFY(page.contains(u"Round : 2024-05-01 Pebble Beach"_s));
         QVERIFY(page.contains(u"Weather conditions : Sunny"_s));
         QVERIFY(page.contains(u"2.25 Average"_s));
-        // What an earlier run left in the other columns says nothing about this round.
+        // The other columns still have the results of an earlier run.
         QVERIFY(!page.contains(u"Zoé, Sept"_s));
         QVERIFY(!page.contains(u"Number of rounds"_s));
     }
 
-    void the_tee_stands_right_behind_the_name_of_its_course_data()
+    void the_tee_follows_the_name_of_its_course_without_padding_data()
     {
         QTest::addColumn<QString>("column");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("printed");
         QTest::newRow("a selection") << u"course_text"_s << u"Pebble Beach        , Gold"_s
                                      << u"Pebble Beach, Gold"_s;
-        QTest::newRow("a name without blanks behind it")
+        QTest::newRow("a name without blanks after it")
             << u"course_text"_s << u"North Berwick, West Links, Gold"_s
             << u"North Berwick, West Links, Gold"_s;
         QTest::newRow("a single round")
             << u"from_date"_s << u"Round : 2024-05-01 Pebble Beach        , Gold"_s
             << u"Round : 2024-05-01 Pebble Beach, Gold"_s;
     }
-    void the_tee_stands_right_behind_the_name_of_its_course()
+    void the_tee_follows_the_name_of_its_course_without_padding()
     {
         QFETCH(QString, column);
         QFETCH(QString, text);
@@ -110,7 +110,7 @@ private Q_SLOTS:
             QVERIFY(printed_pages(name).front().contains(printed));
     }
 
-    void without_putts_the_words_stand_alone_above_quiet_zeros()
+    void without_putts_the_captions_and_dots_are_printed()
     {
         fill_putts(store_.path(), figures::none);
         const QString page = printed_pages(u"statPuts_en.rpt"_s).front();
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(page.contains(u"N/A"_s));
     }
 
-    void the_score_without_words_prints_alone()
+    void a_score_without_a_rating_is_printed_alone()
     {
         reader(store_.path())
             .write(
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QVERIFY(printed_pages(u"statPuts_en.rpt"_s).front().contains(u"3.70"_s));
     }
 
-    void the_score_never_contradicts_its_words_data()
+    void the_score_never_contradicts_its_rating_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("english");
@@ -154,7 +154,7 @@ private Q_SLOTS:
         add(u" 3.7003"_s, u"3.7003"_s);
         add(u" 3.71"_s, u"3.71"_s);
     }
-    void the_score_never_contradicts_its_words()
+    void the_score_never_contradicts_its_rating()
     {
         QFETCH(QString, text);
         QFETCH(QString, english);
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(lines[17], u"Rating,,,,,,,,,MOYEN"_s);
     }
 
-    void the_figures_file_has_french_words_and_marks()
+    void the_figures_file_has_french_words_and_decimal_commas()
     {
         const QStringList lines = csv_lines(u"statPuts.rpt"_s);
         QCOMPARE(lines.size(), 18);
@@ -210,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(lines[17], u"Appréciation;;;;;;;;;MOYEN"_s);
     }
 
-    void the_figures_file_has_the_words_of_one_round_and_of_none()
+    void the_figures_file_has_the_rating_of_one_round_and_of_none()
     {
         make_one_round_putts(store_.path());
         QCOMPARE(csv_lines(u"statPuts_en.rpt"_s).last(), u"Rating,,,,,,,,,Average"_s);

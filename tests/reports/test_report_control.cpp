@@ -96,7 +96,7 @@ private Q_SLOTS:
         delete control.preview();
     }
 
-    void several_reports_stay_open_beside_each_other()
+    void several_reports_can_be_open_at_once()
     {
         report_control control;
         prepare_round_report(control, report_opening::plain());
@@ -113,7 +113,7 @@ private Q_SLOTS:
         delete first;
     }
 
-    void a_report_keeps_its_figures_when_the_table_changes()
+    void an_open_report_does_not_change_with_the_table()
     {
         report_control control;
         prepare_round_report(control, report_opening::plain());
@@ -125,7 +125,7 @@ private Q_SLOTS:
         delete control.preview();
     }
 
-    void a_folder_is_one_path_whatever_its_name_holds_data()
+    void a_folder_is_one_path_whatever_its_name_contains_data()
     {
         QTest::addColumn<QString>("name");
         QTest::newRow("blanks") << u"my own reports"_s;
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QTest::newRow("a backslash") << u"back\\slash"_s;
 #endif
     }
-    void a_folder_is_one_path_whatever_its_name_holds()
+    void a_folder_is_one_path_whatever_its_name_contains()
     {
         QFETCH(QString, name);
         QVERIFY(QDir(folder_.path()).mkdir(name));

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// While it lives, no file of this process grows beyond a number of bytes.
+/// Limits the size of the files that this process writes, as long as it exists.
 class room_on_disk {
 public:
     explicit room_on_disk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN))
@@ -129,13 +129,13 @@ private Q_SLOTS:
         QCOMPARE(picture.dotsPerMeterX(), 7874);
     }
 
-    void what_cannot_be_written_is_a_failure_and_loses_nothing_data()
+    void a_file_that_cannot_be_written_is_a_failure_and_leaves_the_old_one_data()
     {
         QTest::addColumn<QString>("path");
         QTest::newRow("no such folder") << file(u"nowhere/out.pdf"_s);
         QTest::newRow("a folder of that name") << folder_.path();
     }
-    void what_cannot_be_written_is_a_failure_and_loses_nothing()
+    void a_file_that_cannot_be_written_is_a_failure_and_leaves_the_old_one()
     {
         QFETCH(QString, path);
         const auto document = three_pages();
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(QDir(folder_.path()).exists());
     }
 
-    void a_disk_that_takes_no_more_leaves_the_file_as_it_was()
+    void a_full_disk_leaves_the_file_as_it_was()
     {
         const QString path = file(u"kept.pdf"_s);
         const auto document = three_pages();
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(QFileInfo::exists(path) && !QFileInfo(path).isFile());
     }
 
-    void printing_gives_the_pages_that_were_asked_for_data()
+    void printing_prints_the_range_of_pages_set_in_the_printer_data()
     {
         QTest::addColumn<int>("first");
         QTest::addColumn<int>("last");
@@ -175,9 +175,9 @@ private Q_SLOTS:
         QTest::newRow("two") << 2 << 3 << 2;
         QTest::newRow("more than there are") << 3 << 9 << 1;
         QTest::newRow("none that there is") << 4 << 9 << 0;
-        QTest::newRow("far behind the last") << 1000 << 1000 << 0;
+        QTest::newRow("far after the last") << 1000 << 1000 << 0;
     }
-    void printing_gives_the_pages_that_were_asked_for()
+    void printing_prints_the_range_of_pages_set_in_the_printer()
     {
         QFETCH(int, first);
         QFETCH(int, last);
@@ -194,7 +194,7 @@ private Q_SLOTS:
         QVERIFY(pages == 0 || seen.front().contains(u"sheet-%1-"_s.arg(qMax(1, first))));
     }
 
-    void a_page_comes_whole_on_other_paper()
+    void a_page_is_printed_whole_on_other_paper()
     {
         fill_stats(store_.path(), 3, u"X"_s);
         QPrinter printer(QPrinter::HighResolution);

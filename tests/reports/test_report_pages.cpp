@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Rows of three printed lines each, whose first and last line carry the row's number.
+/// Rows of three printed lines each, with the number of the row in the first and the last line.
 QString row_head(const QString& page, int rows)
 {
     return u"page = %1\nmargins = 20 15 25 15\nfont = 10pt DejaVu Sans\n"
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(next, 61);
     }
 
-    void no_word_stands_on_two_pages()
+    void no_text_is_on_two_pages()
     {
         const QString body = u"<svg width=\"100mm\" height=\"250mm\" viewBox=\"0 0 100 250\">"
                              u"<text x=\"0\" y=\"10\">upper-word</text>"
@@ -107,7 +107,7 @@ private Q_SLOTS:
             QCOMPARE(all.count(u"row-%1-"_s.arg(row)), 1);
     }
 
-    void a_head_stands_again_as_it_stood_first_data()
+    void a_repeated_head_looks_like_the_first_one_data()
     {
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("align");
@@ -118,7 +118,7 @@ private Q_SLOTS:
             QTest::addRow("table of boxes, %s", align) << boxed << QString::fromLatin1(align);
         }
     }
-    void a_head_stands_again_as_it_stood_first()
+    void a_repeated_head_looks_like_the_first_one()
     {
         QFETCH(QString, table);
         QFETCH(QString, align);
@@ -139,13 +139,13 @@ private Q_SLOTS:
         QVERIFY2(different < 200, qPrintable(QString::number(different)));
     }
 
-    void the_last_four_rows_stay_together_where_a_page_has_room_for_them_data()
+    void the_last_four_rows_stay_together_if_they_fit_on_a_page_data()
     {
         QTest::addColumn<int>("rows");
         for (int rows = 1; rows <= 40; ++rows)
             QTest::addRow("%d rows", rows) << rows;
     }
-    void the_last_four_rows_stay_together_where_a_page_has_room_for_them()
+    void the_last_four_rows_stay_together_if_they_fit_on_a_page()
     {
         QFETCH(int, rows);
         const QString body = u"<table width=\"180mm\"><thead><tr><th>HEADING</th></tr></thead>\n"
@@ -155,7 +155,7 @@ private Q_SLOTS:
             QVERIFY2(last.contains(u"start-%1-"_s.arg(row)), qPrintable(last));
     }
 
-    void last_rows_too_tall_for_one_page_are_neither_cut_nor_parted_further()
+    void last_rows_too_tall_for_one_page_are_neither_cut_nor_separated_further()
     {
         const QString body =
             u"<table width=\"120mm\"><thead><tr><th>HEADING</th></tr></thead>\n{{#rows}}<tr><td>start-{{n}}-"
@@ -209,13 +209,13 @@ private Q_SLOTS:
             QVERIFY(pages[page].contains(u"start-%1-"_s.arg(page + 1)));
     }
 
-    void few_rows_make_one_page_and_none_make_one_too_data()
+    void few_rows_make_one_page_and_so_do_none_data()
     {
         QTest::addColumn<QString>("body");
         QTest::newRow("few") << row_body;
         QTest::newRow("none") << QString();
     }
-    void few_rows_make_one_page_and_none_make_one_too()
+    void few_rows_make_one_page_and_so_do_none()
     {
         QFETCH(QString, body);
         QCOMPARE(rendered(row_head(u"A4 portrait"_s, 3), body)->page_count(), 1);
@@ -249,13 +249,13 @@ private Q_SLOTS:
         QVERIFY(ink_in(image, QRect(150, 200, 1800, 2520)) > 1000);
     }
 
-    void a_footer_stands_clear_of_what_printers_do_not_reach_data()
+    void a_footer_is_above_the_edge_where_printers_do_not_print_data()
     {
         QTest::addColumn<QString>("bottom");
         for (const char* bottom : {"10", "15", "30"})
             QTest::newRow(bottom) << QString::fromLatin1(bottom);
     }
-    void a_footer_stands_clear_of_what_printers_do_not_reach()
+    void a_footer_is_above_the_edge_where_printers_do_not_print()
     {
         QFETCH(QString, bottom);
         const QString head =

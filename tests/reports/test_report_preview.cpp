@@ -25,7 +25,7 @@ private Q_SLOTS:
     void init() { start_in_english(); }
     void cleanup() { delete window_; }
 
-    void the_window_has_its_title_and_says_where_it_stands()
+    void the_window_has_its_title_and_shows_page_and_zoom()
     {
         open();
         QCOMPARE(window_->objectName(), u"report_preview"_s);
@@ -112,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(label("page_of_pages"), u"Page 1 of 3"_s);
     }
 
-    void what_is_seen_stays_in_the_middle_when_the_zoom_changes()
+    void the_middle_of_the_view_stays_in_the_middle_when_the_zoom_changes()
     {
         open();
         click("next_page");
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QVERIFY(dark > 20);
     }
 
-    void a_report_is_saved_where_the_chooser_says_data()
+    void a_report_is_saved_at_the_path_of_the_file_chooser_data()
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("ending");
@@ -146,7 +146,7 @@ private Q_SLOTS:
         QTest::newRow("figures") << u"save_csv"_s << u"csv"_s << QByteArray("\xEF\xBB\xBFn\r\n1\r\n");
         QTest::newRow("picture") << u"save_picture"_s << u"png"_s << QByteArray("\x89PNG");
     }
-    void a_report_is_saved_where_the_chooser_says()
+    void a_report_is_saved_at_the_path_of_the_file_chooser()
     {
         QFETCH(QString, button);
         QFETCH(QString, ending);
@@ -183,7 +183,7 @@ private Q_SLOTS:
         QVERIFY(QImage(first) != QImage(file(u"second.png"_s)));
     }
 
-    void a_chooser_that_is_left_writes_nothing()
+    void a_file_chooser_that_is_cancelled_writes_nothing()
     {
         open();
         click("save_pdf");
@@ -191,13 +191,13 @@ private Q_SLOTS:
         QVERIFY(box() == nullptr);
     }
 
-    void a_file_that_cannot_be_written_is_told_and_the_preview_goes_on_data()
+    void a_file_that_cannot_be_written_is_shown_and_the_preview_continues_data()
     {
         QTest::addColumn<bool>("french");
         QTest::newRow("French") << true;
         QTest::newRow("English") << false;
     }
-    void a_file_that_cannot_be_written_is_told_and_the_preview_goes_on()
+    void a_file_that_cannot_be_written_is_shown_and_the_preview_continues()
     {
         QFETCH(bool, french);
         is_french = french;
@@ -232,7 +232,7 @@ private Q_SLOTS:
         QVERIFY(pdf_fact(path, u"Page size"_s).startsWith(u"842 x 595"_s));
     }
 
-    void the_question_for_the_printer_knows_how_many_pages_there_are()
+    void the_print_dialog_has_the_number_of_pages()
     {
         dialogs_of_reports().choose_printer = printer_question_;
         QList<int> limits;
@@ -251,7 +251,7 @@ private Q_SLOTS:
         QVERIFY(box() == nullptr);
     }
 
-    void printing_that_fails_is_told_and_one_that_is_left_is_not()
+    void printing_that_fails_is_shown_and_printing_that_is_cancelled_is_not()
     {
         bool goes_on = true;
         dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer, int) {
@@ -275,7 +275,7 @@ private Q_SLOTS:
         QTRY_VERIFY(window_.isNull());
     }
 
-    void it_takes_input_above_a_modal_window()
+    void it_gets_input_above_a_modal_window()
     {
         QDialog owner;
         owner.setWindowModality(Qt::ApplicationModal);

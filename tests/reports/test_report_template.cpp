@@ -88,10 +88,10 @@ private Q_SLOTS:
             u"try.rpt:1: query bad: \"course_text\" is quoted"_s);
         add("double quotes in an order", u"query bad =\n    select 1 as \"Line\"\n    order by \"Line\""_s,
             QString(), u"try.rpt:3: query bad: \"Line\" is quoted"_s);
-        add("double quotes behind a word that ends with as",
+        add("double quotes after a name that ends with as",
             u"query bad = select hole_1 alias \"x\" from stats"_s, QString(),
             u"try.rpt:1: query bad: \"x\" is quoted"_s);
-        add("double quotes behind a remark that ends with as",
+        add("double quotes after a remark that ends with as",
             u"query bad =\n    select 1, -- the same as\n    \"x\" from stats"_s, QString(),
             u"try.rpt:3: query bad: \"x\" is quoted"_s);
         add("writing statement", u"query bad = delete from stats"_s, QString(), u"try.rpt:1: query bad: "_s);
@@ -100,10 +100,10 @@ private Q_SLOTS:
         add("no query", u"page = A4 portrait"_s, QString(), u"try.rpt:1: the head names no query"_s);
         add("unknown setting", u"\npaper = A4"_s, QString(), u"try.rpt:2: unknown setting paper"_s);
         add("no setting", u"A4"_s, QString(), u"try.rpt:1: not a setting"_s);
-        add("going on with nothing", u"  A4"_s, QString(), u"try.rpt:1: nothing to go on with"_s);
+        add("continuation of nothing", u"  A4"_s, QString(), u"try.rpt:1: nothing to go on with"_s);
         add("unknown paper", u"page = B5 portrait"_s, QString(), u"try.rpt:1: page is A4"_s);
         add("three margins", u"margins = 1 2 3"_s, QString(), u"try.rpt:1: margins are four numbers"_s);
-        add("margin in words", u"margins = 1 2 3 wide"_s, QString(),
+        add("margin that is no number", u"margins = 1 2 3 wide"_s, QString(),
             u"try.rpt:1: margins are four numbers"_s);
         add("font without size", u"font = Sans"_s, QString(), u"try.rpt:1: font is a size"_s);
         add("csv of no query", plain_head + u"csv = other\n"_s, QString(), u"try.rpt:5: no query other"_s);
@@ -142,15 +142,15 @@ private Q_SLOTS:
         QCOMPARE(complaint_about(path), u"head.rpt:3: no line --- between the head and the body"_s);
     }
 
-    void what_editors_leave_in_a_file_does_no_harm_data()
+    void line_ends_marks_and_blanks_of_editors_are_ignored_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         const QByteArray plain = "query one = select 1 as n\n---\n{{#one}}{{n}}{{/one}}";
         QTest::newRow("line ends of two characters") << QByteArray(plain).replace("\n", "\r\n");
         QTest::newRow("mark of the encoding") << "\xEF\xBB\xBF" + plain;
-        QTest::newRow("blanks behind the line of dashes") << QByteArray(plain).replace("---", "---  ");
+        QTest::newRow("blanks after the line of dashes") << QByteArray(plain).replace("---", "---  ");
     }
-    void what_editors_leave_in_a_file_does_no_harm()
+    void line_ends_marks_and_blanks_of_editors_are_ignored()
     {
         QFETCH(QByteArray, bytes);
         const QString path = folder_.filePath(u"edited.rpt"_s);
@@ -174,7 +174,7 @@ private Q_SLOTS:
         }
     }
 
-    void values_are_escaped_wherever_they_stand()
+    void values_are_escaped_in_texts_and_attributes()
     {
         const QString head = u"query it = select 'A & B <c> \"d\"' as course"_s;
         QCOMPARE(filled(head, u"{{#it}}<p title=\"{{course}}\">{{course}}</p>{{/it}}"_s),
@@ -202,7 +202,7 @@ private Q_SLOTS:
                  u'[' + printed + u']');
     }
 
-    void a_section_of_a_field_stands_when_there_is_something_other_than_0_data()
+    void a_section_of_a_field_is_shown_if_the_field_is_not_empty_and_not_0_data()
     {
         QTest::addColumn<QString>("value");
         QTest::addColumn<QString>("seen");
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QTest::newRow("number") << u"7"_s << u"yes"_s;
         QTest::newRow("text") << u"'x'"_s << u"yes"_s;
     }
-    void a_section_of_a_field_stands_when_there_is_something_other_than_0()
+    void a_section_of_a_field_is_shown_if_the_field_is_not_empty_and_not_0()
     {
         QFETCH(QString, value);
         QFETCH(QString, seen);
@@ -222,7 +222,7 @@ private Q_SLOTS:
                  seen);
     }
 
-    void a_section_of_a_query_stands_once_a_row_and_its_absence_where_there_is_none()
+    void a_section_of_a_query_is_shown_for_each_row_and_its_inverse_if_there_is_none()
     {
         const QString head = u"query some = select 1 as n union all select 2\n"
                              u"query none = select 1 as n where 0"_s;
@@ -253,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(report_snapshot::parameters_of(query), QStringList{u"d"_s});
     }
 
-    void double_quotes_stand_in_headings_texts_and_remarks()
+    void double_quotes_may_be_in_headings_texts_and_remarks()
     {
         const QString head = u"query it =\n    select 'say \"a\", it''s \"b\"' as \"One\",\n"
                              u"        2 AS\n    \"A \", -- nor \"here\"\n"

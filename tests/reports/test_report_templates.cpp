@@ -46,7 +46,7 @@ QStringList lines_of(const QString& path)
     return QString::fromUtf8(file.readAll()).split(u'\n');
 }
 
-/// Every letter of a page, sorted: which of two neighbours comes first in a PDF file may hang on a hair.
+/// Every letter of a page, sorted: the order of neighbours in a PDF file may depend on fractions of a dot.
 QString letters_of(const QString& page)
 {
     QString letters = without_blanks(page);
@@ -54,7 +54,7 @@ QString letters_of(const QString& page)
     return letters;
 }
 
-/// The words that stand where printers do not print.
+/// The words at the edge of the paper, where printers do not print.
 QStringList out_of_reach(const std::vector<printed_word>& words)
 {
     QStringList found;
@@ -153,8 +153,8 @@ private Q_SLOTS:
         }
     }
 
-    void a_page_has_room_on_both_papers_unshrunk_data() { each_template(); }
-    void a_page_has_room_on_both_papers_unshrunk()
+    void a_page_fits_on_both_papers_in_full_size_data() { each_template(); }
+    void a_page_fits_on_both_papers_in_full_size()
     {
         QFETCH(QString, name);
         const template_file source = read_template(built_template(name + u".rpt"_s));
@@ -197,8 +197,8 @@ private Q_SLOTS:
 
     /// Run with VERDANE_KEEP_PAGES set, this writes the pictures instead; look at them before they are
     /// committed.
-    void each_page_looks_as_it_did_when_it_was_last_looked_at_data() { each_template(); }
-    void each_page_looks_as_it_did_when_it_was_last_looked_at()
+    void each_page_looks_as_it_did_when_it_was_last_checked_data() { each_template(); }
+    void each_page_looks_as_it_did_when_it_was_last_checked()
     {
         QFETCH(QString, name);
         const auto document = render_report(built_template(name + u".rpt"_s));

@@ -52,7 +52,7 @@ private Q_SLOTS:
         fill_stats(store_.path(), 40, u"A & B <c> \"d\""_s);
     }
 
-    void both_languages_stand_on_one_landscape_page_data()
+    void both_languages_fit_on_one_landscape_page_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<int>("rounds");
@@ -61,7 +61,7 @@ private Q_SLOTS:
             QTest::addRow("English, %d", rounds) << english << rounds;
         }
     }
-    void both_languages_stand_on_one_landscape_page()
+    void both_languages_fit_on_one_landscape_page()
     {
         QFETCH(QString, name);
         QFETCH(int, rounds);
@@ -69,12 +69,12 @@ private Q_SLOTS:
         const auto document = render_report(built_template(name));
         QCOMPARE(document->page_count(), 1);
         QCOMPARE(document->page_size_mm().toSize(), QSize(297, 210));
-        // What it prints also has room on Letter paper, 279 by 216.
+        // The printed area also fits on Letter paper, 279 by 216.
         const QMarginsF margins = document->margins_mm();
         QVERIFY(297 - margins.left() - margins.right() <= 279.4 - 2 * 6);
     }
 
-    void the_heading_holds_the_selection_data()
+    void the_heading_has_the_selection_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("texts");
@@ -88,7 +88,7 @@ private Q_SLOTS:
                                  << shared + QStringList{u"Round Statistics"_s, u"14.3"_s,
                                                          u"Number of rounds"_s, u"Page 1 of 1"_s};
     }
-    void the_heading_holds_the_selection()
+    void the_heading_has_the_selection()
     {
         QFETCH(QString, name);
         QFETCH(QStringList, texts);
@@ -97,14 +97,14 @@ private Q_SLOTS:
             QVERIFY2(page.contains(text), qPrintable(text));
     }
 
-    void the_tee_stands_right_behind_the_name_of_its_course()
+    void the_tee_follows_the_name_of_its_course_without_padding()
     {
         fill_stats(store_.path(), 2, u"Pebble Beach        , Gold"_s);
         for (const QString& name : {french, english})
             QVERIFY(page_of(name).contains(u"Pebble Beach, Gold"_s));
     }
 
-    void every_line_stands_behind_its_caption_in_table_order_data()
+    void every_line_follows_its_caption_in_table_order_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("captions");
@@ -177,7 +177,7 @@ private Q_SLOTS:
                                                 u"Double"_qs,
                                                 u"Triple+"_qs};
     }
-    void every_line_stands_behind_its_caption_in_table_order()
+    void every_line_follows_its_caption_in_table_order()
     {
         QFETCH(QString, name);
         QFETCH(QStringList, captions);
@@ -186,7 +186,7 @@ private Q_SLOTS:
         qsizetype at = 0;
         for (int line = 1; line < 34; ++line) {
             const QString& caption = captions[line - 1];
-            // The first hole of line r holds r + 1; lines 9 and 20 are told apart below.
+            // The first hole of line r holds r + 1; lines 9 and 20 are tested below.
             const QString first = line == 9 || line == 20 ? QString() : QString::number(line + 1);
             at = page.indexOf(caption + u' ' + first, at);
             QVERIFY2(at >= 0, qPrintable(caption));
@@ -204,7 +204,7 @@ private Q_SLOTS:
                  u"1 2 3 4 5 6 7 8 9 45 10 11 12 13 14 15 16 17 18 126 171"_s);
     }
 
-    void strokes_against_par_carry_a_sign()
+    void strokes_against_par_have_a_sign()
     {
         QCOMPARE(line_after(page_of(english), u"+/- mean per round"_s),
                  u"−0.8 −0.7 −0.6 −0.5 −0.4 −0.3 −0.2 −0.1 0 −3.6 "

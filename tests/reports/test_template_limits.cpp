@@ -111,7 +111,7 @@ void add_files(const add_row& add)
     add("import", u"<style>\n@import 'page.css';</style>x"_s, u"6: @import"_s + file_words);
     add("style sheet", u"\n<link rel=\"stylesheet\" type=\"text/css\" href=\"page.css\">x"_s,
         u"6: link"_s + file_words);
-    // The page does not name it as the check knows it; the document that loads nothing notices.
+    // The check of the page does not recognise it; the document that loads nothing does.
     add("url in disguise", u"<style>\np { background-image: u\\72l(file:///page.png) }</style><p>x</p>"_s,
         u"5: file:///page.png"_s + file_words);
     add("picture in a drawing", drawing(nine_mm, u"<image href=\"/tmp/p.png\" width=\"9\" height=\"9\"/>"_s),
@@ -191,7 +191,7 @@ private Q_SLOTS:
         QCOMPARE(complaint(settings + u"query one = select 1 as n\n"_s, u"x"_s), words);
     }
 
-    void margins_that_leave_little_room_are_enough()
+    void margins_that_leave_a_small_page_are_accepted()
     {
         const QString small = u"page = A5 landscape\nmargins = 64 95 64 95\nfont = 8pt DejaVu Sans\n"
                               "query one = select 1 as n\n"_s;
@@ -206,7 +206,7 @@ private Q_SLOTS:
                  u"try.rpt:1: the template is longer than 1000000 bytes"_s);
     }
 
-    void what_people_write_is_laid_out_data()
+    void usual_but_incomplete_markup_is_laid_out_data()
     {
         QTest::addColumn<QString>("body");
         QTest::newRow("rows and cells without ends")
@@ -221,7 +221,7 @@ private Q_SLOTS:
         QTest::newRow("markup in a comment") << u"<!-- <img src=\"x.png\"> -->x"_s;
         QTest::newRow("brackets in texts and values") << u"<p title=\"a > b\">1 < 2 > 0</p>"_s;
     }
-    void what_people_write_is_laid_out()
+    void usual_but_incomplete_markup_is_laid_out()
     {
         QFETCH(QString, body);
         const QString path = template_file_in(folder_.path(), u"usual.rpt"_s, head, body);
@@ -229,13 +229,13 @@ private Q_SLOTS:
         QVERIFY(render_report(path)->page_count() > 0);
     }
 
-    void cutting_ends_whatever_the_height_of_the_page_data()
+    void cutting_into_pages_ends_whatever_the_height_of_the_page_data()
     {
         QTest::addColumn<double>("height");
         for (const double height : {0.0, -12.0, 1e-9})
             QTest::addRow("%g", height) << height;
     }
-    void cutting_ends_whatever_the_height_of_the_page()
+    void cutting_into_pages_ends_whatever_the_height_of_the_page()
     {
         QFETCH(double, height);
         QTextDocument document;

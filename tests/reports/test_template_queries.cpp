@@ -30,7 +30,7 @@ namespace {
 const QString endless = u"query all =\n    with recursive c(n) as (select 1 union all select n + 1 from c)\n"
                         "    select count(*) as n from c\n"_s;
 
-/// Copies a store into a file without a log, whose readers an exclusive lock keeps out.
+/// Copies a store into a file without a log, so that an exclusive lock blocks its readers.
 QString copy_without_log(const QString& store, const QString& copy)
 {
     QFile::remove(copy);
@@ -46,7 +46,7 @@ QWidget* open_window(const QString& name)
     return nullptr;
 }
 
-/// Answers what opens while a report runs: presses Stop, or Escape, and then OK, and keeps what it saw.
+/// Presses Stop or Escape in the window that opens while a report runs, then OK, and stores the texts.
 class impatient_user : public QObject {
 public:
     explicit impatient_user(bool with_escape)
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QVERIFY2(too_big.startsWith(u"try.rpt:1: query bad: string or blob too big"_s), qPrintable(too_big));
     }
 
-    void a_query_ends_when_nobody_waits_for_it()
+    void a_query_ends_when_the_report_is_stopped()
     {
         int questions = 0;
         QString where;
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(questions, 50);
     }
 
-    void many_short_queries_end_when_nobody_waits_for_them()
+    void many_short_queries_end_when_the_report_is_stopped()
     {
         int questions = 0;
         const QString path =
@@ -311,7 +311,7 @@ private Q_SLOTS:
         QVERIFY(gave_up);
     }
 
-    void a_window_that_is_open_takes_no_input_while_a_report_runs()
+    void an_open_window_gets_no_input_while_a_report_runs()
     {
         QLineEdit other;
         other.show();

@@ -69,7 +69,7 @@ private Q_SLOTS:
     void no_text_of_high_figures_is_smaller_than_7_pt()
     {
         QFETCH(QString, name);
-        // Amounts of billions have no room on a page; the whole page is then printed smaller.
+        // Amounts of billions do not fit on a page; the whole page is then printed smaller.
         fill_costs(store_.path(), 366);
         reader(store_.path())
             .write(u"update r_cost set fg = 9999, cm = 9999, vt = 9999, ft = 9999, ba = 9999, tee = 9999, "

@@ -64,7 +64,7 @@ private:
         if (tag.is(u"svg"))
             drawing_position_ = tag.position;
         if (!in_drawing && (tag.is(u"img") || tag.is(u"link")))
-            complain({tag.position, file_words(tag.name)});
+            complain({tag.position, file_refusal(tag.name)});
         if (in_drawing && !tag.is(u"svg") && !tag.text.contains(u"font-size") && !tag.text.contains(u"style"))
             return;
         for_each_attribute(tag.text, [&](QStringView name, QStringView value, qsizetype position) {

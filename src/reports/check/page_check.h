@@ -12,7 +12,7 @@ namespace verdane {
 class report_snapshot;
 struct template_file;
 
-/// The first element nested too deep, font size that cannot be printed, length or span too large, word too
+/// The first element nested too deep, font size that cannot be printed, length or span too large, text too
 /// long to break, or reference to a file; nothing where the page may be laid out. `font_points` is the size
 /// of the letters without a style.
 std::optional<page_fault> first_fault(QStringView html, double font_points);

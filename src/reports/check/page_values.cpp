@@ -16,15 +16,15 @@ namespace {
 
 using fault = std::optional<page_fault>;
 
-/// The first match for which `is_wrong` holds, with `words` for it.
-template <typename Test, typename Words>
-fault first_wrong(const QRegularExpression& form, QStringView text, Test is_wrong, Words words)
+/// The first match for which `is_wrong` returns true, with its `message`.
+template <typename Test, typename Message>
+fault first_wrong(const QRegularExpression& form, QStringView text, Test is_wrong, Message message)
 {
     auto matches = form.globalMatch(text.toString());
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         if (is_wrong(match))
-            return page_fault{match.capturedStart(), words(match)};
+            return page_fault{match.capturedStart(), message(match)};
     }
     return {};
 }
@@ -39,7 +39,7 @@ bool is_font_size(const QString& size)
 
 fault fault_of_font_size(QStringView style)
 {
-    // `font` takes several words, of which the one with a unit, or a bare 0, is the size.
+    // `font` has several parts, of which the one with a unit, or a bare 0, is the size.
     static const QRegularExpression form(
         u"\\bfont-size\\s*:\\s*([^;}!]*)"
         u"|\\bfont\\s*:[^;}]*?(?<![\\w.])([-+]?[\\d.]+(?:mm|pt|px)|0(?=[\\s/;}]|$))"_s,
@@ -49,7 +49,7 @@ fault fault_of_font_size(QStringView style)
     };
     return first_wrong(
         form, style, [size](const auto& match) { return !is_font_size(size(match)); },
-        [size](const auto& match) { return unprintable_size(size(match)); });
+        [size](const auto& match) { return size_refusal(size(match)); });
 }
 
 fault fault_of_file(QStringView style)
@@ -57,7 +57,7 @@ fault fault_of_file(QStringView style)
     static const QRegularExpression form(u"(@import|url)\\b"_s, QRegularExpression::CaseInsensitiveOption);
     return first_wrong(
         form, style, [](const auto&) { return true; },
-        [](const auto& match) { return file_words(match.capturedView()); });
+        [](const auto& match) { return file_refusal(match.capturedView()); });
 }
 
 /// A rough size of one unit, in millimetres; of a bare number and of a percentage, a share of a line.
@@ -143,12 +143,12 @@ fault fault_of_html_size(const QString& value)
 fault fault_of_text(QStringView text)
 {
     qsizetype start = 0;
-    for (qsizetype at = 0; at < text.size() && text.size() > most_word_characters; ++at) {
+    for (qsizetype at = 0; at < text.size() && text.size() > most_unbroken_characters; ++at) {
         if (text[at].isSpace())
             start = at + 1;
-        else if (at - start == most_word_characters)
+        else if (at - start == most_unbroken_characters)
             return page_fault{
-                start, u"a word has at most %1 characters without a blank"_s.arg(most_word_characters)};
+                start, u"a word has at most %1 characters without a blank"_s.arg(most_unbroken_characters)};
     }
     return {};
 }
@@ -170,7 +170,7 @@ fault fault_of_attribute(QStringView element, bool in_drawing, QStringView name,
     if (in_drawing)
         return is_one_of(element, {u"svg"}) ? fault_of_length(length_form(), value) : fault();
     if (is_one_of(name, {u"background"}))
-        return page_fault{0, file_words(name)};
+        return page_fault{0, file_refusal(name)};
     if (is_one_of(element, {u"font"}) && is_one_of(name, {u"size"}))
         return fault_of_html_size(value.toString());
     if (const fault found = fault_of_count(name, value))

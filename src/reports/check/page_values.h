@@ -16,7 +16,7 @@ struct page_fault {
 
 // What the texts, styles and attributes of a page may hold. Positions count from the start of the argument.
 
-/// A word that is too long to be broken into lines.
+/// A text without a blank that is too long to be broken into lines.
 std::optional<page_fault> fault_of_text(QStringView text);
 
 /// A font size, length or file in a style sheet or a `style` attribute.

@@ -10,16 +10,17 @@
 
 namespace verdane {
 
-/// A filled body that knows the line of the template that each of its characters comes from.
+/// A filled body with the line of the layout from which each of its characters comes.
 struct lined_text {
     QString text;
-    /// Where the characters of a line start, in the order of the text; a line may come several times.
+    /// The position where the characters of a line start, and the line, in the order of the text. A line that
+    /// a section repeats is there several times.
     std::vector<std::pair<qsizetype, int>> starts;
 
     int line_at(qsizetype position) const;
 };
 
-/// The same as `fill_body`, but for blanks around its sections.
+/// The same as `fill_body`, except for blanks around its sections.
 lined_text fill_body_with_lines(const template_file& source, const report_snapshot& snapshot);
 
 }  // namespace verdane

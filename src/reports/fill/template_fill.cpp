@@ -13,27 +13,27 @@ namespace {
 
 using kainjow::mustache::data;
 
-/// The name under which a field answers whether its section stands. Mustache has one value for a
-/// name; a field that is printed as 0 and yet counts as absent needs two.
-QString truth_of(const QString& name)
+/// The name that decides whether the section of a field is shown. Mustache has one value for a name, but a
+/// field that is printed as 0 while its section is absent needs two.
+QString condition_of(const QString& name)
 {
     return name + u"?"_s;
 }
 
-bool stands(const QVariant& value)
+bool is_shown(const QVariant& value)
 {
     const QString text = printed_value(value);
     return !text.isEmpty() && text != u"0"_s;
 }
 
-/// The body with the sections of fields asking for their truth. From the last to the first, so that
-/// the places of the earlier ones stay right.
-QString with_truths(QString body, const std::vector<template_tag>& tags, const template_scope& scope)
+/// The body with conditions in the sections of fields. Replaces the tags from the last to the first, so that
+/// the positions of the earlier ones stay right.
+QString with_conditions(QString body, const std::vector<template_tag>& tags, const template_scope& scope)
 {
     std::vector<std::pair<template_tag, QString>> changes;
     for (const template_tag& tag : tags) {
         if (tag.kind != u' ' && !scope.is_query(tag.name))
-            changes.emplace_back(tag, u"{{%1%2}}"_s.arg(tag.kind).arg(truth_of(tag.name)));
+            changes.emplace_back(tag, u"{{%1%2}}"_s.arg(tag.kind).arg(condition_of(tag.name)));
     }
     for (auto change = changes.rbegin(); change != changes.rend(); ++change)
         body.replace(change->first.start, change->first.length, change->second);
@@ -43,10 +43,10 @@ QString with_truths(QString body, const std::vector<template_tag>& tags, const t
 void put_field(data& target, const QString& name, const QVariant& value)
 {
     target.set(name.toStdString(), printed_value(value).toStdString());
-    target.set(truth_of(name).toStdString(), data(stands(value)));
+    target.set(condition_of(name).toStdString(), data(is_shown(value)));
 }
 
-/// Lays the rows of every query that the sections ask for before Mustache, from the outside in.
+/// Collects the rows of the queries in all sections for Mustache, from the outer sections to the inner ones.
 class data_builder {
 public:
     data_builder(const template_file& source, const report_snapshot& snapshot)
@@ -110,7 +110,7 @@ private:
         return result;
     }
 
-    /// What a row costs without any text in it, in characters.
+    /// What a row without any text counts, in characters.
     static constexpr qsizetype least_row = 100;
 
     const template_file& source_;
@@ -141,7 +141,7 @@ QString fill_body(const template_file& source, const report_snapshot& snapshot)
     const template_scope scope(source, snapshot);
     scope.check(nodes);
 
-    kainjow::mustache::mustache body(with_truths(source.body, tags, scope).toStdString());
+    kainjow::mustache::mustache body(with_conditions(source.body, tags, scope).toStdString());
     if (!body.is_valid())
         fail_template(source.at(source.body_line), QString::fromStdString(body.error_message()));
     body.set_custom_escape(escaped);

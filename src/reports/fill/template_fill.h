@@ -7,10 +7,10 @@
 
 namespace verdane {
 
-/// The template's body with the store's figures in it, every value escaped. A section of a query
-/// stands once for each row, a section of a field stands when the field holds something other than
-/// nothing and 0. Fails with `report_template`, at the line of the body, on a query, field or
-/// section that does not exist, and on more characters than `page_limits.h` allows.
+/// The body of a template with the figures of the store, every value escaped. The section of a query is
+/// repeated for each row. The section of a field is there if the field is not empty and not 0. Fails with
+/// `report_template`, at the line of the body, on a query, field or section that does not exist, and on more
+/// characters than `page_limits.h` allows.
 QString fill_body(const template_file& source, const report_snapshot& snapshot);
 
 /// The text below a page. Fails with `report_template` on any field other than `page` and `pages`.

@@ -13,8 +13,7 @@ namespace verdane {
 /// What a template may name and where: queries anywhere, the columns of a query inside its section.
 class template_scope {
 public:
-    /// Asks the store for the columns of every query, so a query that does not run fails here even
-    /// where nothing prints it.
+    /// Runs every query for its columns, so that a query that does not run fails even if nothing prints it.
     template_scope(const template_file& source, const report_snapshot& snapshot);
 
     bool is_query(const QString& name) const { return columns_.contains(name); }

@@ -77,13 +77,13 @@ QByteArray csv_text(const report_rows& rows, QChar separator)
 
 void write_report_file(const QString& path, const QByteArray& bytes)
 {
-    // A file is written beside and then takes the name over, which would put a file in the place of a
-    // device or a pipe.
+    // The new file is written under another name and then replaces the old one, which would replace a device
+    // or a pipe by a file.
     const QFileInfo there(path);
     if (there.exists() && !there.isFile())
         throw run_time_failure(failure_kind::report_output, u"%1: not a file"_s.arg(path));
     QSaveFile file(path);
-    // Unbuffered, because the toolkit's buffer takes a write that a full disk cut short for a whole one.
+    // Unbuffered, because the buffer of the toolkit reports a write as complete that a full disk cut short.
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size() &&
         file.commit())
         return;

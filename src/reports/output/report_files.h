@@ -17,8 +17,8 @@ QByteArray pdf_of(const report_document& document);
 /// A picture as a PNG file's bytes.
 QByteArray png_of(const QImage& image);
 
-/// Rows as the bytes of a CSV file: UTF-8 with its mark, lines that end as RFC 4180 says, fields
-/// between quotes where they hold a separator, a quote or a line's end. With `;` as separator,
+/// Rows as the bytes of a CSV file: UTF-8 with a byte order mark, line ends as in RFC 4180, and quotes around
+/// fields that contain a separator, a quote or a line end. With `;` as separator,
 /// numbers take a decimal comma.
 QByteArray csv_text(const report_rows& rows, QChar separator);
 

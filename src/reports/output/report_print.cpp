@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The part of a page that the paper must have room for: all but the outer rim of its margins.
+/// The part of a page that must fit on the paper: all but the outer edge of its margins.
 QSizeF needed_size(const report_document& document)
 {
     const QMarginsF margins = document.margins_mm();
@@ -22,7 +22,7 @@ QSizeF needed_size(const report_document& document)
     return document.page_size_mm() - QSizeF(2 * side, 2 * end);
 }
 
-/// Puts the page's middle on the paper's middle, at its true size where the paper has room for it.
+/// Centres the page on the paper, in its true size if it fits.
 void place_on_paper(QPainter& painter, const QPrinter& printer, const report_document& document)
 {
     const QSizeF paper = printer.pageLayout().fullRect(QPageLayout::Millimeter).size();
@@ -41,9 +41,9 @@ struct page_range {
     int last;
 };
 
-/// Pages from 0; the last is before the first where none of those that were asked for is there. A printer
-/// that was asked for nothing special has 0 for both ends.
-page_range asked_for(const QPrinter& printer, int page_count)
+/// Pages from 0. The last is before the first if the report has none of the range. Without a range, both ends
+/// are 0 in the printer.
+page_range range_of(const QPrinter& printer, int page_count)
 {
     if (printer.fromPage() <= 0)
         return {0, page_count - 1};
@@ -60,7 +60,7 @@ page_range asked_for(const QPrinter& printer, int page_count)
 
 void print_report(const report_document& document, QPrinter& printer)
 {
-    const page_range range = asked_for(printer, document.page_count());
+    const page_range range = range_of(printer, document.page_count());
     if (range.last < range.first)
         return;
     printer.setFullPage(true);

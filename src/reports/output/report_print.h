@@ -6,7 +6,7 @@ namespace verdane {
 
 class report_document;
 
-/// Prints the pages that the printer was asked for. Fails with `report_output`.
+/// Prints the pages of the range that is set in the printer. Fails with `report_output`.
 void print_report(const report_document& document, QPrinter& printer);
 
 }  // namespace verdane

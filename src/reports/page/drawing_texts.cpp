@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What an element hands down to those inside it.
+/// What an element passes to those inside it.
 struct surroundings {
     drawing_text text;
     QPointF origin;
@@ -46,7 +46,7 @@ void move(surroundings& state, const QString& transform)
     state.origin += QPointF(match.captured(1).toDouble(), match.captured(2).toDouble());
 }
 
-/// What stands inside an element with these attributes.
+/// The surroundings inside an element with these attributes.
 surroundings inside(surroundings state, const QXmlStreamAttributes& attributes)
 {
     for (const QXmlStreamAttribute& attribute : attributes) {
@@ -63,7 +63,7 @@ surroundings inside(surroundings state, const QXmlStreamAttributes& attributes)
         else if (name == u"fill")
             state.text.ink = QColor(value);
         else if (name == u"data-room")
-            state.text.room = value.toDouble();
+            state.text.most_width = value.toDouble();
         else if (name == u"data-least")
             state.text.least_size = value.toDouble();
         else if (name == u"transform")
@@ -82,7 +82,7 @@ drawing_text read_text(const surroundings& state, QXmlStreamReader& reader)
     return text;
 }
 
-/// The hinting of a screen would bend the letters' widths.
+/// Without the hinting of a screen, which changes the widths of the letters.
 QFont font_of(const drawing_text& text, double scale)
 {
     QFont font;
@@ -94,7 +94,7 @@ QFont font_of(const drawing_text& text, double scale)
     return font;
 }
 
-/// A text as it is painted: in letters that its room has place for.
+/// A text as it is painted, in a font with which it is not too wide.
 struct set_text {
     QFont font;
     QString words;
@@ -105,20 +105,20 @@ set_text fitted(const drawing_text& text, double scale_x, double scale_y)
 {
     set_text result{font_of(text, scale_y), text.words};
     const auto measure = [&result] { return QFontMetricsF(result.font).horizontalAdvance(result.words); };
-    const double room = text.room * scale_x;
+    const double available = text.most_width * scale_x;
     result.width = measure();
-    if (room <= 0 || result.width <= room)
+    if (available <= 0 || result.width <= available)
         return result;
     const double least = text.least_size > 0 ? qMin(1.0, text.least_size / text.size) : 0.5;
-    const double smaller = result.font.pixelSize() * qMax(least, room / result.width);
+    const double smaller = result.font.pixelSize() * qMax(least, available / result.width);
     result.font.setPixelSize(qMax(1, static_cast<int>(smaller)));
-    result.words = QFontMetricsF(result.font).elidedText(result.words, Qt::ElideRight, room);
+    result.words = QFontMetricsF(result.font).elidedText(result.words, Qt::ElideRight, available);
     result.width = measure();
     return result;
 }
 
-/// Whether letters whose middle is at that height are clipped away. They must not be painted at all: in
-/// a PDF file they would be found without being seen.
+/// Whether letters whose middle is at that height are outside the clip. They must not be painted at all: a
+/// search in a PDF file would find them although they are invisible.
 bool is_clipped_away(const QPainter& painter, double middle)
 {
     const QRectF clip = painter.clipBoundingRect();
@@ -127,11 +127,11 @@ bool is_clipped_away(const QPainter& painter, double middle)
 
 }  // namespace
 
-parted_drawing with_texts_apart(const QString& svg)
+separated_drawing separate_texts(const QString& svg)
 {
-    parted_drawing parted;
+    separated_drawing separated;
     QXmlStreamReader reader(svg);
-    QXmlStreamWriter rest(&parted.svg);
+    QXmlStreamWriter rest(&separated.svg);
     std::vector<surroundings> around{{}};
     around.back().only_moved = svg.contains(u"viewBox="_s);
     while (!reader.atEnd()) {
@@ -139,7 +139,7 @@ parted_drawing with_texts_apart(const QString& svg)
         if (reader.isStartElement()) {
             const surroundings state = inside(around.back(), reader.attributes());
             if (reader.name() == u"text" && state.only_moved) {
-                parted.texts.push_back(read_text(state, reader));
+                separated.texts.push_back(read_text(state, reader));
                 continue;
             }
             around.push_back(state);
@@ -148,7 +148,7 @@ parted_drawing with_texts_apart(const QString& svg)
         }
         rest.writeCurrentToken(reader);
     }
-    return parted;
+    return separated;
 }
 
 void paint_texts(QPainter& painter, const std::vector<drawing_text>& texts, const QRectF& view_box,

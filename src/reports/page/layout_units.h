@@ -4,16 +4,16 @@
 
 namespace verdane {
 
-/// Pages are laid out in tenths of a point, so that no screen, window or printer has a say in where a
-/// line ends: fonts and rules keep fine steps although the layout counts them in whole units.
+/// Pages are laid out in tenths of a point, so that line breaks depend on no screen, window or printer, and
+/// fonts and rules have fine steps although the layout counts in whole units.
 constexpr double units_per_mm = 720.0 / 25.4;
 constexpr double units_per_pt = 10.0;
 
-/// What no printer reaches at the edge of its paper, in millimetres.
+/// The edge of the paper on which printers do not print, in millimetres.
 constexpr double unprintable_rim = 6;
 
-/// Invisibly small, but not nothing: letters that are spaced stay single, and a word with "ffi" is found
-/// in a PDF file as it was written.
+/// Too small to be visible. Spaced letters form no ligatures, so that a search in a PDF file finds a word
+/// with "ffi".
 constexpr double spacing_without_ligatures = 0.02;
 
 /// A length such as "12mm", "8.5pt" or "1px" (1/96 inch) in layout units; a negative number when the

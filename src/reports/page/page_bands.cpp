@@ -11,7 +11,7 @@ namespace verdane {
 
 namespace {
 
-/// The foot of a table with a repeated head: sum, mean and share, and one row that they are of.
+/// The foot of a table with a repeated head: sum, mean and share, and the row above them.
 constexpr int foot_rows = 4;
 
 class band_finder {
@@ -32,15 +32,15 @@ public:
 private:
     void add(page_band band)
     {
-        band.starts_page = break_waits_;
-        break_waits_ = false;
+        band.starts_page = break_is_pending_;
+        break_is_pending_ = false;
         band.kept_bottom = qMax(band.kept_bottom, band.place.bottom);
         bands_.push_back(band);
     }
 
     void break_when(QTextFormat::PageBreakFlags flags, QTextFormat::PageBreakFlag place)
     {
-        break_waits_ = break_waits_ || flags.testFlag(place);
+        break_is_pending_ = break_is_pending_ || flags.testFlag(place);
     }
 
     void add_block(const QTextBlock& block)
@@ -83,8 +83,8 @@ private:
         }
     }
 
-    /// The row behind those that stay together with `first`: the head keeps its first row, and a cell
-    /// that reaches over several rows keeps them.
+    /// The row after those that stay together with `first`: a head stays with its first row, and so do the
+    /// rows of a cell that spans several.
     static int end_of_group(const QTextTable& table, int first, int head_rows)
     {
         int end = first == 0 && head_rows < table.rows() ? head_rows + 1 : first + 1;
@@ -104,8 +104,8 @@ private:
         return {place.top(), place.bottom()};
     }
 
-    /// The toolkit gives a table the place of the words in its first cell, so that a head whose cells
-    /// are aligned at the bottom would lose its upper lines: only its height is right.
+    /// The toolkit returns the position of the text in the first cell as that of the table, which is too low
+    /// if the cell is aligned at its bottom. Only the height is right.
     page_strip table_place(const QTextTable& table) const
     {
         const QTextTableFormat format = table.format();
@@ -124,14 +124,14 @@ private:
                 continue;
             const QTextTableCellFormat format = cell.format().toTableCellFormat();
             top = qMin(top, content_top(cell) - format.topPadding() - format.topBorder());
-            // No cell begins higher than one whose words stand at its top, and nearly all do.
-            if (stands_at_top(cell, format))
+            // No cell begins above one whose text is at its top, and nearly all are such cells.
+            if (is_at_top(cell, format))
                 return top;
         }
         return top;
     }
 
-    static bool stands_at_top(const QTextTableCell& cell, const QTextTableCellFormat& format)
+    static bool is_at_top(const QTextTableCell& cell, const QTextTableCellFormat& format)
     {
         const bool aligned_at_top = format.verticalAlignment() == QTextCharFormat::AlignNormal ||
                                     format.verticalAlignment() == QTextCharFormat::AlignTop;
@@ -152,7 +152,7 @@ private:
 
     const QAbstractTextDocumentLayout& layout_;
     std::vector<page_band> bands_;
-    bool break_waits_ = false;
+    bool break_is_pending_ = false;
 };
 
 }  // namespace

@@ -20,12 +20,12 @@ struct page_band {
     /// The head of the table that the row belongs to; of no height for anything else.
     page_strip head;
     bool starts_page = false;
-    /// How far down what should not be parted from it goes, where a page has room for that much: the
-    /// last rows below a head that is repeated would stand there alone.
+    /// The bottom of what should stay on its page, if a page is tall enough: otherwise the foot of a table
+    /// could be alone below its repeated head.
     double kept_bottom = 0;
 };
 
-/// The bands of a document from top to bottom, without those that hold nothing.
+/// The bands of a document from top to bottom, without empty ones.
 std::vector<page_band> bands_of(const QTextDocument& document);
 
 }  // namespace verdane

@@ -15,7 +15,7 @@ public:
 
     void put(const page_band& band)
     {
-        if (pages_.empty() || band.starts_page || !has_room_for(band.place.bottom) || parts_kept(band))
+        if (pages_.empty() || band.starts_page || !fits(band.place.bottom) || would_separate(band))
             start_page(band);
         page().body.bottom = band.place.bottom;
         split_overlong();
@@ -31,15 +31,15 @@ public:
 private:
     page_cut& page() { return pages_.back(); }
 
-    double room() { return page_height_ - page().repeated_head.height(); }
+    double available_height() { return page_height_ - page().repeated_head.height(); }
 
-    bool has_room_for(double bottom) { return bottom - page().body.top <= room(); }
+    bool fits(double bottom) { return bottom - page().body.top <= available_height(); }
 
-    /// Whether what should stay with a band would go to the next page, although a page can hold both.
-    bool parts_kept(const page_band& band)
+    /// Whether what should stay with a band would be on the next page, although both fit on one page.
+    bool would_separate(const page_band& band)
     {
         const double kept = band.head.height() + band.kept_bottom - band.place.top;
-        return !has_room_for(band.kept_bottom) && kept <= page_height_;
+        return !fits(band.kept_bottom) && kept <= page_height_;
     }
 
     void start_page(const page_band& band)
@@ -48,11 +48,11 @@ private:
         add_page({head_fits ? band.head : page_strip(), {band.place.top, band.place.top}});
     }
 
-    /// What is taller than a page goes on where the page ends.
+    /// What is taller than a page continues on the next one.
     void split_overlong()
     {
-        while (page().body.height() > room()) {
-            const page_strip rest{page().body.top + room(), page().body.bottom};
+        while (page().body.height() > available_height()) {
+            const page_strip rest{page().body.top + available_height(), page().body.bottom};
             page().body.bottom = rest.top;
             add_page({page().repeated_head, rest});
         }

@@ -9,17 +9,17 @@ class QTextDocument;
 
 namespace verdane {
 
-/// What stands on one page: the strip of the document, below the table head that stands again.
+/// The content of one page: the repeated table head, and the strip of the document below it.
 struct page_cut {
     page_strip repeated_head;
     page_strip body;
 };
 
-/// Cuts a document into pages of a height. A cut goes between two lines or two rows of a table, never
-/// through one; rows that a cell joins stay together, and so does a table's head with its first row
-/// and, where the head is repeated, the table's foot with its last row.
-/// Only what is taller than a whole page is cut where the page ends. There is always one page. Fails with
-/// `report_template`, at `place`, on more than `most_pages` pages, whatever the height.
+/// Cuts a document into pages of a height. A cut is between two lines or two rows of a table, never inside
+/// one. Rows that a cell spans stay together, and so does a table's head with its first row and, if the head
+/// is repeated, the table's foot with its last row. Only what is taller than a whole page is cut at the end
+/// of the page. There is always one page. Fails with `report_template`, at `place`, on more than `most_pages`
+/// pages, whatever the height.
 std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height,
                                      const template_place& place);
 

@@ -16,7 +16,7 @@ namespace verdane {
 /// A document that loads nothing: no picture, background or style sheet, whatever its HTML names.
 class closed_document : public QTextDocument {
 public:
-    /// The names of what its HTML asked for.
+    /// The names of the files that its HTML refers to.
     const QStringList& refused() const { return refused_; }
 
 protected:
@@ -34,7 +34,7 @@ namespace {
 
 const QColor footer_grey(0x70, 0x70, 0x70);
 
-/// The hinting of a screen would bend the letters' widths.
+/// Without the hinting of a screen, which changes the widths of the letters.
 QFont report_font(const template_file& source)
 {
     QFont font;
@@ -61,10 +61,10 @@ page_layout::page_layout(const template_file& source, const QString& html)
     // One endless page: the toolkit's own paging cuts rows of several lines in two. Set ahead of the text,
     // which would be laid out twice otherwise.
     document_->setTextWidth(inside_.width());
-    document_->setHtml(with_layout_units(drawings_.taken_out(html, source.layout_name)));
-    // What the check of the page did not see must not pass in silence.
+    document_->setHtml(with_layout_units(drawings_.extracted(html, source.layout_name)));
+    // A reference that the check of the page did not find is a failure, too.
     if (!document_->refused().isEmpty())
-        fail_template(source.at(source.body_line), file_words(document_->refused().constFirst()));
+        fail_template(source.at(source.body_line), file_refusal(document_->refused().constFirst()));
     shrink_ = qMin(1.0, inside_.width() / document_->size().width());
     cuts_ = cut_into_pages(*document_, inside_.height() / shrink_, source.at(source.body_line));
 }

@@ -19,9 +19,9 @@ class closed_document;
 /// A report's HTML laid out on pages. Everything here is in layout units (`layout_units.h`).
 class page_layout {
 public:
-    /// Lays out `html` on the paper and within the margins of `source`. Table heads (`<thead>`) stand
-    /// again on each page. Fails with `report_template` on a drawing that is wrong, on HTML that would load a
-    /// file, and on too many pages.
+    /// Lays out `html` on the paper and within the margins of `source`. Table heads (`<thead>`) are
+    /// repeated on each page. Fails with `report_template` on a drawing that is wrong, on HTML that would
+    /// load a file, and on too many pages.
     page_layout(const template_file& source, const QString& html);
     ~page_layout();
 
@@ -32,7 +32,7 @@ public:
 
 private:
     void paint_strip(QPainter& painter, const page_strip& strip, double top) const;
-    /// In the bottom margin, clear of what printers do not reach.
+    /// In the bottom margin, above the edge where printers do not print.
     void paint_footer(QPainter& painter, const QString& footer) const;
 
     QFont font_;
@@ -40,8 +40,8 @@ private:
     QRectF inside_;
     report_drawings drawings_;
     std::unique_ptr<closed_document> document_;
-    /// Below 1 where the body is wider than the page: letters of another machine may be, and a column
-    /// that is printed smaller is better than one that is cut off.
+    /// Below 1 if the body is wider than the page, as the fonts of another machine may make it: a smaller
+    /// page is better than a column that is cut off.
     double shrink_ = 1;
     std::vector<page_cut> cuts_;
 };

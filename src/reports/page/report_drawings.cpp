@@ -22,7 +22,7 @@ QString attribute_of(const QString& start_tag, const QString& name)
     return form.match(start_tag).captured(1);
 }
 
-/// Without `use`, which repeats its element as often as somebody likes, and without whatever loads a file.
+/// Without `use`, which can repeat its element without limit, and without elements that load a file.
 bool is_drawn(QStringView element)
 {
     static const QStringList elements{
@@ -32,7 +32,7 @@ bool is_drawn(QStringView element)
     return elements.contains(element);
 }
 
-/// What is wrong with a drawing in words, or nothing. The renderer itself only writes to the log, and would
+/// The message for a drawing that is wrong, or nothing. The renderer itself only writes to the log, and would
 /// load the files that a drawing names.
 QString drawing_error(const QString& svg)
 {
@@ -47,12 +47,12 @@ QString drawing_error(const QString& svg)
     return reader.hasError() ? u"a drawing is no SVG: %1"_s.arg(reader.errorString()) : QString();
 }
 
-/// What is wrong with the sizes of the texts on paper, in words, or nothing.
+/// The message for a text whose size on paper is wrong, or nothing.
 QString text_error(const std::vector<drawing_text>& texts, double points_per_unit)
 {
     for (const drawing_text& text : texts)
         if (!is_printable_size(text.size * points_per_unit))
-            return unprintable_size(u"%1 pt"_s.arg(text.size * points_per_unit, 0, 'g', 3));
+            return size_refusal(u"%1 pt"_s.arg(text.size * points_per_unit, 0, 'g', 3));
     return {};
 }
 
@@ -69,7 +69,7 @@ QString report_drawings::marked(const QString& body, int first_line)
     return result;
 }
 
-QString report_drawings::taken_out(const QString& html, const QString& file)
+QString report_drawings::extracted(const QString& html, const QString& file)
 {
     static const QRegularExpression form(u"(<svg[^>]*>).*?</svg>"_s,
                                          QRegularExpression::DotMatchesEverythingOption);
@@ -97,15 +97,15 @@ report_drawings::drawing report_drawings::read(const QString& svg, const templat
     const QString error = drawing_error(svg);
     if (!error.isEmpty())
         fail_template(place, error);
-    parted_drawing parted = with_texts_apart(svg);
-    auto renderer = std::make_unique<QSvgRenderer>(parted.svg.toUtf8());
+    separated_drawing separated = separate_texts(svg);
+    auto renderer = std::make_unique<QSvgRenderer>(separated.svg.toUtf8());
     if (!renderer->isValid() || !(renderer->viewBoxF().height() > 0))
         fail_template(place, u"a drawing is no SVG"_s);
     const QString text_words =
-        text_error(parted.texts, size.height() / renderer->viewBoxF().height() / units_per_pt);
+        text_error(separated.texts, size.height() / renderer->viewBoxF().height() / units_per_pt);
     if (!text_words.isEmpty())
         fail_template(place, text_words);
-    return {std::move(renderer), std::move(parted.texts), size};
+    return {std::move(renderer), std::move(separated.texts), size};
 }
 
 const report_drawings::drawing* report_drawings::drawing_of(const QTextFormat& format) const

@@ -12,20 +12,20 @@
 
 namespace verdane {
 
-/// The SVG drawings of a page. They stand in the HTML as pictures of the size that the drawing gives
-/// in its `width` and `height` (mm, pt or px) and are painted as strokes, fills and letters, never as
-/// dots, so they stay sharp on paper and their texts can be searched.
+/// The SVG drawings of a page. In the HTML each is a picture of the size that the drawing gives in its
+/// `width` and `height` (mm, pt or px). They are painted as strokes, fills and letters, never as dots, so
+/// they are sharp on paper and their texts can be searched.
 class report_drawings : public QObject, public QTextObjectInterface {
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)
 
 public:
-    /// Gives every `<svg` of a template the line it stands on, for `taken_out` to name.
+    /// Adds to every `<svg` of a template the number of its line, which `extracted` needs for its failures.
     static QString marked(const QString& body, int first_line);
 
-    /// The HTML with a picture in the place of each drawing. Fails with `report_template`, at the
-    /// drawing's line, on one that is no SVG or has no size.
-    QString taken_out(const QString& html, const QString& file);
+    /// Stores the drawings of `html` and returns it with a picture in the place of each. Fails with
+    /// `report_template`, at the drawing's line, on one that is no SVG or has no size.
+    QString extracted(const QString& html, const QString& file);
 
     QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
     void drawObject(QPainter* painter, const QRectF& place, QTextDocument* document, int position,

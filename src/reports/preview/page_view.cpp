@@ -64,16 +64,16 @@ void page_view::set_zoom(int percent)
 
 void page_view::zoom_to(int percent)
 {
-    const std::optional<int> asked_page = asked_page_;
+    const std::optional<int> wanted_page = wanted_page_;
     const bool at_top = verticalScrollBar()->value() == 0;
     const double middle = viewport()->height() / 2.0;
     const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->page_count());
     zoom_ = qBound(least_zoom, percent, most_zoom);
     set_up_scroll_bars();
-    // What stands at the top stays there: a view that is not laid out yet has no middle to keep.
-    scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle), asked_page);
-    if (asked_page && !is_seen(*asked_page))
-        turn_to(*asked_page);
+    // A view at the top stays at the top: before the first layout there is no middle.
+    scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle), wanted_page);
+    if (wanted_page && !is_visible_page(*wanted_page))
+        turn_to(*wanted_page);
 }
 
 void page_view::zoom_in()
@@ -101,7 +101,7 @@ void page_view::zoom_to_width()
     zoom_to(static_cast<int>(room / true_width * 100.0));
 }
 
-bool page_view::is_seen(int page) const
+bool page_view::is_visible_page(int page) const
 {
     const int seen = page_rect(page).intersected(viewport()->rect()).height();
     return 2 * seen >= qMin(page_size().height(), viewport()->height());
@@ -116,8 +116,8 @@ int page_view::topmost_page() const
 
 int page_view::current_page() const
 {
-    if (asked_page_ && is_seen(*asked_page_))
-        return *asked_page_;
+    if (wanted_page_ && is_visible_page(*wanted_page_))
+        return *wanted_page_;
     const QScrollBar* bar = verticalScrollBar();
     const bool at_end = bar->maximum() > 0 && bar->value() == bar->maximum();
     const bool has_room = page_size().height() <= viewport()->height();
@@ -145,10 +145,10 @@ void page_view::turn_to(int page)
     scroll_to(page_top(page) - gap, page);
 }
 
-void page_view::scroll_to(int y, std::optional<int> asked_page)
+void page_view::scroll_to(int y, std::optional<int> wanted_page)
 {
     verticalScrollBar()->setValue(y);
-    asked_page_ = asked_page;
+    wanted_page_ = wanted_page;
     viewport()->update();
     if (on_change)
         on_change();
@@ -197,7 +197,7 @@ void page_view::resizeEvent(QResizeEvent* event)
 void page_view::scrollContentsBy(int, int dy)
 {
     if (dy != 0)
-        asked_page_.reset();
+        wanted_page_.reset();
     viewport()->update();
     if (on_change)
         on_change();

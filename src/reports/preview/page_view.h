@@ -19,16 +19,16 @@ public:
     explicit page_view(std::shared_ptr<const report_document> document, QWidget* parent = nullptr);
 
     int zoom() const { return zoom_; }
-    /// Zooms about the middle of what is seen; a value outside the limits is brought inside.
+    /// Zooms about the middle of the visible part. A value outside the limits is limited to them.
     void set_zoom(int percent);
     void zoom_in();
     void zoom_out();
-    /// Fits the pages to the view's width, and keeps them fitted while the view changes its size, until
-    /// another zoom is set.
+    /// Fits the pages to the width of the view, also when the view changes its size, until another zoom is
+    /// set.
     void fit_width();
 
-    /// The page that was turned to, as long as it is what is seen; else the first page of which half is
-    /// in view, or the last one where the view stands at its end. Counted from 0.
+    /// The page to which the user turned, as long as it is visible; otherwise the first page of which half is
+    /// visible, or the last one if the view is scrolled to its end. Counted from 0.
     int current_page() const;
     void previous_page();
     void next_page();
@@ -49,20 +49,20 @@ private:
     QRect page_rect(int page) const;
     int page_top(int page) const;
     void paint_page(QPainter& painter, int page) const;
-    /// Whether a page, or what of it has room, is in view for the larger part.
-    bool is_seen(int page) const;
+    /// Whether the larger part of a page, or of what fits into the view, is visible.
+    bool is_visible_page(int page) const;
     int topmost_page() const;
     void set_up_scroll_bars();
     void turn_to(int page);
-    void scroll_to(int y, std::optional<int> asked_page = {});
+    void scroll_to(int y, std::optional<int> wanted_page = {});
     void zoom_to(int percent);
     void zoom_to_width();
 
     std::shared_ptr<const report_document> document_;
     int zoom_ = 100;
-    /// Several pages may be in view, and the last ones cannot be brought to its top: which of them was
-    /// asked for is known here only.
-    std::optional<int> asked_page_;
+    /// The page to which the user turned. Its position does not give it: several pages may be visible, and
+    /// the last ones cannot be scrolled to the top.
+    std::optional<int> wanted_page_;
     bool fitted_ = false;
 };
 

@@ -9,18 +9,17 @@ class QWidget;
 
 namespace verdane {
 
-/// What a file chooser is asked.
+/// What a file chooser shows.
 struct file_question {
     QString caption;
     /// A file name without a folder.
     QString proposed;
-    /// The kind of file in words, and its ending without the point.
+    /// The description of the kind of file, and its ending without the point.
     QString kind;
     QString ending;
 };
 
-/// The two questions that a preview puts to the user through dialogs of the platform. A test puts its
-/// own answers in their place.
+/// The two dialogs of the platform that a preview opens. A test replaces them by functions.
 struct report_dialogs {
     /// Where to write to; empty when the user changed their mind.
     std::function<QString(QWidget* owner, const file_question&)> choose_file;

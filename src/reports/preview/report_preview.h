@@ -19,11 +19,11 @@ class report_document;
 class window_shortcuts;
 
 /// The window that a report opens in (`report_preview`): its pages, and what can be done with them.
-/// It keeps the language it was made in and goes away when it is closed. Nothing that fails in it
-/// ends the program: a box says what went wrong.
+/// It has the language in which it was made, and is deleted when it is closed. A failure in it does not end
+/// the program but is shown in a message box.
 class report_preview : public QWidget {
 public:
-    /// With an owner it stands above it, and takes input while the owner is modal.
+    /// It is above its owner, if it has one, and gets input although the owner is modal.
     report_preview(std::shared_ptr<const report_document> document, const QString& title, QWidget* owner);
 
     page_view& pages() { return *pages_; }
@@ -47,10 +47,10 @@ private:
     void save_pdf();
     void save_csv();
     void save_picture();
-    /// Asks for a file and writes it with `write`; says so where it cannot be written.
+    /// Opens a file chooser and calls `write` with the path; a failure is shown in a message box.
     void save(const text_pair& caption, const text_pair& kind, const QString& ending,
               const std::function<void(const QString&)>& write);
-    /// Runs `act`; a failure is told in a box.
+    /// Runs `act`; a failure is shown in a message box.
     void guarded(const std::function<void()>& act);
     void show_state();
     QString in_own(const text_pair& text) const { return text.in(is_french_); }

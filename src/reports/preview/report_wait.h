@@ -10,7 +10,7 @@ class QDialog;
 namespace verdane {
 
 /// Lets the user stop a report that takes long: after two seconds a window with a Stop button opens above the
-/// window at work, and the program repaints. Other windows take no input meanwhile.
+/// active window, and the program repaints. Other windows get no input meanwhile.
 class report_wait {
 public:
     /// `title` is the title of the window.
@@ -32,7 +32,7 @@ private:
     bool is_stopped_ = false;
 };
 
-/// The message box after a report was stopped; `where` says which query was running.
+/// Shows the message box after a report was stopped; `where` names the query that was running.
 void show_report_stopped(const QString& title, const QString& where);
 
 }  // namespace verdane

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Steps of the engine between two calls of `may_continue`: less than a millisecond.
-constexpr int steps_between_questions = 20'000;
+constexpr int steps_between_checks = 20'000;
 /// Bytes of one value and of a row. A row of a report table with all its texts fits; the functions of the
 /// engine that search a text in another take time with the square of the length, and nothing ends them early.
 constexpr int most_bytes = 200'000;
@@ -113,7 +113,7 @@ query_guard::query_guard(const QSqlDatabase& database, continue_check may_contin
     : connection_(engine_handle(database)), may_continue_(std::move(may_continue))
 {
     sqlite3_set_authorizer(connection_, authorize, this);
-    sqlite3_progress_handler(connection_, steps_between_questions, interrupt, this);
+    sqlite3_progress_handler(connection_, steps_between_checks, interrupt, this);
     sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, most_bytes);
     limit_trim(connection_);
     memory_limit_before_ = sqlite3_hard_heap_limit64(sqlite3_memory_used() + most_memory);
@@ -161,10 +161,10 @@ int query_guard::interrupt(void* guard)
     return static_cast<query_guard*>(guard)->may_continue() ? 0 : 1;
 }
 
-int query_guard::refuse(const QString& words)
+int query_guard::refuse(const QString& reason)
 {
     if (refusal_.isEmpty())
-        refusal_ = words;
+        refusal_ = reason;
     return SQLITE_DENY;
 }
 

@@ -10,7 +10,7 @@ struct sqlite3;
 
 namespace verdane {
 
-/// Called repeatedly while the queries of a report run; false ends them. An empty one never does.
+/// Called repeatedly while the queries of a report run; false ends them. An empty function never ends them.
 using continue_check = std::function<bool()>;
 
 /// Restricts a connection to what the query of a template may do: select from the report tables. Any other
@@ -24,7 +24,7 @@ public:
     query_guard(const query_guard&) = delete;
     query_guard& operator=(const query_guard&) = delete;
 
-    /// What the statement since the last call was refused for, in words; empty where it was not.
+    /// Why a statement was refused since the last call; empty if none was.
     QString take_refusal();
 
     /// Whether the report continues. After the first false it always is false.
@@ -34,7 +34,7 @@ private:
     static int authorize(void* guard, int action, const char* first, const char* second, const char*,
                          const char*);
     static int interrupt(void* guard);
-    int refuse(const QString& words);
+    int refuse(const QString& reason);
 
     sqlite3* connection_;
     continue_check may_continue_;

@@ -31,7 +31,7 @@ using report_parameters = std::map<QString, QVariant>;
 /// The characters of all values of a row, as they are printed.
 qsizetype characters_in(const std::vector<QVariant>& row);
 
-/// The user stopped a report. It is no failure: nothing was changed, and the program continues.
+/// Thrown when the user stops a report. It is no failure: nothing was changed, and the program continues.
 class report_stopped : public std::exception {
 public:
     /// `where` is "file.rpt:LINE: query NAME".
@@ -59,9 +59,9 @@ public:
     report_snapshot& operator=(const report_snapshot&) = delete;
 
     /// The rows of a query of the template. One that takes nothing from the rows around it runs once, at
-    /// the first call. Fails with `report_template`, at the query's line, with the engine's own words, on a
-    /// statement or table that a template may not use, and on more rows than `page_limits.h` allows. Throws
-    /// `report_stopped` when the user does not want to wait.
+    /// the first call. Fails with `report_template`, at the query's line, with the message of the engine, on
+    /// a statement or table that a template may not use, and on more rows than `page_limits.h` allows. Throws
+    /// `report_stopped` when the user stops the report.
     report_rows rows(const template_query& query, const report_parameters& parameters = {}) const;
 
     /// The names that a query takes from the rows around it (`:line` in its text).
@@ -78,7 +78,7 @@ private:
     const template_file& source_;
     QSqlDatabase database_;
     std::unique_ptr<query_guard> guard_;
-    /// By the query's name. A section may stand in several places, and every query is tried before.
+    /// By the name of the query. Several sections may use one query, and `template_scope` runs each first.
     mutable std::map<QString, report_rows> known_;
 };
 

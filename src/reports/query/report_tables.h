@@ -13,7 +13,8 @@ const QStringList& readable_tables();
 
 /// Copies these tables, as one moment of the committed rows, from the store file into `database`, which is
 /// open, empty and in memory. Rows keep their order, columns their names and types; a text is cut to
-/// `most_text_characters`. A table that the store lacks is left out. Not valid when everything went well.
+/// `most_text_characters`. A table that the store lacks is left out. The result is not valid if everything
+/// succeeded.
 QSqlError copy_report_tables(QSqlDatabase& database, const QString& store);
 
 }  // namespace verdane

@@ -33,9 +33,9 @@ constexpr int most_rows_of_query = 10'000;
 /// Characters in the rows of a query, and in the rows and sections that a body places, before empty sections
 /// are left out.
 constexpr int most_placed_characters = 10'000'000;
-/// Characters of a filled body, its tags included, and of a word without a blank in it.
+/// Characters of a filled body, its tags included, and of a text in it without a blank.
 constexpr int most_page_characters = 1'000'000;
-constexpr int most_word_characters = 10'000;
+constexpr int most_unbroken_characters = 10'000;
 
 /// A text of a report table is cut to this length, with "…" as its last character.
 constexpr int most_text_characters = 1000;
@@ -43,10 +43,10 @@ constexpr int most_text_characters = 1000;
 /// False for sizes outside the limits, for NaN and for infinity.
 bool is_printable_size(double points);
 
-/// The words for a font size that is not printable, given as it is written.
-QString unprintable_size(const QString& written);
+/// The message for a font size that is not printable, given as it is written.
+QString size_refusal(const QString& written);
 
-/// The words for an element or property that would load a file.
-QString file_words(QStringView what);
+/// The message for an element or property that would load a file.
+QString file_refusal(QStringView what);
 
 }  // namespace verdane

@@ -25,12 +25,12 @@ QString without_literals(QString sql)
 
 std::optional<qsizetype> stray_quoted_name(const QString& sql)
 {
-    static const QRegularExpression behind_as(u"\\bas\\s*$"_s, QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression after_as(u"\\bas\\s*$"_s, QRegularExpression::CaseInsensitiveOption);
     auto matches = literal().globalMatch(sql);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         const qsizetype at = match.capturedStart();
-        if (sql[at] == u'"' && !behind_as.match(without_literals(sql.first(at))).hasMatch())
+        if (sql[at] == u'"' && !after_as.match(without_literals(sql.first(at))).hasMatch())
             return at;
     }
     return {};

@@ -26,7 +26,7 @@ struct template_query {
     int line = 1;
 };
 
-/// A report template as it was read, with the words of its language in their places.
+/// A report template as it was read. The tags of its words are replaced by the words.
 struct template_file {
     /// Of the template, without its folder.
     QString file_name;

@@ -53,7 +53,7 @@ void read_font(template_file& target, const head_setting& setting)
         fail_template(setting.place, u"font is a size in pt, then families with commas between them"_s);
     target.font_points = match.captured(1).toDouble();
     if (!is_printable_size(target.font_points))
-        fail_template(setting.place, unprintable_size(match.captured(1) + u"pt"_s));
+        fail_template(setting.place, size_refusal(match.captured(1) + u"pt"_s));
     target.font_families.clear();
     for (const QString& family : match.captured(2).split(u','))
         target.font_families.append(family.trimmed());

@@ -15,14 +15,14 @@ struct template_tag {
     QChar kind{u' '};
     QString name;
     int line = 1;
-    /// Where the tag stands in the text, braces included.
+    /// The position of the tag in the text, braces included.
     qsizetype start = 0;
     qsizetype length = 0;
 };
 
 /// The tags of a text whose first line is line `first_line` of its file, remarks left out. Fails
-/// with `report_template` on a tag that is not closed and on the tags that would let a value through
-/// unescaped or bring in other files.
+/// with `report_template` on a tag that is not closed and on tags that would print a value unescaped or
+/// include another file.
 std::vector<template_tag> find_tags(const QString& text, const template_place& first_line);
 
 /// A section with the sections and fields inside it.
