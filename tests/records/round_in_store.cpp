@@ -8,15 +8,14 @@ const QString round_in_store::key = u"20030614093000"_s;
 
 namespace {
 
-QStringList card()
+diary_course les_pins()
 {
-    QStringList assignments;
-    for (int hole = 1; hole <= 18; ++hole)
-        assignments += u"par_%1 = %2, yards_%1 = %3, hcp_%1 = %4"_s.arg(hole)
-                           .arg(hole == 3 || hole == 5 ? hole : 4)
-                           .arg(300 + hole)
-                           .arg(19 - hole);
-    return assignments;
+    diary_course course = course_of_pars(u"443454444444444444"_s);
+    course.code = u"LES PINS-1"_s;
+    course.name = u"Les Pins"_s;
+    for (int& yards : course.yards)
+        yards += 200;
+    return course;
 }
 
 }  // namespace
@@ -33,25 +32,18 @@ round_in_store::round_in_store()
 
 void round_in_store::add_rows() const
 {
-    const reader outside(folder_.path());
-    outside.write({
-        u"insert into games (date, field, CODEF) values ('20030614093000', 'Les Pins', 'LES PINS-1')"_s,
-        u"insert into games (date, field, CODEF) values ('20030615093000', 'Les Pins', 'LES PINS-1')"_s,
-        u"insert into games2 (date) values ('20030614093000')"_s,
-        u"insert into games2 (date) values ('20030615093000')"_s,
-        u"insert into cost (date) values ('20030614093000')"_s,
-        u"insert into vrd_fields (code, name, rating, slope) values ('AUTRE-0', 'Autre', 0, 0)"_s,
-        u"insert into vrd_fields (code, name, rating, slope) "
-        u"values ('LES PINS-1', 'Les Pins', 70.5, 130)"_s,
-        u"insert into field_info (FIELD_CODE) values ('LES PINS-1')"_s,
-    });
-    outside.write(u"update field_info set %1"_s.arg(card().join(u',')));
+    const diary_course course = les_pins();
+    diary_.book.add(flat_course(u"AUTRE-0"_s, 0, u"0"_s, u"0"_s));
+    diary_.book.add(course);
+    diary_.book.add(blank_round{key, course.code, course.name});
+    diary_.book.add(blank_round{u"20030615093000"_s, course.code, course.name});
 }
 
 void round_in_store::open(Recordset& recordset)
 {
     recordset.Open();
-    if (recordset.name() == u"rsvrd_fields"_s)
+    // The round is played on the second course.
+    if (recordset.name() == u"rsvrd_fields"_s || recordset.name() == u"rsfield_info"_s)
         recordset.MoveNext();
 }
 
@@ -72,7 +64,7 @@ void round_in_store::set_strokes(int hole, int long_shots, int approach, int put
 
 QVariant round_in_store::stored(const QString& table, const QString& column) const
 {
-    return reader(folder_.path()).value(u"select %1 from %2 where date = '%3'"_s.arg(column, table, key));
+    return diary_.store.value(u"select %1 from %2 where date = '%3'"_s.arg(column, table, key));
 }
 
 }  // namespace verdane::testing

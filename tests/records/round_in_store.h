@@ -2,8 +2,7 @@
 
 #include "base/counts.h"
 #include "store/DataEnvironment1.h"
-#include "tests/support/reader.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 namespace verdane::testing {
 
@@ -29,7 +28,7 @@ private:
     void add_rows() const;
     static void open(Recordset& recordset);
 
-    store_folder folder_;
+    stored_diary diary_;
 };
 
 }  // namespace verdane::testing

@@ -10,9 +10,7 @@
 #include "reference/f_cost.h"
 #include "store/DataEnvironment1.h"
 #include "tests/support/hand.h"
-#include "tests/support/reader.h"
-#include "tests/support/recording_frame.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 /// What the tests of the window of costs share.
 namespace verdane::testing {
@@ -24,11 +22,11 @@ inline QString cost_window()
     return in_language(u"f_cost", u"f_cost_en");
 }
 
-/// A store with one row of costs, on which `rscost` stands while a test runs.
-class cost_store {
+/// A store with two rows of costs; the second one is the current row of `rscost`.
+class cost_store : public window_diary {
 public:
     explicit cost_store(bool french = true, const QString& amounts = u"1,2,3,4,5,6,7,8,9,10,11,12"_s)
-        : folder_(french)
+        : window_diary(french)
     {
         store.write({u"insert into cost (date) values ('20230101080000')"_s,
                      u"insert into cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au) values "
@@ -40,13 +38,7 @@ public:
     }
     ~cost_store() { data_environment().rscost.Close(); }
 
-private:
-    store_folder folder_;
-
-public:
-    reader store{folder_.path()};
-    recording_frame frame;
-    /// What the window told at its closings.
+    /// The totals that the window has reported.
     QStringList totals;
 };
 

@@ -6,36 +6,14 @@
 #include "reference/course_keys.h"
 #include "reference/f_c_list.h"
 #include "reference/f_courses.h"
-#include "store/Connection1.h"
-#include "tests/support/diary.h"
 
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-QString sql(const QString& text)
-{
-    return quoted(text);
-}
-
-course_store::course_store(bool french) : folder_(french)
+course_store::course_store(bool french) : window_diary(french)
 {
     course_keys.clear();
-}
-
-void add_course(const reader& store, const stored_course& course)
-{
-    diary_course card = flat_course(course.code, course.par, course.rating, course.slope);
-    card.name = course.name;
-    card.yards.fill(course.yards);
-    diary(store).add(card);
-    store.write(u"update vrd_fields set address_1 = 'Main Street 1', name_tee = " + sql(course.name_tee) +
-                u", tee = " + sql(course.tee) + u" where code = " + sql(course.code));
-}
-
-void course_store::add_round(const QString& key, const QString& code) const
-{
-    store.write(u"insert into games (date, CODEF) values (" + sql(key) + u", " + sql(code) + u')');
 }
 
 void add_three_courses(const course_store& store)

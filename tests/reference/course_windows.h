@@ -6,9 +6,7 @@
 
 #include "tests/support/hand.h"
 #include "tests/support/languages.h"
-#include "tests/support/reader.h"
-#include "tests/support/recording_frame.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 namespace verdane {
 
@@ -19,42 +17,14 @@ class f_courses;
 /// What the tests of the course windows share.
 namespace verdane::testing {
 
-/// A course as it stands in the store; every hole alike.
-struct stored_course {
-    QString code = u"ALPHA-0"_s;
-    QString name = u"Alpha"_s;
-    QString name_tee = u"Alpha-0"_s;
-    QString tee = u"BLANC"_s;
-    QString rating = u"70.5"_s;
-    QString slope = u"121"_s;
-    int yards = 300;
-    int par = 4;
-};
-
-/// A text between quotes for a statement of a test.
-QString sql(const QString& text);
-
-/// Puts a course into a store.
-void add_course(const reader& store, const stored_course& course);
-
-/// A fresh store with the main window's face beside it, for one test.
-class course_store {
+/// A fresh store for the test of a course window.
+class course_store : public window_diary {
 public:
     explicit course_store(bool french = true);
 
-    void add(const stored_course& course) const { add_course(store, course); }
-    void add_round(const QString& key, const QString& code) const;
-
-    /// The text of the one value of a statement, "null" where there is none.
-    QString text(const QString& statement) const { return store.text(statement); }
-    int number(const QString& statement) const { return store.number(statement); }
-
-private:
-    store_folder folder_;
-
-public:
-    reader store{folder_.path()};
-    recording_frame frame;
+    void add(const diary_course& course) const { book.add(course); }
+    /// A round that is played on the course.
+    void add_round(const QString& key, const QString& code) const { book.add(blank_round{key, code}); }
 };
 
 /// The courses "Alpha" from white, "Beta" from blue and "Gamma" from red.

@@ -17,7 +17,7 @@ QString bag_window()
     return in_language(u"f_sticks", u"f_sticks_en");
 }
 
-filled_bag::filled_bag(bool french) : folder(french), book(folder.path())
+filled_bag::filled_bag(bool french) : stored_diary(french)
 {
     book.store.write({u"update sticks set avg_1 = 200.5, avg_14 = 3"_s,
                       u"update sticknames set club_1 = 'D1', club_14 = 'PU'"_s});

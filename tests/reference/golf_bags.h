@@ -5,9 +5,8 @@
 
 #include <functional>
 
-#include "tests/support/diary.h"
 #include "tests/support/hand.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 /// What the tests of the golf bag share.
 namespace verdane::testing {
@@ -16,7 +15,7 @@ namespace verdane::testing {
 QString bag_window();
 
 /// A bag with names and averages, and three rounds of which the first two have shots.
-class filled_bag {
+class filled_bag : public stored_diary {
 public:
     explicit filled_bag(bool french = true);
 
@@ -27,9 +26,6 @@ public:
     double average(int club) const;
     int shots(int club) const;
     QString name(int club) const;
-
-    store_folder folder;
-    diary book;
 };
 
 /// Opens the golf bag and lets the script close it.

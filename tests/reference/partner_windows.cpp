@@ -4,17 +4,10 @@
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 #include "reference/f_partners.h"
-#include "store/Connection1.h"
 
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
-
-void partner_store::add(const QString& name, const QString& surname, int code) const
-{
-    store.write(u"insert into partners (NAME, SURNAME, code) values (" + quoted(name) + u", " +
-                quoted(surname) + u", " + QString::number(code) + u')');
-}
 
 void partner_store::add_three() const
 {

@@ -5,31 +5,24 @@
 #include <functional>
 
 #include "tests/support/hand.h"
-#include "tests/support/reader.h"
-#include "tests/support/recording_frame.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 /// What the tests of the window of partners share.
 namespace verdane::testing {
 
-/// A fresh store with the main window's face beside it, for one test.
-class partner_store {
+/// A fresh store for the test of the window of partners.
+class partner_store : public window_diary {
 public:
-    explicit partner_store(bool french = true) : folder_(french) {}
+    using window_diary::window_diary;
 
-    void add(const QString& name, const QString& surname, int code) const;
-    /// "Alder Ann (1)", "Birch Bob (2)" and "Cedar Cleo (3)".
+    void add(const QString& name, const QString& surname, int code) const
+    {
+        book.add_partner(surname, name, code);
+    }
+    /// "Alder Ann (1)", "Birch Bob (2)" and "Cedar Cleo (3)", in another order.
     void add_three() const;
-    /// "NAME,SURNAME,code" of every row that is stored, in the order of their storing.
+    /// "NAME,SURNAME,code" of every stored row, in the order of insertion.
     QString rows() const;
-
-private:
-    store_folder folder_;
-
-public:
-    QString path() const { return folder_.path(); }
-    reader store{folder_.path()};
-    recording_frame frame;
 };
 
 /// The window's name in the language of the moment.

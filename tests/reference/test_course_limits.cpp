@@ -28,7 +28,7 @@ expected_box failure_box(failure_kind kind)
 void add_courses(const reader& store, int count)
 {
     for (int i = 0; i < count; ++i)
-        add_course(store, {u"C%1-0"_s.arg(i), u"C%1"_s.arg(i), u"C%1-0"_s.arg(i)});
+        diary(store).add(diary_course{u"C%1-0"_s.arg(i), u"C%1"_s.arg(i), u"C%1-0"_s.arg(i)});
 }
 
 void type_length(hand& user, const QString& box, const QString& typed)

@@ -14,7 +14,6 @@
 #include "round/Round_records.h"
 #include "scoring/Verdane_tools.h"
 #include "store/DataEnvironment1.h"
-#include "tests/support/diary.h"
 
 namespace verdane::testing {
 
@@ -22,25 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int holes = 18;
 const QDate day_of_play(2024, 6, 14);
-
-diary_course card_of(const stored_course& course)
-{
-    diary_course card{course.code, course.name, course.rating, course.slope};
-    for (int i = 0; i < holes; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        card.pars.at(at) = course.pars.at(i % course.pars.size()).digitValue();
-        card.yards.at(at) = 101 + i;
-        card.stroke_index.at(at) = holes - i;
-    }
-    return card;
-}
-
-QString shown(const QVariant& value)
-{
-    return value.isNull() ? u"null"_s : value.toString();
-}
 
 /// Opens a stored round as the round list does, with two recordsets open.
 void open_from_list(const QString& key)
@@ -57,37 +38,13 @@ void in_round(const std::function<void()>& program, const std::function<void(han
 
 }  // namespace
 
-round_store::round_store(bool french) : folder_(french) {}
-
-void round_store::add(const stored_course& course) const
-{
-    diary(store).add(card_of(course));
-}
-
 void round_store::add_two_courses() const
 {
-    add({});
-    add({u"BETA-6"_s, u"Beta"_s, u"68"_s, u"113"_s, u"5"_s});
-}
-
-void round_store::add_partner(const QString& name, const QString& surname, int code) const
-{
-    const auto value = [](const QString& text) { return text.isNull() ? u"null"_s : quoted(text); };
-    store.write(
-        u"insert into partners (NAME, SURNAME, code) values (%1, %2, %3)"_s.arg(value(name), value(surname))
-            .arg(code));
-}
-
-void round_store::add_round(const QString& key, const QString& code) const
-{
-    store.write({u"insert into games (date, CODEF) values (" + quoted(key) + u", " + quoted(code) + u')',
-                 u"insert into games2 (date, FC) values (" + quoted(key) + u", " + quoted(code) + u')',
-                 u"insert into cost (date) values (" + quoted(key) + u')'});
-}
-
-QString round_store::text(const QString& statement) const
-{
-    return shown(store.value(statement));
+    add(course_of_pars(u"4"_s));
+    diary_course beta = course_of_pars(u"5"_s, u"68"_s, u"113"_s);
+    beta.code = u"BETA-6"_s;
+    beta.name = u"Beta"_s;
+    add(beta);
 }
 
 QString round_store::of_round(const QString& table, const QString& column) const
@@ -98,8 +55,10 @@ QString round_store::of_round(const QString& table, const QString& column) const
 QString round_store::at(const QString& table, int ordinal) const
 {
     const auto rows = store.rows(QString(u"select * from " + table));
-    return rows.size() == 1 ? shown(rows.front().at(static_cast<std::size_t>(ordinal)))
-                            : u"%1 rows"_s.arg(rows.size());
+    if (rows.size() != 1)
+        return u"%1 rows"_s.arg(rows.size());
+    const QVariant& value = rows.front().at(static_cast<std::size_t>(ordinal));
+    return value.isNull() ? u"null"_s : value.toString();
 }
 
 QString round_window()

@@ -6,55 +6,37 @@
 #include <functional>
 
 #include "tests/support/hand.h"
-#include "tests/support/reader.h"
-#include "tests/support/recording_frame.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 namespace verdane {
-
-using namespace Qt::StringLiterals;
 class f_new_round;
-}  // namespace verdane
+}
 
 /// Support for the tests of the round window.
 namespace verdane::testing {
 
-/// A stored course. The digits of `pars` are the pars of the holes and are repeated; hole h is 100 + h yards
-/// long and has the handicap index 19 - h.
-struct stored_course {
-    QString code = u"ALPHA-0"_s;
-    QString name = u"Alpha"_s;
-    QString rating = u"70.5"_s;
-    QString slope = u"130"_s;
-    QString pars = u"4"_s;
-};
-
-/// A new store and a recording main frame, for one test.
-class round_store {
+/// A fresh store for the test of the round window.
+class round_store : public window_diary {
 public:
-    explicit round_store(bool french = true);
+    using window_diary::window_diary;
 
-    void add(const stored_course& course) const;
+    void add(const diary_course& course) const { book.add(course); }
     /// Adds "Alpha" with the white tee and par 4 everywhere, and "Beta" with the green tee and par 5.
     void add_two_courses() const;
-    void add_partner(const QString& name, const QString& surname, int code) const;
+    void add_partner(const QString& name, const QString& surname, int code) const
+    {
+        book.add_partner(surname, name, code);
+    }
     /// Adds a round whose three rows contain its key and course only.
-    void add_round(const QString& key, const QString& code = u"ALPHA-0"_s) const;
+    void add_round(const QString& key, const QString& code = u"ALPHA-0"_s) const
+    {
+        book.add(blank_round{key, code});
+    }
 
-    /// The text of the one value of a statement; "null" if it is Null.
-    QString text(const QString& statement) const;
-    int number(const QString& statement) const { return store.number(statement); }
     /// One column of the only round of a table.
     QString of_round(const QString& table, const QString& column) const;
     /// The value at an ordinal of the only row of a table.
     QString at(const QString& table, int ordinal) const;
-
-private:
-    store_folder folder_;
-
-public:
-    reader store{folder_.path()};
-    recording_frame frame;
 };
 
 /// The round window's name in the current language.

@@ -186,7 +186,7 @@ private Q_SLOTS:
     void the_number_of_shots_does_not_include_penalties()
     {
         const round_store store;
-        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, u"5"_s});
+        store.add(course_of_pars(u"5"_s, u"70"_s, u"113"_s));
         in_keyed_round([](hand& user) {
             user.type(u"412"_s);
             same_text(user, u"text_vrd_3"_s, u"7"_s);

@@ -134,7 +134,7 @@ private Q_SLOTS:
         QFETCH(QString, water);
         QFETCH(QString, cells);
         const round_store store;
-        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, par});
+        store.add(course_of_pars(par, u"70"_s, u"113"_s));
         in_keyed_round([&](hand& user) {
             user.type(strokes);
             user.click(u"text_s_8"_s);
@@ -182,7 +182,7 @@ private Q_SLOTS:
     void a_round_under_the_rating_adds_to_the_net()
     {
         const round_store store;
-        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, u"4"_s});
+        store.add(course_of_pars(u"4"_s, u"70"_s, u"113"_s));
         add_round_of(store, 3);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
             user.click_tab(u"TabStrip1"_s, 18);
@@ -195,7 +195,7 @@ private Q_SLOTS:
     void without_a_slope_the_differential_is_0()
     {
         const round_store store;
-        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"0"_s, u"4"_s});
+        store.add(course_of_pars(u"4"_s, u"70"_s, u"0"_s));
         add_round_of(store, 5);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
             user.click_tab(u"TabStrip1"_s, 18);
@@ -207,7 +207,7 @@ private Q_SLOTS:
     void on_a_course_of_par_0_every_stroke_is_over_par()
     {
         const round_store store;
-        store.add({u"ALPHA-0"_s, u"Alpha"_s, u"70"_s, u"113"_s, u"0"_s});
+        store.add(course_of_pars(u"0"_s, u"70"_s, u"113"_s));
         add_round_of(store, 5);
         in_stored_round(key_of_keyed_round(), [](hand& user) {
             user.same(user.text(u"text_38"_s), u"0"_s, u"par"_s);

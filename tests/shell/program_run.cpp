@@ -6,6 +6,7 @@
 #include "shell/start_up.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
+#include "tests/support/diary.h"
 
 namespace verdane::testing {
 
@@ -33,13 +34,14 @@ void close_the_store()
     data_environment().connection.Close();
 }
 
-QString columns(const QString& name, const QString& value)
-{
-    QStringList pieces;
-    for (int hole = 1; hole <= 18; ++hole)
-        pieces << name.arg(hole) + u" = " + value;
-    return pieces.join(u", ");
-}
+const diary_course links{.code = u"LINKS-0"_s,
+                         .name = u"Links"_s,
+                         .name_tee = u"Links-0"_s,
+                         .tee = u"WHITE"_s,
+                         .rating = u"71.2"_s,
+                         .slope = u"128"_s,
+                         .yards = all_holes(380),
+                         .address_1 = {}};
 
 }  // namespace
 
@@ -70,19 +72,12 @@ int program_run::play_through(const std::function<void(hand&)>& script)
 
 QStringList one_course()
 {
-    return {u"insert into vrd_fields (code, name, name_tee, rating, slope, tee) values "
-            u"('LINKS-0', 'Links', 'Links-0', '71.2', '128', 'WHITE')"_s,
-            u"insert into field_info (FIELD_CODE) values ('LINKS-0')"_s,
-            u"update field_info set " + columns(u"par_%1"_s, u"4"_s) + u", " +
-                columns(u"yards_%1"_s, u"380"_s)};
+    return statements_of(links);
 }
 
 QStringList one_round(const QString& key)
 {
-    return {u"insert into games (date, field, CODEF) values ('%1', 'Links', 'LINKS-0')"_s.arg(key),
-            u"insert into games2 (date, conditionM, PARTNERS, temperature, FC) values ('%1', 0, '', "
-            u"20, 'LINKS-0')"_s.arg(key),
-            u"insert into cost (date) values ('%1')"_s.arg(key)};
+    return statements_of(blank_round{key, links.code, links.name, round_conditions{}});
 }
 
 QStringList rounds(int count)

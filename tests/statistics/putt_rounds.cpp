@@ -1,24 +1,11 @@
 #include "tests/statistics/putt_rounds.h"
 
-#include "reports/report_store.h"
 #include "statistics/putt_statistics.h"
-#include "tests/statistics/report_rows.h"
 #include "tests/statistics/selection_windows.h"
 
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
-
-stored_rounds::stored_rounds(int days, bool french) : folder(french), book(folder.path())
-{
-    set_report_store(folder.path());
-    const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
-    book.add(course);
-    std::vector<diary_round> rounds;
-    for (int day = 1; day <= days; ++day)
-        rounds.push_back(diary_round{key_of_day(day), course, holes_over(course.pars, 0), day % 2, {}});
-    book.add(rounds);
-}
 
 void stored_rounds::putts(int day, int hole, const QList<int>& lengths) const
 {

@@ -3,17 +3,16 @@
 #include <QStringList>
 
 #include "statistics/selection_arguments.h"
-#include "tests/support/diary.h"
+#include "tests/statistics/report_rows.h"
 #include "tests/support/hand.h"
-#include "tests/support/store_folder.h"
 
 /// What the tests of the putt statistics share.
 namespace verdane::testing {
 
-/// A store with rounds on the first days of a year, without putt lengths; on odd days the weather is 1.
-class stored_rounds {
+/// Rounds on the first days of the year, without putt lengths.
+class stored_rounds : public level_rounds {
 public:
-    explicit stored_rounds(int days, bool french = true);
+    using level_rounds::level_rounds;
 
     /// Lengths of a hole's putts, from the first on.
     void putts(int day, int hole, const QList<int>& lengths) const;
@@ -25,9 +24,6 @@ public:
     QList<QStringList> grids() const;
     /// The number of rounds in the head.
     int rounds_counted() const { return by_first(1).at(26).toInt(); }
-
-    store_folder folder;
-    diary book;
 };
 
 /// The seven counts of a row.

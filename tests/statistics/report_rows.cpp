@@ -1,8 +1,18 @@
 #include "tests/statistics/report_rows.h"
 
+#include "reports/report_store.h"
+
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
+
+level_rounds::level_rounds(int days, bool french) : stored_diary(french)
+{
+    set_report_store(path());
+    const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
+    book.add(course);
+    book.add_days(course, days);
+}
 
 QList<QStringList> table_rows(const reader& store, const QString& table)
 {

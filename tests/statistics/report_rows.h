@@ -5,12 +5,19 @@
 #include <QStringList>
 
 #include "statistics/selection_arguments.h"
-#include "tests/support/reader.h"
+#include "tests/support/stored_diary.h"
 
 /// What the tests of the statistics put into a store beside the rounds, and what they read back.
 namespace verdane::testing {
 
-/// Every row of a table as texts, by ordinal, in the order in which the rows were laid down.
+/// A fresh store, from which the reports read, too, with level-par rounds on the first days of 2003. The
+/// weather is 1 on odd days.
+class level_rounds : public stored_diary {
+public:
+    explicit level_rounds(int days, bool french = true);
+};
+
+/// Every row of a table as texts, by ordinal, in the order of insertion.
 QList<QStringList> table_rows(const reader& store, const QString& table);
 
 /// Putt lengths of a hole of a stored round, from the first on.

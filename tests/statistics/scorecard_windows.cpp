@@ -17,9 +17,9 @@ diary_course pebble()
     return course_of(u"Pebble Beach"_s, u"Gold"_s);
 }
 
-stocked_store::stocked_store(bool french) : folder_(french), book(folder_.path())
+stocked_store::stocked_store(bool french) : stored_diary(french)
 {
-    set_report_store(folder_.path());
+    set_report_store(path());
     book.add(pebble());
     book.add(course_of(u"Carnoustie Championship"_s, u"White"_s));
     book.add(course_of(u"Carnoustie Championship"_s, u"Black"_s));

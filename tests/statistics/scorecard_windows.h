@@ -6,9 +6,8 @@
 #include <functional>
 #include <vector>
 
-#include "tests/support/diary.h"
 #include "tests/support/hand.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 /// What the tests of the scorecard share.
 namespace verdane::testing {
@@ -21,18 +20,12 @@ inline const QString preview = u"report_preview"_s;
 diary_course pebble();
 
 /// A store with a course from two tees and another one, and averages of the clubs.
-class stocked_store {
+class stocked_store : public stored_diary {
 public:
     explicit stocked_store(bool french = true);
 
     /// A row of `r_card`, counted from 1, by ordinal.
     std::vector<QVariant> card(int row) const;
-
-private:
-    store_folder folder_;
-
-public:
-    const diary book;
 };
 
 /// "f_carte", or its twin in the language of this moment.

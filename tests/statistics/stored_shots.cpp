@@ -2,9 +2,7 @@
 
 #include <QTest>
 
-#include "reports/report_store.h"
 #include "statistics/club_statistics.h"
-#include "tests/statistics/report_rows.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/support/hand.h"
 
@@ -12,14 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace verdane::testing {
 
-stored_shots::stored_shots(int days, bool french) : folder(french), book(folder.path())
+stored_shots::stored_shots(int days, bool french) : level_rounds(days, french)
 {
-    set_report_store(folder.path());
-    const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
-    book.add(course);
-    for (int day = 1; day <= days; ++day)
-        book.add(diary_round{key_of_day(day), course, holes_over(course.pars, 0), day % 2,
-                             day == 1 ? u"112-"_s : QString()});
+    store.write(u"update games2 set PARTNERS = '112-' where date = '"_s + key_of_day(1) + u'\'');
 }
 
 void stored_shots::shot(int day, int club, const QString& values) const

@@ -4,17 +4,15 @@
 #include <QStringList>
 
 #include "statistics/selection_arguments.h"
-#include "tests/support/diary.h"
-#include "tests/support/store_folder.h"
+#include "tests/statistics/report_rows.h"
 
 /// What the tests of the club statistics share.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-/// A store with rounds on the first days of a year, without shots; on odd days the weather is 1, and the
-/// first round has a partner.
-class stored_shots {
+/// Rounds on the first days of the year, without shots. The first round has a partner.
+class stored_shots : public level_rounds {
 public:
     explicit stored_shots(int days, bool french = true);
 
@@ -23,9 +21,6 @@ public:
 
     /// The row of a club (1 to 14) in `stat_sticks`, as texts by ordinal.
     QStringList club(int number) const;
-
-    store_folder folder;
-    diary book;
 };
 
 /// The rounds between two days, all filters off.

@@ -20,25 +20,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Rounds on the first days of a year, each with costs by its day.
-class stored_costs {
+class stored_costs : public level_rounds {
 public:
-    explicit stored_costs(int days, bool french = true) : folder(french), book(folder.path())
+    explicit stored_costs(int days, bool french = true) : level_rounds(days, french)
     {
-        set_report_store(folder.path());
-        const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
-        book.add(course);
-        std::vector<diary_round> rounds;
         for (int day = 1; day <= days; ++day)
-            rounds.push_back({key_of_day(day), course, holes_over(course.pars, 0), day % 2, {}});
-        book.add(rounds);
-        for (int day = 1; day <= days; ++day)
-            put_costs(book.store, key_of_day(day), day);
+            put_costs(store, key_of_day(day), day);
     }
 
-    QList<QStringList> report() const { return table_rows(book.store, u"r_cost"_s); }
-
-    store_folder folder;
-    diary book;
+    QList<QStringList> report() const { return table_rows(store, u"r_cost"_s); }
 };
 
 selection_arguments days(int from, int to)

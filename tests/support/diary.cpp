@@ -4,39 +4,14 @@
 
 #include <numeric>
 
+#include "scoring/limits.h"
+#include "tests/support/insertion.h"
+
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// `insert into TABLE (...) values (...)`, put together column by column.
-class insertion {
-public:
-    explicit insertion(const QString& table) : table_(table) {}
-
-    void text(const QString& column, QString value)
-    {
-        literal(column, u'\'' + value.replace(u'\'', u"''"_s) + u'\'');
-    }
-    void number(const QString& column, int value) { literal(column, QString::number(value)); }
-
-    QString statement() const
-    {
-        return u"insert into %1 (%2) values (%3)"_s.arg(table_, columns_.join(u", "), values_.join(u", "));
-    }
-
-private:
-    void literal(const QString& column, const QString& value)
-    {
-        columns_ << column;
-        values_ << value;
-    }
-
-    QString table_;
-    QStringList columns_;
-    QStringList values_;
-};
 
 QString of_hole(const QString& column, int h)
 {
@@ -59,24 +34,14 @@ void put_hole(insertion& games, insertion& games2, int h, const hole_entry& hole
     games2.number(of_hole(u"fairway"_s, h), hole.fairway);
 }
 
-QStringList statements_of(const diary_round& round)
-{
-    insertion games(u"games"_s);
-    games.text(u"date"_s, round.key);
-    games.text(u"field"_s, round.course.name);
-    games.text(u"CODEF"_s, round.course.code);
-    insertion games2(u"games2"_s);
-    games2.text(u"date"_s, round.key);
-    games2.number(u"conditionM"_s, round.weather);
-    games2.text(u"FC"_s, round.course.code);
-    if (!round.partners.isEmpty())
-        games2.text(u"PARTNERS"_s, round.partners);
-    for (int h = 1; h <= 18; ++h)
-        put_hole(games, games2, h, round.holes.at(static_cast<std::size_t>(h - 1)));
-    return {games.statement(), games2.statement()};
-}
-
 }  // namespace
+
+hole_values all_holes(int value)
+{
+    hole_values values;
+    values.fill(value);
+    return values;
+}
 
 hole_entry hole_in(int strokes)
 {
@@ -87,7 +52,7 @@ hole_entry hole_in(int strokes)
     return hole;
 }
 
-eighteen holes_over(const std::array<int, 18>& pars, int over)
+eighteen holes_over(const hole_values& pars, int over)
 {
     eighteen holes;
     for (std::size_t i = 0; i < holes.size(); ++i)
@@ -105,14 +70,40 @@ eighteen same_holes(const hole_entry& hole)
 diary_course course_of(const QString& name, const QString& tee)
 {
     const scorecard& card = published_scorecard(name, tee);
-    const QString code = name.toUpper() + u'-' + QString::number(tee_code(tee));
-    return {code, name, card.rating, card.slope, card.par, card.yards, card.stroke_index};
+    return {.code = name.toUpper() + u'-' + QString::number(tee_code(tee)),
+            .name = name,
+            .name_tee = {},
+            .tee = {},
+            .rating = card.rating,
+            .slope = card.slope,
+            .pars = card.par,
+            .yards = card.yards,
+            .stroke_index = card.stroke_index,
+            .address_1 = {}};
+}
+
+diary_course course_of_pars(const QString& pars, const QString& rating, const QString& slope)
+{
+    diary_course course{.name_tee = {}, .tee = {}, .rating = rating, .slope = slope, .address_1 = {}};
+    for (int i = 0; i < hole_count; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        course.pars.at(at) = pars.at(i % pars.size()).digitValue();
+        course.yards.at(at) = 101 + i;
+        course.stroke_index.at(at) = hole_count - i;
+    }
+    return course;
 }
 
 diary_course flat_course(const QString& code, int par, const QString& rating, const QString& slope)
 {
-    diary_course course{code, code.chopped(2), rating, slope};
-    course.pars.fill(par);
+    diary_course course{.code = code,
+                        .name = code.chopped(2),
+                        .name_tee = {},
+                        .tee = {},
+                        .rating = rating,
+                        .slope = slope,
+                        .pars = all_holes(par),
+                        .address_1 = {}};
     std::iota(course.yards.begin(), course.yards.end(), 301);
     std::iota(course.stroke_index.begin(), course.stroke_index.end(), 1);
     return course;
@@ -123,22 +114,79 @@ QString key_of_day(int day)
     return QDate(2003, 1, 1).addDays(day - 1).toString(u"yyyyMMdd"_s) + u"093000"_s;
 }
 
-void diary::add(const diary_course& course) const
+QStringList statements_of(const diary_course& course)
 {
     insertion fields(u"vrd_fields"_s);
     fields.text(u"code"_s, course.code);
     fields.text(u"name"_s, course.name);
+    fields.text(u"name_tee"_s, course.name_tee);
+    fields.text(u"tee"_s, course.tee);
     fields.text(u"rating"_s, course.rating);
     fields.text(u"slope"_s, course.slope);
-    insertion holes(u"field_info"_s);
-    holes.text(u"FIELD_CODE"_s, course.code);
-    for (int h = 1; h <= 18; ++h) {
+    fields.text(u"address_1"_s, course.address_1);
+    insertion card(u"field_info"_s);
+    card.text(u"FIELD_CODE"_s, course.code);
+    for (int h = 1; h <= hole_count; ++h) {
         const auto at = static_cast<std::size_t>(h - 1);
-        holes.number(of_hole(u"par"_s, h), course.pars.at(at));
-        holes.number(of_hole(u"yards"_s, h), course.yards.at(at));
-        holes.number(of_hole(u"hcp"_s, h), course.stroke_index.at(at));
+        card.number(of_hole(u"par"_s, h), course.pars.at(at));
+        card.number(of_hole(u"yards"_s, h), course.yards.at(at));
+        card.number(of_hole(u"hcp"_s, h), course.stroke_index.at(at));
     }
-    store.write({fields.statement(), holes.statement()});
+    return {fields.statement(), card.statement()};
+}
+
+QStringList statements_of(const diary_round& round)
+{
+    insertion games(u"games"_s);
+    games.text(u"date"_s, round.key);
+    games.text(u"field"_s, round.course.name);
+    games.text(u"CODEF"_s, round.course.code);
+    insertion games2(u"games2"_s);
+    games2.text(u"date"_s, round.key);
+    games2.number(u"conditionM"_s, round.weather);
+    games2.text(u"FC"_s, round.course.code);
+    if (!round.partners.isEmpty())
+        games2.text(u"PARTNERS"_s, round.partners);
+    for (int h = 1; h <= hole_count; ++h)
+        put_hole(games, games2, h, round.holes.at(static_cast<std::size_t>(h - 1)));
+    return {games.statement(), games2.statement()};
+}
+
+QStringList statements_of(const blank_round& round)
+{
+    insertion games(u"games"_s);
+    games.text(u"date"_s, round.key);
+    games.text(u"field"_s, round.course_name);
+    games.text(u"CODEF"_s, round.course_code);
+    insertion games2(u"games2"_s);
+    games2.text(u"date"_s, round.key);
+    games2.text(u"FC"_s, round.course_code);
+    if (round.conditions) {
+        games2.number(u"conditionM"_s, round.conditions->weather);
+        games2.number(u"temperature"_s, round.conditions->temperature);
+        games2.text(u"PARTNERS"_s, round.conditions->partners);
+    }
+    insertion cost(u"cost"_s);
+    cost.text(u"date"_s, round.key);
+    return {games.statement(), games2.statement(), cost.statement()};
+}
+
+void diary::add(const diary_course& course) const
+{
+    store.write(statements_of(course));
+}
+
+void diary::add(const blank_round& round) const
+{
+    store.write(statements_of(round));
+}
+
+void diary::add_days(const diary_course& course, int days) const
+{
+    std::vector<diary_round> rounds;
+    for (int day = 1; day <= days; ++day)
+        rounds.push_back({key_of_day(day), course, holes_over(course.pars, 0), day % 2, {}});
+    add(rounds);
 }
 
 void diary::add(const diary_round& round) const
