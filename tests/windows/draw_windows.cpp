@@ -7,14 +7,14 @@
 #include <cstdlib>
 
 #include "shell/start_up.h"
-#include "tests/windows/every_view.h"
+#include "tests/windows/every_window.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A dark desktop, as the platform would hand it out.
+/// The palette of a dark desktop.
 QPalette dark_palette()
 {
     QPalette palette(QColor(0x35, 0x35, 0x35), QColor(0x2d, 0x2d, 0x2d));
@@ -26,16 +26,17 @@ QPalette dark_palette()
 bool draw_all(const QDir& folder, bool french)
 {
     bool complete = true;
-    testing::visit_every_view(french, [&](testing::hand& user, const QString& view, const QString& window) {
-        const QString name = view + (french ? u" fr.png"_s : u" en.png"_s);
-        complete &= user.picture(window).save(folder.filePath(QString(name).replace(u' ', u'_')));
+    testing::visit_every_window(french, [&](testing::hand& user, const testing::program_window& window) {
+        const QString name = window.view + (french ? u" fr.png"_s : u" en.png"_s);
+        complete &=
+            user.picture(window.name(french)).save(folder.filePath(QString(name).replace(u' ', u'_')));
     });
     return complete;
 }
 
 }  // namespace
 
-/// Leaves a picture of every window in both languages in a folder. The scale and the font size come from the
+/// Saves a picture of every window in both languages to a folder. The scale and the font size come from the
 /// environment (QT_SCALE_FACTOR, QT_FONT_DPI), the screen from the platform plugin.
 int main(int argc, char** argv)
 {
