@@ -27,7 +27,7 @@ QString without_sixth_putts()
 
 void lay_down(const QString& path, int rounds)
 {
-    testing::lay_down_diary(path, rounds, true);
+    testing::create_diary(path, rounds, true);
     testing::reader(path).write(
         {u"update settings set language = %1"_s.arg(english_value), without_sixth_putts()});
 }

@@ -61,7 +61,7 @@ class test_entering : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_text_is_selected_when_setFocus_returns_data() { ways_into_a_box(); }
+    void the_text_is_selected_when_setFocus_returns_data() { focus_reasons(); }
     void the_text_is_selected_when_setFocus_returns()
     {
         QFETCH(Qt::FocusReason, reason);

@@ -40,8 +40,8 @@ QStringList named_tees()
 
 void lay_down_season(const QString& store_path, int rounds)
 {
-    testing::lay_down_diary(store_path, rounds, true);
-    testing::forget_sixth_putts(store_path);
+    testing::create_diary(store_path, rounds, true);
+    testing::clear_sixth_putts(store_path);
     testing::reader(store_path).write(spread_over_the_year() + named_tees());
 }
 

@@ -119,7 +119,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_digit_replaces_the_amount_in_the_moment_a_box_gains_the_focus_data() { ways_into_a_box(); }
+    void a_digit_replaces_the_amount_in_the_moment_a_box_gains_the_focus_data() { focus_reasons(); }
     void a_digit_replaces_the_amount_in_the_moment_a_box_gains_the_focus()
     {
         QFETCH(Qt::FocusReason, reason);

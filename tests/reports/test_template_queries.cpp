@@ -286,7 +286,7 @@ private Q_SLOTS:
         QObject::connect(&timer, &QTimer::timeout, this, [&] {
             seen = seen || open_window(u"lock_box"_s) != nullptr;
             if (seen)
-                other.let_go();
+                other.release();
         });
         timer.start(50);
         QCOMPARE(complaint_about(written(u"query one = select * from stats\n"_s)), QString());

@@ -75,7 +75,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_digit_replaces_the_figure_as_soon_as_a_box_has_the_focus_data() { ways_into_a_box(); }
+    void a_digit_replaces_the_figure_as_soon_as_a_box_has_the_focus_data() { focus_reasons(); }
     void a_digit_replaces_the_figure_as_soon_as_a_box_has_the_focus()
     {
         QFETCH(Qt::FocusReason, reason);

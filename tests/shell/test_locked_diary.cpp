@@ -123,7 +123,7 @@ private Q_SLOTS:
                                u"intact.|Verdane|Give Up"_s,
                       u"the notice"_s);
             keep_picture_of_notice(user, suffix);
-            other.let_go();
+            other.release();
             user.wait_until_gone(notice);
             user.same(figure(run, u"long_1"_s), 1, u"long shots"_s);
             user.same(figure(run, u"fairway_1"_s), 4, u"fairways"_s);
@@ -149,7 +149,7 @@ private Q_SLOTS:
             for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_G, Qt::Key_A})
                 user.key(key);
             user.check(user.is_open(notice), u"a key has closed the notice"_s);
-            other.let_go();
+            other.release();
             user.wait_until_gone(notice);
             user.same(user.text(u"text_vrd_0"_s), u"0"_s, u"box"_s);
             close_round(user, u"_en"_s);
@@ -174,7 +174,7 @@ private Q_SLOTS:
                 round->update();
             });
             user.wait_until(u"the round window to be painted"_s, [&] { return painted.count > 0; });
-            other.let_go();
+            other.release();
             user.wait_until_gone(notice);
             user.look([&] { visible_window(u"f_new_round_en"_s)->removeEventFilter(&painted); });
             close_round(user, u"_en"_s);

@@ -218,7 +218,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         path_ = folder_.filePath(u"diary.db"_s);
-        lay_down_diary(path_, rounds_in_diary, true);
+        create_diary(path_, rounds_in_diary, true);
         take_sixth_putts_away();
         data_environment().connection.Open(path_);
     }

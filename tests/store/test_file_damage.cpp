@@ -166,7 +166,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        testing::lay_down_diary(path_, rounds, true);
+        testing::create_diary(path_, rounds, true);
         const reader store(path_);
         store.write(u"pragma wal_checkpoint(truncate)"_s);
         for (const auto& page : store.rows(u"select pageno, name from dbstat"_s))

@@ -71,7 +71,7 @@ private Q_SLOTS:
         other_program other(store.path());
         store.seen.answer = [&](int asked) {
             if (asked == 5)
-                other.let_go();
+                other.release();
             return true;
         };
         const auto partners = partners_with_time_out(store, 30);
@@ -87,7 +87,7 @@ private Q_SLOTS:
         locked_store store;
         other_program other(store.path());
         store.seen.answer = [&](int) {
-            other.let_go();
+            other.release();
             return true;
         };
         store.connection.Execute(u"update partners set NAME = 'b'"_s);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QVERIFY(partners->pending());
         QCOMPARE(store.seen.asked, 1);
         QCOMPARE(store.seen.living, 0);
-        other.let_go();
+        other.release();
         partners->Update();
         QCOMPARE(testing::stored_names(store), u"b"_s);
     }

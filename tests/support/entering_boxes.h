@@ -4,13 +4,13 @@
 #include <QLineEdit>
 #include <QTest>
 
-/// How the tests look at what a box does when it gains the focus.
+/// For tests of what a box does when it gains the focus.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-/// Rows of the ways in which a box gains the focus, in a column "reason".
-inline void ways_into_a_box()
+/// A row of data for each reason for which a box gains the focus, in the column `reason`.
+inline void focus_reasons()
 {
     QTest::addColumn<Qt::FocusReason>("reason");
     QTest::newRow("Tab") << Qt::TabFocusReason;
@@ -19,8 +19,8 @@ inline void ways_into_a_box()
     QTest::newRow("the program") << Qt::OtherFocusReason;
 }
 
-/// Gives a box that holds "12" the focus and presses a digit before any other event is handled. Returns the
-/// text that the box holds then. To be called in the window thread.
+/// Moves the focus to a box with the text "12" and presses the digit 7 before any other event is handled.
+/// Returns the text of the box afterwards. To be called in the window thread.
 inline QString text_after_focus_and_digit(QLineEdit& box, Qt::FocusReason reason)
 {
     if (QWidget* focused = QApplication::focusWidget())
@@ -31,7 +31,8 @@ inline QString text_after_focus_and_digit(QLineEdit& box, Qt::FocusReason reason
     return box.text();
 }
 
-/// The same for the visible boxes of an array that take figures; how many replace their text by the digit.
+/// Does the same with the visible boxes of an array that take the focus. Returns how many of them replace
+/// their text by the digit.
 template <typename Boxes>
 int boxes_that_replace_their_text(const Boxes& boxes, Qt::FocusReason reason)
 {

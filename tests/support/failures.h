@@ -6,7 +6,7 @@
 
 namespace verdane::testing {
 
-/// The kind of failure that `work` ends in; nothing when it ends well.
+/// The kind of the failure that `work` throws; no value if it returns.
 template <typename Work>
 std::optional<failure_kind> failure_of(Work&& work)
 {

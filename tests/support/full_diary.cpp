@@ -54,7 +54,7 @@ const std::vector<diary_course>& courses()
     return all;
 }
 
-void lay_down_reference(const QString& store_path)
+void add_reference_data(const QString& store_path)
 {
     Connection1().Open(store_path);
     const diary book(store_path);
@@ -84,7 +84,7 @@ int count_of(const played_shots& shots)
 constexpr auto kind = &played_shot::kind;
 constexpr auto penalty = &played_shot::penalty;
 
-/// Lengths of the putts, in feet: where each one started from.
+/// The lengths of the putts, in feet: the distance before each one.
 QVariantList putt_lengths(const played_shots& shots)
 {
     QVariantList lengths;
@@ -130,7 +130,7 @@ QStringList columns_of_games2()
 
 QVariantList figures_in_games2(const played_shots& shots, bool detailed)
 {
-    // A hole told in figures alone has no lengths.
+    // A hole without shots has no lengths of putts.
     return QVariantList{count_of<&played_shot::sand>(shots), count_of<&played_shot::no_gain>(shots),
                         count_of<&played_shot::fairway, 1>(shots)} +
            putt_lengths(detailed ? shots : played_shots());
@@ -176,7 +176,7 @@ const captions& captions_in(bool french)
     return french ? in_french : in_english;
 }
 
-/// Writes one round after the other, each played as it is written.
+/// Plays and writes one round after the other.
 class diary_writer {
 public:
     diary_writer(const QSqlDatabase& database, bool detailed)
@@ -194,7 +194,8 @@ public:
         const auto last_course = static_cast<int>(courses().size()) - 1;
         const diary_course& course = courses().at(static_cast<std::size_t>(player_.pick(0, last_course)));
         QVariantList games{key, course.name, course.code};
-        QVariantList games2{key, course.code, player_.pick(0, weathers - 1), company(), player_.pick(2, 33)};
+        QVariantList games2{key, course.code, player_.pick(0, weathers - 1), some_partners(),
+                            player_.pick(2, 33)};
         for (int h = 1; h <= holes; ++h) {
             const played_shots shots = player_.play(course.yards.at(static_cast<std::size_t>(h - 1)));
             games += figures_in_games(shots);
@@ -208,8 +209,8 @@ public:
     }
 
 private:
-    /// None to three of the partners.
-    QString company()
+    /// None to three of the partners, as the column `PARTNERS` holds them.
+    QString some_partners()
     {
         QString text;
         int places = player_.pick(0, 3);
@@ -272,14 +273,14 @@ private:
 
 QString key_in_diary(int round)
 {
-    // Somewhere in the day, and never twice the same minute in a row.
+    // Some minute of the day, another one each day.
     const QTime tee_off = QTime(7, 0).addSecs(60 * (round * 37 % 600));
     return QDate(2023, 1, 1).addDays(round).toString(u"yyyyMMdd") + tee_off.toString(u"HHmmss");
 }
 
-void lay_down_diary(const QString& store_path, int rounds, bool detailed)
+void create_diary(const QString& store_path, int rounds, bool detailed)
 {
-    lay_down_reference(store_path);
+    add_reference_data(store_path);
     in_one_transaction(store_path, [&](QSqlDatabase& database) {
         diary_writer writer(database, detailed);
         for (int round = 0; round < rounds; ++round)
@@ -287,12 +288,12 @@ void lay_down_diary(const QString& store_path, int rounds, bool detailed)
     });
 }
 
-void forget_sixth_putts(const QString& store_path)
+void clear_sixth_putts(const QString& store_path)
 {
-    QStringList forgotten;
+    QStringList assignments;
     for (int h = 1; h <= holes; ++h)
-        forgotten << u"putt_len_%1_%2 = 0"_s.arg(h).arg(putts_kept);
-    reader(store_path).write(u"update games2 set " + forgotten.join(u", "));
+        assignments << u"putt_len_%1_%2 = 0"_s.arg(h).arg(putts_kept);
+    reader(store_path).write(u"update games2 set " + assignments.join(u", "));
 }
 
 }  // namespace verdane::testing

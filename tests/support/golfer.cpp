@@ -10,12 +10,12 @@ namespace {
 constexpr int putter = 14;
 /// How far each club but the putter carries, in yards.
 constexpr std::array<int, putter - 1> carry{225, 210, 200, 190, 180, 170, 160, 150, 140, 130, 115, 95, 70};
-/// From here on a shot aims at the green.
+/// Shots from this distance or less are approach shots.
 constexpr int approach_range = 120;
 constexpr int green_radius = 10;
 constexpr int most_putts = 6;
 
-/// The weakest club that carries that far, the driver when none does.
+/// The club with the shortest carry that reaches that far; the driver if none does.
 int club_for(int yards)
 {
     int club = 1;
@@ -28,7 +28,7 @@ int club_for(int yards)
 
 int golfer::pick(int first, int last)
 {
-    // Not a distribution of the library: those differ from one to the next.
+    // Not std::uniform_int_distribution, whose results differ between standard libraries.
     return first + static_cast<int>(engine_() % static_cast<unsigned>(last - first + 1));
 }
 
@@ -57,13 +57,13 @@ played_shot golfer::strike(int yards, bool from_tee)
     const int rest = yards - wanted * pick(82, 100) / 100 + pick(-error, error);
     shot.beyond = rest < 0;
     shot.after = std::abs(rest);
-    go_astray(shot);
+    add_mishap(shot);
     if (shot.penalty == 0 && !shot.missed && !shot.no_gain && shot.after <= green_radius)
         reach_green(shot, shot.after);
     return shot;
 }
 
-void golfer::go_astray(played_shot& shot)
+void golfer::add_mishap(played_shot& shot)
 {
     if (once_in(45)) {
         shot.penalty = pick(1, 4);

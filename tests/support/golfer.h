@@ -4,12 +4,13 @@
 #include <random>
 #include <vector>
 
-/// A golfer of middling skill who plays out of a fixed seed: the same holes on every machine.
+/// A simulated golfer of medium skill. The same seed gives the same holes on every machine.
 namespace verdane::testing {
 
 /// A shot in the codes of the store: kind 1 long, 2 approach, 3 putt; club 1 to 14; fairway 1 in it,
 /// 2 left, 3 right, 0 for a putt; penalty 1 water, 2 lost ball, 3 rules, 4 out of bounds, 0 none.
-/// Distances are yards up to the green; `after` of the shot that reaches it and all that follow are feet.
+/// Distances are in yards up to the green; `after` of the shot that reaches the green, and everything later,
+/// is in feet.
 struct played_shot {
     int before = 0;
     int after = 0;
@@ -36,12 +37,12 @@ public:
 
     /// A whole number of the range, both ends included.
     int pick(int first, int last);
-    /// True once in `times`.
+    /// True with a probability of 1 in `times`.
     bool once_in(int times) { return pick(1, times) == 1; }
 
 private:
     played_shot strike(int yards, bool from_tee);
-    void go_astray(played_shot& shot);
+    void add_mishap(played_shot& shot);
     void reach_green(played_shot& shot, int yards);
     void putt_out(played_shots& shots);
 

@@ -15,7 +15,7 @@ namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-hand::hand(std::chrono::milliseconds patience) : patience_(patience) {}
+hand::hand(std::chrono::milliseconds time_limit) : time_limit_(time_limit) {}
 
 void hand::look(const std::function<void()>& routine)
 {
@@ -25,7 +25,7 @@ void hand::look(const std::function<void()>& routine)
 void hand::post(const std::function<void()>& action)
 {
     QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
-    // Answered once the action has ended, or has opened a window and waits in it.
+    // Both return after the action has returned, or has opened a window with an event loop of its own.
     in_window_thread([] {});
     in_window_thread([] {});
 }
@@ -33,20 +33,20 @@ void hand::post(const std::function<void()>& action)
 void hand::wait_until(const QString& what, const std::function<bool()>& holds)
 {
     using clock = std::chrono::steady_clock;
-    auto end = clock::now() + patience_;
+    auto end = clock::now() + time_limit_;
     bool failed = false;
     const auto holds_or_failed = [&] {
         const bool there = holds();
         failed = !there && visible_window(u"failure_box"_s);
         return there;
     };
-    while (!asked<bool>(holds_or_failed)) {
-        // A program that has failed waits for an answer. What is waited for will not come then, unless it
-        // is that box itself, which takes a moment to get the keyboard.
+    while (!result_of<bool>(holds_or_failed)) {
+        // A program that has failed shows the failure box and does nothing else. The condition can then hold
+        // only if it is about that box, which gets the keyboard a moment later.
         if (failed)
             end = std::min(end, clock::now() + std::chrono::seconds(2));
         if (clock::now() > end)
-            fail(u"waited in vain for "_s + what);
+            fail(u"timed out waiting for "_s + what);
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
 }
@@ -72,18 +72,18 @@ void hand::on_control(const QString& name, const std::function<void(QWidget&)>& 
 
 void hand::wait_for_keyboard()
 {
-    // A window that opens, or comes back from under another, gets the keyboard with a later event: under
-    // a window manager some time after it is shown, and until then keys would go to the window before.
+    // A window that opens, or is active again, gets the keyboard with a later event. With a window manager
+    // that is some time after it is shown; until then keys would reach the previous window.
     wait_until(u"a window with the keyboard"_s, [] {
         return windows_taking_input().contains(QApplication::activeWindow()) ||
                QApplication::activePopupWidget();
     });
 }
 
-void hand::check(bool holds, const QString& words)
+void hand::check(bool holds, const QString& message)
 {
     if (!holds)
-        fail(words);
+        fail(message);
 }
 
 void hand::same(const QString& seen, const QString& expected, const QString& what)
@@ -97,12 +97,12 @@ void hand::same(int seen, int expected, const QString& what)
     same(QString::number(seen), QString::number(expected), what);
 }
 
-void hand::fail(const QString& words)
+void hand::fail(const QString& message)
 {
-    const QString open = asked<QString>([] { return what_is_open(); });
+    const QString open = result_of<QString>([] { return describe_open_windows(); });
     std::fprintf(stderr, "FAIL! in %s: %s\nOpen windows:\n%s",
                  QTest::currentTestFunction() ? QTest::currentTestFunction() : "the script",
-                 qUtf8Printable(words), qUtf8Printable(open));
+                 qUtf8Printable(message), qUtf8Printable(open));
     std::fflush(stderr);
     std::_Exit(EXIT_FAILURE);
 }
@@ -112,7 +112,7 @@ void play(const std::function<void()>& program, const std::function<void(hand&)>
     bool script_ended = false;
     std::thread user([&] {
         hand of_user;
-        // The script begins once the program has a loop that answers.
+        // Waits for the event loop of the program.
         in_window_thread([] {});
         script(of_user);
         in_window_thread([&] { script_ended = true; });

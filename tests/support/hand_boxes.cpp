@@ -6,7 +6,7 @@
 #include "tests/support/hand.h"
 #include "tests/support/hand_thread.h"
 
-/// What the hand does with message boxes.
+/// Message boxes.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
@@ -36,9 +36,9 @@ QMessageBox* box_on_top()
 void hand::answer(const expected_box& box, QMessageBox::StandardButton answer)
 {
     wait_until(u"a message box: " + described(box), [] { return box_on_top() != nullptr; });
-    const auto seen = asked<expected_box>([] { return shown_box(*box_on_top()); });
+    const auto seen = result_of<expected_box>([] { return shown_box(*box_on_top()); });
     same(described(seen), described(box), u"message box"_s);
-    const QPointer<QMessageBox> answered = asked<QMessageBox*>([] { return box_on_top(); });
+    const QPointer<QMessageBox> answered = result_of<QMessageBox*>([] { return box_on_top(); });
     post([answered, answer] {
         if (answered)
             QTest::mouseClick(static_cast<QWidget*>(answered->button(answer)), Qt::LeftButton);

@@ -9,7 +9,7 @@
 #include "tests/support/hand.h"
 #include "tests/support/hand_widgets.h"
 
-/// What the hand does with grids and their menus.
+/// Grids and their menus.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
@@ -26,7 +26,7 @@ void press(QTableView& grid, const QPoint& place)
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, place);
 }
 
-QRect cell_in_sight(QTableView& grid, int row, int column)
+QRect visible_cell(QTableView& grid, int row, int column)
 {
     const QModelIndex cell = grid.model()->index(row, column);
     grid.scrollTo(cell);
@@ -45,8 +45,8 @@ void hand::click_cell(const QString& grid, int row, int column)
     on_control(grid, [](QWidget&) {});
     post([=] {
         QTableView& cells = grid_named(grid);
-        // Left of the middle, beside the button.
-        const QRect cell = cell_in_sight(cells, row, column);
+        // Left of the middle, next to the button.
+        const QRect cell = visible_cell(cells, row, column);
         press(cells, {cell.left() + cell.width() / 4, cell.center().y()});
     });
 }
@@ -56,7 +56,7 @@ void hand::open_menu(const QString& grid, int row, int column)
     on_control(grid, [](QWidget&) {});
     post([=] {
         QTableView& cells = grid_named(grid);
-        press(cells, data_grid::button_in(cell_in_sight(cells, row, column)).center());
+        press(cells, data_grid::button_in(visible_cell(cells, row, column)).center());
     });
     wait_until(u"the menu of a cell"_s, [] { return menu_on_top() != nullptr; });
 }

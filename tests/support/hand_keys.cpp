@@ -6,7 +6,7 @@
 
 #include "tests/support/hand.h"
 
-/// What the hand does with the keyboard.
+/// The keyboard.
 namespace verdane::testing {
 
 void hand::choose(const QString& combo, int index)

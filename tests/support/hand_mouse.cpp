@@ -14,7 +14,7 @@
 #include "tests/support/hand_thread.h"
 #include "tests/support/hand_widgets.h"
 
-/// What the hand does with the mouse.
+/// The mouse.
 namespace verdane::testing {
 
 namespace {
@@ -24,7 +24,7 @@ QPoint middle_of_row(const QListWidget& list, int row)
     return list.visualItemRect(list.item(row)).center();
 }
 
-/// The menu that holds the entry; null for an entry of the menu bar itself.
+/// The menu with the entry; null for an entry of the menu bar itself.
 QMenu* menu_of(const QAction& entry)
 {
     QMenu* menu = nullptr;
@@ -48,9 +48,9 @@ void hand::click(const QString& control)
 {
     on_control(control, [&](QWidget& found) {
         if (!found.isVisible() || !found.isEnabled())
-            std::fprintf(stderr, "note: %s is not to be clicked\n", qUtf8Printable(control));
+            std::fprintf(stderr, "note: %s is hidden or disabled\n", qUtf8Printable(control));
     });
-    check(asked<bool>([&] { return find_control(control)->isVisible(); }), control + u" is not visible");
+    check(result_of<bool>([&] { return find_control(control)->isVisible(); }), control + u" is not visible");
     post([control] {
         if (QWidget* found = find_control(control))
             QTest::mouseClick(found, Qt::LeftButton);

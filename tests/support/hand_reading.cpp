@@ -8,12 +8,12 @@
 #include "tests/support/hand_thread.h"
 #include "tests/support/hand_widgets.h"
 
-/// What the hand reads from windows and controls.
+/// Reading windows and controls.
 namespace verdane::testing {
 
 bool hand::is_open(const QString& window)
 {
-    return asked<bool>([&] { return visible_window(window) != nullptr; });
+    return result_of<bool>([&] { return visible_window(window) != nullptr; });
 }
 
 QString hand::text(const QString& control)
@@ -26,7 +26,7 @@ QString hand::text(const QString& control)
 QString hand::title(const QString& window)
 {
     wait_for_window(window);
-    return asked<QString>([&] { return visible_window(window)->windowTitle(); });
+    return result_of<QString>([&] { return visible_window(window)->windowTitle(); });
 }
 
 QStringList hand::entries(const QString& list)
@@ -52,7 +52,7 @@ bool hand::visible(const QString& control)
 
 bool hand::enabled(const QString& control)
 {
-    return asked<bool>([&] {
+    return result_of<bool>([&] {
         if (QAction* action = find_action(control))
             return action->isEnabled();
         QWidget* found = find_control(control);
@@ -62,13 +62,13 @@ bool hand::enabled(const QString& control)
 
 bool hand::exists(const QString& control)
 {
-    return asked<bool>([&] { return find_control(control) || find_action(control); });
+    return result_of<bool>([&] { return find_control(control) || find_action(control); });
 }
 
 QString hand::focus()
 {
     wait_for_keyboard();
-    return asked<QString>([] {
+    return result_of<QString>([] {
         QWidget* focused = QApplication::focusWidget();
         return focused ? focused->objectName() : QString();
     });
@@ -83,13 +83,13 @@ QString hand::selected_text(const QString& box)
 
 int hand::bells()
 {
-    return asked<int>([] { return bells_rung(); });
+    return result_of<int>([] { return bells_rung(); });
 }
 
 QImage hand::picture(const QString& window)
 {
     wait_for_window(window);
-    return asked<QImage>([&] { return visible_window(window)->grab().toImage(); });
+    return result_of<QImage>([&] { return visible_window(window)->grab().toImage(); });
 }
 
 }  // namespace verdane::testing

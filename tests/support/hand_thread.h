@@ -6,26 +6,26 @@
 
 #include <functional>
 
-/// How the hand's own thread reaches the window thread. For the files of the hand alone.
+/// Calls from the thread of the hand into the window thread. Only for the sources of `hand`.
 namespace verdane::testing {
 
-/// Runs a routine in the window thread, inside whatever modal loop is on top, and waits for it.
+/// Runs a routine in the window thread, inside the innermost event loop, and waits until it returns.
 inline void in_window_thread(const std::function<void()>& routine)
 {
-    // A check that fails inside a look is there already, and would wait for itself.
+    // A check that fails inside `look` is in the window thread already; a blocking call would be a deadlock.
     if (QThread::currentThread() == qApp->thread())
         routine();
     else
         QMetaObject::invokeMethod(qApp, routine, Qt::BlockingQueuedConnection);
 }
 
-/// The answer to a question that is put in the window thread.
+/// The result of a function that runs in the window thread.
 template <typename Result>
-Result asked(const std::function<Result()>& question)
+Result result_of(const std::function<Result()>& function)
 {
-    Result answer{};
-    in_window_thread([&] { answer = question(); });
-    return answer;
+    Result result{};
+    in_window_thread([&] { result = function(); });
+    return result;
 }
 
 }  // namespace verdane::testing

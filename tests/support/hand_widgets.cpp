@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A window that hangs on a modal one takes input beside it.
-bool hangs_on(const QWidget* window, const QWidget* modal)
+/// Whether a window is the modal one or a child of it, which takes input, too.
+bool belongs_to(const QWidget* window, const QWidget* modal)
 {
     while (window && window != modal)
         window = window->parentWidget();
@@ -35,7 +35,7 @@ QList<QWidget*> windows_taking_input()
         windows << popup;
     QWidget* modal = QApplication::activeModalWidget();
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && (!modal || hangs_on(window, modal)) && !windows.contains(window))
+        if (window->isVisible() && (!modal || belongs_to(window, modal)) && !windows.contains(window))
             windows << window;
     }
     return windows;
@@ -116,7 +116,7 @@ int selected_of(const QWidget& list)
     return -1;
 }
 
-QString what_is_open()
+QString describe_open_windows()
 {
     QString lines;
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -124,7 +124,7 @@ QString what_is_open()
             continue;
         lines += u"  %1 \"%2\""_s.arg(window->objectName(), window->windowTitle());
         if (auto* box = qobject_cast<QMessageBox*>(window))
-            lines += u" says \"%1\" %2"_s.arg(box->text(), box->informativeText());
+            lines += u" with the text \"%1\" %2"_s.arg(box->text(), box->informativeText());
         lines += u'\n';
     }
     return lines.isEmpty() ? u"  no window\n"_s : lines;

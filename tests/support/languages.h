@@ -4,7 +4,7 @@
 
 namespace verdane::testing {
 
-/// The two rows of a test that holds in both languages.
+/// One row of data for each language, in the column `french`.
 inline void both_languages()
 {
     QTest::addColumn<bool>("french");

@@ -32,10 +32,10 @@ other_program::other_program(const QString& store_path, const QString& lock)
 
 other_program::~other_program()
 {
-    let_go();
+    release();
 }
 
-void other_program::let_go()
+void other_program::release()
 {
     if (!QSqlDatabase::contains(name_))
         return;

@@ -6,8 +6,8 @@ namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-/// Another program that locks a store from its construction to `let_go`, on a connection of its own: by
-/// default for writing. For one thread.
+/// Locks a store like another program, on its own connection, from construction to `release`; by default for
+/// writing. To be used in one thread.
 class other_program {
 public:
     explicit other_program(const QString& store_path, const QString& lock = u"BEGIN IMMEDIATE"_s);
@@ -15,7 +15,7 @@ public:
     other_program(const other_program&) = delete;
     other_program& operator=(const other_program&) = delete;
 
-    void let_go();
+    void release();
 
 private:
     QString name_;

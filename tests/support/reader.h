@@ -7,19 +7,18 @@
 
 namespace verdane::testing {
 
-/// Reads a store on a connection of its own, as something outside the program would: it sees what was
-/// committed and nothing else. Usable from any thread.
+/// Reads a store on its own connection, so it sees only committed rows. Usable from any thread.
 class reader {
 public:
     explicit reader(QString path);
 
-    /// Every row of a statement. A statement that fails ends the test with the engine's words.
+    /// Every row of a statement. A statement that fails ends the test with the engine's message.
     std::vector<std::vector<QVariant>> rows(const QString& statement) const;
-    /// The one value of a statement that gives one.
+    /// The first column of the first row; an invalid value if there is no row.
     QVariant value(const QString& statement) const;
     QString text(const QString& statement) const { return value(statement).toString(); }
     int number(const QString& statement) const { return value(statement).toInt(); }
-    /// Runs a statement that writes: how a test prepares a store.
+    /// Runs statements that write, to prepare a store.
     void write(const QString& statement) const;
     void write(const QStringList& statements) const;
 

@@ -7,7 +7,7 @@
 
 namespace verdane::testing {
 
-/// A main window that remembers what the windows asked of it.
+/// A main window that records the calls of the windows.
 class recording_frame : public main_frame_interface {
 public:
     recording_frame()
@@ -24,7 +24,7 @@ public:
     void enable_tool_button(QStringView key, bool enabled) override { buttons_[key.toString()] = enabled; }
     void activated() override { ++activations; }
 
-    /// Whether a tool button was left enabled; one that nobody touched is.
+    /// The last state of a tool button; enabled if it was never set.
     bool enabled(const QString& key) const { return buttons_.value(key, true); }
 
     bool locked = false;

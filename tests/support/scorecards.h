@@ -21,7 +21,7 @@ struct scorecard {
 /// The published scorecards in `tests/data/courses.csv`.
 const std::vector<scorecard>& published_scorecards();
 
-/// One of them by its name and tee; ends the test when there is none.
+/// A scorecard by name and tee; ends the test if there is none.
 const scorecard& published_scorecard(const QString& name, const QString& tee);
 
 /// The tee's code, 0 (white) to 7 (black).

@@ -4,9 +4,9 @@
 
 namespace verdane::testing {
 
-/// A fresh store in a temporary folder, opened as the program's own for the life of this object; no
-/// recordset is left open afterwards. The run-wide values are put back as at a start, in the wanted
-/// language.
+/// A fresh store in a temporary folder, which the program has open for the life of this object. The
+/// destructor closes all recordsets. The constructor sets the run-wide values to those of a start in the
+/// given language.
 class store_folder {
 public:
     explicit store_folder(bool french = true);

@@ -6,10 +6,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A sentence, and a statement that counts what breaks it.
+/// A condition, and a statement that counts its violations.
 struct invariant {
     const char* sentence;
-    const char* breaches;
+    const char* violations;
 };
 
 const std::vector<invariant>& invariants()
@@ -67,9 +67,9 @@ QStringList broken_invariants(const reader& store)
 {
     QStringList broken;
     for (const invariant& rule : invariants()) {
-        const int breaches = store.number(QString::fromUtf8(rule.breaches));
-        if (breaches > 0)
-            broken << u"%1: %2 times not"_s.arg(QLatin1String(rule.sentence)).arg(breaches);
+        const int violations = store.number(QString::fromUtf8(rule.violations));
+        if (violations > 0)
+            broken << u"%1: %2 violations"_s.arg(QLatin1String(rule.sentence)).arg(violations);
     }
     return broken;
 }

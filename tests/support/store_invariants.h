@@ -6,8 +6,8 @@
 
 namespace verdane::testing {
 
-/// What must hold of the rounds and shots of a store at any time, each as a sentence; those that do not
-/// hold are answered.
+/// Checks the conditions that the rounds and shots of a store meet at any time. Returns those that are not
+/// met, each as a sentence.
 QStringList broken_invariants(const reader& store);
 
 }  // namespace verdane::testing

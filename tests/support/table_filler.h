@@ -8,11 +8,11 @@
 
 #include <functional>
 
-/// Writing many rows into a store from outside.
+/// Writes many rows into a store from outside the program.
 namespace verdane::testing {
 
-/// Runs `work` on a connection of its own to the file, in one transaction. A statement that fails ends
-/// the test with the engine's words.
+/// Runs `work` on its own connection to the file, in one transaction. A statement that fails ends the test
+/// with the engine's message.
 void in_one_transaction(const QString& path, const std::function<void(QSqlDatabase&)>& work);
 
 /// Adds rows to one table by one prepared statement.
@@ -20,7 +20,7 @@ class table_filler {
 public:
     table_filler(const QSqlDatabase& database, const QString& table, const QStringList& columns);
 
-    /// One value for each of the columns, in their order.
+    /// One value for each column, in the order of the columns.
     void add(const QVariantList& values);
 
 private:

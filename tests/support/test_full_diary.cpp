@@ -28,7 +28,7 @@ class test_full_diary : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { lay_down_diary(path(), rounds_of_full_diary, true); }
+    void initTestCase() { create_diary(path(), rounds_of_full_diary, true); }
 
     void a_full_diary_has_366_rounds_in_each_table()
     {
@@ -148,7 +148,7 @@ private Q_SLOTS:
     void without_shots_the_figures_are_the_same()
     {
         const QString quick = folder_.filePath(u"quick.db"_s);
-        lay_down_diary(quick, 20, false);
+        create_diary(quick, 20, false);
         QCOMPARE(reader(quick).number(u"select count(*) from Stat_rounds"_s), 0);
         const QString first = u"select * from games order by date limit 20"_s;
         QCOMPARE(reader(quick).rows(first), store().rows(first));

@@ -21,7 +21,7 @@ void every_way_out(const std::vector<way_out>& ways)
 {
     QTest::addColumn<leaving>("leave");
     for (const way_out& way : ways)
-        QTest::newRow(way.words) << way.leave;
+        QTest::newRow(way.name) << way.leave;
 }
 
 }  // namespace verdane::testing

@@ -5,19 +5,19 @@
 #include "tests/support/hand.h"
 #include "tests/support/languages.h"
 
-/// What the tests of a window look at: its controls, and what it left open.
+/// What tests read from a window, and the recordsets that it has left open.
 namespace verdane::testing {
 
-/// Kind and name of every named control of the window at work, in the order in which they were made.
+/// Class and name of every named control of the window at work, in the order of their creation.
 QStringList controls_of_window(hand& user);
 
-/// The names of visible labels, buttons, lists, tabs and boxes that have less room than they need: of the
-/// window at work, or of any window (to be called in the window thread).
+/// The names of visible labels, buttons, combos, frames, tabs and boxes that are smaller than their text, in
+/// the window at work or in any window (to be called in the window thread).
 QStringList clipped_controls(hand& user);
 QStringList clipped_controls_of(const QWidget& window);
 
-/// Whether a part of the window has no room and scrolls; lists and grids that scroll by themselves apart. To
-/// be called in the window thread.
+/// Whether a part of the window is larger than its place and scrolls. Lists and grids, which scroll by
+/// themselves, do not count. To be called in the window thread.
 bool scrolls(const QWidget& window);
 
 /// The names of the recordsets that are open.
