@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Another answer than the one in the cell, chosen by its first letter.
-void turn(f_new_round& window, int column)
+/// Chooses the other value of the cell by its first letter.
+void change_cell(f_new_round& window, int column)
 {
     data_grid& grid = *window.details;
     grid.set_Col(column);
@@ -29,8 +29,8 @@ void turn(f_new_round& window, int column)
 /// Changes the first shot so that a figure changes in each wide row.
 void change_first_shot(f_new_round& window)
 {
-    turn(window, f_new_round_func::details_column::missed);
-    turn(window, f_new_round_func::details_column::zero);
+    change_cell(window, f_new_round_func::details_column::missed);
+    change_cell(window, f_new_round_func::details_column::zero);
 }
 
 void leave_detailed_hole(benchmark::State& state)
@@ -53,7 +53,7 @@ void read_shots(const plain_store& store, const QString& key, int hole)
 
 void leave_detailed_hole_floor(benchmark::State& state)
 {
-    const plain_store store(diaries_of_run().with_room());
+    const plain_store store(diaries_of_run().with_free_keys());
     const QString key = testing::key_in_diary(round_of_left_holes);
     int step = 0;
     for (auto _ : state) {

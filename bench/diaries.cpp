@@ -25,7 +25,7 @@ QString without_sixth_putts()
     return u"update games2 set " + cleared.join(u", ");
 }
 
-void lay_down(const QString& path, int rounds)
+void create(const QString& path, int rounds)
 {
     testing::create_diary(path, rounds, true);
     testing::reader(path).write(
@@ -36,17 +36,17 @@ void lay_down(const QString& path, int rounds)
 
 diaries::diaries() : folder_(QCoreApplication::applicationDirPath() + u"/diaries-XXXXXX"_s) {}
 
-QString diaries::laid_down(const QString& name, int rounds) const
+QString diaries::created(const QString& name, int rounds) const
 {
     const QString path = folder_.filePath(name);
     if (!QFile::exists(path))
-        lay_down(path, rounds);
+        create(path, rounds);
     return path;
 }
 
 QString diaries::full() const
 {
-    return laid_down(u"Verdane/Verdbase.db"_s, testing::rounds_of_full_diary);
+    return created(u"Verdane/Verdbase.db"_s, testing::rounds_of_full_diary);
 }
 
 QString diaries::data_home() const
@@ -57,12 +57,12 @@ QString diaries::data_home() const
 
 QString diaries::half() const
 {
-    return laid_down(u"half.db"_s, rounds_of_half);
+    return created(u"half.db"_s, rounds_of_half);
 }
 
-QString diaries::with_room() const
+QString diaries::with_free_keys() const
 {
-    return laid_down(u"with_room.db"_s, rounds_with_room);
+    return created(u"with_free_keys.db"_s, rounds_with_free_keys);
 }
 
 const diaries& diaries_of_run()

@@ -19,15 +19,15 @@ public:
     /// The first half of these rounds, to measure growth.
     QString half() const;
     /// 300 rounds: every save uses one of the 366 entries for keys, so a full diary allows no save.
-    QString with_room() const;
+    QString with_free_keys() const;
     /// The value of `XDG_DATA_HOME` with which the program opens the full diary.
     QString data_home() const;
 
-    static constexpr int rounds_with_room = 300;
+    static constexpr int rounds_with_free_keys = 300;
     static constexpr int rounds_of_half = testing::rounds_of_full_diary / 2;
 
 private:
-    QString laid_down(const QString& name, int rounds) const;
+    QString created(const QString& name, int rounds) const;
 
     QTemporaryDir folder_;
 };

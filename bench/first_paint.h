@@ -4,7 +4,7 @@
 
 namespace verdane::bench {
 
-/// Ends the process at once when the widget of that name has been painted that many times.
+/// Ends the process as soon as the widget of that name has been painted that many times.
 void end_when_painted(const QString& name, int times);
 
 }  // namespace verdane::bench

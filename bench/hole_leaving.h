@@ -25,7 +25,7 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
     const auto change_hole = [&] {
         // Every save uses an entry of the list of keys, and a measurement saves more often than the list
         // allows.
-        Main_module::round_key_count = static_cast<std::int16_t>(diaries::rounds_with_room);
+        Main_module::round_key_count = static_cast<std::int16_t>(diaries::rounds_with_free_keys);
         change(window);
         Form::paint_now();
     };
@@ -50,7 +50,7 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
 template <typename Open, typename Change>
 void leave_holes_of_stored_round(benchmark::State& state, hole_seen end, Open open, Change change)
 {
-    const opened_store store(diaries_of_run().with_room());
+    const opened_store store(diaries_of_run().with_free_keys());
     open_tables_of_list();
     open(testing::key_in_diary(round_of_left_holes),
          [&](f_new_round& window) { leave_holes(state, window, end, change); });

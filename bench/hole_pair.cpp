@@ -45,7 +45,7 @@ void leave_hole_painted(benchmark::State& state)
 
 void leave_hole_floor(benchmark::State& state)
 {
-    const plain_store store(diaries_of_run().with_room());
+    const plain_store store(diaries_of_run().with_free_keys());
     QSqlQuery row =
         store.run(u"select rowid from games where date = ?"_s, {testing::key_in_diary(round_of_left_holes)});
     row.next();

@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int round_in_diary = 183;
-constexpr int putts_told = 3;
+constexpr int putts_entered = 3;
 
 QString of_hole()
 {
@@ -54,14 +54,14 @@ QWidget* type_distance(f_new_round& window, char digit)
 
 /// Enters three putts, each by the key that is measured, and types the distance of the next
 /// one.
-QWidget* tell_until_last_key(f_new_round& window)
+QWidget* enter_until_last_key(f_new_round& window)
 {
     Recordset& shots = data_environment().rsStat_rounds;
     shots.CancelUpdate();
     for (const QString& statement : hole_before_its_putts())
         data_environment().connection.Execute(statement);
     f_new_round_func::open_hole_shots(window);
-    for (int putt = 1; putt <= putts_told; ++putt)
+    for (int putt = 1; putt <= putts_entered; ++putt)
         QTest::keyClick(type_distance(window, '9'), Qt::Key_Return);
     QWidget* box = type_distance(window, '4');
     Form::paint_now();
@@ -76,7 +76,7 @@ void next_shots(benchmark::State& state, until end)
     open_tables_of_list();
     on_detailed_page_of(testing::key_in_diary(round_in_diary), [&](f_new_round& window) {
         for (auto _ : state) {
-            QWidget* box = tell_until_last_key(window);
+            QWidget* box = enter_until_last_key(window);
             const int shots = data_environment().rsStat_rounds.RecordCount();
             const stopwatch watch;
             QTest::keyClick(box, Qt::Key_Return);

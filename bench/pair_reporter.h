@@ -8,14 +8,14 @@
 
 namespace verdane::bench {
 
-/// Prints, once everything has run, the median of each measurement, that of its floor and their ratio;
+/// Prints, after all runs, the median of each measurement, that of its floor and their ratio;
 /// then the growth of those that are also measured on half of the rounds (suffix "_half").
 class pair_reporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override;
     void Finalize() override;
 
-    /// False when a measurement did not do what it measures.
+    /// False if a measurement has reported an error.
     bool all_worked() const { return all_worked_; }
 
 private:

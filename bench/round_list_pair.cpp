@@ -8,7 +8,7 @@
 #include "bench/stopwatch.h"
 #include "management/f_games.h"
 
-/// The list of all rounds, from the command to its painted window. The floor reads what it shows.
+/// The list of all rounds, from the command to its painted window. The floor reads the same rows.
 namespace verdane::bench {
 
 using namespace Qt::StringLiterals;

@@ -4,7 +4,7 @@
 
 namespace verdane::bench {
 
-/// Seconds on the wall since it was made.
+/// Wall-clock seconds since its construction.
 class stopwatch {
 public:
     double seconds() const

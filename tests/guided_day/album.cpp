@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A window and the menu before it, which may stand out beyond the window.
-QImage together(QWidget& window, QWidget& menu)
+/// A window with its menu, which may extend beyond the window.
+QImage picture_of_both(QWidget& window, QWidget& menu)
 {
     const QRect menu_in_window(window.mapFromGlobal(menu.mapToGlobal(QPoint())), menu.size());
     const QRect all = window.rect().united(menu_in_window);
@@ -30,40 +30,39 @@ QImage together(QWidget& window, QWidget& menu)
 
 }  // namespace
 
-void album::keep(testing::hand& user, const QString& window, const QString& name)
+void album::save_picture(testing::hand& user, const QString& window, const QString& name)
 {
     save(user, user.picture(window), name);
 }
 
-void album::keep_with_menu(testing::hand& user, const QString& window, const QString& name)
+void album::save_picture_with_menu(testing::hand& user, const QString& window, const QString& name)
 {
     QImage picture;
     user.look([&] {
         QWidget* menu = QApplication::activePopupWidget();
         QWidget* below = testing::visible_window(window);
         if (menu && below)
-            picture = together(*below, *menu);
+            picture = picture_of_both(*below, *menu);
     });
     save(user, picture, name);
 }
 
 void album::save(testing::hand& user, const QImage& picture, const QString& name)
 {
-    const QString path = place_for(user, name + u".png");
-    user.check(!picture.isNull() && picture.save(path), u"the picture %1 cannot be kept"_s.arg(name));
+    const QString path = path_for(user, name + u".png");
+    user.check(!picture.isNull() && picture.save(path), u"the picture %1 cannot be saved"_s.arg(name));
 }
 
-QString album::place_for(testing::hand& user, const QString& file)
+QString album::path_for(testing::hand& user, const QString& file)
 {
-    user.check(!files_.contains(file), file + u" would take the place of another one");
+    user.check(!files_.contains(file), u"a file named %1 exists already"_s.arg(file));
     files_ << file;
     const QString path = folder_.filePath(file);
-    // What an earlier run has left there is none of this one's.
     QFile::remove(path);
     return path;
 }
 
-QStringList album::lost_files() const
+QStringList album::missing_files() const
 {
     QStringList lost;
     for (const QString& file : files_) {

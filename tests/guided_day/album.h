@@ -8,23 +8,23 @@
 
 namespace verdane::guided_day {
 
-/// The folder in which the pictures and reports are left. Nothing is kept twice under one name.
+/// The folder of the pictures and reports. A second file with the same name is a failure.
 class album {
 public:
     explicit album(QDir folder) : folder_(std::move(folder)) {}
 
-    /// A picture of a window, as NAME.png.
-    void keep(testing::hand& user, const QString& window, const QString& name);
-    /// The same with the menu that is up before it.
-    void keep_with_menu(testing::hand& user, const QString& window, const QString& name);
-    /// The path of a file that the program is about to write.
-    QString place_for(testing::hand& user, const QString& file);
+    /// Saves a picture of a window as NAME.png.
+    void save_picture(testing::hand& user, const QString& window, const QString& name);
+    /// Saves a picture of a window with its open menu.
+    void save_picture_with_menu(testing::hand& user, const QString& window, const QString& name);
+    /// The path for a file that the program will write. Removes a file of an earlier run.
+    QString path_for(testing::hand& user, const QString& file);
 
     QString folder() const { return folder_.absolutePath(); }
-    /// What was kept by now.
+    /// The names of all files so far.
     QStringList files() const { return files_; }
-    /// What of it is not there, or empty.
-    QStringList lost_files() const;
+    /// Those of them that do not exist or are empty.
+    QStringList missing_files() const;
 
 private:
     void save(testing::hand& user, const QImage& picture, const QString& name);

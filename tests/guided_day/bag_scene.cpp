@@ -8,17 +8,17 @@ namespace {
 
 constexpr int clubs_with_distance = 13;
 
-/// The averages that the store keeps, a club of the bag with each call.
-double kept_average(const visit& now, int club)
+/// The stored average of a club.
+double stored_average(const visit& now, int club)
 {
     return now.store.value(u"select avg_%1 from sticks"_s.arg(club)).toDouble();
 }
 
-/// The golfer's clubs carry from 70 to 225 yards; what is worked out must be about that.
+/// The golfer's clubs carry 70 to 225 yards; the averages must be near that.
 void check_averages(const visit& now)
 {
     for (int club = 1; club <= clubs_with_distance; ++club) {
-        const double average = kept_average(now, club);
+        const double average = stored_average(now, club);
         now.user.check(average > 20 && average < 250, u"average of club %1: %2"_s.arg(club).arg(average));
     }
 }
@@ -33,16 +33,16 @@ void choose_season(visit& now)
     now.user.click_row(u"List2"_s, rounds_of_season - 1);
 }
 
-void keep_averages(visit& now)
+void store_averages(visit& now)
 {
     now.user.menu(u"mnBat"_s);
     now.user.wait_for_window(now.window(u"f_sticks"_s));
-    now.keep(u"f_sticks"_s, u"f_sticks"_s);
+    now.save_picture(u"f_sticks"_s, u"f_sticks"_s);
     now.user.click(u"Command1"_s);
     choose_season(now);
-    now.keep(u"f_sticks"_s, u"f_sticks_filters"_s);
+    now.save_picture(u"f_sticks"_s, u"f_sticks_filters"_s);
     now.user.click(u"Actualiser"_s);
-    now.keep(u"f_sticks"_s, u"f_sticks_averages"_s);
+    now.save_picture(u"f_sticks"_s, u"f_sticks_averages"_s);
     now.user.click(u"enr"_s);
     now.answer(u"Désirez vous conservés ces moyennes ?", u"Do you want to keep these averages ?",
                QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, u"VERDANE"_s);

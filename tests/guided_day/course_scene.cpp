@@ -17,10 +17,10 @@ void fill_general_page(day& today)
     today.user.choose(u"departure"_s, testing::tee_code(today.card.tee));
     today.user.fill(u"text_2"_s, today.card.rating);
     today.user.fill(u"text_0"_s, today.card.slope);
-    today.keep(u"f_courses"_s, u"f_courses_1"_s);
+    today.save_picture(u"f_courses"_s, u"f_courses_1"_s);
 }
 
-/// Nine holes as they stand on the card: a row of figures after another.
+/// Nine holes of the scorecard.
 void fill_nine(day& today, int page)
 {
     today.user.click_tab(u"TabStrip1"_s, page);
@@ -32,12 +32,12 @@ void fill_nine(day& today, int page)
         today.user.fill(member(u"txt_normal"_s, i), QString::number(today.card.par[hole]));
     }
     today.user.key(Qt::Key_Tab);
-    today.keep(u"f_courses"_s, page == 2 ? u"f_courses_2"_s : u"f_courses_3"_s);
+    today.save_picture(u"f_courses"_s, page == 2 ? u"f_courses_2"_s : u"f_courses_3"_s);
 }
 
 }  // namespace
 
-void describe_course(day& today)
+void enter_course(day& today)
 {
     today.user.menu(u"mManagF"_s);
     today.user.wait_for_window(today.window(u"f_c_list"_s));
@@ -55,7 +55,7 @@ void describe_course(day& today)
 
     today.user.menu(u"mManagF"_s);
     today.user.wait_for_window(today.window(u"f_c_list"_s));
-    today.keep(u"f_c_list"_s, u"f_c_list"_s);
+    today.save_picture(u"f_c_list"_s, u"f_c_list"_s);
     today.user.click(u"Command1_2"_s);
     today.user.wait_until_gone(today.window(u"f_c_list"_s));
 }

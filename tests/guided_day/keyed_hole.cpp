@@ -30,8 +30,8 @@ void next_shot(const day& today)
     today.user.key(Qt::Key_N, Qt::ControlModifier);
 }
 
-/// One letter is enough where only one entry of the cell's menu begins with it.
-void tell_drive(const day& today)
+/// One letter is enough if only one entry of the menu begins with it.
+void enter_drive(const day& today)
 {
     expect_cursor(today, u"0,2"_s, u"the page is opened"_s);
     today.user.type(u"1"_s);
@@ -43,8 +43,8 @@ void tell_drive(const day& today)
     expect_cursor(today, u"1,2"_s, u"the next shot"_s);
 }
 
-/// From the kind five columns on: where the ball lies.
-void tell_approach_to_the_right(day& today)
+/// The position of the ball is five columns after the kind.
+void enter_approach_to_the_right(day& today)
 {
     today.user.type(u"9"_s);
     type_distance(today, u"20"_s);
@@ -52,20 +52,20 @@ void tell_approach_to_the_right(day& today)
     tab(today, 5);
     today.user.key(Qt::Key_F4);
     today.user.wait_for_menu(u"mAlle"_s);
-    today.pictures.keep_with_menu(today.user, today.window(u"f_new_round"_s),
-                                  today.twin(u"f_details_position_menu"_s));
+    today.pictures.save_picture_with_menu(today.user, today.window(u"f_new_round"_s),
+                                          today.twin(u"f_details_position_menu"_s));
     today.user.menu_key(Qt::Key_Down);
     today.user.menu_key(Qt::Key_Down);
     today.user.menu_key(Qt::Key_Return);
     next_shot(today);
 }
 
-void tell_shot_from_sand(day& today)
+void enter_shot_from_sand(day& today)
 {
     today.user.key(Qt::Key_Down, Qt::AltModifier);
     today.user.wait_for_menu(u"mSticks"_s);
-    today.pictures.keep_with_menu(today.user, today.window(u"f_new_round"_s),
-                                  today.twin(u"f_details_menu"_s));
+    today.pictures.save_picture_with_menu(today.user, today.window(u"f_new_round"_s),
+                                          today.twin(u"f_details_menu"_s));
     today.user.menu_type(u"s"_s);
     type_distance(today, u"5"_s);
     today.user.type(u"a"_s);
@@ -74,9 +74,9 @@ void tell_shot_from_sand(day& today)
     next_shot(today);
 }
 
-/// Two clubs begin with a P, so the letter opens the menu and comes to the putter with its second stroke.
-/// From there on distances are all there is to tell.
-void tell_putts(const day& today)
+/// Two clubs begin with a P, so the letter opens the menu, and the second P selects the putter. The following
+/// putts need only their distance.
+void enter_putts(const day& today)
 {
     today.user.type(u"p"_s);
     today.user.wait_for_menu(u"mSticks"_s);
@@ -87,8 +87,8 @@ void tell_putts(const day& today)
     expect_cursor(today, u"4,3"_s, u"the first putt"_s);
 }
 
-/// Behind a hole that ended in putts the first distance leads back to itself, two cells ahead of the kind.
-void begin_the_second_hole(const day& today)
+/// After a hole that ended in putts the cursor stays in the first distance, two cells before the kind.
+void enter_drive_of_second_hole(const day& today)
 {
     today.user.type(u"1"_s);
     type_distance(today, u"100"_s);
@@ -100,19 +100,19 @@ void begin_the_second_hole(const day& today)
 
 }  // namespace
 
-/// Leaving the hole is its end: the last putt, of which nothing is left, need not be told.
-void tell_hole_by_keys(day& today)
+/// The last putt needs no distance: leaving the hole completes it.
+void enter_hole_by_keys(day& today)
 {
     today.user.key(Qt::Key_2, Qt::ControlModifier);
     today.user.same(today.user.focus(), grid, u"focus on the detailed page"_s);
-    tell_drive(today);
-    tell_approach_to_the_right(today);
-    tell_shot_from_sand(today);
-    tell_putts(today);
-    today.keep(u"f_new_round"_s, u"f_details"_s);
+    enter_drive(today);
+    enter_approach_to_the_right(today);
+    enter_shot_from_sand(today);
+    enter_putts(today);
+    today.save_picture(u"f_new_round"_s, u"f_details"_s);
     today.user.key(Qt::Key_PageDown);
     today.user.same(today.user.selected(u"cmb_holes"_s), 1, u"hole on screen"_s);
-    begin_the_second_hole(today);
+    enter_drive_of_second_hole(today);
 }
 
 QString keyed_shots(const day& today)

@@ -4,12 +4,11 @@
 
 namespace verdane::guided_day {
 
-/// Tells the first hole of the round on screen in five shots, without the mouse: from the quick page to the
-/// grid, through every shot, and on to the second hole, of which it tells the drive. On the way pictures are
-/// kept of the grid and of open menus.
-void tell_hole_by_keys(day& today);
+/// Enters the five shots of the first hole of the open round without the mouse, starting on the quick page,
+/// and then the drive of the second hole. Saves pictures of the grid and of open menus.
+void enter_hole_by_keys(day& today);
 
-/// The five shots as they stand in the store then, a line each.
+/// The five shots as the store holds them afterwards, one line each.
 QString keyed_shots(const day& today);
 
 }  // namespace verdane::guided_day

@@ -6,9 +6,9 @@
 
 #include "shell/start_up.h"
 #include "tests/guided_day/day.h"
+#include "tests/guided_day/left_files.h"
 #include "tests/guided_day/season.h"
 #include "tests/guided_day/season_diary.h"
-#include "tests/guided_day/what_was_left.h"
 #include "tests/shell/program_run.h"
 
 using namespace verdane;
@@ -21,7 +21,7 @@ namespace {
 constexpr int not_chosen = 0;
 constexpr int french = 1;
 
-/// The folder named behind --to; empty without one.
+/// The folder after --to; empty without one.
 QString named_folder(const QStringList& arguments)
 {
     const auto place = arguments.indexOf(u"--to"_s);
@@ -31,18 +31,18 @@ QString named_folder(const QStringList& arguments)
 void play_day(day& today)
 {
     change_language(today);
-    look_around(today);
-    describe_course(today);
-    keep_partners(today);
-    play_round(today);
+    show_main_and_about_window(today);
+    enter_course(today);
+    add_partners(today);
+    enter_round(today);
     reopen_round(today);
     print_statistic(today);
     check_store(today);
-    tell_round(today);
+    enter_detailed_round(today);
     remove_round(today);
 }
 
-/// Two days, each in one language, of a golfer who starts with an empty diary.
+/// Two days, each in one language, starting with an empty diary.
 int play_both_days(album& pictures)
 {
     testing::program_run golfer(not_chosen);
@@ -50,11 +50,11 @@ int play_both_days(album& pictures)
         day morning{{true, user, pictures, golfer.store()},
                     testing::published_scorecard(u"Pebble Beach"_s, u"White"_s),
                     morning_round(),
-                    told_round(u"11"_s, u"50"_s)};
+                    detailed_round(u"11"_s, u"50"_s)};
         day afternoon{{false, user, pictures, golfer.store()},
                       testing::published_scorecard(u"North Berwick West Links"_s, u"Blue"_s),
                       afternoon_round(),
-                      told_round(u"17"_s, u"15"_s)};
+                      detailed_round(u"17"_s, u"15"_s)};
         choose_first_language(morning);
         play_day(morning);
         play_day(afternoon);
@@ -62,18 +62,18 @@ int play_both_days(album& pictures)
     });
 }
 
-/// The diary of a season, looked back on in both languages.
-int look_back(album& pictures)
+/// The reports on a season in both languages.
+int print_season(album& pictures)
 {
     testing::program_run golfer(french);
-    lay_down_season(golfer.store_path(), rounds_of_season);
+    create_season(golfer.store_path(), rounds_of_season);
     return golfer.play_through([&](testing::hand& user) {
         visit in_french{true, user, pictures, golfer.store()};
         visit in_english{false, user, pictures, golfer.store()};
         user.wait_for_window(u"MainForm"_s);
         for (visit* now : {&in_french, &in_english}) {
             change_language(*now);
-            keep_averages(*now);
+            store_averages(*now);
             print_scorecard(*now);
             print_statistics(*now);
         }
@@ -87,14 +87,14 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     prepare_application(application);
-    const QTemporaryDir otherwise;
+    const QTemporaryDir temporary;
     const QString named = named_folder(QCoreApplication::arguments());
-    const QDir folder(named.isEmpty() ? otherwise.path() : named);
+    const QDir folder(named.isEmpty() ? temporary.path() : named);
     folder.mkpath(u"."_s);
     album pictures(folder);
     int status = play_both_days(pictures);
     if (status == EXIT_SUCCESS)
-        status = look_back(pictures);
-    const bool complete = tell_what_was_left(pictures, !named.isEmpty());
+        status = print_season(pictures);
+    const bool complete = report_left_files(pictures, !named.isEmpty());
     return complete ? status : EXIT_FAILURE;
 }

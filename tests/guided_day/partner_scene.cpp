@@ -24,7 +24,7 @@ const std::vector<person>& people_of(const day& today)
     return today.french ? morning : afternoon;
 }
 
-/// Names and address are typed from the first column on.
+/// Types name, surname and city into a new row.
 void add_partner(day& today, const person& partner)
 {
     today.user.click(u"add"_s);
@@ -39,15 +39,15 @@ void add_partner(day& today, const person& partner)
 
 }  // namespace
 
-void keep_partners(day& today)
+void add_partners(day& today)
 {
     today.user.menu(u"mpartners"_s);
     today.user.wait_for_window(today.window(u"f_partners"_s));
     for (const person& partner : people_of(today))
         add_partner(today, partner);
-    // Leaving the last row commits it, which gives the partner a code.
+    // Leaving the last row commits it, and the commit gives the partner a code.
     today.user.key(Qt::Key_Up);
-    today.keep(u"f_partners"_s, u"f_partners"_s);
+    today.save_picture(u"f_partners"_s, u"f_partners"_s);
     today.user.click(u"cmdSave"_s);
     today.user.wait_until_gone(today.window(u"f_partners"_s));
     for (const person& partner : people_of(today)) {

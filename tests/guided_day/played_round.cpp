@@ -66,7 +66,7 @@ played_round afternoon_round()
              u"11210000000"_s, u"22210010000"_s, u"11110000000"_s}};
 }
 
-played_round told_round(const QString& hours, const QString& minutes)
+played_round detailed_round(const QString& hours, const QString& minutes)
 {
     return {today(),
             hours,

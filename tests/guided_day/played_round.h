@@ -6,8 +6,8 @@
 
 namespace verdane::guided_day {
 
-/// A round as it was played: for each hole the eleven figures in the order in which the quick page
-/// takes them (long, approach, putts; fairway, sand, missed, recovery; water, lost, rule, bounds).
+/// A round as the golfer enters it: for each hole the eleven figures in the order of the quick page (long,
+/// approach, putts; fairway, sand, missed, recovery; water, lost, rule, bounds).
 struct played_round {
     QString date;  ///< as in the key: "20260614"
     QString hours, minutes, seconds;
@@ -20,13 +20,13 @@ struct played_round {
     int gross() const;
 };
 
-/// A morning at 9:30:05 and an afternoon at 14:05:00, both of today. Hole 18 has no penalty: one typed
-/// there reaches the totals on the screen only with the next stroke.
+/// Rounds of today at 9:30:05 and at 14:05:00. Hole 18 has no penalty: a penalty typed there changes the
+/// totals on the screen only with the next stroke.
 played_round morning_round();
 played_round afternoon_round();
 
-/// A round of today whose first three holes are told shot by shot (see `tell_round`): their figures are what
-/// the shots come to.
-played_round told_round(const QString& hours, const QString& minutes);
+/// A round of today whose first three holes are entered shot by shot (`enter_detailed_round`); their figures
+/// are the sums of these shots.
+played_round detailed_round(const QString& hours, const QString& minutes);
 
 }  // namespace verdane::guided_day

@@ -7,8 +7,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The last moment of the day, so that the round stands last in every list. A shot of it is told.
-void start_round_in_the_dark(day& today)
+/// A round at the end of the day, which is the last one in every list. It has one shot.
+void add_last_round_of_day(day& today)
 {
     today.user.menu(u"mOpen"_s);
     tee_off(today, u"23"_s, u"59"_s, today.french ? u"58"_s : u"59"_s);
@@ -38,13 +38,13 @@ int rounds_stored(const day& today)
 void remove_round(day& today)
 {
     const int before = rounds_stored(today);
-    start_round_in_the_dark(today);
+    add_last_round_of_day(today);
     today.user.same(rounds_stored(today), before + 4, u"rows of another round"_s);
     today.user.menu(u"mnOPenr"_s);
     today.user.wait_for_window(today.window(u"f_games"_s));
     const int last = static_cast<int>(today.user.entries(u"List1"_s).size()) - 1;
     today.user.click_row(u"List1"_s, last);
-    today.keep(u"f_games"_s, u"f_games_removal"_s);
+    today.save_picture(u"f_games"_s, u"f_games_removal"_s);
     today.user.click(u"Command1_3"_s);
     today.answer(u"Attention : Toutes les données de cette ronde incluant les statistiques des bâtons et "
                  u"coups roulés seront supprimées. Voulez-vous continuer ?",
@@ -55,7 +55,7 @@ void remove_round(day& today)
     today.user.same(static_cast<int>(today.user.entries(u"List1"_s).size()), last, u"rounds in the list"_s);
     today.user.click(u"Command1_2"_s);
     today.user.wait_until_gone(today.window(u"f_games"_s));
-    today.user.same(rounds_stored(today), before, u"rows once it is removed"_s);
+    today.user.same(rounds_stored(today), before, u"rows after the removal"_s);
 }
 
 }  // namespace verdane::guided_day

@@ -20,39 +20,38 @@ bool begins_with(const QString& path, const QByteArray& bytes)
     return file.open(QIODevice::ReadOnly) && file.read(bytes.size()) == bytes;
 }
 
-/// Saves through one of the preview's buttons; the user's answer to the file chooser is a file of the album.
+/// Clicks a button that saves a file; the file dialog returns a path in the album.
 QString save(visit& now, const QString& button, const QString& file)
 {
-    const QString path = now.pictures.place_for(now.user, file);
+    const QString path = now.pictures.path_for(now.user, file);
     now.user.look([&] { dialogs_of_reports().choose_file = [path](auto*, const auto&) { return path; }; });
     now.user.click(button);
     now.user.wait_until(file, [&] { return QFile(path).size() > 0; });
     return path;
 }
 
-/// A window manager gives the keyboard to the window below one that was closed. The day is also played where
-/// there is none.
-void take_keyboard_back(visit& now)
+/// Without a window manager nothing activates the window below one that was closed.
+void activate_window_below(visit& now)
 {
     now.user.look([] { QApplication::activeModalWidget()->activateWindow(); });
 }
 
 }  // namespace
 
-void keep_report(visit& now, const QString& name)
+void save_report(visit& now, const QString& name)
 {
     now.user.wait_for_window(preview);
     now.user.same(now.user.title(preview), u"Verdane International Inc."_s, u"title of the report " + name);
     now.user.check(now.user.text(u"page_of_pages"_s).startsWith(u"Page 1 "_s),
-                   u"the preview begins with the first page of the report " + name);
-    now.pictures.keep(now.user, preview, now.twin(u"preview_" + name));
+                   u"the preview shows the first page of the report " + name);
+    now.pictures.save_picture(now.user, preview, now.twin(u"preview_" + name));
     const QString report = now.twin(u"report_" + name);
     const QString pdf = save(now, u"save_pdf"_s, report + u".pdf");
     now.user.check(begins_with(pdf, "%PDF-"), pdf + u" is no PDF file");
     save(now, u"save_csv"_s, report + u".csv");
     now.user.close_window(preview);
     now.user.wait_until_gone(preview);
-    take_keyboard_back(now);
+    activate_window_below(now);
 }
 
 }  // namespace verdane::guided_day

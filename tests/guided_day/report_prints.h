@@ -4,8 +4,8 @@
 
 namespace verdane::guided_day {
 
-/// The report that is about to open: keeps its preview as a picture, what it prints as PDF and its figures
-/// as CSV, all through the buttons of the preview, and closes it. `name` goes into the files' names.
-void keep_report(visit& now, const QString& name);
+/// Waits for the preview of a report, saves it as a picture, and by its buttons as PDF and CSV, and closes
+/// it. `name` is a part of the file names.
+void save_report(visit& now, const QString& name);
 
 }  // namespace verdane::guided_day

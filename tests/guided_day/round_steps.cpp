@@ -20,14 +20,14 @@ void type_holes(day& today, const played_round& round, int first_hole, int last_
     }
 }
 
-void keep_costs(day& today, int fee, int meal, const QString& picture)
+void enter_costs(day& today, int fee, int meal, const QString& picture)
 {
     today.user.click(u"Command2"_s);
     today.user.wait_for_window(today.window(u"f_cost"_s));
     today.user.fill(u"cost_0"_s, QString::number(fee));
     today.user.fill(u"cost_7"_s, QString::number(meal));
     if (!picture.isEmpty())
-        today.keep(u"f_cost"_s, picture);
+        today.save_picture(u"f_cost"_s, picture);
     today.user.click(u"OKButton"_s);
     today.user.wait_until_gone(today.window(u"f_cost"_s));
     today.user.same(today.user.text(u"text_7"_s), QString::number(fee + meal), u"costs of the round"_s);
@@ -41,7 +41,7 @@ void tee_off(day& today, const QString& hours, const QString& minutes, const QSt
     today.user.fill(u"Text2"_s, minutes);
     today.user.fill(u"Text3"_s, seconds);
     if (!picture.isEmpty())
-        today.pictures.keep(today.user, u"f_get_date"_s, today.twin(picture));
+        today.pictures.save_picture(today.user, u"f_get_date"_s, today.twin(picture));
     today.user.click(u"OKbut"_s);
     today.answer(
         u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",

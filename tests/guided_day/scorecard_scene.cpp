@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The course with the longest name is the one that might not fit.
+/// The row of the course with the longest name, which needs the most space.
 int row_of_longest_name(const QStringList& lines)
 {
     int row = 0;
@@ -27,9 +27,9 @@ void print_scorecard(visit& now)
     now.user.wait_for_window(now.window(u"f_carte"_s));
     const int row = row_of_longest_name(now.user.entries(u"List1"_s));
     now.user.click_row(u"List1"_s, row);
-    now.keep(u"f_carte"_s, u"f_carte"_s);
+    now.save_picture(u"f_carte"_s, u"f_carte"_s);
     now.user.click(u"Command1_0"_s);
-    keep_report(now, u"card"_s);
+    save_report(now, u"card"_s);
     now.user.same(now.store.number(u"select count(*) from r_card where card_name in "
                                    u"(select name from vrd_fields) and card_club_1 = "
                                    u"(select avg_1 from sticks)"_s),

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The kit plays its rounds day after day from 1 January 2023 on; nobody would call that a season.
-QStringList spread_over_the_year()
+/// `create_diary` makes a round for each day from 1 January 2023; these dates are five days apart.
+QStringList statements_for_dates()
 {
     QStringList statements;
     for (const char* table : {"games", "games2", "cost", "Stat_rounds"}) {
@@ -25,8 +25,8 @@ QStringList spread_over_the_year()
     return statements;
 }
 
-/// The words in which the scorecard prints the tees.
-QStringList named_tees()
+/// The names of the tees for the scorecard.
+QStringList statements_for_tees()
 {
     QStringList statements;
     for (const testing::scorecard& card : testing::published_scorecards()) {
@@ -38,11 +38,11 @@ QStringList named_tees()
 
 }  // namespace
 
-void lay_down_season(const QString& store_path, int rounds)
+void create_season(const QString& store_path, int rounds)
 {
     testing::create_diary(store_path, rounds, true);
     testing::clear_sixth_putts(store_path);
-    testing::reader(store_path).write(spread_over_the_year() + named_tees());
+    testing::reader(store_path).write(statements_for_dates() + statements_for_tees());
 }
 
 }  // namespace verdane::guided_day

@@ -31,9 +31,9 @@ void print(visit& now, const statistic& one)
     now.user.menu(one.menu);
     now.user.wait_for_window(now.window(u"f_date_range"_s));
     choose_season(now);
-    now.keep(u"f_date_range"_s, u"f_date_range_" + one.name);
+    now.save_picture(u"f_date_range"_s, u"f_date_range_" + one.name);
     now.user.click(one.button);
-    keep_report(now, one.name);
+    save_report(now, one.name);
     now.user.same(now.store.number(u"select round_count from %1 limit 1"_s.arg(one.table)), rounds_of_season,
                   u"rounds in the report on " + one.name);
     now.user.click(u"CancelButton"_s);

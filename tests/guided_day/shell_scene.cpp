@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 void choose_first_language(day& today)
 {
     today.user.wait_for_window(u"f_lang"_s);
-    today.pictures.keep(today.user, u"f_lang"_s, u"f_lang"_s);
+    today.pictures.save_picture(today.user, u"f_lang"_s, u"f_lang"_s);
     today.user.click(today.french ? u"Command1_1"_s : u"Command1_0"_s);
     today.user.wait_for_window(u"MainForm"_s);
 }
@@ -22,11 +22,11 @@ void change_language(visit& now)
     });
 }
 
-void look_around(day& today)
+void show_main_and_about_window(day& today)
 {
-    today.pictures.keep(today.user, u"MainForm"_s, today.twin(u"main"_s));
+    today.pictures.save_picture(today.user, u"MainForm"_s, today.twin(u"main"_s));
     today.user.menu(u"maprop"_s);
-    today.keep(u"f_about"_s, u"f_about"_s);
+    today.save_picture(u"f_about"_s, u"f_about"_s);
     today.user.click(u"cmdOK"_s);
     today.user.wait_until_gone(today.window(u"f_about"_s));
 }

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The statistic over this day's round alone: it stands last in both lists.
+/// Selects the round of this day, the last one of both lists.
 void choose_round(day& today)
 {
     const int last = static_cast<int>(today.user.entries(u"List1"_s).size()) - 1;
@@ -22,13 +22,13 @@ void print_statistic(day& today)
     today.user.menu(u"mnstatr"_s);
     today.user.wait_for_window(today.window(u"f_date_range"_s));
     choose_round(today);
-    today.keep(u"f_date_range"_s, u"f_date_range_day"_s);
+    today.save_picture(u"f_date_range"_s, u"f_date_range_day"_s);
     today.user.click(u"Command2"_s);
     today.answer(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies. Faite OK pour "
                  u"vérifier si des statistiques sommaires existent.",
                  u"Verdane could not find any detailed rounds with the chosen parameters. Click on OK to "
                  u"calculate summary statistics.");
-    keep_report(today, u"day"_s);
+    save_report(today, u"day"_s);
     today.user.click(u"CancelButton"_s);
     today.user.wait_until_gone(today.window(u"f_date_range"_s));
 }

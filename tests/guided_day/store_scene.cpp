@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The columns of a hole in the order in which the quick page takes its figures.
+/// The columns of a hole in the order of the quick page.
 QStringList columns_of(int hole)
 {
     QStringList columns;

@@ -12,24 +12,24 @@ namespace verdane::guided_day {
 
 using namespace Qt::StringLiterals;
 
-/// The program in one language: who uses it, what is seen, where it is kept.
+/// The program in one language, with its user, its store and the folder of the pictures.
 struct visit {
     bool french;
     testing::hand& user;
     album& pictures;
     testing::reader store;
 
-    /// The name of a window's twin.
+    /// The name of a window in this language.
     QString window(const QString& family) const { return french ? family : family + u"_en"; }
     QString words(QStringView in_french, QStringView in_english) const
     {
         return text_pair{in_french, in_english}.in(french);
     }
-    /// What is kept is named after what it shows and the language.
+    /// The name of a file in this language.
     QString twin(const QString& name) const { return name + (french ? u"_fr" : u"_en"); }
-    void keep(const QString& family, const QString& name) const
+    void save_picture(const QString& family, const QString& name) const
     {
-        pictures.keep(user, window(family), twin(name));
+        pictures.save_picture(user, window(family), twin(name));
     }
     void answer(QStringView in_french, QStringView in_english, QMessageBox::Icon icon = QMessageBox::NoIcon,
                 QMessageBox::StandardButtons buttons = QMessageBox::Ok,

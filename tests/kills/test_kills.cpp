@@ -11,10 +11,10 @@
 #include "base/language.h"
 #include "shell/start_up.h"
 #include "store/Connection1.h"
-#include "tests/kills/kept_round.h"
-#include "tests/kills/last_words.h"
-#include "tests/kills/starter.h"
-#include "tests/kills/victim.h"
+#include "tests/kills/expected_round.h"
+#include "tests/kills/hole_entering_run.h"
+#include "tests/kills/round_entering_run.h"
+#include "tests/kills/run_log.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/store_invariants.h"
 
@@ -25,9 +25,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int default_kills = 30;
-constexpr int longest_life_ms = 900;
-constexpr int longest_life_of_starter_ms = 3000;
-/// Each run needs minutes of its own in one day.
+constexpr int longest_run_ms = 900;
+constexpr int longest_run_of_rounds_ms = 3000;
+/// Each run uses other tee-off minutes of one day.
 constexpr int most_kills_of_new_rounds = 24 * 60 / rounds_of_a_run;
 
 int kills_wanted()
@@ -37,7 +37,7 @@ int kills_wanted()
     return given ? kills : default_kills;
 }
 
-QStringList a_bag_of_clubs()
+QStringList statements_for_club_names()
 {
     QStringList names;
     for (int club = 1; club <= 14; ++club)
@@ -45,35 +45,35 @@ QStringList a_bag_of_clubs()
     return {u"update sticknames set " + names.join(u", ")};
 }
 
-/// Starts this program again, lets it live for so long after it has said that it is under way, kills it and
-/// returns all that it said. A slow start makes no idle kill.
-QByteArray said_until_killed(const QStringList& arguments, int life_ms,
-                             const std::function<bool(const QByteArray&)>& is_busy)
+/// Starts this program again, waits until its output shows that it is busy, kills it `run_ms` milliseconds
+/// later and returns its output.
+QByteArray output_until_killed(const QStringList& arguments, int run_ms,
+                               const std::function<bool(const QByteArray&)>& is_busy)
 {
-    QProcess victim;
-    victim.start(QCoreApplication::applicationFilePath(), arguments);
-    victim.waitForStarted();
-    QElapsedTimer life;
-    QByteArray said;
-    while (!is_busy(said) && victim.state() == QProcess::Running && victim.waitForReadyRead(60000))
-        said += victim.readAllStandardOutput();
-    life.start();
-    while (life.elapsed() < life_ms && victim.state() == QProcess::Running) {
-        victim.waitForReadyRead(5);
-        said += victim.readAllStandardOutput();
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    process.waitForStarted();
+    QElapsedTimer run_time;
+    QByteArray output;
+    while (!is_busy(output) && process.state() == QProcess::Running && process.waitForReadyRead(60000))
+        output += process.readAllStandardOutput();
+    run_time.start();
+    while (run_time.elapsed() < run_ms && process.state() == QProcess::Running) {
+        process.waitForReadyRead(5);
+        output += process.readAllStandardOutput();
     }
-    victim.kill();
-    victim.waitForFinished();
-    return said + victim.readAllStandardOutput();
+    process.kill();
+    process.waitForFinished();
+    return output + process.readAllStandardOutput();
 }
 
-last_words killed_after(bool detailed, int life_ms, quint32 seed)
+run_log log_of_killed_run(bool detailed, int run_ms, quint32 seed)
 {
-    const QString role = detailed ? u"--teller"_s : u"--typist"_s;
-    return understood(said_until_killed({role, QString::number(seed)}, life_ms, is_under_way));
+    const QString role = detailed ? u"--shots"_s : u"--figures"_s;
+    return read_log(output_until_killed({role, QString::number(seed)}, run_ms, is_under_way));
 }
 
-/// The eleven figures of a hole of every round, in the order of the quick page, by the time of the round.
+/// The eleven figures of a hole of every round in the order of the quick page, by the time in the key.
 QMap<QString, QString> figures_of_rounds(const reader& store, int hole)
 {
     QMap<QString, QString> figures;
@@ -89,7 +89,7 @@ QMap<QString, QString> figures_of_rounds(const reader& store, int hole)
     return figures;
 }
 
-QString wanted_figures(int round, int hole)
+QString expected_figures(int round, int hole)
 {
     if (hole != 1 || !starts_with_shots(round))
         return figures_of_new_rounds;
@@ -99,7 +99,7 @@ QString wanted_figures(int round, int hole)
     return figures;
 }
 
-/// The shots of a round are stored before the round is: a kill may leave them without it.
+/// The shots of a round are stored before the round: after a kill there may be shots without a round.
 QStringList broken_invariants_of_new_rounds(const reader& store)
 {
     QStringList broken = broken_invariants(store);
@@ -116,30 +116,30 @@ class test_kills : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// On the quick page and on the detailed one by turns, in both languages, over one round.
+    /// Alternately on the quick page and on the detailed page, in both languages, in one round.
     void a_program_killed_at_any_moment_loses_no_committed_hole()
     {
         const int kills = kills_wanted();
         QRandomGenerator random(20260614);
-        program_run run(1, one_course() + one_round() + a_bag_of_clubs());
-        kept_round kept(run.store());
-        int left_by_typing = 0;
-        int left_by_telling = 0;
+        program_run run(1, one_course() + one_round() + statements_for_club_names());
+        expected_round expected(run.store());
+        int left_after_figures = 0;
+        int left_after_shots = 0;
         for (int kill = 0; kill < kills; ++kill) {
             const bool detailed = kill % 2 == 1;
             run.store().write(u"update settings set language = %1"_s.arg(1 + random.bounded(2)));
-            const int life_ms = random.bounded(longest_life_ms);
-            const last_words words = killed_after(detailed, life_ms, random.generate());
-            (detailed ? left_by_telling : left_by_typing) += words.holes_left();
+            const int run_ms = random.bounded(longest_run_ms);
+            const run_log log = log_of_killed_run(detailed, run_ms, random.generate());
+            (detailed ? left_after_shots : left_after_figures) += log.holes_left();
             QCOMPARE(run.store().text(u"pragma integrity_check"_s), u"ok"_s);
             QCOMPARE(broken_invariants(run.store()), QStringList());
-            QCOMPARE(kept.compare(words), QString());
-            start_again_and_look(run, kept, words);
+            QCOMPARE(expected.compare(log), QString());
+            restart_and_check(run, expected, log);
             if (QTest::currentTestFailed())
                 return;
         }
-        QVERIFY2(left_by_typing >= kills / 4, qPrintable(QString::number(left_by_typing)));
-        QVERIFY2(left_by_telling >= kills / 4, qPrintable(QString::number(left_by_telling)));
+        QVERIFY2(left_after_figures >= kills / 4, qPrintable(QString::number(left_after_figures)));
+        QVERIFY2(left_after_shots >= kills / 4, qPrintable(QString::number(left_after_shots)));
     }
 
     /// The first save of a round stores its three rows and the figures of its first hole.
@@ -147,18 +147,18 @@ private Q_SLOTS:
     {
         const int kills = std::min(std::max(kills_wanted() / 4, 1), most_kills_of_new_rounds);
         QRandomGenerator random(20260615);
-        const program_run run(2, one_course() + a_bag_of_clubs());
+        const program_run run(2, one_course() + statements_for_club_names());
         std::size_t holes_left = 0;
         for (int kill = 0; kill < kills; ++kill) {
             const int first_round = kill * rounds_of_a_run;
-            const QByteArray said = said_until_killed(
-                {u"--starter"_s, QString::number(first_round)}, random.bounded(longest_life_of_starter_ms),
-                [](const QByteArray& words) { return words.contains("ready"); });
+            const QByteArray output = output_until_killed(
+                {u"--rounds"_s, QString::number(first_round)}, random.bounded(longest_run_of_rounds_ms),
+                [](const QByteArray& log) { return log.contains("ready"); });
             QCOMPARE(run.store().text(u"pragma integrity_check"_s), u"ok"_s);
             QCOMPARE(broken_invariants_of_new_rounds(run.store()), QStringList());
-            const std::vector<left_hole> left = left_holes(said);
+            const std::vector<left_hole> left = left_holes(output);
             holes_left += left.size();
-            look_at_new_rounds(run.store(), first_round, left);
+            check_new_rounds(run.store(), first_round, left);
             if (QTest::currentTestFailed())
                 return;
         }
@@ -166,46 +166,46 @@ private Q_SLOTS:
     }
 
 private:
-    /// A hole that was left has its figures. A round without its first hole is not stored at all.
-    static void look_at_new_rounds(const reader& store, int first_round, const std::vector<left_hole>& left)
+    /// A hole that was left has its figures. A round without its first hole is not stored.
+    static void check_new_rounds(const reader& store, int first_round, const std::vector<left_hole>& left)
     {
         const auto first_holes = figures_of_rounds(store, 1);
         const auto second_holes = figures_of_rounds(store, 2);
         for (const left_hole& each : left) {
             const auto& holes = each.hole == 1 ? first_holes : second_holes;
-            QCOMPARE(holes.value(time_of_round(each.round)), wanted_figures(each.round, each.hole));
+            QCOMPARE(holes.value(time_of_round(each.round)), expected_figures(each.round, each.hole));
         }
         for (int round = first_round; round < first_round + rounds_of_a_run; ++round) {
             const QString time = time_of_round(round);
             if (!first_holes.contains(time))
                 continue;
-            QCOMPARE(first_holes[time], wanted_figures(round, 1));
+            QCOMPARE(first_holes[time], expected_figures(round, 1));
             const QString second = second_holes[time];
-            QVERIFY2(second == wanted_figures(round, 2) || second == u"00000000000", qPrintable(second));
+            QVERIFY2(second == expected_figures(round, 2) || second == u"00000000000", qPrintable(second));
         }
     }
 
-    /// The program opens again and shows what is stored, of a hole that was left or else of the last one.
-    static void start_again_and_look(program_run& run, const kept_round& kept, const last_words& words)
+    /// The program starts and shows the stored figures of a hole that was left, or else of the last hole.
+    static void restart_and_check(program_run& run, const expected_round& expected, const run_log& log)
     {
         int hole = 18;
-        if (!words.typed.isEmpty())
-            hole = words.typed.lastKey();
-        if (!words.told.isEmpty())
-            hole = words.told.lastKey();
+        if (!log.typed.isEmpty())
+            hole = log.typed.lastKey();
+        if (!log.entered.isEmpty())
+            hole = log.entered.lastKey();
         const int status = run.play_through([&](hand& user) {
             open_the_round(user);
             user.click_tab(u"TabStrip1"_s, hole);
-            look_at_boxes(user, kept.hole(hole));
-            if (kept.is_told(hole))
-                look_at_shots(user, kept.hole(hole).shots);
+            check_boxes(user, expected.hole(hole));
+            if (expected.is_entered(hole))
+                check_shots(user, expected.hole(hole).shots);
             leave_unchanged(user);
             user.menu(u"mQuit"_s);
         });
         QCOMPARE(status, 0);
     }
 
-    static void look_at_boxes(hand& user, const stored_hole& hole)
+    static void check_boxes(hand& user, const stored_hole& hole)
     {
         const QStringList boxes{u"text_vrd_0"_s, u"text_vrd_1"_s, u"text_vrd_2"_s, u"text_p_3"_s,
                                 u"text_p_4"_s,   u"text_p_5"_s,   u"text_p_6"_s,   u"text_s_8"_s,
@@ -215,7 +215,7 @@ private:
                       boxes[place]);
     }
 
-    static void look_at_shots(hand& user, const stored_shots& shots)
+    static void check_shots(hand& user, const stored_shots& shots)
     {
         const QString grid = u"details"_s;
         user.click_tab(u"TabStrip2"_s, 2);
@@ -242,10 +242,10 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     prepare_application(application);
     const QStringList arguments = application.arguments();
-    if (arguments.value(1) == u"--typist" || arguments.value(1) == u"--teller")
-        return be_the_victim(arguments.at(1) == u"--teller", arguments.at(2).toUInt());
-    if (arguments.value(1) == u"--starter")
-        return be_the_starter(arguments.at(2).toInt());
+    if (arguments.value(1) == u"--figures" || arguments.value(1) == u"--shots")
+        return run_entering_holes(arguments.at(1) == u"--shots", arguments.at(2).toUInt());
+    if (arguments.value(1) == u"--rounds")
+        return run_entering_rounds(arguments.at(2).toInt());
     test_kills test;
     return QTest::qExec(&test, argc, argv);
 }

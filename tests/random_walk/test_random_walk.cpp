@@ -17,11 +17,11 @@ using verdane::testing::walker;
 
 namespace {
 
-int from_environment(const char* name, int otherwise)
+int from_environment(const char* name, int default_value)
 {
     bool given = false;
     const int value = qEnvironmentVariableIntValue(name, &given);
-    return given ? value : otherwise;
+    return given ? value : default_value;
 }
 
 }  // namespace
@@ -32,7 +32,7 @@ class test_random_walk : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void thousands_of_keys_and_clicks_leave_a_sound_store_that_holds_what_was_shown()
+    void after_thousands_of_keys_and_clicks_the_store_is_valid_and_holds_the_shown_figures()
     {
         const int steps = from_environment("VERDANE_WALK_STEPS", 3000);
         const int seed = from_environment("VERDANE_WALK_SEED", 20260614);
@@ -43,7 +43,7 @@ private Q_SLOTS:
             user.wait_for_window(u"MainForm"_s);
             walker golfer(user, run.store(), static_cast<quint32>(seed));
             golfer.walk(steps);
-            golfer.go_home();
+            golfer.close_all_windows();
             compared = golfer.holes_compared();
             answered = golfer.boxes_answered();
             user.menu(u"mQuit"_s);

@@ -46,7 +46,7 @@ void walker::walk(int steps)
         step();
 }
 
-QString walker::window_at_work()
+QString walker::window_on_top()
 {
     QString name;
     user_.look([&] {
@@ -58,8 +58,8 @@ QString walker::window_at_work()
 
 void walker::step()
 {
-    keep_room_for_keys();
-    const QString window = window_at_work();
+    reset_round_keys();
+    const QString window = window_on_top();
     if (window == u"message_box")
         answer_box();
     else if (window == u"MainForm")
@@ -71,11 +71,11 @@ void walker::step()
     else if (window == u"f_new_round")
         step_in_round_window();
     else
-        user_.fail(u"the walk came to a window that it does not know: " + window);
+        user_.fail(u"the walk has no steps for the window " + window);
 }
 
-/// Each save takes one of the 366 places for keys, as long as the program runs: a walk is long.
-void walker::keep_room_for_keys()
+/// Each save uses one of the 366 entries for keys until the program ends, and a walk saves more often.
+void walker::reset_round_keys()
 {
     user_.look([] {
         if (Main_module::round_key_count > 300)
@@ -111,10 +111,10 @@ void walker::step_in_round_window()
         user_.key(Qt::Key_Escape);
         return;
     case 4:
-        click_if_there(u"Command4"_s);
+        click_if_enabled(u"Command4"_s);
         return;
     case 5:
-        click_if_there(u"Command2"_s);
+        click_if_enabled(u"Command2"_s);
         return;
     case 6:
     case 7:
@@ -155,7 +155,7 @@ void walker::step_on_quick_page()
     }
 }
 
-/// A digit where a box of the hole has the focus: elsewhere a key might leave the hole unseen.
+/// Types a digit into a box of the hole. With the focus elsewhere a key could leave the hole unnoticed.
 void walker::press_some_key()
 {
     if (!user_.focus().startsWith(u"text_"))
@@ -167,13 +167,13 @@ void walker::step_on_detailed_page()
 {
     switch (one_of(8)) {
     case 0:
-        click_if_there(u"CommandSuiv"_s);
+        click_if_enabled(u"CommandSuiv"_s);
         break;
     case 1:
-        click_if_there(u"CommandSup"_s);
+        click_if_enabled(u"CommandSup"_s);
         break;
     case 2:
-        click_if_there(u"b_carte"_s);
+        click_if_enabled(u"b_carte"_s);
         break;
     case 3:
     case 4:
@@ -185,14 +185,14 @@ void walker::step_on_detailed_page()
     }
 }
 
-void walker::click_if_there(const QString& control)
+void walker::click_if_enabled(const QString& control)
 {
-    bool there = false;
+    bool enabled = false;
     user_.look([&] {
         QWidget* found = find_control(control);
-        there = found && found->isVisible() && found->isEnabled();
+        enabled = found && found->isVisible() && found->isEnabled();
     });
-    if (there)
+    if (enabled)
         user_.click(control);
 }
 
@@ -226,18 +226,18 @@ void walker::choose_from_menu()
 void walker::change_hole()
 {
     const bool quick = on_quick_page();
-    const int left = hole_shown();
+    const int left = shown_hole();
     const QString shown = boxes();
     const int wanted = 1 + one_of(18);
-    // Choosing the hole that is shown in the list is no change, and saves nothing.
+    // Choosing the shown hole in the list is no change and saves nothing.
     if (one_of(3) == 0 && quick && wanted != left)
         user_.choose(u"cmb_holes"_s, wanted - 1);
     else
         user_.click_tab(u"TabStrip1"_s, wanted);
-    if (!quick || window_at_work() != u"f_new_round")
+    if (!quick || window_on_top() != u"f_new_round")
         return;
-    compare_hole(boxes(), hole_shown());
-    if (hole_shown() != left)
+    compare_hole(boxes(), shown_hole());
+    if (shown_hole() != left)
         compare_hole(shown, left);
 }
 
@@ -252,7 +252,7 @@ bool walker::on_quick_page()
     return user_.visible(u"Frame5_0"_s);
 }
 
-int walker::hole_shown()
+int walker::shown_hole()
 {
     int hole = 0;
     user_.look([&] { hole = round_window()->text(40).text().toInt(); });
@@ -290,22 +290,22 @@ QString walker::stored_hole(int hole)
     return figures.join(u' ');
 }
 
-/// An incomplete shot keeps the window from closing, from the quick page too, and so does the blank row
-/// that a hole without shots starts with, until the quick page takes it away.
+/// An incomplete shot prevents the window from closing, on both pages; so does the blank row of a hole
+/// without shots, until the quick page removes it.
 void walker::remove_a_shot()
 {
     if (!on_quick_page() && one_of(2) == 0)
-        click_if_there(u"CommandSup"_s);
+        click_if_enabled(u"CommandSup"_s);
     else
         user_.click_tab(u"TabStrip2"_s, on_quick_page() ? 2 : 1);
 }
 
-void walker::go_home()
+void walker::close_all_windows()
 {
-    int patience = 400;
-    for (QString window = window_at_work(); window != u"MainForm"; window = window_at_work()) {
-        if (--patience == 0)
-            user_.fail(u"there is no way out of %1, the keyboard is with %2"_s.arg(window, user_.focus()));
+    int steps_left = 400;
+    for (QString window = window_on_top(); window != u"MainForm"; window = window_on_top()) {
+        if (--steps_left == 0)
+            user_.fail(u"%1 cannot be closed, the focus is in %2"_s.arg(window, user_.focus()));
         if (window == u"message_box")
             answer_box();
         else if (window == u"f_new_round" && one_of(2) == 0)

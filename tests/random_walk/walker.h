@@ -8,16 +8,16 @@
 
 namespace verdane::testing {
 
-/// Someone who presses keys and clicks controls of the round window at random, and answers whatever box
-/// comes up at random. Whenever a hole comes on the quick page, its boxes must show what is stored, and
-/// what the boxes of the hole before showed must have been stored.
+/// Presses random keys, clicks random controls of the round window and random buttons of message boxes.
+/// Whenever the quick page shows another hole, the boxes must show the stored figures, and the figures of the
+/// previous hole must have been stored.
 class walker {
 public:
     walker(hand& user, const reader& store, quint32 seed);
 
     void walk(int steps);
-    /// Out of every window, whatever it asks, back to the main window.
-    void go_home();
+    /// Closes windows and message boxes until only the main window is open.
+    void close_all_windows();
 
     int holes_compared() const { return holes_compared_; }
     int boxes_answered() const { return boxes_answered_; }
@@ -29,21 +29,21 @@ private:
     void step_on_quick_page();
     void step_on_detailed_page();
     void press_some_key();
-    void click_if_there(const QString& control);
+    void click_if_enabled(const QString& control);
     void change_hole();
     void type_distance();
     void choose_from_menu();
     void remove_a_shot();
     void compare_hole(const QString& shown, int hole);
-    void keep_room_for_keys();
+    void reset_round_keys();
 
     int one_of(int count) { return static_cast<int>(random_.bounded(count)); }
     bool on_quick_page();
-    int hole_shown();
-    /// The eleven boxes of the hole on screen, as numbers.
+    int shown_hole();
+    /// The eleven boxes of the shown hole, as numbers.
     QString boxes();
     QString stored_hole(int hole);
-    QString window_at_work();
+    QString window_on_top();
 
     hand& user_;
     const reader& store_;

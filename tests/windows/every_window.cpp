@@ -54,6 +54,7 @@ steps choose_course_page(int page)
         user.click_row(u"List1"_s, static_cast<int>(user.entries(u"List1"_s).size()) - 1);
         user.click(u"Command1_0"_s);
         user.wait_for_window(name_in(is_french, u"f_courses"_s));
+        user.same(user.text(u"lbl_total"_s), u"-32760"_s, u"the longest total"_s);
         user.click_tab(u"TabStrip1"_s, page);
     };
 }

@@ -1,4 +1,8 @@
 #include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTest>
@@ -83,6 +87,21 @@ QStringList missing_buttons(const QWidget& window)
             missing << name + u" is not completely visible";
     }
     return missing;
+}
+
+/// In a window that does not scroll nothing is cut off: its labels, buttons, frames and boxes that are not
+/// completely visible.
+QStringList cut_off_controls(const QWidget& window)
+{
+    QStringList cut_off;
+    for (const QWidget* control : scrolls(window) ? QList<QWidget*>() : window.findChildren<QWidget*>()) {
+        const bool has_text =
+            qobject_cast<const QLabel*>(control) || qobject_cast<const QPushButton*>(control) ||
+            qobject_cast<const QGroupBox*>(control) || qobject_cast<const QLineEdit*>(control);
+        if (has_text && control->isVisible() && visible_part(*control) != control->size())
+            cut_off << control->objectName() + u" is cut off";
+    }
+    return cut_off;
 }
 
 QStringList size_faults(const QWidget& window)
@@ -172,7 +191,8 @@ QStringList faults_of(hand& user, const QString& window)
     QStringList faults;
     user.look([&] {
         QWidget& seen = *visible_window(window);
-        faults << size_faults(seen) << missing_buttons(seen) << unreachable_tabs(seen);
+        faults << size_faults(seen) << missing_buttons(seen) << cut_off_controls(seen)
+               << unreachable_tabs(seen);
         for (const QString& clipped : clipped_controls_of(seen))
             faults << clipped + u" is clipped";
         faults << missing_when_small(seen);

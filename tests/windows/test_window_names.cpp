@@ -89,6 +89,14 @@ const QHash<QString, QList<accessible_name>>& names()
           {u"qt_calendar_prevmonth"_s, u"Mois précédent"_s, u"Previous month"_s},
           {u"qt_calendar_calendarview"_s, u"Jours"_s, u"Days"_s}}},
         {u"f_date_range for rounds"_s, {{u"pList"_s, u"Partenaire"_s, u"Partners"_s}}},
+        {u"f_sticks with filters"_s,
+         {{u"sn_0"_s, u"Nom du bâton 1"_s, u"Club name 1"_s},
+          {u"Text1_13"_s, u"Moyenne du bâton 14"_s, u"Club average 14"_s},
+          {u"List1"_s, u"De..."_s, u"From..."_s},
+          {u"List2"_s, u"À..."_s, u"To..."_s},
+          {u"conditions"_s, u"Conditions atmosphériques"_s, u"Weather Conditions"_s},
+          {u"pList"_s, u"Partenaire"_s, u"Partners"_s},
+          {u"cmb_courses"_s, u"Terrain"_s, u"Golf Course"_s}}},
         {u"f_courses page 1"_s, {{u"departure"_s, u"Départ"_s, u"Teeing Area"_s}}},
     };
     return all;

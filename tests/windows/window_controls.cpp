@@ -20,7 +20,7 @@ namespace {
 /// Parts that the toolkit makes for its own controls.
 bool is_part_of_control(const QWidget& control)
 {
-    return control.objectName().startsWith(u"qt_") || !control.parentWidget();
+    return control.objectName().startsWith(u"qt_") || qobject_cast<const QTabBar*>(control.parentWidget());
 }
 
 /// The captions of a window, collected one after the other.
@@ -28,18 +28,26 @@ class caption_list {
 public:
     void add(const QString& name, const QString& caption)
     {
-        if (std::any_of(caption.begin(), caption.end(), [](QChar character) { return character.isLetter(); }))
+        const auto has = [&caption](bool (QChar::*kind)() const) {
+            return std::any_of(caption.begin(), caption.end(), [kind](QChar each) { return (each.*kind)(); });
+        };
+        const bool is_figure = has(&QChar::isDigit) && !has(&QChar::isLetter);
+        if (!is_figure && !caption.trimmed().isEmpty() && !name.startsWith(u"qt_"))
             lines_ << name + u'=' + caption;
     }
     void add_tabs(const QTabBar& tabs)
     {
+        QStringList captions;
         for (int tab = 0; tab < tabs.count(); ++tab)
-            add(tabs.objectName(), tabs.tabText(tab));
+            captions << tabs.tabText(tab);
+        add(tabs.objectName(), captions.join(u'|'));
     }
     void add_columns(const QTableView& grid)
     {
+        QStringList captions;
         for (int column = 0; column < grid.model()->columnCount(); ++column)
-            add(grid.objectName(), grid.model()->headerData(column, Qt::Horizontal).toString());
+            captions << grid.model()->headerData(column, Qt::Horizontal).toString();
+        add(grid.objectName(), captions.join(u'|'));
     }
     void add_menu(const QAction& entry)
     {
@@ -47,12 +55,7 @@ public:
         for (const QAction* below : entry.menu() ? entry.menu()->actions() : QList<QAction*>())
             add_menu(*below);
     }
-    QStringList sorted() const
-    {
-        QStringList lines = lines_;
-        lines.sort();
-        return lines;
-    }
+    const QStringList& lines() const { return lines_; }
 
 private:
     QStringList lines_;
@@ -64,9 +67,13 @@ QStringList controls_of(const QWidget& window)
 {
     QStringList lines;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
-        if (!control->objectName().isEmpty() && !is_part_of_control(*control))
-            lines << control->objectName() + u' ' + QLatin1StringView(control->metaObject()->className()) +
-                         (control->isVisibleTo(&window) ? u" visible" : u"");
+        if (control->objectName().isEmpty() || is_part_of_control(*control))
+            continue;
+        // The main window has a picture for each language and shows one of them.
+        const bool depends_on_language = control->objectName().startsWith(u"Picture");
+        const bool visible = !depends_on_language && control->isVisibleTo(&window);
+        lines << control->objectName() + u' ' + QLatin1StringView(control->metaObject()->className()) +
+                     (visible ? u" visible" : u"");
     }
     lines.sort();
     return lines;
@@ -76,11 +83,9 @@ QStringList unnamed_controls_of(const QWidget& window)
 {
     QStringList unnamed;
     for (const QWidget* control : window.findChildren<QWidget*>()) {
-        const auto* label = qobject_cast<const QLabel*>(control);
-        if (control->objectName().isEmpty() &&
-            (control->focusPolicy() != Qt::NoFocus || (label && label->buddy())))
-            unnamed << QString::fromLatin1(control->metaObject()->className()) +
-                           (label ? u' ' + label->text() : QString());
+        if (control->objectName().isEmpty() && control->focusPolicy() != Qt::NoFocus &&
+            control->window() == &window)
+            unnamed << QString::fromLatin1(control->metaObject()->className());
     }
     return unnamed;
 }
@@ -103,7 +108,7 @@ QStringList captions_of(const QWidget& window)
         for (const QAction* entry : bar->actions())
             captions.add_menu(*entry);
     }
-    return captions.sorted();
+    return captions.lines();
 }
 
 }  // namespace verdane::testing

@@ -1,4 +1,4 @@
-#include "tests/kills/starter.h"
+#include "tests/kills/round_entering_run.h"
 
 #include <QApplication>
 
@@ -6,7 +6,7 @@
 
 #include "base/language.h"
 #include "shell/start_up.h"
-#include "tests/kills/victim.h"
+#include "tests/kills/hole_entering_run.h"
 #include "tests/support/hand.h"
 
 namespace verdane::testing {
@@ -17,7 +17,7 @@ namespace {
 
 const QString hole_tabs = u"TabStrip1"_s;
 
-/// Every round is teed off in a minute of its own.
+/// The tee-off times of rounds differ by at least a minute.
 void tee_off(hand& user, int round)
 {
     user.menu(u"mOpen"_s);
@@ -73,9 +73,9 @@ bool starts_with_shots(int round)
     return round % 2 == 0;
 }
 
-told_hole first_shots()
+entered_hole first_shots()
 {
-    return hole_of(u"1,200,1,2,0,0;9,10,2,1,0,0;14,0,3,1,0,0"_s);
+    return hole_from(u"1,200,1,2,0,0;9,10,2,1,0,0;14,0,3,1,0,0"_s);
 }
 
 QString time_of_round(int round)
@@ -84,20 +84,20 @@ QString time_of_round(int round)
     return hour_and_minute.arg(round / 60, 2, 10, QChar(u'0')).arg(round % 60, 2, 10, QChar(u'0')) + u"00";
 }
 
-std::vector<left_hole> left_holes(const QByteArray& said)
+std::vector<left_hole> left_holes(const QByteArray& output)
 {
     std::vector<left_hole> holes;
     // The kill may have cut the last line short.
-    const QByteArray whole_lines = said.left(said.lastIndexOf('\n') + 1);
+    const QByteArray whole_lines = output.left(output.lastIndexOf('\n') + 1);
     for (const QByteArray& line : whole_lines.split('\n')) {
-        const QList<QByteArray> words = line.split(' ');
-        if (words.size() == 3 && words[0] == "left")
-            holes.push_back({words[1].toInt(), words[2].toInt()});
+        const QList<QByteArray> log = line.split(' ');
+        if (log.size() == 3 && log[0] == "left")
+            holes.push_back({log[1].toInt(), log[2].toInt()});
     }
     return holes;
 }
 
-int be_the_starter(int first_round)
+int run_entering_rounds(int first_round)
 {
     int status = -1;
     play([&] { status = run_verdane(*qApp); },

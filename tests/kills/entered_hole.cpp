@@ -1,4 +1,4 @@
-#include "tests/kills/told_hole.h"
+#include "tests/kills/entered_hole.h"
 
 #include <QStringList>
 
@@ -16,11 +16,11 @@ constexpr int feet_in_a_yard = 3;
 constexpr int values_of_a_shot = 6;
 
 /// A tee shot, some more and one that reaches the green or the hole.
-void play_to_the_green(told_hole& hole, QRandomGenerator& random, bool holed)
+void play_to_the_green(entered_hole& hole, QRandomGenerator& random, bool holed)
 {
     const int shots = random.bounded(1, 4);
     for (int left = shots; left > 0; --left) {
-        told_shot shot;
+        entered_shot shot;
         shot.club = random.bounded(1, putter);
         shot.kind = left == shots ? long_shot : random.bounded(1, 3);
         shot.distance = left == 1 ? (holed ? 0 : random.bounded(1, 40)) : random.bounded(50, 300);
@@ -31,26 +31,26 @@ void play_to_the_green(told_hole& hole, QRandomGenerator& random, bool holed)
     }
 }
 
-bool is_putt(const told_shot& shot)
+bool is_putt(const entered_shot& shot)
 {
     return shot.kind == putt;
 }
 
-/// The place of the first putt; behind the last shot when there is none.
-std::size_t first_putt(const told_hole& hole)
+/// The index of the first putt, or the number of shots if there is none.
+std::size_t first_putt(const entered_hole& hole)
 {
     return static_cast<std::size_t>(std::find_if(hole.begin(), hole.end(), is_putt) - hole.begin());
 }
 
-stored_shot stored(const told_shot& shot, int number)
+stored_shot stored(const entered_shot& shot, int number)
 {
     const bool on_the_green = is_putt(shot);
     return {number,       shot.club, shot.kind, shot.distance, on_the_green, on_the_green ? 0 : shot.position,
             shot.penalty, shot.sand};
 }
 
-/// As told, whichever unit the shot ahead of the first putt stands in.
-bool agrees(const stored_shot& row, const told_shot& shot)
+/// Whether a row holds the shot. The distance before the first putt may be in yards or feet.
+bool agrees(const stored_shot& row, const entered_shot& shot)
 {
     stored_shot wanted = stored(shot, row.number);
     if (row.in_feet && !is_putt(shot)) {
@@ -60,10 +60,10 @@ bool agrees(const stored_shot& row, const told_shot& shot)
     return row == wanted;
 }
 
-/// As born, or with some of what was told.
-bool is_beginning_of(const stored_shot& row, const told_shot& shot)
+/// Whether a row has the default values or some values of the shot.
+bool is_beginning_of(const stored_shot& row, const entered_shot& shot)
 {
-    const auto either = [](int value, int unset, int told) { return value == unset || value == told; };
+    const auto either = [](int value, int unset, int entered) { return value == unset || value == entered; };
     const bool distance =
         either(row.after, 0, shot.distance) || (row.in_feet && row.after == feet_in_a_yard * shot.distance);
     return either(row.club, 0, shot.club) && either(row.kind, 0, shot.kind) && distance &&
@@ -129,9 +129,9 @@ QString joined(const Numbers& numbers)
 
 }  // namespace
 
-told_hole random_hole(QRandomGenerator& random)
+entered_hole random_hole(QRandomGenerator& random)
 {
-    told_hole hole;
+    entered_hole hole;
     const int putts = random.bounded(4);
     play_to_the_green(hole, random, putts == 0);
     for (int left = putts; left > 0; --left)
@@ -139,10 +139,10 @@ told_hole random_hole(QRandomGenerator& random)
     return hole;
 }
 
-QString word_of(const told_hole& hole)
+QString text_of(const entered_hole& hole)
 {
     QStringList shots;
-    for (const told_shot& shot : hole)
+    for (const entered_shot& shot : hole)
         shots << u"%1,%2,%3,%4,%5,%6"_s.arg(shot.club)
                      .arg(shot.distance)
                      .arg(shot.kind)
@@ -152,9 +152,9 @@ QString word_of(const told_hole& hole)
     return shots.join(u';');
 }
 
-told_hole hole_of(const QString& word)
+entered_hole hole_from(const QString& word)
 {
-    told_hole hole;
+    entered_hole hole;
     for (const QString& shot : word.split(u';')) {
         const QStringList values = shot.split(u',');
         if (values.size() != values_of_a_shot)
@@ -165,13 +165,13 @@ told_hole hole_of(const QString& word)
     return hole;
 }
 
-stored_hole outcome_of(const told_hole& hole)
+stored_hole outcome_of(const entered_hole& hole)
 {
-    // Places among the figures: three kinds and four penalties stand in the order of their codes.
+    // Indices among the figures: three kinds and four penalties are in the order of their codes.
     constexpr std::size_t kinds = 0, fairway = 3, sand = 4, penalties = 7;
     stored_hole outcome;
     for (std::size_t i = 0; i < hole.size(); ++i) {
-        const told_shot& shot = hole[i];
+        const entered_shot& shot = hole[i];
         outcome.shots.push_back(stored(shot, static_cast<int>(i) + 1));
         ++outcome.figures[kinds + static_cast<std::size_t>(shot.kind) - 1];
         outcome.figures[fairway] += !is_putt(shot) && shot.position == in_the_fairway ? 1 : 0;
@@ -207,15 +207,15 @@ stored_hole read_hole(const reader& store, int hole)
 
 QString described(const stored_hole& hole)
 {
-    QString words = joined(hole.figures) + u" | " + joined(hole.putts);
+    QString log = joined(hole.figures) + u" | " + joined(hole.putts);
     for (const stored_shot& shot : hole.shots)
-        words += u" | " + joined(std::array{shot.number, shot.club, shot.kind, shot.after,
-                                            static_cast<int>(shot.in_feet), shot.position, shot.penalty,
-                                            static_cast<int>(shot.sand)});
-    return words;
+        log += u" | " + joined(std::array{shot.number, shot.club, shot.kind, shot.after,
+                                          static_cast<int>(shot.in_feet), shot.position, shot.penalty,
+                                          static_cast<int>(shot.sand)});
+    return log;
 }
 
-bool is_start_of(const stored_shots& rows, const told_hole& hole)
+bool is_start_of(const stored_shots& rows, const entered_hole& hole)
 {
     if (rows.empty())
         return true;

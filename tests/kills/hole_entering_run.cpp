@@ -1,4 +1,4 @@
-#include "tests/kills/victim.h"
+#include "tests/kills/hole_entering_run.h"
 
 #include <QApplication>
 #include <QRandomGenerator>
@@ -7,7 +7,7 @@
 #include "base/Main_module.h"
 #include "scoring/shot_words.h"
 #include "shell/start_up.h"
-#include "tests/kills/last_words.h"
+#include "tests/kills/run_log.h"
 
 namespace verdane::testing {
 
@@ -36,8 +36,8 @@ bool is_blank(hand& user)
     return user.grid_rows(grid) == 1 && user.cell(grid, 0, column::club).isEmpty();
 }
 
-/// Takes away what was told of the hole, the last shot first, so that no check stumbles over it.
-void start_anew(hand& user)
+/// Removes the shots of the hole. The last one first, so that no check refuses the removal.
+void clear_hole(hand& user)
 {
     if (is_blank(user))
         return;
@@ -48,7 +48,7 @@ void start_anew(hand& user)
     user.click(u"CommandSuiv"_s);
 }
 
-void type_distance(hand& user, const told_shot& shot)
+void type_distance(hand& user, const entered_shot& shot)
 {
     if (shot.distance == 0)
         return;
@@ -56,7 +56,7 @@ void type_distance(hand& user, const told_shot& shot)
     user.key(Qt::Key_Return);
 }
 
-void tell_shot(hand& user, int row, const told_shot& shot)
+void enter_shot(hand& user, int row, const entered_shot& shot)
 {
     choose(user, row, column::club, u"ms1_%1"_s.arg(shot.club));
     type_distance(user, shot);
@@ -71,26 +71,25 @@ void tell_shot(hand& user, int row, const told_shot& shot)
         choose(user, row, column::sand, u"mb_0"_s);
 }
 
-/// Behind the first putt the rows come by themselves, with the putter chosen.
-void tell_hole(hand& user, int hole, const told_hole& shots)
+/// After the first putt the program adds the rows, with the putter chosen.
+void enter_hole_shots(hand& user, int hole, const entered_hole& shots)
 {
     for (std::size_t i = 0; i < shots.size(); ++i) {
-        const bool came_by_itself = i > 0 && shots[i - 1].kind == putt;
-        if (came_by_itself)
+        const bool added_by_program = i > 0 && shots[i - 1].kind == putt;
+        if (added_by_program)
             type_distance(user, shots[i]);
         else
-            tell_shot(user, static_cast<int>(i), shots[i]);
+            enter_shot(user, static_cast<int>(i), shots[i]);
         if (i + 1 == shots.size())
             break;
         if (shots[i].kind != putt)
             user.click(u"CommandSuiv"_s);
-        say_told(hole, static_cast<int>(i) + 1);
+        log_entered(hole, static_cast<int>(i) + 1);
     }
 }
 
-/// Each save takes one of the 366 places for keys, as long as the program runs, and a quick hand leaves
-/// hundreds of holes in a second.
-void keep_room_for_keys(hand& user)
+/// Each save uses one of the 366 entries for keys until the program ends, and the test saves more often.
+void reset_round_keys(hand& user)
 {
     user.look([] {
         if (Main_module::round_key_count > 300)
@@ -98,22 +97,22 @@ void keep_room_for_keys(hand& user)
     });
 }
 
-void tell_until_killed(hand& user, quint32 seed)
+void enter_shots_until_killed(hand& user, quint32 seed)
 {
     QRandomGenerator random(seed);
     int hole = random.bounded(first_detailed_hole, last_hole + 1);
     user.click_tab(hole_tabs, hole);
     user.click_tab(u"TabStrip2"_s, 2);
     for (;;) {
-        const told_hole shots = random_hole(random);
-        say_telling(hole, shots);
-        start_anew(user);
-        tell_hole(user, hole, shots);
+        const entered_hole shots = random_hole(random);
+        log_entering(hole, shots);
+        clear_hole(user);
+        enter_hole_shots(user, hole, shots);
         const int next = hole == last_hole ? first_detailed_hole : hole + 1;
         user.click_tab(hole_tabs, next);
-        say_left(hole);
+        log_left(hole);
         hole = next;
-        keep_room_for_keys(user);
+        reset_round_keys(user);
     }
 }
 
@@ -132,32 +131,32 @@ void type_until_killed(hand& user, quint32 seed)
         user.click_tab(hole_tabs, hole);
         const QString figures = random_figures(random);
         user.type(figures);
-        say_typed(hole, figures);
+        log_typed(hole, figures);
         user.click_tab(hole_tabs, hole % last_hole + 1);
-        say_left(hole);
-        keep_room_for_keys(user);
+        log_left(hole);
+        reset_round_keys(user);
     }
 }
 
 }  // namespace
 
-int be_the_victim(bool detailed, quint32 seed)
+int run_entering_holes(bool detailed, quint32 seed)
 {
     int status = -1;
     play([&] { status = run_verdane(*qApp); },
          [detailed, seed](hand& user) {
              open_the_round(user);
              if (detailed)
-                 tell_until_killed(user, seed);
+                 enter_shots_until_killed(user, seed);
              else
                  type_until_killed(user, seed);
          });
     return status;
 }
 
-void enter_shots(hand& user, int hole, const told_hole& shots)
+void enter_shots(hand& user, int hole, const entered_hole& shots)
 {
-    tell_hole(user, hole, shots);
+    enter_hole_shots(user, hole, shots);
 }
 
 void open_the_round(hand& user)

@@ -11,11 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A shot told by clicks: the club's and the kind's place in their menus, and what is left to the hole.
-struct told_shot {
+/// A shot entered by clicks: the entries of club and kind in their menus, and the distance left.
+struct entered_shot {
     int club;
     QString left;
-    int kind;  ///< 0: a putt, which needs no telling
+    int kind;  ///< 0: a putt, which has its kind already
 };
 
 const QString grid = u"details"_s;
@@ -23,7 +23,7 @@ constexpr int club_column = 2;
 constexpr int kind_column = 5;
 constexpr int penalty_column = 11;
 
-void tell(day& today, int row, const told_shot& shot)
+void enter_shot(day& today, int row, const entered_shot& shot)
 {
     today.user.open_menu(grid, row, club_column);
     today.user.choose_menu_entry(u"ms1_%1"_s.arg(shot.club));
@@ -35,39 +35,40 @@ void tell(day& today, int row, const told_shot& shot)
     today.user.choose_menu_entry(u"mshots_%1"_s.arg(shot.kind));
 }
 
-/// With the mouse: the last putt, which opens by itself, goes into the hole.
-void tell_hole_by_clicks(day& today, const std::vector<told_shot>& shots)
+/// Enters shots with the mouse. The last putt is added by the program.
+void enter_hole_by_clicks(day& today, const std::vector<entered_shot>& shots)
 {
     for (int row = 0; row < static_cast<int>(shots.size()); ++row) {
         if (row > 0)
             today.user.click(u"CommandSuiv"_s);
-        tell(today, row, shots.at(static_cast<std::size_t>(row)));
+        enter_shot(today, row, shots.at(static_cast<std::size_t>(row)));
     }
 }
 
-void tell_second_and_third_hole(day& today)
+void enter_second_and_third_hole(day& today)
 {
-    tell_hole_by_clicks(today, {{2, u"90"_s, 1}, {12, u"4"_s, 2}, {14, u"2"_s, 0}});
+    enter_hole_by_clicks(today, {{2, u"90"_s, 1}, {12, u"4"_s, 2}, {14, u"2"_s, 0}});
     today.user.click_tab(u"TabStrip1"_s, 3);
-    tell_hole_by_clicks(today, {{1, u"140"_s, 1}});
+    enter_hole_by_clicks(today, {{1, u"140"_s, 1}});
     today.user.open_menu(grid, 0, penalty_column);
     today.user.choose_menu_entry(u"mp_1"_s);
     today.user.click(u"CommandSuiv"_s);
-    tell(today, 1, {8, u"6"_s, 2});
+    enter_shot(today, 1, {8, u"6"_s, 2});
     today.user.click(u"CommandSuiv"_s);
-    tell(today, 2, {14, u"4"_s, 0});
-    today.keep(u"f_new_round"_s, u"f_details_told"_s);
+    enter_shot(today, 2, {14, u"4"_s, 0});
+    today.save_picture(u"f_new_round"_s, u"f_details_told"_s);
 }
 
-/// The first partner of the list comes along.
-void take_partner_along(day& today)
+/// Selects the first partner of the list.
+void select_partner(day& today)
 {
     today.user.click_row(u"pList"_s, 0);
 }
 
 void check_shots(const day& today)
 {
-    const QString of_hole = u" from Stat_rounds where date = '%1' and hole = "_s.arg(today.told_round.key());
+    const QString of_hole =
+        u" from Stat_rounds where date = '%1' and hole = "_s.arg(today.detailed_round.key());
     QStringList lines;
     for (const auto& row : today.store.rows(
              u"select shot || ' ' || before || '>' || after || ' ' || unit || ' ' || stick || ' ' "
@@ -78,47 +79,47 @@ void check_shots(const day& today)
     today.user.same(today.store.number(u"select count(*)" + of_hole + u'2'), 4, u"shots of hole 2"_s);
     today.user.same(today.store.number(u"select count(*)" + of_hole + u'3'), 4, u"shots of hole 3"_s);
     today.user.same(today.store.text(u"select putt_len_1_1 || ' ' || putt_len_1_2 from games2 "
-                                     u"where date = '%1'"_s.arg(today.told_round.key())),
+                                     u"where date = '%1'"_s.arg(today.detailed_round.key())),
                     u"15 3"_s, u"lengths of the putts"_s);
 }
 
-void check_company_and_costs(const day& today)
+void check_partner_and_costs(const day& today)
 {
-    const QString key = today.told_round.key();
+    const QString key = today.detailed_round.key();
     today.user.same(today.store.number(u"select count(*) from games2, partners where date = '%1' and "
                                        u"instr(games2.PARTNERS, partners.code)"_s.arg(key)),
                     1, u"partners of the round"_s);
     today.user.same(today.store.number(u"select fg * 1000 + nrt from cost where date = '%1'"_s.arg(key)),
-                    60015, u"costs of the told round"_s);
+                    60015, u"costs of the detailed round"_s);
 }
 
 }  // namespace
 
-void tell_round(day& today)
+void enter_detailed_round(day& today)
 {
-    const played_round& round = today.told_round;
+    const played_round& round = today.detailed_round;
     today.user.menu(u"mOpen"_s);
     tee_off(today, round.hours, round.minutes, round.seconds);
     today.user.wait_for_window(today.window(u"f_new_round"_s));
     choose_course(today);
     today.user.click(u"text_vrd_0"_s);
-    tell_hole_by_keys(today);
-    tell_second_and_third_hole(today);
+    enter_hole_by_keys(today);
+    enter_second_and_third_hole(today);
     today.user.click(u"b_putts"_s);
-    keep_report(today, u"round_putts"_s);
+    save_report(today, u"round_putts"_s);
     today.user.click_tab(u"TabStrip2"_s, 1);
-    today.keep(u"f_new_round"_s, u"f_details_counts"_s);
-    take_partner_along(today);
+    today.save_picture(u"f_new_round"_s, u"f_details_counts"_s);
+    select_partner(today);
     type_holes(today, round, 4, 18);
-    keep_costs(today, 60, 15);
+    enter_costs(today, 60, 15);
     today.user.same(today.user.text(u"l_brut"_s), QString::number(round.gross()),
-                    u"gross of the told round"_s);
-    today.keep(u"f_new_round"_s, u"f_new_round_told_18"_s);
+                    u"gross of the detailed round"_s);
+    today.save_picture(u"f_new_round"_s, u"f_new_round_told_18"_s);
     today.user.click(u"Command1_4"_s);
     today.user.wait_until_gone(today.window(u"f_new_round"_s));
     check_round(today, round);
     check_shots(today);
-    check_company_and_costs(today);
+    check_partner_and_costs(today);
 }
 
 }  // namespace verdane::guided_day

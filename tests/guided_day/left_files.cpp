@@ -1,4 +1,4 @@
-#include "tests/guided_day/what_was_left.h"
+#include "tests/guided_day/left_files.h"
 
 #include <cstdio>
 
@@ -8,14 +8,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The windows of a day of golf.
+/// Pictures of the day.
 const char* const pictures_of_a_day =
     "main f_about f_courses_1 f_courses_2 f_courses_3 f_c_list f_partners f_get_date f_new_round f_cost "
     "f_new_round_18 f_games f_date_range_day preview_day preview_round_putts f_details f_details_menu "
     "f_details_position_menu "
     "f_details_told f_details_counts f_new_round_told_18 f_games_removal";
 
-/// The windows in which a season is looked back on.
+/// Pictures of the season.
 const char* const pictures_of_a_season =
     "f_sticks f_sticks_filters f_sticks_averages f_carte f_date_range_clubs f_date_range_putts "
     "f_date_range_rounds f_date_range_costs preview_card preview_clubs preview_putts preview_rounds "
@@ -41,7 +41,7 @@ QStringList expected_files()
     return files;
 }
 
-void tell_each(const char* words, const QStringList& files)
+void print_each(const char* words, const QStringList& files)
 {
     for (const QString& file : files)
         std::printf("%s %s\n", words, qUtf8Printable(file));
@@ -59,17 +59,17 @@ QStringList without(const QStringList& files, const QStringList& others)
 
 }  // namespace
 
-bool tell_what_was_left(const album& pictures, bool for_good)
+bool report_left_files(const album& pictures, bool for_good)
 {
-    const QStringList left = without(pictures.files(), pictures.lost_files());
+    const QStringList left = without(pictures.files(), pictures.missing_files());
     const QStringList missing = without(expected_files(), left);
     const QStringList unknown = without(left, expected_files());
-    tell_each(" ", left);
-    std::printf("The guided day is over. It left %d pictures and reports in %s%s\n",
-                static_cast<int>(left.size()), qUtf8Printable(pictures.folder()),
-                for_good ? "" : ", which goes with the run: name a folder behind --to to keep them");
-    tell_each("MISSING:", missing);
-    tell_each("UNEXPECTED:", unknown);
+    print_each(" ", left);
+    std::printf("The guided day is over: %d pictures and reports in %s%s\n", static_cast<int>(left.size()),
+                qUtf8Printable(pictures.folder()),
+                for_good ? "" : ", a temporary folder. Keep them with --to FOLDER");
+    print_each("MISSING:", missing);
+    print_each("UNEXPECTED:", unknown);
     return missing.isEmpty() && unknown.isEmpty();
 }
 

@@ -3,14 +3,14 @@
 
 #include <functional>
 
-#include "tests/kills/kept_round.h"
+#include "tests/kills/expected_round.h"
 #include "tests/shell/program_run.h"
 
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// What judges a killed program is tried on stores that were written by hand.
+/// Tests `expected_round` with stores that the test writes.
 namespace {
 
 const QString drive_pitch_two_putts = u"1,200,1,1,0,0;9,10,2,2,1,1;14,4,3,1,0,0;14,0,3,1,0,0"_s;
@@ -46,7 +46,7 @@ void put_situation(const reader& store, const stored_hole& hole)
     store.write(u"update games2 set " + lengths.join(u", "));
 }
 
-/// The first so many shots of the hole, in place of those that are there.
+/// Replaces the stored shots by the first `count` shots of the hole.
 void put_shots(const reader& store, const stored_hole& hole, int count)
 {
     QStringList statements{u"delete from Stat_rounds"_s};
@@ -76,39 +76,38 @@ void put_hole(const reader& store, const stored_hole& hole)
 
 const stored_hole& old_hole()
 {
-    static const stored_hole hole = outcome_of(hole_of(two_woods_and_a_chip));
+    static const stored_hole hole = outcome_of(hole_from(two_woods_and_a_chip));
     return hole;
 }
 
 const stored_hole& new_hole()
 {
-    static const stored_hole hole = outcome_of(hole_of(drive_pitch_two_putts));
+    static const stored_hole hole = outcome_of(hole_from(drive_pitch_two_putts));
     return hole;
 }
 
-const QByteArray telling = "telling 5 " + drive_pitch_two_putts.toLatin1() + "\n";
-const QByteArray told_two = telling + "told 5 1\ntold 5 2\n";
-const QByteArray told_all = told_two + "told 5 3\n";
-const QByteArray left = told_all + "left 5\n";
+const QByteArray entering = "entering 5 " + drive_pitch_two_putts.toLatin1() + "\n";
+const QByteArray entered_two = entering + "entered 5 1\nentered 5 2\n";
+const QByteArray entered_all = entered_two + "entered 5 3\n";
+const QByteArray left = entered_all + "left 5\n";
 const QByteArray typed = "typed 5 11111111111\n";
 
 using change = std::function<void(const reader&)>;
 
-/// What a killed program may leave of a hole.
-void lawful_stores()
+/// Valid states of a hole after a kill.
+void allowed_stores()
 {
-    QTest::newRow("left, and all is there")
-        << left << change([](const reader& s) { put_hole(s, new_hole()); });
-    QTest::newRow("nothing was done yet") << telling << change([](const reader&) {});
-    QTest::newRow("the last shot is taken away")
-        << telling << change([](const reader& s) { put_shots(s, old_hole(), 2); });
-    QTest::newRow("all shots are taken away")
-        << telling << change([](const reader& s) { put_shots(s, old_hole(), 0); });
-    QTest::newRow("two shots told and a third begun")
-        << told_two << change([](const reader& s) { put_shots(s, new_hole(), 3); });
-    QTest::newRow("told to the end, not left")
-        << told_all << change([](const reader& s) { put_shots(s, new_hole(), 4); });
-    QTest::newRow("another hole was opened") << telling << change([](const reader& s) {
+    QTest::newRow("left, complete") << left << change([](const reader& s) { put_hole(s, new_hole()); });
+    QTest::newRow("nothing is changed yet") << entering << change([](const reader&) {});
+    QTest::newRow("the last shot is removed")
+        << entering << change([](const reader& s) { put_shots(s, old_hole(), 2); });
+    QTest::newRow("all shots are removed")
+        << entering << change([](const reader& s) { put_shots(s, old_hole(), 0); });
+    QTest::newRow("two shots are entered and a third is begun")
+        << entered_two << change([](const reader& s) { put_shots(s, new_hole(), 3); });
+    QTest::newRow("all shots are entered, the hole is not left")
+        << entered_all << change([](const reader& s) { put_shots(s, new_hole(), 4); });
+    QTest::newRow("another hole is opened") << entering << change([](const reader& s) {
         s.write(u"insert into Stat_rounds (date, hole, shot, fairval) values "
                 u"('20260614093000', 6, 1, 1)"_s);
     });
@@ -120,8 +119,8 @@ void lawful_stores()
     });
 }
 
-/// What it must not leave.
-void unlawful_stores()
+/// Invalid states.
+void forbidden_stores()
 {
     QTest::newRow("left, and a shot is lost") << left << change([](const reader& s) {
         put_hole(s, new_hole());
@@ -133,23 +132,23 @@ void unlawful_stores()
         put_hole(s, new_hole());
         s.write(u"update games2 set putt_len_5_2 = 0"_s);
     });
-    QTest::newRow("a shot that was told is lost")
-        << told_two << change([](const reader& s) { put_shots(s, new_hole(), 2); });
-    QTest::newRow("a shot in the middle is taken away")
-        << telling << change([](const reader& s) { s.write(u"delete from Stat_rounds where shot = 2"_s); });
-    QTest::newRow("a told shot is half there") << told_two << change([](const reader& s) {
+    QTest::newRow("a shot that was entered is lost")
+        << entered_two << change([](const reader& s) { put_shots(s, new_hole(), 2); });
+    QTest::newRow("a shot in the middle is removed")
+        << entering << change([](const reader& s) { s.write(u"delete from Stat_rounds where shot = 2"_s); });
+    QTest::newRow("an entered shot is incomplete") << entered_two << change([](const reader& s) {
         put_shots(s, new_hole(), 3);
         s.write(u"update Stat_rounds set shot_type_value = null where shot = 1"_s);
     });
-    QTest::newRow("the figures are new before the shots are") << told_two << change([](const reader& s) {
+    QTest::newRow("the figures are new before the shots are") << entered_two << change([](const reader& s) {
         put_shots(s, new_hole(), 3);
         put_strokes(s, new_hole());
     });
-    QTest::newRow("a table is half new") << told_all << change([](const reader& s) {
+    QTest::newRow("a table is half new") << entered_all << change([](const reader& s) {
         put_shots(s, new_hole(), 4);
         s.write(u"update games set putt_5 = 2"_s);
     });
-    QTest::newRow("one table is new, the other old") << told_all << change([](const reader& s) {
+    QTest::newRow("one table is new, the other old") << entered_all << change([](const reader& s) {
         put_shots(s, new_hole(), 4);
         put_situation(s, new_hole());
     });
@@ -158,21 +157,21 @@ void unlawful_stores()
         ones.figures.fill(1);
         put_strokes(s, ones);
     });
-    QTest::newRow("the figures are new, the putts old") << told_all << change([](const reader& s) {
+    QTest::newRow("the figures are new, the putts old") << entered_all << change([](const reader& s) {
         put_hole(s, new_hole());
         s.write(u"update games2 set putt_len_5_1 = 0, putt_len_5_2 = 0"_s);
     });
     QTest::newRow("another hole has changed")
-        << told_all << change([](const reader& s) { s.write(u"update games set putt_9 = 2"_s); });
+        << entered_all << change([](const reader& s) { s.write(u"update games set putt_9 = 2"_s); });
     QTest::newRow("a typed table is half new")
         << typed << change([](const reader& s) { s.write(u"update games set pen_rule_5 = 1"_s); });
-    QTest::newRow("typing has touched a shot")
+    QTest::newRow("typing has removed a shot")
         << typed << change([](const reader& s) { put_shots(s, old_hole(), 2); });
 }
 
 }  // namespace
 
-class test_kept_round : public QObject {
+class test_expected_round : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -184,60 +183,60 @@ private Q_SLOTS:
         run_.store().write(statements + one_round());
     }
 
-    void what_a_kill_may_leave_is_taken_data()
+    void a_valid_state_after_a_kill_has_no_fault_data()
     {
         add_columns();
-        lawful_stores();
+        allowed_stores();
     }
-    void what_a_kill_may_leave_is_taken() { QCOMPARE(judged(), QString()); }
+    void a_valid_state_after_a_kill_has_no_fault() { QCOMPARE(fault_after(), QString()); }
 
-    void what_a_kill_must_not_leave_is_told_data()
+    void an_invalid_state_after_a_kill_is_a_fault_data()
     {
         add_columns();
-        unlawful_stores();
+        forbidden_stores();
     }
-    void what_a_kill_must_not_leave_is_told() { QVERIFY(judged().startsWith(u"hole ")); }
+    void an_invalid_state_after_a_kill_is_a_fault() { QVERIFY(fault_after().startsWith(u"hole ")); }
 
-    void what_is_stored_counts_from_then_on()
+    void the_compared_state_is_the_expected_one_afterwards()
     {
-        kept_round kept(run_.store());
+        expected_round expected(run_.store());
         put_hole(run_.store(), new_hole());
-        QCOMPARE(kept.compare(understood(left)), QString());
-        QVERIFY(kept.hole(the_hole) == new_hole());
-        QVERIFY(kept.is_told(the_hole));
-        QVERIFY(!kept.is_told(the_hole + 1));
-        QCOMPARE(kept.compare({}), QString());
+        QCOMPARE(expected.compare(read_log(left)), QString());
+        QVERIFY(expected.hole(the_hole) == new_hole());
+        QVERIFY(expected.is_entered(the_hole));
+        QVERIFY(!expected.is_entered(the_hole + 1));
+        QCOMPARE(expected.compare({}), QString());
         put_shots(run_.store(), new_hole(), 3);
-        QVERIFY(!kept.compare({}).isEmpty());
+        QVERIFY(!expected.compare({}).isEmpty());
     }
 
-    void a_line_that_was_cut_short_says_nothing()
+    void an_incomplete_line_of_the_log_is_ignored()
     {
-        QCOMPARE(understood(telling + "told 5 1").shots_told, 0);
-        QCOMPARE(understood(told_all + "left 5").holes_left(), 0);
-        QCOMPARE(understood(left).holes_left(), 1);
-        QCOMPARE(understood(left).telling, 0);
+        QCOMPARE(read_log(entering + "entered 5 1").shots_entered, 0);
+        QCOMPARE(read_log(entered_all + "left 5").holes_left(), 0);
+        QCOMPARE(read_log(left).holes_left(), 1);
+        QCOMPARE(read_log(left).entering, 0);
     }
 
 private:
     static void add_columns()
     {
-        QTest::addColumn<QByteArray>("said");
-        QTest::addColumn<change>("what_happened");
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<change>("change_of_store");
     }
 
-    QString judged() const
+    QString fault_after() const
     {
         put_hole(run_.store(), old_hole());
-        kept_round kept(run_.store());
-        QFETCH(change, what_happened);
-        QFETCH(QByteArray, said);
-        what_happened(run_.store());
-        return kept.compare(understood(said));
+        expected_round expected(run_.store());
+        QFETCH(change, change_of_store);
+        QFETCH(QByteArray, output);
+        change_of_store(run_.store());
+        return expected.compare(read_log(output));
     }
 
     const program_run run_{1};
 };
 
-QTEST_MAIN(test_kept_round)
-#include "test_kept_round.moc"
+QTEST_MAIN(test_expected_round)
+#include "test_expected_round.moc"
