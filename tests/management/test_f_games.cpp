@@ -134,55 +134,6 @@ private Q_SLOTS:
         });
     }
 
-    void captions_are_those_of_the_language_data()
-    {
-        QTest::addColumn<bool>("french");
-        QTest::addColumn<QStringList>("captions");
-        QTest::newRow("French") << true
-                                << QStringList{u"Gestion des rondes"_s,
-                                               u"Date / Heure / Terrain"_s,
-                                               u"Ouvrir"_s,
-                                               u"Ajouter"_s,
-                                               u"OK"_s,
-                                               u"Supprimer"_s,
-                                               u"** Attention : Ces rondes ne sont pas complétées"_s};
-        QTest::newRow("English") << false
-                                 << QStringList{u"Round Management "_s,
-                                                u"Date / Time / Course"_s,
-                                                u"Open"_s,
-                                                u"Add"_s,
-                                                u"OK"_s,
-                                                u"Remove"_s,
-                                                u"**Attention : these rounds have not been completed."_s};
-    }
-    void captions_are_those_of_the_language()
-    {
-        QFETCH(bool, french);
-        QFETCH(QStringList, captions);
-        const store_folder store(french);
-        diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
-        in_list([&](hand& user) {
-            const QStringList seen{user.title(list_window()),  user.text(u"Frame1"_s),
-                                   user.text(u"Command1_0"_s), user.text(u"Command1_1"_s),
-                                   user.text(u"Command1_2"_s), user.text(u"Command1_3"_s),
-                                   user.text(u"Label1"_s)};
-            user.same(seen.join(u'|'), captions.join(u'|'), u"captions"_s);
-            user.same(clipped_controls(user).join(u' '), QString(), u"clipped"_s);
-        });
-    }
-
-    void the_twins_have_the_same_controls()
-    {
-        QStringList seen[2];
-        for (const bool french : {false, true}) {
-            const store_folder store(french);
-            diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
-            in_list([&](hand& user) { seen[french ? 1 : 0] = controls_of_window(user); });
-        }
-        QVERIFY(seen[0].size() >= 6);
-        QCOMPARE(seen[0], seen[1]);
-    }
-
     void a_store_without_rounds_is_told_and_no_window_comes_up_data() { both_languages(); }
     void a_store_without_rounds_is_told_and_no_window_comes_up()
     {

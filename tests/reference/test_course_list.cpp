@@ -15,23 +15,6 @@ class test_course_list : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void captions_are_those_of_the_language_data() { both_languages(); }
-    void captions_are_those_of_the_language()
-    {
-        QFETCH(bool, french);
-        const course_store store(french);
-        in_course_list_until_ok([](hand& user) {
-            user.same(user.title(list_window()),
-                      in_language(u"Gestion des terrains", u"Golf Course Management "), u"title"_s);
-            user.same(user.text(u"lbl_list"_s), in_language(u"Terrain / Terte", u"Golf Course / Teeing Area"),
-                      u"heading"_s);
-            user.same(user.text(u"Command1_0"_s), in_language(u" Ouvrir", u"Open"), u"open"_s);
-            user.same(user.text(u"Command1_1"_s), in_language(u"Ajouter", u"Add"), u"add"_s);
-            user.same(user.text(u"Command1_2"_s), u"OK"_s, u"OK"_s);
-            user.same(user.text(u"Command1_3"_s), in_language(u"Supprimer", u"Delete"), u"delete"_s);
-        });
-    }
-
     void a_line_is_the_name_and_the_tee_in_table_order_data() { both_languages(); }
     void a_line_is_the_name_and_the_tee_in_table_order()
     {

@@ -72,39 +72,6 @@ private Q_SLOTS:
         });
     }
 
-    void captions_are_those_of_the_language_data() { both_languages(); }
-    void captions_are_those_of_the_language()
-    {
-        QFETCH(bool, french);
-        const course_store store(french);
-        in_new_course([](hand& user) {
-            user.same(user.title(editor_window()), in_language(u"Terrains", u"Golf Course"), u"title"_s);
-            user.same(user.entries(u"TabStrip1"_s).join(u'|'),
-                      in_language(u"Information générale|Aller|Retour",
-                                  u"General Information|Front Nine|Back Nine"),
-                      u"tabs"_s);
-            user.same(user.text(u"smdsave"_s), u"OK"_s, u"OK"_s);
-            user.same(user.text(u"cmdan"_s), in_language(u"Annuler", u"Cancel"), u"cancel"_s);
-            const QString labels[][2] = {
-                {u"lbl_name"_s, in_language(u"Nom :", u"Name :")},
-                {u"lbl_departure"_s, in_language(u"Départ :", u"Teeing Area :")},
-                {u"lbl_rating"_s, in_language(u"Moyenne :", u"Rating :")},
-                {u"lbl_slope"_s, in_language(u"Difficulté :", u"Slope :")},
-                {u"lbl_address"_s, in_language(u"Adresse :", u"Address :")},
-                {u"lbl_verge_2"_s, in_language(u"Distance (verges) ", u"Distance (yards)")},
-                {u"lbl_verge_3"_s, in_language(u"Distance (verges) ", u"Distance (yards)")},
-                {u"lbl_hnd_2"_s, u"Handicap"_s},
-                {u"lbl_normal_3"_s, in_language(u"Normale", u"Par")},
-                {u"lbl_alle_caption"_s, in_language(u"Aller :", u"Front :")},
-                {u"lbl_retour_caption"_s, in_language(u"Retour :", u"Back :")},
-                {u"lbl_total_caption"_s, u"Total :"_s},
-            };
-            for (const auto& [name, text] : labels)
-                user.same(user.text(name), text, name);
-            discard(user);
-        });
-    }
-
     void a_tab_shows_its_page_and_gives_the_focus_to_its_first_box()
     {
         const course_store store;

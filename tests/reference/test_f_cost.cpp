@@ -5,7 +5,7 @@
 #include "base/language.h"
 #include "tests/reference/cost_windows.h"
 #include "tests/support/entering_boxes.h"
-#include "tests/support/window_look.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -326,21 +326,6 @@ private Q_SLOTS:
             leave_by_ok(user);
         });
         QCOMPARE(store.totals, QStringList{u"0"_s});
-    }
-
-    void twins_have_the_same_controls_and_nothing_is_clipped()
-    {
-        QStringList seen[2];
-        for (const bool french : {true, false}) {
-            cost_store store(french, u"9999,9999,9999,0,0,0,0,0,0,0,0,0"_s);
-            in_costs(store, [&](hand& user) {
-                seen[french] = controls_of_window(user);
-                user.same(clipped_controls(user).join(u'|'), {}, u"clipped"_s);
-                leave_by_ok(user);
-            });
-        }
-        QCOMPARE(seen[0], seen[1]);
-        QVERIFY(seen[0].contains(u"QLineEdit cost_11"_s));
     }
 };
 

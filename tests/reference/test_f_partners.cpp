@@ -17,17 +17,6 @@ namespace {
 
 const QString grid = u"pgrid"_s;
 
-QString headers(hand& user)
-{
-    QStringList captions;
-    user.look([&] {
-        const QAbstractItemModel& model = *dynamic_cast<f_partners&>(*form_at_work()).pgrid->model();
-        for (int column = 0; column < model.columnCount(); ++column)
-            captions << model.headerData(column, Qt::Horizontal).toString();
-    });
-    return captions.join(u'|');
-}
-
 std::vector<way_out> ways()
 {
     return ways_out(partner_window,
@@ -40,29 +29,6 @@ class test_f_partners : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void captions_are_those_of_the_language_data() { both_languages(); }
-    void captions_are_those_of_the_language()
-    {
-        QFETCH(bool, french);
-        const partner_store store(french);
-        in_partners([&](hand& user) {
-            user.same(headers(user),
-                      in_language(u"Nom|Prénom|Adresse|Ville|Téléphone|Courriel|code",
-                                  u"Last Name|First Name|Address|City|Telephone|Email|code"),
-                      u"columns"_s);
-            user.same(user.title(partner_window()), in_language(u"Partenaires", u"Partner Management "),
-                      u"title"_s);
-            QStringList captions;
-            for (const auto& name : {u"Frame1"_s, u"add"_s, u"Del"_s, u"cmdSave"_s, u"cmdAn"_s})
-                captions << user.text(name);
-            user.same(
-                captions.join(u'|'),
-                in_language(u"Partenaires|Ajouter|Supprimer|OK|Annuler", u"Partners|Add|Remove|OK|Cancel"),
-                u"captions"_s);
-            accept_partners(user);
-        });
-    }
-
     void the_partners_stand_in_the_order_of_their_names()
     {
         const partner_store store;
@@ -185,22 +151,6 @@ private Q_SLOTS:
         window.closeForm();
         window.save();
         QVERIFY(data_environment().rspartners.is_open());
-    }
-
-    void twins_have_the_same_controls_and_nothing_is_clipped()
-    {
-        QStringList seen[2];
-        for (const bool french : {true, false}) {
-            const partner_store store(french);
-            store.add_three();
-            in_partners([&](hand& user) {
-                seen[french] = controls_of_window(user);
-                user.same(clipped_controls(user).join(u'|'), {}, u"clipped"_s);
-                accept_partners(user);
-            });
-        }
-        QCOMPARE(seen[0], seen[1]);
-        QVERIFY(seen[0].join(u'|').contains(u"pgrid"_s));
     }
 };
 

@@ -64,6 +64,22 @@ class test_round_holes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void tabs_and_list_have_the_numbers_1_to_18_data() { both_languages(); }
+    void tabs_and_list_have_the_numbers_1_to_18()
+    {
+        QFETCH(bool, french);
+        const round_store store(french);
+        store.add_two_courses();
+        QStringList numbers;
+        for (int hole = 1; hole <= 18; ++hole)
+            numbers << QString::number(hole);
+        in_keyed_round([&](hand& user) {
+            user.same(user.entries(tabs).join(u' '), numbers.join(u' '), u"tabs"_s);
+            user.same(user.entries(holes).join(u' '), numbers.join(u' '), u"list"_s);
+            discard(user);
+        });
+    }
+
     void the_window_opens_on_the_first_hole_and_stores_nothing()
     {
         const round_store store;

@@ -158,27 +158,6 @@ private Q_SLOTS:
         });
     }
 
-    void each_command_opens_the_twin_of_the_language_data() { both_stored_languages(); }
-    void each_command_opens_the_twin_of_the_language()
-    {
-        QFETCH(int, language);
-        const QString twin = language == 1 ? QString() : u"_en"_s;
-        in_main_window(language, one_course() + one_round(), [&](hand& user) {
-            const std::vector<std::pair<QString, QString>> commands{
-                {u"mnOPenr"_s, u"f_games"_s},       {u"mManagF"_s, u"f_c_list"_s},
-                {u"mpartners"_s, u"f_partners"_s},  {u"mnBat"_s, u"f_sticks"_s},
-                {u"mnStabat"_s, u"f_date_range"_s}, {u"mnStatcr"_s, u"f_date_range"_s},
-                {u"mnstatr"_s, u"f_date_range"_s},  {u"mncouts"_s, u"f_date_range"_s},
-                {u"maprop"_s, u"f_about"_s}};
-            for (const auto& [command, window] : commands) {
-                user.menu(command);
-                user.wait_for_window(window + twin);
-                user.close_window(window + twin);
-                user.wait_until_gone(window + twin);
-            }
-        });
-    }
-
     void each_statistics_command_shows_one_run_button()
     {
         in_main_window(1, one_course() + one_round(), [&](hand& user) {

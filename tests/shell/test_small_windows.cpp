@@ -26,63 +26,6 @@ private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
     void init() { is_french = true; }
 
-    void the_about_window_shows_the_version_data()
-    {
-        QTest::addColumn<bool>("french");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("French") << true << u"À propos de VERDANE"_s << "VERDANE pour PC";
-        QTest::newRow("English") << false << "About VERDANE"
-                                 << "VERDANE for PC";
-    }
-
-    void the_about_window_shows_the_version()
-    {
-        QFETCH(bool, french);
-        QFETCH(QString, title);
-        QFETCH(QString, name);
-        is_french = french;
-        f_about window;
-        QCOMPARE(window.windowTitle(), title);
-        QCOMPARE(window.lblTitle->text(), name);
-        QCOMPARE(window.lblVersion->text(), u"Version 1.4"_s);
-        QCOMPARE(window.cmdOK->text(), u"OK"_s);
-        QCOMPARE(window.cmdSysInfo->text(), u"&Infos système"_s);
-        for (const QLabel* line : {window.lblDescription, window.lblDisclaimer, window.Label1})
-            QVERIFY(!line->text().isEmpty());
-    }
-
-    void both_about_windows_have_the_same_controls_and_show_their_captions_completely()
-    {
-        const auto names = [] {
-            QStringList seen;
-            f_about window;
-            play([&] { window.show_modal(); },
-                 [&](hand& user) {
-                     user.wait_for_window(window.objectName());
-                     user.look([&] {
-                         for (const QWidget* control : window.findChildren<QWidget*>()) {
-                             seen << control->objectName();
-                             // The scroll bars.
-                             if (!control->isVisible())
-                                 continue;
-                             const bool fits = control->width() >= control->minimumSizeHint().width() &&
-                                               control->height() >= control->minimumSizeHint().height();
-                             QVERIFY2(fits, qPrintable(control->objectName()));
-                         }
-                     });
-                     user.click(u"cmdOK"_s);
-                 });
-            return seen;
-        };
-        const QStringList french = names();
-        is_french = false;
-        QCOMPARE(names(), french);
-        for (const char* name : {"lblTitle", "lblVersion", "lblDescription", "lblDisclaimer", "Label1",
-                                 "Line1_0", "Line1_1", "cmdSysInfo", "cmdOK"})
-            QCOMPARE(french.count(QString::fromLatin1(name)), 1);
-    }
-
     void closing_the_about_window_unlocks_the_menu()
     {
         program_run run(1);

@@ -59,18 +59,6 @@ private Q_SLOTS:
         QCOMPARE(is_french, french);
     }
 
-    void the_language_window_has_its_captions()
-    {
-        program_run run;
-        run.play_through([](hand& user) {
-            user.same(user.title(u"f_lang"_s), u"Verdane International Inc."_s, u"title"_s);
-            user.same(user.text(u"Command1_1"_s), u"Continuer en Français"_s, u"caption"_s);
-            user.same(user.text(u"Command1_0"_s), u"Continue in English"_s, u"caption"_s);
-            user.same(user.text(u"Command2"_s), u"Exit / Quitter"_s, u"caption"_s);
-            user.click(u"Command2"_s);
-        });
-    }
-
     void closing_the_language_window_ends_the_program_and_stores_no_language_data()
     {
         QTest::addColumn<bool>("by_title_bar");

@@ -77,34 +77,6 @@ private Q_SLOTS:
         QCOMPARE(store.card(2)[37].toString(), name);
     }
 
-    void captions_are_those_of_the_language_data() { both_languages(); }
-    void captions_are_those_of_the_language()
-    {
-        QFETCH(bool, french);
-        const stocked_store store(french);
-        in_scorecard_window([&](hand& user) {
-            user.same(user.title(scorecard_window()), in_language(u"Carte de pointage", u"Scorecard"),
-                      u"title"_s);
-            user.same(user.text(u"Frame1"_s), in_language(u"Terrain / Terte", u"Golf Course / Teeing Area"),
-                      u"Frame1"_s);
-            user.same(user.text(u"Label1"_s), in_language(u"Choisissez un terrain", u"Select a golf course"),
-                      u"Label1"_s);
-            user.same(user.text(u"Command1_0"_s), u"OK"_s, u"Command1_0"_s);
-            user.same(user.text(u"Command1_1"_s), in_language(u"Annuler", u"Cancel"), u"Command1_1"_s);
-            user.check(clipped_controls(user).isEmpty(), clipped_controls(user).join(u','));
-        });
-    }
-
-    void the_twins_have_the_same_controls()
-    {
-        QStringList names[2];
-        for (const bool french : {true, false}) {
-            const stocked_store store(french);
-            in_scorecard_window([&](hand& user) { names[french ? 0 : 1] = controls_of_window(user); });
-        }
-        QCOMPARE(names[0], names[1]);
-    }
-
     void a_double_click_prints_the_course()
     {
         const stocked_store store;

@@ -69,63 +69,6 @@ private Q_SLOTS:
         });
     }
 
-    void captions_are_those_of_the_language_data()
-    {
-        QTest::addColumn<bool>("french");
-        QTest::addColumn<QStringList>("captions");
-        QTest::newRow("French") << true
-                                << QStringList{u"Date / Heure / Terrain"_s,
-                                               u"Date / Heure / Terrain"_s,
-                                               u"De..."_s,
-                                               u"À..."_s,
-                                               u"Terrain :"_s,
-                                               u"Partenaire :"_s,
-                                               u"Conditions atmosphériques :"_s,
-                                               u"** Attention : Ces rondes ne sont pas complétées"_s,
-                                               u"Nombre de parties jouées:"_s,
-                                               u"OK"_s,
-                                               u"Annuler"_s};
-        QTest::newRow("English") << false
-                                 << QStringList{u"Date / Time / Course"_s,
-                                                u"Date / Time / Course"_s,
-                                                u"From..."_s,
-                                                u"To..."_s,
-                                                u"Golf Course :"_s,
-                                                u"Partners :"_s,
-                                                u"Weather Conditions :"_s,
-                                                u"**Attention : these rounds have not been completed."_s,
-                                                u"Number of rounds :"_s,
-                                                u"OK"_s,
-                                                u"Cancel"_s};
-    }
-    void captions_are_those_of_the_language()
-    {
-        QFETCH(bool, french);
-        QFETCH(QStringList, captions);
-        const store_folder store(french);
-        add_three_rounds(diary(store.path()));
-        in_selection_window([&](hand& user) {
-            QStringList seen;
-            for (const char* name : {"Frame1", "Frame2", "Label1_0", "Label1_1", "Label1_2", "Label1_3",
-                                     "Label1_4", "Label1_5", "Label1_6", "Command2", "CancelButton"})
-                seen << user.text(QLatin1String(name));
-            user.same(seen.join(u'|'), captions.join(u'|'), u"captions"_s);
-            user.same(clipped_controls(user).join(u' '), QString(), u"clipped"_s);
-        });
-    }
-
-    void the_twins_have_the_same_controls()
-    {
-        QStringList seen[2];
-        for (const bool french : {false, true}) {
-            const store_folder store(french);
-            add_three_rounds(diary(store.path()));
-            in_selection_window([&](hand& user) { seen[french ? 1 : 0] = controls_of_window(user); });
-        }
-        QVERIFY(seen[0].size() > 15);
-        QCOMPARE(seen[0], seen[1]);
-    }
-
     void one_run_button_is_there_and_the_title_says_what_it_runs_data()
     {
         using enum statistics_mode;

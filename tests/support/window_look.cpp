@@ -37,19 +37,6 @@ bool is_clipped(const QWidget& control)
 
 }  // namespace
 
-QStringList controls_of_window(hand& user)
-{
-    QStringList lines;
-    user.look([&] {
-        for (const QWidget* control : form_at_work()->findChildren<QWidget*>()) {
-            if (!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"))
-                lines << QString::fromLatin1(control->metaObject()->className()) + u' ' +
-                             control->objectName();
-        }
-    });
-    return lines;
-}
-
 QStringList clipped_controls(hand& user)
 {
     QStringList names;

@@ -8,9 +8,6 @@
 /// What tests read from a window, and the recordsets that it has left open.
 namespace verdane::testing {
 
-/// Class and name of every named control of the window at work, in the order of their creation.
-QStringList controls_of_window(hand& user);
-
 /// The names of visible labels, buttons, combos, frames, tabs and boxes that are smaller than their text, in
 /// the window at work or in any window (to be called in the window thread).
 QStringList clipped_controls(hand& user);
