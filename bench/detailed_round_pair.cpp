@@ -63,10 +63,10 @@ void open_detailed_round_floor(benchmark::State& state)
     const QString key = testing::key_in_diary(round_in_diary);
     for (auto _ : state) {
         const stopwatch watch;
-        for (const char* table : {"games", "games2", "cost"})
-            read_all(store.run(u"select * from %1 where date = ?"_s.arg(QLatin1String(table)), {key}));
-        for (const char* table : {"vrd_fields", "field_info", "partners"})
-            read_all(store.run(u"select * from " + QLatin1String(table)));
+        for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s})
+            read_all(store.run(u"select * from %1 where date = ?"_s.arg(table), {key}));
+        for (const QString& table : {u"vrd_fields"_s, u"field_info"_s, u"partners"_s})
+            read_all(store.run(u"select * from " + table));
         read_shots_of_first_hole(store, key);
         state.SetIterationTime(watch.seconds());
     }

@@ -43,8 +43,8 @@ bool run_to_its_end(const char* program, const QStringList& arguments)
 /// Removes the lock and the log that a killed program leaves in the folder.
 void tidy_up_after_end()
 {
-    for (const char* ending : {".lock", "-wal", "-shm"})
-        QFile::remove(diaries_of_run().full() + QLatin1String(ending));
+    for (const QString& ending : {u".lock"_s, u"-wal"_s, u"-shm"_s})
+        QFile::remove(diaries_of_run().full() + ending);
 }
 
 void time_start(benchmark::State& state, const char* program, const QStringList& arguments)

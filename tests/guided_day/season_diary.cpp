@@ -16,11 +16,10 @@ namespace {
 QStringList statements_for_dates()
 {
     QStringList statements;
-    for (const char* table : {"games", "games2", "cost", "Stat_rounds"}) {
+    for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s, u"Stat_rounds"_s}) {
         statements << u"update %1 set date = strftime('%Y%m%d', '2025-04-15', (5 * (julianday("
                       u"substr(date, 1, 4) || '-' || substr(date, 5, 2) || '-' || substr(date, 7, 2)) "
-                      u"- julianday('2023-01-01'))) || ' days') || substr(date, 9)"_s.arg(
-                          QLatin1String(table));
+                      u"- julianday('2023-01-01'))) || ' days') || substr(date, 9)"_s.arg(table);
     }
     return statements;
 }

@@ -10,10 +10,11 @@ namespace {
 QStringList columns_of(int hole)
 {
     QStringList columns;
-    for (const char* name :
-         {"games.long_", "games.approach_", "games.putt_", "games2.fairway_", "games2.sand_", "games.missed_",
-          "games2.recovery_", "games.pen_water_", "games.pen_lost_", "games.pen_rule_", "games.pen_bounds_"})
-        columns << QLatin1String(name) + QString::number(hole);
+    for (const QString& name :
+         {u"games.long_"_s, u"games.approach_"_s, u"games.putt_"_s, u"games2.fairway_"_s, u"games2.sand_"_s,
+          u"games.missed_"_s, u"games2.recovery_"_s, u"games.pen_water_"_s, u"games.pen_lost_"_s,
+          u"games.pen_rule_"_s, u"games.pen_bounds_"_s})
+        columns << name + QString::number(hole);
     return columns;
 }
 

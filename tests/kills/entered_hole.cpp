@@ -97,10 +97,11 @@ bool numbered_from_one(const stored_shots& rows)
 QStringList figure_columns(int hole)
 {
     QStringList columns;
-    for (const char* name :
-         {"games.long_", "games.approach_", "games.putt_", "games2.fairway_", "games2.sand_", "games.missed_",
-          "games2.recovery_", "games.pen_water_", "games.pen_lost_", "games.pen_rule_", "games.pen_bounds_"})
-        columns << u"coalesce(%1%2, 0)"_s.arg(QLatin1String(name)).arg(hole);
+    for (const QString& name :
+         {u"games.long_"_s, u"games.approach_"_s, u"games.putt_"_s, u"games2.fairway_"_s, u"games2.sand_"_s,
+          u"games.missed_"_s, u"games2.recovery_"_s, u"games.pen_water_"_s, u"games.pen_lost_"_s,
+          u"games.pen_rule_"_s, u"games.pen_bounds_"_s})
+        columns << u"coalesce(%1%2, 0)"_s.arg(name).arg(hole);
     for (int length = 1; length <= putts_of_a_hole; ++length)
         columns << u"coalesce(games2.putt_len_%1_%2, 0)"_s.arg(hole).arg(length);
     return columns;

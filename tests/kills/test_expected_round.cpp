@@ -178,8 +178,8 @@ private Q_SLOTS:
     void init()
     {
         QStringList statements;
-        for (const char* table : {"games", "games2", "cost", "Stat_rounds"})
-            statements << u"delete from " + QLatin1String(table);
+        for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s, u"Stat_rounds"_s})
+            statements << u"delete from " + table;
         run_.store().write(statements + one_round());
     }
 

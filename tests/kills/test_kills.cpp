@@ -143,7 +143,7 @@ private Q_SLOTS:
     }
 
     /// The first save of a round stores its three rows and the figures of its first hole.
-    void a_new_round_is_stored_whole_or_not_at_all()
+    void after_a_kill_a_new_round_is_stored_completely_or_not_at_all()
     {
         const int kills = std::min(std::max(kills_wanted() / 4, 1), most_kills_of_new_rounds);
         QRandomGenerator random(20260615);

@@ -8,6 +8,7 @@
 
 using namespace verdane;
 using namespace verdane::Round_functions;
+using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::round_in_store;
 
@@ -36,7 +37,7 @@ private Q_SLOTS:
         store_penalties(2, {4, 5, 6, 7});
         expect_figures(from_row, {1, 2, 3, 4, 5, 6, 7});
         const hole_figures boxes =
-            typed_boxes({u"11"_qs, u"12"_qs, u"13"_qs, u"14"_qs, u"15"_qs, u"16"_qs, u"17"_qs});
+            typed_boxes({u"11"_s, u"12"_s, u"13"_s, u"14"_s, u"15"_s, u"16"_s, u"17"_s});
         expect_figures(boxes, {11, 12, 13, 14, 15, 16, 17});
         expect_figures(from_row, {1, 2, 3, 4, 5, 6, 7});
     }
@@ -44,30 +45,30 @@ private Q_SLOTS:
     void both_sources_give_the_same_cells()
     {
         store_strokes(4, {2, 1, 1});
-        const hole_figures boxes = typed_boxes({u"2"_qs, u"1a"_qs, u" 1"_qs});
+        const hole_figures boxes = typed_boxes({u"2"_s, u"1a"_s, u" 1"_s});
         for (const selector_row& row : panel_selectors)
             QCOMPARE(hole_cell(row.selector, 4, from_row), hole_cell(row.selector, 4, boxes));
-        QCOMPARE(hole_cell(7, 4, boxes), u"1"_qs);
-        QCOMPARE(hole_cell(10, 4, from_row), u"1"_qs);
+        QCOMPARE(hole_cell(7, 4, boxes), u"1"_s);
+        QCOMPARE(hole_cell(10, 4, from_row), u"1"_s);
         QCOMPARE(hole_cell(2, 4, from_row), QString());
     }
 
     void the_boxes_take_only_the_par_from_the_hole()
     {
-        const hole_figures boxes = typed_boxes({u"1"_qs, u"0"_qs, u"2"_qs});
+        const hole_figures boxes = typed_boxes({u"1"_s, u"0"_s, u"2"_s});
         QCOMPARE(in_regulation(3, boxes), 1);
         QCOMPARE(in_regulation(4, boxes), 0);
         QVERIFY(!not_in_regulation(3, boxes));
         QVERIFY(not_in_regulation(4, boxes));
-        QCOMPARE(hole_cell(1, 3, boxes), u"1"_qs);
-        QCOMPARE(hole_cell(21, 4, boxes), u"1"_qs);
+        QCOMPARE(hole_cell(1, 3, boxes), u"1"_s);
+        QCOMPARE(hole_cell(21, 4, boxes), u"1"_s);
     }
 
     void a_fresh_hole_counts_nothing()
     {
         QCOMPARE(plain(hole_gross(1, from_row)), 0);
         QCOMPARE(plain(hole_penalties(1, from_row)), 0);
-        QCOMPARE(hole_cell(1, 1, from_row), u" "_qs);
+        QCOMPARE(hole_cell(1, 1, from_row), u" "_s);
         QVERIFY(!not_in_regulation(1, from_row));
     }
 
@@ -95,16 +96,16 @@ private Q_SLOTS:
         QCOMPARE(plain(score.totals.par), 72);
         QCOMPARE(score.differential, 16.95);
         const round_labels labels = labels_of(score);
-        QCOMPARE(labels.l_hand, u"16.95"_qs);
-        QCOMPARE(labels.l_brut, u"90"_qs);
-        QCOMPARE(labels.l_net, u"74"_qs);
-        QCOMPARE(labels.l_plus, u"18"_qs);
+        QCOMPARE(labels.l_hand, u"16.95"_s);
+        QCOMPARE(labels.l_brut, u"90"_s);
+        QCOMPARE(labels.l_net, u"74"_s);
+        QCOMPARE(labels.l_plus, u"18"_s);
     }
 
     void only_the_last_hole_may_come_from_the_boxes()
     {
         fill_round();
-        const hole_figures boxes = typed_boxes({u"3"_qs, u"3"_qs, u"3"_qs, u"1"_qs});
+        const hole_figures boxes = typed_boxes({u"3"_s, u"3"_s, u"3"_s, u"1"_s});
         QCOMPARE(plain(round_score(boxes).totals.gross), 90 - 5 + 10);
         QCOMPARE(plain(round_score(from_row).totals.gross), 90);
     }
@@ -130,14 +131,14 @@ private Q_SLOTS:
         fill_round();
         round_->store.rsvrd_fields.Fields(round_columns::slope).set(slope);
         const round_labels labels = labels_of(round_score(from_row));
-        QCOMPARE(labels.l_hand, u"0"_qs);
+        QCOMPARE(labels.l_hand, u"0"_s);
         QCOMPARE(labels.l_net, labels.l_brut);
     }
 
     void a_rating_is_read_up_to_what_is_no_number()
     {
         fill_round();
-        round_->store.rsvrd_fields.Fields(round_columns::rating).set(u"70.5.1"_qs);
+        round_->store.rsvrd_fields.Fields(round_columns::rating).set(u"70.5.1"_s);
         QCOMPARE(round_score(from_row).differential, 16.95);
         round_->store.rsvrd_fields.Fields(round_columns::rating).set(QString());
         QCOMPARE(round_score(from_row).differential, 90 * 113 / 130.0);

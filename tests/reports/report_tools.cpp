@@ -88,9 +88,9 @@ QStringList pdf_pages(const QString& path)
 
 std::vector<printed_word> pdf_words(const QString& path)
 {
-    static const QRegularExpression page_form(u"<page width=\"([\\d.]+)\" height=\"([\\d.]+)\""_qs);
+    static const QRegularExpression page_form(u"<page width=\"([\\d.]+)\" height=\"([\\d.]+)\""_s);
     static const QRegularExpression word_form(
-        u"<word xMin=\"([\\d.-]+)\" yMin=\"([\\d.-]+)\" xMax=\"([\\d.-]+)\" yMax=\"([\\d.-]+)\">(.*)</word>"_qs);
+        u"<word xMin=\"([\\d.-]+)\" yMin=\"([\\d.-]+)\" xMax=\"([\\d.-]+)\" yMax=\"([\\d.-]+)\">(.*)</word>"_s);
     constexpr double mm_per_pt = 25.4 / 72;
     std::vector<printed_word> words;
     QSizeF page;

@@ -130,7 +130,7 @@ private Q_SLOTS:
         const QString yards = french ? u"Verges"_s : u"Yards"_s;
         const QString approach = french ? u"Approche"_s : u"Approach"_s;
         QCOMPARE(stored_shots(store, 1),
-                 (QStringList{u"1 101>60 "_qs + yards + u" D/1 Long/1",
+                 (QStringList{u"1 101>60 "_s + yards + u" D/1 Long/1",
                               u"2 60>30 " + feet + u" SW/13 " + approach + u"/2",
                               u"3 30>6 " + feet + u" Pu/14 Putt/3", u"4 6>2 " + feet + u" Pu/14 Putt/3",
                               u"5 2>0 " + feet + u" Pu/14 Putt/3"})

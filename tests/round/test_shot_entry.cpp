@@ -249,7 +249,7 @@ private Q_SLOTS:
             user.check(put_mode(user) == putt_last, u"PUT_MODE"_s);
             user.same(user.cursor(details).front(), u"1"_s, u"cursor"_s);
         });
-        QCOMPARE(stored_shots(round.store, 1).remove(u" fairway=0"_qs), left);
+        QCOMPARE(stored_shots(round.store, 1).remove(u" fairway=0"_s), left);
     }
 
     void after_the_only_shot_is_removed_the_next_shot_is_a_blank_one()

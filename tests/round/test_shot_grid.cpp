@@ -16,13 +16,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QStringList french_heads{
-    u"Trou"_qs,  u"Coup"_qs,        u"Bâton"_qs, u"Distance restante"_qs, u"Unités"_qs,
-    u"VRD"_qs,   u"Dépassement"_qs, u"Raté"_qs,  u"Trappe de sable"_qs,   u"Distance zéro"_qs,
-    u"Allée"_qs, u"Pénalité"_qs,    u"Shot"_qs};
+    u"Trou"_s,  u"Coup"_s,        u"Bâton"_s, u"Distance restante"_s, u"Unités"_s,
+    u"VRD"_s,   u"Dépassement"_s, u"Raté"_s,  u"Trappe de sable"_s,   u"Distance zéro"_s,
+    u"Allée"_s, u"Pénalité"_s,    u"Shot"_s};
 const QStringList english_heads{
-    u"Shot"_qs,     u"Shot"_qs,        u"Club"_qs,    u"Remaining Distance"_qs, u"Units"_qs,
-    u"VRD"_qs,      u"Beyond hole"_qs, u"Missed "_qs, u"Sand Trap "_qs,         u"Distance zero"_qs,
-    u"Fairway "_qs, u"Penalty "_qs,    u"Shot"_qs};
+    u"Shot"_s,     u"Shot"_s,        u"Club"_s,    u"Remaining Distance"_s, u"Units"_s,
+    u"VRD"_s,      u"Beyond hole"_s, u"Missed "_s, u"Sand Trap "_s,         u"Distance zero"_s,
+    u"Fairway "_s, u"Penalty "_s,    u"Shot"_s};
 
 QString value(const QString& column, int shot = 1)
 {

@@ -122,8 +122,8 @@ private Q_SLOTS:
             user.answer(no_round);
             user.click(u"B2"_s);
             user.answer(no_round);
-            for (const char* statistics : {"mnStabat", "mnStatcr", "mnstatr", "mncouts"}) {
-                user.menu(QLatin1String(statistics));
+            for (const QString& statistics : {u"mnStabat"_s, u"mnStatcr"_s, u"mnstatr"_s, u"mncouts"_s}) {
+                user.menu(statistics);
                 user.answer({words(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
                              QMessageBox::Critical, default_title(), QMessageBox::Ok});
             }

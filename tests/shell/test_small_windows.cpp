@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(window.Label1->text(), u"Please Wait"_s);
     }
 
-    void the_report_window_has_one_report_control_that_opens_its_preview_above_it()
+    void the_report_control_of_the_report_window_opens_its_preview_above_the_window()
     {
         const store_folder store;
         set_report_store(store.path());

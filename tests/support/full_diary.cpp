@@ -101,9 +101,9 @@ QStringList columns_of_games()
 {
     QStringList columns{u"date"_s, u"field"_s, u"CODEF"_s};
     for (int h = 1; h <= holes; ++h) {
-        for (const char* figure :
-             {"long", "approach", "putt", "pen_rule", "pen_water", "pen_bounds", "pen_lost", "missed"})
-            columns << u"%1_%2"_s.arg(QLatin1String(figure)).arg(h);
+        for (const QString& figure : {u"long"_s, u"approach"_s, u"putt"_s, u"pen_rule"_s, u"pen_water"_s,
+                                      u"pen_bounds"_s, u"pen_lost"_s, u"missed"_s})
+            columns << u"%1_%2"_s.arg(figure).arg(h);
     }
     return columns;
 }
@@ -120,8 +120,8 @@ QStringList columns_of_games2()
 {
     QStringList columns{u"date"_s, u"FC"_s, u"conditionM"_s, u"PARTNERS"_s, u"temperature"_s};
     for (int h = 1; h <= holes; ++h) {
-        for (const char* figure : {"sand", "recovery", "fairway"})
-            columns << u"%1_%2"_s.arg(QLatin1String(figure)).arg(h);
+        for (const QString& figure : {u"sand"_s, u"recovery"_s, u"fairway"_s})
+            columns << u"%1_%2"_s.arg(figure).arg(h);
         for (int putt = 1; putt <= putts_kept; ++putt)
             columns << u"putt_len_%1_%2"_s.arg(h).arg(putt);
     }

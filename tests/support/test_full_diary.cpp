@@ -32,8 +32,8 @@ private Q_SLOTS:
 
     void a_full_diary_has_366_rounds_in_each_table()
     {
-        for (const char* table : {"games", "games2", "cost"}) {
-            const QString name = QLatin1String(table);
+        for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s}) {
+            const QString name = table;
             QCOMPARE(store().number(u"select count(*) from " + name), rounds_of_full_diary);
             QCOMPARE(store().number(u"select count(distinct date) from " + name), rounds_of_full_diary);
         }
@@ -48,23 +48,23 @@ private Q_SLOTS:
         QCOMPARE(store().text(u"select min(date) from games"_s), key_in_diary(0));
     }
 
-    void there_are_about_33000_shots()
+    void a_full_diary_has_about_33000_shots()
     {
         const int shots = store().number(u"select count(*) from Stat_rounds"_s);
         QVERIFY2(shots >= 30000 && shots <= 36000, qPrintable(QString::number(shots)));
     }
 
-    void all_its_strokes_fit_the_statistics_of_rounds()
+    void the_sum_of_all_strokes_fits_the_statistics_of_rounds()
     {
         QStringList figures;
-        for (const char* figure :
-             {"long", "approach", "putt", "pen_rule", "pen_water", "pen_bounds", "pen_lost"})
-            figures << over_the_holes(QLatin1String(figure));
+        for (const QString& figure : {u"long"_s, u"approach"_s, u"putt"_s, u"pen_rule"_s, u"pen_water"_s,
+                                      u"pen_bounds"_s, u"pen_lost"_s})
+            figures << over_the_holes(figure);
         const int strokes = store().number(u"select sum(" + figures.join(u" + "_s) + u") from games");
         QVERIFY2(strokes <= 32767, qPrintable(QString::number(strokes)));
     }
 
-    void the_figures_of_a_hole_are_what_its_shots_add_up_to_data()
+    void the_figures_of_a_hole_are_the_sums_of_its_shots_data()
     {
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("figure");
@@ -84,7 +84,7 @@ private Q_SLOTS:
         row("games2", "recovery", "dz");
         row("games2", "fairway", "fairval = 1 and shot_type_value <> 3");
     }
-    void the_figures_of_a_hole_are_what_its_shots_add_up_to()
+    void the_figures_of_a_hole_are_the_sums_of_its_shots()
     {
         QFETCH(QString, table);
         QFETCH(QString, figure);
@@ -100,30 +100,30 @@ private Q_SLOTS:
                      0);
             all += store().number(u"select sum(%1) from %2"_s.arg(column, table));
         }
-        QVERIFY2(all > 0, "the diary knows this figure");
+        QVERIFY2(all > 0, "the diary has values of this figure");
     }
 
-    void a_shot_starts_where_the_one_before_it_ended()
+    void a_shot_starts_where_the_previous_one_ended()
     {
-        const QString torn =
+        const QString gaps =
             u"select count(*) from Stat_rounds s join Stat_rounds p on p.date = s.date and p.hole = s.hole "
             u"and p.shot = s.shot - 1 where s.before <> p.after"_s;
-        QCOMPARE(store().number(torn), 0);
+        QCOMPARE(store().number(gaps), 0);
         QCOMPARE(store().number(u"select count(*) from Stat_rounds where shot = 1 and before <> verges"_s),
                  0);
     }
 
-    void every_hole_is_holed_once_and_ends_there()
+    void the_last_shot_of_a_hole_and_no_other_is_holed()
     {
         const QString holed = u"select count(*) from Stat_rounds where after = 0"_s;
         QCOMPARE(store().number(holed), rounds_of_full_diary * holes);
-        const QString behind =
+        const QString later =
             u"select count(*) from Stat_rounds p join Stat_rounds s on p.date = s.date and p.hole = s.hole "
             u"and s.shot > p.shot where p.after = 0"_s;
-        QCOMPARE(store().number(behind), 0);
+        QCOMPARE(store().number(later), 0);
     }
 
-    void the_lengths_of_the_putts_are_where_they_started_from()
+    void the_lengths_of_the_putts_are_the_distances_before_them()
     {
         for (int h = 1; h <= holes; ++h) {
             const QString first = u"(select s.before from Stat_rounds s where s.date = r.date and "
@@ -135,7 +135,7 @@ private Q_SLOTS:
         }
     }
 
-    void both_languages_stand_side_by_side()
+    void rounds_are_in_both_languages_with_all_weathers_and_many_partners()
     {
         std::set<QString> units;
         for (const auto& row : store().rows(u"select distinct unit from Stat_rounds"_s))
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(store().number(u"select count(distinct PARTNERS) from games2"_s) > 10);
     }
 
-    void without_shots_the_figures_are_the_same()
+    void a_diary_without_shots_has_the_same_figures()
     {
         const QString quick = folder_.filePath(u"quick.db"_s);
         create_diary(quick, 20, false);
