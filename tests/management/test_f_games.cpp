@@ -7,9 +7,9 @@
 #include "controls/main_frame.h"
 #include "management/f_games.h"
 #include "store/DataEnvironment1.h"
-#include "tests/support/diary.h"
 #include "tests/support/recording_frame.h"
 #include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 #include "tests/support/ways_out.h"
 #include "tests/support/window_look.h"
 
@@ -78,8 +78,7 @@ private Q_SLOTS:
         QFETCH(QList<int>, strokes);
         QFETCH(bool, stored);
         QFETCH(bool, marked);
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         hole_entry last;
         last.long_shots = strokes[0];
         last.approach = strokes[1];
@@ -87,7 +86,7 @@ private Q_SLOTS:
         last.stored = stored;
         // A penalty is no stroke of the kind that completes a round.
         last.water = 1;
-        book.add(round_with_last_hole(165, last));
+        store.book.add(round_with_last_hole(165, last));
         const QString line = u"2003-06-14 09:30:00 |  - Club des Pins"_s + (marked ? u"**"_s : QString());
         in_list([&](hand& user) {
             user.check(user.entries(u"List1"_s) == QStringList{line}, user.entries(u"List1"_s).join(u'\n'));
@@ -96,22 +95,20 @@ private Q_SLOTS:
 
     void a_round_with_only_its_last_hole_filled_has_no_mark()
     {
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         diary_round round = round_with_last_hole(1, hole_in(4));
         for (std::size_t i = 0; i < 17; ++i)
             round.holes.at(i).stored = false;
-        book.add(round);
+        store.book.add(round);
         in_list(
             [](hand& user) { user.check(!user.text(u"List1"_s).endsWith(u"**"), user.text(u"List1"_s)); });
     }
 
     void the_rounds_stand_in_time_order_and_the_earliest_is_selected()
     {
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         for (const int day : {40, 2, 365, 7})
-            book.add(round_with_last_hole(day, hole_in(4)));
+            store.book.add(round_with_last_hole(day, hole_in(4)));
         in_list([](hand& user) {
             QStringList days;
             for (const QString& line : user.entries(u"List1"_s))
@@ -124,10 +121,9 @@ private Q_SLOTS:
 
     void the_time_order_holds_after_a_statistic_has_left_the_rounds_without_one()
     {
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         for (const int day : {40, 2})
-            book.add(round_with_last_hole(day, hole_in(4)));
+            store.book.add(round_with_last_hole(day, hole_in(4)));
         data_environment().rsgames.set_Source(u"Select * from games"_s);
         in_list([](hand& user) {
             user.check(user.entries(u"List1"_s).at(0).startsWith(u"2003-01-02"), u"the earliest first"_s);
@@ -155,8 +151,8 @@ private Q_SLOTS:
     void every_way_out_closes_everything_and_unlocks_the_menu()
     {
         QFETCH(leaving, leave);
-        const store_folder store;
-        diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
+        const stored_diary store;
+        store.book.add(round_with_last_hole(1, hole_in(4)));
         recording_frame frame;
         // Twice: a list that left something open could not be opened again.
         for (int time = 0; time < 2; ++time) {
@@ -176,8 +172,8 @@ private Q_SLOTS:
 
     void closing_a_list_that_has_gone_does_nothing()
     {
-        const store_folder store;
-        diary(store.path()).add(round_with_last_hole(1, hole_in(4)));
+        const stored_diary store;
+        store.book.add(round_with_last_hole(1, hole_in(4)));
         f_games window;
         window.closeForm();
         data_environment().rsgames.Open();

@@ -6,9 +6,8 @@
 #include "statistics/stats_table.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/selection_windows.h"
-#include "tests/support/diary.h"
 #include "tests/support/failures.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -67,27 +66,26 @@ class test_detail_pass : public QObject {
 private Q_SLOTS:
     void the_shots_of_a_hole_fill_rows_1_to_9()
     {
-        const store_folder store;
-        const diary book(store.path());
-        book.add(course());
-        book.add(round_on(1, 0));
-        add_shots_of_hole_2(book, first_key);
-        book.add(diary_shot{first_key, 18, 1, 1, 1, 3, false, false, 5});
-        book.add(diary_shot{first_key, 18, 2, 1, 0, 2, false, false, 5});
-        book.add(diary_shot{first_key, 18, 3, 1, 0, 4, false, false, 5});
-        book.store.write(u"update stats set hole_1 = 3, front_nine = 3"_s);
+        const stored_diary store;
+        store.book.add(course());
+        store.book.add(round_on(1, 0));
+        add_shots_of_hole_2(store.book, first_key);
+        store.book.add(diary_shot{first_key, 18, 1, 1, 1, 3, false, false, 5});
+        store.book.add(diary_shot{first_key, 18, 2, 1, 0, 2, false, false, 5});
+        store.book.add(diary_shot{first_key, 18, 3, 1, 0, 4, false, false, 5});
+        store.store.write(u"update stats set hole_1 = 3, front_nine = 3"_s);
         write_detail_of(days(1, 1));
         const std::vector<double> hole_2{2, 1, 1, 1, 0, 0, 0, 1, 2};
         const std::vector<double> hole_18{1, 0, 0, 0, 1, 1, 1, 3, 1};
         for (int line = 1; line <= 9; ++line) {
-            const auto figures = stats_row(book.store, line);
+            const auto figures = stats_row(store.store, line);
             QCOMPARE(figures[1], hole_2[static_cast<std::size_t>(line - 1)]);
             QCOMPARE(figures[17], hole_18[static_cast<std::size_t>(line - 1)]);
             QCOMPARE(figures[0], 0.0);
             QCOMPARE(figures[18], 0.0);
         }
-        QCOMPARE(stats_row(book.store, 0)[1], 0.0);
-        QCOMPARE(stats_row(book.store, 10)[1], 0.0);
+        QCOMPARE(stats_row(store.store, 0)[1], 0.0);
+        QCOMPARE(stats_row(store.store, 10)[1], 0.0);
     }
 
     void a_selection_without_shots_is_not_detailed_data()
@@ -108,12 +106,11 @@ private Q_SLOTS:
         QFETCH(int, from);
         QFETCH(int, to);
         QFETCH(QString, clause);
-        const store_folder store;
-        const diary book(store.path());
-        book.add(course());
+        const stored_diary store;
+        store.book.add(course());
         for (int day = 1; day <= 4; ++day)
-            book.add(round_on(day, 0));
-        add_shots_of_hole_2(book, key_of_day(2));
+            store.book.add(round_on(day, 0));
+        add_shots_of_hole_2(store.book, key_of_day(2));
         selection_arguments chosen = days(from, to);
         chosen.weather_clause = clause;
         const bool detailed = Statistics::open_detail(chosen);
@@ -123,11 +120,10 @@ private Q_SLOTS:
 
     void a_shot_on_no_hole_fails()
     {
-        const store_folder store;
-        const diary book(store.path());
-        book.add(course());
-        book.add(round_on(1, 0));
-        book.add(diary_shot{first_key, 19, 1, 1, 1, 0, false, false, 4});
+        const stored_diary store;
+        store.book.add(course());
+        store.book.add(round_on(1, 0));
+        store.book.add(diary_shot{first_key, 19, 1, 1, 1, 0, false, false, 4});
         stats_table::open_cleared();
         QVERIFY(Statistics::open_detail(days(1, 1)));
         QCOMPARE(failure_of(stats_table::write_detail), failure_kind::subscript);
@@ -140,34 +136,32 @@ private Q_SLOTS:
     void a_detailed_round_brings_no_message_and_the_summary_overwrites_its_figures()
     {
         QFETCH(bool, french);
-        const store_folder store(french);
-        const diary book(store.path());
+        const stored_diary store(french);
         set_report_store(store.path());
-        book.add(course());
+        store.book.add(course());
         diary_round round = round_on(1, 0);
         round.holes[1].fairway = 7;
-        book.add(round);
-        add_shots_of_hole_2(book, first_key);
+        store.book.add(round);
+        add_shots_of_hole_2(store.book, first_key);
         in_selection_window([](hand& user) {
             run(user);
             close_report(user);
         });
-        QCOMPARE(stats_row(book.store, 1)[1], 7.0);
+        QCOMPARE(stats_row(store.store, 1)[1], 7.0);
         for (int line = 2; line <= 9; ++line)
-            QCOMPARE(stats_row(book.store, line)[1], 0.0);
+            QCOMPARE(stats_row(store.store, line)[1], 0.0);
         QVERIFY(open_recordsets().isEmpty());
     }
 
     void detail_without_a_round_brings_the_second_message_alone()
     {
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         set_report_store(store.path());
-        book.add(course());
+        store.book.add(course());
         for (int day = 1; day <= 3; ++day)
-            book.add(round_on(day, 0));
-        add_shots_of_hole_2(book, key_of_day(2));
-        book.store.write(u"delete from games where date = '%1'"_s.arg(key_of_day(2)));
+            store.book.add(round_on(day, 0));
+        add_shots_of_hole_2(store.book, key_of_day(2));
+        store.store.write(u"delete from games where date = '%1'"_s.arg(key_of_day(2)));
         in_selection_window([](hand& user) {
             select_range(user, 0, 1);
             user.choose(u"conditions"_s, 3);
@@ -176,7 +170,7 @@ private Q_SLOTS:
             user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
         });
         for (int line = 0; line < 34; ++line)
-            QCOMPARE(stats_row(book.store, line)[1], 0.0);
+            QCOMPARE(stats_row(store.store, line)[1], 0.0);
         QVERIFY(open_recordsets().isEmpty());
     }
 };

@@ -3,9 +3,8 @@
 #include "base/numbers.h"
 #include "statistics/handicap.h"
 #include "store/DataEnvironment1.h"
-#include "tests/support/diary.h"
 #include "tests/support/failures.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -73,18 +72,17 @@ private Q_SLOTS:
     void the_ladder_says_how_many_of_the_best_count()
     {
         QFETCH(int, rounds);
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         const diary_course course = reference_course();
-        book.add(course);
+        store.book.add(course);
         std::vector<diary_round> all;
         // The worst come first: the order of time is not that of the figures.
         for (int i = 0; i < rounds; ++i)
             all.push_back(round_of(i + 1, course, 72 + rounds - i));
-        book.add(all);
+        store.book.add(all);
         QTEST(handicap_of(whole_year()), "expected");
-        QCOMPARE(book.store.number(u"select count(*) from hand"_s), rounds);
-        QCOMPARE(book.store.number(u"select min(hnd) from hand"_s), 1);
+        QCOMPARE(store.store.number(u"select count(*) from hand"_s), rounds);
+        QCOMPARE(store.store.number(u"select min(hnd) from hand"_s), 1);
     }
 
     void the_figure_is_rounded_once_and_a_single_one_takes_no_factor_data()
@@ -104,12 +102,11 @@ private Q_SLOTS:
     void the_figure_is_rounded_once_and_a_single_one_takes_no_factor()
     {
         QFETCH(QStringList, ratings);
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         for (qsizetype i = 0; i < ratings.size(); ++i) {
             const diary_course course = flat_course(u"COURSE%1-0"_s.arg(i), 4, ratings.at(i), u"113"_s);
-            book.add(course);
-            book.add(round_of(static_cast<int>(i) + 1, course, 80));
+            store.book.add(course);
+            store.book.add(round_of(static_cast<int>(i) + 1, course, 80));
         }
         QTEST(handicap_of(whole_year()), "expected");
     }
@@ -131,33 +128,31 @@ private Q_SLOTS:
     void a_differential_beside_a_tie_is_rounded_as_its_double()
     {
         QFETCH(QString, rating);
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         const diary_course course = flat_course(reference_code, 4, rating, u"100"_s);
         const diary_course other = flat_course(u"EASY-0"_s, 4, u"20"_s, u"113"_s);
-        book.add(course);
-        book.add(other);
-        book.add(round_of(1, course, 80));
+        store.book.add(course);
+        store.book.add(other);
+        store.book.add(round_of(1, course, 80));
         for (int day = 2; day <= 5; ++day)
-            book.add(round_of(day, other, 80));
+            store.book.add(round_of(day, other, 80));
         QTEST(handicap_of(whole_year()), "expected");
     }
 
     void published_courses_give_the_differentials_worked_out_by_hand()
     {
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         const diary_course pebble = course_of(u"Pebble Beach"_s, u"Blue"_s);
         const diary_course links = course_of(u"North Berwick West Links"_s, u"Red"_s);
-        book.add(pebble);
-        book.add(links);
+        store.book.add(pebble);
+        store.book.add(links);
         for (int day = 1; day <= 5; ++day)
-            book.add(round_of(day, pebble, 90 + day));
-        book.add(round_of(6, links, 80));
+            store.book.add(round_of(day, pebble, 90 + day));
+        store.book.add(round_of(6, links, 80));
         // Pebble Beach, blue: (91 - 74.9) * 113 / 144 = 12.634...; North Berwick, red:
         // (80 - 69.1) * 113 / 121 = 10.179...; their mean 11.4067 * 0.96 = 10.950 -> 11 (10.95042)
         QCOMPARE(handicap_of(whole_year()), u" 11"_s);
-        const auto rows = book.store.rows(u"select hnd from hand order by hnd"_s);
+        const auto rows = store.store.rows(u"select hnd from hand order by hnd"_s);
         QCOMPARE(rows.size(), std::size_t(6));
         QCOMPARE(rows.at(0).at(0).toDouble(), (80 - 69.1) * 113 / 121);
         QCOMPARE(rows.at(1).at(0).toDouble(), (91 - 74.9) * 113 / 144);
@@ -172,12 +167,11 @@ private Q_SLOTS:
     void slopes_of_0_or_nothing_give_no_handicap()
     {
         QFETCH(QString, slope);
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         const diary_course course = flat_course(reference_code, 4, u"70"_s, slope);
-        book.add(course);
+        store.book.add(course);
         for (int day = 1; day <= 6; ++day)
-            book.add(round_of(day, course, 90));
+            store.book.add(round_of(day, course, 90));
         QCOMPARE(handicap_of(whole_year()), u"N/A"_s);
     }
 
@@ -228,18 +222,17 @@ private Q_SLOTS:
         QFETCH(QString, course);
         QFETCH(QString, weather);
         QFETCH(QString, partner);
-        const store_folder store;
-        const diary book(store.path());
+        const stored_diary store;
         const diary_course reference = reference_course();
         const diary_course other = flat_course(u"OTHER-1"_s, 4, u"72"_s, u"113"_s);
-        book.add(reference);
-        book.add(other);
+        store.book.add(reference);
+        store.book.add(other);
         const QHash<int, QString> partners{{1, u"12-7-"_s}, {2, u"112-"_s}, {6, u"5-12-"_s}};
         for (int day = 1; day <= 8; ++day) {
             diary_round round = round_of(day, day < 5 ? reference : other, 72 + day);
             round.weather = day % 4;
             round.partners = partners.value(day);
-            book.add(round);
+            store.book.add(round);
         }
         selection_arguments chosen;
         chosen.from_key = key_of_day(from);
@@ -249,17 +242,16 @@ private Q_SLOTS:
         chosen.partner_number = partner;
         QCOMPARE(Statistics::compute_handicap(chosen).missing, missing_row::none);
         QList<int> seen;
-        for (const auto& row : book.store.rows(u"select hnd from hand order by hnd"_s))
+        for (const auto& row : store.store.rows(u"select hnd from hand order by hnd"_s))
             seen << row.at(0).toInt();
         QCOMPARE(seen, days);
     }
 
     void everything_is_closed_and_the_sources_are_whole_tables_again()
     {
-        const store_folder store;
-        const diary book(store.path());
-        book.add(reference_course());
-        book.add(round_of(1, reference_course(), 90));
+        const stored_diary store;
+        store.book.add(reference_course());
+        store.book.add(round_of(1, reference_course(), 90));
         handicap_of(whole_year());
         for (Recordset& recordset : data_environment().recordsets())
             QVERIFY2(!recordset.is_open(), qPrintable(recordset.name()));
@@ -280,11 +272,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, loss);
         QFETCH(int, number);
-        const store_folder store;
-        const diary book(store.path());
-        book.add(reference_course());
-        book.add(round_of(1, reference_course(), 90));
-        book.store.write(loss);
+        const stored_diary store;
+        store.book.add(reference_course());
+        store.book.add(round_of(1, reference_course(), 90));
+        store.store.write(loss);
         const Statistics::handicap_result result = Statistics::compute_handicap(whole_year());
         QCOMPARE(static_cast<int>(result.missing), number);
         QVERIFY(result.text.isEmpty());
@@ -295,29 +286,27 @@ private Q_SLOTS:
 
     void there_is_room_for_366_rounds_and_no_more()
     {
-        const store_folder store;
-        const diary book(store.path());
-        book.add(reference_course());
+        const stored_diary store;
+        store.book.add(reference_course());
         std::vector<diary_round> rounds;
         for (int day = 1; day <= 366; ++day)
             rounds.push_back(round_of(day, reference_course(), 73));
-        book.add(rounds);
+        store.book.add(rounds);
         QCOMPARE(handicap_of(whole_year()), u" 1"_s);  // 1 * 0.96 = 0.96
-        book.add(round_of(367, reference_course(), 73));
+        store.book.add(round_of(367, reference_course(), 73));
         QCOMPARE(failure_of([] { handicap_of(whole_year()); }), failure_kind::subscript);
     }
 
     void a_round_with_holes_left_out_counts_with_its_low_gross()
     {
-        const store_folder store;
-        const diary book(store.path());
-        book.add(reference_course());
+        const stored_diary store;
+        store.book.add(reference_course());
         diary_round round = round_of(1, reference_course(), 40);
         for (std::size_t i = 1; i < 18; ++i)
             round.holes.at(i).stored = false;
-        book.add(round);
+        store.book.add(round);
         handicap_of(whole_year());
-        QCOMPARE(book.store.number(u"select hnd from hand"_s), 40 - 72);
+        QCOMPARE(store.store.number(u"select hnd from hand"_s), 40 - 72);
     }
 };
 

@@ -8,8 +8,7 @@
 #include "statistics/f_date_range_func.h"
 #include "statistics/round_statistics.h"
 #include "tests/statistics/report_rows.h"
-#include "tests/support/diary.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -24,9 +23,9 @@ int code_of(QString name, QString surname)
 
 /// Anne Roy and Anne Ory, whose names have the same letters, and Guy Lee. Anne, either of them, plays on the
 /// days 1 and 3, Guy on day 2.
-class rounds_with_partners {
+class rounds_with_partners : public stored_diary {
 public:
-    rounds_with_partners() : anne(code_of(u"Roy"_s, u"Anne"_s)), book(folder_.path())
+    rounds_with_partners() : anne(code_of(u"Roy"_s, u"Anne"_s))
     {
         const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
         book.add(course);
@@ -54,12 +53,6 @@ public:
     }
 
     int anne;
-
-private:
-    store_folder folder_;
-
-public:
-    diary book;
 };
 
 /// All rounds, with an entry of the list of partners chosen.

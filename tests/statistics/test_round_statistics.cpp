@@ -6,8 +6,7 @@
 #include "reports/report_store.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/selection_windows.h"
-#include "tests/support/diary.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -37,12 +36,11 @@ diary_course carnoustie()
 }
 
 /// A fresh store with courses and rounds, which reports read too.
-class filled_store {
+class filled_store : public stored_diary {
 public:
-    explicit filled_store(const std::vector<diary_round>& rounds, bool french = true)
-        : folder_(french), book(folder_.path())
+    explicit filled_store(const std::vector<diary_round>& rounds, bool french = true) : stored_diary(french)
     {
-        set_report_store(folder_.path());
+        set_report_store(path());
         for (const diary_course& course : {pebble(), carnoustie()})
             book.add(course);
         book.add(rounds);
@@ -50,12 +48,6 @@ public:
 
     row stats(int number) const { return stats_row(book.store, number); }
     QString head(const QString& column) const { return stats_head(book.store, column).toString(); }
-
-private:
-    store_folder folder_;
-
-public:
-    const diary book;
 };
 
 /// A par round on Pebble Beach (par 72), one stroke more on every hole for each `over`.

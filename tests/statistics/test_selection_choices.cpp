@@ -8,7 +8,7 @@
 #include "statistics/f_date_range_func.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/statistics/three_rounds.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -45,8 +45,8 @@ class test_selection_choices : public QObject {
 private Q_SLOTS:
     void the_number_of_rounds_between_follows_every_click_and_shows_nowhere()
     {
-        const store_folder store;
-        add_three_rounds(diary(store.path()));
+        const stored_diary store;
+        add_three_rounds(store.book);
         f_date_range window;
         QCOMPARE(plain(window.rounds_between), 1);
         window.List2->setCurrentRow(2);
@@ -60,8 +60,8 @@ private Q_SLOTS:
 
     void a_click_beside_the_lines_keeps_the_selection()
     {
-        const store_folder store;
-        add_three_rounds(diary(store.path()));
+        const stored_diary store;
+        add_three_rounds(store.book);
         in_selection_window([](hand& user) {
             user.click_row(u"List1"_s, 1);
             user.click(u"List1"_s);
@@ -136,8 +136,8 @@ private Q_SLOTS:
         QFETCH(bool, french);
         QFETCH(QList<int>, picked);
         QFETCH(QStringList, expected);
-        const store_folder store(french);
-        add_three_rounds(diary(store.path()));
+        const stored_diary store(french);
+        add_three_rounds(store.book);
         const selection_arguments got = arguments_of({picked[0], picked[1], picked[2], picked[3], picked[4]});
         const QStringList seen{got.from_key,       got.to_key,       got.partner_clause, got.course_clause,
                                got.weather_clause, got.partner_text, got.course_text,    got.weather_text,
@@ -177,8 +177,8 @@ private Q_SLOTS:
         QFETCH(statistics_mode, mode);
         QFETCH(bool, french);
         QFETCH(bool, on);
-        const store_folder store(french);
-        add_three_rounds(diary(store.path()));
+        const stored_diary store(french);
+        add_three_rounds(store.book);
         const choices picked = on ? choices{0, 1, 2, 1, 1} : choices{};
         const selection_arguments got = arguments_of(picked, mode);
         const QStringList seen{got.partner_clause, got.course_clause, got.weather_clause, got.weather_text};

@@ -10,6 +10,7 @@
 #include "tests/statistics/three_rounds.h"
 #include "tests/support/recording_frame.h"
 #include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 #include "tests/support/ways_out.h"
 #include "tests/support/window_look.h"
 
@@ -48,8 +49,8 @@ private Q_SLOTS:
         QFETCH(QStringList, courses);
         QFETCH(QStringList, partners);
         QFETCH(QStringList, weather);
-        const store_folder store(french);
-        add_three_rounds(diary(store.path()));
+        const stored_diary store(french);
+        add_three_rounds(store.book);
         const QStringList rounds{u"2003-01-01 09:30:00 |  - Pebble Beach"_s,
                                  u"2003-01-02 09:30:00 |  - Pebble Beach**"_s,
                                  u"2003-01-03 09:30:00 |  - North Berwick West Links"_s};
@@ -89,8 +90,8 @@ private Q_SLOTS:
         QFETCH(statistics_mode, mode);
         QFETCH(QString, button);
         for (const bool french : {true, false}) {
-            const store_folder store(french);
-            add_three_rounds(diary(store.path()));
+            const stored_diary store(french);
+            add_three_rounds(store.book);
             in_selection_window(
                 [&](hand& user) {
                     for (const QString& each : {u"Command1"_s, u"Command2"_s, u"Command3"_s, u"OKButton"_s}) {
@@ -110,8 +111,8 @@ private Q_SLOTS:
 
     void a_double_click_runs_it_once()
     {
-        const store_folder store;
-        add_three_rounds(diary(store.path()));
+        const stored_diary store;
+        add_three_rounds(store.book);
         in_selection_window(
             [](hand& user) {
                 user.double_click(u"OKButton"_s);
@@ -134,20 +135,18 @@ private Q_SLOTS:
     void opening_the_window_empties_the_cost_report_in_every_mode()
     {
         QFETCH(statistics_mode, mode);
-        const store_folder store;
-        const diary book(store.path());
-        add_three_rounds(book);
-        book.store.write(u"insert into r_cost (date, fg) values ('a', 1), ('b', 2), ('c', 3)"_s);
+        const stored_diary store;
+        add_three_rounds(store.book);
+        store.store.write(u"insert into r_cost (date, fg) values ('a', 1), ('b', 2), ('c', 3)"_s);
         in_selection_window([](hand&) {}, mode);
-        QCOMPARE(book.store.number(u"select count(*) from r_cost"_s), 0);
+        QCOMPARE(store.store.number(u"select count(*) from r_cost"_s), 0);
     }
 
     void a_store_with_nothing_but_rounds_opens_with_open_filters()
     {
-        const store_folder store;
-        const diary book(store.path());
-        add_three_rounds(book);
-        book.store.write(
+        const stored_diary store;
+        add_three_rounds(store.book);
+        store.store.write(
             {u"delete from vrd_fields"_s, u"delete from field_info"_s, u"delete from partners"_s});
         in_selection_window([](hand& user) {
             user.check(user.entries(u"cmb_courses"_s) == QStringList{u"Tous les terrains"_s}, u"courses"_s);
@@ -158,17 +157,17 @@ private Q_SLOTS:
 
     void partners_that_their_window_had_to_leave_open_are_read_anew()
     {
-        const store_folder store;
+        const stored_diary store;
         data_environment().rspartners.Open();
-        add_three_rounds(diary(store.path()));
+        add_three_rounds(store.book);
         in_selection_window([](hand& user) { user.same(user.entries(u"pList"_s).size(), 3, u"partners"_s); });
         QVERIFY(!data_environment().rspartners.is_open());
     }
 
     void every_filter_has_its_label_and_takes_no_text_of_its_own()
     {
-        const store_folder store;
-        add_three_rounds(diary(store.path()));
+        const stored_diary store;
+        add_three_rounds(store.book);
         const f_date_range window;
         const QList<std::pair<int, QComboBox*>> filters{
             {2, window.cmb_courses}, {3, window.pList}, {4, window.conditions}};
@@ -206,8 +205,8 @@ private Q_SLOTS:
     void every_way_out_unlocks_the_menu_and_leaves_nothing_open()
     {
         QFETCH(leaving, leave);
-        const store_folder store;
-        add_three_rounds(diary(store.path()));
+        const stored_diary store;
+        add_three_rounds(store.book);
         recording_frame frame;
         play(
             [] {

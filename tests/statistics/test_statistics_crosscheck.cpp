@@ -8,8 +8,7 @@
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/handicap_opinion.h"
 #include "tests/statistics/selection_windows.h"
-#include "tests/support/diary.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -260,15 +259,15 @@ private Q_SLOTS:
     {
         QFETCH(QList<int>, picked);
         const choice chosen{picked[0], picked[1], picked[2], picked[3], picked[4]};
-        const store_folder store;
+        const stored_diary store;
         set_report_store(store.path());
         const diary book(store.path());
         for (const diary_course& course : courses())
-            book.add(course);
-        book.add_partner(u"Anne"_s, u"Douze"_s, 12);
-        book.add_partner(u"Zoé"_s, u"Sept"_s, 7);
+            store.book.add(course);
+        store.book.add_partner(u"Anne"_s, u"Douze"_s, 12);
+        store.book.add_partner(u"Zoé"_s, u"Sept"_s, 7);
         const auto rounds = generated_diary();
-        book.add(rounds);
+        store.book.add(rounds);
         in_selection_window([&](hand& user) {
             select_range(user, chosen.from, chosen.to);
             user.choose(u"cmb_courses"_s, chosen.course);
@@ -277,14 +276,14 @@ private Q_SLOTS:
             run_without_detail(user);
         });
         const QString condition = condition_of(chosen, rounds);
-        QCOMPARE(stats_head(book.store, u"handicap_text"_s).toString(),
-                 handicap_opinion(book.store, condition));
-        const second_opinion opinion(book.store, condition);
+        QCOMPARE(stats_head(store.store, u"handicap_text"_s).toString(),
+                 handicap_opinion(store.store, condition));
+        const second_opinion opinion(store.store, condition);
         QVERIFY(opinion.rounds() > 0);
-        QCOMPARE(stats_head(book.store, u"round_count"_s).toInt(), opinion.rounds());
+        QCOMPARE(stats_head(store.store, u"round_count"_s).toInt(), opinion.rounds());
         for (int line = 0; line < rows_of_stats; ++line) {
             const auto expected = opinion.row(line);
-            const auto seen = stats_row(book.store, line);
+            const auto seen = stats_row(store.store, line);
             for (std::size_t i = 0; i < expected.size(); ++i) {
                 const QString where = u"row %1, column %2: %3, expected %4"_s.arg(line)
                                           .arg(i + 1)

@@ -9,9 +9,9 @@
 #include "reports/report_store.h"
 #include "scoring/limits.h"
 #include "tests/statistics/selection_windows.h"
-#include "tests/support/diary.h"
 #include "tests/support/hand.h"
 #include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -64,20 +64,20 @@ class test_statistics_overflow : public QObject {
 private Q_SLOTS:
     void the_strokes_of_a_selection_fit_16_bits()
     {
-        const store_folder store;
+        const stored_diary store;
         set_report_store(store.path());
         const diary book(store.path());
-        book.add(course());
-        book.add(full_list(89));
+        store.book.add(course());
+        store.book.add(full_list(89));
         in_selection_window([](hand& user) {
             select_range(user, 0, most_rounds - 1);
             run_without_detail(user);
         });
-        const auto strokes = stats_row(book.store, 0);
+        const auto strokes = stats_row(store.store, 0);
         QCOMPARE(strokes[18] + strokes[19], most_rounds * 89.0);
         QCOMPARE(strokes[20], 89.0);
-        QCOMPARE(stats_head(book.store, u"round_count"_s).toInt(), most_rounds);
-        QCOMPARE(stats_head(book.store, u"handicap_text"_s).toString(), u" 16.3"_s);
+        QCOMPARE(stats_head(store.store, u"round_count"_s).toInt(), most_rounds);
+        QCOMPARE(stats_head(store.store, u"handicap_text"_s).toString(), u" 16.3"_s);
     }
 
     void more_than_that_ends_the_program_with_its_words()

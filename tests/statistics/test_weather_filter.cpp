@@ -11,8 +11,7 @@
 #include "statistics/round_statistics.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/report_rows.h"
-#include "tests/support/diary.h"
-#include "tests/support/store_folder.h"
+#include "tests/support/stored_diary.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -25,9 +24,9 @@ constexpr int day_without_weather = 5;
 
 /// A round in each weather, on the days 1 to 4, and one whose weather is Null on day 5. Each has a shot, a
 /// putt and costs.
-class rounds_in_all_weathers {
+class rounds_in_all_weathers : public stored_diary {
 public:
-    rounds_in_all_weathers() : book(folder_.path())
+    rounds_in_all_weathers()
     {
         const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
         book.add(course);
@@ -42,12 +41,6 @@ public:
         book.store.write(u"update games2 set conditionM = null where date = '"_s +
                          key_of_day(day_without_weather) + u'\'');
     }
-
-private:
-    store_folder folder_;
-
-public:
-    diary book;
 };
 
 /// All rounds, with an entry of the list of weathers chosen; 0 is no filter.
