@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "controls/Form.h"
 #include "scoring/Verdane_tools.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"
