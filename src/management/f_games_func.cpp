@@ -9,7 +9,7 @@
 #include "management/f_games.h"
 #include "management/round_removal.h"
 #include "records/round_list.h"
-#include "round/Round_records.h"
+#include "round/round_opening.h"
 #include "scoring/round_key.h"
 #include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"

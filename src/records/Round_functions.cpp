@@ -1,10 +1,10 @@
 #include "records/Round_functions.h"
 
 #include "base/numbers.h"
-#include "records/round_columns.h"
 #include "scoring/hole_classes.h"
 #include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/courses.h"
 
 namespace verdane::Round_functions {
 
@@ -103,8 +103,8 @@ QString hole_cell(int selector, int16 hole, const figure_source& source)
 round_figures round_score(const figure_source& last_hole)
 {
     Recordset& course = data_environment().rsvrd_fields;
-    const double rating = course.Fields(round_columns::rating).double_or_zero();
-    const double slope = course.Fields(round_columns::slope).double_or_zero();
+    const double rating = course.Fields(tables::vrd_fields::rating).double_or_zero();
+    const double slope = course.Fields(tables::vrd_fields::slope).double_or_zero();
     round_figures result;
     add_holes(result.totals, last_hole);
     result.differential = differential(result.totals.gross, rating, slope);

@@ -16,14 +16,14 @@ namespace {
 constexpr std::int16_t name_width = 195;
 constexpr int shown_characters = 20;
 
-/// A line without the padding between the name and the tee.
+/// An entry without the padding between name and tee.
 QString unpadded(const QString& line)
 {
     const auto tee = line.lastIndexOf(u',');
     return trimmed_blanks(QStringView(line).left(tee)) + QStringView(line).mid(tee);
 }
 
-/// The lines of the open list.
+/// Draws the lines of the open list.
 class unpadded_lines : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -49,7 +49,7 @@ void course_box::add_course(QString name, const QString& code)
     addItem(QString(Verdane_tools::pad_right(name, name_width) + u", " + tee), code);
 }
 
-int course_box::place_of(const QString& code) const
+int course_box::index_of(const QString& code) const
 {
     return std::max(0, findData(code));
 }

@@ -4,22 +4,22 @@
 
 namespace verdane {
 
-/// The drop-down of courses. An entry is the course's name, padded so wide that the tee behind it is
-/// out of the closed box's view; the open list shows name and tee side by side.
+/// The drop-down list of courses. The text of an entry is the course's name, padded so far that the tee after
+/// it is outside of the closed box; the open list shows name and tee side by side.
 class course_box : public QComboBox {
 public:
     explicit course_box(QWidget* parent = nullptr);
 
-    /// Adds a line for the course of that code, the last character of which names the tee.
+    /// Adds an entry. The last character of the code is that of the tee.
     void add_course(QString name, const QString& code);
 
-    /// The place of the course with that code; the first place when there is none.
-    int place_of(const QString& code) const;
+    /// The index of the course with that code, 0 when there is none.
+    int index_of(const QString& code) const;
 
-    /// Name and tee of the course chosen, "Alpha, WHITE"; empty when there is none.
+    /// Name and tee of the selected course, "Alpha, WHITE"; empty when none is selected.
     QString course() const;
 
-    /// Opens the list as wide as its lines look, not as they are padded.
+    /// Opens the list in the width of its lines without the padding.
     void showPopup() override;
 };
 

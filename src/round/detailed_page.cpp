@@ -1,111 +1,307 @@
 #include "round/detailed_page.h"
 
-#include <QComboBox>
-#include <QLineEdit>
+#include <QHBoxLayout>
+#include <QPushButton>
 
+#include "base/language.h"
+#include "controls/accessible_controls.h"
 #include "controls/boxes.h"
-#include "controls/data_grid.h"
-#include "controls/main_frame.h"
-#include "round/details_grid.h"
-#include "round/f_new_round.h"
-#include "round/f_new_round_layout.h"
-#include "round/round_boxes.h"
-#include "round/shot_entry.h"
-#include "round/shot_menus.h"
+#include "controls/events.h"
+#include "controls/Form.h"
+#include "controls/look.h"
+#include "controls/shortcuts.h"
+#include "round/shot_grid.h"
+#include "scoring/shot_words.h"
 #include "store/DataEnvironment1.h"
 
-namespace verdane::f_new_round_func {
+namespace verdane {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void go_to_quick_page(f_new_round& window)
+detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_on_screen()> hole)
+    : QGroupBox(window.caption(u"Coups", u"Shots")),
+      window_(window),
+      rows_(rows),
+      hole_(hole),
+      entry_(rows, window.french(), hole),
+      grid_(new shot_grid(window))
 {
-    int16 removed = 1;
-    bool ok = true;
-    drop_blank_shot(window, removed, ok);
-    if (removed == 0)
-        summarise_hole(window);
-    show_quick_page(window);
-    // Forced back while closing, the tab is still on the other page.
-    window.TabStrip2->select(quick_page);
-    window.cmb_holes->setCurrentIndex(window.TabStrip1->selected() - 1);
-    enable_save_and_close(true);
-    window.text_vrd(round_box::long_shots).setFocus(Qt::TabFocusReason);
+    setObjectName(u"Framedet"_s);
+    name_control(*grid_, title());
+    grid_->set_up_columns();
+    // While the grid is hidden for a moment, nothing else moves.
+    QSizePolicy policy = grid_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    grid_->setSizePolicy(policy);
+    auto* lines = new QVBoxLayout(this);
+    lines->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    lines->setSpacing(rhythm);
+    lines->addWidget(grid_, 1);
+    lines->addLayout(make_commands());
+    hide();
+    connect_events();
 }
 
-/// Nothing changes for who is on the quick page already.
-void leave_detailed_page(f_new_round& window)
+QPushButton* detailed_page::make_command(const text_pair& caption, QStringView name, const shortcut& keys)
 {
-    if (window.Framedet->isHidden())
-        window.TabStrip2->select(quick_page);
-    else
-        go_to_quick_page(window);
+    QPushButton* button = named(make_button(caption.in(window_.french())), name);
+    window_.shortcuts().add(keys, *button);
+    return button;
 }
 
-void go_to_detailed_page(f_new_round& window)
+QLayout* detailed_page::make_commands()
 {
+    next_button_ = make_command({u"Coup suivant", u"Next Shot"}, u"CommandSuiv", shortcut_table::next_shot);
+    remove_button_ = make_command({u"Supprimer", u"Remove"}, u"CommandSup", shortcut_table::remove_shot);
+    finish_button_ = make_command({u"Fin - Rafraichir carte de pointage", u"End - Refresh Scorecard"},
+                                  u"b_carte", shortcut_table::end_of_hole);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(rhythm);
+    line->addWidget(next_button_);
+    line->addWidget(remove_button_);
+    line->addStretch();
+    line->addWidget(finish_button_);
+    return line;
+}
+
+void detailed_page::connect_events()
+{
+    const std::pair<QPushButton*, void (detailed_page::*)()> commands[] = {
+        {next_button_, &detailed_page::next_shot},
+        {remove_button_, &detailed_page::remove_shot},
+        {finish_button_, &detailed_page::finish_hole}};
+    for (const auto& [button, routine] : commands) {
+        on_click(*button, [this, pressed = routine] {
+            if (finish_typing())
+                (this->*pressed)();
+        });
+    }
+    grid_->club_chosen = [this](int entry) { club_chosen(entry); };
+    grid_->kind_chosen = [this](int entry) { kind_chosen(entry); };
+    grid_->position_chosen = [this](int entry) { position_chosen(entry); };
+    grid_->penalty_chosen = [this](int entry) { penalty_chosen(entry); };
+    grid_->yes_or_no_chosen = [this](int entry) { yes_or_no_chosen(entry == 0); };
+    grid_->column_updated = [this](int column) { column_updated(column); };
+}
+
+bool detailed_page::finish_typing()
+{
+    return grid_->commit_cell();
+}
+
+void detailed_page::enter()
+{
+    grid_->set_club_names(shot_entry::club_names());
+    grid_->set_up_columns();
+}
+
+void detailed_page::enter_again()
+{
+    const int row = grid_->currentIndex().row();
     Recordset& shots = data_environment().rsStat_rounds;
-    if (shots.is_open())
+    // Shots that could not be opened before are not opened without an action of the user.
+    if (shots.is_open()) {
         shots.Update();
-    show_detailed_page(window);
-    if (window.date_value.isEmpty()) {
-        tell(u"Il faut choisir la date du ronde avant d'entrer les détails"_s, QMessageBox::Critical);
+        rows_.reopen();
+    }
+    grid_->bound_model().move_to(row);
+    grid_->ReBind();
+    focus_grid();
+}
+
+void detailed_page::focus_grid()
+{
+    grid_->setFocus(Qt::OtherFocusReason);
+}
+
+void detailed_page::focus_club()
+{
+    grid_->set_Col(shot_grid::club_column);
+    focus_grid();
+}
+
+void detailed_page::unbind()
+{
+    grid_->unbind();
+}
+
+void detailed_page::show_incomplete(const QString& number)
+{
+    tell(window_.caption(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",
+                         u"Please indicate a golf club and the type of shot (VRD) for the shot") +
+             number,
+         QMessageBox::Critical);
+}
+
+bool detailed_page::open_hole_shots()
+{
+    if (hole_().key.isEmpty()) {
+        tell(window_.caption(u"Veuillez d'abord choisir la date de la ronde.",
+                             u"Please enter the round's date."),
+             QMessageBox::Critical);
+        return false;
+    }
+    grid_->hide();
+    grid_->unbind();
+    entry_.load_hole();
+    grid_->bind();
+    grid_->show();
+    return true;
+}
+
+bool detailed_page::check_shots()
+{
+    if (!rows_.has_hole())
+        return true;
+    const int incomplete = entry_.check_shots();
+    grid_->ReBind();
+    if (incomplete == 0)
+        return true;
+    show_incomplete(u' ' + QString::number(incomplete));
+    return false;
+}
+
+blank_shot detailed_page::drop_blank_shot()
+{
+    if (!entry_.drop_blank_shot(grid_->Row()))
+        return {false, check_shots()};
+    grid_->ReBind();
+    return {true, std::nullopt};
+}
+
+/// The hole has lost all its shots.
+void detailed_page::start_hole_again()
+{
+    grid_->unbind();
+    entry_.add_first_shot();
+    grid_->bind();
+    grid_->ReBind();
+}
+
+void detailed_page::next_shot()
+{
+    if (!entry_.hole_is_loaded())
+        return;
+    if (!entry_.has_shots()) {
+        start_hole_again();
         return;
     }
-    open_hole_shots(window);
-    enable_save_and_close(false);
-    name_clubs(window);
-    set_up_columns(window);
-    Lock_menu();
-    window.details->set_Col(details_column::club);
-    window.details->setFocus(Qt::OtherFocusReason);
-}
-
-}  // namespace
-
-bool on_detailed_page(const f_new_round& window)
-{
-    return window.TabStrip2->selected() == detailed_page;
-}
-
-void page_changed(f_new_round& window)
-{
-    if (window.closingoK || !on_detailed_page(window))
-        leave_detailed_page(window);
-    else
-        go_to_detailed_page(window);
-}
-
-void tell_shot_by_shot(f_new_round& window)
-{
-    if (!finish_typing(window))
-        return;
-    // Once the window was to be closed its shots stay out of sight, also when the question was answered
-    // with Cancel, and a blank one among them would hold it open.
-    if (window.closingoK)
-        return;
-    if (on_detailed_page(window) || window.date_value.isEmpty()) {
-        if (open_hole_shots(window))
-            window.details->setFocus(Qt::OtherFocusReason);
+    const std::optional<int16> distance = entry_.prepare_next_shot();
+    if (!distance) {
+        grid_->ReBind();
+        show_incomplete(QString());
+        grid_->take_keyboard();
         return;
     }
-    window.TabStrip2->select(detailed_page);
-    go_to_detailed_page(window);
+    finish_hole();
+    entry_.add_shot(*distance);
+    grid_->ReBind();
+    grid_->set_Col(entry_.PUT_MODE ? shot_grid::distance_column : shot_grid::club_column);
+    grid_->take_keyboard();
 }
 
-bool finish_typing(f_new_round& window)
+void detailed_page::remove_shot()
 {
-    return window.details->commit_cell();
-}
-
-void enable_save_and_close(bool enabled)
-{
-    if (!main_frame())
+    if (!entry_.hole_is_loaded() || !rows_.on_a_row()) {
+        tell(window_.caption(u"Choisissez le coup que vous voulez supprimer.",
+                             u"Please select the shot you wish to remove."),
+             QMessageBox::Critical);
         return;
-    for (const QStringView key : {u"B4", u"B5"})
-        main_frame()->enable_tool_button(key, enabled);
+    }
+    entry_.remove_shot();
+    grid_->ReBind();
+    if (entry_.has_shots())
+        check_shots();
+    entry_.follow_last_shot();
 }
 
-}  // namespace verdane::f_new_round_func
+void detailed_page::finish_hole()
+{
+    if (!entry_.hole_is_loaded())
+        return;
+    drop_blank_shot();
+    summarise_hole();
+    if (!entry_.has_shots())
+        start_hole_again();
+}
+
+void detailed_page::summarise_hole()
+{
+    const std::optional<hole_summary> summary = entry_.summarise_hole();
+    if (!summary)
+        return;
+    grid_->ReBind();
+    if (summarised)
+        summarised(*summary);
+}
+
+void detailed_page::club_chosen(int entry)
+{
+    if (!rows_.on_a_row())
+        return;
+    current_shot::set_club(entry, grid_->club_name(entry));
+    grid_->ReBind();
+    grid_->set_Col(shot_grid::distance_column);
+}
+
+void detailed_page::kind_chosen(int entry)
+{
+    if (!rows_.on_a_row())
+        return;
+    current_shot::set_kind(entry);
+    if (entry == putt) {
+        next_shot();
+        // The current row is the new shot, or the same one if the message was shown.
+        current_shot::make_putt();
+    }
+    grid_->ReBind();
+    grid_->set_Col(entry == putt ? shot_grid::distance_column : shot_grid::kind_column);
+}
+
+void detailed_page::position_chosen(int entry)
+{
+    if (!rows_.on_a_row())
+        return;
+    current_shot::set_position(entry);
+    grid_->ReBind();
+    grid_->set_Col(grid_->Col() + 1);
+}
+
+void detailed_page::penalty_chosen(int entry)
+{
+    if (!rows_.on_a_row())
+        return;
+    current_shot::set_penalty(entry);
+    next_button_->setFocus(Qt::TabFocusReason);
+    grid_->ReBind();
+}
+
+void detailed_page::yes_or_no_chosen(bool yes)
+{
+    if (!rows_.on_a_row())
+        return;
+    current_shot::set_yes_or_no(grid_->bound_model().column(grid_->Col()).field, yes);
+    grid_->ReBind();
+    grid_->set_Col(grid_->Col() + 1);
+}
+
+void detailed_page::column_updated(int column)
+{
+    current_shot::set_par(hole_().card.par);
+    if (column == shot_grid::distance_column && current_shot::distance_changed())
+        next_shot();
+    grid_->ReBind();
+    grid_->set_Col(entry_.PUT_MODE ? shot_grid::club_column : shot_grid::unit_column);
+}
+
+void detailed_page::show_finish_button(bool visible)
+{
+    finish_button_->setVisible(visible);
+}
+
+std::vector<QWidget*> detailed_page::tab_order() const
+{
+    return {grid_, next_button_, remove_button_, finish_button_};
+}
+
+}  // namespace verdane

@@ -1,30 +1,105 @@
 #pragma once
 
+#include <QGroupBox>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "round/shot_entry.h"
+
+class QLayout;
+class QPushButton;
+
 namespace verdane {
-class f_new_round;
-}
 
-/// The way between the quick page and the detailed page.
-namespace verdane::f_new_round_func {
+class Form;
+class shot_grid;
+struct shortcut;
+struct text_pair;
 
-/// The numbers of the pages in `TabStrip2`.
-constexpr int quick_page = 1;
-constexpr int detailed_page = 2;
+/// What became of the blank first shot of a hole.
+struct blank_shot {
+    bool removed = false;
+    /// The result of `check_shots`, which runs only when no shot was removed.
+    std::optional<bool> shots_complete;
+};
 
-bool on_detailed_page(const f_new_round& window);
+/// Shot-by-shot entry: the grid of shots and its commands. The rules are in `shot_entry`; the page runs them,
+/// shows their results and the messages.
+class detailed_page : public QGroupBox {
+public:
+    /// `hole` returns the hole on screen.
+    detailed_page(Form& window, shot_rows& rows, std::function<hole_on_screen()> hole);
 
-/// `TabStrip2` was clicked, or the window closes from the detailed page. Once `closingoK` is true only
-/// the quick page can be reached.
-void page_changed(f_new_round& window);
+    /// Runs with the figures of a hole whenever its shots were summarised.
+    std::function<void(const hole_summary&)> summarised;
 
-/// `Command4`: opens the shots of the hole, on the detailed page.
-void tell_shot_by_shot(f_new_round& window);
+    shot_entry& entry() { return entry_; }
+    const shot_entry& entry() const { return entry_; }
 
-/// Takes what is being typed into a cell of the grid. False when the cell keeps it, because the distance is
-/// too large; whatever would have come next must not happen then.
-bool finish_typing(f_new_round& window);
+    /// Commits what is being typed into a cell of the grid. False when the distance is too large: the cell
+    /// stays in edit mode, and the caller must not continue.
+    bool finish_typing();
 
-/// The commands of the main window that must not act while a grid row is open.
-void enable_save_and_close(bool enabled);
+    /// Prepares the grid for the page that becomes visible: names of the clubs, columns, cursor.
+    void enter();
+    /// After another window was open: shows the shots again, with the cursor on the same row.
+    void enter_again();
+    void focus_grid();
+    /// Moves the cursor to the club of the current shot and focuses the grid.
+    void focus_club();
+    /// Takes the rows off the grid.
+    void unbind();
 
-}  // namespace verdane::f_new_round_func
+    /// Loads the shots of the hole on screen into the grid; a hole without shots gets a blank one. Shows a
+    /// message and returns false as long as the round has no date.
+    bool open_hole_shots();
+
+    /// True when every shot of the loaded hole has its club and kind, or no hole is loaded. Otherwise a
+    /// message names the first incomplete shot, and the cursor is on it.
+    bool check_shots();
+
+    /// Removes the first shot of the hole if the cursor is on it and it lacks club or kind. Otherwise checks
+    /// the shots.
+    blank_shot drop_blank_shot();
+
+    /// Adds a shot after the last one. Shows a message as long as that one lacks club, kind or distance.
+    void next_shot();
+    /// Removes the shot under the cursor.
+    void remove_shot();
+    /// Removes a blank first shot and summarises the hole; a hole without shots gets a blank one.
+    void finish_hole();
+    /// Counts the shots of the hole on screen and reports the figures (`summarised`).
+    void summarise_hole();
+
+    void show_finish_button(bool visible);
+
+    /// The controls in the order of the Tab key.
+    std::vector<QWidget*> tab_order() const;
+
+private:
+    QPushButton* make_command(const text_pair& caption, QStringView name, const shortcut& keys);
+    QLayout* make_commands();
+    void connect_events();
+    void show_incomplete(const QString& number);
+    void start_hole_again();
+
+    void club_chosen(int entry);
+    void kind_chosen(int entry);
+    void position_chosen(int entry);
+    void penalty_chosen(int entry);
+    void yes_or_no_chosen(bool yes);
+    void column_updated(int column);
+
+    Form& window_;
+    shot_rows& rows_;
+    std::function<hole_on_screen()> hole_;
+    shot_entry entry_;
+    shot_grid* grid_;
+    QPushButton* next_button_ = nullptr;
+    QPushButton* remove_button_ = nullptr;
+    QPushButton* finish_button_ = nullptr;
+};
+
+}  // namespace verdane

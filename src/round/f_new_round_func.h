@@ -4,53 +4,37 @@ namespace verdane {
 class f_new_round;
 }
 
-/// What the round window does; both its twins come here.
+/// The life cycle of the round window, for both twins. `hole_navigation.h` and `load_and_save.h` have the
+/// other routines of this namespace.
 namespace verdane::f_new_round_func {
 
-/// Fills the lists, shows hole 1 and takes the round list away, so that no list of rounds ever stands
-/// behind the round window.
+/// Sizes the window, fills the lists, shows hole 1 and closes the round list, so that it is never open below
+/// the round window.
 void load(f_new_round& window);
 
-/// Asks for the tee-off of a round that has no key yet; without one the window goes and leaves no
-/// rows.
+/// Opens the tee-off dialog for a round without a key; a round that still has none closes its window and
+/// leaves no rows. Focuses the page otherwise.
 void activate(f_new_round& window);
 
-/// Closes what the window works on. Runs to its end whatever the store says.
+/// Closes the recordsets of the round. Continues whatever fails.
 void unload(f_new_round& window);
 
-/// A hole was chosen in `cmb_holes`: stores the hole that is left, then shows the other.
-void hole_selected(f_new_round& window);
-
-/// The user chose a hole in `cmb_holes`. On the detailed page that is a click on the hole's tab, so that
-/// the shots are checked and summed up before they give way to those of the other hole.
-void hole_chosen(f_new_round& window);
-
-/// Asked before a click on a hole tab; false keeps the tab.
-bool hole_tab_before_click(f_new_round& window);
-
-/// A hole tab was clicked, perhaps the one that was shown already.
-void hole_tab_clicked(f_new_round& window);
-
-/// Another course was chosen: the card of the hole on screen is that course's.
-void course_selected(f_new_round& window);
-
-/// Opens the twelve amounts of the round; the total that their window shows last stays in the frame of
-/// the parameters.
+/// Opens the twelve amounts of the round. The total that their window showed last stays on screen.
 void show_costs(f_new_round& window);
 
-/// Stores the hole on screen and what belongs to the round, and commits. `silent`: stores the hole
-/// that is being left, and says nothing. Refuses without a date.
-void save_round(f_new_round& window, bool silent);
+/// Prints the putts of the round. On the detailed page the hole on screen is summarised first, so that its
+/// putts are included.
+void report_putts(f_new_round& window);
 
 /// OK (index 4) saves and closes, Cancel (index 2) asks.
 void on_ok_cancel(f_new_round& window, int index);
 
-/// The title bar's close box: as Cancel, but an incomplete shot is reported and does not keep the window
+/// The title bar's close box: like Cancel, but an incomplete shot is reported and does not keep the window
 /// open.
 void on_close_box(f_new_round& window);
 
-/// Closes the window, asking whether to save what is not saved; with `skip_prompt` it is dropped
-/// without a question.
+/// Closes the window. Asks first whether to save if there is something to save; with `skip_prompt` the
+/// changes are dropped without a question.
 void ask_and_close(f_new_round& window, bool skip_prompt);
 
 }  // namespace verdane::f_new_round_func

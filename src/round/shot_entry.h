@@ -1,47 +1,110 @@
 #pragma once
 
-#include "base/counts.h"
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+#include "records/round_rows.h"
+#include "round/shot_rows.h"
 
 namespace verdane {
-class f_new_round;
-}
 
-/// The shots of a hole, told one by one: what the detailed page does with the rows of `rsStat_rounds`.
-/// What the rows decide stands in `hole_shots.h`.
-namespace verdane::f_new_round_func {
+/// The hole on screen, as far as its shots depend on it.
+struct hole_on_screen {
+    /// The key of the round; empty before the tee-off.
+    QString key;
+    /// 1 to 18.
+    int16 number = 0;
+    Round_functions::hole_card card;
+};
 
-/// Loads the shots of the hole on screen into the grid; a hole without shots gets a blank one. Refuses
-/// without a date (false).
-bool open_hole_shots(f_new_round& window);
+/// Shot-by-shot entry: what is done with the rows of a hole. `scoring/hole_shots.h` has the rules for the
+/// figures. Nothing is shown here; the functions return what happened.
+class shot_entry {
+public:
+    /// `hole` returns the hole on screen. The shots that are loaded can be those of another hole: on the
+    /// quick page the hole changes without its shots.
+    shot_entry(shot_rows& rows, bool french, std::function<hole_on_screen()> hole);
 
-/// True when every shot of the loaded hole has its club and kind, or no hole is loaded. Renumbers the
-/// shots and settles distances and units; the cursor ends on the last shot, or on the incomplete one,
-/// which the user is told about.
-bool check_shots(f_new_round& window);
+    /// The shot that is being entered is a putt.
+    bool PUT_MODE = false;
+    /// The hole that was summarised last has classified shots.
+    bool isdetailed = false;
 
-/// Removes the hole's first shot when the cursor stands on it and it lacks club or kind. Otherwise the
-/// shots are checked, and `ok` takes the answer; `ok` is left alone when the shot was removed.
-/// `removed` (1 or 0) is written only when it comes in as something else than 0.
-void drop_blank_shot(f_new_round& window, int16& removed, bool& ok);
+    bool hole_is_loaded() const;
+    bool has_shots() const;
 
-/// The loaded hole has nothing but the blank shot with which a hole starts.
-bool hole_is_untold();
+    /// Loads the shots of the hole on screen. A hole without shots gets a blank one. Shots that cannot be
+    /// opened leave no rows.
+    void load_hole();
+    /// Adds the blank first shot of a hole that has no shots.
+    void add_first_shot();
 
-/// Takes that blank shot away. The close box leaves without complete shots, and a hole that was only looked
-/// at must not count as a detailed one.
-void drop_untold_shot();
+    /// Renumbers the shots of the loaded hole and completes distances and units. Returns the number of the
+    /// first shot without club or kind, 0 when there is none. The current row is the last shot then, or the
+    /// incomplete one. A failure of the store ends the check.
+    int check_shots();
 
-/// Adds the next shot behind the last one. Refuses while the last one lacks club, kind or distance.
-void next_shot(f_new_round& window);
+    /// Removes the current shot if it is the first one (`grid_row` is 0) and lacks club or kind, and returns
+    /// true. Otherwise stores the par in the first shot.
+    bool drop_blank_shot(int grid_row);
+    /// Removes the current shot.
+    void remove_shot();
+    /// `PUT_MODE` is true when the last shot is a putt.
+    void follow_last_shot();
 
-/// Removes the shot under the cursor.
-void remove_shot(f_new_round& window);
+    /// True when the hole has only the blank shot of a new hole, without club, kind and distance.
+    bool is_untouched() const;
+    /// Removes that shot. The close box closes the window without complete shots, and a hole that was only
+    /// looked at must not count as a detailed one.
+    void drop_untouched_shot();
 
-/// Sums the hole up, whose blank first shot goes; a hole without shots gets a blank one.
-void finish_hole(f_new_round& window);
+    /// Prepares the rows for the next shot and sets `PUT_MODE`. Returns the distance before that shot,
+    /// nothing when the last shot lacks club, kind or distance. The hole has shots.
+    std::optional<int16> prepare_next_shot();
+    void add_shot(int16 distance);
 
-/// Folds the shots of the hole on screen into the boxes of the quick page, notes the lengths of its
-/// putts in the current row of `rsgames2` (not committed) and settles `isdetailed`.
-void summarise_hole(f_new_round& window);
+    /// Counts the shots of the hole on screen, sets `isdetailed`, and writes the lengths of its putts into
+    /// the current row of `rsgames2`, which is not committed. Nothing happens when the hole is not loaded.
+    std::optional<hole_summary> summarise_hole();
 
-}  // namespace verdane::f_new_round_func
+    /// The names of the fourteen clubs as stored. Names that the golf bag did not store are in force until
+    /// the program ends all the same.
+    static QStringList club_names();
+
+private:
+    void start_row(int number, int16 distance);
+    Round_functions::hole_card card_of_shots() const;
+    void walk_shots(int& incomplete);
+    bool is_blank_top(int grid_row) const;
+    void remove_row();
+
+    shot_rows& rows_;
+    bool french_;
+    std::function<hole_on_screen()> hole_;
+};
+
+/// What a choice from a menu, or a typed distance, writes into the current row of `rsStat_rounds`. Menu
+/// entries count from 1. The words are those of the language of the moment.
+namespace current_shot {
+
+/// The putter makes the shot a putt, in feet. Another club makes a putt a shot without kind; a shot in feet
+/// stays in feet.
+void set_club(int club, const QString& name);
+void set_kind(int kind);
+/// Kind, club and unit of a putt.
+void make_putt();
+void set_position(int entry);
+void set_penalty(int entry);
+void set_yes_or_no(QStringView column, bool yes);
+void set_par(int16 par);
+
+/// The distance was changed: sets the unit, and the kind of a shot with the putter. Returns true when that
+/// shot is the last one of the hole. Looking for a next row commits the row; a failure of that is ignored.
+bool distance_changed();
+
+}  // namespace current_shot
+
+}  // namespace verdane

@@ -1,25 +1,17 @@
 #include "round/shot_rows.h"
 
-#include "base/text.h"
-#include "scoring/Verdane_tools.h"
+#include "controls/failure_guard.h"
+#include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/Stat_rounds.h"
 
-namespace verdane::shot_rows {
+namespace verdane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-Recordset& rows()
-{
-    return data_environment().rsStat_rounds;
-}
-
-/// What every statement of a hole begins with.
-constexpr QStringView start_of_statement = u"Select * from Stat_rounds where ( date= ";
-
-QString command_in_capitals()
-{
-    return in_capitals(trimmed_blanks(rows().Source()));
-}
+namespace at = tables::Stat_rounds;
 
 std::optional<int16> figure(const Field& field)
 {
@@ -28,102 +20,147 @@ std::optional<int16> figure(const Field& field)
     return field.int16_or_zero();
 }
 
-hole_shot read_current()
+hole_shot read_current(Recordset& row)
 {
-    Recordset& row = rows();
-    hole_shot read;
-    read.shot = figure(row.Fields(shot));
-    read.before = figure(row.Fields(before));
-    read.after = figure(row.Fields(after));
-    read.unit = row.Fields(unit).text_or_empty();
-    read.shot_type_value = row.Fields(shot_type_value).int16_or_zero();
-    read.stickval = row.Fields(stickval).int16_or_zero();
-    read.faireway = row.Fields(faireway).text_or_empty();
-    read.fairval = row.Fields(fairval).int16_or_zero();
-    read.penval = row.Fields(penval).int16_or_zero();
-    read.missed = row.Fields(missed).yes();
-    read.ts = row.Fields(ts).yes();
-    read.dz = row.Fields(dz).yes();
-    read.cal = row.Fields(cal).yes();
-    return read;
+    hole_shot shot;
+    shot.shot = figure(row.Fields(at::shot));
+    shot.before = figure(row.Fields(at::before));
+    shot.after = figure(row.Fields(at::after));
+    shot.unit = row.Fields(at::unit).text_or_empty();
+    shot.shot_type_value = row.Fields(at::shot_type_value).int16_or_zero();
+    shot.stickval = row.Fields(at::stickval).int16_or_zero();
+    shot.faireway = row.Fields(at::faireway).text_or_empty();
+    shot.fairval = row.Fields(at::fairval).int16_or_zero();
+    shot.penval = row.Fields(at::penval).int16_or_zero();
+    shot.missed = row.Fields(at::missed).yes();
+    shot.ts = row.Fields(at::ts).yes();
+    shot.dz = row.Fields(at::dz).yes();
+    shot.cal = row.Fields(at::cal).yes();
+    return shot;
 }
 
-void write_figure(int ordinal, const std::optional<int16>& now, const std::optional<int16>& before_now)
+void write_figure(Field field, const std::optional<int16>& value, const std::optional<int16>& stored)
 {
-    if (now && now != before_now)
-        rows().Fields(ordinal).set(*now);
+    if (value && value != stored)
+        field.set(*value);
 }
 
-void write_text(int ordinal, const QString& now, const QString& before_now)
+void write_text(Field field, const QString& value, const QString& stored)
 {
-    if (now != before_now)
-        rows().Fields(ordinal).set(now);
+    if (value != stored)
+        field.set(value);
 }
 
-void write_current(const hole_shot& now)
+void write_current(Recordset& row, const hole_shot& shot)
 {
-    const hole_shot was = read_current();
-    write_figure(shot, now.shot, was.shot);
-    write_figure(before, now.before, was.before);
-    write_figure(after, now.after, was.after);
-    write_text(unit, now.unit, was.unit);
-    write_text(faireway, now.faireway, was.faireway);
-    write_figure(fairval, std::make_optional(now.fairval), std::make_optional(was.fairval));
-    if (now.cal != was.cal)
-        rows().Fields(cal).set(now.cal);
+    const hole_shot stored = read_current(row);
+    write_figure(row.Fields(at::shot), shot.shot, stored.shot);
+    write_figure(row.Fields(at::before), shot.before, stored.before);
+    write_figure(row.Fields(at::after), shot.after, stored.after);
+    write_text(row.Fields(at::unit), shot.unit, stored.unit);
+    write_text(row.Fields(at::faireway), shot.faireway, stored.faireway);
+    write_figure(row.Fields(at::fairval), std::make_optional(shot.fairval),
+                 std::make_optional(stored.fairval));
+    if (shot.cal != stored.cal)
+        row.Fields(at::cal).set(shot.cal);
 }
 
-/// Stands on each row in turn and goes back to where it stood.
+/// Makes each row the current one in turn, then the row that was current before.
 template <typename Work>
-void with_each_row(Work work)
+void with_each_row(Recordset& rows, Work work)
 {
-    const int stood_on = rows().position();
-    for (int row = 0; row < rows().RecordCount(); ++row) {
-        rows().MoveTo(row);
+    const int current = rows.position();
+    for (int row = 0; row < rows.RecordCount(); ++row) {
+        rows.MoveTo(row);
         work(row);
     }
-    if (stood_on >= 0)
-        rows().MoveTo(stood_on);
+    if (current >= 0)
+        rows.MoveTo(current);
 }
 
 }  // namespace
 
-QString statement_of_hole(const QString& key, int16 hole_number)
+QString statement_of_hole(const QString& key, int16 hole)
 {
-    return start_of_statement + quoted(key) + u" ) and hole = " + QString::number(plain(hole_number)) +
-           u" order by shot";
+    return u"Select * from Stat_rounds where ( date= " + quoted(key) + u" ) and hole = " +
+           QString::number(plain(hole)) + u" order by shot";
 }
 
-bool a_hole_is_loaded()
+shot_rows::shot_rows()
+    : rows_(data_environment().rsStat_rounds),
+      statement_(rows_, rows_.settings().source, u"select * from stat_rounds"_s)
 {
-    return command_in_capitals().startsWith(in_capitals(start_of_statement));
+    close_if_open(rows_);
 }
 
-bool is_loaded(const QString& key, int16 hole_number)
+void shot_rows::set_hole(const QString& key, int16 hole)
 {
-    return command_in_capitals() == in_capitals(statement_of_hole(key, hole_number));
+    rows_.set_Source(statement_of_hole(key, hole));
+    loaded_ = {key, hole};
 }
 
-bool on_a_row()
+void shot_rows::open_hole(const QString& key, int16 hole)
 {
-    return rows().is_open() && rows().position() >= 0;
+    set_hole(key, hole);
+    rows_.Open();
 }
 
-shot_list read()
+void shot_rows::change_hole(const QString& key, int16 hole)
+{
+    finishes_without_failure([this] { rows_.Update(); });
+    finishes_without_failure([this] { rows_.Close(); });
+    set_hole(key, hole);
+    finishes_without_failure([this] {
+        rows_.Open();
+        rows_.Requery();
+    });
+}
+
+void shot_rows::reopen()
+{
+    close_if_open(rows_);
+    // The whole table is read only if a row of it is needed.
+    rows_.Open(loaded_ ? row_reading::at_once : row_reading::when_needed);
+    rows_.Requery();
+}
+
+void shot_rows::close()
+{
+    rows_.Update();
+    rows_.Close();
+    loaded_.reset();
+}
+
+bool shot_rows::has_hole() const
+{
+    return rows_.is_open() && loaded_;
+}
+
+bool shot_rows::has_hole(const QString& key, int16 hole) const
+{
+    return has_hole() && loaded_->key == key && loaded_->number == hole;
+}
+
+bool shot_rows::on_a_row() const
+{
+    return rows_.is_open() && rows_.position() >= 0;
+}
+
+shot_list shot_rows::read() const
 {
     shot_list shots;
-    with_each_row([&shots](int) { shots.push_back(read_current()); });
+    with_each_row(rows_, [&](int) { shots.push_back(read_current(rows_)); });
     return shots;
 }
 
-void write(const shot_list& shots, const std::function<void(int)>& written)
+void shot_rows::write(const shot_list& shots, const std::function<void(int)>& written)
 {
-    with_each_row([&](int row) {
-        write_current(shots[static_cast<std::size_t>(row)]);
+    with_each_row(rows_, [&](int row) {
+        write_current(rows_, shots[static_cast<std::size_t>(row)]);
         if (written)
             written(row);
     });
-    rows().Update();
+    rows_.Update();
 }
 
-}  // namespace verdane::shot_rows
+}  // namespace verdane

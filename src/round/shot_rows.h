@@ -3,53 +3,62 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 #include "scoring/hole_shots.h"
+#include "store/scoped_source.h"
 
-/// Where the shots of the hole live: the rows of `rsStat_rounds`.
-namespace verdane::shot_rows {
+namespace verdane {
 
-/// The columns, by ordinal.
-constexpr int date = 0;
-constexpr int hole = 1;
-constexpr int before = 2;
-constexpr int after = 3;
-constexpr int shot_type = 4;
-constexpr int stick = 5;
-constexpr int missed = 7;
-constexpr int ts = 8;
-constexpr int dz = 9;
-constexpr int faireway = 10;
-constexpr int penality = 11;
-constexpr int shot = 12;
-constexpr int stickval = 13;
-constexpr int fairval = 14;
-constexpr int penval = 15;
-constexpr int shot_type_value = 16;
-constexpr int cal = 17;
-constexpr int normal = 18;
-constexpr int addpen = 19;
-constexpr int unit = 20;
-constexpr int verges = 21;
+/// The shots of one hole in the rows of `rsStat_rounds`, and which hole that is. With no hole loaded the
+/// recordset covers the whole table, which is read only when a row is needed.
+///
+/// An object lives as long as a round window. Only this class sets the statement of `rsStat_rounds` in that
+/// time; afterwards it is "select * from stat_rounds".
+class shot_rows {
+public:
+    /// Closes the recordset if an earlier round left it open because of a failure. What that round could not
+    /// store is dropped.
+    shot_rows();
+
+    /// Opens the shots of a hole (1 to 18) of a round. Fails as `Recordset::Open` does.
+    void open_hole(const QString& key, int16 hole);
+    /// Commits and closes what is open, then opens the shots of another hole. Every step is tried whatever
+    /// happened to the one before. If the shots cannot be opened, the recordset is closed afterwards.
+    void change_hole(const QString& key, int16 hole);
+    /// Opens the recordset again on the same statement. Pending changes are dropped.
+    void reopen();
+    /// Commits and closes; no hole is loaded afterwards. Fails as `Recordset::Update` does, and then leaves
+    /// everything as it is.
+    void close();
+
+    /// True when the shots of some hole are open.
+    bool has_hole() const;
+    /// True when the shots of that hole are open.
+    bool has_hole(const QString& key, int16 hole) const;
+    /// True when there is a current row.
+    bool on_a_row() const;
+
+    /// All rows, in order. The current row does not change.
+    shot_list read() const;
+    /// Writes what differs from the rows and commits it. The current row does not change. `shots` has one
+    /// entry for each row. `written` gets the place of each row, from 0, before the row is committed.
+    void write(const shot_list& shots, const std::function<void(int)>& written = {});
+
+private:
+    struct loaded_hole {
+        QString key;
+        int16 number;
+    };
+
+    void set_hole(const QString& key, int16 hole);
+
+    Recordset& rows_;
+    scoped_source statement_;
+    std::optional<loaded_hole> loaded_;
+};
 
 /// The statement that reads the shots of a hole (1 to 18).
-QString statement_of_hole(const QString& key, int16 hole_number);
+QString statement_of_hole(const QString& key, int16 hole);
 
-/// False while the recordset stands for the whole table, in whatever order: the removal of a round leaves
-/// it sorted by round and hole.
-bool a_hole_is_loaded();
-
-/// True when the rows are those of that hole.
-bool is_loaded(const QString& key, int16 hole_number);
-
-/// There is a row to read and write.
-bool on_a_row();
-
-/// The rows as they stand, the current row staying the current one.
-shot_list read();
-
-/// Writes what changed and commits it; the current row stays the current one. `shots` has one entry for
-/// each row. `written` is told the place of each row, from 0, before the row is committed.
-void write(const shot_list& shots, const std::function<void(int)>& written = {});
-
-}  // namespace verdane::shot_rows
+}  // namespace verdane

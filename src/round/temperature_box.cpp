@@ -21,12 +21,12 @@ temperature_box::temperature_box(QWidget* parent) : QSpinBox(parent)
     lineEdit()->setObjectName(u"Text1"_s);
     lineEdit()->setText(textFromValue(0));
     setAlignment(Qt::AlignRight);
-    // The blanks of an untouched box would make it too narrow for its figures.
+    // The size hint allows for the two blanks only.
     const int figures = fontMetrics().horizontalAdvance(u"-30 C"_s);
     setMinimumWidth(sizeHint().width() + figures);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { touched_ = true; });
     connect(this, &QSpinBox::valueChanged, this, [this](int celsius) {
-        // A text that is being typed is left alone until the box is left.
+        // While the user types, the text changes only when the box loses the focus.
         if (!touched_ && !lineEdit()->isModified())
             show_value(celsius);
     });

@@ -4,13 +4,13 @@
 
 namespace verdane {
 
-/// The temperature in degrees Celsius, -30 to 50. Its text (`Text1`) is two blanks until the value was
-/// touched or shown, then the value followed by " C".
+/// The temperature in degrees Celsius, -30 to 50. Its text box is `Text1`. The text is two blanks until the
+/// user changes the value or `show_value` sets it, then the value followed by " C".
 class temperature_box : public QSpinBox {
 public:
     explicit temperature_box(QWidget* parent = nullptr);
 
-    /// Sets the value and shows it, also when it is the one that the box holds already.
+    /// Sets the value and shows it, also when the value does not change.
     void show_value(int celsius);
 
 protected:

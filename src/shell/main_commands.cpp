@@ -9,7 +9,7 @@
 #include "reference/f_c_list.h"
 #include "reference/f_partners.h"
 #include "reference/f_sticks.h"
-#include "round/Round_records.h"
+#include "round/round_opening.h"
 #include "shell/f_about.h"
 #include "shell/language_change.h"
 #include "shell/MainForm.h"

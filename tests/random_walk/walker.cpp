@@ -36,6 +36,12 @@ QString number_in(const QLineEdit& box)
     return QString::number(plain(to_int16(box.text())));
 }
 
+/// The number in a box of the round window.
+QString number_in_round(const QString& box)
+{
+    return number_in(dynamic_cast<QLineEdit&>(*round_window()->findChild<QWidget*>(box)));
+}
+
 }  // namespace
 
 walker::walker(hand& user, const reader& store, quint32 seed) : user_(user), store_(store), random_(seed) {}
@@ -255,7 +261,7 @@ bool walker::on_quick_page()
 int walker::shown_hole()
 {
     int hole = 0;
-    user_.look([&] { hole = round_window()->text(40).text().toInt(); });
+    user_.look([&] { hole = number_in_round(u"text_40"_s).toInt(); });
     return hole;
 }
 
@@ -263,13 +269,12 @@ QString walker::boxes()
 {
     QStringList figures;
     user_.look([&] {
-        const f_new_round& window = *round_window();
         for (int i = 0; i <= 2; ++i)
-            figures << number_in(window.text_vrd(i));
+            figures << number_in_round(u"text_vrd_%1"_s.arg(i));
         for (int i = 3; i <= 6; ++i)
-            figures << number_in(window.text_p(i));
+            figures << number_in_round(u"text_p_%1"_s.arg(i));
         for (int i = 8; i <= 11; ++i)
-            figures << number_in(window.text_s(i));
+            figures << number_in_round(u"text_s_%1"_s.arg(i));
     });
     return figures.join(u' ');
 }

@@ -9,9 +9,9 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
-#include "round/f_get_date.h"
 #include "round/f_new_round.h"
-#include "round/Round_records.h"
+#include "round/round_opening.h"
+#include "round/tee_off.h"
 #include "scoring/Verdane_tools.h"
 #include "store/DataEnvironment1.h"
 
@@ -114,7 +114,7 @@ void fill_tee_off(hand& user, const QString& hours, const QString& minutes, cons
 {
     user.wait_for_window(u"f_get_date"_s);
     user.look([] {
-        dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date->setSelectedDate(day_of_play);
+        open_form(u"f_get_date")->findChild<QCalendarWidget*>(u"round_date"_s)->setSelectedDate(day_of_play);
     });
     user.fill(u"Text1"_s, hours);
     user.fill(u"Text2"_s, minutes);

@@ -1,8 +1,8 @@
 #include <QTest>
 
 #include "base/Main_module.h"
+#include "round/detailed_page.h"
 #include "round/f_new_round.h"
-#include "round/shot_entry.h"
 #include "round/shot_rows.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"
@@ -230,7 +230,7 @@ private Q_SLOTS:
         QFETCH(bool, stored);
         const golfer_store round;
         Recordset& shots = data_environment().rsStat_rounds;
-        shots.set_Source(shot_rows::statement_of_hole(earlier_round, 1));
+        shots.set_Source(statement_of_hole(earlier_round, 1));
         shots.Open();
         shots.AddNew();
         shots.Fields(u"date"_s).set(earlier_round);
@@ -277,33 +277,26 @@ private Q_SLOTS:
         });
     }
 
-    void whether_a_blank_shot_was_removed_is_said_to_those_who_ask_data()
+    void the_result_says_whether_a_blank_shot_was_removed_data()
     {
-        QTest::addColumn<int>("asked");
         QTest::addColumn<bool>("blank");
-        QTest::addColumn<int>("said");
-        QTest::newRow("asked, removed") << 1 << true << 1;
-        QTest::newRow("asked, nothing removed") << 1 << false << 0;
-        QTest::newRow("not asked, removed") << 0 << true << 0;
-        QTest::newRow("not asked, nothing removed") << 0 << false << 0;
+        QTest::newRow("removed") << true;
+        QTest::newRow("nothing removed") << false;
     }
-    void whether_a_blank_shot_was_removed_is_said_to_those_who_ask()
+    void the_result_says_whether_a_blank_shot_was_removed()
     {
-        QFETCH(int, asked);
         QFETCH(bool, blank);
-        QFETCH(int, said);
         const golfer_store round;
         in_keyed_round([&](hand& user) {
             open_detailed_page(user);
             if (!blank)
                 enter_shot(user, 0, 1, u"60"_s, 1);
             with_round(user, [&](f_new_round& window) {
-                int16 removed = asked;
-                bool ok = false;
-                f_new_round_func::drop_blank_shot(window, removed, ok);
-                QCOMPARE(plain(removed), said);
-                // Only the check, which a removal leaves out, gives the answer.
-                QCOMPARE(ok, !blank);
+                const blank_shot result = window.detailed().drop_blank_shot();
+                QCOMPARE(result.removed, blank);
+                // A removal leaves out the check of the shots.
+                QCOMPARE(result.shots_complete.has_value(), !blank);
+                QVERIFY(result.shots_complete.value_or(true));
                 window.unload();
             });
         });

@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QTest>
 
+#include "round/detailed_page.h"
 #include "round/f_new_round.h"
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
@@ -27,7 +28,7 @@ void in_detailed_round(const std::function<void(hand&)>& script)
 bool is_detailed(hand& user)
 {
     bool detailed = false;
-    with_round(user, [&](f_new_round& window) { detailed = window.isdetailed; });
+    with_round(user, [&](f_new_round& window) { detailed = window.detailed().entry().isdetailed; });
     return detailed;
 }
 
@@ -301,12 +302,12 @@ private Q_SLOTS:
         add_shot(round.store, 1, 2, u"after = 5"_s);
         add_complete_shot(round.store, 1, 3, 9, 3, u"Verges"_s, 2);
         in_detailed_round([&](hand& user) {
-            with_round(user, [](f_new_round& window) { window.PUT_MODE = true; });
+            with_round(user, [](f_new_round& window) { window.detailed().entry().PUT_MODE = true; });
             user.click(u"CommandSuiv"_s);
             user.answer(refusal_of_shot(u" 2"_s));
             user.wait_for_window(round_window());
             user.same(user.cursor(details), u"3,2"_s, u"cursor"_s);
-            with_round(user, [](f_new_round& window) { QVERIFY(!window.PUT_MODE); });
+            with_round(user, [](f_new_round& window) { QVERIFY(!window.detailed().entry().PUT_MODE); });
         });
         QCOMPARE(stored_shots(round.store, 1).split(u'\n').last(), u"4 3>- - -/0 -/0"_s);
     }

@@ -144,15 +144,12 @@ private Q_SLOTS:
         const golfer_store round(french);
         in_detailed_page([&](hand& user) {
             with_round(user, [](f_new_round& window) {
-                const data_grid& grid = *window.details;
-                const QList<std::pair<int, const control_array<QAction>*>> menus{{2, &window.ms1},
-                                                                                 {5, &window.mshots},
-                                                                                 {7, &window.mb},
-                                                                                 {10, &window.ma},
-                                                                                 {11, &window.mp}};
-                for (const auto& [column, entries] : menus) {
+                const auto& grid = find_control<data_grid>(window, details);
+                const QList<std::pair<int, QString>> menus{
+                    {2, u"mSticks"_s}, {5, u"mshot"_s}, {7, u"mon"_s}, {10, u"mAlle"_s}, {11, u"mpen"_s}};
+                for (const auto& [column, menu] : menus) {
                     const QRect cell(0, 0, grid.columnWidth(column), 20);
-                    for (const auto& [index, entry] : entries->members())
+                    for (const QAction* entry : find_control<choice_menu>(window, menu).actions())
                         QVERIFY2(grid.fontMetrics().horizontalAdvance(choice_menu::caption_of(*entry)) <
                                      data_grid::button_in(cell).left(),
                                  qPrintable(choice_menu::caption_of(*entry)));
@@ -236,10 +233,10 @@ private Q_SLOTS:
         const golfer_store round;
         in_detailed_page([&](hand& user) {
             with_round(user, [](f_new_round& window) {
-                window.details->setColumnWidth(3, 40);
-                window.details->setColumnHidden(11, true);
-                window.details->setColumnHidden(12, false);
-                window.details->set_Col(7);
+                find_control<data_grid>(window, details).setColumnWidth(3, 40);
+                find_control<data_grid>(window, details).setColumnHidden(11, true);
+                find_control<data_grid>(window, details).setColumnHidden(12, false);
+                find_control<data_grid>(window, details).set_Col(7);
             });
             open_quick_page(user);
             round.store.store.write(u"update sticknames set club_1 = 'Bois d''été', club_2 = 'R & \"B\"'"_s);
@@ -247,9 +244,9 @@ private Q_SLOTS:
             open_detailed_page(user);
             user.check(round.store.frame.locked, u"the menu is locked"_s);
             with_round(user, [](f_new_round& window) {
-                QCOMPARE(window.details->columnWidth(3), pixels(2000));
-                QVERIFY(!window.details->isColumnHidden(11));
-                QVERIFY(window.details->isColumnHidden(12));
+                QCOMPARE(find_control<data_grid>(window, details).columnWidth(3), pixels(2000));
+                QVERIFY(!find_control<data_grid>(window, details).isColumnHidden(11));
+                QVERIFY(find_control<data_grid>(window, details).isColumnHidden(12));
             });
             user.same(user.cursor(details), u"0,2"_s, u"cursor"_s);
             enter_shot(user, 0, 1, QString(), 0);

@@ -69,7 +69,8 @@ QString state_of(hand& user)
 {
     QString partner;
     with_round(user, [&](f_new_round& window) {
-        partner = window.pList->selectedItems().isEmpty() ? u"none"_s : u"one"_s;
+        partner =
+            find_control<QListWidget>(window, u"pList"_s).selectedItems().isEmpty() ? u"none"_s : u"one"_s;
     });
     return u"cursor %1, distance %2, shots %3, hole %4, page %5, partner %6"_s
         .arg(user.cursor(details), user.cell(details, 0, 3))

@@ -4,6 +4,7 @@
 
 #include "base/language.h"
 #include "base/Main_module.h"
+#include "controls/TabStrip.h"
 #include "round/f_new_round.h"
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
@@ -366,12 +367,12 @@ private Q_SLOTS:
                 const auto words = [&](const char* french_tip, const char* english_tip) {
                     return QString::fromUtf8(french ? french_tip : english_tip);
                 };
-                QCOMPARE(window.TabStrip1->toolTip(),
+                QCOMPARE(find_control<TabStrip>(window, hole_tabs).toolTip(),
                          words("Trou suivant (Page suiv.)\nTrou précédent (Page préc.)",
                                "Next hole (Page Down)\nPrevious hole (Page Up)"));
-                QCOMPARE(window.TabStrip2->tabToolTip(0),
+                QCOMPARE(find_control<TabStrip>(window, u"TabStrip2"_s).tabToolTip(0),
                          words("Entrée rapide (Ctrl+1)", "Quick entry (Ctrl+1)"));
-                QCOMPARE(window.TabStrip2->tabToolTip(1),
+                QCOMPARE(find_control<TabStrip>(window, u"TabStrip2"_s).tabToolTip(1),
                          words("Entrée détaillée (Ctrl+2)", "Detailed Entry (Ctrl+2)"));
             });
             discard(user);

@@ -1,6 +1,8 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include <map>
+
 #include "round/f_new_round.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/entering_boxes.h"
@@ -18,6 +20,19 @@ const QStringList order{u"text_vrd_0"_s, u"text_vrd_1"_s, u"text_vrd_2"_s, u"tex
 void same_text(hand& user, const QString& box, const QString& expected)
 {
     user.same(user.text(box), expected, box);
+}
+
+struct box_list {
+    std::map<int, QLineEdit*> boxes;
+    const std::map<int, QLineEdit*>& members() const { return boxes; }
+};
+
+box_list eleven_boxes(const QWidget& window)
+{
+    box_list list;
+    for (int place = 0; place < 11; ++place)
+        list.boxes[place] = &find_control<QLineEdit>(window, order[place]);
+    return list;
 }
 
 }  // namespace
@@ -83,9 +98,7 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             with_round(user, [&](f_new_round& window) {
-                QCOMPARE(boxes_that_replace_their_text(window.text_vrd, reason), 3);
-                QCOMPARE(boxes_that_replace_their_text(window.text_p, reason), 4);
-                QCOMPARE(boxes_that_replace_their_text(window.text_s, reason), 4);
+                QCOMPARE(boxes_that_replace_their_text(eleven_boxes(window), reason), 11);
             });
             discard(user);
         });
@@ -229,7 +242,9 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            with_round(user, [](f_new_round& window) { window.text_vrd(1).setText(u"10"_s); });
+            with_round(user, [](f_new_round& window) {
+                find_control<QLineEdit>(window, u"text_vrd_1"_s).setText(u"10"_s);
+            });
             same_text(user, u"text_vrd_3"_s, u"10"_s);
             user.type(u"12"_s);
             same_text(user, u"text_vrd_1"_s, u"2"_s);

@@ -159,7 +159,8 @@ private Q_SLOTS:
         const round_store store(french);
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            with_round(user, [](f_new_round& window) { window.text(2).clear(); });
+            with_round(user,
+                       [](f_new_round& window) { find_control<QLineEdit>(window, u"text_2"_s).clear(); });
             user.click(u"Command1_2"_s);
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(refusal_without_date());

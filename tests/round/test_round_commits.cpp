@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "round/f_new_round.h"
-#include "round/f_new_round_func.h"
+#include "round/load_and_save.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/commit_watch.h"
 #include "tests/round/entered_shots.h"

@@ -37,7 +37,7 @@ void check_hole(hand& user, int hole)
     user.same(user.text(u"text_39"_s), QString::number(100 + hole), u"length"_s);
     user.same(user.text(u"text_0"_s), QString::number(19 - hole), u"index"_s);
     with_round(user, [&](f_new_round& window) {
-        QCOMPARE(window.text(40).text(), number);
+        QCOMPARE(find_control<QLineEdit>(window, u"text_40"_s).text(), number);
         QCOMPARE(plain(window.last_hole), hole - 1);
     });
 }
@@ -50,10 +50,10 @@ void go_to_hole_2(hand& user, const QString& way)
     } else if (way == u"list") {
         user.choose(holes, 1);
     } else if (way == u"tab by keyboard") {
-        with_round(user, [](f_new_round& window) { window.TabStrip1->setFocus(); });
+        with_round(user, [](f_new_round& window) { find_control<QWidget>(window, tabs).setFocus(); });
         user.key(Qt::Key_Right);
     } else {
-        with_round(user, [](f_new_round& window) { window.cmb_holes->setFocus(); });
+        with_round(user, [](f_new_round& window) { find_control<QWidget>(window, holes).setFocus(); });
         user.key(Qt::Key_2);
     }
 }

@@ -16,7 +16,7 @@ QString panel(hand& user)
     QStringList cells;
     with_round(user, [&](f_new_round& window) {
         for (int box = 12; box <= 35; ++box) {
-            const QString text = window.text(box).text();
+            const QString text = find_control<QLineEdit>(window, u"text_%1"_s.arg(box)).text();
             if (text != u" ")
                 cells << u"%1=%2"_s.arg(box).arg(text);
         }

@@ -8,7 +8,7 @@
 #include "controls/failure_guard.h"
 #include "round/course_box.h"
 #include "round/f_new_round.h"
-#include "round/Round_records.h"
+#include "round/round_opening.h"
 #include "round/temperature_box.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/round_windows.h"
@@ -30,7 +30,9 @@ QString temperature_text(hand& user)
 
 void focus_temperature(hand& user)
 {
-    with_round(user, [](f_new_round& window) { window.UpDown1->setFocus(Qt::TabFocusReason); });
+    with_round(user, [](f_new_round& window) {
+        find_control<temperature_box>(window, u"UpDown1"_s).setFocus(Qt::TabFocusReason);
+    });
 }
 
 void add_three_partners(const round_store& store)
@@ -44,7 +46,7 @@ QStringList selected_lines(hand& user)
 {
     QStringList lines;
     with_round(user, [&](f_new_round& window) {
-        for (const QListWidgetItem* line : window.pList->selectedItems())
+        for (const QListWidgetItem* line : find_control<QListWidget>(window, partners).selectedItems())
             lines << line->text();
     });
     lines.sort();
@@ -128,10 +130,14 @@ private Q_SLOTS:
             user.key(Qt::Key_Down);
             user.key(Qt::Key_Down);
             user.same(temperature_text(user), u"-1 C"_s, u"two down"_s);
-            with_round(user, [](f_new_round& window) { window.UpDown1->setValue(50); });
+            with_round(user, [](f_new_round& window) {
+                find_control<temperature_box>(window, u"UpDown1"_s).setValue(50);
+            });
             user.key(Qt::Key_Up);
             user.same(temperature_text(user), u"50 C"_s, u"upper limit"_s);
-            with_round(user, [](f_new_round& window) { window.UpDown1->setValue(-30); });
+            with_round(user, [](f_new_round& window) {
+                find_control<temperature_box>(window, u"UpDown1"_s).setValue(-30);
+            });
             user.key(Qt::Key_Down);
             user.same(temperature_text(user), u"-30 C"_s, u"lower limit"_s);
             accept(user);
@@ -159,7 +165,9 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            with_round(user, [](f_new_round& window) { window.UpDown1->setValue(21); });
+            with_round(user, [](f_new_round& window) {
+                find_control<temperature_box>(window, u"UpDown1"_s).setValue(21);
+            });
             user.same(temperature_text(user), u"21 C"_s, u"temperature"_s);
             discard(user);
         });
@@ -203,7 +211,7 @@ private Q_SLOTS:
             user.click_tab(u"TabStrip2"_s, 2);
             user.picture(round_window());
             with_round(user, [](f_new_round& window) {
-                const QListWidget& list = *window.pList;
+                const QListWidget& list = find_control<QListWidget>(window, partners);
                 const int height = list.viewport()->height();
                 const QListWidgetItem* lowest = list.itemAt(5, height - 1 - list.spacing());
                 QVERIFY(lowest);
@@ -278,11 +286,12 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([](hand& user) {
             with_round(user, [](f_new_round& window) {
-                auto* lines = qobject_cast<QStyledItemDelegate*>(window.cmb_courses->itemDelegate());
-                QCOMPARE(lines->displayText(window.cmb_courses->itemText(1), QLocale()), u"Beta, VERT"_s);
-                window.cmb_courses->showPopup();
-                QCOMPARE(window.cmb_courses->view()->window()->width(), window.cmb_courses->width());
-                window.cmb_courses->hidePopup();
+                auto& courses = find_control<course_box>(window, u"cmb_courses"_s);
+                auto* lines = qobject_cast<QStyledItemDelegate*>(courses.itemDelegate());
+                QCOMPARE(lines->displayText(courses.itemText(1), QLocale()), u"Beta, VERT"_s);
+                courses.showPopup();
+                QCOMPARE(courses.view()->window()->width(), courses.width());
+                courses.hidePopup();
             });
             discard(user);
         });

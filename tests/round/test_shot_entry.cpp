@@ -2,8 +2,8 @@
 #include <QTest>
 
 #include "controls/data_grid.h"
+#include "round/detailed_page.h"
 #include "round/f_new_round.h"
-#include "round/shot_entry.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
@@ -48,7 +48,7 @@ struct round_with_shots {
 bool put_mode(hand& user)
 {
     bool on = false;
-    with_round(user, [&on](f_new_round& window) { on = window.PUT_MODE; });
+    with_round(user, [&on](f_new_round& window) { on = window.detailed().entry().PUT_MODE; });
     return on;
 }
 
@@ -342,8 +342,8 @@ private Q_SLOTS:
                                     u"raise(abort, 'no'); end"_s);
             with_round(user, [](f_new_round& window) {
                 data_environment().rsStat_rounds.Fields(u"after").set(61);
-                QVERIFY(f_new_round_func::check_shots(window));
-                QVERIFY(f_new_round_func::open_hole_shots(window));
+                QVERIFY(window.detailed().check_shots());
+                QVERIFY(window.detailed().open_hole_shots());
             });
             user.same(user.cell(details, 0, 3), u"60"_s, u"distance"_s);
             round.store.store.write(u"drop trigger refuse"_s);

@@ -3,6 +3,7 @@
 
 #include "controls/data_grid.h"
 #include "controls/main_frame.h"
+#include "round/detailed_page.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"
@@ -40,7 +41,7 @@ QString pending_value(hand& user, const QString& column, int shot = 1)
 
 void set_put_mode(hand& user, bool on)
 {
-    with_round(user, [on](f_new_round& window) { window.PUT_MODE = on; });
+    with_round(user, [on](f_new_round& window) { window.detailed().entry().PUT_MODE = on; });
 }
 
 }  // namespace
@@ -69,20 +70,20 @@ private Q_SLOTS:
         QFETCH(bool, french);
         in_detailed_page(french, [&](hand& user) {
             with_round(user, [&](f_new_round& window) {
-                const QAbstractItemModel& model = *window.details->model();
+                const auto& grid = find_control<data_grid>(window, details);
+                const QAbstractItemModel& model = *grid.model();
                 QCOMPARE(model.columnCount(), 13);
                 const QList<int> twips{0, 700, 700, 2000, 700, 1740, 1740, 700, 1300, 1200, 1500, 1200, 0};
                 const QList<int> locked{2, 4, 6, 7, 8, 9, 10};
                 for (int column = 0; column < 13; ++column) {
                     QCOMPARE(model.headerData(column, Qt::Horizontal).toString(),
                              (french ? french_heads : english_heads)[column]);
-                    QCOMPARE(window.details->isColumnHidden(column), twips[column] == 0);
-                    QVERIFY(twips[column] == 0 ||
-                            window.details->columnWidth(column) >= pixels(twips[column]));
+                    QCOMPARE(grid.isColumnHidden(column), twips[column] == 0);
+                    QVERIFY(twips[column] == 0 || grid.columnWidth(column) >= pixels(twips[column]));
                     QCOMPARE(model.flags(model.index(0, column)).testFlag(Qt::ItemIsEditable),
                              !locked.contains(column));
                 }
-                QCOMPARE(window.details->columnWidth(3), pixels(2000));
+                QCOMPARE(grid.columnWidth(3), pixels(2000));
             });
         });
     }

@@ -3,8 +3,8 @@
 #include <QTest>
 
 #include "base/Main_module.h"
-#include "round/f_get_date.h"
 #include "round/f_new_round.h"
+#include "round/tee_off.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/languages.h"
 
@@ -14,13 +14,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QCalendarWidget& calendar_of_dialog()
+{
+    return *open_form(u"f_get_date")->findChild<QCalendarWidget*>(u"round_date"_s);
+}
+
 const QString dialog = u"f_get_date"_s;
 
 QDate chosen_date(hand& user)
 {
     QDate date;
-    user.look(
-        [&] { date = dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date->selectedDate(); });
+    user.look([&] { date = calendar_of_dialog().selectedDate(); });
     return date;
 }
 
@@ -28,7 +32,7 @@ QDate chosen_date(hand& user)
 void double_click_date(hand& user, const QDate& date)
 {
     user.look([date] {
-        QCalendarWidget& calendar = *dynamic_cast<f_get_date&>(*open_form(u"f_get_date")).round_date;
+        QCalendarWidget& calendar = calendar_of_dialog();
         calendar.setSelectedDate(date);
         auto* days = calendar.findChild<QTableView*>(u"qt_calendar_calendarview"_s);
         const QPoint where = days->visualRect(days->currentIndex()).center();

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+#include "controls/control_array.h"
+#include "controls/TabStrip.h"
+#include "records/round_rows.h"
+
+class QComboBox;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace verdane {
+
+class Form;
+
+/// The hole on screen: the tabs and the list that choose it, its card, and when the round was teed off.
+/// Holes are numbered 1 to 18.
+class hole_bar : public QWidget {
+public:
+    explicit hole_bar(Form& window);
+
+    /// Runs after each change of the list's entry, by the user or by the program.
+    std::function<void()> list_changed;
+
+    /// The hole tabs, which the window places above its other content.
+    TabStrip& hole_tabs() const { return *hole_tabs_; }
+
+    /// Fills the list and selects hole 1 in it, which runs `list_changed`.
+    void fill_list();
+    /// The hole that is selected in the list; it is the hole on screen.
+    int16 listed_hole() const;
+    void select_in_list(int hole);
+    /// The same without `list_changed`.
+    void select_in_list_silently(int hole);
+    /// Shows the hole in the tabs and as the large number.
+    void show_hole(int hole);
+    void show_number(int hole);
+
+    void show_card(const Round_functions::hole_card& card);
+    /// The card on screen; zeros before the first hole is shown.
+    Round_functions::hole_card card() const;
+
+    /// Date and time of the tee-off, as the user reads them.
+    void show_tee_off(const QString& date, const QString& time);
+    void clear_date();
+    QString date() const;
+    /// Disables the button that chooses the date.
+    void lock_date();
+
+    /// Two values that are kept in hidden boxes: the number of the hole whose figures are in the boxes, and
+    /// the name of the course.
+    void set_hole_in_boxes(int16 hole);
+    int16 hole_in_boxes() const;
+    void set_course_name(const QString& name);
+
+    /// The controls in the order of the Tab key.
+    std::vector<QWidget*> tab_order() const;
+    /// The control that the mouse wheel would change.
+    QWidget* wheel_control() const;
+
+private:
+    QLineEdit* add_figure(QHBoxLayout& line, int index, const QString& caption, int characters);
+    QLineEdit* add_hidden(int index);
+    void add_hole_choice(QHBoxLayout& line, const Form& window);
+    void add_date(QHBoxLayout& line, const Form& window);
+
+    TabStrip* hole_tabs_;
+    QComboBox* hole_list_ = nullptr;
+    QLabel* number_ = nullptr;
+    QLineEdit* par_box_ = nullptr;
+    QLineEdit* length_box_ = nullptr;
+    QLineEdit* stroke_index_box_ = nullptr;
+    QLineEdit* date_box_ = nullptr;
+    QLineEdit* time_box_ = nullptr;
+    QPushButton* date_button_ = nullptr;
+    QLineEdit* course_name_box_ = nullptr;
+    QLineEdit* hole_box_ = nullptr;
+    control_array<QLineEdit> text_{u"text"};
+    control_array<QLabel> labels_{u"Label"};
+};
+
+}  // namespace verdane

@@ -1,0 +1,136 @@
+#include "round/load_and_save.h"
+
+#include "base/language.h"
+#include "controls/boxes.h"
+#include "round/f_new_round.h"
+#include "round/hole_bar.h"
+#include "round/parameters_pane.h"
+#include "round/quick_page.h"
+#include "round/round_record.h"
+#include "round/statistics_pane.h"
+#include "scoring/hole_shots.h"
+#include "scoring/shot_words.h"
+#include "store/DataEnvironment1.h"
+#include "store/joined_commits.h"
+
+namespace verdane::f_new_round_func {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The codes of the other penalties are in `scoring/shot_words.h`.
+constexpr int water_penalty = 1;
+constexpr int lost_ball_penalty = 2;
+
+quick_figures figures_from_rows(int16 hole)
+{
+    const Round_functions::strokes strokes = Round_functions::read_strokes(hole);
+    const Round_functions::penalties penalties = Round_functions::read_penalties(hole);
+    const Round_functions::situation situation = Round_functions::read_situation(hole);
+    quick_figures figures;
+    figures.long_shots = strokes.long_shots;
+    figures.approach = strokes.approach;
+    figures.putts = strokes.putts;
+    figures.fairway = situation.fairway;
+    figures.sand = situation.sand;
+    figures.missed = situation.missed;
+    figures.recovery = Round_functions::read_recovery(hole);
+    figures.pen_water = penalties.water;
+    figures.pen_lost = penalties.lost;
+    figures.pen_rule = penalties.rule;
+    figures.pen_bounds = penalties.bounds;
+    return figures;
+}
+
+quick_figures figures_from_shots(const hole_summary& summary)
+{
+    quick_figures figures;
+    figures.long_shots = summary.kinds[long_shot].count;
+    figures.approach = summary.kinds[approach_shot].count;
+    figures.putts = summary.kinds[putt].count;
+    figures.fairway = summary.fairway;
+    figures.sand = summary.sand;
+    figures.missed = summary.missed;
+    figures.recovery = summary.recovery;
+    figures.pen_water = summary.penalties[water_penalty].count;
+    figures.pen_lost = summary.penalties[lost_ball_penalty].count;
+    figures.pen_rule = summary.penalties[against_the_rules].count;
+    figures.pen_bounds = summary.penalties[out_of_bounds].count;
+    return figures;
+}
+
+/// When a hole is left, the list already has the next one selected.
+int16 hole_to_save(const f_new_round& window, bool silent)
+{
+    if (silent)
+        return window.last_hole + 1;
+    return window.holes().hole_in_boxes();
+}
+
+}  // namespace
+
+void refresh_panel(f_new_round& window, const Round_functions::figure_source& figures)
+{
+    window.needSave = true;
+    const int16 hole = window.holes().listed_hole();
+    window.statistics().show_hole(Round_functions::figures_of(hole, figures),
+                                  Round_functions::hole_par(hole));
+}
+
+void refresh_score(f_new_round& window)
+{
+    const auto totals = Round_functions::round_score(window.quick().figures());
+    window.totals().show_round(Round_functions::labels_of(totals));
+}
+
+void load_hole(f_new_round& window, int16 hole)
+{
+    window.quick().show_stored(figures_from_rows(hole));
+    show_hole_card(window, hole);
+    window.holes().set_hole_in_boxes(hole);
+    refresh_panel(window, Round_functions::from_row);
+}
+
+void show_hole_card(f_new_round& window, int16 hole)
+{
+    window.holes().show_card(Round_functions::read_hole_card(hole));
+}
+
+void show_summary(f_new_round& window, const hole_summary& summary)
+{
+    window.quick().show_counted(figures_from_shots(summary));
+}
+
+void store_hole(f_new_round& window, int16 hole)
+{
+    const hole_figures f = window.quick().figures();
+    Round_functions::store_strokes(hole, {f.long_shots, f.approach, f.putts});
+    Round_functions::store_penalties(hole, {f.pen_rule, f.pen_water, f.pen_bounds, f.pen_lost});
+    round_record::store_partners(window.parameters().selected_partners());
+    Round_functions::store_situation(hole, window.quick().situation());
+}
+
+void save_round(f_new_round& window, bool silent)
+{
+    if (window.holes().date().isEmpty()) {
+        tell(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
+                            u"Please select a round's date first."),
+             QMessageBox::Critical);
+        return;
+    }
+    store_hole(window, hole_to_save(window, silent));
+    // A process that is killed in between would leave half of the rows of the round, or old figures of a hole
+    // beside new ones.
+    joined_commits together(data_environment().connection);
+    const parameters_pane& parameters = window.parameters();
+    round_record::store_round_header(parameters.course_index(), parameters.weather_index(),
+                                     parameters.temperature());
+    round_record::commit(window.date_value);
+    together.finish();
+    window.needSave = false;
+    if (!silent)
+        tell(window.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
+}
+
+}  // namespace verdane::f_new_round_func

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+#include "records/round_rows.h"
+#include "scoring/hole_arithmetic.h"
+
+class QLineEdit;
+
+namespace verdane {
+
+class Form;
+
+/// The figures in the eleven boxes of a hole.
+struct quick_figures {
+    int16 long_shots = 0;
+    int16 approach = 0;
+    int16 putts = 0;
+    int16 fairway = 0;
+    int16 sand = 0;
+    int16 missed = 0;
+    int16 recovery = 0;
+    int16 pen_water = 0;
+    int16 pen_lost = 0;
+    int16 pen_rule = 0;
+    int16 pen_bounds = 0;
+};
+
+/// Quick entry: a hole in eleven boxes. A typed digit replaces the figure of its box and moves the focus to
+/// the next box. Every change of a box is reported, also one by the program.
+class quick_page : public QWidget {
+public:
+    explicit quick_page(const Form& window);
+
+    /// Runs after each change of a box.
+    std::function<void()> figure_changed;
+    /// Runs after each change of a stroke box, after `figure_changed`.
+    std::function<void()> strokes_changed;
+    /// Runs when a digit was typed into the last box.
+    std::function<void()> last_figure_typed;
+
+    /// Shows the figures of a stored hole: strokes, penalties, then the situation. Each change is reported
+    /// before the next box is set.
+    void show_stored(const quick_figures& figures);
+    /// Shows figures that were counted from shots: penalties, situation, then strokes. When the strokes are
+    /// reported, all penalties are set.
+    void show_counted(const quick_figures& figures);
+
+    /// Strokes and penalties; an empty box is 0. Fails with `overflow` beyond 16 bits.
+    hole_figures figures() const;
+    /// The texts of the four boxes of the situation.
+    Round_functions::situation_texts situation() const;
+
+    void focus_first_box();
+    /// Selects the figure of the first box, so that the next digit replaces it.
+    void select_first_box();
+
+    /// The boxes in the order of the Tab key, which is that of the digits.
+    std::vector<QWidget*> tab_order() const;
+
+private:
+    struct figure_box {
+        int16 quick_figures::*figure;
+        QLineEdit* box;
+    };
+    using box_group = std::vector<figure_box>;
+
+    std::vector<figure_box> boxes_in_order() const;
+    void watch_keys();
+    void watch_changes();
+    void sum_stroke_boxes();
+    void sum_penalty_boxes();
+
+    static void show(const box_group& boxes, const quick_figures& figures);
+    static void read(const box_group& boxes, quick_figures& figures);
+
+    box_group stroke_boxes_;
+    box_group situation_boxes_;
+    box_group penalty_boxes_;
+    QLineEdit* stroke_total_box_;
+    QLineEdit* penalty_total_box_;
+};
+
+}  // namespace verdane

@@ -1,0 +1,261 @@
+#include "round/round_record.h"
+
+#include "base/language.h"
+#include "base/Main_module.h"
+#include "controls/boxes.h"
+#include "controls/failure_guard.h"
+#include "records/round_rows.h"
+#include "store/close_if_open.h"
+#include "store/DataEnvironment1.h"
+#include "store/tables/cost.h"
+#include "store/tables/courses.h"
+#include "store/tables/games.h"
+#include "store/tables/games2.h"
+#include "store/tables/partners.h"
+
+namespace verdane::round_record {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+namespace games = tables::games;
+namespace games2 = tables::games2;
+namespace cost = tables::cost;
+namespace vrd_fields = tables::vrd_fields;
+
+/// The languages differ in icon and title, too.
+void show_no_course()
+{
+    if (is_french)
+        tell(u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
+             u"un terrain"_s,
+             QMessageBox::Critical, u"Verdane"_s);
+    else
+        tell(u"Verdane could not find any course. To create a round, you need to define at "
+             u"least one course."_s);
+}
+
+void find_first(Recordset& recordset, QStringView criterion, const QString& value,
+                search_direction direction = search_direction::forward)
+{
+    recordset.MoveFirst();
+    recordset.Find(criterion + quoted(value), direction);
+}
+
+void find_round(Recordset& recordset, const QString& key,
+                search_direction direction = search_direction::forward)
+{
+    if (!recordset.empty())
+        find_first(recordset, u"Date =", key, direction);
+}
+
+void zero_amounts(Recordset& costs)
+{
+    for (int ordinal = cost::first_amount; ordinal <= cost::last_amount; ++ordinal)
+        costs.Fields(ordinal).set(0);
+}
+
+/// Not committed.
+void add_cost_row(const QString& key)
+{
+    Recordset& costs = data_environment().rscost;
+    costs.AddNew();
+    costs.Fields(cost::date).set(key);
+    zero_amounts(costs);
+}
+
+void store_cost_row(const QString& key)
+{
+    add_cost_row(key);
+    data_environment().rscost.Update();
+}
+
+void commit_and_find(Recordset& recordset, const QString& key)
+{
+    recordset.Update();
+    if (!recordset.empty())
+        recordset.MoveLast();
+    find_round(recordset, key);
+}
+
+/// A column without a value is left out of the text.
+partner_line line_of_current_partner(Recordset& partners)
+{
+    partner_line line;
+    line.text = partners.Fields(tables::partners::SURNAME).text_or_empty() + u',' +
+                partners.Fields(tables::partners::NAME).text_or_empty();
+    line.number = QString::number(plain(partners.Fields(tables::partners::code).int32_or_zero()));
+    line.selected = Round_functions::partner_in_round(line.number) >= 1;
+    return line;
+}
+
+}  // namespace
+
+bool has_a_course()
+{
+    Recordset& courses = data_environment().rsvrd_fields;
+    courses.Open();
+    const bool none = courses.bof() || courses.eof();
+    if (none)
+        show_no_course();
+    courses.Close();
+    return !none;
+}
+
+void add_rows_without_key()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Open();
+    store.rsgames2.AddNew();
+    store.rsgames.AddNew();
+    store.rscost.Open();
+    store.rscost.AddNew();
+    zero_amounts(store.rscost);
+}
+
+void open_rows(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Open();
+    find_round(store.rsgames2, key);
+    find_round(store.rsgames, key, search_direction::backward);
+    store.rsvrd_fields.Open();
+    find_first(store.rsvrd_fields, u"CODE = ", store.rsgames.Fields(games::CODEF).trimmed(),
+               search_direction::backward);
+    store.rscost.Open();
+    find_round(store.rscost, key);
+    if (store.rscost.eof())
+        add_cost_row(key);
+}
+
+bool has_second_row()
+{
+    return !data_environment().rsgames2.eof();
+}
+
+bool key_is_missing()
+{
+    return data_environment().rsgames2.Fields(games2::date).trimmed().isEmpty();
+}
+
+void set_key(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Fields(games2::date).set(key);
+    store.rsgames.Fields(games::date).set(key);
+    store.rscost.Fields(cost::date).set(key);
+}
+
+QString find_holes_of_round(const QString& key)
+{
+    Recordset& rounds = data_environment().rsgames;
+    find_first(rounds, u"Date =", key);
+    const QString code = rounds.Fields(games::CODEF).trimmed();
+    find_holes_of_course(code);
+    return code;
+}
+
+void find_course(const QString& code)
+{
+    find_first(data_environment().rsvrd_fields, u"CODE = ", code);
+}
+
+void find_holes_of_course(const QString& code)
+{
+    find_first(data_environment().rsfield_info, u"FIELD_CODE = ", code);
+}
+
+std::vector<course_line> course_lines()
+{
+    Recordset& courses = data_environment().rsvrd_fields;
+    std::vector<course_line> lines;
+    for (courses.MoveFirst(); !courses.eof(); courses.MoveNext())
+        lines.push_back(
+            {courses.Fields(vrd_fields::name).text_or_empty(), courses.Fields(vrd_fields::code).trimmed()});
+    return lines;
+}
+
+std::vector<partner_line> open_partner_lines()
+{
+    Recordset& partners = data_environment().rspartners;
+    close_if_open(partners);
+    partners.Open();
+    std::vector<partner_line> lines;
+    if (partners.empty())
+        return lines;
+    for (partners.MoveFirst(); !partners.eof(); partners.MoveNext())
+        lines.push_back(line_of_current_partner(partners));
+    return lines;
+}
+
+round_header read_header(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    find_round(store.rscost, key);
+    if (store.rscost.eof()) {
+        store_cost_row(store.rsgames.Fields(games::date).text());
+        store.rscost.MoveLast();
+    }
+    round_header header;
+    header.costs = cost_total();
+    header.weather = plain(store.rsgames2.Fields(games2::conditionM).int16_or_zero());
+    header.temperature = plain(store.rsgames2.Fields(games2::temperature).int32_or_zero());
+    header.course_name = store.rsvrd_fields.Fields(vrd_fields::name).text_or_empty();
+    return header;
+}
+
+QString cost_total()
+{
+    return QString::number(plain(Round_functions::cost_total()));
+}
+
+void store_partners(const QStringList& numbers)
+{
+    data_environment().rsgames2.Fields(games2::PARTNERS).set(Round_functions::partners_text(numbers));
+}
+
+void store_round_header(int course_index, int weather_index, int temperature)
+{
+    DataEnvironment1& store = data_environment();
+    const QString code = Round_functions::course_code_at(course_index);
+    store.rsgames.Fields(games::field).set(store.rsvrd_fields.Fields(vrd_fields::name).value());
+    store.rsgames2.Fields(games2::conditionM).set(weather_index);
+    store.rsgames2.Fields(games2::temperature).set(temperature);
+    store.rsgames.Fields(games::CODEF).set(code);
+    store.rsgames2.Fields(games2::FC).set(code);
+    Main_module::append_round_key(store.rsgames.Fields(games::date).trimmed());
+    store.rsgames2.Update();
+    store.rsgames.Update();
+}
+
+void commit(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    for (Recordset* recordset : {&store.rsgames, &store.rsgames2, &store.rscost})
+        commit_and_find(*recordset, key);
+    find_course(store.rsgames.Fields(games::CODEF).trimmed());
+    if (store.rscost.eof())
+        store_cost_row(key);
+}
+
+void drop_changes()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames.CancelUpdate();
+    store.rsgames2.CancelUpdate();
+    store.rscost.CancelUpdate();
+    finishes_without_failure([&] { store.rsStat_rounds.CancelUpdate(); });
+}
+
+void close_tables()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Update();
+    // A round that could not be loaded has not opened all of them.
+    for (Recordset* recordset : {&store.rsgames2, &store.rsvrd_fields, &store.rscost, &store.rspartners,
+                                 &store.rsgames, &store.rsfield_info})
+        close_if_open(*recordset);
+}
+
+}  // namespace verdane::round_record

@@ -1,0 +1,195 @@
+#include "round/shot_grid.h"
+
+#include <QHeaderView>
+
+#include <algorithm>
+#include <array>
+
+#include "base/language.h"
+#include "controls/choice_menu.h"
+#include "controls/events.h"
+#include "controls/Form.h"
+#include "controls/keys.h"
+#include "controls/look.h"
+#include "controls/main_frame.h"
+#include "scoring/limits.h"
+#include "scoring/shot_words.h"
+#include "store/DataEnvironment1.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct column_layout {
+    QStringView field;
+    text_pair caption;
+    int width_twips;  ///< 0: hidden
+    bool locked;
+    bool yes_or_no;
+};
+
+constexpr std::array columns{
+    column_layout{u"HOLE", {u"Trou", u"Shot"}, 0, false, false},
+    column_layout{u"Shot", {u"Coup", u"Shot"}, 700, false, false},
+    column_layout{u"STICK", {u"Bâton", u"Club"}, 700, true, false},
+    column_layout{u"AFTER", {u"Distance restante", u"Remaining Distance"}, 2000, false, false},
+    column_layout{u"unit", {u"Unités", u"Units"}, 700, true, false},
+    column_layout{u"SHOT_TYPE", {u"VRD", u"VRD"}, 1740, false, false},
+    column_layout{u"BEYONG_HOLE", {u"Dépassement", u"Beyond hole"}, 1740, true, true},
+    column_layout{u"MISSED", {u"Raté", u"Missed "}, 700, true, true},
+    column_layout{u"TS", {u"Trappe de sable", u"Sand Trap "}, 1300, true, true},
+    column_layout{u"DZ", {u"Distance zéro", u"Distance zero"}, 1200, true, true},
+    column_layout{u"Faireway", {u"Allée", u"Fairway "}, 1500, true, false},
+    column_layout{u"Penality", {u"Pénalité", u"Penalty "}, 1200, false, false},
+    column_layout{u"Shot", {u"Shot", u"Shot"}, 0, false, false},
+};
+
+constexpr std::array yes_no_words{yes_word, no_word};
+constexpr std::array unit_words_of_both{feet_words, yards_words};
+
+/// The largest width of the column of clubs.
+constexpr int widest_club_twips = 1000;
+/// Free pixels beside the words of a cell.
+constexpr int cell_margin = 6;
+constexpr int narrowest_column_twips = 600;
+
+std::vector<bound_column> bound_columns(bool french)
+{
+    std::vector<bound_column> bound;
+    for (const column_layout& column : columns) {
+        bound_column next{column.field.toString(), column.caption.in(french), column.locked};
+        if (column.yes_or_no) {
+            next.yes = yes_word.in(french);
+            next.no = no_word.in(french);
+        }
+        bound.push_back(next);
+    }
+    return bound;
+}
+
+const column_layout& layout_of(int column)
+{
+    return columns[static_cast<std::size_t>(column)];
+}
+
+template <typename Words>
+QStringList captions_of(bool french, const Words& words)
+{
+    QStringList captions;
+    for (const text_pair& word : words)
+        captions << word.in(french);
+    return captions;
+}
+
+int widest(const QFontMetrics& font, const QStringList& words)
+{
+    int width = 0;
+    for (const QString& word : words)
+        width = std::max(width, font.horizontalAdvance(word));
+    return width;
+}
+
+}  // namespace
+
+shot_grid::shot_grid(Form& window)
+    : data_grid(new recordset_model(data_environment().rsStat_rounds, bound_columns(window.french()))),
+      french_(window.french())
+{
+    setObjectName(u"details"_s);
+    add_menus(window);
+    set_key_filter(distance_column, digits_only);
+    hold_refused_text(distance_column);
+    QHeaderView& heads = *horizontalHeader();
+    heads.setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    heads.setMinimumSectionSize(pixels(narrowest_column_twips));
+    heads.setFixedHeight(2 * heads.fontMetrics().lineSpacing() + rhythm);
+    verticalHeader()->setDefaultSectionSize(3 * rhythm + rhythm / 2);
+}
+
+choice_menu* shot_grid::make_menu(Form& window, QStringView name, control_array<QAction>& entries, int first,
+                                  const QStringList& captions, const std::function<void(int)>& chosen)
+{
+    auto* menu = named(new choice_menu(&window), name);
+    int number = first;
+    for (const QString& caption : captions) {
+        QAction* entry = entries.add(number, menu->add_choice(QString(), caption));
+        connect(entry, &QAction::triggered, menu, [number, &chosen] { run_event([&] { chosen(number); }); });
+        ++number;
+    }
+    return menu;
+}
+
+void shot_grid::add_menus(Form& window)
+{
+    const QStringList unnamed_clubs(club_count, QString());
+    set_cell_menu(club_column, make_menu(window, u"mSticks", club_entries_, 1, unnamed_clubs, club_chosen));
+    set_cell_menu(kind_column, make_menu(window, u"mshot", kind_entries_, 1, captions_of(french_, kind_words),
+                                         kind_chosen));
+    choice_menu* yes_or_no =
+        make_menu(window, u"mon", yes_no_entries_, 0, captions_of(french_, yes_no_words), yes_or_no_chosen);
+    for (const int column : {beyond_column, missed_column, sand_column, zero_column})
+        set_cell_menu(column, yes_or_no);
+    set_cell_menu(position_column, make_menu(window, u"mAlle", position_entries_, 1,
+                                             captions_of(french_, position_words), position_chosen));
+    set_cell_menu(penalty_column, make_menu(window, u"mpen", penalty_entries_, 1,
+                                            captions_of(french_, penalty_words), penalty_chosen));
+}
+
+void shot_grid::set_club_names(const QStringList& names)
+{
+    for (int club = 1; club <= names.size(); ++club)
+        choice_menu::set_caption(club_entries_(club), names[club - 1]);
+}
+
+QString shot_grid::club_name(int club) const
+{
+    return choice_menu::caption_of(club_entries_(club));
+}
+
+/// All words that the cells of a column can show.
+QStringList shot_grid::words_of_cells(int column) const
+{
+    switch (column) {
+    case club_column: {
+        QStringList names;
+        for (const auto& [club, entry] : club_entries_.members())
+            names << choice_menu::caption_of(*entry);
+        return names;
+    }
+    case unit_column:
+        return captions_of(french_, unit_words_of_both);
+    case kind_column:
+        return captions_of(french_, kind_words);
+    case position_column:
+        return captions_of(french_, position_words);
+    case penalty_column:
+        return captions_of(french_, penalty_words);
+    default:
+        return layout_of(column).yes_or_no ? captions_of(french_, yes_no_words) : QStringList();
+    }
+}
+
+/// The width that the words of a column need. A word of its caption never wraps.
+int shot_grid::width_of_words(int column) const
+{
+    const QFontMetrics font = fontMetrics();
+    const QStringList heads = layout_of(column).caption.in(french_).split(u' ');
+    const int button = has_cell_button(column) ? button_in(QRect(0, 0, 100, 10)).width() : cell_margin;
+    const int cells = widest(font, words_of_cells(column)) + cell_margin + button;
+    return std::max(widest(font, heads) + rhythm + rhythm / 2,
+                    column == club_column ? std::min(cells, pixels(widest_club_twips)) : cells);
+}
+
+void shot_grid::set_up_columns()
+{
+    for (int column = 0; column < static_cast<int>(columns.size()); ++column) {
+        const int twips = layout_of(column).width_twips;
+        setColumnHidden(column, twips == 0);
+        if (twips > 0)
+            setColumnWidth(column, std::max(pixels(twips), width_of_words(column)));
+    }
+}
+
+}  // namespace verdane

@@ -1,0 +1,119 @@
+#include "round/statistics_pane.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <algorithm>
+#include <array>
+
+#include "base/language.h"
+#include "controls/Form.h"
+#include "controls/look.h"
+#include "scoring/hole_classes.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int figure_digits = 2;
+/// A gap between two groups of classes.
+constexpr int gap = 0;
+
+constexpr std::array left_column = {25, 26, 27, 28, gap, 6, 7, 8, 9, gap, 15, 16, 17};
+constexpr std::array right_column = {1, 12, 13, 14, 10, 11, gap, 18, 19, 20, 21, 22, 23, 24};
+
+const selector_row& row_of(int selector)
+{
+    return *std::find_if(panel_selectors.begin(), panel_selectors.end(),
+                         [selector](const selector_row& row) { return row.selector == selector; });
+}
+
+/// Most classes do not change from one figure to the next; those boxes are not painted again.
+void show_class(QLineEdit& box, const QString& text)
+{
+    if (box.text() != text)
+        box.setText(text);
+}
+
+QLabel* add_total(QHBoxLayout& line, const QString& caption, QStringView name)
+{
+    auto* figure = named(new QLabel, name);
+    line.addWidget(make_label(caption, figure), 0, Qt::AlignBottom);
+    QFont bold = figure->font();
+    bold.setPointSizeF(bold.pointSizeF() * 1.2);
+    bold.setBold(true);
+    figure->setFont(bold);
+    figure->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(u"-00.00"_s) + 2 * rhythm);
+    line.addWidget(figure, 0, Qt::AlignBottom);
+    return figure;
+}
+
+}  // namespace
+
+statistics_pane::statistics_pane(const Form& window)
+    : QGroupBox(window.caption(u"Statistiques", u"Statistics"))
+{
+    setObjectName(u"Frame1"_s);
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    columns->setSpacing(2 * rhythm);
+    columns->addLayout(make_column(window, left_column), 1);
+    columns->addLayout(make_column(window, right_column), 1);
+}
+
+template <typename Selectors>
+QGridLayout* statistics_pane::make_column(const Form& window, const Selectors& selectors)
+{
+    auto* rows = new QGridLayout;
+    rows->setHorizontalSpacing(rhythm / 2);
+    rows->setVerticalSpacing(rhythm);
+    rows->setColumnStretch(0, 1);
+    for (const int selector : selectors) {
+        const int row = rows->rowCount();
+        if (selector == gap) {
+            rows->setRowMinimumHeight(row, rhythm);
+            continue;
+        }
+        const selector_row& shown = row_of(selector);
+        QLineEdit* box = class_boxes_.add(shown.box, make_figure(figure_digits));
+        rows->addWidget(make_label(shown.label.in(window.french()), box), row, 0);
+        rows->addWidget(box, row, 1);
+    }
+    rows->setRowStretch(rows->rowCount(), 1);
+    return rows;
+}
+
+void statistics_pane::show_hole(const hole_figures& figures, int16 par)
+{
+    for (const selector_row& row : panel_selectors)
+        show_class(class_boxes_(row.box), hole_cell(row.selector, figures, par));
+}
+
+totals_pane::totals_pane()
+{
+    setObjectName(u"Frame7"_s);
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(rhythm, 0, 0, 0);
+    line->setSpacing(rhythm);
+    gross_label_ = add_total(*line, u"Brut"_s, u"l_brut");
+    handicap_label_ = add_total(*line, u"Handicap"_s, u"l_hand");
+    net_label_ = add_total(*line, u"Net"_s, u"l_net");
+    over_par_label_ = add_total(*line, u"+/-"_s, u"l_plus");
+}
+
+void totals_pane::show_round(const Round_functions::round_labels& totals)
+{
+    handicap_label_->setText(totals.l_hand);
+    gross_label_->setText(totals.l_brut);
+    net_label_->setText(totals.l_net);
+    over_par_label_->setText(totals.l_plus);
+}
+
+}  // namespace verdane
