@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "statistics/club_sums.h"
+#include "scoring/club_sums.h"
 #include "statistics/selection_arguments.h"
 
 /// Reads the shots of a selection and adds them up club by club.

@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "statistics/club_sums.h"
+#include "scoring/club_sums.h"
 #include "statistics/selection_arguments.h"
 
 /// Writes the report table `stat_sticks` through `rsstat_sticks`: one row for each club, in table

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/language.h"
-#include "statistics/putt_figures.h"
+#include "scoring/putt_figures.h"
 #include "statistics/selection_arguments.h"
 
 /// The two grids of the putt statistics, `s_put1` (putts by first length) and `s_put2` (where putts

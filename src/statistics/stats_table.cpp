@@ -3,8 +3,8 @@
 #include <array>
 
 #include "scoring/round_key.h"
+#include "scoring/round_lines.h"
 #include "statistics/stats_columns.h"
-#include "statistics/stats_lines.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::stats_table {

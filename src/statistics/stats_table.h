@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statistics/round_sums.h"
+#include "scoring/round_sums.h"
 #include "statistics/selection_arguments.h"
 
 /// Writes the rows of the report table `stats` through `rsstats`, in table order. Moving to another row

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "statistics/putt_bands.h"
+#include "scoring/putt_bands.h"
 #include "statistics/putt_statistics.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/putt_rounds.h"

@@ -1,4 +1,4 @@
-#include "statistics/putt_counts.h"
+#include "scoring/putt_counts.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "statistics/putt_figures.h"
+#include "scoring/putt_figures.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;

@@ -1,7 +1,6 @@
 #include <QTest>
 
-#include "statistics/club_table.h"
-#include "statistics/report_texts.h"
+#include "scoring/club_sums.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;
@@ -226,7 +225,6 @@ private Q_SLOTS:
         sums.shots = 32767;
         sums.add(missed);
         QCOMPARE(plain(sums.shots), 32768);
-        QCOMPARE(club_table::texts_of(sums)[0], u" 32768"_s);
     }
 
     void a_club_above_14_is_a_failure()
@@ -234,57 +232,6 @@ private Q_SLOTS:
         bag_sums bag;
         QCOMPARE(plain(bag[14].shots), 0);
         QVERIFY(failure_of([&] { bag[15].shots = 1; }) == failure_kind::subscript);
-    }
-
-    void figures_are_texts_of_five_characters_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("a count has a leading blank") << count_text(12) << " 12";
-        QTest::newRow("a mean has a leading blank") << mean_text(5.0 / 3) << " 1.66";
-        QTest::newRow("a mean is cut, not rounded") << mean_text(1.9999) << " 1.99";
-        QTest::newRow("a mean of 0") << mean_text(0) << " 0";
-        QTest::newRow("an average has none") << average_text(641.0 / 3) << "213.6";
-        QTest::newRow("a short average") << average_text(250) << "250";
-        QTest::newRow("an average below 1") << average_text(0.25) << "0.25";
-        QTest::newRow("an average below 0") << average_text(-30.75) << "-30.7";
-        QTest::newRow("a third loses its sign") << share_text(1, 3) << " 33.3";
-        QTest::newRow("all keep their sign") << share_text(2, 2) << " 100%";
-        QTest::newRow("half keeps its sign") << share_text(1, 2) << " 50%";
-        QTest::newRow("none keeps its sign") << share_text(0, 7) << " 0%";
-        QTest::newRow("an eighth fits just so") << share_text(1, 8) << " 12.5";
-        QTest::newRow("a small share has no zero before the point") << share_text(1, 200) << " .5%";
-        QTest::newRow("a share knows no 16 bits") << share_text(30000, 32000) << " 93.7";
-    }
-    void figures_are_texts_of_five_characters()
-    {
-        QFETCH(QString, text);
-        QTEST(text, "expected");
-    }
-
-    void a_club_has_nine_texts()
-    {
-        const club_sums sums = sums_of({placed(1), placed(2), shot_over(301, 100)});
-        const club_table::club_texts expected{u" 3"_s,    u" 201"_s, u"167"_s, u" 33.3"_s, u" 0%"_s,
-                                              u" 33.3"_s, u" 0%"_s,  u" 0%"_s, u" 0%"_s};
-        QCOMPARE(club_table::texts_of(sums), expected);
-    }
-
-    void a_club_without_shots_shows_zeros()
-    {
-        for (const QString& text : club_table::texts_of({}))
-            QCOMPARE(text, u"0"_s);
-    }
-
-    void a_club_without_a_clean_shot_has_no_average()
-    {
-        club_shot missed = shot_over(200, 180);
-        missed.missed = true;
-        const auto texts = club_table::texts_of(sums_of({missed}));
-        QCOMPARE(texts[0], u" 1"_s);
-        QCOMPARE(texts[1], u" 0"_s);
-        QCOMPARE(texts[2], QString());
-        QCOMPARE(texts[6], u" 100%"_s);
     }
 };
 

@@ -1,4 +1,4 @@
-#include "statistics/stats_lines.h"
+#include "scoring/round_lines.h"
 
 #include "base/numbers.h"
 

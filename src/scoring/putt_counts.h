@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "statistics/putt_bands.h"
-#include "statistics/round_sums.h"
+#include "scoring/putt_bands.h"
+#include "scoring/round_sums.h"
 
 /// The counts of the putt statistics. Pure functions.
 namespace verdane {

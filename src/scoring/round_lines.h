@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "statistics/round_sums.h"
+#include "scoring/round_sums.h"
 
 /// The rows of the round statistics, computed from the sums. Pure functions.
 namespace verdane {

@@ -1,4 +1,4 @@
-#include "statistics/club_sums.h"
+#include "scoring/club_sums.h"
 
 #include "base/numbers.h"
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "statistics/round_sums.h"
-#include "statistics/stats_lines.h"
+#include "scoring/round_lines.h"
+#include "scoring/round_sums.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;

@@ -1,4 +1,4 @@
-#include "statistics/putt_bands.h"
+#include "scoring/putt_bands.h"
 
 #include <array>
 

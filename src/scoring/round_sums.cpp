@@ -1,4 +1,4 @@
-#include "statistics/round_sums.h"
+#include "scoring/round_sums.h"
 
 namespace verdane {
 

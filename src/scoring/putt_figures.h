@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/language.h"
-#include "statistics/putt_counts.h"
+#include "scoring/putt_counts.h"
 
 /// The figures of the putt statistics, computed from the counts. Pure functions.
 namespace verdane {

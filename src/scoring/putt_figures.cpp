@@ -1,4 +1,4 @@
-#include "statistics/putt_figures.h"
+#include "scoring/putt_figures.h"
 
 namespace verdane {
 

@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "statistics/putt_bands.h"
+#include "scoring/putt_bands.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
