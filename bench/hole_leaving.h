@@ -2,10 +2,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include "base/Main_module.h"
 #include "bench/diaries.h"
 #include "bench/round_in_window.h"
 #include "bench/stopwatch.h"
+#include "records/Main_module.h"
 #include "records/round_columns.h"
 #include "round/f_new_round.h"
 #include "tests/support/full_diary.h"

@@ -14,6 +14,7 @@
 #include "reference/course_keys.h"
 #include "reference/f_courses.h"
 #include "reference/f_courses_boxes.h"
+#include "scoring/words.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"
 
@@ -40,17 +41,6 @@ constexpr std::array<box_and_column, 6> columns_of_text = {{
     {5, tables::vrd_fields::address_3},
 }};
 
-constexpr std::array<text_pair, 8> tees = {{
-    {u"Blanc", u"White"},
-    {u"Bleu", u"Blue"},
-    {u"Rouge", u"Red"},
-    {u"Or", u"Gold"},
-    {u"Bronze", u"Bronze"},
-    {u"Jaune", u"Yellow"},
-    {u"Vert", u"Green"},
-    {u"Noir", u"Black"},
-}};
-
 Recordset& course()
 {
     return data_environment().rsvrd_fields;
@@ -63,7 +53,7 @@ Recordset& holes()
 
 void fill_tees(f_courses& window, int selected)
 {
-    for (const text_pair& tee : tees)
+    for (const text_pair& tee : tee_words)
         window.departure->addItem(tee.in(window.french()));
     window.departure->setCurrentIndex(selected);
 }

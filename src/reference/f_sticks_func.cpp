@@ -8,13 +8,13 @@
 
 #include <cmath>
 
-#include "base/Main_module.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "controls/boxes.h"
 #include "controls/list_box.h"
 #include "controls/main_frame.h"
 #include "controls/screen_limits.h"
+#include "records/Main_module.h"
 #include "records/round_list.h"
 #include "records/round_rows.h"
 #include "reference/f_sticks.h"

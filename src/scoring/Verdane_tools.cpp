@@ -1,28 +1,19 @@
 #include "scoring/Verdane_tools.h"
 
-#include <array>
+#include <string_view>
 
 #include "base/language.h"
-#include "base/Main_module.h"
 #include "base/text.h"
+#include "scoring/words.h"
 
 namespace verdane::Verdane_tools {
 
 namespace {
 
-// The first four French names stand in capitals, the others do not; lists rely on it.
-constexpr std::array<text_pair, 8> tee_names = {{
-    {u"BLANC", u"White"},
-    {u"BLEU", u"Blue"},
-    {u"ROUGE", u"Red"},
-    {u"OR", u"Gold"},
-    {u"Bronze", u"Bronze"},
-    {u"Jaune", u"Yellow"},
-    {u"Vert", u"Green"},
-    {u"Noir", u"Black"},
-}};
+// In French lists.
+constexpr int tees_in_capitals = 4;
 
-// What Windows-1252 has at 0x80 to 0x9F; where it has nothing, the code stands for itself.
+// The characters of Windows-1252 at 0x80 to 0x9F; a code without a character is its own character.
 constexpr std::u16string_view middle_of_code_page =
     u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u008D\u017D\u008F"
     u"\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u009D\u017E\u0178";
@@ -73,29 +64,17 @@ QString tee_name(QStringView digit)
     const QStringView code = trimmed_blanks(digit);
     if (code.size() != 1 || code.front() < u'0' || code.front() > u'7')
         return {};
-    const text_pair name = tee_names[static_cast<std::size_t>(code.front().unicode() - u'0')];
-    return name.in(is_french);
-}
-
-bool key_free(QStringView key)
-{
-    const QStringView wanted = trimmed_blanks(key);
-    bool result = true;
-    // The entry behind the last one is looked at too: a list that is full has none, and fails.
-    for (int index = 0; index <= plain(Main_module::round_key_count); ++index) {
-        if (Main_module::round_keys[index] == wanted)
-            result = false;
-    }
-    return result;
+    const int tee = code.front().unicode() - u'0';
+    const QString name = tee_words[static_cast<std::size_t>(tee)].in(is_french);
+    return is_french && tee < tees_in_capitals ? in_capitals(name) : name;
 }
 
 int32 name_checksum(QString& first, QString& second)
 {
     first = in_capitals(trimmed_blanks(first));
     second = in_capitals(trimmed_blanks(second));
-    const auto lengths = static_cast<std::int32_t>(first.size() + second.size());
-    const int32 codes = code_sum(first) + code_sum(second);
-    return codes + 2 * lengths;
+    const int32 lengths = first.size() + second.size();
+    return code_sum(first) + code_sum(second) + 2 * lengths;
 }
 
 }  // namespace verdane::Verdane_tools

@@ -6,29 +6,24 @@
 #include "base/counts.h"
 #include "scoring/round_key.h"
 
-/// The small text functions that windows and statistics share; those of the round key stand in
-/// `round_key.h`.
+/// Text functions that windows and statistics share. `round_key.h` has those of the round key.
 namespace verdane::Verdane_tools {
 
-/// Trims the text in place, appends blanks up to `width` and returns it. A text already at the width
-/// or longer comes back trimmed and otherwise unchanged.
+/// Trims the text in place, appends blanks up to `width` characters and returns it. A text that is already as
+/// wide or wider is only trimmed.
 QString pad_right(QString& text, int16 width);
 
-/// Trims the text in place, puts "0" in front of it until it has `width`, and returns it. A longer
-/// text comes back trimmed and otherwise unchanged.
+/// Trims the text in place, prepends zeros up to `width` characters and returns it. A text that is already as
+/// wide or wider is only trimmed.
 QString pad_zero(QString& text, int16 width);
 
-/// The name of a tee colour in the language of this moment, for its digit "0" to "7" (blanks around
-/// it aside); the empty text for anything else.
+/// The colour of a tee in the current language, for its digit "0" to "7" with or without blanks around it;
+/// the empty text for anything else. In French the first four colours are in capitals.
 QString tee_name(QStringView digit);
 
-/// True when no entry of `round_keys` from index 0 to `round_key_count`, that index included, equals
-/// the trimmed key. Fails with `subscript` when the list is full.
-bool key_free(QStringView key);
-
-/// A number for a partner's two names: both are trimmed and put in capitals in place; then the
-/// character codes (Windows-1252; "?" for a character that it lacks) of both, the length of both
-/// together, the length of the first and the length of the second are added up.
+/// A number for the two names of a partner. Both names are trimmed and put in capitals in place; the result
+/// is the sum of their character codes (Windows-1252, "?" for a character that it lacks) plus twice their
+/// length. Names with the same letters in another order have the same number.
 int32 name_checksum(QString& first, QString& second);
 
 }  // namespace verdane::Verdane_tools

@@ -4,7 +4,7 @@
 
 #include "base/checked_array.h"
 #include "base/counts.h"
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 
 /// The sums of the club statistics over shots. Pure functions.
 namespace verdane {

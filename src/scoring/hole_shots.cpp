@@ -2,7 +2,7 @@
 
 #include "base/language.h"
 #include "base/numbers.h"
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 
 namespace verdane {
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QIcon>
 
-#include "base/Main_module.h"
 #include "base/oversized_writes.h"
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
@@ -12,7 +11,9 @@
 #include "controls/interface_language.h"
 #include "controls/lock_box.h"
 #include "controls/look.h"
+#include "records/Main_module.h"
 #include "reports/report_store.h"
+#include "scoring/limits.h"
 #include "shell/f_lang.h"
 #include "shell/language_change.h"
 #include "shell/MainForm.h"
@@ -61,7 +62,7 @@ void load_club_names()
     Recordset& rssticknames = data_environment().rssticknames;
     rssticknames.Open();
     rssticknames.MoveFirst();
-    for (int i = 0; i < Main_module::club_count; ++i)
+    for (int i = 0; i < club_count; ++i)
         Main_module::club_names[i] = rssticknames.Fields(tables::sticknames::club(i + 1)).text_or_empty();
     rssticknames.Close();
     Main_module::club_names_kept = true;

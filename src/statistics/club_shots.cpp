@@ -1,6 +1,6 @@
 #include "statistics/club_shots.h"
 
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::Statistics {

@@ -1,8 +1,8 @@
 #include "statistics/handicap.h"
 
 #include "base/checked_array.h"
-#include "base/Main_module.h"
 #include "records/Round_functions.h"
+#include "scoring/limits.h"
 #include "scoring/round_arithmetic.h"
 #include "store/DataEnvironment1.h"
 
@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using differentials = checked_array<double, Main_module::most_rounds>;
+using differentials = checked_array<double, most_rounds>;
 
 void open_recordsets(const selection_arguments& chosen)
 {

@@ -10,7 +10,7 @@
 #include "records/partner_columns.h"
 #include "records/round_columns.h"
 #include "scoring/Verdane_tools.h"
-#include "scoring/weather_words.h"
+#include "scoring/words.h"
 #include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 
 namespace verdane::testing {
 

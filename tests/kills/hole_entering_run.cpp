@@ -4,8 +4,8 @@
 #include <QRandomGenerator>
 
 #include "base/language.h"
-#include "base/Main_module.h"
-#include "scoring/shot_words.h"
+#include "records/Main_module.h"
+#include "scoring/words.h"
 #include "shell/start_up.h"
 #include "tests/kills/run_log.h"
 

@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QTest>
 
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "shell/start_up.h"
 #include "tests/management/removal_windows.h"
 #include "tests/round/round_windows.h"

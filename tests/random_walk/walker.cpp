@@ -9,9 +9,9 @@
 #include <QTableView>
 #include <QTest>
 
-#include "base/Main_module.h"
 #include "base/numbers.h"
 #include "controls/data_grid.h"
+#include "records/Main_module.h"
 #include "round/f_new_round.h"
 #include "tests/support/hand_widgets.h"
 

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "reference/f_sticks.h"
 #include "tests/statistics/report_rows.h"
 #include "tests/support/window_look.h"

@@ -1,7 +1,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "reference/f_sticks.h"
 #include "tests/reference/golf_bags.h"
 #include "tests/support/window_look.h"

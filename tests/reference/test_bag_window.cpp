@@ -3,8 +3,8 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "base/Main_module.h"
 #include "controls/main_frame.h"
+#include "records/Main_module.h"
 #include "reference/f_sticks.h"
 #include "tests/reference/golf_bags.h"
 #include "tests/support/recording_frame.h"

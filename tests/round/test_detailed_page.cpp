@@ -5,11 +5,11 @@
 #include <QMenu>
 #include <QTest>
 
-#include "base/Main_module.h"
 #include "controls/choice_menu.h"
 #include "controls/data_grid.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
+#include "records/Main_module.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"

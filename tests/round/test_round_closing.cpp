@@ -1,8 +1,8 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "base/Main_module.h"
 #include "controls/main_frame.h"
+#include "records/Main_module.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/round_windows.h"

@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
 

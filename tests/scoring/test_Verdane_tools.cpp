@@ -1,7 +1,6 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "base/Main_module.h"
 #include "scoring/Verdane_tools.h"
 #include "tests/support/failures.h"
 
@@ -14,12 +13,7 @@ class test_Verdane_tools : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        is_french = true;
-        Main_module::round_keys.clear();
-        Main_module::round_key_count = 0;
-    }
+    void init() { is_french = true; }
 
     void a_text_is_padded_on_the_right_data()
     {
@@ -123,38 +117,6 @@ private Q_SLOTS:
         QCOMPARE(tee_name(digit), french);
         is_french = false;
         QCOMPARE(tee_name(digit), english);
-    }
-
-    void a_key_is_free_until_a_round_has_it()
-    {
-        const QString key = u"20030614093000"_s;
-        QVERIFY(key_free(key));
-        Main_module::append_round_key(u"20030614093001"_s);
-        QVERIFY(key_free(key));
-        Main_module::append_round_key(key);
-        Main_module::append_round_key(u"20030614093002"_s);
-        QVERIFY(!key_free(key));
-        QVERIFY(!key_free(u" 20030614093000 "_s));
-    }
-
-    void the_place_behind_the_last_key_is_looked_at_too()
-    {
-        QVERIFY(!key_free(u""));
-        Main_module::round_keys[0] = u"20030614093000"_s;
-        QVERIFY(!key_free(u"20030614093000"));
-        Main_module::round_keys[0].clear();
-        Main_module::round_keys[1] = u"20030614093000"_s;
-        QVERIFY(key_free(u"20030614093000"));
-    }
-
-    void a_full_list_fails_whether_the_key_is_there_or_not()
-    {
-        for (int i = 0; i < 365; ++i)
-            Main_module::append_round_key(QString::number(i));
-        QVERIFY(key_free(u"20030614093000"));
-        Main_module::append_round_key(u"last"_s);
-        QVERIFY(failure_of([] { key_free(u"20030614093000"); }) == failure_kind::subscript);
-        QVERIFY(failure_of([] { key_free(u"0"); }) == failure_kind::subscript);
     }
 
     void two_names_make_a_number_data()

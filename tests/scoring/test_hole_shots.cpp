@@ -2,7 +2,7 @@
 
 #include "base/language.h"
 #include "scoring/hole_shots.h"
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 #include "tests/scoring/shot_tables.h"
 #include "tests/support/failures.h"
 

@@ -2,7 +2,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "shell/MainForm.h"
 #include "shell/start_up.h"
 #include "tests/shell/main_windows.h"

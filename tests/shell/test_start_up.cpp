@@ -2,8 +2,8 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "base/Main_module.h"
 #include "controls/boxes.h"
+#include "records/Main_module.h"
 #include "shell/start_up.h"
 #include "store/DataEnvironment1.h"
 #include "tests/shell/main_windows.h"

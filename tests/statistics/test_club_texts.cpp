@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 #include "statistics/club_table.h"
 #include "statistics/report_texts.h"
 

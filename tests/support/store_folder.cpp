@@ -1,7 +1,7 @@
 #include "tests/support/store_folder.h"
 
-#include "base/Main_module.h"
 #include "controls/interface_language.h"
+#include "records/Main_module.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::testing {

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;
@@ -17,7 +17,7 @@ private Q_SLOTS:
         Main_module::round_key_count = 0;
     }
 
-    void a_key_goes_to_the_next_place()
+    void a_key_is_appended_at_the_next_index()
     {
         Main_module::append_round_key(u"20030614093000"_s);
         Main_module::append_round_key(u"20030615093000"_s);
@@ -26,7 +26,7 @@ private Q_SLOTS:
         QCOMPARE(Main_module::round_keys[2], QString());
     }
 
-    void a_key_that_is_there_already_is_appended_again()
+    void a_key_that_the_list_has_is_appended_again()
     {
         Main_module::append_round_key(u"20030614093000"_s);
         Main_module::append_round_key(u"20030614093000"_s);
@@ -41,6 +41,38 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { Main_module::append_round_key(u"x"_s); }) == failure_kind::subscript);
         QCOMPARE(plain(Main_module::round_key_count), 366);
         QCOMPARE(Main_module::round_keys[365], u"365"_s);
+    }
+
+    void a_key_is_free_until_a_round_has_it()
+    {
+        const QString key = u"20030614093000"_s;
+        QVERIFY(Verdane_tools::key_free(key));
+        Main_module::append_round_key(u"20030614093001"_s);
+        QVERIFY(Verdane_tools::key_free(key));
+        Main_module::append_round_key(key);
+        Main_module::append_round_key(u"20030614093002"_s);
+        QVERIFY(!Verdane_tools::key_free(key));
+        QVERIFY(!Verdane_tools::key_free(u" 20030614093000 "_s));
+    }
+
+    void the_first_unused_entry_is_searched_too()
+    {
+        QVERIFY(!Verdane_tools::key_free(u""));
+        Main_module::round_keys[0] = u"20030614093000"_s;
+        QVERIFY(!Verdane_tools::key_free(u"20030614093000"));
+        Main_module::round_keys[0].clear();
+        Main_module::round_keys[1] = u"20030614093000"_s;
+        QVERIFY(Verdane_tools::key_free(u"20030614093000"));
+    }
+
+    void a_search_of_a_full_list_fails_whether_it_has_the_key_or_not()
+    {
+        for (int i = 0; i < 365; ++i)
+            Main_module::append_round_key(QString::number(i));
+        QVERIFY(Verdane_tools::key_free(u"20030614093000"));
+        Main_module::append_round_key(u"last"_s);
+        QVERIFY(failure_of([] { Verdane_tools::key_free(u"20030614093000"); }) == failure_kind::subscript);
+        QVERIFY(failure_of([] { Verdane_tools::key_free(u"0"); }) == failure_kind::subscript);
     }
 
     void there_are_fourteen_clubs()
