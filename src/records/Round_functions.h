@@ -6,7 +6,7 @@
 
 #include "records/round_rows.h"
 #include "scoring/hole_arithmetic.h"
-#include "scoring/round_arithmetic.h"
+#include "scoring/round_totals.h"
 
 /// The scoring of a hole and of a round. The par of a hole always comes from the current row of
 /// `rsfield_info`. A caller that needs several results for one hole calls `figures_of` once and then the pure

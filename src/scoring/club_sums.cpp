@@ -1,6 +1,7 @@
 #include "scoring/club_sums.h"
 
 #include "base/numbers.h"
+#include "scoring/words.h"
 
 namespace verdane {
 
@@ -11,7 +12,7 @@ namespace {
 template <typename Count>
 void count(Count& counter)
 {
-    counter = counter + static_cast<std::int16_t>(1);
+    counter = counter + 1;
 }
 
 void count_if(bool holds, int16& counter)

@@ -4,7 +4,7 @@
 
 #include "base/checked_array.h"
 #include "base/counts.h"
-#include "scoring/words.h"
+#include "scoring/limits.h"
 
 /// The sums of the club statistics over shots. Pure functions.
 namespace verdane {
@@ -52,6 +52,6 @@ struct club_sums {
 
 /// The sums of every club by its number, 1 to 14; shots without a club are under 0. A shot with another
 /// number fails with `subscript`.
-using bag_sums = checked_array<club_sums, putter + 1>;
+using bag_sums = checked_array<club_sums, club_count + 1>;
 
 }  // namespace verdane

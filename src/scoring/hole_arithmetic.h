@@ -7,8 +7,7 @@
 
 #include "base/counts.h"
 
-/// What one hole counts. Everything here is pure: figures and a par in, a count out. A sum beyond 16
-/// bits fails with `overflow`.
+/// The counts of one hole. Pure functions; a sum that exceeds 16 bits fails with `overflow`.
 namespace verdane {
 
 /// The counts of one hole, all in strokes.
@@ -31,11 +30,11 @@ int16 hole_penalties(const hole_figures& f);
 /// Strokes of the hole: penalties, long shots, approach shots and putts.
 int16 hole_gross(const hole_figures& f);
 
-/// 1 when long shots, penalties and approach shots make exactly par less 2, else 0. A green reached
-/// sooner is not in regulation, and penalty strokes count as strokes to the green.
+/// 1 if long shots, approach shots and penalties add up to exactly par - 2, else 0. A green reached with
+/// fewer strokes is not in regulation, and a penalty counts as a stroke to the green.
 int in_regulation(const hole_figures& f, int16 par);
 
-/// True when the hole was played (its gross is not 0) and is not in regulation.
+/// True if the hole was played (its gross is not 0) and its green was not reached in regulation.
 bool not_in_regulation(const hole_figures& f, int16 par);
 
 /// The text of a box as a count: its leading number, rounded to the nearest whole number (ties to even); 0

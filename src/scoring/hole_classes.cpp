@@ -1,41 +1,16 @@
 #include "scoring/hole_classes.h"
 
-#include "base/checked_array.h"
+#include <array>
+
+#include "base/run_time_failure.h"
 
 namespace verdane {
 
 using namespace Qt::StringLiterals;
 
-const std::array<selector_row, class_count> panel_selectors = {{
-    {1, 20, {u"Nombre de normales :", u"Number of Par :"}},
-    {6, 15, {u"Vert en coup non réglementaire :", u"Green not in Regulation :"}},
-    {7, 14, {u"1 roulés  non réglementaire :", u"1 Putt not in Regulation :"}},
-    {8, 13, {u"2 roulés  non réglementaire :", u"2 Putts not in Regulation :"}},
-    {9, 12, {u"3 roulés et +  non réglementaire :", u"3+ Putts not in regulation :"}},
-    {10, 23, {u"Normales non réglementaires :", u"Up and Down :"}},
-    {11, 22, {u"Approches callés :", u"Chip in :"}},
-    {12, 21, {u"Nombre de normale  3 :", u"Number of Par 3"}},
-    {13, 32, {u"Nombre de normales  4 :", u"Number of Par 4 :"}},
-    {14, 31, {u"Nombre de normales  5 :", u"Number of Par 5 :"}},
-    {15, 30, {u"Moyenne de normales  3 :", u"Average Par 3 :"}},
-    {16, 29, {u"Moyenne de normale  4 :", u"Average Par 4 :"}},
-    {17, 28, {u"Moyenne de normales  5 :", u"Average Par 5 :"}},
-    {18, 27, {u"Trous d’un coup :", u"Hole in One :"}},
-    {19, 26, {u"Albatros :", u"Double eagle :"}},
-    {20, 25, {u"Aigles :", u"Eagle"}},
-    {21, 24, {u"Oiselets :", u"Birdie"}},
-    {22, 35, {u"Bogueys :", u"Bogey :"}},
-    {23, 34, {u"Doubles :", u"Double :"}},
-    {24, 33, {u"Triples et  +  :", u"Triple+  :"}},
-    {25, 19, {u"Verts en coup réglementaires :", u"Green in Regulation :"}},
-    {26, 18, {u"1 roulé  réglementaire :", u"1 Putt in Regulation :"}},
-    {27, 17, {u"2 roulés  réglementaires :", u"2 Putts in Regulation :"}},
-    {28, 16, {u"3 roulés  et + réglementaires :", u"3+ Putts in Regulation :"}},
-}};
-
 namespace {
 
-/// What a cell says before it is put in words or in figures: a figure of 0 is the blank cell.
+/// A cell before it becomes a text: no text at all, or a figure, which is shown as a blank if it is 0.
 struct cell {
     bool empty = false;
     int16 figure = 0;
@@ -45,7 +20,7 @@ constexpr cell no_cell{true, 0};
 
 cell member_if(bool belongs)
 {
-    return {false, static_cast<std::int16_t>(belongs ? 1 : 0)};
+    return {false, belongs ? 1 : 0};
 }
 
 bool gross_is(const hole_figures& f, int wanted)
@@ -54,70 +29,82 @@ bool gross_is(const hole_figures& f, int wanted)
     return gross != 0 && gross == wanted;
 }
 
-/// The panel shows one hole; only the sum over many makes the average.
-cell average_cell(const hole_figures& f, int16 par, int wanted_par)
+cell par_made(const hole_figures& f, int par, int wanted_par)
+{
+    return member_if(par == wanted_par && hole_gross(f) == wanted_par);
+}
+
+/// The gross of one hole; it becomes a mean when the statistics add up many holes.
+cell average_cell(const hole_figures& f, int par, int wanted_par)
 {
     const int16 gross = hole_gross(f);
     return par == wanted_par && gross > 0 ? cell{false, gross} : member_if(false);
 }
 
-cell putts_in_regulation(const hole_figures& f, int16 par, bool putts_fit)
+cell missed_with_putts(const hole_figures& f, int16 par, bool putts_fit)
+{
+    return member_if(not_in_regulation(f, par) && putts_fit);
+}
+
+/// A hole that was not played passes the first test: then the putts alone decide.
+cell hit_with_putts(const hole_figures& f, int16 par, bool putts_fit)
 {
     return member_if(!not_in_regulation(f, par) && putts_fit);
 }
 
 cell cell_of(int selector, const hole_figures& f, int16 par)
 {
+    using namespace hole_class;
     const int p = plain(par);
     switch (selector) {
-    case 1:
+    case made_par:
         return member_if(hole_gross(f) == p);
-    case 6:
+    case green_missed:
         return member_if(not_in_regulation(f, par));
-    case 7:
-        return member_if(not_in_regulation(f, par) && f.putts == 1);
-    case 8:
-        return member_if(not_in_regulation(f, par) && f.putts == 2);
-    case 9:
-        return member_if(not_in_regulation(f, par) && f.putts >= 3);
-    case 10:
+    case green_missed_one_putt:
+        return missed_with_putts(f, par, f.putts == 1);
+    case green_missed_two_putts:
+        return missed_with_putts(f, par, f.putts == 2);
+    case green_missed_three_putts:
+        return missed_with_putts(f, par, f.putts >= 3);
+    case up_and_down:
         return member_if(gross_is(f, p) && f.putts != 2);
-    case 11:
+    case chip_in:
         return member_if(hole_shots(f) != 0 && f.putts == 0);
-    case 12:
-        return p < 3 ? no_cell : member_if(p == 3 && hole_gross(f) == 3);
-    case 13:
-        return member_if(p == 4 && hole_gross(f) == 4);
-    case 14:
-        return member_if(p == 5 && hole_gross(f) == 5);
-    case 15:
-        return average_cell(f, par, 3);
-    case 16:
-        return average_cell(f, par, 4);
-    case 17:
-        return average_cell(f, par, 5);
-    case 18:
+    case made_par_3:
+        return p < 3 ? no_cell : par_made(f, p, 3);
+    case made_par_4:
+        return par_made(f, p, 4);
+    case made_par_5:
+        return par_made(f, p, 5);
+    case average_of_par_3:
+        return average_cell(f, p, 3);
+    case average_of_par_4:
+        return average_cell(f, p, 4);
+    case average_of_par_5:
+        return average_cell(f, p, 5);
+    case hole_in_one:
         return member_if(hole_gross(f) == 1);
-    case 19:
+    case double_eagle:
         return member_if(gross_is(f, p - 3));
-    case 20:
+    case eagle:
         return member_if(gross_is(f, p - 2));
-    case 21:
+    case birdie:
         return member_if(gross_is(f, p - 1));
-    case 22:
+    case bogey:
         return member_if(gross_is(f, p + 1));
-    case 23:
+    case double_bogey:
         return member_if(gross_is(f, p + 2));
-    case 24:
+    case triple_bogey_or_more:
         return member_if(hole_gross(f) != 0 && hole_gross(f) > p + 2);
-    case 25:
+    case green_hit:
         return member_if(in_regulation(f, par) == 1);
-    case 26:
-        return putts_in_regulation(f, par, f.putts == 1);
-    case 27:
-        return putts_in_regulation(f, par, f.putts == 2);
-    case 28:
-        return putts_in_regulation(f, par, f.putts >= 3);
+    case green_hit_one_putt:
+        return hit_with_putts(f, par, f.putts == 1);
+    case green_hit_two_putts:
+        return hit_with_putts(f, par, f.putts == 2);
+    case green_hit_three_putts:
+        return hit_with_putts(f, par, f.putts >= 3);
     default:
         return no_cell;
     }
@@ -125,14 +112,14 @@ cell cell_of(int selector, const hole_figures& f, int16 par)
 
 }  // namespace
 
-int summary_selector(int i)
+int summary_selector(int place)
 {
-    if (i < 1 || i > class_count)
-        throw run_time_failure(failure_kind::subscript, u"class %1 of 24"_s.arg(i));
-    // The greens in regulation stand up front, right behind the pars.
+    if (place < 1 || place > class_count)
+        throw run_time_failure(failure_kind::subscript, u"class %1 of 24"_s.arg(place));
+    // The greens hit come right after the pars.
     constexpr std::array<int, class_count> order = {1,  25, 26, 27, 28, 6,  7,  8,  9,  10, 11, 12,
                                                     13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
-    return order[static_cast<std::size_t>(i) - 1];
+    return order[static_cast<std::size_t>(place) - 1];
 }
 
 QString hole_cell(int selector, const hole_figures& f, int16 par)

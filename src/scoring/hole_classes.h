@@ -2,37 +2,60 @@
 
 #include <QString>
 
-#include <array>
-
-#include "base/language.h"
 #include "scoring/hole_arithmetic.h"
 
-/// The twenty-four classes of a hole. They overlap by design: a hole in one on a par 3 is an eagle
-/// too.
+/// The twenty-four classes of a hole. They overlap: a hole in one on a par 3 is an eagle, too.
 namespace verdane {
-
-/// One class: its number, the index of its box `text` on the panel of the round window, its label.
-struct selector_row {
-    int selector;
-    int box;
-    text_pair label;
-};
 
 constexpr int class_count = 24;
 
-/// The classes in the order in which the panel asks for them: 1, then 6 to 28.
-extern const std::array<selector_row, class_count> panel_selectors;
+/// The classes by number. "Green hit" is a green reached in regulation (`in_regulation`), "green missed" one
+/// that was not. The numbers 2 to 5 are not used.
+namespace hole_class {
+enum number : int {
+    made_par = 1,
+    green_missed = 6,
+    green_missed_one_putt = 7,
+    green_missed_two_putts = 8,
+    green_missed_three_putts = 9,
+    up_and_down = 10,
+    chip_in = 11,
+    made_par_3 = 12,
+    made_par_4 = 13,
+    made_par_5 = 14,
+    average_of_par_3 = 15,
+    average_of_par_4 = 16,
+    average_of_par_5 = 17,
+    hole_in_one = 18,
+    double_eagle = 19,
+    eagle = 20,
+    birdie = 21,
+    bogey = 22,
+    double_bogey = 23,
+    triple_bogey_or_more = 24,
+    green_hit = 25,
+    green_hit_one_putt = 26,
+    green_hit_two_putts = 27,
+    green_hit_three_putts = 28,
+};
 
-/// The class that stands at place `i`, 1 to 24, of the round statistics: 1, 25 to 28, 6 to 24. Fails
-/// with `subscript` for another place.
-int summary_selector(int i);
+/// The class that holds the strokes on holes of a par, 3 to 5.
+constexpr int average_of_par(int par)
+{
+    return average_of_par_3 + par - 3;
+}
+}  // namespace hole_class
 
-/// The text of one class for one hole: "1" when the hole belongs to it, " " when not; for the averages
-/// (15 to 17) the gross. Class 12 on a par below 3, and a class that does not exist (2 to 5 and all
-/// others), give the empty text.
+/// The class in row `place`, 1 to 24, of the classes in the round statistics: 1, 25 to 28, 6 to 24. Fails
+/// with `subscript` on another place.
+int summary_selector(int place);
+
+/// The text of one class for one hole: "1" if the hole belongs to it, " " if not. The three averages give the
+/// gross of the hole. Class 12 on a par below 3 and a number that is no class give the empty text. Fails with
+/// `overflow` if a sum of counts exceeds 16 bits.
 QString hole_cell(int selector, const hole_figures& f, int16 par);
 
-/// The number at the head of that text, without making the text: 0 for the empty ones.
+/// The number at the beginning of that text; 0 for the blank and the empty ones.
 int16 hole_cell_value(int selector, const hole_figures& f, int16 par);
 
 }  // namespace verdane

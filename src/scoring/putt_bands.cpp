@@ -7,7 +7,7 @@ namespace verdane {
 namespace {
 
 /// The shortest length, in feet, of bands 1 to 6; shorter lengths are band 7.
-using band_floors = std::array<int, band_count - 1>;
+using band_floors = std::array<int, putt_band_count - 1>;
 constexpr band_floors start_floors{50, 40, 30, 20, 10, 5};
 constexpr band_floors stop_floors{25, 20, 15, 10, 5, 2};
 
@@ -22,11 +22,11 @@ int band_of(int16 length, const band_floors& floors)
     return band;
 }
 
-using grades = std::array<int, band_count>;
+using grades = std::array<int, putt_band_count>;
 
-/// A line for each band in which the putt stopped, a column for each in which it started. The values are
-/// chosen, not computed.
-constexpr std::array<grades, band_count> grade_table{{
+/// A line for each band in which the putt stopped, a column for each band in which it started. No formula
+/// gives these values.
+constexpr std::array<grades, putt_band_count> grade_table{{
     {8, 9, 10, 10, 10, 10, 10},
     {7, 8, 9, 10, 10, 10, 10},
     {5, 6, 8, 9, 10, 10, 10},

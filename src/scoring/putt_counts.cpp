@@ -4,14 +4,11 @@ namespace verdane {
 
 namespace {
 
-constexpr int places_of_hole = 6;
-const int16 one = static_cast<std::int16_t>(1);
-
 template <typename Table>
 void add_cells(Table& sums, const Table& more)
 {
     for (int row = Table::first_index; row <= Table::last_index; ++row) {
-        for (int band = 1; band <= band_count; ++band)
+        for (int band = 1; band <= putt_band_count; ++band)
             sums[row][band].add(more[row][band].sum);
     }
 }
@@ -27,12 +24,12 @@ void scan_hole(putt_counts& counts, int first_place, const putt_length_at& lengt
     int start_band = first_band;
     for (;; ++putts) {
         const int16 left = length(first_place + putts);
-        counts.stop_by_start[start_band][after_putt_band(left)].add(one);
+        counts.stop_by_start[start_band][after_putt_band(left)].add(1);
         start_band = first_putt_band(left);
         if (left <= 0)
             break;
     }
-    counts.putts_by_first[putts][first_band].add(one);
+    counts.putts_by_first[putts][first_band].add(1);
 }
 
 }  // namespace
@@ -47,8 +44,8 @@ void putt_counts::add(const putt_counts& round)
 putt_counts scan_round_putts(const putt_length_at& length)
 {
     putt_counts counts;
-    for (int h = 1; h <= holes_of_round; ++h)
-        scan_hole(counts, places_of_hole * (h - 1), length);
+    for (int h = 1; h <= hole_count; ++h)
+        scan_hole(counts, putt_lengths_kept * (h - 1), length);
     return counts;
 }
 

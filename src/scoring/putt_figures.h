@@ -8,7 +8,7 @@ namespace verdane {
 
 struct putt_totals {
     /// Holes by their number of putts.
-    checked_array<tally, most_putts, 1> row_total;
+    checked_array<tally, most_putts_counted, 1> row_total;
     /// Holes by the band of their first putt.
     by_band<tally> col_total;
 };

@@ -18,7 +18,7 @@ struct nines {
 nines nines_of(const by_hole<tally>& sums)
 {
     nines result;
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         (h <= last_front_hole ? result.front : result.back).add(sums[h].sum);
     return result;
 }
@@ -26,7 +26,7 @@ nines nines_of(const by_hole<tally>& sums)
 by_hole<double> as_decimals(const by_hole<tally>& sums)
 {
     by_hole<double> values;
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         values[h] = plain(sums[h].sum);
     return values;
 }
@@ -66,7 +66,7 @@ stats_line over_line(const round_sums& sums)
 {
     by_hole<double> means;
     if (sums.rounds > 0) {
-        for (int h = 1; h <= holes_of_round; ++h)
+        for (int h = 1; h <= hole_count; ++h)
             means[h] = sums.over[h] / plain(sums.rounds);
     }
     return totalled(means);
@@ -77,7 +77,7 @@ stats_line average_line(const round_sums& sums, int par)
     const by_hole<tally>& strokes = sums.classes[place_of_average(par)];
     const by_hole<tally>& counts = sums.averaged[par];
     stats_line line;
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         line.holes[h] = round_half_even(mean_or_zero(strokes[h].sum, counts[h].sum));
     const nines played = nines_of(counts);
     const nines taken = nines_of(strokes);
@@ -100,7 +100,7 @@ stats_line totalled(const by_hole<double>& holes)
 {
     stats_line line;
     line.holes = holes;
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         (h <= last_front_hole ? line.front_nine : line.back_nine) += holes[h];
     line.all_holes = line.front_nine + line.back_nine;
     return line;

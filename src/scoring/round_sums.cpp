@@ -27,7 +27,7 @@ void round_sums::add_classes(int h, const played_hole& hole)
     // A hole has one par, so at most one of the three averages takes its strokes.
     for (int par = 3; par <= 5; ++par) {
         if (hole_cell_value(summary_selector(place_of_average(par)), hole.figures, hole.par) != 0)
-            averaged[par][h].add(static_cast<std::int16_t>(1));
+            averaged[par][h].add(1);
     }
 }
 

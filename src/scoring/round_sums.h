@@ -3,24 +3,19 @@
 #include "base/checked_array.h"
 #include "scoring/hole_arithmetic.h"
 #include "scoring/hole_classes.h"
+#include "scoring/limits.h"
+#include "scoring/tally.h"
 
-/// The sums of the round statistics, hole by hole. Pure: they are computed from the figures of one hole of
-/// one round at a time. A sum that exceeds 16 bits fails with `overflow`.
+/// The sums of the round statistics, hole by hole, added up from one hole of one round at a time. Pure
+/// functions. A sum that exceeds 16 bits fails with `overflow`.
 namespace verdane {
 
-constexpr int holes_of_round = 18;
-constexpr int last_front_hole = 9;
+/// The last hole of the front nine.
+constexpr int last_front_hole = hole_count / 2;
 
 /// One value for each hole, indexed 1 to 18.
 template <typename Value>
-using by_hole = checked_array<Value, holes_of_round, 1>;
-
-/// A 16-bit sum that starts at 0.
-struct tally {
-    int16 sum = 0;
-
-    void add(int16 value) { sum = sum + value; }
-};
+using by_hole = checked_array<Value, hole_count, 1>;
 
 /// One hole of one round, as it was played.
 struct played_hole {
@@ -48,21 +43,21 @@ struct round_sums {
     /// Strokes less par. A hole that was not played counts as minus its par.
     by_hole<double> over;
 
-    /// The 24 classes by their number in the report, 1 to 24 (`summary_selector`): how many holes belong
-    /// to each. The entries of the three averages contain strokes.
+    /// How many holes belong to each of the 24 classes, by the place of the class in the report
+    /// (`summary_selector`). The entries of the three averages contain strokes.
     checked_array<by_hole<tally>, class_count, 1> classes;
 
     /// How many holes are counted in the averages of par 3, 4 and 5, by par.
     checked_array<by_hole<tally>, 3, 3> averaged;
 
-    void add_round() { rounds = rounds + static_cast<std::int16_t>(1); }
+    void add_round() { rounds = rounds + 1; }
     void add_hole(int h, const played_hole& hole);
 
 private:
     void add_classes(int h, const played_hole& hole);
 };
 
-/// The number in the report of the average of par 3, 4 or 5: 15, 16 or 17.
+/// The place in the report of the average of par 3, 4 or 5: 15, 16 or 17.
 constexpr int place_of_average(int par)
 {
     return par + 12;

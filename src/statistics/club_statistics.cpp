@@ -17,7 +17,7 @@ constexpr int first_shot_count = 73;
 void put_shot_counts(const bag_sums& clubs)
 {
     Recordset& sticks = data_environment().rssticks;
-    for (int club = 1; club <= putter; ++club)
+    for (int club = 1; club <= club_count; ++club)
         sticks.Fields(first_shot_count + club - 1).set(clubs[club].clean_shots);
 }
 

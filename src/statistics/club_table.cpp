@@ -67,7 +67,7 @@ void write_names()
     names.Open();
     names.MoveFirst();
     clubs_of_report().MoveFirst();
-    for (int k = 1; k <= putter; ++k) {
+    for (int k = 1; k <= club_count; ++k) {
         clubs_of_report().Fields(club_name).set(names.Fields(k - 1).text_or_empty());
         clubs_of_report().MoveNext();
     }
@@ -77,7 +77,7 @@ void write_names()
 
 void write_figures(const bag_sums& clubs)
 {
-    for (int s = 1; s < putter; ++s) {
+    for (int s = 1; s < club_count; ++s) {
         int ordinal = first_figure;
         for (const QString& text : texts_of(clubs[s]))
             clubs_of_report().Fields(ordinal++).set(text);

@@ -2,8 +2,8 @@
 
 #include "base/checked_array.h"
 #include "records/Round_functions.h"
+#include "scoring/handicap.h"
 #include "scoring/limits.h"
-#include "scoring/round_arithmetic.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::Statistics {

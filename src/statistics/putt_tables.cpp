@@ -50,21 +50,21 @@ Recordset& by_start()
 
 void write_bands(Recordset& grid, const by_band<tally>& counts)
 {
-    for (int j = 1; j <= band_count; ++j)
+    for (int j = 1; j <= putt_band_count; ++j)
         grid.Fields(band_j(j)).set(counts[j].sum);
 }
 
 void write_by_first(const putt_figures& figures)
 {
     by_first().MoveFirst();
-    for (int k = 1; k <= most_putts; ++k) {
+    for (int k = 1; k <= most_putts_counted; ++k) {
         write_bands(by_first(), figures.counts.putts_by_first[k]);
         for (int ordinal = mean_band_j(1); ordinal <= mean_all; ++ordinal)
             by_first().Fields(ordinal).set(blank);
         by_first().MoveNext();
     }
     by_first().MoveLast();
-    for (int j = 1; j <= band_count; ++j)
+    for (int j = 1; j <= putt_band_count; ++j)
         by_first().Fields(mean_band_j(j)).set(mean_text(figures.means.mean_band[j]));
     by_first().Fields(mean_all).set(mean_text(figures.means.mean_all));
 }
@@ -72,7 +72,7 @@ void write_by_first(const putt_figures& figures)
 void write_by_start(const putt_figures& figures)
 {
     by_start().MoveFirst();
-    for (int i = 1; i <= band_count; ++i) {
+    for (int i = 1; i <= putt_band_count; ++i) {
         write_bands(by_start(), figures.counts.stop_by_start[i]);
         by_start().Fields(weighted_mean).set(blank);
         by_start().Fields(rating_text).set(blank);

@@ -48,7 +48,7 @@ played_hole read_hole(int16 hole)
 void add_current_round(round_sums& sums)
 {
     sums.add_round();
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         sums.add_hole(h, read_hole(static_cast<std::int16_t>(h)));
 }
 

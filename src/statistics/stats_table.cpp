@@ -28,7 +28,7 @@ void move_to_row(int row)
 
 void write_holes(const by_hole<double>& holes)
 {
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         stats().Fields(at::hole_h(h)).set(holes[h]);
 }
 
@@ -48,7 +48,7 @@ void write_line(const stats_line& line)
 by_hole<double> read_holes()
 {
     by_hole<double> holes;
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         holes[h] = stats().Fields(at::hole_h(h)).to_double();
     return holes;
 }
@@ -101,7 +101,7 @@ void write_classes(const round_sums& sums)
     checked_array<by_hole<double>, class_count, 1> lines;
     for (int place = 1; place <= class_count; ++place)
         lines[place] = class_holes(sums, place);
-    for (int h = 1; h <= holes_of_round; ++h) {
+    for (int h = 1; h <= hole_count; ++h) {
         move_to_row(at::classes_row);
         for (int place = 1; place <= class_count; ++place) {
             stats().Fields(at::hole_h(h)).set(lines[place][h]);
@@ -113,7 +113,7 @@ void write_classes(const round_sums& sums)
 
 int checked_hole(int16 hole)
 {
-    if (hole < 1 || hole > holes_of_round)
+    if (hole < 1 || hole > hole_count)
         throw run_time_failure(failure_kind::subscript,
                                u"hole %1 in the shots of a selection"_s.arg(plain(hole)));
     return plain(hole);

@@ -46,8 +46,10 @@ private Q_SLOTS:
     {
         store_strokes(4, {2, 1, 1});
         const hole_figures boxes = typed_boxes({u"2"_s, u"1a"_s, u" 1"_s});
-        for (const selector_row& row : panel_selectors)
-            QCOMPARE(hole_cell(row.selector, 4, from_row), hole_cell(row.selector, 4, boxes));
+        for (int place = 1; place <= class_count; ++place) {
+            const int selector = summary_selector(place);
+            QCOMPARE(hole_cell(selector, 4, from_row), hole_cell(selector, 4, boxes));
+        }
         QCOMPARE(hole_cell(7, 4, boxes), u"1"_s);
         QCOMPARE(hole_cell(10, 4, from_row), u"1"_s);
         QCOMPARE(hole_cell(2, 4, from_row), QString());

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "scoring/club_sums.h"
+#include "scoring/words.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "scoring/round_arithmetic.h"
+#include "scoring/handicap.h"
 
 using namespace verdane;
 

@@ -82,7 +82,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("figure");
         QTest::newRow("empty") << "" << 0;
         QTest::newRow("digit") << "4" << 4;
-        QTest::newRow("letter behind") << "3a" << 3;
+        QTest::newRow("letter after it") << "3a" << 3;
         QTest::newRow("letter first") << "a3" << 0;
         QTest::newRow("tie to even") << "2.5" << 2;
         QTest::newRow("blank before") << " 7" << 7;

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "scoring/hole_shots.h"
+#include "scoring/hole_summary.h"
 #include "tests/scoring/shot_tables.h"
 #include "tests/support/failures.h"
 
@@ -13,8 +13,8 @@ namespace {
 /// "long approach putts | fairway sand missed recovery | water lost rules bounds"
 QString figures_of(const hole_summary& sum)
 {
-    const auto kind = [&sum](int which) { return QString::number(plain(sum.kinds[which].count)); };
-    const auto penalty = [&sum](int which) { return QString::number(plain(sum.penalties[which].count)); };
+    const auto kind = [&sum](int which) { return QString::number(plain(sum.kinds[which].sum)); };
+    const auto penalty = [&sum](int which) { return QString::number(plain(sum.penalties[which].sum)); };
     const auto number = [](int16 count) { return QString::number(plain(count)); };
     return QStringList{kind(1), kind(2), kind(3)}.join(u' ') + u" | " +
            QStringList{number(sum.fairway), number(sum.sand), number(sum.missed), number(sum.recovery)}.join(

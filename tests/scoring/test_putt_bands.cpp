@@ -48,8 +48,8 @@ private Q_SLOTS:
                                        {5, 6, 8, 9, 10, 10, 10},   {4, 5, 6, 7, 8, 9, 10},
                                        {3, 4, 5, 6, 7, 8, 9},      {1, 2, 2, 3, 5, 5, 6},
                                        {1, 1, 1, 1, 1, 1, 1}};
-        for (int stop = 1; stop <= band_count; ++stop) {
-            for (int start = 1; start <= band_count; ++start)
+        for (int stop = 1; stop <= putt_band_count; ++stop) {
+            for (int start = 1; start <= putt_band_count; ++start)
                 QCOMPARE(putt_grade(start, stop), grades[stop - 1][start - 1]);
         }
     }

@@ -39,7 +39,7 @@ int by_start(const putt_counts& counts, int start, int stop)
 int holes_counted(const putt_counts& counts)
 {
     int holes = 0;
-    for (int putts = 1; putts <= most_putts; ++putts)
+    for (int putts = 1; putts <= most_putts_counted; ++putts)
         holes += plain(totals_of(counts).row_total[putts].sum);
     return holes;
 }

@@ -38,7 +38,7 @@ played_hole gross_on(int gross, int par)
 void add_round_of(round_sums& sums, const played_hole& hole)
 {
     sums.add_round();
-    for (int h = 1; h <= holes_of_round; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         sums.add_hole(h, hole);
 }
 
@@ -218,7 +218,7 @@ private Q_SLOTS:
     void no_round_gives_zeros_and_the_blank_mark()
     {
         const round_sums sums;
-        for (int h = 1; h <= holes_of_round; ++h) {
+        for (int h = 1; h <= hole_count; ++h) {
             QCOMPARE(strokes_line(sums).holes[h], 0.0);
             QCOMPARE(over_line(sums).holes[h], 0.0);
         }

@@ -270,7 +270,7 @@ private Q_SLOTS:
         const auto expected = rounds.grids();
         QStringList counts;
         QStringList means{u"mean_all = 'old'"_s};
-        for (int j = 1; j <= band_count; ++j) {
+        for (int j = 1; j <= putt_band_count; ++j) {
             counts << u"band_%1 = 99"_s.arg(j);
             means << u"mean_band_%1 = 'old'"_s.arg(j);
         }

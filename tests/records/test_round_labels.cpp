@@ -1,13 +1,10 @@
 #include <QTest>
 
 #include "records/Round_functions.h"
-#include "scoring/round_arithmetic.h"
-#include "tests/support/failures.h"
 
 using namespace verdane;
-using testing::failure_of;
 
-class test_round_arithmetic : public QObject {
+class test_round_labels : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -52,38 +49,7 @@ private Q_SLOTS:
         const auto shown = Round_functions::labels_of({{gross, par}, d});
         QTEST((QStringList{shown.l_hand, shown.l_brut, shown.l_net, shown.l_plus}), "labels");
     }
-
-    void the_net_score_takes_the_whole_part_downwards()
-    {
-        QCOMPARE(net_score(80, -1.2), 82.0);
-        QCOMPARE(net_score(80, 1.9), 79.0);
-        QCOMPARE(net_score(80, 2.0), 78.0);
-        QCOMPARE(net_score(80, -2.0), 82.0);
-    }
-
-    void totals_add_up_hole_by_hole()
-    {
-        round_totals totals;
-        totals.add_hole(5, 4);
-        totals.add_hole(0, 3);
-        totals.add_hole(4, 5);
-        QCOMPARE(plain(totals.gross), 9);
-        QCOMPARE(plain(totals.par), 12);
-        QCOMPARE(plain(totals.over_par()), -3);
-    }
-
-    void a_total_beyond_16_bits_is_an_overflow()
-    {
-        round_totals strokes;
-        strokes.add_hole(32767, 4);
-        QVERIFY(failure_of([&] { strokes.add_hole(1, 4); }) == failure_kind::overflow);
-        round_totals pars;
-        pars.add_hole(4, 32767);
-        QVERIFY(failure_of([&] { pars.add_hole(4, 1); }) == failure_kind::overflow);
-        round_totals apart{32767, -1};
-        QVERIFY(failure_of([&] { apart.over_par(); }) == failure_kind::overflow);
-    }
 };
 
-QTEST_GUILESS_MAIN(test_round_arithmetic)
-#include "test_round_arithmetic.moc"
+QTEST_GUILESS_MAIN(test_round_labels)
+#include "test_round_labels.moc"

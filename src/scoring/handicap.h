@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include "base/counts.h"
+
+/// The handicap of a player: the mean of the best score differentials (`round_totals.h`), times 0.96.
+namespace verdane {
+
+/// The ladder: how many of the best differentials count for a number of rounds. 0 below five rounds, 10 from
+/// twenty rounds on.
+int16 handicap_take(int16 rounds);
+
+/// The handicap for the sum of the `take` best differentials, as text: their mean, times 0.96 if there is
+/// more than one, rounded to one decimal place (ties to even), in the plain number text form. "N/A" if the
+/// rounded figure is exactly 0 or `take` is 0.
+QString handicap_text(int16 take, double sum);
+
+}  // namespace verdane
