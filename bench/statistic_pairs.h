@@ -5,8 +5,7 @@
 
 #include "bench/plain_store.h"
 #include "statistics/run_controls.h"
-#include "statistics/selection_arguments.h"
-#include "statistics/selection_clauses.h"
+#include "statistics/selection.h"
 
 /// A statistic of all rounds of a diary, up to the finished table.
 namespace verdane::bench {

@@ -21,7 +21,7 @@
 #include "controls/scrolled_content.h"
 #include "reference/f_sticks_func.h"
 #include "scoring/limits.h"
-#include "statistics/selection_lists.h"
+#include "statistics/selection_filters.h"
 
 namespace verdane {
 

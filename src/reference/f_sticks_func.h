@@ -1,6 +1,6 @@
 #pragma once
 
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 
 namespace verdane {
 

@@ -11,8 +11,8 @@
 /// numbers in the unit of their row.
 namespace verdane {
 
-/// One shot. A value that its row does not have is absent here; an absent kind or club is 0. Members have the
-/// names of the columns.
+/// One shot. A value that its row does not have is absent here; an absent kind or club is 0. Members are
+/// named after their columns.
 struct hole_shot {
     std::optional<int16> shot;
     std::optional<int16> before;
@@ -76,7 +76,7 @@ struct next_shot_plan {
 /// The shot before the first putt is converted to feet once. Fails with `overflow` like the check.
 next_shot_plan plan_next_shot(shot_list& rows, const unit_words& words);
 
-/// Removes the position of a putt, its code and its word: a putt has none.
+/// Removes the position of a putt, its code and its text.
 void clear_position(hole_shot& row);
 
 }  // namespace verdane

@@ -111,4 +111,12 @@ QString average_mark(const round_sums& sums)
     return several_rounds(sums) ? u"0"_s : u" "_s;
 }
 
+std::array<double, 9> detail_figures(const detailed_hole& hole)
+{
+    const double penalties = hole.water + hole.lost + hole.rules + hole.bounds;
+    return {hole.fairway, hole.sand, hole.missed,
+            hole.water,   hole.lost, hole.rules,
+            hole.bounds,  penalties, hole.shots + hole.added_penalties - hole.par};
+}
+
 }  // namespace verdane

@@ -2,6 +2,7 @@
 
 #include "scoring/words.h"
 #include "store/DataEnvironment1.h"
+#include "store/scoped_source.h"
 
 namespace verdane::Statistics {
 
@@ -17,7 +18,7 @@ constexpr QStringView columns =
     u" stat_rounds.stickval, stat_rounds.fairval,stat_rounds.penval,stat_rounds.shot_type_value,"
     u"stat_rounds.cal, games2.date,  stat_rounds.verges, stat_rounds.unit  from  games2, stat_rounds ";
 
-/// Ordinals in the list above, which differ from those of the table.
+/// The ordinals in this list, which differ from those of the table.
 enum column {
     date = 0,
     before = 2,
@@ -65,7 +66,7 @@ gathered_shots add_up(Recordset& shots)
         gathered.any_shot = true;
         const QString round = shots.Fields(date).trimmed();
         if (round != previous) {
-            gathered.rounds = gathered.rounds + static_cast<std::int16_t>(1);
+            gathered.rounds = gathered.rounds + 1;
             previous = round;
         }
         const club_shot shot = read_shot(shots);
@@ -87,11 +88,10 @@ QString club_shot_select(const selection_arguments& chosen)
 gathered_shots gather_club_shots(const selection_arguments& chosen)
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    shots.set_Source(club_shot_select(chosen));
+    const scoped_source selection(shots, club_shot_select(chosen), shots.settings().source);
     shots.Open(row_reading::one_by_one);
     const gathered_shots gathered = add_up(shots);
     shots.Close();
-    shots.set_Source(shots.settings().source);
     return gathered;
 }
 

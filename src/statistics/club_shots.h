@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "scoring/club_sums.h"
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 
 /// Reads the shots of a selection and adds them up club by club.
 namespace verdane::Statistics {

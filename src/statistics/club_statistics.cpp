@@ -7,18 +7,17 @@
 #include "statistics/club_table.h"
 #include "store/DataEnvironment1.h"
 #include "store/relaxed_commits.h"
+#include "store/tables/golf_bag.h"
 
 namespace verdane::Statistics {
 
 namespace {
 
-constexpr int first_shot_count = 73;
-
 void put_shot_counts(const bag_sums& clubs)
 {
     Recordset& sticks = data_environment().rssticks;
     for (int club = 1; club <= club_count; ++club)
-        sticks.Fields(first_shot_count + club - 1).set(clubs[club].clean_shots);
+        sticks.Fields(tables::sticks::shots(club)).set(clubs[club].clean_shots);
 }
 
 void write_table(const selection_arguments& chosen, const gathered_shots& gathered, bool store_counts,

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "statistics/run_controls.h"
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 
 /// The club statistics: from the shots of a selection to the report table `stat_sticks`.
 namespace verdane::Statistics {
 
 /// What a run does besides filling the table.
 struct club_run {
-    /// Moves the bar and launches the report as the last act; null for a silent run without both.
+    /// The bar, and the report to be launched at the end; null for a silent run without both.
     const run_controls* controls = nullptr;
     /// Writes the number of clean shots of every club to the current row of `rssticks`, which the caller
     /// opens and commits.
@@ -20,7 +20,7 @@ struct club_run {
 /// above 14.
 void club_statistics(const selection_arguments& chosen, const club_run& run);
 
-/// The same up to the finished table, without the report. False when there was no shot, which a
+/// The same up to the finished table, without the report. False if there was no shot, which a
 /// message box has reported.
 bool fill_stat_sticks(const selection_arguments& chosen, bool store_counts, run_progress& bar);
 

@@ -3,6 +3,8 @@
 #include "scoring/round_key.h"
 #include "statistics/report_texts.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/golf_bag.h"
+#include "store/tables/stat_sticks.h"
 
 namespace verdane::club_table {
 
@@ -10,15 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int club_name = 0;
-constexpr int first_figure = 1;
-constexpr int heading_text = 11;
-constexpr int from_date = 12;
-constexpr int to_date = 13;
-constexpr int course_text = 14;
-constexpr int partner_text = 15;
-constexpr int weather_text = 16;
-constexpr int round_count = 17;
+using namespace tables::stat_sticks;
 
 Recordset& clubs_of_report()
 {
@@ -35,9 +29,9 @@ club_texts texts_of(const club_sums& sums)
         return zeros;
     }
     const auto share = [&sums](int16 part) { return share_text(part, sums.shots); };
-    const QString average =
+    const QString mean =
         sums.clean_shots > 0 ? average_text(sums.distance_sum / plain(sums.clean_shots)) : QString();
-    return {count_text(sums.shots), count_text(sums.longest), average,
+    return {count_text(sums.shots), count_text(sums.longest), mean,
             share(sums.in_fairway), share(sums.right),        share(sums.left),
             share(sums.missed),     share(sums.penalised),    share(sums.holed)};
 }
@@ -52,7 +46,7 @@ void write_heading(const selection_arguments& chosen)
 {
     Recordset& report = clubs_of_report();
     const QString from = Verdane_tools::key_text(chosen.from_key);
-    // In French in both languages: the English template has a heading of its own.
+    // French in both languages; the English template has its own heading.
     report.Fields(heading_text).set(QString(u"STATISTIQUES SUR VOS BÂTONS DE " + from));
     report.Fields(from_date).set(from);
     report.Fields(to_date).set(Verdane_tools::key_text(chosen.to_key));
@@ -68,7 +62,7 @@ void write_names()
     names.MoveFirst();
     clubs_of_report().MoveFirst();
     for (int k = 1; k <= club_count; ++k) {
-        clubs_of_report().Fields(club_name).set(names.Fields(k - 1).text_or_empty());
+        clubs_of_report().Fields(club_name).set(names.Fields(tables::sticknames::club(k)).text_or_empty());
         clubs_of_report().MoveNext();
     }
     names.Close();
@@ -78,7 +72,7 @@ void write_names()
 void write_figures(const bag_sums& clubs)
 {
     for (int s = 1; s < club_count; ++s) {
-        int ordinal = first_figure;
+        int ordinal = shot_count;
         for (const QString& text : texts_of(clubs[s]))
             clubs_of_report().Fields(ordinal++).set(text);
         clubs_of_report().UpdateBatch(affect::all_chapters);

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "scoring/club_sums.h"
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 
 /// Writes the report table `stat_sticks` through `rsstat_sticks`: one row for each club, in table
 /// order.

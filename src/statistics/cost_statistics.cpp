@@ -5,7 +5,9 @@
 #include "reports/report_control.h"
 #include "store/DataEnvironment1.h"
 #include "store/relaxed_commits.h"
+#include "store/scoped_source.h"
 #include "store/single_commit.h"
+#include "store/tables/cost.h"
 
 namespace verdane::Statistics {
 
@@ -13,9 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int first_amount = 1;
-constexpr int last_amount = 12;
-constexpr int round_count = 14;
 constexpr int step_of_a_round = 3;
 
 void remove_rows(Recordset& report)
@@ -31,12 +30,12 @@ void remove_rows(Recordset& report)
 
 void check_amounts(Recordset& cost)
 {
-    for (int amount = first_amount; amount <= last_amount; ++amount)
+    for (int amount = tables::cost::first_amount; amount <= tables::cost::last_amount; ++amount)
         cost.Fields(amount).int32_or_zero();
 }
 
-/// How many rounds there are to copy. An amount beyond 32 bits fails here with `overflow`.
-int look_through(Recordset& cost, run_progress& bar)
+/// Checks the rounds to copy and returns their number. An amount beyond 32 bits fails with `overflow`.
+int check_rows(Recordset& cost, run_progress& bar)
 {
     int rounds = 0;
     for (cost.Open(row_reading::one_by_one); !cost.eof(); cost.MoveNext()) {
@@ -48,37 +47,38 @@ int look_through(Recordset& cost, run_progress& bar)
     return rounds;
 }
 
-/// Copies all rows by one statement, in the store's order: adding them one by one takes longer than
-/// everything else together. The statement would copy any amount, so the amounts are checked first.
+/// Copies all rows by one statement, which is much faster than adding them one by one. The statement copies
+/// any amount, so `check_rows` has to be called before.
 void copy_rows(const QString& selection)
 {
     data_environment().connection.Execute(
         u"insert into r_cost (date,fg,cm,vt,ft,ba,tee,tex,nrt,lg,bs,ln,au) " + selection);
 }
 
-/// Written to the first row of the table, the only one that is read for it.
-void note_round_count(Recordset& report, int rounds)
+/// Writes the number of rounds to the first row of the table.
+void write_round_count(Recordset& report, int rounds)
 {
-    report.set_Source(report.settings().source + u" limit 1");
+    const QString all_rows = report.settings().source;
+    const scoped_source first_row(report, all_rows + u" limit 1", all_rows);
     report.Open();
-    report.Fields(round_count).set(rounds);
+    report.Fields(tables::r_cost::round_count).set(rounds);
     report.Update();
     report.Close();
-    report.set_Source(report.settings().source);
 }
 
-/// False when the selection has no costs; the report table is empty then.
+/// False if the selection has no costs; the report table is empty then, and the statement of `rscost`
+/// is not reset.
 bool fill_from_costs(const selection_arguments& chosen, run_progress& bar)
 {
     Recordset& cost = data_environment().rscost;
     Recordset& report = data_environment().rsr_cost;
     remove_rows(report);
     cost.set_Source(cost_select(chosen));
-    const int rounds = look_through(cost, bar);
+    const int rounds = check_rows(cost, bar);
     if (rounds == 0)
         return false;
     copy_rows(cost.Source());
-    note_round_count(report, rounds);
+    write_round_count(report, rounds);
     return true;
 }
 

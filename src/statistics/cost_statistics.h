@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "statistics/run_controls.h"
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 
 /// The cost statistics: copy the costs of the selected rounds to the report table `r_cost`. The report
 /// template adds them up.
@@ -16,12 +16,12 @@ void empty_cost_report();
 QString cost_select(const selection_arguments& chosen);
 
 /// Fills the table, moving the bar by 3 for each round up to its end, and finally launches the
-/// report. If there is no row, a message box reports that and no report opens; `rscost` then keeps the
-/// statement as its source. An amount that exceeds 32 bits fails with `overflow` and leaves the table
-/// unchanged.
+/// report. If there is no row, a message box reports that and no report opens; the statement of the
+/// selection then remains the source of `rscost`. An amount that exceeds 32 bits fails with `overflow` and
+/// leaves the table unchanged.
 void cost_statistics(const selection_arguments& chosen, const run_controls& controls);
 
-/// The same up to the finished table, without the report. False when there is nothing to print,
+/// The same up to the finished table, without the report. False if there is nothing to print,
 /// which a message box has reported.
 bool fill_r_cost(const selection_arguments& chosen, run_progress& bar);
 

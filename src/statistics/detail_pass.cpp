@@ -1,6 +1,9 @@
 #include "statistics/detail_pass.h"
 
+#include "statistics/stats_table.h"
 #include "store/DataEnvironment1.h"
+#include "store/scoped_source.h"
+#include "store/tables/stats.h"
 
 namespace verdane::Statistics {
 
@@ -17,30 +20,60 @@ constexpr QStringView figures_of_a_hole =
     u"SUM(STAT_ROUNDS.NORMAL)/COUNT(STAT_ROUNDS.HOLE) , COUNT(STAT_ROUNDS.HOLE), "
     u"SUM(STAT_ROUNDS.ADDPEN),STAT_ROUNDS.HOLE ";
 
-constexpr QStringView tables = u"FROM STAT_ROUNDS, GAMES2 WHERE (STAT_ROUNDS.DATE = GAMES2.DATE AND  ";
+constexpr QStringView tables_joined = u"FROM STAT_ROUNDS, GAMES2 WHERE (STAT_ROUNDS.DATE = GAMES2.DATE AND  ";
+
+detailed_hole read_hole(Recordset& rows)
+{
+    int column = 0;
+    const auto next = [&] { return rows.Fields(column++).double_or_zero(); };
+    detailed_hole hole;
+    for (double* figure : {&hole.fairway, &hole.sand, &hole.missed, &hole.water, &hole.lost, &hole.rules,
+                           &hole.bounds, &hole.par, &hole.shots, &hole.added_penalties})
+        *figure = next();
+    hole.hole = rows.Fields(column).to_int16();
+    return hole;
+}
+
+int checked_hole(int16 hole)
+{
+    if (hole < 1 || hole > hole_count)
+        throw run_time_failure(failure_kind::subscript,
+                               u"hole %1 in the shots of a selection"_s.arg(plain(hole)));
+    return plain(hole);
+}
 
 }  // namespace
 
 QString detail_select(const selection_arguments& chosen)
 {
-    return figures_of_a_hole + tables + u"games2.date>= " + quoted(chosen.from_key) + u" AND games2.date <=" +
-           quoted(chosen.to_key) + u" )" + chosen.partner_clause + chosen.course_clause +
-           chosen.weather_clause + u" GROUP BY STAT_ROUNDS.HOLE";
+    return figures_of_a_hole + tables_joined + u"games2.date>= " + quoted(chosen.from_key) +
+           u" AND games2.date <=" + quoted(chosen.to_key) + u" )" + chosen.partner_clause +
+           chosen.course_clause + chosen.weather_clause + u" GROUP BY STAT_ROUNDS.HOLE";
 }
 
-bool open_detail(const selection_arguments& chosen)
+std::vector<detailed_hole> gather_detail(const selection_arguments& chosen)
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    shots.set_Source(detail_select(chosen));
+    const scoped_source selection(shots, detail_select(chosen), u"select * from Stat_rounds"_s);
     shots.Open();
-    return !shots.eof() && !shots.bof();
+    std::vector<detailed_hole> holes;
+    for (; !shots.eof(); shots.MoveNext())
+        holes.push_back(read_hole(shots));
+    shots.Close();
+    return holes;
 }
 
-void close_detail()
+void write_detail(const std::vector<detailed_hole>& holes)
 {
-    Recordset& shots = data_environment().rsStat_rounds;
-    shots.Close();
-    shots.set_Source(u"select * from Stat_rounds"_s);
+    Recordset& stats = data_environment().rsstats;
+    for (const detailed_hole& each : holes) {
+        const int h = checked_hole(each.hole);
+        for (const double figure : detail_figures(each)) {
+            stats.Fields(tables::stats::hole_h(h)).set(figure);
+            stats.MoveNext();
+        }
+        stats_table::move_to_row(tables::stats::row::fairway);
+    }
 }
 
 }  // namespace verdane::Statistics

@@ -18,7 +18,7 @@
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
 #include "statistics/f_date_range_func.h"
-#include "statistics/selection_lists.h"
+#include "statistics/selection_filters.h"
 
 namespace verdane {
 
@@ -146,10 +146,10 @@ QLayout* f_date_range::make_foot()
     Status->setRange(0, 100);
     Status->setValue(0);
     Status->setTextVisible(false);
-    // The buttons keep their place when the bar is shown or hidden.
-    QSizePolicy keeps_its_place = Status->sizePolicy();
-    keeps_its_place.setRetainSizeWhenHidden(true);
-    Status->setSizePolicy(keeps_its_place);
+    // Showing or hiding the bar does not move the buttons.
+    QSizePolicy retained = Status->sizePolicy();
+    retained.setRetainSizeWhenHidden(true);
+    Status->setSizePolicy(retained);
     Status->hide();
     Command1 = named(make_button(u"OK"_s), u"Command1");
     Command2 = named(make_button(u"OK"_s), u"Command2");

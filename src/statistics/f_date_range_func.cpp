@@ -13,9 +13,7 @@
 #include "statistics/f_date_range.h"
 #include "statistics/putt_statistics.h"
 #include "statistics/round_statistics.h"
-#include "statistics/selection_choice.h"
-#include "statistics/selection_clauses.h"
-#include "statistics/selection_lists.h"
+#include "statistics/selection_filters.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::f_date_range_func {
@@ -24,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// False when the store holds no round.
+/// False if the store has no round.
 bool fill_rounds(f_date_range& window)
 {
     DataEnvironment1& store = data_environment();
@@ -46,13 +44,13 @@ void stop_without_rounds(f_date_range& window)
     window.unload();
 }
 
-/// The text of a filter that is off, in the headings of the round and cost reports; the others show the
-/// entry of the list.
+/// The text of the weather in the heading of a report if the filter is off: the entry of the list in the club
+/// and putt reports, " ALL" in the round and cost reports.
 QString open_weather(const f_date_range& window)
 {
     const statistics_mode mode = window.mode();
-    const bool as_it_stands = mode == statistics_mode::club || mode == statistics_mode::putt;
-    return as_it_stands ? window.conditions->currentText() : window.caption(u" TOUTES", u" ALL");
+    const bool shows_entry = mode == statistics_mode::club || mode == statistics_mode::putt;
+    return shows_entry ? window.conditions->currentText() : window.caption(u" TOUTES", u" ALL");
 }
 
 clause_form form_of(const f_date_range& window)
@@ -102,7 +100,7 @@ void load(f_date_range& window)
 void count_rounds_between(f_date_range& window)
 {
     const int between = window.List2->currentRow() - window.List1->currentRow() + 1;
-    window.rounds_between = static_cast<std::int16_t>(between);
+    window.rounds_between = between;
 }
 
 selection_arguments selection_of(const f_date_range& window)
@@ -151,7 +149,7 @@ void close_form(f_date_range& window)
 
 void unload()
 {
-    // After cost statistics without a result the source is their statement, to which no row can be added.
+    // Cost statistics without a result leave their own statement, to which no row can be added.
     data_environment().rscost.set_Source(u"select * from cost"_s);
     Unlock_menu();
 }

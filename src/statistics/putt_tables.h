@@ -2,7 +2,7 @@
 
 #include "base/language.h"
 #include "scoring/putt_figures.h"
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 
 /// The two grids of the putt statistics, `s_put1` (putts by first length) and `s_put2` (where putts
 /// stop), written through `rss_put1` and `rss_put2`. Changes are pending until `commit_and_close`.

@@ -6,7 +6,8 @@ namespace verdane {
 
 namespace {
 
-constexpr int room = 5;
+/// More characters have no place in a column.
+constexpr int most_characters = 5;
 
 }  // namespace
 
@@ -17,18 +18,18 @@ QString count_text(int32 count)
 
 QString mean_text(double mean)
 {
-    return plain_number_text(mean).left(room);
+    return plain_number_text(mean).left(most_characters);
 }
 
 QString average_text(double mean)
 {
-    return number_text(mean).left(room);
+    return number_text(mean).left(most_characters);
 }
 
 QString share_text(int16 part, int32 whole)
 {
     const double percent = plain(part) * 100.0 / plain(whole);
-    return QString(plain_number_text(percent) + u'%').left(room);
+    return QString(plain_number_text(percent) + u'%').left(most_characters);
 }
 
 }  // namespace verdane

@@ -2,12 +2,11 @@
 
 #include "base/language.h"
 #include "controls/boxes.h"
-#include "records/round_rows.h"
 #include "reports/report_control.h"
-#include "scoring/round_sums.h"
 #include "statistics/detail_pass.h"
-#include "statistics/handicap.h"
+#include "statistics/round_handicap.h"
 #include "statistics/stats_table.h"
+#include "statistics/summary_pass.h"
 #include "store/DataEnvironment1.h"
 #include "store/relaxed_commits.h"
 
@@ -17,56 +16,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-namespace rows = Round_functions;
-
-void open_round_tables(const selection_arguments& chosen)
+/// Its figures are overwritten by the summary pass. It finds out whether the selection has shots.
+void run_detail_pass(const selection_arguments& chosen, run_progress& bar)
 {
-    DataEnvironment1& store = data_environment();
-    store.rsvrd_fields.Open();
-    store.rsfield_info.Open();
-    store.rsgames2.Open();
-    store.rsgames.set_Source(selected_rounds_statement(chosen));
-    store.rsgames.Open();
-}
-
-void close_round_tables()
-{
-    DataEnvironment1& store = data_environment();
-    for (Recordset* table : {&store.rsgames2, &store.rsgames, &store.rsvrd_fields, &store.rsfield_info})
-        table->Close();
-    store.rsgames.set_Source(u"Select * from games"_s);
-}
-
-/// Reads a hole of the round from the current rows, each column once.
-played_hole read_hole(int16 hole)
-{
-    const rows::situation situation = rows::read_situation(hole);
-    return {rows::figures_from_row(hole), rows::hole_par(hole), situation.sand, situation.missed,
-            situation.fairway};
-}
-
-void add_current_round(round_sums& sums)
-{
-    sums.add_round();
-    for (int h = 1; h <= hole_count; ++h)
-        sums.add_hole(h, read_hole(static_cast<std::int16_t>(h)));
-}
-
-void detail_pass(const selection_arguments& chosen, run_progress& bar)
-{
-    const bool detailed = open_detail(chosen);
-    if (!detailed)
+    const std::vector<detailed_hole> holes = gather_detail(chosen);
+    if (holes.empty())
         tell(in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies. Faite OK "
                          u"pour vérifier si des statistiques sommaires existent.",
                          u"Verdane could not find any detailed rounds with the chosen parameters. Click on "
                          u"OK to calculate summary statistics."));
     bar.show(20);
-    if (detailed)
-        stats_table::write_detail();
+    write_detail(holes);
     bar.move_to(40);
-    if (detailed)
+    if (!holes.empty())
         data_environment().rsstats.Update();
-    close_detail();
     bar.move_to(30);
 }
 
@@ -88,11 +51,11 @@ void stop_at_missing_row(missing_row row, run_progress& bar)
 {
     bar.hide();
     close_stats();
-    tell_missing_row(row);
+    report_missing_row(row);
 }
 
-/// Adds headings, totals and the handicap to the lines of the summary pass. False when a row was missing;
-/// everything is closed in either case.
+/// Adds heading, totals and handicap to the lines of the summary pass and closes the table. False if a round
+/// lacks a row.
 bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress& bar)
 {
     stats_table::write_heading(chosen);
@@ -114,23 +77,12 @@ bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress&
 
 }  // namespace
 
-filled_lines fill_round_lines(const selection_arguments& chosen)
-{
-    open_round_tables(chosen);
-    round_sums sums;
-    const missing_row missing = walk_selected_rounds(chosen, [&] { add_current_round(sums); });
-    if (missing == missing_row::none)
-        stats_table::write_round_lines(sums);
-    close_round_tables();
-    return {missing, sums.rounds};
-}
-
 bool fill_stats(const selection_arguments& chosen, run_progress& bar)
 {
-    // The table is scratch: each run rebuilds it with hundreds of commits.
+    // Each run rebuilds the table with hundreds of commits.
     const relaxed_commits scratch(data_environment().connection);
     stats_table::open_cleared();
-    detail_pass(chosen, bar);
+    run_detail_pass(chosen, bar);
     const filled_lines filled = fill_round_lines(chosen);
     if (filled.missing != missing_row::none) {
         stop_at_missing_row(filled.missing, bar);

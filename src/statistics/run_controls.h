@@ -8,7 +8,7 @@ namespace verdane {
 
 class report_control;
 
-/// The controls of the selection window that a statistic drives: the bar, and its report control.
+/// The controls of the selection window that a statistic uses: the bar and a report control.
 struct run_controls {
     QProgressBar& Status;
     report_control& report;

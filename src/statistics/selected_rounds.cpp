@@ -2,9 +2,10 @@
 
 #include "base/numbers.h"
 #include "controls/boxes.h"
-#include "records/round_columns.h"
 #include "records/round_rows.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/games.h"
+#include "store/tables/games2.h"
 
 namespace verdane {
 
@@ -24,19 +25,19 @@ bool found(Recordset& rows, const QString& criterion)
 missing_row locate_rows_of_round()
 {
     DataEnvironment1& store = data_environment();
-    const QString course = quoted(store.rsgames.Fields(round_columns::codef).text_or_empty());
+    const QString course = quoted(store.rsgames.Fields(tables::games::CODEF).text_or_empty());
     if (!found(store.rsvrd_fields, u"CODE = " + course))
         return missing_row::course;
     if (!found(store.rsfield_info, u"FIELD_CODE = " + course))
         return missing_row::holes;
-    const QString key = quoted(store.rsgames.Fields(round_columns::date).text_or_empty());
+    const QString key = quoted(store.rsgames.Fields(tables::games::date).text_or_empty());
     return found(store.rsgames2, u"Date =" + key) ? missing_row::none : missing_row::games2;
 }
 
-/// Null equals no weather, as in the clauses of the statements.
+/// Null matches no weather, as in the clauses of the statements.
 bool has_weather(const QString& wanted)
 {
-    const Field weather = data_environment().rsgames2.Fields(round_columns::conditionM);
+    const Field weather = data_environment().rsgames2.Fields(tables::games2::conditionM);
     return !weather.is_null() && weather.to_int16() == to_int16(wanted);
 }
 
@@ -73,7 +74,7 @@ missing_row walk_selected_rounds(const selection_arguments& chosen, const std::f
     return missing_row::none;
 }
 
-void tell_missing_row(missing_row row)
+void report_missing_row(missing_row row)
 {
     tell(u"Fatal Error : %1 "_s.arg(static_cast<int>(row)), QMessageBox::Critical, QString());
 }

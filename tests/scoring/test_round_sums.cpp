@@ -226,6 +226,12 @@ private Q_SLOTS:
         QCOMPARE(average_mark(sums), u" "_s);
     }
 
+    void the_detail_of_a_hole_has_its_counts_its_penalties_and_its_shots_over_par()
+    {
+        const detailed_hole hole{1, 2, 3, 10, 20, 30, 40, 4.5, 9, 2, 7};
+        QCOMPARE(detail_figures(hole), (std::array<double, 9>{1, 2, 3, 10, 20, 30, 40, 100, 6.5}));
+    }
+
     void both_nines_and_their_total_are_added_as_decimals()
     {
         by_hole<double> holes;

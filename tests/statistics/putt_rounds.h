@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 #include "tests/statistics/report_rows.h"
 #include "tests/support/hand.h"
 

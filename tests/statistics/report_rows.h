@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 #include "tests/support/stored_diary.h"
 
 /// What the tests of the statistics put into a store beside the rounds, and what they read back.

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 #include "tests/statistics/report_rows.h"
 
 /// What the tests of the club statistics share.

@@ -51,10 +51,8 @@ selection_arguments days(int from, int to)
 void write_detail_of(const selection_arguments& chosen)
 {
     stats_table::open_cleared();
-    QVERIFY(Statistics::open_detail(chosen));
-    stats_table::write_detail();
+    Statistics::write_detail(Statistics::gather_detail(chosen));
     data_environment().rsstats.Update();
-    Statistics::close_detail();
     data_environment().rsstats.Close();
 }
 
@@ -113,9 +111,8 @@ private Q_SLOTS:
         add_shots_of_hole_2(store.book, key_of_day(2));
         selection_arguments chosen = days(from, to);
         chosen.weather_clause = clause;
-        const bool detailed = Statistics::open_detail(chosen);
-        Statistics::close_detail();
-        QTEST(detailed, "detailed");
+        QTEST(!Statistics::gather_detail(chosen).empty(), "detailed");
+        QVERIFY(open_recordsets().isEmpty());
     }
 
     void a_shot_on_no_hole_fails()
@@ -125,8 +122,8 @@ private Q_SLOTS:
         store.book.add(round_on(1, 0));
         store.book.add(diary_shot{first_key, 19, 1, 1, 1, 0, false, false, 4});
         stats_table::open_cleared();
-        QVERIFY(Statistics::open_detail(days(1, 1)));
-        QCOMPARE(failure_of(stats_table::write_detail), failure_kind::subscript);
+        const auto holes = Statistics::gather_detail(days(1, 1));
+        QCOMPARE(failure_of([&] { Statistics::write_detail(holes); }), failure_kind::subscript);
     }
 
     void a_detailed_round_brings_no_message_and_the_summary_overwrites_its_figures_data()

@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "base/numbers.h"
-#include "statistics/handicap.h"
+#include "statistics/round_handicap.h"
 #include "store/DataEnvironment1.h"
 #include "tests/support/failures.h"
 #include "tests/support/stored_diary.h"

@@ -9,7 +9,7 @@
 #include "statistics/club_statistics.h"
 #include "statistics/cost_statistics.h"
 #include "statistics/putt_statistics.h"
-#include "statistics/selection_clauses.h"
+#include "statistics/selection.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/report_rows.h"
 #include "tests/support/full_diary.h"

@@ -3,9 +3,9 @@
 #include "statistics/club_shots.h"
 #include "statistics/cost_statistics.h"
 #include "statistics/detail_pass.h"
-#include "statistics/putt_statistics.h"
+#include "statistics/putt_lengths.h"
 #include "statistics/selected_rounds.h"
-#include "statistics/selection_clauses.h"
+#include "statistics/selection.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;

@@ -55,11 +55,8 @@ selection_arguments all_rounds_in(int weather_entry, statistics_mode mode)
 /// The shots of hole 1 in the selection.
 int shots_in_detail(const selection_arguments& chosen)
 {
-    constexpr int number_of_shots = 8;
-    const bool found = Statistics::open_detail(chosen);
-    const int shots = found ? plain(data_environment().rsStat_rounds.Fields(number_of_shots).to_int16()) : 0;
-    Statistics::close_detail();
-    return shots;
+    const auto holes = Statistics::gather_detail(chosen);
+    return holes.empty() ? 0 : static_cast<int>(holes.front().shots);
 }
 
 void weather_entries()

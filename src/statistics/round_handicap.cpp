@@ -1,10 +1,12 @@
-#include "statistics/handicap.h"
+#include "statistics/round_handicap.h"
 
 #include "base/checked_array.h"
 #include "records/Round_functions.h"
 #include "scoring/handicap.h"
 #include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
+#include "store/scoped_source.h"
+#include "store/tables/hand.h"
 
 namespace verdane::Statistics {
 
@@ -12,15 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using differentials = checked_array<double, most_rounds>;
+using tables::hand::hnd;
 
-void open_recordsets(const selection_arguments& chosen)
+void open_recordsets()
 {
     DataEnvironment1& store = data_environment();
     store.rsvrd_fields.Open();
     store.rsfield_info.Open();
     store.connection.Execute(u"DELETE FROM HAND"_s);
-    store.rsgames.set_Source(selected_rounds_statement(chosen));
     store.rsgames.Open();
     store.rshand.Open();
     store.rsgames2.Open();
@@ -32,26 +33,23 @@ void close_recordsets()
     for (Recordset* rows :
          {&store.rsgames, &store.rsvrd_fields, &store.rsfield_info, &store.rshand, &store.rsgames2})
         rows->Close();
-    store.rsgames.set_Source(u"Select * from games"_s);
-    store.rshand.set_Source(u"select * from hand"_s);
 }
 
-/// One row of `hand` for each round. The list in memory is read by nothing, but has no room for more
-/// rounds than a store may hold.
+/// Adds one row to `hand` for each round. The array makes a round beyond the limit fail.
 missing_row gather_differentials(const selection_arguments& chosen)
 {
     Recordset& hand = data_environment().rshand;
-    differentials list;
+    checked_array<double, most_rounds> differentials;
     int taken = 0;
     return walk_selected_rounds(chosen, [&] {
         const double figure = Round_functions::round_score(Round_functions::from_row).differential;
-        list[taken++] = figure;
+        differentials[taken++] = figure;
         hand.AddNew();
-        hand.Fields(u"hnd").set(figure);
+        hand.Fields(hnd).set(figure);
     });
 }
 
-/// The store sorts: the best differential comes first.
+/// The store sorts the differentials, the best one first.
 void sort_differentials()
 {
     Recordset& hand = data_environment().rshand;
@@ -64,12 +62,12 @@ void sort_differentials()
 QString handicap_of_sorted_differentials()
 {
     Recordset& hand = data_environment().rshand;
-    const int16 take = handicap_take(static_cast<std::int16_t>(hand.RecordCount()));
+    const int16 take = handicap_take(hand.RecordCount());
     double sum = 0;
     if (!hand.empty())
         hand.MoveFirst();
     for (int i = 0; i < plain(take); ++i) {
-        sum += hand.Fields(u"hnd").to_double();
+        sum += hand.Fields(hnd).to_double();
         hand.MoveNext();
     }
     return handicap_text(take, sum);
@@ -79,7 +77,10 @@ QString handicap_of_sorted_differentials()
 
 handicap_result compute_handicap(const selection_arguments& chosen)
 {
-    open_recordsets(chosen);
+    DataEnvironment1& store = data_environment();
+    const scoped_source rounds(store.rsgames, selected_rounds_statement(chosen), u"Select * from games"_s);
+    const scoped_source differentials(store.rshand, store.rshand.Source(), u"select * from hand"_s);
+    open_recordsets();
     handicap_result result{gather_differentials(chosen), {}};
     if (result.missing == missing_row::none) {
         sort_differentials();

@@ -1,4 +1,4 @@
-#include "statistics/selection_clauses.h"
+#include "statistics/selection.h"
 
 #include <array>
 

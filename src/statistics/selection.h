@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+
+/// The selection of rounds that a statistic is computed for.
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+/// The arguments of a statistic: the selected rounds, and the texts for the heading of its report. Each
+/// filter is there both as a clause and as a plain value, because the statistics read some tables with SQL
+/// and walk others row by row.
+struct selection_arguments {
+    /// Keys of the first and the last round, inclusive.
+    QString from_key;
+    QString to_key;
+
+    /// Fragments of a WHERE clause, made by `clause_of`.
+    QString partner_clause = u" "_s;
+    QString course_clause = u" "_s;
+    QString weather_clause = u" "_s;
+
+    /// The filters as the report shows them.
+    QString partner_text;
+    QString course_text;
+    QString weather_text;
+
+    /// The filters as plain text, empty if off: the stored weather, the code of a course, the number of a
+    /// partner.
+    QString weather_value;
+    QString course_code;
+    QString partner_number;
+};
+
+enum class filter { weather, partner, course };
+
+/// The form of the fragments. `appended`: each fragment begins with " AND " and follows the condition on the
+/// dates; a filter that is off is one blank. `alone`: the statistic joins the fragments itself; a filter that
+/// is off is a condition that is always true.
+enum class clause_form { appended, alone };
+
+/// The fragment of a WHERE clause for a filter. `value` is the stored weather (0 to 3), the number of a
+/// partner or the code of a course, empty if the filter is off. A round whose weather is Null matches no
+/// weather. The partner is searched as plain text: number 12 also finds the rounds of partner 112.
+QString clause_of(filter which, clause_form form, const QString& value);
+
+}  // namespace verdane

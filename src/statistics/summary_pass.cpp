@@ -1,0 +1,133 @@
+#include "statistics/summary_pass.h"
+
+#include "records/round_rows.h"
+#include "scoring/round_lines.h"
+#include "statistics/stats_table.h"
+#include "store/DataEnvironment1.h"
+#include "store/scoped_source.h"
+#include "store/tables/stats.h"
+
+namespace verdane::Statistics {
+
+using namespace Qt::StringLiterals;
+using stats_table::move_to_row;
+using stats_table::write_line;
+
+namespace {
+
+namespace row = tables::stats::row;
+
+Recordset& stats()
+{
+    return data_environment().rsstats;
+}
+
+void open_round_tables()
+{
+    DataEnvironment1& store = data_environment();
+    for (Recordset* table : {&store.rsvrd_fields, &store.rsfield_info, &store.rsgames2, &store.rsgames})
+        table->Open();
+}
+
+void close_round_tables()
+{
+    DataEnvironment1& store = data_environment();
+    for (Recordset* table : {&store.rsgames2, &store.rsgames, &store.rsvrd_fields, &store.rsfield_info})
+        table->Close();
+}
+
+/// Reads a hole of the round from the current rows, each column once.
+played_hole read_hole(int16 hole)
+{
+    const Round_functions::situation situation = Round_functions::read_situation(hole);
+    return {Round_functions::figures_from_row(hole), Round_functions::hole_par(hole), situation.sand,
+            situation.missed, situation.fairway};
+}
+
+void add_current_round(round_sums& sums)
+{
+    sums.add_round();
+    for (int h = 1; h <= hole_count; ++h)
+        sums.add_hole(h, read_hole(h));
+}
+
+void write_averages(const round_sums& sums)
+{
+    move_to_row(row::average_par_3);
+    for (int par = 3; par <= 5; ++par) {
+        stats_table::write_nines(average_line(sums, par));
+        stats().MoveNext();
+    }
+}
+
+/// From the row of the total upwards to that of the water.
+void write_penalties(const round_sums& sums)
+{
+    move_to_row(row::penalties);
+    write_line(line_of(sums.penalties));
+    for (const auto* kind : {&sums.bounds, &sums.rule, &sums.lost, &sums.water}) {
+        stats().MovePrevious();
+        write_line(line_of(*kind));
+    }
+}
+
+void write_situation(const round_sums& sums)
+{
+    stats().MoveFirst();
+    for (const auto* kind : {&sums.fairway, &sums.sand, &sums.missed}) {
+        stats().MoveNext();
+        write_line(line_of(*kind));
+    }
+}
+
+void write_strokes(const round_sums& sums)
+{
+    move_to_row(row::over_par);
+    write_line(over_line(sums));
+    stats().MoveFirst();
+    write_line(strokes_line(sums));
+    stats().Fields(tables::stats::average_mark).set(verdane::average_mark(sums));
+}
+
+/// Hole by hole, each from the first class to the last.
+void write_classes(const round_sums& sums)
+{
+    checked_array<by_hole<double>, class_count, 1> lines;
+    for (int place = 1; place <= class_count; ++place)
+        lines[place] = class_holes(sums, place);
+    for (int h = 1; h <= hole_count; ++h) {
+        move_to_row(row::pars);
+        for (int place = 1; place <= class_count; ++place) {
+            stats().Fields(tables::stats::hole_h(h)).set(lines[place][h]);
+            // The table is at its end after the last class.
+            stats().MoveNext();
+        }
+    }
+}
+
+void write_lines(const round_sums& sums)
+{
+    write_averages(sums);
+    write_penalties(sums);
+    write_situation(sums);
+    write_strokes(sums);
+    write_classes(sums);
+    stats().Update();
+}
+
+}  // namespace
+
+filled_lines fill_round_lines(const selection_arguments& chosen)
+{
+    const scoped_source rounds(data_environment().rsgames, selected_rounds_statement(chosen),
+                               u"Select * from games"_s);
+    open_round_tables();
+    round_sums sums;
+    const missing_row missing = walk_selected_rounds(chosen, [&] { add_current_round(sums); });
+    if (missing == missing_row::none)
+        write_lines(sums);
+    close_round_tables();
+    return {missing, sums.rounds};
+}
+
+}  // namespace verdane::Statistics
