@@ -25,7 +25,7 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
     const auto change_hole = [&] {
         // Every save uses an entry of the list of keys, and a measurement saves more often than the list
         // allows.
-        Main_module::round_key_count = static_cast<std::int16_t>(diaries::rounds_with_free_keys);
+        Main_module::round_key_count = diaries::rounds_with_free_keys;
         change(window);
         Form::paint_now();
     };

@@ -15,7 +15,7 @@ int16 number(const QString& text)
 
 int16 kind_of(QChar letter)
 {
-    return static_cast<std::int16_t>(QStringView(u"-LAP").indexOf(letter));
+    return QStringView(u"-LAP").indexOf(letter);
 }
 
 void mark(hole_shot& row, const QString& word)

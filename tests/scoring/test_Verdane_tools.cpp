@@ -119,7 +119,7 @@ private Q_SLOTS:
         QCOMPARE(tee_name(digit), english);
     }
 
-    void two_names_make_a_number_data()
+    void two_names_have_a_checksum_data()
     {
         QTest::addColumn<QString>("first");
         QTest::addColumn<QString>("second");
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QTest::newRow("not in the code page") << u"Ω"_s << "" << '?' + 2;
     }
 
-    void two_names_make_a_number()
+    void two_names_have_a_checksum()
     {
         QFETCH(QString, first);
         QFETCH(QString, second);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(plain(name_checksum(first, second)), number);
     }
 
-    void both_names_are_left_trimmed_and_in_capitals()
+    void the_checksum_trims_both_names_and_puts_them_in_capitals()
     {
         QString first = u" Côté "_s;
         QString second = u"Éric "_s;

@@ -61,7 +61,7 @@ class test_club_sums : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_distance_is_what_the_ball_flew_data()
+    void the_distance_of_a_shot_is_the_length_before_it_less_the_rest_data()
     {
         QTest::addColumn<int>("before");
         QTest::addColumn<int>("after");
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QTest::newRow("backwards") << 100 << 120 << true << false << -20;
         QTest::newRow("holed") << 100 << 0 << false << false << 100;
     }
-    void a_distance_is_what_the_ball_flew()
+    void the_distance_of_a_shot_is_the_length_before_it_less_the_rest()
     {
         QFETCH(int, before);
         QFETCH(int, after);
@@ -89,7 +89,7 @@ private Q_SLOTS:
         QTEST(plain(shot_distance(shot)), "distance");
     }
 
-    void a_missing_rest_is_none()
+    void an_absent_rest_counts_as_0()
     {
         club_shot shot = shot_over(140, 0);
         shot.after.reset();
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { shot_distance(beyond(shot_over(32767, 1))); }) == failure_kind::overflow);
     }
 
-    void a_clean_shot_is_struck_well_and_counted_data()
+    void a_shot_is_clean_unless_missed_in_sand_or_replayed_data()
     {
         QTest::addColumn<bool>("clean");
         QTest::newRow("plain") << true;
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QTest::newRow("rules") << false;
         QTest::newRow("out of bounds") << false;
     }
-    void a_clean_shot_is_struck_well_and_counted()
+    void a_shot_is_clean_unless_missed_in_sand_or_replayed()
     {
         const QString row = QString::fromLatin1(QTest::currentDataTag());
         club_shot shot = shot_over(200, 50);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(plain(sums.longest), 200);
     }
 
-    void water_counts_in_the_average_and_as_a_penalty()
+    void a_shot_into_the_water_counts_in_the_average_and_as_a_penalty()
     {
         const club_sums sums = sums_of({with_penalty(1)});
         QCOMPARE(plain(sums.clean_shots), 1);
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(plain(sums.penalised), 1);
     }
 
-    void every_kind_of_penalty_is_one()
+    void every_kind_of_penalty_counts_as_a_penalty()
     {
         QCOMPARE(plain(sums_of({with_penalty(0), with_penalty(1), with_penalty(2), with_penalty(3),
                                 with_penalty(4)})
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QCOMPARE(plain(sums.right), 3);
     }
 
-    void an_approach_with_nothing_left_was_holed_data()
+    void an_approach_with_nothing_left_is_holed_data()
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<int>("after");
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QTest::newRow("a drive with nothing left") << long_shot << 0 << 0;
         QTest::newRow("an approach that has no rest yet") << approach_shot << -1 << 0;
     }
-    void an_approach_with_nothing_left_was_holed()
+    void an_approach_with_nothing_left_is_holed()
     {
         QFETCH(int, kind);
         QFETCH(int, after);
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QTEST(plain(sums_of({shot}).holed), "holed");
     }
 
-    void the_longest_is_never_below_0_while_the_sum_may_be()
+    void the_longest_distance_is_at_least_0_the_sum_may_be_negative()
     {
         const club_sums sums = sums_of({shot_over(100, 130)});
         QCOMPARE(plain(sums.longest), 0);
@@ -218,7 +218,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { sums.add(with_penalty(1)); }) == failure_kind::overflow);
     }
 
-    void the_count_of_all_shots_goes_beyond_16_bits()
+    void the_count_of_all_shots_may_exceed_16_bits()
     {
         club_shot missed = shot_over(200, 180);
         missed.missed = true;

@@ -10,7 +10,7 @@ class test_handicap : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_ladder_says_how_many_differentials_count_data()
+    void the_number_of_rounds_gives_the_number_of_differentials_that_count_data()
     {
         QTest::addColumn<int>("rounds");
         QTest::addColumn<int>("take");
@@ -24,21 +24,21 @@ private Q_SLOTS:
         QTest::newRow("a count below zero") << -1 << 0;
     }
 
-    void the_ladder_says_how_many_differentials_count()
+    void the_number_of_rounds_gives_the_number_of_differentials_that_count()
     {
         QFETCH(int, rounds);
         QTEST(plain(handicap_take(rounds)), "take");
     }
 
-    void a_handicap_has_its_text_data()
+    void a_handicap_is_rounded_to_a_tenth_and_shown_as_text_data()
     {
         QTest::addColumn<int>("take");
         QTest::addColumn<double>("sum");
         QTest::addColumn<QString>("text");
         QTest::newRow("one, without the factor") << 1 << 10.44 << " 10.4";
         QTest::newRow("two, with the factor") << 2 << 10.0 + 12.0 << " 10.6";
-        QTest::newRow("a tie goes to even") << 1 << 12.25 << " 12.2";
-        QTest::newRow("a tie goes up to even") << 1 << 12.75 << " 12.8";
+        QTest::newRow("a tie is rounded to even") << 1 << 12.25 << " 12.2";
+        QTest::newRow("a tie is rounded up to even") << 1 << 12.75 << " 12.8";
         QTest::newRow("5.65, whose double is above the tie") << 1 << 5.65 << " 5.7";
         QTest::newRow("-5.65, whose double is below the tie") << 1 << -5.65 << "-5.7";
         QTest::newRow("-16.95, whose double is nearer to 0") << 1 << -16.95 << "-16.9";
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QTest::newRow("rounds to zero from below") << 1 << -0.04 << "N/A";
     }
 
-    void a_handicap_has_its_text()
+    void a_handicap_is_rounded_to_a_tenth_and_shown_as_text()
     {
         QFETCH(int, take);
         QFETCH(double, sum);

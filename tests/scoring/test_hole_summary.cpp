@@ -36,7 +36,7 @@ class test_hole_summary : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void shots_fold_into_counts_data()
+    void the_summary_counts_the_shots_data()
     {
         QTest::addColumn<QString>("rows");
         QTest::addColumn<QString>("figures");
@@ -45,7 +45,7 @@ private Q_SLOTS:
         QTest::newRow("no shot") << ""
                                  << "0 0 0 | 0 0 0 0 | 0 0 0 0"
                                  << "0 0 0 0 0 0" << false;
-        QTest::newRow("a blank shot adds nothing, though it starts in the fairway")
+        QTest::newRow("a blank shot adds nothing, although its position is the fairway")
             << "-0 - -"
             << "0 0 0 | 0 0 0 0 | 0 0 0 0"
             << "0 0 0 0 0 0" << false;
@@ -71,7 +71,7 @@ private Q_SLOTS:
             << "P14 9 Pieds\nP14 0 Pieds"
             << "0 0 2 | 0 0 0 0 | 0 0 0 0"
             << "0 9 0 0 0 0" << true;
-        QTest::newRow("a shot of another kind behind a putt has a length, too")
+        QTest::newRow("a shot of another kind after a putt has a length, too")
             << "A9 20 Pieds\nP14 12 Pieds\nA9 3 Pieds\nP14 0 Pieds"
             << "0 2 2 | 2 0 0 0 | 0 0 0 0"
             << "20 12 3 0 0 0" << true;
@@ -83,13 +83,13 @@ private Q_SLOTS:
                "Pieds\nP14 5 Pieds"
             << "0 1 7 | 1 0 0 0 | 0 0 0 0"
             << "70 60 50 40 30 20" << true;
-        QTest::newRow("behind the sixth length everything else goes on being counted")
+        QTest::newRow("after the sixth length everything else is still counted")
             << "A9 70 Pieds\nP14 60 Pieds\nP14 50 Pieds\nP14 40 Pieds\nP14 30 Pieds\nP14 20 Pieds\nP14 10 "
                "Pieds\nP14 5 Pieds missed\nP14 4 Pieds pen=3"
             << "0 1 8 | 1 0 1 0 | 0 0 1 0"
             << "70 60 50 40 30 20" << true;
     }
-    void shots_fold_into_counts()
+    void the_summary_counts_the_shots()
     {
         QFETCH(QString, rows);
         QFETCH(QString, figures);
@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(sum.isdetailed, detailed);
     }
 
-    void a_putt_loses_its_position_on_the_way()
+    void the_summary_clears_the_position_of_a_putt()
     {
         shot_list rows = shots_of(u"A9 20 Pieds fair=2\nP14 0 Pieds fair=1\nP14 0 Pieds fair=3"_s);
         for (hole_shot& row : rows)
@@ -112,13 +112,13 @@ private Q_SLOTS:
         QCOMPARE(plain(rows[0].fairval), 2);
         QCOMPARE(plain(rows[1].fairval), 0);
         QCOMPARE(plain(rows[2].fairval), 0);
-        // The word goes with the code.
+        // The text is cleared together with the code.
         QCOMPARE(rows[0].faireway, u"Fairway"_s);
         QCOMPARE(rows[1].faireway, u" "_s);
         QCOMPARE(rows[2].faireway, u" "_s);
     }
 
-    void codes_outside_their_sets_fail_data()
+    void an_unknown_kind_or_penalty_fails_data()
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<int>("penalty");
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QTest::newRow("penalty 5") << 1 << 5;
         QTest::newRow("penalty -1") << 1 << -1;
     }
-    void codes_outside_their_sets_fail()
+    void an_unknown_kind_or_penalty_fails()
     {
         QFETCH(int, kind);
         QFETCH(int, penalty);

@@ -10,7 +10,7 @@ class test_putt_bands : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_length_from_which_a_putt_starts_has_its_band_data()
+    void the_length_before_a_putt_has_its_band_data()
     {
         QTest::addColumn<int>("feet");
         QTest::addColumn<int>("band");
@@ -20,13 +20,13 @@ private Q_SLOTS:
         for (const auto& row : rows)
             QTest::addRow("%d feet", row[0]) << row[0] << row[1];
     }
-    void the_length_from_which_a_putt_starts_has_its_band()
+    void the_length_before_a_putt_has_its_band()
     {
         QFETCH(int, feet);
         QTEST(first_putt_band(feet), "band");
     }
 
-    void the_length_that_a_putt_leaves_has_its_band_data()
+    void the_length_after_a_putt_has_its_band_data()
     {
         QTest::addColumn<int>("feet");
         QTest::addColumn<int>("band");
@@ -35,13 +35,13 @@ private Q_SLOTS:
         for (const auto& row : rows)
             QTest::addRow("%d feet", row[0]) << row[0] << row[1];
     }
-    void the_length_that_a_putt_leaves_has_its_band()
+    void the_length_after_a_putt_has_its_band()
     {
         QFETCH(int, feet);
         QTEST(after_putt_band(feet), "band");
     }
 
-    void every_grade_is_the_one_laid_down()
+    void every_pair_of_bands_has_its_grade()
     {
         // A line for each band of the stop, a column for each band of the start.
         const QList<QList<int>> grades{{8, 9, 10, 10, 10, 10, 10}, {7, 8, 9, 10, 10, 10, 10},
@@ -54,7 +54,7 @@ private Q_SLOTS:
         }
     }
 
-    void a_mean_grade_has_its_words_data()
+    void a_mean_grade_has_its_rating_data()
     {
         QTest::addColumn<double>("score");
         QTest::addColumn<int>("putts");
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QTest::newRow("above 3.7") << 3.7001 << 9 << u"ONT RÉELLEMENT BESOIN D'ÊTRE PRATIQUÉS"_s
                                    << "You really need to practice";
     }
-    void a_mean_grade_has_its_words()
+    void a_mean_grade_has_its_rating()
     {
         QFETCH(double, score);
         QFETCH(int, putts);

@@ -79,14 +79,14 @@ private Q_SLOTS:
         QCOMPARE(figures.rating().in(false), u"EXCELLENT"_s);
     }
 
-    void a_foot_left_after_50_is_the_best_grade()
+    void one_foot_left_after_50_has_the_best_grade()
     {
         const putt_counts counts = scan(lengths_from(7, {50, 1}));
         QCOMPARE(by_start(counts, 1, 7), 1);
         QCOMPARE(putt_grade(1, 7), 1);
     }
 
-    void every_putt_counts_and_the_last_one_stops_in_the_hole()
+    void every_putt_counts_and_the_last_one_stops_in_the_band_of_0_feet()
     {
         const putt_counts counts = scan(lengths_from(3, {60, 30, 12, 6, 2}));
         QCOMPARE(by_first(counts, 5, 1), 1);
@@ -120,15 +120,15 @@ private Q_SLOTS:
         QCOMPARE(plain(putt_count(counts)), 1);
     }
 
-    void a_sixth_putt_is_a_failure_data()
+    void a_sixth_putt_fails_data()
     {
         QTest::addColumn<QList<int>>("lengths");
         QTest::newRow("on a hole before the last") << lengths_from(4, {60, 50, 40, 30, 20, 10});
-        QTest::newRow("with the next hole's lengths behind it") << lengths_from(4, QList<int>(13, 9));
+        QTest::newRow("followed by the lengths of the next hole") << lengths_from(4, QList<int>(13, 9));
         QTest::newRow("on the last hole, on a day of 0 degrees")
             << lengths_from(18, {60, 50, 40, 30, 20, 10});
     }
-    void a_sixth_putt_is_a_failure()
+    void a_sixth_putt_fails()
     {
         QFETCH(QList<int>, lengths);
         QVERIFY(failure_of([&] { scan(lengths); }) == failure_kind::subscript);
@@ -136,27 +136,27 @@ private Q_SLOTS:
 
     void six_lengths_read_on_until_a_length_of_0()
     {
-        QList<int> asked;
+        QList<int> places_read;
         const QList<int> lengths = lengths_from(18, {6, 5, 4, 3, 2, 1, 21});
         QVERIFY(failure_of([&] {
                     scan_round_putts([&](int place) {
-                        asked << place;
+                        places_read << place;
                         return int16(place < lengths.size() ? lengths.at(place) : 0);
                     });
                 }) == failure_kind::subscript);
-        // Behind the lengths stands the temperature, here 21, and behind it what ends the walk.
-        QCOMPARE(asked.last(), places + 1);
-        QVERIFY(asked.contains(places));
+        // The column after the lengths is the temperature, here 21. A 0 after it ends the walk.
+        QCOMPARE(places_read.last(), places + 1);
+        QVERIFY(places_read.contains(places));
     }
 
-    void only_needed_lengths_are_asked_for()
+    void only_needed_lengths_are_read()
     {
-        int asked = 0;
-        scan_round_putts([&asked](int) {
-            ++asked;
+        int calls = 0;
+        scan_round_putts([&calls](int) {
+            ++calls;
             return int16(0);
         });
-        QCOMPARE(asked, 18);
+        QCOMPARE(calls, 18);
     }
 
     void rounds_add_up()

@@ -17,18 +17,18 @@ private Q_SLOTS:
         QCOMPARE(key_time_text(u"20030614093005"), u"09:30:05"_s);
     }
 
-    void a_key_is_cut_and_never_read_as_a_date()
+    void a_key_that_is_no_date_is_cut_in_the_same_way()
     {
         QCOMPARE(key_text(u"99991399256199"), u"9999-13-99 25:61:99"_s);
     }
 
-    void a_key_too_short_gives_what_it_has()
+    void a_key_that_is_too_short_is_shown_in_part()
     {
         QCOMPARE(key_text(u"200306"), u"2003-06- ::"_s);
         QCOMPARE(key_text(u""), u"-- ::"_s);
     }
 
-    void the_boxes_of_a_tee_off_end_the_key()
+    void the_padded_boxes_of_the_tee_off_form_the_time_of_the_key()
     {
         QString hour = u"9"_s;
         QString minute = u" 5"_s;
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(key_of_entry(u"abcd?ef?gh?ij?kl?mn and more"), u"abcdefghijklmn"_s);
     }
 
-    void no_entry_gives_no_key() { QCOMPARE(key_of_entry(u""), QString()); }
+    void an_empty_entry_gives_an_empty_key() { QCOMPARE(key_of_entry(u""), QString()); }
 };
 
 QTEST_GUILESS_MAIN(test_round_key)

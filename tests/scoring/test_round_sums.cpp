@@ -12,19 +12,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int16 count(int value)
-{
-    return static_cast<std::int16_t>(value);
-}
-
 /// Strokes: long shots, approach shots, putts.
 played_hole played(int long_shots, int approach, int putts, int par)
 {
     played_hole hole;
-    hole.figures.long_shots = count(long_shots);
-    hole.figures.approach = count(approach);
-    hole.figures.putts = count(putts);
-    hole.par = count(par);
+    hole.figures.long_shots = long_shots;
+    hole.figures.approach = approach;
+    hole.figures.putts = putts;
+    hole.par = par;
     return hole;
 }
 
@@ -51,13 +46,13 @@ private Q_SLOTS:
     void a_hole_is_added_to_its_own_sums_and_to_no_other()
     {
         played_hole hole = gross_on(4, 4);
-        hole.figures.pen_water = count(1);
-        hole.figures.pen_lost = count(2);
-        hole.figures.pen_rule = count(3);
-        hole.figures.pen_bounds = count(4);
-        hole.sand = count(5);
-        hole.missed = count(6);
-        hole.fairway = count(7);
+        hole.figures.pen_water = 1;
+        hole.figures.pen_lost = 2;
+        hole.figures.pen_rule = 3;
+        hole.figures.pen_bounds = 4;
+        hole.sand = 5;
+        hole.missed = 6;
+        hole.fairway = 7;
         round_sums sums;
         sums.add_hole(7, hole);
         sums.add_hole(7, hole);
@@ -175,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(fours.all_holes, 9.0);
     }
 
-    void a_hole_that_is_a_par_3_here_and_a_par_4_there_goes_to_each_mean_with_its_own_count()
+    void a_hole_with_different_pars_on_two_courses_counts_in_the_mean_of_each_par()
     {
         round_sums sums;
         sums.add_hole(5, gross_on(3, 3));
@@ -187,7 +182,7 @@ private Q_SLOTS:
         QCOMPARE(average_line(sums, 5).all_holes, 0.0);
     }
 
-    void the_strokes_of_one_round_are_a_total_and_of_several_a_mean_of_rounds()
+    void the_total_of_the_strokes_is_a_sum_for_one_round_and_a_mean_for_several()
     {
         round_sums sums;
         add_round_of(sums, gross_on(4, 4));
@@ -202,7 +197,7 @@ private Q_SLOTS:
         QCOMPARE(average_mark(sums), u"0"_s);
     }
 
-    void strokes_over_par_are_a_mean_a_round_with_decimals()
+    void strokes_over_par_are_a_mean_per_round()
     {
         round_sums sums;
         QCOMPARE(over_line(sums).all_holes, 0.0);
@@ -215,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(line.all_holes, 6.0);
     }
 
-    void no_round_gives_zeros_and_the_blank_mark()
+    void without_a_round_the_lines_are_0_and_the_mark_is_blank()
     {
         const round_sums sums;
         for (int h = 1; h <= hole_count; ++h) {
@@ -244,26 +239,26 @@ private Q_SLOTS:
         QCOMPARE(line.all_holes, 2.75);
     }
 
-    void a_total_fits_16_bits_or_fails()
+    void a_total_beyond_16_bits_is_an_overflow()
     {
         by_hole<tally> sums;
-        sums[1].add(count(32766));
-        sums[18].add(count(1));
+        sums[1].add(32766);
+        sums[18].add(1);
         QCOMPARE(line_of(sums).all_holes, 32767.0);
-        sums[18].add(count(1));
+        sums[18].add(1);
         QCOMPARE(failure_of([&] { line_of(sums); }), failure_kind::overflow);
     }
 
-    void a_nine_fits_16_bits_or_fails()
+    void a_nine_beyond_16_bits_is_an_overflow()
     {
         by_hole<tally> sums;
-        sums[1].add(count(32767));
+        sums[1].add(32767);
         QCOMPARE(line_of(sums).front_nine, 32767.0);
-        sums[2].add(count(1));
+        sums[2].add(1);
         QCOMPARE(failure_of([&] { line_of(sums); }), failure_kind::overflow);
     }
 
-    void the_strokes_of_a_hole_fit_16_bits_or_fail()
+    void strokes_of_a_hole_beyond_16_bits_are_an_overflow()
     {
         round_sums sums;
         sums.add_hole(1, played(32767, 0, 0, 4));

@@ -35,7 +35,7 @@ selection_arguments days(int from, int to);
 /// Fills the tables without window and report.
 bool fill_grids(const selection_arguments& chosen);
 
-/// The box that says that no hole with putts was found.
+/// Closes the box for a selection without putts.
 void answer_no_putts(hand& user);
 
 }  // namespace verdane::testing

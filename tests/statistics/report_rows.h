@@ -7,7 +7,7 @@
 #include "statistics/selection.h"
 #include "tests/support/stored_diary.h"
 
-/// What the tests of the statistics put into a store beside the rounds, and what they read back.
+/// What the tests of the statistics write to a store besides rounds, and what they read.
 namespace verdane::testing {
 
 /// A fresh store, from which the reports read, too, with level-par rounds on the first days of 2003. The
@@ -26,7 +26,7 @@ void put_putts(const reader& store, const QString& key, int hole, const QList<in
 /// A row of costs with the amounts 1 to 12 times `unit`.
 void put_costs(const reader& store, const QString& key, int unit);
 
-/// A shot as the diary holds it: columns and values of SQL beside round and club.
+/// A shot of a club: the other columns and their values as SQL.
 void put_shot(const reader& store, const QString& key, int club, const QString& columns,
               const QString& values);
 

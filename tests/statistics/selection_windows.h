@@ -35,13 +35,13 @@ void select_range(hand& user, int from, int to);
 
 /// Starts the statistics of a mode.
 void run(hand& user, statistics_mode mode = statistics_mode::round);
-/// A box with nothing but a text and OK.
+/// Closes a box that has only a text and OK, after comparing it.
 void answer_plain(hand& user, QStringView french, QStringView english);
-/// The box that says that no round of the selection was entered shot by shot.
+/// Closes the box for a selection without a round entered shot by shot.
 void answer_no_detail(hand& user);
-/// The box that says that no shot of the selection was found for the clubs.
+/// Closes the box for a selection without a shot, in the club statistics.
 void answer_no_shots(hand& user);
-/// The box that says that no round passed.
+/// Closes the box for a selection without a round.
 void answer_no_round(hand& user);
 /// Waits until the report is open, compares how it was launched and closes it.
 void close_report(hand& user, statistics_mode mode = statistics_mode::round);

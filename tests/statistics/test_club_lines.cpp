@@ -14,7 +14,7 @@ class test_club_lines : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void every_club_has_its_line()
+    void every_club_has_its_row()
     {
         const stored_shots shots(1);
         shots.shot(1, 1, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
@@ -31,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(open_recordsets().isEmpty());
     }
 
-    void distances_are_read_in_the_unit_that_was_written_data()
+    void distances_are_read_in_the_unit_of_their_shot_data()
     {
         QTest::addColumn<QString>("unit");
         QTest::addColumn<QString>("average");
@@ -42,7 +42,7 @@ private Q_SLOTS:
         QTest::newRow("anything else is feet") << u"'yards'"_s << u"270"_s;
         QTest::newRow("none is yards") << u"null"_s << u"210"_s;
     }
-    void distances_are_read_in_the_unit_that_was_written()
+    void distances_are_read_in_the_unit_of_their_shot()
     {
         QFETCH(QString, unit);
         for (const bool french : {true, false}) {
@@ -53,7 +53,7 @@ private Q_SLOTS:
         }
     }
 
-    void both_languages_stand_side_by_side_in_one_selection()
+    void shots_entered_in_both_languages_are_added_up_in_one_selection()
     {
         const stored_shots shots(2);
         for (const int day : {1, 2})
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(shots.club(4).mid(1, 3), (QStringList{u" 8"_s, u" 270"_s, u"240"_s}));
     }
 
-    void a_rest_that_was_never_typed_is_none()
+    void an_absent_rest_is_0_and_no_holed_shot()
     {
         const stored_shots shots(1);
         shots.shot(1, 5, u"140, null, 'Verges', 1, 0, 0, 2"_s);
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(shots.club(5)[9], u" 0%"_s);
     }
 
-    void a_length_before_the_shot_is_needed()
+    void a_clean_shot_without_its_length_fails()
     {
         const stored_shots shots(1);
         shots.shot(1, 5, u"null, 10, 'Verges', 1, 0, 0, 2"_s);
@@ -83,7 +83,7 @@ private Q_SLOTS:
         data_environment().rsStat_rounds.Close();
     }
 
-    void a_code_that_was_never_chosen_is_none()
+    void a_code_that_is_null_counts_as_0()
     {
         const stored_shots shots(1);
         put_shot(shots.book.store, key_of_day(1), 6,
@@ -104,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(shots.club(2).mid(1, 3), (QStringList{u" 3"_s, u" 110"_s, u"110"_s}));
     }
 
-    void a_round_with_nothing_but_putts_adds_nothing()
+    void a_round_with_putts_only_is_not_counted()
     {
         const stored_shots shots(2);
         shots.shot(1, 14, u"20, 0, 'Pieds', 0, 0, 0, 3"_s);
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(shots.club(1)[17], u"1"_s);
     }
 
-    void the_names_are_those_of_the_bag_and_the_putters_row_keeps_its_figures()
+    void the_names_are_those_of_the_bag_and_the_figures_of_the_putter_are_not_changed()
     {
         const stored_shots shots(1);
         shots.book.store.write({u"update sticknames set club_1 = 'Gros bois', club_14 = 'Balai'"_s,
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(shots.club(14)[3], u"kept"_s);
     }
 
-    void shots_without_a_club_count_for_none()
+    void shots_without_a_club_count_for_no_club()
     {
         const stored_shots shots(1);
         shots.shot(1, 0, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
@@ -134,13 +134,13 @@ private Q_SLOTS:
             QCOMPARE(shots.club(club)[1], u"0"_s);
     }
 
-    void a_club_that_is_none_ends_in_a_failure_data()
+    void an_unknown_club_fails_data()
     {
         QTest::addColumn<int>("club");
         QTest::newRow("above 14") << 15;
         QTest::newRow("below 0") << -1;
     }
-    void a_club_that_is_none_ends_in_a_failure()
+    void an_unknown_club_fails()
     {
         QFETCH(int, club);
         const stored_shots shots(1);

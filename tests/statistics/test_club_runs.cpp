@@ -16,7 +16,7 @@ class test_club_runs : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_figures_of_a_run_take_the_place_of_the_last_ones()
+    void a_run_replaces_the_figures_of_the_run_before()
     {
         const stored_shots shots(2);
         shots.shot(1, 1, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
@@ -28,8 +28,8 @@ private Q_SLOTS:
         QCOMPARE(shots.club(1)[17], u"1"_s);
     }
 
-    void the_first_row_carries_the_texts_of_the_run_data() { both_languages(); }
-    void the_first_row_carries_the_texts_of_the_run()
+    void the_first_row_contains_the_texts_of_the_run_data() { both_languages(); }
+    void the_first_row_contains_the_texts_of_the_run()
     {
         QFETCH(bool, french);
         const stored_shots shots(3, french);
@@ -47,10 +47,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<int>("from");
-        QTest::newRow("no round so late, French") << true << 9;
-        QTest::newRow("no round so late, English") << false << 9;
-        QTest::newRow("the range runs backwards, French") << true << 2;
-        QTest::newRow("the range runs backwards, English") << false << 2;
+        QTest::newRow("no round after the first key, French") << true << 9;
+        QTest::newRow("no round after the first key, English") << false << 9;
+        QTest::newRow("reversed range, French") << true << 2;
+        QTest::newRow("reversed range, English") << false << 2;
     }
     void without_a_shot_headings_names_and_zeros_are_written()
     {
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from Stat_rounds"_s);
     }
 
-    void the_clauses_choose_the_rounds()
+    void the_clauses_select_the_rounds()
     {
         const stored_shots shots(2);
         shots.shot(1, 1, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
@@ -87,7 +87,7 @@ private Q_SLOTS:
         fill_in_vain(chosen);
     }
 
-    void a_silent_run_puts_the_shot_counts_into_the_row_of_averages()
+    void with_store_counts_the_shot_counts_are_written_to_the_row_of_averages()
     {
         const stored_shots shots(1);
         shots.shot(1, 1, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
@@ -109,8 +109,8 @@ private Q_SLOTS:
         sticks.Close();
     }
 
-    void a_silent_run_without_shots_says_so_data() { both_languages(); }
-    void a_silent_run_without_shots_says_so()
+    void a_silent_run_without_shots_shows_the_message_data() { both_languages(); }
+    void a_silent_run_without_shots_shows_the_message()
     {
         QFETCH(bool, french);
         const stored_shots shots(1, french);
@@ -127,7 +127,7 @@ private Q_SLOTS:
             [](hand& user) {
                 run(user, statistics_mode::club);
                 close_report(user, statistics_mode::club);
-                user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+                user.check(!user.visible(u"Status"_s), u"the bar is hidden"_s);
             },
             statistics_mode::club);
         QCOMPARE(steps, (QList<bar_step>{{30, true}, {70, true}, {100, true}}));
@@ -135,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(shots.club(1)[16], french ? u"Toutes"_s : u"ALL"_s);
     }
 
-    void a_run_that_does_not_ask_for_them_leaves_the_shot_counts()
+    void without_store_counts_the_shot_counts_are_not_changed()
     {
         const stored_shots shots(1);
         shots.shot(1, 1, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
@@ -144,8 +144,11 @@ private Q_SLOTS:
         QCOMPARE(shots.book.store.number(u"select shots_1 from sticks"_s), 7);
     }
 
-    void the_message_comes_after_the_table_and_the_bar_and_in_place_of_the_report_data() { both_languages(); }
-    void the_message_comes_after_the_table_and_the_bar_and_in_place_of_the_report()
+    void without_shots_the_message_follows_the_table_and_the_bar_and_no_report_opens_data()
+    {
+        both_languages();
+    }
+    void without_shots_the_message_follows_the_table_and_the_bar_and_no_report_opens()
     {
         QFETCH(bool, french);
         const stored_shots shots(1, french);

@@ -62,7 +62,7 @@ class test_cost_statistics : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_costs_of_the_chosen_rounds_are_copied_and_counted()
+    void the_costs_of_the_selected_rounds_are_copied_and_counted()
     {
         const stored_costs costs(4);
         QVERIFY(fill(days(2, 3)));
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(1, u"2"_s), row_of_day(3, QString())}));
     }
 
-    void the_clauses_choose_the_rounds()
+    void the_clauses_select_the_rounds()
     {
         const stored_costs costs(4);
         selection_arguments chosen = days(1, 4);
@@ -106,7 +106,7 @@ private Q_SLOTS:
         play([&] { QVERIFY(!fill(chosen)); }, answer_no_costs);
     }
 
-    void an_amount_that_was_never_entered_stays_so()
+    void an_amount_without_a_value_is_copied_without_one()
     {
         const stored_costs costs(1);
         costs.book.store.write(u"update cost set vt = null"_s);
@@ -122,13 +122,13 @@ private Q_SLOTS:
         QCOMPARE(costs.report()[0][12], u"2000000000"_s);
     }
 
-    void an_amount_beyond_32_bits_is_a_failure_and_nothing_is_copied_data()
+    void an_amount_beyond_32_bits_is_an_overflow_and_nothing_is_copied_data()
     {
         QTest::addColumn<QString>("change");
         QTest::newRow("too large") << u"au = 2147483648"_s;
         QTest::newRow("too far below 0") << u"fg = -2147483649"_s;
     }
-    void an_amount_beyond_32_bits_is_a_failure_and_nothing_is_copied()
+    void an_amount_beyond_32_bits_is_an_overflow_and_nothing_is_copied()
     {
         QFETCH(QString, change);
         const stored_costs costs(3);
@@ -140,16 +140,16 @@ private Q_SLOTS:
         QVERIFY(fill(days(1, 2)));
     }
 
-    void a_selection_without_costs_empties_the_table_and_keeps_its_statement_data()
+    void a_selection_without_costs_empties_the_table_and_leaves_its_statement_in_force_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<int>("from");
-        QTest::newRow("no round so late, French") << true << 9;
-        QTest::newRow("no round so late, English") << false << 9;
-        QTest::newRow("the range runs backwards, French") << true << 3;
-        QTest::newRow("the range runs backwards, English") << false << 3;
+        QTest::newRow("no round after the first key, French") << true << 9;
+        QTest::newRow("no round after the first key, English") << false << 9;
+        QTest::newRow("reversed range, French") << true << 3;
+        QTest::newRow("reversed range, English") << false << 3;
     }
-    void a_selection_without_costs_empties_the_table_and_keeps_its_statement()
+    void a_selection_without_costs_empties_the_table_and_leaves_its_statement_in_force()
     {
         QFETCH(bool, french);
         QFETCH(int, from);
@@ -161,8 +161,11 @@ private Q_SLOTS:
         QCOMPARE(data_environment().rscost.Source(), Statistics::cost_select(days(from, 1)));
     }
 
-    void the_message_comes_before_the_bar_goes_and_the_report_is_not_set_up_data() { both_languages(); }
-    void the_message_comes_before_the_bar_goes_and_the_report_is_not_set_up()
+    void without_costs_the_message_is_shown_while_the_bar_is_visible_and_no_report_is_set_up_data()
+    {
+        both_languages();
+    }
+    void without_costs_the_message_is_shown_while_the_bar_is_visible_and_no_report_is_set_up()
     {
         QFETCH(bool, french);
         const stored_costs costs(2, french);
@@ -181,12 +184,13 @@ private Q_SLOTS:
                     QVERIFY(costs.report().isEmpty());
                 });
                 answer_no_costs(user);
-                user.wait_until(u"the bar is gone"_s, [] { return !find_control(u"Status"_s)->isVisible(); });
+                user.wait_until(u"the bar is hidden"_s,
+                                [] { return !find_control(u"Status"_s)->isVisible(); });
             },
             statistics_mode::cost);
     }
 
-    void each_run_starts_the_bar_and_the_table_anew()
+    void each_run_starts_with_an_empty_table_and_the_bar_at_0()
     {
         const stored_costs costs(3);
         const auto steps = bar_in_selection_window(
@@ -204,7 +208,7 @@ private Q_SLOTS:
         QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(3, u"1"_s)}));
     }
 
-    void closing_the_window_puts_the_whole_table_back()
+    void closing_the_window_sets_the_statement_on_the_whole_table()
     {
         const stored_costs costs(2);
         in_selection_window(
@@ -212,14 +216,15 @@ private Q_SLOTS:
                 select_range(user, 1, 0);
                 run(user, statistics_mode::cost);
                 answer_no_costs(user);
-                user.wait_until(u"the bar is gone"_s, [] { return !find_control(u"Status"_s)->isVisible(); });
+                user.wait_until(u"the bar is hidden"_s,
+                                [] { return !find_control(u"Status"_s)->isVisible(); });
                 user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
             },
             statistics_mode::cost);
         QCOMPARE(data_environment().rscost.Source(), u"select * from cost"_s);
     }
 
-    void the_bar_rises_by_3_a_round_and_never_past_its_end_data()
+    void the_bar_rises_by_3_for_each_round_up_to_its_maximum_data()
     {
         QTest::addColumn<int>("rounds");
         QTest::newRow("one round") << 1;
@@ -227,7 +232,7 @@ private Q_SLOTS:
         QTest::newRow("34 rounds reach the end") << 34;
         QTest::newRow("40 rounds") << 40;
     }
-    void the_bar_rises_by_3_a_round_and_never_past_its_end()
+    void the_bar_rises_by_3_for_each_round_up_to_its_maximum()
     {
         QFETCH(int, rounds);
         const stored_costs costs(rounds);
@@ -236,7 +241,7 @@ private Q_SLOTS:
                 select_range(user, 0, rounds - 1);
                 run(user, statistics_mode::cost);
                 close_report(user, statistics_mode::cost);
-                user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+                user.check(!user.visible(u"Status"_s), u"the bar is hidden"_s);
             },
             statistics_mode::cost);
         QList<int> expected;

@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(stats_row(store.store, 10)[1], 0.0);
     }
 
-    void a_selection_without_shots_is_not_detailed_data()
+    void a_selection_has_detail_if_a_matching_round_has_shots_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QTest::newRow("another weather") << 1 << 4 << " AND (games2.conditionM = 1)" << false;
         QTest::newRow("a partner that it had not") << 1 << 4 << " AND INSTR(GAMES2.PARTNERS,'9')" << false;
     }
-    void a_selection_without_shots_is_not_detailed()
+    void a_selection_has_detail_if_a_matching_round_has_shots()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(open_recordsets().isEmpty());
     }
 
-    void a_shot_on_no_hole_fails()
+    void a_shot_on_hole_19_fails()
     {
         const stored_diary store;
         store.book.add(course());
@@ -126,11 +126,11 @@ private Q_SLOTS:
         QCOMPARE(failure_of([&] { Statistics::write_detail(holes); }), failure_kind::subscript);
     }
 
-    void a_detailed_round_brings_no_message_and_the_summary_overwrites_its_figures_data()
+    void a_detailed_round_shows_no_message_and_the_summary_pass_overwrites_its_figures_data()
     {
         both_languages();
     }
-    void a_detailed_round_brings_no_message_and_the_summary_overwrites_its_figures()
+    void a_detailed_round_shows_no_message_and_the_summary_pass_overwrites_its_figures()
     {
         QFETCH(bool, french);
         const stored_diary store(french);
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(open_recordsets().isEmpty());
     }
 
-    void detail_without_a_round_brings_the_second_message_alone()
+    void shots_without_a_round_show_only_the_second_message()
     {
         const stored_diary store;
         set_report_store(store.path());

@@ -49,7 +49,7 @@ class test_handicap_of_rounds : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_ladder_says_how_many_of_the_best_count_data()
+    void the_number_of_rounds_gives_the_number_of_best_differentials_that_count_data()
     {
         QTest::addColumn<int>("rounds");
         QTest::addColumn<QString>("expected");
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QTest::newRow("21: 10") << 21 << " 5.3";
         QTest::newRow("50: the 10 best of all") << 50 << " 5.3";
     }
-    void the_ladder_says_how_many_of_the_best_count()
+    void the_number_of_rounds_gives_the_number_of_best_differentials_that_count()
     {
         QFETCH(int, rounds);
         const stored_diary store;
@@ -85,21 +85,22 @@ private Q_SLOTS:
         QCOMPARE(store.store.number(u"select min(hnd) from hand"_s), 1);
     }
 
-    void the_figure_is_rounded_once_and_a_single_one_takes_no_factor_data()
+    void the_figure_is_rounded_once_and_a_single_differential_has_no_factor_data()
     {
         QTest::addColumn<QStringList>("ratings");
         QTest::addColumn<QString>("expected");
         const QStringList rest(3, u"20"_s);
         // Every round has a gross of 80: the rating makes the differential.
         QTest::newRow("10.44 alone is 10.4") << (QStringList{"69.56", "60"} + rest) << " 10.4";
-        QTest::newRow("12.25 alone goes to the even tenth") << (QStringList{"67.75", "60"} + rest) << " 12.2";
+        QTest::newRow("12.25 alone is rounded to the even tenth")
+            << (QStringList{"67.75", "60"} + rest) << " 12.2";
         QTest::newRow("10 and 12 make 10.56") << (QStringList{"70", "68", "60"} + rest) << " 10.6";
         QTest::newRow("below the rating") << (QStringList{"85", "84", "60"} + rest) << "-4.3";
         QTest::newRow("less than one") << (QStringList{"79.5", "60"} + rest) << " .5";
         QTest::newRow("a true handicap of 0") << (QStringList{"80", "60"} + rest) << "N/A";
         QTest::newRow("two that cancel out") << (QStringList{"83", "77", "60"} + rest) << "N/A";
     }
-    void the_figure_is_rounded_once_and_a_single_one_takes_no_factor()
+    void the_figure_is_rounded_once_and_a_single_differential_has_no_factor()
     {
         QFETCH(QStringList, ratings);
         const stored_diary store;
@@ -111,7 +112,7 @@ private Q_SLOTS:
         QTEST(handicap_of(whole_year()), "expected");
     }
 
-    void a_differential_beside_a_tie_is_rounded_as_its_double_data()
+    void a_differential_near_a_tie_is_rounded_by_its_double_data()
     {
         QTest::addColumn<QString>("rating");
         QTest::addColumn<QString>("expected");
@@ -125,7 +126,7 @@ private Q_SLOTS:
         QTest::newRow("-16.95") << "95"
                                 << "-16.9";
     }
-    void a_differential_beside_a_tie_is_rounded_as_its_double()
+    void a_differential_near_a_tie_is_rounded_by_its_double()
     {
         QFETCH(QString, rating);
         const stored_diary store;
@@ -139,7 +140,7 @@ private Q_SLOTS:
         QTEST(handicap_of(whole_year()), "expected");
     }
 
-    void published_courses_give_the_differentials_worked_out_by_hand()
+    void rounds_on_published_courses_have_the_differentials_computed_by_hand()
     {
         const stored_diary store;
         const diary_course pebble = course_of(u"Pebble Beach"_s, u"Blue"_s);
@@ -158,13 +159,13 @@ private Q_SLOTS:
         QCOMPARE(rows.at(1).at(0).toDouble(), (91 - 74.9) * 113 / 144);
     }
 
-    void slopes_of_0_or_nothing_give_no_handicap_data()
+    void with_a_slope_of_0_or_none_there_is_no_handicap_data()
     {
         QTest::addColumn<QString>("slope");
         QTest::newRow("0") << "0";
         QTest::newRow("empty") << "";
     }
-    void slopes_of_0_or_nothing_give_no_handicap()
+    void with_a_slope_of_0_or_none_there_is_no_handicap()
     {
         QFETCH(QString, slope);
         const stored_diary store;
@@ -175,7 +176,7 @@ private Q_SLOTS:
         QCOMPARE(handicap_of(whole_year()), u"N/A"_s);
     }
 
-    void a_round_counts_by_its_dates_course_weather_and_partner_data()
+    void a_round_counts_if_date_course_weather_and_partner_match_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -214,7 +215,7 @@ private Q_SLOTS:
                                      << "2"
                                      << "12" << QList<int>{6};
     }
-    void a_round_counts_by_its_dates_course_weather_and_partner()
+    void a_round_counts_if_date_course_weather_and_partner_match()
     {
         QFETCH(QList<int>, days);
         QFETCH(int, from);
@@ -247,7 +248,7 @@ private Q_SLOTS:
         QCOMPARE(seen, days);
     }
 
-    void everything_is_closed_and_the_sources_are_whole_tables_again()
+    void a_run_closes_every_recordset_and_leaves_the_statements_on_whole_tables()
     {
         const stored_diary store;
         store.book.add(reference_course());
@@ -284,7 +285,7 @@ private Q_SLOTS:
         QCOMPARE(data_environment().rsgames.Source(), u"Select * from games"_s);
     }
 
-    void there_is_room_for_366_rounds_and_no_more()
+    void the_367th_round_fails()
     {
         const stored_diary store;
         store.book.add(reference_course());
@@ -297,7 +298,7 @@ private Q_SLOTS:
         QCOMPARE(failure_of([] { handicap_of(whole_year()); }), failure_kind::subscript);
     }
 
-    void a_round_with_holes_left_out_counts_with_its_low_gross()
+    void a_round_with_missing_holes_counts_with_its_gross()
     {
         const stored_diary store;
         store.book.add(reference_course());

@@ -38,7 +38,7 @@ private Q_SLOTS:
         QVERIFY(open_recordsets().isEmpty());
     }
 
-    void a_single_round_without_putts_says_so()
+    void a_single_round_without_putts_returns_false()
     {
         const stored_rounds rounds(1);
         Recordset& games2 = data_environment().rsgames2;

@@ -89,8 +89,8 @@ private Q_SLOTS:
         QCOMPARE(entries, (QStringList{u"Anne, Ory"_s, u"Anne, Roy"_s, u"Guy, Lee"_s}));
     }
 
-    void either_of_two_partners_with_one_code_selects_by_that_code_data() { entries_of_partners(); }
-    void either_of_two_partners_with_one_code_selects_by_that_code()
+    void two_partners_with_the_same_code_select_by_that_code_data() { entries_of_partners(); }
+    void two_partners_with_the_same_code_select_by_that_code()
     {
         QFETCH(QString, partner);
         const rounds_with_partners store;
@@ -101,8 +101,8 @@ private Q_SLOTS:
         QCOMPARE(chosen.partner_text, partner);
     }
 
-    void either_of_two_partners_with_one_code_has_the_rounds_of_both_data() { entries_of_partners(); }
-    void either_of_two_partners_with_one_code_has_the_rounds_of_both()
+    void two_partners_with_the_same_code_select_the_rounds_of_both_data() { entries_of_partners(); }
+    void two_partners_with_the_same_code_select_the_rounds_of_both()
     {
         QFETCH(QString, partner);
         const rounds_with_partners store;

@@ -69,8 +69,8 @@ private Q_SLOTS:
         }
     }
 
-    void the_first_rows_carry_the_texts_of_the_run_data() { both_languages(); }
-    void the_first_rows_carry_the_texts_of_the_run()
+    void the_first_rows_contain_the_texts_of_the_run_data() { both_languages(); }
+    void the_first_rows_contain_the_texts_of_the_run()
     {
         QFETCH(bool, french);
         const stored_rounds rounds(3, french);
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(rounds.by_start(7)[12], u"EXCELLENT"_s);
     }
 
-    void a_mean_grade_of_exactly_3_7_has_no_words()
+    void a_mean_grade_of_exactly_3_7_has_an_empty_rating()
     {
         const stored_rounds rounds(1);
         // Grades of 24 for four putts, 10 for three and 3 for three.
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(rounds.by_start(7).mid(11, 2), (QStringList{u" 3.7"_s, QString()}));
     }
 
-    void the_walk_goes_from_the_first_key_to_the_last_data()
+    void the_rounds_from_the_first_key_to_the_last_are_read_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QTest::newRow("in the middle") << 2 << 3 << 2;
         QTest::newRow("the same round twice") << 2 << 2 << 1;
     }
-    void the_walk_goes_from_the_first_key_to_the_last()
+    void the_rounds_from_the_first_key_to_the_last_are_read()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(stored.by_first(1)[5].toInt(), rounds);
     }
 
-    void where_the_filters_keep_the_last_round_out_later_ones_are_taken_in_data()
+    void if_the_filters_exclude_the_last_round_later_rounds_are_read_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QTest::newRow("neither the first nor the last one passes") << 2 << 4 << 3;
         QTest::newRow("no round of the range passes") << 4 << 4 << 2;
     }
-    void where_the_filters_keep_the_last_round_out_later_ones_are_taken_in()
+    void if_the_filters_exclude_the_last_round_later_rounds_are_read()
     {
         QFETCH(int, from);
         QFETCH(int, to);
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QTEST(stored.rounds_counted(), "rounds");
     }
 
-    void a_first_key_without_a_round_starts_at_the_next_one()
+    void if_the_first_key_has_no_round_the_next_round_is_the_first()
     {
         const stored_rounds rounds(3);
         rounds.putts(3, 1, {10});
@@ -178,10 +178,10 @@ private Q_SLOTS:
         QTest::addColumn<bool>("french");
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
-        QTest::newRow("nothing so late, French") << true << 9 << 9;
-        QTest::newRow("nothing so late, English") << false << 9 << 9;
-        QTest::newRow("the range runs backwards, French") << true << 3 << 1;
-        QTest::newRow("the range runs backwards, English") << false << 3 << 1;
+        QTest::newRow("no round after the first key, French") << true << 9 << 9;
+        QTest::newRow("no round after the first key, English") << false << 9 << 9;
+        QTest::newRow("reversed range, French") << true << 3 << 1;
+        QTest::newRow("reversed range, English") << false << 3 << 1;
     }
     void a_selection_without_a_round_leaves_the_grids_as_they_are()
     {
@@ -211,13 +211,13 @@ private Q_SLOTS:
         QCOMPARE(rounds.rounds_counted(), 1);
     }
 
-    void a_sixth_putt_ends_in_a_failure_data()
+    void a_sixth_putt_fails_data()
     {
         QTest::addColumn<int>("hole");
         QTest::newRow("hole 4") << 4;
-        QTest::newRow("hole 18, behind which the temperature stands") << 18;
+        QTest::newRow("hole 18, whose next column is the temperature") << 18;
     }
-    void a_sixth_putt_ends_in_a_failure()
+    void a_sixth_putt_fails()
     {
         QFETCH(int, hole);
         const stored_rounds rounds(1);
@@ -228,7 +228,7 @@ private Q_SLOTS:
         QCOMPARE(rounds.grids(), before);
     }
 
-    void a_length_without_a_value_ends_in_a_failure()
+    void a_length_without_a_value_fails()
     {
         const stored_rounds rounds(1);
         rounds.putts(1, 1, {10});
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { fill_grids(days(1, 1)); }) == failure_kind::invalid_null);
     }
 
-    void grades_beyond_16_bits_end_in_a_failure()
+    void grades_beyond_16_bits_are_an_overflow()
     {
         // 10 + 2 + 10 + 2 + 1 on each of 18 holes: 450 a round, 32,400 in 72 of them.
         const stored_rounds rounds(73);
@@ -246,13 +246,13 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { fill_grids(days(1, 73)); }) == failure_kind::overflow);
     }
 
-    void a_grid_that_lacks_a_row_ends_in_a_failure_data()
+    void a_grid_without_one_of_its_rows_fails_data()
     {
         QTest::addColumn<QString>("grid");
         QTest::newRow("putts by first length") << u"s_put1"_s;
         QTest::newRow("where putts stop") << u"s_put2"_s;
     }
-    void a_grid_that_lacks_a_row_ends_in_a_failure()
+    void a_grid_without_one_of_its_rows_fails()
     {
         QFETCH(QString, grid);
         const stored_rounds rounds(1);
@@ -262,7 +262,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { fill_grids(days(1, 1)); }) == failure_kind::misuse);
     }
 
-    void nothing_of_an_earlier_run_stays_in_the_figures()
+    void a_run_overwrites_every_figure()
     {
         const stored_rounds rounds(1);
         rounds.putts(1, 1, {20, 3});
@@ -281,7 +281,7 @@ private Q_SLOTS:
         QCOMPARE(rounds.grids(), expected);
     }
 
-    void columns_that_hold_a_place_keep_what_they_hold()
+    void unused_columns_are_not_changed()
     {
         const stored_rounds rounds(1);
         rounds.putts(1, 1, {20, 3});
@@ -297,8 +297,8 @@ private Q_SLOTS:
             QCOMPARE(row.mid(0, 1) + row.mid(8, 3), held);
     }
 
-    void the_words_for_the_worst_putts_are_those_of_the_language_data() { both_languages(); }
-    void the_words_for_the_worst_putts_are_those_of_the_language()
+    void the_worst_rating_is_in_the_language_data() { both_languages(); }
+    void the_worst_rating_is_in_the_language()
     {
         QFETCH(bool, french);
         const stored_rounds rounds(1, french);

@@ -17,7 +17,7 @@ f_date_range& window_under_the_box()
     return dynamic_cast<f_date_range&>(*open_form(u"f_date_range"));
 }
 
-/// Looks at the window while a message box stands above it.
+/// Looks at the window while a message box is open.
 void look_under_the_box(hand& user, const std::function<void(f_date_range&)>& routine)
 {
     user.wait_until(u"a box"_s, [] {
@@ -27,7 +27,7 @@ void look_under_the_box(hand& user, const std::function<void(f_date_range&)>& ro
     user.look([&] { routine(window_under_the_box()); });
 }
 
-/// Without a window manager nobody gives the keyboard back to the window when its report closes.
+/// Without a window manager the window does not become active again when its report closes.
 void close_putt_report(hand& user)
 {
     close_report(user, statistics_mode::putt);
@@ -40,8 +40,8 @@ void run_and_close(hand& user)
     close_putt_report(user);
 }
 
-/// Two courses and three partners whose names hold what a careless program stumbles over. Four rounds:
-/// on the second course with partner 12, with partner 112, alone, and on the first course with 12.
+/// Two courses and partners whose names contain quotes, accents and ampersands. Four rounds: on the second
+/// course with partner 12, with partner 112, alone, and on the first course with 12.
 void fill_with_difficult_names(const diary& book)
 {
     const diary_course plain = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
@@ -77,7 +77,7 @@ private Q_SLOTS:
             [](hand& user) {
                 select_range(user, 0, 1);
                 run_and_close(user);
-                user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+                user.check(!user.visible(u"Status"_s), u"the bar is hidden"_s);
             },
             statistics_mode::putt);
         QList<int> values;
@@ -89,17 +89,17 @@ private Q_SLOTS:
         QCOMPARE(rounds.by_first(1)[25], french ? u"TOUS LES TERRAINS"_s : u"ALL COURSES"_s);
     }
 
-    void a_message_leaves_no_bar_and_no_report_data()
+    void without_putts_a_message_is_shown_and_no_report_opens_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
-        QTest::newRow("the range runs backwards, French") << true << 2 << 0;
-        QTest::newRow("the range runs backwards, English") << false << 2 << 0;
+        QTest::newRow("reversed range, French") << true << 2 << 0;
+        QTest::newRow("reversed range, English") << false << 2 << 0;
         QTest::newRow("no putts in the range, French") << true << 0 << 2;
         QTest::newRow("no putts in the range, English") << false << 0 << 2;
     }
-    void a_message_leaves_no_bar_and_no_report()
+    void without_putts_a_message_is_shown_and_no_report_opens()
     {
         QFETCH(bool, french);
         QFETCH(int, from);
@@ -110,22 +110,22 @@ private Q_SLOTS:
                 select_range(user, from, to);
                 run(user, statistics_mode::putt);
                 look_under_the_box(user, [&](f_date_range& window) {
-                    user.check(!window.Status->isVisible(), u"the bar is gone before the box comes"_s);
-                    // The report was made ready before anything was counted, and not started.
+                    user.check(!window.Status->isVisible(), u"the bar is hidden before the box opens"_s);
+                    // The report is set up before the count, and not launched.
                     user.check(window.cr3.ReportFileName().endsWith(french ? u"statPuts.rpt"_s
                                                                            : u"statPuts_en.rpt"_s),
                                u"template"_s);
                     user.check(window.cr3.preview() == nullptr, u"no report"_s);
                 });
                 answer_no_putts(user);
-                user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+                user.check(!user.visible(u"Status"_s), u"the bar is hidden"_s);
                 user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
                 user.check(open_recordsets().isEmpty(), u"nothing is open"_s);
             },
             statistics_mode::putt);
     }
 
-    void the_window_stays_and_each_run_starts_from_what_is_chosen_then()
+    void each_run_uses_the_selection_of_its_moment()
     {
         const stored_rounds rounds(3);
         rounds.putts(1, 1, {60, 20, 3});
@@ -142,7 +142,7 @@ private Q_SLOTS:
                 user.same(bands(rounds.by_first(1)).join(u' '), u"0 0 0 0 0 0 1"_s, u"of the second run"_s);
                 user.same(rounds.rounds_counted(), 1, u"rounds"_s);
                 user.same(rounds.by_first(1)[23], u"Ensoleillé"_s, u"weather"_s);
-                // Nothing that the filters let pass: told, and the next run is as good as new.
+                // A selection without rounds does not affect the next run.
                 user.choose(u"conditions"_s, 4);
                 run(user, statistics_mode::putt);
                 answer_no_putts(user);
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QCOMPARE(stored.by_first(1).mid(23, 3), heading);
     }
 
-    void the_whole_run_needs_no_mouse()
+    void a_run_by_keyboard_only()
     {
         const stored_rounds rounds(3);
         rounds.putts(2, 1, {9});

@@ -230,7 +230,7 @@ private Q_SLOTS:
         const reader store(path_);
         const choice chosen = picked();
         QString condition = chosen.condition();
-        // Where the filters keep the last round out, the walk goes on to the end.
+        // If the filters exclude the last round, the walk continues to the end.
         if (store.number(u"select count(*) from games2 g where "_s + condition + u" and g.date = '" +
                          chosen.to + u'\'') == 0) {
             choice open_end = chosen;

@@ -67,8 +67,8 @@ class test_round_statistics : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void one_round_is_shown_as_it_was_played_data() { both_languages(); }
-    void one_round_is_shown_as_it_was_played()
+    void one_round_fills_every_line_data() { both_languages(); }
+    void one_round_fills_every_line()
     {
         QFETCH(bool, french);
         diary_round round = pebble_round(1, 1);
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(store.head(u"to_text"_s), u"2003-01-02 09:30:00"_s);
         QCOMPARE(store.stats(9), flat(0.5));
         QCOMPARE(store.stats(10), flat(1));
-        // Par 3s at 3 and 4 strokes: 3.5 goes to the even 4; 4.5 to 4; 5.5 to 6.
+        // Par 3s at 3 and 4 strokes: 3.5 is rounded to the even 4; 4.5 to 4; 5.5 to 6.
         QCOMPARE(store.stats(24)[4], 4.0);
         QCOMPARE(store.stats(25)[0], 4.0);
         QCOMPARE(store.stats(26)[1], 6.0);
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QCOMPARE(total(store.stats(26)), 5.5);
     }
 
-    void a_hole_that_is_a_par_4_here_and_a_par_5_there_divides_by_its_own_rounds()
+    void a_hole_with_different_pars_on_two_courses_counts_in_the_mean_of_each_par()
     {
         // Hole 2 is a par 5 on Pebble Beach and a par 4 on Carnoustie.
         const filled_store store({pebble_round(1, 0),
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(store.stats(23)[1], 1.0);
     }
 
-    void five_rounds_have_a_handicap()
+    void five_rounds_give_a_handicap()
     {
         std::vector<diary_round> rounds;
         for (int day = 1; day <= 5; ++day)
@@ -223,8 +223,8 @@ private Q_SLOTS:
         QCOMPARE(store.head(u"round_count"_s).toInt(), two_rounds ? 2 : 1);
     }
 
-    void a_range_that_runs_backwards_holds_no_round_data() { both_languages(); }
-    void a_range_that_runs_backwards_holds_no_round()
+    void a_reversed_range_has_no_round_data() { both_languages(); }
+    void a_reversed_range_has_no_round()
     {
         QFETCH(bool, french);
         const filled_store store({pebble_round(1), pebble_round(2)}, french);
@@ -234,7 +234,7 @@ private Q_SLOTS:
             run(user);
             answer_no_detail(user);
             answer_no_round(user);
-            user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+            user.check(!user.visible(u"Status"_s), u"the bar is hidden"_s);
             user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
         });
         QCOMPARE(steps, (QList<bar_step>{{20, true}, {40, true}, {30, true}}));
@@ -243,7 +243,7 @@ private Q_SLOTS:
         QVERIFY(open_recordsets().isEmpty());
     }
 
-    void the_bar_runs_and_is_gone_at_the_end()
+    void the_bar_shows_each_step_and_is_hidden_at_the_end()
     {
         const filled_store store({pebble_round(1)});
         const auto steps = bar_in_selection_window([](hand& user) {
@@ -257,7 +257,7 @@ private Q_SLOTS:
         QCOMPARE(steps, expected);
     }
 
-    void the_window_stays_and_each_run_starts_from_the_selection_of_its_moment()
+    void each_run_uses_the_selection_of_its_moment()
     {
         const filled_store store({pebble_round(1, 0), pebble_round(2, 3)});
         in_selection_window([&](hand& user) {
@@ -269,7 +269,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_sources_are_whole_tables_again_after_a_run()
+    void a_run_leaves_the_statements_on_whole_tables()
     {
         const filled_store store({pebble_round(1)});
         in_selection_window(run_without_detail);
@@ -279,7 +279,7 @@ private Q_SLOTS:
         QCOMPARE(store.book.store.number(u"select count(*) from stats"_s), 34);
     }
 
-    void a_round_without_one_of_its_rows_ends_the_run_with_its_box_data()
+    void a_round_without_one_of_its_rows_shows_its_message_and_no_report_data()
     {
         QTest::addColumn<QString>("loss");
         QTest::addColumn<QString>("text");
@@ -295,7 +295,7 @@ private Q_SLOTS:
                                             << "Fatal Error : 3 " << french;
         }
     }
-    void a_round_without_one_of_its_rows_ends_the_run_with_its_box()
+    void a_round_without_one_of_its_rows_shows_its_message_and_no_report()
     {
         QFETCH(QString, loss);
         QFETCH(QString, text);
@@ -309,10 +309,10 @@ private Q_SLOTS:
             answer_no_detail(user);
             user.answer({text, QMessageBox::Critical, QString(), QMessageBox::Ok});
             user.wait_for_window(selection_window());
-            user.check(!user.visible(u"Status"_s), u"the bar is gone"_s);
+            user.check(!user.visible(u"Status"_s), u"the bar is hidden"_s);
             user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
             user.check(open_recordsets().isEmpty(), u"open: "_s + open_recordsets().join(u' '));
-            // The window goes on with what is whole.
+            // The next run of the window is not affected.
             select_range(user, 1, 1);
             run_without_detail(user);
         });

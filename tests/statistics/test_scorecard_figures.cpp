@@ -69,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(open_recordsets().isEmpty());
     }
 
-    void what_is_no_figure_of_the_card_stays_as_it_was()
+    void unused_columns_of_the_card_are_not_changed()
     {
         const stocked_store store;
         store.book.store.write(u"update r_card set card_row = 'mine', card_spare = 'too'"_s);
@@ -134,7 +134,7 @@ private Q_SLOTS:
             QVERIFY2(text.contains(words), qPrintable(words + u" in "_s + text));
     }
 
-    void a_course_without_its_holes_is_a_failure_and_leaves_the_card_as_it_was()
+    void a_course_without_its_holes_fails_and_the_card_is_not_changed()
     {
         const stocked_store store;
         store.book.store.write(u"delete from field_info where FIELD_CODE = '%1'"_s.arg(pebble().code));
@@ -160,7 +160,7 @@ private Q_SLOTS:
         window.unload();
     }
 
-    void the_names_of_the_clubs_follow_the_bag_and_the_putter_is_left_out()
+    void the_printed_card_has_the_names_of_the_bag_without_the_putter()
     {
         const stocked_store store(false);
         store.book.store.write(u"update sticknames set club_1 = 'Big one', club_14 = 'Putter'"_s);

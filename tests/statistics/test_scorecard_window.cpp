@@ -38,7 +38,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_tees_stand_below_one_another()
+    void the_names_of_the_tees_are_aligned()
     {
         const stocked_store store;
         f_carte window;
@@ -51,7 +51,7 @@ private Q_SLOTS:
         window.unload();
     }
 
-    void blanks_around_a_name_and_a_code_are_no_part_of_them()
+    void blanks_around_a_name_and_a_code_are_ignored()
     {
         const stocked_store store;
         store.book.store.write(u"update vrd_fields set name = '  ' || name || ' ', code = code || '  '"_s);
@@ -64,7 +64,7 @@ private Q_SLOTS:
         QCOMPARE(store.card(1)[1].toInt(), 401);
     }
 
-    void a_name_longer_than_its_column_stands_whole()
+    void a_name_longer_than_its_column_is_shown_whole()
     {
         const stocked_store store;
         const QString name(195, u'N');
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void the_title_bar_and_the_command_close_leave_it_too()
+    void the_title_bar_and_the_close_command_close_the_window()
     {
         const stocked_store store;
         for (const bool by_title_bar : {true, false}) {
@@ -122,7 +122,7 @@ private Q_SLOTS:
         }
     }
 
-    void the_command_save_does_nothing()
+    void the_save_command_does_nothing()
     {
         const stocked_store store;
         const auto before = store.book.store.rows(u"select * from r_card"_s);
@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(store.book.store.rows(u"select * from r_card"_s), before);
     }
 
-    void without_a_course_there_is_nothing_to_print()
+    void without_a_course_ok_prints_nothing()
     {
         const store_folder store;
         in_scorecard_window([](hand& user) {

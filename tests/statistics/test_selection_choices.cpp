@@ -43,7 +43,7 @@ class test_selection_choices : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_number_of_rounds_between_follows_every_click_and_shows_nowhere()
+    void each_selection_updates_the_number_of_rounds_between_which_is_not_shown()
     {
         const stored_diary store;
         add_three_rounds(store.book);
@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(window.Label1(f_date_range::count_label).text(), u"3"_s);
     }
 
-    void a_click_beside_the_lines_keeps_the_selection()
+    void a_click_below_the_last_line_does_not_change_the_selection()
     {
         const stored_diary store;
         add_three_rounds(store.book);
@@ -75,7 +75,7 @@ private Q_SLOTS:
         });
     }
 
-    void what_was_picked_is_handed_over_data()
+    void the_selection_arguments_contain_the_choices_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QList<int>>("picked");
@@ -131,7 +131,7 @@ private Q_SLOTS:
                                                                    u"PEBBLE BEACH-3"_s,
                                                                    u"7"_s};
     }
-    void what_was_picked_is_handed_over()
+    void the_selection_arguments_contain_the_choices()
     {
         QFETCH(bool, french);
         QFETCH(QList<int>, picked);
@@ -146,7 +146,7 @@ private Q_SLOTS:
         QVERIFY(open_recordsets().isEmpty());
     }
 
-    void every_statistic_has_its_form_of_the_choices_data()
+    void every_statistic_has_its_form_of_the_clauses_data()
     {
         using enum statistics_mode;
         QTest::addColumn<statistics_mode>("mode");
@@ -172,7 +172,7 @@ private Q_SLOTS:
         QTest::newRow("costs, open, English") << cost << false << false << blanks + QStringList{u" ALL"_s};
         QTest::newRow("costs, chosen") << cost << true << true << appended + QStringList{in_the_sun};
     }
-    void every_statistic_has_its_form_of_the_choices()
+    void every_statistic_has_its_form_of_the_clauses()
     {
         QFETCH(statistics_mode, mode);
         QFETCH(bool, french);

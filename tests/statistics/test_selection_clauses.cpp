@@ -66,7 +66,7 @@ private Q_SLOTS:
         QTEST(clause_of(which, clause_form::alone, value), "alone");
     }
 
-    void the_statement_of_the_shots_is_put_together_from_its_pieces()
+    void the_statement_of_the_shots_contains_the_clauses_in_order()
     {
         QCOMPARE(Statistics::club_shot_select(pieces()),
                  u"select stat_rounds.date,stat_rounds.hole,stat_rounds.before, "
@@ -80,7 +80,7 @@ private Q_SLOTS:
                  u"stat_rounds.shot_type_value = 3 ) ORDER BY STAT_ROUNDS.DATE,STAT_ROUNDS.HOLE "_s);
     }
 
-    void the_statement_of_the_costs_is_put_together_from_its_pieces()
+    void the_statement_of_the_costs_contains_the_clauses_in_order()
     {
         QCOMPARE(Statistics::cost_select(pieces()),
                  u"select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
@@ -89,13 +89,13 @@ private Q_SLOTS:
                  u"cost.date <='20031231093000' ) <partner><course><weather>"_s);
     }
 
-    void no_date_stands_in_the_statement_of_the_putts()
+    void the_statement_of_the_putts_contains_no_date()
     {
         QCOMPARE(Statistics::putt_select(pieces()),
                  u"select * from games2 where <weather> AND <partner> AND <course> order by date "_s);
     }
 
-    void the_detail_statement_is_put_together_from_its_pieces()
+    void the_statement_of_the_detail_pass_contains_the_clauses_in_order()
     {
         QCOMPARE(
             Statistics::detail_select(pieces()),
@@ -108,7 +108,7 @@ private Q_SLOTS:
             u"<='20031231093000' )<partner><course><weather> GROUP BY STAT_ROUNDS.HOLE"_s);
     }
 
-    void the_rounds_are_chosen_by_date_and_by_a_course_code_of_more_than_one_character_data()
+    void the_statement_of_the_rounds_has_dates_and_a_course_code_of_two_or_more_characters_data()
     {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("rest");
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QTest::newRow("a course") << "PINS-0"
                                   << " AND CODEF='PINS-0'";
     }
-    void the_rounds_are_chosen_by_date_and_by_a_course_code_of_more_than_one_character()
+    void the_statement_of_the_rounds_has_dates_and_a_course_code_of_two_or_more_characters()
     {
         QFETCH(QString, code);
         QFETCH(QString, rest);

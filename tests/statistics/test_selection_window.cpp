@@ -22,7 +22,7 @@ class test_selection_window : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_lists_hold_what_the_store_holds_data()
+    void the_lists_show_the_rounds_courses_and_partners_of_the_store_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("title");
@@ -42,7 +42,7 @@ private Q_SLOTS:
                                  << QStringList{u"ALL"_s, u"Sunny"_s, u"Variable cloudiness"_s, u"Rainy"_s,
                                                 u"Windy"_s};
     }
-    void the_lists_hold_what_the_store_holds()
+    void the_lists_show_the_rounds_courses_and_partners_of_the_store()
     {
         QFETCH(bool, french);
         QFETCH(QString, title);
@@ -70,7 +70,7 @@ private Q_SLOTS:
         });
     }
 
-    void one_run_button_is_there_and_the_title_says_what_it_runs_data()
+    void one_run_button_is_visible_and_the_title_names_its_statistic_data()
     {
         using enum statistics_mode;
         QTest::addColumn<statistics_mode>("mode");
@@ -85,7 +85,7 @@ private Q_SLOTS:
                                << u"Round Statistics"_s;
         QTest::newRow("cost") << cost << u"Command3"_s << u"Statistiques des coûts"_s << u"Cost Statistics"_s;
     }
-    void one_run_button_is_there_and_the_title_says_what_it_runs()
+    void one_run_button_is_visible_and_the_title_names_its_statistic()
     {
         QFETCH(statistics_mode, mode);
         QFETCH(QString, button);
@@ -109,7 +109,7 @@ private Q_SLOTS:
         }
     }
 
-    void a_double_click_runs_it_once()
+    void a_double_click_on_the_run_button_runs_once()
     {
         const stored_diary store;
         add_three_rounds(store.book);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(store.store.number(u"select count(*) from r_cost"_s), 0);
     }
 
-    void a_store_with_nothing_but_rounds_opens_with_open_filters()
+    void without_courses_and_partners_the_filters_have_one_entry()
     {
         const stored_diary store;
         add_three_rounds(store.book);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         });
     }
 
-    void partners_that_their_window_had_to_leave_open_are_read_anew()
+    void a_recordset_of_partners_that_was_left_open_is_read_again()
     {
         const stored_diary store;
         data_environment().rspartners.Open();
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QVERIFY(!data_environment().rspartners.is_open());
     }
 
-    void every_filter_has_its_label_and_takes_no_text_of_its_own()
+    void every_filter_has_its_label_and_is_not_editable()
     {
         const stored_diary store;
         add_three_rounds(store.book);
@@ -177,8 +177,8 @@ private Q_SLOTS:
         }
     }
 
-    void a_store_without_rounds_is_told_and_no_window_comes_up_data() { both_languages(); }
-    void a_store_without_rounds_is_told_and_no_window_comes_up()
+    void without_a_stored_round_a_message_is_shown_and_no_window_data() { both_languages(); }
+    void without_a_stored_round_a_message_is_shown_and_no_window()
     {
         QFETCH(bool, french);
         const store_folder store(french);
@@ -197,12 +197,12 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void every_way_out_unlocks_the_menu_and_leaves_nothing_open_data()
+    void every_way_out_unlocks_the_menu_and_closes_the_recordsets_data()
     {
         every_way_out(ways_out(selection_window,
                                {{"the cancel button", [](hand& user) { user.click(u"CancelButton"_s); }}}));
     }
-    void every_way_out_unlocks_the_menu_and_leaves_nothing_open()
+    void every_way_out_unlocks_the_menu_and_closes_the_recordsets()
     {
         QFETCH(leaving, leave);
         const stored_diary store;

@@ -36,7 +36,7 @@ std::vector<diary_round> full_list(int gross)
     return rounds;
 }
 
-/// A run over a full list of rounds of that gross; says what a failure says.
+/// A run over a full list of rounds of that gross; prints the text of the failure.
 int run_over_full_list(int gross)
 {
     const store_folder store;
