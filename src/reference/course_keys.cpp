@@ -1,11 +1,25 @@
 #include "reference/course_keys.h"
 
+#include <algorithm>
+
+#include "base/text.h"
 #include "store/Recordset.h"
 #include "store/tables/courses.h"
 
 namespace verdane {
 
 checked_array<course_key, most_courses> course_keys;
+
+namespace {
+
+constexpr qsizetype tee_mark_length = 2;
+
+QString without_tee_mark(const QString& text)
+{
+    return text.chopped(std::min(tee_mark_length, text.size()));
+}
+
+}  // namespace
 
 void keep_course_key(int index, Recordset& rsvrd_fields)
 {
@@ -34,6 +48,27 @@ void remember_new_course(Recordset& rsvrd_fields)
         if (course_keys[index].code.isEmpty())
             return keep_course_key(index, rsvrd_fields);
     }
+}
+
+QString tee_mark(int tee)
+{
+    return u'-' + QString::number(tee);
+}
+
+known_course find_known_course(const QString& name_in_capitals, int tee)
+{
+    known_course known;
+    for (int i = 0; i < most_courses; ++i) {
+        const auto& [name_tee, code] = course_keys[i];
+        if (name_tee.isEmpty())
+            continue;
+        const QString entry = in_capitals(name_tee);
+        if (entry == name_in_capitals + tee_mark(tee))
+            known.duplicate = true;
+        if (without_tee_mark(entry) == name_in_capitals)
+            known.base = without_tee_mark(code);
+    }
+    return known;
 }
 
 }  // namespace verdane

@@ -9,25 +9,38 @@ namespace verdane {
 
 class Recordset;
 
-/// A course and tee as the editor's duplicate test sees it: both trimmed.
+/// A course from one tee, as the duplicate test of the course editor needs it. Both texts are trimmed.
 struct course_key {
     QString name_tee;
     QString code;
 };
 
-/// The courses of the store in table order, filled by the course list and read by the editor's save.
-/// An entry that is not in use is empty.
+/// The courses of the store in table order, filled by the course list. An entry that is not in use is
+/// empty.
 extern checked_array<course_key, most_courses> course_keys;
 
-/// Keeps the current row of `rsvrd_fields` at an index. Fails with `subscript` beyond the table.
+/// Stores the current row of `rsvrd_fields` at an index. Fails with `subscript` beyond the table.
 void keep_course_key(int index, Recordset& rsvrd_fields);
 
-/// Empties the table and keeps as many rows as fit: a list that outgrew it while it was open must still
+/// Empties the table and stores as many rows as fit: a list that outgrew it while it was open must still
 /// be able to shrink. The recordset is left on another row or at `eof()`.
 void rebuild_course_keys(Recordset& rsvrd_fields);
 
 /// Adds the current row at the first free index, unless its code is in the table already. Nothing happens
 /// when the table is full; the list fails then when it is opened again.
 void remember_new_course(Recordset& rsvrd_fields);
+
+/// The end of a code and of a `name_tee`: a dash and the digit of the tee.
+QString tee_mark(int tee);
+
+/// What the table holds of a name.
+struct known_course {
+    bool duplicate = false;  ///< the name is there with the same tee
+    QString base;            ///< the code without its tee; empty if the name is not there
+};
+
+/// Looks for a name in capitals. Names are compared in capitals, so all tees of a course have the same base
+/// however the name is spelled.
+known_course find_known_course(const QString& name_in_capitals, int tee);
 
 }  // namespace verdane

@@ -1,38 +1,36 @@
 #include "reference/f_courses.h"
 
-#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
-#include <algorithm>
 #include <vector>
 
-#include "controls/entering.h"
+#include "controls/accessible_controls.h"
 #include "controls/events.h"
-#include "controls/leaving.h"
+#include "controls/look.h"
 #include "controls/main_frame.h"
+#include "controls/scrolled_content.h"
 #include "controls/shortcuts.h"
-#include "reference/f_courses_boxes.h"
+#include "controls/TabStrip.h"
+#include "reference/course_general_page.h"
+#include "reference/course_page.h"
 #include "reference/f_courses_func.h"
 
 namespace verdane {
 
-namespace {
-
-using namespace f_courses_func;
 using namespace Qt::StringLiterals;
 
-constexpr QSize usual_size(pixels(10410), pixels(8700));
+namespace {
 
-/// A published scorecard gives the lengths of nine holes in a row, then their stroke indexes, then
-/// their pars: the boxes of a page follow each other in that order.
-void append_nine(std::vector<QWidget*>& order, const f_courses& window, int first_index)
+constexpr QSize usual_size(pixels(10410), pixels(8700));
+constexpr int left_margin = 3 * rhythm;
+constexpr int first_back_index = course_holes::holes_on_a_page;
+
+void append(std::vector<QWidget*>& order, const std::vector<QWidget*>& more)
 {
-    for (const auto* boxes : {&window.txt_verge, &window.txt_hnd, &window.txt_normal}) {
-        for (int index = first_index; index < first_index + front_hole_count; ++index)
-            order.push_back(&(*boxes)(index));
-    }
+    order.insert(order.end(), more.begin(), more.end());
 }
 
 }  // namespace
@@ -40,63 +38,138 @@ void append_nine(std::vector<QWidget*>& order, const f_courses& window, int firs
 f_courses::f_courses(bool new_course)
     : Form(u"f_courses"),
       isNew(new_course),
-      TabStrip1(named(new TabStrip, u"TabStrip1")),
-      departure(named(new QComboBox, u"departure")),
-      lbl_alle(named(new QLabel, u"lbl_alle")),
-      lbl_retour(named(new QLabel, u"lbl_retour")),
-      lbl_total(named(new QLabel, u"lbl_total")),
-      smdsave(named(make_button(u"OK"_s), u"smdsave")),
-      cmdan(named(make_button(caption(u"Annuler", u"Cancel")), u"cmdan"))
+      tabs_(named(new TabStrip, u"TabStrip1")),
+      general_(new course_general_page(*this)),
+      front_yards_(named(new QLabel, u"lbl_alle")),
+      back_yards_(named(new QLabel, u"lbl_retour")),
+      total_yards_(named(new QLabel, u"lbl_total")),
+      ok_(named(make_button(u"OK"_s), u"smdsave")),
+      cancel_(named(make_button(caption(u"Annuler", u"Cancel")), u"cmdan"))
 {
     setWindowTitle(caption(u"Terrains", u"Golf Course"));
     lay_out();
     set_tab_order();
     take_size(usual_size);
-    load(*this);
-    wire();
+    f_courses_func::load(*this);
+    connect_events();
+    add_shortcuts();
+}
+
+void f_courses::lay_out()
+{
+    make_tabs();
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(left_margin, 2 * rhythm, left_margin, 2 * rhythm);
+    rows->setSpacing(rhythm);
+    rows->addWidget(tabs_);
+    rows->addWidget(scrolled(make_pages()), 1);
+    rows->addLayout(make_foot());
+}
+
+void f_courses::make_tabs()
+{
+    name_control(*tabs_, u"Pages"_s);
+    tabs_->addTab(caption(u"Information générale", u"General Information"));
+    tabs_->addTab(caption(u"Aller", u"Front Nine"));
+    tabs_->addTab(caption(u"Retour", u"Back Nine"));
+}
+
+QLayout* f_courses::make_pages()
+{
+    pages_.add(1, general_);
+    pages_.add(2, holes_.make_page(2, 0));
+    pages_.add(3, holes_.make_page(3, first_back_index));
+    auto* place = new QGridLayout;
+    for (const auto& [number, page] : pages_.members())
+        place->addWidget(page, 0, 0);
+    pages_(2).hide();
+    pages_(3).hide();
+    return place;
+}
+
+QLayout* f_courses::make_foot()
+{
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(rhythm);
+    foot->addLayout(make_total(caption(u"Aller :", u"Front :"), front_yards_));
+    foot->addSpacing(2 * rhythm);
+    foot->addLayout(make_total(caption(u"Retour :", u"Back :"), back_yards_));
+    foot->addSpacing(2 * rhythm);
+    foot->addLayout(make_total(u"Total :"_s, total_yards_));
+    foot->addStretch();
+    foot->addWidget(ok_);
+    foot->addWidget(cancel_);
+    return foot;
+}
+
+QLayout* f_courses::make_total(const QString& caption, QLabel* figure)
+{
+    figure->setText(u"0"_s);
+    figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    make_bold(*figure);
+    figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance(u"-00000"_s));
+    auto* total = new QHBoxLayout;
+    total->setSpacing(rhythm / 2);
+    total->addWidget(named(make_label(caption, figure), QString(figure->objectName() + u"_caption")));
+    total->addWidget(figure);
+    return total;
 }
 
 void f_courses::set_tab_order()
 {
-    std::vector<QWidget*> order{TabStrip1, &text(1), departure, &text(2), &text(0)};
-    order.insert(order.end(), {&text(3), &text(4), &text(5)});
-    append_nine(order, *this, 0);
-    append_nine(order, *this, front_hole_count);
-    order.insert(order.end(), {smdsave, cmdan});
+    std::vector<QWidget*> order{tabs_};
+    append(order, general_->tab_order());
+    append(order, holes_.tab_order(0));
+    append(order, holes_.tab_order(first_back_index));
+    append(order, {ok_, cancel_});
     for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
-    text(1).setFocus();
+    general_->focus_name();
 }
 
-void f_courses::wire()
+void f_courses::connect_events()
 {
-    for (const auto& [index, box] : text.members()) {
-        filter_keys(*box, [this, i = index](QChar key) { return text_key(*this, i, key); });
-        on_change(*box, [this] { needtosave = true; });
-    }
-    for (int index = 0; index < hole_count; ++index)
-        wire_hole(index);
-    TabStrip1->clicked = [this] { page_clicked(*this); };
-    on_click(*smdsave, [this] {
+    general_->changed = [this] { needtosave = true; };
+    holes_.yards_entered = [this] { f_courses_func::yards_entered(*this); };
+    tabs_->clicked = [this] { f_courses_func::page_clicked(*this); };
+    on_click(*ok_, [this] {
         save();
         closeForm();
     });
-    on_click(*cmdan, [this] { closeForm(); });
-    set_cancel_button(*cmdan);
-    // The modal editor disables the main window, so the mouse cannot reach its toolbar.
-    shortcuts().add(shortcut_table::save_course, [this] { toolbar_clicked(*this, u"B1"); });
-    shortcuts().add(shortcut_table::close_course, [this] { toolbar_clicked(*this, u"B5"); });
+    on_click(*cancel_, [this] { closeForm(); });
+    set_cancel_button(*cancel_);
 }
 
-void f_courses::wire_hole(int index)
+/// The modal editor disables the main window, so the mouse cannot reach its toolbar.
+void f_courses::add_shortcuts()
 {
-    for (const auto* boxes : {&txt_verge, &txt_hnd, &txt_normal}) {
-        QLineEdit& box = (*boxes)(index);
-        when_entered(box, [&box] { enter_hole_box(box); });
-    }
-    when_left(txt_verge(index), [this, index] { return leave_verge(*this, index); });
-    when_left(txt_hnd(index), [this, index] { return leave_hnd(*this, index); });
-    when_left(txt_normal(index), [this, index] { return leave_normal(*this, index); });
+    const auto press = [this](QStringView button) {
+        return [this, button] { f_courses_func::toolbar_clicked(*this, button); };
+    };
+    shortcuts().add(shortcut_table::save_course, press(u"B1"));
+    shortcuts().add(shortcut_table::close_course, press(u"B5"));
+}
+
+int16 f_courses::selected_page() const
+{
+    return tabs_->selected();
+}
+
+void f_courses::show_page(int16 page)
+{
+    pages_(plain(page)).show();
+    pages_(plain(curFrame)).hide();
+    curFrame = page;
+}
+
+void f_courses::show_totals()
+{
+    const int16 front = holes_.yards_between(0, first_back_index);
+    const int16 back = holes_.yards_between(first_back_index, hole_count);
+    const int16 total = front + back;
+    front_yards_->setText(QString::number(plain(front)));
+    back_yards_->setText(QString::number(plain(back)));
+    total_yards_->setText(QString::number(plain(total)));
 }
 
 void f_courses::save()

@@ -5,6 +5,7 @@
 #include "reference/f_courses.h"
 #include "tests/reference/course_windows.h"
 #include "tests/support/entering_boxes.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -46,6 +47,18 @@ void type_and_tab(hand& user, const QString& box, const QString& typed)
     user.key(Qt::Key_Tab);
 }
 
+/// How many visible boxes of one kind hold only the digit that is typed when they get the focus.
+int boxes_that_replace_their_text(const f_courses& window, const QString& kind, Qt::FocusReason reason)
+{
+    int replacing = 0;
+    for (QLineEdit* box : window.findChildren<QLineEdit*>()) {
+        if (box->objectName().startsWith(kind) && box->isVisible() &&
+            text_after_focus_and_digit(*box, reason) == u"7")
+            ++replacing;
+    }
+    return replacing;
+}
+
 /// A refused box holds "0", selected, and keeps the focus.
 void check_refused(hand& user, const QString& box)
 {
@@ -81,9 +94,9 @@ private Q_SLOTS:
         QTest::newRow("a rating takes digits and points") << rating_box << u"70.5.1"_s << u"70.5.1"_s << 0;
         QTest::newRow("a rating takes no letter") << rating_box << u"7a,0"_s << u"70"_s << 2;
         QTest::newRow("a rating takes no sign") << rating_box << u"-70"_s << u"70"_s << 1;
-        QTest::newRow("digits of other scripts are none") << rating_box << u"7٣"_s << u"7"_s << 1;
+        QTest::newRow("digits of other scripts are refused") << rating_box << u"7٣"_s << u"7"_s << 1;
         QTest::newRow("the seventh digit is refused") << slope_box << u"1234567"_s << u"123456"_s << 1;
-        QTest::newRow("a point passes behind six digits") << slope_box << u"123456.7"_s << u"123456."_s << 1;
+        QTest::newRow("a point passes after six digits") << slope_box << u"123456.7"_s << u"123456."_s << 1;
         QTest::newRow("an address takes anything")
             << u"text_3"_s << u"1, rue de l'Église"_s << u"1, rue de l'Église"_s << 0;
     }
@@ -120,7 +133,7 @@ private Q_SLOTS:
         });
     }
 
-    void pasting_does_not_pass_the_filter()
+    void a_pasted_text_is_not_filtered()
     {
         const course_store store;
         in_new_course([](hand& user) {
@@ -146,7 +159,7 @@ private Q_SLOTS:
         row("the longest length", u"txt_verge_8"_s, u"32767"_s, true);
         row("no length", u"txt_verge_0"_s, QString(), false);
         row("a length in letters", u"txt_verge_0"_s, u"abc"_s, false);
-        row("a length with a letter behind", u"txt_verge_0"_s, u"3a"_s, false);
+        row("a length with a letter after it", u"txt_verge_0"_s, u"3a"_s, false);
         row("a stroke index", u"txt_hnd_0"_s, u"18"_s, true);
         row("an unknown stroke index", u"txt_hnd_0"_s, u"0"_s, true);
         row("a negative stroke index", u"txt_hnd_0"_s, u"-3"_s, true);
@@ -181,7 +194,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_wrong_par_is_refused_with_words_data()
+    void a_wrong_par_is_refused_with_a_message_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("typed");
@@ -192,7 +205,7 @@ private Q_SLOTS:
                     << french << QString::fromLatin1(par);
         }
     }
-    void a_wrong_par_is_refused_with_words()
+    void a_wrong_par_is_refused_with_a_message()
     {
         QFETCH(bool, french);
         QFETCH(QString, typed);
@@ -206,8 +219,8 @@ private Q_SLOTS:
         });
     }
 
-    void a_stroke_index_stands_once_data() { both_languages(); }
-    void a_stroke_index_stands_once()
+    void a_stroke_index_of_another_hole_is_refused_data() { both_languages(); }
+    void a_stroke_index_of_another_hole_is_refused()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -217,7 +230,7 @@ private Q_SLOTS:
             type_and_tab(user, u"txt_hnd_4"_s, u"18"_s);
             user.answer(index_is_taken());
             check_refused(user, u"txt_hnd_4"_s);
-            // Also against a hole of the other page; the box's own value does not count.
+            // Holes of the other page are compared, too, but not the box with itself.
             user.key(Qt::Key_Tab);
             user.click_tab(u"TabStrip1"_s, 3);
             type_and_tab(user, u"txt_hnd_17"_s, u"18"_s);
@@ -267,7 +280,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_duplicate_is_told_before_the_limit()
+    void a_duplicate_stroke_index_is_reported_before_the_limit()
     {
         const course_store store;
         store.add({});
@@ -297,12 +310,12 @@ private Q_SLOTS:
             user.click_tab(u"TabStrip1"_s, 3);
             check_refused(user, u"txt_verge_0"_s);
             user.same(user.selected(u"TabStrip1"_s), 1, u"selected tab"_s);
-            user.check(user.visible(u"frm_2"_s), u"the page stays"_s);
+            user.check(user.visible(u"frm_2"_s), u"the page is still shown"_s);
             discard(user);
         });
     }
 
-    void lengths_are_totalled_when_left()
+    void the_totals_follow_when_a_length_is_left()
     {
         const course_store store;
         in_new_course([](hand& user) {
@@ -322,8 +335,8 @@ private Q_SLOTS:
         });
     }
 
-    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus_data() { focus_reasons(); }
-    void a_digit_replaces_the_figure_in_the_moment_a_box_gains_the_focus()
+    void a_digit_replaces_the_figure_as_soon_as_a_box_has_the_focus_data() { focus_reasons(); }
+    void a_digit_replaces_the_figure_as_soon_as_a_box_has_the_focus()
     {
         QFETCH(Qt::FocusReason, reason);
         const course_store store;
@@ -332,8 +345,8 @@ private Q_SLOTS:
             for (const int page : {2, 3}) {
                 user.click_tab(u"TabStrip1"_s, page);
                 with_editor(user, [reason](f_courses& window) {
-                    for (const auto* boxes : {&window.txt_hnd, &window.txt_normal, &window.txt_verge})
-                        QCOMPARE(boxes_that_replace_their_text(*boxes, reason), 9);
+                    for (const QString& kind : {u"txt_hnd_"_s, u"txt_normal_"_s, u"txt_verge_"_s})
+                        QCOMPARE(boxes_that_replace_their_text(window, kind, reason), 9);
                 });
             }
             discard(user);
@@ -349,7 +362,7 @@ private Q_SLOTS:
             user.same(user.selected_text(u"txt_verge_0"_s), u"300"_s, u"by the tab"_s);
             user.click(u"txt_hnd_6"_s);
             user.wait_until(u"a selection by a click"_s, [] {
-                return dynamic_cast<f_courses*>(open_form(u"f_courses"))->txt_hnd(6).selectedText() == u"7"_s;
+                return dynamic_cast<QLineEdit&>(*find_control(u"txt_hnd_6"_s)).selectedText() == u"7"_s;
             });
             user.key(Qt::Key_Tab);
             user.same(user.selected_text(u"txt_hnd_7"_s), u"8"_s, u"by Tab"_s);

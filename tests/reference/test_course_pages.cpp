@@ -1,11 +1,10 @@
-#include <QComboBox>
 #include <QFrame>
-#include <QLineEdit>
 #include <QTest>
 
 #include "base/language.h"
 #include "reference/f_courses.h"
 #include "tests/reference/course_windows.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -13,6 +12,11 @@ using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QRect geometry_of(const QString& control)
+{
+    return find_control(control)->geometry();
+}
 
 void check_page(hand& user, int page, const QString& focus)
 {
@@ -23,7 +27,7 @@ void check_page(hand& user, int page, const QString& focus)
     with_editor(user, [page](f_courses& window) { QCOMPARE(plain(window.curFrame), page); });
 }
 
-/// The boxes that Tab reaches from a box, up to and with another.
+/// The boxes that Tab visits from the focus to `last`, both included.
 QStringList tabbed(hand& user, const QString& last)
 {
     QStringList names{user.focus()};
@@ -55,17 +59,17 @@ private Q_SLOTS:
         const course_store store(french);
         in_new_course([](hand& user) {
             with_editor(user, [](f_courses& window) {
-                const QRect tee = window.departure->geometry();
-                for (const int index : {0, 2}) {
-                    QCOMPARE(window.text(index).geometry().left(), tee.left());
-                    QCOMPARE(window.text(index).geometry().right(), tee.right());
+                const QRect tee = geometry_of(u"departure"_s);
+                for (const QString& box : {u"text_0"_s, u"text_2"_s}) {
+                    QCOMPARE(geometry_of(box).left(), tee.left());
+                    QCOMPARE(geometry_of(box).right(), tee.right());
                 }
-                const QRect page = window.frm(1).rect();
-                for (const int index : {1, 3, 4, 5}) {
-                    QCOMPARE(window.text(index).geometry().left(), tee.left());
-                    QCOMPARE(window.text(index).geometry().right(), page.right());
+                const QRect page = find_control(u"frm_1"_s)->rect();
+                for (const QString& box : {u"text_1"_s, u"text_3"_s, u"text_4"_s, u"text_5"_s}) {
+                    QCOMPARE(geometry_of(box).left(), tee.left());
+                    QCOMPARE(geometry_of(box).right(), page.right());
                 }
-                QVERIFY(window.text(5).geometry().bottom() > page.height() * 3 / 4);
+                QVERIFY(geometry_of(u"text_5"_s).bottom() > page.height() * 3 / 4);
                 QCOMPARE(window.size(), QSize(10410 / 15, 8700 / 15));
             });
             discard(user);
@@ -87,7 +91,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_tab_of_the_page_on_screen_moves_the_focus_too()
+    void a_click_on_the_selected_tab_moves_the_focus()
     {
         const course_store store;
         in_new_course([](hand& user) {
@@ -114,7 +118,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_keyboard_walks_as_a_scorecard_is_read()
+    void Tab_visits_the_boxes_in_the_order_of_a_scorecard()
     {
         const course_store store;
         in_new_course([](hand& user) {
@@ -128,18 +132,18 @@ private Q_SLOTS:
         });
     }
 
-    void enter_in_a_box_presses_no_button()
+    void Enter_in_a_box_presses_no_button()
     {
         const course_store store;
         in_new_course([](hand& user) {
             fill_required(user, u"Delta"_s);
             user.key(Qt::Key_Return);
-            user.check(user.is_open(editor_window()), u"the editor stays"_s);
+            user.check(user.is_open(editor_window()), u"the editor is still open"_s);
             discard(user);
         });
     }
 
-    void the_window_has_its_prescribed_size_and_place()
+    void the_window_has_its_size_and_place()
     {
         course_store store;
         in_new_course([&](hand& user) {
@@ -150,7 +154,7 @@ private Q_SLOTS:
                 QCOMPARE(window.pos(), frame.topLeft() + QPoint((frame.width() - window.width()) / 2, 2));
                 QCOMPARE(current_form.data(), &window);
                 for (const int page : {1, 2, 3})
-                    QCOMPARE(window.frm(page).frameShape(), QFrame::NoFrame);
+                    QCOMPARE(window.findChild<QFrame*>(u"frm_%1"_s.arg(page))->frameShape(), QFrame::NoFrame);
             });
             discard(user);
         });
