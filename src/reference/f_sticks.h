@@ -4,20 +4,20 @@
 #include "controls/Form.h"
 
 class QBoxLayout;
-class QComboBox;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QListWidget;
 class QPushButton;
 
 namespace verdane {
 
-/// The golf bag: names and average distances of the fourteen clubs; in English `f_sticks_en`. The
-/// averages are typed, or computed from the shots of a selection of rounds. Nothing is stored before the
-/// final question is answered with Yes.
+class bag_filters;
+
+/// The golf bag (`f_sticks`, `f_sticks_en`): names and average distances of the fourteen clubs. The averages
+/// are typed, or computed from the shots of a selection of rounds. Nothing is stored before the final
+/// question is answered with Yes.
 ///
 /// The constructor loads it; `rssticks` and `rssticknames` are open until it is unloaded. If no round is
 /// stored, a message box reports that and `show_modal` returns at once.
@@ -25,21 +25,16 @@ class f_sticks final : public Form {
 public:
     f_sticks();
 
-    /// Member i is club i + 1: its name, and its average distance in yards.
-    control_array<QLineEdit> sn{u"sn"};
-    /// The members after the fourteen averages are boxes without a function.
-    control_array<QLineEdit> Text1{u"Text1"};
-    QLabel* head = nullptr;
-    QPushButton* Command1 = nullptr;
-    QPushButton* enr = nullptr;
-    QPushButton* Fer = nullptr;
-    QGroupBox* Frame1 = nullptr;
-    QListWidget* List1 = nullptr;
-    QListWidget* List2 = nullptr;
-    QComboBox* conditions = nullptr;
-    QComboBox* pList = nullptr;
-    QComboBox* cmb_courses = nullptr;
-    QPushButton* Actualiser = nullptr;
+    /// A club by its number less 1: its name, and the text of its average distance in yards.
+    QString name(int club) const;
+    void set_name(int club, const QString& name);
+    QString average(int club) const;
+    void set_average(int club, const QString& average);
+
+    /// The explanation above the bag.
+    void set_explanation(const QString& text);
+
+    bag_filters& filters() const { return *filters_; }
 
     /// Sets the window's width, at least what its controls need.
     void widen_to(int twips);
@@ -54,13 +49,18 @@ private:
     void lay_out();
     QBoxLayout* make_bag_column();
     QGroupBox* make_bag();
-    void add_club(QGridLayout& grid, int index);
+    void add_club(QGridLayout& grid, int club);
     QLayout* make_foot();
-    QGroupBox* make_filters();
-    QWidget* make_list_frame(QStringView name, const QString& words, QListWidget*& list);
-    QLayout* make_choices();
-    QLayout* make_unread_boxes();
-    void wire();
+    void connect_events();
+
+    control_array<QLineEdit> names_{u"sn"};
+    /// The further members of `Text1` belong to the filters.
+    control_array<QLineEdit> averages_{u"Text1"};
+    QLabel* explanation_ = nullptr;
+    bag_filters* filters_;
+    QPushButton* show_filters_;
+    QPushButton* ok_;
+    QPushButton* cancel_;
 };
 
 }  // namespace verdane

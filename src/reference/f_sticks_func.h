@@ -9,9 +9,8 @@ class f_sticks;
 /// The logic of the golf bag, one routine for each event, shared by both twins.
 namespace f_sticks_func {
 
-/// The window's width in twips, without and with the filters.
+/// The window's width in twips without the filters.
 constexpr int bag_width = 7000;
-constexpr int width_with_filters = 10605;
 
 /// Fills the boxes and the filters and opens `rssticks` and `rssticknames`. If no round is stored,
 /// reports that, closes them again and unloads the window.
@@ -19,9 +18,6 @@ void load(f_sticks& window);
 
 /// Shows the filters in the right half of the window.
 void show_filters(f_sticks& window);
-
-/// The selection that the filters describe. This window has its own texts for filters that are off.
-selection_arguments selection_of(const f_sticks& window);
 
 /// Computes the averages of clubs 1 to 13 from the selected rounds and shows them in the boxes. The number
 /// of shots of each club is pending in the row of averages.

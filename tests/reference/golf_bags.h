@@ -8,33 +8,33 @@
 #include "tests/support/hand.h"
 #include "tests/support/stored_diary.h"
 
-/// What the tests of the golf bag share.
+/// Support for the tests of the golf bag.
 namespace verdane::testing {
 
-/// "f_sticks", or its twin in the language of this moment.
+/// The name of the window in the current language.
 QString bag_window();
 
-/// A bag with names and averages, and three rounds of which the first two have shots.
+/// A store with a golf bag and three rounds on days 1 to 3, each with shots.
 class filled_bag : public stored_diary {
 public:
     explicit filled_bag(bool french = true);
 
-    /// A shot of a round of the first days; the lengths are before and after it, in yards.
+    /// Adds a shot; `lengths` are those before and after it in yards, "400, 150".
     void shot(int day, int club, const QString& lengths) const;
 
-    /// What the store holds of a club (1 to 14).
+    /// The stored figures and name of a club (1 to 14).
     double average(int club) const;
     int shots(int club) const;
     QString name(int club) const;
 };
 
-/// Opens the golf bag and lets the script close it.
+/// Opens the golf bag and runs the script, which closes it.
 void in_bag(const std::function<void(hand&)>& script);
 
-/// The question whether names and averages are to be stored.
+/// Answers the question whether names and averages are to be stored.
 void answer_keep(hand& user, QMessageBox::StandardButton answer);
 
-/// Works the averages out over lines of the two lists (from 0).
+/// Computes the averages from a range of rounds, given by the lines of the two lists (from 0).
 void compute(hand& user, int from, int to);
 
 }  // namespace verdane::testing

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "reference/bag_filters.h"
 #include "reference/f_sticks.h"
 #include "reference/f_sticks_func.h"
 #include "tests/reference/golf_bags.h"
@@ -14,6 +15,15 @@
 using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+void choose(const f_sticks& window, const QString& filter, int index)
+{
+    window.findChild<QComboBox*>(filter)->setCurrentIndex(index);
+}
+
+}  // namespace
 
 class test_bag_averages : public QObject {
     Q_OBJECT
@@ -34,8 +44,8 @@ private Q_SLOTS:
         QCOMPARE(rows.back().front().toDouble(), 160.0);
     }
 
-    void averages_are_worked_out_and_wait_for_the_answer_data() { both_languages(); }
-    void averages_are_worked_out_and_wait_for_the_answer()
+    void averages_are_computed_and_stored_after_a_Yes_data() { both_languages(); }
+    void averages_are_computed_and_stored_after_a_Yes()
     {
         QFETCH(bool, french);
         const filled_bag bag(french);
@@ -45,8 +55,8 @@ private Q_SLOTS:
             user.same(user.text(u"Text1_4"_s), u"140"_s, u"club 5"_s);
             user.same(user.text(u"Text1_12"_s), u"55"_s, u"club 13"_s);
             user.same(user.text(u"Text1_1"_s), u"0"_s, u"a club without shots"_s);
-            user.same(user.text(u"Text1_13"_s), u"3"_s, u"the putter keeps what it had"_s);
-            user.same(user.text(u"Text1_14"_s), QString(), u"the box behind the putter"_s);
+            user.same(user.text(u"Text1_13"_s), u"3"_s, u"the putter is not changed"_s);
+            user.same(user.text(u"Text1_14"_s), QString(), u"the box after the putter"_s);
             user.check(!user.is_open(u"report_preview"_s), u"no report"_s);
             QCOMPARE(bag.average(1), 200.5);
             QCOMPARE(bag.shots(1), 0);
@@ -60,15 +70,15 @@ private Q_SLOTS:
         QCOMPARE(bag.shots(5), 1);
     }
 
-    void what_is_typed_is_stored_as_its_leading_number_data()
+    void a_typed_average_is_stored_as_its_leading_number_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<double>("stored");
-        QTest::newRow("a unit behind it") << u"120m"_s << 120.0;
+        QTest::newRow("a number with a unit") << u"120m"_s << 120.0;
         QTest::newRow("decimals") << u"187.5"_s << 187.5;
         QTest::newRow("a comma ends the number") << u"187,5"_s << 187.0;
-        QTest::newRow("blanks before it") << u"  90"_s << 90.0;
-        QTest::newRow("below 0") << u"-12.5"_s << -12.5;
+        QTest::newRow("leading blanks") << u"  90"_s << 90.0;
+        QTest::newRow("negative") << u"-12.5"_s << -12.5;
         QTest::newRow("an exponent") << u"2e2"_s << 200.0;
         QTest::newRow("huge") << u"123456789012345"_s << 123456789012345.0;
         QTest::newRow("no number") << u"far"_s << 0.0;
@@ -76,7 +86,7 @@ private Q_SLOTS:
         QTest::newRow("quotes") << u"'120'"_s << 0.0;
         QTest::newRow("nothing") << u" "_s << 0.0;
     }
-    void what_is_typed_is_stored_as_its_leading_number()
+    void a_typed_average_is_stored_as_its_leading_number()
     {
         QFETCH(QString, typed);
         const filled_bag bag;
@@ -88,7 +98,7 @@ private Q_SLOTS:
         QTEST(bag.average(7), "stored");
     }
 
-    void what_is_pasted_is_read_like_what_is_typed()
+    void a_pasted_average_is_read_like_a_typed_one()
     {
         const filled_bag bag;
         in_bag([](hand& user) {
@@ -103,19 +113,19 @@ private Q_SLOTS:
         QCOMPARE(bag.name(7), u"Fer \u2116 7"_s);
     }
 
-    void an_average_that_no_number_can_hold_is_a_failure_and_stores_nothing()
+    void an_average_that_exceeds_a_double_is_a_failure_and_nothing_is_stored()
     {
         const filled_bag bag;
         {
             f_sticks window;
-            window.Text1(13).setText(u"1e400"_s);
+            window.set_average(13, u"1e400"_s);
             QVERIFY(failure_of([&] { f_sticks_func::accept(window); }) == failure_kind::overflow);
             window.closeForm();
         }
         QCOMPARE(bag.book.store.number(u"select count(*) from sticks where avg_14 = 3"_s), 1);
     }
 
-    void typed_and_computed_averages_are_not_told_apart()
+    void an_average_typed_over_a_computed_one_is_stored()
     {
         const filled_bag bag;
         in_bag([](hand& user) {
@@ -129,12 +139,12 @@ private Q_SLOTS:
         QCOMPARE(bag.average(5), 140.0);
     }
 
-    void the_last_computation_before_the_answer_counts()
+    void only_the_last_computation_is_stored()
     {
         const filled_bag bag;
         in_bag([](hand& user) {
             compute(user, 0, 2);
-            // Both lists start on the first round.
+            // The first round is selected in both lists at first.
             user.click_row(u"List2"_s, 0);
             user.click(u"Actualiser"_s);
             user.same(user.text(u"Text1_0"_s), u"250"_s, u"the first round alone"_s);
@@ -147,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(bag.shots(5), 0);
     }
 
-    void without_a_choice_the_first_round_is_both_ends()
+    void without_a_selection_the_range_is_the_first_round()
     {
         const filled_bag bag;
         in_bag([](hand& user) {
@@ -173,14 +183,14 @@ private Q_SLOTS:
         QCOMPARE(bag.shots(5), 0);
     }
 
-    void a_shot_past_the_hole_without_its_rest_flew_the_way_to_the_hole_data()
+    void a_shot_past_the_hole_without_a_remaining_distance_counts_the_distance_to_the_hole_data()
     {
         QTest::addColumn<QString>("unit");
         QTest::newRow("feet") << u"'Feets'"_s;
         QTest::newRow("yards") << u"'Yards'"_s;
         QTest::newRow("no unit") << u"null"_s;
     }
-    void a_shot_past_the_hole_without_its_rest_flew_the_way_to_the_hole()
+    void a_shot_past_the_hole_without_a_remaining_distance_counts_the_distance_to_the_hole()
     {
         QFETCH(QString, unit);
         const filled_bag bag;
@@ -196,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(bag.shots(6), 1);
     }
 
-    void zeros_of_a_selection_without_shots_are_kept_on_a_yes()
+    void zeros_of_a_selection_without_shots_are_stored_after_a_Yes()
     {
         const filled_bag bag;
         bag.book.store.write(u"update sticks set shots_1 = 9, shots_14 = 9"_s);
@@ -213,23 +223,23 @@ private Q_SLOTS:
         QCOMPARE(bag.shots(14), 0);
     }
 
-    void a_course_is_chosen_by_its_place_in_the_list()
+    void a_course_is_selected_by_its_position_in_the_list()
     {
         const filled_bag bag;
         bag.book.add(flat_course(u"PINS-5"_s, 4, u"70"_s, u"113"_s));
         bag.book.add(flat_course(u"PINS-2"_s, 4, u"70"_s, u"113"_s));
         {
             f_sticks window;
-            window.cmb_courses->setCurrentIndex(2);
-            QCOMPARE(f_sticks_func::selection_of(window).course_clause, u" AND GAMES2.FC = 'PINS-5'"_s);
-            window.cmb_courses->setCurrentIndex(3);
-            QCOMPARE(f_sticks_func::selection_of(window).course_clause, u" AND GAMES2.FC = 'PINS-2'"_s);
+            choose(window, u"cmb_courses"_s, 2);
+            QCOMPARE(window.filters().selection().course_clause, u" AND GAMES2.FC = 'PINS-5'"_s);
+            choose(window, u"cmb_courses"_s, 3);
+            QCOMPARE(window.filters().selection().course_clause, u" AND GAMES2.FC = 'PINS-2'"_s);
             window.closeForm();
         }
     }
 
-    void a_range_that_runs_backwards_has_no_figures_data() { both_languages(); }
-    void a_range_that_runs_backwards_has_no_figures()
+    void a_reversed_range_has_no_figures_data() { both_languages(); }
+    void a_reversed_range_has_no_figures()
     {
         QFETCH(bool, french);
         const filled_bag bag(french);
@@ -242,7 +252,7 @@ private Q_SLOTS:
         QCOMPARE(bag.average(1), 200.5);
     }
 
-    void the_filters_choose_the_rounds()
+    void the_filters_select_the_rounds()
     {
         const filled_bag bag;
         in_bag([](hand& user) {
@@ -261,27 +271,29 @@ private Q_SLOTS:
         });
     }
 
-    void the_choices_become_clauses_and_texts_data()
+    void the_filters_become_clauses_and_texts_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<bool>("on");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("open, French")
-            << true << false
-            << QStringList{
-                   u" "_s, u" "_s, QString(), u"Toutes"_s, u"TOUS LES PARTENAIRES"_s, u"TOUS LES TERRAINS"_s};
-        QTest::newRow("open, English")
+        QTest::newRow("off, French") << true << false << QStringList{u" "_s,
+                                                                     u" "_s,
+                                                                     QString(),
+                                                                     u"Toutes"_s,
+                                                                     u"TOUS LES PARTENAIRES"_s,
+                                                                     u"TOUS LES TERRAINS"_s};
+        QTest::newRow("off, English")
             << false << false
             << QStringList{u" "_s, u" "_s, QString(), u"ALL"_s, u"All partners"_s, u"All COURSES"_s};
-        QTest::newRow("chosen") << true << true
-                                << QStringList{u" AND (games2.conditionM = 3)"_s,
-                                               u" AND INSTR(GAMES2.PARTNERS,'12')"_s,
-                                               u" AND GAMES2.FC = 'PEBBLE BEACH-3'"_s,
-                                               u"Vent"_s,
-                                               u"Anne, Douze"_s,
-                                               u"Pebble Beach        , OR"_s};
+        QTest::newRow("selected") << true << true
+                                  << QStringList{u" AND (games2.conditionM = 3)"_s,
+                                                 u" AND INSTR(GAMES2.PARTNERS,'12')"_s,
+                                                 u" AND GAMES2.FC = 'PEBBLE BEACH-3'"_s,
+                                                 u"Vent"_s,
+                                                 u"Anne, Douze"_s,
+                                                 u"Pebble Beach        , OR"_s};
     }
-    void the_choices_become_clauses_and_texts()
+    void the_filters_become_clauses_and_texts()
     {
         QFETCH(bool, french);
         QFETCH(bool, on);
@@ -289,11 +301,11 @@ private Q_SLOTS:
         {
             f_sticks window;
             if (on) {
-                window.conditions->setCurrentIndex(4);
-                window.pList->setCurrentIndex(1);
-                window.cmb_courses->setCurrentIndex(1);
+                choose(window, u"conditions"_s, 4);
+                choose(window, u"pList"_s, 1);
+                choose(window, u"cmb_courses"_s, 1);
             }
-            const selection_arguments got = f_sticks_func::selection_of(window);
+            const selection_arguments got = window.filters().selection();
             const QStringList seen{got.weather_clause, got.partner_clause, got.course_clause,
                                    got.weather_text,   got.partner_text,   got.course_text};
             QTEST(seen, "expected");

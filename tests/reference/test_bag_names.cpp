@@ -4,6 +4,7 @@
 #include "records/Main_module.h"
 #include "reference/f_sticks.h"
 #include "tests/reference/golf_bags.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -14,8 +15,8 @@ class test_bag_names : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_no_leaves_the_store_and_keeps_the_new_names_for_the_run_data() { both_languages(); }
-    void a_no_leaves_the_store_and_keeps_the_new_names_for_the_run()
+    void No_stores_nothing_and_keeps_the_new_names_for_the_run_data() { both_languages(); }
+    void No_stores_nothing_and_keeps_the_new_names_for_the_run()
     {
         QFETCH(bool, french);
         const filled_bag bag(french);
@@ -33,7 +34,7 @@ private Q_SLOTS:
         QVERIFY(!Main_module::club_names_kept);
     }
 
-    void a_yes_keeps_names_too()
+    void Yes_stores_the_names()
     {
         const filled_bag bag;
         in_bag([](hand& user) {
@@ -46,7 +47,7 @@ private Q_SLOTS:
         QCOMPARE(bag.average(1), 200.5);
     }
 
-    void any_name_is_kept_as_it_is_written_data()
+    void any_name_is_stored_as_it_is_typed_data()
     {
         QTest::addColumn<QString>("name");
         QTest::newRow("accents") << u"Bâton à é ÿ œ"_s;
@@ -56,7 +57,7 @@ private Q_SLOTS:
         QTest::newRow("long") << QString(400, u'W');
         QTest::newRow("none") << QString();
     }
-    void any_name_is_kept_as_it_is_written()
+    void any_name_is_stored_as_it_is_typed()
     {
         QFETCH(QString, name);
         const filled_bag bag;
@@ -81,7 +82,7 @@ private Q_SLOTS:
         });
     }
 
-    void after_a_no_the_bag_has_the_new_name_again_and_a_yes_keeps_it()
+    void after_a_No_the_bag_still_shows_the_new_name_and_a_Yes_stores_it()
     {
         const filled_bag bag;
         in_bag([](hand& user) {
@@ -102,12 +103,13 @@ private Q_SLOTS:
         QVERIFY(Main_module::club_names_kept);
     }
 
-    void a_long_name_is_read_from_its_beginning()
+    void a_long_name_is_shown_from_its_beginning()
     {
         const filled_bag bag;
         Main_module::club_names[2] = QString(60, u'W');
         in_bag([](hand& user) {
-            user.look([] { QCOMPARE(dynamic_cast<f_sticks&>(*form_at_work()).sn(2).cursorPosition(), 0); });
+            user.look(
+                [] { QCOMPARE(dynamic_cast<QLineEdit&>(*find_control(u"sn_2"_s)).cursorPosition(), 0); });
             user.click(u"Fer"_s);
         });
     }

@@ -36,7 +36,7 @@ private Q_SLOTS:
         });
     }
 
-    void figures_have_their_unit_and_boxes_that_nothing_reads_have_words_data()
+    void figures_have_a_unit_and_disabled_boxes_have_labels_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("words");
@@ -44,7 +44,7 @@ private Q_SLOTS:
         QTest::newRow("English") << false
                                  << u"yards|yards|Time :|between |and |Temperature :|between |and "_s;
     }
-    void figures_have_their_unit_and_boxes_that_nothing_reads_have_words()
+    void figures_have_a_unit_and_disabled_boxes_have_labels()
     {
         QFETCH(bool, french);
         QFETCH(QString, words);
@@ -60,8 +60,8 @@ private Q_SLOTS:
         });
     }
 
-    void the_filters_hold_what_the_store_holds_data() { both_languages(); }
-    void the_filters_hold_what_the_store_holds()
+    void the_filters_list_rounds_weathers_partners_and_courses_data() { both_languages(); }
+    void the_filters_list_rounds_weathers_partners_and_courses()
     {
         QFETCH(bool, french);
         const filled_bag bag(french);
@@ -90,13 +90,13 @@ private Q_SLOTS:
             for (const QString& filter : {u"conditions"_s, u"pList"_s, u"cmb_courses"_s})
                 user.same(user.selected(filter), 0, filter);
             for (int box = 14; box <= 17; ++box)
-                user.check(!user.enabled(u"Text1_%1"_s.arg(box)), u"a box that nothing reads"_s);
+                user.check(!user.enabled(u"Text1_%1"_s.arg(box)), u"the box is disabled"_s);
             user.click(u"Fer"_s);
         });
     }
 
-    void the_window_is_placed_and_grows_with_its_filters_data() { both_languages(); }
-    void the_window_is_placed_and_grows_with_its_filters()
+    void the_window_is_placed_and_widened_for_its_filters_data() { both_languages(); }
+    void the_window_is_placed_and_widened_for_its_filters()
     {
         QFETCH(bool, french);
         const filled_bag bag(french);
@@ -120,8 +120,8 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void a_store_without_rounds_is_told_and_no_window_comes_up_data() { both_languages(); }
-    void a_store_without_rounds_is_told_and_no_window_comes_up()
+    void without_rounds_a_message_box_is_shown_and_no_window_opens_data() { both_languages(); }
+    void without_rounds_a_message_box_is_shown_and_no_window_opens()
     {
         QFETCH(bool, french);
         const store_folder store(french);
@@ -140,12 +140,12 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void every_way_out_drops_what_was_typed_data()
+    void every_way_out_except_OK_discards_the_changes_data()
     {
         every_way_out(
             ways_out(bag_window, {{"the cancel button", [](hand& user) { user.click(u"Fer"_s); }}}));
     }
-    void every_way_out_drops_what_was_typed()
+    void every_way_out_except_OK_discards_the_changes()
     {
         QFETCH(leaving, leave);
         const filled_bag bag;

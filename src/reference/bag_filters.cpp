@@ -1,0 +1,187 @@
+#include "reference/bag_filters.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+#include "base/text.h"
+#include "controls/accessible_controls.h"
+#include "controls/control_array.h"
+#include "controls/events.h"
+#include "controls/Form.h"
+#include "controls/list_box.h"
+#include "controls/look.h"
+#include "records/round_list.h"
+#include "records/round_rows.h"
+#include "scoring/limits.h"
+#include "scoring/round_key.h"
+#include "statistics/selection_choice.h"
+#include "statistics/selection_clauses.h"
+#include "statistics/selection_lists.h"
+#include "store/DataEnvironment1.h"
+#include "store/tables/games.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Date, time and a course name of average length in capitals.
+constexpr int characters_of_a_line = 54;
+constexpr int lines_in_view = 6;
+constexpr int characters_of_a_choice = 20;
+constexpr int short_figure = 2;
+
+/// The lines of the stored rounds, with the course in capitals.
+QStringList round_lines()
+{
+    Recordset& games = data_environment().rsgames;
+    QStringList lines;
+    for (; !games.eof(); games.MoveNext())
+        lines << Verdane_tools::round_entry(games.Fields(tables::games::date).text_or_empty(),
+                                            in_capitals(games.Fields(tables::games::field).text_or_empty()),
+                                            Round_functions::round_incomplete());
+    return lines;
+}
+
+}  // namespace
+
+bag_filters::bag_filters(const Form& window)
+    : window_(window),
+      first_round_(named(make_list_box(characters_of_a_line, lines_in_view), u"List1")),
+      last_round_(named(make_list_box(characters_of_a_line, lines_in_view), u"List2")),
+      weather_(named(new QComboBox, u"conditions")),
+      partner_(named(new QComboBox, u"pList")),
+      course_(named(new QComboBox, u"cmb_courses"))
+{
+    setObjectName(u"Frame1"_s);
+    name_control(*this, window.caption(u"Rondes des moyennes", u"Rounds of the averages"));
+    auto* update = named(make_button(window.caption(u"Actualiser", u"Update")), u"Actualiser");
+    on_click(*update, [this] { update_clicked(); });
+    take_double_click_as_one(*update);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    rows->setSpacing(rhythm);
+    rows->addWidget(make_list_frame(u"Fr1", u"lbl_from", window.caption(u"De...", u"From..."), *first_round_),
+                    1);
+    rows->addWidget(make_list_frame(u"Fr2", u"lbl_to", window.caption(u"À...", u"To..."), *last_round_), 1);
+    rows->addLayout(make_choices());
+    rows->addLayout(make_disabled_boxes());
+    rows->addWidget(update, 0, Qt::AlignRight);
+}
+
+QWidget* bag_filters::make_list_frame(QStringView name, QStringView label_name, const QString& words,
+                                      QListWidget& list)
+{
+    auto* frame =
+        named(new QGroupBox(window_.caption(u"Date / Heure / Terrain", u"Date / Time / Course")), name);
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
+    inside->setSpacing(rhythm / 2);
+    inside->addWidget(named(make_label(words, &list), label_name));
+    inside->addWidget(&list, 1);
+    return frame;
+}
+
+QLayout* bag_filters::make_choices()
+{
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(rhythm);
+    form->setVerticalSpacing(rhythm / 2);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    // The window is too narrow for labels beside the lists.
+    form->setRowWrapPolicy(QFormLayout::WrapAllRows);
+    const auto add = [&](QStringView name, const QString& words, QComboBox* filter) {
+        add_filter(*form, named(make_label(words), name), filter);
+        filter->setMinimumContentsLength(characters_of_a_choice);
+        filter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    };
+    add(u"lbl_conditions", window_.caption(u"Conditions atmosphériques :", u"Weather Conditions :"),
+        weather_);
+    add(u"lbl_pList", window_.caption(u"Partenaire :", u"Partners :"), partner_);
+    add(u"lbl_cmb_courses", window_.caption(u"Terrain :", u"Golf Course :"), course_);
+    return form;
+}
+
+/// Boxes for a time of day and a temperature. No filter uses them; they are disabled.
+QLayout* bag_filters::make_disabled_boxes()
+{
+    control_array<QLineEdit> boxes(u"Text1");
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(rhythm / 2);
+    grid->setVerticalSpacing(rhythm / 2);
+    grid->setColumnStretch(5, 1);
+    const std::array<QString, 2> kinds{window_.caption(u"Heure :", u"Time :"),
+                                       window_.caption(u"Température :", u"Temperature :")};
+    // The members before them are the averages of the clubs.
+    int index = club_count;
+    for (int row = 0; row < static_cast<int>(kinds.size()); ++row) {
+        int column = 0;
+        auto* kind = make_label(kinds.at(static_cast<std::size_t>(row)));
+        grid->addWidget(named(kind, u"lbl_unread_%1"_s.arg(row)), row, column++);
+        for (const QString& word :
+             {window_.caption(u"entre ", u"between "), window_.caption(u"et ", u"and ")}) {
+            auto* label = named(make_label(word), u"lbl_Text1_%1"_s.arg(index));
+            auto* box = boxes.add(index++, make_number_box(short_figure));
+            box->setEnabled(false);
+            box->setAccessibleName(word);
+            grid->addWidget(label, row, column++);
+            grid->addWidget(box, row, column++);
+        }
+    }
+    return grid;
+}
+
+void bag_filters::fill_weather()
+{
+    fill_weather_filter(*weather_, window_.french());
+}
+
+bool bag_filters::fill_rounds()
+{
+    DataEnvironment1& store = data_environment();
+    Round_functions::open_rounds_in_time_order();
+    store.rsfield_info.Open();
+    const QStringList lines = round_lines();
+    for (QListWidget* list : {first_round_, last_round_})
+        fill_list_box(*list, lines);
+    store.rsgames.Close();
+    store.rsfield_info.Close();
+    return !lines.isEmpty();
+}
+
+void bag_filters::fill_partners_and_courses()
+{
+    fill_partner_filter(*partner_, window_.french());
+    fill_course_filter(*course_, window_.french(), tee_letters::capitals);
+    for (QComboBox* filter : {partner_, course_})
+        filter->setCurrentIndex(0);
+}
+
+selection_arguments bag_filters::selection() const
+{
+    selection_arguments chosen;
+    chosen.from_key = chosen_round_key(*first_round_);
+    chosen.to_key = chosen_round_key(*last_round_);
+    chosen.weather_clause = clause_of(filter::weather, clause_form::appended, chosen_weather(*weather_));
+    chosen.weather_text = weather_->currentText();
+    chosen.partner_clause = clause_of(filter::partner, clause_form::appended, chosen_partner(*partner_));
+    chosen.partner_text = is_on(*partner_) ? partner_->currentText()
+                                           : window_.caption(u"TOUS LES PARTENAIRES", u"All partners");
+    const QString course = chosen_course(*course_);
+    chosen.course_clause =
+        course.isEmpty() ? QString() : clause_of(filter::course, clause_form::appended, course);
+    chosen.course_text =
+        is_on(*course_) ? course_->currentText() : window_.caption(u"TOUS LES TERRAINS", u"All COURSES");
+    return chosen;
+}
+
+}  // namespace verdane

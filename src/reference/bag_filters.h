@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QString>
+
+#include <functional>
+
+#include "statistics/selection_arguments.h"
+
+class QComboBox;
+class QLayout;
+class QListWidget;
+
+namespace verdane {
+
+class Form;
+
+/// The right half of the golf bag: the rounds from which the averages are computed, selected by their range,
+/// the weather, a partner and a course.
+class bag_filters : public QGroupBox {
+public:
+    /// Makes the filters in the language of their window.
+    explicit bag_filters(const Form& window);
+
+    void fill_weather();
+    /// Fills both lists of rounds from the store. False when it holds no round.
+    bool fill_rounds();
+    void fill_partners_and_courses();
+
+    /// The selection that the filters describe. The texts for filters that are off are the golf bag's own.
+    selection_arguments selection() const;
+
+    /// Called by the update button.
+    std::function<void()> update_clicked;
+
+private:
+    QWidget* make_list_frame(QStringView name, QStringView label_name, const QString& words,
+                             QListWidget& list);
+    QLayout* make_choices();
+    QLayout* make_disabled_boxes();
+
+    const Form& window_;
+    QListWidget* first_round_;
+    QListWidget* last_round_;
+    QComboBox* weather_;
+    QComboBox* partner_;
+    QComboBox* course_;
+};
+
+}  // namespace verdane
