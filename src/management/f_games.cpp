@@ -19,13 +19,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Date, time, a course's name of some length and the mark.
+/// Date, time, a course name of average length and the mark.
 constexpr int characters_of_a_line = 62;
 constexpr int lines_in_view = 16;
 
 }  // namespace
 
-f_games::f_games() : Form(u"f_games")
+f_games::f_games()
+    : Form(u"f_games"), lines_(named(make_list_box(characters_of_a_line, lines_in_view), u"List1"))
 {
     build();
     connect_events();
@@ -54,11 +55,10 @@ QWidget* f_games::make_rounds_frame()
 {
     auto* frame =
         named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), u"Frame1");
-    List1 = named(make_list_box(characters_of_a_line, lines_in_view), u"List1");
-    List1->setAccessibleName(frame->title());
+    lines_->setAccessibleName(frame->title());
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
-    inside->addWidget(List1);
+    inside->addWidget(lines_);
     return frame;
 }
 
@@ -69,20 +69,20 @@ QWidget* f_games::make_buttons()
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(rhythm);
     rows->addSpacing(2 * rhythm);
-    rows->addWidget(Command1.add(open, make_button(caption(u"Ouvrir", u"Open"))));
-    rows->addWidget(Command1.add(add, make_button(caption(u"Ajouter", u"Add"))));
-    rows->addWidget(Command1.add(remove, make_button(caption(u"Supprimer", u"Remove"))));
+    rows->addWidget(buttons_.add(open, make_button(caption(u"Ouvrir", u"Open"))));
+    rows->addWidget(buttons_.add(add, make_button(caption(u"Ajouter", u"Add"))));
+    rows->addWidget(buttons_.add(remove, make_button(caption(u"Supprimer", u"Remove"))));
     rows->addStretch(1);
-    rows->addWidget(Command1.add(ok, make_button(u"OK"_s)));
+    rows->addWidget(buttons_.add(ok, make_button(u"OK"_s)));
     return column;
 }
 
 void f_games::connect_events()
 {
-    for (const auto& [index, button] : Command1.members())
+    for (const auto& [index, button] : buttons_.members())
         on_click(*button, [this, which = index] { f_games_func::on_command(*this, which); });
-    on_double_click(*List1, [this] { f_games_func::on_command(*this, open); });
-    on_enter(*List1, [this] { f_games_func::on_command(*this, open); });
+    on_double_click(*lines_, [this] { f_games_func::on_command(*this, open); });
+    on_enter(*lines_, [this] { f_games_func::on_command(*this, open); });
     shortcuts().mention(shortcut_table::open_round);
 }
 

@@ -8,8 +8,8 @@ class QPushButton;
 
 namespace verdane {
 
-/// The list of stored rounds, from which the user reopens one, adds another or removes one; in
-/// English `f_games_en`.
+/// The list of stored rounds (`f_games`, `f_games_en`), from which the user reopens, adds and removes
+/// rounds.
 ///
 /// The constructor loads it: `rsgames` and `rsfield_info` are opened and stay open, because a round that is
 /// opened from here uses them. The window of that round unloads the list and closes both; a list that the
@@ -17,13 +17,13 @@ namespace verdane {
 /// returns at once.
 class f_games final : public Form {
 public:
-    /// The members of `Command1`.
+    /// The members of the control array `Command1`.
     enum command { open = 0, add = 1, ok = 2, remove = 3 };
 
     f_games();
 
-    QListWidget* List1 = nullptr;
-    control_array<QPushButton> Command1{u"Command1"};
+    /// One line for each round, oldest first.
+    QListWidget& lines() const { return *lines_; }
 
     /// Same as the OK button.
     void closeForm() override;
@@ -37,6 +37,9 @@ private:
     QWidget* make_rounds_frame();
     QWidget* make_buttons();
     void connect_events();
+
+    QListWidget* lines_;
+    control_array<QPushButton> buttons_{u"Command1"};
 };
 
 }  // namespace verdane

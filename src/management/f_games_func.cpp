@@ -44,11 +44,11 @@ void stop_without_rounds(f_games& window)
 
 void open_selected_round(f_games& window)
 {
-    const QListWidgetItem* selected = window.List1->currentItem();
+    const QListWidgetItem* selected = window.lines().currentItem();
     if (!selected)
         return;
     open_stored_round(Verdane_tools::key_of_entry(selected->text()));
-    // A round window that refused the round has not closed everything.
+    // A round window that refused the round leaves recordsets open.
     close_recordsets();
 }
 
@@ -70,14 +70,14 @@ void remove_selected_entry(QListWidget& list)
 
 void remove_selected_round(f_games& window)
 {
-    const QListWidgetItem* selected = window.List1->currentItem();
+    const QListWidgetItem* selected = window.lines().currentItem();
     if (!selected)
         return;
     const QString key = Verdane_tools::key_of_entry(selected->text());
     if (!removal_is_wanted(window))
         return;
     remove_round(key);
-    remove_selected_entry(*window.List1);
+    remove_selected_entry(window.lines());
     tell(window.caption(u"Ronde supprimée", u"Round removed"), QMessageBox::Information);
 }
 
@@ -94,7 +94,7 @@ void load(f_games& window)
         stop_without_rounds(window);
         return;
     }
-    fill_list_box(*window.List1, Round_functions::round_list_lines());
+    fill_list_box(window.lines(), Round_functions::round_list_lines());
 }
 
 void on_command(f_games& window, int index)

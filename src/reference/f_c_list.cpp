@@ -23,7 +23,7 @@ constexpr int list_characters = 40;
 
 }  // namespace
 
-f_c_list::f_c_list() : Form(u"f_c_list"), List1(named(make_list_box(list_characters), u"List1"))
+f_c_list::f_c_list() : Form(u"f_c_list"), lines_(named(make_list_box(list_characters), u"List1"))
 {
     setWindowTitle(caption(u"Gestion des terrains", u"Golf Course Management "));
     auto* columns = new QHBoxLayout(this);
@@ -32,54 +32,54 @@ f_c_list::f_c_list() : Form(u"f_c_list"), List1(named(make_list_box(list_charact
     columns->addWidget(scrolled(make_list()), 1);
     columns->addLayout(make_buttons());
     set_tab_order();
-    wire();
+    connect_events();
     take_size(usual_size);
     f_c_list_func::load(*this);
 }
 
 QLayout* f_c_list::make_list()
 {
-    auto* heading = make_label(caption(u"Terrain / Terte", u"Golf Course / Teeing Area"), List1);
+    auto* heading = make_label(caption(u"Terrain / Terte", u"Golf Course / Teeing Area"), lines_);
     auto* column = new QVBoxLayout;
     column->setSpacing(rhythm);
     column->addWidget(named(heading, u"lbl_list"));
-    column->addWidget(List1);
+    column->addWidget(lines_);
     return column;
 }
 
 QLayout* f_c_list::make_buttons()
 {
-    Command1.add(0, make_button(caption(u" Ouvrir", u"Open")));
-    Command1.add(1, make_button(caption(u"Ajouter", u"Add")));
-    Command1.add(2, make_button(u"OK"_s));
-    Command1.add(3, make_button(caption(u"Supprimer", u"Delete")));
+    buttons_.add(open, make_button(caption(u" Ouvrir", u"Open")));
+    buttons_.add(add, make_button(caption(u"Ajouter", u"Add")));
+    buttons_.add(ok, make_button(u"OK"_s));
+    buttons_.add(remove, make_button(caption(u"Supprimer", u"Delete")));
     auto* column = new QVBoxLayout;
     column->setSpacing(rhythm);
-    // In line with the list, whose heading stands above it.
+    // The first button is level with the top of the list, which has a heading above it.
     column->addSpacing(fontMetrics().height() + rhythm);
-    column->addWidget(&Command1(0));
-    column->addWidget(&Command1(1));
-    column->addWidget(&Command1(3));
+    column->addWidget(&buttons_(open));
+    column->addWidget(&buttons_(add));
+    column->addWidget(&buttons_(remove));
     column->addStretch();
-    column->addWidget(&Command1(2));
+    column->addWidget(&buttons_(ok));
     return column;
 }
 
 void f_c_list::set_tab_order()
 {
-    setTabOrder(List1, &Command1(0));
-    setTabOrder(&Command1(0), &Command1(1));
-    setTabOrder(&Command1(1), &Command1(3));
-    setTabOrder(&Command1(3), &Command1(2));
-    List1->setFocus();
+    setTabOrder(lines_, &buttons_(open));
+    setTabOrder(&buttons_(open), &buttons_(add));
+    setTabOrder(&buttons_(add), &buttons_(remove));
+    setTabOrder(&buttons_(remove), &buttons_(ok));
+    lines_->setFocus();
 }
 
-void f_c_list::wire()
+void f_c_list::connect_events()
 {
-    for (const auto& [index, button] : Command1.members())
-        on_click(*button, [this, i = index] { f_c_list_func::command(*this, i); });
-    on_double_click(*List1, [this] { f_c_list_func::command(*this, 0); });
-    on_enter(*List1, [this] { f_c_list_func::command(*this, 0); });
+    for (const auto& [index, clicked] : buttons_.members())
+        on_click(*clicked, [this, i = index] { f_c_list_func::command(*this, i); });
+    on_double_click(*lines_, [this] { f_c_list_func::command(*this, open); });
+    on_enter(*lines_, [this] { f_c_list_func::command(*this, open); });
     shortcuts().mention(shortcut_table::open_course);
 }
 

@@ -10,19 +10,20 @@ class QPushButton;
 namespace verdane {
 
 /// The course list (`f_c_list`, `f_c_list_en`): every course and tee of the store, from which courses
-/// are opened in the editor, added and removed. While it is loaded it keeps `rsvrd_fields` and
-/// `rsfield_info` open.
+/// are opened in the editor, added and removed. `rsvrd_fields` and `rsfield_info` are open until it is
+/// unloaded.
 ///
-/// Made, it is loaded: it fails with `subscript` when the store has more courses than the list can
+/// The constructor loads it; it fails with `subscript` when the store has more courses than the list can
 /// hold.
 class f_c_list : public Form {
 public:
+    /// The members of the control array `Command1`.
+    enum button { open = 0, add = 1, ok = 2, remove = 3 };
+
     f_c_list();
 
-    /// One line a row of `vrd_fields`, in table order.
-    QListWidget* List1;
-    /// 0 open, 1 add, 2 OK, 3 delete.
-    control_array<QPushButton> Command1{u"Command1"};
+    /// One line for each row of `vrd_fields`, in table order.
+    QListWidget& lines() const { return *lines_; }
 
     void closeForm() override;
 
@@ -33,7 +34,10 @@ private:
     QLayout* make_list();
     QLayout* make_buttons();
     void set_tab_order();
-    void wire();
+    void connect_events();
+
+    QListWidget* lines_;
+    control_array<QPushButton> buttons_{u"Command1"};
 };
 
 }  // namespace verdane

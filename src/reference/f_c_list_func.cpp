@@ -37,18 +37,17 @@ QString list_line()
            Verdane_tools::tee_name(code.right(1));
 }
 
-/// A course that was added since the list was filled has no line, so rows do not mean that a line is
-/// selected: with none there is nothing to open or to remove.
+/// A course that was added since the list was filled has no line, so there may be rows and no selected line.
 bool has_selection(const f_c_list& window)
 {
-    return !courses().empty() && window.List1->currentRow() >= 0;
+    return !courses().empty() && window.lines().currentRow() >= 0;
 }
 
 void open_selected(f_c_list& window)
 {
     if (!has_selection(window))
         return;
-    Round_functions::move_to_course(window.List1->currentRow());
+    Round_functions::move_to_course(window.lines().currentRow());
     if (courses().bof() || courses().eof())
         tell(u"Fatal error : F not found"_s);
     else
@@ -63,13 +62,13 @@ void add_course()
     holes().AddNew();
     f_courses editor(true);
     editor.show_modal();
-    // The list stays as it is until it is opened again, but the next course that is added must not take the
-    // code of this one. The last save does not say whether there is one: an earlier one may have stored it.
+    // The lines are not updated until the list is opened again, but the next course that is added must not
+    // get the code of this one. `saveSucceed` is not enough here: an earlier save may have stored the course.
     if (!courses().eof())
         remember_new_course(courses());
 }
 
-void tell_in_use(const f_c_list& window, const QString& key)
+void refuse_course_in_use(const f_c_list& window, const QString& key)
 {
     tell(window.caption(
              u"Verdane ne peut pas supprimer ce terrain. La ronde ",
@@ -84,7 +83,7 @@ void delete_from_store(const QString& code)
     connection.Execute(u"Delete from FIELD_INFO where FIELD_CODE = " + quoted(code));
 }
 
-/// Lines and rows keep the same place only when the rows are read again.
+/// Reads the rows again, so that the position of a line is that of its row.
 void reread_rows()
 {
     courses().Requery();
@@ -94,16 +93,16 @@ void reread_rows()
 
 void remove_line(f_c_list& window)
 {
-    delete window.List1->takeItem(window.List1->currentRow());
-    if (window.List1->count() > 0)
-        window.List1->setCurrentRow(0);
+    delete window.lines().takeItem(window.lines().currentRow());
+    if (window.lines().count() > 0)
+        window.lines().setCurrentRow(0);
 }
 
 void ask_and_remove(f_c_list& window, const QString& code)
 {
     const QString question =
         window.caption(u"Voulez vous supprimer le terrain : ", u"Do you want to remove the golf course : ");
-    if (!ask_yes_no(question + window.List1->currentItem()->text()))
+    if (!ask_yes_no(question + window.lines().currentItem()->text()))
         return;
     delete_from_store(code);
     reread_rows();
@@ -115,16 +114,16 @@ void remove_selected(f_c_list& window)
 {
     if (!has_selection(window))
         return;
-    Round_functions::move_to_course(window.List1->currentRow());
+    Round_functions::move_to_course(window.lines().currentRow());
     const QString code = courses().Fields(tables::vrd_fields::code).text();
-    // Only the first round that is found is named: the earliest.
+    // Only the first round that is found, the earliest, is named.
     Round_functions::open_rounds_in_time_order();
     Recordset& rsgames = data_environment().rsgames;
     rsgames.Find(u"CODEF =" + quoted(code));
     if (rsgames.eof())
         ask_and_remove(window, code);
     else
-        tell_in_use(window, Verdane_tools::key_text(rsgames.Fields(tables::games::date).trimmed()));
+        refuse_course_in_use(window, Verdane_tools::key_text(rsgames.Fields(tables::games::date).trimmed()));
     rsgames.Close();
 }
 
@@ -141,24 +140,24 @@ void load(f_c_list& window)
         return;
     courses().MoveFirst();
     for (int index = 0; !courses().eof(); ++index) {
-        window.List1->addItem(list_line());
+        window.lines().addItem(list_line());
         keep_course_key(index, courses());
         courses().MoveNext();
     }
-    window.List1->setCurrentRow(0);
+    window.lines().setCurrentRow(0);
     courses().MoveFirst();
 }
 
 void command(f_c_list& window, int index)
 {
     switch (index) {
-    case 0:
+    case f_c_list::open:
         return open_selected(window);
-    case 1:
+    case f_c_list::add:
         return add_course();
-    case 2:
+    case f_c_list::ok:
         return close(window);
-    case 3:
+    case f_c_list::remove:
         return remove_selected(window);
     default:
         return;
@@ -175,7 +174,7 @@ void unload()
 {
     courses().Close();
     holes().Close();
-    // The title bar's close box comes here without passing through `close`.
+    // The title bar's close box does not call `close`.
     Unlock_menu();
 }
 

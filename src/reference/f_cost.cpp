@@ -40,7 +40,7 @@ constexpr std::array<text_pair, amount_count> captions = {{
     {u"Autres :", u"Other :"},
 }};
 
-/// The mark beside every amount; which currency it stands for is the user's affair.
+/// The mark beside every amount. The user decides which currency it means.
 QLabel* make_mark(const QString& name)
 {
     return named(make_label(u"$"_s), name);
@@ -50,13 +50,13 @@ QLabel* make_mark(const QString& name)
 
 f_cost::f_cost(total_listener closed_with_total)
     : Form(u"f_cost"),
-      Text1(named(make_figure(total_digits), u"Text1")),
-      OKButton(named(make_button(u"OK"_s), u"OKButton")),
+      total_(named(make_figure(total_digits), u"Text1")),
+      ok_(named(make_button(u"OK"_s), u"OKButton")),
       closed_with_total_(std::move(closed_with_total))
 {
     setWindowTitle(caption(u"Coûts", u"Costs"));
     lay_out();
-    wire();
+    connect_events();
     load(*this);
 }
 
@@ -85,7 +85,7 @@ QLayout* f_cost::make_amounts()
 
 void f_cost::add_amount(QGridLayout& grid, int index, const QString& caption)
 {
-    QLineEdit* box = cost.add(index, make_number_box(total_digits));
+    QLineEdit* box = amounts_.add(index, make_number_box(total_digits));
     box->setText(u"0"_s);
     const QString number = QString::number(index);
     grid.addWidget(named(make_label(caption, box), QString(u"lbl_cost_" + number)), index, caption_column);
@@ -99,52 +99,57 @@ void f_cost::add_total(QGridLayout& grid)
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Sunken);
     grid.addWidget(line, amount_count, caption_column, 1, mark_column + 1);
-    auto* label = named(make_label(u"Total :"_s, Text1), u"lbl_total");
+    auto* label = named(make_label(u"Total :"_s, total_), u"lbl_total");
     QFont bold = label->font();
     bold.setBold(true);
     label->setFont(bold);
-    Text1->setFont(bold);
-    // A row of zeros changes no box, and so makes no total.
-    Text1->setText(u"0"_s);
+    total_->setFont(bold);
+    // Loading a row of zeros changes no box, and therefore does not compute the total.
+    total_->setText(u"0"_s);
     const int row = amount_count + 1;
     grid.addWidget(label, row, caption_column);
-    grid.addWidget(Text1, row, amount_column);
+    grid.addWidget(total_, row, amount_column);
     grid.addWidget(make_mark(u"lbl_mark_total"_s), row, mark_column);
 }
 
 QLayout* f_cost::make_foot()
 {
     auto* notice = make_label(caption(u"Arrondir à l'unité près.", u"To be rounded without decimals."));
-    OKButton->setMinimumWidth(12 * rhythm);
+    ok_->setMinimumWidth(12 * rhythm);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(2 * rhythm);
     foot->addWidget(named(notice, u"Label2"));
     foot->addStretch();
-    foot->addWidget(OKButton);
+    foot->addWidget(ok_);
     return foot;
 }
 
-void f_cost::wire()
+void f_cost::connect_events()
 {
-    for (const auto& [index, box] : cost.members()) {
-        // Pasted digits may be fewer than those that stand there, which count for a key.
+    for (const auto& [index, box] : amounts_.members()) {
+        // A pasted text has a filter of its own: it may replace the digits that make the box full for a key.
         filter_pasted_text(*box, digits_only);
         filter_keys(*box, [this, i = index](QChar key) { return box_key(*this, i, key); });
         when_entered(*box, [this, i = index] { enter_box(*this, i); });
         on_change(*box, [this, i = index] { box_changed(*this, i); });
     }
-    on_click(*OKButton, [this] { f_cost_func::accept(*this); });
+    on_click(*ok_, [this] { f_cost_func::accept(*this); });
+}
+
+void f_cost::show_total(const QString& total)
+{
+    total_->setText(total);
 }
 
 void f_cost::activated()
 {
-    cost(0).setFocus();
+    amounts_(0).setFocus();
 }
 
 void f_cost::unloading()
 {
     if (closed_with_total_)
-        closed_with_total_(Text1->text());
+        closed_with_total_(total_->text());
 }
 
 }  // namespace verdane

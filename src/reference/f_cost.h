@@ -12,23 +12,20 @@ class QPushButton;
 
 namespace verdane {
 
-/// The twelve amounts of money of a round (`f_cost`, `f_cost_en`). It edits the current row of
-/// `rscost`, which whoever opens the window has placed; the row changes only through OK.
+/// The twelve costs of a round (`f_cost`, `f_cost_en`). It edits the current row of `rscost`, to which the
+/// caller has moved; only OK changes the row.
 class f_cost : public Form {
 public:
-    /// Told, however the window closes, the total that it showed last. After any way out but OK that
-    /// is the total of what was typed, while the row keeps its old amounts.
+    /// Called when the window closes, with the total that it showed last. If it was not closed by OK, this
+    /// is the total of what was typed, while the row has its old amounts.
     using total_listener = std::function<void(const QString& total)>;
 
-    /// Made, the window is loaded. Fails with `overflow` when the stored amounts are more together
-    /// than 16 bits hold.
+    /// Loads the window. Fails with `overflow` when the total of the stored amounts exceeds 16 bits.
     explicit f_cost(total_listener closed_with_total);
 
-    /// Member i is ordinal i + 1 of `cost`.
-    control_array<QLineEdit> cost{u"cost"};
-    /// The sum of the twelve.
-    QLineEdit* Text1;
-    QPushButton* OKButton;
+    /// The boxes of the amounts. Member i is ordinal i + 1 of the table.
+    const control_array<QLineEdit>& amounts() const { return amounts_; }
+    void show_total(const QString& total);
 
 protected:
     void activated() override;
@@ -40,8 +37,11 @@ private:
     void add_amount(QGridLayout& grid, int index, const QString& caption);
     void add_total(QGridLayout& grid);
     QLayout* make_foot();
-    void wire();
+    void connect_events();
 
+    control_array<QLineEdit> amounts_{u"cost"};
+    QLineEdit* total_;
+    QPushButton* ok_;
     total_listener closed_with_total_;
 };
 

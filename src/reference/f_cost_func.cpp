@@ -27,7 +27,7 @@ int16 total(const f_cost& window)
 {
     int16 sum = 0;
     for (int index = 0; index < amount_count; ++index)
-        sum = to_int16(plain(sum) + leading_number(window.cost(index).text()));
+        sum = to_int16(plain(sum) + leading_number(window.amounts()(index).text()));
     return sum;
 }
 
@@ -36,42 +36,42 @@ int16 total(const f_cost& window)
 void load(f_cost& window)
 {
     for (int index = 0; index < amount_count; ++index) {
-        QLineEdit& box = window.cost(index);
+        QLineEdit& box = window.amounts()(index);
         box.setText(QString::number(plain(stored_amount(index).int32_or_zero())));
-        // No longer text can be pasted; an amount that is longer already is shown whole.
+        // Prevents that a longer text is pasted. An amount that is longer already is shown completely.
         box.setMaxLength(std::max(amount_digits, static_cast<int>(box.text().size())));
     }
 }
 
 void box_changed(f_cost& window, int index)
 {
-    QLineEdit& box = window.cost(index);
+    QLineEdit& box = window.amounts()(index);
     if (trimmed_blanks(box.text()).isEmpty()) {
-        // Comes back here with the "0". It stands selected, so that the next digit replaces it.
+        // This calls `box_changed` again, which computes the total. The next digit replaces the "0".
         box.setText(u"0"_s);
         box.selectAll();
         return;
     }
-    window.Text1->setText(QString::number(plain(total(window))));
+    window.show_total(QString::number(plain(total(window))));
 }
 
 key_answer box_key(const f_cost& window, int index, QChar key)
 {
     if (key == backspace)
         return key_answer::pass;
-    const bool full = trimmed_blanks(window.cost(index).text()).size() >= amount_digits;
+    const bool full = trimmed_blanks(window.amounts()(index).text()).size() >= amount_digits;
     return is_plain_digit(key) && !full ? key_answer::pass : key_answer::refuse;
 }
 
 void enter_box(f_cost& window, int index)
 {
-    select_characters(window.cost(index), amount_digits);
+    select_characters(window.amounts()(index), amount_digits);
 }
 
 void accept(f_cost& window)
 {
     for (int index = 0; index < amount_count; ++index)
-        stored_amount(index).set(to_int32(window.cost(index).text()));
+        stored_amount(index).set(to_int32(window.amounts()(index).text()));
     data_environment().rscost.Update();
     window.unload();
 }

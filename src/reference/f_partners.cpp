@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <array>
+
 #include "controls/control_array.h"
 #include "controls/data_grid.h"
 #include "controls/events.h"
@@ -23,8 +25,8 @@ using namespace f_partners_func;
 using namespace Qt::StringLiterals;
 
 constexpr QSize usual_size(960, 480);
-/// Characters that the columns are wide at first.
-constexpr int widths[] = {18, 18, 26, 18, 18, 28, 8};
+/// The initial widths of the columns, in characters.
+constexpr std::array<int, f_partners::column_count> widths{18, 18, 26, 18, 18, 28, 8};
 
 std::vector<bound_column> columns(const Form& window)
 {
@@ -42,10 +44,10 @@ std::vector<bound_column> columns(const Form& window)
 void set_widths(data_grid& grid)
 {
     const int character = grid.fontMetrics().averageCharWidth();
-    for (int column = 0; column < static_cast<int>(std::size(widths)); ++column)
-        grid.setColumnWidth(column, widths[column] * character);
-    // The longest texts take what room there is.
-    for (const int column : {2, 5})
+    for (int column = 0; column < f_partners::column_count; ++column)
+        grid.setColumnWidth(column, widths.at(static_cast<std::size_t>(column)) * character);
+    // The columns with the longest texts share the remaining width.
+    for (const int column : {f_partners::address, f_partners::mail})
         grid.horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
 }
 
@@ -53,17 +55,17 @@ void set_widths(data_grid& grid)
 
 f_partners::f_partners()
     : Form(u"f_partners"),
-      Frame1(named(new QGroupBox(caption(u"Partenaires", u"Partners")), u"Frame1")),
-      pgrid(make_grid()),
-      add(named(make_button(caption(u"Ajouter", u"Add")), u"add")),
-      Del(named(make_button(caption(u"Supprimer", u"Remove")), u"Del")),
-      cmdSave(named(make_button(u"OK"_s), u"cmdSave")),
-      cmdAn(named(make_button(caption(u"Annuler", u"Cancel")), u"cmdAn"))
+      frame_(named(new QGroupBox(caption(u"Partenaires", u"Partners")), u"Frame1")),
+      grid_(make_grid()),
+      add_(named(make_button(caption(u"Ajouter", u"Add")), u"add")),
+      remove_(named(make_button(caption(u"Supprimer", u"Remove")), u"Del")),
+      ok_(named(make_button(u"OK"_s), u"cmdSave")),
+      cancel_(named(make_button(caption(u"Annuler", u"Cancel")), u"cmdAn"))
 {
     setWindowTitle(caption(u"Partenaires", u"Partner Management "));
     lay_out();
     set_tab_order();
-    wire();
+    connect_events();
     take_size(usual_size);
     load(*this);
 }
@@ -73,7 +75,7 @@ data_grid* f_partners::make_grid() const
     auto* model = new recordset_model(data_environment().rspartners, columns(*this));
     model->before_row_commit = before_row_commit;
     auto* grid = named(new data_grid(model), u"pgrid");
-    grid->setAccessibleName(Frame1->title());
+    grid->setAccessibleName(frame_->title());
     grid->setAlternatingRowColors(true);
     grid->setWordWrap(false);
     grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -92,11 +94,11 @@ void f_partners::lay_out()
 
 QLayout* f_partners::make_content()
 {
-    auto* inside = new QVBoxLayout(Frame1);
+    auto* inside = new QVBoxLayout(frame_);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
-    inside->addWidget(pgrid);
+    inside->addWidget(grid_);
     auto* content = new QVBoxLayout;
-    content->addWidget(Frame1);
+    content->addWidget(frame_);
     return content;
 }
 
@@ -104,32 +106,32 @@ QLayout* f_partners::make_buttons()
 {
     auto* row = new QHBoxLayout;
     row->setSpacing(rhythm);
-    row->addWidget(add);
-    row->addWidget(Del);
+    row->addWidget(add_);
+    row->addWidget(remove_);
     row->addStretch();
-    row->addWidget(cmdSave);
-    row->addWidget(cmdAn);
-    for (QPushButton* button : {add, Del, cmdSave, cmdAn})
+    row->addWidget(ok_);
+    row->addWidget(cancel_);
+    for (QPushButton* button : {add_, remove_, ok_, cancel_})
         button->setMinimumWidth(12 * rhythm);
     return row;
 }
 
 void f_partners::set_tab_order()
 {
-    setTabOrder(pgrid, add);
-    setTabOrder(add, Del);
-    setTabOrder(Del, cmdSave);
-    setTabOrder(cmdSave, cmdAn);
-    pgrid->setFocus();
+    setTabOrder(grid_, add_);
+    setTabOrder(add_, remove_);
+    setTabOrder(remove_, ok_);
+    setTabOrder(ok_, cancel_);
+    grid_->setFocus();
 }
 
-void f_partners::wire()
+void f_partners::connect_events()
 {
-    on_click(*add, [this] { add_partner(*this); });
-    on_click(*Del, [this] { remove_partner(*this); });
-    on_click(*cmdSave, [] { current_form->closeForm(); });
-    on_click(*cmdAn, [this] { closeForm(); });
-    set_cancel_button(*cmdAn);
+    on_click(*add_, [this] { add_partner(*this); });
+    on_click(*remove_, [this] { remove_partner(*this); });
+    on_click(*ok_, [] { current_form->closeForm(); });
+    on_click(*cancel_, [this] { closeForm(); });
+    set_cancel_button(*cancel_);
 }
 
 void f_partners::closeForm()

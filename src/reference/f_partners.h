@@ -11,21 +11,17 @@ namespace verdane {
 class data_grid;
 
 /// The people that the user plays with (`f_partners`, `f_partners_en`): a grid bound to `rspartners`,
-/// which is open while the window lives. Edits reach the recordset row by row and the store when the
-/// window closes; there is no way of cancelling them.
+/// which is open until the window is unloaded. Edits are written to the recordset row by row and to the
+/// store when the window closes; they cannot be cancelled.
 ///
-/// Made, the window is loaded.
+/// The constructor loads it.
 class f_partners : public Form {
 public:
+    enum column { name, first_name, address, city, telephone, mail, code, column_count };
+
     f_partners();
 
-    QGroupBox* Frame1;
-    /// Columns 0 name, 1 first name, 2 and 3 address, 4 telephone, 5 mail, 6 code.
-    data_grid* pgrid;
-    QPushButton* add;
-    QPushButton* Del;
-    QPushButton* cmdSave;
-    QPushButton* cmdAn;
+    data_grid& grid() const { return *grid_; }
 
     /// Stores everything, and closes unless a name is missing.
     void closeForm() override;
@@ -39,7 +35,14 @@ private:
     QLayout* make_content();
     QLayout* make_buttons();
     void set_tab_order();
-    void wire();
+    void connect_events();
+
+    QGroupBox* frame_;
+    data_grid* grid_;
+    QPushButton* add_;
+    QPushButton* remove_;
+    QPushButton* ok_;
+    QPushButton* cancel_;
 };
 
 }  // namespace verdane

@@ -19,27 +19,25 @@ namespace verdane::f_partners_func {
 namespace {
 
 constexpr int highest_provisional_code = 9900;
-constexpr int name_column = 0;
-constexpr int surname_column = 1;
 
 Recordset& partners()
 {
     return data_environment().rspartners;
 }
 
-/// What is being typed reaches its row, and the row gets its code: before anything else happens to the
-/// rows.
+/// Writes the text that is being typed to its row and computes the row's code. To be called before anything
+/// else changes the rows.
 void finish_typing(f_partners& window)
 {
-    window.pgrid->commit_cell();
-    window.pgrid->bound_model().finish_row();
+    window.grid().commit_cell();
+    window.grid().bound_model().finish_row();
 }
 
 void show_cell(f_partners& window, int column)
 {
-    window.pgrid->ReBind();
-    window.pgrid->set_Col(column);
-    window.pgrid->setFocus();
+    window.grid().ReBind();
+    window.grid().set_Col(column);
+    window.grid().setFocus();
 }
 
 void empty_for_null(QStringView column)
@@ -48,7 +46,7 @@ void empty_for_null(QStringView column)
         partners().Fields(column).set(QString());
 }
 
-/// Each name stands behind a blank, the first one too.
+/// A blank precedes each of the two names.
 QString name_of_current()
 {
     QString name;
@@ -68,8 +66,8 @@ bool removal_is_wanted(const f_partners& window)
         window.caption(u"Supprimer ", u"Remove ") + name_of_current());
 }
 
-/// After a removal the partner that follows is the current one, or the last.
-void leave_gap()
+/// Moves from a removed row to the next one, or to the last.
+void leave_removed_row()
 {
     partners().MoveNext();
     if (partners().eof() && !partners().empty())
@@ -81,33 +79,33 @@ bool lacks(QStringView column)
     return partners().Fields(column).trimmed().isEmpty();
 }
 
-void tell_missing_name(const f_partners& window)
+void refuse_missing_name(const f_partners& window)
 {
     tell(window.caption(u"Le nom et le prénom sont des champs obligatoires pour chaque partenaire.",
                         u"First and last names are required fields for each partner."),
          QMessageBox::Critical);
 }
 
-/// A cell without a name: its row and its column.
+/// The position of a cell without a name.
 struct nameless_cell {
     int row;
     int column;
 };
 
-/// Walks the partners up to the first that lacks a name, and tells it. Fails on an empty table.
+/// Finds the first partner that lacks a name and reports it in a message box. Fails on an empty table.
 void look_for_missing_name(const f_partners& window, std::optional<nameless_cell>& missing)
 {
     partners().MoveFirst();
     while (!partners().eof() && !missing) {
         if (lacks(u"NAME") || lacks(u"SURNAME")) {
-            missing = {partners().position(), lacks(u"NAME") ? name_column : surname_column};
-            tell_missing_name(window);
+            missing = {partners().position(), lacks(u"NAME") ? f_partners::name : f_partners::first_name};
+            refuse_missing_name(window);
         }
         partners().MoveNext();
     }
 }
 
-/// The rows are stored even when one of them keeps the window open.
+/// Stores the rows even if one of them keeps the window open.
 std::optional<nameless_cell> check_and_store(f_partners& window)
 {
     std::optional<nameless_cell> missing;
@@ -125,12 +123,12 @@ void load(f_partners& window)
 {
     current_form = &window;
     Place_and_lock(window);
-    // A window that could not store its rows had to leave them open.
+    // An earlier window that failed to store its rows may have left them open.
     close_if_open(partners());
     partners().Open();
     if (!partners().empty())
         partners().MoveFirst();
-    window.pgrid->bind();
+    window.grid().bind();
 }
 
 void add_partner(f_partners& window)
@@ -142,7 +140,7 @@ void add_partner(f_partners& window)
         .set(QRandomGenerator::global()->bounded(highest_provisional_code + 1));
     partners().UpdateBatch();
     partners().MoveLast();
-    show_cell(window, name_column);
+    show_cell(window, f_partners::name);
 }
 
 void before_row_commit()
@@ -161,8 +159,8 @@ void remove_partner(f_partners& window)
         return;
     partners().Delete();
     partners().Update();
-    leave_gap();
-    show_cell(window, window.pgrid->Col());
+    leave_removed_row();
+    show_cell(window, window.grid().Col());
 }
 
 void close(f_partners& window)
@@ -187,7 +185,7 @@ void unload(f_partners& window)
         partners().UpdateBatch();
         partners().Close();
     });
-    window.pgrid->unbind();
+    window.grid().unbind();
     Unlock_menu();
 }
 

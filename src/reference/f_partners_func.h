@@ -4,27 +4,28 @@ namespace verdane {
 
 class f_partners;
 
-/// What the window of the partners does, one routine for each event.
+/// The logic of the partner window, one routine for each event, shared by both twins.
 namespace f_partners_func {
 
-/// Opens `rspartners`, binds the grid to it and stands on the first partner.
+/// Opens `rspartners`, moves to the first partner and binds the grid.
 void load(f_partners& window);
 
-/// Adds a partner with a provisional code and stores it; its row waits for a name.
+/// Adds a partner with a provisional code and without a name, and stores it.
 void add_partner(f_partners& window);
 
-/// A row that was written is about to be left: names are never Null from now on, and the code follows
-/// from them.
+/// Called before a changed row is committed: replaces a Null in the names by the empty text and computes the
+/// code from the names.
 void before_row_commit();
 
 /// Asks, then removes the current partner. Rounds keep the code.
 void remove_partner(f_partners& window);
 
-/// Stores every row, told or not: the first one that lacks a name is told and keeps the window open.
-/// A failure keeps nothing open.
+/// Stores every row and closes the window. The first row that lacks a name is refused with a message box
+/// and keeps the window open, after all rows were stored. A failure does not keep it open.
 void close(f_partners& window);
 
-/// The window goes: stores what is pending and closes `rspartners`. Whatever fails, the window goes.
+/// The window is being unloaded: stores what is pending and closes `rspartners`. A failure does not prevent
+/// it.
 void unload(f_partners& window);
 
 }  // namespace f_partners_func

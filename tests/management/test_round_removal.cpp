@@ -20,11 +20,11 @@ QString lines(hand& user)
     return days.join(u' ');
 }
 
-/// The number of the list's entries, a box above it or not.
+/// The number of entries, also while a message box is open above the list.
 int entries_in_list(hand& user)
 {
     int count = 0;
-    user.look([&] { count = dynamic_cast<f_games&>(*open_form(u"f_games")).List1->count(); });
+    user.look([&] { count = dynamic_cast<f_games&>(*open_form(u"f_games")).lines().count(); });
     return count;
 }
 
@@ -34,8 +34,8 @@ class test_round_removal : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void yes_removes_the_round_from_the_four_tables_data() { both_languages(); }
-    void yes_removes_the_round_from_the_four_tables()
+    void Yes_removes_the_round_from_the_four_tables_data() { both_languages(); }
+    void Yes_removes_the_round_from_the_four_tables()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -45,13 +45,14 @@ private Q_SLOTS:
             user.click(u"Command1_3"_s);
             user.answer(question_on_removal(), QMessageBox::Yes);
             user.wait_for_window(u"message_box"_s);
-            user.same(entries_in_list(user), 2, u"the entry has gone before it is told"_s);
-            user.same(days_stored(store.store), u"1,3 | 1,3 | 1,3 | 1,3"_s, u"and so has the round"_s);
+            user.same(entries_in_list(user), 2, u"entries while the notice is shown"_s);
+            user.same(days_stored(store.store), u"1,3 | 1,3 | 1,3 | 1,3"_s,
+                      u"days stored while the notice is shown"_s);
             user.answer(notice_of_removal());
             user.wait_for_window(list_window());
             user.same(lines(user), u"2003-01-01 2003-01-03"_s, u"lines"_s);
             user.same(user.selected(u"List1"_s), 0, u"selected"_s);
-            user.same(data_environment().rsgames.RecordCount(), 3, u"the open rounds are not read again"_s);
+            user.same(data_environment().rsgames.RecordCount(), 3, u"RecordCount of the open rounds"_s);
             leave_list(user);
         });
         QCOMPARE(days_stored(store.store), u"1,3 | 1,3 | 1,3 | 1,3"_s);
@@ -59,14 +60,14 @@ private Q_SLOTS:
         QCOMPARE(open_recordsets(), QStringList());
     }
 
-    void any_round_of_the_list_can_go_data()
+    void the_first_and_the_last_round_can_be_removed_data()
     {
         QTest::addColumn<int>("row");
         QTest::addColumn<QString>("kept");
         QTest::newRow("the first") << 0 << u"2,3"_s;
         QTest::newRow("the last") << 2 << u"1,2"_s;
     }
-    void any_round_of_the_list_can_go()
+    void the_first_and_the_last_round_can_be_removed()
     {
         QFETCH(int, row);
         QFETCH(QString, kept);
@@ -81,8 +82,8 @@ private Q_SLOTS:
         QCOMPARE(days_stored(store.store), QStringList(4, kept).join(u" | "));
     }
 
-    void no_leaves_tables_and_list_as_they_were_data() { both_languages(); }
-    void no_leaves_tables_and_list_as_they_were()
+    void No_changes_neither_tables_nor_list_data() { both_languages(); }
+    void No_changes_neither_tables_nor_list()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -99,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(days_stored(store.store), u"1,2 | 1,2 | 1,2 | 1,2"_s);
     }
 
-    void escape_at_the_question_is_no_yes()
+    void Escape_at_the_question_removes_nothing()
     {
         const round_store store;
         add_rounds(store.store, 1);
@@ -113,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(days_stored(store.store), u"1 | 1 | 1 | 1"_s);
     }
 
-    void without_a_round_nothing_is_asked()
+    void in_an_empty_list_the_buttons_do_nothing()
     {
         const round_store store;
         add_rounds(store.store, 1);
@@ -123,21 +124,22 @@ private Q_SLOTS:
             user.same(user.selected(u"List1"_s), -1, u"selected"_s);
             for (const auto& button : {u"Command1_3"_s, u"Command1_0"_s}) {
                 user.click(button);
-                user.check(!user.is_open(u"message_box"_s) && user.is_open(list_window()), u"nothing"_s);
+                user.check(!user.is_open(u"message_box"_s) && user.is_open(list_window()),
+                           u"no message box, and the list is open"_s);
             }
             leave_list(user);
         });
         QCOMPARE(days_stored(store.store), u" |  |  | "_s);
     }
 
-    void rows_that_a_round_lacks_are_not_missed_data()
+    void a_round_without_rows_in_a_table_is_removed_data()
     {
         QTest::addColumn<QString>("table");
         QTest::newRow("no shots") << u"Stat_rounds"_s;
         QTest::newRow("no costs") << u"cost"_s;
         QTest::newRow("no situation") << u"games2"_s;
     }
-    void rows_that_a_round_lacks_are_not_missed()
+    void a_round_without_rows_in_a_table_is_removed()
     {
         QFETCH(QString, table);
         for (const bool empty : {false, true}) {
@@ -167,7 +169,7 @@ private Q_SLOTS:
         QFETCH(QString, button);
         const round_store store;
         add_rounds(store.store, 2);
-        // The round window would ask for the clubs of these shots.
+        // The shots have no club, which would keep the round window open.
         store.store.write(u"delete from Stat_rounds where date = '%1'"_s.arg(key_of_day(2)));
         in_list([&](hand& user) {
             remove_round_in_list(user);
@@ -186,7 +188,7 @@ private Q_SLOTS:
         QCOMPARE(open_recordsets(), QStringList());
     }
 
-    void the_statements_stay_the_sources_of_their_recordsets()
+    void the_recordsets_keep_the_statements_of_the_removal_as_sources()
     {
         const round_store store;
         add_rounds(store.store, 1);

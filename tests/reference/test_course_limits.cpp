@@ -17,7 +17,8 @@ using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// What ends the program is tried in a child process: this program again, with a case and a store.
+/// A failure that ends the program is provoked in a child process: this program again, with a case and a
+/// store.
 namespace {
 
 expected_box failure_box(failure_kind kind)
@@ -64,13 +65,13 @@ void type_too_long_a_course(const reader& store)
     });
 }
 
-/// The rows were read when the list opened; a line beyond them has nothing to open.
+/// Opens a line that has no row.
 void open_a_line_without_a_row(const reader& store)
 {
     add_courses(store, 1);
     in_course_list([](hand& user) {
         user.look([] {
-            QListWidget& lines = *dynamic_cast<f_c_list&>(*form_at_work()).List1;
+            QListWidget& lines = dynamic_cast<f_c_list&>(*form_at_work()).lines();
             lines.addItem(u"Ghost, BLANC"_s);
             lines.setCurrentRow(1);
         });
@@ -103,7 +104,7 @@ class test_course_limits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void beyond_a_limit_the_program_ends_and_the_store_stays_data()
+    void a_value_beyond_a_limit_ends_the_program_and_the_store_is_not_changed_data()
     {
         QTest::addColumn<QString>("what");
         QTest::addColumn<int>("courses");
@@ -112,7 +113,7 @@ private Q_SLOTS:
         QTest::newRow("a hole longer than a count holds") << u"hole"_s << 1;
         QTest::newRow("a course longer than a count holds") << u"course"_s << 1;
     }
-    void beyond_a_limit_the_program_ends_and_the_store_stays()
+    void a_value_beyond_a_limit_ends_the_program_and_the_store_is_not_changed()
     {
         QFETCH(QString, what);
         QFETCH(int, courses);
@@ -131,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select count(*) from field_info where yards_1 = 300"_s), courses);
     }
 
-    void no_more_than_five_characters_fit_a_box_of_the_holes()
+    void a_box_of_a_hole_takes_at_most_five_characters()
     {
         const course_store store;
         in_new_course([](hand& user) {

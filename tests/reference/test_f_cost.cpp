@@ -119,21 +119,21 @@ private Q_SLOTS:
         });
     }
 
-    void a_digit_replaces_the_amount_in_the_moment_a_box_gains_the_focus_data() { focus_reasons(); }
-    void a_digit_replaces_the_amount_in_the_moment_a_box_gains_the_focus()
+    void a_digit_replaces_the_amount_as_soon_as_a_box_has_the_focus_data() { focus_reasons(); }
+    void a_digit_replaces_the_amount_as_soon_as_a_box_has_the_focus()
     {
         QFETCH(Qt::FocusReason, reason);
         cost_store store;
         in_costs(store, [reason](hand& user) {
             user.look([reason] {
                 const auto& window = dynamic_cast<f_cost&>(*open_form(u"f_cost"));
-                QCOMPARE(boxes_that_replace_their_text(window.cost, reason), 12);
+                QCOMPARE(boxes_that_replace_their_text(window.amounts(), reason), 12);
             });
             user.close_window(cost_window());
         });
     }
 
-    void tab_walks_the_amounts_down_to_ok()
+    void Tab_visits_the_amounts_and_then_OK()
     {
         cost_store store;
         in_costs(store, [](hand& user) {
@@ -204,7 +204,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_paste_obeys_the_key_rule_data()
+    void a_pasted_text_must_pass_the_key_filter_data()
     {
         QTest::addColumn<QString>("pasted");
         QTest::addColumn<QString>("after");
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QTest::newRow("accents and quotes") << u"é'\"5"_s << u"1"_s;
         QTest::newRow("digits of another script") << u"٣٤"_s << u"1"_s;
     }
-    void a_paste_obeys_the_key_rule()
+    void a_pasted_text_must_pass_the_key_filter()
     {
         QFETCH(QString, pasted);
         QFETCH(QString, after);
@@ -226,7 +226,7 @@ private Q_SLOTS:
             const int bells = user.bells();
             user.paste(u"cost_0"_s, pasted);
             user.same(user.text(u"cost_0"_s), after, u"box"_s);
-            // What is refused is heard, what is taken whole is not.
+            // The bell rings for a refused text, and not for one that is taken completely.
             if (after == u"1" || after == pasted)
                 user.same(user.bells() - bells, after == u"1" ? 1 : 0, u"bells"_s);
             leave_by_ok(user);
@@ -246,8 +246,8 @@ private Q_SLOTS:
         QCOMPARE(store.totals, QStringList{u"76"_s});
     }
 
-    void ok_commits_the_twelve_amounts_of_the_round_and_no_other_data() { both_languages(); }
-    void ok_commits_the_twelve_amounts_of_the_round_and_no_other()
+    void OK_commits_the_twelve_amounts_of_the_round_and_no_other_data() { both_languages(); }
+    void OK_commits_the_twelve_amounts_of_the_round_and_no_other()
     {
         QFETCH(bool, french);
         cost_store store(french);
@@ -262,13 +262,13 @@ private Q_SLOTS:
         QCOMPARE(store.totals, QStringList{u"12066"_s});
     }
 
-    void leaving_otherwise_tells_the_typed_total_and_keeps_the_old_amounts_data()
+    void closing_without_OK_returns_the_typed_total_and_keeps_the_old_amounts_data()
     {
         QTest::addColumn<bool>("escape");
         QTest::newRow("the title bar") << false;
         QTest::newRow("Escape") << true;
     }
-    void leaving_otherwise_tells_the_typed_total_and_keeps_the_old_amounts()
+    void closing_without_OK_returns_the_typed_total_and_keeps_the_old_amounts()
     {
         QFETCH(bool, escape);
         cost_store store;
@@ -290,7 +290,7 @@ private Q_SLOTS:
         QCOMPARE(store.store.text(stored_amounts), u"1 2 3 4 5 6 7 8 9 10 11 12"_s);
     }
 
-    void amounts_that_no_one_could_type_are_shown_and_kept_as_they_are()
+    void amounts_that_cannot_be_typed_are_shown_and_kept()
     {
         const QString strange = u"-25,12345,0,0,0,0,0,0,0,0,0,1"_s;
         cost_store store(true, strange);
@@ -304,7 +304,7 @@ private Q_SLOTS:
         QCOMPARE(store.store.text(stored_amounts), u"-25 12345 4 0 0 0 0 0 0 0 0 1"_s);
     }
 
-    void cutting_a_box_empty_leaves_a_zero()
+    void a_box_emptied_by_cutting_holds_zero()
     {
         cost_store store;
         in_costs(store, [](hand& user) {

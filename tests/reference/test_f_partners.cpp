@@ -29,7 +29,7 @@ class test_f_partners : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_partners_stand_in_the_order_of_their_names()
+    void the_partners_are_sorted_by_name()
     {
         const partner_store store;
         store.add_three();
@@ -46,13 +46,13 @@ private Q_SLOTS:
         });
     }
 
-    void the_window_locks_the_menu_and_every_way_out_frees_everything_data() { every_way_out(ways()); }
-    void the_window_locks_the_menu_and_every_way_out_frees_everything()
+    void the_menu_is_locked_until_any_way_out_unlocks_it_and_closes_the_recordset_data() { every_way_out(ways()); }
+    void the_menu_is_locked_until_any_way_out_unlocks_it_and_closes_the_recordset()
     {
         QFETCH(leaving, leave);
         const partner_store store;
         store.add_three();
-        // Twice: a window that left something open could not be opened again.
+        // Twice: the window could not be opened again if a recordset were still open.
         for (int time = 0; time < 2; ++time) {
             in_partners([&](hand& user) {
                 user.check(store.frame.locked, u"the menu is locked"_s);
@@ -66,15 +66,15 @@ private Q_SLOTS:
         QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
 
-    void an_empty_table_closes_without_a_word_data() { every_way_out(ways()); }
-    void an_empty_table_closes_without_a_word()
+    void an_empty_table_closes_without_a_message_data() { every_way_out(ways()); }
+    void an_empty_table_closes_without_a_message()
     {
         QFETCH(leaving, leave);
         const partner_store store;
         in_partners([&](hand& user) {
             user.same(user.grid_rows(grid), 0, u"rows"_s);
             user.click(u"Del"_s);
-            user.check(!user.is_open(u"message_box"_s), u"there is nobody to remove"_s);
+            user.check(!user.is_open(u"message_box"_s), u"no question is shown"_s);
             leave(user);
         });
         QCOMPARE(open_recordsets(), QStringList());
@@ -95,13 +95,13 @@ private Q_SLOTS:
                  u"ann@golf.example"_s);
     }
 
-    void a_cell_that_is_being_typed_is_stored_too_data()
+    void a_text_that_is_being_typed_is_stored_data()
     {
         auto some = ways();
         some.resize(3);
         every_way_out(some);
     }
-    void a_cell_that_is_being_typed_is_stored_too()
+    void a_text_that_is_being_typed_is_stored()
     {
         QFETCH(leaving, leave);
         const partner_store store;
@@ -114,24 +114,24 @@ private Q_SLOTS:
         QCOMPARE(store.rows(), u"Cedar,Max,597 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
 
-    void a_stored_order_survives_until_the_window_is_opened_again()
+    void a_renamed_partner_keeps_its_position_until_the_window_is_opened_again()
     {
         const partner_store store;
         store.add_three();
         in_partners([](hand& user) {
             type_into(user, 0, 0, u"Zelkova"_s);
             user.click_cell(grid, 1, 0);
-            user.same(user.cell(grid, 0, 0), u"Zelkova"_s, u"stands where it stood"_s);
+            user.same(user.cell(grid, 0, 0), u"Zelkova"_s, u"position before"_s);
             accept_partners(user);
         });
         in_partners([](hand& user) {
-            user.same(user.cell(grid, 2, 0), u"Zelkova"_s, u"stands last"_s);
+            user.same(user.cell(grid, 2, 0), u"Zelkova"_s, u"position after"_s);
             accept_partners(user);
         });
     }
 
-    void the_recordset_of_the_rounds_is_closed_whoever_left_it_open_data() { every_way_out(ways()); }
-    void the_recordset_of_the_rounds_is_closed_whoever_left_it_open()
+    void an_open_recordset_of_the_rounds_is_closed_data() { every_way_out(ways()); }
+    void an_open_recordset_of_the_rounds_is_closed()
     {
         QFETCH(leaving, leave);
         const partner_store store;
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(open_recordsets(), QStringList());
     }
 
-    void a_window_that_has_gone_ignores_save_and_close()
+    void an_unloaded_window_ignores_save_and_close()
     {
         const partner_store store;
         store.add_three();
