@@ -10,15 +10,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Shots and costs are deleted by the same loop.
-constexpr int date = tables::Stat_rounds::date;
-static_assert(date == tables::cost::date);
+/// The shots and the costs have the key of their round in the same column.
+constexpr int key_column = tables::cost::date;
+static_assert(tables::Stat_rounds::date == key_column);
 
 /// The rows of the round are adjacent, but all remaining rows are visited.
 void delete_to_the_end(Recordset& rows, const QString& key)
 {
     while (!rows.eof()) {
-        if (rows.Fields(date).text_or_empty() == key)
+        if (rows.Fields(key_column).text_or_empty() == key)
             rows.Delete();
         rows.MoveNext();
     }

@@ -5,7 +5,6 @@
 #include "controls/failure_guard.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"
-#include "management/store_clean_up.h"
 #include "reference/f_c_list.h"
 #include "reference/f_partners.h"
 #include "reference/f_sticks.h"
@@ -16,8 +15,11 @@
 #include "statistics/f_carte.h"
 #include "statistics/f_date_range.h"
 #include "store/DataEnvironment1.h"
+#include "store/orphan_shots.h"
 
 namespace verdane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -122,7 +124,8 @@ void command_about()
 
 void command_store_clean_up()
 {
-    clean_up_store();
+    remove_orphan_shots([](const QString& text) { tell(text); });
+    tell(u"Fin"_s);
 }
 
 void command_save()

@@ -7,8 +7,8 @@
 #include "base/failure_words.h"
 #include "controls/interface_language.h"
 #include "controls/lock_box.h"
-#include "management/store_clean_up.h"
 #include "store/DataEnvironment1.h"
+#include "store/orphan_shots.h"
 #include "tests/management/removal_windows.h"
 #include "tests/support/recording_frame.h"
 
@@ -16,12 +16,12 @@ using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// A failure ends the program, so it is tried in a child process: this program again, with a store.
+/// A failure ends the program, so it is provoked in a child process: this program again, with a store.
 namespace {
 
 constexpr int not_reached = 77;
 
-/// Another program that is in the middle of its own work on the store.
+/// Locks the store as another program does that is writing to it.
 void begin_work_elsewhere(Connection1& tool, const QString& path)
 {
     const QString link = path + u".tool";
@@ -31,7 +31,7 @@ void begin_work_elsewhere(Connection1& tool, const QString& path)
     tool.Execute(u"BEGIN EXCLUSIVE"_s);
 }
 
-/// Removes the second round of three, which the store refuses at some table.
+/// Removes the second round of three, which fails at some table.
 int run_child(const QString& path, failure_kind kind)
 {
     set_interface_language(true);
@@ -52,7 +52,8 @@ int run_child(const QString& path, failure_kind kind)
     return not_reached;
 }
 
-void lay_down(const QString& path, const QString& harm)
+/// Creates a store with three rounds, changed by a statement.
+void create_store(const QString& path, const QString& harm)
 {
     {
         Connection1 connection;
@@ -63,25 +64,19 @@ void lay_down(const QString& path, const QString& harm)
     store.write(harm);
 }
 
-/// The store keeps those rows of the second round in a table that also meet a condition.
-QString keep(const QString& table, const QString& condition = u"1"_s)
+/// A trigger that refuses to delete those rows of the second round that meet a condition.
+QString refuse_deletion(const QString& table, const QString& condition = u"1"_s)
 {
     return u"create trigger refuse before delete on %1 when old.date = '%2' and %3 begin "
            "select raise(abort, 'refused by the test'); end"_s.arg(table, key_of_day(2), condition);
 }
 
-/// Shots of the second round, as "hole.shot".
+/// The shots of the second round, as "hole.shot".
 QString shots_left(const reader& store)
 {
     return store.text(
         u"select ifnull(group_concat(place, ' '), '') from (select hole || '.' || shot as place "
         "from Stat_rounds where date = '%1' order by hole, shot)"_s.arg(key_of_day(2)));
-}
-
-void tell_nothing_else(hand& user, const QStringList& told)
-{
-    for (const QString& text : told)
-        user.answer({text, QMessageBox::NoIcon, default_title(), QMessageBox::Ok});
 }
 
 }  // namespace
@@ -90,65 +85,69 @@ class test_removal_failures : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_failure_between_two_commits_leaves_the_rest_data()
+    void a_failure_at_a_table_leaves_its_rows_and_those_of_the_later_tables_data()
     {
         QTest::addColumn<QString>("harm");
         QTest::addColumn<QString>("left");
         QTest::addColumn<QString>("shots");
         const QString all = u"1.1 1.2 2.1 2.2"_s;
-        QTest::newRow("at the strokes") << keep(u"games"_s) << u"1,2,3 | 1,2,3 | 1,2,3 | 1,2,3"_s << all;
-        QTest::newRow("at the situation") << keep(u"games2"_s) << u"1,3 | 1,2,3 | 1,2,3 | 1,2,3"_s << all;
-        QTest::newRow("at the first shot") << keep(u"Stat_rounds"_s) << u"1,3 | 1,3 | 1,2,3 | 1,2,3"_s << all;
-        QTest::newRow("at a later shot") << keep(u"Stat_rounds"_s, u"old.hole = 2 and old.shot = 2"_s)
-                                         << u"1,3 | 1,3 | 1,2,3 | 1,2,3"_s << u"2.2"_s;
-        QTest::newRow("at the costs") << keep(u"cost"_s) << u"1,3 | 1,3 | 1,3 | 1,2,3"_s << QString();
+        QTest::newRow("at the strokes")
+            << refuse_deletion(u"games"_s) << u"1,2,3 | 1,2,3 | 1,2,3 | 1,2,3"_s << all;
+        QTest::newRow("at the situation")
+            << refuse_deletion(u"games2"_s) << u"1,3 | 1,2,3 | 1,2,3 | 1,2,3"_s << all;
+        QTest::newRow("at the first shot")
+            << refuse_deletion(u"Stat_rounds"_s) << u"1,3 | 1,3 | 1,2,3 | 1,2,3"_s << all;
+        QTest::newRow("at a later shot")
+            << refuse_deletion(u"Stat_rounds"_s, u"old.hole = 2 and old.shot = 2"_s)
+            << u"1,3 | 1,3 | 1,2,3 | 1,2,3"_s << u"2.2"_s;
+        QTest::newRow("at the costs")
+            << refuse_deletion(u"cost"_s) << u"1,3 | 1,3 | 1,3 | 1,2,3"_s << QString();
     }
-    void a_failure_between_two_commits_leaves_the_rest()
+    void a_failure_at_a_table_leaves_its_rows_and_those_of_the_later_tables()
     {
         QFETCH(QString, harm);
         QFETCH(QString, left);
         QFETCH(QString, shots);
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        lay_down(path, harm);
+        create_store(path, harm);
         remove_in_child(path, failure_kind::store_other);
         QCOMPARE(days_stored(reader(path)), left);
         QCOMPARE(shots_left(reader(path)), shots);
     }
 
-    void a_missing_table_is_met_when_its_turn_comes()
+    void a_missing_table_is_a_failure_after_the_earlier_tables_were_changed()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        lay_down(path, u"alter table cost rename to money"_s);
+        create_store(path, u"alter table cost rename to money"_s);
         remove_in_child(path, failure_kind::missing_table);
         const reader store(path);
         QCOMPARE(store.text(u"select group_concat(substr(date, 8, 1)) from games"_s), u"1,3"_s);
         QCOMPARE(shots_left(store), QString());
     }
 
-    void another_writer_keeps_the_round_whole()
+    void a_store_locked_by_another_program_keeps_the_whole_round()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        lay_down(path, u"select 1"_s);
+        create_store(path, u"select 1"_s);
         remove_in_child(path, failure_kind::store_locked);
         QCOMPARE(days_stored(reader(path)), u"1,2,3 | 1,2,3 | 1,2,3 | 1,2,3"_s);
     }
 
-    void the_clean_up_takes_the_shots_that_a_failed_removal_left()
+    void the_clean_up_removes_the_shots_that_a_failed_removal_left()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        lay_down(path, keep(u"Stat_rounds"_s, u"old.hole = 2"_s));
+        create_store(path, refuse_deletion(u"Stat_rounds"_s, u"old.hole = 2"_s));
         remove_in_child(path, failure_kind::store_other);
         QCOMPARE(shots_left(reader(path)), u"2.1 2.2"_s);
         reader(path).write(u"drop trigger refuse"_s);
         data_environment().connection.Open(path);
-        play([] { run_event(clean_up_store); },
-             [](hand& user) {
-                 tell_nothing_else(user, {key_of_day(2), u"1"_s, u"Fin"_s});
-             });
+        QStringList shown;
+        remove_orphan_shots([&](const QString& text) { shown << text; });
+        QCOMPARE(shown, (QStringList{key_of_day(2), u"1"_s}));
         data_environment().connection.Close();
         QCOMPARE(days_stored(reader(path)), u"1,3 | 1,3 | 1,3 | 1,2,3"_s);
     }
@@ -160,8 +159,8 @@ private:
         child.start(QCoreApplication::applicationFilePath(),
                     {u"--child"_s, path, QString::number(static_cast<int>(kind))});
         QVERIFY(child.waitForFinished(120000));
-        const QByteArray said = child.readAllStandardError();
-        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        const QByteArray output = child.readAllStandardError();
+        QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
     }

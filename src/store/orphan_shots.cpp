@@ -1,8 +1,7 @@
-#include "management/store_clean_up.h"
+#include "store/orphan_shots.h"
 
 #include "base/checked_array.h"
 #include "base/counts.h"
-#include "controls/boxes.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/Stat_rounds.h"
 
@@ -14,21 +13,22 @@ namespace {
 
 constexpr int most_orphan_keys = 500;
 
-/// The keys of the missing rounds, from index 1 on. The shots are ordered by key, so a
-/// key that differs from the previous one is new.
+/// The keys of the missing rounds, from index 1 on. The shots are ordered by key, so a key that differs from
+/// the previous one is new.
 struct orphan_keys {
     checked_array<QString, most_orphan_keys + 1> keys;
     int16 counter = 0;
     QString last_key = u"xx"_s;
 
-    void meet(const QString& key)
+    /// False if the key is the previous one.
+    bool add(const QString& key)
     {
         if (key == last_key)
-            return;
+            return false;
         last_key = key;
         counter += 1;
         keys[plain(counter)] = key;
-        tell(key);
+        return true;
     }
 };
 
@@ -44,19 +44,23 @@ void open_rounds_and_shots(Recordset& rounds, Recordset& shots)
     rounds.MoveFirst();
 }
 
-void delete_orphans(Recordset& rounds, Recordset& shots, orphan_keys& orphans)
+orphan_keys delete_orphans(Recordset& rounds, Recordset& shots,
+                           const std::function<void(const QString&)>& show)
 {
+    orphan_keys orphans;
     while (!shots.eof()) {
         const QString key = shots.Fields(tables::Stat_rounds::date).text_or_empty();
         rounds.Find(u"date=" + key);
         if (rounds.eof()) {
-            orphans.meet(key);
+            if (orphans.add(key))
+                show(key);
             shots.Delete();
         }
         rounds.MoveFirst();
         shots.MoveNext();
     }
     shots.UpdateBatch(affect::all_chapters);
+    return orphans;
 }
 
 /// Always deletes by the last key, whose rows are deleted already; a no-op, kept on purpose.
@@ -69,18 +73,16 @@ void delete_again(const orphan_keys& orphans)
 
 }  // namespace
 
-void clean_up_store()
+void remove_orphan_shots(const std::function<void(const QString&)>& show)
 {
     Recordset& rounds = data_environment().rsgames;
     Recordset& shots = data_environment().rsStat_rounds;
-    orphan_keys orphans;
     open_rounds_and_shots(rounds, shots);
-    delete_orphans(rounds, shots, orphans);
-    tell(QString::number(plain(orphans.counter)));
+    const orphan_keys orphans = delete_orphans(rounds, shots, show);
+    show(QString::number(plain(orphans.counter)));
     rounds.Close();
     shots.Close();
     delete_again(orphans);
-    tell(u"Fin"_s);
 }
 
 }  // namespace verdane
