@@ -11,7 +11,7 @@
 #include "tests/support/diary.h"
 #include "tests/support/hand.h"
 
-/// What the tests of the removal of rounds share.
+/// Support for the tests of the removal of rounds.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
@@ -37,7 +37,7 @@ inline expected_box notice_of_removal()
             QMessageBox::Ok};
 }
 
-/// Rounds on the first days of the year, each with two shots on two holes and a row of costs.
+/// Adds rounds on the first days of the year, each with two shots on two holes and a row of costs.
 inline void add_rounds(const reader& store, int count)
 {
     const diary book(store);
@@ -54,7 +54,7 @@ inline void add_rounds(const reader& store, int count)
     }
 }
 
-/// The days of the month that each of the four tables has rows of.
+/// The days of the month of which each of the four tables has rows, as "1,2 | 1,2 | 1,2 | 1,2".
 inline QString days_stored(const reader& store)
 {
     QStringList tables;

@@ -44,7 +44,7 @@ void open_list()
     window.show_modal();
 }
 
-/// Opens the list, runs the script and leaves by OK.
+/// Opens the list, runs the script and closes the list by OK.
 void in_list(const std::function<void(hand&)>& script)
 {
     play(open_list, [&](hand& user) {
@@ -84,7 +84,7 @@ private Q_SLOTS:
         last.approach = strokes[1];
         last.putts = strokes[2];
         last.stored = stored;
-        // A penalty is no stroke of the kind that completes a round.
+        // A penalty does not complete a round.
         last.water = 1;
         store.book.add(round_with_last_hole(165, last));
         const QString line = u"2003-06-14 09:30:00 |  - Club des Pins"_s + (marked ? u"**"_s : QString());
@@ -104,7 +104,7 @@ private Q_SLOTS:
             [](hand& user) { user.check(!user.text(u"List1"_s).endsWith(u"**"), user.text(u"List1"_s)); });
     }
 
-    void the_rounds_stand_in_time_order_and_the_earliest_is_selected()
+    void the_rounds_are_in_time_order_and_the_earliest_is_selected()
     {
         const stored_diary store;
         for (const int day : {40, 2, 365, 7})
@@ -119,7 +119,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_time_order_holds_after_a_statistic_has_left_the_rounds_without_one()
+    void the_rounds_are_in_time_order_after_a_statistic_changed_the_source()
     {
         const stored_diary store;
         for (const int day : {40, 2})
@@ -130,8 +130,8 @@ private Q_SLOTS:
         });
     }
 
-    void a_store_without_rounds_is_told_and_no_window_comes_up_data() { both_languages(); }
-    void a_store_without_rounds_is_told_and_no_window_comes_up()
+    void without_rounds_a_message_box_is_shown_and_no_window_opens_data() { both_languages(); }
+    void without_rounds_a_message_box_is_shown_and_no_window_opens()
     {
         QFETCH(bool, french);
         const store_folder store(french);
@@ -144,23 +144,23 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void every_way_out_closes_everything_and_unlocks_the_menu_data()
+    void every_way_out_closes_the_recordsets_and_unlocks_the_menu_data()
     {
         every_way_out(ways_out(list_window, {{"OK", [](hand& user) { user.click(u"Command1_2"_s); }}}));
     }
-    void every_way_out_closes_everything_and_unlocks_the_menu()
+    void every_way_out_closes_the_recordsets_and_unlocks_the_menu()
     {
         QFETCH(leaving, leave);
         const stored_diary store;
         store.book.add(round_with_last_hole(1, hole_in(4)));
         recording_frame frame;
-        // Twice: a list that left something open could not be opened again.
+        // Twice: the list could not be opened again if a recordset were still open.
         for (int time = 0; time < 2; ++time) {
             play(open_list, [&](hand& user) {
                 user.wait_for_window(list_window());
                 user.check(frame.locked, u"the menu is locked"_s);
                 user.check(data_environment().rsgames.is_open() && data_environment().rsfield_info.is_open(),
-                           u"both recordsets stay open with the window"_s);
+                           u"both recordsets are open"_s);
                 user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
                 leave(user);
                 user.wait_until_gone(list_window());
@@ -170,7 +170,7 @@ private Q_SLOTS:
         }
     }
 
-    void closing_a_list_that_has_gone_does_nothing()
+    void closing_an_unloaded_list_does_nothing()
     {
         const stored_diary store;
         store.book.add(round_with_last_hole(1, hole_in(4)));

@@ -34,13 +34,13 @@ class test_removed_key : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void it_is_taken_for_the_rest_of_the_run_and_free_after_a_restart_data()
+    void the_key_is_refused_for_the_rest_of_the_run_and_accepted_after_a_restart_data()
     {
         QTest::addColumn<int>("language");
         QTest::newRow("French") << 1;
         QTest::newRow("English") << 2;
     }
-    void it_is_taken_for_the_rest_of_the_run_and_free_after_a_restart()
+    void the_key_is_refused_for_the_rest_of_the_run_and_accepted_after_a_restart()
     {
         QFETCH(int, language);
         program_run run(language, one_course() + one_round(key_of_keyed_round()));
@@ -57,7 +57,7 @@ private Q_SLOTS:
             quit(user);
         });
         QCOMPARE(run.store().number(u"select count(*) from games"_s), 0);
-        // The next run is another process, whose list is empty.
+        // The next start is a new process with an empty list.
         Main_module::round_keys.clear();
         run.play_through([](hand& user) {
             start_at_the_moment_of_the_removed_round(user);

@@ -30,8 +30,8 @@ diary_course beta()
     return flat_course(u"BETA-6"_s, 5, u"70"_s, u"113"_s);
 }
 
-/// Two courses and three rounds: on day 1 on Beta, on days 2 and 3 on Alpha, each hole in par plus
-/// the day.
+/// Adds two courses and three rounds: on day 1 on Beta, on days 2 and 3 on Alpha. The score of each hole is
+/// its par plus the day.
 void fill(const round_store& store)
 {
     const diary book(store.store);
@@ -45,7 +45,7 @@ void fill(const round_store& store)
     }
 }
 
-/// Opens the list, does what the script does there, and waits until list and round window are gone.
+/// Opens the list, runs the script, and waits until the list and the round window are closed.
 void from_list(const std::function<void(hand&)>& script)
 {
     play(
@@ -62,11 +62,11 @@ void from_list(const std::function<void(hand&)>& script)
         });
 }
 
-/// The list has gone, and the round of that day is in its window.
+/// Checks that the list is closed and that the round window shows the round of that day.
 void check_round(hand& user, int day)
 {
     user.wait_for_window(round_window());
-    user.check(!user.is_open(list_window()), u"the list stands behind no round window"_s);
+    user.check(!user.is_open(list_window()), u"the list is closed"_s);
     user.same(user.text(u"text_2"_s), u"2003-01-0%1"_s.arg(day), u"date"_s);
     user.same(user.text(u"text_3"_s), u"09:30:00"_s, u"time"_s);
     user.same(user.text(u"text_vrd_1"_s), QString::number((day == 1 ? 2 : 1) + day), u"approach shots"_s);
@@ -80,7 +80,7 @@ class test_round_reopening : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_selected_round_opens_and_nothing_is_up_afterwards_data()
+    void the_selected_round_opens_and_all_windows_are_closed_afterwards_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("by");
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QTest::newRow("a double click") << true << u"mouse"_s << 2;
         QTest::newRow("Enter on the line") << false << u"keyboard"_s << 2;
     }
-    void the_selected_round_opens_and_nothing_is_up_afterwards()
+    void the_selected_round_opens_and_all_windows_are_closed_afterwards()
     {
         QFETCH(bool, french);
         QFETCH(QString, by);
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(open_recordsets(), QStringList());
     }
 
-    void an_empty_cost_table_is_no_hindrance()
+    void a_round_opens_with_an_empty_cost_table_and_gets_a_row()
     {
         const round_store store;
         fill(store);
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QCOMPARE(store.of_round(u"cost"_s, u"au"_s), u"0"_s);
     }
 
-    void a_round_saved_from_the_list_is_listed_as_it_was_saved_when_the_list_comes_up_again()
+    void a_round_saved_from_the_list_is_listed_as_saved_when_the_list_is_opened_again()
     {
         const round_store store;
         fill(store);
@@ -188,8 +188,8 @@ private Q_SLOTS:
         QCOMPARE(open_recordsets(), QStringList());
     }
 
-    void a_round_without_its_second_row_is_told_and_nothing_stays_open_data() { both_languages(); }
-    void a_round_without_its_second_row_is_told_and_nothing_stays_open()
+    void a_round_without_its_games2_row_is_reported_and_everything_is_closed_data() { both_languages(); }
+    void a_round_without_its_games2_row_is_reported_and_everything_is_closed()
     {
         QFETCH(bool, french);
         const round_store store(french);
@@ -212,7 +212,7 @@ private Q_SLOTS:
             user.click(u"Command1_1"_s);
             tee_off(user, u"9"_s, u"30"_s, u"00"_s);
             user.wait_for_window(round_window());
-            user.check(!user.is_open(list_window()), u"the list stands behind no round window"_s);
+            user.check(!user.is_open(list_window()), u"the list is closed"_s);
             accept(user);
         });
         QCOMPARE(store.number(u"select count(*) from games"_s), 4);

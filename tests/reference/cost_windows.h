@@ -12,7 +12,7 @@
 #include "tests/support/hand.h"
 #include "tests/support/stored_diary.h"
 
-/// What the tests of the window of costs share.
+/// Support for the tests of the cost window.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 class f_courses;
 }  // namespace verdane
 
-/// What the tests of the course windows share.
+/// Support for the tests of the course windows.
 namespace verdane::testing {
 
 /// A fresh store for the test of a course window.
@@ -27,7 +27,7 @@ public:
     void add_round(const QString& key, const QString& code) const { book.add(blank_round{key, code}); }
 };
 
-/// The courses "Alpha" from white, "Beta" from blue and "Gamma" from red.
+/// Adds "Alpha" with the white tee, "Beta" with the blue and "Gamma" with the red one.
 void add_three_courses(const course_store& store);
 
 /// Opens the course list as the main window does, runs the script and returns when both are done.
@@ -36,21 +36,21 @@ void in_course_list(const std::function<void(hand&)>& script);
 /// Opens the list, runs the script, and closes the list by its OK button.
 void in_course_list_until_ok(const std::function<void(hand&)>& script);
 
-/// The same, with the editor open on a new course or on a line of the list. The script leaves with the
-/// editor closed.
+/// The same, with the editor open for a new course or for a line of the list. The script closes the
+/// editor.
 void in_new_course(const std::function<void(hand&)>& script);
 void in_stored_course(int line, const std::function<void(hand&)>& script);
 
-/// Leaves the editor by its button, answering that nothing is to be saved.
+/// Closes the editor by its Cancel button and answers No to the question whether to save.
 void discard(hand& user);
 
-/// Fills the three boxes that a course cannot do without.
+/// Fills the three required boxes: name, rating and slope.
 void fill_required(hand& user, const QString& name);
 
-/// Runs something with the open editor, in the window thread.
+/// Runs a routine with the open editor in the window thread.
 void with_editor(hand& user, const std::function<void(f_courses&)>& routine);
 
-// The boxes of the editor, in the language of the moment.
+// The message boxes of the editor, in the current language.
 expected_box question_on_closing();
 expected_box notice_of_save();
 expected_box refusal_of_missing();

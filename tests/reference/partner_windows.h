@@ -7,7 +7,7 @@
 #include "tests/support/hand.h"
 #include "tests/support/stored_diary.h"
 
-/// What the tests of the window of partners share.
+/// Support for the tests of the partner window.
 namespace verdane::testing {
 
 /// A fresh store for the test of the window of partners.
@@ -25,20 +25,20 @@ public:
     QString rows() const;
 };
 
-/// The window's name in the language of the moment.
+/// The window's name in the current language.
 QString partner_window();
 
 /// Opens the window as the main window does, runs the script and returns when both are done.
 void in_partners(const std::function<void(hand&)>& script);
 void show_partners();
 
-/// Clicks a cell and types over what it holds, up to Enter.
+/// Clicks a cell, replaces its text and presses Enter.
 void type_into(hand& user, int row, int column, const QString& text);
 
-/// Leaves by OK.
+/// Closes the window by OK.
 void accept_partners(hand& user);
 
-// The boxes of the window, in the language of the moment.
+// The message boxes of the window, in the current language.
 expected_box refusal_of_missing_name();
 expected_box question_on_removal(const QString& name);
 

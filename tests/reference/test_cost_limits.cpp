@@ -13,12 +13,13 @@ using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// What ends the program is tried in a child process: this program again, with a store and a case.
+/// A failure that ends the program is provoked in a child process: this program again, with a case and a
+/// store.
 namespace {
 
 constexpr int not_reached = 77;
 
-/// Twelve amounts of 9999 cannot be shown; three of them and 2770 leave no room for one more.
+/// The total of twelve amounts of 9999 exceeds 16 bits; that of three of them and 2770 is the largest.
 const QString too_much = QStringList(12, u"9999"_s).join(u',');
 const QString full = u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s;
 
@@ -88,7 +89,7 @@ class test_cost_limits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void what_cannot_go_on_ends_the_program_and_keeps_the_stored_amounts_data()
+    void a_failure_ends_the_program_and_keeps_the_stored_amounts_data()
     {
         QTest::addColumn<QString>("limit");
         QTest::addColumn<QString>("amounts");
@@ -96,7 +97,7 @@ private Q_SLOTS:
         QTest::newRow("a total beyond 16 bits while loading") << u"loading"_s << too_much;
         QTest::newRow("a row that the store refuses") << u"accepting"_s << u"1,2,3,4,5,6,7,8,9,10,11,12"_s;
     }
-    void what_cannot_go_on_ends_the_program_and_keeps_the_stored_amounts()
+    void a_failure_ends_the_program_and_keeps_the_stored_amounts()
     {
         QFETCH(QString, limit);
         QFETCH(QString, amounts);

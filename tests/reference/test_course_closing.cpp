@@ -20,7 +20,7 @@ QString figures(const course_store& store)
 const QString figures_before = u"Alpha121|Beta121|Gamma121 / 300|300|300"_s;
 const QString figures_after = u"Alpha121|Beta55|Gamma121 / 300|410|300"_s;
 
-/// A change on the first page and one among the holes.
+/// Changes a figure of the first page and a length.
 void change(hand& user)
 {
     user.fill(u"text_0"_s, u"55"_s);
@@ -29,7 +29,7 @@ void change(hand& user)
     user.key(Qt::Key_Tab);
 }
 
-/// Lengths, stroke indexes and pars of all holes: 54 figures.
+/// Fills in the lengths, stroke indexes and pars of all holes: 54 figures.
 void type_all_holes(hand& user)
 {
     for (int hole = 1; hole <= 18; ++hole) {
@@ -54,8 +54,8 @@ class test_course_closing : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void no_drops_the_changes_data() { both_languages(); }
-    void no_drops_the_changes()
+    void No_discards_the_changes_data() { both_languages(); }
+    void No_discards_the_changes()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -67,8 +67,8 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_before);
     }
 
-    void yes_saves_and_closes_data() { both_languages(); }
-    void yes_saves_and_closes()
+    void Yes_saves_and_closes_data() { both_languages(); }
+    void Yes_saves_and_closes()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_after);
     }
 
-    void cancel_leaves_everything()
+    void Cancel_keeps_the_window_and_the_changes()
     {
         course_store store;
         add_three_courses(store);
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_before);
     }
 
-    void yes_to_a_save_that_is_refused_keeps_the_window()
+    void Yes_with_a_refused_save_keeps_the_window_open()
     {
         const course_store store;
         add_three_courses(store);
@@ -153,7 +153,7 @@ private Q_SLOTS:
             } else
                 user.close_window(editor_window());
             user.wait_for_window(list_window());
-            // The list goes on with the rows that it had.
+            // The list still has its rows.
             user.click_row(u"List1"_s, 2);
             user.click(u"Command1_0"_s);
             user.wait_for_window(editor_window());
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_before);
     }
 
-    void the_title_bar_drops_the_changes_without_a_question()
+    void the_close_box_discards_the_changes_without_a_question()
     {
         const course_store store;
         add_three_courses(store);
@@ -176,8 +176,8 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_before);
     }
 
-    void escape_asks_about_the_figures_of_eighteen_holes_data() { both_languages(); }
-    void escape_asks_about_the_figures_of_eighteen_holes()
+    void Escape_asks_before_it_discards_the_figures_of_eighteen_holes_data() { both_languages(); }
+    void Escape_asks_before_it_discards_the_figures_of_eighteen_holes()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -198,7 +198,7 @@ private Q_SLOTS:
                      u"%1 %2 3"_s.arg(400 + hole).arg(hole));
     }
 
-    void escape_refuses_a_figure_before_it_asks()
+    void Escape_refuses_a_wrong_figure_before_it_asks()
     {
         const course_store store;
         add_three_courses(store);
@@ -224,7 +224,7 @@ private Q_SLOTS:
         add_three_courses(store);
         in_stored_course(1, [&](hand& user) {
             change(user);
-            // Leaving a length counts as a change, so the box with the focus is none of them.
+            // Leaving a length counts as a change, so the focus must be in another box.
             user.click_tab(u"TabStrip1"_s, 1);
             save_by_shortcut(user);
             with_editor(user, [](f_courses& window) {

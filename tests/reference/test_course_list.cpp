@@ -42,7 +42,7 @@ private Q_SLOTS:
             user.same(user.entries(u"List1"_s).join(u'|'), {}, u"lines"_s);
             user.click(u"Command1_0"_s);
             user.click(u"Command1_3"_s);
-            user.check(user.is_open(list_window()), u"the list stays"_s);
+            user.check(user.is_open(list_window()), u"the list is still open"_s);
             user.check(!user.is_open(editor_window()), u"nothing opens"_s);
         });
     }
@@ -100,7 +100,7 @@ private Q_SLOTS:
         });
     }
 
-    void an_added_course_has_no_line_before_the_list_opens_again()
+    void an_added_course_has_no_line_until_the_list_is_opened_again()
     {
         const course_store store;
         in_new_course([](hand& user) {
@@ -109,10 +109,10 @@ private Q_SLOTS:
             user.answer(notice_of_save());
             user.wait_for_window(list_window());
             user.same(user.entries(u"List1"_s).join(u'|'), {}, u"lines"_s);
-            // A row without a line: nothing is selected, so nothing is opened or removed.
+            // No line is selected, although there is a row: nothing is opened or removed.
             user.click(u"Command1_0"_s);
             user.click(u"Command1_3"_s);
-            user.check(user.is_open(list_window()), u"the list stays"_s);
+            user.check(user.is_open(list_window()), u"the list is still open"_s);
         });
         in_course_list_until_ok([](hand& user) {
             user.same(user.entries(u"List1"_s).join(u'|'), u"Delta, BLANC"_s, u"lines"_s);
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(!data_environment().rsfield_info.is_open());
     }
 
-    void the_list_stands_near_the_top_in_the_middle_and_is_the_current_form()
+    void the_list_is_placed_near_the_top_in_the_middle_and_is_the_current_form()
     {
         course_store store;
         in_course_list_until_ok([&](hand& user) {

@@ -55,8 +55,8 @@ class test_course_removal : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_course_in_use_stays_and_the_earliest_round_is_named_data() { both_languages(); }
-    void a_course_in_use_stays_and_the_earliest_round_is_named()
+    void a_course_in_use_is_not_removed_and_its_earliest_round_is_named_data() { both_languages(); }
+    void a_course_in_use_is_not_removed_and_its_earliest_round_is_named()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -88,7 +88,7 @@ private Q_SLOTS:
         });
     }
 
-    void every_answer_leaves_the_rounds_closed()
+    void rsgames_is_closed_after_every_answer()
     {
         const course_store store;
         add_three_courses(store);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_list_that_outgrew_its_table_can_still_shrink()
+    void a_course_can_be_removed_from_a_list_of_more_than_51()
     {
         const course_store store;
         for (int i = 0; i < most_courses; ++i)
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(course_keys[most_courses - 1].code, u"ECHO-0"_s);
     }
 
-    void no_keeps_the_course()
+    void No_keeps_the_course()
     {
         const course_store store;
         add_three_courses(store);
@@ -143,8 +143,8 @@ private Q_SLOTS:
         QCOMPARE(codes(store), u"ALPHA-0|BETA-1|GAMMA-2 / ALPHA-0|BETA-1|GAMMA-2"_s);
     }
 
-    void yes_removes_both_rows_and_selects_the_first_line_data() { both_languages(); }
-    void yes_removes_both_rows_and_selects_the_first_line()
+    void Yes_removes_both_rows_and_selects_the_first_line_data() { both_languages(); }
+    void Yes_removes_both_rows_and_selects_the_first_line()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(course_keys[2].code.isEmpty());
     }
 
-    void lines_and_rows_stay_together_after_a_removal()
+    void lines_open_their_own_rows_after_a_removal()
     {
         const course_store store;
         add_three_courses(store);
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(codes(store), u"GAMMA-2 / GAMMA-2"_s);
     }
 
-    void the_last_course_leaves_an_empty_list()
+    void removing_the_last_course_leaves_an_empty_list()
     {
         const course_store store;
         store.add({});
@@ -187,12 +187,12 @@ private Q_SLOTS:
             user.same(user.entries(u"List1"_s).join(u'|'), {}, u"lines"_s);
             user.click(u"Command1_0"_s);
             user.click(u"Command1_3"_s);
-            user.check(user.is_open(list_window()), u"the list stays"_s);
+            user.check(user.is_open(list_window()), u"the list is still open"_s);
         });
         QCOMPARE(codes(store), u"null / null"_s);
     }
 
-    void two_tees_of_a_course_go_one_by_one()
+    void two_tees_of_a_course_are_removed_one_by_one()
     {
         const course_store store;
         store.add({});

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// OK with everything in order: the notice, and the window goes without a question.
+/// Saves by OK: a notice is shown, and the window closes without a question.
 void save_by_ok(hand& user)
 {
     user.click(u"smdsave"_s);
@@ -42,7 +42,7 @@ void save_new(hand& user, const QString& name, int tee)
     save_by_ok(user);
 }
 
-/// The recordsets stand on rows that do not belong together.
+/// Opens the editor on the rows of two different courses.
 void edit_with_the_holes_of_another()
 {
     Recordset& holes = data_environment().rsfield_info;
@@ -58,8 +58,8 @@ class test_course_save : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_new_course_reaches_both_tables_data() { both_languages(); }
-    void a_new_course_reaches_both_tables()
+    void a_new_course_is_stored_in_both_tables_data() { both_languages(); }
+    void a_new_course_is_stored_in_both_tables()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select yards_9 + hcp_9 + par_9 + yards_10 from field_info"_s), 0);
     }
 
-    void what_is_missing_is_asked_for_data()
+    void a_course_without_name_rating_or_slope_is_refused_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("emptied");
@@ -101,7 +101,7 @@ private Q_SLOTS:
             QTest::addRow("%s slope", language) << french << u"text_0"_s;
         }
     }
-    void what_is_missing_is_asked_for()
+    void a_course_without_name_rating_or_slope_is_refused()
     {
         QFETCH(bool, french);
         QFETCH(QString, emptied);
@@ -111,7 +111,7 @@ private Q_SLOTS:
             user.paste(emptied, u"   "_s);
             user.click(u"smdsave"_s);
             user.answer(refusal_of_missing());
-            // OK goes on to close, and there is still something to save.
+            // OK closes the window after the save, and the changes are still unsaved.
             user.answer(question_on_closing(), QMessageBox::Cancel);
             with_editor(user, [](f_courses& window) {
                 QVERIFY(!window.saveSucceed);
@@ -136,7 +136,7 @@ private Q_SLOTS:
             user.answer(refusal_of_duplicate(u"beTA"_s, in_language(u"Bleu", u"Blue")));
             user.answer(question_on_closing(), QMessageBox::Cancel);
             with_editor(user, [](f_courses& window) { QVERIFY(!window.saveSucceed); });
-            // Another tee is all that it takes.
+            // With another tee the course is not a duplicate.
             user.choose(u"departure"_s, 4);
             save_by_ok(user);
         });
@@ -144,7 +144,7 @@ private Q_SLOTS:
                  u"BETA-4 beTA "_s);
     }
 
-    void a_new_tee_joins_the_code_of_the_old_one()
+    void a_new_tee_takes_the_base_of_the_stored_code()
     {
         const course_store store;
         store.add({u"HISTORIC-0"_s, u"Renamed"_s, u"Mont Bleu-0"_s});
@@ -238,7 +238,7 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select yards_1 from field_info where FIELD_CODE = 'BETA-1'"_s), 300);
     }
 
-    void the_duplicate_test_goes_by_the_name_at_creation()
+    void the_duplicate_test_compares_the_name_at_creation()
     {
         const course_store store;
         store.add({u"ALPHA-0"_s, u"Renamed"_s, u"Alpha-0"_s});
@@ -270,7 +270,7 @@ private Q_SLOTS:
         QCOMPARE(store.text(u"select slope from vrd_fields"_s), u"99"_s);
     }
 
-    void accents_and_digits_that_were_pasted_make_a_code()
+    void pasted_accents_and_digits_are_part_of_the_code()
     {
         const course_store store;
         in_new_course([](hand& user) {
@@ -281,7 +281,7 @@ private Q_SLOTS:
         QCOMPARE(store.text(u"select code from vrd_fields"_s), u"ÉVIAN 9-0"_s);
     }
 
-    void a_rating_with_two_points_is_kept_as_typed()
+    void a_rating_with_two_points_is_stored_as_typed()
     {
         const course_store store;
         in_new_course([](hand& user) {
@@ -292,7 +292,7 @@ private Q_SLOTS:
         QCOMPARE(store.text(u"select rating from vrd_fields"_s), u"70.5.1"_s);
     }
 
-    void holes_take_whole_numbers_data()
+    void figures_of_holes_are_stored_as_whole_numbers_data()
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("stored");
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QTest::newRow("exponent") << u"1e3"_s << 1000;
         QTest::newRow("largest") << u"32767"_s << 32767;
     }
-    void holes_take_whole_numbers()
+    void figures_of_holes_are_stored_as_whole_numbers()
     {
         QFETCH(QString, typed);
         QFETCH(int, stored);
@@ -315,7 +315,7 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select yards_1 from field_info"_s), stored);
     }
 
-    void rows_that_are_not_found_again_are_told_and_the_save_counts()
+    void rows_that_are_not_found_again_are_reported_and_the_save_counts()
     {
         const course_store store;
         add_three_courses(store);

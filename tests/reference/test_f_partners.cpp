@@ -46,7 +46,10 @@ private Q_SLOTS:
         });
     }
 
-    void the_menu_is_locked_until_any_way_out_unlocks_it_and_closes_the_recordset_data() { every_way_out(ways()); }
+    void the_menu_is_locked_until_any_way_out_unlocks_it_and_closes_the_recordset_data()
+    {
+        every_way_out(ways());
+    }
     void the_menu_is_locked_until_any_way_out_unlocks_it_and_closes_the_recordset()
     {
         QFETCH(leaving, leave);

@@ -16,7 +16,7 @@ using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
-/// What ends the program is tried in a child process: this program again, with a store.
+/// A failure that ends the program is provoked in a child process: this program again, with a store.
 namespace {
 
 constexpr int not_reached = 77;
@@ -38,7 +38,7 @@ int run_child(const QString& path, const QString& step)
             return;
         }
         user.wait_for_window(partner_window());
-        // A pending edit goes down with the new row: both are one batch.
+        // A pending edit is lost with the new row: both are one batch.
         type_into(user, 0, 3, u"Lyon"_s);
         user.click(u"add"_s);
         meet(user, failure_kind::store_other);
@@ -67,14 +67,14 @@ class test_partner_failures : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_store_that_fails_while_the_window_works_ends_the_program_data()
+    void a_failure_of_the_store_ends_the_program_data()
     {
         QTest::addColumn<QString>("step");
         QTest::addColumn<QString>("harm");
         QTest::newRow("without the table") << u"opening"_s << u"alter table partners rename to persons"_s;
         QTest::newRow("a new row is refused") << u"adding"_s << refuse(u"insert"_s);
     }
-    void a_store_that_fails_while_the_window_works_ends_the_program()
+    void a_failure_of_the_store_ends_the_program()
     {
         QFETCH(QString, step);
         QFETCH(QString, harm);
@@ -94,8 +94,8 @@ private Q_SLOTS:
         }
     }
 
-    void a_missing_name_keeps_the_window_open_although_the_store_refuses_data() { both_languages(); }
-    void a_missing_name_keeps_the_window_open_although_the_store_refuses()
+    void a_missing_name_keeps_the_window_open_although_the_rows_cannot_be_stored_data() { both_languages(); }
+    void a_missing_name_keeps_the_window_open_although_the_rows_cannot_be_stored()
     {
         QFETCH(bool, french);
         const partner_store store(french);
@@ -109,14 +109,14 @@ private Q_SLOTS:
                 user.answer(refusal_of_missing_name());
                 user.wait_for_window(partner_window());
             }
-            user.check(store.frame.locked, u"the menu stays locked"_s);
+            user.check(store.frame.locked, u"the menu is still locked"_s);
             user.close_window(partner_window());
         });
         QVERIFY(!store.frame.locked);
         QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
 
-    void a_removal_that_the_store_refuses_is_dropped_with_the_window()
+    void a_removal_that_the_store_refuses_is_discarded_when_the_window_closes()
     {
         const partner_store store;
         store.add_three();
@@ -135,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(open_recordsets(), QStringList());
     }
 
-    void what_waits_is_stored_together_or_not_at_all()
+    void pending_changes_are_stored_together_or_not_at_all()
     {
         const partner_store store;
         store.add_three();

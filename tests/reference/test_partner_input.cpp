@@ -18,7 +18,7 @@ int code_of(QString name, QString surname)
     return plain(Verdane_tools::name_checksum(name, surname));
 }
 
-/// Puts a text into a cell through the clipboard.
+/// Pastes a text into a cell.
 void paste_into(hand& user, int row, int column, const QString& text)
 {
     user.click_cell(grid, row, column);
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(store.store.number(u"select count(*) from partners"_s), 3);
     }
 
-    void a_very_long_name_is_kept_whole_as_far_as_a_box_holds_it()
+    void a_very_long_name_is_stored_up_to_the_length_of_a_box()
     {
         const partner_store store;
         store.add_three();
@@ -77,8 +77,8 @@ private Q_SLOTS:
                  code_of(name, u"Bob"_s));
     }
 
-    void a_name_of_blanks_is_none_data() { both_languages(); }
-    void a_name_of_blanks_is_none()
+    void a_name_of_blanks_counts_as_missing_data() { both_languages(); }
+    void a_name_of_blanks_counts_as_missing()
     {
         QFETCH(bool, french);
         const partner_store store(french);
@@ -99,8 +99,8 @@ private Q_SLOTS:
     void a_code_that_is_no_number_is_refused_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("a word") << u"abc"_s;
-        QTest::newRow("digits and a word") << u"12b"_s;
+        QTest::newRow("letters") << u"abc"_s;
+        QTest::newRow("digits and a letter") << u"12b"_s;
         QTest::newRow("beyond 32 bits") << u"2147483648"_s;
         QTest::newRow("huge") << QString(400, u'9');
     }
@@ -119,14 +119,14 @@ private Q_SLOTS:
         QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
 
-    void a_code_that_is_typed_or_emptied_gives_way_to_that_of_the_name_data()
+    void a_typed_or_emptied_code_is_replaced_by_that_of_the_name_data()
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("a number") << u"77"_s;
         QTest::newRow("a negative number") << u"-5"_s;
         QTest::newRow("nothing") << u" "_s;
     }
-    void a_code_that_is_typed_or_emptied_gives_way_to_that_of_the_name()
+    void a_typed_or_emptied_code_is_replaced_by_that_of_the_name()
     {
         QFETCH(QString, text);
         const partner_store store;
@@ -139,7 +139,7 @@ private Q_SLOTS:
                  u"Cedar,Cleo,3 | Alder,Ann,%1 | Birch,Bob,2"_s.arg(code_of(u"Alder"_s, u"Ann"_s)));
     }
 
-    void a_title_with_a_strange_name_is_shown_as_it_is()
+    void a_name_with_special_characters_is_shown_unchanged_in_the_title()
     {
         const partner_store store;
         store.add(u"<b>A&B</b>"_s, u"%1 'x'"_s, 1);

@@ -17,8 +17,8 @@ class test_partner_removal : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void yes_removes_the_partner_and_nothing_else_data() { both_languages(); }
-    void yes_removes_the_partner_and_nothing_else()
+    void Yes_removes_the_partner_and_nothing_else_data() { both_languages(); }
+    void Yes_removes_the_partner_and_nothing_else()
     {
         QFETCH(bool, french);
         const partner_store store(french);
@@ -30,20 +30,20 @@ private Q_SLOTS:
             user.answer(question_on_removal(u" Birch Bob"_s), QMessageBox::Yes);
             user.wait_for_window(partner_window());
             user.same(user.grid_rows(grid), 2, u"rows"_s);
-            user.same(user.cursor(grid), u"1,2"_s, u"the cursor stands on the next partner"_s);
+            user.same(user.cursor(grid), u"1,2"_s, u"the cursor is on the next partner"_s);
             accept_partners(user);
         });
         QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1"_s);
         QCOMPARE(store.store.text(u"select PARTNERS from games2"_s), u"2-1-"_s);
     }
 
-    void a_removal_waits_for_the_next_new_row_or_the_end_of_the_window_data()
+    void a_removal_is_pending_until_the_next_new_row_or_the_closing_data()
     {
         QTest::addColumn<bool>("adding");
         QTest::newRow("a new row") << true;
-        QTest::newRow("the end of the window") << false;
+        QTest::newRow("the closing of the window") << false;
     }
-    void a_removal_waits_for_the_next_new_row_or_the_end_of_the_window()
+    void a_removal_is_pending_until_the_next_new_row_or_the_closing()
     {
         QFETCH(bool, adding);
         const partner_store store;
@@ -52,24 +52,24 @@ private Q_SLOTS:
             user.click(u"Del"_s);
             user.answer(question_on_removal(u" Alder Ann"_s), QMessageBox::Yes);
             user.wait_for_window(partner_window());
-            user.same(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s, u"stored still"_s);
+            user.same(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s, u"still stored"_s);
             if (adding) {
                 user.click(u"add"_s);
                 user.same(store.store.number(u"select count(*) from partners where code = 1"_s), 0,
-                          u"gone with the new row"_s);
+                          u"removed with the new row"_s);
             }
             user.close_window(partner_window());
         });
         QCOMPARE(store.rows().left(26), u"Cedar,Cleo,3 | Birch,Bob,2"_s);
     }
 
-    void any_other_answer_does_nothing_data()
+    void any_other_answer_removes_nothing_data()
     {
         QTest::addColumn<bool>("escape");
         QTest::newRow("No") << false;
         QTest::newRow("Escape") << true;
     }
-    void any_other_answer_does_nothing()
+    void any_other_answer_removes_nothing()
     {
         QFETCH(bool, escape);
         const partner_store store;
@@ -89,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
 
-    void the_last_ones_can_be_removed_one_after_the_other()
+    void all_partners_can_be_removed_one_after_the_other()
     {
         const partner_store store;
         store.add_three();
@@ -102,13 +102,13 @@ private Q_SLOTS:
             }
             user.same(user.grid_rows(grid), 0, u"rows"_s);
             user.click(u"Del"_s);
-            user.check(!user.is_open(u"message_box"_s), u"there is nobody left"_s);
+            user.check(!user.is_open(u"message_box"_s), u"no question is shown"_s);
             accept_partners(user);
         });
         QCOMPARE(store.rows(), QString());
     }
 
-    void the_title_names_what_there_is_data()
+    void the_title_shows_the_names_that_are_not_Null_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("surname");
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QTest::newRow("a first name") << u"null"_s << u"'Bob'"_s << u" Bob"_s;
         QTest::newRow("empty names") << u"''"_s << u"''"_s << u"  "_s;
     }
-    void the_title_names_what_there_is()
+    void the_title_shows_the_names_that_are_not_Null()
     {
         QFETCH(QString, name);
         QFETCH(QString, surname);

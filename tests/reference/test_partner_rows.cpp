@@ -18,7 +18,7 @@ int code_of(QString name, QString surname)
     return plain(Verdane_tools::name_checksum(name, surname));
 }
 
-/// Lets a user who named a partner and has not been heard leave the window.
+/// Closes the window although a name is missing.
 void leave_by_title_bar(hand& user)
 {
     user.close_window(partner_window());
@@ -60,7 +60,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_new_partner_that_is_never_named_keeps_the_window_open_data()
+    void a_new_partner_without_a_name_keeps_the_window_open_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("button");
@@ -70,7 +70,7 @@ private Q_SLOTS:
                     << french << button;
         }
     }
-    void a_new_partner_that_is_never_named_keeps_the_window_open()
+    void a_new_partner_without_a_name_keeps_the_window_open()
     {
         QFETCH(bool, french);
         QFETCH(QString, button);
@@ -83,11 +83,11 @@ private Q_SLOTS:
                 user.click(button);
                 user.answer(refusal_of_missing_name());
                 user.wait_for_window(partner_window());
-                user.same(user.cursor(grid), u"3,0"_s, u"the cursor stands where a name is missing"_s);
+                user.same(user.cursor(grid), u"3,0"_s, u"the cursor is where a name is missing"_s);
                 user.same(user.focus(), grid, u"focus"_s);
             }
-            user.same(user.cell(grid, 3, 6), code, u"the provisional code stays"_s);
-            user.check(store.frame.locked, u"the menu stays locked"_s);
+            user.same(user.cell(grid, 3, 6), code, u"provisional code"_s);
+            user.check(store.frame.locked, u"the menu is still locked"_s);
             type_into(user, 3, 0, u"Doe"_s);
             user.type(u"Jane"_s);
             user.click(button);
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QCOMPARE(store.rows().section(u" | "_s, 3), u"Doe,Jane,%1"_s.arg(code_of(u"Doe"_s, u"Jane"_s)));
     }
 
-    void escape_drops_the_cell_first_and_then_refuses_a_missing_name()
+    void Escape_discards_the_cell_first_and_then_reports_a_missing_name()
     {
         const partner_store store;
         store.add_three();
@@ -103,7 +103,7 @@ private Q_SLOTS:
             user.click(u"add"_s);
             user.type(u"Doe"_s);
             user.key(Qt::Key_Escape);
-            user.check(!user.is_open(u"message_box"_s), u"only the cell is dropped"_s);
+            user.check(!user.is_open(u"message_box"_s), u"no message box is open"_s);
             user.same(user.cell(grid, 3, 0), QString(), u"name"_s);
             user.key(Qt::Key_Escape);
             user.answer(refusal_of_missing_name());
@@ -112,7 +112,7 @@ private Q_SLOTS:
         });
     }
 
-    void which_names_are_missing_data()
+    void a_Null_empty_or_blank_name_is_missing_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("surname");
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QTest::newRow("a first name of blanks") << u"'Birch'"_s << u"'   '"_s << u"0,1"_s;
         QTest::newRow("neither") << u"null"_s << u"null"_s << u"0,0"_s;
     }
-    void which_names_are_missing()
+    void a_Null_empty_or_blank_name_is_missing()
     {
         QFETCH(QString, name);
         QFETCH(QString, surname);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(store.store.number(u"select code from partners"_s), 5);
     }
 
-    void only_the_first_missing_name_is_told_and_all_rows_are_stored()
+    void only_the_first_missing_name_is_reported_and_all_rows_are_stored()
     {
         const partner_store store;
         store.add_three();
@@ -165,25 +165,27 @@ private Q_SLOTS:
         QCOMPARE(store.store.text(u"select AD1 from partners where NAME = 'Alder'"_s), u"1 Oak Road"_s);
     }
 
-    void the_code_follows_the_names_at_every_row_commit()
+    void the_code_is_computed_from_the_names_at_every_row_commit()
     {
         const partner_store store;
         store.add_three();
         in_partners([](hand& user) {
             type_into(user, 0, 0, u"Ash"_s);
-            user.same(user.cell(grid, 0, 6), u"1"_s, u"not before the row is left"_s);
+            user.same(user.cell(grid, 0, 6), u"1"_s, u"code before the row is left"_s);
             user.key(Qt::Key_Down);
-            user.same(user.cell(grid, 0, 6), QString::number(code_of(u"Ash"_s, u"Ann"_s)), u"once it is"_s);
+            user.same(user.cell(grid, 0, 6), QString::number(code_of(u"Ash"_s, u"Ann"_s)),
+                      u"code after the row was left"_s);
             type_into(user, 0, 0, u"alder"_s);
             user.click_cell(grid, 2, 4);
-            user.same(user.cell(grid, 0, 6), QString::number(code_of(u"ALDER"_s, u"Ann"_s)), u"again"_s);
+            user.same(user.cell(grid, 0, 6), QString::number(code_of(u"ALDER"_s, u"Ann"_s)),
+                      u"code after the second change"_s);
             accept_partners(user);
         });
         QCOMPARE(store.rows(),
                  u"Cedar,Cleo,3 | alder,Ann,%1 | Birch,Bob,2"_s.arg(code_of(u"Alder"_s, u"Ann"_s)));
     }
 
-    void any_edit_of_a_row_makes_its_code_anew()
+    void any_edit_of_a_row_computes_its_code_again()
     {
         const partner_store store;
         store.add_three();
@@ -197,7 +199,7 @@ private Q_SLOTS:
                      .arg(code_of(u"Birch"_s, u"Bob"_s)));
     }
 
-    void walking_over_rows_changes_no_code()
+    void moving_through_rows_without_a_change_keeps_their_codes()
     {
         const partner_store store;
         store.add_three();
@@ -244,7 +246,7 @@ private Q_SLOTS:
         });
     }
 
-    void missing_names_become_empty_at_the_row_commit()
+    void Null_names_become_empty_texts_at_the_row_commit()
     {
         const partner_store store;
         in_partners([](hand& user) {
@@ -274,7 +276,7 @@ private Q_SLOTS:
                                    .arg(code_of(u"Birch"_s, u"Bob"_s)));
     }
 
-    void names_with_quotes_and_accents_are_kept()
+    void names_with_quotes_and_accents_are_stored()
     {
         const partner_store store;
         in_partners([](hand& user) {
@@ -287,14 +289,14 @@ private Q_SLOTS:
         QCOMPARE(store.rows(), u"O'Brien,Éléonore,%1"_s.arg(code_of(u"O'Brien"_s, u"Éléonore"_s)));
     }
 
-    void closing_finishes_although_the_store_refuses_data()
+    void the_window_closes_although_the_store_refuses_the_rows_data()
     {
         QTest::addColumn<QString>("button");
         QTest::newRow("OK") << u"cmdSave"_s;
         QTest::newRow("Cancel") << u"cmdAn"_s;
         QTest::newRow("the title bar") << QString();
     }
-    void closing_finishes_although_the_store_refuses()
+    void the_window_closes_although_the_store_refuses_the_rows()
     {
         QFETCH(QString, button);
         const partner_store store;
