@@ -22,9 +22,7 @@
 #include "records/round_rows.h"
 #include "scoring/limits.h"
 #include "scoring/round_key.h"
-#include "statistics/selection_choice.h"
-#include "statistics/selection_clauses.h"
-#include "statistics/selection_lists.h"
+#include "statistics/selection_filters.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/games.h"
 

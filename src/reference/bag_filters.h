@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "statistics/selection_arguments.h"
+#include "statistics/selection.h"
 
 class QComboBox;
 class QLayout;

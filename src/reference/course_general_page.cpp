@@ -13,23 +13,13 @@
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
+#include "scoring/words.h"
 
 namespace verdane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr std::array<text_pair, 8> tees = {{
-    {u"Blanc", u"White"},
-    {u"Bleu", u"Blue"},
-    {u"Rouge", u"Red"},
-    {u"Or", u"Gold"},
-    {u"Bronze", u"Bronze"},
-    {u"Jaune", u"Yellow"},
-    {u"Vert", u"Green"},
-    {u"Noir", u"Black"},
-}};
 
 constexpr int figure_characters = 6;
 /// The longest name that the round window can show.
@@ -60,7 +50,7 @@ key_answer name_key(QChar key)
 course_general_page::course_general_page(const Form& window) : tee_box_(named(new QComboBox, u"departure"))
 {
     make_boxes();
-    for (const text_pair& tee : tees)
+    for (const text_pair& tee : tee_words)
         tee_box_->addItem(tee.in(window.french()));
     lay_out(window);
     connect_events();

@@ -11,7 +11,7 @@
 #include "controls/look.h"
 #include "controls/shortcuts.h"
 #include "round/shot_grid.h"
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane {

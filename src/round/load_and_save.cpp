@@ -8,8 +8,8 @@
 #include "round/quick_page.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
-#include "scoring/hole_shots.h"
-#include "scoring/shot_words.h"
+#include "scoring/hole_summary.h"
+#include "scoring/words.h"
 #include "store/DataEnvironment1.h"
 #include "store/joined_commits.h"
 
@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The codes of the other penalties are in `scoring/shot_words.h`.
+/// The codes of the other penalties are in `scoring/words.h`.
 constexpr int water_penalty = 1;
 constexpr int lost_ball_penalty = 2;
 

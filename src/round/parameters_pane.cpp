@@ -17,7 +17,7 @@
 #include "controls/look.h"
 #include "round/course_box.h"
 #include "round/temperature_box.h"
-#include "scoring/weather_words.h"
+#include "scoring/words.h"
 
 namespace verdane {
 

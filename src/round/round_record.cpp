@@ -1,7 +1,7 @@
 #include "round/round_record.h"
 
 #include "base/language.h"
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 #include "records/round_rows.h"

@@ -4,11 +4,11 @@
 #include <array>
 
 #include "base/language.h"
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "base/numbers.h"
 #include "controls/failure_guard.h"
 #include "scoring/limits.h"
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/games2.h"
 #include "store/tables/Stat_rounds.h"

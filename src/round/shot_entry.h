@@ -8,6 +8,7 @@
 
 #include "records/round_rows.h"
 #include "round/shot_rows.h"
+#include "scoring/hole_summary.h"
 
 namespace verdane {
 

@@ -13,7 +13,7 @@
 #include "controls/look.h"
 #include "controls/main_frame.h"
 #include "scoring/limits.h"
-#include "scoring/shot_words.h"
+#include "scoring/words.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane {

@@ -11,6 +11,7 @@
 #include "base/language.h"
 #include "controls/Form.h"
 #include "controls/look.h"
+#include "round/class_captions.h"
 #include "scoring/hole_classes.h"
 
 namespace verdane {
@@ -26,10 +27,10 @@ constexpr int gap = 0;
 constexpr std::array left_column = {25, 26, 27, 28, gap, 6, 7, 8, 9, gap, 15, 16, 17};
 constexpr std::array right_column = {1, 12, 13, 14, 10, 11, gap, 18, 19, 20, 21, 22, 23, 24};
 
-const selector_row& row_of(int selector)
+const class_box& row_of(int selector)
 {
-    return *std::find_if(panel_selectors.begin(), panel_selectors.end(),
-                         [selector](const selector_row& row) { return row.selector == selector; });
+    return *std::find_if(class_boxes.begin(), class_boxes.end(),
+                         [selector](const class_box& row) { return row.selector == selector; });
 }
 
 /// Most classes do not change from one figure to the next; those boxes are not painted again.
@@ -78,7 +79,7 @@ QGridLayout* statistics_pane::make_column(const Form& window, const Selectors& s
             rows->setRowMinimumHeight(row, rhythm);
             continue;
         }
-        const selector_row& shown = row_of(selector);
+        const class_box& shown = row_of(selector);
         QLineEdit* box = class_boxes_.add(shown.box, make_figure(figure_digits));
         rows->addWidget(make_label(shown.label.in(window.french()), box), row, 0);
         rows->addWidget(box, row, 1);
@@ -89,7 +90,7 @@ QGridLayout* statistics_pane::make_column(const Form& window, const Selectors& s
 
 void statistics_pane::show_hole(const hole_figures& figures, int16 par)
 {
-    for (const selector_row& row : panel_selectors)
+    for (const class_box& row : class_boxes)
         show_class(class_boxes_(row.box), hole_cell(row.selector, figures, par));
 }
 

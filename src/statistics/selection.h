@@ -5,8 +5,6 @@
 /// The selection of rounds that a statistic is computed for.
 namespace verdane {
 
-using namespace Qt::StringLiterals;
-
 /// The arguments of a statistic: the selected rounds, and the texts for the heading of its report. Each
 /// filter is there both as a clause and as a plain value, because the statistics read some tables with SQL
 /// and walk others row by row.
@@ -16,9 +14,9 @@ struct selection_arguments {
     QString to_key;
 
     /// Fragments of a WHERE clause, made by `clause_of`.
-    QString partner_clause = u" "_s;
-    QString course_clause = u" "_s;
-    QString weather_clause = u" "_s;
+    QString partner_clause = QStringLiteral(" ");
+    QString course_clause = QStringLiteral(" ");
+    QString weather_clause = QStringLiteral(" ");
 
     /// The filters as the report shows them.
     QString partner_text;

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "round/detailed_page.h"
 #include "round/f_new_round.h"
 #include "round/shot_rows.h"

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "controls/TabStrip.h"
 #include "round/f_new_round.h"
 #include "tests/round/entered_shots.h"

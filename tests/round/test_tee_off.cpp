@@ -2,7 +2,7 @@
 #include <QTableView>
 #include <QTest>
 
-#include "base/Main_module.h"
+#include "records/Main_module.h"
 #include "round/f_new_round.h"
 #include "round/tee_off.h"
 #include "tests/round/round_windows.h"
