@@ -11,7 +11,6 @@
 #include "records/round_list.h"
 #include "round/round_opening.h"
 #include "scoring/round_key.h"
-#include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::f_games_func {

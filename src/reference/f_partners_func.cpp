@@ -10,7 +10,6 @@
 #include "controls/main_frame.h"
 #include "reference/f_partners.h"
 #include "scoring/Verdane_tools.h"
-#include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/partners.h"
 

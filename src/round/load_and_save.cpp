@@ -10,8 +10,8 @@
 #include "round/statistics_pane.h"
 #include "scoring/hole_summary.h"
 #include "scoring/words.h"
+#include "store/commits.h"
 #include "store/DataEnvironment1.h"
-#include "store/joined_commits.h"
 
 namespace verdane::f_new_round_func {
 

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "base/language.h"
-#include "records/Main_module.h"
 #include "base/numbers.h"
 #include "controls/failure_guard.h"
+#include "records/Main_module.h"
 #include "scoring/limits.h"
 #include "scoring/words.h"
 #include "store/DataEnvironment1.h"

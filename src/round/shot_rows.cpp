@@ -1,8 +1,8 @@
 #include "round/shot_rows.h"
 
 #include "controls/failure_guard.h"
-#include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"
+#include "store/Recordset.h"
 #include "store/tables/Stat_rounds.h"
 
 namespace verdane {

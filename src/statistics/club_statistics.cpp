@@ -5,8 +5,8 @@
 #include "reports/report_control.h"
 #include "statistics/club_shots.h"
 #include "statistics/club_table.h"
+#include "store/commits.h"
 #include "store/DataEnvironment1.h"
-#include "store/relaxed_commits.h"
 #include "store/tables/golf_bag.h"
 
 namespace verdane::Statistics {

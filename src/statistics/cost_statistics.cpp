@@ -3,10 +3,9 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "reports/report_control.h"
+#include "store/commits.h"
 #include "store/DataEnvironment1.h"
-#include "store/relaxed_commits.h"
 #include "store/scoped_source.h"
-#include "store/single_commit.h"
 #include "store/tables/cost.h"
 
 namespace verdane::Statistics {

@@ -7,8 +7,8 @@
 #include "scoring/round_key.h"
 #include "statistics/putt_lengths.h"
 #include "statistics/putt_tables.h"
+#include "store/commits.h"
 #include "store/DataEnvironment1.h"
-#include "store/relaxed_commits.h"
 
 namespace verdane::Statistics {
 

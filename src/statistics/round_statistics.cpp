@@ -7,8 +7,8 @@
 #include "statistics/round_handicap.h"
 #include "statistics/stats_table.h"
 #include "statistics/summary_pass.h"
+#include "store/commits.h"
 #include "store/DataEnvironment1.h"
-#include "store/relaxed_commits.h"
 
 namespace verdane::Statistics {
 

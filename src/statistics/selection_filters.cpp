@@ -12,8 +12,8 @@
 #include "scoring/round_key.h"
 #include "scoring/Verdane_tools.h"
 #include "scoring/words.h"
-#include "store/close_if_open.h"
 #include "store/DataEnvironment1.h"
+#include "store/Recordset.h"
 #include "store/tables/courses.h"
 #include "store/tables/partners.h"
 

@@ -1,6 +1,6 @@
 #include "store/Connection1.h"
 
-#include "store/engine_handle.h"
+#include "store/engine.h"
 #include "store/fresh_store.h"
 #include "store/prepared_statements.h"
 #include "store/schema.h"
@@ -34,7 +34,7 @@ QString answer(const QSqlDatabase& database, const QString& question)
     return query.value(0).toString();
 }
 
-/// True when a file stands where the folder, or one above it, should be.
+/// True if a file has the name of the folder or of one above it.
 bool file_in_the_way(const QString& folder)
 {
     QFileInfo nearest(folder);
@@ -59,27 +59,27 @@ void run(const QSqlDatabase& database, const QString& statement)
         throw store_failure(query.lastError(), statement);
 }
 
-/// Takes the write lock, which changes nothing: a tool in the middle of its own work is met here.
+/// Fails with `store_locked` while another program writes. Takes the write lock, which changes nothing.
 void check_no_other_writer(const QSqlDatabase& database)
 {
     run(database, u"BEGIN IMMEDIATE"_s);
     run(database, u"ROLLBACK"_s);
 }
 
-/// Whether closing the connection copies the write-ahead log into the file and removes it.
+/// Sets whether closing the connection copies the write-ahead log into the file and removes the log.
 void copy_log_on_close(const QSqlDatabase& database, bool copy)
 {
     sqlite3_db_config(engine_handle(database), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, copy ? 0 : 1, nullptr);
 }
 
-/// In any other mode, changing to the write-ahead log is itself a write to the file.
+/// In any other mode, the change to the write-ahead log writes to the file.
 bool uses_write_ahead_log(const QSqlDatabase& database)
 {
     return answer(database, u"PRAGMA journal_mode"_s) == u"wal";
 }
 
-/// Whether the file holds a store; if not, one is created. Tables of which none is known belong to another
-/// program.
+/// True if the file has at least one table of the store, false if it has no table. Fails with `store_damaged`
+/// if it has other tables only, which belong to another program.
 bool has_store(const QSqlDatabase& database)
 {
     const QStringList names = database.tables();
@@ -130,7 +130,7 @@ void Connection1::Open(const QString& path, soundness_check check)
         open_engine(check);
     } catch (...) {
         Close();
-        // A file that was created just now and could not be filled is of no use to anyone.
+        // A new file without tables is removed again.
         if (created)
             remove_store_files(path);
         throw;
@@ -154,7 +154,7 @@ void Connection1::open_engine(soundness_check check)
         check_whole_file();
     check_no_other_writer(database());
     const bool is_complete = has_store(database());
-    // WAL lets report printing and other readers look on while the program writes.
+    // With a write-ahead log the reports can read while the program writes.
     answer(database(), u"PRAGMA journal_mode=WAL"_s);
     run(database(), u"PRAGMA synchronous=FULL"_s);
     run(database(), u"PRAGMA cache_size=-%1"_s.arg(kept_pages_kb));

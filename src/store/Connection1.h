@@ -1,12 +1,10 @@
 #pragma once
 
 #include <QSqlDatabase>
-#include <QSqlError>
 #include <QString>
 
 #include <memory>
 
-#include "base/run_time_failure.h"
 #include "store/lock_wait.h"
 
 class QLockFile;
@@ -15,13 +13,13 @@ namespace verdane {
 
 class prepared_statements;
 
-/// When the whole file is checked for damage: while it is opened, or later, by the caller's own call of
-/// `check_soundness`, and at the latest before the first statement that writes. A file is checked while it is
-/// opened in either case if no table is found in it, or if opening it changes its journal mode.
+/// When the whole file is checked for damage: while it is opened, or later, when the caller calls
+/// `check_soundness`, but before the first statement that writes. If the file has no table, or if opening
+/// changes its journal mode, it is always checked while it is opened.
 enum class soundness_check { while_opening, later };
 
-/// The program's one connection to the store. With no data source `Verdbase` registered, the store
-/// is one SQLite file in the user's data folder, laid down whole on the first start.
+/// The connection to the store: one SQLite file in the data folder of the user, created with all tables on
+/// the first start.
 class Connection1 {
 public:
     Connection1();
@@ -29,64 +27,63 @@ public:
     Connection1(const Connection1&) = delete;
     Connection1& operator=(const Connection1&) = delete;
 
-    /// The connection string of the data source.
+    /// The connection string of the data source `Verdbase`, which would replace the file.
     static QString connection_string();
 
-    /// The store's file in the user's data folder (the platform's standard place).
+    /// The file of the store in the platform's folder for the data of the user.
     static QString default_path();
 
-    /// Opens the store at `path`, laying it down first when there is none, and takes the lock that
-    /// keeps a second program off it. Commits survive a power cut (WAL, synchronous=FULL).
-    /// The whole file is checked first, unless that is left for later; one that has some of the tables is
-    /// taken as it is, and a recordset on a table that it lacks fails with `missing_table`. Fails with
+    /// Opens the store at `path`, creates it if there is none, and takes the lock that excludes a second
+    /// program. Commits survive a power cut (WAL, synchronous=FULL). A file with only some of the tables is
+    /// opened, too; a recordset on a missing table then fails with `missing_table`. Fails with
     /// `store_locked`, `store_read_only`, `store_damaged`, `store_full` or `store_unreachable`, and with
-    /// `misuse` when it is open; the file is then as it was.
+    /// `misuse` if the connection is open. After a failure the file is unchanged.
     void Open(const QString& path = default_path(), soundness_check check = soundness_check::while_opening);
 
-    /// Checks the whole file, its indexes against its tables too, which changes nothing.
-    /// Fails with `store_damaged`.
+    /// Checks the whole file, and the indexes against the tables, without changing it. Fails with
+    /// `store_damaged`.
     void check_soundness() const;
 
-    /// Checks the file unless it is known to be sound. For whatever is about to write: figures that a
-    /// damaged index hides would be overwritten with zeros. Fails with `store_damaged`.
+    /// Checks the file unless it has been checked. Called before every statement that writes, because figures
+    /// that a damaged index hides would be overwritten with zeros. Fails with `store_damaged`.
     void need_soundness() const;
 
-    /// Closes the connection and gives the lock back. Pending rows of recordsets are not written.
+    /// Closes the connection and releases the lock. Pending rows of recordsets are not written.
     void Close();
 
     bool is_open() const;
     QString path() const { return path_; }
 
     /// Runs a statement without parameters and commits it. Recordsets that are open keep the rows they
-    /// have read until their next `Requery`. Fails with the kind that fits the engine's error; the
-    /// statement stands in the details.
+    /// have read until their next `Requery`. Fails with the kind that fits the engine's error; its details
+    /// contain the statement.
     void Execute(const QString& statement);
 
-    /// The toolkit's handle, for the recordsets of this room only.
+    /// Qt's handle of the connection, for this library only.
     QSqlDatabase database() const;
 
-    /// The statements that this room writes rows with, kept ready until the connection is closed.
+    /// The statements that write rows, prepared until the connection is closed.
     prepared_statements& prepared() const { return *prepared_; }
 
-    /// How statements wait for another program's lock. Once the connection is open a statement waits for the
-    /// time-out of its recordset, or for `lock_wait::default_time_out_s`.
+    /// How statements wait for the lock of another program. The time-out is that of the recordset, or
+    /// `lock_wait::default_time_out_s`.
     lock_wait& waiting() const { return *waiting_; }
 
 private:
     friend class relaxed_commits;
 
-    /// How long opening waits for a tool that holds the file, in seconds. Short: at the start no window is up
-    /// that could show why nothing happens.
+    /// How long opening waits for another program that has locked the file, in seconds. Short, because no
+    /// window is open yet that could show the reason.
     static constexpr int opening_time_out_s = 1;
 
-    /// How much of the file the engine may keep in memory. A full diary is some 4 MB, and the statistics
-    /// read it again and again; the engine's own 2 MB would hold only half of it.
+    /// How much of the file the engine may keep in memory. A full diary has some 4 MB, which the statistics
+    /// read many times; the engine's default is 2 MB.
     static constexpr int kept_pages_kb = 16 * 1024;
 
     void open_engine(soundness_check check);
     void check_whole_file() const;
 
-    /// The toolkit's name for this connection; several may be open in one process, on several files.
+    /// Qt's name for this connection. Tests open several in one process.
     QString name_;
     int relaxations_ = 0;
     mutable bool known_sound_ = false;
@@ -96,11 +93,8 @@ private:
     std::unique_ptr<lock_wait> waiting_;
 };
 
-/// A text between single quotes, with the quotes inside it doubled. For every value that the system
-/// makes itself (round keys, course codes) this adds nothing but the two quotes.
+/// A text between single quotes, with the quotes inside it doubled. Values that the program generates (round
+/// keys, course codes) contain no quotes.
 QString quoted(const QString& text);
-
-/// The failure that an engine's error means; `where` names the statement and the recordset.
-run_time_failure store_failure(const QSqlError& error, const QString& where);
 
 }  // namespace verdane

@@ -75,8 +75,8 @@ void DataEnvironment1::abandon()
 
 DataEnvironment1& data_environment()
 {
-    // Never destroyed: the toolkit's own tables of connections may be gone by then. Instead the
-    // connection is closed, and its lock given back, when the application object goes.
+    // Never destroyed, because Qt may have destroyed its list of connections by then. Instead the connection
+    // is closed and its lock released when the application object is destroyed.
     static DataEnvironment1* const environment = [] {
         qAddPostRoutine([] { data_environment().abandon(); });
         return new DataEnvironment1;

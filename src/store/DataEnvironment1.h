@@ -45,7 +45,7 @@ public:
     void abandon();
 };
 
-/// The one data environment of the run.
+/// The data environment of the run.
 DataEnvironment1& data_environment();
 
 }  // namespace verdane

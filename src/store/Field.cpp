@@ -1,14 +1,15 @@
+#include "store/Field.h"
+
 #include "base/numbers.h"
 #include "base/text.h"
 #include "store/column_value.h"
-#include "store/recordset_rows.h"
+#include "store/row_editor.h"
 
-/// Reading and writing one field.
 namespace verdane {
 
 namespace {
 
-/// Null and the empty text, which boxes leave behind, are no number.
+/// Null and the text of an empty box.
 bool is_nothing(const QVariant& value)
 {
     return value.isNull() || (value.typeId() == QMetaType::QString && value.toString().isEmpty());
@@ -16,7 +17,7 @@ bool is_nothing(const QVariant& value)
 
 int16 count_of(const QVariant& value)
 {
-    // Nearly every count is a small whole number already.
+    // Nearly every count is an int already, and needs no conversion.
     if (value.typeId() == QMetaType::Int)
         return *static_cast<const int*>(value.constData());
     return to_int16(number_of(value));
@@ -46,7 +47,7 @@ const QVariant& Field::cell_with_value() const
 {
     const QVariant& value = cell();
     if (value.isNull()) {
-        const Recordset::rows& rows = *owner_.rows_;
+        const row_editor& rows = *owner_.rows_;
         rows.fail(failure_kind::invalid_null, QString(rows.column_name(ordinal_) + u" has no value"));
     }
     return value;

@@ -1,28 +1,16 @@
 #include "store/Recordset.h"
 
-#include "store/Connection1.h"
-#include "store/find_criterion.h"
-#include "store/recordset_rows.h"
-#include "store/row_writer.h"
-
 #include <algorithm>
 
-/// Opening, walking and finding; editing stands in `recordset_edit.cpp`.
+#include "store/Connection1.h"
+#include "store/row_editor.h"
+
 namespace verdane {
 
 using namespace Qt::StringLiterals;
 
-find_criterion Recordset::rows::read_criterion(const QString& criterion) const
-{
-    try {
-        return find_criterion(criterion);
-    } catch (const run_time_failure& failure) {
-        fail(failure.kind(), failure.details());
-    }
-}
-
 Recordset::Recordset(Connection1& connection, recordset_settings settings)
-    : rows_(std::make_unique<rows>(connection, std::move(settings)))
+    : rows_(std::make_unique<row_editor>(connection, std::move(settings)))
 {
 }
 
@@ -81,7 +69,7 @@ void Recordset::Requery()
     if (rows_->unread)
         return;
     rows_->need_all_rows();
-    // Read first: when that fails, the recordset is as it was.
+    // The old rows are kept until the new ones have been read: a failure changes nothing.
     row_set fresh = rows_->read();
     rows_->forget_rows();
     rows_->set = std::move(fresh);
@@ -122,7 +110,7 @@ void Recordset::MoveFirst()
     rows_->leave_row();
     if (rows_->count() == 0)
         rows_->fail(failure_kind::misuse, u"there is no first row"_s);
-    rows_->stand_at(0);
+    rows_->move_to(0);
 }
 
 void Recordset::MoveLast()
@@ -130,13 +118,13 @@ void Recordset::MoveLast()
     rows_->leave_row();
     if (rows_->count() == 0)
         rows_->fail(failure_kind::misuse, u"there is no last row"_s);
-    rows_->stand_at(rows_->count() - 1);
+    rows_->move_to(rows_->count() - 1);
 }
 
 void Recordset::MoveNext()
 {
     if (rows_->stream != nullptr)
-        rows_->pass_to_next(*rows_->stream);
+        rows_->read_next(*rows_->stream);
     else
         Move(1);
 }
@@ -151,9 +139,9 @@ void Recordset::Move(int steps)
     rows_->leave_row();
     if (steps == 0)
         return;
-    // In a gap the next row stands at `place` already.
+    // In a gap `place` is the index of the next row.
     const qint64 from = rows_->in_gap && steps > 0 ? rows_->place - 1 : rows_->place;
-    rows_->stand_at(static_cast<int>(std::clamp<qint64>(from + steps, -1, rows_->count())));
+    rows_->move_to(static_cast<int>(std::clamp<qint64>(from + steps, -1, rows_->count())));
 }
 
 void Recordset::MoveTo(int row)
@@ -161,28 +149,13 @@ void Recordset::MoveTo(int row)
     rows_->leave_row();
     if (row < 0 || row >= rows_->count())
         rows_->fail(failure_kind::misuse, u"there is no row %1"_s.arg(row));
-    rows_->stand_at(row);
+    rows_->move_to(row);
 }
 
 void Recordset::Find(const QString& criterion, search_direction direction)
 {
     rows_->leave_row();
-    const find_criterion wanted = rows_->read_criterion(criterion);
-    const auto column = static_cast<std::size_t>(Fields(wanted.column()).ordinal());
-    const auto& all = rows_->set.rows;
-    const auto matches = [&wanted, column](const auto& row) { return wanted.matches(row->cells[column]); };
-    const auto start = all.begin() + std::clamp(rows_->place, 0, rows_->count());
-    if (direction == search_direction::backward) {
-        // The row that the search stands on belongs to the way back.
-        const auto back_from = rows_->on_row() ? start + 1 : start;
-        const auto back = std::find_if(std::make_reverse_iterator(back_from), all.rend(), matches);
-        if (back != all.rend()) {
-            rows_->stand_at(static_cast<int>(all.rend() - back) - 1);
-            return;
-        }
-    }
-    // Backward callers stand on the first row and expect the whole table to be looked through.
-    rows_->stand_at(static_cast<int>(std::find_if(start, all.end(), matches) - all.begin()));
+    rows_->find(criterion, direction);
 }
 
 Field Recordset::Fields(int ordinal)
@@ -194,10 +167,7 @@ Field Recordset::Fields(int ordinal)
 Field Recordset::Fields(QStringView name)
 {
     rows_->need_rows();
-    const auto found = rows_->set.ordinals.constFind(name.toString().toLower());
-    if (found == rows_->set.ordinals.constEnd())
-        rows_->fail(failure_kind::missing_table, QString(u"no column " + name));
-    return {*this, found.value()};
+    return {*this, rows_->ordinal_of(name)};
 }
 
 int Recordset::field_count() const
@@ -225,6 +195,48 @@ QVariant Recordset::value_at(int row, int ordinal) const
         rows_->fail(failure_kind::misuse, u"there is no row %1"_s.arg(row));
     return rows_->set.rows[static_cast<std::size_t>(row)]
         ->cells[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))];
+}
+
+void Recordset::AddNew()
+{
+    rows_->add();
+}
+
+void Recordset::Update()
+{
+    rows_->commit_on_leaving();
+}
+
+void Recordset::UpdateBatch(affect)
+{
+    rows_->need_open();
+    if (rows_->batch())
+        rows_->commit_all();
+    else
+        rows_->commit_on_leaving();
+}
+
+void Recordset::CancelUpdate()
+{
+    rows_->need_open();
+    if (recordset_row* row = rows_->current_or_null())
+        rows_->cancel(*row);
+}
+
+void Recordset::Delete()
+{
+    rows_->remove();
+}
+
+bool Recordset::pending() const
+{
+    return rows_->pending();
+}
+
+void close_if_open(Recordset& recordset)
+{
+    if (recordset.is_open())
+        recordset.Close();
 }
 
 }  // namespace verdane

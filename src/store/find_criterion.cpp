@@ -74,7 +74,7 @@ int find_criterion::order_of(const QVariant& value) const
     case QMetaType::QString:
         return static_cast<const QString*>(value.constData())->compare(text_);
     case QMetaType::Bool:
-        // "Yes" is 1 to one engine and -1 to another.
+        // Some engines store a yes as 1, others as -1.
         return order(value.toBool() ? 1.0 : 0.0, number_ != 0.0 ? 1.0 : 0.0);
     default:
         return order(value.toDouble(), number_);

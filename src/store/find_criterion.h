@@ -5,12 +5,12 @@
 
 namespace verdane {
 
-/// `column op value`, as `Find` takes it. The value stands between single quotes (two inside are one)
-/// or without; either way it is compared as a number with a number, and as a text, character by
-/// character, with a text. Null matches nothing.
+/// `column op value`, the argument of `Find`. The value may be between single quotes, with quotes inside it
+/// doubled. With or without quotes, it is compared as a number with a number, and character by character with
+/// a text. Null matches nothing.
 class find_criterion {
 public:
-    /// Fails with `misuse` when the text is no criterion.
+    /// Fails with `misuse` if the text is no criterion.
     explicit find_criterion(QStringView criterion);
 
     const QString& column() const { return column_; }

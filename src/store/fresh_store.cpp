@@ -3,6 +3,8 @@
 #include <QSqlQuery>
 
 #include "store/Connection1.h"
+#include "store/engine.h"
+#include "store/schema.h"
 #include "store/tables/golf_bag.h"
 
 namespace verdane {
@@ -50,6 +52,14 @@ QString column_definition(const column& column)
     return definition;
 }
 
+QString creation_statement(const table& table)
+{
+    QStringList definitions;
+    for (const column& column : table.columns)
+        definitions += column_definition(column);
+    return u"CREATE TABLE " + in_back_quotes(table.name) + u" (" + definitions.join(u", "_s) + u')';
+}
+
 QVariant value_by_type(column_type type)
 {
     switch (type) {
@@ -65,6 +75,26 @@ QVariant value_by_type(column_type type)
 QString name_of_club(int place)
 {
     return QStringView(tables::sticknames::new_names[static_cast<std::size_t>(place)]).toString();
+}
+
+/// Rows count from 0.
+QVariant value_of_fixed_row(const column& column, int row)
+{
+    switch (column.fixed) {
+    case fixed_value::by_type:
+        break;
+    case fixed_value::blank:
+        return u" "_s;
+    case fixed_value::digit_zero:
+        return u"0"_s;
+    case fixed_value::row_from_zero:
+        return QString::number(row);
+    case fixed_value::row_from_one:
+        return QString::number(row + 1);
+    case fixed_value::name_of_club:
+        return name_of_club(row + column.place);
+    }
+    return value_by_type(column.type);
 }
 
 QString insertion_statement(const table& table)
@@ -91,26 +121,8 @@ void insert_fixed_rows(Connection1& connection, const table& table)
     }
 }
 
-void create_tables_and_indexes(Connection1& connection)
-{
-    for (const table& table : schema()) {
-        connection.Execute(creation_statement(table));
-        insert_fixed_rows(connection, table);
-    }
-    for (const QString& statement : index_statements())
-        connection.Execute(statement);
-}
-
-}  // namespace
-
-QString creation_statement(const table& table)
-{
-    QStringList definitions;
-    for (const column& column : table.columns)
-        definitions += column_definition(column);
-    return u"CREATE TABLE " + in_back_quotes(table.name) + u" (" + definitions.join(u", "_s) + u')';
-}
-
+/// No index is unique: the program itself checks that a key is used once, and the rows of a new round have no
+/// key yet.
 QStringList index_statements()
 {
     QStringList statements;
@@ -126,24 +138,17 @@ QStringList index_statements()
     return statements;
 }
 
-QVariant value_of_fixed_row(const column& column, int row)
+void create_tables_and_indexes(Connection1& connection)
 {
-    switch (column.fixed) {
-    case fixed_value::by_type:
-        break;
-    case fixed_value::blank:
-        return u" "_s;
-    case fixed_value::digit_zero:
-        return u"0"_s;
-    case fixed_value::row_from_zero:
-        return QString::number(row);
-    case fixed_value::row_from_one:
-        return QString::number(row + 1);
-    case fixed_value::name_of_club:
-        return name_of_club(row + column.place);
+    for (const table& table : schema()) {
+        connection.Execute(creation_statement(table));
+        insert_fixed_rows(connection, table);
     }
-    return value_by_type(column.type);
+    for (const QString& statement : index_statements())
+        connection.Execute(statement);
 }
+
+}  // namespace
 
 void create_tables(Connection1& connection)
 {

@@ -9,37 +9,37 @@ struct sqlite3;
 
 namespace verdane {
 
-/// What the user sees of a statement that waits for a lock which another program holds. It is made while the
-/// statement runs, so nothing that it does may reach the store.
+/// The notice on the screen while a statement waits for the lock of another program. It is created while the
+/// statement runs, so it must not use the store.
 class lock_notice {
 public:
     virtual ~lock_notice() = default;
 
-    /// Repaints the windows and takes the notice's own input. False once the user has given up.
+    /// Repaints the windows and processes the input of the notice. False once the user has given up.
     virtual bool keep_waiting() = 0;
 };
 
 using lock_notice_maker = std::function<std::unique_ptr<lock_notice>()>;
 
-/// How the statements of one connection wait for a lock of another program: quietly at first, then with a
-/// notice on the screen, until the lock is free, the user gives up or the statement's time-out has passed.
-/// The statement then fails with `store_locked`.
+/// How the statements of one connection wait for the lock of another program: at first without a notice, then
+/// with one, until the lock is free. If the user gives up or the time-out has passed, the statement fails
+/// with `store_locked`.
 class lock_wait {
 public:
     /// How long a statement waits before the notice is shown.
     static constexpr int quiet_ms = 1000;
-    /// The time-out of a statement that belongs to no recordset, in seconds; the catalogue gives each
-    /// recordset the same.
+    /// The time-out of a statement without a recordset, in seconds. All recordsets of the catalogue have the
+    /// same.
     static constexpr int default_time_out_s = 30;
 
-    /// Waits for the statements of this connection from now on.
+    /// Makes the statements of this connection wait.
     void attach(sqlite3* connection);
 
-    /// What shows the notice. Without a maker statements wait quietly.
+    /// Sets the function that creates the notice. Without it statements wait without a notice.
     void set_notice_maker(lock_notice_maker maker) { make_notice_ = std::move(maker); }
 
-    /// Limits the wait of statements to so many seconds during its lifetime, and closes the notice at its
-    /// end. The constructor fails with `store_locked` while another statement waits.
+    /// Limits the wait of statements to that number of seconds during its lifetime, and closes the notice at
+    /// its end. The constructor fails with `store_locked` while another statement waits.
     class limit {
     public:
         limit(lock_wait& wait, int seconds);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "store/Connection1.h"
+#include "store/engine.h"
 
 namespace verdane {
 
@@ -10,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The name of a value's place in a statement, from 0. The toolkit makes names of its own for places
-/// that have none, anew for every value that is put there.
+/// The name of a parameter, from 0. Qt would generate a name for an unnamed parameter each time a value is
+/// bound.
 const QString& place_name(std::size_t place)
 {
     static std::vector<QString> names;

@@ -9,25 +9,25 @@
 
 namespace verdane {
 
-/// A statement in the making: its text, and the values for the places in it.
+/// The text of a statement and the values of its parameters.
 struct statement_with_values {
     QString text;
     std::vector<QVariant> values;
 
-    /// Appends a place that takes a value.
+    /// Appends a parameter with its value.
     void add(const QVariant& value);
 };
 
-/// The writing statements that a connection ran last, kept ready to run again: to prepare one takes as
-/// long as to run it. Only so many are kept; the one that was not needed for longest goes.
+/// The statements that a connection used last to write rows. They stay prepared, because preparing takes as
+/// long as running. Of more than `most_kept` the least recently used one is freed.
 class prepared_statements {
 public:
-    /// More than leaving a hole takes; a statistic writes its table with one.
+    /// More than are used when a hole is stored; a statistic uses one.
     static constexpr std::size_t most_kept = 24;
 
-    /// Runs a statement, prepared anew where it is not at hand, and gives what `outcome` reads from it
-    /// before the engine lets go of it. Fails with the kind that fits the engine's error, `where` and the
-    /// statement in its details; such a statement is not kept.
+    /// Runs a statement, which is prepared if it is not kept, and returns the result of `outcome`, which is
+    /// called before the query is finished. Fails with the kind that fits the engine's error; its details
+    /// contain `where` and the statement. A statement that failed is not kept.
     template <typename Outcome>
     auto run(const QSqlDatabase& database, const statement_with_values& statement, const QString& where,
              Outcome outcome)
@@ -38,7 +38,7 @@ public:
         return result;
     }
 
-    /// Before the connection is closed: what is kept holds on to it.
+    /// Called before the connection is closed, because prepared statements keep it open.
     void forget() { kept_.clear(); }
 
 private:
@@ -51,7 +51,7 @@ private:
                    const QString& where);
     QSqlQuery& ready(const QSqlDatabase& database, const QString& text, const QString& where);
 
-    /// The one that ran last comes first.
+    /// The most recently used one is first.
     std::list<kept_statement> kept_;
 };
 

@@ -1,6 +1,4 @@
-#include "store/recordset_rows.h"
-
-#include "store/Connection1.h"
+#include "store/row_reader.h"
 
 #include <QSqlField>
 #include <QSqlRecord>
@@ -9,7 +7,10 @@
 #include <limits>
 #include <utility>
 
-/// From a statement to rows in memory.
+#include "store/Connection1.h"
+#include "store/engine.h"
+#include "store/schema.h"
+
 namespace verdane {
 
 namespace {
@@ -19,11 +20,11 @@ bool is_called(const column& declared, const QString& name)
     return declared.name.compare(name, Qt::CaseInsensitive) == 0;
 }
 
-/// `likely` is where the column stands in the table when the statement asks for all of them. The rounds'
-/// tables have some two hundred.
-const column* declared_column(const table& home, const QString& name, std::size_t likely)
+/// Tests `likely` first: the ordinal in the table if the statement selects all columns. The tables of the
+/// rounds have some two hundred.
+const column* declared_column(const table& owner, const QString& name, std::size_t likely)
 {
-    const auto& all = home.columns;
+    const auto& all = owner.columns;
     if (likely < all.size() && is_called(all[likely], name))
         return &all[likely];
     const auto found =
@@ -32,31 +33,31 @@ const column* declared_column(const table& home, const QString& name, std::size_
 }
 
 recordset_column column_of(const QString& name, std::size_t likely, const select_statement& shape,
-                           const table* home)
+                           const table* owner)
 {
-    if (!shape.updatable || home == nullptr)
+    if (!shape.updatable || owner == nullptr)
         return {name, column_type::any, {}, shape.updatable};
-    const column* declared = declared_column(*home, name, likely);
+    const column* declared = declared_column(*owner, name, likely);
     return declared == nullptr ? recordset_column{name, column_type::any, {}, false}
                                : recordset_column{name, declared->type, declared->default_value, true};
 }
 
 void read_columns(row_set& set, const QSqlRecord& record)
 {
-    const table* home = set.shape.updatable ? find_table(set.shape.table) : nullptr;
+    const table* owner = set.shape.updatable ? find_table(set.shape.table) : nullptr;
     const int hidden = set.shape.updatable ? 1 : 0;
     set.columns.reserve(static_cast<std::size_t>(record.count()));
     for (int i = hidden; i < record.count(); ++i) {
         const QString name = record.fieldName(i);
-        set.columns.push_back(column_of(name, static_cast<std::size_t>(i - hidden), set.shape, home));
+        set.columns.push_back(column_of(name, static_cast<std::size_t>(i - hidden), set.shape, owner));
         const QString key = name.toLower();
         if (!set.ordinals.contains(key))
             set.ordinals.insert(key, i - hidden);
     }
 }
 
-/// The engine hands out every whole number in 64 bits; in memory a cell has its column's own type,
-/// so that reading it needs no conversion. A value of another kind than declared stays as it is.
+/// The engine returns every whole number in 64 bits. In memory a cell has the type of its column, so that
+/// reading needs no conversion. A value of another type than the declared one is not changed.
 QVariant in_column_type(QVariant value, column_type type)
 {
     if (value.isNull())

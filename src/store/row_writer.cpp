@@ -1,5 +1,6 @@
 #include "store/row_writer.h"
 
+#include "base/run_time_failure.h"
 #include "store/Connection1.h"
 #include "store/prepared_statements.h"
 
@@ -33,7 +34,7 @@ std::vector<int> written_columns(const recordset_row& row)
     written.reserve(row.pending->before.size());
     for (const auto& [ordinal, before] : row.pending->before)
         written.push_back(ordinal);
-    // An insertion names at least one column; its default says the same as leaving it out.
+    // An insertion needs at least one column. A column that was not written has its default.
     if (written.empty())
         written.push_back(0);
     return written;
@@ -49,7 +50,7 @@ statement_with_values start_statement(QStringView words, const row_set& set, std
     return statement;
 }
 
-/// How many rows a statement changed.
+/// Returns the number of changed rows.
 int run(const Connection1& connection, const statement_with_values& statement, const QString& where)
 {
     return connection.prepared().run(connection.database(), statement, where,

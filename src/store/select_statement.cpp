@@ -32,7 +32,7 @@ qsizetype word_end(QStringView text, qsizetype from)
     return from;
 }
 
-/// The place behind the closing quote; two quotes in a row inside are one quote of the text.
+/// The position after the closing quote. Two adjacent quotes are one quote of the text.
 qsizetype quoted_end(QStringView text, qsizetype from)
 {
     const QChar quote = text[from++];

@@ -5,22 +5,22 @@
 
 namespace verdane {
 
-/// What a recordset has to know of its statement: whether each row stands for one row of one table.
+/// The parts of a statement that a recordset uses.
 struct select_statement {
-    /// True for `select COLUMNS from TABLE [where ...] [order by ...] [limit ...]`, where COLUMNS
-    /// computes nothing. Joins, groups, unions, aliases and distinct rows cannot be written back.
+    /// True for `select COLUMNS from TABLE [where ...] [order by ...] [limit ...]` with nothing computed in
+    /// COLUMNS: each row is then a row of the table and can be written. Joins, groups, unions, aliases and
+    /// distinct rows cannot.
     bool updatable = false;
-    /// The table's name as it is written; empty when not updatable.
+    /// The name of the table as written; empty if not updatable.
     QString table;
-    /// Where the list of columns starts in the text; 0 when not updatable.
+    /// The position of the list of columns in the text; 0 if not updatable.
     qsizetype columns_at = 0;
 };
 
-/// Reads a statement as far as that. Keywords count in capitals or not, blanks do not count.
+/// Parses a statement to that extent. Case and blanks have no effect.
 select_statement read_select(QStringView statement);
 
-/// The statement with the engine's own row number fetched before the columns; the rest of its text
-/// is unchanged. Only for an updatable one.
+/// The statement with the engine's row number selected before the columns. Only for an updatable statement.
 QString with_row_number(const QString& statement, const select_statement& shape);
 
 }  // namespace verdane

@@ -32,8 +32,8 @@ constexpr int largest_page = 65536;
     throw run_time_failure(failure_kind::store_damaged, QString(path + u": " + reason));
 }
 
-/// Opening the file for writing is the only reliable answer to whether it may be written: permissions do
-/// not say, and the engine finds out as late as its first checkpoint.
+/// Only opening the file for writing shows reliably whether it can be written: permissions do not, and the
+/// engine fails as late as its first checkpoint.
 void open_for_check(QFile& file)
 {
     if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
@@ -44,7 +44,7 @@ void open_for_check(QFile& file)
                            reason);
 }
 
-/// The engine names its files after the file that a link leads to.
+/// The engine derives the names of its files from the target of a link.
 QString file_of_engine(const QString& path, QStringView suffix)
 {
     const QString target = QFileInfo(path).canonicalFilePath();
@@ -67,7 +67,7 @@ bool has_dated_copy(const QString& path)
     return std::any_of(found.begin(), found.end(), [](const QFileInfo& copy) { return copy.size() > 0; });
 }
 
-/// Opening an empty file the engine would delete the log and start a new store.
+/// When the engine opens an empty file, it deletes the log and creates a new store.
 void check_that_nothing_was_lost(const QString& path, bool is_there)
 {
     if (has_content(file_of_engine(path, u"-wal")))
@@ -88,14 +88,14 @@ bool is_known_version(const QByteArray& head, int offset)
     return head[offset] >= 1 && head[offset] <= header::newest_version;
 }
 
-/// True while a log may hold pages that have not reached the file. A crash while they are copied can leave a
+/// True if a log may contain pages that are not in the file yet. A crash while they are copied can leave a
 /// file of any size, or without a header; the engine then reads those pages from the log.
 bool waits_for_recovery(const QString& path)
 {
     return has_content(file_of_engine(path, u"-wal")) || has_content(file_of_engine(path, u"-journal"));
 }
 
-/// The engine reads what is missing of the last page as zeros, so a file that was cut there opens.
+/// The engine reads the missing part of the last page as zeros, so it would open a file that was cut there.
 void check_head(QFile& file, const QString& path)
 {
     const QByteArray head = file.read(header::size);
@@ -128,7 +128,7 @@ void check_store_files(const QString& path)
 
 void remove_store_files(const QString& path)
 {
-    // The file last: a log without its file would look like a store whose file was lost.
+    // The file last: a log without its file means that the file of a store was lost.
     for (const QStringView suffix : {u"-journal", u"-shm", u"-wal", u""})
         QFile::remove(file_of_engine(path, suffix));
 }

@@ -4,13 +4,13 @@
 
 namespace verdane {
 
-/// Looks at the files of the store at `path` before the engine opens them, and changes nothing. No file, or
-/// an empty one, is a store that is still to be created, unless another file shows that there was content:
-/// a write-ahead log, or for an empty file a dated copy (`copies/NAME-YYYY-MM-DD.db` beside it).
+/// Checks the files of the store at `path` before the engine opens them, and changes nothing. If there is no
+/// file, or an empty one, the store is still to be created, unless another file shows that there was content:
+/// a write-ahead log, or for an empty file a dated copy (`copies/NAME-YYYY-MM-DD.db` in the same folder).
 /// Fails with `store_damaged`, `store_read_only` or `store_unreachable`.
 void check_store_files(const QString& path);
 
-/// Removes the file of a store that could not be created, with the files that the engine keeps beside it.
+/// Removes the file of a store that could not be created, and the engine's other files.
 void remove_store_files(const QString& path);
 
 }  // namespace verdane

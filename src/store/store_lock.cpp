@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The lock does not say why it could not be written. A file that can be created and not be filled means a
-/// full disk, a quota or a limit on the size of files.
+/// The lock does not report why it could not be written. If a file can be created and not be written, the
+/// disk is full, or a quota or a limit on the size of files applies.
 bool takes_no_content(const QString& folder)
 {
     QTemporaryFile probe(folder + u"/Verdane-XXXXXX");
@@ -48,12 +48,12 @@ std::unique_ptr<QLockFile> take_store_lock(const QString& path)
 {
     const QString lock_path = path + u".lock";
     auto lock = std::make_unique<QLockFile>(lock_path);
-    // A session may last for days: only the death of its owner makes a lock stale, never its age.
+    // A session may last for days: a lock is stale if the process that took it has ended, whatever its age.
     lock->setStaleLockTime(std::chrono::milliseconds(0));
     if (lock->tryLock())
         return lock;
-    // A lock whose text cannot be judged (cut short by a power cut, or written under another host
-    // name) is removed when no living program holds the file itself.
+    // A lock file with unusable content (cut by a power cut, or written under another host name) is removed
+    // unless a process has it open.
     if (lock->error() == QLockFile::LockFailedError && lock->removeStaleLockFile() && lock->tryLock())
         return lock;
     throw run_time_failure(kind_of(lock->error(), path), u"lock file %1"_s.arg(lock_path));

@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void a_null_penalty_fails_where_it_is_needed()
     {
-        round_->store.rsgames.Fields(round_columns::pen_water_h(6)).set_null();
+        round_->store.rsgames.Fields(round_columns::pen_water_h(6)).set(QVariant());
         QVERIFY(failure_of([] { hole_gross(6, from_row); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { hole_cell(1, 6, from_row); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { hole_pen_water(6, from_row); }) == failure_kind::invalid_null);
@@ -85,7 +85,7 @@ private Q_SLOTS:
 
     void a_null_par_fails()
     {
-        round_->store.rsfield_info.Fields(round_columns::par_h(6)).set_null();
+        round_->store.rsfield_info.Fields(round_columns::par_h(6)).set(QVariant());
         QVERIFY(failure_of([] { in_regulation(6, from_row); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { round_score(from_row); }) == failure_kind::invalid_null);
     }

@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void a_penalty_without_a_value_is_an_invalid_null()
     {
-        round_->store.rsgames.Fields(tables::games::pen_lost_h(4)).set_null();
+        round_->store.rsgames.Fields(tables::games::pen_lost_h(4)).set(QVariant());
         QVERIFY(failure_of([] { read_penalties(4); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { figures_from_row(4); }) == failure_kind::invalid_null);
         QCOMPARE(plain(read_penalties(5).lost), 0);
@@ -90,10 +90,10 @@ private Q_SLOTS:
 
     void a_situation_without_a_value_is_an_invalid_null()
     {
-        round_->store.rsgames2.Fields(tables::games2::sand_h(4)).set_null();
-        round_->store.rsgames.Fields(tables::games::missed_h(5)).set_null();
-        round_->store.rsgames2.Fields(tables::games2::fairway_h(6)).set_null();
-        round_->store.rsgames2.Fields(tables::games2::recovery_h(7)).set_null();
+        round_->store.rsgames2.Fields(tables::games2::sand_h(4)).set(QVariant());
+        round_->store.rsgames.Fields(tables::games::missed_h(5)).set(QVariant());
+        round_->store.rsgames2.Fields(tables::games2::fairway_h(6)).set(QVariant());
+        round_->store.rsgames2.Fields(tables::games2::recovery_h(7)).set(QVariant());
         for (const int hole : {4, 5, 6})
             QVERIFY(failure_of([=] { read_situation(hole); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { read_recovery(7); }) == failure_kind::invalid_null);
@@ -103,7 +103,7 @@ private Q_SLOTS:
     void a_par_without_a_value_is_an_invalid_null()
     {
         QCOMPARE(plain(hole_par(3)), 3);
-        round_->store.rsfield_info.Fields(tables::field_info::par_h(3)).set_null();
+        round_->store.rsfield_info.Fields(tables::field_info::par_h(3)).set(QVariant());
         QVERIFY(failure_of([] { hole_par(3); }) == failure_kind::invalid_null);
     }
 
@@ -204,7 +204,7 @@ private Q_SLOTS:
 
     void an_amount_without_a_value_is_an_invalid_null()
     {
-        round_->store.rscost.Fields(5).set_null();
+        round_->store.rscost.Fields(5).set(QVariant());
         QVERIFY(failure_of([] { cost_total(); }) == failure_kind::invalid_null);
     }
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "store/DataEnvironment1.h"
-#include "store/engine_handle.h"
+#include "store/engine.h"
 
 namespace verdane::testing {
 

@@ -1,5 +1,5 @@
-// A program beside the test: opens a store as the real one does and reports the kind of failure in
-// its exit status. Tests kill it, take its rights away or let its disk run full.
+// A second program for the tests: opens a store like Verdane and reports the kind of failure in its exit
+// status. Tests kill it, remove its permissions or limit the size of its files.
 #include <QCoreApplication>
 #include <QFile>
 
@@ -20,13 +20,13 @@ namespace {
 
 void become_nobody()
 {
-    // As root no permission would ever be missing. Someone else has none to give away.
+    // Root has every permission, so it changes to a user without any.
     if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0))
         std::exit(testing::child_broken);
 }
 
-/// No file may grow beyond so many bytes from now on: the nearest thing to a full disk that needs
-/// no rights.
+/// Limits the size of files to that number of bytes, which has the effect of a full disk and needs no
+/// permission.
 void limit_files(const char* bytes)
 {
     std::signal(SIGXFSZ, SIG_IGN);
@@ -42,7 +42,7 @@ void say(int number)
     std::fflush(stdout);
 }
 
-/// Adds partners for ever, and says after each commit how many there are.
+/// Adds partners until the process ends, and prints their number after each commit.
 void write_partners(Connection1& connection)
 {
     Recordset partners(connection, {u"rspartners"_s, u"select * from partners"_s});

@@ -9,18 +9,18 @@
 
 namespace verdane::testing {
 
-/// Exit status of the program beside the test.
+/// Exit status of `store_child`.
 constexpr int child_broken = 99;
 constexpr int child_failed = 100;
 
-/// Starts it; it lies beside the test programs.
+/// Starts it from the folder of the test programs.
 inline void start_child(QProcess& child, const QString& mode, const QString& path, int argument = 0)
 {
     child.start(QCoreApplication::applicationDirPath() + u"/store_child",
                 {mode, path, QString::number(argument)});
 }
 
-/// Runs it to its end; the kind of failure it met, or nothing.
+/// Runs it until it ends. Returns the kind of its failure, or nothing.
 inline std::optional<failure_kind> child_failure(QProcess& child)
 {
     if (!child.waitForFinished(120000) || child.exitStatus() != QProcess::NormalExit ||

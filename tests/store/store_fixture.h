@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 inline const QStringList three_names{u"a"_s, u"b"_s, u"c"_s};
 inline const QString all_partners = u"select * from partners"_s;
 
-/// A fresh store in a temporary folder with an open connection, and the means to look at it from
-/// outside. One for each test slot.
+/// A new store in a temporary folder with an open connection, and a reader for its committed rows. One for
+/// each test slot.
 class store_fixture {
 public:
     store_fixture() { connection.Open(path()); }
@@ -25,7 +25,7 @@ public:
     QString path() const { return folder_.filePath(u"diary/Verdbase.db"_s); }
     reader outside() const { return reader(path()); }
 
-    /// A recordset on a statement, not opened yet.
+    /// A closed recordset with that statement.
     std::unique_ptr<Recordset> recordset(const QString& source, lock_type lock = lock_type::optimistic)
     {
         recordset_settings settings;
@@ -35,7 +35,7 @@ public:
         return std::make_unique<Recordset>(connection, settings);
     }
 
-    /// The same, opened.
+    /// An open recordset with that statement.
     std::unique_ptr<Recordset> opened(const QString& source, lock_type lock = lock_type::optimistic)
     {
         auto made = recordset(source, lock);
@@ -56,11 +56,11 @@ private:
     QTemporaryDir folder_;
 
 public:
-    // After the folder, so that it is closed before the folder goes.
+    // Declared after the folder, so that it is closed before the folder is removed.
     Connection1 connection;
 };
 
-/// The names of a recordset's rows, joined; walks it from the first row to the end.
+/// The names in the rows of a recordset, which is at `eof()` afterwards.
 inline QString names_of(Recordset& recordset)
 {
     QStringList names;
@@ -73,7 +73,7 @@ inline QString names_of(Recordset& recordset)
     return names.join(u' ');
 }
 
-/// The names that stand in the store, in the order in which they were added.
+/// The committed names in the order in which they were added.
 inline QString stored_names(const store_fixture& store)
 {
     QStringList names;
@@ -82,7 +82,7 @@ inline QString stored_names(const store_fixture& store)
     return names.join(u' ');
 }
 
-/// Every row of every table as text: two equal ones mean that nothing was committed in between.
+/// Every row of every table as text: two equal results mean that nothing was committed in between.
 inline QString whole_content(const QString& path)
 {
     const reader outside(path);

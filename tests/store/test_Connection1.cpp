@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "store/relaxed_commits.h"
+#include "store/commits.h"
 #include "tests/store/store_child.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
@@ -16,9 +16,9 @@ namespace {
 
 QString setting(Connection1& connection, const char* name)
 {
-    Recordset answer(connection, {u"rsanswer"_s, u"PRAGMA " + QString::fromLatin1(name)});
-    answer.Open();
-    return answer.Fields(0).text();
+    Recordset pragma(connection, {u"rspragma"_s, u"PRAGMA " + QString::fromLatin1(name)});
+    pragma.Open();
+    return pragma.Fields(0).text();
 }
 
 }  // namespace
@@ -27,7 +27,7 @@ class test_Connection1 : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_folder_is_made_when_it_is_missing()
+    void a_missing_folder_is_created()
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(u"a/b c/é/Verdbase.db"_s);
@@ -37,7 +37,7 @@ private Q_SLOTS:
         QCOMPARE(connection.path(), path);
     }
 
-    void the_default_place_is_the_users_data_folder()
+    void the_default_path_is_in_the_data_folder_of_the_user()
     {
         QVERIFY(Connection1::default_path().endsWith(u"/Verdbase.db"_s));
         QVERIFY(QDir::isAbsolutePath(Connection1::default_path()));
@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(setting(store.connection, "synchronous"), u"2"_s);
     }
 
-    void a_full_diary_has_room_in_memory()
+    void the_cache_is_large_enough_for_a_full_diary()
     {
         store_fixture store;
         constexpr int kilobytes_of_full_diary = 4 * 1024;
@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(testing::stored_names(store), u"a"_s);
     }
 
-    void a_second_connection_of_the_same_program_is_kept_off()
+    void a_second_connection_of_the_same_program_is_refused()
     {
         store_fixture store;
         Connection1 second;
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(second.is_open());
     }
 
-    void a_second_program_is_kept_off_until_the_first_ends()
+    void a_second_program_is_refused_until_the_first_ends()
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(u"Verdbase.db"_s);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QVERIFY(second.is_open());
     }
 
-    void a_program_finds_the_store_in_use()
+    void a_store_in_use_is_refused_as_locked()
     {
         store_fixture store;
         QProcess second;
@@ -122,7 +122,7 @@ private Q_SLOTS:
         QVERIFY(child_failure(second) == failure_kind::store_locked);
     }
 
-    void a_lock_without_an_owner_keeps_nobody_out_data()
+    void a_lock_file_without_a_running_owner_has_no_effect_data()
     {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("cut short") << QByteArray();
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QTest::newRow("dead owner") << QByteArray("999999999\nverdane\n\n");
     }
 
-    void a_lock_without_an_owner_keeps_nobody_out()
+    void a_lock_file_without_a_running_owner_has_no_effect()
     {
         QFETCH(QByteArray, content);
         store_fixture store;
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QVERIFY(store.connection.is_open());
     }
 
-    void relaxed_commits_end_with_full_safety()
+    void after_relaxed_commits_the_next_commit_is_safe_again()
     {
         store_fixture store;
         {
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(setting(store.connection, "synchronous"), u"2"_s);
     }
 
-    void the_bulk_deletes_run_as_they_are_written_data()
+    void the_bulk_deletes_delete_their_rows_data()
     {
         QTest::addColumn<QString>("statement");
         for (const char* statement :
@@ -183,7 +183,7 @@ private Q_SLOTS:
             QTest::addRow("%s", statement) << QString::fromLatin1(statement);
     }
 
-    void the_bulk_deletes_run_as_they_are_written()
+    void the_bulk_deletes_delete_their_rows()
     {
         QFETCH(QString, statement);
         store_fixture store;

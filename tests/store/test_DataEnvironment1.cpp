@@ -57,7 +57,7 @@ private:
     QTemporaryDir folder_;
 
 private Q_SLOTS:
-    // The folder goes before the application object does.
+    // The folder is removed before the application object is destroyed.
     void cleanupTestCase() { data_environment().abandon(); }
 
     void initTestCase() { data_environment().connection.Open(folder_.filePath(u"Verdbase.db"_s)); }

@@ -21,7 +21,7 @@ private:
     }
 
 private Q_SLOTS:
-    void a_field_reads_as_a_count_an_amount_and_a_decimal_data()
+    void a_field_is_read_as_a_count_an_amount_or_a_decimal_data()
     {
         QTest::addColumn<QByteArray>("expression");
         QTest::addColumn<int>("count");
@@ -35,7 +35,7 @@ private Q_SLOTS:
         QTest::newRow("no number") << QByteArray("'abc'") << 0 << 0.0;
     }
 
-    void a_field_reads_as_a_count_an_amount_and_a_decimal()
+    void a_field_is_read_as_a_count_an_amount_or_a_decimal()
     {
         QFETCH(QByteArray, expression);
         QFETCH(int, count);
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(!field.yes());
     }
 
-    void text_keeps_its_blanks_and_trimmed_does_not()
+    void text_keeps_its_blanks_and_trimmed_removes_them()
     {
         const auto recordset = field_of("'  TOUTES '");
         QCOMPARE(recordset->Fields(0).text(), u"  TOUTES "_s);
@@ -86,13 +86,13 @@ private Q_SLOTS:
         QCOMPARE(recordset->Fields(0).trimmed(), u"TOUTES"_s);
     }
 
-    void trimming_takes_blanks_and_nothing_else()
+    void trimming_removes_blanks_only()
     {
         const auto recordset = field_of("' ' || char(9) || 'TOUTES' || char(10) || ' '");
         QCOMPARE(recordset->Fields(0).trimmed(), u"\tTOUTES\n"_s);
     }
 
-    void a_number_reads_as_text_without_a_leading_blank()
+    void a_number_is_read_as_text_without_a_leading_blank()
     {
         QCOMPARE(field_of("42")->Fields(0).text(), u"42"_s);
         QCOMPARE(field_of("0.5")->Fields(0).text(), u"0.5"_s);
@@ -115,7 +115,7 @@ private Q_SLOTS:
         shots->Fields(u"ts").set(true);
         shots->Fields(u"dz").set(0);
         shots->Fields(u"stick").set(u"Pu"_s);
-        shots->Fields(u"unit").set_null();
+        shots->Fields(u"unit").set(QVariant());
         shots->Update();
         shots->Requery();
         QCOMPARE(plain(shots->Fields(u"hole").to_int16()), 18);

@@ -12,7 +12,7 @@ class test_column_value : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_value_takes_its_columns_type_data()
+    void a_value_is_converted_to_the_type_of_its_column_data()
     {
         QTest::addColumn<QVariant>("written");
         QTest::addColumn<column_type>("type");
@@ -45,7 +45,7 @@ private Q_SLOTS:
         row("null text column", QVariant(), column_type::text, QVariant());
     }
 
-    void a_value_takes_its_columns_type()
+    void a_value_is_converted_to_the_type_of_its_column()
     {
         QFETCH(QVariant, written);
         QFETCH(column_type, type);
@@ -72,7 +72,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { converted(written, type); }) == failure_kind::overflow);
     }
 
-    void a_text_that_was_never_filled_is_the_empty_text_and_not_null()
+    void a_null_text_is_converted_to_the_empty_text()
     {
         const QVariant stored = converted(QVariant(QString()), column_type::text);
         QVERIFY(!stored.isNull());

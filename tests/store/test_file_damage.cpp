@@ -27,7 +27,7 @@ constexpr int rounds = 6;
 constexpr int flips_of_file = 200;
 constexpr int flips_of_each_index = 40;
 
-/// What a file holds: the rows of all tables, and what the indexes lead to.
+/// The content of a file: the rows of all tables, and the results of look-ups by the indexes.
 struct content {
     QStringList rows;
     QStringList by_index;
@@ -36,7 +36,7 @@ struct content {
     bool operator==(const content&) const = default;
 };
 
-/// Reads a file on one connection, which takes far less time than one for each statement.
+/// Reads a file on one connection, which takes much less time than a connection for each statement.
 class one_connection {
 public:
     explicit one_connection(const QString& path)
@@ -85,7 +85,8 @@ QString keys_of_rounds()
            u"from holes where h < 18) ";
 }
 
-/// What the round window and the statistics look up, for every key of the diary, by the indexes or without.
+/// The rows that the round window and the statistics look up for every key of the diary, with or without
+/// indexes.
 QStringList lookups(const one_connection& store, bool indexed)
 {
     const auto way = [indexed](const QString& index) {
@@ -113,7 +114,7 @@ content content_of(const QString& path)
     return all;
 }
 
-/// Writes a store anew, without the files that the engine keeps beside it.
+/// Replaces the file of a store and removes the engine's other files.
 void put(const QString& path, const QByteArray& bytes)
 {
     for (const QStringView suffix : {u"-wal", u"-shm"})
@@ -177,9 +178,8 @@ private Q_SLOTS:
         QCOMPARE(sound_bytes_.size() % page_size, 0);
     }
 
-    /// A wrong bit in an index, in the catalogue or between the rows never reaches a window. A wrong bit
-    /// inside a value of a row is a value like any other: that row alone differs, and every index agrees with
-    /// it.
+    /// A wrong bit in an index, in the list of tables or between the rows never reaches a window. A wrong bit
+    /// inside a value of a row is another valid value: only that row differs, and every index agrees with it.
     void a_flipped_bit_is_refused_or_changes_no_lookup_data()
     {
         QTest::addColumn<QString>("index");
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QVERIFY2(refused > 0, "no bit made a difference");
     }
 
-    void a_file_without_its_end_is_refused_and_left_alone()
+    void a_file_without_its_end_is_refused_and_unchanged()
     {
         std::vector<qsizetype> missing;
         for (int pages = 1; pages <= 12; ++pages)
@@ -228,8 +228,8 @@ private Q_SLOTS:
         QCOMPARE(bytes_of(path_), sound_bytes_.chopped(page_size - 1));
     }
 
-    /// Until the check a start may have read rows, but it has written none.
-    void a_file_that_is_checked_later_takes_no_write_while_it_is_damaged_data()
+    /// Before the check the start may have read rows, but it has not written any.
+    void a_damaged_file_that_is_checked_later_is_not_written_data()
     {
         using write = std::function<void(Connection1&)>;
         QTest::addColumn<write>("write");
@@ -255,7 +255,7 @@ private Q_SLOTS:
             [](Connection1& connection) { connection.Execute(u"delete from partners"_s); });
     }
 
-    void a_file_that_is_checked_later_takes_no_write_while_it_is_damaged()
+    void a_damaged_file_that_is_checked_later_is_not_written()
     {
         QFETCH(std::function<void(Connection1&)>, write);
         const QByteArray damaged = flipped(sound_bytes_, bit_of_shot_in_index());
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QCOMPARE(bytes_of(path_), damaged);
     }
 
-    /// Restored copies made by other tools are in such a mode.
+    /// Copies restored by other programs have such a mode.
     void a_damaged_file_in_another_journal_mode_is_refused_while_it_is_opened()
     {
         put(path_, sound_bytes_);
@@ -280,7 +280,7 @@ private Q_SLOTS:
         QCOMPARE(bytes_of(path_), damaged);
     }
 
-    /// What a crash leaves that interrupts copying the log into the file. The log holds every page.
+    /// The files after a crash that interrupted the copying of the log into the file. The log has every page.
     void a_file_that_its_log_repairs_is_opened_data()
     {
         QTest::addColumn<QByteArray>("file");
@@ -330,7 +330,7 @@ private Q_SLOTS:
         }
     }
 
-    void a_damaged_file_with_a_log_keeps_both_as_they_are()
+    void a_damaged_file_with_a_log_is_refused_and_both_are_unchanged()
     {
         const QByteArray log = log_of_settings();
         const QByteArray damaged = flipped(sound_bytes_, bit_of_shot_in_index());
@@ -367,7 +367,7 @@ private:
                owner->second != u"shots_by_hole" && owner->second != u"sqlite_schema";
     }
 
-    /// Opens the flipped file that stands in place; true when it was refused as it must be.
+    /// Opens the file with the wrong bit. True if it was refused as damaged.
     bool look_at(qint64 bit)
     {
         const QByteArray place = u"bit %1 of byte %2 (%3)"_s.arg(bit % 8)
@@ -388,7 +388,7 @@ private:
 
     static void check(bool holds, const QByteArray& words) { QVERIFY2(holds, words.constData()); }
 
-    /// Refused as damaged, the file being as it was.
+    /// True if the file is refused as damaged and unchanged.
     bool is_refused() const
     {
         const QByteArray before = bytes_of(path_);

@@ -103,7 +103,7 @@ private Q_SLOTS:
         }
     }
 
-    void the_rows_of_a_grid_come_in_the_order_in_which_they_were_laid_down()
+    void the_rows_of_a_grid_are_in_the_order_of_their_creation()
     {
         store_fixture store;
         const auto stats = store.opened(u"select * from stats"_s);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(putts->Fields(0).text(), u"7"_s);
     }
 
-    void the_next_start_finds_the_store_as_it_was_left()
+    void the_next_start_does_not_change_the_store()
     {
         store_fixture store;
         store.connection.Execute(u"update settings set language=2"_s);
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(whole_content(store.path()), before);
     }
 
-    void an_empty_file_is_laid_down()
+    void an_empty_file_gets_the_tables()
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(u"Verdbase.db"_s);
@@ -136,12 +136,12 @@ private Q_SLOTS:
         QCOMPARE(reader(path).number(u"select count(*) from stats"_s), 34);
     }
 
-    void a_failure_half_way_leaves_no_table_and_the_next_start_lays_all_down()
+    void after_a_failure_half_way_no_table_exists_and_the_next_start_creates_all()
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(u"Verdbase.db"_s);
         {
-            // A file without tables that may not grow: laying down fails in the middle.
+            // The file has no tables and must not grow, so creating the tables fails half way.
             store_fixture other;
             Connection1& connection = other.connection;
             for (const auto& row :

@@ -2,8 +2,8 @@
 
 #include <sqlite3.h>
 
-#include "store/engine_handle.h"
-#include "store/joined_commits.h"
+#include "store/commits.h"
+#include "store/engine.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
 #include "tests/support/other_program.h"
@@ -47,7 +47,7 @@ int refuse_commit(void*)
 
 }  // namespace
 
-/// Several commits of recordsets that reach the store together.
+/// Several commits of recordsets that are made together.
 class test_joined_commits : public QObject {
     Q_OBJECT
 

@@ -14,13 +14,13 @@ using testing::store_fixture;
 
 namespace {
 
-/// What became of the notices of a test.
+/// The notices that a test has seen.
 struct notices {
     int made = 0;
-    int living = 0;
-    int asked = 0;
-    /// What the notice does and answers each time it is asked.
-    std::function<bool(int asked)> answer = [](int) { return true; };
+    int shown = 0;
+    int calls = 0;
+    /// What the notice does and returns each time it is called.
+    std::function<bool(int calls)> keeps_waiting = [](int) { return true; };
 };
 
 class counted_notice final : public lock_notice {
@@ -28,10 +28,10 @@ public:
     explicit counted_notice(notices& all) : all_(all)
     {
         ++all_.made;
-        ++all_.living;
+        ++all_.shown;
     }
-    ~counted_notice() override { --all_.living; }
-    bool keep_waiting() override { return all_.answer(++all_.asked); }
+    ~counted_notice() override { --all_.shown; }
+    bool keep_waiting() override { return all_.keeps_waiting(++all_.calls); }
 
 private:
     notices& all_;
@@ -60,7 +60,7 @@ std::unique_ptr<Recordset> partners_with_time_out(locked_store& store, int secon
 
 }  // namespace
 
-/// Statements that meet the lock of another program.
+/// Statements while another program has locked the store.
 class test_lock_wait : public QObject {
     Q_OBJECT
 
@@ -69,8 +69,8 @@ private Q_SLOTS:
     {
         locked_store store;
         other_program other(store.path());
-        store.seen.answer = [&](int asked) {
-            if (asked == 5)
+        store.seen.keeps_waiting = [&](int calls) {
+            if (calls == 5)
                 other.release();
             return true;
         };
@@ -79,41 +79,41 @@ private Q_SLOTS:
         partners->Update();
         QCOMPARE(testing::stored_names(store), u"b"_s);
         QCOMPARE(store.seen.made, 1);
-        QCOMPARE(store.seen.living, 0);
+        QCOMPARE(store.seen.shown, 0);
     }
 
     void a_statement_of_the_connection_waits_too()
     {
         locked_store store;
         other_program other(store.path());
-        store.seen.answer = [&](int) {
+        store.seen.keeps_waiting = [&](int) {
             other.release();
             return true;
         };
         store.connection.Execute(u"update partners set NAME = 'b'"_s);
         QCOMPARE(testing::stored_names(store), u"b"_s);
         QCOMPARE(store.seen.made, 1);
-        QCOMPARE(store.seen.living, 0);
+        QCOMPARE(store.seen.shown, 0);
     }
 
-    void a_store_that_nobody_else_holds_shows_no_notice()
+    void without_another_program_no_notice_is_shown()
     {
         locked_store store;
         store.connection.Execute(u"update partners set NAME = 'b'"_s);
         QCOMPARE(store.seen.made, 0);
     }
 
-    void giving_up_fails_as_locked_and_leaves_the_row_pending()
+    void after_giving_up_the_commit_fails_as_locked_and_the_row_is_pending()
     {
         locked_store store;
         other_program other(store.path());
-        store.seen.answer = [](int) { return false; };
+        store.seen.keeps_waiting = [](int) { return false; };
         const auto partners = partners_with_time_out(store, 30);
         partners->Fields(u"name").set(u"b"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
         QVERIFY(partners->pending());
-        QCOMPARE(store.seen.asked, 1);
-        QCOMPARE(store.seen.living, 0);
+        QCOMPARE(store.seen.calls, 1);
+        QCOMPARE(store.seen.shown, 0);
         other.release();
         partners->Update();
         QCOMPARE(testing::stored_names(store), u"b"_s);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         partners->Fields(u"name").set(u"b"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
         QCOMPARE(store.seen.made, with_notice ? 1 : 0);
-        QCOMPARE(store.seen.living, 0);
+        QCOMPARE(store.seen.shown, 0);
     }
 
     void the_notice_cannot_run_a_statement()
@@ -145,7 +145,7 @@ private Q_SLOTS:
         locked_store store;
         const other_program other(store.path());
         std::optional<failure_kind> met;
-        store.seen.answer = [&](int) {
+        store.seen.keeps_waiting = [&](int) {
             met = failure_of([&] { store.connection.Execute(u"delete from partners"_s); });
             return false;
         };

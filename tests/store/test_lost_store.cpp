@@ -19,7 +19,7 @@ void put(const QString& path, const QByteArray& bytes)
         qFatal("cannot write the file");
 }
 
-/// The log of a store in which something was written.
+/// The write-ahead log of a store that was written.
 QByteArray log_with_content()
 {
     testing::store_fixture store;
@@ -29,7 +29,7 @@ QByteArray log_with_content()
 
 }  // namespace
 
-/// A file that is empty or missing: a new diary is created only where nothing shows that there was one.
+/// A file that is empty or missing: a new store is created only if no other file shows that there was one.
 class test_lost_store : public QObject {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private:
         QTest::addColumn<QByteArray>("content_of_copy");
     }
 
-    /// Puts the files of the row in place.
+    /// Creates the files of the data row.
     static void prepare(const QString& path)
     {
         QFETCH(bool, file);
@@ -58,7 +58,7 @@ private:
     }
 
 private Q_SLOTS:
-    void a_store_that_was_lost_is_refused_and_its_files_are_left_alone_data()
+    void a_lost_store_is_refused_and_its_files_are_unchanged_data()
     {
         add_columns();
         const QString copy = u"Verdbase-2026-06-14.db"_s;
@@ -72,7 +72,7 @@ private Q_SLOTS:
             << true << QByteArray("") << copy << QByteArray("content");
     }
 
-    void a_store_that_was_lost_is_refused_and_its_files_are_left_alone()
+    void a_lost_store_is_refused_and_its_files_are_unchanged()
     {
         QFETCH(bool, file);
         QFETCH(QByteArray, log);
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QTest::newRow("empty file") << true << QByteArray() << QString() << QByteArray();
         QTest::newRow("empty file, empty log") << true << QByteArray("") << QString() << QByteArray();
         QTest::newRow("no file, empty log") << false << QByteArray("") << QString() << QByteArray();
-        // Whoever takes the file away wants a new diary.
+        // A user who removes the file wants a new diary.
         QTest::newRow("no file, copy with content")
             << false << QByteArray() << u"Verdbase-2026-06-14.db"_s << QByteArray("content");
         QTest::newRow("empty file, empty copy")
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(reader(path).number(u"select count(*) from settings"_s), 1);
     }
 
-    void the_log_of_a_linked_file_is_found_beside_its_target()
+    void the_log_of_a_linked_file_is_found_in_the_folder_of_its_target()
     {
         const QTemporaryDir folder;
         const QString target = folder.filePath(u"target.db"_s);

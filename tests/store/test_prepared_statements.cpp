@@ -33,7 +33,7 @@ QString stored_telephones(const store_fixture& store)
 
 }  // namespace
 
-/// Writing the same columns again and again, which is done with one statement that is kept ready.
+/// Writing the same columns repeatedly with one prepared statement.
 class test_prepared_statements : public QObject {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"c"_s);
     }
 
-    void more_kinds_of_rows_than_are_kept_are_written_all_the_same()
+    void more_statements_than_are_kept_are_all_run()
     {
         store_fixture store;
         const auto rounds = store.opened(all_rounds);
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"a"_s);
     }
 
-    void a_table_that_went_is_told_and_written_again_once_it_is_back()
+    void a_missing_table_is_a_failure_and_is_written_once_it_exists_again()
     {
         store_fixture store;
         const auto partners = store.opened(all_partners);
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"a b"_s);
     }
 
-    void a_refused_row_is_told_with_its_statement_and_written_later()
+    void a_refused_row_is_a_failure_with_its_statement_and_can_be_written_later()
     {
         store_fixture store;
         const auto partners = store.opened(all_partners);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"a b"_s);
     }
 
-    void a_kept_statement_holds_nothing_that_another_program_waits_for()
+    void a_kept_statement_holds_no_lock()
     {
         store_fixture store;
         const auto partners = store.opened(all_partners);

@@ -32,14 +32,14 @@ class test_recordset_batch : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void changes_wait_for_the_batch_update_data()
+    void changes_are_pending_until_the_batch_update_data()
     {
         QTest::addColumn<int>("rows");
         QTest::newRow("all") << static_cast<int>(affect::all);
         QTest::newRow("all chapters") << static_cast<int>(affect::all_chapters);
     }
 
-    void changes_wait_for_the_batch_update()
+    void changes_are_pending_until_the_batch_update()
     {
         QFETCH(int, rows);
         store_fixture store;
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(sorted.join(u' '), u"3 8.25 12.5"_s);
     }
 
-    void cancel_concerns_the_current_row_only()
+    void cancel_drops_the_changes_of_the_current_row_only()
     {
         store_fixture store;
         store.add_partners(three);
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"A b c"_s);
     }
 
-    void cancel_after_the_row_it_came_from_was_deleted_stands_at_the_end()
+    void cancel_of_a_new_row_whose_origin_was_deleted_leads_to_the_end()
     {
         store_fixture store;
         store.add_partners(three);
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QCOMPARE(names_of(*partners), u"b c"_s);
     }
 
-    void a_new_row_that_is_deleted_was_never_there()
+    void a_new_row_that_is_deleted_is_not_stored()
     {
         store_fixture store;
         const auto partners = partners_of(store);
@@ -153,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(names_of(*partners), u"a b c"_s);
     }
 
-    void dropping_brings_every_row_back_to_its_place()
+    void closing_drops_every_change_of_a_batch()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
@@ -166,7 +166,8 @@ private Q_SLOTS:
         partners->Delete();
         partners->MoveNext();
         partners->Fields(u"name").set(u"C"_s);
-        partners->drop_pending();
+        partners->Close();
+        partners->Open();
         QVERIFY(!partners->pending());
         QCOMPARE(names_of(*partners), u"a b c d"_s);
         partners->UpdateBatch();

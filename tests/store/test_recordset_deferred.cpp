@@ -14,8 +14,8 @@ using testing::stored_names;
 
 namespace {
 
-/// A recordset on the partners, open, with its rows still to be read: "a" stood in the store then, and
-/// "b" has come since. Whoever sees "b" has read the rows only now.
+/// An open recordset on the partners whose rows have not been read. When it was opened the store had "a"; "b"
+/// was added afterwards, so rows with "b" were read later.
 class unread_partners {
 public:
     explicit unread_partners(lock_type lock = lock_type::optimistic)
@@ -30,54 +30,58 @@ public:
     std::unique_ptr<Recordset> rows;
 };
 
+using operation = void (*)(Recordset&);
+
+struct named_operation {
+    const char* name;
+    operation run;
+};
+
+constexpr named_operation reading_operations[] = {
+    {"RecordCount", [](Recordset& rows) { QCOMPARE(rows.RecordCount(), 2); }},
+    {"eof", [](Recordset& rows) { QVERIFY(!rows.eof()); }},
+    {"bof", [](Recordset& rows) { QVERIFY(!rows.bof()); }},
+    {"empty", [](Recordset& rows) { QVERIFY(!rows.empty()); }},
+    {"position", [](Recordset& rows) { QCOMPARE(rows.position(), 0); }},
+    {"MoveLast", [](Recordset& rows) { rows.MoveLast(); }},
+    {"Find", [](Recordset& rows) { rows.Find(u"NAME = 'b'"_s); }},
+    {"Fields", [](Recordset& rows) { QCOMPARE(rows.Fields(u"NAME").text(), u"a"_s); }},
+    {"field_count", [](Recordset& rows) { QVERIFY(rows.field_count() > 0); }},
+};
+
+constexpr named_operation other_operations[] = {
+    {"Requery", [](Recordset& rows) { rows.Requery(); }},
+    {"Update", [](Recordset& rows) { rows.Update(); }},
+    {"UpdateBatch", [](Recordset& rows) { rows.UpdateBatch(); }},
+    {"CancelUpdate", [](Recordset& rows) { rows.CancelUpdate(); }},
+    {"pending", [](Recordset& rows) { QVERIFY(!rows.pending()); }},
+};
+
+template <std::size_t Count>
+void add_rows(const named_operation (&operations)[Count])
+{
+    QTest::addColumn<operation>("run");
+    for (const named_operation& each : operations)
+        QTest::newRow(each.name) << each.run;
+}
+
 }  // namespace
+
+Q_DECLARE_METATYPE(operation)
 
 class test_recordset_deferred : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_rows_are_read_when_something_asks_for_them_data()
+    void the_rows_are_read_by_the_first_function_that_needs_them_data() { add_rows(reading_operations); }
+
+    void the_rows_are_read_by_the_first_function_that_needs_them()
     {
-        QTest::addColumn<int>("question");
-        for (int question = 0; question < 9; ++question)
-            QTest::addRow("question %d", question) << question;
-    }
-    void the_rows_are_read_when_something_asks_for_them()
-    {
-        QFETCH(int, question);
+        QFETCH(operation, run);
         const unread_partners partners;
-        Recordset& rows = *partners.rows;
-        QVERIFY(rows.is_open());
-        switch (question) {
-        case 0:
-            QCOMPARE(rows.RecordCount(), 2);
-            break;
-        case 1:
-            QVERIFY(!rows.eof());
-            break;
-        case 2:
-            QVERIFY(!rows.bof());
-            break;
-        case 3:
-            QVERIFY(!rows.empty());
-            break;
-        case 4:
-            QCOMPARE(rows.position(), 0);
-            break;
-        case 5:
-            rows.MoveLast();
-            break;
-        case 6:
-            rows.Find(u"NAME = 'b'"_s);
-            break;
-        case 7:
-            QCOMPARE(rows.Fields(u"NAME").text(), u"a"_s);
-            break;
-        default:
-            QVERIFY(rows.field_count() > 0);
-            break;
-        }
-        QCOMPARE(names_of(rows), u"a b"_s);
+        QVERIFY(partners.rows->is_open());
+        run(*partners.rows);
+        QCOMPARE(names_of(*partners.rows), u"a b"_s);
     }
 
     void the_rows_are_read_once()
@@ -90,39 +94,15 @@ private Q_SLOTS:
         QCOMPARE(partners.rows->RecordCount(), 3);
     }
 
-    void nothing_that_needs_no_row_reads_them_data()
+    void functions_that_need_no_row_do_not_read_them_data() { add_rows(other_operations); }
+
+    void functions_that_need_no_row_do_not_read_them()
     {
-        QTest::addColumn<int>("act");
-        for (int act = 0; act < 6; ++act)
-            QTest::addRow("act %d", act) << act;
-    }
-    void nothing_that_needs_no_row_reads_them()
-    {
-        QFETCH(int, act);
+        QFETCH(operation, run);
         unread_partners partners;
-        Recordset& rows = *partners.rows;
-        switch (act) {
-        case 0:
-            rows.Requery();
-            break;
-        case 1:
-            rows.Update();
-            break;
-        case 2:
-            rows.UpdateBatch();
-            break;
-        case 3:
-            rows.CancelUpdate();
-            break;
-        case 4:
-            QVERIFY(!rows.pending());
-            break;
-        default:
-            rows.drop_pending();
-            break;
-        }
+        run(*partners.rows);
         partners.store.add_partners({u"c"_s});
-        QCOMPARE(names_of(rows), u"a b c"_s);
+        QCOMPARE(names_of(*partners.rows), u"a b c"_s);
     }
 
     void a_row_can_be_added_and_one_removed()
@@ -146,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(partners.rows->RecordCount(), 2);
     }
 
-    void closing_forgets_that_rows_were_to_be_read()
+    void after_closing_the_next_open_reads_at_once()
     {
         unread_partners partners;
         partners.rows->Close();
@@ -156,7 +136,7 @@ private Q_SLOTS:
         QCOMPARE(partners.rows->RecordCount(), 2);
     }
 
-    void a_table_that_is_not_there_comes_out_at_the_first_look()
+    void a_missing_table_is_a_failure_of_the_first_function_that_needs_rows()
     {
         store_fixture store;
         const auto rows = store.recordset(u"select * from no_such_table"_s);

@@ -11,12 +11,12 @@ using testing::store_fixture;
 using testing::stored_names;
 using testing::three_names;
 
-/// Rows that are removed, and the gap that they leave.
+/// Rows that are deleted, and the position afterwards.
 class test_recordset_delete : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void delete_removes_the_row_at_once_and_stays_in_the_gap()
+    void delete_removes_the_row_at_once_and_no_row_is_current()
     {
         store_fixture store;
         store.add_partners(three_names);
@@ -34,7 +34,7 @@ private Q_SLOTS:
         QCOMPARE(partners->Fields(0).text(), u"c"_s);
     }
 
-    void back_from_the_gap_is_the_row_before_it()
+    void the_previous_row_of_a_deleted_one_is_the_row_before_it()
     {
         store_fixture store;
         store.add_partners(three_names);
@@ -51,7 +51,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"a"_s);
     }
 
-    void after_the_last_row_is_deleted_both_ends_hold()
+    void after_all_rows_are_deleted_the_recordset_is_at_both_ends()
     {
         store_fixture store;
         store.add_partners({u"a"_s});
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"b"_s);
     }
 
-    void delete_of_a_row_that_is_gone_already_is_no_failure()
+    void delete_of_a_row_that_no_longer_exists_is_no_failure()
     {
         store_fixture store;
         store.add_partners(three_names);

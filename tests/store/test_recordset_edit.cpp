@@ -78,8 +78,13 @@ private Q_SLOTS:
         const auto partners = store.opened(all_partners);
         partners->Fields(u"name").set(u"typed"_s);
         partners->Close();
+        QVERIFY(!partners->pending());
         QCOMPARE(stored_names(store), u"a b c"_s);
         partners->Open();
+        partners->AddNew();
+        partners->Close();
+        partners->Open();
+        QVERIFY(!partners->pending());
         QCOMPARE(names_of(*partners), u"a b c"_s);
     }
 
@@ -90,7 +95,7 @@ private Q_SLOTS:
         const auto partners = store.opened(all_partners);
         store.connection.Execute(u"update partners set TEL='later'"_s);
         partners->Fields(u"tel").set(u"x"_s);
-        partners->Fields(u"tel").set_null();
+        partners->Fields(u"tel").set(QVariant());
         partners->Fields(u"surname").set(u"s"_s);
         partners->Update();
         QCOMPARE(store.outside().text(u"select TEL||SURNAME from partners where code=1"_s), u"laters"_s);
@@ -102,7 +107,7 @@ private Q_SLOTS:
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
         partners->Fields(u"name").set(u"a"_s);
-        // A write would fail now: the table refuses every one.
+        // Every write would fail.
         store.connection.Execute(u"create temp trigger none before update on partners "
                                  u"begin select raise(abort, 'written'); end"_s);
         partners->Update();
@@ -125,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"a b c"_s);
     }
 
-    void cancel_brings_the_row_back()
+    void cancel_restores_the_row()
     {
         store_fixture store;
         store.add_partners(three_names);
@@ -159,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"typed b c"_s);
     }
 
-    void a_row_that_left_the_store_cannot_be_changed()
+    void a_row_that_is_no_longer_in_the_store_cannot_be_changed()
     {
         store_fixture store;
         store.add_partners(three_names);
@@ -170,22 +175,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"b c"_s);
     }
 
-    void drop_pending_forgets_the_current_rows_change()
-    {
-        store_fixture store;
-        store.add_partners(three_names);
-        const auto partners = store.opened(all_partners);
-        partners->Fields(u"name").set(u"typed"_s);
-        partners->drop_pending();
-        QVERIFY(!partners->pending());
-        partners->AddNew();
-        partners->drop_pending();
-        partners->Close();
-        partners->drop_pending();
-        QCOMPARE(stored_names(store), u"a b c"_s);
-    }
-
-    void texts_reach_the_store_as_they_are_data()
+    void texts_are_stored_unchanged_data()
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("quote") << u"l'allée"_s;
@@ -195,7 +185,7 @@ private Q_SLOTS:
         QTest::newRow("digits") << u"00120"_s;
     }
 
-    void texts_reach_the_store_as_they_are()
+    void texts_are_stored_unchanged()
     {
         QFETCH(QString, text);
         store_fixture store;

@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(partners->eof());
     }
 
-    void an_absent_value_leads_to_the_end()
+    void after_an_absent_value_it_is_at_the_end()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s});
@@ -115,7 +115,7 @@ private Q_SLOTS:
         }
     }
 
-    void backward_it_takes_the_nearest_row_before()
+    void backward_it_finds_the_nearest_row_before()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"a"_s, u"b"_s, u"a"_s});
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(games->eof());
     }
 
-    void it_leaves_the_row_and_so_commits_it()
+    void it_commits_the_row_that_it_leaves()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s});
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(testing::stored_names(store), u"changed b"_s);
     }
 
-    void it_sees_what_is_pending_in_a_batch()
+    void it_finds_the_pending_values_of_a_batch()
     {
         store_fixture store;
         store.add_partners({u"a"_s});
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(partners->position(), 1);
     }
 
-    void a_column_that_is_not_there_is_a_missing_part()
+    void a_missing_column_is_a_missing_part()
     {
         store_fixture store;
         const auto games = store.opened(u"select * from games"_s);

@@ -81,9 +81,9 @@ private:
 private Q_SLOTS:
     void initTestCase() { store_.add_partners({u"a"_s}); }
 
-    void nothing_works_on_a_closed_recordset_data() { rows_of(all_operations()); }
+    void every_function_fails_on_a_closed_recordset_data() { rows_of(all_operations()); }
 
-    void nothing_works_on_a_closed_recordset()
+    void every_function_fails_on_a_closed_recordset()
     {
         QFETCH(int, index);
         const auto partners = store_.recordset(u"select * from partners"_s);
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { games->MoveTo(0); }) == failure_kind::misuse);
     }
 
-    void nothing_opens_without_a_connection()
+    void a_recordset_cannot_be_opened_without_a_connection()
     {
         Connection1 closed;
         Recordset partners(closed, {u"rspartners"_s, u"select * from partners"_s});
@@ -136,7 +136,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { closed.Execute(u"delete from hand"_s); }) == failure_kind::misuse);
     }
 
-    void a_table_or_column_that_is_not_there_is_a_missing_part_data()
+    void a_missing_table_or_column_is_a_missing_part_data()
     {
         QTest::addColumn<QString>("statement");
         QTest::newRow("table") << u"select * from golfers"_s;
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QTest::newRow("join") << u"select games.date from games, golfers"_s;
     }
 
-    void a_table_or_column_that_is_not_there_is_a_missing_part()
+    void a_missing_table_or_column_is_a_missing_part()
     {
         QFETCH(QString, statement);
         const auto recordset = store_.recordset(statement);

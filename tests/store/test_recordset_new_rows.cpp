@@ -14,7 +14,7 @@ class test_recordset_new_rows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_new_row_stands_last_and_reaches_the_store_at_its_commit()
+    void a_new_row_is_the_last_one_and_is_stored_by_its_commit()
     {
         store_fixture store;
         store.add_partners(three_names);
@@ -33,7 +33,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"a b c d2"_s);
     }
 
-    void a_new_row_that_is_left_for_the_last_row_is_the_current_row_still()
+    void a_new_row_is_still_current_after_a_move_to_the_last_row()
     {
         store_fixture store;
         const auto shots = store.opened(
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(!shots->Fields(u"unit").is_null());
     }
 
-    void a_new_row_of_which_nothing_was_written_is_a_row_of_defaults()
+    void a_new_row_without_written_columns_has_the_defaults()
     {
         store_fixture store;
         const auto cost = store.opened(u"select * from cost"_s);
@@ -77,17 +77,17 @@ private Q_SLOTS:
         QCOMPARE(store.outside().text(u"select fg||'/'||au from cost where date is null"_s), u"0/0"_s);
     }
 
-    void a_column_set_to_null_is_null_in_spite_of_its_default()
+    void a_column_set_to_null_does_not_take_its_default()
     {
         store_fixture store;
         const auto cost = store.opened(u"select * from cost"_s);
         cost->AddNew();
-        cost->Fields(u"fg").set_null();
+        cost->Fields(u"fg").set(QVariant());
         cost->Update();
         QVERIFY(store.outside().value(u"select fg from cost"_s).isNull());
     }
 
-    void cancel_drops_a_new_row_and_stands_where_it_came_from()
+    void after_cancel_of_a_new_row_the_row_before_it_is_current()
     {
         store_fixture store;
         store.add_partners(three_names);

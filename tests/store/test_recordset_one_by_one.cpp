@@ -15,7 +15,7 @@ using testing::stored_names;
 
 namespace {
 
-/// A recordset on the partners "a", "b" and "c", open to be walked through once.
+/// A recordset on the partners "a", "b" and "c", opened with `one_by_one`.
 class passing_partners {
 public:
     passing_partners()
@@ -43,7 +43,7 @@ class test_recordset_one_by_one : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void each_row_is_met_once()
+    void each_row_is_read_once()
     {
         passing_partners partners;
         QCOMPARE(names_on_the_way(*partners.rows), u"a b c"_s);
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { partners.rows->Fields(0).value(); }) == failure_kind::misuse);
     }
 
-    void columns_stand_where_they_stand_otherwise()
+    void columns_have_the_same_ordinals_as_with_all_rows()
     {
         passing_partners partners;
         const auto whole = partners.store.recordset(u"select * from partners"_s);
@@ -65,7 +65,7 @@ private Q_SLOTS:
         }
     }
 
-    void a_join_can_be_walked_so()
+    void a_join_can_be_read_one_by_one()
     {
         passing_partners partners;
         const auto pairs =
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(met, (QStringList{u"ab"_s, u"ac"_s, u"bc"_s}));
     }
 
-    void a_statement_without_rows_is_at_its_end()
+    void a_statement_without_rows_is_at_the_end()
     {
         passing_partners partners;
         const auto none = partners.store.recordset(u"select * from partners where NAME = 'z'"_s);
@@ -87,13 +87,13 @@ private Q_SLOTS:
         QVERIFY(none->field_count() > 0);
     }
 
-    void what_needs_the_other_rows_is_misuse_data()
+    void functions_that_need_other_rows_are_misuse_data()
     {
         QTest::addColumn<int>("act");
         for (int act = 0; act < 11; ++act)
             QTest::addRow("act %d", act) << act;
     }
-    void what_needs_the_other_rows_is_misuse()
+    void functions_that_need_other_rows_are_misuse()
     {
         QFETCH(int, act);
         passing_partners partners;
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(partners.store), u"a b c"_s);
     }
 
-    void closing_in_the_middle_lets_go_of_the_store()
+    void closing_before_the_last_row_releases_the_store()
     {
         passing_partners partners;
         partners.rows->MoveNext();
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(partners.store), u"b c"_s);
     }
 
-    void a_table_that_is_not_there_comes_out_at_the_opening()
+    void a_missing_table_is_a_failure_of_open()
     {
         store_fixture store;
         const auto rows = store.recordset(u"select * from no_such_table"_s);

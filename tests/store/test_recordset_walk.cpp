@@ -20,7 +20,7 @@ class test_recordset_walk : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void open_stands_on_the_first_row()
+    void after_open_the_first_row_is_current()
     {
         store_fixture store;
         store.add_partners(three);
@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(partners->eof());
     }
 
-    void next_and_previous_stop_behind_the_ends()
+    void next_and_previous_do_not_move_beyond_the_ends()
     {
         store_fixture store;
         store.add_partners(three);
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(partners->position(), 0);
     }
 
-    void move_goes_by_so_many_rows_data()
+    void move_moves_by_a_number_of_rows_data()
     {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("steps");
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QTest::newRow("farther than any number") << 1 << std::numeric_limits<int>::max() << -1 << u"eof"_s;
     }
 
-    void move_goes_by_so_many_rows()
+    void move_moves_by_a_number_of_rows()
     {
         QFETCH(int, from);
         QFETCH(int, steps);
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QCOMPARE(partners->settings().source, all_partners);
     }
 
-    void a_source_written_while_open_counts_at_the_requery()
+    void a_source_written_while_open_is_run_by_the_requery()
     {
         store_fixture store;
         store.add_partners(three);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(names_of(*partners), u"b c"_s);
     }
 
-    void a_requery_that_fails_leaves_the_rows_as_they_were()
+    void a_requery_that_fails_does_not_change_the_rows()
     {
         store_fixture store;
         store.add_partners(three);
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(names_of(*partners), u"a b c"_s);
     }
 
-    void fields_are_reached_by_place_or_by_name_in_any_case()
+    void fields_are_reached_by_ordinal_or_by_name_in_any_case()
     {
         store_fixture store;
         store.add_partners(three);

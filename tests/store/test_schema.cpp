@@ -15,7 +15,7 @@ private:
     store_fixture store_;
 
 private Q_SLOTS:
-    void a_fresh_row_reads_zero_where_nobody_tests_for_null_data()
+    void a_new_row_has_zeros_in_columns_that_are_read_without_a_test_for_null_data()
     {
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("column");
@@ -29,7 +29,7 @@ private Q_SLOTS:
             QTest::addRow("%s", name) << u"Stat_rounds"_s << QString::fromLatin1(name);
     }
 
-    void a_fresh_row_reads_zero_where_nobody_tests_for_null()
+    void a_new_row_has_zeros_in_columns_that_are_read_without_a_test_for_null()
     {
         QFETCH(QString, table);
         QFETCH(QString, column);
@@ -42,14 +42,14 @@ private Q_SLOTS:
         recordset->Delete();
     }
 
-    void the_strokes_of_a_fresh_row_are_null_data()
+    void the_strokes_of_a_new_row_are_null_data()
     {
         QTest::addColumn<QString>("column");
         for (const char* name : {"long_1", "approach_9", "putt_18"})
             QTest::addRow("%s", name) << QString::fromLatin1(name);
     }
 
-    void the_strokes_of_a_fresh_row_are_null()
+    void the_strokes_of_a_new_row_are_null()
     {
         QFETCH(QString, column);
         const auto recordset = store_.opened(u"select * from games"_s);
@@ -62,7 +62,7 @@ private Q_SLOTS:
         recordset->Delete();
     }
 
-    void yes_no_columns_count_under_a_sum()
+    void a_sum_counts_the_yes_values_of_a_column()
     {
         const auto shots = store_.opened(u"select * from Stat_rounds"_s);
         for (const bool sand : {true, false, true}) {
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(plan[0].back().toString().contains(u"shots_by_hole"_s));
     }
 
-    void a_table_is_known_by_its_name_in_any_case()
+    void a_table_is_found_by_its_name_in_any_case()
     {
         QCOMPARE(find_table(u"STAT_ROUNDS")->name, u"Stat_rounds"_s);
         QVERIFY(find_table(u"rounds") == nullptr);

@@ -218,7 +218,7 @@ private:
     store_fixture store_;
 
 private Q_SLOTS:
-    void a_column_stands_at_its_ordinal_in_the_file_and_in_a_recordset_data()
+    void a_column_has_its_ordinal_in_the_file_and_in_a_recordset_data()
     {
         QTest::addColumn<QString>("table");
         QTest::addColumn<QString>("column");
@@ -228,7 +228,7 @@ private Q_SLOTS:
                 << QString::fromLatin1(p.table) << QString::fromLatin1(p.column) << p.ordinal;
     }
 
-    void a_column_stands_at_its_ordinal_in_the_file_and_in_a_recordset()
+    void a_column_has_its_ordinal_in_the_file_and_in_a_recordset()
     {
         QFETCH(QString, table);
         QFETCH(QString, column);
@@ -240,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(recordset->Fields(column.toUpper()).ordinal(), ordinal);
     }
 
-    void a_table_has_so_many_columns_and_no_more_data()
+    void a_table_has_exactly_this_number_of_columns_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<int>("columns");
@@ -248,7 +248,7 @@ private Q_SLOTS:
             QTest::addRow("%s", w.table) << QString::fromLatin1(w.table) << w.columns;
     }
 
-    void a_table_has_so_many_columns_and_no_more()
+    void a_table_has_exactly_this_number_of_columns()
     {
         QFETCH(QString, name);
         QFETCH(int, columns);
@@ -257,7 +257,7 @@ private Q_SLOTS:
         QCOMPARE(store_.opened(u"select * from " + name)->field_count(), columns);
     }
 
-    void the_file_holds_these_eighteen_tables_and_no_other()
+    void the_file_has_exactly_these_eighteen_tables()
     {
         QCOMPARE(store_.outside().number(u"select count(*) from sqlite_master where type='table'"_s),
                  static_cast<int>(std::size(widths)));

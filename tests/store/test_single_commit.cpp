@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "store/single_commit.h"
+#include "store/commits.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
 
@@ -25,7 +25,7 @@ class test_single_commit : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everything_reaches_the_store_together()
+    void all_changes_are_committed_by_finish()
     {
         store_fixture store;
         const auto partners = store.opened(u"select * from partners"_s);
@@ -37,7 +37,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"a b"_s);
     }
 
-    void nothing_stays_without_its_end()
+    void without_finish_nothing_is_stored()
     {
         store_fixture store;
         const auto partners = store.opened(u"select * from partners"_s);
@@ -47,19 +47,19 @@ private Q_SLOTS:
             add(*partners, "b");
         }
         QCOMPARE(stored_names(store), u"a"_s);
-        // The connection is free for the next commit.
+        // The connection can begin the next commit.
         add(*partners, "c");
         QCOMPARE(stored_names(store), u"a c"_s);
     }
 
-    void one_cannot_stand_inside_another()
+    void a_commit_within_another_fails()
     {
         store_fixture store;
         const single_commit together(store.connection);
         QVERIFY(failure_of([&] { single_commit{store.connection}; }).has_value());
     }
 
-    void it_goes_quietly_when_its_transaction_is_over_already()
+    void it_ends_without_a_failure_if_its_transaction_has_ended()
     {
         store_fixture store;
         const auto partners = store.opened(u"select * from partners"_s);

@@ -18,7 +18,7 @@ using testing::whole_content;
 
 namespace {
 
-/// Enough partners for the file to have pages that matter; then closed, so that all is in one file.
+/// Adds enough partners for several pages and closes the store, so that all of it is in one file.
 void fill_and_close(store_fixture& store)
 {
     QStringList names;
@@ -44,7 +44,7 @@ void replace_content(const QString& path, const QByteArray& bytes)
         qFatal("cannot write the file");
 }
 
-/// Where the rows of the partners start: the page of their first leaf.
+/// The position of the first leaf page of the partners.
 qint64 partners_page(const QString& path)
 {
     return bytes_of(path).indexOf("partner number 7 ") / 4096 * 4096;
@@ -61,13 +61,14 @@ QString folder_of(const store_fixture& store)
     return QFileInfo(store.path()).absolutePath();
 }
 
-/// Lets everyone reach the store's folder, as a folder of the user's would be for himself.
-void let_everyone_in(const store_fixture& store)
+/// Gives everyone access to the folder of the store, so that `nobody` has the access that a user has to his
+/// folder.
+void give_everyone_access(const store_fixture& store)
 {
     set_mode(QFileInfo(folder_of(store)).absolutePath(), 0755);
 }
 
-/// Gives up as soon as it is asked.
+/// A notice of a user who gives up at once.
 class impatient_notice final : public lock_notice {
 public:
     bool keep_waiting() override { return false; }
@@ -79,7 +80,7 @@ class test_store_failures : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_damaged_file_is_recognised_and_left_alone_data()
+    void a_damaged_file_is_refused_and_unchanged_data()
     {
         using damage = std::function<void(const QString&)>;
         QTest::addColumn<damage>("harm");
@@ -104,7 +105,7 @@ private Q_SLOTS:
         QTest::newRow("only the head left") << damage([](const QString& p) { QFile::resize(p, 100); });
     }
 
-    void a_damaged_file_is_recognised_and_left_alone()
+    void a_damaged_file_is_refused_and_unchanged()
     {
         QFETCH(std::function<void(const QString&)>, harm);
         store_fixture store;
@@ -117,7 +118,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(store.path() + u".lock"));
     }
 
-    void another_programs_file_is_left_alone()
+    void the_file_of_another_program_is_refused_and_unchanged()
     {
         QTemporaryDir folder;
         const QString path = folder.filePath(u"music.db"_s);
@@ -128,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(bytes_of(path), before);
     }
 
-    void damage_under_an_open_store_is_told_when_it_is_met()
+    void damage_to_an_open_store_is_a_failure_of_the_statement_that_reads_it()
     {
         store_fixture store;
         fill_and_close(store);
@@ -140,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(!partners->is_open());
     }
 
-    void a_folder_in_the_files_place_cannot_be_opened()
+    void a_folder_with_the_name_of_the_file_cannot_be_opened()
     {
         QTemporaryDir folder;
         Connection1 connection;
@@ -148,7 +149,7 @@ private Q_SLOTS:
         QVERIFY(QDir(folder.path()).exists());
     }
 
-    void a_file_in_the_folders_place_cannot_be_opened()
+    void a_file_with_the_name_of_the_folder_cannot_be_opened()
     {
         store_fixture store;
         const QString inside = store.path() + u"/Verdbase.db";
@@ -156,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { connection.Open(inside); }) == failure_kind::store_unreachable);
     }
 
-    void a_read_only_store_is_recognised_before_anything_is_written_data()
+    void a_read_only_store_is_refused_before_anything_is_written_data()
     {
         QTest::addColumn<int>("folder_mode");
         QTest::addColumn<int>("file_mode");
@@ -167,7 +168,7 @@ private Q_SLOTS:
         QTest::newRow("unreadable file") << 0777 << 0000 << static_cast<int>(failure_kind::store_unreachable);
     }
 
-    void a_read_only_store_is_recognised_before_anything_is_written()
+    void a_read_only_store_is_refused_before_anything_is_written()
     {
         QFETCH(int, folder_mode);
         QFETCH(int, file_mode);
@@ -175,7 +176,7 @@ private Q_SLOTS:
         store_fixture store;
         fill_and_close(store);
         const QByteArray before = bytes_of(store.path());
-        let_everyone_in(store);
+        give_everyone_access(store);
         set_mode(store.path(), static_cast<mode_t>(file_mode));
         set_mode(folder_of(store), static_cast<mode_t>(folder_mode));
         QProcess child;
@@ -188,7 +189,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder_of(store)).entryList(QDir::Files), QStringList{u"Verdbase.db"_s});
     }
 
-    void a_folder_that_cannot_be_made_is_read_only()
+    void a_folder_that_cannot_be_created_is_a_read_only_store()
     {
         QTemporaryDir folder;
         set_mode(folder.path(), 0555);
@@ -200,7 +201,7 @@ private Q_SLOTS:
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
-    void a_tool_that_writes_keeps_the_program_from_opening()
+    void while_another_program_writes_the_store_cannot_be_opened()
     {
         store_fixture store;
         fill_and_close(store);
@@ -215,7 +216,7 @@ private Q_SLOTS:
         store.connection.Open(store.path());
     }
 
-    void a_tool_that_writes_keeps_a_row_pending()
+    void while_another_program_writes_a_row_stays_pending()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s});
@@ -277,14 +278,14 @@ private Q_SLOTS:
         QCOMPARE(partners->RecordCount(), 10);
     }
 
-    void a_disk_that_runs_full_costs_nothing_that_was_committed_data()
+    void a_full_disk_loses_no_committed_row_data()
     {
         QTest::addColumn<int>("bytes");
         for (const int bytes : {200000, 400000, 700001, 1000000})
             QTest::addRow("%d bytes", bytes) << bytes;
     }
 
-    void a_disk_that_runs_full_costs_nothing_that_was_committed()
+    void a_full_disk_loses_no_committed_row()
     {
         QFETCH(int, bytes);
         store_fixture store;

@@ -17,14 +17,14 @@ private:
     QString path_ = folder_.filePath(u"Verdbase.db"_s);
 
 private Q_SLOTS:
-    void what_was_committed_stays_and_the_next_start_is_not_kept_out_data()
+    void after_a_kill_committed_rows_remain_and_the_next_start_opens_the_store_data()
     {
         QTest::addColumn<int>("commits");
         for (const int commits : {1, 2, 7, 40, 200})
             QTest::addRow("after %d more commits", commits) << commits;
     }
 
-    void what_was_committed_stays_and_the_next_start_is_not_kept_out()
+    void after_a_kill_committed_rows_remain_and_the_next_start_opens_the_store()
     {
         QFETCH(int, commits);
         QProcess child;
@@ -43,7 +43,7 @@ private Q_SLOTS:
         Connection1 connection;
         connection.Open(path_);
         const reader outside(path_);
-        // One more may have been committed without having been said.
+        // One more may have been committed without having been printed.
         const int stored = outside.number(u"select count(*) from partners"_s);
         QVERIFY(stored == last_said_ || stored == last_said_ + 1);
         QCOMPARE(outside.number(u"select max(code) from partners"_s), stored);
@@ -52,14 +52,14 @@ private Q_SLOTS:
         QCOMPARE(outside.text(u"pragma integrity_check"_s), u"ok"_s);
     }
 
-    void a_first_start_that_is_killed_leaves_nothing_half_laid_down_data()
+    void after_a_kill_during_the_first_start_the_next_start_creates_the_whole_store_data()
     {
         QTest::addColumn<int>("milliseconds");
         for (const int milliseconds : {1, 3, 6, 10, 15, 20, 30, 50})
             QTest::addRow("about %d ms in", milliseconds) << milliseconds;
     }
 
-    void a_first_start_that_is_killed_leaves_nothing_half_laid_down()
+    void after_a_kill_during_the_first_start_the_next_start_creates_the_whole_store()
     {
         QFETCH(int, milliseconds);
         QTemporaryDir folder;

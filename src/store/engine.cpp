@@ -1,11 +1,17 @@
-#include "store/Connection1.h"
+#include "store/engine.h"
 
-/// What an engine's error means for the user.
+#include <QSqlDriver>
+#include <QVariant>
+
+#include <cstring>
+
 namespace verdane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-// The embedded engine's result codes, as it documents them; a code's lower eight bits are its class.
+// The documented result codes of the engine. The lower eight bits of a code are its class.
 namespace engine_code {
 constexpr int permission = 3;
 constexpr int busy = 5;
@@ -30,8 +36,8 @@ bool names_missing_part(const QString& text)
            text.contains(u"has no column named");
 }
 
-/// Errors of the file itself. A write that the system refused is, on a disk that works, a quota or a
-/// limit on the file's size: for the user the same as a full disk.
+/// The meaning of errors of the file. On a disk that works, a write fails because of a quota or a limit on
+/// the size of files, which is the same for the user as a full disk.
 failure_kind file_failure(int code)
 {
     switch (code) {
@@ -72,6 +78,15 @@ failure_kind kind_of(int code, const QString& text)
 }
 
 }  // namespace
+
+sqlite3* engine_handle(const QSqlDatabase& database)
+{
+    const QVariant handle = database.driver()->handle();
+    if (!handle.isValid() || std::strcmp(handle.typeName(), "sqlite3*") != 0)
+        throw run_time_failure(failure_kind::store_unreachable,
+                               u"%1: no handle of the embedded engine"_s.arg(database.databaseName()));
+    return *static_cast<sqlite3* const*>(handle.constData());
+}
 
 run_time_failure store_failure(const QSqlError& error, const QString& where)
 {

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QHash>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "store/select_statement.h"
+#include "store/tables/columns.h"
+
+/// The rows of a statement in memory, and how they are read.
+namespace verdane {
+
+class Connection1;
+
+struct recordset_column {
+    QString name;
+    column_type type = column_type::any;
+    QVariant default_value;
+    /// False for a column that the table does not have under this name.
+    bool stored = false;
+};
+
+struct recordset_row;
+
+/// The changes of one row that are not committed.
+struct pending_edit {
+    bool is_new = false;
+    /// The columns that were written, each once, with their committed values.
+    std::vector<std::pair<int, QVariant>> before;
+    /// For a new row: the row that was current before. Only compared, because it may no longer exist.
+    const recordset_row* came_from = nullptr;
+};
+
+struct recordset_row {
+    /// The engine's row number; 0 for a row that is not in the store.
+    qint64 number = 0;
+    std::vector<QVariant> cells;
+    std::unique_ptr<pending_edit> pending;
+};
+
+using row_list = std::vector<std::unique_ptr<recordset_row>>;
+
+/// The result of a statement.
+struct row_set {
+    select_statement shape;
+    std::vector<recordset_column> columns;
+    /// By name in small letters; the first column of a name counts.
+    QHash<QString, int> ordinals;
+    row_list rows;
+};
+
+/// Whether rows may be written; only those of a plain table can be.
+enum class row_use { read_and_write, read_only };
+
+/// The rows of a statement in the order of the engine.
+class row_stream {
+public:
+    /// Runs the statement. `where` names it in a failure.
+    row_stream(const Connection1& connection, const QString& statement, QString where, row_use use);
+
+    /// The columns, without a row.
+    row_set columns() const;
+    /// The next row with these columns; null after the last.
+    std::unique_ptr<recordset_row> next(const row_set& columns);
+
+private:
+    QString where_;
+    select_statement shape_;
+    QSqlQuery query_;
+};
+
+/// Runs a statement and reads all its rows. `where` names it in a failure.
+row_set read_rows(const Connection1& connection, const QString& statement, const QString& where);
+
+}  // namespace verdane
