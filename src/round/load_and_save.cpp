@@ -46,17 +46,17 @@ quick_figures figures_from_rows(int16 hole)
 quick_figures figures_from_shots(const hole_summary& summary)
 {
     quick_figures figures;
-    figures.long_shots = summary.kinds[long_shot].count;
-    figures.approach = summary.kinds[approach_shot].count;
-    figures.putts = summary.kinds[putt].count;
+    figures.long_shots = summary.kinds[long_shot].sum;
+    figures.approach = summary.kinds[approach_shot].sum;
+    figures.putts = summary.kinds[putt].sum;
     figures.fairway = summary.fairway;
     figures.sand = summary.sand;
     figures.missed = summary.missed;
     figures.recovery = summary.recovery;
-    figures.pen_water = summary.penalties[water_penalty].count;
-    figures.pen_lost = summary.penalties[lost_ball_penalty].count;
-    figures.pen_rule = summary.penalties[against_the_rules].count;
-    figures.pen_bounds = summary.penalties[out_of_bounds].count;
+    figures.pen_water = summary.penalties[water_penalty].sum;
+    figures.pen_lost = summary.penalties[lost_ball_penalty].sum;
+    figures.pen_rule = summary.penalties[against_the_rules].sum;
+    figures.pen_bounds = summary.penalties[out_of_bounds].sum;
     return figures;
 }
 

@@ -33,7 +33,7 @@ void reopen()
 
 void store_putt_lengths(int16 hole, const hole_summary& summary)
 {
-    for (int i = 0; i < lengths_kept; ++i)
+    for (int i = 0; i < putt_lengths_kept; ++i)
         data_environment()
             .rsgames2.Fields(tables::games2::putt_len(plain(hole), i + 1))
             .set(summary.putt_lengths[static_cast<std::size_t>(i)]);

@@ -14,6 +14,7 @@
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
+#include "records/Main_module.h"
 #include "scoring/Verdane_tools.h"
 
 namespace verdane {

@@ -3,8 +3,8 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "records/Main_module.h"
 #include "controls/TabStrip.h"
+#include "records/Main_module.h"
 #include "round/f_new_round.h"
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"

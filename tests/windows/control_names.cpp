@@ -53,7 +53,8 @@ QStringList members(const QString& array)
     const QString name = array.section(u'_', 0, -2) + u'_';
     const QString range = array.section(u'_', -1);
     QStringList names;
-    for (int index = range.section(u".."_s, 0, 0).toInt(); index <= range.section(u".."_s, 1).toInt(); ++index)
+    for (int index = range.section(u".."_s, 0, 0).toInt(); index <= range.section(u".."_s, 1).toInt();
+         ++index)
         names << name + QString::number(index);
     return names;
 }
