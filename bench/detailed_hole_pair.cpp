@@ -6,8 +6,7 @@
 #include "bench/pairs.h"
 #include "bench/plain_store.h"
 #include "bench/round_in_window.h"
-#include "controls/data_grid.h"
-#include "round/shot_menus.h"
+#include "round/shot_grid.h"
 
 /// Leaving a hole on the detailed page, its first shot changed so that a figure changes in each wide row,
 /// from the click on the next tab until the shots of that hole are in the grid. The floor is one plain commit
@@ -21,7 +20,7 @@ namespace {
 /// Chooses the other value of the cell by its first letter.
 void change_cell(f_new_round& window, int column)
 {
-    data_grid& grid = *window.details;
+    auto& grid = dynamic_cast<shot_grid&>(*window.findChild<QWidget*>(u"details"_s));
     grid.set_Col(column);
     QTest::keyClick(&grid, grid.currentIndex().data().toString() == u"Yes" ? 'N' : 'Y');
 }
@@ -29,8 +28,8 @@ void change_cell(f_new_round& window, int column)
 /// Changes the first shot so that a figure changes in each wide row.
 void change_first_shot(f_new_round& window)
 {
-    change_cell(window, f_new_round_func::details_column::missed);
-    change_cell(window, f_new_round_func::details_column::zero);
+    change_cell(window, shot_grid::missed_column);
+    change_cell(window, shot_grid::zero_column);
 }
 
 void leave_detailed_hole(benchmark::State& state)
@@ -57,8 +56,8 @@ void leave_detailed_hole_floor(benchmark::State& state)
     const QString key = testing::key_in_diary(round_of_left_holes);
     int step = 0;
     for (auto _ : state) {
-        const int hole = step % round_columns::hole_count + 1;
-        const int figure = 2 + step / round_columns::hole_count % 2;
+        const int hole = step % hole_count + 1;
+        const int figure = 2 + step / hole_count % 2;
         ++step;
         const stopwatch watch;
         store.run(u"update Stat_rounds set missed = ?, dz = ? where date = ? and hole = ? and shot = 1"_s,
@@ -67,7 +66,7 @@ void leave_detailed_hole_floor(benchmark::State& state)
         store.run(u"update games2 set recovery_%1 = ? where date = ?"_s.arg(hole), {figure, key});
         store.run(u"update games set missed_%1 = ? where date = ?"_s.arg(hole), {figure, key});
         store.run(u"commit"_s);
-        read_shots(store, key, hole % round_columns::hole_count + 1);
+        read_shots(store, key, hole % hole_count + 1);
         state.SetIterationTime(watch.seconds());
     }
 }

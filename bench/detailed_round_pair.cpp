@@ -6,6 +6,7 @@
 #include "bench/round_in_window.h"
 #include "bench/stopwatch.h"
 #include "round/f_new_round.h"
+#include "round/page_bar.h"
 
 /// Opening a detailed round of a full diary: from the list's command until its window is painted, and
 /// from the click on the detailed page until its shots are. The floor reads what is then displayed.
@@ -32,14 +33,13 @@ void open_detailed_round(benchmark::State& state)
 
 void open_detailed_page(benchmark::State& state)
 {
-    constexpr int detailed_page = 2;
     const opened_store store(diaries_of_run().full());
     for (auto _ : state) {
         open_tables_of_list();
         in_round_window(testing::key_in_diary(round_in_diary), [&](f_new_round& window) {
             Form::paint_now();
             const stopwatch watch;
-            window.TabStrip2->click(detailed_page);
+            window.pages().page_tabs().click(static_cast<int>(round_page::detailed));
             Form::paint_now();
             state.SetIterationTime(watch.seconds());
         });

@@ -5,7 +5,7 @@
 #include <QStringList>
 
 #include "controls/interface_language.h"
-#include "records/round_columns.h"
+#include "scoring/limits.h"
 #include "shell/language_change.h"
 #include "store/DataEnvironment1.h"
 #include "tests/support/reader.h"
@@ -20,7 +20,7 @@ namespace {
 QString without_sixth_putts()
 {
     QStringList cleared;
-    for (int h = 1; h <= round_columns::hole_count; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         cleared << u"putt_len_%1_6 = 0"_s.arg(h);
     return u"update games2 set " + cleared.join(u", ");
 }

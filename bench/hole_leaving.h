@@ -6,8 +6,9 @@
 #include "bench/round_in_window.h"
 #include "bench/stopwatch.h"
 #include "records/Main_module.h"
-#include "records/round_columns.h"
 #include "round/f_new_round.h"
+#include "round/hole_bar.h"
+#include "scoring/limits.h"
 #include "tests/support/full_diary.h"
 
 /// Shared by the two pairs that measure leaving a hole: its figures are changed, the next tab is
@@ -30,18 +31,19 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
         Form::paint_now();
     };
     // The first commit of a connection creates the log, once per start; it is not measured.
+    TabStrip& tabs = window.holes().hole_tabs();
     int hole = 2;
     change_hole();
-    window.TabStrip1->click(hole);
+    tabs.click(hole);
     for (auto _ : state) {
         change_hole();
-        hole = hole % round_columns::hole_count + 1;
+        hole = hole % hole_count + 1;
         const stopwatch watch;
-        window.TabStrip1->click(hole);
+        tabs.click(hole);
         if (end == hole_seen::painted)
             Form::paint_now();
         state.SetIterationTime(watch.seconds());
-        if (window.TabStrip1->selected() != hole)
+        if (tabs.selected() != hole)
             state.SkipWithError("the hole was not left");
     }
 }

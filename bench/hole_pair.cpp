@@ -19,8 +19,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Types a digit that differs from the one in the box.
-void change_figure(QLineEdit& box)
+void change_figure(const f_new_round& window, const QString& name)
 {
+    QLineEdit& box = *window.findChild<QLineEdit*>(name);
     const char digit = box.text() == u"2" ? '3' : '2';
     box.setFocus();
     box.selectAll();
@@ -29,8 +30,8 @@ void change_figure(QLineEdit& box)
 
 void change_figures(f_new_round& window)
 {
-    change_figure(window.text_vrd(0));
-    change_figure(window.text_p(3));
+    change_figure(window, u"text_vrd_0"_s);
+    change_figure(window, u"text_p_3"_s);
 }
 
 void leave_hole(benchmark::State& state)
@@ -53,8 +54,8 @@ void leave_hole_floor(benchmark::State& state)
     row.finish();
     int step = 0;
     for (auto _ : state) {
-        const int hole = step % round_columns::hole_count + 1;
-        const int figure = 2 + step / round_columns::hole_count % 2;
+        const int hole = step % hole_count + 1;
+        const int figure = 2 + step / hole_count % 2;
         ++step;
         const stopwatch watch;
         store.run(u"begin"_s);

@@ -7,10 +7,9 @@
 #include "bench/plain_store.h"
 #include "bench/round_in_window.h"
 #include "bench/stopwatch.h"
-#include "controls/data_grid.h"
+#include "round/detailed_page.h"
 #include "round/f_new_round.h"
-#include "round/shot_entry.h"
-#include "round/shot_menus.h"
+#include "round/shot_grid.h"
 #include "store/DataEnvironment1.h"
 
 /// The key that adds the next row: Enter after the remaining distance of a putt, until the next putt is in
@@ -44,23 +43,24 @@ QStringList hole_before_its_putts()
 /// Types a digit into the distance of the last shot and returns the cell's editor.
 QWidget* type_distance(f_new_round& window, char digit)
 {
-    window.details->bound_model().move_to(data_environment().rsStat_rounds.RecordCount() - 1);
-    window.details->ReBind();
-    window.details->set_Col(f_new_round_func::details_column::distance);
+    auto& grid = dynamic_cast<shot_grid&>(*window.findChild<QWidget*>(u"details"_s));
+    grid.bound_model().move_to(data_environment().rsStat_rounds.RecordCount() - 1);
+    grid.ReBind();
+    grid.set_Col(shot_grid::distance_column);
     Form::paint_now();
-    QTest::keyClick(window.details, digit);
+    QTest::keyClick(&grid, digit);
     return window.focusWidget();
 }
 
-/// Enters three putts, each by the key that is measured, and types the distance of the next
-/// one.
+/// Enters three putts, each by the key that is measured, and types the distance of the
+/// next one.
 QWidget* enter_until_last_key(f_new_round& window)
 {
     Recordset& shots = data_environment().rsStat_rounds;
     shots.CancelUpdate();
     for (const QString& statement : hole_before_its_putts())
         data_environment().connection.Execute(statement);
-    f_new_round_func::open_hole_shots(window);
+    window.detailed().open_hole_shots();
     for (int putt = 1; putt <= putts_entered; ++putt)
         QTest::keyClick(type_distance(window, '9'), Qt::Key_Return);
     QWidget* box = type_distance(window, '4');

@@ -4,7 +4,8 @@
 #include <QTimer>
 
 #include "round/f_new_round.h"
-#include "round/Round_records.h"
+#include "round/page_bar.h"
+#include "round/round_opening.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::bench {
@@ -27,9 +28,8 @@ void in_round_window(const QString& key, const std::function<void(f_new_round&)>
 
 void on_detailed_page_of(const QString& key, const std::function<void(f_new_round&)>& work)
 {
-    constexpr int detailed_page = 2;
     in_round_window(key, [&](f_new_round& window) {
-        window.TabStrip2->click(detailed_page);
+        window.pages().page_tabs().click(static_cast<int>(round_page::detailed));
         Form::paint_now();
         work(window);
     });

@@ -8,7 +8,7 @@
 #include "bench/diaries.h"
 #include "bench/pairs.h"
 #include "bench/stopwatch.h"
-#include "records/round_columns.h"
+#include "scoring/limits.h"
 #include "tests/support/full_diary.h"
 
 namespace verdane::bench {
@@ -77,7 +77,7 @@ void register_statistic(const statistic_pair& pair)
 QString columns_of_holes(const QString& prefix, const QString& suffix)
 {
     QStringList columns;
-    for (int h = 1; h <= round_columns::hole_count; ++h)
+    for (int h = 1; h <= hole_count; ++h)
         columns << u"%1_%2%3"_s.arg(prefix).arg(h).arg(suffix);
     return columns.join(u',');
 }

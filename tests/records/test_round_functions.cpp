@@ -1,8 +1,9 @@
 #include <QTest>
 
-#include "records/round_columns.h"
 #include "records/Round_functions.h"
 #include "scoring/hole_classes.h"
+#include "store/tables/courses.h"
+#include "store/tables/games.h"
 #include "tests/records/round_in_store.h"
 #include "tests/support/failures.h"
 
@@ -76,7 +77,7 @@ private Q_SLOTS:
 
     void a_null_penalty_fails_where_it_is_needed()
     {
-        round_->store.rsgames.Fields(round_columns::pen_water_h(6)).set(QVariant());
+        round_->store.rsgames.Fields(tables::games::pen_water_h(6)).set(QVariant());
         QVERIFY(failure_of([] { hole_gross(6, from_row); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { hole_cell(1, 6, from_row); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { hole_pen_water(6, from_row); }) == failure_kind::invalid_null);
@@ -85,7 +86,7 @@ private Q_SLOTS:
 
     void a_null_par_fails()
     {
-        round_->store.rsfield_info.Fields(round_columns::par_h(6)).set(QVariant());
+        round_->store.rsfield_info.Fields(tables::field_info::par_h(6)).set(QVariant());
         QVERIFY(failure_of([] { in_regulation(6, from_row); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { round_score(from_row); }) == failure_kind::invalid_null);
     }
@@ -131,7 +132,7 @@ private Q_SLOTS:
     {
         QFETCH(QVariant, slope);
         fill_round();
-        round_->store.rsvrd_fields.Fields(round_columns::slope).set(slope);
+        round_->store.rsvrd_fields.Fields(tables::vrd_fields::slope).set(slope);
         const round_labels labels = labels_of(round_score(from_row));
         QCOMPARE(labels.l_hand, u"0"_s);
         QCOMPARE(labels.l_net, labels.l_brut);
@@ -140,9 +141,9 @@ private Q_SLOTS:
     void a_rating_is_read_up_to_what_is_no_number()
     {
         fill_round();
-        round_->store.rsvrd_fields.Fields(round_columns::rating).set(u"70.5.1"_s);
+        round_->store.rsvrd_fields.Fields(tables::vrd_fields::rating).set(u"70.5.1"_s);
         QCOMPARE(round_score(from_row).differential, 16.95);
-        round_->store.rsvrd_fields.Fields(round_columns::rating).set(QString());
+        round_->store.rsvrd_fields.Fields(tables::vrd_fields::rating).set(QString());
         QCOMPARE(round_score(from_row).differential, 90 * 113 / 130.0);
     }
 

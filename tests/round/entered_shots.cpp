@@ -3,7 +3,9 @@
 #include <QImage>
 
 #include "base/language.h"
-#include "records/round_columns.h"
+#include "scoring/limits.h"
+#include "store/tables/games.h"
+#include "store/tables/games2.h"
 
 namespace verdane::testing {
 
@@ -130,21 +132,22 @@ void enter_shot(hand& user, int row, int club, const QString& distance, int kind
 
 QString stored_figures(const round_store& store, int hole)
 {
-    namespace at = round_columns;
-    return figures(store, u"games"_s, {at::long_h(hole), at::approach_h(hole), at::putt_h(hole)}) + u' ' +
-           figures(store, u"games2"_s, {at::fairway_h(hole), at::sand_h(hole)}) + u' ' +
-           store.at(u"games"_s, at::missed_h(hole)) + u' ' + store.at(u"games2"_s, at::recovery_h(hole)) +
-           u' ' +
-           figures(
-               store, u"games"_s,
-               {at::pen_water_h(hole), at::pen_lost_h(hole), at::pen_rule_h(hole), at::pen_bounds_h(hole)});
+    namespace games = tables::games;
+    namespace games2 = tables::games2;
+    return figures(store, u"games"_s, {games::long_h(hole), games::approach_h(hole), games::putt_h(hole)}) +
+           u' ' + figures(store, u"games2"_s, {games2::fairway_h(hole), games2::sand_h(hole)}) + u' ' +
+           store.at(u"games"_s, games::missed_h(hole)) + u' ' +
+           store.at(u"games2"_s, games2::recovery_h(hole)) + u' ' +
+           figures(store, u"games"_s,
+                   {games::pen_water_h(hole), games::pen_lost_h(hole), games::pen_rule_h(hole),
+                    games::pen_bounds_h(hole)});
 }
 
 QString stored_putts(const round_store& store, int hole)
 {
     QList<int> ordinals;
-    for (int putt = 1; putt <= round_columns::putts_kept; ++putt)
-        ordinals << round_columns::putt_len(hole, putt);
+    for (int putt = 1; putt <= putt_lengths_kept; ++putt)
+        ordinals << tables::games2::putt_len(hole, putt);
     return figures(store, u"games2"_s, ordinals);
 }
 

@@ -6,8 +6,8 @@
 
 #include "base/language.h"
 #include "controls/TabStrip.h"
-#include "records/round_columns.h"
 #include "round/f_new_round.h"
+#include "store/tables/games.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/languages.h"
 
@@ -16,8 +16,6 @@ using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-namespace at = round_columns;
 
 const QString tabs = u"TabStrip1"_s;
 const QString holes = u"cmb_holes"_s;
@@ -110,8 +108,8 @@ private Q_SLOTS:
             go_to_hole_2(user, way);
             check_hole(user, 2);
             user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
-            user.same(store.at(u"games"_s, at::long_h(1)), u"1"_s, way);
-            user.same(store.at(u"games"_s, at::pen_bounds_h(1)), u"1"_s, way);
+            user.same(store.at(u"games"_s, tables::games::long_h(1)), u"1"_s, way);
+            user.same(store.at(u"games"_s, tables::games::pen_bounds_h(1)), u"1"_s, way);
             user.click_tab(tabs, 1);
             user.same(boxes(user), u"1 2 3 4 5 6 7 8 9 0 1"_s, u"boxes"_s);
             discard(user);
