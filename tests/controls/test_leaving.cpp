@@ -19,7 +19,7 @@ using verdane::testing::play;
 
 namespace {
 
-/// A window with a box that may be left only if its text is "1"; otherwise a message box says so.
+/// A window with a box that may be left only if its text is "1"; otherwise a message box is shown.
 class careful_form : public Form {
 public:
     careful_form() : Form(u"f_careful")

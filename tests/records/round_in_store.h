@@ -15,7 +15,6 @@ public:
 
     round_in_store();
 
-    /// Commits the current rows.
     void commit();
     /// Sets the strokes of a hole in the current row of `rsgames`, by the names of the columns.
     void set_strokes(int hole, int long_shots, int approach, int putts);

@@ -16,7 +16,7 @@ QString template_file_in(const QString& folder, const QString& name, const QStri
 /// The details of the failure of a template; empty if it makes a report.
 QString complaint_about(const QString& path);
 
-/// The path of one of the program's own templates in the build.
+/// The path of one of the program's templates in the build.
 QString built_template(const QString& name);
 
 /// The text of a PDF file, one entry for each page.
@@ -34,8 +34,8 @@ std::vector<printed_word> pdf_words(const QString& path);
 /// The line that `pdfinfo` has for a word ("Page size").
 QString pdf_fact(const QString& path, const QString& word);
 
-/// The output of one of the program's own templates: the text of each page of its PDF file, with single
-/// blanks, and the lines of its CSV file.
+/// The output of one of the program's templates: the text of each page of its PDF file, with single blanks,
+/// and the lines of its CSV file.
 QStringList printed_pages(const QString& name);
 QStringList csv_lines(const QString& name);
 

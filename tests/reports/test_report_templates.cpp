@@ -195,8 +195,8 @@ private Q_SLOTS:
         }
     }
 
-    /// Run with VERDANE_KEEP_PAGES set, this writes the pictures instead; look at them before they are
-    /// committed.
+    /// Run with VERDANE_KEEP_PAGES set, this writes the pictures instead; inspect them before you commit
+    /// them.
     void each_page_looks_as_it_did_when_it_was_last_checked_data() { each_template(); }
     void each_page_looks_as_it_did_when_it_was_last_checked()
     {

@@ -9,7 +9,7 @@ struct sqlite3;
 
 namespace verdane::testing {
 
-/// Calls a function after every commit of the program's connection, when another program sees what was
+/// Calls a function after every commit of the program's connection, when another program can read what was
 /// committed, and collects its results. After a kill the store has one of these states. The connection must
 /// outlive the watch.
 class commit_watch {

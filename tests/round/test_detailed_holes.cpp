@@ -153,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(stored_figures(round.store, 1), entered_figures);
         QCOMPARE(stored_figures(round.store, 5).left(5), u"3 0 0"_s);
         QCOMPARE(stored_putts(round.store, 5), u"0 0 0 0 0 0"_s);
-        // The first shot still has the length of its own hole.
+        // The first shot still has the length of the hole that it belongs to.
         QCOMPARE(round.store.number(u"select before from Stat_rounds where shot = 1"_s), 101);
     }
 

@@ -64,7 +64,7 @@ void rows_of_clicks()
     QTest::newRow("the title bar") << way_out([](hand& user) { user.close_window(round_window()); });
 }
 
-/// The state that a way out of the cell could change.
+/// The state that leaving the cell could change.
 QString state_of(hand& user)
 {
     QString partner;

@@ -78,7 +78,7 @@ void compare_all(const commit_watch& watch, const QString& wanted)
 
 }  // namespace
 
-/// The state that another program sees after each commit of a save.
+/// The state that another program can read after each commit of a save.
 class test_round_commits : public QObject {
     Q_OBJECT
 

@@ -33,7 +33,7 @@ struct counting_form : Form {
 
 }  // namespace
 
-/// The main window besides its commands that open windows.
+/// The main window, except its commands that open windows.
 class test_main_frame : public QObject {
     Q_OBJECT
 

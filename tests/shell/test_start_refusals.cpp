@@ -90,7 +90,7 @@ QByteArray content(const QString& path)
 
 }  // namespace
 
-/// Starts of the program, most of which fail, each in a process of its own.
+/// Starts of the program, most of which fail, each in a separate process.
 class test_start_refusals : public QObject {
     Q_OBJECT
 

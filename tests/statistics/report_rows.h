@@ -7,7 +7,7 @@
 #include "statistics/selection.h"
 #include "tests/support/stored_diary.h"
 
-/// What the tests of the statistics write to a store besides rounds, and what they read.
+/// Rows other than rounds that the tests of the statistics write to a store, and the rows that they read.
 namespace verdane::testing {
 
 /// A fresh store, from which the reports read, too, with level-par rounds on the first days of 2003. The

@@ -71,7 +71,7 @@ private Q_SLOTS:
         shots.shot(1, 5, u"120, null, 'Pieds', 1, 0, 0, 2"_s);
         QVERIFY(fill_clubs(rounds_of_days(1, 1)));
         QCOMPARE(shots.club(5).mid(1, 3), (QStringList{u" 3"_s, u" 140"_s, u"130"_s}));
-        // A rest that is not known is no ball in the hole.
+        // An unknown remaining distance does not count as holed.
         QCOMPARE(shots.club(5)[9], u" 0%"_s);
     }
 

@@ -17,8 +17,8 @@ namespace {
 
 const QString first_key = key_of_day(1);
 
-/// Hole 2 of the first round shot by shot: a drive into the water, a good second drive, a missed
-/// approach from the sand, an approach, two putts (one of which once was coded as in the fairway).
+/// Hole 2 of the first round shot by shot: a drive into the water, a good second drive, a missed approach
+/// from the sand, an approach, two putts (one of which has the code of a shot in the fairway).
 void add_shots_of_hole_2(const diary& book, const QString& key)
 {
     book.add(diary_shot{key, 2, 1, 1, 2, 1, false, false, 5});

@@ -17,7 +17,7 @@ f_date_range& window_under_the_box()
     return dynamic_cast<f_date_range&>(*open_form(u"f_date_range"));
 }
 
-/// Looks at the window while a message box is open.
+/// Runs a routine with the window while a message box is open.
 void look_under_the_box(hand& user, const std::function<void(f_date_range&)>& routine)
 {
     user.wait_until(u"a box"_s, [] {

@@ -25,7 +25,7 @@ struct choices {
     int weather = 0;
 };
 
-/// What the window hands to the statistics for these choices.
+/// The arguments that the window passes to the statistics for these choices.
 selection_arguments arguments_of(const choices& picked, statistics_mode mode = statistics_mode::round)
 {
     f_date_range window(mode);

@@ -5,8 +5,8 @@
 /// The diary that the tests of the selection window select from.
 namespace verdane::testing {
 
-/// Puts in three rounds on two courses, the second one incomplete, and two partners. The last round's
-/// course has a name longer than the width that shorter names are padded to.
+/// Adds three rounds on two courses, the second one incomplete, and two partners. The last round's course has
+/// a name longer than the width that shorter names are padded to.
 void add_three_rounds(const diary& book);
 
 }  // namespace verdane::testing

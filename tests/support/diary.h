@@ -80,7 +80,7 @@ struct diary_round {
     QString partners;
 };
 
-/// What the parameters of a round hold beside its course.
+/// The parameters of a round except its course.
 struct round_conditions {
     int weather = 0;
     int temperature = 20;

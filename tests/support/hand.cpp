@@ -25,7 +25,7 @@ void hand::look(const std::function<void()>& routine)
 void hand::post(const std::function<void()>& action)
 {
     QMetaObject::invokeMethod(qApp, action, Qt::QueuedConnection);
-    // Both return after the action has returned, or has opened a window with an event loop of its own.
+    // Both return after the action has returned, or has opened a window that runs an event loop.
     in_window_thread([] {});
     in_window_thread([] {});
 }

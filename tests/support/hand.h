@@ -121,7 +121,7 @@ private:
     std::chrono::milliseconds time_limit_;
 };
 
-/// Runs `script` on its own thread while `program` (which opens windows and returns after they are closed)
+/// Runs `script` on a second thread while `program` (which opens windows and returns after they are closed)
 /// runs on this one. Returns when both have returned.
 void play(const std::function<void()>& program, const std::function<void(hand&)>& script);
 

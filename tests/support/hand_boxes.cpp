@@ -6,7 +6,6 @@
 #include "tests/support/hand.h"
 #include "tests/support/hand_thread.h"
 
-/// Message boxes.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;

@@ -9,7 +9,6 @@
 #include "tests/support/hand.h"
 #include "tests/support/hand_widgets.h"
 
-/// Grids and their menus.
 namespace verdane::testing {
 
 using namespace Qt::StringLiterals;

@@ -6,7 +6,6 @@
 
 #include "tests/support/hand.h"
 
-/// The keyboard.
 namespace verdane::testing {
 
 void hand::choose(const QString& combo, int index)

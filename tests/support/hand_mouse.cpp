@@ -14,7 +14,6 @@
 #include "tests/support/hand_thread.h"
 #include "tests/support/hand_widgets.h"
 
-/// The mouse.
 namespace verdane::testing {
 
 namespace {

@@ -8,7 +8,6 @@
 #include "tests/support/hand_thread.h"
 #include "tests/support/hand_widgets.h"
 
-/// Reading windows and controls.
 namespace verdane::testing {
 
 bool hand::is_open(const QString& window)

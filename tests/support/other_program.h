@@ -6,8 +6,8 @@ namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-/// Locks a store like another program, on its own connection, from construction to `release`; by default for
-/// writing. To be used in one thread.
+/// Locks a store like another program, on a separate connection, from construction to `release`; by default
+/// for writing. To be used in one thread.
 class other_program {
 public:
     explicit other_program(const QString& store_path, const QString& lock = u"BEGIN IMMEDIATE"_s);

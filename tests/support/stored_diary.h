@@ -10,8 +10,8 @@
 /// The stores that tests work on.
 namespace verdane::testing {
 
-/// A fresh store, open as the program's own for the life of this object. `book` adds courses, rounds and
-/// shots to it, `store` reads what is committed; both use connections of their own.
+/// A fresh store, which the program has open for the life of this object. `book` adds courses, rounds and
+/// shots to it, `store` reads what is committed; both use separate connections.
 class stored_diary {
 public:
     explicit stored_diary(bool french = true) : folder_(french) {}

@@ -11,7 +11,7 @@
 /// Writes many rows into a store from outside the program.
 namespace verdane::testing {
 
-/// Runs `work` on its own connection to the file, in one transaction. A statement that fails ends the test
+/// Runs `work` on a separate connection to the file, in one transaction. A statement that fails ends the test
 /// with the engine's message.
 void in_one_transaction(const QString& path, const std::function<void(QSqlDatabase&)>& work);
 

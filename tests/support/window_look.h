@@ -9,7 +9,7 @@
 namespace verdane::testing {
 
 /// The names of visible labels, buttons, combos, frames, tabs and boxes that are smaller than their text, in
-/// the window at work or in any window (to be called in the window thread).
+/// the active window or in any window (to be called in the window thread).
 QStringList clipped_controls(hand& user);
 QStringList clipped_controls_of(const QWidget& window);
 

@@ -13,7 +13,7 @@
 /// The table of all windows, for what holds in each of them.
 namespace verdane::testing {
 
-/// A window of the program, on a page or in a state that has a look of its own.
+/// A window of the program, on a page or in a state that looks different.
 struct program_window {
     /// Name of the row, the same in both languages: the window's family and its state.
     QString view;

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Parts that the toolkit makes for its own controls.
+/// Parts that the toolkit creates for its controls.
 bool is_part_of_control(const QWidget& control)
 {
     return control.objectName().startsWith(u"qt_") || qobject_cast<const QTabBar*>(control.parentWidget());
