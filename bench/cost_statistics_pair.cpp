@@ -6,7 +6,7 @@
 #include "bench/statistic_pairs.h"
 #include "statistics/cost_statistics.h"
 
-/// The statistics of costs. The report adds up; the statistic spends its time copying the rows.
+/// The statistics of costs. The statistic only copies rows; the report adds them up.
 namespace verdane::bench {
 
 namespace {

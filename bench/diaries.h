@@ -35,7 +35,7 @@ private:
 /// The diaries of this run; made at the first call.
 const diaries& diaries_of_run();
 
-/// Keeps the program's own connection open on a store.
+/// Keeps the program's connection open on a store.
 class opened_store {
 public:
     explicit opened_store(const QString& path);

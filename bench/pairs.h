@@ -8,7 +8,7 @@
 /// "_floor". Both measure wall-clock time.
 namespace verdane::bench {
 
-/// Registers a measurement that reports its own times, in milliseconds.
+/// Registers a measurement that reports times itself, in milliseconds.
 template <typename Measurement>
 void register_timed(const std::string& name, const Measurement& measurement)
 {

@@ -8,7 +8,7 @@
 namespace verdane::bench {
 
 /// A store that is read and written with the toolkit alone, for the floors. It has the program's settings
-/// (WAL, synchronous=FULL), and each statement is a commit of its own.
+/// (WAL, synchronous=FULL), and each statement is committed separately.
 class plain_store {
 public:
     explicit plain_store(const QString& path);

@@ -6,7 +6,6 @@
 #include "bench/statistic_pairs.h"
 #include "statistics/putt_statistics.h"
 
-/// The statistics of putts.
 namespace verdane::bench {
 
 using namespace Qt::StringLiterals;

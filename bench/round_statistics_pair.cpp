@@ -11,7 +11,6 @@
 #include "statistics/detail_pass.h"
 #include "statistics/round_statistics.h"
 
-/// The statistics of rounds.
 namespace verdane::bench {
 
 using namespace Qt::StringLiterals;

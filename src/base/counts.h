@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// In a block of its own, because it must be included before native.hpp, which uses its declarations.
+// In a separate block, because it must be included before native.hpp, which uses its declarations.
 #include <boost/safe_numerics/safe_integer.hpp>
 
 #include <boost/safe_numerics/exception_policies.hpp>

@@ -8,7 +8,7 @@ namespace verdane {
 /// The text without blanks (U+0020) at either end. Tabs, line ends and no-break spaces are kept.
 QStringView trimmed_blanks(QStringView text);
 
-/// The text in capitals, accented letters included. Each letter is converted on its own and the length does
+/// The text in capitals, accented letters included. Each letter is converted separately and the length does
 /// not change: a letter without a single capital ("ß") stays as it is.
 QString in_capitals(QStringView text);
 

@@ -43,7 +43,7 @@ QMessageBox::StandardButton show_message(const message& what, QWidget* above)
         show_no_title(box);
     box.setTextFormat(Qt::PlainText);
     const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
-    // Some platforms do not activate the window below on their own.
+    // Some platforms do not activate the window below.
     if (owner)
         owner->activateWindow();
     return answer;

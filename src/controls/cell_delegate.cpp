@@ -40,7 +40,7 @@ void cell_delegate::paint_with_button(QPainter& painter, const QStyleOptionViewI
     QStyle* style = grid_.style();
     style->drawControl(QStyle::CE_ItemViewItem, &whole, &painter, &grid_);
     const QRect button = data_grid::button_in(option.rect);
-    // The style draws the text beside the button as in a cell without one.
+    // The style draws the text next to the button as in a cell without one.
     whole.rect.setRight(button.left());
     whole.text = text;
     style->drawControl(QStyle::CE_ItemViewItem, &whole, &painter, &grid_);

@@ -6,7 +6,7 @@
 /// changes it.
 namespace verdane {
 
-/// Sets `is_french` and loads the toolkit's own texts (Yes, No, Cancel, the months of a calendar, the print
+/// Sets `is_french` and loads the texts of the toolkit (Yes, No, Cancel, the months of a calendar, the print
 /// dialog) in that language.
 void set_interface_language(bool french);
 

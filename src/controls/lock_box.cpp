@@ -58,7 +58,7 @@ lock_box::lock_box()
 lock_box::~lock_box()
 {
     box_.hide();
-    // Some platforms do not activate the window below on their own.
+    // Some platforms do not activate the window below.
     if (owner_)
         owner_->activateWindow();
 }

@@ -34,7 +34,7 @@ public:
     /// control, if there is one.
     void add(const shortcut& which, std::function<void()> routine, QWidget* control = nullptr);
 
-    /// Lists a shortcut that a control handles on its own.
+    /// Lists a shortcut that a control handles itself.
     void mention(const shortcut& which) { listed_.push_back(which); }
 
     void set_language(bool french) { french_ = french; }

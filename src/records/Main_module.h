@@ -7,7 +7,7 @@
 #include "base/counts.h"
 #include "scoring/limits.h"
 
-/// The lists that live for the whole run. The language is in `base/language.h`.
+/// The lists that exist for the whole run. The language is in `base/language.h`.
 namespace verdane {
 
 namespace Main_module {

@@ -39,7 +39,7 @@ struct situation_texts {
     QString recovery;
 };
 
-/// What the scorecard of the course says about a hole.
+/// A hole on the scorecard of the course.
 struct hole_card {
     int16 yards = 0;
     /// The stroke index.

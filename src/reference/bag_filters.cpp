@@ -95,7 +95,7 @@ QLayout* bag_filters::make_choices()
     form->setHorizontalSpacing(rhythm);
     form->setVerticalSpacing(rhythm / 2);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    // The window is too narrow for labels beside the lists.
+    // The window is too narrow for labels next to the lists.
     form->setRowWrapPolicy(QFormLayout::WrapAllRows);
     const auto add = [&](QStringView name, const QString& words, QComboBox* filter) {
         add_filter(*form, named(make_label(words), name), filter);

@@ -27,7 +27,7 @@ public:
     bool fill_rounds();
     void fill_partners_and_courses();
 
-    /// The selection that the filters describe. The texts for filters that are off are the golf bag's own.
+    /// The selection that the filters describe. A filter that is off has the text of the golf bag for it.
     selection_arguments selection() const;
 
     /// Called by the update button.

@@ -38,7 +38,7 @@ QLineEdit* make_figure_box(const QString& accessible_name)
     return box;
 }
 
-/// Adds a line across the page, which guides the eye from the number of a hole to its par.
+/// Adds a line across the page, from the number of a hole to its par.
 void add_line(QGridLayout& grid, int row, const QColor& colour, int height)
 {
     auto* line = new QWidget;

@@ -40,7 +40,7 @@ constexpr std::array<text_pair, amount_count> captions = {{
     {u"Autres :", u"Other :"},
 }};
 
-/// The mark beside every amount. The user decides which currency it means.
+/// The mark next to every amount. The user decides which currency it means.
 QLabel* make_mark(const QString& name)
 {
     return named(make_label(u"$"_s), name);
@@ -127,7 +127,7 @@ QLayout* f_cost::make_foot()
 void f_cost::connect_events()
 {
     for (const auto& [index, box] : amounts_.members()) {
-        // A pasted text has a filter of its own: it may replace the digits that make the box full for a key.
+        // A pasted text has a separate filter: it may replace the digits that make the box full for a key.
         filter_pasted_text(*box, digits_only);
         filter_keys(*box, [this, i = index](QChar key) { return box_key(*this, i, key); });
         when_entered(*box, [this, i = index] { enter_box(*this, i); });

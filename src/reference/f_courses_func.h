@@ -15,8 +15,8 @@ void load(f_courses& window);
 /// Checks and commits both rows; `saveSucceed` of the window has the result.
 void save(f_courses& window);
 
-/// While `needtosave` is set, asks whether to save. Closes the window unless the user cancels or the save
-/// is refused.
+/// While `needtosave` is set, shows the question whether to save. Closes the window unless the user cancels
+/// or the save is refused.
 void close(f_courses& window);
 
 /// A click on a tab: shows its page and sets the focus to the page's first box.

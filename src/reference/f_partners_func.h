@@ -17,7 +17,7 @@ void add_partner(f_partners& window);
 /// code from the names.
 void before_row_commit();
 
-/// Asks, then removes the current partner. Rounds keep the code.
+/// Removes the current partner after a confirmation. Rounds keep the code.
 void remove_partner(f_partners& window);
 
 /// Stores every row and closes the window. The first row that lacks a name is refused with a message box

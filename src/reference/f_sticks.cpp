@@ -55,7 +55,7 @@ f_sticks::f_sticks()
 
 void f_sticks::widen_to(int twips)
 {
-    // The height 0 stands for what the controls need.
+    // A height of 0 means the height that the controls need.
     take_size({pixels(twips), 0});
 }
 

@@ -23,9 +23,9 @@ void show_filters(f_sticks& window);
 /// of shots of each club is pending in the row of averages.
 void compute_averages(f_sticks& window);
 
-/// Copies the boxes to the rows and asks whether to keep them: Yes commits averages and names, No discards
-/// both. The club menu shows the new names in either case until the next start. Fails with `overflow` on an
-/// average that a double cannot represent.
+/// Copies the boxes to the rows and shows the question whether to keep them: Yes commits averages and names,
+/// No discards both. The club menu shows the new names in either case until the next start. Fails with
+/// `overflow` on an average that a double cannot represent.
 void accept(f_sticks& window);
 
 /// Discards pending changes and closes the window.

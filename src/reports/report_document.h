@@ -23,7 +23,7 @@ public:
     report_document(const report_document&) = delete;
     report_document& operator=(const report_document&) = delete;
 
-    /// The template's own title, and its file's name without folder and ending.
+    /// The title of the template, and the name of its file without folder and ending.
     const QString& title() const;
     QString base_name() const;
 

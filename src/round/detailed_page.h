@@ -49,7 +49,7 @@ public:
     void focus_grid();
     /// Moves the cursor to the club of the current shot and focuses the grid.
     void focus_club();
-    /// Takes the rows off the grid.
+    /// Unbinds the grid from its rows.
     void unbind();
 
     /// Loads the shots of the hole on screen into the grid; a hole without shots gets a blank one. Shows a

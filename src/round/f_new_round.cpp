@@ -157,8 +157,8 @@ void f_new_round::connect_window()
     watch_tab_keys(*this, holes_->hole_tabs(), pages_->page_tabs());
 }
 
-/// Hides one page before it shows the other: both at once would enlarge the window beyond the screen, for
-/// good.
+/// Hides one page before it shows the other: both at once would enlarge the window beyond the screen
+/// permanently.
 void f_new_round::show_page(round_page page)
 {
     const std::initializer_list<QWidget*> of_quick_page{quick_, statistics_};

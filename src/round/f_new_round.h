@@ -35,7 +35,7 @@ public:
     static constexpr int ok = 4;
     static constexpr int cancel = 2;
 
-    /// `shots` lives longer than the window.
+    /// `shots` must outlive the window.
     explicit f_new_round(shot_rows& shots);
 
     /// The key of the round; empty before the tee-off.

@@ -91,7 +91,7 @@ void save_and_leave(f_new_round& window)
     window.unload();
 }
 
-/// The shots were checked: shows the quick page, from now on for good.
+/// The shots were checked: from now on only the quick page is shown.
 void return_to_quick_page(f_new_round& window)
 {
     if (!window.on_detailed_page())

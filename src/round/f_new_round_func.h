@@ -26,15 +26,15 @@ void show_costs(f_new_round& window);
 /// putts are included.
 void report_putts(f_new_round& window);
 
-/// OK (index 4) saves and closes, Cancel (index 2) asks.
+/// OK (index 4) saves and closes, Cancel (index 2) closes after the question whether to save.
 void on_ok_cancel(f_new_round& window, int index);
 
 /// The title bar's close box: like Cancel, but an incomplete shot is reported and does not keep the window
 /// open.
 void on_close_box(f_new_round& window);
 
-/// Closes the window. Asks first whether to save if there is something to save; with `skip_prompt` the
-/// changes are dropped without a question.
+/// Closes the window. If there is something to save, shows the question whether to save first; with
+/// `skip_prompt` the changes are dropped without a question.
 void ask_and_close(f_new_round& window, bool skip_prompt);
 
 }  // namespace verdane::f_new_round_func

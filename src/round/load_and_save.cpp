@@ -120,8 +120,8 @@ void save_round(f_new_round& window, bool silent)
         return;
     }
     store_hole(window, hole_to_save(window, silent));
-    // A process that is killed in between would leave half of the rows of the round, or old figures of a hole
-    // beside new ones.
+    // After separate commits a killed process could leave half of the rows of the round, or a mixture of old
+    // and new figures of a hole.
     joined_commits together(data_environment().connection);
     const parameters_pane& parameters = window.parameters();
     round_record::store_round_header(parameters.course_index(), parameters.weather_index(),

@@ -16,7 +16,7 @@ class Form;
 /// The pages of the round window, numbered as their tabs are.
 enum class round_page { quick = 1, detailed = 2 };
 
-/// The tabs of the two pages, and the buttons beside them.
+/// The tabs of the two pages, and the buttons next to them.
 class page_bar : public QWidget {
 public:
     explicit page_bar(Form& window);

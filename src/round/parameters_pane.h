@@ -57,7 +57,7 @@ public:
 
     void show_costs(const QString& total);
 
-    /// Arranges the controls below each other, for the place beside the quick page, or side by side, for the
+    /// Arranges the controls below each other, for the place next to the quick page, or side by side, for the
     /// place below the shots.
     void arrange(Qt::Orientation orientation);
 

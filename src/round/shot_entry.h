@@ -51,7 +51,6 @@ public:
     /// Removes the current shot if it is the first one (`grid_row` is 0) and lacks club or kind, and returns
     /// true. Otherwise stores the par in the first shot.
     bool drop_blank_shot(int grid_row);
-    /// Removes the current shot.
     void remove_shot();
     /// `PUT_MODE` is true when the last shot is a putt.
     void follow_last_shot();
@@ -59,7 +58,7 @@ public:
     /// True when the hole has only the blank shot of a new hole, without club, kind and distance.
     bool is_untouched() const;
     /// Removes that shot. The close box closes the window without complete shots, and a hole that was only
-    /// looked at must not count as a detailed one.
+    /// displayed must not count as a detailed one.
     void drop_untouched_shot();
 
     /// Prepares the rows for the next shot and sets `PUT_MODE`. Returns the distance before that shot,
@@ -88,7 +87,7 @@ private:
 };
 
 /// What a choice from a menu, or a typed distance, writes into the current row of `rsStat_rounds`. Menu
-/// entries count from 1. The words are those of the language of the moment.
+/// entries count from 1. The words are those of the current language of the interface.
 namespace current_shot {
 
 /// The putter makes the shot a putt, in feet. Another club makes a putt a shot without kind; a shot in feet

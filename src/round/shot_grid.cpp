@@ -51,7 +51,7 @@ constexpr std::array unit_words_of_both{feet_words, yards_words};
 
 /// The largest width of the column of clubs.
 constexpr int widest_club_twips = 1000;
-/// Free pixels beside the words of a cell.
+/// Free pixels next to the text of a cell.
 constexpr int cell_margin = 6;
 constexpr int narrowest_column_twips = 600;
 
@@ -148,7 +148,7 @@ QString shot_grid::club_name(int club) const
     return choice_menu::caption_of(club_entries_(club));
 }
 
-/// All words that the cells of a column can show.
+/// All texts that the cells of a column can show.
 QStringList shot_grid::words_of_cells(int column) const
 {
     switch (column) {
@@ -171,7 +171,7 @@ QStringList shot_grid::words_of_cells(int column) const
     }
 }
 
-/// The width that the words of a column need. A word of its caption never wraps.
+/// The width that the texts of a column need. A word of its caption never wraps.
 int shot_grid::width_of_words(int column) const
 {
     const QFontMetrics font = fontMetrics();

@@ -49,7 +49,7 @@ public:
     void set_club_names(const QStringList& names);
     QString club_name(int club) const;
 
-    /// Sets width and visibility of the columns. A column is at least as wide as its words need.
+    /// Sets width and visibility of the columns. A column is at least as wide as its texts need.
     void set_up_columns();
 
 private:

@@ -13,7 +13,7 @@ namespace verdane {
 /// The shots of one hole in the rows of `rsStat_rounds`, and which hole that is. With no hole loaded the
 /// recordset covers the whole table, which is read only when a row is needed.
 ///
-/// An object lives as long as a round window. Only this class sets the statement of `rsStat_rounds` in that
+/// An object exists as long as a round window. Only this class sets the statement of `rsStat_rounds` in that
 /// time; afterwards it is "select * from stat_rounds".
 class shot_rows {
 public:

@@ -93,7 +93,7 @@ void f_get_date::name_controls()
                                                   {seconds_box_, caption(u"Secondes", u"Seconds")}};
     for (const auto& [box, name] : boxes)
         name_control(*box, name);
-    // The calendar does not name its own parts for screen readers.
+    // The calendar does not name its parts for screen readers.
     const std::pair<QString, QString> parts[] = {
         {u"qt_calendar_prevmonth"_s, caption(u"Mois précédent", u"Previous month")},
         {u"qt_calendar_nextmonth"_s, caption(u"Mois suivant", u"Next month")},

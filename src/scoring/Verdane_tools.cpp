@@ -13,7 +13,7 @@ namespace {
 // In French lists.
 constexpr int tees_in_capitals = 4;
 
-// The characters of Windows-1252 at 0x80 to 0x9F; a code without a character is its own character.
+// The characters of Windows-1252 at 0x80 to 0x9F; a code without a character is mapped to itself.
 constexpr std::u16string_view middle_of_code_page =
     u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u008D\u017D\u008F"
     u"\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u009D\u017E\u0178";

@@ -23,7 +23,8 @@ struct round_totals {
 /// (gross - rating) * 113 / slope; 0 if the slope is 0.
 double differential(int16 gross, double rating, double slope);
 
-/// The gross less the whole part of the round's own differential, rounded down (-2 for -1.2). A whole number.
+/// The gross less the whole part of the differential of the round, rounded down (-2 for -1.2). A whole
+/// number.
 double net_score(int16 gross, double differential);
 
 /// The first five characters of the differential's text, trimmed: "16.95", "-10", "0".

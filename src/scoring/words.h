@@ -32,7 +32,7 @@ inline constexpr std::array<text_pair, 4> weather_words{{{u"Ensoleillé", u"Sunn
                                                          {u"Pluie", u"Rainy"},
                                                          {u"Vent", u"Windy"}}};
 
-// Shots. A row of the shot table has a word beside each code, in the language in which the shot was entered,
+// Shots. A row of the shot table stores a word with each code, in the language in which the shot was entered,
 // so the rows of one hole may have words of both languages.
 
 /// The club number of the putter, the last club of the bag.

@@ -46,7 +46,7 @@ void write_heading(const selection_arguments& chosen)
 {
     Recordset& report = clubs_of_report();
     const QString from = Verdane_tools::key_text(chosen.from_key);
-    // French in both languages; the English template has its own heading.
+    // French in both languages; the English template has a separate heading.
     report.Fields(heading_text).set(QString(u"STATISTIQUES SUR VOS BÂTONS DE " + from));
     report.Fields(from_date).set(from);
     report.Fields(to_date).set(Verdane_tools::key_text(chosen.to_key));

@@ -149,7 +149,7 @@ void close_form(f_date_range& window)
 
 void unload()
 {
-    // Cost statistics without a result leave their own statement, to which no row can be added.
+    // Cost statistics without a result leave a statement in force whose rows are read-only.
     data_environment().rscost.set_Source(u"select * from cost"_s);
     Unlock_menu();
 }

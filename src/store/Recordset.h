@@ -84,9 +84,9 @@ public:
     /// `MoveFirst` and `MoveLast` fail with `misuse` on an empty recordset.
     void MoveFirst();
     void MoveLast();
-    /// Leads from the last row to `eof()`, where it does nothing.
+    /// Moves from the last row to `eof()`, where it does nothing.
     void MoveNext();
-    /// Leads from the first row to `bof()`, where it does nothing, and from `eof()` to the last row.
+    /// Moves from the first row to `bof()`, where it does nothing, and from `eof()` to the last row.
     void MovePrevious();
     /// Moves by `steps` from the current row, forward if positive, but not beyond `eof()` and `bof()`.
     void Move(int steps);

@@ -82,8 +82,8 @@ private:
             line_mm_ += lengths_in(value).sum;
     }
 
-    /// A bound of the height, from what every element and every second character could take. Where the
-    /// toolkit's numbers end, its layout does not end either.
+    /// A bound of the height, from what every element and every second character could take. Beyond the range
+    /// of the toolkit's numbers its layout does not terminate.
     void check_height(const markup_piece& piece)
     {
         if (piece.kind == markup_kind::text) {
@@ -97,7 +97,7 @@ private:
             complain({piece.position, u"the page may be taller than %1 mm"_s.arg(most_height_mm)});
     }
 
-    /// The first complaint stays. `found` counts its position from `start`.
+    /// Only the first fault is kept. `found` counts its position from `start`.
     void complain(qsizetype start, const std::optional<page_fault>& found)
     {
         if (found)

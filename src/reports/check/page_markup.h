@@ -29,8 +29,8 @@ struct markup_piece {
 /// Whether a name is one of a list, in capital or small letters.
 bool is_one_of(QStringView name, std::initializer_list<QStringView> names);
 
-/// Takes markup apart as the toolkit's own reader does: a tag ends at the first `>` outside quotes, and what
-/// is not closed reaches to the end.
+/// Splits markup as the reader of the toolkit does: a tag ends at the first `>` outside quotes, and what is
+/// not closed reaches to the end.
 class markup_reader {
 public:
     /// `markup` must outlive the reader and its pieces.

@@ -22,7 +22,7 @@ std::optional<page_fault> fault_of_text(QStringView text);
 /// A font size, length or file in a style sheet or a `style` attribute.
 std::optional<page_fault> fault_of_style(QStringView style);
 
-/// An attribute of `element`; drawings have units of their own.
+/// An attribute of `element`; drawings have other units.
 std::optional<page_fault> fault_of_attribute(QStringView element, bool in_drawing, QStringView name,
                                              QStringView value);
 

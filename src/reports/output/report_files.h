@@ -22,8 +22,7 @@ QByteArray png_of(const QImage& image);
 /// numbers take a decimal comma.
 QByteArray csv_text(const report_rows& rows, QChar separator);
 
-/// Writes a file whole or not at all. Fails with `report_output`; a file of that name is then as it
-/// was.
+/// Writes a file completely or not at all. Fails with `report_output`; a file of that name is then as it was.
 void write_report_file(const QString& path, const QByteArray& bytes);
 
 }  // namespace verdane

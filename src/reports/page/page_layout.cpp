@@ -58,8 +58,8 @@ page_layout::page_layout(const template_file& source, const QString& html)
     document_->setDefaultFont(font_);
     document_->setUseDesignMetrics(true);
     document_->documentLayout()->registerHandler(QTextFormat::ImageObject, &drawings_);
-    // One endless page: the toolkit's own paging cuts rows of several lines in two. Set ahead of the text,
-    // which would be laid out twice otherwise.
+    // One endless page: the paging of the toolkit cuts rows of several lines in two. Set before the text,
+    // which would otherwise be laid out twice.
     document_->setTextWidth(inside_.width());
     document_->setHtml(with_layout_units(drawings_.extracted(html, source.layout_name)));
     // A reference that the check of the page did not find is a failure, too.

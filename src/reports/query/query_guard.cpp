@@ -21,10 +21,10 @@ namespace {
 /// Steps of the engine between two calls of `may_continue`: less than a millisecond.
 constexpr int steps_between_checks = 20'000;
 /// Bytes of one value and of a row. A row of a report table with all its texts fits; the functions of the
-/// engine that search a text in another take time with the square of the length, and nothing ends them early.
+/// engine that search a text in another take time with the square of the length, and cannot be interrupted.
 constexpr int most_bytes = 200'000;
 /// What the queries of a report may use in addition, in bytes. Compiling a query whose steps name one another
-/// several times doubles the memory with every step, and nothing ends it early.
+/// several times doubles the memory with every step, and cannot be interrupted.
 constexpr sqlite3_int64 most_memory = 128'000'000;
 
 QString name_of(int action)
@@ -97,9 +97,9 @@ void replace_function(sqlite3* connection, const char* name, trimmed_sides& side
                             nullptr);
 }
 
-/// Replaces `trim`, `ltrim` and `rtrim` with two arguments on a connection. The engine's own compare every
-/// character of the text with every one of the list, and nothing ends them early. These fail when the list
-/// has more than 1,000 characters; otherwise the result is the same.
+/// Replaces `trim`, `ltrim` and `rtrim` with two arguments on a connection. The functions of the engine
+/// compare every character of the text with every one of the list, and cannot be interrupted. The
+/// replacements fail when the list has more than 1,000 characters; otherwise the result is the same.
 void limit_trim(sqlite3* connection)
 {
     replace_function(connection, "trim", both);

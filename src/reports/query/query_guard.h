@@ -15,7 +15,7 @@ using continue_check = std::function<bool()>;
 
 /// Restricts a connection to what the query of a template may do: select from the report tables. Any other
 /// statement, table or dangerous function does not compile, and a query ends when `may_continue` returns
-/// false. While a guard lives, the engine's memory is limited, for all connections of the program.
+/// false. While a guard exists, the engine's memory is limited, for all connections of the program.
 class query_guard {
 public:
     /// `database` is an open SQLite connection that outlives the guard.

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A statement's own `with` joins the list of the queries above it.
+/// The statement as a continuation of the list of queries above it; a leading `with` becomes a comma.
 QString as_next_of_list(const QString& sql)
 {
     static const QRegularExpression leading_with(u"^\\s*with\\s+(recursive\\s+)?"_s,
@@ -48,7 +48,7 @@ failure_kind kind_of(const QSqlError& error)
     }
 }
 
-/// Copies the tables; waits for a lock of another program as the program's own connection does.
+/// Copies the tables; waits for a lock of another program as the program's connection does.
 QSqlError copy_when_unlocked(QSqlDatabase& database)
 {
     lock_wait waiting;

@@ -45,9 +45,8 @@ private:
     std::string what_;
 };
 
-/// The store as a report sees it: one moment of the committed rows of the report tables, copied into a
-/// database in memory, so that nothing else can be read and nothing written. It lives as long as the report
-/// is being filled.
+/// The committed rows of the report tables at one moment, copied into a database in memory, so that a report
+/// can read nothing else and write nothing. It exists while the report is filled.
 class report_snapshot {
 public:
     /// Fails with `store_unreachable` when the store cannot be opened, `store_damaged` when it cannot be

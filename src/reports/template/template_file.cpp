@@ -41,7 +41,7 @@ QString read_text(const QString& path, const template_place& named_at, const QSt
     return text.remove(u'\r');
 }
 
-/// The line between head and body. Blanks after the dashes are ignored, since nobody sees them.
+/// The line between head and body. Blanks after the dashes are ignored, because they are invisible.
 qsizetype position_of_rule(const QStringList& lines)
 {
     for (qsizetype line = 0; line < lines.size(); ++line)

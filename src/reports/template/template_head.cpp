@@ -158,7 +158,8 @@ void check_role(const head_setting& setting, const known_setting& what, head_rol
                       u"%1 is a setting of the layout, not of the template"_s.arg(setting.keyword));
 }
 
-/// The paper minus the margins. Margins that were never set fit every paper, so that their line is known.
+/// The paper minus the margins. The default margins fit every paper, so margins that do not fit have a line
+/// in the file.
 void check_room(const template_file& target)
 {
     const QSizeF room = QRectF(QPointF(), target.page_size_mm()).marginsRemoved(target.margins).size();

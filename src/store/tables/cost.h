@@ -35,7 +35,7 @@ static_assert(first_amount == 1 && last_amount == 12);
 
 }  // namespace verdane::tables::cost
 
-/// One row for each round of the selection, written anew by each run.
+/// One row for each round of the selection, rewritten by each run.
 namespace verdane::tables::r_cost {
 
 inline constexpr column_list columns{

@@ -3,7 +3,7 @@
 #include "store/recordset_settings.h"
 #include "store/tables/declaration.h"
 
-/// `hand`: the score differentials from which the handicap is computed, written anew by each run.
+/// `hand`: the score differentials from which the handicap is computed, rewritten by each run.
 namespace verdane::tables::hand {
 
 inline constexpr column_list columns{real({u"hnd"})};
