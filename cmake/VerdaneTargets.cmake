@@ -4,14 +4,14 @@
 #                                                             precompiled headers
 #   verdane_test(NAME LINKS ... SOURCES ...)                  one test program
 #
-# The include root of the program is src/, so an include names its folder: "store/Recordset.h". Tests
-# and benchmarks include their own headers from the root of the project: "tests/support/hand.h".
+# The include root of the program is src/, so an include names its folder: "store/Recordset.h". Headers
+# of tests and benchmarks are included from the root of the project: "tests/support/hand.h".
 
 add_library(verdane_flags INTERFACE)
 target_include_directories(verdane_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(verdane_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
-  # When GCC 12 optimises, it warns of overlapping copies in its own std::string.
+  # When GCC 12 optimises, it warns of overlapping copies in std::string.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
   # With full optimisation it also warns of null pointers that were checked just before.
   $<$<CONFIG:Release>:-Wno-null-dereference>)
@@ -23,7 +23,7 @@ endif()
 if(VERDANE_SANITIZE)
   target_compile_options(verdane_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer
-    # GCC 12 warns of null dereferences in its own instrumentation.
+    # GCC 12 warns of null dereferences in the code that the sanitizers insert.
     -Wno-null-dereference -Wno-maybe-uninitialized)
   target_link_options(verdane_flags INTERFACE -fsanitize=address,undefined)
 endif()

@@ -1,5 +1,5 @@
-# What an installation contains. The program and its report templates with their layouts are in one folder,
-# since it reads them in its own folder only. The command is a link to the program.
+# What an installation contains. The program reads its report templates and their layouts only from its
+# folder, so all are in one folder. The command is a link to the program.
 set(verdane_id io.verdane.Verdane)
 set(verdane_home lib/verdane)
 
