@@ -5,7 +5,7 @@
 # FILE has one line for each library, from the lowest to the highest: its name, then what it links.
 #
 # - A library links only libraries that are declared before it.
-# - An include in src/ names its folder, and the folder is the file's own or that of a library linked,
+# - An include in src/ names its folder, and the folder is that of the file or of a library linked,
 #   directly or through another one.
 # - The diagram of docs/architecture.md has exactly these links.
 

@@ -304,7 +304,7 @@ void data_grid::mousePressEvent(QMouseEvent* event)
     const int row = clicked.row();
     const int column = clicked.column();
     // The text is written before the click moves the cursor to another row. This can add a row and scroll the
-    // clicked one away from under the mouse.
+    // clicked one to another position.
     if (!commit_cell())
         return;
     const QModelIndex pressed = indexAt(place);

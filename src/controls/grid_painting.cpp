@@ -12,7 +12,7 @@ namespace verdane {
 
 namespace {
 
-/// The rectangle of the caret: beside the text, as the style places it.
+/// The rectangle of the caret: next to the text, as the style places it.
 QRect caret_in(const QWidget& grid, const QStyleOptionViewItem& cell)
 {
     const int margin = grid.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &grid) + 1;

@@ -8,7 +8,7 @@ namespace verdane {
 
 constexpr int default_lines = 12;
 
-/// A list in which exactly one line is selected, unless it is empty: a click beside the lines does not clear
+/// A list in which exactly one line is selected, unless it is empty: a click next to the lines does not clear
 /// the selection. Its preferred size is `lines` lines of `characters` characters; if it is smaller, it
 /// scrolls.
 QListWidget* make_list_box(int characters, int lines = default_lines);

@@ -21,7 +21,7 @@ public:
     /// closes with the window at the latest.
     explicit report_control(QWidget* owner = nullptr) : owner_(owner) {}
 
-    /// 0 for a window of its own size, 2 for a maximised one.
+    /// 0 for a normal window, 2 for a maximised one.
     int WindowState() const { return window_state_; }
     void set_WindowState(int state) { window_state_ = state; }
 

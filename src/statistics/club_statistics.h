@@ -6,7 +6,7 @@
 /// The club statistics: from the shots of a selection to the report table `stat_sticks`.
 namespace verdane::Statistics {
 
-/// What a run does besides filling the table.
+/// What a run does in addition to filling the table.
 struct club_run {
     /// The bar, and the report to be launched at the end; null for a silent run without both.
     const run_controls* controls = nullptr;

@@ -121,7 +121,7 @@ public:
     /// then current, or the recordset is at `eof()`.
     void CancelUpdate();
     /// Removes the current row (at once with an optimistic lock, at `UpdateBatch` otherwise). No row is
-    /// current until the next move, which leads to the row before or after the removed one. Without rows
+    /// current until the next move, which moves to the row before or after the removed one. Without rows
     /// `bof()` and `eof()` hold. Fails with `misuse` if there is no current row.
     void Delete();
 

@@ -15,7 +15,7 @@ int run_entering_holes(bool detailed, quint32 seed);
 /// left.
 void enter_shots(hand& user, int hole, const entered_hole& shots);
 
-/// Opens the only round from the start of the program, on the quick page.
+/// Opens the only round after the program has started, on the quick page.
 void open_the_round(hand& user);
 QString round_window_name();
 

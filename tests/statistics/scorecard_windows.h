@@ -28,7 +28,7 @@ public:
     std::vector<QVariant> card(int row) const;
 };
 
-/// "f_carte", or its twin in the language of this moment.
+/// "f_carte", or its twin in the current language.
 QString scorecard_window();
 
 /// Opens the scorecard window, runs the script and leaves through the cancel button.

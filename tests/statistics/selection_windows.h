@@ -12,7 +12,7 @@
 /// What the tests of the selection window share.
 namespace verdane::testing {
 
-/// "f_date_range", or its twin in the language of this moment.
+/// "f_date_range", or its twin in the current language.
 QString selection_window();
 
 /// Opens the selection window, runs the script and leaves through the cancel button.

@@ -7,7 +7,7 @@
 
 namespace verdane::testing {
 
-/// Reads a store on a separate connection, so it sees only committed rows. Usable from any thread.
+/// Reads a store on a separate connection, so it reads only committed rows. Usable from any thread.
 class reader {
 public:
     explicit reader(QString path);

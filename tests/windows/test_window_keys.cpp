@@ -93,7 +93,7 @@ QList<mnemonic_group> mnemonics_of(const QWidget& window)
     return groups;
 }
 
-/// The captions that share a letter. The two of the English menu bar are the program's own captions.
+/// The captions that share a letter. The two of the English menu bar are captions of the program.
 QStringList collisions(const mnemonic_group& group)
 {
     QStringList shared;

@@ -83,7 +83,7 @@ void write_report_file(const QString& path, const QByteArray& bytes)
     if (there.exists() && !there.isFile())
         throw run_time_failure(failure_kind::report_output, u"%1: not a file"_s.arg(path));
     QSaveFile file(path);
-    // Unbuffered, because the buffer of the toolkit reports a write as complete that a full disk cut short.
+    // Unbuffered, because the buffer of the toolkit reports a write as complete even if the disk is full.
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(bytes) == bytes.size() &&
         file.commit())
         return;

@@ -62,7 +62,7 @@ void report_wait::open()
     layout->setSpacing(16);
     layout->addWidget(words);
     layout->addWidget(stop, 0, Qt::AlignRight);
-    // Escape and the close box stop the report, too: nothing else ends the window.
+    // Escape and the close box stop the report, too, because they reject the dialog.
     QObject::connect(stop, &QPushButton::clicked, window_.get(), &QDialog::reject);
     QObject::connect(window_.get(), &QDialog::rejected, window_.get(), [this] { is_stopped_ = true; });
     window_->show();

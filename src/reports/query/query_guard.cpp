@@ -150,7 +150,7 @@ int query_guard::authorize(void* guard, int action, const char* first, const cha
                    : self.refuse(u"%1 is none of them"_s.arg(name));
     if (action == SQLITE_FUNCTION)
         return is_dangerous(name) ? self.refuse(u"%1 is refused"_s.arg(name)) : SQLITE_OK;
-    // A table, and one that a function makes, is entered into the schema first.
+    // Creating a table, also that of a table-valued function, first inserts a row into the schema.
     if (name.startsWith(u"sqlite_"_s))
         return self.refuse(u"a new table is refused"_s);
     return self.refuse(u"%1 is refused"_s.arg(name_of(action)));

@@ -10,7 +10,7 @@ namespace verdane {
 QString without_literals(QString sql);
 
 /// The position of a name in double quotes that is no heading (after `as`). The engine takes such a name for
-/// a text if there is no such column, so that a missing column would print its own name.
+/// a text if there is no such column, so that a missing column would print its name.
 std::optional<qsizetype> stray_quoted_name(const QString& sql);
 
 }  // namespace verdane

@@ -7,7 +7,7 @@
 
 #include "scoring/limits.h"
 
-/// The terms in which the columns of a table are declared.
+/// The types that declare the columns of a table.
 namespace verdane {
 
 /// A `count` has 16 bits, an `amount` 32. `any` is a column that nothing reads or writes, or one that a
@@ -108,7 +108,7 @@ constexpr column_group yes_no(names_of_columns names)
 {
     return columns_of(column_type::yes_no, names);
 }
-/// Columns that nothing reads or writes. They give the columns after them their ordinals.
+/// Columns that nothing reads or writes. They keep the ordinals of the columns after them.
 constexpr column_group unused(names_of_columns names)
 {
     return columns_of(column_type::any, names);
