@@ -6,7 +6,7 @@
 namespace verdane::Round_functions {
 
 /// Moves `rsvrd_fields` to the row with the index that the course has in a list filled in row order, from 0.
-/// An index beyond the last row leads to `eof()`.
+/// With an index beyond the last row it is at `eof()`.
 void move_to_course(int list_index);
 
 /// Moves `rsfield_info` to the holes of the course in the current row of `rsvrd_fields`, or to `eof()` if

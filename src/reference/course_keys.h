@@ -22,8 +22,8 @@ extern checked_array<course_key, most_courses> course_keys;
 /// Stores the current row of `rsvrd_fields` at an index. Fails with `subscript` beyond the table.
 void keep_course_key(int index, Recordset& rsvrd_fields);
 
-/// Empties the table and stores as many rows as fit: a list that outgrew it while it was open must still
-/// be able to shrink. The recordset is left on another row or at `eof()`.
+/// Empties the table and stores as many rows as fit: removing a course must also work in a list that has
+/// become longer than the table. The recordset is left on another row or at `eof()`.
 void rebuild_course_keys(Recordset& rsvrd_fields);
 
 /// Adds the current row at the first free index, unless its code is in the table already. Nothing happens

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Its figures are overwritten by the summary pass. It determines whether the selection has shots.
+/// Determines whether the selection has shots. The summary pass overwrites the figures of this pass.
 void run_detail_pass(const selection_arguments& chosen, run_progress& bar)
 {
     const std::vector<detailed_hole> holes = gather_detail(chosen);

@@ -215,7 +215,7 @@ private Q_SLOTS:
         }
         if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
             QFile::remove(kept_page(name, document->page_count()));
-        QVERIFY2(!QFile::exists(kept_page(name, document->page_count())), "a page less than there was");
+        QVERIFY2(!QFile::exists(kept_page(name, document->page_count())), "a stored picture has no page");
     }
 };
 

@@ -98,7 +98,7 @@ private Q_SLOTS:
                 user.check(!user.enabled(u"B8"_s), u"the toolbar is locked"_s);
                 user.click(u"Command1_1"_s);
                 user.wait_until_gone(window);
-                user.check(user.enabled(u"B8"_s), u"the toolbar is open again"_s);
+                user.check(user.enabled(u"B8"_s), u"the toolbar is enabled again"_s);
             };
             user.menu(u"mCarte"_s);
             leave();

@@ -207,7 +207,7 @@ private Q_SLOTS:
         rounds.putts(2, 1, {9});
         in_selection_window(
             [&](hand& user) {
-                user.same(user.focus(), u"List1"_s, u"where the keyboard starts"_s);
+                user.same(user.focus(), u"List1"_s, u"focus after opening"_s);
                 user.key(Qt::Key_Down);
                 user.key(Qt::Key_Tab);
                 user.same(user.focus(), u"List2"_s, u"second stop"_s);

@@ -25,7 +25,7 @@ inline std::optional<failure_kind> child_failure(QProcess& child)
 {
     if (!child.waitForFinished(120000) || child.exitStatus() != QProcess::NormalExit ||
         (child.exitCode() != 0 && child.exitCode() < child_failed))
-        qFatal("the program beside the test broke: %s", child.readAllStandardError().constData());
+        qFatal("store_child failed unexpectedly: %s", child.readAllStandardError().constData());
     if (child.exitCode() == 0)
         return std::nullopt;
     return static_cast<failure_kind>(child.exitCode() - child_failed);

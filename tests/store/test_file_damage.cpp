@@ -198,7 +198,7 @@ private Q_SLOTS:
             if (QTest::currentTestFailed())
                 return;
         }
-        QVERIFY2(refused > 0, "no bit made a difference");
+        QVERIFY2(refused > 0, "no file was refused");
     }
 
     void a_file_without_its_end_is_refused_and_unchanged()
@@ -381,7 +381,7 @@ private:
             check(now == sound_, place + " changes what is read");
             return false;
         }
-        check(now.by_index == now.by_scan, place + " parts an index from its table");
+        check(now.by_index == now.by_scan, place + " makes an index differ from its table");
         check(rows_that_differ(now.rows, sound_.rows) <= 1, place + " changes several rows");
         return false;
     }

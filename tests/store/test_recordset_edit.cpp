@@ -37,7 +37,7 @@ void leave_by(Recordset& recordset, const QString& way)
     else if (way == u"UpdateBatch")
         recordset.UpdateBatch();
     else
-        QFAIL("no such way");
+        QFAIL("unknown operation");
 }
 
 }  // namespace

@@ -74,7 +74,7 @@ void hand::wait_for_keyboard()
 {
     // A window that opens, or is active again, gets the keyboard with a later event. With a window manager
     // that is some time after it is shown; until then keys would reach the previous window.
-    wait_until(u"a window with the keyboard"_s, [] {
+    wait_until(u"a window with the keyboard focus"_s, [] {
         return windows_taking_input().contains(QApplication::activeWindow()) ||
                QApplication::activePopupWidget();
     });
@@ -89,7 +89,7 @@ void hand::check(bool holds, const QString& message)
 void hand::same(const QString& seen, const QString& expected, const QString& what)
 {
     if (seen != expected)
-        fail(u"%1\n     saw: %2\nexpected: %3"_s.arg(what, seen, expected));
+        fail(u"%1\n  actual: %2\nexpected: %3"_s.arg(what, seen, expected));
 }
 
 void hand::same(int seen, int expected, const QString& what)

@@ -127,7 +127,7 @@ void close_preview(hand& user)
 {
     user.close_window(u"report_preview"_s);
     user.wait_until_gone(u"report_preview"_s);
-    // Without a window manager nothing gives the keyboard back to the window below.
+    // Without a window manager the window below does not get the keyboard focus again.
     user.look([] { windows_taking_input().constLast()->activateWindow(); });
 }
 
