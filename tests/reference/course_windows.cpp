@@ -1,5 +1,7 @@
 #include "tests/reference/course_windows.h"
 
+#include <numeric>
+
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
@@ -14,6 +16,12 @@ using namespace Qt::StringLiterals;
 course_store::course_store(bool french) : window_diary(french)
 {
     course_keys.clear();
+}
+
+void course_store::add(diary_course course) const
+{
+    std::iota(course.stroke_index.begin(), course.stroke_index.end(), 1);
+    book.add(course);
 }
 
 void add_three_courses(const course_store& store)

@@ -9,8 +9,6 @@
 #include "tests/support/stored_diary.h"
 
 namespace verdane {
-
-using namespace Qt::StringLiterals;
 class f_courses;
 }  // namespace verdane
 
@@ -22,7 +20,8 @@ class course_store : public window_diary {
 public:
     explicit course_store(bool french = true);
 
-    void add(const diary_course& course) const { book.add(course); }
+    /// Hole h has the stroke index h, since the editor refuses two holes with one index.
+    void add(diary_course course) const;
     /// A round that is played on the course.
     void add_round(const QString& key, const QString& code) const { book.add(blank_round{key, code}); }
 };
