@@ -13,6 +13,9 @@ namespace {
 
 namespace at = tables::Stat_rounds;
 
+/// In force when no round window is open.
+const QString statement_without_hole = u"select * from stat_rounds"_s;
+
 std::optional<int16> figure(const Field& field)
 {
     if (field.is_null())
@@ -88,7 +91,7 @@ QString statement_of_hole(const QString& key, int16 hole)
 
 shot_rows::shot_rows()
     : rows_(data_environment().rsStat_rounds),
-      statement_(rows_, rows_.settings().source, u"select * from stat_rounds"_s)
+      statement_(rows_, rows_.settings().source, statement_without_hole)
 {
     close_if_open(rows_);
 }
@@ -128,6 +131,7 @@ void shot_rows::close()
 {
     rows_.Update();
     rows_.Close();
+    rows_.set_Source(statement_without_hole);
     loaded_.reset();
 }
 
