@@ -16,8 +16,7 @@ struct step {
     int take;
 };
 
-/// The steps of the ladder: from `rounds` rounds on, `take` differentials count. Up to 18 rounds there is one
-/// step for every two rounds, then one for each round.
+/// The steps of the ladder: from `rounds` rounds on, `take` differentials count.
 constexpr std::array<step, 10> ladder{
     {{20, 10}, {19, 9}, {18, 8}, {16, 7}, {14, 6}, {12, 5}, {10, 4}, {8, 3}, {6, 2}, {5, 1}}};
 

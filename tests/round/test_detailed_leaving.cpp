@@ -186,6 +186,19 @@ private Q_SLOTS:
             QVERIFY2(left->is_open(), qUtf8Printable(left->name()));
     }
 
+    void closing_the_window_restores_the_statement_before_the_opener_continues()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            open_detailed_page(user);
+            with_round(user, [&](f_new_round& window) {
+                window.unload();
+                QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
+            });
+        });
+    }
+
     void a_shot_that_becomes_a_putt_when_it_is_stored_has_no_position()
     {
         const golfer_store round;
