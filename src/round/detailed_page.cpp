@@ -3,6 +3,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include <utility>
+
 #include "base/language.h"
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
@@ -22,8 +24,8 @@ detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_o
     : QGroupBox(window.caption(u"Coups", u"Shots")),
       window_(window),
       rows_(rows),
-      hole_(hole),
-      entry_(rows, window.french(), hole),
+      hole_(std::move(hole)),
+      entry_(rows, window.french(), hole_),
       grid_(new shot_grid(window))
 {
     setObjectName(u"Framedet"_s);
