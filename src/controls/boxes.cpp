@@ -49,7 +49,7 @@ QMessageBox::StandardButton show_message(const message& what, QWidget* above)
     return answer;
 }
 
-void tell(const QString& text, QMessageBox::Icon icon, const QString& title)
+void show_information(const QString& text, QMessageBox::Icon icon, const QString& title)
 {
     show_message({text, icon, title, QMessageBox::Ok});
 }

@@ -24,8 +24,8 @@ struct message {
 QMessageBox::StandardButton show_message(const message& what, QWidget* owner = window_at_work());
 
 /// Shows a notice with an OK button.
-void tell(const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon,
-          const QString& title = default_title());
+void show_information(const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon,
+                      const QString& title = default_title());
 
 /// Shows a question with Yes and No; true for Yes.
 bool ask_yes_no(const QString& text, const QString& title = default_title());

@@ -36,8 +36,8 @@ void close_window(f_games& window)
 
 void stop_without_rounds(f_games& window)
 {
-    tell(window.caption(u"Il n'y a pas de ronde enregistrée", u"There is no round registered"),
-         QMessageBox::Information);
+    show_information(window.caption(u"Il n'y a pas de ronde enregistrée", u"There is no round registered"),
+                     QMessageBox::Information);
     close_window(window);
 }
 
@@ -77,7 +77,7 @@ void remove_selected_round(f_games& window)
         return;
     remove_round(key);
     remove_selected_entry(window.lines());
-    tell(window.caption(u"Ronde supprimée", u"Round removed"), QMessageBox::Information);
+    show_information(window.caption(u"Ronde supprimée", u"Round removed"), QMessageBox::Information);
 }
 
 }  // namespace

@@ -166,7 +166,7 @@ QStringList course_holes::other_indexes(int index) const
 void course_holes::refuse(QLineEdit& refused, const QString& reason)
 {
     if (!reason.isEmpty())
-        tell(reason);
+        show_information(reason);
     refused.setText(u"0"_s);
     refused.setFocus();
     select_characters(refused, figure_characters);

@@ -49,7 +49,7 @@ void open_selected(f_c_list& window)
         return;
     Round_functions::move_to_course(window.lines().currentRow());
     if (courses().bof() || courses().eof())
-        tell(u"Fatal error : F not found"_s);
+        show_information(u"Fatal error : F not found"_s);
     else
         Round_functions::find_holes_of_course();
     f_courses editor(false);
@@ -70,10 +70,11 @@ void add_course()
 
 void refuse_course_in_use(const f_c_list& window, const QString& key)
 {
-    tell(window.caption(
-             u"Verdane ne peut pas supprimer ce terrain. La ronde ",
-             u"Verdane could not remove this golf course because it is associated with the round ") +
-         key + window.caption(u" l'utilise.", u" already in use"));
+    show_information(
+        window.caption(
+            u"Verdane ne peut pas supprimer ce terrain. La ronde ",
+            u"Verdane could not remove this golf course because it is associated with the round ") +
+        key + window.caption(u" l'utilise.", u" already in use"));
 }
 
 void delete_from_store(const QString& code)
@@ -107,7 +108,7 @@ void ask_and_remove(f_c_list& window, const QString& code)
     delete_from_store(code);
     reread_rows();
     remove_line(window);
-    tell(window.caption(u"Terrain supprimé.", u"Golf course removed."), QMessageBox::Information);
+    show_information(window.caption(u"Terrain supprimé.", u"Golf course removed."), QMessageBox::Information);
 }
 
 void remove_selected(f_c_list& window)

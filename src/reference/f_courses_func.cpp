@@ -24,17 +24,18 @@ bool has_name_and_figures(const f_courses& window)
 
 void refuse_incomplete(const f_courses& window)
 {
-    tell(window.caption(u"Attention : Il faut entrer le nom, la moyenne, et la difficulté du terrain.",
-                        u"Attention : Attention: Please enter golf course's name, rating and Slop."),
-         QMessageBox::Critical, u"Enregistrer"_s);
+    show_information(
+        window.caption(u"Attention : Il faut entrer le nom, la moyenne, et la difficulté du terrain.",
+                       u"Attention : Attention: Please enter golf course's name, rating and Slop."),
+        QMessageBox::Critical, u"Enregistrer"_s);
 }
 
 void refuse_duplicate(const f_courses& window)
 {
     const course_general_page& page = window.general();
-    tell(window.caption(u"Le tererain ", u"The golf course  ") + page.trimmed_text(box::name) + u' ' +
-             page.tee_text() + window.caption(u" exist déjà.", u" already exist."),
-         QMessageBox::Warning);
+    show_information(window.caption(u"Le tererain ", u"The golf course  ") + page.trimmed_text(box::name) +
+                         u' ' + page.tee_text() + window.caption(u" exist déjà.", u" already exist."),
+                     QMessageBox::Warning);
 }
 
 /// False if the course is stored already; nothing is written then.
@@ -104,10 +105,10 @@ void save(f_courses& window)
         return;
     edited_course::write(window.general(), window.holes());
     if (!edited_course::commit())
-        tell(u"Fatal Error : 101"_s);
+        show_information(u"Fatal Error : 101"_s);
     window.needtosave = false;
-    tell(window.caption(u"Les modifications sont enregistrées.", u"Changes have been saved"),
-         QMessageBox::Information);
+    show_information(window.caption(u"Les modifications sont enregistrées.", u"Changes have been saved"),
+                     QMessageBox::Information);
     window.saveSucceed = true;
 }
 

@@ -80,9 +80,10 @@ bool lacks(QStringView column)
 
 void refuse_missing_name(const f_partners& window)
 {
-    tell(window.caption(u"Le nom et le prénom sont des champs obligatoires pour chaque partenaire.",
-                        u"First and last names are required fields for each partner."),
-         QMessageBox::Critical);
+    show_information(
+        window.caption(u"Le nom et le prénom sont des champs obligatoires pour chaque partenaire.",
+                       u"First and last names are required fields for each partner."),
+        QMessageBox::Critical);
 }
 
 /// The position of a cell without a name.

@@ -65,9 +65,9 @@ void show_bag(f_sticks& window)
 
 void stop_without_rounds(f_sticks& window)
 {
-    tell(window.caption(u"Attention : Verdane n'a trouvé aucune ronde enregistrée",
-                        u"Attention : Verdane did not find any round"),
-         QMessageBox::Information, title());
+    show_information(window.caption(u"Attention : Verdane n'a trouvé aucune ronde enregistrée",
+                                    u"Attention : Verdane did not find any round"),
+                     QMessageBox::Information, title());
     close_bag();
     window.unload();
 }

@@ -129,18 +129,18 @@ void detailed_page::unbind()
 
 void detailed_page::show_incomplete(const QString& number)
 {
-    tell(window_.caption(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",
-                         u"Please indicate a golf club and the type of shot (VRD) for the shot") +
-             number,
-         QMessageBox::Critical);
+    show_information(window_.caption(u"Il faut indiquer le bâton et le type de coup (VRD) pour le coup",
+                                     u"Please indicate a golf club and the type of shot (VRD) for the shot") +
+                         number,
+                     QMessageBox::Critical);
 }
 
 bool detailed_page::open_hole_shots()
 {
     if (hole_().key.isEmpty()) {
-        tell(window_.caption(u"Veuillez d'abord choisir la date de la ronde.",
-                             u"Please enter the round's date."),
-             QMessageBox::Critical);
+        show_information(window_.caption(u"Veuillez d'abord choisir la date de la ronde.",
+                                         u"Please enter the round's date."),
+                         QMessageBox::Critical);
         return false;
     }
     grid_->hide();
@@ -205,9 +205,9 @@ void detailed_page::next_shot()
 void detailed_page::remove_shot()
 {
     if (!entry_.hole_is_loaded() || !rows_.on_a_row()) {
-        tell(window_.caption(u"Choisissez le coup que vous voulez supprimer.",
-                             u"Please select the shot you wish to remove."),
-             QMessageBox::Critical);
+        show_information(window_.caption(u"Choisissez le coup que vous voulez supprimer.",
+                                         u"Please select the shot you wish to remove."),
+                         QMessageBox::Critical);
         return;
     }
     entry_.remove_shot();

@@ -69,7 +69,8 @@ void go_to_detailed_page(f_new_round& window)
         shots.Update();
     window.show_page(round_page::detailed);
     if (window.date_value.isEmpty()) {
-        tell(u"Il faut choisir la date du ronde avant d'entrer les détails"_s, QMessageBox::Critical);
+        show_information(u"Il faut choisir la date du ronde avant d'entrer les détails"_s,
+                         QMessageBox::Critical);
         return;
     }
     window.detailed().open_hole_shots();

@@ -114,9 +114,9 @@ void store_hole(f_new_round& window, int16 hole)
 void save_round(f_new_round& window, bool silent)
 {
     if (window.holes().date().isEmpty()) {
-        tell(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
-                            u"Please select a round's date first."),
-             QMessageBox::Critical);
+        show_information(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
+                                        u"Please select a round's date first."),
+                         QMessageBox::Critical);
         return;
     }
     store_hole(window, hole_to_save(window, silent));
@@ -130,7 +130,7 @@ void save_round(f_new_round& window, bool silent)
     together.finish();
     window.needSave = false;
     if (!silent)
-        tell(window.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
+        show_information(window.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
 }
 
 }  // namespace verdane::f_new_round_func

@@ -18,7 +18,7 @@ constexpr std::int16_t first_hole = 1;
 
 void refuse_without_second_row(f_new_round& window)
 {
-    tell(u"Error : games2 record not found"_s);
+    show_information(u"Error : games2 record not found"_s);
     window.holes().set_hole_in_boxes(first_hole);
     window.unload();
 }

@@ -28,12 +28,12 @@ namespace vrd_fields = tables::vrd_fields;
 void show_no_course()
 {
     if (is_french)
-        tell(u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
-             u"un terrain"_s,
-             QMessageBox::Critical, u"Verdane"_s);
+        show_information(u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
+                         u"un terrain"_s,
+                         QMessageBox::Critical, u"Verdane"_s);
     else
-        tell(u"Verdane could not find any course. To create a round, you need to define at "
-             u"least one course."_s);
+        show_information(u"Verdane could not find any course. To create a round, you need to define at "
+                         u"least one course."_s);
 }
 
 void find_first(Recordset& recordset, QStringView criterion, const QString& value,

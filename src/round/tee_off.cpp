@@ -164,8 +164,8 @@ void f_get_date::accept_moment()
 {
     const tee_off_moment chosen = moment();
     if (!Verdane_tools::key_free(chosen.key())) {
-        tell(in_language(u"Une ronde à la date et à l'heure choisie existe déjà.",
-                         u"A round with the selected date and time already exists."));
+        show_information(in_language(u"Une ronde à la date et à l'heure choisie existe déjà.",
+                                     u"A round with the selected date and time already exists."));
         return;
     }
     if (!user_confirms())

@@ -46,8 +46,8 @@ void open_window(Arguments... arguments)
 void open_statistics(statistics_mode mode)
 {
     if (!a_round_is_stored()) {
-        tell(in_language(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
-             QMessageBox::Critical);
+        show_information(in_language(u"Verdane n'a trouvé aucune ronde", u"Verdane did not find any round"),
+                         QMessageBox::Critical);
         return;
     }
     open_window<f_date_range>(mode);
@@ -63,8 +63,8 @@ void command_new_round()
 void command_round_list()
 {
     if (!a_round_is_stored()) {
-        tell(in_language(u"Il n'y a pas de ronde enregistrée", u"There is no round registered"),
-             QMessageBox::Information);
+        show_information(in_language(u"Il n'y a pas de ronde enregistrée", u"There is no round registered"),
+                         QMessageBox::Information);
         return;
     }
     open_window<f_games>();
@@ -78,10 +78,11 @@ void command_course_list()
 void command_scorecard()
 {
     if (!has_rows(data_environment().rsvrd_fields)) {
-        tell(in_language(u"Verdane n'a trouver aucun terrain. Il faut au moins un terrain pour imprimmer une "
-                         u"carte",
-                         u"Verdane found no golf course. There has to be at least one registered"),
-             QMessageBox::Critical);
+        show_information(
+            in_language(u"Verdane n'a trouver aucun terrain. Il faut au moins un terrain pour imprimmer une "
+                        u"carte",
+                        u"Verdane found no golf course. There has to be at least one registered"),
+            QMessageBox::Critical);
         return;
     }
     open_window<f_carte>();
@@ -124,8 +125,8 @@ void command_about()
 
 void command_store_clean_up()
 {
-    remove_orphan_shots([](const QString& text) { tell(text); });
-    tell(u"Fin"_s);
+    remove_orphan_shots([](const QString& text) { show_information(text); });
+    show_information(u"Fin"_s);
 }
 
 void command_save()
@@ -133,8 +134,8 @@ void command_save()
     if (current_form && current_form->is_loaded())
         current_form->save();
     else
-        tell(in_language(u"Il n'y a rien à enregistrer.", u"There is nothing to save."),
-             QMessageBox::Information);
+        show_information(in_language(u"Il n'y a rien à enregistrer.", u"There is nothing to save."),
+                         QMessageBox::Information);
 }
 
 void command_close()
@@ -143,8 +144,8 @@ void command_close()
     if (current_form && current_form->is_loaded())
         current_form->closeForm();
     else
-        tell(in_language(u"Il n'y a rien à fermer.", u"There is nothing to close."),
-             QMessageBox::Information);
+        show_information(in_language(u"Il n'y a rien à fermer.", u"There is nothing to close."),
+                         QMessageBox::Information);
 }
 
 void command_english()

@@ -39,7 +39,7 @@ namespace {
 start_result load_language(Recordset& rssettings)
 {
     if (rssettings.Fields(tables::settings::language).is_null()) {
-        tell(u"Fatal Error - Unexpected Language Value - 1014"_s, QMessageBox::Critical);
+        show_information(u"Fatal Error - Unexpected Language Value - 1014"_s, QMessageBox::Critical);
         return start_result::damaged;
     }
     if (!is_language_value(plain(rssettings.Fields(tables::settings::language).to_int16()))) {

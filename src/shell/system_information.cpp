@@ -41,7 +41,7 @@ void show_system_information()
 {
     const QString tool = system_information_tool();
     if (tool.isEmpty() || !QProcess::startDetached(tool, {}))
-        tell(u"System Information Is Unavailable At This Time"_s);
+        show_information(u"System Information Is Unavailable At This Time"_s);
 }
 
 }  // namespace verdane

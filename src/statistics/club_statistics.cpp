@@ -44,10 +44,11 @@ bool fill_stat_sticks(const selection_arguments& chosen, bool store_counts, run_
     write_table(chosen, gathered, store_counts, bar);
     bar.hide();
     if (!gathered.any_shot)
-        tell(in_language(u"Verdane n'a trouvé aucune ronde avec les conditions choisies. Verdane affichera "
-                         u"seulement les statistiques sommaires.",
-                         u"Verdane could not find any rounds with the chosen parameters. Verdane will "
-                         u"display summary statistics only."));
+        show_information(
+            in_language(u"Verdane n'a trouvé aucune ronde avec les conditions choisies. Verdane affichera "
+                        u"seulement les statistiques sommaires.",
+                        u"Verdane could not find any rounds with the chosen parameters. Verdane will "
+                        u"display summary statistics only."));
     return gathered.any_shot;
 }
 

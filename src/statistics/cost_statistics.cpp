@@ -111,8 +111,9 @@ QString cost_select(const selection_arguments& chosen)
 bool fill_r_cost(const selection_arguments& chosen, run_progress& bar)
 {
     if (!fill_in_one_commit(chosen, bar)) {
-        tell(in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
-                         u"Verdane could not find any detailed rounds with the chosen parameters."));
+        show_information(
+            in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
+                        u"Verdane could not find any detailed rounds with the chosen parameters."));
         bar.hide();
         return false;
     }

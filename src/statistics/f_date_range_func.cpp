@@ -39,8 +39,8 @@ bool fill_rounds(f_date_range& window)
 
 void stop_without_rounds(f_date_range& window)
 {
-    tell(window.caption(u"Il n'y a pas de ronde enregistrée", u"Verdane did not find any round"),
-         QMessageBox::Information);
+    show_information(window.caption(u"Il n'y a pas de ronde enregistrée", u"Verdane did not find any round"),
+                     QMessageBox::Information);
     window.unload();
 }
 

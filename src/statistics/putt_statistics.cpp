@@ -66,8 +66,9 @@ bool fill_putt_tables(const selection_arguments& chosen, run_progress& bar)
     bar.hide();
     const bool any_putt = gathered && gathered->counts.any_putt;
     if (!any_putt)
-        tell(in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
-                         u"Verdane could not find any detailed rounds with the chosen parameters."));
+        show_information(
+            in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
+                        u"Verdane could not find any detailed rounds with the chosen parameters."));
     return any_putt;
 }
 

@@ -21,10 +21,11 @@ void run_detail_pass(const selection_arguments& chosen, run_progress& bar)
 {
     const std::vector<detailed_hole> holes = gather_detail(chosen);
     if (holes.empty())
-        tell(in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies. Faite OK "
-                         u"pour vérifier si des statistiques sommaires existent.",
-                         u"Verdane could not find any detailed rounds with the chosen parameters. Click on "
-                         u"OK to calculate summary statistics."));
+        show_information(
+            in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies. Faite OK "
+                        u"pour vérifier si des statistiques sommaires existent.",
+                        u"Verdane could not find any detailed rounds with the chosen parameters. Click on "
+                        u"OK to calculate summary statistics."));
     bar.show(20);
     write_detail(holes);
     bar.move_to(40);
@@ -42,8 +43,9 @@ void close_stats()
 void stop_without_rounds(run_progress& bar)
 {
     bar.hide();
-    tell(in_language(u"Verdane ne peut pas afficher les statistiques sommaires avec les conditions choisies.",
-                     u"Verdane could not find summary statistics with the chosen parameters."));
+    show_information(
+        in_language(u"Verdane ne peut pas afficher les statistiques sommaires avec les conditions choisies.",
+                    u"Verdane could not find summary statistics with the chosen parameters."));
     close_stats();
 }
 

@@ -38,7 +38,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, title);
         QFETCH(QString, on_screen);
-        play([&] { tell(u"Something"_s, QMessageBox::NoIcon, title); },
+        play([&] { show_information(u"Something"_s, QMessageBox::NoIcon, title); },
              [&](hand& user) {
                  user.wait_for_window(u"message_box"_s);
                  user.same(title_on_screen(user), on_screen, u"title on the screen"_s);

@@ -34,7 +34,7 @@ public:
             layout->addWidget(widget);
         on_click(*asker, [this] {
             ++notices;
-            tell(u"a notice"_s);
+            show_information(u"a notice"_s);
         });
         on_click(*opener, [this] {
             trial child(u"f_child");

@@ -36,7 +36,7 @@ public:
             ++asked;
             if (box->text() == u"1")
                 return true;
-            tell(u"refused"_s);
+            show_information(u"refused"_s);
             box->setText(u"0"_s);
             box->setFocus();
             box->selectAll();

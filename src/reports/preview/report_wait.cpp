@@ -72,10 +72,10 @@ void report_wait::open()
 
 void show_report_stopped(const QString& title, const QString& where)
 {
-    tell(in_language(u"Le rapport a été arrêté. Vos données sont intactes.",
-                     u"The report was stopped. Your data are intact.") +
-             u"\n\n"_s + where,
-         QMessageBox::Information, title);
+    show_information(in_language(u"Le rapport a été arrêté. Vos données sont intactes.",
+                                 u"The report was stopped. Your data are intact.") +
+                         u"\n\n"_s + where,
+                     QMessageBox::Information, title);
 }
 
 }  // namespace verdane
