@@ -19,10 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The codes of the other penalties are in `scoring/words.h`.
-constexpr int water_penalty = 1;
-constexpr int lost_ball_penalty = 2;
-
 quick_figures figures_from_rows(int16 hole)
 {
     const Round_functions::strokes strokes = Round_functions::read_strokes(hole);
@@ -53,8 +49,8 @@ quick_figures figures_from_shots(const hole_summary& summary)
     figures.sand = summary.sand;
     figures.missed = summary.missed;
     figures.recovery = summary.recovery;
-    figures.pen_water = summary.penalties[water_penalty].sum;
-    figures.pen_lost = summary.penalties[lost_ball_penalty].sum;
+    figures.pen_water = summary.penalties[water_hazard].sum;
+    figures.pen_lost = summary.penalties[lost_ball].sum;
     figures.pen_rule = summary.penalties[against_the_rules].sum;
     figures.pen_bounds = summary.penalties[out_of_bounds].sum;
     return figures;

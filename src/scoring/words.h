@@ -54,7 +54,9 @@ constexpr int to_the_right = 3;
 inline constexpr std::array<text_pair, 3> position_words{
     {{u"Dans l'allé", u"Fairway"}, {u"Gauche", u"Left"}, {u"Droite", u"Right"}}};
 
-/// Penalties: 1 water, 2 lost ball, 3 rules, 4 out of bounds. Entry 5 of the menu removes a penalty.
+/// Penalties. The last entry of the menu removes one.
+constexpr int water_hazard = 1;
+constexpr int lost_ball = 2;
 constexpr int against_the_rules = 3;
 constexpr int out_of_bounds = 4;
 constexpr int no_penalty = 5;
