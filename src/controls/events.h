@@ -60,6 +60,14 @@ void on_double_click(QListWidget& list, Routine routine)
                      [routine = std::move(routine)] { run_event(routine); });
 }
 
+/// Calls a callback of a control, unless the owner of the control has left it unset.
+template <typename... Parameters, typename... Arguments>
+void call_if_set(const std::function<void(Parameters...)>& callback, Arguments&&... arguments)
+{
+    if (callback)
+        callback(std::forward<Arguments>(arguments)...);
+}
+
 /// Once, after the window has painted itself for the first time: for work of a start that need not delay it.
 void after_first_paint(QWidget& window, std::function<void()> routine);
 

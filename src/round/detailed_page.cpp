@@ -233,8 +233,7 @@ void detailed_page::summarise_hole()
     if (!summary)
         return;
     grid_->ReBind();
-    if (summarised)
-        summarised(*summary);
+    call_if_set(summarised, *summary);
 }
 
 void detailed_page::club_chosen(int entry)

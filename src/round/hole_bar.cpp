@@ -77,10 +77,7 @@ hole_bar::hole_bar(Form& window) : hole_tabs_(make_hole_tabs(window))
     add_date(*line, window);
     course_name_box_ = add_hidden(index_of::course_name);
     hole_box_ = add_hidden(index_of::hole);
-    on_select(*hole_list_, [this] {
-        if (list_changed)
-            list_changed();
-    });
+    on_select(*hole_list_, [this] { call_if_set(list_changed); });
 }
 
 QLineEdit* hole_bar::add_figure(QHBoxLayout& line, int index, const QString& caption, int characters)
@@ -106,8 +103,8 @@ void hole_bar::add_hole_choice(QHBoxLayout& line, const Form& window)
     large.setPointSizeF(large.pointSizeF() * 1.6);
     large.setBold(true);
     number_->setFont(large);
-    // The width of two digits, so that nothing moves between holes.
-    number_->setText(u"18"_s);
+    // The width of the largest number, so that nothing moves between holes.
+    number_->setText(QString::number(hole_count));
     number_->setMinimumWidth(number_->sizeHint().width());
     hole_list_ = named(new QComboBox, u"cmb_holes");
     line.addWidget(make_label(window.caption(u"Trou :", u"Hole :"), hole_list_));
@@ -139,7 +136,7 @@ void hole_bar::fill_list()
 
 int16 hole_bar::listed_hole() const
 {
-    return static_cast<std::int16_t>(hole_list_->currentIndex() + 1);
+    return int16(hole_list_->currentIndex() + 1);
 }
 
 void hole_bar::select_in_list(int hole)

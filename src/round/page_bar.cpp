@@ -24,12 +24,6 @@ constexpr int number_of(round_page page)
     return static_cast<int>(page);
 }
 
-void run(const std::function<void()>& routine)
-{
-    if (routine)
-        routine();
-}
-
 void click_hole(TabStrip& holes, int hole)
 {
     if (hole < 1 || hole > holes.count())
@@ -129,8 +123,8 @@ page_bar::page_bar(Form& window)
     line->addStretch();
     line->addWidget(putts_button_);
     line->addWidget(shots_button_);
-    on_click(*shots_button_, [this] { run(shots_clicked); });
-    on_click(*putts_button_, [this] { run(putts_clicked); });
+    on_click(*shots_button_, [this] { call_if_set(shots_clicked); });
+    on_click(*putts_button_, [this] { call_if_set(putts_clicked); });
 }
 
 bool page_bar::is_selected(round_page page) const

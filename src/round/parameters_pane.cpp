@@ -68,12 +68,6 @@ QListWidget* make_partner_list()
     return list;
 }
 
-void run(const std::function<void()>& routine)
-{
-    if (routine)
-        routine();
-}
-
 }  // namespace
 
 parameters_pane::parameters_pane(const Form& window)
@@ -90,8 +84,8 @@ parameters_pane::parameters_pane(const Form& window)
     // Side by side, the two lists are on one line.
     weathers_->setMinimumHeight(courses_->sizeHint().height());
     lay_out(window);
-    on_select(*courses_, [this] { run(course_changed); });
-    on_click(*costs_button_, [this] { run(costs_clicked); });
+    on_select(*courses_, [this] { call_if_set(course_changed); });
+    on_click(*costs_button_, [this] { call_if_set(costs_clicked); });
 }
 
 void parameters_pane::lay_out(const Form& window)

@@ -126,12 +126,6 @@ void watch_keys_of(QLineEdit& box, std::function<void()> move_on)
     filter_pasted_text(box, digits_only);
 }
 
-void run(const std::function<void()>& routine)
-{
-    if (routine)
-        routine();
-}
-
 }  // namespace
 
 quick_page::quick_page(const Form& window)
@@ -173,23 +167,23 @@ void quick_page::watch_keys()
     for (std::size_t place = 0; place + 1 < boxes.size(); ++place)
         watch_keys_of(*boxes[place].box,
                       [next = boxes[place + 1].box] { next->setFocus(Qt::TabFocusReason); });
-    watch_keys_of(*boxes.back().box, [this] { run(last_figure_typed); });
+    watch_keys_of(*boxes.back().box, [this] { call_if_set(last_figure_typed); });
 }
 
 void quick_page::watch_changes()
 {
     for (const figure_box& stroke : stroke_boxes_) {
         on_change(*stroke.box, [this] {
-            run(figure_changed);
+            call_if_set(figure_changed);
             sum_stroke_boxes();
-            run(strokes_changed);
+            call_if_set(strokes_changed);
         });
     }
     for (const figure_box& count : situation_boxes_)
-        on_change(*count.box, [this] { run(figure_changed); });
+        on_change(*count.box, [this] { call_if_set(figure_changed); });
     for (const figure_box& penalty : penalty_boxes_) {
         on_change(*penalty.box, [this] {
-            run(figure_changed);
+            call_if_set(figure_changed);
             sum_penalty_boxes();
         });
     }

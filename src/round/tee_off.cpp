@@ -170,15 +170,13 @@ void f_get_date::accept_moment()
     }
     if (!user_confirms())
         return;
-    if (accepted)
-        accepted(chosen);
+    call_if_set(accepted, chosen);
     unload();
 }
 
 void f_get_date::cancel()
 {
-    if (canceled)
-        canceled();
+    call_if_set(canceled);
     unload();
 }
 
