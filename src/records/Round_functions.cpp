@@ -26,9 +26,8 @@ penalties penalties_of(int16 hole, const figure_source& source)
 
 void add_holes(round_totals& totals, const figure_source& last_hole)
 {
-    for (int h = 1; h <= hole_count; ++h) {
-        const int16 hole = static_cast<std::int16_t>(h);
-        const int16 gross = h < hole_count ? hole_gross(hole, from_row) : hole_gross(hole, last_hole);
+    for (int16 hole = 1; hole <= hole_count; ++hole) {
+        const int16 gross = hole < hole_count ? hole_gross(hole, from_row) : hole_gross(hole, last_hole);
         totals.add_hole(gross, hole_par(hole));
     }
 }

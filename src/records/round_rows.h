@@ -69,7 +69,8 @@ hole_card read_hole_card(int16 hole);
 bool round_incomplete();
 
 /// The position (from 1) of a partner's number in the text of partners, 0 if it is absent or the round has no
-/// partners. A plain text search: "1" is found in "12-7-".
+/// partners. A plain text search: "1" is found in "12-7-". Fails with `overflow` if the position exceeds
+/// 16 bits.
 int16 partner_in_round(QStringView number_text);
 
 /// The text of partners: their numbers, each followed by "-".
