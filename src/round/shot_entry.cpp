@@ -17,7 +17,7 @@ namespace verdane {
 
 namespace {
 
-namespace at = tables::Stat_rounds;
+namespace Stat_rounds = tables::Stat_rounds;
 
 Recordset& shots()
 {
@@ -62,13 +62,13 @@ void shot_entry::start_row(int number, int16 distance)
 {
     const hole_on_screen hole = hole_();
     shots().AddNew();
-    shots().Fields(at::faireway).set(position_words[0].in(french_));
-    shots().Fields(at::fairval).set(in_the_fairway);
-    shots().Fields(at::date).set(hole.key);
-    shots().Fields(at::hole).set(hole.number);
-    shots().Fields(at::shot).set(number);
-    shots().Fields(at::before).set(distance);
-    shots().Fields(at::verges).set(hole.card.yards);
+    shots().Fields(Stat_rounds::faireway).set(position_words[0].in(french_));
+    shots().Fields(Stat_rounds::fairval).set(in_the_fairway);
+    shots().Fields(Stat_rounds::date).set(hole.key);
+    shots().Fields(Stat_rounds::hole).set(hole.number);
+    shots().Fields(Stat_rounds::shot).set(number);
+    shots().Fields(Stat_rounds::before).set(distance);
+    shots().Fields(Stat_rounds::verges).set(hole.card.yards);
 }
 
 void shot_entry::add_first_shot()
@@ -92,7 +92,7 @@ void shot_entry::load_hole()
 Round_functions::hole_card shot_entry::card_of_shots() const
 {
     if (!hole_is_loaded() && !shots().empty())
-        return Round_functions::read_hole_card(to_int16(shots().value_at(0, at::hole).toDouble()));
+        return Round_functions::read_hole_card(to_int16(shots().value_at(0, Stat_rounds::hole).toDouble()));
     return hole_().card;
 }
 
@@ -123,8 +123,8 @@ int shot_entry::check_shots()
 
 bool shot_entry::is_blank_top(int grid_row) const
 {
-    return grid_row == 0 && (shots().Fields(at::shot_type_value).int16_or_zero() == 0 ||
-                             shots().Fields(at::stickval).int16_or_zero() == 0);
+    return grid_row == 0 && (shots().Fields(Stat_rounds::shot_type_value).int16_or_zero() == 0 ||
+                             shots().Fields(Stat_rounds::stickval).int16_or_zero() == 0);
 }
 
 void shot_entry::remove_row()
@@ -145,7 +145,7 @@ bool shot_entry::drop_blank_shot(int grid_row)
     }
     if (!shots().empty()) {
         shots().MoveFirst();
-        shots().Fields(at::normal).set(card_of_shots().par);
+        shots().Fields(Stat_rounds::normal).set(card_of_shots().par);
     }
     return false;
 }
@@ -157,15 +157,17 @@ void shot_entry::remove_shot()
 
 void shot_entry::follow_last_shot()
 {
-    PUT_MODE = !shots().empty() &&
-               to_int16(shots().value_at(shots().RecordCount() - 1, at::shot_type_value).toDouble()) == putt;
+    PUT_MODE =
+        !shots().empty() &&
+        to_int16(shots().value_at(shots().RecordCount() - 1, Stat_rounds::shot_type_value).toDouble()) ==
+            putt;
 }
 
 bool shot_entry::is_untouched() const
 {
     if (!rows_.has_hole() || shots().RecordCount() != 1)
         return false;
-    const std::array entered{at::stickval, at::shot_type_value, at::after};
+    const std::array entered{Stat_rounds::stickval, Stat_rounds::shot_type_value, Stat_rounds::after};
     return std::all_of(entered.begin(), entered.end(),
                        [](int ordinal) { return shots().value_at(0, ordinal).toInt() == 0; });
 }
@@ -193,11 +195,11 @@ std::optional<int16> shot_entry::prepare_next_shot()
 void shot_entry::add_shot(int16 distance)
 {
     start_row(shots().RecordCount() + 1, distance);
-    shots().Fields(at::normal).set(hole_().card.par);
+    shots().Fields(Stat_rounds::normal).set(hole_().card.par);
     if (PUT_MODE) {
         current_shot::make_putt();
-        shots().Fields(at::faireway).set(blank_word.toString());
-        shots().Fields(at::fairval).set(0);
+        shots().Fields(Stat_rounds::faireway).set(blank_word.toString());
+        shots().Fields(Stat_rounds::fairval).set(0);
     }
     shots().MoveLast();
 }
@@ -233,13 +235,13 @@ namespace {
 
 void write_kind(int value, const QString& caption)
 {
-    shots().Fields(at::shot_type).set(caption);
-    shots().Fields(at::shot_type_value).set(value);
+    shots().Fields(Stat_rounds::shot_type).set(caption);
+    shots().Fields(Stat_rounds::shot_type_value).set(value);
 }
 
 void write_unit(const text_pair& words)
 {
-    shots().Fields(at::unit).set(words.in(is_french));
+    shots().Fields(Stat_rounds::unit).set(words.in(is_french));
 }
 
 template <std::size_t Count>
@@ -263,16 +265,16 @@ bool is_last()
 
 void set_club(int club, const QString& name)
 {
-    shots().Fields(at::stickval).set(club);
-    shots().Fields(at::stick).set(name);
+    shots().Fields(Stat_rounds::stickval).set(club);
+    shots().Fields(Stat_rounds::stick).set(name);
     if (club == putter) {
         set_kind(putt);
         write_unit(feet_words);
         return;
     }
-    if (shots().Fields(at::shot_type_value).int16_or_zero() == putt)
+    if (shots().Fields(Stat_rounds::shot_type_value).int16_or_zero() == putt)
         write_kind(0, blank_word.toString());
-    if (!is_feet_word(shots().Fields(at::unit).text_or_empty()))
+    if (!is_feet_word(shots().Fields(Stat_rounds::unit).text_or_empty()))
         write_unit(yards_words);
 }
 
@@ -283,24 +285,24 @@ void set_kind(int kind)
 
 void make_putt()
 {
-    shots().Fields(at::stickval).set(putter);
-    shots().Fields(at::stick).set(putter_word.toString());
+    shots().Fields(Stat_rounds::stickval).set(putter);
+    shots().Fields(Stat_rounds::stick).set(putter_word.toString());
     write_unit(feet_words);
     set_kind(putt);
 }
 
 void set_position(int entry)
 {
-    shots().Fields(at::fairval).set(entry);
-    shots().Fields(at::faireway).set(word(position_words, entry));
+    shots().Fields(Stat_rounds::fairval).set(entry);
+    shots().Fields(Stat_rounds::faireway).set(word(position_words, entry));
 }
 
 void set_penalty(int entry)
 {
     const bool none = entry == no_penalty;
-    shots().Fields(at::penval).set(none ? 0 : entry);
-    shots().Fields(at::penality).set(word(penalty_words, entry));
-    shots().Fields(at::addpen).set(none ? 0 : 1);
+    shots().Fields(Stat_rounds::penval).set(none ? 0 : entry);
+    shots().Fields(Stat_rounds::penality).set(word(penalty_words, entry));
+    shots().Fields(Stat_rounds::addpen).set(none ? 0 : 1);
 }
 
 void set_yes_or_no(QStringView column, bool yes)
@@ -310,12 +312,12 @@ void set_yes_or_no(QStringView column, bool yes)
 
 void set_par(int16 par)
 {
-    shots().Fields(at::normal).set(par);
+    shots().Fields(Stat_rounds::normal).set(par);
 }
 
 bool distance_changed()
 {
-    if (shots().Fields(at::stickval).int16_or_zero() != putter) {
+    if (shots().Fields(Stat_rounds::stickval).int16_or_zero() != putter) {
         write_unit(yards_words);
         return false;
     }

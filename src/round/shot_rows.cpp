@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-namespace at = tables::Stat_rounds;
+namespace Stat_rounds = tables::Stat_rounds;
 
 /// In force when no round window is open.
 const QString statement_without_hole = u"select * from stat_rounds"_s;
@@ -26,19 +26,19 @@ std::optional<int16> figure(const Field& field)
 hole_shot read_current(Recordset& row)
 {
     hole_shot shot;
-    shot.shot = figure(row.Fields(at::shot));
-    shot.before = figure(row.Fields(at::before));
-    shot.after = figure(row.Fields(at::after));
-    shot.unit = row.Fields(at::unit).text_or_empty();
-    shot.shot_type_value = row.Fields(at::shot_type_value).int16_or_zero();
-    shot.stickval = row.Fields(at::stickval).int16_or_zero();
-    shot.faireway = row.Fields(at::faireway).text_or_empty();
-    shot.fairval = row.Fields(at::fairval).int16_or_zero();
-    shot.penval = row.Fields(at::penval).int16_or_zero();
-    shot.missed = row.Fields(at::missed).yes();
-    shot.ts = row.Fields(at::ts).yes();
-    shot.dz = row.Fields(at::dz).yes();
-    shot.cal = row.Fields(at::cal).yes();
+    shot.shot = figure(row.Fields(Stat_rounds::shot));
+    shot.before = figure(row.Fields(Stat_rounds::before));
+    shot.after = figure(row.Fields(Stat_rounds::after));
+    shot.unit = row.Fields(Stat_rounds::unit).text_or_empty();
+    shot.shot_type_value = row.Fields(Stat_rounds::shot_type_value).int16_or_zero();
+    shot.stickval = row.Fields(Stat_rounds::stickval).int16_or_zero();
+    shot.faireway = row.Fields(Stat_rounds::faireway).text_or_empty();
+    shot.fairval = row.Fields(Stat_rounds::fairval).int16_or_zero();
+    shot.penval = row.Fields(Stat_rounds::penval).int16_or_zero();
+    shot.missed = row.Fields(Stat_rounds::missed).yes();
+    shot.ts = row.Fields(Stat_rounds::ts).yes();
+    shot.dz = row.Fields(Stat_rounds::dz).yes();
+    shot.cal = row.Fields(Stat_rounds::cal).yes();
     return shot;
 }
 
@@ -57,15 +57,15 @@ void write_text(Field field, const QString& value, const QString& stored)
 void write_current(Recordset& row, const hole_shot& shot)
 {
     const hole_shot stored = read_current(row);
-    write_figure(row.Fields(at::shot), shot.shot, stored.shot);
-    write_figure(row.Fields(at::before), shot.before, stored.before);
-    write_figure(row.Fields(at::after), shot.after, stored.after);
-    write_text(row.Fields(at::unit), shot.unit, stored.unit);
-    write_text(row.Fields(at::faireway), shot.faireway, stored.faireway);
-    write_figure(row.Fields(at::fairval), std::make_optional(shot.fairval),
+    write_figure(row.Fields(Stat_rounds::shot), shot.shot, stored.shot);
+    write_figure(row.Fields(Stat_rounds::before), shot.before, stored.before);
+    write_figure(row.Fields(Stat_rounds::after), shot.after, stored.after);
+    write_text(row.Fields(Stat_rounds::unit), shot.unit, stored.unit);
+    write_text(row.Fields(Stat_rounds::faireway), shot.faireway, stored.faireway);
+    write_figure(row.Fields(Stat_rounds::fairval), std::make_optional(shot.fairval),
                  std::make_optional(stored.fairval));
     if (shot.cal != stored.cal)
-        row.Fields(at::cal).set(shot.cal);
+        row.Fields(Stat_rounds::cal).set(shot.cal);
 }
 
 /// Makes each row the current one in turn, then the row that was current before.
