@@ -56,7 +56,7 @@ void enter_second_and_third_hole(day& today)
     enter_shot(today, 1, {8, u"6"_s, 2});
     today.user.click(u"CommandSuiv"_s);
     enter_shot(today, 2, {14, u"4"_s, 0});
-    today.save_picture(u"f_new_round"_s, u"f_details_told"_s);
+    today.save_picture(u"f_new_round"_s, u"f_details_entered"_s);
 }
 
 /// Selects the first partner of the list.
@@ -114,7 +114,7 @@ void enter_detailed_round(day& today)
     enter_costs(today, 60, 15);
     today.user.same(today.user.text(u"l_brut"_s), QString::number(round.gross()),
                     u"gross of the detailed round"_s);
-    today.save_picture(u"f_new_round"_s, u"f_new_round_told_18"_s);
+    today.save_picture(u"f_new_round"_s, u"f_new_round_detailed_18"_s);
     today.user.click(u"Command1_4"_s);
     today.user.wait_until_gone(today.window(u"f_new_round"_s));
     check_round(today, round);

@@ -13,7 +13,7 @@ const char* const pictures_of_a_day =
     "main f_about f_courses_1 f_courses_2 f_courses_3 f_c_list f_partners f_get_date f_new_round f_cost "
     "f_new_round_18 f_games f_date_range_day preview_day preview_round_putts f_details f_details_menu "
     "f_details_position_menu "
-    "f_details_told f_details_counts f_new_round_told_18 f_games_removal";
+    "f_details_entered f_details_counts f_new_round_detailed_18 f_games_removal";
 
 /// Pictures of the season.
 const char* const pictures_of_a_season =
