@@ -1,6 +1,6 @@
 #include "store/Connection1.h"
 
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 #include "store/fresh_store.h"
 #include "store/prepared_statements.h"
 #include "store/schema.h"

@@ -3,7 +3,7 @@
 #include <QSqlQuery>
 
 #include "store/Connection1.h"
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 #include "store/schema.h"
 #include "store/tables/golf_bag.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "store/Connection1.h"
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 
 namespace verdane {
 

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "store/Connection1.h"
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 #include "store/schema.h"
 
 namespace verdane {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "store/DataEnvironment1.h"
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 
 namespace verdane::testing {
 

@@ -3,7 +3,7 @@
 #include <sqlite3.h>
 
 #include "store/commits.h"
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
 #include "tests/support/other_program.h"

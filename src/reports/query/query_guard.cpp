@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "reports/query/report_tables.h"
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 
 namespace verdane {
 

@@ -14,7 +14,7 @@
 #include "reports/report_store.h"
 #include "reports/template/page_limits.h"
 #include "reports/template/query_text.h"
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 #include "store/lock_wait.h"
 
 namespace verdane {

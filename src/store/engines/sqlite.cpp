@@ -1,4 +1,4 @@
-#include "store/engine.h"
+#include "store/engines/sqlite.h"
 
 #include <QSqlDriver>
 #include <QVariant>
