@@ -3,10 +3,9 @@
 #include <QSqlQuery>
 
 #include "store/Connection1.h"
+#include "store/engines/engine.h"
 
 namespace verdane {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,53 +15,66 @@ bool run(const Connection1& connection, const QString& statement)
     return QSqlQuery(connection.database()).exec(statement);
 }
 
+/// The statements of the engine of an open connection.
+const commit_statements& statements_of(const Connection1& connection)
+{
+    return connection.engine().commits();
+}
+
+void roll_back(const Connection1& connection)
+{
+    if (connection.is_open())
+        run(connection, statements_of(connection).undo);
+}
+
 }  // namespace
 
 single_commit::single_commit(Connection1& connection) : connection_(connection)
 {
-    connection_.Execute(u"BEGIN IMMEDIATE"_s);
+    connection_.Execute(statements_of(connection_).begin_locked);
 }
 
 single_commit::~single_commit()
 {
     // Fails if the engine has ended the transaction by itself, which has the same result.
     if (!done_)
-        run(connection_, u"ROLLBACK"_s);
+        roll_back(connection_);
 }
 
 void single_commit::finish()
 {
-    connection_.Execute(u"COMMIT"_s);
+    connection_.Execute(statements_of(connection_).finish);
     done_ = true;
 }
 
 joined_commits::joined_commits(Connection1& connection) : connection_(connection)
 {
-    connection_.Execute(u"BEGIN"_s);
+    connection_.Execute(statements_of(connection_).begin);
 }
 
 joined_commits::~joined_commits()
 {
     // Both fail if the engine has ended the transaction by itself.
-    if (!finished_ && !run(connection_, u"COMMIT"_s))
-        run(connection_, u"ROLLBACK"_s);
+    if (!finished_ && connection_.is_open() && !run(connection_, statements_of(connection_).finish))
+        roll_back(connection_);
 }
 
 void joined_commits::finish()
 {
     finished_ = true;
     try {
-        connection_.Execute(u"COMMIT"_s);
+        connection_.Execute(statements_of(connection_).finish);
     } catch (...) {
-        run(connection_, u"ROLLBACK"_s);
+        roll_back(connection_);
         throw;
     }
 }
 
 relaxed_commits::relaxed_commits(Connection1& connection) : connection_(connection)
 {
-    if (connection_.relaxations_ == 0)
-        connection_.Execute(u"PRAGMA synchronous=NORMAL"_s);
+    const QString& relax = statements_of(connection_).relax;
+    if (connection_.relaxations_ == 0 && !relax.isEmpty())
+        connection_.Execute(relax);
     ++connection_.relaxations_;
 }
 
@@ -70,7 +82,9 @@ relaxed_commits::~relaxed_commits()
 {
     if (--connection_.relaxations_ > 0 || !connection_.is_open())
         return;
-    run(connection_, u"PRAGMA synchronous=FULL"_s);
+    const QString& restore = statements_of(connection_).restore;
+    if (!restore.isEmpty())
+        run(connection_, restore);
 }
 
 }  // namespace verdane

@@ -3,7 +3,7 @@
 #include <QSqlQuery>
 
 #include "store/Connection1.h"
-#include "store/engines/sqlite.h"
+#include "store/engines/engine.h"
 #include "store/schema.h"
 #include "store/tables/golf_bag.h"
 
@@ -52,12 +52,12 @@ QString column_definition(const column& column)
     return definition;
 }
 
-QString creation_statement(const table& table)
+QString creation_statement(const table& table, const QString& ending)
 {
     QStringList definitions;
     for (const column& column : table.columns)
         definitions += column_definition(column);
-    return u"CREATE TABLE " + in_back_quotes(table.name) + u" (" + definitions.join(u", "_s) + u')';
+    return u"CREATE TABLE " + in_back_quotes(table.name) + u" (" + definitions.join(u", "_s) + ending;
 }
 
 QVariant value_by_type(column_type type)
@@ -97,28 +97,24 @@ QVariant value_of_fixed_row(const column& column, int row)
     return value_by_type(column.type);
 }
 
-QString insertion_statement(const table& table)
+statement_with_values insertion_statement(const store_engine& engine, const table& table, int row)
 {
-    const auto count = static_cast<int>(table.columns.size());
-    const QStringList places(count, u"?"_s);
-    return u"INSERT INTO " + in_back_quotes(table.name) + u" VALUES (" + places.join(u',') + u')';
+    statement_with_values statement;
+    statement.text = u"INSERT INTO " + in_back_quotes(table.name);
+    QStringView before = u" VALUES (";
+    for (const column& column : table.columns) {
+        statement.text += before;
+        engine.add_value(statement, value_of_fixed_row(column, row));
+        before = u", ";
+    }
+    statement.text += u')';
+    return statement;
 }
 
-void insert_fixed_rows(Connection1& connection, const table& table)
+void insert_fixed_rows(store_engine& engine, const table& table)
 {
-    if (table.fixed_rows == 0)
-        return;
-    QSqlQuery query(connection.database());
-    const QString statement = insertion_statement(table);
-    if (!query.prepare(statement))
-        throw store_failure(query.lastError(), statement);
-    for (int row = 0; row < table.fixed_rows; ++row) {
-        int ordinal = 0;
-        for (const column& column : table.columns)
-            query.bindValue(ordinal++, value_of_fixed_row(column, row));
-        if (!query.exec())
-            throw store_failure(query.lastError(), statement);
-    }
+    for (int row = 0; row < table.fixed_rows; ++row)
+        engine.insert(insertion_statement(engine, table, row), table.name);
 }
 
 /// No index is unique: the program itself checks that a key is used once, and the rows of a new round have no
@@ -140,9 +136,10 @@ QStringList index_statements()
 
 void create_tables_and_indexes(Connection1& connection)
 {
+    store_engine& engine = connection.engine();
     for (const table& table : schema()) {
-        connection.Execute(creation_statement(table));
-        insert_fixed_rows(connection, table);
+        connection.Execute(creation_statement(table, engine.table_ending()));
+        insert_fixed_rows(engine, table);
     }
     for (const QString& statement : index_statements())
         connection.Execute(statement);
@@ -152,13 +149,14 @@ void create_tables_and_indexes(Connection1& connection)
 
 void create_tables(Connection1& connection)
 {
-    connection.Execute(u"BEGIN IMMEDIATE"_s);
+    const commit_statements& statements = connection.engine().commits();
+    connection.Execute(statements.begin_locked);
     try {
         create_tables_and_indexes(connection);
-        connection.Execute(u"COMMIT"_s);
+        connection.Execute(statements.finish);
     } catch (...) {
         // Fails if the engine has ended the transaction by itself, which has the same result.
-        QSqlQuery(connection.database()).exec(u"ROLLBACK"_s);
+        QSqlQuery(connection.database()).exec(statements.undo);
         throw;
     }
 }

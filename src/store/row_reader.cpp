@@ -1,5 +1,6 @@
 #include "store/row_reader.h"
 
+#include <QSqlError>
 #include <QSqlField>
 #include <QSqlRecord>
 
@@ -8,7 +9,7 @@
 #include <utility>
 
 #include "store/Connection1.h"
-#include "store/engines/sqlite.h"
+#include "store/engines/engine.h"
 #include "store/schema.h"
 
 namespace verdane {
@@ -45,7 +46,7 @@ recordset_column column_of(const QString& name, std::size_t likely, const select
 void read_columns(row_set& set, const QSqlRecord& record)
 {
     const table* owner = set.shape.updatable ? find_table(set.shape.table) : nullptr;
-    const int hidden = set.shape.updatable ? 1 : 0;
+    const int hidden = set.has_numbers ? 1 : 0;
     set.columns.reserve(static_cast<std::size_t>(record.count()));
     for (int i = hidden; i < record.count(); ++i) {
         const QString name = record.fieldName(i);
@@ -76,7 +77,7 @@ QVariant in_column_type(QVariant value, column_type type)
 std::unique_ptr<recordset_row> read_row(const QSqlQuery& query, const row_set& set)
 {
     auto row = std::make_unique<recordset_row>();
-    const int hidden = set.shape.updatable ? 1 : 0;
+    const int hidden = set.has_numbers ? 1 : 0;
     if (hidden != 0)
         row->number = query.value(0).toLongLong();
     row->cells.reserve(set.columns.size());
@@ -89,18 +90,24 @@ std::unique_ptr<recordset_row> read_row(const QSqlQuery& query, const row_set& s
 }  // namespace
 
 row_stream::row_stream(const Connection1& connection, const QString& statement, QString where, row_use use)
-    : where_(std::move(where)), shape_(read_select(statement)), query_(connection.database())
+    : connection_(connection),
+      where_(std::move(where)),
+      shape_(read_select(statement)),
+      query_(connection.database())
 {
     shape_.updatable = shape_.updatable && use == row_use::read_and_write;
+    const QString identity = shape_.updatable ? connection.engine().identity_column(shape_.table) : QString();
+    has_numbers_ = !identity.isEmpty();
     query_.setForwardOnly(true);
-    if (!query_.exec(shape_.updatable ? with_row_number(statement, shape_) : statement))
-        throw store_failure(query_.lastError(), where_);
+    if (!query_.exec(has_numbers_ ? with_row_number(statement, shape_, identity) : statement))
+        throw connection_.engine().failure(query_.lastError(), where_);
 }
 
 row_set row_stream::columns() const
 {
     row_set set;
     set.shape = shape_;
+    set.has_numbers = has_numbers_;
     read_columns(set, query_.record());
     return set;
 }
@@ -110,7 +117,7 @@ std::unique_ptr<recordset_row> row_stream::next(const row_set& columns)
     if (query_.next())
         return read_row(query_, columns);
     if (query_.lastError().isValid())
-        throw store_failure(query_.lastError(), where_);
+        throw connection_.engine().failure(query_.lastError(), where_);
     return nullptr;
 }
 

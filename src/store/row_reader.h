@@ -48,6 +48,8 @@ using row_list = std::vector<std::unique_ptr<recordset_row>>;
 /// The result of a statement.
 struct row_set {
     select_statement shape;
+    /// True if the engine's number of each row was read with its columns.
+    bool has_numbers = false;
     std::vector<recordset_column> columns;
     /// By name in small letters; the first column of a name counts.
     QHash<QString, int> ordinals;
@@ -69,8 +71,10 @@ public:
     std::unique_ptr<recordset_row> next(const row_set& columns);
 
 private:
+    const Connection1& connection_;
     QString where_;
     select_statement shape_;
+    bool has_numbers_ = false;
     QSqlQuery query_;
 };
 

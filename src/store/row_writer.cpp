@@ -2,6 +2,7 @@
 
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
+#include "store/engines/engine.h"
 #include "store/prepared_statements.h"
 
 namespace verdane {
@@ -50,15 +51,15 @@ statement_with_values start_statement(QStringView words, const row_set& set, std
     return statement;
 }
 
-/// Returns the number of changed rows.
-int run(const Connection1& connection, const statement_with_values& statement, const QString& where)
+/// Appends the condition that selects the row with that number.
+void add_identity(const store_engine& engine, statement_with_values& statement, const row_set& set,
+                  qint64 number)
 {
-    return connection.prepared().run(connection.database(), statement, where,
-                                     [](const QSqlQuery& query) { return query.numRowsAffected(); });
+    statement.text += u" WHERE " + engine.identity_column(set.shape.table) + u'=';
+    engine.add_value(statement, number);
 }
 
-qint64 insert_row(const Connection1& connection, const row_set& set, const recordset_row& row,
-                  const QString& where)
+qint64 insert_row(store_engine& engine, const row_set& set, const recordset_row& row, const QString& where)
 {
     const std::vector<int> written = written_columns(row);
     statement_with_values statement = start_statement(u"INSERT INTO ", set, written.size());
@@ -71,17 +72,14 @@ qint64 insert_row(const Connection1& connection, const row_set& set, const recor
     before = u"`) VALUES (";
     for (const int ordinal : written) {
         statement.text += before;
-        statement.add(cell(row, ordinal));
+        engine.add_value(statement, cell(row, ordinal));
         before = u",";
     }
     statement.text += u')';
-    return connection.prepared().run(connection.database(), statement, where, [](const QSqlQuery& query) {
-        return query.lastInsertId().toLongLong();
-    });
+    return engine.insert(statement, where);
 }
 
-void update_row(const Connection1& connection, const row_set& set, const recordset_row& row,
-                const QString& where)
+void update_row(store_engine& engine, const row_set& set, const recordset_row& row, const QString& where)
 {
     const std::vector<int> changed = changed_columns(row);
     if (changed.empty())
@@ -92,12 +90,11 @@ void update_row(const Connection1& connection, const row_set& set, const records
         statement.text += before;
         statement.text += column_name(set, ordinal);
         statement.text += QStringView(u"`=");
-        statement.add(cell(row, ordinal));
+        engine.add_value(statement, cell(row, ordinal));
         before = u",`";
     }
-    statement.text += u" WHERE rowid=";
-    statement.add(row.number);
-    if (run(connection, statement, where) == 0)
+    add_identity(engine, statement, set, row.number);
+    if (engine.change(statement, where) == 0)
         throw run_time_failure(failure_kind::misuse, QString(where + u": the row is no longer in the store"));
 }
 
@@ -108,8 +105,8 @@ qint64 write_row(const Connection1& connection, const row_set& set, const record
 {
     connection.need_soundness();
     if (row.pending->is_new)
-        return insert_row(connection, set, row, where);
-    update_row(connection, set, row, where);
+        return insert_row(connection.engine(), set, row, where);
+    update_row(connection.engine(), set, row, where);
     return row.number;
 }
 
@@ -117,9 +114,8 @@ void erase_row(const Connection1& connection, const row_set& set, qint64 number,
 {
     connection.need_soundness();
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
-    statement.text += u" WHERE rowid=";
-    statement.add(number);
-    run(connection, statement, where);
+    add_identity(connection.engine(), statement, set, number);
+    connection.engine().change(statement, where);
 }
 
 }  // namespace verdane

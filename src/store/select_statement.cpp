@@ -130,9 +130,9 @@ select_statement read_select(QStringView statement)
     return {true, bare_name(table->written), tokens[1].at};
 }
 
-QString with_row_number(const QString& statement, const select_statement& shape)
+QString with_row_number(const QString& statement, const select_statement& shape, const QString& identity)
 {
-    return statement.first(shape.columns_at) + u"rowid, " + statement.sliced(shape.columns_at);
+    return statement.first(shape.columns_at) + identity + u", " + statement.sliced(shape.columns_at);
 }
 
 }  // namespace verdane

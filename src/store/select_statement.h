@@ -20,7 +20,9 @@ struct select_statement {
 /// Parses a statement to that extent. Case and blanks have no effect.
 select_statement read_select(QStringView statement);
 
-/// The statement with the engine's row number selected before the columns. Only for an updatable statement.
-QString with_row_number(const QString& statement, const select_statement& shape);
+/// The statement with the column that identifies a row selected before the others. Only for an updatable
+/// statement.
+QString with_row_number(const QString& statement, const select_statement& shape,
+                        const QString& identity = QStringLiteral("rowid"));
 
 }  // namespace verdane

@@ -1,0 +1,59 @@
+#include "store/engines/engine.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <utility>
+
+#include "store/engines/embedded_engine.h"
+
+namespace verdane {
+
+store_engine::store_engine(QString name, store_location where)
+    : name_(std::move(name)), where_(std::move(where))
+{
+}
+
+store_engine::~store_engine() = default;
+
+void store_engine::close()
+{
+    if (!QSqlDatabase::contains(name_))
+        return;
+    database().close();
+    QSqlDatabase::removeDatabase(name_);
+}
+
+bool store_engine::is_open() const
+{
+    return QSqlDatabase::contains(name_) && database().isOpen();
+}
+
+QSqlDatabase store_engine::database() const
+{
+    return QSqlDatabase::database(name_, false);
+}
+
+void store_engine::run(const QString& statement) const
+{
+    QSqlQuery query(database());
+    if (!query.exec(statement))
+        throw failure(query.lastError(), statement);
+}
+
+QString store_engine::first_value(const QString& question) const
+{
+    QSqlQuery query(database());
+    query.setForwardOnly(true);
+    if (!query.exec(question) || !query.next())
+        throw failure(query.lastError(), question);
+    return query.value(0).toString();
+}
+
+std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,
+                                          lock_wait& waiting)
+{
+    return std::make_unique<embedded_engine>(name, where, waiting);
+}
+
+}  // namespace verdane

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QString>
+#include <QStringView>
+
+#include <memory>
+
+#include "base/run_time_failure.h"
+#include "store/prepared_statements.h"
+#include "store/soundness_check.h"
+#include "store/store_location.h"
+
+class QSqlError;
+
+namespace verdane {
+
+class lock_wait;
+
+/// The statements with which an engine commits.
+struct commit_statements {
+    /// Begins a transaction that locks nothing before its first statement that writes.
+    QString begin;
+    /// Begins a transaction that has the lock for writing from the start.
+    QString begin_locked;
+    QString finish;
+    QString undo;
+    /// From now on a commit may return before it has reached the disk. Empty if the engine cannot do so.
+    QString relax;
+    /// The opposite of `relax`.
+    QString restore;
+};
+
+/// All that differs between the engines a store can be on. One object for each open connection; `Connection1`
+/// owns it. Nothing outside this library knows which engine is open.
+class store_engine {
+public:
+    /// `name` is Qt's name of the connection, `where` what is opened.
+    store_engine(QString name, store_location where);
+    virtual ~store_engine();
+    store_engine(const store_engine&) = delete;
+    store_engine& operator=(const store_engine&) = delete;
+
+    /// Opens the store and takes the lock that excludes a second program. True if the store has its tables,
+    /// false if they are still to be created. After a failure the caller calls `abandon`.
+    virtual bool open(soundness_check check) = 0;
+
+    /// Closes the connection and releases the lock. Does nothing on a closed connection.
+    virtual void close();
+
+    /// Closes after opening, or creating the tables, has failed. Removes what was created.
+    virtual void abandon() { close(); }
+
+    bool is_open() const;
+
+    /// Checks the stored data for damage without changing them. Fails with `store_damaged`.
+    virtual void check_soundness() {}
+    /// The same unless they have been checked. Called before every statement that writes.
+    virtual void need_soundness() {}
+
+    /// The column that identifies a row of a table and is not among the columns of `select *`; empty if the
+    /// table has none.
+    virtual QString identity_column(QStringView table) const = 0;
+
+    /// Appends a value to a statement, as a parameter or as a literal.
+    virtual void add_value(statement_with_values& statement, const QVariant& value) const = 0;
+
+    /// Runs a statement that changes or deletes rows, and returns how many rows it found. Fails with the kind
+    /// that fits the engine's error; its details contain `where` and the statement.
+    virtual int change(const statement_with_values& statement, const QString& where) = 0;
+
+    /// Runs a statement that inserts one row, and returns the value of its identity column. Fails like
+    /// `change`.
+    virtual qint64 insert(const statement_with_values& statement, const QString& where) = 0;
+
+    virtual const commit_statements& commits() const = 0;
+
+    /// What follows the columns in the statement that creates a table, the closing parenthesis included.
+    virtual QString table_ending() const = 0;
+
+    /// The failure that an error means. `where` names the statement and the recordset.
+    virtual run_time_failure failure(const QSqlError& error, const QString& where) const = 0;
+
+    /// Qt's handle of the connection.
+    QSqlDatabase database() const;
+
+protected:
+    /// Runs a statement without result rows. Fails like `change`.
+    void run(const QString& statement) const;
+    /// The first value of the first row. Fails like `change`, and if there is no row.
+    QString first_value(const QString& question) const;
+
+    const QString name_;
+    const store_location where_;
+};
+
+/// The engine of a store, not open yet. `waiting` is how its statements wait for the lock of another program;
+/// it must exist as long as the engine.
+std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,
+                                          lock_wait& waiting);
+
+}  // namespace verdane
