@@ -12,9 +12,9 @@
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "controls/shortcuts.h"
+#include "round/current_shot.h"
 #include "round/shot_grid.h"
 #include "scoring/words.h"
-#include "store/DataEnvironment1.h"
 
 namespace verdane {
 
@@ -100,10 +100,9 @@ void detailed_page::enter()
 void detailed_page::enter_again()
 {
     const int row = grid_->currentIndex().row();
-    Recordset& shots = data_environment().rsStat_rounds;
     // Shots that could not be opened before are not opened without an action of the user.
-    if (shots.is_open()) {
-        shots.Update();
+    if (rows_.is_open()) {
+        rows_.commit();
         rows_.reopen();
     }
     grid_->bound_model().move_to(row);
@@ -198,7 +197,7 @@ void detailed_page::next_shot()
     finish_hole();
     entry_.add_shot(*distance);
     grid_->ReBind();
-    grid_->set_Col(entry_.PUT_MODE ? shot_grid::distance_column : shot_grid::club_column);
+    grid_->set_Col(entry_.PUT_MODE() ? shot_grid::distance_column : shot_grid::club_column);
     grid_->take_keyboard();
 }
 
@@ -292,7 +291,7 @@ void detailed_page::column_updated(int column)
     if (column == shot_grid::distance_column && current_shot::distance_changed())
         next_shot();
     grid_->ReBind();
-    grid_->set_Col(entry_.PUT_MODE ? shot_grid::club_column : shot_grid::unit_column);
+    grid_->set_Col(entry_.PUT_MODE() ? shot_grid::club_column : shot_grid::unit_column);
 }
 
 void detailed_page::show_finish_button(bool visible)

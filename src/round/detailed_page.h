@@ -35,8 +35,15 @@ public:
     /// Runs with the figures of a hole whenever its shots were summarised.
     std::function<void(const hole_summary&)> summarised;
 
-    shot_entry& entry() { return entry_; }
-    const shot_entry& entry() const { return entry_; }
+    /// The hole that was summarised last has classified shots.
+    bool isdetailed() const { return entry_.isdetailed(); }
+    /// The shot that is being entered is a putt.
+    bool PUT_MODE() const { return entry_.PUT_MODE(); }
+
+    /// True when the hole has only the blank shot of a new hole.
+    bool is_untouched() const { return entry_.is_untouched(); }
+    /// Removes that shot from the store.
+    void drop_untouched_shot() { entry_.drop_untouched_shot(); }
 
     /// Commits what is being typed into a cell of the grid. False when the distance is too large: the cell
     /// stays in edit mode, and the caller must not continue.

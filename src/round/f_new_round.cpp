@@ -15,7 +15,7 @@
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/statistics_pane.h"
-#include "store/DataEnvironment1.h"
+#include "round/tee_off.h"
 
 namespace verdane {
 
@@ -59,7 +59,7 @@ f_new_round::f_new_round(shot_rows& shots)
       detailed_(
           new detailed_page(*this, shots,
                             [this] {
-                                return hole_on_screen{date_value, holes_->listed_hole(), holes_->card()};
+                                return hole_on_screen{date_value_, holes_->listed_hole(), holes_->card()};
                             })),
       parameters_(new parameters_pane(*this)),
       totals_(new totals_pane)
@@ -172,14 +172,29 @@ void f_new_round::show_page(round_page page)
         pane->show();
 }
 
+void f_new_round::choose_date(f_get_date& dialog)
+{
+    dialog.canceled = [this] { get_date_canceled_ = true; };
+    choosing_date_ = true;
+    dialog.show_modal();
+    choosing_date_ = false;
+}
+
+void f_new_round::hole_is_shown(int16 hole)
+{
+    first_entry_ = false;
+    last_hole_ = hole - 1;
+}
+
 void f_new_round::saveShots()
 {
-    data_environment().rsStat_rounds.UpdateBatch();
+    shots_.commit_all();
 }
 
 void f_new_round::activated()
 {
-    f_new_round_func::activate(*this);
+    if (!choosing_date_)
+        f_new_round_func::activate(*this);
 }
 
 void f_new_round::unloading()

@@ -16,6 +16,7 @@ class QPushButton;
 namespace verdane {
 
 class detailed_page;
+class f_get_date;
 class hole_bar;
 class parameters_pane;
 class quick_page;
@@ -39,22 +40,33 @@ public:
     explicit f_new_round(shot_rows& shots);
 
     /// The key of the round; empty before the tee-off.
-    QString date_value;
+    const QString& date_value() const { return date_value_; }
+    void set_date_value(const QString& key) { date_value_ = key; }
+
+    /// Shows the tee-off dialog and returns when it is closed. Closing it activates the window, which does
+    /// not open it again.
+    void choose_date(f_get_date& dialog);
     /// The tee-off dialog was cancelled.
-    bool get_date_canceled = false;
-    /// The tee-off dialog is open: closing it activates the window, which must not open it again.
-    bool choosing_date = false;
+    bool get_date_canceled() const { return get_date_canceled_; }
+
     /// No hole was shown yet: showing the first one must not save.
-    bool first_entry = true;
+    bool first_entry() const { return first_entry_; }
     /// List index (0 to 17) of the hole that was shown last, which is saved when another one is selected.
-    int16 last_hole = 0;
+    int16 last_hole() const { return last_hole_; }
+    /// A hole (1 to 18) is shown: `last_hole` is its index, and `first_entry` is false.
+    void hole_is_shown(int16 hole);
+
     /// There is something to save. True at first, so that closing an unchanged round shows the question, too.
-    bool needSave = true;
+    bool needSave() const { return needSave_; }
+    void mark_changed() { needSave_ = true; }
+    void mark_saved() { needSave_ = false; }
+
     /// The window was to be closed from the detailed page: only the quick page can be shown from then on.
-    bool closingoK = false;
+    bool closingoK() const { return closingoK_; }
+    void allow_quick_page_only() { closingoK_ = true; }
 
     /// The report on the putts of the round.
-    report_control cr2{this};
+    report_control& cr2() { return cr2_; }
 
     hole_bar& holes() const { return *holes_; }
     page_bar& pages() const { return *pages_; }
@@ -70,7 +82,7 @@ public:
     /// The tab of the detailed page is selected.
     bool on_detailed_page() const { return pages_->is_selected(round_page::detailed); }
 
-    /// Commits the shot that is being entered.
+    /// Commits all shots that are not committed yet.
     void saveShots();
 
 protected:
@@ -85,6 +97,15 @@ private:
     void order_for_tab_key();
     void connect_panes();
     void connect_window();
+
+    QString date_value_;
+    bool get_date_canceled_ = false;
+    bool choosing_date_ = false;
+    bool first_entry_ = true;
+    int16 last_hole_ = 0;
+    bool needSave_ = true;
+    bool closingoK_ = false;
+    report_control cr2_{this};
 
     shot_rows& shots_;
     hole_bar* holes_;

@@ -13,11 +13,11 @@
 #include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
+#include "round/round_lists.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
 #include "round/tee_off.h"
 #include "statistics/putt_statistics.h"
-#include "store/DataEnvironment1.h"
 
 namespace verdane::f_new_round_func {
 
@@ -49,7 +49,7 @@ void take_moment(f_new_round& window, const tee_off_moment& moment)
     window.holes().show_tee_off(QLocale::system().toString(moment.date, QLocale::ShortFormat),
                                 moment.time_text());
     round_record::set_key(moment.key());
-    window.date_value = moment.key();
+    window.set_date_value(moment.key());
     window.holes().lock_date();
 }
 
@@ -57,10 +57,7 @@ void open_tee_off_dialog(f_new_round& window)
 {
     f_get_date dialog;
     dialog.accepted = [&window](const tee_off_moment& moment) { take_moment(window, moment); };
-    dialog.canceled = [&window] { window.get_date_canceled = true; };
-    window.choosing_date = true;
-    dialog.show_modal();
-    window.choosing_date = false;
+    window.choose_date(dialog);
 }
 
 QMessageBox::StandardButton ask_to_save(const f_new_round& window)
@@ -73,9 +70,9 @@ QMessageBox::StandardButton ask_to_save(const f_new_round& window)
 
 void save_and_close(f_new_round& window)
 {
-    window.needSave = true;
+    window.mark_changed();
     save_round(window, false);
-    if (!window.needSave)
+    if (!window.needSave())
         window.unload();
 }
 
@@ -86,7 +83,7 @@ void save_and_leave(f_new_round& window)
     hole_tab_before_click(window);
     Unlock_menu();
     // The summary has changed the boxes after the first save.
-    if (window.detailed().entry().isdetailed)
+    if (window.detailed().isdetailed())
         save_round(window, true);
     window.unload();
 }
@@ -96,7 +93,7 @@ void return_to_quick_page(f_new_round& window)
 {
     if (!window.on_detailed_page())
         return;
-    window.closingoK = true;
+    window.allow_quick_page_only();
     page_changed(window);
 }
 
@@ -113,8 +110,8 @@ void load(f_new_round& window)
         return;
     window.holes().fill_list();
     window.parameters().fill_weathers(window.french());
-    window.parameters().fill_partners(round_record::open_partner_lines());
-    data_environment().rsvrd_fields.MoveFirst();
+    window.parameters().fill_partners(round_lists::open_partner_lines());
+    round_record::move_to_first_course();
     window.parameters().show_costs(round_record::cost_total());
     window.parameters().show_weather(0);
     window.holes().clear_date();
@@ -125,8 +122,6 @@ void load(f_new_round& window)
 
 void activate(f_new_round& window)
 {
-    if (window.choosing_date)
-        return;
     if (round_record::key_is_missing())
         open_tee_off_dialog(window);
     if (round_record::key_is_missing()) {
@@ -145,7 +140,7 @@ void unload(f_new_round& window)
 {
     window.detailed().unbind();
     enable_save_and_close(true);
-    finishes_without_failure([&] { window.detailed().entry().drop_untouched_shot(); });
+    finishes_without_failure([&] { window.detailed().drop_untouched_shot(); });
     finishes_without_failure(round_record::close_tables);
     finishes_without_failure([&] { window.shots().close(); });
     Unlock_menu();
@@ -165,13 +160,13 @@ void report_putts(f_new_round& window)
     if (!window.detailed().finish_typing())
         return;
     // A summary of a hole without shots would overwrite the figures of the quick page with zeros.
-    if (window.on_detailed_page() && !window.detailed().entry().is_untouched())
+    if (window.on_detailed_page() && !window.detailed().is_untouched())
         window.detailed().finish_hole();
     const QString round = window.caption(u"Ronde : ", u"Round : ") + window.holes().date() + u' ' +
                           window.parameters().course();
     const QString weather = window.caption(u"Conditions atmosphériques : ", u"Weather conditions : ") +
                             window.parameters().weather();
-    Statistics::one_round_putt_report(window.cr2, round, weather);
+    Statistics::one_round_putt_report(window.cr2(), round, weather);
 }
 
 void on_ok_cancel(f_new_round& window, int index)
@@ -190,7 +185,7 @@ void on_ok_cancel(f_new_round& window, int index)
 void on_close_box(f_new_round& window)
 {
     // A round without a key has nothing to save.
-    if (window.date_value.isEmpty()) {
+    if (window.date_value().isEmpty()) {
         ask_and_close(window, true);
         return;
     }
@@ -204,7 +199,7 @@ void on_close_box(f_new_round& window)
 
 void ask_and_close(f_new_round& window, bool skip_prompt)
 {
-    if (!window.needSave) {
+    if (!window.needSave()) {
         window.unload();
         return;
     }
@@ -214,6 +209,7 @@ void ask_and_close(f_new_round& window, bool skip_prompt)
     if (answer != QMessageBox::No)
         return;
     round_record::drop_changes();
+    window.shots().drop_changes();
     window.unload();
 }
 

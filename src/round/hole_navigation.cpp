@@ -13,7 +13,6 @@
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
 #include "scoring/limits.h"
-#include "store/DataEnvironment1.h"
 
 namespace verdane::f_new_round_func {
 
@@ -64,11 +63,9 @@ void leave_detailed_page(f_new_round& window)
 
 void go_to_detailed_page(f_new_round& window)
 {
-    Recordset& shots = data_environment().rsStat_rounds;
-    if (shots.is_open())
-        shots.Update();
+    window.shots().commit();
     window.show_page(round_page::detailed);
-    if (window.date_value.isEmpty()) {
+    if (window.date_value().isEmpty()) {
         show_information(u"Il faut choisir la date du ronde avant d'entrer les détails"_s,
                          QMessageBox::Critical);
         return;
@@ -84,12 +81,11 @@ void go_to_detailed_page(f_new_round& window)
 
 void hole_selected(f_new_round& window)
 {
-    if (!window.first_entry)
+    if (!window.first_entry())
         save_round(window, true);
-    window.first_entry = false;
     const int16 hole = window.holes().listed_hole();
     load_hole(window, hole);
-    window.last_hole = hole - 1;
+    window.hole_is_shown(hole);
     follow_list(window);
     refresh_score(window);
 }
@@ -97,7 +93,7 @@ void hole_selected(f_new_round& window)
 void hole_chosen(f_new_round& window)
 {
     const int chosen = plain(window.holes().listed_hole());
-    const int shown = plain(window.last_hole) + 1;
+    const int shown = plain(window.last_hole()) + 1;
     if (!window.on_detailed_page() || chosen == shown) {
         hole_selected(window);
         return;
@@ -136,7 +132,7 @@ void course_selected(f_new_round& window)
 
 void page_changed(f_new_round& window)
 {
-    if (window.closingoK || !window.on_detailed_page())
+    if (window.closingoK() || !window.on_detailed_page())
         leave_detailed_page(window);
     else
         go_to_detailed_page(window);
@@ -148,9 +144,9 @@ void open_shots_of_hole(f_new_round& window)
         return;
     // A window that was to be closed from the detailed page does not show its shots again, also after the
     // question was answered by Cancel: a blank one among them would keep it open.
-    if (window.closingoK)
+    if (window.closingoK())
         return;
-    if (window.on_detailed_page() || window.date_value.isEmpty()) {
+    if (window.on_detailed_page() || window.date_value().isEmpty()) {
         if (window.detailed().open_hole_shots())
             window.detailed().focus_grid();
         return;

@@ -10,8 +10,6 @@
 #include "round/statistics_pane.h"
 #include "scoring/hole_summary.h"
 #include "scoring/words.h"
-#include "store/commits.h"
-#include "store/DataEnvironment1.h"
 
 namespace verdane::f_new_round_func {
 
@@ -60,7 +58,7 @@ quick_figures figures_from_shots(const hole_summary& summary)
 int16 hole_to_save(const f_new_round& window, bool silent)
 {
     if (silent)
-        return window.last_hole + 1;
+        return window.last_hole() + 1;
     return window.holes().hole_in_boxes();
 }
 
@@ -68,7 +66,7 @@ int16 hole_to_save(const f_new_round& window, bool silent)
 
 void refresh_panel(f_new_round& window, const Round_functions::figure_source& figures)
 {
-    window.needSave = true;
+    window.mark_changed();
     const int16 hole = window.holes().listed_hole();
     window.statistics().show_hole(Round_functions::figures_of(hole, figures),
                                   Round_functions::hole_par(hole));
@@ -116,15 +114,11 @@ void save_round(f_new_round& window, bool silent)
         return;
     }
     store_hole(window, hole_to_save(window, silent));
-    // After separate commits a killed process could leave half of the rows of the round, or a mixture of old
-    // and new figures of a hole.
-    joined_commits together(data_environment().connection);
     const parameters_pane& parameters = window.parameters();
-    round_record::store_round_header(parameters.course_index(), parameters.weather_index(),
-                                     parameters.temperature());
-    round_record::commit(window.date_value);
-    together.finish();
-    window.needSave = false;
+    round_record::store_and_commit(
+        window.date_value(),
+        {parameters.course_index(), parameters.weather_index(), parameters.temperature()});
+    window.mark_saved();
     if (!silent)
         show_information(window.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
 }

@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-#include "round/round_record.h"
+#include "round/list_lines.h"
 
 class QBoxLayout;
 class QComboBox;

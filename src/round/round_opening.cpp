@@ -4,9 +4,9 @@
 #include "round/f_new_round.h"
 #include "round/hole_bar.h"
 #include "round/parameters_pane.h"
+#include "round/round_lists.h"
 #include "round/round_record.h"
 #include "scoring/round_key.h"
-#include "store/DataEnvironment1.h"
 
 namespace verdane {
 
@@ -27,13 +27,13 @@ void refuse_without_second_row(f_new_round& window)
 /// no row in `games2`; the window is closed then.
 bool load_stored_round(f_new_round& window, const QString& key)
 {
-    window.date_value = key;
+    window.set_date_value(key);
     if (!round_record::has_second_row()) {
         refuse_without_second_row(window);
         return false;
     }
     const QString code = round_record::find_holes_of_round(key);
-    window.parameters().fill_courses(round_record::course_lines());
+    window.parameters().fill_courses(round_lists::course_lines());
     round_record::find_course(code);
     window.holes().select_in_list(first_hole);
     window.parameters().select_course(code);
@@ -47,8 +47,7 @@ void start_new_round()
 {
     if (!round_record::has_a_course())
         return;
-    data_environment().rsgames.Open();
-    data_environment().rsfield_info.Open();
+    round_record::open_games_and_field_info();
     prepare_round_window();
 }
 
@@ -56,9 +55,8 @@ void prepare_round_window()
 {
     shot_rows shots;
     round_record::add_rows_without_key();
-    data_environment().rsvrd_fields.Open();
     f_new_round window(shots);
-    window.parameters().fill_courses(round_record::course_lines());
+    window.parameters().fill_courses(round_lists::course_lines());
     // Selecting the first course moves the recordsets of the courses to it.
     window.parameters().select_course(0);
     window.show_modal();
@@ -80,12 +78,12 @@ void open_stored_round(const QString& key)
 
 void load_round_header(f_new_round& window)
 {
-    const round_header header = round_record::read_header(window.date_value);
+    const round_header header = round_record::read_header(window.date_value());
     window.parameters().show_weather(header.weather);
     window.parameters().show_temperature(header.temperature);
     window.holes().set_course_name(header.course_name);
-    window.holes().show_tee_off(Verdane_tools::key_date_text(window.date_value),
-                                Verdane_tools::key_time_text(window.date_value));
+    window.holes().show_tee_off(Verdane_tools::key_date_text(window.date_value()),
+                                Verdane_tools::key_time_text(window.date_value()));
     window.parameters().show_costs(header.costs);
 }
 

@@ -2,16 +2,15 @@
 
 #include "base/language.h"
 #include "controls/boxes.h"
-#include "controls/failure_guard.h"
 #include "records/Main_module.h"
 #include "records/round_rows.h"
+#include "store/commits.h"
 #include "store/DataEnvironment1.h"
 #include "store/Recordset.h"
 #include "store/tables/cost.h"
 #include "store/tables/courses.h"
 #include "store/tables/games.h"
 #include "store/tables/games2.h"
-#include "store/tables/partners.h"
 
 namespace verdane::round_record {
 
@@ -79,17 +78,6 @@ void commit_and_find(Recordset& recordset, const QString& key)
     find_round(recordset, key);
 }
 
-/// A column without a value is left out of the text.
-partner_line line_of_current_partner(Recordset& partners)
-{
-    partner_line line;
-    line.text = partners.Fields(tables::partners::SURNAME).text_or_empty() + u',' +
-                partners.Fields(tables::partners::NAME).text_or_empty();
-    line.number = QString::number(plain(partners.Fields(tables::partners::code).int32_or_zero()));
-    line.selected = Round_functions::partner_in_round(line.number) >= 1;
-    return line;
-}
-
 }  // namespace
 
 bool has_a_course()
@@ -103,6 +91,12 @@ bool has_a_course()
     return !none;
 }
 
+void open_games_and_field_info()
+{
+    data_environment().rsgames.Open();
+    data_environment().rsfield_info.Open();
+}
+
 void add_rows_without_key()
 {
     DataEnvironment1& store = data_environment();
@@ -112,6 +106,7 @@ void add_rows_without_key()
     store.rscost.Open();
     store.rscost.AddNew();
     zero_amounts(store.rscost);
+    store.rsvrd_fields.Open();
 }
 
 void open_rows(const QString& key)
@@ -156,6 +151,11 @@ QString find_holes_of_round(const QString& key)
     return code;
 }
 
+void move_to_first_course()
+{
+    data_environment().rsvrd_fields.MoveFirst();
+}
+
 void find_course(const QString& code)
 {
     find_first(data_environment().rsvrd_fields, u"CODE = ", code);
@@ -164,29 +164,6 @@ void find_course(const QString& code)
 void find_holes_of_course(const QString& code)
 {
     find_first(data_environment().rsfield_info, u"FIELD_CODE = ", code);
-}
-
-std::vector<course_line> course_lines()
-{
-    Recordset& courses = data_environment().rsvrd_fields;
-    std::vector<course_line> lines;
-    for (courses.MoveFirst(); !courses.eof(); courses.MoveNext())
-        lines.push_back(
-            {courses.Fields(vrd_fields::name).text_or_empty(), courses.Fields(vrd_fields::code).trimmed()});
-    return lines;
-}
-
-std::vector<partner_line> open_partner_lines()
-{
-    Recordset& partners = data_environment().rspartners;
-    close_if_open(partners);
-    partners.Open();
-    std::vector<partner_line> lines;
-    if (partners.empty())
-        return lines;
-    for (partners.MoveFirst(); !partners.eof(); partners.MoveNext())
-        lines.push_back(line_of_current_partner(partners));
-    return lines;
 }
 
 round_header read_header(const QString& key)
@@ -215,13 +192,13 @@ void store_partners(const QStringList& numbers)
     data_environment().rsgames2.Fields(games2::PARTNERS).set(Round_functions::partners_text(numbers));
 }
 
-void store_round_header(int course_index, int weather_index, int temperature)
+void store_round_header(const round_parameters& parameters)
 {
     DataEnvironment1& store = data_environment();
-    const QString code = Round_functions::course_code_at(course_index);
+    const QString code = Round_functions::course_code_at(parameters.course_index);
     store.rsgames.Fields(games::field).set(store.rsvrd_fields.Fields(vrd_fields::name).value());
-    store.rsgames2.Fields(games2::conditionM).set(weather_index);
-    store.rsgames2.Fields(games2::temperature).set(temperature);
+    store.rsgames2.Fields(games2::conditionM).set(parameters.weather_index);
+    store.rsgames2.Fields(games2::temperature).set(parameters.temperature);
     store.rsgames.Fields(games::CODEF).set(code);
     store.rsgames2.Fields(games2::FC).set(code);
     Main_module::append_round_key(store.rsgames.Fields(games::date).trimmed());
@@ -239,13 +216,20 @@ void commit(const QString& key)
         store_cost_row(key);
 }
 
+void store_and_commit(const QString& key, const round_parameters& parameters)
+{
+    joined_commits together(data_environment().connection);
+    store_round_header(parameters);
+    commit(key);
+    together.finish();
+}
+
 void drop_changes()
 {
     DataEnvironment1& store = data_environment();
     store.rsgames.CancelUpdate();
     store.rsgames2.CancelUpdate();
     store.rscost.CancelUpdate();
-    finishes_without_failure([&] { store.rsStat_rounds.CancelUpdate(); });
 }
 
 void close_tables()

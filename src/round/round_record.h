@@ -3,27 +3,9 @@
 #include <QString>
 #include <QStringList>
 
-#include <vector>
-
 #include "base/counts.h"
 
 namespace verdane {
-
-/// A course and tee in the list of courses.
-struct course_line {
-    QString name;
-    /// The last character is the code of the tee.
-    QString code;
-};
-
-/// A partner in the list of partners.
-struct partner_line {
-    QString text;
-    /// The partner's number, as it is stored with the round.
-    QString number;
-    /// The partner is one of the round on the current row of `rsgames2`.
-    bool selected = false;
-};
 
 /// What is stored for a round as a whole.
 struct round_header {
@@ -41,8 +23,11 @@ namespace round_record {
 /// False, after a message, when there is no course.
 bool has_a_course();
 
+/// Opens the recordsets that the list of rounds has opened when it opens a stored round.
+void open_games_and_field_info();
+
 /// Opens `rsgames2` and `rscost` and adds a row to each table of rounds, without a key. Nothing is committed.
-/// `rsgames` is open.
+/// Then opens `rsvrd_fields`. `rsgames` is open.
 void add_rows_without_key();
 
 /// Opens `rsgames2`, `rsvrd_fields` and `rscost` and finds the round of that key in all tables. A round
@@ -58,13 +43,9 @@ void set_key(const QString& key);
 
 /// Finds the round of that key in `rsgames` and the holes of its course, and returns the code of the course.
 QString find_holes_of_round(const QString& key);
+void move_to_first_course();
 void find_course(const QString& code);
 void find_holes_of_course(const QString& code);
-
-/// One line for each row of `rsvrd_fields`, in the order of the rows. The recordset is at its end afterwards.
-std::vector<course_line> course_lines();
-/// Opens `rspartners` and returns one line for each row, in the order of the rows.
-std::vector<partner_line> open_partner_lines();
 
 /// Finds the row of costs of that key, or commits a new one, and reads the header of the round. Fails with
 /// `overflow` when the costs are more than 16 bits hold.
@@ -75,14 +56,26 @@ QString cost_total();
 /// Writes the numbers of the partners.
 void store_partners(const QStringList& numbers);
 
+/// What the user has selected for the round as a whole: course and weather as their index in the lists,
+/// temperature in degrees Celsius.
+struct round_parameters {
+    int course_index;
+    int weather_index;
+    int temperature;
+};
+
 /// Writes course, weather and temperature, appends the key to `round_keys`, then commits the rows of `games2`
 /// and `games`. Fails with `subscript`, before the commits, when that list is full.
-void store_round_header(int course_index, int weather_index, int temperature);
+void store_round_header(const round_parameters& parameters);
 
 /// Commits the three rows and finds them again. Adds the row of costs if there is none.
 void commit(const QString& key);
 
-/// Drops what is not committed, also of the shots.
+/// `store_round_header` and `commit` in one commit: after a kill the store has all rows of the round or none,
+/// and the old figures of a hole or the new ones.
+void store_and_commit(const QString& key, const round_parameters& parameters);
+
+/// Drops what is not committed in the three rows.
 void drop_changes();
 /// Commits the row of `games2` and closes the tables of the round.
 void close_tables();

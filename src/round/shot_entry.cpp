@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "base/language.h"
 #include "base/numbers.h"
 #include "controls/failure_guard.h"
 #include "records/Main_module.h"
+#include "round/current_shot.h"
 #include "scoring/limits.h"
 #include "scoring/words.h"
 #include "store/DataEnvironment1.h"
@@ -22,13 +22,6 @@ namespace Stat_rounds = tables::Stat_rounds;
 Recordset& shots()
 {
     return data_environment().rsStat_rounds;
-}
-
-void reopen()
-{
-    shots().Update();
-    shots().Close();
-    shots().Open();
 }
 
 void store_putt_lengths(int16 hole, const hole_summary& summary)
@@ -74,15 +67,14 @@ void shot_entry::start_row(int number, int16 distance)
 void shot_entry::add_first_shot()
 {
     start_row(1, hole_().card.yards);
-    reopen();
-    shots().MoveFirst();
+    rows_.commit_first_shot();
 }
 
 void shot_entry::load_hole()
 {
     const hole_on_screen hole = hole_();
     rows_.change_hole(hole.key, hole.number);
-    if (!shots().is_open())
+    if (!rows_.is_open())
         return;
     if (shots().empty())
         add_first_shot();
@@ -121,43 +113,29 @@ int shot_entry::check_shots()
     return incomplete;
 }
 
-bool shot_entry::is_blank_top(int grid_row) const
-{
-    return grid_row == 0 && (shots().Fields(Stat_rounds::shot_type_value).int16_or_zero() == 0 ||
-                             shots().Fields(Stat_rounds::stickval).int16_or_zero() == 0);
-}
-
-void shot_entry::remove_row()
-{
-    shots().Delete();
-    shots().UpdateBatch();
-    if (!shots().empty())
-        shots().MoveFirst();
-}
-
 bool shot_entry::drop_blank_shot(int grid_row)
 {
     if (!rows_.has_hole())
         return false;
-    if (is_blank_top(grid_row)) {
-        remove_row();
+    if (grid_row == 0 && !current_shot::is_complete()) {
+        rows_.remove_current();
         return true;
     }
     if (!shots().empty()) {
         shots().MoveFirst();
-        shots().Fields(Stat_rounds::normal).set(card_of_shots().par);
+        current_shot::set_par(card_of_shots().par);
     }
     return false;
 }
 
 void shot_entry::remove_shot()
 {
-    remove_row();
+    rows_.remove_current();
 }
 
 void shot_entry::follow_last_shot()
 {
-    PUT_MODE =
+    PUT_MODE_ =
         !shots().empty() &&
         to_int16(shots().value_at(shots().RecordCount() - 1, Stat_rounds::shot_type_value).toDouble()) ==
             putt;
@@ -177,7 +155,7 @@ void shot_entry::drop_untouched_shot()
     if (!is_untouched())
         return;
     shots().MoveFirst();
-    remove_row();
+    rows_.remove_current();
 }
 
 std::optional<int16> shot_entry::prepare_next_shot()
@@ -187,7 +165,7 @@ std::optional<int16> shot_entry::prepare_next_shot()
     const next_shot_plan plan = plan_next_shot(rows, units_of_interface());
     if (plan.refused)
         return std::nullopt;
-    PUT_MODE = plan.PUT_MODE;
+    PUT_MODE_ = plan.PUT_MODE;
     rows_.write(rows);
     return std::make_optional(plan.distance);
 }
@@ -195,11 +173,10 @@ std::optional<int16> shot_entry::prepare_next_shot()
 void shot_entry::add_shot(int16 distance)
 {
     start_row(shots().RecordCount() + 1, distance);
-    shots().Fields(Stat_rounds::normal).set(hole_().card.par);
-    if (PUT_MODE) {
+    current_shot::set_par(hole_().card.par);
+    if (PUT_MODE_) {
         current_shot::make_putt();
-        shots().Fields(Stat_rounds::faireway).set(blank_word.toString());
-        shots().Fields(Stat_rounds::fairval).set(0);
+        current_shot::clear_position();
     }
     shots().MoveLast();
 }
@@ -211,7 +188,7 @@ std::optional<hole_summary> shot_entry::summarise_hole()
     shot_list rows = rows_.read();
     const hole_summary summary = summarise(rows);
     rows_.write(rows);
-    isdetailed = summary.isdetailed;
+    isdetailed_ = summary.isdetailed;
     store_putt_lengths(hole_().number, summary);
     return summary;
 }
@@ -228,104 +205,5 @@ QStringList shot_entry::club_names()
     stored.Close();
     return names;
 }
-
-namespace current_shot {
-
-namespace {
-
-void write_kind(int value, const QString& caption)
-{
-    shots().Fields(Stat_rounds::shot_type).set(caption);
-    shots().Fields(Stat_rounds::shot_type_value).set(value);
-}
-
-void write_unit(const text_pair& words)
-{
-    shots().Fields(Stat_rounds::unit).set(words.in(is_french));
-}
-
-template <std::size_t Count>
-QString word(const std::array<text_pair, Count>& words, int entry)
-{
-    return words[static_cast<std::size_t>(entry - 1)].in(is_french);
-}
-
-bool is_last()
-{
-    bool last = false;
-    finishes_without_failure([&last] {
-        shots().MoveNext();
-        last = shots().eof();
-        shots().MovePrevious();
-    });
-    return last;
-}
-
-}  // namespace
-
-void set_club(int club, const QString& name)
-{
-    shots().Fields(Stat_rounds::stickval).set(club);
-    shots().Fields(Stat_rounds::stick).set(name);
-    if (club == putter) {
-        set_kind(putt);
-        write_unit(feet_words);
-        return;
-    }
-    if (shots().Fields(Stat_rounds::shot_type_value).int16_or_zero() == putt)
-        write_kind(0, blank_word.toString());
-    if (!is_feet_word(shots().Fields(Stat_rounds::unit).text_or_empty()))
-        write_unit(yards_words);
-}
-
-void set_kind(int kind)
-{
-    write_kind(kind, word(kind_words, kind));
-}
-
-void make_putt()
-{
-    shots().Fields(Stat_rounds::stickval).set(putter);
-    shots().Fields(Stat_rounds::stick).set(putter_word.toString());
-    write_unit(feet_words);
-    set_kind(putt);
-}
-
-void set_position(int entry)
-{
-    shots().Fields(Stat_rounds::fairval).set(entry);
-    shots().Fields(Stat_rounds::faireway).set(word(position_words, entry));
-}
-
-void set_penalty(int entry)
-{
-    const bool none = entry == no_penalty;
-    shots().Fields(Stat_rounds::penval).set(none ? 0 : entry);
-    shots().Fields(Stat_rounds::penality).set(word(penalty_words, entry));
-    shots().Fields(Stat_rounds::addpen).set(none ? 0 : 1);
-}
-
-void set_yes_or_no(QStringView column, bool yes)
-{
-    shots().Fields(column).set(yes);
-}
-
-void set_par(int16 par)
-{
-    shots().Fields(Stat_rounds::normal).set(par);
-}
-
-bool distance_changed()
-{
-    if (shots().Fields(Stat_rounds::stickval).int16_or_zero() != putter) {
-        write_unit(yards_words);
-        return false;
-    }
-    write_unit(feet_words);
-    set_kind(putt);
-    return is_last();
-}
-
-}  // namespace current_shot
 
 }  // namespace verdane

@@ -30,9 +30,9 @@ public:
     shot_entry(shot_rows& rows, bool french, std::function<hole_on_screen()> hole);
 
     /// The shot that is being entered is a putt.
-    bool PUT_MODE = false;
+    bool PUT_MODE() const { return PUT_MODE_; }
     /// The hole that was summarised last has classified shots.
-    bool isdetailed = false;
+    bool isdetailed() const { return isdetailed_; }
 
     bool hole_is_loaded() const;
     bool has_shots() const;
@@ -52,7 +52,7 @@ public:
     /// true. Otherwise stores the par in the first shot.
     bool drop_blank_shot(int grid_row);
     void remove_shot();
-    /// `PUT_MODE` is true when the last shot is a putt.
+    /// Sets `PUT_MODE` to true when the last shot is a putt, else to false.
     void follow_last_shot();
 
     /// True when the hole has only the blank shot of a new hole, without club, kind and distance.
@@ -78,33 +78,12 @@ private:
     void start_row(int number, int16 distance);
     Round_functions::hole_card card_of_shots() const;
     void walk_shots(int& incomplete);
-    bool is_blank_top(int grid_row) const;
-    void remove_row();
 
     shot_rows& rows_;
     bool french_;
     std::function<hole_on_screen()> hole_;
+    bool PUT_MODE_ = false;
+    bool isdetailed_ = false;
 };
-
-/// What a choice from a menu, or a typed distance, writes into the current row of `rsStat_rounds`. Menu
-/// entries count from 1. The words are those of the current language of the interface.
-namespace current_shot {
-
-/// The putter makes the shot a putt, in feet. Another club makes a putt a shot without kind; a shot in feet
-/// stays in feet.
-void set_club(int club, const QString& name);
-void set_kind(int kind);
-/// Kind, club and unit of a putt.
-void make_putt();
-void set_position(int entry);
-void set_penalty(int entry);
-void set_yes_or_no(QStringView column, bool yes);
-void set_par(int16 par);
-
-/// The distance was changed: sets the unit, and the kind of a shot with the putter. Returns true when that
-/// shot is the last one of the hole. Looking for a next row commits the row; a failure of that is ignored.
-bool distance_changed();
-
-}  // namespace current_shot
 
 }  // namespace verdane

@@ -127,12 +127,49 @@ void shot_rows::reopen()
     rows_.Requery();
 }
 
+void shot_rows::commit_first_shot()
+{
+    rows_.Update();
+    rows_.Close();
+    rows_.Open();
+    rows_.MoveFirst();
+}
+
+void shot_rows::commit()
+{
+    if (rows_.is_open())
+        rows_.Update();
+}
+
+void shot_rows::commit_all()
+{
+    rows_.UpdateBatch();
+}
+
+void shot_rows::remove_current()
+{
+    rows_.Delete();
+    rows_.UpdateBatch();
+    if (!rows_.empty())
+        rows_.MoveFirst();
+}
+
+void shot_rows::drop_changes()
+{
+    finishes_without_failure([this] { rows_.CancelUpdate(); });
+}
+
 void shot_rows::close()
 {
     rows_.Update();
     rows_.Close();
     rows_.set_Source(statement_without_hole);
     loaded_.reset();
+}
+
+bool shot_rows::is_open() const
+{
+    return rows_.is_open();
 }
 
 bool shot_rows::has_hole() const

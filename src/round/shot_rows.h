@@ -13,8 +13,8 @@ namespace verdane {
 /// The shots of one hole in the rows of `rsStat_rounds`, and which hole that is. With no hole loaded the
 /// recordset covers the whole table, which is read only when a row is needed.
 ///
-/// An object exists as long as a round window. Only this class sets the statement of `rsStat_rounds` in that
-/// time; afterwards it is "select * from stat_rounds".
+/// An object exists as long as a round window. In that time only this class opens, commits and closes
+/// `rsStat_rounds` and sets its statement; afterwards the statement is "select * from stat_rounds".
 class shot_rows {
 public:
     /// Closes the recordset if an earlier round left it open because of a failure. What that round could not
@@ -28,10 +28,21 @@ public:
     void change_hole(const QString& key, int16 hole);
     /// Opens the recordset again on the same statement. Pending changes are dropped.
     void reopen();
+    /// Commits the new first shot of a hole and reads the rows again. The first one is current afterwards.
+    void commit_first_shot();
+    /// Commits the current row. Does nothing when the recordset is closed.
+    void commit();
+    /// Commits every row.
+    void commit_all();
+    /// Removes the current row at once. The first one is current afterwards.
+    void remove_current();
+    /// Drops what is pending on the current row. Ignores a failure: the recordset can be closed.
+    void drop_changes();
     /// Commits and closes; no hole is loaded afterwards. Fails as `Recordset::Update` does, and then leaves
     /// everything as it is.
     void close();
 
+    bool is_open() const;
     /// True when the shots of some hole are open.
     bool has_hole() const;
     /// True when the shots of that hole are open.

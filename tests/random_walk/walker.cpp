@@ -282,7 +282,7 @@ QString walker::boxes()
 QString walker::stored_hole(int hole)
 {
     QString key;
-    user_.look([&] { key = round_window()->date_value; });
+    user_.look([&] { key = round_window()->date_value(); });
     QStringList columns;
     for (const QString& column : stored_columns)
         columns << u"coalesce(%1%2, 0)"_s.arg(column).arg(hole);

@@ -121,7 +121,7 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const golfer_store round(french);
         in_keyed_round([&](hand& user) {
-            with_round(user, [](f_new_round& window) { window.date_value.clear(); });
+            with_round(user, [](f_new_round& window) { window.set_date_value(QString()); });
             user.click(u"Command4"_s);
             user.answer({french ? u"Veuillez d'abord choisir la date de la ronde."_s
                                 : u"Please enter the round's date."_s,

@@ -28,8 +28,25 @@ void in_detailed_round(const std::function<void(hand&)>& script)
 bool is_detailed(hand& user)
 {
     bool detailed = false;
-    with_round(user, [&](f_new_round& window) { detailed = window.detailed().entry().isdetailed; });
+    with_round(user, [&](f_new_round& window) { detailed = window.detailed().isdetailed(); });
     return detailed;
+}
+
+bool put_mode(hand& user)
+{
+    bool putt = false;
+    with_round(user, [&](f_new_round& window) { putt = window.detailed().PUT_MODE(); });
+    return putt;
+}
+
+/// Removes the fourth shot of a hole whose second one is incomplete and whose third one is a putt.
+void remove_last_shot_before_a_putt(hand& user)
+{
+    user.click_cell(details, 3, 2);
+    user.click(u"CommandSup"_s);
+    user.answer(refusal_of_shot(u" 2"_s));
+    user.wait_for_window(round_window());
+    user.check(put_mode(user), u"a putt is being entered"_s);
 }
 
 }  // namespace
@@ -300,14 +317,16 @@ private Q_SLOTS:
         round.store.add_round(key_of_keyed_round());
         add_complete_shot(round.store, 1, 1, 1, 60, u"Verges"_s, 1);
         add_shot(round.store, 1, 2, u"after = 5"_s);
-        add_complete_shot(round.store, 1, 3, 9, 3, u"Verges"_s, 2);
+        add_complete_shot(round.store, 1, 3, 14, 3, u"Pieds"_s, 3);
+        add_complete_shot(round.store, 1, 4, 9, 1, u"Pieds"_s, 2);
         in_detailed_round([&](hand& user) {
-            with_round(user, [](f_new_round& window) { window.detailed().entry().PUT_MODE = true; });
+            remove_last_shot_before_a_putt(user);
+            enter_shot(user, 2, 9, QString(), 2);
             user.click(u"CommandSuiv"_s);
             user.answer(refusal_of_shot(u" 2"_s));
             user.wait_for_window(round_window());
             user.same(user.cursor(details), u"3,2"_s, u"cursor"_s);
-            with_round(user, [](f_new_round& window) { QVERIFY(!window.detailed().entry().PUT_MODE); });
+            user.check(!put_mode(user), u"a shot is being entered"_s);
         });
         QCOMPARE(stored_shots(round.store, 1).split(u'\n').last(), u"4 3>- - -/0 -/0"_s);
     }

@@ -229,10 +229,10 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            with_round(user, [](f_new_round& window) { window.needSave = false; });
+            with_round(user, [](f_new_round& window) { window.mark_saved(); });
             user.click(box);
             user.type(u"1"_s);
-            with_round(user, [](f_new_round& window) { QVERIFY(window.needSave); });
+            with_round(user, [](f_new_round& window) { QVERIFY(window.needSave()); });
             discard(user);
         });
     }

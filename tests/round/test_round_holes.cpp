@@ -36,7 +36,7 @@ void check_hole(hand& user, int hole)
     user.same(user.text(u"text_0"_s), QString::number(19 - hole), u"index"_s);
     with_round(user, [&](f_new_round& window) {
         QCOMPARE(find_control<QLineEdit>(window, u"text_40"_s).text(), number);
-        QCOMPARE(plain(window.last_hole), hole - 1);
+        QCOMPARE(plain(window.last_hole()), hole - 1);
     });
 }
 

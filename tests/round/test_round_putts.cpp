@@ -45,9 +45,9 @@ void close_report(hand& user)
 void check_control(hand& user)
 {
     with_round(user, [](f_new_round& window) {
-        QCOMPARE(window.cr2.page_zoom().value_or(0), 75);
-        QCOMPARE(window.cr2.ReportFileName(), QCoreApplication::applicationDirPath() +
-                                                  in_language(u"\\statPuts.rpt", u"\\statPuts_en.rpt"));
+        QCOMPARE(window.cr2().page_zoom().value_or(0), 75);
+        QCOMPARE(window.cr2().ReportFileName(), QCoreApplication::applicationDirPath() +
+                                                    in_language(u"\\statPuts.rpt", u"\\statPuts_en.rpt"));
     });
 }
 

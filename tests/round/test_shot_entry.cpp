@@ -48,7 +48,7 @@ struct round_with_shots {
 bool put_mode(hand& user)
 {
     bool on = false;
-    with_round(user, [&on](f_new_round& window) { on = window.detailed().entry().PUT_MODE; });
+    with_round(user, [&on](f_new_round& window) { on = window.detailed().PUT_MODE(); });
     return on;
 }
 

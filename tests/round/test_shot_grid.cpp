@@ -39,11 +39,6 @@ QString pending_value(hand& user, const QString& column, int shot = 1)
     return text;
 }
 
-void set_put_mode(hand& user, bool on)
-{
-    with_round(user, [on](f_new_round& window) { window.detailed().entry().PUT_MODE = on; });
-}
-
 }  // namespace
 
 class test_shot_grid : public QObject {
@@ -208,8 +203,10 @@ private Q_SLOTS:
         QFETCH(bool, put_mode);
         QFETCH(QString, cursor);
         in_detailed_page(true, [&](hand& user) {
-            enter_shot(user, 0, 3, QString(), 1);
-            set_put_mode(user, put_mode);
+            if (put_mode)
+                enter_hole(user);
+            else
+                enter_shot(user, 0, 3, QString(), 1);
             user.click_cell(details, 0, 3);
             user.type(u"60"_s);
             user.key(Qt::Key_Return);
@@ -231,7 +228,8 @@ private Q_SLOTS:
         QFETCH(bool, put_mode);
         QFETCH(QString, cursor);
         in_detailed_page(true, [&](hand& user) {
-            set_put_mode(user, put_mode);
+            if (put_mode)
+                enter_hole(user);
             user.click_cell(details, 0, 3);
             user.type(u"60"_s);
             user.click(u"cmb_courses"_s);

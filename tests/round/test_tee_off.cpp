@@ -125,8 +125,8 @@ private Q_SLOTS:
                       QLocale::system().toString(QDate(2024, 6, 14), QLocale::ShortFormat), u"date"_s);
             user.check(!user.enabled(u"b_getdat"_s), u"no other date"_s);
             with_round(user, [&](f_new_round& window) {
-                QCOMPARE(window.date_value, key);
-                QVERIFY(!window.get_date_canceled);
+                QCOMPARE(window.date_value(), key);
+                QVERIFY(!window.get_date_canceled());
             });
             accept(user);
         });
@@ -164,7 +164,7 @@ private Q_SLOTS:
             user.same(user.text(u"Text3"_s), QString(), u"seconds"_s);
             user.check(chosen_date(user) == QDate(2024, 6, 14), u"the date is unchanged"_s);
             user.look([] {
-                QCOMPARE(dynamic_cast<f_new_round&>(*open_form(u"f_new_round")).date_value, QString());
+                QCOMPARE(dynamic_cast<f_new_round&>(*open_form(u"f_new_round")).date_value(), QString());
             });
             user.click(u"Command1"_s);
         });
@@ -216,7 +216,7 @@ private Q_SLOTS:
             user.key(Qt::Key_Return);
             user.answer(question_on_tee_off(), QMessageBox::Yes);
             user.wait_for_window(round_window());
-            with_round(user, [](f_new_round& window) { QCOMPARE(window.date_value, u"20240620120000"_s); });
+            with_round(user, [](f_new_round& window) { QCOMPARE(window.date_value(), u"20240620120000"_s); });
             discard(user);
         });
     }
