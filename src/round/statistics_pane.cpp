@@ -6,7 +6,6 @@
 #include <QLineEdit>
 
 #include <algorithm>
-#include <array>
 
 #include "base/language.h"
 #include "controls/Form.h"
@@ -20,12 +19,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using namespace hole_class;
+
 constexpr int figure_digits = 2;
 /// A gap between two groups of classes.
 constexpr int gap = 0;
 
-constexpr std::array left_column = {25, 26, 27, 28, gap, 6, 7, 8, 9, gap, 15, 16, 17};
-constexpr std::array right_column = {1, 12, 13, 14, 10, 11, gap, 18, 19, 20, 21, 22, 23, 24};
+constexpr int left_column[] = {
+    green_hit,        green_hit_one_putt,    green_hit_two_putts,    green_hit_three_putts,    gap,
+    green_missed,     green_missed_one_putt, green_missed_two_putts, green_missed_three_putts, gap,
+    average_of_par_3, average_of_par_4,      average_of_par_5};
+constexpr int right_column[] = {made_par, made_par_3, made_par_4,   made_par_5,          up_and_down,
+                                chip_in,  gap,        hole_in_one,  double_eagle,        eagle,
+                                birdie,   bogey,      double_bogey, triple_bogey_or_more};
 
 const class_box& row_of(int selector)
 {
