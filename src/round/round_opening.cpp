@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::int16_t first_hole = 1;
 
-void refuse_without_second_row(f_new_round& window)
+void refuse_without_row_in_games2(f_new_round& window)
 {
     show_information(u"Error : games2 record not found"_s);
     window.holes().set_hole_in_boxes(first_hole);
@@ -28,8 +28,8 @@ void refuse_without_second_row(f_new_round& window)
 bool load_stored_round(f_new_round& window, const QString& key)
 {
     window.set_date_value(key);
-    if (!round_record::has_second_row()) {
-        refuse_without_second_row(window);
+    if (!round_record::has_row_in_games2()) {
+        refuse_without_row_in_games2(window);
         return false;
     }
     const QString code = round_record::find_holes_of_round(key);

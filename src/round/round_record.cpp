@@ -124,7 +124,7 @@ void open_rows(const QString& key)
         add_cost_row(key);
 }
 
-bool has_second_row()
+bool has_row_in_games2()
 {
     return !data_environment().rsgames2.eof();
 }

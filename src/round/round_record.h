@@ -35,7 +35,7 @@ void add_rows_without_key();
 void open_rows(const QString& key);
 
 /// True when `games2` has a row of the round.
-bool has_second_row();
+bool has_row_in_games2();
 /// True as long as the round has no key.
 bool key_is_missing();
 /// Writes the key into the three rows, which are not committed.
