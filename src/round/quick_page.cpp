@@ -1,6 +1,5 @@
 #include "round/quick_page.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -11,11 +10,10 @@
 
 #include "base/language.h"
 #include "controls/control_array.h"
-#include "controls/entering.h"
 #include "controls/events.h"
 #include "controls/Form.h"
-#include "controls/keys.h"
 #include "controls/look.h"
+#include "round/digit_keys.h"
 
 namespace verdane {
 
@@ -24,7 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int box_digits = 4;
-constexpr int selection_length = 4;
 /// Thirteen lines and three frames fit into the height of the window.
 constexpr int row_gap = 6;
 
@@ -92,40 +89,6 @@ private:
     QGridLayout* rows_;
 };
 
-/// A click into a box that has the focus already selects its figure, too: the next digit replaces it,
-/// wherever the pointer is.
-class click_selects : public QObject {
-public:
-    explicit click_selects(QLineEdit& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::MouseButtonRelease && !box_.hasSelectedText())
-            select_characters(box_, selection_length);
-        return false;
-    }
-
-private:
-    QLineEdit& box_;
-};
-
-key_answer take_key(QLineEdit& box, QChar key, const std::function<void()>& move_on)
-{
-    if (key == backspace || digits_only(key) == key_answer::refuse)
-        return digits_only(key);
-    box.insert(key);
-    move_on();
-    return key_answer::taken;
-}
-
-void watch_keys_of(QLineEdit& box, std::function<void()> move_on)
-{
-    filter_keys(box, [&box, move_on = std::move(move_on)](QChar key) { return take_key(box, key, move_on); });
-    when_entered(box, [&box] { select_characters(box, selection_length); });
-    new click_selects(box);
-    filter_pasted_text(box, digits_only);
-}
-
 }  // namespace
 
 quick_page::quick_page(const Form& window)
@@ -165,9 +128,9 @@ void quick_page::watch_keys()
 {
     const box_group boxes = boxes_in_order();
     for (std::size_t place = 0; place + 1 < boxes.size(); ++place)
-        watch_keys_of(*boxes[place].box,
-                      [next = boxes[place + 1].box] { next->setFocus(Qt::TabFocusReason); });
-    watch_keys_of(*boxes.back().box, [this] { call_if_set(last_figure_typed); });
+        watch_digit_keys(*boxes[place].box,
+                         [next = boxes[place + 1].box] { next->setFocus(Qt::TabFocusReason); });
+    watch_digit_keys(*boxes.back().box, [this] { call_if_set(last_figure_typed); });
 }
 
 void quick_page::watch_changes()
@@ -249,7 +212,7 @@ void quick_page::focus_first_box()
 
 void quick_page::select_first_box()
 {
-    select_characters(*stroke_boxes_.front().box, selection_length);
+    select_figure(*stroke_boxes_.front().box);
 }
 
 std::vector<QWidget*> quick_page::tab_order() const
