@@ -12,9 +12,7 @@
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "controls/shortcuts.h"
-#include "round/current_shot.h"
 #include "round/shot_grid.h"
-#include "scoring/words.h"
 
 namespace verdane {
 
@@ -26,7 +24,8 @@ detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_o
       rows_(rows),
       hole_(std::move(hole)),
       entry_(rows, window.french(), hole_),
-      grid_(new shot_grid(window))
+      grid_(new shot_grid(window)),
+      choices_(*grid_, rows, entry_, hole_)
 {
     setObjectName(u"Framedet"_s);
     name_control(*grid_, title());
@@ -78,12 +77,8 @@ void detailed_page::connect_events()
                 (this->*pressed)();
         });
     }
-    grid_->club_chosen = [this](int entry) { club_chosen(entry); };
-    grid_->kind_chosen = [this](int entry) { kind_chosen(entry); };
-    grid_->position_chosen = [this](int entry) { position_chosen(entry); };
-    grid_->penalty_chosen = [this](int entry) { penalty_chosen(entry); };
-    grid_->yes_or_no_chosen = [this](int entry) { yes_or_no_chosen(entry == 0); };
-    grid_->column_updated = [this](int column) { column_updated(column); };
+    choices_.next_shot = [this] { next_shot(); };
+    choices_.last_column_chosen = [this] { next_button_->setFocus(Qt::TabFocusReason); };
 }
 
 bool detailed_page::finish_typing()
@@ -233,65 +228,6 @@ void detailed_page::summarise_hole()
         return;
     grid_->ReBind();
     call_if_set(summarised, *summary);
-}
-
-void detailed_page::club_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_club(entry, grid_->club_name(entry));
-    grid_->ReBind();
-    grid_->set_Col(shot_grid::distance_column);
-}
-
-void detailed_page::kind_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_kind(entry);
-    if (entry == putt) {
-        next_shot();
-        // The current row is the new shot, or the same one if the message was shown.
-        current_shot::make_putt();
-    }
-    grid_->ReBind();
-    grid_->set_Col(entry == putt ? shot_grid::distance_column : shot_grid::kind_column);
-}
-
-void detailed_page::position_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_position(entry);
-    grid_->ReBind();
-    grid_->set_Col(grid_->Col() + 1);
-}
-
-void detailed_page::penalty_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_penalty(entry);
-    next_button_->setFocus(Qt::TabFocusReason);
-    grid_->ReBind();
-}
-
-void detailed_page::yes_or_no_chosen(bool yes)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_yes_or_no(grid_->bound_model().column(grid_->Col()).field, yes);
-    grid_->ReBind();
-    grid_->set_Col(grid_->Col() + 1);
-}
-
-void detailed_page::column_updated(int column)
-{
-    current_shot::set_par(hole_().card.par);
-    if (column == shot_grid::distance_column && current_shot::distance_changed())
-        next_shot();
-    grid_->ReBind();
-    grid_->set_Col(entry_.PUT_MODE() ? shot_grid::club_column : shot_grid::unit_column);
 }
 
 void detailed_page::show_finish_button(bool visible)

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "round/shot_choices.h"
 #include "round/shot_entry.h"
 
 class QLayout;
@@ -92,18 +93,12 @@ private:
     void show_incomplete(const QString& number);
     void start_hole_again();
 
-    void club_chosen(int entry);
-    void kind_chosen(int entry);
-    void position_chosen(int entry);
-    void penalty_chosen(int entry);
-    void yes_or_no_chosen(bool yes);
-    void column_updated(int column);
-
     Form& window_;
     shot_rows& rows_;
     std::function<hole_on_screen()> hole_;
     shot_entry entry_;
     shot_grid* grid_;
+    shot_choices choices_;
     QPushButton* next_button_ = nullptr;
     QPushButton* remove_button_ = nullptr;
     QPushButton* finish_button_ = nullptr;

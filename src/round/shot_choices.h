@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+
+#include "round/shot_entry.h"
+
+namespace verdane {
+
+class shot_grid;
+
+/// Stores what the user chooses from the menus of the grid or types into its cells, in the shot under the
+/// cursor, and moves the cursor to the next cell.
+class shot_choices {
+public:
+    /// The arguments must outlive the object. `hole` returns the hole on screen.
+    shot_choices(shot_grid& grid, const shot_rows& rows, const shot_entry& entry,
+                 std::function<hole_on_screen()> hole);
+    shot_choices(const shot_choices&) = delete;
+    shot_choices& operator=(const shot_choices&) = delete;
+
+    /// Adds the next shot: after the distance of the last putt, and when a shot becomes a putt.
+    std::function<void()> next_shot;
+    /// Runs when the penalty was chosen, the last column of a shot.
+    std::function<void()> last_column_chosen;
+
+private:
+    void club_chosen(int entry);
+    void kind_chosen(int entry);
+    void position_chosen(int entry);
+    void penalty_chosen(int entry);
+    void yes_or_no_chosen(bool yes);
+    void column_updated(int column);
+
+    shot_grid& grid_;
+    const shot_rows& rows_;
+    const shot_entry& entry_;
+    std::function<hole_on_screen()> hole_;
+};
+
+}  // namespace verdane
