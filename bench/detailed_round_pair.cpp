@@ -39,7 +39,7 @@ void open_detailed_page(benchmark::State& state)
         in_round_window(testing::key_in_diary(round_in_diary), [&](f_new_round& window) {
             Form::paint_now();
             const stopwatch watch;
-            window.pages().page_tabs().click(static_cast<int>(round_page::detailed));
+            window.pages().click(round_page::detailed);
             Form::paint_now();
             state.SetIterationTime(watch.seconds());
         });

@@ -31,19 +31,19 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
         Form::paint_now();
     };
     // The first commit of a connection creates the log, once per start; it is not measured.
-    TabStrip& tabs = window.holes().hole_tabs();
+    hole_bar& holes = window.holes();
     int hole = 2;
     change_hole();
-    tabs.click(hole);
+    holes.click_tab(hole);
     for (auto _ : state) {
         change_hole();
         hole = hole % hole_count + 1;
         const stopwatch watch;
-        tabs.click(hole);
+        holes.click_tab(hole);
         if (end == hole_seen::painted)
             Form::paint_now();
         state.SetIterationTime(watch.seconds());
-        if (tabs.selected() != hole)
+        if (holes.selected_tab() != hole)
             state.SkipWithError("the hole was not left");
     }
 }

@@ -29,7 +29,7 @@ void in_round_window(const QString& key, const std::function<void(f_new_round&)>
 void on_detailed_page_of(const QString& key, const std::function<void(f_new_round&)>& work)
 {
     in_round_window(key, [&](f_new_round& window) {
-        window.pages().page_tabs().click(static_cast<int>(round_page::detailed));
+        window.pages().click(round_page::detailed);
         Form::paint_now();
         work(window);
     });

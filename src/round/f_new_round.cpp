@@ -15,6 +15,7 @@
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/statistics_pane.h"
+#include "round/tab_keys.h"
 #include "round/tee_off.h"
 
 namespace verdane {
@@ -81,7 +82,7 @@ void f_new_round::lay_out()
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     page->setSpacing(gap_between_rows);
-    page->addWidget(&holes_->hole_tabs());
+    page->addWidget(holes_->tab_strip());
     page->addWidget(scrolled(content), 1);
     page->addLayout(make_bottom());
     order_for_tab_key();
@@ -133,10 +134,10 @@ void f_new_round::order_for_tab_key()
 void f_new_round::connect_panes()
 {
     holes_->list_changed = [this] { f_new_round_func::hole_chosen(*this); };
-    holes_->hole_tabs().before_click = [this] { return f_new_round_func::hole_tab_before_click(*this); };
-    holes_->hole_tabs().clicked = [this] { f_new_round_func::hole_tab_clicked(*this); };
-    pages_->page_tabs().before_click = [this] { return detailed_->finish_typing(); };
-    pages_->page_tabs().clicked = [this] { f_new_round_func::page_changed(*this); };
+    holes_->before_tab_click = [this] { return f_new_round_func::hole_tab_before_click(*this); };
+    holes_->tab_clicked = [this] { f_new_round_func::hole_tab_clicked(*this); };
+    pages_->before_tab_click = [this] { return detailed_->finish_typing(); };
+    pages_->tab_clicked = [this] { f_new_round_func::page_changed(*this); };
     pages_->shots_clicked = [this] { f_new_round_func::open_shots_of_hole(*this); };
     pages_->putts_clicked = [this] { f_new_round_func::report_putts(*this); };
     quick_->figure_changed = [this] { f_new_round_func::refresh_panel(*this, quick_->figures()); };
@@ -154,7 +155,7 @@ void f_new_round::connect_window()
     for (const auto& [index, button] : end_buttons_.members())
         on_click(*button, [this, pressed = index] { f_new_round_func::on_ok_cancel(*this, pressed); });
     set_cancel_button(end_buttons_(cancel));
-    watch_tab_keys(*this, holes_->hole_tabs(), pages_->page_tabs());
+    watch_tab_keys(*this, *holes_, *pages_);
 }
 
 /// Hides one page before it shows the other: both at once would enlarge the window beyond the screen

@@ -11,6 +11,7 @@
 #include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/look.h"
+#include "controls/TabStrip.h"
 #include "scoring/hole_arithmetic.h"
 #include "scoring/limits.h"
 
@@ -77,6 +78,8 @@ hole_bar::hole_bar(Form& window) : hole_tabs_(make_hole_tabs(window))
     add_date(*line, window);
     course_name_box_ = add_hidden(index_of::course_name);
     hole_box_ = add_hidden(index_of::hole);
+    hole_tabs_->before_click = [this] { return !before_tab_click || before_tab_click(); };
+    hole_tabs_->clicked = [this] { call_if_set(tab_clicked); };
     on_select(*hole_list_, [this] { call_if_set(list_changed); });
 }
 
@@ -121,6 +124,26 @@ void hole_bar::add_date(QHBoxLayout& line, const Form& window)
     for (QLineEdit* box : {date_box_, time_box_})
         box->setAlignment(Qt::AlignCenter);
     line.addWidget(date_button_);
+}
+
+QWidget* hole_bar::tab_strip() const
+{
+    return hole_tabs_;
+}
+
+int hole_bar::selected_tab() const
+{
+    return hole_tabs_->selected();
+}
+
+void hole_bar::click_tab(int hole)
+{
+    hole_tabs_->click(hole);
+}
+
+void hole_bar::set_tab_tip(const QString& text)
+{
+    hole_tabs_->setToolTip(text);
 }
 
 void hole_bar::fill_list()

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "controls/control_array.h"
-#include "controls/TabStrip.h"
 #include "records/round_rows.h"
 
 class QComboBox;
@@ -18,6 +17,7 @@ class QPushButton;
 namespace verdane {
 
 class Form;
+class TabStrip;
 
 /// The hole on screen: the tabs and the list that choose it, its card, and when the round was teed off.
 /// Holes are numbered 1 to 18.
@@ -28,8 +28,18 @@ public:
     /// Runs after each change of the list's entry, by the user or by the program.
     std::function<void()> list_changed;
 
-    /// The hole tabs, which the window places above its other content.
-    TabStrip& hole_tabs() const { return *hole_tabs_; }
+    /// Runs before a click on a tab is accepted; false keeps the selected tab.
+    std::function<bool()> before_tab_click;
+    /// Runs after a click on a tab, also on the selected one.
+    std::function<void()> tab_clicked;
+
+    /// The row of tabs, which the window places above its other content.
+    QWidget* tab_strip() const;
+    /// The hole whose tab is selected.
+    int selected_tab() const;
+    /// Acts as a click on the tab of a hole.
+    void click_tab(int hole);
+    void set_tab_tip(const QString& text);
 
     /// Fills the list and selects hole 1 in it, which runs `list_changed`.
     void fill_list();

@@ -48,7 +48,7 @@ void go_to_quick_page(f_new_round& window)
     window.show_page(round_page::quick);
     // When the window is to be closed, the tab of the other page is still selected.
     window.pages().select(round_page::quick);
-    window.holes().select_in_list(window.holes().hole_tabs().selected());
+    window.holes().select_in_list(window.holes().selected_tab());
     enable_save_and_close(true);
     window.quick().focus_first_box();
 }
@@ -99,7 +99,7 @@ void hole_chosen(f_new_round& window)
         return;
     }
     window.holes().select_in_list_silently(shown);
-    window.holes().hole_tabs().click(chosen);
+    window.holes().click_tab(chosen);
 }
 
 bool hole_tab_before_click(f_new_round& window)
@@ -114,7 +114,7 @@ void hole_tab_clicked(f_new_round& window)
 {
     // Without an event of the list: a click on the tab of the hole on screen, which does not change the list,
     // saves the boxes, too.
-    window.holes().select_in_list_silently(window.holes().hole_tabs().selected());
+    window.holes().select_in_list_silently(window.holes().selected_tab());
     hole_selected(window);
     if (!window.on_detailed_page())
         window.quick().focus_first_box();

@@ -5,13 +5,12 @@
 #include <functional>
 #include <vector>
 
-#include "controls/TabStrip.h"
-
 class QPushButton;
 
 namespace verdane {
 
 class Form;
+class TabStrip;
 
 /// The pages of the round window, numbered as their tabs are.
 enum class round_page { quick = 1, detailed = 2 };
@@ -25,9 +24,16 @@ public:
     std::function<void()> putts_clicked;
     std::function<void()> shots_clicked;
 
-    TabStrip& page_tabs() const { return *page_tabs_; }
+    /// Runs before a click on a tab is accepted; false keeps the selected page.
+    std::function<bool()> before_tab_click;
+    /// Runs after a click on a tab, also on the selected one.
+    std::function<void()> tab_clicked;
+
     bool is_selected(round_page page) const;
     void select(round_page page);
+    /// Acts as a click on the tab of a page.
+    void click(round_page page);
+    void set_tab_tip(round_page page, const QString& text);
 
     /// The controls in the order of the Tab key.
     std::vector<QWidget*> tab_order() const;
@@ -37,11 +43,5 @@ private:
     QPushButton* shots_button_;
     QPushButton* putts_button_;
 };
-
-/// Makes PageDown and PageUp click the tab of the next and the previous hole, and Ctrl+1 and Ctrl+2 the tab
-/// of a page, whichever control of the window has the focus. Before the first hole and after the last one the
-/// bell rings. An open menu or list keeps its keys. A key that is held down acts once. The keys are in the
-/// list of F1 and in the tool tips of the tabs.
-void watch_tab_keys(Form& window, TabStrip& hole_tabs, TabStrip& page_tabs);
 
 }  // namespace verdane
