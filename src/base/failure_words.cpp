@@ -1,5 +1,7 @@
 #include "base/failure_words.h"
 
+#include "base/source_failure_words.h"
+
 namespace verdane {
 
 text_pair failure_words(failure_kind kind)
@@ -54,6 +56,20 @@ text_pair failure_words(failure_kind kind)
     case failure_kind::store_other:
         return {u"Le journal a refusé une opération. Ce qui était enregistré est intact.",
                 u"The diary refused an operation. What was saved is intact."};
+    case failure_kind::source_unknown:
+    case failure_kind::source_driver:
+    case failure_kind::source_password:
+    case failure_kind::source_database:
+    case failure_kind::source_stopped:
+    case failure_kind::source_silent:
+    case failure_kind::source_engine:
+    case failure_kind::source_case:
+    case failure_kind::source_table:
+    case failure_kind::source_column:
+    case failure_kind::source_read_only:
+    case failure_kind::source_full:
+    case failure_kind::source_lost:
+        return source_failure_words(kind);
     case failure_kind::report_template:
         return {u"Le modèle du rapport manque ou contient une erreur. Vos données sont intactes.",
                 u"The report's template is missing or contains an error. Your data are intact."};

@@ -21,6 +21,19 @@ enum class failure_kind {
     store_full,         ///< the disk is full
     store_unreachable,  ///< the file or the data source cannot be opened
     store_other,        ///< any other error of the engine
+    source_unknown,     ///< no ODBC data source of that name is registered
+    source_driver,      ///< the driver of the source is missing or cannot be loaded
+    source_password,    ///< the server refuses the account or its password
+    source_database,    ///< the source names no database, or one that the account cannot use
+    source_stopped,     ///< no server accepts the connection
+    source_silent,      ///< the server did not answer in time while the source was opened
+    source_engine,      ///< the source belongs to an engine that the program does not support
+    source_case,        ///< the server distinguishes the case of table names
+    source_table,       ///< the source lacks some of the tables
+    source_column,      ///< a table of the source lacks a column, or has it in another place
+    source_read_only,   ///< the account may not write
+    source_full,        ///< the disk of the server is full
+    source_lost,        ///< the connection to the server was lost
     report_template,    ///< a report template is missing or contains an error
     report_output,      ///< a report could not be written or printed
 };

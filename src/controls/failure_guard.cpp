@@ -46,6 +46,19 @@ bool is_failure_of_store(failure_kind kind)
     case failure_kind::store_full:
     case failure_kind::store_unreachable:
     case failure_kind::store_other:
+    case failure_kind::source_unknown:
+    case failure_kind::source_driver:
+    case failure_kind::source_password:
+    case failure_kind::source_database:
+    case failure_kind::source_stopped:
+    case failure_kind::source_silent:
+    case failure_kind::source_engine:
+    case failure_kind::source_case:
+    case failure_kind::source_table:
+    case failure_kind::source_column:
+    case failure_kind::source_read_only:
+    case failure_kind::source_full:
+    case failure_kind::source_lost:
         return true;
     default:
         return false;

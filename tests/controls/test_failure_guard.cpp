@@ -95,6 +95,8 @@ private Q_SLOTS:
         QTest::newRow("refused row") << failure_kind::store_other << true;
         QTest::newRow("full disk") << failure_kind::store_full << true;
         QTest::newRow("missing table") << failure_kind::missing_table << true;
+        QTest::newRow("lost connection to the server") << failure_kind::source_lost << true;
+        QTest::newRow("account that may not write") << failure_kind::source_read_only << true;
         QTest::newRow("closed recordset") << failure_kind::misuse << true;
         QTest::newRow("count beyond its range") << failure_kind::overflow << false;
         QTest::newRow("index outside its list") << failure_kind::subscript << false;
