@@ -84,7 +84,7 @@ void Connection1::Execute(const QString& statement)
     need_soundness();
     const lock_wait::limit wait(*waiting_, lock_wait::default_time_out_s);
     QSqlQuery query(database());
-    if (!query.exec(statement))
+    if (!query.exec(engine_->as_sent(statement)))
         throw engine_->failure(query.lastError(), statement);
 }
 

@@ -71,11 +71,14 @@ public:
     lock_wait& waiting() const { return *waiting_; }
 
 private:
+    friend class joined_commits;
     friend class relaxed_commits;
+    friend class single_commit;
 
     /// Qt's name for this connection. Tests open several in one process.
     const QString name_;
     int relaxations_ = 0;
+    bool in_transaction_ = false;
     store_location location_;
     std::unique_ptr<lock_wait> waiting_;
     /// Null while the connection is closed.

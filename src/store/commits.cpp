@@ -2,10 +2,14 @@
 
 #include <QSqlQuery>
 
+#include "base/run_time_failure.h"
+
 #include "store/Connection1.h"
 #include "store/engines/engine.h"
 
 namespace verdane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,11 +31,20 @@ void roll_back(const Connection1& connection)
         run(connection, statements_of(connection).undo);
 }
 
+/// Begins a transaction. Fails with `store_other` within another: some engines would commit that one.
+void begin(Connection1& connection, bool& open, const QString& statement)
+{
+    if (open)
+        throw run_time_failure(failure_kind::store_other, u"a transaction within another"_s);
+    connection.Execute(statement);
+    open = true;
+}
+
 }  // namespace
 
 single_commit::single_commit(Connection1& connection) : connection_(connection)
 {
-    connection_.Execute(statements_of(connection_).begin_locked);
+    begin(connection_, connection_.in_transaction_, statements_of(connection_).begin_locked);
 }
 
 single_commit::~single_commit()
@@ -39,6 +52,7 @@ single_commit::~single_commit()
     // Fails if the engine has ended the transaction by itself, which has the same result.
     if (!done_)
         roll_back(connection_);
+    connection_.in_transaction_ = false;
 }
 
 void single_commit::finish()
@@ -49,7 +63,7 @@ void single_commit::finish()
 
 joined_commits::joined_commits(Connection1& connection) : connection_(connection)
 {
-    connection_.Execute(statements_of(connection_).begin);
+    begin(connection_, connection_.in_transaction_, statements_of(connection_).begin);
 }
 
 joined_commits::~joined_commits()
@@ -57,6 +71,7 @@ joined_commits::~joined_commits()
     // Both fail if the engine has ended the transaction by itself.
     if (!finished_ && connection_.is_open() && !run(connection_, statements_of(connection_).finish))
         roll_back(connection_);
+    connection_.in_transaction_ = false;
 }
 
 void joined_commits::finish()

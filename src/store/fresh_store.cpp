@@ -154,6 +154,7 @@ void create_tables(Connection1& connection)
     try {
         create_tables_and_indexes(connection);
         connection.Execute(statements.finish);
+        connection.engine().tables_created();
     } catch (...) {
         // Fails if the engine has ended the transaction by itself, which has the same result.
         QSqlQuery(connection.database()).exec(statements.undo);

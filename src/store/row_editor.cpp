@@ -72,7 +72,7 @@ void row_editor::commit_all()
     const lock_wait::limit wait = time_out();
     single_commit together(connection);
     for (const auto& row : removed_)
-        erase_row(connection, set, row->number, where());
+        erase_row(connection, set, *row, where());
     for (const recordset_row* row : pending)
         numbers.push_back(write_row(connection, set, *row, where()));
     together.finish();
@@ -153,7 +153,7 @@ void row_editor::remove()
     const bool in_store = !row.pending || !row.pending->is_new;
     if (in_store && !batch()) {
         const lock_wait::limit wait = time_out();
-        erase_row(connection, set, row.number, where());
+        erase_row(connection, set, row, where());
     }
     const auto index = static_cast<std::size_t>(place);
     if (in_store && batch()) {

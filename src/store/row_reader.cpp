@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "store/Connection1.h"
@@ -57,15 +58,33 @@ void read_columns(row_set& set, const QSqlRecord& record)
     }
 }
 
-/// The engine returns every whole number in 64 bits. In memory a cell has the type of its column, so that
+/// A whole number of any width; nothing if the value is none.
+std::optional<qlonglong> whole_number(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::LongLong:
+        return *static_cast<const qlonglong*>(value.constData());
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::ULongLong:
+        return value.toLongLong();
+    default:
+        return std::nullopt;
+    }
+}
+
+/// Engines return whole numbers in various widths. In memory a cell has the type of its column, so that
 /// reading needs no conversion. A value of another type than the declared one is not changed.
 QVariant in_column_type(QVariant value, column_type type)
 {
     if (value.isNull())
         return {};
-    if (value.typeId() != QMetaType::LongLong)
+    const std::optional<qlonglong> whole = whole_number(value);
+    if (!whole)
         return value;
-    const qlonglong number = *static_cast<const qlonglong*>(value.constData());
+    const qlonglong number = *whole;
     if (type == column_type::yes_no)
         return number != 0;
     if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max())
@@ -95,11 +114,14 @@ row_stream::row_stream(const Connection1& connection, const QString& statement, 
       shape_(read_select(statement)),
       query_(connection.database())
 {
+    const store_engine& engine = connection.engine();
     shape_.updatable = shape_.updatable && use == row_use::read_and_write;
-    const QString identity = shape_.updatable ? connection.engine().identity_column(shape_.table) : QString();
+    const QString identity = shape_.updatable ? engine.identity_column(shape_.table) : QString();
     has_numbers_ = !identity.isEmpty();
+    const QString complete =
+        has_numbers_ ? engine.select_with_identity(statement, shape_, identity) : statement;
     query_.setForwardOnly(true);
-    if (!query_.exec(has_numbers_ ? with_row_number(statement, shape_, identity) : statement))
+    if (!query_.exec(engine.as_sent(complete)))
         throw connection_.engine().failure(query_.lastError(), where_);
 }
 

@@ -1,5 +1,7 @@
 #include "store/row_writer.h"
 
+#include <numeric>
+
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
 #include "store/engines/engine.h"
@@ -29,7 +31,8 @@ std::vector<int> changed_columns(const recordset_row& row)
     return changed;
 }
 
-std::vector<int> written_columns(const recordset_row& row)
+/// The columns with a value in the statement that inserts a row.
+std::vector<int> written_columns(const row_set& set, const recordset_row& row)
 {
     std::vector<int> written;
     written.reserve(row.pending->before.size());
@@ -38,6 +41,11 @@ std::vector<int> written_columns(const recordset_row& row)
     // An insertion needs at least one column. A column that was not written has its default.
     if (written.empty())
         written.push_back(0);
+    // Without a number the row is found again by its values, so the defaults of the table must not apply.
+    if (!set.has_numbers) {
+        written.resize(set.columns.size());
+        std::iota(written.begin(), written.end(), 0);
+    }
     return written;
 }
 
@@ -51,17 +59,42 @@ statement_with_values start_statement(QStringView words, const row_set& set, std
     return statement;
 }
 
-/// Appends the condition that selects the row with that number.
-void add_identity(const store_engine& engine, statement_with_values& statement, const row_set& set,
-                  qint64 number)
+/// The value that the store has in a column of the row.
+const QVariant& stored_value(const recordset_row& row, int ordinal)
 {
-    statement.text += u" WHERE " + engine.identity_column(set.shape.table) + u'=';
-    engine.add_value(statement, number);
+    if (row.pending) {
+        for (const auto& [changed, before] : row.pending->before) {
+            if (changed == ordinal)
+                return before;
+        }
+    }
+    return cell(row, ordinal);
+}
+
+/// Appends the condition that selects the row: by its number, or by all its values if its table has no column
+/// that identifies a row.
+void add_identity(const store_engine& engine, statement_with_values& statement, const row_set& set,
+                  const recordset_row& row)
+{
+    statement.text += u" WHERE ";
+    if (set.has_numbers) {
+        statement.text += engine.identity_column(set.shape.table) + u'=';
+        engine.add_value(statement, row.number);
+        return;
+    }
+    QStringView before = u"";
+    for (int ordinal = 0; ordinal < static_cast<int>(set.columns.size()); ++ordinal) {
+        statement.text += before;
+        engine.add_comparison(statement, column_name(set, ordinal), stored_value(row, ordinal));
+        before = u" AND ";
+    }
+    // Two rows with the same values are exchangeable.
+    statement.text += QStringView(u" LIMIT 1");
 }
 
 qint64 insert_row(store_engine& engine, const row_set& set, const recordset_row& row, const QString& where)
 {
-    const std::vector<int> written = written_columns(row);
+    const std::vector<int> written = written_columns(set, row);
     statement_with_values statement = start_statement(u"INSERT INTO ", set, written.size());
     QStringView before = u" (`";
     for (const int ordinal : written) {
@@ -76,7 +109,10 @@ qint64 insert_row(store_engine& engine, const row_set& set, const recordset_row&
         before = u",";
     }
     statement.text += u')';
-    return engine.insert(statement, where);
+    if (set.has_numbers)
+        return engine.insert(statement, where);
+    engine.change(statement, where);
+    return 0;
 }
 
 void update_row(store_engine& engine, const row_set& set, const recordset_row& row, const QString& where)
@@ -93,7 +129,7 @@ void update_row(store_engine& engine, const row_set& set, const recordset_row& r
         engine.add_value(statement, cell(row, ordinal));
         before = u",`";
     }
-    add_identity(engine, statement, set, row.number);
+    add_identity(engine, statement, set, row);
     if (engine.change(statement, where) == 0)
         throw run_time_failure(failure_kind::misuse, QString(where + u": the row is no longer in the store"));
 }
@@ -110,11 +146,12 @@ qint64 write_row(const Connection1& connection, const row_set& set, const record
     return row.number;
 }
 
-void erase_row(const Connection1& connection, const row_set& set, qint64 number, const QString& where)
+void erase_row(const Connection1& connection, const row_set& set, const recordset_row& row,
+               const QString& where)
 {
     connection.need_soundness();
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
-    add_identity(connection.engine(), statement, set, number);
+    add_identity(connection.engine(), statement, set, row);
     connection.engine().change(statement, where);
 }
 

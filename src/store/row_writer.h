@@ -14,6 +14,7 @@ qint64 write_row(const Connection1& connection, const row_set& set, const record
                  const QString& where);
 
 /// Deletes the row. A row that no longer exists is no failure.
-void erase_row(const Connection1& connection, const row_set& set, qint64 number, const QString& where);
+void erase_row(const Connection1& connection, const row_set& set, const recordset_row& row,
+               const QString& where);
 
 }  // namespace verdane

@@ -6,6 +6,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct token {
@@ -127,12 +129,19 @@ select_statement read_select(QStringView statement)
     const bool is_name = is_word(table->text[0]) || is_quote(table->text[0]);
     if (!is_name || !plain_columns(tokens.begin() + 1, from) || !plain_rest(table + 1, tokens.end()))
         return {};
-    return {true, bare_name(table->written), tokens[1].at};
+    return {true, bare_name(table->written), tokens[1].at, from->at};
 }
 
 QString with_row_number(const QString& statement, const select_statement& shape, const QString& identity)
 {
     return statement.first(shape.columns_at) + identity + u", " + statement.sliced(shape.columns_at);
+}
+
+QString with_qualified_columns(const QString& statement, const select_statement& shape)
+{
+    QString columns = statement.sliced(shape.columns_at, shape.columns_end - shape.columns_at);
+    columns.replace(u"*"_s, u'`' + shape.table + u"`.*");
+    return statement.first(shape.columns_at) + columns + statement.sliced(shape.columns_end);
 }
 
 }  // namespace verdane

@@ -15,6 +15,8 @@ struct select_statement {
     QString table;
     /// The position of the list of columns in the text; 0 if not updatable.
     qsizetype columns_at = 0;
+    /// The position after that list; 0 if not updatable.
+    qsizetype columns_end = 0;
 };
 
 /// Parses a statement to that extent. Case and blanks have no effect.
@@ -24,5 +26,9 @@ select_statement read_select(QStringView statement);
 /// statement.
 QString with_row_number(const QString& statement, const select_statement& shape,
                         const QString& identity = QStringLiteral("rowid"));
+
+/// The statement with each `*` in its list of columns after the name of the table: `select t.* from t`. Only
+/// for an updatable statement.
+QString with_qualified_columns(const QString& statement, const select_statement& shape);
 
 }  // namespace verdane

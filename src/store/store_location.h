@@ -18,7 +18,8 @@ struct store_location {
     bool operator==(const store_location&) const = default;
 };
 
-/// The store that the program opens: the file at `Connection1::default_path()`.
+/// The store that the program opens: the source of `Connection1::connection_string()` if it is registered,
+/// otherwise the file at `Connection1::default_path()`.
 store_location default_store();
 
 }  // namespace verdane

@@ -47,6 +47,13 @@ private Q_SLOTS:
         QCOMPARE(with_row_number(statement, shape), fetched);
     }
 
+    void every_star_of_the_columns_is_qualified_and_nothing_else()
+    {
+        const QString statement = QStringLiteral("Select *, date from Games where field='*' order by date");
+        QCOMPARE(with_qualified_columns(statement, read_select(statement)),
+                 QStringLiteral("Select `Games`.*, date from Games where field='*' order by date"));
+    }
+
     void anything_joined_grouped_or_computed_is_read_only_data()
     {
         QTest::addColumn<QString>("statement");

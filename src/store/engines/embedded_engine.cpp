@@ -178,10 +178,7 @@ qint64 embedded_engine::insert(const statement_with_values& statement, const QSt
 
 const commit_statements& embedded_engine::commits() const
 {
-    static const commit_statements statements{
-        u"BEGIN"_s,    u"BEGIN IMMEDIATE"_s,           u"COMMIT"_s,
-        u"ROLLBACK"_s, u"PRAGMA synchronous=NORMAL"_s, u"PRAGMA synchronous=FULL"_s};
-    return statements;
+    return sqlite_commits();
 }
 
 QString embedded_engine::table_ending() const

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "store/engines/embedded_engine.h"
+#include "store/engines/odbc_engine.h"
 
 namespace verdane {
 
@@ -27,6 +28,19 @@ void store_engine::close()
 bool store_engine::is_open() const
 {
     return QSqlDatabase::contains(name_) && database().isOpen();
+}
+
+QString store_engine::select_with_identity(const QString& statement, const select_statement& shape,
+                                           const QString& identity) const
+{
+    return with_row_number(statement, shape, identity);
+}
+
+void store_engine::add_comparison(statement_with_values& statement, const QString& column,
+                                  const QVariant& value) const
+{
+    statement.text += u'`' + column + u"` IS ";
+    add_value(statement, value);
 }
 
 QSqlDatabase store_engine::database() const
@@ -53,6 +67,8 @@ QString store_engine::first_value(const QString& question) const
 std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,
                                           lock_wait& waiting)
 {
+    if (where.where == store_location::place::source)
+        return engine_of_source(name, where);
     return std::make_unique<embedded_engine>(name, where, waiting);
 }
 

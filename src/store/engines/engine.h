@@ -2,12 +2,14 @@
 
 #include <QSqlDatabase>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <memory>
 
 #include "base/run_time_failure.h"
 #include "store/prepared_statements.h"
+#include "store/select_statement.h"
 #include "store/soundness_check.h"
 #include "store/store_location.h"
 
@@ -62,8 +64,20 @@ public:
     /// table has none.
     virtual QString identity_column(QStringView table) const = 0;
 
+    /// A statement whose rows can be written, with the column that identifies a row before the others.
+    virtual QString select_with_identity(const QString& statement, const select_statement& shape,
+                                         const QString& identity) const;
+
+    /// A statement in the dialect of the engine. Statements are written for the embedded engine.
+    virtual QString as_sent(const QString& statement) const { return statement; }
+
     /// Appends a value to a statement, as a parameter or as a literal.
     virtual void add_value(statement_with_values& statement, const QVariant& value) const = 0;
+
+    /// Appends a condition that holds if a column has that value, which may be Null. Texts are equal if all
+    /// their characters are.
+    virtual void add_comparison(statement_with_values& statement, const QString& column,
+                                const QVariant& value) const;
 
     /// Runs a statement that changes or deletes rows, and returns how many rows it found. Fails with the kind
     /// that fits the engine's error; its details contain `where` and the statement.
@@ -77,6 +91,12 @@ public:
 
     /// What follows the columns in the statement that creates a table, the closing parenthesis included.
     virtual QString table_ending() const = 0;
+
+    /// Called after the tables have been created. Fails with `source_table` if one of them is missing.
+    virtual void tables_created() {}
+
+    /// The tables of the store that have no column that identifies a row.
+    virtual QStringList tables_without_identity() const { return {}; }
 
     /// The failure that an error means. `where` names the statement and the recordset.
     virtual run_time_failure failure(const QSqlError& error, const QString& where) const = 0;
@@ -94,7 +114,8 @@ protected:
     const store_location where_;
 };
 
-/// The engine of a store, not open yet. `waiting` is how its statements wait for the lock of another program;
+/// The engine of a store, which is then to be opened. Fails like `engine_of_source` if the store is a source.
+/// `waiting` is how its statements wait for the lock of another program;
 /// it must exist as long as the engine.
 std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,
                                           lock_wait& waiting);

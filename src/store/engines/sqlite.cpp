@@ -5,6 +5,8 @@
 
 #include <cstring>
 
+#include "store/engines/engine.h"
+
 namespace verdane {
 
 using namespace Qt::StringLiterals;
@@ -86,6 +88,14 @@ sqlite3* engine_handle(const QSqlDatabase& database)
         throw run_time_failure(failure_kind::store_unreachable,
                                u"%1: no handle of the embedded engine"_s.arg(database.databaseName()));
     return *static_cast<sqlite3* const*>(handle.constData());
+}
+
+const commit_statements& sqlite_commits()
+{
+    static const commit_statements statements{
+        u"BEGIN"_s,    u"BEGIN IMMEDIATE"_s,           u"COMMIT"_s,
+        u"ROLLBACK"_s, u"PRAGMA synchronous=NORMAL"_s, u"PRAGMA synchronous=FULL"_s};
+    return statements;
 }
 
 run_time_failure store_failure(const QSqlError& error, const QString& where)

@@ -1,0 +1,186 @@
+#include "store/engines/mariadb_engine.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include "store/engines/mariadb_errors.h"
+#include "store/engines/odbc_link.h"
+#include "store/engines/sql_text.h"
+#include "store/schema.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How long opening waits for the lock of another program, in seconds. The server needs a moment to notice
+/// that a program was killed.
+constexpr int lock_time_out_s = 1;
+
+/// How long the server keeps a connection on which nothing is sent, in seconds; its default is 8 hours. The
+/// longest time that a server on every system accepts, some 24 days.
+constexpr int idle_time_out_s = 2'147'483;
+
+/// The tables have names in small letters if the server ignores case.
+constexpr QStringView case_setting = u"select @@lower_case_table_names";
+
+constexpr QStringView columns_of_tables =
+    u"select table_name, column_name from information_schema.columns where table_schema = database() "
+    u"order by table_name, ordinal_position";
+
+}  // namespace
+
+bool mariadb_engine::open(soundness_check)
+{
+    set_session();
+    check_server();
+    take_lock();
+    const source_tables found = read_tables();
+    const tables_found which = check_tables(found);
+    if (which == tables_found::some)
+        throw run_time_failure(failure_kind::source_table,
+                               u"%1: %2"_s.arg(where_.name, missing_tables(found).join(u", "_s)));
+    if (which == tables_found::all)
+        check_writable();
+    return which == tables_found::all;
+}
+
+void mariadb_engine::set_session() const
+{
+    // A backslash in a text is a backslash; a value that does not fit is an error.
+    run(u"set session sql_mode = 'STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION,NO_BACKSLASH_ESCAPES', "
+        u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
+            .arg(source_lock_time_out_s)
+            .arg(idle_time_out_s));
+}
+
+void mariadb_engine::check_server() const
+{
+    if (first_value(u"select database()"_s).isEmpty())
+        throw run_time_failure(failure_kind::source_database, where_.name);
+    if (first_value(case_setting.toString()) == u"0")
+        throw run_time_failure(failure_kind::source_case,
+                               QString(where_.name + u": lower_case_table_names = 0"));
+}
+
+void mariadb_engine::take_lock() const
+{
+    const QString question =
+        u"select get_lock(concat('verdane ', md5(database())), %1)"_s.arg(lock_time_out_s);
+    if (first_value(question) != u"1")
+        throw run_time_failure(failure_kind::store_locked, where_.name);
+}
+
+source_tables mariadb_engine::read_tables()
+{
+    QSqlQuery query(database());
+    query.setForwardOnly(true);
+    const QString question = columns_of_tables.toString();
+    if (!query.exec(question))
+        throw failure(query.lastError(), question);
+    source_tables found;
+    identified_.clear();
+    while (query.next()) {
+        const QString table = query.value(0).toString().toLower();
+        const QString column = query.value(1).toString();
+        if (column == row_column())
+            identified_ << table;
+        else
+            found[table] << column;
+    }
+    return found;
+}
+
+void mariadb_engine::check_writable() const
+{
+    // An account that may only read opens the source without an error. This changes nothing.
+    run(u"update settings set language = language"_s);
+}
+
+void mariadb_engine::tables_created()
+{
+    // Every statement that creates a table is committed by itself.
+    const QStringList missing = missing_tables(read_tables());
+    if (!missing.isEmpty())
+        throw run_time_failure(failure_kind::source_table,
+                               u"%1: %2"_s.arg(where_.name, missing.join(u", "_s)));
+}
+
+QStringList mariadb_engine::tables_without_identity() const
+{
+    QStringList names;
+    for (const table& declared : schema()) {
+        if (!identified_.contains(declared.name.toLower()))
+            names << declared.name;
+    }
+    return names;
+}
+
+QString mariadb_engine::identity_column(QStringView table) const
+{
+    return identified_.contains(table.toString().toLower()) ? row_column() : QString();
+}
+
+QString mariadb_engine::select_with_identity(const QString& statement, const select_statement& shape,
+                                             const QString& identity) const
+{
+    // The server refuses `column, *`.
+    return with_row_number(with_qualified_columns(statement, shape), shape, identity);
+}
+
+void mariadb_engine::add_comparison(statement_with_values& statement, const QString& column,
+                                    const QVariant& value) const
+{
+    // The texts of a table that was made by someone else may be compared without regard to case.
+    if (value.typeId() == QMetaType::QString)
+        statement.text += u"CONVERT(`" + column + u"` USING utf8mb4) COLLATE utf8mb4_nopad_bin <=> ";
+    else
+        statement.text += u'`' + column + u"` <=> ";
+    add_value(statement, value);
+}
+
+qint64 mariadb_engine::insert(const statement_with_values& statement, const QString& where)
+{
+    const QString text = statement.text + u" RETURNING " + row_column();
+    QSqlQuery query(database());
+    query.setForwardOnly(true);
+    if (!query.exec(text) || !query.next())
+        throw failure(query.lastError(), where + u" [" + text + u']');
+    return query.value(0).toLongLong();
+}
+
+const commit_statements& mariadb_engine::commits() const
+{
+    static const commit_statements statements{
+        u"START TRANSACTION"_s, u"START TRANSACTION"_s, u"COMMIT"_s, u"ROLLBACK"_s, QString(), QString()};
+    return statements;
+}
+
+QString mariadb_engine::table_ending() const
+{
+    return u", %1 BIGINT AUTO_INCREMENT PRIMARY KEY INVISIBLE) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 "
+           u"COLLATE=utf8mb4_nopad_bin"_s.arg(row_column());
+}
+
+run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& where) const
+{
+    const int code = native_code(error);
+    const QString text = error.databaseText();
+    const QString shown = text.isEmpty() ? u"connection lost"_s : text;
+    return {kind_of_mariadb_error(code, text),
+            QString(where + u": " + shown + u" (" + error.nativeErrorCode() + u')')};
+}
+
+QString mariadb_engine::text_literal(QStringView text) const
+{
+    return u"_utf8mb4 " + hex_literal(text);
+}
+
+QString mariadb_engine::in_dialect(const QString& part) const
+{
+    // Whole numbers divided give a whole number on the embedded engine, and a fraction here.
+    return QString(part).replace(u"/"_s, u" DIV "_s);
+}
+
+}  // namespace verdane

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QSet>
+
+#include "store/engines/odbc_engine.h"
+#include "store/engines/source_tables.h"
+
+namespace verdane {
+
+/// A MariaDB server. The tables of the program have an invisible column that identifies a row. Rows of tables
+/// that were made without it are identified by all their values.
+class mariadb_engine : public odbc_engine {
+public:
+    /// The column that identifies a row.
+    static QString row_column() { return QStringLiteral("verdane_row"); }
+
+    using odbc_engine::odbc_engine;
+
+    /// Fails with `store_locked`, `source_case`, `source_database`, `source_table`, `source_column`,
+    /// `source_read_only` or `source_lost`.
+    bool open(soundness_check check) override;
+
+    QString identity_column(QStringView table) const override;
+    QString select_with_identity(const QString& statement, const select_statement& shape,
+                                 const QString& identity) const override;
+    void add_comparison(statement_with_values& statement, const QString& column,
+                        const QVariant& value) const override;
+    qint64 insert(const statement_with_values& statement, const QString& where) override;
+    const commit_statements& commits() const override;
+    QString table_ending() const override;
+    run_time_failure failure(const QSqlError& error, const QString& where) const override;
+    void tables_created() override;
+    QStringList tables_without_identity() const override;
+
+protected:
+    QString text_literal(QStringView text) const override;
+    QString in_dialect(const QString& part) const override;
+
+private:
+    void set_session() const;
+    void check_server() const;
+    void take_lock() const;
+    source_tables read_tables();
+    void check_writable() const;
+
+    /// The tables with that column, in small letters.
+    QSet<QString> identified_;
+};
+
+}  // namespace verdane

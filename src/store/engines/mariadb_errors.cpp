@@ -1,0 +1,124 @@
+#include "store/engines/mariadb_errors.h"
+
+namespace verdane {
+
+namespace {
+
+// The documented numbers. Those from 2000 are of the client library.
+namespace code {
+constexpr int error_on_write = 3;
+constexpr int disk_full = 1021;
+constexpr int error_writing_file = 1026;
+constexpr int storage_error = 1030;
+constexpr int too_many_connections = 1040;
+constexpr int database_denied = 1044;
+constexpr int account_denied = 1045;
+constexpr int no_database_selected = 1046;
+constexpr int unknown_database = 1049;
+constexpr int server_shutdown = 1053;
+constexpr int unknown_column = 1054;
+constexpr int table_full = 1114;
+constexpr int host_blocked = 1129;
+constexpr int host_not_allowed = 1130;
+constexpr int table_denied = 1142;
+constexpr int column_denied = 1143;
+constexpr int no_such_table = 1146;
+constexpr int lock_wait_timeout = 1205;
+constexpr int deadlock = 1213;
+constexpr int privilege_missing = 1227;
+constexpr int read_only_server = 1290;
+constexpr int account_denied_without_password = 1698;
+constexpr int read_only_transaction = 1792;
+constexpr int read_only_mode = 1836;
+constexpr int connection_killed = 1927;
+constexpr int account_locked = 4151;
+constexpr int password_expired = 1862;
+constexpr int socket_refused = 2002;
+constexpr int host_refused = 2003;
+constexpr int unknown_host = 2005;
+constexpr int server_gone = 2006;
+constexpr int server_lost = 2013;
+constexpr int server_lost_extended = 2055;
+constexpr int connection_error = 5014;
+}  // namespace code
+
+/// The storage engine reports the error of the operating system in the text: 28 means that no space is left,
+/// 122 that the quota is used up.
+bool names_full_disk(const QString& text)
+{
+    return text.contains(u"28 ") || text.contains(u"Errcode: 28") || text.contains(u"No space left") ||
+           text.contains(u"122");
+}
+
+}  // namespace
+
+failure_kind kind_of_mariadb_opening(int number)
+{
+    switch (number) {
+    case code::account_denied:
+    case code::account_denied_without_password:
+    case code::host_not_allowed:
+    case code::account_locked:
+    case code::password_expired:
+        return failure_kind::source_password;
+    case code::database_denied:
+    case code::unknown_database:
+        return failure_kind::source_database;
+    case code::socket_refused:
+    case code::host_refused:
+    case code::unknown_host:
+    case code::too_many_connections:
+    case code::host_blocked:
+        return failure_kind::source_stopped;
+    case code::server_gone:
+    case code::server_lost:
+    case code::server_lost_extended:
+    case code::connection_error:
+        return failure_kind::source_silent;
+    default:
+        return failure_kind::store_unreachable;
+    }
+}
+
+failure_kind kind_of_mariadb_error(int number, const QString& text)
+{
+    switch (number) {
+    case 0:
+        // After the driver has reported that the connection is lost, it reports nothing.
+        return text.isEmpty() ? failure_kind::source_lost : failure_kind::store_other;
+    case code::server_shutdown:
+    case code::connection_killed:
+    case code::server_gone:
+    case code::server_lost:
+    case code::server_lost_extended:
+    case code::connection_error:
+        return failure_kind::source_lost;
+    case code::lock_wait_timeout:
+    case code::deadlock:
+        return failure_kind::store_locked;
+    case code::database_denied:
+    case code::table_denied:
+    case code::column_denied:
+    case code::privilege_missing:
+    case code::read_only_server:
+    case code::read_only_transaction:
+    case code::read_only_mode:
+        return failure_kind::source_read_only;
+    case code::no_such_table:
+    case code::unknown_column:
+        return failure_kind::missing_table;
+    case code::no_database_selected:
+        return failure_kind::source_database;
+    case code::disk_full:
+    case code::table_full:
+        return failure_kind::source_full;
+    case code::error_on_write:
+    case code::error_writing_file:
+    case code::storage_error:
+        return names_full_disk(text) ? failure_kind::source_full : failure_kind::store_other;
+    default:
+        return failure_kind::store_other;
+    }
+}
+
+}  // namespace verdane

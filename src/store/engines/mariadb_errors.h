@@ -1,0 +1,14 @@
+#pragma once
+
+#include "base/run_time_failure.h"
+
+/// The meaning of the error numbers of MariaDB and of its driver.
+namespace verdane {
+
+/// Of an error while the connection is opened.
+failure_kind kind_of_mariadb_opening(int code);
+
+/// Of an error of a statement. `text` is empty after the connection was lost.
+failure_kind kind_of_mariadb_error(int code, const QString& text);
+
+}  // namespace verdane

@@ -1,0 +1,67 @@
+#include "store/engines/odbc_engine.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include "store/engines/mariadb_engine.h"
+#include "store/engines/odbc_link.h"
+#include "store/engines/sql_text.h"
+#include "store/engines/sqlite_odbc_engine.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first value of a question; empty if the engine does not understand it.
+QString first_value_or_none(const QString& connection, const QString& question)
+{
+    QSqlQuery query(QSqlDatabase::database(connection, false));
+    return query.exec(question) && query.next() ? query.value(0).toString() : QString();
+}
+
+}  // namespace
+
+void odbc_engine::add_value(statement_with_values& statement, const QVariant& value) const
+{
+    statement.text += literal(value);
+}
+
+QString odbc_engine::literal(const QVariant& value) const
+{
+    if (value.typeId() != QMetaType::QString || value.isNull())
+        return literal_of_number(value);
+    const QString text = value.toString();
+    return is_plain_text(text) ? QString(u'\'' + text + u'\'') : text_literal(text);
+}
+
+int odbc_engine::change(const statement_with_values& statement, const QString& where)
+{
+    QSqlQuery query(database());
+    if (!query.exec(statement.text))
+        throw failure(query.lastError(), where + u" [" + statement.text + u']');
+    return query.numRowsAffected();
+}
+
+QString odbc_engine::as_sent(const QString& statement) const
+{
+    return rewritten(
+        statement, [this](const QString& text) { return text_literal(text); },
+        [this](const QString& part) { return in_dialect(part); });
+}
+
+std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where)
+{
+    open_link(name, where.name);
+    const QString server = first_value_or_none(name, u"select version()"_s);
+    if (server.contains(u"MariaDB", Qt::CaseInsensitive))
+        return std::make_unique<mariadb_engine>(name, where);
+    if (server.isEmpty() && !first_value_or_none(name, u"select sqlite_version()"_s).isEmpty())
+        return std::make_unique<sqlite_odbc_engine>(name, where);
+    QSqlDatabase::database(name, false).close();
+    QSqlDatabase::removeDatabase(name);
+    throw run_time_failure(failure_kind::source_engine, u"%1: %2"_s.arg(where.name, server));
+}
+
+}  // namespace verdane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "store/engines/engine.h"
+
+namespace verdane {
+
+/// What the engines of registered data sources share: the link through Qt's ODBC plug-in, and values as
+/// literals, because drivers do not agree about bound values. Statements contain nothing but ASCII: one of
+/// the drivers has no functions for other texts.
+class odbc_engine : public store_engine {
+public:
+    using store_engine::store_engine;
+
+    void add_value(statement_with_values& statement, const QVariant& value) const override;
+    int change(const statement_with_values& statement, const QString& where) override;
+    QString as_sent(const QString& statement) const override;
+
+protected:
+    /// A text that is not plain, as a literal of the engine.
+    virtual QString text_literal(QStringView text) const = 0;
+    /// A part of a statement outside its texts, in the dialect of the engine.
+    virtual QString in_dialect(const QString& part) const { return part; }
+
+    QString literal(const QVariant& value) const;
+};
+
+/// Opens a registered source and returns the engine for it, which is then still to be opened itself. Fails
+/// like `open_link`, and with `source_engine` if the source belongs to another engine.
+std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where);
+
+}  // namespace verdane

@@ -1,0 +1,71 @@
+#include "store/engines/odbc_link.h"
+
+#include <QSqlDatabase>
+#include <QSqlError>
+
+#include "store/engines/mariadb_errors.h"
+#include "store/engines/registered_source.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int cannot_open_file = 14;
+
+failure_kind kind_of_opening(const QSqlError& error)
+{
+    switch (native_code(error)) {
+    case 0:
+        // The manager found the source and could not use its driver.
+        return failure_kind::source_driver;
+    case cannot_open_file:
+        return failure_kind::store_unreachable;
+    default:
+        return kind_of_mariadb_opening(native_code(error));
+    }
+}
+
+/// Settings of the connection. They precede those of the source. A driver ignores what it does not know.
+QString settings_of_link()
+{
+    // OPTION=2: a row that an update found counts, even if no value changed.
+    return u";OPTION=2;AUTO_RECONNECT=0;CHARSET=utf8mb4;CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s
+        .arg(source_opening_time_out_s)
+        .arg(source_time_out_s);
+}
+
+}  // namespace
+
+void open_link(const QString& connection, const QString& source)
+{
+    if (!is_registered_source(source))
+        throw run_time_failure(failure_kind::source_unknown, source);
+    if (!QSqlDatabase::isDriverAvailable(u"QODBC"_s))
+        throw run_time_failure(failure_kind::source_driver, QString(source + u": no plug-in QODBC"));
+    QSqlError error;
+    {
+        QSqlDatabase link = QSqlDatabase::addDatabase(u"QODBC"_s, connection);
+        link.setDatabaseName(source + settings_of_link());
+        if (link.open())
+            return;
+        error = link.lastError();
+    }
+    QSqlDatabase::removeDatabase(connection);
+    const QString driver = setting_of_source(source, u"Driver"_s);
+    throw run_time_failure(kind_of_opening(error), u"%1 (%2): %3 (%4)"_s.arg(source, driver, text_of(error),
+                                                                             error.nativeErrorCode()));
+}
+
+int native_code(const QSqlError& error)
+{
+    return error.nativeErrorCode().toInt();
+}
+
+QString text_of(const QSqlError& error)
+{
+    return error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
+}
+
+}  // namespace verdane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include "base/run_time_failure.h"
+
+class QSqlError;
+
+/// The connection to a registered data source through Qt's ODBC plug-in.
+namespace verdane {
+
+/// How long the server may take to accept the connection, in seconds.
+constexpr int source_opening_time_out_s = 3;
+
+/// How long a server may take to send the result of a statement, in seconds; as long as the time-out of the
+/// recordsets. Afterwards the connection cannot be used any more.
+constexpr int source_time_out_s = 30;
+
+/// How long a statement waits on the server for the lock of another program, in seconds. Shorter than the
+/// time-out, so that the failure is that of the lock.
+constexpr int source_lock_time_out_s = 20;
+
+/// Opens the source under Qt's name `connection`. It is never opened again by itself: the lock of the program
+/// ends with the connection. Fails with `source_unknown`, `source_driver`, `source_password`,
+/// `source_database`, `source_stopped`, `source_silent` or `store_unreachable`. After a failure Qt does not
+/// know the connection.
+void open_link(const QString& connection, const QString& source);
+
+/// The code of the engine in an error; 0 for an error of the driver manager.
+int native_code(const QSqlError& error);
+
+/// The text of an error without that of Qt.
+QString text_of(const QSqlError& error);
+
+}  // namespace verdane

@@ -1,0 +1,63 @@
+#include "store/engines/registered_source.h"
+
+#include <QByteArray>
+#include <QLibrary>
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+#ifdef Q_OS_WIN
+#define VERDANE_ODBC_CALL __stdcall
+#else
+#define VERDANE_ODBC_CALL
+#endif
+
+/// `SQLGetPrivateProfileString` of the installer library: source, setting (null for the list of all), default
+/// value, buffer, its size, name of the file. It returns the number of bytes.
+using read_profile = int(VERDANE_ODBC_CALL*)(const char*, const char*, const char*, char*, int, const char*);
+
+QFunctionPointer resolve_reader()
+{
+    constexpr auto* reader = "SQLGetPrivateProfileString";
+#ifdef Q_OS_WIN
+    return QLibrary(u"odbccp32"_s).resolve(reader);
+#else
+    // The version is that of the package at run time; the name without one belongs to the development files.
+    return QLibrary(u"odbcinst"_s, 2).resolve(reader);
+#endif
+}
+
+/// Null if the library is not installed, in which case no source can be used.
+read_profile profile_reader()
+{
+    static const auto reader = reinterpret_cast<read_profile>(resolve_reader());
+    return reader;
+}
+
+QString profile(const QString& name, const char* setting)
+{
+    const read_profile read = profile_reader();
+    if (read == nullptr)
+        return {};
+    constexpr int most_bytes = 4096;
+    QByteArray value(most_bytes, '\0');
+    read(name.toLocal8Bit().constData(), setting, "", value.data(), most_bytes, "odbc.ini");
+    return QString::fromLocal8Bit(value.constData());
+}
+
+}  // namespace
+
+bool is_registered_source(const QString& name)
+{
+    return !profile(name, nullptr).isEmpty();
+}
+
+QString setting_of_source(const QString& name, const QString& setting)
+{
+    return profile(name, setting.toLatin1().constData());
+}
+
+}  // namespace verdane

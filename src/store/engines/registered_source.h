@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+/// What is registered on this computer about an ODBC data source. The settings are read through the installer
+/// library of the driver manager, which does not load the manager or a driver.
+namespace verdane {
+
+/// True if a source of that name is registered for the user or for the computer. Always false without the
+/// installer library.
+bool is_registered_source(const QString& name);
+
+/// A setting of a registered source (`Driver`, `Database`); empty if there is none.
+QString setting_of_source(const QString& name, const QString& setting);
+
+}  // namespace verdane

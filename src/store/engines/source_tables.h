@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+/// The check of the tables that a registered source has.
+namespace verdane {
+
+/// The names of the columns of each table in their order, by the name of the table in small letters.
+using source_tables = QHash<QString, QStringList>;
+
+/// How many tables of the store a source has.
+enum class tables_found { none, some, all };
+
+/// Compares the tables of the store with those of a source; other tables are ignored. Columns after the last
+/// declared one are ignored, too. Names have no case. Fails with `source_column` if a column is missing, has
+/// another name or is in another place; the details name the table, the place and both names.
+tables_found check_tables(const source_tables& found);
+
+/// The tables of the store that a source lacks.
+QStringList missing_tables(const source_tables& found);
+
+}  // namespace verdane

@@ -1,0 +1,146 @@
+#include "store/engines/sqlite_odbc_engine.h"
+
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <utility>
+
+#include "store/engines/odbc_link.h"
+#include "store/engines/source_tables.h"
+#include "store/engines/sql_text.h"
+#include "store/engines/sqlite.h"
+#include "store/store_files.h"
+#include "store/store_lock.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How much of the file the engine may keep in memory.
+constexpr int kept_pages_kb = 16 * 1024;
+
+constexpr QStringView columns_of_tables =
+    u"select m.name, p.name from sqlite_master m join pragma_table_info(m.name) p where m.type = 'table' "
+    u"order by m.name, p.cid";
+
+}  // namespace
+
+sqlite_odbc_engine::sqlite_odbc_engine(QString name, store_location where)
+    : odbc_engine(std::move(name), std::move(where))
+{
+}
+
+sqlite_odbc_engine::~sqlite_odbc_engine()
+{
+    sqlite_odbc_engine::close();
+}
+
+bool sqlite_odbc_engine::open(soundness_check check)
+{
+    path_ = path_of_file();
+    lock_ = take_store_lock(path_);
+    check_store_files(path_);
+    created_ = QFileInfo(path_).size() == 0;
+    first_value(u"PRAGMA busy_timeout=%1"_s.arg(source_lock_time_out_s * 1000));
+    if (check == soundness_check::while_opening || created_ ||
+        first_value(u"PRAGMA journal_mode"_s) != u"wal")
+        check_soundness();
+    const bool has_tables = check_content();
+    first_value(u"PRAGMA journal_mode=WAL"_s);
+    run(commits().restore);
+    run(u"PRAGMA cache_size=-%1"_s.arg(kept_pages_kb));
+    return has_tables;
+}
+
+QString sqlite_odbc_engine::path_of_file() const
+{
+    QSqlQuery query(database());
+    const QString question = u"PRAGMA database_list"_s;
+    if (!query.exec(question) || !query.next())
+        throw failure(query.lastError(), question);
+    const QString path = query.value(2).toString();
+    if (path.isEmpty())
+        throw run_time_failure(failure_kind::source_database, where_.name);
+    return path;
+}
+
+bool sqlite_odbc_engine::check_content() const
+{
+    QSqlQuery query(database());
+    query.setForwardOnly(true);
+    const QString question = columns_of_tables.toString();
+    if (!query.exec(question))
+        throw failure(query.lastError(), question);
+    source_tables found;
+    while (query.next())
+        found[query.value(0).toString().toLower()] << query.value(1).toString();
+    const tables_found which = check_tables(found);
+    if (which == tables_found::some)
+        throw run_time_failure(failure_kind::source_table,
+                               u"%1: %2"_s.arg(where_.name, missing_tables(found).join(u", "_s)));
+    return which == tables_found::all;
+}
+
+void sqlite_odbc_engine::close()
+{
+    store_engine::close();
+    lock_.reset();
+}
+
+void sqlite_odbc_engine::abandon()
+{
+    close();
+    if (std::exchange(created_, false))
+        remove_store_files(path_);
+}
+
+void sqlite_odbc_engine::check_soundness()
+{
+    const QString verdict = first_value(u"PRAGMA integrity_check(1)"_s);
+    if (verdict != u"ok")
+        throw run_time_failure(failure_kind::store_damaged, QString(path_ + u": " + verdict));
+    known_sound_ = true;
+}
+
+void sqlite_odbc_engine::need_soundness()
+{
+    if (!known_sound_)
+        check_soundness();
+}
+
+QString sqlite_odbc_engine::identity_column(QStringView) const
+{
+    return u"rowid"_s;
+}
+
+qint64 sqlite_odbc_engine::insert(const statement_with_values& statement, const QString& where)
+{
+    change(statement, where);
+    return first_value(u"select last_insert_rowid()"_s).toLongLong();
+}
+
+const commit_statements& sqlite_odbc_engine::commits() const
+{
+    return sqlite_commits();
+}
+
+QString sqlite_odbc_engine::table_ending() const
+{
+    return u")"_s;
+}
+
+run_time_failure sqlite_odbc_engine::failure(const QSqlError& error, const QString& where) const
+{
+    return store_failure(error, where);
+}
+
+QString sqlite_odbc_engine::text_literal(QStringView text) const
+{
+    return u"CAST(" + hex_literal(text) + u" AS TEXT)";
+}
+
+}  // namespace verdane

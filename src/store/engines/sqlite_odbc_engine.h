@@ -1,0 +1,44 @@
+#pragma once
+
+#include "store/engines/odbc_engine.h"
+
+class QLockFile;
+
+namespace verdane {
+
+/// A SQLite file that is registered as a source. It has the settings of the embedded engine (WAL,
+/// synchronous=FULL), and the same lock file, so that both cannot be open on one file.
+class sqlite_odbc_engine : public odbc_engine {
+public:
+    sqlite_odbc_engine(QString name, store_location where);
+    ~sqlite_odbc_engine() override;
+
+    /// Creates the file if there is none. Fails like the embedded engine, and with `source_database`,
+    /// `source_table` or `source_column`.
+    bool open(soundness_check check) override;
+    void close() override;
+    void abandon() override;
+
+    void check_soundness() override;
+    void need_soundness() override;
+
+    QString identity_column(QStringView table) const override;
+    qint64 insert(const statement_with_values& statement, const QString& where) override;
+    const commit_statements& commits() const override;
+    QString table_ending() const override;
+    run_time_failure failure(const QSqlError& error, const QString& where) const override;
+
+protected:
+    QString text_literal(QStringView text) const override;
+
+private:
+    QString path_of_file() const;
+    bool check_content() const;
+
+    std::unique_ptr<QLockFile> lock_;
+    QString path_;
+    bool created_ = false;
+    bool known_sound_ = false;
+};
+
+}  // namespace verdane
