@@ -3,6 +3,7 @@
 #include "records/Main_module.h"
 #include "round/detailed_page.h"
 #include "round/f_new_round.h"
+#include "round/f_new_round_func.h"
 #include "round/shot_rows.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"
@@ -354,6 +355,21 @@ private Q_SLOTS:
         QCOMPARE(round.store.text(u"select date || ' ' || count(*) from Stat_rounds"_s),
                  u"202406149'30é\" 4"_s);
         QCOMPARE(stored_figures(round.store, 1), entered_figures);
+    }
+
+    void closing_without_saving_drops_a_change_of_a_shot_that_is_not_committed()
+    {
+        const golfer_store round;
+        round.store.add_round(key_of_keyed_round());
+        add_complete_shot(round.store, 1, 1, 1, 60, u"Verges"_s, 1);
+        const QString stored = stored_shots(round.store, 1);
+        in_stored_round(key_of_keyed_round(), [&](hand& user) {
+            open_detailed_page(user);
+            enter_shot(user, 0, 9, QString(), 0);
+            user.same(user.cell(details, 0, 2), u"F9"_s, u"club in the grid"_s);
+            with_round(user, [](f_new_round& window) { f_new_round_func::ask_and_close(window, true); });
+        });
+        QCOMPARE(stored_shots(round.store, 1), stored);
     }
 };
 
