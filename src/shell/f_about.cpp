@@ -1,9 +1,13 @@
 #include "shell/f_about.h"
 
+#include <QFrame>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
+#include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
@@ -41,68 +45,67 @@ QFrame* make_line()
 
 }  // namespace
 
-f_about::f_about() : Form(u"f_about")
+f_about::f_about() : Form(u"f_about"), ok_(named(make_button(u"OK"_s), u"cmdOK"))
 {
     setWindowTitle(caption(u"À propos de VERDANE", u"About VERDANE"));
-    make_controls();
     lay_out();
-    on_click(*cmdOK, [this] { unload(); });
-    on_click(*cmdSysInfo, [] { show_system_information(); });
+    on_click(*ok_, [this] { unload(); });
 }
 
-void f_about::make_controls()
+QLayout* f_about::make_texts()
 {
-    lblTitle = named(make_text(caption(u"VERDANE pour PC", u"VERDANE for PC"), 1.6), u"lblTitle");
-    lblVersion = named(make_text(u"Version 1.4"_s), u"lblVersion");
-    lblDescription = named(make_text(caption(u"Le journal et les statistiques de vos rondes de golf.",
-                                             u"The diary and the statistics of your rounds of golf.")),
-                           u"lblDescription");
-    lblDisclaimer = named(make_text(caption(u"Vos rondes restent sur cet ordinateur : Verdane n'envoie rien.",
-                                            u"Your rounds stay on this computer: Verdane sends nothing.")),
-                          u"lblDisclaimer");
-    Label1 = named(make_text(u"Verdane International Inc."_s), u"Label1");
-    Line1.add(0, make_line());
-    Line1.add(1, make_line());
+    const auto text = [](QStringView name, const QString& words, double size = 1.0) {
+        return named(make_text(words, size), name);
+    };
+    control_array<QFrame> lines(u"Line1");
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(rhythm);
+    texts->addWidget(text(u"lblTitle", caption(u"VERDANE pour PC", u"VERDANE for PC"), 1.6));
+    texts->addWidget(text(u"lblVersion", u"Version 1.4"_s));
+    texts->addWidget(lines.add(0, make_line()));
+    texts->addWidget(
+        text(u"lblDescription", caption(u"Le journal et les statistiques de vos rondes de golf.",
+                                        u"The diary and the statistics of your rounds of golf.")));
+    texts->addWidget(
+        text(u"lblDisclaimer", caption(u"Vos rondes restent sur cet ordinateur : Verdane n'envoie rien.",
+                                       u"Your rounds stay on this computer: Verdane sends nothing.")));
+    texts->addWidget(lines.add(1, make_line()));
+    texts->addWidget(text(u"Label1", u"Verdane International Inc."_s));
+    return texts;
+}
+
+QLayout* f_about::make_buttons()
+{
     // French in both twins.
-    cmdSysInfo = named(make_button(u"&Infos système"_s), u"cmdSysInfo");
-    cmdOK = named(make_button(u"OK"_s), u"cmdOK");
+    auto* information = named(make_button(u"&Infos système"_s), u"cmdSysInfo");
+    on_click(*information, [] { show_system_information(); });
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(rhythm);
+    buttons->addStretch();
+    buttons->addWidget(information);
+    buttons->addWidget(ok_);
+    return buttons;
 }
 
 void f_about::lay_out()
 {
     auto* emblem = new QSvgWidget(u":/art/verdane.svg"_s);
     emblem->setFixedSize(emblem_pixels, emblem_pixels);
-
-    auto* texts = new QVBoxLayout;
-    texts->setSpacing(rhythm);
-    for (QWidget* widget : {static_cast<QWidget*>(lblTitle), static_cast<QWidget*>(lblVersion),
-                            static_cast<QWidget*>(&Line1(0)), static_cast<QWidget*>(lblDescription),
-                            static_cast<QWidget*>(lblDisclaimer), static_cast<QWidget*>(&Line1(1)),
-                            static_cast<QWidget*>(Label1)})
-        texts->addWidget(widget);
-
     auto* top = new QHBoxLayout;
     top->setSpacing(3 * rhythm);
     top->addWidget(emblem, 0, Qt::AlignTop);
-    top->addLayout(texts);
-
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(rhythm);
-    buttons->addStretch();
-    buttons->addWidget(cmdSysInfo);
-    buttons->addWidget(cmdOK);
-
+    top->addLayout(make_texts());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(3 * rhythm, 3 * rhythm, 3 * rhythm, 2 * rhythm);
     layout->setSpacing(3 * rhythm);
     layout->addWidget(scrolled(top), 1);
-    layout->addLayout(buttons);
+    layout->addLayout(make_buttons());
     take_size(sizeHint());
 }
 
 void f_about::activated()
 {
-    cmdOK->setFocus();
+    ok_->setFocus();
 }
 
 void f_about::unloading()

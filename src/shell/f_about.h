@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QFrame>
-#include <QLabel>
-#include <QPushButton>
-
-#include "controls/control_array.h"
 #include "controls/Form.h"
+
+class QLayout;
+class QPushButton;
 
 namespace verdane {
 
@@ -14,22 +12,16 @@ class f_about : public Form {
 public:
     f_about();
 
-    QLabel* lblTitle = nullptr;
-    QLabel* lblVersion = nullptr;
-    QLabel* lblDescription = nullptr;
-    QLabel* lblDisclaimer = nullptr;
-    QLabel* Label1 = nullptr;
-    control_array<QFrame> Line1{u"Line1"};
-    QPushButton* cmdSysInfo = nullptr;
-    QPushButton* cmdOK = nullptr;
-
 protected:
     void activated() override;
     void unloading() override;
 
 private:
-    void make_controls();
+    QLayout* make_texts();
+    QLayout* make_buttons();
     void lay_out();
+
+    QPushButton* ok_;
 };
 
 }  // namespace verdane

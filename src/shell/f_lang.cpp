@@ -1,10 +1,11 @@
 #include "shell/f_lang.h"
 
-#include <QLabel>
+#include <QPushButton>
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
 #include "base/language.h"
+#include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
@@ -32,9 +33,10 @@ QSvgWidget* make_emblem()
 f_lang::f_lang() : Form(u"f_lang", twins::one)
 {
     setWindowTitle(u"Verdane International Inc."_s);
-    Command1.add(1, make_button(u"Continuer en Français"_s));
-    Command1.add(0, make_button(u"Continue in English"_s));
-    Command2 = named(make_button(u"Exit / Quitter"_s), u"Command2");
+    control_array<QPushButton> languages(u"Command1");
+    auto* french = languages.add(1, make_button(u"Continuer en Français"_s));
+    auto* english = languages.add(0, make_button(u"Continue in English"_s));
+    auto* exit = named(make_button(u"Exit / Quitter"_s), u"Command2");
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(5 * rhythm, 4 * rhythm, 5 * rhythm, 4 * rhythm);
@@ -43,15 +45,15 @@ f_lang::f_lang() : Form(u"f_lang", twins::one)
     emblem->addWidget(make_emblem(), 0, Qt::AlignHCenter);
     layout->addWidget(scrolled(emblem), 1);
     layout->addSpacing(2 * rhythm);
-    for (QPushButton* button : {&Command1(1), &Command1(0), Command2}) {
+    for (QPushButton* button : {french, english, exit}) {
         button->setMinimumSize(30 * rhythm, 5 * rhythm);
         layout->addWidget(button);
     }
     take_size(sizeHint());
 
-    on_click(Command1(1), [this] { choose(french_value); });
-    on_click(Command1(0), [this] { choose(english_value); });
-    on_click(*Command2, [this] { unload(); });
+    on_click(*french, [this] { choose(french_value); });
+    on_click(*english, [this] { choose(english_value); });
+    on_click(*exit, [this] { unload(); });
 }
 
 void f_lang::choose(int language)

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <QPushButton>
-
-#include "controls/control_array.h"
 #include "controls/Form.h"
 
 namespace verdane {
@@ -12,9 +9,6 @@ namespace verdane {
 class f_lang : public Form {
 public:
     f_lang();
-
-    control_array<QPushButton> Command1{u"Command1"};
-    QPushButton* Command2 = nullptr;
 
 private:
     void choose(int language);

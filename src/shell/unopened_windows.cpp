@@ -1,5 +1,7 @@
 #include "shell/unopened_windows.h"
 
+#include <QLabel>
+#include <QSvgWidget>
 #include <QVBoxLayout>
 
 #include "controls/control_array.h"
@@ -19,12 +21,12 @@ constexpr int image_pixels = 96;
 
 }  // namespace
 
-f_flash::f_flash() : Form(u"f_flash", twins::one)
+f_flash::f_flash()
+    : Form(u"f_flash", twins::one), picture_(named(new QSvgWidget(u":/art/verdane.svg"_s, this), u"Image1"))
 {
     setWindowTitle(u"Verdane"_s);
     resize(window_size);
-    Image1 = named(new QSvgWidget(u":/art/verdane.svg"_s, this), u"Image1");
-    Image1->resize(image_pixels, image_pixels);
+    picture_->resize(image_pixels, image_pixels);
     if (main_frame()) {
         const QSize frame = main_frame()->frame_widget()->size();
         move(frame.width() - pixels(left_of_edge_twips), frame.height() - pixels(above_edge_twips));
@@ -33,16 +35,15 @@ f_flash::f_flash() : Form(u"f_flash", twins::one)
 
 void f_flash::activated()
 {
-    Image1->move(width() / 2, height() / 2);
+    picture_->move(width() / 2, height() / 2);
 }
 
 wait_form::wait_form() : Form(u"wait", twins::one)
 {
     setWindowTitle(u"Please Wait"_s);
-    Label1 = named(make_label(u"Please Wait"_s), u"Label1");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6 * rhythm, 4 * rhythm, 6 * rhythm, 4 * rhythm);
-    layout->addWidget(Label1);
+    layout->addWidget(named(make_label(u"Please Wait"_s), u"Label1"));
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 

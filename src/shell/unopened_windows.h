@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QLabel>
-#include <QSvgWidget>
-
 #include "controls/Form.h"
 #include "reports/report_control.h"
+
+class QSvgWidget;
 
 /// Windows that no command opens.
 namespace verdane {
@@ -14,18 +13,17 @@ class f_flash : public Form {
 public:
     f_flash();
 
-    QSvgWidget* Image1 = nullptr;
-
 protected:
     void activated() override;
+
+private:
+    QSvgWidget* picture_;
 };
 
 /// The window "Please Wait".
 class wait_form : public Form {
 public:
     wait_form();
-
-    QLabel* Label1 = nullptr;
 };
 
 /// A window with a report control.

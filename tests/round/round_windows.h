@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "tests/support/hand.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/stored_diary.h"
 
 namespace verdane {
@@ -69,13 +70,6 @@ void tee_off(hand& user, const QString& hours, const QString& minutes, const QSt
 void discard(hand& user);
 /// Closes the round window by OK.
 void accept(hand& user);
-
-/// The control of that name in the round window.
-template <typename Control>
-Control& find_control(const QWidget& window, const QString& name)
-{
-    return dynamic_cast<Control&>(*window.findChild<QWidget*>(name));
-}
 
 /// Runs a routine with the open round window in the window thread.
 void with_round(hand& user, const std::function<void(f_new_round&)>& routine);

@@ -1,3 +1,5 @@
+#include <QLabel>
+#include <QSvgWidget>
 #include <QTest>
 
 #include "base/language.h"
@@ -10,10 +12,12 @@
 #include "shell/system_information.h"
 #include "shell/unopened_windows.h"
 #include "tests/shell/program_run.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
+using verdane::testing::find_control;
 using verdane::testing::hand;
 using verdane::testing::play;
 using verdane::testing::program_run;
@@ -63,7 +67,7 @@ private Q_SLOTS:
         wait_form window;
         QCOMPARE(window.objectName(), u"wait"_s);
         QCOMPARE(window.windowTitle(), u"Please Wait"_s);
-        QCOMPARE(window.Label1->text(), u"Please Wait"_s);
+        QCOMPARE(find_control<QLabel>(window, u"Label1"_s).text(), u"Please Wait"_s);
     }
 
     void the_report_control_of_the_report_window_opens_its_preview_above_the_window()
@@ -94,7 +98,8 @@ private Q_SLOTS:
              [&](hand& user) {
                  user.wait_for_window(u"f_flash"_s);
                  user.look([&] {
-                     QCOMPARE(window.Image1->pos(), QPoint(window.width() / 2, window.height() / 2));
+                     QCOMPARE(find_control<QSvgWidget>(window, u"Image1"_s).pos(),
+                              QPoint(window.width() / 2, window.height() / 2));
                  });
                  user.close_window(u"f_flash"_s);
              });

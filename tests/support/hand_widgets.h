@@ -2,9 +2,9 @@
 
 #include <QString>
 #include <QStringList>
+#include <QWidget>
 
 class QAction;
-class QWidget;
 
 /// Finding and reading controls. To be called in the window thread.
 namespace verdane::testing {
@@ -15,6 +15,12 @@ QList<QWidget*> windows_taking_input();
 QWidget* visible_window(const QString& name);
 /// A control of that name in the windows that take input, or null.
 QWidget* find_control(const QString& name);
+/// The control of that name and type in a window.
+template <typename Control>
+Control& find_control(const QWidget& window, const QString& name)
+{
+    return dynamic_cast<Control&>(*window.findChild<QWidget*>(name));
+}
 QAction* find_action(const QString& name);
 QString text_of(const QWidget& control);
 QStringList entries_of(const QWidget& list);
