@@ -16,13 +16,10 @@
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/Form.h"
-#include "controls/list_box.h"
 #include "controls/look.h"
-#include "records/round_list.h"
 #include "records/round_rows.h"
 #include "scoring/limits.h"
 #include "scoring/round_key.h"
-#include "statistics/selection_filters.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/games.h"
 
@@ -53,12 +50,7 @@ QStringList round_lines()
 }  // namespace
 
 bag_filters::bag_filters(const Form& window)
-    : window_(window),
-      first_round_(named(make_list_box(characters_of_a_line, lines_in_view), u"List1")),
-      last_round_(named(make_list_box(characters_of_a_line, lines_in_view), u"List2")),
-      weather_(named(new QComboBox, u"conditions")),
-      partner_(named(new QComboBox, u"pList")),
-      course_(named(new QComboBox, u"cmb_courses"))
+    : window_(window), controls_(make_selection_controls(characters_of_a_line, lines_in_view))
 {
     setObjectName(u"Frame1"_s);
     name_control(*this, window.caption(u"Rondes des moyennes", u"Rounds of the averages"));
@@ -71,9 +63,11 @@ bag_filters::bag_filters(const Form& window)
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     rows->setSpacing(rhythm);
-    rows->addWidget(make_list_frame(u"Fr1", u"lbl_from", window.caption(u"De...", u"From..."), *first_round_),
-                    1);
-    rows->addWidget(make_list_frame(u"Fr2", u"lbl_to", window.caption(u"À...", u"To..."), *last_round_), 1);
+    rows->addWidget(
+        make_list_frame(u"Fr1", u"lbl_from", window.caption(u"De...", u"From..."), *controls_.first_round),
+        1);
+    rows->addWidget(
+        make_list_frame(u"Fr2", u"lbl_to", window.caption(u"À...", u"To..."), *controls_.last_round), 1);
     rows->addLayout(make_choices());
     rows->addLayout(make_disabled_boxes());
     rows->addWidget(update, 0, Qt::AlignRight);
@@ -101,14 +95,12 @@ QLayout* bag_filters::make_choices()
     // The window is too narrow for labels next to the lists.
     form->setRowWrapPolicy(QFormLayout::WrapAllRows);
     const auto add = [&](QStringView name, const QString& words, QComboBox* filter) {
-        add_filter(*form, named(make_label(words), name), filter);
-        filter->setMinimumContentsLength(characters_of_a_choice);
-        filter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        add_filter(*form, named(make_label(words), name), filter, characters_of_a_choice);
     };
     add(u"lbl_conditions", window_.caption(u"Conditions atmosphériques :", u"Weather Conditions :"),
-        weather_);
-    add(u"lbl_pList", window_.caption(u"Partenaire :", u"Partners :"), partner_);
-    add(u"lbl_cmb_courses", window_.caption(u"Terrain :", u"Golf Course :"), course_);
+        controls_.weather);
+    add(u"lbl_pList", window_.caption(u"Partenaire :", u"Partners :"), controls_.partner);
+    add(u"lbl_cmb_courses", window_.caption(u"Terrain :", u"Golf Course :"), controls_.course);
     return form;
 }
 
@@ -143,46 +135,24 @@ QLayout* bag_filters::make_disabled_boxes()
 
 void bag_filters::fill_weather()
 {
-    fill_weather_filter(*weather_, window_.french());
+    verdane::fill_weather(controls_, window_.french());
 }
 
 bool bag_filters::fill_rounds()
 {
-    DataEnvironment1& store = data_environment();
-    Round_functions::open_rounds_in_time_order();
-    store.rsfield_info.Open();
-    const QStringList lines = round_lines();
-    for (QListWidget* list : {first_round_, last_round_})
-        fill_list_box(*list, lines);
-    store.rsgames.Close();
-    store.rsfield_info.Close();
-    return !lines.isEmpty();
+    return verdane::fill_rounds(controls_, round_lines) > 0;
 }
 
 void bag_filters::fill_partners_and_courses()
 {
-    fill_partner_filter(*partner_, window_.french());
-    fill_course_filter(*course_, window_.french(), tee_letters::capitals);
-    for (QComboBox* filter : {partner_, course_})
-        filter->setCurrentIndex(0);
+    verdane::fill_partners_and_courses(controls_, window_.french(), tee_letters::capitals);
 }
 
 selection_arguments bag_filters::selection() const
 {
-    selection_arguments chosen;
-    chosen.from_key = chosen_round_key(*first_round_);
-    chosen.to_key = chosen_round_key(*last_round_);
-    chosen.weather_clause = clause_of(filter::weather, clause_form::appended, chosen_weather(*weather_));
-    chosen.weather_text = weather_->currentText();
-    chosen.partner_clause = clause_of(filter::partner, clause_form::appended, chosen_partner(*partner_));
-    chosen.partner_text = is_on(*partner_) ? partner_->currentText()
-                                           : window_.caption(u"TOUS LES PARTENAIRES", u"All partners");
-    const QString course = chosen_course(*course_);
-    chosen.course_clause =
-        course.isEmpty() ? QString() : clause_of(filter::course, clause_form::appended, course);
-    chosen.course_text =
-        is_on(*course_) ? course_->currentText() : window_.caption(u"TOUS LES TERRAINS", u"All COURSES");
-    return chosen;
+    return selection_of(controls_, clause_form::appended,
+                        {window_.caption(u"TOUS LES PARTENAIRES", u"All partners"),
+                         window_.caption(u"TOUS LES TERRAINS", u"All COURSES")});
 }
 
 }  // namespace verdane

@@ -5,9 +5,8 @@
 
 #include <functional>
 
-#include "statistics/selection.h"
+#include "statistics/selection_filters.h"
 
-class QComboBox;
 class QLayout;
 class QListWidget;
 
@@ -40,11 +39,7 @@ private:
     QLayout* make_disabled_boxes();
 
     const Form& window_;
-    QListWidget* first_round_;
-    QListWidget* last_round_;
-    QComboBox* weather_;
-    QComboBox* partner_;
-    QComboBox* course_;
+    selection_controls controls_;
 };
 
 }  // namespace verdane

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -14,11 +15,10 @@
 #include "base/language.h"
 #include "controls/accessible_controls.h"
 #include "controls/events.h"
-#include "controls/list_box.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
+#include "records/round_list.h"
 #include "statistics/f_date_range_func.h"
-#include "statistics/selection_filters.h"
 
 namespace verdane {
 
@@ -29,6 +29,19 @@ namespace {
 // Date, time, a course's name of some length and the mark.
 constexpr int characters_of_a_line = 52;
 constexpr int lines_in_view = 12;
+constexpr int characters_of_a_filter = 28;
+
+/// The members of the control array `Label1`.
+enum label {
+    from_label,
+    to_label,
+    course_label,
+    partner_label,
+    weather_label,
+    warning_label,
+    rounds_label,
+    count_label
+};
 
 struct mode_look {
     statistics_mode mode;
@@ -36,18 +49,21 @@ struct mode_look {
     text_pair title;
 };
 
-QComboBox* make_filter(QStringView name)
-{
-    auto* filter = named(new QComboBox, name);
-    filter->setMinimumContentsLength(28);
-    filter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    return filter;
-}
-
 }  // namespace
 
 f_date_range::f_date_range(statistics_mode mode)
-    : Form(u"f_date_range"), cr1(this), cr2(this), cr3(this), mode_(mode)
+    : Form(u"f_date_range"),
+      cr1(this),
+      cr2(this),
+      cr3(this),
+      mode_(mode),
+      controls_(make_selection_controls(characters_of_a_line, lines_in_view)),
+      progress_(make_progress_bar()),
+      run_clubs_(named(make_button(u"OK"_s), u"Command1")),
+      run_rounds_(named(make_button(u"OK"_s), u"Command2")),
+      run_costs_(named(make_button(u"OK"_s), u"Command3")),
+      run_putts_(named(make_button(u"OK"_s), u"OKButton")),
+      cancel_(named(make_button(caption(u"Annuler", u"Cancel")), u"CancelButton"))
 {
     build();
     connect_events();
@@ -59,10 +75,10 @@ f_date_range::f_date_range(statistics_mode mode)
 void f_date_range::show_mode()
 {
     const std::array<mode_look, 4> looks{{
-        {statistics_mode::club, Command1, {u"Statistiques des bâtons", u"Club Statistics"}},
-        {statistics_mode::putt, OKButton, {u"Statistiques des coups roulés", u"Putt Statistics"}},
-        {statistics_mode::round, Command2, {u"Statistiques des rondes", u"Round Statistics"}},
-        {statistics_mode::cost, Command3, {u"Statistiques des coûts", u"Cost Statistics"}},
+        {statistics_mode::club, run_clubs_, {u"Statistiques des bâtons", u"Club Statistics"}},
+        {statistics_mode::putt, run_putts_, {u"Statistiques des coups roulés", u"Putt Statistics"}},
+        {statistics_mode::round, run_rounds_, {u"Statistiques des rondes", u"Round Statistics"}},
+        {statistics_mode::cost, run_costs_, {u"Statistiques des coûts", u"Cost Statistics"}},
     }};
     for (const mode_look& look : looks) {
         look.button->setVisible(look.mode == mode_);
@@ -75,8 +91,9 @@ void f_date_range::build()
 {
     auto* lists = new QHBoxLayout;
     lists->setSpacing(2 * rhythm);
-    lists->addWidget(make_list_frame(u"Frame1", 0, caption(u"De...", u"From..."), List1));
-    lists->addWidget(make_list_frame(u"Frame2", 1, caption(u"À...", u"To..."), List2));
+    lists->addWidget(
+        make_list_frame(u"Frame1", from_label, caption(u"De...", u"From..."), *controls_.first_round));
+    lists->addWidget(make_list_frame(u"Frame2", to_label, caption(u"À...", u"To..."), *controls_.last_round));
     auto* choices = new QHBoxLayout;
     choices->setSpacing(4 * rhythm);
     choices->addLayout(make_filters());
@@ -93,31 +110,28 @@ void f_date_range::build()
     take_size(sizeHint());
 }
 
-QWidget* f_date_range::make_list_frame(QStringView name, int label, const QString& words, QListWidget*& list)
+QWidget* f_date_range::make_list_frame(QStringView name, int label, const QString& words, QListWidget& list)
 {
     auto* frame = named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), name);
-    list = named(make_list_box(characters_of_a_line, lines_in_view), label == 0 ? u"List1" : u"List2");
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->setSpacing(rhythm / 2);
-    inside->addWidget(Label1.add(label, make_label(words, list)));
-    inside->addWidget(list);
+    inside->addWidget(labels_.add(label, make_label(words, &list)));
+    inside->addWidget(&list);
     return frame;
 }
 
 QLayout* f_date_range::make_filters()
 {
-    cmb_courses = make_filter(u"cmb_courses");
-    pList = make_filter(u"pList");
-    conditions = make_filter(u"conditions");
     auto* form = new QFormLayout;
     form->setHorizontalSpacing(rhythm);
     form->setVerticalSpacing(rhythm);
-    add_filter(*form, Label1.add(2, make_label(caption(u"Terrain :", u"Golf Course :"))), cmb_courses);
-    add_filter(*form, Label1.add(3, make_label(caption(u"Partenaire :", u"Partners :"))), pList);
-    add_filter(*form,
-               Label1.add(4, make_label(caption(u"Conditions atmosphériques :", u"Weather Conditions :"))),
-               conditions);
+    const auto add = [&](int label, const QString& words, QComboBox* filter) {
+        add_filter(*form, labels_.add(label, make_label(words)), filter, characters_of_a_filter);
+    };
+    add(course_label, caption(u"Terrain :", u"Golf Course :"), controls_.course);
+    add(partner_label, caption(u"Partenaire :", u"Partners :"), controls_.partner);
+    add(weather_label, caption(u"Conditions atmosphériques :", u"Weather Conditions :"), controls_.weather);
     return form;
 }
 
@@ -125,59 +139,80 @@ QLayout* f_date_range::make_counts()
 {
     auto* count = new QHBoxLayout;
     count->setSpacing(rhythm);
-    QLabel* figure = Label1.add(count_label, make_label(u"XX"_s));
+    QLabel* figure = labels_.add(count_label, make_label(u"XX"_s));
     const QString words = caption(u"Nombre de parties jouées:", u"Number of rounds :");
-    count->addWidget(Label1.add(6, make_label(words, figure)));
+    count->addWidget(labels_.add(rounds_label, make_label(words, figure)));
     count->addWidget(figure, 1);
     auto* rows = new QVBoxLayout;
     rows->setSpacing(rhythm);
-    rows->addWidget(
-        Label1.add(5, make_label(caption(u"** Attention : Ces rondes ne sont pas complétées",
-                                         u"**Attention : these rounds have not been completed."))));
+    rows->addWidget(labels_.add(warning_label,
+                                make_label(caption(u"** Attention : Ces rondes ne sont pas complétées",
+                                                   u"**Attention : these rounds have not been completed."))));
     rows->addLayout(count);
     rows->addStretch(1);
     return rows;
 }
 
+QProgressBar* f_date_range::make_progress_bar() const
+{
+    auto* bar = named(new QProgressBar, u"Status");
+    name_control(*bar, caption(u"Progression", u"Progress"));
+    bar->setRange(0, 100);
+    bar->setValue(0);
+    bar->setTextVisible(false);
+    // Showing or hiding the bar does not move the buttons.
+    QSizePolicy retained = bar->sizePolicy();
+    retained.setRetainSizeWhenHidden(true);
+    bar->setSizePolicy(retained);
+    bar->hide();
+    return bar;
+}
+
 QLayout* f_date_range::make_foot()
 {
-    Status = named(new QProgressBar, u"Status");
-    name_control(*Status, caption(u"Progression", u"Progress"));
-    Status->setRange(0, 100);
-    Status->setValue(0);
-    Status->setTextVisible(false);
-    // Showing or hiding the bar does not move the buttons.
-    QSizePolicy retained = Status->sizePolicy();
-    retained.setRetainSizeWhenHidden(true);
-    Status->setSizePolicy(retained);
-    Status->hide();
-    Command1 = named(make_button(u"OK"_s), u"Command1");
-    Command2 = named(make_button(u"OK"_s), u"Command2");
-    Command3 = named(make_button(u"OK"_s), u"Command3");
-    OKButton = named(make_button(u"OK"_s), u"OKButton");
-    CancelButton = named(make_button(caption(u"Annuler", u"Cancel")), u"CancelButton");
     auto* foot = new QHBoxLayout;
     foot->setSpacing(rhythm);
-    foot->addWidget(Status, 1);
+    foot->addWidget(progress_, 1);
     foot->addSpacing(2 * rhythm);
-    for (QPushButton* run : {Command1, Command2, Command3, OKButton})
+    for (QPushButton* run : {run_clubs_, run_rounds_, run_costs_, run_putts_})
         foot->addWidget(run);
-    foot->addWidget(CancelButton);
+    foot->addWidget(cancel_);
     return foot;
 }
 
 void f_date_range::connect_events()
 {
-    for (QListWidget* list : {List1, List2})
-        on_select(*list, [this] { f_date_range_func::count_rounds_between(*this); });
-    on_click(*Command1, [this] { f_date_range_func::run_club_statistics(*this); });
-    on_click(*Command2, [this] { f_date_range_func::run_round_statistics(*this); });
-    on_click(*Command3, [this] { f_date_range_func::run_cost_statistics(*this); });
-    on_click(*OKButton, [this] { f_date_range_func::run_putt_statistics(*this); });
-    for (QPushButton* run : {Command1, Command2, Command3, OKButton})
+    on_click(*run_clubs_, [this] { f_date_range_func::run_club_statistics(*this); });
+    on_click(*run_rounds_, [this] { f_date_range_func::run_round_statistics(*this); });
+    on_click(*run_costs_, [this] { f_date_range_func::run_cost_statistics(*this); });
+    on_click(*run_putts_, [this] { f_date_range_func::run_putt_statistics(*this); });
+    for (QPushButton* run : {run_clubs_, run_rounds_, run_costs_, run_putts_})
         take_double_click_as_one(*run);
-    on_click(*CancelButton, [this] { f_date_range_func::cancel(*this); });
-    set_cancel_button(*CancelButton);
+    on_click(*cancel_, [this] { f_date_range_func::cancel(*this); });
+    set_cancel_button(*cancel_);
+}
+
+void f_date_range::fill_filters()
+{
+    fill_partners_and_courses(controls_, french(), tee_letters::as_named);
+    fill_weather(controls_, french());
+}
+
+bool f_date_range::fill_round_lists()
+{
+    const int rounds = fill_rounds(controls_, Round_functions::round_list_lines);
+    labels_(count_label).setText(QString::number(rounds));
+    return rounds > 0;
+}
+
+selection_arguments f_date_range::selection(clause_form form, const unfiltered_texts& texts) const
+{
+    return selection_of(controls_, form, texts);
+}
+
+int16 f_date_range::rounds_between() const
+{
+    return controls_.last_round->currentRow() - controls_.first_round->currentRow() + 1;
 }
 
 void f_date_range::closeForm()

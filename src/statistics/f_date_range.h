@@ -1,15 +1,16 @@
 #pragma once
 
-#include <QProgressBar>
-
 #include "base/counts.h"
 #include "controls/control_array.h"
 #include "controls/Form.h"
 #include "reports/report_control.h"
+#include "statistics/run_controls.h"
+#include "statistics/selection_filters.h"
 
-class QComboBox;
 class QLabel;
+class QLayout;
 class QListWidget;
+class QProgressBar;
 class QPushButton;
 
 namespace verdane {
@@ -28,30 +29,24 @@ public:
 
     statistics_mode mode() const { return mode_; }
 
-    QListWidget* List1 = nullptr;
-    QListWidget* List2 = nullptr;
-    QComboBox* cmb_courses = nullptr;
-    QComboBox* pList = nullptr;
-    QComboBox* conditions = nullptr;
-    /// The run buttons of the club, round, cost and putt statistics; one of them is visible.
-    QPushButton* Command1 = nullptr;
-    QPushButton* Command2 = nullptr;
-    QPushButton* Command3 = nullptr;
-    QPushButton* OKButton = nullptr;
-    QPushButton* CancelButton = nullptr;
-    QProgressBar* Status = nullptr;
-    /// The labels; the last one is the number of stored rounds.
-    control_array<QLabel> Label1{u"Label1"};
-    static constexpr int count_label = 7;
+    /// Fills the filters from the store.
+    void fill_filters();
+    /// Fills both lists of rounds from the store and shows the number of rounds. False if it has no round.
+    bool fill_round_lists();
+
+    /// The selection of the user.
+    selection_arguments selection(clause_form form, const unfiltered_texts& texts) const;
+    /// Number of rounds from the one selected in `List1` to that in `List2`, both included; below 1 when
+    /// the range is reversed. It is not displayed.
+    int16 rounds_between() const;
+
+    /// What a statistic uses of the window: the progress bar, and one of its report controls.
+    run_controls controls_for(report_control& report) const { return {*progress_, report}; }
 
     /// The reports on clubs (`cr1`), on rounds and costs (`cr2`), on putts (`cr3`).
     report_control cr1;
     report_control cr2;
     report_control cr3;
-
-    /// Number of rounds from the one selected in `List1` to that in `List2`, both included; below 1 when
-    /// the range is reversed. It is not displayed.
-    int16 rounds_between = 0;
 
     void closeForm() override;
 
@@ -61,13 +56,23 @@ protected:
 private:
     void build();
     void show_mode();
-    QWidget* make_list_frame(QStringView name, int label, const QString& words, QListWidget*& list);
+    QWidget* make_list_frame(QStringView name, int label, const QString& words, QListWidget& list);
     QLayout* make_filters();
     QLayout* make_counts();
     QLayout* make_foot();
+    QProgressBar* make_progress_bar() const;
     void connect_events();
 
     const statistics_mode mode_;
+    selection_controls controls_;
+    QProgressBar* progress_;
+    /// The run buttons of the four statistics; one of them is visible.
+    QPushButton* run_clubs_;
+    QPushButton* run_rounds_;
+    QPushButton* run_costs_;
+    QPushButton* run_putts_;
+    QPushButton* cancel_;
+    control_array<QLabel> labels_{u"Label1"};
 };
 
 }  // namespace verdane

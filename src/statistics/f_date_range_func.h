@@ -13,9 +13,6 @@ namespace verdane::f_date_range_func {
 /// window.
 void load(f_date_range& window);
 
-/// A line was selected in one of the two lists.
-void count_rounds_between(f_date_range& window);
-
 /// The user's selection in the form that the statistic of the window's mode expects.
 selection_arguments selection_of(const f_date_range& window);
 

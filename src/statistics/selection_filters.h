@@ -1,44 +1,63 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+#include "statistics/selection.h"
 
 class QComboBox;
 class QFormLayout;
 class QLabel;
 class QListWidget;
 
-/// The lists in which the user selects rounds, in the selection window and in the golf bag. The first entry
-/// of a filter means no filter; the others are in the order of the rows of their table.
+/// The controls in which the user selects rounds, in the selection window and in the golf bag.
 namespace verdane {
 
+/// The owner creates them by `make_selection_controls`, lays them out and keeps them private. The first entry
+/// of a filter means no filter; the others are in the order of the rows of their table.
+struct selection_controls {
+    QListWidget* first_round;
+    QListWidget* last_round;
+    QComboBox* weather;
+    QComboBox* partner;
+    QComboBox* course;
+};
+
+/// Creates the controls with their system names. The lists of rounds have that size.
+selection_controls make_selection_controls(int characters_of_a_line, int lines_in_view);
+
 /// Adds a filter with its label below the others. The filter is the buddy of the label, so that screen
-/// readers read the label.
-void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter);
+/// readers read the label. The filter is `characters` wide.
+void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter, int characters);
 
-/// SURNAME, NAME of every partner; the data of an entry is the code of the partner.
-void fill_partner_filter(QComboBox& list, bool french);
+/// Opens the stored rounds in time order and the holes of the courses, fills both lists with the lines that
+/// `read_lines` makes of the rounds, closes them again, and returns the number of rounds.
+int fill_rounds(const selection_controls& controls, const std::function<QStringList()>& read_lines);
 
-/// Name and tee of every course; the name of the tee as `tee_name` gives it, or in capitals.
+/// The letters of the tees in the filter of courses: as `tee_name` gives them, or capitals.
 enum class tee_letters { as_named, capitals };
-void fill_course_filter(QComboBox& list, bool french, tee_letters letters = tee_letters::as_named);
 
-/// The four weathers, in the order of their stored values.
-void fill_weather_filter(QComboBox& list, bool french);
+/// Adds SURNAME, NAME of every partner, whose entry has the code of the partner as its data, and then name
+/// and tee of every course.
+void fill_partners_and_courses(const selection_controls& controls, bool french, tee_letters letters);
 
-/// True if an entry other than the first is selected.
-bool is_on(const QComboBox& filter);
+/// Adds the four weathers, in the order of their stored values.
+void fill_weather(const selection_controls& controls, bool french);
 
-/// The key of the round on the selected line, read by position.
-QString chosen_round_key(const QListWidget& rounds);
+/// The texts for the heading of a report where a filter is off. Without a weather, the text of the first
+/// entry is used.
+struct unfiltered_texts {
+    QString partner;
+    QString course;
+    std::optional<QString> weather = {};
+};
 
-/// The stored weather, "0" to "3"; empty if the filter is off.
-QString chosen_weather(const QComboBox& conditions);
-
-/// The number of the partner; empty if the filter is off.
-QString chosen_partner(const QComboBox& partners);
-
-/// The code of the course; empty if the filter is off. Reads `rsvrd_fields`, which must be closed and is
-/// closed again.
-QString chosen_course(const QComboBox& courses);
+/// The selection of the user. The keys of the rounds are read from the selected lines by position. Reads
+/// `rsvrd_fields`, which must be closed and is closed again.
+selection_arguments selection_of(const selection_controls& controls, clause_form form,
+                                 const unfiltered_texts& texts);
 
 }  // namespace verdane

@@ -1,5 +1,7 @@
 #include "tests/statistics/selection_windows.h"
 
+#include <QListWidget>
+#include <QProgressBar>
 #include <QTest>
 
 #include <algorithm>
@@ -71,13 +73,19 @@ QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script
 {
     QList<bar_step> steps;
     const auto record = [&steps](f_date_range& window) {
-        QProgressBar* bar = window.Status;
+        auto* bar = &find_control<QProgressBar>(window, u"Status"_s);
         QObject::connect(bar, &QProgressBar::valueChanged, bar, [&steps, bar](int value) {
             steps << bar_step{value, bar->isVisible()};
         });
     };
     in_window(mode, record, script);
     return steps;
+}
+
+void select_all_rounds(const f_date_range& window)
+{
+    auto& last_round = find_control<QListWidget>(window, u"List2"_s);
+    last_round.setCurrentRow(last_round.count() - 1);
 }
 
 void select_range(hand& user, int from, int to)

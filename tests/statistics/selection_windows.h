@@ -30,6 +30,9 @@ struct bar_step {
 QList<bar_step> bar_in_selection_window(const std::function<void(hand&)>& script,
                                         statistics_mode mode = statistics_mode::round);
 
+/// Selects the range from the first round to the last in a window that is not shown.
+void select_all_rounds(const f_date_range& window);
+
 /// Selects a range by the lines of the two lists (from 0).
 void select_range(hand& user, int from, int to);
 

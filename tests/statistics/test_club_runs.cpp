@@ -6,6 +6,7 @@
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/statistics/stored_shots.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -160,7 +161,7 @@ private Q_SLOTS:
                                 [] { return QApplication::activeModalWidget() != form_at_work(); });
                 user.look([&] {
                     const auto& window = dynamic_cast<f_date_range&>(*form_at_work());
-                    QVERIFY(!window.Status->isVisible());
+                    QVERIFY(!find_control<QProgressBar>(window, u"Status"_s).isVisible());
                     QCOMPARE(shots.club(1)[1], u"0"_s);
                     QVERIFY(open_recordsets().isEmpty());
                     // The report was set up before anything was computed.

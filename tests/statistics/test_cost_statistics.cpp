@@ -178,8 +178,9 @@ private Q_SLOTS:
                                 [] { return QApplication::activeModalWidget() != form_at_work(); });
                 user.look([&] {
                     const auto& window = dynamic_cast<f_date_range&>(*form_at_work());
-                    QVERIFY(window.Status->isVisible());
-                    QCOMPARE(window.Status->value(), 0);
+                    const auto& bar = find_control<QProgressBar>(window, u"Status"_s);
+                    QVERIFY(bar.isVisible());
+                    QCOMPARE(bar.value(), 0);
                     QVERIFY(window.cr2.ReportFileName().isEmpty());
                     QVERIFY(costs.report().isEmpty());
                 });

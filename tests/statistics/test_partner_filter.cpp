@@ -1,5 +1,4 @@
 #include <QComboBox>
-#include <QListWidget>
 #include <QTest>
 
 #include "scoring/Verdane_tools.h"
@@ -8,6 +7,8 @@
 #include "statistics/f_date_range_func.h"
 #include "statistics/round_statistics.h"
 #include "tests/statistics/report_rows.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/stored_diary.h"
 
 using namespace verdane;
@@ -59,8 +60,9 @@ public:
 selection_arguments all_rounds_with(const QString& partner, statistics_mode mode)
 {
     f_date_range window(mode);
-    window.List2->setCurrentRow(window.List2->count() - 1);
-    window.pList->setCurrentIndex(window.pList->findText(partner));
+    select_all_rounds(window);
+    auto& partners = find_control<QComboBox>(window, u"pList"_s);
+    partners.setCurrentIndex(partners.findText(partner));
     return f_date_range_func::selection_of(window);
 }
 
@@ -82,9 +84,7 @@ private Q_SLOTS:
         const rounds_with_partners store;
         QCOMPARE(code_of(u"Ory"_s, u"Anne"_s), store.anne);
         const f_date_range window;
-        QStringList entries;
-        for (int entry = 1; entry < window.pList->count(); ++entry)
-            entries << window.pList->itemText(entry);
+        QStringList entries = entries_of(find_control<QComboBox>(window, u"pList"_s)).mid(1);
         entries.sort();
         QCOMPARE(entries, (QStringList{u"Anne, Ory"_s, u"Anne, Roy"_s, u"Guy, Lee"_s}));
     }

@@ -1,10 +1,12 @@
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QTest>
 
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/putt_rounds.h"
 #include "tests/statistics/report_rows.h"
 #include "tests/statistics/selection_windows.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -110,7 +112,8 @@ private Q_SLOTS:
                 select_range(user, from, to);
                 run(user, statistics_mode::putt);
                 look_under_the_box(user, [&](f_date_range& window) {
-                    user.check(!window.Status->isVisible(), u"the bar is hidden before the box opens"_s);
+                    user.check(!find_control<QProgressBar>(window, u"Status"_s).isVisible(),
+                               u"the bar is hidden before the box opens"_s);
                     // The report is set up before the count, and not launched.
                     user.check(window.cr3.ReportFileName().endsWith(french ? u"statPuts.rpt"_s
                                                                            : u"statPuts_en.rpt"_s),

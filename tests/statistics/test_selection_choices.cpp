@@ -8,6 +8,7 @@
 #include "statistics/f_date_range_func.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/statistics/three_rounds.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/stored_diary.h"
 #include "tests/support/window_look.h"
 
@@ -29,11 +30,11 @@ struct choices {
 selection_arguments arguments_of(const choices& picked, statistics_mode mode = statistics_mode::round)
 {
     f_date_range window(mode);
-    window.List1->setCurrentRow(picked.from);
-    window.List2->setCurrentRow(picked.to);
-    window.cmb_courses->setCurrentIndex(picked.course);
-    window.pList->setCurrentIndex(picked.partner);
-    window.conditions->setCurrentIndex(picked.weather);
+    find_control<QListWidget>(window, u"List1"_s).setCurrentRow(picked.from);
+    find_control<QListWidget>(window, u"List2"_s).setCurrentRow(picked.to);
+    find_control<QComboBox>(window, u"cmb_courses"_s).setCurrentIndex(picked.course);
+    find_control<QComboBox>(window, u"pList"_s).setCurrentIndex(picked.partner);
+    find_control<QComboBox>(window, u"conditions"_s).setCurrentIndex(picked.weather);
     return f_date_range_func::selection_of(window);
 }
 
@@ -47,15 +48,17 @@ private Q_SLOTS:
     {
         const stored_diary store;
         add_three_rounds(store.book);
-        f_date_range window;
-        QCOMPARE(plain(window.rounds_between), 1);
-        window.List2->setCurrentRow(2);
-        QCOMPARE(plain(window.rounds_between), 3);
-        window.List1->setCurrentRow(2);
-        QCOMPARE(plain(window.rounds_between), 1);
-        window.List2->setCurrentRow(0);
-        QCOMPARE(plain(window.rounds_between), -1);
-        QCOMPARE(window.Label1(f_date_range::count_label).text(), u"3"_s);
+        const f_date_range window;
+        auto& first = find_control<QListWidget>(window, u"List1"_s);
+        auto& last = find_control<QListWidget>(window, u"List2"_s);
+        QCOMPARE(plain(window.rounds_between()), 1);
+        last.setCurrentRow(2);
+        QCOMPARE(plain(window.rounds_between()), 3);
+        first.setCurrentRow(2);
+        QCOMPARE(plain(window.rounds_between()), 1);
+        last.setCurrentRow(0);
+        QCOMPARE(plain(window.rounds_between()), -1);
+        QCOMPARE(find_control<QLabel>(window, u"Label1_7"_s).text(), u"3"_s);
     }
 
     void a_click_below_the_last_line_does_not_change_the_selection()
@@ -66,11 +69,10 @@ private Q_SLOTS:
             user.click_row(u"List1"_s, 1);
             user.click(u"List1"_s);
             user.look([&] {
-                const auto* list =
-                    dynamic_cast<QListWidget*>(form_at_work()->findChild<QWidget*>(u"List1"_s));
-                QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
-                                  QPoint(5, list->viewport()->height() - 5));
-                user.check(list->selectedItems().size() == 1 && list->currentRow() == 1, u"selection"_s);
+                const auto& list = find_control<QListWidget>(*form_at_work(), u"List1"_s);
+                QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
+                                  QPoint(5, list.viewport()->height() - 5));
+                user.check(list.selectedItems().size() == 1 && list.currentRow() == 1, u"selection"_s);
             });
         });
     }

@@ -8,6 +8,7 @@
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/statistics/three_rounds.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/recording_frame.h"
 #include "tests/support/store_folder.h"
 #include "tests/support/stored_diary.h"
@@ -169,11 +170,12 @@ private Q_SLOTS:
         const stored_diary store;
         add_three_rounds(store.book);
         const f_date_range window;
-        const QList<std::pair<int, QComboBox*>> filters{
-            {2, window.cmb_courses}, {3, window.pList}, {4, window.conditions}};
-        for (const auto& [label, filter] : filters) {
-            QCOMPARE(window.Label1(label).buddy(), filter);
-            QVERIFY(!filter->isEditable());
+        const QList<std::pair<QString, QString>> filters{
+            {u"Label1_2"_s, u"cmb_courses"_s}, {u"Label1_3"_s, u"pList"_s}, {u"Label1_4"_s, u"conditions"_s}};
+        for (const auto& [label, name] : filters) {
+            auto& filter = find_control<QComboBox>(window, name);
+            QCOMPARE(find_control<QLabel>(window, label).buddy(), &filter);
+            QVERIFY(!filter.isEditable());
         }
     }
 

@@ -1,5 +1,4 @@
 #include <QComboBox>
-#include <QListWidget>
 #include <QTest>
 
 #include "statistics/club_statistics.h"
@@ -11,6 +10,8 @@
 #include "statistics/round_statistics.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/report_rows.h"
+#include "tests/statistics/selection_windows.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/stored_diary.h"
 
 using namespace verdane;
@@ -47,8 +48,8 @@ public:
 selection_arguments all_rounds_in(int weather_entry, statistics_mode mode)
 {
     f_date_range window(mode);
-    window.List2->setCurrentRow(window.List2->count() - 1);
-    window.conditions->setCurrentIndex(weather_entry);
+    select_all_rounds(window);
+    find_control<QComboBox>(window, u"conditions"_s).setCurrentIndex(weather_entry);
     return f_date_range_func::selection_of(window);
 }
 
