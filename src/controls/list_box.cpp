@@ -59,4 +59,11 @@ void fill_list_box(QListWidget& list, const QStringList& lines)
     list.setCurrentRow(0);
 }
 
+void remove_selected_line(QListWidget& list)
+{
+    delete list.takeItem(list.currentRow());
+    if (list.count() > 0)
+        list.setCurrentRow(0);
+}
+
 }  // namespace verdane

@@ -16,4 +16,7 @@ QListWidget* make_list_box(int characters, int lines = default_lines);
 /// Fills an empty list and selects its first line.
 void fill_list_box(QListWidget& list, const QStringList& lines);
 
+/// Removes the selected line and selects the first one of the others.
+void remove_selected_line(QListWidget& list);
+
 }  // namespace verdane

@@ -86,6 +86,22 @@ void f_games::connect_events()
     shortcuts().mention(shortcut_table::open_round);
 }
 
+void f_games::show_rounds(const QStringList& lines)
+{
+    fill_list_box(*lines_, lines);
+}
+
+QString f_games::selected_line() const
+{
+    const QListWidgetItem* selected = lines_->currentItem();
+    return selected ? selected->text() : QString();
+}
+
+void f_games::remove_selected_line()
+{
+    verdane::remove_selected_line(*lines_);
+}
+
 void f_games::closeForm()
 {
     f_games_func::on_command(*this, ok);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 #include "controls/control_array.h"
 #include "controls/Form.h"
 
@@ -22,8 +24,11 @@ public:
 
     f_games();
 
-    /// One line for each round, oldest first.
-    QListWidget& lines() const { return *lines_; }
+    /// Fills the empty list: a line for each round, oldest first.
+    void show_rounds(const QStringList& lines);
+    /// The selected line; null (`isNull`) if there is none.
+    QString selected_line() const;
+    void remove_selected_line();
 
     /// Same as the OK button.
     void closeForm() override;

@@ -1,10 +1,7 @@
 #include "management/f_games_func.h"
 
-#include <QListWidget>
-
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
-#include "controls/list_box.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"
 #include "management/round_removal.h"
@@ -43,10 +40,10 @@ void stop_without_rounds(f_games& window)
 
 void open_selected_round(f_games& window)
 {
-    const QListWidgetItem* selected = window.lines().currentItem();
-    if (!selected)
+    const QString selected = window.selected_line();
+    if (selected.isNull())
         return;
-    open_stored_round(Verdane_tools::key_of_entry(selected->text()));
+    open_stored_round(Verdane_tools::key_of_entry(selected));
     // A round window that refused the round leaves recordsets open.
     close_recordsets();
 }
@@ -60,23 +57,16 @@ bool removal_is_wanted(const f_games& window)
                        "statistics on clubs and putts. Do you wish to continue?"));
 }
 
-void remove_selected_entry(QListWidget& list)
-{
-    delete list.takeItem(list.currentRow());
-    if (list.count() > 0)
-        list.setCurrentRow(0);
-}
-
 void remove_selected_round(f_games& window)
 {
-    const QListWidgetItem* selected = window.lines().currentItem();
-    if (!selected)
+    const QString selected = window.selected_line();
+    if (selected.isNull())
         return;
-    const QString key = Verdane_tools::key_of_entry(selected->text());
+    const QString key = Verdane_tools::key_of_entry(selected);
     if (!removal_is_wanted(window))
         return;
     remove_round(key);
-    remove_selected_entry(window.lines());
+    window.remove_selected_line();
     show_information(window.caption(u"Ronde supprimée", u"Round removed"), QMessageBox::Information);
 }
 
@@ -93,7 +83,7 @@ void load(f_games& window)
         stop_without_rounds(window);
         return;
     }
-    fill_list_box(window.lines(), Round_functions::round_list_lines());
+    window.show_rounds(Round_functions::round_list_lines());
 }
 
 void on_command(f_games& window, int index)

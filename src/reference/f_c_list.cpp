@@ -83,6 +83,26 @@ void f_c_list::connect_events()
     shortcuts().mention(shortcut_table::open_course);
 }
 
+void f_c_list::show_courses(const QStringList& lines)
+{
+    fill_list_box(*lines_, lines);
+}
+
+int f_c_list::selected_course() const
+{
+    return lines_->currentRow();
+}
+
+QString f_c_list::selected_line() const
+{
+    return lines_->currentItem()->text();
+}
+
+void f_c_list::remove_selected_line()
+{
+    verdane::remove_selected_line(*lines_);
+}
+
 void f_c_list::closeForm()
 {
     f_c_list_func::close(*this);

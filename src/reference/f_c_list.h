@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 #include "controls/control_array.h"
 #include "controls/Form.h"
 
@@ -22,8 +24,13 @@ public:
 
     f_c_list();
 
-    /// One line for each row of `vrd_fields`, in table order.
-    QListWidget& lines() const { return *lines_; }
+    /// Fills the empty list: a line for each row of `vrd_fields`, in table order.
+    void show_courses(const QStringList& lines);
+    /// The index of the selected line; -1 if there is none.
+    int selected_course() const;
+    /// The text of the selected line, which must exist.
+    QString selected_line() const;
+    void remove_selected_line();
 
     void closeForm() override;
 

@@ -1,7 +1,5 @@
 #include "reference/f_c_list_func.h"
 
-#include <QListWidget>
-
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
 #include "records/course_rows.h"
@@ -40,14 +38,14 @@ QString list_line()
 /// A course that was added since the list was filled has no line, so there may be rows and no selected line.
 bool has_selection(const f_c_list& window)
 {
-    return !courses().empty() && window.lines().currentRow() >= 0;
+    return !courses().empty() && window.selected_course() >= 0;
 }
 
 void open_selected(f_c_list& window)
 {
     if (!has_selection(window))
         return;
-    Round_functions::move_to_course(window.lines().currentRow());
+    Round_functions::move_to_course(window.selected_course());
     if (courses().bof() || courses().eof())
         show_information(u"Fatal error : F not found"_s);
     else
@@ -92,22 +90,15 @@ void reread_rows()
     rebuild_course_keys(courses());
 }
 
-void remove_line(f_c_list& window)
-{
-    delete window.lines().takeItem(window.lines().currentRow());
-    if (window.lines().count() > 0)
-        window.lines().setCurrentRow(0);
-}
-
 void ask_and_remove(f_c_list& window, const QString& code)
 {
     const QString question =
         window.caption(u"Voulez vous supprimer le terrain : ", u"Do you want to remove the golf course : ");
-    if (!ask_yes_no(question + window.lines().currentItem()->text()))
+    if (!ask_yes_no(question + window.selected_line()))
         return;
     delete_from_store(code);
     reread_rows();
-    remove_line(window);
+    window.remove_selected_line();
     show_information(window.caption(u"Terrain supprimé.", u"Golf course removed."), QMessageBox::Information);
 }
 
@@ -115,7 +106,7 @@ void remove_selected(f_c_list& window)
 {
     if (!has_selection(window))
         return;
-    Round_functions::move_to_course(window.lines().currentRow());
+    Round_functions::move_to_course(window.selected_course());
     const QString code = courses().Fields(tables::vrd_fields::code).text();
     // Only the first round that is found, the earliest, is named.
     Round_functions::open_rounds_in_time_order();
@@ -139,13 +130,12 @@ void load(f_c_list& window)
     courses().Open();
     if (courses().empty())
         return;
-    courses().MoveFirst();
-    for (int index = 0; !courses().eof(); ++index) {
-        window.lines().addItem(list_line());
-        keep_course_key(index, courses());
-        courses().MoveNext();
+    QStringList lines;
+    for (courses().MoveFirst(); !courses().eof(); courses().MoveNext()) {
+        keep_course_key(static_cast<int>(lines.size()), courses());
+        lines << list_line();
     }
-    window.lines().setCurrentRow(0);
+    window.show_courses(lines);
     courses().MoveFirst();
 }
 

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -134,6 +135,29 @@ void f_cost::connect_events()
         on_change(*box, [this, i = index] { box_changed(*this, i); });
     }
     on_click(*ok_, [this] { f_cost_func::accept(*this); });
+}
+
+QString f_cost::amount(int index) const
+{
+    return amounts_(index).text();
+}
+
+void f_cost::show_stored_amount(int index, int amount)
+{
+    QLineEdit& box = amounts_(index);
+    box.setText(QString::number(amount));
+    box.setMaxLength(std::max(amount_digits, static_cast<int>(box.text().size())));
+}
+
+void f_cost::show_zero(int index)
+{
+    amounts_(index).setText(u"0"_s);
+    amounts_(index).selectAll();
+}
+
+void f_cost::select_amount(int index)
+{
+    select_characters(amounts_(index), amount_digits);
 }
 
 void f_cost::show_total(const QString& total)

@@ -23,8 +23,14 @@ public:
     /// Loads the window. Fails with `overflow` when the total of the stored amounts exceeds 16 bits.
     explicit f_cost(total_listener closed_with_total);
 
-    /// The boxes of the amounts. Member i is ordinal i + 1 of the table.
-    const control_array<QLineEdit>& amounts() const { return amounts_; }
+    /// The text in the box of an amount, 0 to 11. Amount i is ordinal i + 1 of the table.
+    QString amount(int index) const;
+    /// Shows a stored amount completely, and limits the length of a text that is pasted over it.
+    void show_stored_amount(int index, int amount);
+    /// Shows "0" and selects it, so that the next digit replaces it.
+    void show_zero(int index);
+    /// Selects the digits of an amount.
+    void select_amount(int index);
     void show_total(const QString& total);
 
 protected:

@@ -134,6 +134,34 @@ void f_partners::connect_events()
     set_cancel_button(*cancel_);
 }
 
+void f_partners::bind_grid()
+{
+    grid_->bind();
+}
+
+void f_partners::unbind_grid()
+{
+    grid_->unbind();
+}
+
+void f_partners::finish_typing()
+{
+    grid_->commit_cell();
+    grid_->bound_model().finish_row();
+}
+
+void f_partners::show_cell(int column_to_show)
+{
+    grid_->ReBind();
+    grid_->set_Col(column_to_show);
+    grid_->setFocus();
+}
+
+int f_partners::current_column() const
+{
+    return grid_->Col();
+}
+
 void f_partners::closeForm()
 {
     f_partners_func::close(*this);

@@ -21,7 +21,17 @@ public:
 
     f_partners();
 
-    data_grid& grid() const { return *grid_; }
+    /// Binds the grid to `rspartners`, which must be open, and removes that binding.
+    void bind_grid();
+    void unbind_grid();
+    /// Writes the text that is being typed to its row and computes the row's code. To be called before
+    /// anything else changes the rows.
+    void finish_typing();
+    /// Reads the rows again, moves the cursor to that column of the current row and sets the focus to the
+    /// grid.
+    void show_cell(int column_to_show);
+    /// The column of the cursor.
+    int current_column() const;
 
     /// Stores everything, and closes unless a name is missing.
     void closeForm() override;

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "controls/boxes.h"
-#include "controls/data_grid.h"
 #include "controls/failure_guard.h"
 #include "controls/main_frame.h"
 #include "reference/f_partners.h"
@@ -22,21 +21,6 @@ constexpr int highest_provisional_code = 9900;
 Recordset& partners()
 {
     return data_environment().rspartners;
-}
-
-/// Writes the text that is being typed to its row and computes the row's code. To be called before anything
-/// else changes the rows.
-void finish_typing(f_partners& window)
-{
-    window.grid().commit_cell();
-    window.grid().bound_model().finish_row();
-}
-
-void show_cell(f_partners& window, int column)
-{
-    window.grid().ReBind();
-    window.grid().set_Col(column);
-    window.grid().setFocus();
 }
 
 void empty_for_null(QStringView column)
@@ -110,7 +94,7 @@ std::optional<nameless_cell> check_and_store(f_partners& window)
 {
     std::optional<nameless_cell> missing;
     finishes_without_failure([&] {
-        finish_typing(window);
+        window.finish_typing();
         look_for_missing_name(window, missing);
         partners().UpdateBatch();
     });
@@ -128,19 +112,19 @@ void load(f_partners& window)
     partners().Open();
     if (!partners().empty())
         partners().MoveFirst();
-    window.grid().bind();
+    window.bind_grid();
 }
 
 void add_partner(f_partners& window)
 {
-    finish_typing(window);
+    window.finish_typing();
     partners().AddNew();
     partners()
         .Fields(tables::partners::code)
         .set(QRandomGenerator::global()->bounded(highest_provisional_code + 1));
     partners().UpdateBatch();
     partners().MoveLast();
-    show_cell(window, f_partners::name);
+    window.show_cell(f_partners::name);
 }
 
 void before_row_commit()
@@ -154,13 +138,13 @@ void before_row_commit()
 
 void remove_partner(f_partners& window)
 {
-    finish_typing(window);
+    window.finish_typing();
     if (partners().bof() || partners().eof() || !removal_is_wanted(window))
         return;
     partners().Delete();
     partners().Update();
     leave_removed_row();
-    show_cell(window, window.grid().Col());
+    window.show_cell(window.current_column());
 }
 
 void close(f_partners& window)
@@ -169,7 +153,7 @@ void close(f_partners& window)
         return;
     if (const auto missing = check_and_store(window)) {
         partners().MoveTo(missing->row);
-        show_cell(window, missing->column);
+        window.show_cell(missing->column);
         return;
     }
     close_if_open(data_environment().rsgames);
@@ -180,12 +164,12 @@ void close(f_partners& window)
 void unload(f_partners& window)
 {
     finishes_without_failure([&] {
-        finish_typing(window);
+        window.finish_typing();
         close_if_open(data_environment().rsgames);
         partners().UpdateBatch();
         partners().Close();
     });
-    window.grid().unbind();
+    window.unbind_grid();
     Unlock_menu();
 }
 

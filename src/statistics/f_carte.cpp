@@ -26,7 +26,10 @@ constexpr int lines_in_view = 12;
 
 }  // namespace
 
-f_carte::f_carte() : Form(u"f_carte"), cr2(this)
+f_carte::f_carte()
+    : Form(u"f_carte"),
+      cr2(this),
+      courses_(named(make_list_box(characters_of_a_line, lines_in_view), u"List1"))
 {
     setWindowTitle(caption(u"Carte de pointage", u"Scorecard"));
     auto* rows = new QVBoxLayout(this);
@@ -34,8 +37,8 @@ f_carte::f_carte() : Form(u"f_carte"), cr2(this)
     rows->setSpacing(2 * rhythm);
     rows->addWidget(scrolled(make_courses()), 1);
     rows->addLayout(make_buttons());
-    List1->setFocus();
-    wire();
+    courses_->setFocus();
+    connect_events();
     take_size(sizeHint());
     f_carte_func::load(*this);
 }
@@ -43,16 +46,15 @@ f_carte::f_carte() : Form(u"f_carte"), cr2(this)
 QLayout* f_carte::make_courses()
 {
     auto* frame = named(new QGroupBox(caption(u"Terrain / Terte", u"Golf Course / Teeing Area")), u"Frame1");
-    List1 = named(make_list_box(characters_of_a_line, lines_in_view), u"List1");
     auto* heading =
-        named(make_label(caption(u"Choisissez un terrain", u"Select a golf course"), List1), u"Label1");
+        named(make_label(caption(u"Choisissez un terrain", u"Select a golf course"), courses_), u"Label1");
     // The names are padded with blanks to align the tees.
-    List1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    courses_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->setSpacing(rhythm / 2);
     inside->addWidget(heading);
-    inside->addWidget(List1);
+    inside->addWidget(courses_);
     auto* content = new QVBoxLayout;
     content->addWidget(frame);
     return content;
@@ -63,18 +65,28 @@ QBoxLayout* f_carte::make_buttons()
     auto* foot = new QHBoxLayout;
     foot->setSpacing(rhythm);
     foot->addStretch(1);
-    foot->addWidget(Command1.add(0, make_button(u"OK"_s)));
-    foot->addWidget(Command1.add(1, make_button(caption(u"Annuler", u"Cancel"))));
+    foot->addWidget(buttons_.add(0, make_button(u"OK"_s)));
+    foot->addWidget(buttons_.add(1, make_button(caption(u"Annuler", u"Cancel"))));
     return foot;
 }
 
-void f_carte::wire()
+void f_carte::connect_events()
 {
-    on_click(Command1(0), [this] { f_carte_func::print(*this); });
-    take_double_click_as_one(Command1(0));
-    on_click(Command1(1), [this] { f_carte_func::cancel(*this); });
-    set_cancel_button(Command1(1));
-    on_double_click(*List1, [this] { f_carte_func::print(*this); });
+    on_click(buttons_(0), [this] { f_carte_func::print(*this); });
+    take_double_click_as_one(buttons_(0));
+    on_click(buttons_(1), [this] { f_carte_func::cancel(*this); });
+    set_cancel_button(buttons_(1));
+    on_double_click(*courses_, [this] { f_carte_func::print(*this); });
+}
+
+void f_carte::show_courses(const QStringList& lines)
+{
+    fill_list_box(*courses_, lines);
+}
+
+int f_carte::selected_course() const
+{
+    return courses_->currentRow();
 }
 
 void f_carte::unloading()

@@ -1,13 +1,15 @@
 #pragma once
 
+#include <QStringList>
+
 #include "controls/control_array.h"
 #include "controls/Form.h"
 #include "reports/report_control.h"
 
 class QBoxLayout;
+class QLayout;
 class QListWidget;
 class QPushButton;
-class QWidget;
 
 namespace verdane {
 
@@ -20,10 +22,10 @@ class f_carte final : public Form {
 public:
     f_carte();
 
-    /// One line for each row of `vrd_fields`, in table order.
-    QListWidget* List1 = nullptr;
-    /// 0 OK, 1 cancel.
-    control_array<QPushButton> Command1{u"Command1"};
+    /// Fills the empty list: a line for each row of `vrd_fields`, in table order.
+    void show_courses(const QStringList& lines);
+    /// The index of the selected line; -1 if the list is empty.
+    int selected_course() const;
 
     report_control cr2;
 
@@ -33,7 +35,11 @@ protected:
 private:
     QLayout* make_courses();
     QBoxLayout* make_buttons();
-    void wire();
+    void connect_events();
+
+    QListWidget* courses_;
+    /// 0 OK, 1 cancel.
+    control_array<QPushButton> buttons_{u"Command1"};
 };
 
 }  // namespace verdane

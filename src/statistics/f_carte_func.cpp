@@ -1,7 +1,5 @@
 #include "statistics/f_carte_func.h"
 
-#include <QListWidget>
-
 #include "controls/main_frame.h"
 #include "records/course_rows.h"
 #include "scoring/Verdane_tools.h"
@@ -44,16 +42,17 @@ void load(f_carte& window)
     courses().Open();
     if (courses().eof())
         return;
+    QStringList lines;
     for (courses().MoveFirst(); !courses().eof(); courses().MoveNext())
-        window.List1->addItem(list_line());
-    window.List1->setCurrentRow(0);
+        lines << list_line();
+    window.show_courses(lines);
 }
 
 void print(f_carte& window)
 {
-    if (window.List1->currentRow() < 0)
+    if (window.selected_course() < 0)
         return;
-    Round_functions::move_to_course(window.List1->currentRow());
+    Round_functions::move_to_course(window.selected_course());
     Round_functions::find_holes_of_course(search_direction::backward);
     card_table::write_current_course();
     prepare_report(window.cr2, report_opening::maximised(), u"\\r_card2.rpt", u"\\r_card2_en.rpt");

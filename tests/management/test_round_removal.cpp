@@ -1,9 +1,11 @@
+#include <QListWidget>
 #include <QTest>
 
 #include "management/round_removal.h"
 #include "store/DataEnvironment1.h"
 #include "tests/management/removal_windows.h"
 #include "tests/round/round_windows.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -24,7 +26,7 @@ QString lines(hand& user)
 int entries_in_list(hand& user)
 {
     int count = 0;
-    user.look([&] { count = dynamic_cast<f_games&>(*open_form(u"f_games")).lines().count(); });
+    user.look([&] { count = find_control<QListWidget>(*open_form(u"f_games"), u"List1"_s).count(); });
     return count;
 }
 

@@ -12,6 +12,7 @@
 #include "reference/f_c_list.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/course_windows.h"
+#include "tests/support/hand_widgets.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -71,7 +72,7 @@ void open_a_line_without_a_row(const reader& store)
     add_courses(store, 1);
     in_course_list([](hand& user) {
         user.look([] {
-            QListWidget& lines = dynamic_cast<f_c_list&>(*form_at_work()).lines();
+            auto& lines = find_control<QListWidget>(*form_at_work(), u"List1"_s);
             lines.addItem(u"Ghost, BLANC"_s);
             lines.setCurrentRow(1);
         });

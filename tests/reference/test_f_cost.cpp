@@ -3,8 +3,10 @@
 #include <QTest>
 
 #include "base/language.h"
+#include "controls/control_array.h"
 #include "tests/reference/cost_windows.h"
 #include "tests/support/entering_boxes.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -23,6 +25,14 @@ QString box_texts(hand& user)
     for (int index = 0; index < 12; ++index)
         texts << user.text(u"cost_%1"_s.arg(index));
     return texts.join(u' ');
+}
+
+control_array<QLineEdit> amounts_of(const QWidget& window)
+{
+    control_array<QLineEdit> amounts(u"cost");
+    for (int index = 0; index < 12; ++index)
+        amounts.add(index, &find_control<QLineEdit>(window, u"cost_%1"_s.arg(index)));
+    return amounts;
 }
 
 void leave_by_ok(hand& user)
@@ -126,8 +136,7 @@ private Q_SLOTS:
         cost_store store;
         in_costs(store, [reason](hand& user) {
             user.look([reason] {
-                const auto& window = dynamic_cast<f_cost&>(*open_form(u"f_cost"));
-                QCOMPARE(boxes_that_replace_their_text(window.amounts(), reason), 12);
+                QCOMPARE(boxes_that_replace_their_text(amounts_of(*open_form(u"f_cost")), reason), 12);
             });
             user.close_window(cost_window());
         });

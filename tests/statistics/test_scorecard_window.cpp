@@ -6,6 +6,7 @@
 #include "controls/main_frame.h"
 #include "statistics/f_carte.h"
 #include "tests/statistics/scorecard_windows.h"
+#include "tests/support/hand_widgets.h"
 #include "tests/support/recording_frame.h"
 #include "tests/support/window_look.h"
 
@@ -42,9 +43,10 @@ private Q_SLOTS:
     {
         const stocked_store store;
         f_carte window;
-        const QFontMetrics metrics(window.List1->font());
+        const auto& list = find_control<QListWidget>(window, u"List1"_s);
+        const QFontMetrics metrics(list.font());
         const auto place_of_tee = [&](int row) {
-            const QString line = window.List1->item(row)->text();
+            const QString line = list.item(row)->text();
             return metrics.horizontalAdvance(line.left(line.lastIndexOf(u',')));
         };
         QCOMPARE(place_of_tee(0), place_of_tee(1));
