@@ -1,7 +1,5 @@
 #include "scoring/hole_classes.h"
 
-#include <array>
-
 #include "base/run_time_failure.h"
 
 namespace verdane {
@@ -115,11 +113,13 @@ cell cell_of(int selector, const hole_figures& f, int16 par)
 int summary_selector(int place)
 {
     if (place < 1 || place > class_count)
-        throw run_time_failure(failure_kind::subscript, u"class %1 of 24"_s.arg(place));
-    // The greens hit come right after the pars.
-    constexpr std::array<int, class_count> order = {1,  25, 26, 27, 28, 6,  7,  8,  9,  10, 11, 12,
-                                                    13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24};
-    return order[static_cast<std::size_t>(place) - 1];
+        throw run_time_failure(failure_kind::subscript, u"class %1 of %2"_s.arg(place).arg(class_count));
+    // The greens hit come right after the pars; every other class is in the row of its number.
+    constexpr int first_green_hit = 2;
+    constexpr int last_green_hit = 5;
+    if (place >= first_green_hit && place <= last_green_hit)
+        return hole_class::green_hit + place - first_green_hit;
+    return place;
 }
 
 QString hole_cell(int selector, const hole_figures& f, int16 par)

@@ -38,12 +38,6 @@ enum number : int {
     green_hit_two_putts = 27,
     green_hit_three_putts = 28,
 };
-
-/// The class that holds the strokes on holes of a par, 3 to 5.
-constexpr int average_of_par(int par)
-{
-    return average_of_par_3 + par - 3;
-}
 }  // namespace hole_class
 
 /// The class in row `place`, 1 to 24, of the classes in the round statistics: 1, 25 to 28, 6 to 24. Fails
