@@ -44,7 +44,7 @@ private Q_SLOTS:
         const separated_drawing separated = separate_texts(
             u"<svg viewBox=\"0 0 100 50\" font-family=\"A B, 'C'\" font-size=\"12\" fill=\"#010203\">"
             "<g transform=\"translate(10 20)\" font-weight=\"bold\"><text x=\"1\" y=\"2\" "
-            "text-anchor=\"end\" data-room=\"33\">"
+            "text-anchor=\"end\" data-width=\"33\">"
             "one &amp; &lt;two&gt;</text></g><text x=\"3\" y=\"4\" font-size=\"7\" fill=\"red\"> three "
             "</text>"
             "</svg>"_s);

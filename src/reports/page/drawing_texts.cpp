@@ -62,7 +62,7 @@ surroundings inside(surroundings state, const QXmlStreamAttributes& attributes)
             state.text.anchor = anchor_of(value);
         else if (name == u"fill")
             state.text.ink = QColor(value);
-        else if (name == u"data-room")
+        else if (name == u"data-width")
             state.text.most_width = value.toDouble();
         else if (name == u"data-least")
             state.text.least_size = value.toDouble();

@@ -36,7 +36,7 @@ struct separated_drawing {
 
 /// Separates the texts of a drawing. The renderer of the toolkit paints letters as outlines, which cannot be
 /// searched or copied on a page, so a report paints the texts itself. It reads the attributes `x`, `y`,
-/// `font-family`, `font-size`, `font-weight`, `text-anchor`, `fill`, `data-room` and `data-least` of a text
+/// `font-family`, `font-size`, `font-weight`, `text-anchor`, `fill`, `data-width` and `data-least` of a text
 /// and the elements around it, and groups that are moved by `translate`. A text in a group that is rotated or
 /// scaled, or in a drawing without a `viewBox`, stays in the drawing.
 ///
