@@ -4,12 +4,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "base/failure_words.h"
 #include "controls/interface_language.h"
 #include "controls/lock_box.h"
 #include "store/DataEnvironment1.h"
 #include "store/orphan_shots.h"
 #include "tests/management/removal_windows.h"
+#include "tests/support/failure_boxes.h"
 #include "tests/support/recording_frame.h"
 
 using namespace verdane;
@@ -47,7 +47,7 @@ int run_child(const QString& path, failure_kind kind)
         user.answer(question_on_removal(), QMessageBox::Yes);
         if (kind == failure_kind::store_locked)
             user.click(u"give_up"_s);
-        user.answer({failure_words(kind).in(true), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+        user.answer(failure_box(kind));
     });
     return not_reached;
 }

@@ -3,11 +3,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "base/failure_words.h"
 #include "base/language.h"
 #include "controls/interface_language.h"
 #include "store/Connection1.h"
 #include "tests/reference/cost_windows.h"
+#include "tests/support/failure_boxes.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -23,7 +23,7 @@ constexpr int not_reached = 77;
 const QString too_much = QStringList(12, u"9999"_s).join(u',');
 const QString full = u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s;
 
-void lay_down(const QString& path, const QString& amounts)
+void create_store(const QString& path, const QString& amounts)
 {
     {
         Connection1 connection;
@@ -43,17 +43,12 @@ QString amounts_in(const QString& path)
     return amounts.mid(1, 12).join(u',');
 }
 
-void meet(hand& user, failure_kind kind)
-{
-    user.answer({failure_words(kind).in(is_french), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
-}
-
 void type_too_much(hand& user)
 {
     user.wait_for_window(cost_window());
     user.same(user.text(u"Text1"_s), u"32767"_s, u"the largest total"_s);
     user.fill(u"cost_11"_s, u"1"_s);
-    meet(user, failure_kind::overflow);
+    user.answer(failure_box(failure_kind::overflow));
 }
 
 void accept_what_is_refused(hand& user)
@@ -62,7 +57,7 @@ void accept_what_is_refused(hand& user)
     user.fill(u"cost_0"_s, u"25"_s);
     user.fill(u"cost_11"_s, u"7"_s);
     user.click(u"OKButton"_s);
-    meet(user, failure_kind::store_other);
+    user.answer(failure_box(failure_kind::store_other));
 }
 
 int run_child(const QString& path, const QString& limit)
@@ -74,7 +69,7 @@ int run_child(const QString& path, const QString& limit)
     play([] { run_event([] { f_cost(nullptr).show_modal(); }); },
          [&](hand& user) {
              if (limit == u"loading")
-                 meet(user, failure_kind::overflow);
+                 user.answer(failure_box(failure_kind::overflow));
              else if (limit == u"typing")
                  type_too_much(user);
              else
@@ -103,15 +98,15 @@ private Q_SLOTS:
         QFETCH(QString, amounts);
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        lay_down(path, amounts);
+        create_store(path, amounts);
         if (limit == u"accepting")
             reader(path).write(u"create trigger refuse before update on cost begin "
                                "select raise(abort, 'refused by the test'); end"_s);
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(), {u"--limit"_s, path, limit});
         QVERIFY(child.waitForFinished(120000));
-        const QByteArray said = child.readAllStandardError();
-        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        const QByteArray output = child.readAllStandardError();
+        QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
         QCOMPARE(amounts_in(path), amounts);

@@ -4,7 +4,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "base/failure_words.h"
 #include "base/language.h"
 #include "controls/failure_guard.h"
 #include "controls/interface_language.h"
@@ -12,6 +11,7 @@
 #include "reference/f_c_list.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/course_windows.h"
+#include "tests/support/failure_boxes.h"
 #include "tests/support/hand_widgets.h"
 
 using namespace verdane;
@@ -21,11 +21,6 @@ using namespace Qt::StringLiterals;
 /// A failure that ends the program is provoked in a child process: this program again, with a case and a
 /// store.
 namespace {
-
-expected_box failure_box(failure_kind kind)
-{
-    return {failure_words(kind).in(is_french), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok};
-}
 
 void add_courses(const reader& store, int count)
 {
@@ -123,8 +118,8 @@ private Q_SLOTS:
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, what, path});
         QVERIFY(child.waitForFinished(120000));
-        const QByteArray said = child.readAllStandardError();
-        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        const QByteArray output = child.readAllStandardError();
+        QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
         const reader store(path);

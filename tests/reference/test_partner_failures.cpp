@@ -3,13 +3,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "base/failure_words.h"
 #include "base/language.h"
 #include "controls/failure_guard.h"
 #include "controls/interface_language.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"
+#include "tests/support/failure_boxes.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -22,11 +22,6 @@ namespace {
 constexpr int not_reached = 77;
 const QString grid = u"pgrid"_s;
 
-void meet(hand& user, failure_kind kind)
-{
-    user.answer({failure_words(kind).in(is_french), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
-}
-
 int run_child(const QString& path, const QString& step)
 {
     set_interface_language(step == u"adding");
@@ -34,19 +29,19 @@ int run_child(const QString& path, const QString& step)
     const recording_frame frame;
     play(show_partners, [&](hand& user) {
         if (step == u"opening") {
-            meet(user, failure_kind::missing_table);
+            user.answer(failure_box(failure_kind::missing_table));
             return;
         }
         user.wait_for_window(partner_window());
         // A pending edit is lost with the new row: both are one batch.
         type_into(user, 0, 3, u"Lyon"_s);
         user.click(u"add"_s);
-        meet(user, failure_kind::store_other);
+        user.answer(failure_box(failure_kind::store_other));
     });
     return not_reached;
 }
 
-void lay_down(const QString& path, const QString& harm)
+void create_store(const QString& path, const QString& harm)
 {
     {
         Connection1 connection;
@@ -80,12 +75,12 @@ private Q_SLOTS:
         QFETCH(QString, harm);
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        lay_down(path, harm);
+        create_store(path, harm);
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, path, step});
         QVERIFY(child.waitForFinished(120000));
-        const QByteArray said = child.readAllStandardError();
-        QVERIFY2(!said.contains("FAIL!"), said.constData());
+        const QByteArray output = child.readAllStandardError();
+        QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
         if (step == u"adding") {
