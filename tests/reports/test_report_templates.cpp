@@ -128,6 +128,17 @@ private Q_SLOTS:
         QVERIFY(english.body != french.body);
     }
 
+    void the_twins_have_the_same_paper_and_margins_data() { each_report(); }
+    void the_twins_have_the_same_paper_and_margins()
+    {
+        QFETCH(QString, report);
+        const template_file french = read_template(built_template(report + u".rpt"_s));
+        const template_file english = read_template(built_template(report + u"_en.rpt"_s));
+        QCOMPARE(english.paper, french.paper);
+        QCOMPARE(english.landscape, french.landscape);
+        QCOMPARE(english.margins, french.margins);
+    }
+
     void a_person_can_edit_every_line_of_a_template_data() { each_report(); }
     void a_person_can_edit_every_line_of_a_template()
     {
