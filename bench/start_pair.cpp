@@ -27,7 +27,7 @@ namespace {
 bool run_to_its_end(const char* program, const QStringList& arguments)
 {
     std::vector<QByteArray> texts{
-        QFile::encodeName(QCoreApplication::applicationDirPath() + u'/' + QLatin1String(program))};
+        QFile::encodeName(QCoreApplication::applicationDirPath() + u'/' + QString::fromLatin1(program))};
     for (const QString& argument : arguments)
         texts.push_back(QFile::encodeName(argument));
     std::vector<char*> words;

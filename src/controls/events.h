@@ -45,13 +45,6 @@ void on_select(QComboBox& list, Routine routine)
                      [routine = std::move(routine)] { run_event(routine); });
 }
 
-template <typename Routine>
-void on_select(QListWidget& list, Routine routine)
-{
-    QObject::connect(&list, &QListWidget::currentRowChanged, &list,
-                     [routine = std::move(routine)] { run_event(routine); });
-}
-
 /// A double click on a line.
 template <typename Routine>
 void on_double_click(QListWidget& list, Routine routine)
@@ -68,7 +61,8 @@ void call_if_set(const std::function<void(Parameters...)>& callback, Arguments&&
         callback(std::forward<Arguments>(arguments)...);
 }
 
-/// Once, after the window has painted itself for the first time: for work of a start that need not delay it.
+/// Calls a routine once, after the window was painted for the first time. For work that need not delay the
+/// start.
 void after_first_paint(QWidget& window, std::function<void()> routine);
 
 }  // namespace verdane

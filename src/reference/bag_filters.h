@@ -22,11 +22,11 @@ public:
     explicit bag_filters(const Form& window);
 
     void fill_weather();
-    /// Fills both lists of rounds from the store. False when it holds no round.
+    /// Fills both lists of rounds from the store. False if it has no round.
     bool fill_rounds();
     void fill_partners_and_courses();
 
-    /// The selection that the filters describe. A filter that is off has the text of the golf bag for it.
+    /// The selection of the user.
     selection_arguments selection() const;
 
     /// Called by the update button.

@@ -22,8 +22,9 @@ extern checked_array<course_key, most_courses> course_keys;
 /// Stores the current row of `rsvrd_fields` at an index. Fails with `subscript` beyond the table.
 void keep_course_key(int index, Recordset& rsvrd_fields);
 
-/// Empties the table and stores as many rows as fit: removing a course must also work in a list that has
-/// become longer than the table. The recordset is left on another row or at `eof()`.
+/// Empties the table and stores as many rows as fit. It does not fail on more rows, because courses must be
+/// removable from a list that has become longer than the table. The recordset is left on another row or at
+/// `eof()`.
 void rebuild_course_keys(Recordset& rsvrd_fields);
 
 /// Adds the current row at the first free index, unless its code is in the table already. Nothing happens
@@ -33,7 +34,7 @@ void remember_new_course(Recordset& rsvrd_fields);
 /// The end of a code and of a `name_tee`: a dash and the digit of the tee.
 QString tee_mark(int tee);
 
-/// What the table holds of a name.
+/// The result of looking for a name in the table.
 struct known_course {
     bool duplicate = false;  ///< the name is there with the same tee
     QString base;            ///< the code without its tee; empty if the name is not there

@@ -22,7 +22,7 @@ void close(f_courses& window);
 /// A click on a tab: shows its page and sets the focus to the page's first box.
 void page_clicked(f_courses& window);
 
-/// A length was left and accepted: the totals follow.
+/// A length was left and accepted: computes the totals again.
 void yards_entered(f_courses& window);
 
 /// A tool button of the main window, by its key, pressed through its shortcut: `B1` saves, any other closes.

@@ -25,7 +25,7 @@ QString path_of_platform(QString path)
     return before_file < 0 ? path : path.replace(before_file, 1, u'/');
 }
 
-/// The report, or nothing when the user stopped it and was shown that.
+/// The report; null if the user stopped it, which a message box has confirmed.
 std::shared_ptr<const report_document> document_or_stopped(const QString& path, const QString& title)
 {
     QString where;

@@ -41,8 +41,8 @@ public:
     /// Writes all pages. Fails with `report_output`; a file of that name is then as it was.
     void save_pdf(const QString& path) const;
 
-    /// Writes the figures as UTF-8 text with a mark at its start that spreadsheets look for, one line
-    /// a row, below the columns' names. With `;` between the fields, numbers take a decimal comma.
+    /// Writes the figures as UTF-8 text with the byte order mark that spreadsheets expect: the names of the
+    /// columns, then one line for each row. With `;` between the fields, numbers take a decimal comma.
     /// Fails as `save_pdf`.
     void save_csv(const QString& path) const;
 

@@ -6,8 +6,7 @@
 #include "statistics/selection.h"
 
 /// The putt statistics: from the putt lengths of rounds to the report tables `s_put1` and `s_put2` and
-/// their report. The clauses of the selection have the form
-/// `alone`.
+/// their report. The clauses of the selection have the form `alone`.
 namespace verdane::Statistics {
 
 /// Fills the tables, moving the bar, and finally launches the report. If no round of the selection has

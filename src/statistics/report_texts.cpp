@@ -6,7 +6,7 @@ namespace verdane {
 
 namespace {
 
-/// More characters have no place in a column.
+/// More characters do not fit into a column.
 constexpr int most_characters = 5;
 
 }  // namespace

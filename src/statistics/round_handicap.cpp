@@ -35,7 +35,8 @@ void close_recordsets()
         rows->Close();
 }
 
-/// Adds one row to `hand` for each round. The array makes a round beyond the limit fail.
+/// Adds one row to `hand` for each round. A round beyond the limit fails, because the array has no index for
+/// it.
 missing_row gather_differentials(const selection_arguments& chosen)
 {
     Recordset& hand = data_environment().rshand;

@@ -41,7 +41,7 @@ int fail_in_an_event(const QString& language)
 
 struct ended {
     int status = -1;
-    QString said;
+    QString output;
 };
 
 ended failed_child(const QString& language)
@@ -77,9 +77,9 @@ private Q_SLOTS:
         const ended child = failed_child(language);
         QCOMPARE(child.status, 1);
         const text_pair words = failure_words(failure_kind::store_full);
-        QCOMPARE(child.said.contains(words.french), french);
-        QCOMPARE(child.said.contains(words.english), english);
-        QVERIFY2(child.said.contains(u"|3|insert into x"_s), qPrintable(child.said));
+        QCOMPARE(child.output.contains(words.french), french);
+        QCOMPARE(child.output.contains(words.english), english);
+        QVERIFY2(child.output.contains(u"|3|insert into x"_s), qPrintable(child.output));
     }
 
     void finishes_without_failure_returns_whether_there_was_none()

@@ -19,7 +19,7 @@ bool same_figures(const stored_hole& one, const stored_hole& other)
     return one.figures == other.figures && one.putts == other.putts;
 }
 
-/// What is wrong with the shots of a hole while they were being entered.
+/// The fault of the shots of a hole that were being entered when the program was killed; empty if none.
 QString fault_of_shots(const stored_hole& now, const stored_hole& old, const run_log& log)
 {
     const bool begun = is_start_of(now.shots, log.entering_shots);

@@ -17,8 +17,8 @@ private Q_SLOTS:
         QTest::addColumn<double>("wanted");
         QTest::addColumn<QStringList>("labels");
         const auto labels = [](const char* hand, const char* brut, const char* net, const char* plus) {
-            return QStringList{QLatin1String(hand), QLatin1String(brut), QLatin1String(net),
-                               QLatin1String(plus)};
+            return QStringList{QString::fromLatin1(hand), QString::fromLatin1(brut), QString::fromLatin1(net),
+                               QString::fromLatin1(plus)};
         };
         QTest::newRow("above the rating")
             << 90 << 72 << 70.5 << 130.0 << 16.95 << labels("16.95", "90", "74", "18");

@@ -54,7 +54,7 @@ private Q_SLOTS:
             QStringList seen;
             for (const char* name : {"lbl_unit_0", "lbl_unit_1", "lbl_unread_0", "lbl_Text1_14",
                                      "lbl_Text1_15", "lbl_unread_1", "lbl_Text1_16", "lbl_Text1_17"})
-                seen << user.text(QLatin1String(name));
+                seen << user.text(QString::fromLatin1(name));
             user.same(seen.join(u'|'), words, u"words"_s);
             user.click(u"Fer"_s);
         });

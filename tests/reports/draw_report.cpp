@@ -36,7 +36,7 @@ int main(int argc, char** argv)
         set_report_store(invented ? invented->path() : arguments[2]);
         const auto report = render_report(arguments[1]);
         const QString& path = arguments.constLast();
-        if (path.endsWith(QStringLiteral(".csv")))
+        if (path.endsWith(u".csv"_s))
             report->save_csv(path);
         else
             report->save_pdf(path);

@@ -89,7 +89,7 @@ QImage picture_of(const report_document& document, int page)
 double largest_difference(const QImage& one, const QImage& other, const QRect& area)
 {
     const QRect inside = area.intersected(one.rect());
-    // What is missing differs in the one picture, what is new in the other.
+    // Compares in both directions: one finds what is missing in the other picture, the other what is new.
     return std::max(most_different_square(one, other, inside), most_different_square(other, one, inside));
 }
 

@@ -157,7 +157,7 @@ private Q_SLOTS:
         reader(store_.path())
             .write(u"update r_card set card_name = '%1', card_tee = 'BLANC'"_s.arg(QString(letters, u'W')));
         const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
-        // Between the names and the tees of the two nines, after the name on the cover, and the fold.
+        // No ink between name and tee of either nine, nor between the name on the cover and the fold.
         for (const QRect& free : {QRect(172 + 1040, 100, 130, 55), QRect(172 + 1355 + 1000, 100, 130, 55),
                                   QRect(172 + 2602, 1070, 20, 150)})
             QCOMPARE(pixels_below(page, free, 250), 0);
@@ -180,7 +180,7 @@ private Q_SLOTS:
         reader(store_.path()).write(u"update sticknames set club_4 = '%1'"_s.arg(QString(50, u'W')));
         QVERIFY(printed_pages(u"r_card2_en.rpt"_s).front().contains(u"WWWW… 200"_s));
         const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
-        // Between the names and the line where their bars begin.
+        // No ink between the names of the clubs and the line where their bars begin.
         QCOMPARE(pixels_below(page, QRect(170 + 30 + 287, 90 + 980 + 82, 14, 780), 250), 0);
     }
 

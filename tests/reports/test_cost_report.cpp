@@ -201,7 +201,8 @@ private Q_SLOTS:
         fill_costs(store_.path(), 2);
         reader(store_.path()).write(u"update r_cost set fg = 9999, lg = 10000, ba = 12345, bs = 1234567"_s);
         const QString page = printed_pages(name).front();
-        // In the line of a round, the foot and the kinds; the third has the mean and both have the total.
+        // The line of a round, the totals and the means in the foot, one kind of cost, and the total of all
+        // kinds.
         for (QString text : {u"09:30 9999 · · · 12_345 · · · 10_000 1_234_567 · · 1_266_911 50."_s,
                              u"Total 19_998 · · · 24_690 · · · 20_000 2_469_134 · · 2_533_822 100"_s,
                              u" 9999.00 · · · 12_345.00 · · · 10_000.00 1_234_567.00 · · 1_266_911.00"_s,

@@ -111,7 +111,7 @@ void add_files(const add_row& add)
     add("import", u"<style>\n@import 'page.css';</style>x"_s, u"6: @import"_s + file_words);
     add("style sheet", u"\n<link rel=\"stylesheet\" type=\"text/css\" href=\"page.css\">x"_s,
         u"6: link"_s + file_words);
-    // The check of the page does not recognise it; the document that loads nothing does.
+    // The check of the page does not recognise this reference; the layout, which loads no file, does.
     add("url in disguise", u"<style>\np { background-image: u\\72l(file:///page.png) }</style><p>x</p>"_s,
         u"5: file:///page.png"_s + file_words);
     add("picture in a drawing", drawing(nine_mm, u"<image href=\"/tmp/p.png\" width=\"9\" height=\"9\"/>"_s),

@@ -41,7 +41,7 @@ QString row_counts(const golfer_store& round)
 {
     QStringList counts;
     for (const char* table : {"games", "games2", "cost", "Stat_rounds"})
-        counts << round.store.text(u"select count(*) from "_s + QLatin1String(table));
+        counts << round.store.text(u"select count(*) from "_s + QString::fromLatin1(table));
     return counts.join(u' ');
 }
 

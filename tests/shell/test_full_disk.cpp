@@ -91,10 +91,10 @@ int fail_in_a_round()
 }
 
 /// The digit that each hole was left with, by its number.
-std::map<int, int> digits_left(const QString& said)
+std::map<int, int> digits_left(const QString& output)
 {
     std::map<int, int> digits;
-    for (const QString& line : said.split(u'\n')) {
+    for (const QString& line : output.split(u'\n')) {
         const QStringList words = line.split(u' ');
         if (words.size() == 3 && words[0] == u"left:")
             digits[words[1].toInt()] = words[2].toInt();
@@ -105,7 +105,7 @@ std::map<int, int> digits_left(const QString& said)
 struct ended {
     bool crashed;
     int status;
-    QString said;
+    QString output;
 };
 
 ended child(const QString& way, const QString& argument = {})
@@ -138,11 +138,11 @@ private Q_SLOTS:
         const QString path = program_run::store_path();
         QVERIFY(QFile::remove(path));
         const ended start = child(u"--start"_s, QString::number(bytes));
-        QVERIFY2(!start.crashed, qPrintable(start.said));
+        QVERIFY2(!start.crashed, qPrintable(start.output));
         QCOMPARE(start.status, 1);
         const text_pair words = failure_words(failure_kind::store_full);
-        QVERIFY2(start.said.contains(words.french) && start.said.contains(words.english),
-                 qPrintable(start.said));
+        QVERIFY2(start.output.contains(words.french) && start.output.contains(words.english),
+                 qPrintable(start.output));
         const QDir folder = QFileInfo(path).absoluteDir();
         QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), QStringList());
         Connection1 connection;
@@ -154,12 +154,12 @@ private Q_SLOTS:
     {
         const program_run run(2, one_course() + one_round());
         const ended round = child(u"--round"_s);
-        QVERIFY2(!round.crashed, qPrintable(round.said));
+        QVERIFY2(!round.crashed, qPrintable(round.output));
         QCOMPARE(round.status, 1);
-        QVERIFY2(round.said.contains(failure_words(failure_kind::store_full).english),
-                 qPrintable(round.said));
-        const std::map<int, int> digits = digits_left(round.said);
-        QVERIFY2(!digits.empty(), qPrintable(round.said));
+        QVERIFY2(round.output.contains(failure_words(failure_kind::store_full).english),
+                 qPrintable(round.output));
+        const std::map<int, int> digits = digits_left(round.output);
+        QVERIFY2(!digits.empty(), qPrintable(round.output));
         for (const auto& [hole, digit] : digits)
             QCOMPARE(run.store().text(u"select long_%1 || ' ' || fairway_%1 from games join "
                                       u"games2 using (date)"_s.arg(hole)),

@@ -90,10 +90,10 @@ private Q_SLOTS:
         QVERIFY(child.waitForFinished(120000));
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
-        const QString said = QString::fromUtf8(child.readAllStandardOutput());
+        const QString output = QString::fromUtf8(child.readAllStandardOutput());
         const text_pair words = failure_words(failure_kind::store_damaged);
-        QVERIFY2(said.contains(words.french) || said.contains(words.english), qPrintable(said));
-        QVERIFY2(said.contains(u"language window: 0"_s), qPrintable(said));
+        QVERIFY2(output.contains(words.french) || output.contains(words.english), qPrintable(output));
+        QVERIFY2(output.contains(u"language window: 0"_s), qPrintable(output));
         QCOMPARE(content_of_store(), before);
     }
 

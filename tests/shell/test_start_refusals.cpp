@@ -44,7 +44,7 @@ int start_and_leave()
 
 struct ended {
     int status;
-    QString said;
+    QString output;
 };
 
 ended child_start(const char* way = "--start")
@@ -107,7 +107,8 @@ private Q_SLOTS:
         program_run run(2, rounds(367));
         const ended child = child_start();
         QCOMPARE(child.status, 1);
-        QVERIFY2(child.said.contains(failure_words(failure_kind::subscript).english), qPrintable(child.said));
+        QVERIFY2(child.output.contains(failure_words(failure_kind::subscript).english),
+                 qPrintable(child.output));
     }
 
     void a_second_program_on_the_same_diary_reports_the_lock_and_stops()
@@ -118,7 +119,8 @@ private Q_SLOTS:
             const ended child = child_start();
             user.same(child.status, 1, u"exit status of the second program"_s);
             const text_pair words = failure_words(failure_kind::store_locked);
-            user.check(child.said.contains(words.french) && child.said.contains(words.english), child.said);
+            user.check(child.output.contains(words.french) && child.output.contains(words.english),
+                       child.output);
             quit(user);
         });
     }
@@ -151,8 +153,8 @@ private Q_SLOTS:
             QFile::setPermissions(QFileInfo(path).path(), owner_only);
         QCOMPARE(child.status, 1);
         const text_pair words = failure_words(static_cast<failure_kind>(kind));
-        QVERIFY2(child.said.contains(words.french) && child.said.contains(words.english),
-                 qPrintable(child.said));
+        QVERIFY2(child.output.contains(words.french) && child.output.contains(words.english),
+                 qPrintable(child.output));
         QCOMPARE(content(path), before);
     }
 
@@ -161,8 +163,8 @@ private Q_SLOTS:
         program_run run(1, {u"drop table sticknames"_s});
         const ended child = child_start();
         QCOMPARE(child.status, 1);
-        QVERIFY2(child.said.contains(failure_words(failure_kind::missing_table).french),
-                 qPrintable(child.said));
+        QVERIFY2(child.output.contains(failure_words(failure_kind::missing_table).french),
+                 qPrintable(child.output));
     }
 };
 

@@ -19,7 +19,7 @@ QString strokes_of_round()
     for (int hole = 1; hole <= 18; ++hole) {
         for (const char* count :
              {"long_", "approach_", "putt_", "pen_rule_", "pen_water_", "pen_bounds_", "pen_lost_"})
-            terms << u"coalesce(%1%2,0)"_s.arg(QLatin1String(count)).arg(hole);
+            terms << u"coalesce(%1%2,0)"_s.arg(QString::fromLatin1(count)).arg(hole);
     }
     return terms.join(u'+');
 }

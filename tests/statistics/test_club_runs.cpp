@@ -94,7 +94,7 @@ private Q_SLOTS:
         shots.shot(1, 1, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
         shots.shot(1, 1, u"400, 395, 'Verges', 1, 0, 1, 1"_s);
         shots.shot(1, 13, u"60, 10, 'Verges', 1, 0, 0, 2"_s);
-        // Played with the putter from off the green: no figures, and yet counted here.
+        // An approach with the putter has no figures in the report, but is counted here.
         shots.shot(1, 14, u"40, 10, 'Verges', 1, 0, 0, 2"_s);
         shots.shot(1, 14, u"40, 0, 'Pieds', 0, 0, 0, 3"_s);
         Recordset& sticks = data_environment().rssticks;

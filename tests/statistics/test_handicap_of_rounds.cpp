@@ -90,7 +90,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("ratings");
         QTest::addColumn<QString>("expected");
         const QStringList rest(3, u"20"_s);
-        // Every round has a gross of 80: the rating makes the differential.
+        // Every round has a gross of 80, so the rating determines the differential.
         QTest::newRow("10.44 alone is 10.4") << (QStringList{"69.56", "60"} + rest) << " 10.4";
         QTest::newRow("12.25 alone is rounded to the even tenth")
             << (QStringList{"67.75", "60"} + rest) << " 12.2";

@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(cr2.page_zoom().value_or(0), 75);
         delete cr2.preview();
         QCOMPARE(rounds.by_first(1).mid(11, 2), (QStringList{u"Ronde : 1"_s, u"Vent"_s}));
-        // What a head of a single round does not show is left as the last selection wrote it.
+        // The heading of a single round does not show these fields; the last selection has written them.
         QCOMPARE(choices, (QStringList{u"ALL"_s, u"ALL PARTNERS"_s, u"ALL COURSES"_s, u"2"_s}));
         QCOMPARE(rounds.by_first(1).mid(23), choices);
     }

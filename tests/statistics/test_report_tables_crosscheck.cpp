@@ -180,7 +180,8 @@ QStringList club_of(const reader& store, const QString& condition, int club)
                         clean > 0 ? cut(number(sum / clean).mid(1)) : QString()};
     for (const char* kind : {"s.fairval = 1", "s.fairval = 3", "s.fairval = 2", "s.missed", "s.penval > 0",
                              "s.shot_type_value = 2 and s.after = 0"}) {
-        const int count = store.number(u"select count(*)"_s + rows + u" and (" + QLatin1String(kind) + u')');
+        const int count =
+            store.number(u"select count(*)"_s + rows + u" and (" + QString::fromLatin1(kind) + u')');
         figures << cut(number(count * 100.0 / shots) + u'%');
     }
     return figures;

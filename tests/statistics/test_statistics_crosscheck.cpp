@@ -73,7 +73,7 @@ std::vector<diary_round> generated_diary()
     return rounds;
 }
 
-/// One line of the selection: what the user picks, and which rounds that means.
+/// One selection: the choices of the user, and the rounds that they select.
 struct choice {
     int from = 0;
     int to = rounds_in_diary - 1;

@@ -87,8 +87,8 @@ private Q_SLOTS:
         QVERIFY(child.waitForFinished(120000));
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
-        const QString said = QString::fromUtf8(child.readAllStandardOutput());
-        QVERIFY2(said.contains(failure_words(failure_kind::overflow).french), qPrintable(said));
+        const QString output = QString::fromUtf8(child.readAllStandardOutput());
+        QVERIFY2(output.contains(failure_words(failure_kind::overflow).french), qPrintable(output));
     }
 };
 

@@ -89,8 +89,7 @@ QStringList missing_buttons(const QWidget& window)
     return missing;
 }
 
-/// In a window that does not scroll nothing is cut off: its labels, buttons, frames and boxes that are not
-/// completely visible.
+/// The labels, buttons, frames and boxes that are not completely visible in a window that does not scroll.
 QStringList cut_off_controls(const QWidget& window)
 {
     QStringList cut_off;
@@ -153,8 +152,9 @@ QString described(const QWidget& control)
     const auto measure = [](const QSize& size) -> QString {
         return QString::number(size.width()) + u'x' + QString::number(size.height());
     };
-    const QString name = control.objectName().isEmpty() ? QLatin1String(control.metaObject()->className())
-                                                        : control.objectName();
+    const QString name = control.objectName().isEmpty()
+                             ? QString::fromLatin1(control.metaObject()->className())
+                             : control.objectName();
     return name + u", size " + measure(control.size()) + u", visible " + measure(visible_part(control)) +
            u", view " + measure(view_around(control)) + u',';
 }

@@ -112,7 +112,7 @@ QStringList shared_mnemonics(const QWidget& window)
     return shared;
 }
 
-/// Presses F1 and closes the list of shortcuts; what is wrong with the list.
+/// Presses F1, closes the list of shortcuts and returns the faults of the list.
 QStringList faults_of_f1(hand& user, const program_window& window)
 {
     const QString name = window.name(is_french);
@@ -135,7 +135,7 @@ QStringList faults_of_f1(hand& user, const program_window& window)
     return faults;
 }
 
-/// Presses Escape; whether that did not click the cancel button once.
+/// Presses Escape. Returns a fault unless that clicked the cancel button exactly once.
 QStringList faults_of_escape(hand& user, const program_window& window)
 {
     int clicks = 0;
@@ -178,7 +178,7 @@ bool has_cancel_button(const program_window& window)
     return !window.cancel_button.isEmpty();
 }
 
-/// Of the windows of a round one is enough.
+/// True for one of the windows of a round; testing one of them is enough.
 bool is_round_window(const program_window& window)
 {
     return window.view == u"f_new_round"_s;

@@ -45,7 +45,7 @@ QString described(QAccessibleInterface& part)
 {
     const QObject* object = part.object();
     return u"%1 (role %2)"_s
-        .arg(object ? object->objectName() + u' ' + QLatin1String(object->metaObject()->className())
+        .arg(object ? object->objectName() + u' ' + QString::fromLatin1(object->metaObject()->className())
                     : u"a part"_s)
         .arg(static_cast<int>(part.role()));
 }

@@ -72,7 +72,7 @@ QStringList controls_of(const QWidget& window)
         // The main window has a picture for each language and shows one of them.
         const bool depends_on_language = control->objectName().startsWith(u"Picture");
         const bool visible = !depends_on_language && control->isVisibleTo(&window);
-        lines << control->objectName() + u' ' + QLatin1StringView(control->metaObject()->className()) +
+        lines << control->objectName() + u' ' + QString::fromLatin1(control->metaObject()->className()) +
                      (visible ? u" visible" : u"");
     }
     lines.sort();

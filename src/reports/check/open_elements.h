@@ -8,8 +8,9 @@
 
 namespace verdane {
 
-/// The elements that are open at a place of a page, as the toolkit's reader counts them: a row ends the row
-/// before it, a cell the cell, a paragraph the paragraph, and elements that never hold anything are not open.
+/// The elements that are open at a position of a page, as the toolkit's reader counts them. A new row closes
+/// the row before it; the same applies to cells and paragraphs. Elements without content, such as `<br>`, are
+/// never open.
 class open_elements {
 public:
     void open(const markup_piece& start_tag);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double mm_per_pt = 25.4 / 72;
 
-/// Walks through a page up to its first fault.
+/// Reads a page up to its first fault.
 class fault_finder {
 public:
     explicit fault_finder(double font_points) : line_mm_(font_points * mm_per_pt) {}
@@ -82,8 +82,8 @@ private:
             line_mm_ += lengths_in(value).sum;
     }
 
-    /// A bound of the height, from what every element and every second character could take. Beyond the range
-    /// of the toolkit's numbers its layout does not terminate.
+    /// Limits the height of the page by an upper bound: a line for every element and every second character.
+    /// The layout of the toolkit does not terminate if a height exceeds the range of its numbers.
     void check_height(const markup_piece& piece)
     {
         if (piece.kind == markup_kind::text) {
@@ -112,7 +112,8 @@ private:
 
     open_elements open_;
     qsizetype drawing_position_ = 0;
-    /// The tallest that a style sheet or table makes a line or the space around it, so far.
+    /// The greatest height of a line, with the space around it, that the font, the style sheets and the
+    /// tables up to here can cause.
     double line_mm_;
     double height_mm_ = 0;
     std::optional<page_fault> fault_;

@@ -12,9 +12,9 @@ namespace verdane {
 class report_snapshot;
 struct template_file;
 
-/// The first element nested too deep, font size that cannot be printed, length or span too large, text too
-/// long to break, or reference to a file; nothing where the page may be laid out. `font_points` is the size
-/// of the letters without a style.
+/// Finds the first fault in a page: an element nested too deep, a font size that cannot be printed, a length
+/// or span that is too large, a text too long to break, or a reference to a file. Empty if the page may be
+/// laid out. `font_points` is the size of the letters without a style.
 std::optional<page_fault> first_fault(QStringView html, double font_points);
 
 /// Fails with `report_template`, at the line of the template that the fault comes from, on the first fault of

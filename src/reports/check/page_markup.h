@@ -11,14 +11,14 @@ namespace verdane {
 
 enum class markup_kind { text, start_tag, end_tag, style_sheet };
 
-/// A piece of HTML or SVG: the text between two tags, a tag with its brackets, or what a `<style>` element
-/// holds. Comments are left out.
+/// A piece of HTML or SVG: the text between two tags, a tag with its brackets, or the content of a `<style>`
+/// element. Comments are left out.
 struct markup_piece {
     markup_kind kind = markup_kind::text;
     QStringView text;
-    /// Of its first character in the markup, from 0.
+    /// The position of its first character in the markup, from 0.
     qsizetype position = 0;
-    /// Of a tag; empty for anything else.
+    /// The name of the element of a tag; empty for other pieces.
     QStringView name;
 
     bool is(QStringView element) const { return name.compare(element, Qt::CaseInsensitive) == 0; }
@@ -29,8 +29,8 @@ struct markup_piece {
 /// Whether a name is one of a list, in capital or small letters.
 bool is_one_of(QStringView name, std::initializer_list<QStringView> names);
 
-/// Splits markup as the reader of the toolkit does: a tag ends at the first `>` outside quotes, and what is
-/// not closed reaches to the end.
+/// Splits markup as the reader of the toolkit does: a tag ends at the first `>` outside quotes, and a piece
+/// that is not closed extends to the end.
 class markup_reader {
 public:
     /// `markup` must outlive the reader and its pieces.

@@ -7,14 +7,15 @@
 
 namespace verdane {
 
-/// Something in a filled page that the layout cannot handle or may not do.
+/// A fault in a filled page: something that the layout cannot handle, or a file that it must not load.
 struct page_fault {
-    /// Of a character in the page, from 0.
+    /// The position of the faulty character, from 0.
     qsizetype position = 0;
     QString message;
 };
 
-// What the texts, styles and attributes of a page may hold. Positions count from the start of the argument.
+// Each of these functions returns the first fault, if there is one. Positions count from the start of the
+// argument.
 
 /// A text without a blank that is too long to be broken into lines.
 std::optional<page_fault> fault_of_text(QStringView text);
@@ -22,7 +23,7 @@ std::optional<page_fault> fault_of_text(QStringView text);
 /// A font size, length or file in a style sheet or a `style` attribute.
 std::optional<page_fault> fault_of_style(QStringView style);
 
-/// An attribute of `element`; drawings have other units.
+/// A wrong value of an attribute of `element`; the units in a drawing are different.
 std::optional<page_fault> fault_of_attribute(QStringView element, bool in_drawing, QStringView name,
                                              QStringView value);
 

@@ -110,7 +110,7 @@ private:
         return result;
     }
 
-    /// What a row without any text counts, in characters.
+    /// The number of characters that is counted for a row without text.
     static constexpr qsizetype least_row = 100;
 
     const template_file& source_;

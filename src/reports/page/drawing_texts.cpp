@@ -117,7 +117,7 @@ set_text fitted(const drawing_text& text, double scale_x, double scale_y)
     return result;
 }
 
-/// Whether letters whose middle is at that height are outside the clip. They must not be painted at all: a
+/// True if letters whose middle is at that height are outside the clip. They must not be painted, because a
 /// search in a PDF file would find them although they are invisible.
 bool is_clipped_away(const QPainter& painter, double middle)
 {

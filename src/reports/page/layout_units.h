@@ -12,8 +12,8 @@ constexpr double units_per_pt = 10.0;
 /// The edge of the paper on which printers do not print, in millimetres.
 constexpr double unprintable_rim = 6;
 
-/// Too small to be visible. Spaced letters form no ligatures, so that a search in a PDF file finds a word
-/// with "ffi".
+/// Additional space between letters, too small to be visible. Letters with additional space form no
+/// ligatures, so that a search in a PDF file finds a word with "ffi".
 constexpr double spacing_without_ligatures = 0.02;
 
 /// A length such as "12mm", "8.5pt" or "1px" (1/96 inch) in layout units; a negative number when the

@@ -114,7 +114,7 @@ private:
         return {top, top + strip_of(table).height()};
     }
 
-    /// Where the uppermost cell that begins in a row begins, its padding included.
+    /// The top of the uppermost cell that begins in a row, its padding included.
     double row_top(const QTextTable& table, int row) const
     {
         double top = strip_of(table).bottom;
@@ -124,7 +124,7 @@ private:
                 continue;
             const QTextTableCellFormat format = cell.format().toTableCellFormat();
             top = qMin(top, content_top(cell) - format.topPadding() - format.topBorder());
-            // No cell begins above one whose text is at its top, and nearly all are such cells.
+            // The text of nearly every cell is at its top, so the first cell usually gives the result.
             if (is_at_top(cell, format))
                 return top;
         }

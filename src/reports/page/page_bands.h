@@ -17,11 +17,11 @@ struct page_strip {
 /// A strip that stays in one piece: a line of text, or a row of a table.
 struct page_band {
     page_strip place;
-    /// The head of the table that the row belongs to; of no height for anything else.
+    /// The head of the table that the row belongs to; its height is 0 for a line of text.
     page_strip head;
     bool starts_page = false;
-    /// The bottom of what should stay on its page, if a page is tall enough: otherwise the foot of a table
-    /// could be alone below its repeated head.
+    /// The lower end of the bands that should be on the same page as this one, if a page is tall enough.
+    /// Without it, the foot of a table could be alone below its repeated head.
     double kept_bottom = 0;
 };
 

@@ -97,8 +97,8 @@ void page_view::fit_width()
 void page_view::zoom_to_width()
 {
     const double true_width = page_size().width() * 100.0 / zoom_;
-    const double room = viewport()->width() - 2 * gap;
-    zoom_to(static_cast<int>(room / true_width * 100.0));
+    const double available = viewport()->width() - 2 * gap;
+    zoom_to(static_cast<int>(available / true_width * 100.0));
 }
 
 bool page_view::is_visible_page(int page) const
@@ -120,8 +120,8 @@ int page_view::current_page() const
         return *wanted_page_;
     const QScrollBar* bar = verticalScrollBar();
     const bool at_end = bar->maximum() > 0 && bar->value() == bar->maximum();
-    const bool has_room = page_size().height() <= viewport()->height();
-    return at_end && has_room ? document_->page_count() - 1 : topmost_page();
+    const bool fits = page_size().height() <= viewport()->height();
+    return at_end && fits ? document_->page_count() - 1 : topmost_page();
 }
 
 void page_view::previous_page()

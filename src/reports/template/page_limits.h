@@ -15,18 +15,18 @@ constexpr int least_page_mm = 20;
 constexpr int most_pages = 1000;
 /// Any length in a tag or a style, in millimetres.
 constexpr int most_length_mm = 500;
-/// What the elements and characters of a page could reach below one another, in millimetres.
+/// The greatest height that a page could have, in millimetres, computed from its elements and characters.
 constexpr int most_height_mm = 1'000'000;
 
 constexpr double least_font_points = 1;
 constexpr double most_font_points = 500;
 
-/// Sections of a template, and elements and tables of a filled page, one inside the other. The time of the
-/// layout doubles with every table around another.
+/// Levels of nested sections in a template, and of nested elements and tables in a filled page. Each level of
+/// tables doubles the time of the layout.
 constexpr int most_nested_sections = 50;
 constexpr int most_nested_elements = 50;
 constexpr int most_nested_tables = 4;
-/// Columns or rows that one cell covers.
+/// The most columns or rows that one cell spans.
 constexpr int most_spanned = 1000;
 
 constexpr int most_rows_of_query = 10'000;

@@ -160,14 +160,14 @@ void check_role(const head_setting& setting, const known_setting& what, head_rol
 
 /// The paper minus the margins. The default margins fit every paper, so margins that do not fit have a line
 /// in the file.
-void check_room(const template_file& target)
+void check_printable_area(const template_file& target)
 {
-    const QSizeF room = QRectF(QPointF(), target.page_size_mm()).marginsRemoved(target.margins).size();
-    if (qMin(room.width(), room.height()) < least_page_mm)
+    const QSizeF area = QRectF(QPointF(), target.page_size_mm()).marginsRemoved(target.margins).size();
+    if (qMin(area.width(), area.height()) < least_page_mm)
         fail_template(target.at(target.margins_line),
                       u"the margins leave %1 mm by %2 mm of the page; at least %3 mm by %3 mm "
-                      u"must be left"_s.arg(qRound(room.width()))
-                          .arg(qRound(room.height()))
+                      u"must be left"_s.arg(qRound(area.width()))
+                          .arg(qRound(area.height()))
                           .arg(least_page_mm));
 }
 
@@ -190,7 +190,7 @@ void read_settings(template_file& target, head_role role, const std::vector<head
 
 void complete_settings(template_file& target)
 {
-    check_room(target);
+    check_printable_area(target);
     if (target.queries.empty())
         fail_template(target.at(1), u"the head names no query"_s);
     if (target.csv_query.isEmpty())
