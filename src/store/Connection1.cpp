@@ -88,6 +88,11 @@ void Connection1::Execute(const QString& statement)
         throw engine_->failure(query.lastError(), statement);
 }
 
+QString Connection1::identity_script() const
+{
+    return engine().identity_script();
+}
+
 QSqlDatabase Connection1::database() const
 {
     return QSqlDatabase::database(name_, false);

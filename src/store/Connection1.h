@@ -60,6 +60,10 @@ public:
     /// contain the statement.
     void Execute(const QString& statement);
 
+    /// Statements that add the column that identifies a row to the tables of the store. Empty unless someone
+    /// else made the tables of a source without it. The program works without it, more slowly.
+    QString identity_script() const;
+
     /// Qt's handle of the connection, for this library only.
     QSqlDatabase database() const;
 

@@ -52,12 +52,13 @@ QString column_definition(const column& column)
     return definition;
 }
 
-QString creation_statement(const table& table, const QString& ending)
+QString creation_statement(const store_engine& engine, const table& table)
 {
     QStringList definitions;
     for (const column& column : table.columns)
         definitions += column_definition(column);
-    return u"CREATE TABLE " + in_back_quotes(table.name) + u" (" + definitions.join(u", "_s) + ending;
+    return u"CREATE TABLE " + in_back_quotes(table.name) + u" (" + definitions.join(u", "_s) +
+           engine.table_ending(table);
 }
 
 QVariant value_by_type(column_type type)
@@ -138,9 +139,14 @@ void create_tables_and_indexes(Connection1& connection)
 {
     store_engine& engine = connection.engine();
     for (const table& table : schema()) {
-        connection.Execute(creation_statement(table, engine.table_ending()));
+        if (!engine.was_created_before(table.name))
+            connection.Execute(creation_statement(engine, table));
+        else if (table.fixed_rows > 0)
+            connection.Execute(u"DELETE FROM " + in_back_quotes(table.name));
         insert_fixed_rows(engine, table);
     }
+    if (engine.declares_indexes())
+        return;
     for (const QString& statement : index_statements())
         connection.Execute(statement);
 }

@@ -181,11 +181,6 @@ const commit_statements& embedded_engine::commits() const
     return sqlite_commits();
 }
 
-QString embedded_engine::table_ending() const
-{
-    return u")"_s;
-}
-
 run_time_failure embedded_engine::failure(const QSqlError& error, const QString& where) const
 {
     return store_failure(error, where);

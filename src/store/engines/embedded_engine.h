@@ -29,7 +29,6 @@ public:
     int change(const statement_with_values& statement, const QString& where) override;
     qint64 insert(const statement_with_values& statement, const QString& where) override;
     const commit_statements& commits() const override;
-    QString table_ending() const override;
     run_time_failure failure(const QSqlError& error, const QString& where) const override;
 
 private:

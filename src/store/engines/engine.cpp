@@ -30,6 +30,11 @@ bool store_engine::is_open() const
     return QSqlDatabase::contains(name_) && database().isOpen();
 }
 
+QString store_engine::table_ending(const table&) const
+{
+    return QStringLiteral(")");
+}
+
 QString store_engine::select_with_identity(const QString& statement, const select_statement& shape,
                                            const QString& identity) const
 {

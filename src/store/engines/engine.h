@@ -18,6 +18,7 @@ class QSqlError;
 namespace verdane {
 
 class lock_wait;
+struct table;
 
 /// The statements with which an engine commits.
 struct commit_statements {
@@ -89,14 +90,20 @@ public:
 
     virtual const commit_statements& commits() const = 0;
 
-    /// What follows the columns in the statement that creates a table, the closing parenthesis included.
-    virtual QString table_ending() const = 0;
+    /// What follows the columns in the statement that creates a table, the closing parenthesis included. An
+    /// index that it does not declare is created by a statement of its own.
+    virtual QString table_ending(const table& declared) const;
+    virtual bool declares_indexes() const { return false; }
+
+    /// True for a table that an interrupted creation of the tables has left. Its fixed rows may be
+    /// incomplete.
+    virtual bool was_created_before(QStringView) const { return false; }
 
     /// Called after the tables have been created. Fails with `source_table` if one of them is missing.
     virtual void tables_created() {}
 
-    /// The tables of the store that have no column that identifies a row.
-    virtual QStringList tables_without_identity() const { return {}; }
+    /// Statements that add the column that identifies a row to the tables that lack it; empty if none does.
+    virtual QString identity_script() const { return {}; }
 
     /// The failure that an error means. `where` names the statement and the recordset.
     virtual run_time_failure failure(const QSqlError& error, const QString& where) const = 0;

@@ -3,6 +3,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
+#include <algorithm>
+
 #include "store/engines/mariadb_errors.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/sql_text.h"
@@ -26,8 +28,8 @@ constexpr int idle_time_out_s = 2'147'483;
 constexpr QStringView case_setting = u"select @@lower_case_table_names";
 
 constexpr QStringView columns_of_tables =
-    u"select table_name, column_name from information_schema.columns where table_schema = database() "
-    u"order by table_name, ordinal_position";
+    u"select table_name, column_name, column_key from information_schema.columns "
+    u"where table_schema = database() order by table_name, ordinal_position";
 
 }  // namespace
 
@@ -36,14 +38,21 @@ bool mariadb_engine::open(soundness_check)
     set_session();
     check_server();
     take_lock();
-    const source_tables found = read_tables();
-    const tables_found which = check_tables(found);
-    if (which == tables_found::some)
-        throw run_time_failure(failure_kind::source_table,
-                               u"%1: %2"_s.arg(where_.name, missing_tables(found).join(u", "_s)));
+    read_tables();
+    const tables_found which = check_tables(found_);
     if (which == tables_found::all)
         check_writable();
+    // Each statement that creates a table is committed by itself, so an earlier start may have been ended in
+    // between.
+    if (which == tables_found::some && (!are_first_tables(found_) || holds_rows()))
+        refuse_incomplete();
     return which == tables_found::all;
+}
+
+void mariadb_engine::refuse_incomplete() const
+{
+    throw run_time_failure(failure_kind::source_table,
+                           u"%1: %2"_s.arg(where_.name, missing_tables(found_).join(u", "_s)));
 }
 
 void mariadb_engine::set_session() const
@@ -72,24 +81,35 @@ void mariadb_engine::take_lock() const
         throw run_time_failure(failure_kind::store_locked, where_.name);
 }
 
-source_tables mariadb_engine::read_tables()
+void mariadb_engine::read_tables()
 {
     QSqlQuery query(database());
     query.setForwardOnly(true);
     const QString question = columns_of_tables.toString();
     if (!query.exec(question))
         throw failure(query.lastError(), question);
-    source_tables found;
+    found_.clear();
     identified_.clear();
+    keyed_.clear();
     while (query.next()) {
         const QString table = query.value(0).toString().toLower();
         const QString column = query.value(1).toString();
         if (column == row_column())
             identified_ << table;
         else
-            found[table] << column;
+            found_[table] << column;
+        if (query.value(2).toString() == u"PRI")
+            keyed_ << table;
     }
-    return found;
+}
+
+bool mariadb_engine::holds_rows() const
+{
+    const auto has_rows = [this](const table& declared) {
+        return declared.fixed_rows == 0 && found_.contains(declared.name.toLower()) &&
+               first_value(u"select count(*) from `" + declared.name + u'`') != u"0";
+    };
+    return std::any_of(schema().begin(), schema().end(), has_rows);
 }
 
 void mariadb_engine::check_writable() const
@@ -98,23 +118,30 @@ void mariadb_engine::check_writable() const
     run(u"update settings set language = language"_s);
 }
 
-void mariadb_engine::tables_created()
+bool mariadb_engine::was_created_before(QStringView table) const
 {
-    // Every statement that creates a table is committed by itself.
-    const QStringList missing = missing_tables(read_tables());
-    if (!missing.isEmpty())
-        throw run_time_failure(failure_kind::source_table,
-                               u"%1: %2"_s.arg(where_.name, missing.join(u", "_s)));
+    return found_.contains(table.toString().toLower());
 }
 
-QStringList mariadb_engine::tables_without_identity() const
+void mariadb_engine::tables_created()
 {
-    QStringList names;
+    read_tables();
+    if (check_tables(found_) != tables_found::all)
+        refuse_incomplete();
+}
+
+QString mariadb_engine::identity_script() const
+{
+    QString script;
     for (const table& declared : schema()) {
-        if (!identified_.contains(declared.name.toLower()))
-            names << declared.name;
+        const QString name = declared.name.toLower();
+        if (identified_.contains(name))
+            continue;
+        // A table has one primary key. A column with a counter needs a key.
+        script += u"ALTER TABLE `%1` ADD COLUMN %2 BIGINT AUTO_INCREMENT %3 INVISIBLE;\n"_s.arg(
+            declared.name, row_column(), keyed_.contains(name) ? u"UNIQUE"_s : u"PRIMARY KEY"_s);
     }
-    return names;
+    return script;
 }
 
 QString mariadb_engine::identity_column(QStringView table) const
@@ -157,10 +184,13 @@ const commit_statements& mariadb_engine::commits() const
     return statements;
 }
 
-QString mariadb_engine::table_ending() const
+QString mariadb_engine::table_ending(const table& declared) const
 {
-    return u", %1 BIGINT AUTO_INCREMENT PRIMARY KEY INVISIBLE) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 "
-           u"COLLATE=utf8mb4_nopad_bin"_s.arg(row_column());
+    QString index;
+    if (!declared.index_name.isEmpty())
+        index = u", INDEX `%1` (`%2`)"_s.arg(declared.index_name, declared.indexed_columns.join(u"`, `"_s));
+    return u", %1 BIGINT AUTO_INCREMENT PRIMARY KEY INVISIBLE%2) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 "
+           u"COLLATE=utf8mb4_nopad_bin"_s.arg(row_column(), index);
 }
 
 run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& where) const

@@ -27,10 +27,12 @@ public:
                         const QVariant& value) const override;
     qint64 insert(const statement_with_values& statement, const QString& where) override;
     const commit_statements& commits() const override;
-    QString table_ending() const override;
+    QString table_ending(const table& declared) const override;
+    bool declares_indexes() const override { return true; }
+    bool was_created_before(QStringView table) const override;
     run_time_failure failure(const QSqlError& error, const QString& where) const override;
     void tables_created() override;
-    QStringList tables_without_identity() const override;
+    QString identity_script() const override;
 
 protected:
     QString text_literal(QStringView text) const override;
@@ -40,11 +42,16 @@ private:
     void set_session() const;
     void check_server() const;
     void take_lock() const;
-    source_tables read_tables();
+    [[noreturn]] void refuse_incomplete() const;
+    void read_tables();
+    bool holds_rows() const;
     void check_writable() const;
 
-    /// The tables with that column, in small letters.
+    /// The tables of the database and their columns, without the one that identifies a row.
+    source_tables found_;
+    /// The tables with that column, and those with a primary key, in small letters.
     QSet<QString> identified_;
+    QSet<QString> keyed_;
 };
 
 }  // namespace verdane

@@ -53,6 +53,7 @@ QString odbc_engine::as_sent(const QString& statement) const
 
 std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where)
 {
+    sqlite_odbc_engine::check_before_opening(where.name);
     open_link(name, where.name);
     const QString server = first_value_or_none(name, u"select version()"_s);
     if (server.contains(u"MariaDB", Qt::CaseInsensitive))

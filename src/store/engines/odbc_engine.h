@@ -25,7 +25,8 @@ protected:
 };
 
 /// Opens a registered source and returns the engine for it, which is then still to be opened itself. Fails
-/// like `open_link`, and with `source_engine` if the source belongs to another engine.
+/// like `open_link`, like `check_store_files` for a file, and with `source_engine` if the source belongs to
+/// another engine.
 std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where);
 
 }  // namespace verdane

@@ -27,7 +27,7 @@ failure_kind kind_of_opening(const QSqlError& error)
     }
 }
 
-/// Settings of the connection. They precede those of the source. A driver ignores what it does not know.
+/// Settings of the connection, which override those of the source. A driver ignores what it does not know.
 QString settings_of_link()
 {
     // OPTION=2: a row that an update found counts, even if no value changed.

@@ -1,5 +1,7 @@
 #include "store/engines/source_tables.h"
 
+#include <algorithm>
+
 #include "base/run_time_failure.h"
 #include "store/schema.h"
 
@@ -38,6 +40,15 @@ tables_found check_tables(const source_tables& found)
     if (present == 0)
         return tables_found::none;
     return present == static_cast<qsizetype>(schema().size()) ? tables_found::all : tables_found::some;
+}
+
+bool are_first_tables(const source_tables& found)
+{
+    const auto is_missing = [&found](const table& declared) {
+        return !found.contains(declared.name.toLower());
+    };
+    const auto first_missing = std::find_if(schema().begin(), schema().end(), is_missing);
+    return std::all_of(first_missing, schema().end(), is_missing);
 }
 
 QStringList missing_tables(const source_tables& found)

@@ -18,6 +18,10 @@ enum class tables_found { none, some, all };
 /// another name or is in another place; the details name the table, the place and both names.
 tables_found check_tables(const source_tables& found);
 
+/// True if the source has the first tables of the store in the order in which they are created, and not the
+/// others: the creation of the tables was interrupted, unless they contain rows.
+bool are_first_tables(const source_tables& found);
+
 /// The tables of the store that a source lacks.
 QStringList missing_tables(const source_tables& found);
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "store/engines/odbc_link.h"
+#include "store/engines/registered_source.h"
 #include "store/engines/source_tables.h"
 #include "store/engines/sql_text.h"
 #include "store/engines/sqlite.h"
@@ -37,6 +38,15 @@ sqlite_odbc_engine::sqlite_odbc_engine(QString name, store_location where)
 sqlite_odbc_engine::~sqlite_odbc_engine()
 {
     sqlite_odbc_engine::close();
+}
+
+void sqlite_odbc_engine::check_before_opening(const QString& source)
+{
+    const QString path = setting_of_source(source, u"Database"_s);
+    const bool is_for_sqlite =
+        setting_of_source(source, u"Driver"_s).contains(u"sqlite", Qt::CaseInsensitive);
+    if (is_for_sqlite && !path.isEmpty())
+        check_store_files(path);
 }
 
 bool sqlite_odbc_engine::open(soundness_check check)
@@ -126,11 +136,6 @@ qint64 sqlite_odbc_engine::insert(const statement_with_values& statement, const 
 const commit_statements& sqlite_odbc_engine::commits() const
 {
     return sqlite_commits();
-}
-
-QString sqlite_odbc_engine::table_ending() const
-{
-    return u")"_s;
 }
 
 run_time_failure sqlite_odbc_engine::failure(const QSqlError& error, const QString& where) const

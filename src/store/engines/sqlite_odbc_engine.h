@@ -13,6 +13,11 @@ public:
     sqlite_odbc_engine(QString name, store_location where);
     ~sqlite_odbc_engine() override;
 
+    /// Checks the file of a source before its driver opens it, because the driver deletes the log of a file
+    /// that is empty or missing. Does nothing for a source with another driver. Fails like
+    /// `check_store_files`.
+    static void check_before_opening(const QString& source);
+
     /// Creates the file if there is none. Fails like the embedded engine, and with `source_database`,
     /// `source_table` or `source_column`.
     bool open(soundness_check check) override;
@@ -25,7 +30,6 @@ public:
     QString identity_column(QStringView table) const override;
     qint64 insert(const statement_with_values& statement, const QString& where) override;
     const commit_statements& commits() const override;
-    QString table_ending() const override;
     run_time_failure failure(const QSqlError& error, const QString& where) const override;
 
 protected:
