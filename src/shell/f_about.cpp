@@ -1,8 +1,10 @@
 #include "shell/f_about.h"
 
+#include <QDir>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSvgWidget>
 #include <QVBoxLayout>
@@ -13,6 +15,7 @@
 #include "controls/main_frame.h"
 #include "controls/scrolled_content.h"
 #include "shell/system_information.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 
@@ -43,6 +46,23 @@ QFrame* make_line()
     return line;
 }
 
+QString text_of_store(const Form& window)
+{
+    const store_location& where = data_environment().connection.location();
+    if (where.where == store_location::place::source)
+        return window.caption(u"Source de données ODBC ", u"ODBC data source ") + where.name;
+    return QDir::toNativeSeparators(where.name);
+}
+
+/// The path of the file or the name of the source, in a box so that it can be copied.
+QLineEdit* make_store_box(const Form& window)
+{
+    auto* box = named(new QLineEdit(text_of_store(window)), u"store");
+    box->setReadOnly(true);
+    box->setCursorPosition(0);
+    return box;
+}
+
 }  // namespace
 
 f_about::f_about() : Form(u"f_about"), ok_(named(make_button(u"OK"_s), u"cmdOK"))
@@ -66,9 +86,12 @@ QLayout* f_about::make_texts()
     texts->addWidget(
         text(u"lblDescription", caption(u"Le journal et les statistiques de vos rondes de golf.",
                                         u"The diary and the statistics of your rounds of golf.")));
-    texts->addWidget(
-        text(u"lblDisclaimer", caption(u"Vos rondes restent sur cet ordinateur : Verdane n'envoie rien.",
-                                       u"Your rounds stay on this computer: Verdane sends nothing.")));
+    QLineEdit* store = make_store_box(*this);
+    texts->addWidget(named(make_label(caption(u"Journal :", u"Diary:"), store), u"lbl_store"));
+    texts->addWidget(store);
+    texts->addWidget(text(u"lblDisclaimer",
+                          caption(u"Vos rondes restent dans ce journal : Verdane n'envoie rien ailleurs.",
+                                  u"Your rounds stay in this diary: Verdane sends nothing elsewhere.")));
     texts->addWidget(lines.add(1, make_line()));
     texts->addWidget(text(u"Label1", u"Verdane International Inc."_s));
     return texts;

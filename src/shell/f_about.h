@@ -7,7 +7,7 @@ class QPushButton;
 
 namespace verdane {
 
-/// Shows the version, and opens the system information tool of the platform.
+/// Shows the version and which store is open, and opens the system information tool of the platform.
 class f_about : public Form {
 public:
     f_about();

@@ -18,6 +18,7 @@
 #include "shell/f_lang.h"
 #include "shell/language_change.h"
 #include "shell/MainForm.h"
+#include "shell/row_script.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
 #include "store/tables/golf_bag.h"
@@ -99,7 +100,7 @@ start_result Main()
     // shown (`run_verdane`), because nothing is written before.
     Connection1& connection = data_environment().connection;
     connection.waiting().set_notice_maker(make_lock_box);
-    connection.Open(Connection1::default_path(), soundness_check::later);
+    connection.Open(default_store(), soundness_check::later);
     set_report_store(connection.path());
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
@@ -130,7 +131,10 @@ int run_verdane(QApplication& application)
     start_result result = start_result::left;
     run_event([&] { result = Main(); });
     if (result == start_result::running) {
-        after_first_paint(*MainForm::of_run(), [] { data_environment().connection.check_soundness(); });
+        after_first_paint(*MainForm::of_run(), [] {
+            data_environment().connection.check_soundness();
+            offer_row_script();
+        });
         const int status = application.exec();
         MainForm::end_of_run();
         return status;

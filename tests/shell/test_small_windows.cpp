@@ -11,6 +11,7 @@
 #include "shell/start_up.h"
 #include "shell/system_information.h"
 #include "shell/unopened_windows.h"
+#include "store/DataEnvironment1.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/hand_widgets.h"
 #include "tests/support/store_folder.h"
@@ -41,6 +42,24 @@ private Q_SLOTS:
             user.click(u"cmdOK"_s);
             user.wait_until_gone(u"f_about"_s);
             user.check(user.enabled(u"mOpen"_s), u"menu unlocked"_s);
+            user.menu(u"mQuit"_s);
+        });
+    }
+
+    void the_about_window_shows_which_store_is_open()
+    {
+        program_run run(1);
+        run.play_through([](hand& user) {
+            user.wait_for_window(u"MainForm"_s);
+            user.menu(u"maprop"_s);
+            user.wait_for_window(u"f_about"_s);
+            const store_location where = data_environment().connection.location();
+            const bool is_file = where.where == store_location::place::file;
+            user.same(user.text(u"store"_s),
+                      is_file ? Connection1::default_path() : u"Source de données ODBC Verdbase"_s,
+                      u"the store"_s);
+            user.click(u"cmdOK"_s);
+            user.wait_until_gone(u"f_about"_s);
             user.menu(u"mQuit"_s);
         });
     }

@@ -14,8 +14,8 @@ const QHash<QString, QString>& controls_by_window()
     static const QHash<QString, QString> all{
         {u"f_lang"_s, u"Command1_0..1 Command2"_s},
         {u"MainForm"_s, u"B1 B2 B3 B4 B5 B6 B7 B8 Picture1 Picture2 Toolbar1"_s},
-        {u"f_about"_s,
-         u"Label1 Line1_0..1 cmdOK cmdSysInfo lblDescription lblDisclaimer lblTitle lblVersion"_s},
+        {u"f_about"_s, u"Label1 Line1_0..1 cmdOK cmdSysInfo lblDescription lblDisclaimer lblTitle lblVersion "
+                       "lbl_store store"_s},
         {u"f_c_list"_s, u"Command1_0..3 List1 lbl_list"_s},
         {u"f_courses"_s,
          u"TabStrip1 cmdan departure frm_1..3 lbl_address "
