@@ -4,22 +4,22 @@ namespace verdane {
 
 namespace {
 
-QString& store_path()
+store_location& store_of_reports()
 {
-    static QString path;
-    return path;
+    static store_location store;
+    return store;
 }
 
 }  // namespace
 
-void set_report_store(const QString& path)
+void set_report_store(const store_location& store)
 {
-    store_path() = path;
+    store_of_reports() = store;
 }
 
-QString report_store()
+const store_location& report_store()
 {
-    return store_path();
+    return store_of_reports();
 }
 
 }  // namespace verdane

@@ -101,7 +101,7 @@ start_result Main()
     Connection1& connection = data_environment().connection;
     connection.waiting().set_notice_maker(make_lock_box);
     connection.Open(default_store(), soundness_check::later);
-    set_report_store(connection.path());
+    set_report_store(connection.location());
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
     const start_result result = load_language(rssettings);

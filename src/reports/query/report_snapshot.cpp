@@ -55,7 +55,7 @@ QSqlError copy_when_unlocked(QSqlDatabase& database)
     waiting.set_notice_maker(make_lock_box);
     waiting.attach(engine_handle(database));
     const lock_wait::limit limit(waiting, lock_wait::default_time_out_s);
-    const QSqlError error = copy_report_tables(database, report_store());
+    const QSqlError error = copy_report_tables(database, report_store().name);
     sqlite3_busy_handler(engine_handle(database), nullptr, nullptr);
     return error;
 }
@@ -99,12 +99,12 @@ report_snapshot::~report_snapshot()
 void report_snapshot::open()
 {
     QSqlError error;
-    if (report_store().isEmpty() || !database_.open())
+    if (report_store().name.isEmpty() || !database_.open())
         error = database_.lastError();
     else if (error = copy_when_unlocked(database_); !error.isValid())
         return;
     throw run_time_failure(kind_of(error),
-                           u"%1: %2: %3"_s.arg(source_.file_name, report_store(), error.text()));
+                           u"%1: %2: %3"_s.arg(source_.file_name, report_store().name, error.text()));
 }
 
 QStringList report_snapshot::parameters_of(const template_query& query)
