@@ -2,7 +2,8 @@
 #
 #   verdane_library(NAME HEADERS SET LINKS ... SOURCES ...)   one folder of src/; SET is its set of
 #                                                             precompiled headers
-#   verdane_test(NAME LINKS ... SOURCES ...)                  one test program
+#   verdane_test(NAME LINKS ... SOURCES ... [COMMAND ...])    one test program; COMMAND runs it, with its
+#                                                             arguments before the program
 #
 # The include root of the program is src/, so an include names its folder: "store/Recordset.h". Headers
 # of tests and benchmarks are included from the root of the project: "tests/support/hand.h".
@@ -44,7 +45,7 @@ set(VERDANE_TEST_ENVIRONMENT
   "QT_QPA_PLATFORM=offscreen:configfile=${VERDANE_TEST_SCREENS}/desktop.json;ASAN_OPTIONS=detect_leaks=0;UBSAN_OPTIONS=print_stacktrace=1")
 
 function(verdane_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "LINKS;SOURCES" ${ARGN})
+  cmake_parse_arguments(ARG "" "TIMEOUT" "LINKS;SOURCES;COMMAND" ${ARGN})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
   endif()
@@ -55,8 +56,9 @@ function(verdane_test name)
   verdane_use_headers(${name} windows)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PRIVATE verdane_test_support ${ARG_LINKS} Qt6::Test)
-  add_test(NAME ${name} COMMAND ${name})
+  add_test(NAME ${name} COMMAND ${ARG_COMMAND} $<TARGET_FILE:${name}>)
   # By default Qt Test ends a test function after five minutes.
   set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
     ENVIRONMENT "${VERDANE_TEST_ENVIRONMENT};QTEST_FUNCTION_TIMEOUT=${ARG_TIMEOUT}000")
+  verdane_label_test(${name})
 endfunction()

@@ -82,7 +82,7 @@ class test_data_grid : public QObject {
 
     QString stored(const QString& column, int shot) const
     {
-        return reader(folder_->path())
+        return reader(folder_->location())
             .text(u"select %1 from Stat_rounds where shot = %2"_s.arg(column).arg(shot));
     }
 
@@ -91,7 +91,7 @@ private Q_SLOTS:
     {
         folder_ = new store_folder;
         for (int shot = 1; shot <= 3; ++shot)
-            reader(folder_->path())
+            reader(folder_->location())
                 .write(u"insert into Stat_rounds (shot, stick, after) values (%1, 'D', 100)"_s.arg(shot));
         data_environment().rsStat_rounds.Open();
     }

@@ -34,7 +34,7 @@ struct grid_window {
     explicit grid_window(int rows)
     {
         for (int shot = 1; shot <= rows; ++shot)
-            reader(folder.path())
+            reader(folder.location())
                 .write(u"insert into Stat_rounds (shot, stick) values (%1, 'F5')"_s.arg(shot));
         data_environment().rsStat_rounds.Open();
         cells = new data_grid(new recordset_model(

@@ -5,6 +5,7 @@
 #include "store/DataEnvironment1.h"
 #include "tests/support/failures.h"
 #include "tests/support/reader.h"
+#include "tests/support/refused_change.h"
 #include "tests/support/store_folder.h"
 
 using namespace verdane;
@@ -34,7 +35,7 @@ struct bound_shots {
     QString shown(int row, int column) const { return model.index(row, column).data().toString(); }
 
     store_folder folder;
-    reader store{folder.path()};
+    reader store{folder.location()};
     Recordset& source = data_environment().rsStat_rounds;
     recordset_model model{source, shot_columns()};
     QAbstractItemModelTester checker{&model, QAbstractItemModelTester::FailureReportingMode::QtTest};
@@ -177,8 +178,7 @@ private Q_SLOTS:
     void a_failure_of_the_commit_is_a_failure_of_move_to()
     {
         bound_shots shots;
-        shots.store.write(u"create trigger refuse before update on Stat_rounds begin select "
-                          u"raise(abort, 'no'); end"_s);
+        shots.store.write(refuse(u"update"_s, u"Stat_rounds"_s));
         shots.model.write(0, 2, u"1"_s);
         QVERIFY(failure_of([&] { shots.model.move_to(1); }).has_value());
         QCOMPARE(shots.source.position(), 0);

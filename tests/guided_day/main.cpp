@@ -66,7 +66,7 @@ int play_both_days(album& pictures)
 int print_season(album& pictures)
 {
     testing::program_run golfer(french);
-    create_season(golfer.store_path(), rounds_of_season);
+    create_season(golfer.store_place(), rounds_of_season);
     return golfer.play_through([&](testing::hand& user) {
         visit in_french{true, user, pictures, golfer.store()};
         visit in_english{false, user, pictures, golfer.store()};

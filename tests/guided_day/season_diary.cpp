@@ -1,5 +1,6 @@
 #include "tests/guided_day/season_diary.h"
 
+#include <QDate>
 #include <QStringList>
 
 #include "tests/support/full_diary.h"
@@ -13,13 +14,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// `create_diary` makes a round for each day from 1 January 2023; these dates are five days apart.
-QStringList statements_for_dates()
+QString key_in_season(const QString& key)
+{
+    const QDate day = QDate::fromString(key.left(8), u"yyyyMMdd"_s);
+    const qint64 days = 5 * QDate(2023, 1, 1).daysTo(day);
+    return QDate(2025, 4, 15).addDays(days).toString(u"yyyyMMdd"_s) + key.mid(8);
+}
+
+QStringList statements_for_dates(const testing::reader& store)
 {
     QStringList statements;
-    for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s, u"Stat_rounds"_s}) {
-        statements << u"update %1 set date = strftime('%Y%m%d', '2025-04-15', (5 * (julianday("
-                      u"substr(date, 1, 4) || '-' || substr(date, 5, 2) || '-' || substr(date, 7, 2)) "
-                      u"- julianday('2023-01-01'))) || ' days') || substr(date, 9)"_s.arg(table);
+    for (const auto& row : store.rows(u"select date from games"_s)) {
+        const QString key = row[0].toString();
+        for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s, u"Stat_rounds"_s})
+            statements << u"update %1 set date = '%2' where date = '%3'"_s.arg(table, key_in_season(key),
+                                                                               key);
     }
     return statements;
 }
@@ -37,11 +46,12 @@ QStringList statements_for_tees()
 
 }  // namespace
 
-void create_season(const QString& store_path, int rounds)
+void create_season(const store_location& place, int rounds)
 {
-    testing::create_diary(store_path, rounds, true);
-    testing::clear_sixth_putts(store_path);
-    testing::reader(store_path).write(statements_for_dates() + statements_for_tees());
+    testing::create_diary(place, rounds, true);
+    testing::clear_sixth_putts(place);
+    const testing::reader store(place);
+    store.write(statements_for_dates(store) + statements_for_tees());
 }
 
 }  // namespace verdane::guided_day

@@ -1,16 +1,16 @@
 #include <QApplication>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "controls/interface_language.h"
-#include "controls/lock_box.h"
 #include "store/DataEnvironment1.h"
 #include "store/orphan_shots.h"
 #include "tests/management/removal_windows.h"
+#include "tests/support/engine_of_tests.h"
 #include "tests/support/failure_boxes.h"
 #include "tests/support/recording_frame.h"
+#include "tests/support/refused_change.h"
+#include "tests/support/test_store.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -21,45 +21,28 @@ namespace {
 
 constexpr int not_reached = 77;
 
-/// Locks the store as another program does that is writing to it.
-void begin_work_elsewhere(Connection1& tool, const QString& path)
-{
-    const QString link = path + u".tool";
-    if (!QFile::link(path, link))
-        qFatal("cannot link the store");
-    tool.Open(link);
-    tool.Execute(u"BEGIN EXCLUSIVE"_s);
-}
-
 /// Removes the second round of three, which fails at some table.
-int run_child(const QString& path, failure_kind kind)
+int run_child(const store_location& place, failure_kind kind)
 {
     set_interface_language(true);
-    data_environment().connection.waiting().set_notice_maker(make_lock_box);
-    data_environment().connection.Open(path);
-    Connection1 tool;
-    if (kind == failure_kind::store_locked)
-        begin_work_elsewhere(tool, path);
+    data_environment().connection.Open(place);
+    if (kind == failure_kind::missing_table)
+        reader(place).write(u"alter table cost rename to money"_s);
     const recording_frame frame;
     in_list([kind](hand& user) {
         user.click_row(u"List1"_s, 1);
         user.click(u"Command1_3"_s);
         user.answer(question_on_removal(), QMessageBox::Yes);
-        if (kind == failure_kind::store_locked)
-            user.click(u"give_up"_s);
         user.answer(failure_box(kind));
     });
     return not_reached;
 }
 
 /// Creates a store with three rounds, changed by a statement.
-void create_store(const QString& path, const QString& harm)
+void create_store(const store_location& place, const QStringList& harm)
 {
-    {
-        Connection1 connection;
-        connection.Open(path);
-    }
-    const reader store(path);
+    Connection1().Open(place);
+    const reader store(place);
     add_rounds(store, 3);
     store.write(harm);
 }
@@ -67,8 +50,7 @@ void create_store(const QString& path, const QString& harm)
 /// A trigger that refuses to delete those rows of the second round that meet a condition.
 QString refuse_deletion(const QString& table, const QString& condition = u"1"_s)
 {
-    return u"create trigger refuse before delete on %1 when old.date = '%2' and %3 begin "
-           "select raise(abort, 'refused by the test'); end"_s.arg(table, key_of_day(2), condition);
+    return refuse(u"delete"_s, table, u"old.date = '%1' and %2"_s.arg(key_of_day(2), condition));
 }
 
 /// The shots of the second round, as "hole.shot".
@@ -108,56 +90,44 @@ private Q_SLOTS:
         QFETCH(QString, harm);
         QFETCH(QString, left);
         QFETCH(QString, shots);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        create_store(path, harm);
-        remove_in_child(path, failure_kind::store_other);
-        QCOMPARE(days_stored(reader(path)), left);
-        QCOMPARE(shots_left(reader(path)), shots);
+        const test_store place;
+        create_store(place.location(), {harm});
+        remove_in_child(place.location(), failure_kind::store_other);
+        QCOMPARE(days_stored(reader(place.location())), left);
+        QCOMPARE(shots_left(reader(place.location())), shots);
     }
 
     void a_missing_table_is_a_failure_after_the_earlier_tables_were_changed()
     {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        create_store(path, u"alter table cost rename to money"_s);
-        remove_in_child(path, failure_kind::missing_table);
-        const reader store(path);
+        const test_store place;
+        create_store(place.location(), {});
+        remove_in_child(place.location(), failure_kind::missing_table);
+        const reader store(place.location());
         QCOMPARE(store.text(u"select group_concat(substr(date, 8, 1)) from games"_s), u"1,3"_s);
         QCOMPARE(shots_left(store), QString());
     }
 
-    void a_store_locked_by_another_program_keeps_the_whole_round()
-    {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        create_store(path, u"select 1"_s);
-        remove_in_child(path, failure_kind::store_locked);
-        QCOMPARE(days_stored(reader(path)), u"1,2,3 | 1,2,3 | 1,2,3 | 1,2,3"_s);
-    }
-
     void the_clean_up_removes_the_shots_that_a_failed_removal_left()
     {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        create_store(path, refuse_deletion(u"Stat_rounds"_s, u"old.hole = 2"_s));
-        remove_in_child(path, failure_kind::store_other);
-        QCOMPARE(shots_left(reader(path)), u"2.1 2.2"_s);
-        reader(path).write(u"drop trigger refuse"_s);
-        data_environment().connection.Open(path);
+        const test_store place;
+        create_store(place.location(), {refuse_deletion(u"Stat_rounds"_s, u"old.hole = 2"_s)});
+        remove_in_child(place.location(), failure_kind::store_other);
+        QCOMPARE(shots_left(reader(place.location())), u"2.1 2.2"_s);
+        reader(place.location()).write(refuse_no_more());
+        data_environment().connection.Open(place.location());
         QStringList shown;
         remove_orphan_shots([&](const QString& text) { shown << text; });
         QCOMPARE(shown, (QStringList{key_of_day(2), u"1"_s}));
         data_environment().connection.Close();
-        QCOMPARE(days_stored(reader(path)), u"1,3 | 1,3 | 1,3 | 1,2,3"_s);
+        QCOMPARE(days_stored(reader(place.location())), u"1,3 | 1,3 | 1,3 | 1,2,3"_s);
     }
 
 private:
-    static void remove_in_child(const QString& path, failure_kind kind)
+    static void remove_in_child(const store_location& place, failure_kind kind)
     {
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(),
-                    {u"--child"_s, path, QString::number(static_cast<int>(kind))});
+                    {u"--child"_s, place.name, QString::number(static_cast<int>(kind))});
         QVERIFY(child.waitForFinished(120000));
         const QByteArray output = child.readAllStandardError();
         QVERIFY2(!output.contains("FAIL!"), output.constData());
@@ -171,7 +141,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QStringList arguments = application.arguments();
     if (arguments.value(1) == u"--child")
-        return run_child(arguments.value(2), static_cast<failure_kind>(arguments.value(3).toInt()));
+        return run_child(store_called(arguments.value(2)),
+                         static_cast<failure_kind>(arguments.value(3).toInt()));
     test_removal_failures test;
     return QTest::qExec(&test, argc, argv);
 }

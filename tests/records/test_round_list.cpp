@@ -18,7 +18,7 @@ private Q_SLOTS:
     void init()
     {
         folder_ = std::make_unique<testing::store_folder>();
-        testing::reader(folder_->path())
+        testing::reader(folder_->location())
             .write({
                 u"insert into games (date, field) values ('20240607150000', ' Les Pins ')"_s,
                 u"insert into games (date, putt_18) values ('20230102081530', 2)"_s,
@@ -50,7 +50,7 @@ private Q_SLOTS:
 
     void a_store_without_rounds_has_no_lines()
     {
-        testing::reader(folder_->path()).write(u"delete from games"_s);
+        testing::reader(folder_->location()).write(u"delete from games"_s);
         open_rounds_in_time_order();
         QVERIFY(round_list_lines().isEmpty());
     }

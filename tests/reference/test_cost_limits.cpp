@@ -1,13 +1,15 @@
 #include <QApplication>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "base/language.h"
 #include "controls/interface_language.h"
 #include "store/Connection1.h"
 #include "tests/reference/cost_windows.h"
+#include "tests/support/engine_of_tests.h"
 #include "tests/support/failure_boxes.h"
+#include "tests/support/refused_change.h"
+#include "tests/support/test_store.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -23,21 +25,18 @@ constexpr int not_reached = 77;
 const QString too_much = QStringList(12, u"9999"_s).join(u',');
 const QString full = u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s;
 
-void create_store(const QString& path, const QString& amounts)
+void create_store(const store_location& place, const QString& amounts)
 {
-    {
-        Connection1 connection;
-        connection.Open(path);
-    }
-    reader(path).write(u"insert into cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au) values "
-                       "('20240614093000', "_s +
-                       amounts + u')');
+    Connection1().Open(place);
+    reader(place).write(u"insert into cost (date, fg, cm, vt, ft, ba, tee, tex, nrt, lg, bs, ln, au) values "
+                        "('20240614093000', "_s +
+                        amounts + u')');
 }
 
-QString amounts_in(const QString& path)
+QString amounts_in(const store_location& place)
 {
     QStringList amounts;
-    const auto rows = reader(path).rows(u"select * from cost"_s);
+    const auto rows = reader(place).rows(u"select * from cost"_s);
     for (const QVariant& amount : rows.at(0))
         amounts << amount.toString();
     return amounts.mid(1, 12).join(u',');
@@ -60,10 +59,10 @@ void accept_what_is_refused(hand& user)
     user.answer(failure_box(failure_kind::store_other));
 }
 
-int run_child(const QString& path, const QString& limit)
+int run_child(const store_location& place, const QString& limit)
 {
     set_interface_language(limit != u"typing");
-    data_environment().connection.Open(path);
+    data_environment().connection.Open(place);
     const recording_frame frame;
     data_environment().rscost.Open();
     play([] { run_event([] { f_cost(nullptr).show_modal(); }); },
@@ -96,20 +95,18 @@ private Q_SLOTS:
     {
         QFETCH(QString, limit);
         QFETCH(QString, amounts);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        create_store(path, amounts);
+        const test_store store;
+        create_store(store.location(), amounts);
         if (limit == u"accepting")
-            reader(path).write(u"create trigger refuse before update on cost begin "
-                               "select raise(abort, 'refused by the test'); end"_s);
+            reader(store.location()).write(refuse(u"update"_s, u"cost"_s));
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {u"--limit"_s, path, limit});
+        child.start(QCoreApplication::applicationFilePath(), {u"--limit"_s, store.location().name, limit});
         QVERIFY(child.waitForFinished(120000));
         const QByteArray output = child.readAllStandardError();
         QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
-        QCOMPARE(amounts_in(path), amounts);
+        QCOMPARE(amounts_in(store.location()), amounts);
     }
 };
 
@@ -118,7 +115,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QStringList arguments = application.arguments();
     if (arguments.value(1) == u"--limit")
-        return run_child(arguments.value(2), arguments.value(3));
+        return run_child(store_called(arguments.value(2)), arguments.value(3));
     test_cost_limits test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "base/language.h"
@@ -11,8 +10,10 @@
 #include "reference/f_c_list.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/course_windows.h"
+#include "tests/support/engine_of_tests.h"
 #include "tests/support/failure_boxes.h"
 #include "tests/support/hand_widgets.h"
+#include "tests/support/test_store.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -77,12 +78,12 @@ void open_a_line_without_a_row(const reader& store)
     });
 }
 
-int run_child(const QString& what, const QString& path)
+int run_child(const QString& what, const store_location& place)
 {
     set_interface_language(true);
-    data_environment().connection.Open(path);
+    data_environment().connection.Open(place);
     const recording_frame frame;
-    const reader store(path);
+    const reader store(place);
     if (what == u"list"_s)
         open_too_long_a_list(store);
     else if (what == u"line"_s)
@@ -113,16 +114,15 @@ private Q_SLOTS:
     {
         QFETCH(QString, what);
         QFETCH(int, courses);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"verdbase.sqlite"_s);
+        const test_store place;
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, what, path});
+        child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, what, place.location().name});
         QVERIFY(child.waitForFinished(120000));
         const QByteArray output = child.readAllStandardError();
         QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
-        const reader store(path);
+        const reader store(place.location());
         QCOMPARE(store.number(u"select count(*) from vrd_fields"_s), courses);
         QCOMPARE(store.number(u"select count(*) from vrd_fields where slope = '121'"_s), courses);
         QCOMPARE(store.number(u"select count(*) from field_info where yards_1 = 300"_s), courses);
@@ -146,7 +146,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     if (argc == 4 && QByteArray(argv[1]) == "--child")
-        return run_child(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]));
+        return run_child(QString::fromLocal8Bit(argv[2]), store_called(QString::fromLocal8Bit(argv[3])));
     test_course_limits test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "base/language.h"
@@ -9,7 +8,10 @@
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"
+#include "tests/support/engine_of_tests.h"
 #include "tests/support/failure_boxes.h"
+#include "tests/support/refused_change.h"
+#include "tests/support/test_store.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -22,10 +24,12 @@ namespace {
 constexpr int not_reached = 77;
 const QString grid = u"pgrid"_s;
 
-int run_child(const QString& path, const QString& step)
+int run_child(const store_location& place, const QString& step)
 {
     set_interface_language(step == u"adding");
-    data_environment().connection.Open(path);
+    data_environment().connection.Open(place);
+    reader(place).write(step == u"opening" ? u"alter table partners rename to persons"_s
+                                           : refuse(u"insert"_s, u"partners"_s));
     const recording_frame frame;
     play(show_partners, [&](hand& user) {
         if (step == u"opening") {
@@ -41,19 +45,10 @@ int run_child(const QString& path, const QString& step)
     return not_reached;
 }
 
-void create_store(const QString& path, const QString& harm)
+void create_store(const store_location& place)
 {
-    {
-        Connection1 connection;
-        connection.Open(path);
-    }
-    reader(path).write({u"insert into partners (NAME, SURNAME, code) values ('Alder', 'Ann', 1)"_s, harm});
-}
-
-QString refuse(const QString& change)
-{
-    return u"create trigger refuse before %1 on partners begin select raise(abort, 'refused by the test'); "
-           "end"_s.arg(change);
+    Connection1().Open(place);
+    reader(place).write(u"insert into partners (NAME, SURNAME, code) values ('Alder', 'Ann', 1)"_s);
 }
 
 }  // namespace
@@ -65,27 +60,25 @@ private Q_SLOTS:
     void a_failure_of_the_store_ends_the_program_data()
     {
         QTest::addColumn<QString>("step");
-        QTest::addColumn<QString>("harm");
-        QTest::newRow("without the table") << u"opening"_s << u"alter table partners rename to persons"_s;
-        QTest::newRow("a new row is refused") << u"adding"_s << refuse(u"insert"_s);
+        QTest::newRow("without the table") << u"opening"_s;
+        QTest::newRow("a new row is refused") << u"adding"_s;
     }
     void a_failure_of_the_store_ends_the_program()
     {
         QFETCH(QString, step);
-        QFETCH(QString, harm);
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(u"verdbase.sqlite"_s);
-        create_store(path, harm);
+        const test_store store;
+        create_store(store.location());
         QProcess child;
-        child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, path, step});
+        child.start(QCoreApplication::applicationFilePath(), {u"--child"_s, store.location().name, step});
         QVERIFY(child.waitForFinished(120000));
         const QByteArray output = child.readAllStandardError();
         QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
         if (step == u"adding") {
-            QCOMPARE(reader(path).text(u"select NAME || ifnull(AD2, '-') || code from partners"_s),
-                     u"Alder-1"_s);
+            QCOMPARE(
+                reader(store.location()).text(u"select NAME || ifnull(AD2, '-') || code from partners"_s),
+                u"Alder-1"_s);
         }
     }
 
@@ -95,7 +88,7 @@ private Q_SLOTS:
         QFETCH(bool, french);
         const partner_store store(french);
         store.add_three();
-        store.store.write(refuse(u"update"_s));
+        store.store.write(refuse(u"update"_s, u"partners"_s));
         in_partners([&](hand& user) {
             user.click_cell(grid, 1, 0);
             user.key(Qt::Key_Backspace);
@@ -115,7 +108,7 @@ private Q_SLOTS:
     {
         const partner_store store;
         store.add_three();
-        store.store.write(refuse(u"delete"_s));
+        store.store.write(refuse(u"delete"_s, u"partners"_s));
         in_partners([](hand& user) {
             user.click(u"Del"_s);
             user.answer(question_on_removal(u" Alder Ann"_s), QMessageBox::Yes);
@@ -134,8 +127,7 @@ private Q_SLOTS:
     {
         const partner_store store;
         store.add_three();
-        store.store.write(u"create trigger refuse before update on partners when old.code = 3 begin "
-                          "select raise(abort, 'refused by the test'); end"_s);
+        store.store.write(refuse(u"update"_s, u"partners"_s, u"old.code = 3"_s));
         in_partners([](hand& user) {
             for (const int row : {0, 1, 2})
                 type_into(user, row, 3, u"Lyon"_s);
@@ -151,7 +143,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QStringList arguments = application.arguments();
     if (arguments.value(1) == u"--child")
-        return run_child(arguments.value(2), arguments.value(3));
+        return run_child(store_called(arguments.value(2)), arguments.value(3));
     test_partner_failures test;
     return QTest::qExec(&test, argc, argv);
 }

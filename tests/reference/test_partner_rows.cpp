@@ -4,6 +4,7 @@
 #include "scoring/Verdane_tools.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"
+#include "tests/support/refused_change.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -301,8 +302,7 @@ private Q_SLOTS:
         QFETCH(QString, button);
         const partner_store store;
         store.add_three();
-        store.store.write(u"create trigger refuse before update on partners begin "
-                          "select raise(abort, 'refused by the test'); end"_s);
+        store.store.write(refuse(u"update"_s, u"partners"_s));
         for (int time = 0; time < 2; ++time) {
             in_partners([&](hand& user) {
                 type_into(user, 0, 3, u"Lyon"_s);

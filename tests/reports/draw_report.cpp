@@ -31,9 +31,9 @@ int main(int argc, char** argv)
         std::optional<testing::store_folder> invented;
         if (arguments.size() == 3) {
             invented.emplace();
-            testing::fill_all_reports(invented->path());
+            testing::fill_all_reports(invented->location());
         }
-        set_report_store(invented ? invented->path() : arguments[2]);
+        set_report_store(invented ? invented->location() : store_location::file(arguments[2]));
         const auto report = render_report(arguments[1]);
         const QString& path = arguments.constLast();
         if (path.endsWith(u".csv"_s))

@@ -173,12 +173,12 @@ QString cost_row(int round, int rounds, figures kind)
 
 }  // namespace
 
-void fill_card(const QString& store, const QString& name, figures kind)
+void fill_card(const store_location& store, const QString& name, figures kind)
 {
     reader(store).write({card_row(1, name, kind), card_row(2, name, kind)});
 }
 
-void fill_putts(const QString& store, figures kind)
+void fill_putts(const store_location& store, figures kind)
 {
     QStringList statements;
     for (int row = 1; row <= 5; ++row)
@@ -188,7 +188,7 @@ void fill_putts(const QString& store, figures kind)
     reader(store).write(statements);
 }
 
-void make_one_round_putts(const QString& store)
+void make_one_round_putts(const store_location& store)
 {
     reader(store).write({u"update s_put1 set from_date = 'Round : 2024-05-01 Pebble Beach', "
                          u"to_date = 'Weather conditions : Sunny' where rowid = 1"_s,
@@ -196,7 +196,7 @@ void make_one_round_putts(const QString& store)
                          u"update s_put2 set rating_text = 'Average' where rowid = 1"_s});
 }
 
-void fill_clubs(const QString& store, figures kind)
+void fill_clubs(const store_location& store, figures kind)
 {
     QStringList statements;
     for (int club = 1; club <= 14; ++club)
@@ -204,7 +204,7 @@ void fill_clubs(const QString& store, figures kind)
     reader(store).write(statements);
 }
 
-void fill_costs(const QString& store, int rounds, figures kind)
+void fill_costs(const store_location& store, int rounds, figures kind)
 {
     QStringList statements{u"delete from r_cost"_s, u"begin"_s};
     for (int round = 0; round < rounds; ++round)
@@ -213,7 +213,7 @@ void fill_costs(const QString& store, int rounds, figures kind)
     reader(store).write(statements);
 }
 
-void fill_all_reports(const QString& store)
+void fill_all_reports(const store_location& store)
 {
     fill_stats(store, 40, u"Links"_s);
     fill_card(store, u"Links"_s);

@@ -33,7 +33,7 @@ protected:
     void start_in_english()
     {
         is_french = false;
-        set_report_store(store_.path());
+        set_report_store(store_.location());
         asked_ = {};
         answer_.clear();
         dialogs_of_reports().choose_file = [this](QWidget*, const file_question& question) {

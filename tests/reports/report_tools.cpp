@@ -153,7 +153,7 @@ QString without_blanks(QString text)
     return text;
 }
 
-void fill_stats(const QString& store, int rounds, const QString& course)
+void fill_stats(const store_location& store, int rounds, const QString& course)
 {
     QStringList statements;
     for (int line = 0; line < 34; ++line)

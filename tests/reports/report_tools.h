@@ -7,6 +7,8 @@
 #include <vector>
 
 /// Helpers for the tests of reports.
+#include "store/store_location.h"
+
 namespace verdane::testing {
 
 /// Writes a template with that head and body and returns its path.
@@ -44,6 +46,6 @@ QString without_blanks(QString text);
 
 /// Fills every line of `stats`: hole h of line r is `r + h`, of line 9 `(h - 9) / 10`, of line 20 0. The
 /// totals are sums. The texts of the selection are those of `rounds` rounds.
-void fill_stats(const QString& store, int rounds, const QString& course);
+void fill_stats(const store_location& store, int rounds, const QString& course);
 
 }  // namespace verdane::testing

@@ -32,8 +32,8 @@ class test_card_report : public QObject {
 private Q_SLOTS:
     void init()
     {
-        set_report_store(store_.path());
-        fill_card(store_.path(), u"A & B <c>"_s);
+        set_report_store(store_.location());
+        fill_card(store_.location(), u"A & B <c>"_s);
     }
 
     void the_card_is_one_page_of_holes_and_club_distances_data()
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void without_figures_the_card_prints_dots()
     {
-        fill_card(store_.path(), u"Links"_s, figures::none);
+        fill_card(store_.location(), u"Links"_s, figures::none);
         const QString page = printed_pages(u"r_card2_en.rpt"_s).front();
         QVERIFY(page.contains(u"Yards · · · · · · · · · · Yards"_s));
         QVERIFY(page.contains(u"1W ·"_s));
@@ -91,7 +91,7 @@ private Q_SLOTS:
 
     void the_longest_name_and_the_highest_figures_stay_on_the_page()
     {
-        fill_card(store_.path(), u"Links"_s, figures::extreme);
+        fill_card(store_.location(), u"Links"_s, figures::extreme);
         const QStringList pages = printed_pages(u"r_card2_en.rpt"_s);
         QCOMPARE(pages.size(), 1);
         QVERIFY(pages.front().contains(u"The Very Long And Honourable Company Of Invented"_s));
@@ -112,7 +112,7 @@ private Q_SLOTS:
     {
         QFETCH(figures, kind);
         QFETCH(QString, name);
-        fill_card(store_.path(), u"Links"_s, kind);
+        fill_card(store_.location(), u"Links"_s, kind);
         const QImage page = render_report(built_template(name))->page_image(0, 254);
         // The sheet that is cut out, in tenths of a millimetre, and a strip along each fold.
         const QRect sheet(172, 92, 2626, 1896);
@@ -127,7 +127,7 @@ private Q_SLOTS:
     void a_name_of_the_greatest_length_is_cut_and_stays_in_its_part()
     {
         const QString name = u"THE GOLF AND COUNTRY CLUB OF "_s.repeated(7).left(195);
-        reader(store_.path()).write(u"update r_card set card_name = '%1'"_s.arg(name));
+        reader(store_.location()).write(u"update r_card set card_name = '%1'"_s.arg(name));
         const QImage page = render_report(built_template(u"r_card2.rpt"_s))->page_image(0, 254);
         QCOMPARE(pixels_below(page, QRect(2801, 0, 169, 2100), 250), 0);
         QVERIFY(printed_pages(u"r_card2.rpt"_s).front().contains(u"THE GOLF A…"_s));
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         const QString name =
             u"THE OLD AND HONOURABLE GOLF AND COUNTRY CLUB OF THE UPPER VALLEY AND THE LAKES ABOVE"_s;
-        reader(store_.path()).write(u"update r_card set card_name = '%1'"_s.arg(name));
+        reader(store_.location()).write(u"update r_card set card_name = '%1'"_s.arg(name));
         for (const QString& report : {u"r_card2.rpt"_s, u"r_card2_en.rpt"_s}) {
             const QString page = printed_pages(report).front();
             QVERIFY(page.contains(u"THE OLD AND HONOURABLE GOLF AND COUNTRY CLUB OF THE"_s));
@@ -154,7 +154,7 @@ private Q_SLOTS:
     void the_widest_names_stay_in_their_part()
     {
         QFETCH(int, letters);
-        reader(store_.path())
+        reader(store_.location())
             .write(u"update r_card set card_name = '%1', card_tee = 'BLANC'"_s.arg(QString(letters, u'W')));
         const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
         // No ink between name and tee of either nine, nor between the name on the cover and the fold.
@@ -166,7 +166,7 @@ private Q_SLOTS:
 
     void clubs_whose_names_begin_alike_are_distinguishable()
     {
-        reader(store_.path())
+        reader(store_.location())
             .write(u"update sticknames set club_4 = 'Hybride Titleist 3', club_5 = 'Hybride Titleist 4'"_s);
         for (const QString& name : {u"r_card2.rpt"_s, u"r_card2_en.rpt"_s}) {
             const QString page = printed_pages(name).front();
@@ -177,7 +177,7 @@ private Q_SLOTS:
 
     void a_club_name_that_is_too_wide_ends_with_an_ellipsis()
     {
-        reader(store_.path()).write(u"update sticknames set club_4 = '%1'"_s.arg(QString(50, u'W')));
+        reader(store_.location()).write(u"update sticknames set club_4 = '%1'"_s.arg(QString(50, u'W')));
         QVERIFY(printed_pages(u"r_card2_en.rpt"_s).front().contains(u"WWWW… 200"_s));
         const QImage page = render_report(built_template(u"r_card2_en.rpt"_s))->page_image(0, 254);
         // No ink between the names of the clubs and the line where their bars begin.

@@ -18,8 +18,8 @@ class test_club_report : public QObject {
 private Q_SLOTS:
     void init()
     {
-        set_report_store(store_.path());
-        fill_clubs(store_.path());
+        set_report_store(store_.location());
+        fill_clubs(store_.location());
     }
 
     void the_heading_has_the_selection_data()
@@ -50,14 +50,14 @@ private Q_SLOTS:
 
     void the_heading_of_the_table_is_on_the_french_page_only()
     {
-        reader(store_.path()).write(u"update stat_sticks set heading_text = 'TITRE' where rowid = 1"_s);
+        reader(store_.location()).write(u"update stat_sticks set heading_text = 'TITRE' where rowid = 1"_s);
         QVERIFY(printed_pages(u"r_statSticks.rpt"_s).front().contains(u"TITRE À 2024-10-13 13:40:00"_s));
         QVERIFY(!printed_pages(u"r_statSticks_en.rpt"_s).front().contains(u"TITRE"_s));
     }
 
     void a_table_that_no_run_has_filled_is_printed_with_its_title()
     {
-        reader(store_.path())
+        reader(store_.location())
             .write(u"update stat_sticks set heading_text = null, from_date = null, to_date = null"_s);
         QVERIFY(printed_pages(u"r_statSticks.rpt"_s).front().contains(u"Statistiques des bâtons"_s));
         QVERIFY(printed_pages(u"r_statSticks_en.rpt"_s).front().contains(u"Club Statistics"_s));
@@ -82,7 +82,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(QString, printed);
-        reader(store_.path())
+        reader(store_.location())
             .write(u"update stat_sticks set course_text = '"_s + text + u"' where rowid = 1");
         for (const QString& name : {u"r_statSticks.rpt"_s, u"r_statSticks_en.rpt"_s})
             QVERIFY(printed_pages(name).front().contains(printed));
@@ -106,7 +106,7 @@ private Q_SLOTS:
 
     void figures_are_cut_as_the_table_has_them_and_never_rounded()
     {
-        reader(store_.path())
+        reader(store_.location())
             .write(u"update stat_sticks set average = '249.9', pct_fairway = ' 99.9', pct_left = ' 8.97', "
                    "pct_right = ' .049', pct_missed = ' 0%', pct_penalty = ' 100%', pct_holed = '0' "
                    "where rowid = 2"_s);
@@ -121,7 +121,7 @@ private Q_SLOTS:
 
     void without_a_shot_the_names_and_the_heading_are_printed()
     {
-        fill_clubs(store_.path(), figures::none);
+        fill_clubs(store_.location(), figures::none);
         const QString page = printed_pages(u"r_statSticks_en.rpt"_s).front();
         for (int club = 1; club <= 14; ++club)
             QVERIFY(page.contains(u"Club%1 · · · · · · · · ·"_s.arg(club)));
@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     void extreme_figures_stay_on_one_page()
     {
-        fill_clubs(store_.path(), figures::extreme);
+        fill_clubs(store_.location(), figures::extreme);
         const QStringList pages = printed_pages(u"r_statSticks_en.rpt"_s);
         QCOMPARE(pages.size(), 1);
         QVERIFY(pages.front().contains(u"Club1 32767 32767 32767 · 100 · .003 100 100"_s));

@@ -21,7 +21,7 @@ class test_cost_report : public QObject {
     QTemporaryDir folder_;
 
 private Q_SLOTS:
-    void init() { set_report_store(store_.path()); }
+    void init() { set_report_store(store_.location()); }
 
     void one_round_is_its_own_total_and_mean_data()
     {
@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(QStringList, texts);
-        fill_costs(store_.path(), 1);
+        fill_costs(store_.location(), 1);
         const QStringList pages = printed_pages(name);
         QCOMPARE(pages.size(), 1);
         for (const QString& text : texts)
@@ -63,7 +63,7 @@ private Q_SLOTS:
 
     void a_year_of_rounds_takes_several_pages_with_a_head_and_whole_rows_each()
     {
-        fill_costs(store_.path(), 366);
+        fill_costs(store_.location(), 366);
         const QStringList pages = printed_pages(u"r_cost3_en.rpt"_s);
         QVERIFY(pages.size() > 5);
         int rounds = 0;
@@ -93,7 +93,7 @@ private Q_SLOTS:
     {
         QFETCH(int, rounds);
         QFETCH(QString, name);
-        fill_costs(store_.path(), rounds);
+        fill_costs(store_.location(), rounds);
         const QString last = printed_pages(name).last();
         const qsizetype total = last.indexOf(u" Total "_s, last.indexOf(u" 09:30 "_s));
         QVERIFY2(last.contains(u" 09:30 "_s) && total > 0, qPrintable(last));
@@ -123,7 +123,7 @@ private Q_SLOTS:
     {
         QFETCH(int, rounds);
         QFETCH(int, pages);
-        fill_costs(store_.path(), rounds);
+        fill_costs(store_.location(), rounds);
         for (const QString& name : {u"r_cost3.rpt"_s, u"r_cost3_en.rpt"_s}) {
             const QString path = folder_.filePath(u"costs.pdf"_s);
             const auto document = render_report(built_template(name));
@@ -142,7 +142,7 @@ private Q_SLOTS:
 
     void the_rounds_are_in_order_of_time()
     {
-        fill_costs(store_.path(), 3);
+        fill_costs(store_.location(), 3);
         const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
         const qsizetype table = page.indexOf(u"Share %"_s, page.indexOf(u"By round"_s));
         QVERIFY(table > 0);
@@ -154,7 +154,7 @@ private Q_SLOTS:
 
     void rounds_that_cost_nothing_print_dots()
     {
-        fill_costs(store_.path(), 2, figures::none);
+        fill_costs(store_.location(), 2, figures::none);
         const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
         QVERIFY(page.contains(u"2023-06-02 09:30 · · · · · · · · · · · · · ·"_s));
         QVERIFY(page.contains(u"Green Fees · · · ·"_s));
@@ -166,8 +166,8 @@ private Q_SLOTS:
 
     void an_amount_that_was_never_entered_is_a_dot_and_counts_as_0_in_the_sums()
     {
-        fill_costs(store_.path(), 2);
-        reader(store_.path()).write(u"update r_cost set vt = null, au = null"_s);
+        fill_costs(store_.location(), 2);
+        reader(store_.location()).write(u"update r_cost set vt = null, au = null"_s);
         const QString page = printed_pages(u"r_cost3_en.rpt"_s).front();
         QVERIFY2(page.contains(u"2023-06-01 09:30 60 · · · 5 · · · · · · · 65 43.3"_s), qPrintable(page));
         QVERIFY2(page.contains(u"Total 140 · · · 10 · · · · · · · 150 100"_s), qPrintable(page));
@@ -178,7 +178,7 @@ private Q_SLOTS:
 
     void the_highest_amounts_are_printed_whole()
     {
-        fill_costs(store_.path(), 2, figures::extreme);
+        fill_costs(store_.location(), 2, figures::extreme);
         const QStringList pages = printed_pages(u"r_cost3_en.rpt"_s);
         QCOMPARE(pages.size(), 1);
         QVERIFY(pages.front().contains(u"2,147,483,647 2,147,483,647 25,769,803,764 50.0"_s));
@@ -198,8 +198,9 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QChar, group);
         QFETCH(QChar, point);
-        fill_costs(store_.path(), 2);
-        reader(store_.path()).write(u"update r_cost set fg = 9999, lg = 10000, ba = 12345, bs = 1234567"_s);
+        fill_costs(store_.location(), 2);
+        reader(store_.location())
+            .write(u"update r_cost set fg = 9999, lg = 10000, ba = 12345, bs = 1234567"_s);
         const QString page = printed_pages(name).front();
         // The line of a round, the totals and the means in the foot, one kind of cost, and the total of all
         // kinds.
@@ -214,7 +215,7 @@ private Q_SLOTS:
 
     void the_figures_file_has_every_round()
     {
-        fill_costs(store_.path(), 366);
+        fill_costs(store_.location(), 366);
         const QStringList lines = csv_lines(u"r_cost3_en.rpt"_s);
         QCOMPARE(lines.size(), 367);
         QCOMPARE(lines[0],

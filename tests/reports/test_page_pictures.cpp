@@ -60,8 +60,8 @@ class test_page_pictures : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        set_report_store(store_.path());
-        fill_all_reports(store_.path());
+        set_report_store(store_.location());
+        fill_all_reports(store_.location());
     }
 
     void a_page_painted_twice_is_the_same_data() { each_template(); }

@@ -18,8 +18,8 @@ class test_putt_report : public QObject {
 private Q_SLOTS:
     void init()
     {
-        set_report_store(store_.path());
-        fill_putts(store_.path());
+        set_report_store(store_.location());
+        fill_putts(store_.location());
     }
 
     void the_heading_and_the_bands_are_in_the_language_data()
@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void one_round_has_its_own_heading_and_its_rating_from_the_first_line()
     {
-        make_one_round_putts(store_.path());
+        make_one_round_putts(store_.location());
         const QString page = printed_pages(u"statPuts_en.rpt"_s).front();
         QVERIFY(page.contains(u"Round : 2024-05-01 Pebble Beach"_s));
         QVERIFY(page.contains(u"Weather conditions : Sunny"_s));
@@ -105,14 +105,15 @@ private Q_SLOTS:
         QFETCH(QString, column);
         QFETCH(QString, text);
         QFETCH(QString, printed);
-        reader(store_.path()).write(u"update s_put1 set "_s + column + u" = '" + text + u"' where rowid = 1");
+        reader(store_.location())
+            .write(u"update s_put1 set "_s + column + u" = '" + text + u"' where rowid = 1");
         for (const QString& name : {u"statPuts.rpt"_s, u"statPuts_en.rpt"_s})
             QVERIFY(printed_pages(name).front().contains(printed));
     }
 
     void without_putts_the_captions_and_dots_are_printed()
     {
-        fill_putts(store_.path(), figures::none);
+        fill_putts(store_.location(), figures::none);
         const QString page = printed_pages(u"statPuts_en.rpt"_s).front();
         QVERIFY(page.contains(u"1 putt · · · · · · · ·"_s));
         QVERIFY(page.contains(u"Mean per hole · · · · · · · ·"_s));
@@ -121,7 +122,7 @@ private Q_SLOTS:
 
     void a_score_without_a_rating_is_printed_alone()
     {
-        reader(store_.path())
+        reader(store_.location())
             .write(
                 QStringList{u"update s_put2 set weighted_mean = ' 3.7', rating_text = '' where rowid = 7"_s});
         QVERIFY(printed_pages(u"statPuts_en.rpt"_s).front().contains(u"3.70"_s));
@@ -158,7 +159,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(QString, english);
-        reader(store_.path())
+        reader(store_.location())
             .write(
                 u"update s_put2 set weighted_mean = '%1', rating_text = 'WORDS' where rowid = 7"_s.arg(text));
         QVERIFY(printed_pages(u"statPuts_en.rpt"_s).front().contains(u' ' + english + u" WORDS"));
@@ -176,7 +177,7 @@ private Q_SLOTS:
 
     void extreme_figures_stay_on_one_page()
     {
-        fill_putts(store_.path(), figures::extreme);
+        fill_putts(store_.location(), figures::extreme);
         const QStringList pages = printed_pages(u"statPuts_en.rpt"_s);
         QCOMPARE(pages.size(), 1);
         QVERIFY(pages.front().contains(u"163835 1146845"_s));
@@ -212,9 +213,9 @@ private Q_SLOTS:
 
     void the_figures_file_has_the_rating_of_one_round_and_of_none()
     {
-        make_one_round_putts(store_.path());
+        make_one_round_putts(store_.location());
         QCOMPARE(csv_lines(u"statPuts_en.rpt"_s).last(), u"Rating,,,,,,,,,Average"_s);
-        fill_putts(store_.path(), figures::none);
+        fill_putts(store_.location(), figures::none);
         QCOMPARE(csv_lines(u"statPuts_en.rpt"_s).mid(16),
                  QStringList({u"Score,,,,,,,,,"_s, u"Rating,,,,,,,,,N/A"_s}));
     }

@@ -32,8 +32,8 @@ private Q_SLOTS:
     void init()
     {
         is_french = true;
-        set_report_store(store_.path());
-        fill_stats(store_.path(), 2, u"X"_s);
+        set_report_store(store_.location());
+        fill_stats(store_.location(), 2, u"X"_s);
     }
 
     void the_path_is_the_programs_folder_and_the_literal_of_the_language_data()
@@ -119,7 +119,7 @@ private Q_SLOTS:
         prepare_round_report(control, report_opening::plain());
         control.Action(report_control::run_now);
         const QImage before = control.preview()->grab().toImage();
-        fill_stats(store_.path(), 30, u"Y"_s);
+        fill_stats(store_.location(), 30, u"Y"_s);
         control.preview()->update();
         QCOMPARE(control.preview()->grab().toImage(), before);
         delete control.preview();

@@ -109,8 +109,8 @@ class test_report_manual : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        set_report_store(store_.path());
-        fill_all_reports(store_.path());
+        set_report_store(store_.location());
+        fill_all_reports(store_.location());
     }
 
     void a_change_of_the_manual_gives_the_page_that_it_describes_data()

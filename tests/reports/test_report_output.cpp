@@ -78,7 +78,7 @@ class test_report_output : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { set_report_store(store_.path()); }
+    void init() { set_report_store(store_.location()); }
 
     void fields_of_a_figures_file_are_quoted_where_they_must_data()
     {
@@ -196,7 +196,7 @@ private Q_SLOTS:
 
     void a_page_is_printed_whole_on_other_paper()
     {
-        fill_stats(store_.path(), 3, u"X"_s);
+        fill_stats(store_.location(), 3, u"X"_s);
         QPrinter printer(QPrinter::HighResolution);
         print_to(printer, file(u"letter.pdf"_s));
         printer.setPageSize(QPageSize(QPageSize::Letter));

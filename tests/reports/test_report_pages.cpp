@@ -67,7 +67,7 @@ class test_report_pages : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { set_report_store(store_.path()); }
+    void init() { set_report_store(store_.location()); }
 
     void no_row_is_cut_and_every_page_has_the_table_head_and_its_number_data()
     {

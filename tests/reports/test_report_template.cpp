@@ -43,7 +43,7 @@ class test_report_template : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { set_report_store(store_.path()); }
+    void init() { set_report_store(store_.location()); }
 
     void a_wrong_template_is_an_error_that_names_file_and_line_data()
     {
@@ -267,7 +267,7 @@ private Q_SLOTS:
         const QString path =
             written(u"query it = select course_text as c from stats"_s, u"{{#it}}{{c}}{{/it}}"_s);
         const template_file source = read_template(path);
-        reader(store_.path())
+        reader(store_.location())
             .write(u"update stats set course_text = 'before' where "
                    u"rowid = 1"_s);
         Connection1& program = data_environment().connection;

@@ -110,8 +110,8 @@ class test_report_templates : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        set_report_store(store_.path());
-        fill_all_reports(store_.path());
+        set_report_store(store_.location());
+        fill_all_reports(store_.location());
     }
 
     void the_twins_have_one_layout_and_words_of_their_own_data() { each_report(); }

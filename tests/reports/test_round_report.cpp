@@ -48,8 +48,8 @@ class test_round_report : public QObject {
 private Q_SLOTS:
     void init()
     {
-        set_report_store(store_.path());
-        fill_stats(store_.path(), 40, u"A & B <c> \"d\""_s);
+        set_report_store(store_.location());
+        fill_stats(store_.location(), 40, u"A & B <c> \"d\""_s);
     }
 
     void both_languages_fit_on_one_landscape_page_data()
@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(int, rounds);
-        fill_stats(store_.path(), rounds, u"LE BLAINVILLIER     , Blanc"_s);
+        fill_stats(store_.location(), rounds, u"LE BLAINVILLIER     , Blanc"_s);
         const auto document = render_report(built_template(name));
         QCOMPARE(document->page_count(), 1);
         QCOMPARE(document->page_size_mm().toSize(), QSize(297, 210));
@@ -99,7 +99,7 @@ private Q_SLOTS:
 
     void the_tee_follows_the_name_of_its_course_without_padding()
     {
-        fill_stats(store_.path(), 2, u"Pebble Beach        , Gold"_s);
+        fill_stats(store_.location(), 2, u"Pebble Beach        , Gold"_s);
         for (const QString& name : {french, english})
             QVERIFY(page_of(name).contains(u"Pebble Beach, Gold"_s));
     }
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(many, u"total: mean per round 1 2 3 4 5 6 7 8 9 45 "
                        u"10 11 12 13 14 15 16 17 18 126 85.5"_s);
         QVERIFY(line_after(page_of(french), u"Coups"_s).endsWith(u" 126 85,5"_s));
-        fill_stats(store_.path(), 1, u"X"_s);
+        fill_stats(store_.location(), 1, u"X"_s);
         QCOMPARE(line_after(page_of(english), u"Strokes"_s),
                  u"1 2 3 4 5 6 7 8 9 45 10 11 12 13 14 15 16 17 18 126 171"_s);
     }
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QStringList nulls;
         for (int hole = 1; hole <= 18; ++hole)
             nulls.append(u"hole_%1 = null"_s.arg(hole));
-        reader(store_.path()).write(u"update stats set "_s + nulls.join(u','));
+        reader(store_.location()).write(u"update stats set "_s + nulls.join(u','));
         QCOMPARE(render_report(built_template(french))->page_count(), 1);
     }
 };

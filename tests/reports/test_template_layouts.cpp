@@ -64,7 +64,7 @@ class test_template_layouts : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { set_report_store(store_.path()); }
+    void init() { set_report_store(store_.location()); }
 
     void a_template_takes_its_page_queries_and_body_from_its_layout()
     {

@@ -137,7 +137,7 @@ class test_template_limits : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { set_report_store(store_.path()); }
+    void init() { set_report_store(store_.location()); }
 
     void a_page_that_cannot_be_laid_out_is_refused_with_file_and_line_data()
     {

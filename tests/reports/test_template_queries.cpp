@@ -94,7 +94,7 @@ class test_template_queries : public QObject {
     }
 
 private Q_SLOTS:
-    void init() { set_report_store(store_.path()); }
+    void init() { set_report_store(store_.location()); }
 
     void a_query_that_does_not_only_select_from_the_report_tables_is_refused_with_file_and_line_data()
     {
@@ -128,12 +128,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, sql);
         QFETCH(QString, words);
-        const QString before = reader(store_.path()).text(u"select count(*) from sqlite_master"_s);
+        const QString before = reader(store_.location()).text(u"select count(*) from sqlite_master"_s);
         QCOMPARE(
             complaint_about(written(u"\nquery bad =\n    "_s + sql + u'\n')),
             u"try.rpt:2: query bad: a query can only select from the report tables and the queries above it; "_s +
                 words);
-        QCOMPARE(reader(store_.path()).text(u"select count(*) from sqlite_master"_s), before);
+        QCOMPARE(reader(store_.location()).text(u"select count(*) from sqlite_master"_s), before);
     }
 
     void a_query_reads_each_report_table_whole_and_the_queries_above_it_data()
@@ -149,7 +149,7 @@ private Q_SLOTS:
             u"query it = select * from %1\nquery how_many = select count(*) as n from it\n"_s.arg(table)));
         const report_snapshot snapshot(source);
         const report_rows rows = snapshot.rows(source.queries[0]);
-        const reader store(store_.path());
+        const reader store(store_.location());
         QCOMPARE(QString::number(rows.columns.size()),
                  store.text(u"select count(*) from pragma_table_info('%1')"_s.arg(table)));
         QCOMPARE(QString::number(rows.rows.size()), store.text(u"select count(*) from "_s + table));
@@ -274,13 +274,14 @@ private Q_SLOTS:
         const QString select = u"select quote("_s + sql + u") as n"_s;
         const template_file source = read_template(written(u"query it = "_s + select + u'\n'));
         const report_snapshot snapshot(source);
-        QCOMPARE(snapshot.rows(source.queries[0]).rows[0][0].toString(), reader(store_.path()).text(select));
+        QCOMPARE(snapshot.rows(source.queries[0]).rows[0][0].toString(),
+                 reader(store_.location()).text(select));
     }
 
     void a_report_waits_until_another_program_unlocks_the_store()
     {
         set_report_store(copy_without_log(store_.path(), folder_.filePath(u"locked.sqlite"_s)));
-        other_program other(report_store(), u"BEGIN EXCLUSIVE"_s);
+        other_program other(report_store(), kept_from::reading_and_writing);
         QTimer timer;
         bool seen = false;
         QObject::connect(&timer, &QTimer::timeout, this, [&] {
@@ -296,7 +297,7 @@ private Q_SLOTS:
     void a_user_who_gives_up_waiting_for_a_lock_ends_the_report_as_locked()
     {
         set_report_store(copy_without_log(store_.path(), folder_.filePath(u"locked.sqlite"_s)));
-        other_program other(report_store(), u"BEGIN EXCLUSIVE"_s);
+        other_program other(report_store(), kept_from::reading_and_writing);
         QTimer timer;
         bool gave_up = false;
         QObject::connect(&timer, &QTimer::timeout, this, [&gave_up] {
@@ -338,7 +339,7 @@ private Q_SLOTS:
 
     void a_text_of_a_table_longer_than_its_limit_ends_with_an_ellipsis_in_every_column()
     {
-        const reader store(store_.path());
+        const reader store(store_.location());
         const QStringList columns =
             store.text(u"select group_concat(name, ',') from pragma_table_info('stats')"_s).split(u',');
         QStringList values;
@@ -357,7 +358,7 @@ private Q_SLOTS:
 
     void a_text_at_the_limit_and_a_number_are_copied_whole()
     {
-        reader(store_.path())
+        reader(store_.location())
             .write(u"update r_card set card_name = '%1', card_yards_1 = 345, card_club_1 = 187.25"_s.arg(
                 QString(1000, u'é')));
         const template_file source =

@@ -44,8 +44,8 @@ class test_text_sizes : public QObject {
 private Q_SLOTS:
     void init()
     {
-        set_report_store(store_.path());
-        fill_all_reports(store_.path());
+        set_report_store(store_.location());
+        fill_all_reports(store_.location());
     }
 
     void no_text_of_a_report_is_smaller_than_7_pt_data() { each_template(); }
@@ -59,9 +59,9 @@ private Q_SLOTS:
     void no_text_of_a_report_of_one_round_is_smaller_than_7_pt()
     {
         QFETCH(QString, name);
-        fill_stats(store_.path(), 1, u"Links"_s);
-        fill_costs(store_.path(), 1);
-        make_one_round_putts(store_.path());
+        fill_stats(store_.location(), 1, u"Links"_s);
+        fill_costs(store_.location(), 1);
+        make_one_round_putts(store_.location());
         check_sizes(name);
     }
 
@@ -70,19 +70,19 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         // Amounts of billions do not fit on a page; the whole page is then printed smaller.
-        fill_costs(store_.path(), 366);
-        reader(store_.path())
+        fill_costs(store_.location(), 366);
+        reader(store_.location())
             .write(u"update r_cost set fg = 9999, cm = 9999, vt = 9999, ft = 9999, ba = 9999, tee = 9999, "
                    "tex = 9999, nrt = 9999, lg = 9999, bs = 9999, ln = 9999, au = 9999"_s);
-        fill_card(store_.path(), u"Links"_s, figures::extreme);
-        fill_putts(store_.path(), figures::extreme);
-        fill_clubs(store_.path(), figures::extreme);
+        fill_card(store_.location(), u"Links"_s, figures::extreme);
+        fill_putts(store_.location(), figures::extreme);
+        fill_clubs(store_.location(), figures::extreme);
         check_sizes(name);
     }
 
     void the_longest_names_of_a_card_are_printed_in_7_pt_or_more()
     {
-        reader(store_.path())
+        reader(store_.location())
             .write(QStringList{u"update r_card set card_name = '%1'"_s.arg(QString(50, u'W')),
                                u"update sticknames set club_4 = '%1'"_s.arg(QString(50, u'W'))});
         check_sizes(u"r_card2.rpt"_s);

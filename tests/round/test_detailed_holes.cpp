@@ -6,6 +6,7 @@
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/languages.h"
+#include "tests/support/refused_change.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -353,14 +354,13 @@ private Q_SLOTS:
         round.store.add_round(key_of_keyed_round());
         add_complete_shot(round.store, 1, 1, 14, 6, u"Pieds"_s, 3);
         in_detailed_round([&](hand& user) {
-            round.store.store.write(u"create trigger refuse before update on Stat_rounds begin select "
-                                    u"raise(abort, 'no'); end"_s);
+            round.store.store.write(refuse(u"update"_s, u"Stat_rounds"_s));
             user.click_cell(details, 0, 3);
             user.type(u"5"_s);
             user.key(Qt::Key_Return);
             user.same(user.grid_rows(details), 1, u"rows"_s);
             user.same(user.cell(details, 0, 3), u"5"_s, u"distance"_s);
-            round.store.store.write(u"drop trigger refuse"_s);
+            round.store.store.write(refuse_no_more());
         });
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 0>5 "));
     }

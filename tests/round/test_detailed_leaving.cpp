@@ -6,6 +6,7 @@
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/languages.h"
+#include "tests/support/refused_change.h"
 #include "tests/support/store_invariants.h"
 
 using namespace verdane;
@@ -137,13 +138,12 @@ private Q_SLOTS:
         add_shot(round.store, 1, 2, u"stickval = 9, stick = 'F9'"_s);
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
             open_detailed_page(user);
-            round.store.store.write(u"create trigger refuse before update on Stat_rounds when "
-                                    u"old.shot = 2 begin select raise(abort, 'no'); end"_s);
+            round.store.store.write(refuse(u"update"_s, u"Stat_rounds"_s, u"old.shot = 2"_s));
             user.click(ok_button);
             user.answer(refusal_of_shot(u" 2"_s));
             user.wait_for_window(round_window());
             user.check(user.visible(details), u"the detailed page"_s);
-            round.store.store.write(u"drop trigger refuse"_s);
+            round.store.store.write(refuse_no_more());
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
         QCOMPARE(round.shots(1), 2);
@@ -173,8 +173,7 @@ private Q_SLOTS:
             open_detailed_page(user);
             with_round(user, [&](f_new_round& window) {
                 data_environment().rsgames2.Fields(u"conditionM"_s).set(2);
-                round.store.store.write(u"create trigger refuse before update on games2 begin "
-                                        u"select raise(abort, 'no'); end"_s);
+                round.store.store.write(refuse(u"update"_s, u"games2"_s));
                 window.unload();
             });
         });

@@ -11,6 +11,7 @@
 #include "tests/round/round_windows.h"
 #include "tests/support/failures.h"
 #include "tests/support/other_program.h"
+#include "tests/support/refused_change.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -159,7 +160,7 @@ private Q_SLOTS:
             for (const int hole : {2, 3, 2})
                 user.click_tab(hole_tabs, hole);
             const auto watch = watch_from_now(user, round.store);
-            const other_program other(data_environment().connection.path());
+            const other_program other(data_environment().connection.location());
             user.click_tab(hole_tabs, 3);
             user.same(static_cast<int>(watch->states().size()), 0, u"commits"_s);
             discard(user);
@@ -172,14 +173,13 @@ private Q_SLOTS:
         const golfer_store round;
         round.store.add_round(key_of_keyed_round());
         in_stored_round(key_of_keyed_round(), [&](hand& user) {
-            round.store.store.write(u"create trigger refuse before update on games begin "
-                                    u"select raise(abort, 'refused by the test'); end"_s);
+            round.store.store.write(refuse(u"update"_s, u"games"_s));
             user.type(new_keys);
             with_round(user, [&](f_new_round& window) {
                 const auto failure = failure_of([&] { f_new_round_func::save_round(window, true); });
                 QVERIFY(failure == failure_kind::store_other);
             });
-            round.store.store.write(u"drop trigger refuse"_s);
+            round.store.store.write(refuse_no_more());
             discard(user);
         });
         QCOMPARE(round.store.of_round(u"games2"_s, u"fairway_1"_s), u"4"_s);

@@ -25,7 +25,7 @@ const QString button = u"b_putts"_s;
 struct reported_store : golfer_store {
     explicit reported_store(bool french = true) : golfer_store(french)
     {
-        set_report_store(data_environment().connection.path());
+        set_report_store(data_environment().connection.location());
     }
 };
 

@@ -8,6 +8,7 @@
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/languages.h"
+#include "tests/support/refused_change.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -338,15 +339,14 @@ private Q_SLOTS:
         const round_with_shots round;
         round.add(1, 1, 60, yards, 1);
         round.play([&](hand& user) {
-            round.store.store.write(u"create trigger refuse before update on Stat_rounds begin select "
-                                    u"raise(abort, 'no'); end"_s);
+            round.store.store.write(refuse(u"update"_s, u"Stat_rounds"_s));
             with_round(user, [](f_new_round& window) {
                 data_environment().rsStat_rounds.Fields(u"after").set(61);
                 QVERIFY(window.detailed().check_shots());
                 QVERIFY(window.detailed().open_hole_shots());
             });
             user.same(user.cell(details, 0, 3), u"60"_s, u"distance"_s);
-            round.store.store.write(u"drop trigger refuse"_s);
+            round.store.store.write(refuse_no_more());
         });
     }
 };

@@ -7,6 +7,7 @@
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "tests/support/diary.h"
+#include "tests/support/engine_of_tests.h"
 
 namespace verdane::testing {
 
@@ -14,14 +15,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QTemporaryDir& with_new_store(QTemporaryDir& home)
+store_location new_store_in(const QTemporaryDir& home)
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
     QCoreApplication::setApplicationName(u"Verdane"_s);
-    Connection1 first_start;
-    first_start.Open();
-    first_start.Close();
-    return home;
+    const store_location place = new_program_store();
+    Connection1().Open(place);
+    return place;
 }
 
 void close_the_store()
@@ -45,8 +45,7 @@ const diary_course links{.code = u"LINKS-0"_s,
 
 }  // namespace
 
-program_run::program_run(int language, const QStringList& statements)
-    : store_((with_new_store(home_), store_path()))
+program_run::program_run(int language, const QStringList& statements) : store_(new_store_in(home_))
 {
     store_.write(u"update settings set language = %1"_s.arg(language));
     store_.write(statements);
@@ -55,6 +54,12 @@ program_run::program_run(int language, const QStringList& statements)
 program_run::~program_run()
 {
     close_the_store();
+    remove_store_place(store_place());
+}
+
+store_location program_run::store_place()
+{
+    return default_store();
 }
 
 QString program_run::store_path()

@@ -12,7 +12,8 @@ namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
-/// Runs the whole program, as `main` does, on a store in a temporary data folder.
+/// Runs the whole program, as `main` does, with a temporary data folder and a new store: in that folder, or
+/// on the other engines in the registered source.
 class program_run {
 public:
     /// Creates the store and runs statements on it; `language` is the stored value.
@@ -23,6 +24,9 @@ public:
     int play_through(const std::function<void(hand&)>& script);
 
     const reader& store() const { return store_; }
+    /// The store that the program opens.
+    static store_location store_place();
+    /// The file of the embedded engine.
     static QString store_path();
 
 private:

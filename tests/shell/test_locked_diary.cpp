@@ -77,7 +77,7 @@ int give_up(const QString& way)
              open_round(user, u"_en"_s);
              user.type(first_hole);
              user.click_tab(hole_tabs, 2);
-             const other_program other(program_run::store_path());
+             const other_program other(program_run::store_place());
              user.type(first_hole);
              user.click_tab(hole_tabs, 3);
              user.wait_for_window(notice);
@@ -108,7 +108,7 @@ private Q_SLOTS:
         program_run run(french ? 1 : 2, one_course() + one_round());
         const int status = run.play_through([&](hand& user) {
             open_round(user, suffix);
-            other_program other(program_run::store_path());
+            other_program other(program_run::store_place());
             user.type(first_hole);
             user.click_tab(hole_tabs, 2);
             user.wait_for_window(notice);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         program_run run(2, one_course() + one_round());
         run.play_through([&](hand& user) {
             open_round(user, u"_en"_s);
-            other_program other(program_run::store_path());
+            other_program other(program_run::store_place());
             user.type(first_hole);
             user.click_tab(hole_tabs, 2);
             user.wait_for_window(notice);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         paint_counter painted;
         run.play_through([&](hand& user) {
             open_round(user, u"_en"_s);
-            other_program other(program_run::store_path());
+            other_program other(program_run::store_place());
             user.type(first_hole);
             user.click_tab(hole_tabs, 2);
             user.wait_for_window(notice);

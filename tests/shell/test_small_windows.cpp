@@ -92,7 +92,7 @@ private Q_SLOTS:
     void the_report_control_of_the_report_window_opens_its_preview_above_the_window()
     {
         const store_folder store;
-        set_report_store(store.path());
+        set_report_store(store.location());
         f_report window;
         QCOMPARE(window.objectName(), u"f_report"_s);
         prepare_report(window.cr2, report_opening::zoomed(75), u"\\r_card2.rpt", u"\\r_card2_en.rpt");

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 level_rounds::level_rounds(int days, bool french) : stored_diary(french)
 {
-    set_report_store(path());
+    set_report_store(location());
     const diary_course course = flat_course(u"PINS-0"_s, 4, u"70"_s, u"113"_s);
     book.add(course);
     book.add_days(course, days);

@@ -19,7 +19,7 @@ diary_course pebble()
 
 stocked_store::stocked_store(bool french) : stored_diary(french)
 {
-    set_report_store(path());
+    set_report_store(location());
     book.add(pebble());
     book.add(course_of(u"Carnoustie Championship"_s, u"White"_s));
     book.add(course_of(u"Carnoustie Championship"_s, u"Black"_s));

@@ -134,7 +134,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const stored_diary store(french);
-        set_report_store(store.path());
+        set_report_store(store.location());
         store.book.add(course());
         diary_round round = round_on(1, 0);
         round.holes[1].fairway = 7;
@@ -153,7 +153,7 @@ private Q_SLOTS:
     void shots_without_a_round_show_only_the_second_message()
     {
         const stored_diary store;
-        set_report_store(store.path());
+        set_report_store(store.location());
         store.book.add(course());
         for (int day = 1; day <= 3; ++day)
             store.book.add(round_on(day, 0));

@@ -40,7 +40,7 @@ class filled_store : public stored_diary {
 public:
     explicit filled_store(const std::vector<diary_round>& rounds, bool french = true) : stored_diary(french)
     {
-        set_report_store(path());
+        set_report_store(location());
         for (const diary_course& course : {pebble(), carnoustie()})
             book.add(course);
         book.add(rounds);

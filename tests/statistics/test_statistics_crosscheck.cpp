@@ -260,8 +260,8 @@ private Q_SLOTS:
         QFETCH(QList<int>, picked);
         const choice chosen{picked[0], picked[1], picked[2], picked[3], picked[4]};
         const stored_diary store;
-        set_report_store(store.path());
-        const diary book(store.path());
+        set_report_store(store.location());
+        const diary book(store.location());
         for (const diary_course& course : courses())
             store.book.add(course);
         store.book.add_partner(u"Anne"_s, u"Douze"_s, 12);

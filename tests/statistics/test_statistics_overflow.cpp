@@ -40,8 +40,8 @@ std::vector<diary_round> full_list(int gross)
 int run_over_full_list(int gross)
 {
     const store_folder store;
-    set_report_store(store.path());
-    const diary book(store.path());
+    set_report_store(store.location());
+    const diary book(store.location());
     book.add(course());
     book.add(full_list(gross));
     in_selection_window([](hand& user) {
@@ -65,8 +65,8 @@ private Q_SLOTS:
     void the_strokes_of_a_selection_fit_16_bits()
     {
         const stored_diary store;
-        set_report_store(store.path());
-        const diary book(store.path());
+        set_report_store(store.location());
+        const diary book(store.location());
         store.book.add(course());
         store.book.add(full_list(89));
         in_selection_window([](hand& user) {

@@ -12,6 +12,7 @@
 #include "store/Connection1.h"
 #include "store/Recordset.h"
 #include "tests/store/store_child.h"
+#include "tests/support/engine_of_tests.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
@@ -58,12 +59,12 @@ void write_partners(Connection1& connection)
     }
 }
 
-void run(const QByteArray& mode, const QString& path, const char* argument)
+void run(const QByteArray& mode, const store_location& place, const char* argument)
 {
     Connection1 connection;
     if (mode == "nobody")
         become_nobody();
-    connection.Open(path);
+    connection.Open(place);
     if (mode == "write" || mode == "fill") {
         if (mode == "fill")
             limit_files(argument);
@@ -81,7 +82,8 @@ int main(int count, char** arguments)
 {
     const QCoreApplication application(count, arguments);
     try {
-        run(arguments[1], QFile::decodeName(arguments[2]), count > 3 ? arguments[3] : "");
+        run(arguments[1], testing::store_called(QFile::decodeName(arguments[2])),
+            count > 3 ? arguments[3] : "");
     } catch (const run_time_failure& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return testing::child_failed + static_cast<int>(failure.kind());

@@ -13,11 +13,11 @@ namespace verdane::testing {
 constexpr int child_broken = 99;
 constexpr int child_failed = 100;
 
-/// Starts it from the folder of the test programs.
-inline void start_child(QProcess& child, const QString& mode, const QString& path, int argument = 0)
+/// Starts it from the folder of the test programs, on the store whose location has that name.
+inline void start_child(QProcess& child, const QString& mode, const QString& store, int argument = 0)
 {
     child.start(QCoreApplication::applicationDirPath() + u"/store_child",
-                {mode, path, QString::number(argument)});
+                {mode, store, QString::number(argument)});
 }
 
 /// Runs it until it ends. Returns the kind of its failure, or nothing.

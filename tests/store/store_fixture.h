@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <memory>
 
 #include "store/Connection1.h"
 #include "store/Recordset.h"
 #include "tests/support/reader.h"
+#include "tests/support/test_store.h"
 
 namespace verdane::testing {
 
@@ -16,14 +16,16 @@ using namespace Qt::StringLiterals;
 inline const QStringList three_names{u"a"_s, u"b"_s, u"c"_s};
 inline const QString all_partners = u"select * from partners"_s;
 
-/// A new store in a temporary folder with an open connection, and a reader for its committed rows. One for
+/// A new store with an open connection, and a reader for its committed rows. One for
 /// each test slot.
 class store_fixture {
 public:
-    store_fixture() { connection.Open(path()); }
+    store_fixture() { connection.Open(location()); }
 
-    QString path() const { return folder_.filePath(u"diary/Verdbase.db"_s); }
-    reader outside() const { return reader(path()); }
+    const store_location& location() const { return place_.location(); }
+    /// The file of a store of the embedded engine.
+    QString path() const { return place_.path(); }
+    reader outside() const { return reader(location()); }
 
     /// A closed recordset with that statement.
     std::unique_ptr<Recordset> recordset(const QString& source, lock_type lock = lock_type::optimistic)
@@ -53,10 +55,10 @@ public:
     }
 
 private:
-    QTemporaryDir folder_;
+    test_store place_;
 
 public:
-    // Declared after the folder, so that it is closed before the folder is removed.
+    // Declared after the place, so that it is closed before the place is removed.
     Connection1 connection;
 };
 
@@ -83,9 +85,8 @@ inline QString stored_names(const store_fixture& store)
 }
 
 /// Every row of every table as text: two equal results mean that nothing was committed in between.
-inline QString whole_content(const QString& path)
+inline QString whole_content(const reader& outside)
 {
-    const reader outside(path);
     QString content;
     const QString tables = u"select name from sqlite_master where type='table' order by name"_s;
     for (const auto& table : outside.rows(tables)) {

@@ -54,13 +54,13 @@ class test_DataEnvironment1 : public QObject {
     Q_OBJECT
 
 private:
-    QTemporaryDir folder_;
+    testing::test_store place_;
 
 private Q_SLOTS:
-    // The folder is removed before the application object is destroyed.
+    // The place is removed before the application object is destroyed.
     void cleanupTestCase() { data_environment().abandon(); }
 
-    void initTestCase() { data_environment().connection.Open(folder_.filePath(u"Verdbase.db"_s)); }
+    void initTestCase() { data_environment().connection.Open(place_.location()); }
 
     void a_recordset_has_the_settings_of_the_catalogue_and_opens_data()
     {
@@ -108,7 +108,7 @@ private Q_SLOTS:
     void abandoning_drops_what_is_pending_and_closes_everything()
     {
         DataEnvironment1& environment = data_environment();
-        const QString path = environment.connection.path();
+        const reader store(place_.location());
         environment.rsgames.set_Source(u"Select * from games"_s);
         environment.rsgames.Open();
         environment.rsgames.AddNew();
@@ -118,10 +118,10 @@ private Q_SLOTS:
         QVERIFY(!environment.connection.is_open());
         QVERIFY(!environment.rsgames.is_open());
         QCOMPARE(environment.rsgames.Source(), u"select *  from games order by date"_s);
-        QCOMPARE(reader(path).number(u"select count(*) from games"_s), 0);
-        QCOMPARE(reader(path).number(u"select count(*) from partners"_s), 0);
+        QCOMPARE(store.number(u"select count(*) from games"_s), 0);
+        QCOMPARE(store.number(u"select count(*) from partners"_s), 0);
         environment.abandon();
-        environment.connection.Open(path);
+        environment.connection.Open(place_.location());
         environment.rsgames.Open();
         QVERIFY(environment.rsgames.empty());
         environment.rsgames.Close();

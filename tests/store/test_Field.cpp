@@ -88,7 +88,7 @@ private Q_SLOTS:
 
     void trimming_removes_blanks_only()
     {
-        const auto recordset = field_of("' ' || char(9) || 'TOUTES' || char(10) || ' '");
+        const auto recordset = field_of("' \tTOUTES\n '");
         QCOMPARE(recordset->Fields(0).trimmed(), u"\tTOUTES\n"_s);
     }
 

@@ -3,13 +3,9 @@
 #include <QTest>
 
 #include "tests/store/store_fixture.h"
-#include "tests/support/failures.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
-using testing::bytes_of;
-using testing::failure_of;
-using testing::reader;
 using testing::store_fixture;
 using testing::whole_content;
 
@@ -118,58 +114,10 @@ private Q_SLOTS:
     {
         store_fixture store;
         store.connection.Execute(u"update settings set language=2"_s);
-        const QString before = whole_content(store.path());
+        const QString before = whole_content(store.outside());
         store.connection.Close();
-        store.connection.Open(store.path());
-        QCOMPARE(whole_content(store.path()), before);
-    }
-
-    void an_empty_file_gets_the_tables()
-    {
-        QTemporaryDir folder;
-        const QString path = folder.filePath(u"Verdbase.db"_s);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.close();
-        Connection1 connection;
-        connection.Open(path);
-        QCOMPARE(reader(path).number(u"select count(*) from stats"_s), 34);
-    }
-
-    void after_a_failure_half_way_no_table_exists_and_the_next_start_creates_all()
-    {
-        QTemporaryDir folder;
-        const QString path = folder.filePath(u"Verdbase.db"_s);
-        {
-            // The file has no tables and must not grow, so creating the tables fails half way.
-            store_fixture other;
-            Connection1& connection = other.connection;
-            for (const auto& row :
-                 other.outside().rows(u"select name from sqlite_master where type='table'"_s))
-                connection.Execute(u"drop table " + row[0].toString());
-            connection.Execute(u"vacuum"_s);
-            connection.Execute(u"pragma max_page_count=6"_s);
-            QVERIFY(failure_of([&] { create_tables(connection); }) == failure_kind::store_full);
-            QCOMPARE(other.outside().number(u"select count(*) from sqlite_master"_s), 0);
-            connection.Close();
-            QVERIFY(QFile::copy(other.path(), path));
-        }
-        Connection1 connection;
-        connection.Open(path);
-        QCOMPARE(reader(path).number(u"select count(*) from stat_sticks"_s), 14);
-    }
-
-    void a_store_that_lacks_a_table_is_not_repaired()
-    {
-        store_fixture store;
-        store.connection.Execute(u"drop table partners"_s);
-        store.connection.Close();
-        const QString before = whole_content(store.path());
-        store.connection.Open(store.path());
-        const auto partners = store.recordset(u"select * from partners order by name"_s);
-        QVERIFY(failure_of([&] { partners->Open(); }) == failure_kind::missing_table);
-        QVERIFY(!partners->is_open());
-        QCOMPARE(whole_content(store.path()), before);
+        store.connection.Open(store.location());
+        QCOMPARE(whole_content(store.outside()), before);
     }
 };
 

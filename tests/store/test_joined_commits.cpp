@@ -1,9 +1,6 @@
 #include <QTest>
 
-#include <sqlite3.h>
-
 #include "store/commits.h"
-#include "store/engines/sqlite.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
 #include "tests/support/other_program.h"
@@ -40,11 +37,6 @@ struct two_partners : store_fixture {
     std::unique_ptr<Recordset> partners;
 };
 
-int refuse_commit(void*)
-{
-    return 1;
-}
-
 }  // namespace
 
 /// Several commits of recordsets that are made together.
@@ -73,27 +65,12 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"c b"_s);
     }
 
-    void a_commit_that_fails_stores_nothing_and_ends_the_transaction()
-    {
-        two_partners store;
-        sqlite3* const engine = engine_handle(store.connection.database());
-        {
-            joined_commits together(store.connection);
-            store.rename_both();
-            sqlite3_commit_hook(engine, refuse_commit, nullptr);
-            QVERIFY(failure_of([&] { together.finish(); }) == failure_kind::store_other);
-            sqlite3_commit_hook(engine, nullptr, nullptr);
-        }
-        QCOMPARE(stored_names(store), u"a b"_s);
-        QVERIFY(sqlite3_get_autocommit(engine) != 0);
-    }
-
     void no_lock_is_taken_before_the_first_write()
     {
         two_partners store;
         joined_commits together(store.connection);
         store.rename_current(u"a"_s);
-        const testing::other_program other(store.path());
+        const testing::other_program other(store.location());
         together.finish();
     }
 

@@ -68,7 +68,7 @@ private Q_SLOTS:
     void a_row_is_stored_once_the_lock_is_free()
     {
         locked_store store;
-        other_program other(store.path());
+        other_program other(store.location());
         store.seen.keeps_waiting = [&](int calls) {
             if (calls == 5)
                 other.release();
@@ -85,7 +85,7 @@ private Q_SLOTS:
     void a_statement_of_the_connection_waits_too()
     {
         locked_store store;
-        other_program other(store.path());
+        other_program other(store.location());
         store.seen.keeps_waiting = [&](int) {
             other.release();
             return true;
@@ -106,7 +106,7 @@ private Q_SLOTS:
     void after_giving_up_the_commit_fails_as_locked_and_the_row_is_pending()
     {
         locked_store store;
-        other_program other(store.path());
+        other_program other(store.location());
         store.seen.keeps_waiting = [](int) { return false; };
         const auto partners = partners_with_time_out(store, 30);
         partners->Fields(u"name").set(u"b"_s);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QFETCH(int, seconds);
         QFETCH(bool, with_notice);
         locked_store store;
-        const other_program other(store.path());
+        const other_program other(store.location());
         const auto partners = partners_with_time_out(store, seconds);
         partners->Fields(u"name").set(u"b"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
@@ -143,7 +143,7 @@ private Q_SLOTS:
     void the_notice_cannot_run_a_statement()
     {
         locked_store store;
-        const other_program other(store.path());
+        const other_program other(store.location());
         std::optional<failure_kind> met;
         store.seen.keeps_waiting = [&](int) {
             met = failure_of([&] { store.connection.Execute(u"delete from partners"_s); });
@@ -159,7 +159,7 @@ private Q_SLOTS:
     {
         locked_store store;
         store.connection.Close();
-        const other_program other(store.path());
+        const other_program other(store.location());
         QVERIFY(failure_of([&] { store.connection.Open(store.path()); }) == failure_kind::store_locked);
         QCOMPARE(store.seen.made, 0);
     }

@@ -3,10 +3,13 @@
 #include "store/prepared_statements.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
+#include "tests/support/refused_change.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
 using testing::failure_of;
+using testing::refuse;
+using testing::refuse_no_more;
 using testing::store_fixture;
 using testing::stored_names;
 
@@ -126,8 +129,7 @@ private Q_SLOTS:
         store_fixture store;
         const auto partners = store.opened(all_partners);
         add_partner(*partners, u"a"_s);
-        store.outside().write(u"create trigger no before insert on partners "
-                              u"begin select raise(abort, 'not now'); end"_s);
+        store.outside().write(refuse(u"insert"_s, u"partners"_s));
         partners->AddNew();
         partners->Fields(u"NAME").set(u"b"_s);
         partners->Fields(u"TEL").set(QVariant());
@@ -140,7 +142,7 @@ private Q_SLOTS:
             QVERIFY(failure.details().contains(u"not now"));
             QVERIFY(failure.details().contains(u"rstest"));
         }
-        store.outside().write(u"drop trigger no"_s);
+        store.outside().write(refuse_no_more());
         partners->Update();
         QCOMPARE(stored_names(store), u"a b"_s);
     }

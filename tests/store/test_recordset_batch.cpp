@@ -2,11 +2,14 @@
 
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
+#include "tests/support/refused_change.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
 using testing::failure_of;
 using testing::names_of;
+using testing::refuse;
+using testing::refuse_no_more;
 using testing::store_fixture;
 using testing::stored_names;
 
@@ -183,12 +186,11 @@ private Q_SLOTS:
         partners->MoveNext();
         partners->Fields(u"name").set(u"B"_s);
         add(*partners, "bad");
-        store.connection.Execute(u"create temp trigger none before insert on partners "
-                                 u"begin select raise(abort, 'refused'); end"_s);
+        store.connection.Execute(refuse(u"insert"_s, u"partners"_s));
         QVERIFY(failure_of([&] { partners->UpdateBatch(); }) == failure_kind::store_other);
         QCOMPARE(stored_names(store), u"a b c"_s);
         QVERIFY(partners->pending());
-        store.connection.Execute(u"drop trigger none"_s);
+        store.connection.Execute(refuse_no_more());
         partners->UpdateBatch();
         QCOMPARE(stored_names(store), u"B c bad"_s);
     }

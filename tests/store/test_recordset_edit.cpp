@@ -2,12 +2,15 @@
 
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
+#include "tests/support/refused_change.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
 using testing::all_partners;
 using testing::failure_of;
 using testing::names_of;
+using testing::refuse;
+using testing::refuse_no_more;
 using testing::store_fixture;
 using testing::stored_names;
 using testing::three_names;
@@ -108,8 +111,7 @@ private Q_SLOTS:
         const auto partners = store.opened(all_partners);
         partners->Fields(u"name").set(u"a"_s);
         // Every write would fail.
-        store.connection.Execute(u"create temp trigger none before update on partners "
-                                 u"begin select raise(abort, 'written'); end"_s);
+        store.connection.Execute(refuse(u"update"_s, u"partners"_s));
         partners->Update();
         QVERIFY(!partners->pending());
         partners->Fields(u"name").set(u"other"_s);
@@ -152,14 +154,13 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners(three_names);
         const auto partners = store.opened(all_partners);
-        store.connection.Execute(u"create temp trigger none before update on partners "
-                                 u"begin select raise(abort, 'refused'); end"_s);
+        store.connection.Execute(refuse(u"update"_s, u"partners"_s));
         partners->Fields(u"name").set(u"typed"_s);
         QVERIFY(failure_of([&] { partners->MoveLast(); }) == failure_kind::store_other);
         QCOMPARE(partners->position(), 0);
         QVERIFY(partners->pending());
         QCOMPARE(stored_names(store), u"a b c"_s);
-        store.connection.Execute(u"drop trigger none"_s);
+        store.connection.Execute(refuse_no_more());
         partners->MoveLast();
         QCOMPARE(stored_names(store), u"typed b c"_s);
     }

@@ -75,14 +75,6 @@ private Q_SLOTS:
         store_.connection.Execute(u"delete from stat_rounds"_s);
     }
 
-    void the_shots_of_a_hole_are_found_by_an_index()
-    {
-        const auto plan = store_.outside().rows(
-            u"explain query plan select * from Stat_rounds where (date='1') and hole=2 order by shot"_s);
-        QCOMPARE(plan.size(), std::size_t(1));
-        QVERIFY(plan[0].back().toString().contains(u"shots_by_hole"_s));
-    }
-
     void a_table_is_found_by_its_name_in_any_case()
     {
         QCOMPARE(find_table(u"STAT_ROUNDS")->name, u"Stat_rounds"_s);

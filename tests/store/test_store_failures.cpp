@@ -221,7 +221,7 @@ private Q_SLOTS:
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s});
         const auto partners = store.opened(u"select * from partners"_s);
-        const QString before = whole_content(store.path());
+        const QString before = whole_content(store.outside());
         store.connection.waiting().set_notice_maker([] { return std::make_unique<impatient_notice>(); });
         Connection1 tool;
         const QString link = folder_of(store) + u"/tool.db";
@@ -236,7 +236,7 @@ private Q_SLOTS:
         partners->CancelUpdate();
         QVERIFY(failure_of([&] { partners->Delete(); }) == failure_kind::store_locked);
         QCOMPARE(partners->RecordCount(), 2);
-        QCOMPARE(whole_content(store.path()), before);
+        QCOMPARE(whole_content(store.outside()), before);
         tool.Execute(u"ROLLBACK"_s);
         partners->Fields(u"name").set(u"typed"_s);
         partners->Update();
@@ -247,7 +247,7 @@ private Q_SLOTS:
     {
         store_fixture store;
         store.add_partners({u"a"_s});
-        const QString before = whole_content(store.path());
+        const QString before = whole_content(store.outside());
         const int pages = store.outside().number(u"pragma page_count"_s);
         store.connection.Execute(u"pragma max_page_count=%1"_s.arg(pages));
         const auto partners = store.opened(u"select * from partners"_s);
@@ -255,7 +255,7 @@ private Q_SLOTS:
         partners->Fields(u"name").set(QString(100000, u'x'));
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_full);
         QVERIFY(partners->pending());
-        QCOMPARE(whole_content(store.path()), before);
+        QCOMPARE(whole_content(store.outside()), before);
         store.connection.Execute(u"pragma max_page_count=100000"_s);
         partners->Update();
         QCOMPARE(store.outside().number(u"select count(*) from partners"_s), 2);
@@ -264,7 +264,7 @@ private Q_SLOTS:
     void a_full_store_refuses_a_whole_batch()
     {
         store_fixture store;
-        const QString before = whole_content(store.path());
+        const QString before = whole_content(store.outside());
         const int pages = store.outside().number(u"pragma page_count"_s);
         store.connection.Execute(u"pragma max_page_count=%1"_s.arg(pages + 2));
         const auto partners = store.opened(u"select * from partners"_s, lock_type::batch_optimistic);
@@ -273,7 +273,7 @@ private Q_SLOTS:
             partners->Fields(u"name").set(QString(2000, u'x'));
         }
         QVERIFY(failure_of([&] { partners->UpdateBatch(); }) == failure_kind::store_full);
-        QCOMPARE(whole_content(store.path()), before);
+        QCOMPARE(whole_content(store.outside()), before);
         QVERIFY(partners->pending());
         QCOMPARE(partners->RecordCount(), 10);
     }

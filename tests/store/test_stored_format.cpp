@@ -63,6 +63,15 @@ private Q_SLOTS:
             QCOMPARE(lines[i], expected[i]);
         QCOMPARE(lines.size(), expected.size());
     }
+
+    void the_shots_of_a_hole_are_found_by_an_index()
+    {
+        const store_fixture store;
+        const auto plan = store.outside().rows(
+            u"explain query plan select * from Stat_rounds where (date='1') and hole=2 order by shot"_s);
+        QCOMPARE(plan.size(), std::size_t(1));
+        QVERIFY(plan[0].back().toString().contains(u"shots_by_hole"_s));
+    }
 };
 
 QTEST_GUILESS_MAIN(test_stored_format)

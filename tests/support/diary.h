@@ -119,7 +119,8 @@ QStringList statements_of(const blank_round& round);
 
 class diary {
 public:
-    explicit diary(const QString& path) : store(path) {}
+    explicit diary(const store_location& place) : store(place) {}
+    explicit diary(const QString& file) : store(file) {}
     explicit diary(const reader& open_store) : store(open_store) {}
 
     void add(const diary_course& course) const;

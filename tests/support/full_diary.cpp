@@ -54,10 +54,10 @@ const std::vector<diary_course>& courses()
     return all;
 }
 
-void add_reference_data(const QString& store_path)
+void add_reference_data(const store_location& place)
 {
-    Connection1().Open(store_path);
-    const diary book(store_path);
+    Connection1().Open(place);
+    const diary book(place);
     for (const diary_course& course : courses())
         book.add(course);
     for (const partner& one : partners())
@@ -179,11 +179,11 @@ const captions& captions_in(bool french)
 /// Plays and writes one round after the other.
 class diary_writer {
 public:
-    diary_writer(const QSqlDatabase& database, bool detailed)
-        : games_(database, u"games"_s, columns_of_games()),
-          games2_(database, u"games2"_s, columns_of_games2()),
-          cost_(database, u"cost"_s, columns_of_cost()),
-          shots_(database, u"Stat_rounds"_s, columns_of_shots()),
+    diary_writer(const outside_connection& store, bool detailed)
+        : games_(store, u"games"_s, columns_of_games()),
+          games2_(store, u"games2"_s, columns_of_games2()),
+          cost_(store, u"cost"_s, columns_of_cost()),
+          shots_(store, u"Stat_rounds"_s, columns_of_shots()),
           detailed_(detailed)
     {
     }
@@ -278,22 +278,22 @@ QString key_in_diary(int round)
     return QDate(2023, 1, 1).addDays(round).toString(u"yyyyMMdd") + tee_off.toString(u"HHmmss");
 }
 
-void create_diary(const QString& store_path, int rounds, bool detailed)
+void create_diary(const store_location& place, int rounds, bool detailed)
 {
-    add_reference_data(store_path);
-    in_one_transaction(store_path, [&](QSqlDatabase& database) {
-        diary_writer writer(database, detailed);
+    add_reference_data(place);
+    in_one_transaction(place, [&](const outside_connection& store) {
+        diary_writer writer(store, detailed);
         for (int round = 0; round < rounds; ++round)
             writer.add_round(round);
     });
 }
 
-void clear_sixth_putts(const QString& store_path)
+void clear_sixth_putts(const store_location& place)
 {
     QStringList assignments;
     for (int h = 1; h <= holes; ++h)
         assignments << u"putt_len_%1_%2 = 0"_s.arg(h).arg(putts_kept);
-    reader(store_path).write(u"update games2 set " + assignments.join(u", "));
+    reader(place).write(u"update games2 set " + assignments.join(u", "));
 }
 
 }  // namespace verdane::testing

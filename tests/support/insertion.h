@@ -7,16 +7,22 @@ namespace verdane::testing {
 
 using namespace Qt::StringLiterals;
 
+/// A text between single quotes, with the quotes inside it doubled.
+inline QString quoted_text(QString text)
+{
+    return u'\'' + text.replace(u'\'', u"''"_s) + u'\'';
+}
+
 /// An SQL statement `insert into TABLE (...) values (...)`, built column by column.
 class insertion {
 public:
     explicit insertion(const QString& table) : table_(table) {}
 
     /// A null text leaves the column without a value.
-    void text(const QString& column, QString value)
+    void text(const QString& column, const QString& value)
     {
         if (!value.isNull())
-            literal(column, u'\'' + value.replace(u'\'', u"''"_s) + u'\'');
+            literal(column, quoted_text(value));
     }
     void number(const QString& column, int value) { literal(column, QString::number(value)); }
 

@@ -1,9 +1,9 @@
 #include "tests/support/other_program.h"
 
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QUuid>
+#include <QStringList>
+
+#include "tests/support/outside_connection.h"
+#include "tests/support/server_copy.h"
 
 namespace verdane::testing {
 
@@ -11,23 +11,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void run(const QString& connection, const QString& statement)
+/// As a program does that backs up all tables.
+QString lock_of_all_tables(const outside_connection& server, kept_from what)
 {
-    QSqlQuery query(QSqlDatabase::database(connection));
-    if (!query.exec(statement))
-        qFatal("%s: %s", qUtf8Printable(statement), qUtf8Printable(query.lastError().text()));
+    const QString lock = what == kept_from::writing ? u" read"_s : u" write"_s;
+    QStringList tables;
+    for (const QString& table : tables_of(server))
+        tables << u'`' + table + u'`' + lock;
+    return u"lock tables " + tables.join(u", "_s);
+}
+
+QString lock_of_file(kept_from what)
+{
+    return what == kept_from::writing ? u"BEGIN IMMEDIATE"_s : u"BEGIN EXCLUSIVE"_s;
 }
 
 }  // namespace
 
-other_program::other_program(const QString& store_path, const QString& lock)
-    : name_(QUuid::createUuid().toString())
+other_program::other_program(const store_location& store, kept_from what)
+    : connection_(std::make_unique<outside_connection>(store))
 {
-    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name_);
-    database.setDatabaseName(store_path);
-    if (!database.open())
-        qFatal("cannot open %s", qUtf8Printable(store_path));
-    run(name_, lock);
+    connection_->run_unchanged(connection_->is_server() ? lock_of_all_tables(*connection_, what)
+                                                        : lock_of_file(what));
 }
 
 other_program::~other_program()
@@ -37,10 +42,10 @@ other_program::~other_program()
 
 void other_program::release()
 {
-    if (!QSqlDatabase::contains(name_))
+    if (connection_ == nullptr)
         return;
-    run(name_, u"ROLLBACK"_s);
-    QSqlDatabase::removeDatabase(name_);
+    connection_->run_unchanged(connection_->is_server() ? u"unlock tables"_s : u"ROLLBACK"_s);
+    connection_.reset();
 }
 
 }  // namespace verdane::testing

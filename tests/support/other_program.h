@@ -1,16 +1,24 @@
 #pragma once
 
+#include <QSqlDatabase>
 #include <QString>
+
+#include <memory>
+
+#include "store/store_location.h"
 
 namespace verdane::testing {
 
-using namespace Qt::StringLiterals;
+class outside_connection;
 
-/// Locks a store like another program, on a separate connection, from construction to `release`; by default
-/// for writing. To be used in one thread.
+/// What another program keeps Verdane from.
+enum class kept_from { writing, reading_and_writing };
+
+/// Locks a store like another program, on a separate connection, from construction to `release`. To be used
+/// in one thread.
 class other_program {
 public:
-    explicit other_program(const QString& store_path, const QString& lock = u"BEGIN IMMEDIATE"_s);
+    explicit other_program(const store_location& store, kept_from what = kept_from::writing);
     ~other_program();
     other_program(const other_program&) = delete;
     other_program& operator=(const other_program&) = delete;
@@ -18,7 +26,7 @@ public:
     void release();
 
 private:
-    QString name_;
+    std::unique_ptr<outside_connection> connection_;
 };
 
 }  // namespace verdane::testing

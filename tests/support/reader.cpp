@@ -1,14 +1,13 @@
 #include "tests/support/reader.h"
 
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QSqlRecord>
+#include <QDeadlineTimer>
 #include <QStringList>
-#include <QUuid>
+#include <QThread>
 
-#include <functional>
-#include <utility>
+#include <chrono>
+
+#include "tests/support/outside_connection.h"
+#include "tests/support/server_copy.h"
 
 namespace verdane::testing {
 
@@ -16,43 +15,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void with_connection(const QString& path, const std::function<void(QSqlDatabase&)>& work)
+/// The complaints of `check table`, whose answer has the table, the operation, the kind and the text.
+QString damage_on_server(const outside_connection& server)
 {
-    const QString name = QUuid::createUuid().toString();
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
-        database.setDatabaseName(path);
-        database.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=5000"_s);
-        if (!database.open())
-            qFatal("cannot read the store: %s", qUtf8Printable(database.lastError().text()));
-        work(database);
+    QStringList complaints;
+    for (const QString& table : tables_of(server)) {
+        QSqlQuery query = server.run_unchanged(u"check table `%1` extended"_s.arg(table));
+        for (const auto& row : all_rows(query)) {
+            if (row[3] != u"OK"_s)
+                complaints << table + u": " + row[3].toString();
+        }
     }
-    QSqlDatabase::removeDatabase(name);
-}
-
-void run(QSqlQuery& query, const QString& statement)
-{
-    if (!query.exec(statement))
-        qFatal("%s: %s", qUtf8Printable(statement), qUtf8Printable(query.lastError().text()));
+    return complaints.join(u'\n');
 }
 
 }  // namespace
 
-reader::reader(QString path) : path_(std::move(path)) {}
-
 std::vector<std::vector<QVariant>> reader::rows(const QString& statement) const
 {
-    std::vector<std::vector<QVariant>> rows;
-    with_connection(path_, [&](QSqlDatabase& database) {
-        QSqlQuery query(database);
-        run(query, statement);
-        while (query.next()) {
-            auto& row = rows.emplace_back();
-            for (int i = 0; i < query.record().count(); ++i)
-                row.push_back(query.value(i));
-        }
-    });
-    return rows;
+    const outside_connection connection(store_);
+    if (connection.is_server())
+        return rows_of_server(connection, statement);
+    QSqlQuery query = connection.run(statement);
+    return all_rows(query);
 }
 
 QVariant reader::value(const QString& statement) const
@@ -63,6 +48,33 @@ QVariant reader::value(const QString& statement) const
     return all.front().front();
 }
 
+QString reader::damage() const
+{
+    const outside_connection connection(store_);
+    if (connection.is_server())
+        return damage_on_server(connection);
+    const QString verdict = text(u"pragma integrity_check"_s);
+    return verdict == u"ok" ? QString() : verdict;
+}
+
+void reader::wait_until_unused() const
+{
+    const outside_connection connection(store_);
+    if (!connection.is_server())
+        return;
+    const QString others = u"select count(*) from information_schema.processlist where db = database() and "
+                           "id <> connection_id()"_s;
+    QDeadlineTimer limit(std::chrono::seconds(10));
+    while (true) {
+        QSqlQuery query = connection.run_unchanged(others);
+        if (all_rows(query)[0][0].toInt() == 0)
+            return;
+        if (limit.hasExpired())
+            qFatal("the server keeps the connection of a program that has ended");
+        QThread::msleep(5);
+    }
+}
+
 void reader::write(const QString& statement) const
 {
     write(QStringList{statement});
@@ -70,11 +82,9 @@ void reader::write(const QString& statement) const
 
 void reader::write(const QStringList& statements) const
 {
-    with_connection(path_, [&](QSqlDatabase& database) {
-        QSqlQuery query(database);
-        for (const QString& statement : statements)
-            run(query, statement);
-    });
+    const outside_connection connection(store_);
+    for (const QString& statement : statements)
+        connection.run(statement);
 }
 
 }  // namespace verdane::testing

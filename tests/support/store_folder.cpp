@@ -14,7 +14,7 @@ store_folder::store_folder(bool french)
     Main_module::round_keys.clear();
     Main_module::round_key_count = 0;
     Main_module::club_names_kept = true;
-    data_environment().connection.Open(path());
+    data_environment().connection.Open(location());
 }
 
 store_folder::~store_folder()
@@ -25,11 +25,6 @@ store_folder::~store_folder()
         recordset.set_Source(recordset.settings().source);
     }
     data_environment().connection.Close();
-}
-
-QString store_folder::path() const
-{
-    return folder_.filePath(u"verdbase.sqlite"_s);
 }
 
 }  // namespace verdane::testing

@@ -16,6 +16,8 @@ class stored_diary {
 public:
     explicit stored_diary(bool french = true) : folder_(french) {}
 
+    const store_location& location() const { return folder_.location(); }
+    /// The file of a store of the embedded engine.
     QString path() const { return folder_.path(); }
     /// The value of a statement as text; "null" for Null and where there is no row.
     QString text(const QString& statement) const;
@@ -25,7 +27,7 @@ private:
     store_folder folder_;
 
 public:
-    const reader store{folder_.path()};
+    const reader store{folder_.location()};
     const diary book{store};
 };
 

@@ -1,7 +1,6 @@
 #include "tests/support/table_filler.h"
 
-#include <QSqlError>
-#include <QUuid>
+#include "tests/support/insertion.h"
 
 namespace verdane::testing {
 
@@ -9,42 +8,53 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void must(bool done, const QSqlError& error)
+constexpr int rows_of_a_statement = 200;
+
+QString literal(const QVariant& value)
 {
-    if (!done)
-        qFatal("the store cannot be filled: %s", qUtf8Printable(error.text()));
+    if (value.isNull())
+        return u"null"_s;
+    if (value.typeId() == QMetaType::QString)
+        return quoted_text(value.toString());
+    return value.typeId() == QMetaType::Bool ? QString::number(value.toInt()) : value.toString();
 }
 
 }  // namespace
 
-void in_one_transaction(const QString& path, const std::function<void(QSqlDatabase&)>& work)
+void in_one_transaction(const store_location& store,
+                        const std::function<void(const outside_connection&)>& work)
 {
-    const QString name = QUuid::createUuid().toString();
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
-        database.setDatabaseName(path);
-        must(database.open(), database.lastError());
-        must(database.transaction(), database.lastError());
-        work(database);
-        must(database.commit(), database.lastError());
-    }
-    QSqlDatabase::removeDatabase(name);
+    const outside_connection connection(store);
+    connection.run(u"begin"_s);
+    work(connection);
+    connection.run(u"commit"_s);
 }
 
-table_filler::table_filler(const QSqlDatabase& database, const QString& table, const QStringList& columns)
-    : query_(database)
+table_filler::table_filler(const outside_connection& store, const QString& table, const QStringList& columns)
+    : store_(store), insertion_(u"insert into %1 (`%2`) values "_s.arg(table, columns.join(u"`, `"_s)))
 {
-    const QStringList places(columns.size(), u"?"_s);
-    must(query_.prepare(
-             u"insert into %1 (`%2`) values (%3)"_s.arg(table, columns.join(u"`, `"_s), places.join(u','))),
-         query_.lastError());
+}
+
+table_filler::~table_filler()
+{
+    write_rows();
 }
 
 void table_filler::add(const QVariantList& values)
 {
-    for (int i = 0; i < values.size(); ++i)
-        query_.bindValue(i, values.at(i));
-    must(query_.exec(), query_.lastError());
+    QStringList literals;
+    for (const QVariant& value : values)
+        literals << literal(value);
+    rows_ << u'(' + literals.join(u", "_s) + u')';
+    if (rows_.size() == rows_of_a_statement)
+        write_rows();
+}
+
+void table_filler::write_rows()
+{
+    if (!rows_.isEmpty())
+        store_.run_unchanged(insertion_ + rows_.join(u",\n"_s));
+    rows_.clear();
 }
 
 }  // namespace verdane::testing

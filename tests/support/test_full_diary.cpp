@@ -1,10 +1,10 @@
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <set>
 
 #include "tests/support/full_diary.h"
 #include "tests/support/reader.h"
+#include "tests/support/test_store.h"
 
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
@@ -28,7 +28,7 @@ class test_full_diary : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { create_diary(path(), rounds_of_full_diary, true); }
+    void initTestCase() { create_diary(diary_.location(), rounds_of_full_diary, true); }
 
     void a_full_diary_has_366_rounds_in_each_table()
     {
@@ -147,18 +147,18 @@ private Q_SLOTS:
 
     void a_diary_without_shots_has_the_same_figures()
     {
-        const QString quick = folder_.filePath(u"quick.db"_s);
-        create_diary(quick, 20, false);
-        QCOMPARE(reader(quick).number(u"select count(*) from Stat_rounds"_s), 0);
+        const test_store place;
+        create_diary(place.location(), 20, false);
+        const reader quick(place.location());
+        QCOMPARE(quick.number(u"select count(*) from Stat_rounds"_s), 0);
         const QString first = u"select * from games order by date limit 20"_s;
-        QCOMPARE(reader(quick).rows(first), store().rows(first));
+        QCOMPARE(quick.rows(first), store().rows(first));
     }
 
 private:
-    QString path() const { return folder_.filePath(u"diary.db"_s); }
-    reader store() const { return reader(path()); }
+    reader store() const { return reader(diary_.location()); }
 
-    QTemporaryDir folder_;
+    test_store diary_;
 };
 
 QTEST_GUILESS_MAIN(test_full_diary)

@@ -215,7 +215,7 @@ const std::vector<program_window>& every_window()
 void visit_every_window(bool french, const look_at_window& look)
 {
     program_run run(not_chosen);
-    create_diary(run.store_path(), rounds_of_diary, true);
+    create_diary(run.store_place(), rounds_of_diary, true);
     add_widest_texts(run.store());
     run.play_through([&](hand& user) { visit_all(user, french, look); });
 }

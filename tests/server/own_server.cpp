@@ -1,0 +1,75 @@
+#include "tests/server/own_server.h"
+
+#include <QFile>
+#include <QProcess>
+
+#include <csignal>
+
+#include "tests/support/engine_of_tests.h"
+#include "tests/support/outside_connection.h"
+
+namespace verdane::testing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString folder()
+{
+    return qEnvironmentVariable("VERDANE_TEST_FOLDER");
+}
+
+/// The output of the script goes to that of the test: the server does not have it.
+void run_script(const QStringList& arguments)
+{
+    const int status = QProcess::execute(QStringLiteral(VERDANE_TOOLS "/test_server"), arguments);
+    if (status != 0)
+        qFatal("tools/test_server %s ended with %d", qUtf8Printable(arguments.join(u' ')), status);
+}
+
+pid_t process_of_server()
+{
+    QFile file(folder() + u"/server.pid");
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("no %s", qUtf8Printable(file.fileName()));
+    return file.readAll().trimmed().toInt();
+}
+
+}  // namespace
+
+void stop_server()
+{
+    run_script({u"stop"_s, folder()});
+}
+
+void start_server(const QStringList& options)
+{
+    run_script(QStringList{u"start"_s, folder()} + options);
+}
+
+void signal_server(int number)
+{
+    if (::kill(process_of_server(), number) != 0)
+        qFatal("signal %d was not sent to the server", number);
+}
+
+void administer(const QString& statement)
+{
+    outside_connection(store_location::source(administrator_source())).run_unchanged(statement);
+}
+
+QStringList room_for_mb(int megabytes)
+{
+    return {u"--innodb-file-per-table=0"_s,
+            u"--innodb-data-file-path=ibdata1:12M:autoextend:max:%1M"_s.arg(megabytes)};
+}
+
+void fill_server()
+{
+    administer(u"create or replace table mysql.filler (content text) engine=innodb"_s);
+    // Every failure but the one of a full table ends the loop, too, and the test sees it by the row count.
+    administer(u"begin not atomic declare exit handler for 1114 begin end; loop insert into mysql.filler "
+               "values (repeat('x', 60000)); end loop; end"_s);
+}
+
+}  // namespace verdane::testing
