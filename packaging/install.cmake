@@ -1,5 +1,5 @@
-# What an installation contains. The program reads its report templates and their layouts only from its
-# folder, so all are in one folder. The command is a link to the program.
+# What an installation contains. The program reads its report templates, their layouts and the guide only
+# from its folder, so all are in one folder. The command is a link to the program.
 set(verdane_id io.verdane.Verdane)
 set(verdane_home lib/verdane)
 
@@ -11,6 +11,8 @@ install(CODE [[
 
 install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING
   PATTERN "*.rpt" PATTERN "*.layout")
+install(DIRECTORY guide DESTINATION ${verdane_home} FILES_MATCHING
+  PATTERN "*.html" PATTERN "*.css" PATTERN "*.png")
 install(FILES packaging/${verdane_id}.desktop DESTINATION share/applications)
 install(FILES packaging/${verdane_id}.metainfo.xml DESTINATION share/metainfo)
 install(FILES src/shell/art/verdane.svg RENAME ${verdane_id}.svg

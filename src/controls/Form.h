@@ -45,7 +45,7 @@ public:
     /// size of its screen. To be called after all controls are added, and before `Place_and_lock`.
     void take_size(QSize wanted);
 
-    /// The shortcuts of the window; F1 lists them.
+    /// The shortcuts of the window; Ctrl+F1 lists them.
     window_shortcuts& shortcuts() { return *shortcuts_; }
 
     /// Shows the window above the others and returns after it is unloaded. Then the window that was active

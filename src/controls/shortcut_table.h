@@ -4,8 +4,8 @@
 
 #include "base/language.h"
 
-/// Every keyboard shortcut of the program: its keys, and the caption that the list of F1 and the tool tips
-/// show. To change a shortcut, change its line here.
+/// Every keyboard shortcut of the program: its keys, and the caption that the list of Ctrl+F1 and the tool
+/// tips show. To change a shortcut, change its line here.
 ///
 /// Mnemonics ("&Fichier") are part of the captions of menus and buttons. The keys inside a control are
 /// described at its class: `data_grid`, `choice_menu`, `TabStrip`.
@@ -22,7 +22,9 @@ struct shortcut {
 namespace shortcut_table {
 
 // Every window
-inline constexpr shortcut list_of_shortcuts{Qt::Key_F1, {u"Montrer cette liste", u"Show this list"}};
+inline constexpr shortcut open_guide{Qt::Key_F1, {u"Ouvrir le guide", u"Open the guide"}};
+inline constexpr shortcut list_of_shortcuts{Qt::CTRL | Qt::Key_F1,
+                                            {u"Montrer cette liste", u"Show this list"}};
 inline constexpr shortcut cancel{Qt::Key_Escape,
                                  {u"Annuler ou fermer la fenêtre", u"Cancel or close the window"}};
 

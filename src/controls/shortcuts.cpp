@@ -9,6 +9,7 @@
 
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "controls/guide.h"
 #include "controls/leaving.h"
 
 namespace verdane {
@@ -59,10 +60,17 @@ QString tool_tip_of(const shortcut& which, bool french)
 window_shortcuts::window_shortcuts(QWidget& window, bool french)
     : QObject(&window), window_(window), french_(french)
 {
-    // The list changes nothing in the window, so it does not matter whether the box with the focus may be
-    // left.
-    auto* help = new QShortcut(shortcut_table::list_of_shortcuts.keys, &window);
-    connect(help, &QShortcut::activated, this, [this] { run_event([this] { show_list(); }); });
+    // Guide and list change nothing in the window, so it does not matter whether the box with the focus may
+    // be left.
+    listen_always(shortcut_table::open_guide.keys, [this] { open_guide(window_, french_); });
+    listen_always(shortcut_table::list_of_shortcuts.keys, [this] { show_list(); });
+}
+
+void window_shortcuts::listen_always(QKeyCombination keys, std::function<void()> routine)
+{
+    auto* listener = new QShortcut(keys, &window_);
+    listener->setAutoRepeat(false);
+    connect(listener, &QShortcut::activated, this, [routine = std::move(routine)] { run_event(routine); });
 }
 
 void window_shortcuts::listen(QKeyCombination keys, QWidget& place, std::function<void()> routine)
@@ -103,7 +111,8 @@ QStringList window_shortcuts::lines() const
         lines << line_of(which, french_);
     lines << line_of(text_pair{u"Alt+lettre soulignée", u"Alt+underlined letter"}.in(french_),
                      {u"Choisir le menu, le bouton ou la zone", u"Choose the menu, button or box"}, french_);
-    lines << line_of(shortcut_table::list_of_shortcuts, french_);
+    lines << line_of(shortcut_table::open_guide, french_)
+          << line_of(shortcut_table::list_of_shortcuts, french_);
     return lines;
 }
 

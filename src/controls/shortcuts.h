@@ -19,8 +19,8 @@ QString key_text(QKeyCombination keys, bool french);
 /// The tool tip of a shortcut: "Coup suivant (Ctrl+N)".
 QString tool_tip_of(const shortcut& which, bool french);
 
-/// The shortcuts of one window. F1 lists them in a message box, in the language of the window. Keys that are
-/// held down act once.
+/// The shortcuts of one window. F1 opens the guide at the page of the window, Ctrl+F1 lists the shortcuts in
+/// a message box, both in the language of the window. Keys that are held down act once.
 class window_shortcuts : public QObject {
 public:
     /// Is deleted with the window.
@@ -39,11 +39,12 @@ public:
 
     void set_language(bool french) { french_ = french; }
 
-    /// The list of F1: one line for each shortcut, in the order in which they were added, then the lines of
-    /// every window.
+    /// The list of Ctrl+F1: one line for each shortcut, in the order in which they were added, then the lines
+    /// of every window.
     QStringList lines() const;
 
 private:
+    void listen_always(QKeyCombination keys, std::function<void()> routine);
     void listen(QKeyCombination keys, QWidget& place, std::function<void()> routine);
     void show_list() const;
 

@@ -49,7 +49,7 @@ public:
 
 }  // namespace
 
-// The panes are made in the order in which F1 lists their keys.
+// The panes are made in the order in which Ctrl+F1 lists their keys.
 f_new_round::f_new_round(shot_rows& shots)
     : Form(u"f_new_round"),
       shots_(shots),

@@ -143,7 +143,7 @@ private Q_SLOTS:
         QCOMPARE(window.clicks, 0);
     }
 
-    void a_box_that_refuses_to_be_left_stops_shortcuts_but_not_F1()
+    void a_box_that_refuses_to_be_left_stops_shortcuts_but_not_their_list()
     {
         trial window;
         window.may_leave = false;
@@ -151,7 +151,7 @@ private Q_SLOTS:
             user.key(Qt::Key_N, Qt::ControlModifier);
             user.key(Qt::Key_PageDown);
             user.look([&] { QCOMPARE(window.questions, 2); });
-            user.key(Qt::Key_F1);
+            user.key(Qt::Key_F1, Qt::ControlModifier);
             user.answer(list_of(window));
         });
         QCOMPARE(window.questions, 2);
@@ -169,8 +169,8 @@ private Q_SLOTS:
                                                     u"Next hole (Page Down)\nPrevious hole (Page Up)"));
     }
 
-    void f1_lists_the_shortcuts_in_the_language_of_the_window_data() { both_languages(); }
-    void f1_lists_the_shortcuts_in_the_language_of_the_window()
+    void ctrl_f1_lists_the_shortcuts_in_the_language_of_the_window_data() { both_languages(); }
+    void ctrl_f1_lists_the_shortcuts_in_the_language_of_the_window()
     {
         QFETCH(bool, french);
         is_french = french;
@@ -182,29 +182,31 @@ private Q_SLOTS:
                                        "Page préc. : Trou précédent\n"
                                        "Entrée : Ouvrir\n"
                                        "Alt+lettre soulignée : Choisir le menu, le bouton ou la zone\n"
-                                       "F1 : Montrer cette liste"_s
+                                       "F1 : Ouvrir le guide\n"
+                                       "Ctrl+F1 : Montrer cette liste"_s
                                      : u"Esc: Cancel or close the window\n"
                                        "Ctrl+N: Next shot\n"
                                        "Page Down: Next hole\n"
                                        "Page Up: Previous hole\n"
                                        "Enter: Open\n"
                                        "Alt+underlined letter: Choose the menu, button or box\n"
-                                       "F1: Show this list"_s;
+                                       "F1: Open the guide\n"
+                                       "Ctrl+F1: Show this list"_s;
         in_trial(window, [&](hand& user) {
-            user.key(Qt::Key_F1);
+            user.key(Qt::Key_F1, Qt::ControlModifier);
             user.answer({lines, QMessageBox::NoIcon,
                          french ? u"Raccourcis clavier"_s : u"Keyboard shortcuts"_s, QMessageBox::Ok});
             user.same(user.focus(), u"box"_s, u"focus"_s);
         });
     }
 
-    void f1_does_nothing_in_a_message_box()
+    void ctrl_f1_does_nothing_in_a_message_box()
     {
         trial window;
         in_trial(window, [&](hand& user) {
-            user.key(Qt::Key_F1);
+            user.key(Qt::Key_F1, Qt::ControlModifier);
             user.wait_for_window(u"message_box"_s);
-            user.key(Qt::Key_F1);
+            user.key(Qt::Key_F1, Qt::ControlModifier);
             user.answer(list_of(window));
             user.check(!user.is_open(u"message_box"_s), u"there was one list"_s);
         });

@@ -1,8 +1,10 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTest>
+#include <QUrl>
 
 #include "base/language.h"
+#include "controls/guide.h"
 #include "controls/TabStrip.h"
 #include "records/Main_module.h"
 #include "round/f_new_round.h"
@@ -236,7 +238,7 @@ private Q_SLOTS:
             user.wait_for_window(round_window());
             user.same(hole_on_screen(user), 1, u"hole under the costs"_s);
             user.same(user.selected(page_tabs), 0, u"page under the costs"_s);
-            user.key(Qt::Key_F1);
+            user.key(Qt::Key_F1, Qt::ControlModifier);
             user.wait_for_window(u"message_box"_s);
             user.key(Qt::Key_PageDown);
             user.key(Qt::Key_Return);
@@ -254,6 +256,30 @@ private Q_SLOTS:
             enter_shot(user, 0, 1, u"60"_s, 1);
             user.click_cell(details, 0, 3);
             user.type(u"45"_s);
+            user.key(Qt::Key_PageDown);
+            user.same(hole_on_screen(user), 2, u"hole"_s);
+            open_quick_page(user);
+            accept(user);
+        });
+        QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
+    }
+
+    void the_guide_leaves_a_distance_that_is_being_typed()
+    {
+        const golfer_store round;
+        QList<QUrl> opened;
+        guide().open = [&](const QUrl& page) {
+            opened << page;
+            return true;
+        };
+        in_keyed_round([&](hand& user) {
+            open_detailed_page(user);
+            enter_shot(user, 0, 1, u"60"_s, 1);
+            user.click_cell(details, 0, 3);
+            user.type(u"4"_s);
+            user.key(Qt::Key_F1);
+            user.wait_until(u"the page of the guide"_s, [&] { return !opened.isEmpty(); });
+            user.type(u"5"_s);
             user.key(Qt::Key_PageDown);
             user.same(hole_on_screen(user), 2, u"hole"_s);
             open_quick_page(user);
@@ -298,7 +324,7 @@ private Q_SLOTS:
         });
     }
 
-    void F1_does_nothing_while_a_list_is_open()
+    void ctrl_f1_does_nothing_while_a_list_is_open()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -307,9 +333,9 @@ private Q_SLOTS:
             user.look([] {
                 QWidget* popup = QApplication::activePopupWidget();
                 QWidget* focused = popup->focusWidget();
-                QTest::keyClick(focused ? focused : popup, Qt::Key_F1);
+                QTest::keyClick(focused ? focused : popup, Qt::Key_F1, Qt::ControlModifier);
             });
-            user.check(!user.is_open(u"message_box"_s), u"no list of F1"_s);
+            user.check(!user.is_open(u"message_box"_s), u"no list of shortcuts"_s);
             user.menu_key(Qt::Key_Escape);
             discard(user);
         });

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The lines of the list of F1 that only this window has.
+/// The lines of the list of Ctrl+F1 that only this window has.
 QStringList own_lines(const QString& family)
 {
     if (family == u"report_preview")
@@ -51,7 +51,8 @@ QStringList own_lines(const QString& family)
 /// The lines that every window has.
 QStringList common_lines(const QString& family)
 {
-    QStringList lines{in_language(u"F1 : Montrer cette liste", u"F1: Show this list")};
+    QStringList lines{in_language(u"F1 : Ouvrir le guide", u"F1: Open the guide"),
+                      in_language(u"Ctrl+F1 : Montrer cette liste", u"Ctrl+F1: Show this list")};
     if (family != u"MainForm" && family != u"report_preview")
         lines << in_language(u"Échap : Annuler ou fermer la fenêtre", u"Esc: Cancel or close the window");
     return lines;
@@ -112,13 +113,13 @@ QStringList shared_mnemonics(const QWidget& window)
     return shared;
 }
 
-/// Presses F1, closes the list of shortcuts and returns the faults of the list.
-QStringList faults_of_f1(hand& user, const program_window& window)
+/// Presses Ctrl+F1, closes the list of shortcuts and returns the faults of the list.
+QStringList faults_of_list(hand& user, const program_window& window)
 {
     const QString name = window.name(is_french);
     const QString title = in_language(u"Raccourcis clavier", u"Keyboard shortcuts");
     user.look([&] { visible_window(name)->activateWindow(); });
-    user.key(Qt::Key_F1);
+    user.key(Qt::Key_F1, Qt::ControlModifier);
     user.wait_for_window(u"message_box"_s);
     QString lines;
     user.look([&] { lines = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget()).text(); });
@@ -209,14 +210,14 @@ private Q_SLOTS:
                         tool_tips_.add(window, french, faults_of_tool_tips(seen));
                 });
                 if (has_shortcuts(window))
-                    f1_.add(window, french, faults_of_f1(user, window));
+                    list_.add(window, french, faults_of_list(user, window));
                 if (has_cancel_button(window))
                     escape_.add(window, french, faults_of_escape(user, window));
             });
     }
 
-    void f1_lists_the_shortcuts_of_the_window_data() { every_window_in_both_languages(has_shortcuts); }
-    void f1_lists_the_shortcuts_of_the_window() { f1_.verify_nothing_found(); }
+    void ctrl_f1_lists_the_shortcuts_of_the_window_data() { every_window_in_both_languages(has_shortcuts); }
+    void ctrl_f1_lists_the_shortcuts_of_the_window() { list_.verify_nothing_found(); }
 
     void tool_tips_in_the_round_window_name_the_keys_data()
     {
@@ -231,7 +232,7 @@ private Q_SLOTS:
     void escape_clicks_the_cancel_button() { escape_.verify_nothing_found(); }
 
 private:
-    window_findings f1_;
+    window_findings list_;
     window_findings tool_tips_;
     window_findings shared_mnemonics_;
     window_findings escape_;
