@@ -27,10 +27,6 @@ constexpr int idle_time_out_s = 2'147'483;
 /// The tables have names in small letters if the server ignores case.
 constexpr QStringView case_setting = u"select @@lower_case_table_names";
 
-constexpr QStringView columns_of_tables =
-    u"select table_name, column_name, column_key from information_schema.columns "
-    u"where table_schema = database() order by table_name, ordinal_position";
-
 }  // namespace
 
 bool mariadb_engine::open(soundness_check)
@@ -39,12 +35,12 @@ bool mariadb_engine::open(soundness_check)
     check_server();
     take_lock();
     read_tables();
-    const tables_found which = check_tables(found_);
+    const tables_found which = check_tables(tables_.columns());
     if (which == tables_found::all)
         check_writable();
     // Each statement that creates a table is committed by itself, so an earlier start may have been ended in
     // between.
-    if (which == tables_found::some && (!are_first_tables(found_) || holds_rows()))
+    if (which == tables_found::some && (!are_first_tables(tables_.columns()) || holds_rows()))
         refuse_incomplete();
     return which == tables_found::all;
 }
@@ -52,7 +48,7 @@ bool mariadb_engine::open(soundness_check)
 void mariadb_engine::refuse_incomplete() const
 {
     throw run_time_failure(failure_kind::source_table,
-                           u"%1: %2"_s.arg(where_.name, missing_tables(found_).join(u", "_s)));
+                           u"%1: %2"_s.arg(where_.name, missing_tables(tables_.columns()).join(u", "_s)));
 }
 
 void mariadb_engine::set_session() const
@@ -85,28 +81,17 @@ void mariadb_engine::read_tables()
 {
     QSqlQuery query(database());
     query.setForwardOnly(true);
-    const QString question = columns_of_tables.toString();
-    if (!query.exec(question))
-        throw failure(query.lastError(), question);
-    found_.clear();
-    identified_.clear();
-    keyed_.clear();
-    while (query.next()) {
-        const QString table = query.value(0).toString().toLower();
-        const QString column = query.value(1).toString();
-        if (column == row_column())
-            identified_ << table;
-        else
-            found_[table] << column;
-        if (query.value(2).toString() == u"PRI")
-            keyed_ << table;
-    }
+    if (!query.exec(mariadb_tables::question()))
+        throw failure(query.lastError(), mariadb_tables::question());
+    tables_ = mariadb_tables(query);
+    if (query.lastError().isValid())
+        throw failure(query.lastError(), mariadb_tables::question());
 }
 
 bool mariadb_engine::holds_rows() const
 {
     const auto has_rows = [this](const table& declared) {
-        return declared.fixed_rows == 0 && found_.contains(declared.name.toLower()) &&
+        return declared.fixed_rows == 0 && tables_.contains(declared.name) &&
                first_value(u"select count(*) from `" + declared.name + u'`') != u"0";
     };
     return std::any_of(schema().begin(), schema().end(), has_rows);
@@ -120,33 +105,24 @@ void mariadb_engine::check_writable() const
 
 bool mariadb_engine::was_created_before(QStringView table) const
 {
-    return found_.contains(table.toString().toLower());
+    return tables_.contains(table);
 }
 
 void mariadb_engine::tables_created()
 {
     read_tables();
-    if (check_tables(found_) != tables_found::all)
+    if (check_tables(tables_.columns()) != tables_found::all)
         refuse_incomplete();
 }
 
 QString mariadb_engine::identity_script() const
 {
-    QString script;
-    for (const table& declared : schema()) {
-        const QString name = declared.name.toLower();
-        if (identified_.contains(name))
-            continue;
-        // A table has one primary key. A column with a counter needs a key.
-        script += u"ALTER TABLE `%1` ADD COLUMN %2 BIGINT AUTO_INCREMENT %3 INVISIBLE;\n"_s.arg(
-            declared.name, row_column(), keyed_.contains(name) ? u"UNIQUE"_s : u"PRIMARY KEY"_s);
-    }
-    return script;
+    return tables_.row_column_script();
 }
 
 QString mariadb_engine::identity_column(QStringView table) const
 {
-    return identified_.contains(table.toString().toLower()) ? row_column() : QString();
+    return tables_.has_row_column(table) ? mariadb_tables::row_column() : QString();
 }
 
 QString mariadb_engine::select_with_identity(const QString& statement, const select_statement& shape,
@@ -169,7 +145,7 @@ void mariadb_engine::add_comparison(statement_with_values& statement, const QStr
 
 qint64 mariadb_engine::insert(const statement_with_values& statement, const QString& where)
 {
-    const QString text = statement.text + u" RETURNING " + row_column();
+    const QString text = statement.text + u" RETURNING " + mariadb_tables::row_column();
     QSqlQuery query(database());
     query.setForwardOnly(true);
     if (!query.exec(text) || !query.next())
@@ -186,11 +162,7 @@ const commit_statements& mariadb_engine::commits() const
 
 QString mariadb_engine::table_ending(const table& declared) const
 {
-    QString index;
-    if (!declared.index_name.isEmpty())
-        index = u", INDEX `%1` (`%2`)"_s.arg(declared.index_name, declared.indexed_columns.join(u"`, `"_s));
-    return u", %1 BIGINT AUTO_INCREMENT PRIMARY KEY INVISIBLE%2) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 "
-           u"COLLATE=utf8mb4_nopad_bin"_s.arg(row_column(), index);
+    return mariadb_tables::ending(declared);
 }
 
 run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& where) const

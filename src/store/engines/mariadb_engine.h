@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QSet>
-
+#include "store/engines/mariadb_tables.h"
 #include "store/engines/odbc_engine.h"
-#include "store/engines/source_tables.h"
 
 namespace verdane {
 
@@ -11,9 +9,6 @@ namespace verdane {
 /// that were made without it are identified by all their values.
 class mariadb_engine : public odbc_engine {
 public:
-    /// The column that identifies a row.
-    static QString row_column() { return QStringLiteral("verdane_row"); }
-
     using odbc_engine::odbc_engine;
 
     /// Fails with `store_locked`, `source_case`, `source_database`, `source_table`, `source_column`,
@@ -47,11 +42,7 @@ private:
     bool holds_rows() const;
     void check_writable() const;
 
-    /// The tables of the database and their columns, without the one that identifies a row.
-    source_tables found_;
-    /// The tables with that column, and those with a primary key, in small letters.
-    QSet<QString> identified_;
-    QSet<QString> keyed_;
+    mariadb_tables tables_;
 };
 
 }  // namespace verdane

@@ -1,6 +1,10 @@
 #include "store/engines/mariadb_errors.h"
 
+#include <QRegularExpression>
+
 namespace verdane {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -10,7 +14,6 @@ constexpr int error_on_write = 3;
 constexpr int disk_full = 1021;
 constexpr int error_writing_file = 1026;
 constexpr int storage_error = 1030;
-constexpr int too_many_connections = 1040;
 constexpr int database_denied = 1044;
 constexpr int account_denied = 1045;
 constexpr int no_database_selected = 1046;
@@ -18,7 +21,6 @@ constexpr int unknown_database = 1049;
 constexpr int server_shutdown = 1053;
 constexpr int unknown_column = 1054;
 constexpr int table_full = 1114;
-constexpr int host_blocked = 1129;
 constexpr int host_not_allowed = 1130;
 constexpr int table_denied = 1142;
 constexpr int column_denied = 1143;
@@ -33,9 +35,6 @@ constexpr int read_only_mode = 1836;
 constexpr int connection_killed = 1927;
 constexpr int account_locked = 4151;
 constexpr int password_expired = 1862;
-constexpr int socket_refused = 2002;
-constexpr int host_refused = 2003;
-constexpr int unknown_host = 2005;
 constexpr int server_gone = 2006;
 constexpr int server_lost = 2013;
 constexpr int server_lost_extended = 2055;
@@ -46,8 +45,9 @@ constexpr int connection_error = 5014;
 /// 122 that the quota is used up.
 bool names_full_disk(const QString& text)
 {
-    return text.contains(u"28 ") || text.contains(u"Errcode: 28") || text.contains(u"No space left") ||
-           text.contains(u"122");
+    static const QRegularExpression full(u"\\b(error|errcode:) (28|122)\\b"_s,
+                                         QRegularExpression::CaseInsensitiveOption);
+    return full.match(text).hasMatch();
 }
 
 }  // namespace
@@ -64,19 +64,13 @@ failure_kind kind_of_mariadb_opening(int number)
     case code::database_denied:
     case code::unknown_database:
         return failure_kind::source_database;
-    case code::socket_refused:
-    case code::host_refused:
-    case code::unknown_host:
-    case code::too_many_connections:
-    case code::host_blocked:
-        return failure_kind::source_stopped;
     case code::server_gone:
     case code::server_lost:
     case code::server_lost_extended:
     case code::connection_error:
         return failure_kind::source_silent;
     default:
-        return failure_kind::store_unreachable;
+        return failure_kind::source_stopped;
     }
 }
 

@@ -5,7 +5,7 @@
 /// The meaning of the error numbers of MariaDB and of its driver.
 namespace verdane {
 
-/// Of an error while the connection is opened.
+/// Of an error while the connection is opened. Any unknown one means that no server accepts it.
 failure_kind kind_of_mariadb_opening(int code);
 
 /// Of an error of a statement. `text` is empty after the connection was lost.

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first value of a question; empty if the engine does not understand it.
+/// The first value of a query; empty if the engine does not know its function.
 QString first_value_or_none(const QString& connection, const QString& question)
 {
     QSqlQuery query(QSqlDatabase::database(connection, false));
@@ -51,15 +51,28 @@ QString odbc_engine::as_sent(const QString& statement) const
         [this](const QString& part) { return in_dialect(part); });
 }
 
+source_kind kind_of_source(const QString& server, const QString& sqlite)
+{
+    if (server.contains(u"MariaDB", Qt::CaseInsensitive))
+        return source_kind::mariadb;
+    return server.isEmpty() && !sqlite.isEmpty() ? source_kind::sqlite : source_kind::unsupported;
+}
+
 std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where)
 {
     sqlite_odbc_engine::check_before_opening(where.name);
     open_link(name, where.name);
     const QString server = first_value_or_none(name, u"select version()"_s);
-    if (server.contains(u"MariaDB", Qt::CaseInsensitive))
+    const QString sqlite =
+        server.isEmpty() ? first_value_or_none(name, u"select sqlite_version()"_s) : QString();
+    switch (kind_of_source(server, sqlite)) {
+    case source_kind::mariadb:
         return std::make_unique<mariadb_engine>(name, where);
-    if (server.isEmpty() && !first_value_or_none(name, u"select sqlite_version()"_s).isEmpty())
+    case source_kind::sqlite:
         return std::make_unique<sqlite_odbc_engine>(name, where);
+    case source_kind::unsupported:
+        break;
+    }
     QSqlDatabase::database(name, false).close();
     QSqlDatabase::removeDatabase(name);
     throw run_time_failure(failure_kind::source_engine, u"%1: %2"_s.arg(where.name, server));

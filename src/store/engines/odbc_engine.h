@@ -24,6 +24,12 @@ protected:
     QString literal(const QVariant& value) const;
 };
 
+enum class source_kind { mariadb, sqlite, unsupported };
+
+/// Which engine a source belongs to. `server` is the value of `version()`, `sqlite` that of
+/// `sqlite_version()`; empty if the source does not know the function.
+source_kind kind_of_source(const QString& server, const QString& sqlite);
+
 /// Opens a registered source and returns the engine for it, which is then still to be opened itself. Fails
 /// like `open_link`, like `check_store_files` for a file, and with `source_engine` if the source belongs to
 /// another engine.

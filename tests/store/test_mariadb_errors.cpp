@@ -1,0 +1,90 @@
+#include <QTest>
+
+#include "store/engines/mariadb_errors.h"
+#include "store/engines/odbc_engine.h"
+
+using namespace verdane;
+using namespace Qt::StringLiterals;
+
+/// What the errors and the version of a source mean.
+class test_mariadb_errors : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void an_error_of_a_statement_has_its_meaning_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<failure_kind>("kind");
+        const auto row = [](const char* name, int code, failure_kind kind, const QString& text = u"text"_s) {
+            QTest::newRow(name) << code << text << kind;
+        };
+        row("no error after a lost connection", 0, failure_kind::source_lost, QString());
+        row("server gone", 2006, failure_kind::source_lost);
+        row("server lost", 2013, failure_kind::source_lost);
+        row("broken pipe", 5014, failure_kind::source_lost);
+        row("connection killed", 1927, failure_kind::source_lost);
+        row("server shut down", 1053, failure_kind::source_lost);
+        row("lock not free in time", 1205, failure_kind::store_locked);
+        row("deadlock", 1213, failure_kind::store_locked);
+        row("right on a table missing", 1142, failure_kind::source_read_only);
+        row("read-only server", 1290, failure_kind::source_read_only);
+        row("missing table", 1146, failure_kind::missing_table);
+        row("missing column", 1054, failure_kind::missing_table);
+        row("full table", 1114, failure_kind::source_full);
+        row("full disk", 1026, failure_kind::source_full, u"Error writing file (Errcode: 28 ...)"_s);
+        row("other error on a file", 1026, failure_kind::store_other,
+            u"Error writing file (Errcode: 5 ...)"_s);
+        row("another number with the same digits", 1026, failure_kind::store_other, u"(Errcode: 128 ...)"_s);
+        row("full disk of the storage engine", 1030, failure_kind::source_full,
+            u"Got error 28 \"No space left on device\" from storage engine"_s);
+        row("value too long", 1406, failure_kind::store_other);
+    }
+    void an_error_of_a_statement_has_its_meaning()
+    {
+        QFETCH(int, code);
+        QFETCH(QString, text);
+        QTEST(kind_of_mariadb_error(code, text), "kind");
+    }
+
+    void an_error_of_opening_has_its_meaning_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<failure_kind>("kind");
+        QTest::newRow("wrong password") << 1045 << failure_kind::source_password;
+        QTest::newRow("host not allowed") << 1130 << failure_kind::source_password;
+        QTest::newRow("database denied") << 1044 << failure_kind::source_database;
+        QTest::newRow("unknown database") << 1049 << failure_kind::source_database;
+        QTest::newRow("no socket") << 2002 << failure_kind::source_stopped;
+        QTest::newRow("unknown host") << 2005 << failure_kind::source_stopped;
+        QTest::newRow("too many connections") << 1040 << failure_kind::source_stopped;
+        QTest::newRow("no answer in time") << 2013 << failure_kind::source_silent;
+    }
+    void an_error_of_opening_has_its_meaning()
+    {
+        QFETCH(int, code);
+        QTEST(kind_of_mariadb_opening(code), "kind");
+    }
+
+    void a_source_of_an_unknown_engine_is_unsupported_data()
+    {
+        QTest::addColumn<QString>("server");
+        QTest::addColumn<QString>("sqlite");
+        QTest::addColumn<source_kind>("kind");
+        QTest::newRow("MariaDB") << u"10.11.6-MariaDB-0+deb12u1"_s << QString() << source_kind::mariadb;
+        QTest::newRow("SQLite") << QString() << u"3.40.1"_s << source_kind::sqlite;
+        QTest::newRow("MySQL") << u"8.0.33"_s << QString() << source_kind::unsupported;
+        QTest::newRow("PostgreSQL") << u"PostgreSQL 15.4 on x86_64"_s << QString()
+                                    << source_kind::unsupported;
+        QTest::newRow("neither function") << QString() << QString() << source_kind::unsupported;
+    }
+    void a_source_of_an_unknown_engine_is_unsupported()
+    {
+        QFETCH(QString, server);
+        QFETCH(QString, sqlite);
+        QTEST(kind_of_source(server, sqlite), "kind");
+    }
+};
+
+QTEST_GUILESS_MAIN(test_mariadb_errors)
+#include "test_mariadb_errors.moc"
