@@ -1,0 +1,199 @@
+#include <QTest>
+
+#include "store/Connection1.h"
+#include "store/Recordset.h"
+#include "store/schema.h"
+#include "tests/server/own_server.h"
+#include "tests/support/engine_of_tests.h"
+#include "tests/support/failures.h"
+#include "tests/support/reader.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A new database on the server and the connection of the program to it.
+struct source {
+    store_location place = new_program_store();
+    Connection1 connection;
+
+    QString database() const { return file_of(place); }
+    reader outside() const { return reader(place); }
+    void open() { connection.Open(place); }
+    void reopen()
+    {
+        connection.Close();
+        open();
+    }
+    /// Runs a statement as the administrator, in which %1 is the database.
+    void change(const QString& statement) const { administer(statement.arg(database())); }
+};
+
+void remove_row_columns(const source& from)
+{
+    for (const table& each : schema())
+        administer(u"alter table %1.%2 drop column verdane_row"_s.arg(from.database(), each.name));
+}
+
+recordset_settings partners_settings(lock_type lock = lock_type::optimistic)
+{
+    recordset_settings settings;
+    settings.name = u"rspartners"_s;
+    settings.source = u"select * from partners order by name"_s;
+    settings.lock = lock;
+    return settings;
+}
+
+void add_partner(Recordset& partners, const QString& name, const QVariant& code)
+{
+    partners.AddNew();
+    partners.Fields(u"NAME").set(name);
+    partners.Fields(u"code").set(code);
+    partners.Update();
+}
+
+QString stored_partners(const source& from)
+{
+    QStringList rows;
+    for (const auto& row : from.outside().rows(u"select NAME, code, TEL from partners order by 1, 2, 3"_s))
+        rows << row[0].toString() + u':' + row[1].toString() + u':' +
+                    (row[2].isNull() ? u"null"_s : row[2].toString());
+    return rows.join(u' ');
+}
+
+}  // namespace
+
+/// Databases that someone else has made, or that have content of others.
+class test_foreign_source : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tables_of_other_applications_are_ignored_and_kept()
+    {
+        source other;
+        other.change(u"create table %1.invoices (number int)"_s);
+        other.change(u"insert into %1.invoices values (7)"_s);
+        other.open();
+        other.reopen();
+        QCOMPARE(other.outside().number(u"select number from invoices"_s), 7);
+        QCOMPARE(other.outside().number(u"select language from settings"_s), 0);
+        QCOMPARE(other.connection.identity_script(), QString());
+    }
+
+    void an_interrupted_creation_of_the_tables_is_completed()
+    {
+        source halved;
+        halved.open();
+        halved.connection.Close();
+        bool dropped = false;
+        for (const table& each : schema()) {
+            if (dropped)
+                administer(u"drop table %1.%2"_s.arg(halved.database(), each.name));
+            dropped = dropped || each.name == u"sticknames";
+        }
+        halved.change(u"delete from %1.sticknames"_s);
+        halved.open();
+        for (const table& each : schema())
+            QCOMPARE(halved.outside().number(u"select count(*) from "_s + each.name), each.fixed_rows);
+    }
+
+    void missing_tables_beside_stored_rows_are_refused()
+    {
+        source damaged;
+        damaged.open();
+        damaged.connection.Execute(u"insert into games (date) values ('20260614093000')"_s);
+        damaged.connection.Close();
+        for (const table& each : schema()) {
+            if (each.name != u"games")
+                administer(u"drop table %1.%2"_s.arg(damaged.database(), each.name));
+        }
+        QVERIFY(failure_of([&] { damaged.open(); }) == failure_kind::source_table);
+        QCOMPARE(damaged.outside().number(u"select count(*) from games"_s), 1);
+    }
+
+    void rows_without_the_identity_column_are_found_by_all_their_values()
+    {
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.reopen();
+        Recordset partners(bare.connection, partners_settings());
+        partners.Open();
+        add_partner(partners, u"b"_s, 1);
+        add_partner(partners, u"B "_s, 1);
+        add_partner(partners, u"b"_s, QVariant());
+        partners.Fields(u"TEL").set(u"l'é\\"_s);
+        partners.Update();
+        QCOMPARE(stored_partners(bare), u"B :1:null b::l'é\\ b:1:null"_s);
+        partners.Fields(u"TEL").set(QVariant());
+        partners.Update();
+        partners.Requery();
+        partners.Find(u"NAME='b'"_s);
+        partners.Delete();
+        QCOMPARE(stored_partners(bare).count(u':'), 4);
+    }
+
+    void one_of_two_equal_rows_is_changed()
+    {
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.reopen();
+        Recordset partners(bare.connection, partners_settings(lock_type::batch_optimistic));
+        partners.Open();
+        add_partner(partners, u"a"_s, 1);
+        add_partner(partners, u"a"_s, 1);
+        partners.UpdateBatch();
+        partners.MoveFirst();
+        partners.Fields(u"code").set(2);
+        partners.UpdateBatch();
+        QCOMPARE(stored_partners(bare), u"a:1:null a:2:null"_s);
+        partners.MoveFirst();
+        partners.Delete();
+        partners.UpdateBatch();
+        QCOMPARE(stored_partners(bare), u"a:1:null"_s);
+    }
+
+    void a_row_that_someone_changed_meanwhile_is_not_overwritten()
+    {
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.reopen();
+        Recordset partners(bare.connection, partners_settings());
+        partners.Open();
+        add_partner(partners, u"a"_s, 1);
+        bare.change(u"update %1.partners set code = 5"_s);
+        partners.Fields(u"TEL").set(u"1"_s);
+        QVERIFY(failure_of([&] { partners.Update(); }) == failure_kind::misuse);
+        QCOMPARE(stored_partners(bare), u"a:5:null"_s);
+    }
+
+    void the_script_adds_the_identity_column_to_the_tables_that_lack_it()
+    {
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.change(u"alter table %1.partners modify code smallint primary key"_s);
+        bare.reopen();
+        const QString script = bare.connection.identity_script();
+        QCOMPARE(script.count(u"ALTER TABLE"), static_cast<qsizetype>(schema().size()));
+        bare.connection.Close();
+        for (const QString& statement : script.split(u";\n"_s, Qt::SkipEmptyParts))
+            administer(QString(statement).replace(u"TABLE `"_s, u"TABLE `" + bare.database() + u"`.`"));
+        bare.open();
+        QCOMPARE(bare.connection.identity_script(), QString());
+        Recordset partners(bare.connection, partners_settings());
+        partners.Open();
+        QCOMPARE(partners.field_count(), static_cast<int>(find_table(u"partners")->columns.size()));
+        add_partner(partners, u"a"_s, 1);
+        partners.Fields(u"TEL").set(u"1"_s);
+        partners.Update();
+        QCOMPARE(stored_partners(bare), u"a:1:1"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_foreign_source)
+#include "test_foreign_source.moc"

@@ -1,0 +1,278 @@
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMap>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+#include "base/failure_words.h"
+#include "base/language.h"
+#include "shell/start_up.h"
+#include "store/Connection1.h"
+#include "store/engines/registered_source.h"
+#include "tests/server/own_server.h"
+#include "tests/shell/main_windows.h"
+#include "tests/shell/program_run.h"
+#include "tests/support/engine_of_tests.h"
+#include "tests/support/failures.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The time in which the program reports that a server does not answer: 3 s, and what its start takes.
+constexpr int longest_ms = 12000;
+
+const QString program_source = u"Verdbase"_s;
+
+using source_settings = QMap<QString, QString>;
+
+/// The settings of the source that works.
+source_settings good_settings()
+{
+    source_settings settings;
+    for (const QString& key : {u"Driver"_s, u"SOCKET"_s, u"DATABASE"_s, u"UID"_s, u"PWD"_s})
+        settings[key] = setting_of_source(program_source, key);
+    return settings;
+}
+
+/// The child process: starts the program, prints the failure if there is one, and quits.
+int start_and_leave()
+{
+    int status = -1;
+    play([&] { status = run_verdane(*qApp); },
+         [](hand& user) {
+             user.wait_until(u"a window"_s, [] { return QApplication::activeWindow() != nullptr; });
+             if (user.is_open(u"failure_box"_s)) {
+                 std::printf("failure: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)));
+                 std::fflush(stdout);
+                 user.key(Qt::Key_Return);
+                 return;
+             }
+             quit(user);
+         });
+    return status;
+}
+
+/// The child process: keeps the store open until it is killed.
+int hold_store()
+{
+    Connection1 connection;
+    connection.Open();
+    std::printf("open\n");
+    std::fflush(stdout);
+    return std::getchar();
+}
+
+struct ended {
+    int status;
+    QString said;
+};
+
+/// Starts the program with those settings of its source.
+ended child_start(const source_settings& settings)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"odbc.ini"_s));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write %s", qUtf8Printable(file.fileName()));
+    file.write("[Verdbase]\n");
+    for (auto setting = settings.begin(); setting != settings.end(); ++setting)
+        file.write(QString(setting.key() + u'=' + setting.value() + u'\n').toUtf8());
+    file.close();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"ODBCINI"_s, file.fileName());
+    QProcess child;
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    child.start(QCoreApplication::applicationFilePath(), {u"--start"_s});
+    if (!child.waitForFinished(120000))
+        child.kill();
+    return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
+            QString::fromUtf8(child.readAllStandardOutput())};
+}
+
+const auto nothing = [] {};
+
+void restart_server(const QStringList& options = {})
+{
+    stop_server();
+    start_server(options);
+}
+
+void alter(const QString& change)
+{
+    administer(u"alter table %1.%2"_s.arg(file_of(program_run::store_place()), change));
+}
+
+void add_account_that_reads()
+{
+    administer(u"create or replace user viewer@localhost identified by 'fairway'"_s);
+    administer(u"grant select on `verdbase%`.* to viewer@localhost"_s);
+}
+
+/// Why the source cannot be used, and how that is undone.
+struct refusal {
+    const char* name;
+    failure_kind kind;
+    source_settings changed;
+    std::function<void()> prepare;
+    std::function<void()> undo;
+};
+
+const std::vector<refusal>& refusals()
+{
+    static const std::vector<refusal> all{
+        {"no driver",
+         failure_kind::source_driver,
+         {{u"Driver"_s, u"/nowhere/libnone.so"_s}},
+         nothing,
+         nothing},
+        {"driver not installed", failure_kind::source_driver, {{u"Driver"_s, u"None"_s}}, nothing, nothing},
+        {"wrong password", failure_kind::source_password, {{u"PWD"_s, u"bunker"_s}}, nothing, nothing},
+        {"unknown account", failure_kind::source_password, {{u"UID"_s, u"caddie"_s}}, nothing, nothing},
+        {"database of others",
+         failure_kind::source_database,
+         {{u"DATABASE"_s, u"mysql"_s}},
+         nothing,
+         nothing},
+        {"no database", failure_kind::source_database, {{u"DATABASE"_s, u""_s}}, nothing, nothing},
+        {"server stopped", failure_kind::source_stopped, {}, [] { stop_server(); }, [] { start_server(); }},
+        {"server frozen",
+         failure_kind::source_silent,
+         {},
+         [] { signal_server(SIGSTOP); },
+         [] { signal_server(SIGCONT); }},
+        {"account that only reads",
+         failure_kind::source_read_only,
+         {{u"UID"_s, u"viewer"_s}},
+         add_account_that_reads,
+         nothing},
+        {"server that only reads",
+         failure_kind::source_read_only,
+         {},
+         [] { administer(u"set global read_only = 1"_s); },
+         [] { administer(u"set global read_only = 0"_s); }},
+        {"case of table names",
+         failure_kind::source_case,
+         {},
+         [] { restart_server({u"--lower-case-table-names=0"_s}); },
+         [] { restart_server(); }},
+        {"missing table",
+         failure_kind::source_table,
+         {},
+         [] { alter(u"partners rename to %1.elsewhere"_s.arg(file_of(program_run::store_place()))); },
+         nothing},
+        {"missing column",
+         failure_kind::source_column,
+         {},
+         [] { alter(u"games drop column missed_18"_s); },
+         nothing},
+        {"renamed column",
+         failure_kind::source_column,
+         {},
+         [] { alter(u"games rename column field to course"_s); },
+         nothing},
+        {"moved column",
+         failure_kind::source_column,
+         {},
+         [] { alter(u"games modify column CODEF text after missed_18"_s); },
+         nothing},
+    };
+    return all;
+}
+
+}  // namespace
+
+/// Starts of the program on a registered source that it cannot use, each in a separate process.
+class test_server_refusals : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_source_that_cannot_be_used_is_reported_in_both_languages_data()
+    {
+        QTest::addColumn<int>("index");
+        for (std::size_t i = 0; i < refusals().size(); ++i)
+            QTest::newRow(refusals()[i].name) << static_cast<int>(i);
+    }
+
+    void a_source_that_cannot_be_used_is_reported_in_both_languages()
+    {
+        QFETCH(int, index);
+        const refusal& what = refusals()[static_cast<std::size_t>(index)];
+        const program_run run(2, one_course() + one_round());
+        source_settings settings = good_settings();
+        for (auto setting = what.changed.begin(); setting != what.changed.end(); ++setting)
+            settings[setting.key()] = setting.value();
+        what.prepare();
+        QElapsedTimer time;
+        time.start();
+        const ended child = child_start(settings);
+        const qint64 took = time.elapsed();
+        what.undo();
+        const text_pair words = failure_words(what.kind);
+        QVERIFY2(child.said.contains(words.french) && child.said.contains(words.english),
+                 qPrintable(child.said));
+        QCOMPARE(child.status, 1);
+        QVERIFY2(took < longest_ms, qPrintable(QString::number(took)));
+        QCOMPARE(run.store().number(u"select count(*) from games"_s), 1);
+        QVERIFY(!QFile::exists(Connection1::default_path()));
+    }
+
+    void a_usable_source_is_opened()
+    {
+        const program_run run(2);
+        const ended child = child_start(good_settings());
+        QCOMPARE(child.said, QString());
+        QCOMPARE(child.status, 0);
+        QVERIFY(!QFile::exists(Connection1::default_path()));
+    }
+
+    void a_source_that_another_program_uses_is_refused_until_that_is_killed()
+    {
+        const program_run run(2);
+        QProcess other;
+        other.start(QCoreApplication::applicationFilePath(), {u"--hold"_s});
+        while (!other.canReadLine())
+            QVERIFY(other.waitForReadyRead(60000));
+        const ended refused = child_start(good_settings());
+        const text_pair words = failure_words(failure_kind::store_locked);
+        QVERIFY2(refused.said.contains(words.french) && refused.said.contains(words.english),
+                 qPrintable(refused.said));
+        QCOMPARE(refused.status, 1);
+        other.kill();
+        QVERIFY(other.waitForFinished());
+        QCOMPARE(child_start(good_settings()).status, 0);
+    }
+
+    void a_source_that_is_not_registered_is_unknown()
+    {
+        Connection1 connection;
+        QVERIFY(failure_of([&] { connection.Open(store_location::source(u"nowhere"_s)); }) ==
+                failure_kind::source_unknown);
+        QVERIFY(!connection.is_open());
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    prepare_application(application);
+    const QString way = application.arguments().value(1);
+    if (way == u"--start")
+        return start_and_leave();
+    if (way == u"--hold")
+        return hold_store();
+    test_server_refusals test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "test_server_refusals.moc"
