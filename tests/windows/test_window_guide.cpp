@@ -83,7 +83,7 @@ class test_window_guide : public QObject {
             return faults << path;
         const QString place = target_of(read_page(is_french_page, path.sliced(folder.size())));
         if (place != expected_place(window.view))
-            faults << place;
+            return faults << path + u" leads to "_s + place;
         if (!read_page(is_french_page, place.section(u'#', 0, 0)).has_anchor(place.section(u'#', 1)))
             faults << u"no anchor "_s + place;
         return faults;
