@@ -1,0 +1,161 @@
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "store/Connection1.h"
+#include "store/engines/registered_source.h"
+#include "tests/support/failures.h"
+#include "tests/support/reader.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A name that was not used before: the installer library keeps the settings that it has read for a while.
+QString next_name()
+{
+    static int last = 0;
+    return u"diary_%1"_s.arg(++last);
+}
+
+void write_file(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+QByteArray content_of(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A source of SQLite with its file in a temporary folder.
+class sqlite_source {
+public:
+    explicit sqlite_source(bool names_file = true)
+    {
+        const QString driver = setting_of_source(u"Verdbase"_s, u"Driver"_s);
+        const QString database = names_file ? u"Database=" + path() + u'\n' : QString();
+        write_file(folder_.filePath(u"odbc.ini"_s),
+                   QString(u'[' + name_ + u"]\nDriver=" + driver + u'\n' + database).toUtf8());
+        qputenv("ODBCINI", QFile::encodeName(folder_.filePath(u"odbc.ini"_s)));
+    }
+    ~sqlite_source() { qputenv("ODBCINI", ini_before_); }
+    sqlite_source(const sqlite_source&) = delete;
+    sqlite_source& operator=(const sqlite_source&) = delete;
+
+    QString path() const { return folder_.filePath(u"Verdbase.db"_s); }
+    reader file() const { return reader(store_location::file(path())); }
+    void open() { connection.Open(store_location::source(name_)); }
+    void reopen()
+    {
+        connection.Close();
+        open();
+    }
+
+private:
+    const QString name_ = next_name();
+    QTemporaryDir folder_;
+    const QByteArray ini_before_ = qgetenv("ODBCINI");
+
+public:
+    // Declared after the folder, so that it is closed before the folder is removed.
+    Connection1 connection;
+};
+
+}  // namespace
+
+/// SQLite over ODBC: what it refuses, and what it leaves unchanged.
+class test_sqlite_source : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_new_file_is_created_with_its_tables()
+    {
+        sqlite_source source;
+        source.open();
+        QCOMPARE(source.file().number(u"select language from settings"_s), 0);
+        QCOMPARE(source.file().text(u"PRAGMA journal_mode"_s), u"wal"_s);
+        source.reopen();
+        QCOMPARE(source.connection.identity_script(), QString());
+    }
+
+    void a_log_without_its_file_is_refused_and_kept()
+    {
+        sqlite_source source;
+        const QByteArray log(4096, 'x');
+        for (const bool empty_file : {false, true}) {
+            write_file(source.path() + u"-wal", log);
+            if (empty_file)
+                write_file(source.path(), {});
+            QVERIFY(failure_of([&] { source.open(); }) == failure_kind::store_damaged);
+            QCOMPARE(content_of(source.path() + u"-wal"), log);
+        }
+    }
+
+    void a_file_of_another_kind_is_refused_and_kept()
+    {
+        sqlite_source source;
+        const QByteArray letter(5000, 'x');
+        write_file(source.path(), letter);
+        QVERIFY(failure_of([&] { source.open(); }) == failure_kind::store_damaged);
+        QCOMPARE(content_of(source.path()), letter);
+    }
+
+    void a_source_that_names_no_file_is_refused()
+    {
+        sqlite_source source(false);
+        QVERIFY(failure_of([&] { source.open(); }) == failure_kind::source_database);
+    }
+
+    void a_file_that_the_embedded_engine_has_open_is_refused_and_the_other_way_round()
+    {
+        sqlite_source source;
+        Connection1 embedded;
+        embedded.Open(source.path());
+        QVERIFY(failure_of([&] { source.open(); }) == failure_kind::store_locked);
+        embedded.Close();
+        source.open();
+        QVERIFY(failure_of([&] { embedded.Open(source.path()); }) == failure_kind::store_locked);
+    }
+
+    void missing_tables_and_columns_are_refused_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<failure_kind>("kind");
+        QTest::newRow("missing table") << u"drop table partners"_s << failure_kind::source_table;
+        QTest::newRow("missing column")
+            << u"alter table games drop column missed_18"_s << failure_kind::source_column;
+        QTest::newRow("renamed column")
+            << u"alter table games rename column field to course"_s << failure_kind::source_column;
+    }
+    void missing_tables_and_columns_are_refused()
+    {
+        QFETCH(QString, change);
+        QFETCH(failure_kind, kind);
+        sqlite_source source;
+        source.open();
+        source.connection.Close();
+        source.file().write(change);
+        QVERIFY(failure_of([&] { source.open(); }) == kind);
+        QVERIFY(!source.connection.is_open());
+    }
+
+    void tables_of_other_applications_are_ignored_and_kept()
+    {
+        sqlite_source source;
+        source.file().write(
+            QStringList{u"create table invoices (number int)"_s, u"insert into invoices values (7)"_s});
+        source.open();
+        source.reopen();
+        QCOMPARE(source.file().number(u"select number from invoices"_s), 7);
+        QCOMPARE(source.file().number(u"select count(*) from settings"_s), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_sqlite_source)
+#include "test_sqlite_source.moc"
