@@ -35,6 +35,13 @@ pid_t process_of_server()
     return file.readAll().trimmed().toInt();
 }
 
+/// 1114: the table is full.
+void insert_until_full(const QString& rows)
+{
+    administer(u"begin not atomic declare exit handler for 1114 begin end; loop insert into %1; end loop; "
+               "end"_s.arg(rows));
+}
+
 }  // namespace
 
 void stop_server()
@@ -60,16 +67,26 @@ void administer(const QString& statement)
 
 QStringList room_for_mb(int megabytes)
 {
-    return {u"--innodb-file-per-table=0"_s,
+    return {u"--innodb-file-per-table=0"_s, u"--innodb-autoextend-increment=4"_s,
             u"--innodb-data-file-path=ibdata1:12M:autoextend:max:%1M"_s.arg(megabytes)};
 }
 
-void fill_server()
+void fill_server(const QString& database, const QString& table)
 {
-    administer(u"create or replace table mysql.filler (content text) engine=innodb"_s);
-    // Every failure but the one of a full table ends the loop, too, and the test sees it by the row count.
-    administer(u"begin not atomic declare exit handler for 1114 begin end; loop insert into mysql.filler "
-               "values (repeat('x', 60000)); end loop; end"_s);
+    administer(u"create table mysql.filler (content text) engine=innodb"_s);
+    // Large rows first, then rows that fit into the space that is left.
+    for (const int size : {60000, 6000, 100})
+        insert_until_full(u"mysql.filler values (repeat('x', %1))"_s.arg(size));
+    insert_until_full(u"%1.%2 (date) values ('')"_s.arg(database, table));
+}
+
+void empty_server(const QString& database, const QString& table)
+{
+    stop_server();
+    start_server({u"--innodb-file-per-table=0"_s});
+    administer(u"drop table mysql.filler"_s);
+    administer(u"delete from %1.%2 where date = ''"_s.arg(database, table));
+    stop_server();
 }
 
 }  // namespace verdane::testing

@@ -18,10 +18,14 @@ void signal_server(int number);
 /// Runs a statement as its administrator.
 void administer(const QString& statement);
 
-/// Options of a server that cannot store more than that number of megabytes.
+/// Options of a server that can store at most that number of megabytes in the tables made since it has them.
 QStringList room_for_mb(int megabytes);
 
-/// Fills the rest of that room.
-void fill_server();
+/// Fills the rest of that room, and the pages of a table of a database with rows without a key: the next row
+/// of the table needs another page. Rows of pages that are not full can still be changed.
+void fill_server(const QString& database, const QString& table);
+
+/// Removes those rows, for which the server needs more room, and stops the server.
+void empty_server(const QString& database, const QString& table);
 
 }  // namespace verdane::testing

@@ -9,6 +9,7 @@
 
 #include "base/language.h"
 #include "shell/start_up.h"
+#include "store/schema.h"
 #include "tests/server/own_server.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/engine_of_tests.h"
@@ -26,8 +27,6 @@ constexpr int not_reached = 77;
 constexpr int longest_ms = 60000;
 
 const QString hole_tabs = u"TabStrip1"_s;
-const QString figures_of_first_hole = u"12345678123"_s;
-const QString figures_of_second_hole = u"22222222222"_s;
 
 /// Prints a line and waits until the test answers with one.
 void report_and_wait(const char* word)
@@ -47,20 +46,33 @@ void open_the_round(hand& user)
     user.wait_for_window(in_language(u"f_new_round", u"f_new_round_en"));
 }
 
-/// The child process: leaves one hole; after the test has harmed the server, it leaves another one and
-/// expects the message box of the failure.
+/// The figures with which a hole is left: every digit is the same.
+QString figures_of(int hole)
+{
+    return QString(11, QChar(u'0' + 1 + hole % 9));
+}
+
+/// Types the figures of a hole and selects the next one, which stores them.
+void leave_hole(hand& user, int hole)
+{
+    user.type(figures_of(hole));
+    user.click_tab(hole_tabs, hole + 1);
+}
+
+/// The child process: leaves one hole. After the test has harmed the server it leaves another one, or selects
+/// the detailed page, which adds a row, and expects the message box of the failure.
 int fail_in_a_round(failure_kind kind)
 {
     play([] { run_verdane(*qApp); },
          [kind](hand& user) {
              open_the_round(user);
-             user.type(figures_of_first_hole);
-             user.click_tab(hole_tabs, 2);
+             leave_hole(user, 1);
              report_and_wait("left");
-             user.type(figures_of_second_hole);
-             user.click_tab(hole_tabs, 3);
-             user.answer(
-                 {failure_words(kind).in(is_french), QMessageBox::Critical, u"Verdane"_s, QMessageBox::Ok});
+             if (kind == failure_kind::source_full)
+                 user.click_tab(u"TabStrip2"_s, 2);
+             else
+                 leave_hole(user, 2);
+             user.answer(failure_box(kind));
          });
     return not_reached;
 }
@@ -76,22 +88,26 @@ QString stored_figures(const reader& store, int hole)
     return store.text(u"select " + columns.join(u" || ") + u" from games join games2 using (date)");
 }
 
-/// Of the tables, because a change to the rights on a database has no effect on open connections.
-void grant_on_tables(const QString& rights, const QString& verb)
+/// Grants or revokes rights on each table, because open connections keep their rights on a whole database.
+void change_rights(const QString& statement)
 {
-    const reader store(program_run::store_place());
     const QString database = file_of(program_run::store_place());
-    for (const auto& row : store.rows(u"select name from sqlite_master"_s))
-        administer(verb.arg(rights, database, row[0].toString()));
+    for (const table& each : schema())
+        administer(statement.arg(database, each.name));
 }
 
-void restrict_account()
+void grant_rights_by_table()
 {
+    change_rights(u"grant select, insert, update, delete on %1.%2 to golfer@localhost"_s);
     administer(u"revoke all on `verdbase%`.* from golfer@localhost"_s);
-    grant_on_tables(u"select, insert, update, delete"_s, u"grant %1 on %2.%3 to golfer@localhost"_s);
 }
 
-void restore_account()
+void revoke_right_to_write()
+{
+    change_rights(u"revoke insert, update, delete on %1.%2 from golfer@localhost"_s);
+}
+
+void restore_rights()
 {
     administer(u"grant all on `verdbase%`.* to golfer@localhost"_s);
 }
@@ -107,27 +123,27 @@ struct harm {
 
 const auto nothing = [] {};
 
+void start_with_little_room()
+{
+    start_server(room_for_mb(64));
+}
+
 const std::vector<harm>& harms()
 {
     static const std::vector<harm> all{
-        {"stopped", failure_kind::source_lost, nothing, [] { stop_server(); }, [] { start_server(); }},
+        {"stopped", failure_kind::source_lost, nothing, stop_server, start_with_little_room},
         {"killed", failure_kind::source_lost, nothing, [] { signal_server(SIGKILL); },
-         [] { start_server(); }},
+         start_with_little_room},
         {"frozen", failure_kind::source_lost, nothing, [] { signal_server(SIGSTOP); },
          [] { signal_server(SIGCONT); }},
-        {"full", failure_kind::source_full,
+        {"full", failure_kind::source_full, nothing,
+         [] { fill_server(file_of(program_run::store_place()), u"Stat_rounds"_s); },
          [] {
-             stop_server();
-             start_server(room_for_mb(64));
-         },
-         [] { fill_server(); },
-         [] {
-             stop_server();
-             start_server();
+             empty_server(file_of(program_run::store_place()), u"Stat_rounds"_s);
+             start_with_little_room();
          }},
-        {"without the right to write", failure_kind::source_read_only, [] { restrict_account(); },
-         [] { grant_on_tables(u"insert, update, delete"_s, u"revoke %1 on %2.%3 from golfer@localhost"_s); },
-         [] { restore_account(); }},
+        {"without the right to write", failure_kind::source_read_only, grant_rights_by_table,
+         revoke_right_to_write, restore_rights},
     };
     return all;
 }
@@ -139,6 +155,12 @@ class test_server_failures : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        stop_server();
+        start_with_little_room();
+    }
+
     void a_failure_is_reported_in_bounded_time_and_what_was_committed_is_still_stored_data()
     {
         QTest::addColumn<int>("index");
@@ -158,7 +180,6 @@ private Q_SLOTS:
         const program_run run(french ? 1 : 2, one_course() + one_round());
         what.prepare();
         QProcess child;
-        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         child.start(QCoreApplication::applicationFilePath(),
                     {u"--child"_s, QString::number(static_cast<int>(what.kind))});
         while (!child.canReadLine())
@@ -174,10 +195,13 @@ private Q_SLOTS:
         what.undo();
         QVERIFY(ended);
         QVERIFY2(took < longest_ms, qPrintable(QString::number(took)));
+        const QByteArray output = child.readAllStandardError();
+        QVERIFY2(!output.contains("FAIL!"), output.constData());
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 1);
-        QCOMPARE(stored_figures(run.store(), 1), figures_of_first_hole);
+        QCOMPARE(stored_figures(run.store(), 1), figures_of(1));
         QCOMPARE(stored_figures(run.store(), 2), QString(11, u'0'));
+        QCOMPARE(run.store().number(u"select count(*) from Stat_rounds"_s), 0);
         QCOMPARE(broken_invariants(run.store()), QStringList());
         QCOMPARE(run.store().damage(), QString());
     }
