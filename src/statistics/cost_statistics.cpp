@@ -10,8 +10,6 @@
 
 namespace verdane::Statistics {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int step_of_a_round = 3;
@@ -117,7 +115,8 @@ bool fill_r_cost(const selection_arguments& chosen, run_progress& bar)
         bar.hide();
         return false;
     }
-    data_environment().rscost.set_Source(u"select * from cost"_s);
+    Recordset& cost = data_environment().rscost;
+    cost.set_Source(cost.settings().source);
     bar.move_to(100);
     bar.hide();
     return true;

@@ -11,8 +11,6 @@
 
 namespace verdane::f_date_range_func {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 void stop_without_rounds(f_date_range& window)
@@ -91,7 +89,8 @@ void close_form(f_date_range& window)
 void unload()
 {
     // Cost statistics without a result leave a statement in force whose rows are read-only.
-    data_environment().rscost.set_Source(u"select * from cost"_s);
+    Recordset& cost = data_environment().rscost;
+    cost.set_Source(cost.settings().source);
     Unlock_menu();
 }
 
