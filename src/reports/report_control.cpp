@@ -46,7 +46,7 @@ std::shared_ptr<const report_document> document_or_stopped(const QString& path, 
 void report_control::Action(int value)
 {
     if (value != run_now)
-        throw run_time_failure(failure_kind::misuse, u"a report control knows no action %1"_s.arg(value));
+        throw run_time_failure(failure_kind::misuse, u"a report control has no action %1"_s.arg(value));
     preview_.clear();
     const auto document = document_or_stopped(path_of_platform(report_file_name_), window_title_);
     if (document == nullptr)

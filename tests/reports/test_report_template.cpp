@@ -83,7 +83,7 @@ private Q_SLOTS:
         add("missing column in double quotes",
             plain_head + u"query bad =\n\n# a remark\n    select number,\n  \"nothing\" from "
                          u"rounds\n"_s,
-            QString(), u"try.rpt:9: query bad: \"nothing\" is quoted"_s);
+            QString(), u"try.rpt:9: query bad: \"nothing\" is quoted and is no heading after as"_s);
         add("double quotes on the first line", u"query bad = select \"course_text\" from stats"_s, QString(),
             u"try.rpt:1: query bad: \"course_text\" is quoted"_s);
         add("double quotes in an order", u"query bad =\n    select 1 as \"Line\"\n    order by \"Line\""_s,
@@ -100,7 +100,7 @@ private Q_SLOTS:
         add("no query", u"page = A4 portrait"_s, QString(), u"try.rpt:1: the head names no query"_s);
         add("unknown setting", u"\npaper = A4"_s, QString(), u"try.rpt:2: unknown setting paper"_s);
         add("no setting", u"A4"_s, QString(), u"try.rpt:1: not a setting"_s);
-        add("continuation of nothing", u"  A4"_s, QString(), u"try.rpt:1: nothing to go on with"_s);
+        add("continuation of nothing", u"  A4"_s, QString(), u"try.rpt:1: no setting to continue:   A4"_s);
         add("unknown paper", u"page = B5 portrait"_s, QString(), u"try.rpt:1: page is A4"_s);
         add("three margins", u"margins = 1 2 3"_s, QString(), u"try.rpt:1: margins are four numbers"_s);
         add("margin that is no number", u"margins = 1 2 3 wide"_s, QString(),
@@ -108,7 +108,7 @@ private Q_SLOTS:
         add("font without size", u"font = Sans"_s, QString(), u"try.rpt:1: font is a size"_s);
         add("csv of no query", plain_head + u"csv = other\n"_s, QString(), u"try.rpt:5: no query other"_s);
         add("csv of an inner query", plain_head + u"csv = inner\n"_s, QString(),
-            u"try.rpt:4: query inner takes values from around it"_s);
+            u"try.rpt:4: query inner takes values from around it and cannot run alone"_s);
         add("csv separator", u"csv_separator = tab"_s, QString(), u"try.rpt:1: csv_separator is"_s);
         add("footer field", plain_head + u"footer = {{sheet}}\n"_s, QString(),
             u"try.rpt:5: no field sheet in a footer"_s);

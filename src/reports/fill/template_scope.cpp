@@ -18,7 +18,7 @@ void template_scope::check_csv() const
         fail_template(source_.at(source_.csv_line), u"no query %1"_s.arg(source_.csv_query));
     if (!report_snapshot::parameters_of(*query).isEmpty())
         fail_template(source_.at(query->line),
-                      u"query %1 takes values from around it and cannot stand alone"_s.arg(query->name));
+                      u"query %1 takes values from around it and cannot run alone"_s.arg(query->name));
 }
 
 void template_scope::check(const std::vector<template_node>& nodes) const

@@ -30,7 +30,7 @@ void add_line(std::vector<head_setting>& settings, const QString& text, const te
     } else if (!continues_setting(text)) {
         settings.push_back(start_of_setting(text, place));
     } else if (settings.empty()) {
-        fail_template(place, u"nothing to go on with: %1"_s.arg(text));
+        fail_template(place, u"no setting to continue: %1"_s.arg(text));
     } else {
         settings.back().value += u'\n' + text;
     }

@@ -121,7 +121,7 @@ void check_quoted_names(const head_setting& setting)
     template_place place = setting.place;
     place.line += static_cast<int>(QStringView(setting.value).first(*stray).count(u'\n'));
     const QString name = setting.value.sliced(*stray).section(u'"', 0, 1) + u'"';
-    fail_template(place, u"query %1: %2 is quoted and no heading behind as; SQL takes it for a text"_s.arg(
+    fail_template(place, u"query %1: %2 is quoted and is no heading after as; SQL reads it as a text"_s.arg(
                              setting.name, name));
 }
 
