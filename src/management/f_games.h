@@ -14,8 +14,8 @@ namespace verdane {
 /// rounds.
 ///
 /// The constructor loads it: `rsgames` and `rsfield_info` are opened and stay open, because a round that is
-/// opened from here uses them. The window of that round unloads the list and closes both; a list that the
-/// user closes closes them itself. If no round is stored, a message box reports that and `show_modal`
+/// opened from here uses them. The window of that round unloads the list and closes both. If the user
+/// closes the list, the list closes them. If no round is stored, a message box reports that and `show_modal`
 /// returns at once.
 class f_games final : public Form {
 public:

@@ -4,8 +4,8 @@
 
 namespace verdane {
 
-/// The drop-down list of courses. The text of an entry is the course's name, padded so far that the tee after
-/// it is outside of the closed box; the open list shows name and tee side by side.
+/// The drop-down list of courses. An entry has the course's name, blanks and the tee. The blanks are so many
+/// that the closed box does not show the tee; the open list shows name and tee without them.
 class course_box : public QComboBox {
 public:
     explicit course_box(QWidget* parent = nullptr);

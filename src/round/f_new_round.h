@@ -27,9 +27,9 @@ class totals_pane;
 /// arranges the panes and connects their events with the routines of `f_new_round_func`.
 ///
 /// An open round has no copy in memory: its rows are the current rows of `rsgames`, `rsgames2` and `rscost`,
-/// and the boxes show one hole. They reach the rows when the hole is left or the round is saved.
+/// and the boxes show one hole. Their figures are written when the hole is left or the round is saved.
 /// `round_opening.h` opens the window on a new or a stored round. The constructor loads it; `rsgames`,
-/// `rsgames2`, `rscost`, `rsvrd_fields` and `rsfield_info` are open before. Closing it closes them.
+/// `rsgames2`, `rscost`, `rsvrd_fields` and `rsfield_info` are open before, and are closed with it.
 class f_new_round : public Form {
 public:
     /// Indexes of the buttons OK and Cancel.

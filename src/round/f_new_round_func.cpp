@@ -105,7 +105,7 @@ void load(f_new_round& window)
     window.detailed().show_finish_button(false);
     window.holes().show_number(1);
     size_and_place(window);
-    // `load_stored_round` shows the message about a missing row in `games2`.
+    // `open_stored_round` shows the message about a missing row in `games2`.
     if (!round_record::has_row_in_games2())
         return;
     window.holes().fill_list();

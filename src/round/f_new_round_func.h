@@ -16,7 +16,7 @@ void load(f_new_round& window);
 /// leaves no rows. Focuses the page otherwise.
 void activate(f_new_round& window);
 
-/// Closes the recordsets of the round. Continues whatever fails.
+/// Closes the recordsets of the round. A failure of one step does not prevent the others.
 void unload(f_new_round& window);
 
 /// Opens the twelve amounts of the round. The total that their window showed last stays on screen.

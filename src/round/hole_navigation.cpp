@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The tabs, the number and what is visible on the last hole only follow the list.
+/// Shows the listed hole in the tabs and as the number, and what is visible on the last hole only.
 void follow_list(f_new_round& window)
 {
     const int hole = plain(window.holes().listed_hole());
@@ -29,8 +29,8 @@ void follow_list(f_new_round& window)
     window.detailed().show_finish_button(hole == hole_count);
 }
 
-/// The result of the first check is not used, only that of the second one in `drop_blank_shot`: a blank first
-/// shot is reported, removed, and the hole changes; an incomplete later shot is reported twice.
+/// Checks twice and uses only the second result, that of `drop_blank_shot`. A blank first shot is reported
+/// and removed, and the hole changes. An incomplete later shot is reported twice.
 bool may_leave_shots(f_new_round& window)
 {
     detailed_page& shots = window.detailed();
@@ -142,8 +142,8 @@ void open_shots_of_hole(f_new_round& window)
 {
     if (!window.detailed().finish_typing())
         return;
-    // A window that was to be closed from the detailed page does not show its shots again, also after the
-    // question was answered by Cancel: a blank one among them would keep it open.
+    // Once the window was to be closed from the detailed page, it does not show its shots again, even if the
+    // user chose Cancel then: a blank shot would prevent the next closing.
     if (window.closingoK())
         return;
     if (window.on_detailed_page() || window.date_value().isEmpty()) {

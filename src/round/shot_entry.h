@@ -70,8 +70,8 @@ public:
     /// the current row of `rsgames2`, which is not committed. Nothing happens when the hole is not loaded.
     std::optional<hole_summary> summarise_hole();
 
-    /// The names of the fourteen clubs as stored. Names that the golf bag did not store are in force until
-    /// the program ends all the same.
+    /// The names of the fourteen clubs. Names that were typed into the golf bag are used until the program
+    /// ends, even if the user chose not to store them.
     static QStringList club_names();
 
 private:

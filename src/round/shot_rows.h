@@ -23,8 +23,8 @@ public:
 
     /// Opens the shots of a hole (1 to 18) of a round. Fails as `Recordset::Open` does.
     void open_hole(const QString& key, int16 hole);
-    /// Commits and closes what is open, then opens the shots of another hole. Every step is tried whatever
-    /// happened to the one before. If the shots cannot be opened, the recordset is closed afterwards.
+    /// Commits and closes what is open, then opens the shots of another hole. Each step is executed even
+    /// if the one before it failed. If the shots cannot be opened, the recordset is closed afterwards.
     void change_hole(const QString& key, int16 hole);
     /// Opens the recordset again on the same statement. Pending changes are dropped.
     void reopen();

@@ -24,7 +24,7 @@ private:
     template <typename Selectors>
     QGridLayout* make_column(const Form& window, const Selectors& selectors);
 
-    /// By the index that `panel_selectors` names.
+    /// By the index `class_box::box`.
     control_array<QLineEdit> class_boxes_{u"text"};
 };
 

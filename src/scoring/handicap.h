@@ -7,8 +7,8 @@
 /// The handicap of a player: the mean of the best score differentials (`round_totals.h`), times 0.96.
 namespace verdane {
 
-/// The ladder: how many of the best differentials count for a number of rounds. 0 below five rounds, 10 from
-/// twenty rounds on.
+/// The handicap ladder: how many of the best differentials count, by the number of rounds. 0 below five
+/// rounds, 10 from twenty rounds on.
 int16 handicap_take(int16 rounds);
 
 /// The handicap for the sum of the `take` best differentials, as text: their mean, times 0.96 if there is

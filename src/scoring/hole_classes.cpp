@@ -114,7 +114,7 @@ int summary_selector(int place)
 {
     if (place < 1 || place > class_count)
         throw run_time_failure(failure_kind::subscript, u"class %1 of %2"_s.arg(place).arg(class_count));
-    // The greens hit come right after the pars; every other class is in the row of its number.
+    // The greens hit are in rows 2 to 5. The row of every other class is its number.
     constexpr int first_green_hit = 2;
     constexpr int last_green_hit = 5;
     if (place >= first_green_hit && place <= last_green_hit)

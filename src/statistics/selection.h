@@ -6,8 +6,8 @@
 namespace verdane {
 
 /// The arguments of a statistic: the selected rounds, and the texts for the heading of its report. Each
-/// filter is there both as a clause and as a plain value, because the statistics read some tables with SQL
-/// and walk others row by row.
+/// filter is there both as a clause and as a plain value, because the statistics select some rows with SQL
+/// and test others one by one.
 struct selection_arguments {
     /// Keys of the first and the last round, inclusive.
     QString from_key;
