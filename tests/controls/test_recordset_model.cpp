@@ -47,7 +47,7 @@ class test_recordset_model : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void it_shows_rows_captions_and_texts_of_yes_and_no()
+    void a_bound_model_shows_rows_captions_and_texts_of_yes_and_no()
     {
         const bound_shots shots;
         QCOMPARE(shots.model.rowCount(), 3);

@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(hole_cell(21, 4, boxes), u"1"_s);
     }
 
-    void a_fresh_hole_counts_nothing()
+    void a_hole_without_strokes_has_no_gross_and_no_class()
     {
         QCOMPARE(plain(hole_gross(1, from_row)), 0);
         QCOMPARE(plain(hole_penalties(1, from_row)), 0);
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { round_score(from_row); }) == failure_kind::overflow);
     }
 
-    void scoring_changes_no_row()
+    void computing_the_score_changes_no_row()
     {
         round_score(from_row);
         hole_cell(1, 1, from_row);

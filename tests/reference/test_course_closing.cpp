@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_before);
     }
 
-    void an_untouched_editor_asks_too()
+    void closing_an_untouched_editor_shows_the_question()
     {
         const course_store store;
         add_three_courses(store);
@@ -176,8 +176,11 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_before);
     }
 
-    void Escape_asks_before_it_discards_the_figures_of_eighteen_holes_data() { both_languages(); }
-    void Escape_asks_before_it_discards_the_figures_of_eighteen_holes()
+    void Escape_shows_the_question_before_it_discards_the_figures_of_eighteen_holes_data()
+    {
+        both_languages();
+    }
+    void Escape_shows_the_question_before_it_discards_the_figures_of_eighteen_holes()
     {
         QFETCH(bool, french);
         const course_store store(french);
@@ -198,7 +201,7 @@ private Q_SLOTS:
                      u"%1 %2 3"_s.arg(400 + hole).arg(hole));
     }
 
-    void Escape_refuses_a_wrong_figure_before_it_asks()
+    void Escape_refuses_a_wrong_figure_before_it_shows_the_question()
     {
         const course_store store;
         add_three_courses(store);
@@ -238,7 +241,7 @@ private Q_SLOTS:
         QCOMPARE(figures(store), figures_after);
     }
 
-    void Ctrl_W_asks_like_Cancel()
+    void Ctrl_W_shows_the_question_of_Cancel()
     {
         const course_store store;
         add_three_courses(store);
@@ -303,13 +306,13 @@ private Q_SLOTS:
                  u"DELTA-0 128"_s);
     }
 
-    void a_change_after_a_save_asks_again_data()
+    void closing_after_a_save_and_another_change_shows_the_question_again_data()
     {
         QTest::addColumn<QString>("box");
         QTest::newRow("a box of the first page") << u"text_5"_s;
         QTest::newRow("a length") << u"txt_verge_0"_s;
     }
-    void a_change_after_a_save_asks_again()
+    void closing_after_a_save_and_another_change_shows_the_question_again()
     {
         QFETCH(QString, box);
         const course_store store;
@@ -324,7 +327,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_close_command_asks()
+    void the_close_command_shows_the_question()
     {
         const course_store store;
         add_three_courses(store);

@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder_.path()).entryList({u"kept.pdf*"_s}).size(), 1);
     }
 
-    void a_pipe_stays_a_pipe()
+    void saving_to_a_pipe_fails_and_does_not_replace_it()
     {
         const QString path = file(u"pipe"_s);
         QCOMPARE(mkfifo(qPrintable(path), 0600), 0);

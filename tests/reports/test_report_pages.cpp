@@ -178,7 +178,7 @@ private Q_SLOTS:
             QCOMPARE(page.count(u"start-"_s), page.count(u"end-"_s));
     }
 
-    void a_row_taller_than_a_page_goes_on_over_the_next_ones()
+    void a_row_taller_than_a_page_continues_on_the_next_ones()
     {
         const QString body = u"<table><tr><td>{{#rows}}start-{{n}}-<br>{{/rows}}</td></tr>"
                              u"<tr><td>after</td></tr></table>"_s;
@@ -189,7 +189,7 @@ private Q_SLOTS:
         QVERIFY(pages.join(u' ').contains(u"start-60-"_s));
     }
 
-    void a_page_break_is_kept_and_leaves_no_empty_page_behind_data()
+    void a_page_break_starts_a_page_and_makes_no_empty_one_data()
     {
         QTest::addColumn<QString>("body");
         QTest::newRow("after")
@@ -200,7 +200,7 @@ private Q_SLOTS:
             << u"{{#rows}}<table style=\"page-break-before: always\"><tr><td>start-{{n}}-</td></tr></table>"
                u"{{/rows}}"_s;
     }
-    void a_page_break_is_kept_and_leaves_no_empty_page_behind()
+    void a_page_break_starts_a_page_and_makes_no_empty_one()
     {
         QFETCH(QString, body);
         const QStringList pages = pages_of(*rendered(row_head(u"A4 portrait"_s, 4), body));

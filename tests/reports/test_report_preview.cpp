@@ -122,7 +122,7 @@ private Q_SLOTS:
         }
     }
 
-    void the_pages_are_painted()
+    void an_open_preview_shows_paper_and_ink()
     {
         open();
         const QImage seen = window_->pages().grab().toImage();
@@ -253,29 +253,29 @@ private Q_SLOTS:
 
     void printing_that_fails_is_shown_and_printing_that_is_cancelled_is_not()
     {
-        bool goes_on = true;
+        bool may_continue = true;
         dialogs_of_reports().choose_printer = [&](QWidget*, QPrinter& printer, int) {
             printer.setOutputFormat(QPrinter::PdfFormat);
             printer.setOutputFileName(file(u"nowhere/printed.pdf"_s));
-            return goes_on;
+            return may_continue;
         };
         open();
         click("print");
         QVERIFY(box() != nullptr);
         delete box();
-        goes_on = false;
+        may_continue = false;
         click("print");
         QVERIFY(box() == nullptr);
     }
 
-    void escape_closes_the_window_for_good()
+    void escape_closes_and_deletes_the_window()
     {
         open();
         press(Qt::Key_Escape);
         QTRY_VERIFY(window_.isNull());
     }
 
-    void it_gets_input_above_a_modal_window()
+    void the_preview_gets_input_above_a_modal_window()
     {
         QDialog owner;
         owner.setWindowModality(Qt::ApplicationModal);

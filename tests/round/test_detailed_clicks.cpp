@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
-    void Cancel_takes_a_holed_putt_that_is_being_typed_and_asks()
+    void Cancel_takes_a_holed_putt_that_is_being_typed_and_shows_the_question()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {

@@ -278,13 +278,13 @@ private Q_SLOTS:
         });
     }
 
-    void the_result_says_whether_a_blank_shot_was_removed_data()
+    void drop_blank_shot_returns_whether_it_removed_a_shot_data()
     {
         QTest::addColumn<bool>("blank");
         QTest::newRow("removed") << true;
         QTest::newRow("nothing removed") << false;
     }
-    void the_result_says_whether_a_blank_shot_was_removed()
+    void drop_blank_shot_returns_whether_it_removed_a_shot()
     {
         QFETCH(bool, blank);
         const golfer_store round;

@@ -117,7 +117,7 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select count(*) from games"_s), 0);
     }
 
-    void Escape_and_the_title_bar_ask_like_Cancel()
+    void Escape_and_the_title_bar_show_the_question_of_Cancel()
     {
         const round_store store;
         store.add_two_courses();
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select count(*) from games"_s), 0);
     }
 
-    void an_untouched_stored_round_asks_too()
+    void closing_an_untouched_stored_round_shows_the_question()
     {
         const round_store store;
         store.add_two_courses();

@@ -116,14 +116,14 @@ private Q_SLOTS:
         });
     }
 
-    void each_figure_has_its_column_data()
+    void each_typed_figure_is_stored_in_the_column_of_its_hole_data()
     {
         QTest::addColumn<int>("hole");
         for (const int hole : {1, 2, 9, 17, 18})
             QTest::addRow("hole %d", hole) << hole;
     }
 
-    void each_figure_has_its_column()
+    void each_typed_figure_is_stored_in_the_column_of_its_hole()
     {
         QFETCH(int, hole);
         const round_store store;

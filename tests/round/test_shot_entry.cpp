@@ -271,7 +271,7 @@ private Q_SLOTS:
         });
     }
 
-    void without_shots_the_English_message_says_what_to_select()
+    void a_removal_without_shots_shows_the_English_message()
     {
         const round_with_shots round(false);
         round.play([&](hand& user) {

@@ -10,7 +10,7 @@ class test_hole_arithmetic : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void penalties_and_strokes_add_up()
+    void the_gross_is_the_sum_of_penalties_and_strokes()
     {
         const hole_figures f{1, 20, 300, 4, 50, 600, 7};
         QCOMPARE(plain(hole_shots(f)), 21);

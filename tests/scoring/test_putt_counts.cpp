@@ -159,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(calls, 18);
     }
 
-    void rounds_add_up()
+    void the_counts_of_several_rounds_are_added()
     {
         putt_counts sums;
         sums.add(scan(lengths_from(1, {})));

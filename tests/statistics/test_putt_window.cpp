@@ -204,7 +204,7 @@ private Q_SLOTS:
         QCOMPARE(stored.by_first(1).mid(23, 3), heading);
     }
 
-    void a_run_by_keyboard_only()
+    void a_run_by_the_keyboard_alone_counts_the_selected_rounds()
     {
         const stored_rounds rounds(3);
         rounds.putts(2, 1, {9});

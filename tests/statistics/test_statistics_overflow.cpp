@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(stats_head(store.store, u"handicap_text"_s).toString(), u" 16.3"_s);
     }
 
-    void more_than_that_ends_the_program_with_its_words()
+    void strokes_beyond_16_bits_end_the_program_with_the_text_of_an_overflow()
     {
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(), {u"--run"_s, u"90"_s});

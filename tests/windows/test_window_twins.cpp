@@ -39,8 +39,8 @@ private Q_SLOTS:
         QCOMPARE(controls_.of(view, false).join(u'\n'), controls_.of(view, true).join(u'\n'));
     }
 
-    void the_window_has_its_controls_data() { every_window_once(); }
-    void the_window_has_its_controls()
+    void each_window_has_exactly_the_listed_controls_data() { every_window_once(); }
+    void each_window_has_exactly_the_listed_controls()
     {
         QFETCH(QString, view);
         QStringList names;
