@@ -64,6 +64,17 @@ private Q_SLOTS:
         QVERIFY(store.opened(u"select * from Stat_rounds"_s)->empty());
     }
 
+    void a_row_that_has_the_new_value_already_is_found()
+    {
+        store_fixture store;
+        store.add_partners({u"a"_s});
+        const auto partners = store.opened(testing::all_partners);
+        store.outside().write(u"update partners set TEL = '1'"_s);
+        partners->Fields(u"TEL").set(u"1"_s);
+        partners->Update();
+        QCOMPARE(store.outside().text(u"select TEL from partners"_s), u"1"_s);
+    }
+
     void a_yes_or_no_of_every_engine_is_one_in_memory()
     {
         store_fixture store;
