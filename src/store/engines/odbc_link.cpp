@@ -30,10 +30,11 @@ failure_kind kind_of_opening(const QSqlError& error)
 /// Settings of the connection, which override those of the source. A driver ignores what it does not know.
 QString settings_of_link()
 {
-    // OPTION=2: a row that an update found counts, even if no value changed.
-    return u";OPTION=2;AUTO_RECONNECT=0;CHARSET=utf8mb4;CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s
-        .arg(source_opening_time_out_s)
-        .arg(source_time_out_s);
+    // OPTION=2: a row that an update found counts, even if no value changed. BigInt: the driver of SQLite
+    // would cut whole numbers to 32 bits.
+    return u";OPTION=2;BigInt=1;AUTO_RECONNECT=0;CHARSET=utf8mb4"
+           ";CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s.arg(source_opening_time_out_s)
+               .arg(source_time_out_s);
 }
 
 }  // namespace
