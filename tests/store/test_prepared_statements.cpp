@@ -139,7 +139,7 @@ private Q_SLOTS:
         } catch (const run_time_failure& failure) {
             QVERIFY2(failure.details().contains(u"INSERT INTO `partners` (`NAME`,`TEL`)"),
                      qUtf8Printable(failure.details()));
-            QVERIFY(failure.details().contains(u"not now"));
+            QVERIFY(failure.details().contains(u"refused by the test"));
             QVERIFY(failure.details().contains(u"rstest"));
         }
         store.outside().write(refuse_no_more());
