@@ -8,6 +8,7 @@
 #include "store/lock_wait.h"
 #include "store/soundness_check.h"
 #include "store/store_location.h"
+#include "store/store_traffic.h"
 
 namespace verdane {
 
@@ -70,6 +71,9 @@ public:
     /// The engine of the open store, for this library only. Fails with `misuse` on a closed connection.
     store_engine& engine() const;
 
+    /// Counted by the functions of this library that send statements.
+    store_traffic& traffic() const { return traffic_; }
+
     /// How statements wait for the lock of another program. The time-out is that of the recordset, or
     /// `lock_wait::default_time_out_s`.
     lock_wait& waiting() const { return *waiting_; }
@@ -85,6 +89,7 @@ private:
     bool in_transaction_ = false;
     store_location location_;
     std::unique_ptr<lock_wait> waiting_;
+    mutable store_traffic traffic_;
     /// Null while the connection is closed.
     std::unique_ptr<store_engine> engine_;
 };

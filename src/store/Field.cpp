@@ -40,7 +40,8 @@ QString text_of(const QVariant& value)
 
 const QVariant& Field::cell() const
 {
-    return owner_.rows_->current().cells[static_cast<std::size_t>(ordinal_)];
+    row_editor& rows = *owner_.rows_;
+    return rows.cell(rows.current(), ordinal_);
 }
 
 const QVariant& Field::cell_with_value() const

@@ -51,10 +51,22 @@ void Recordset::Open(row_reading reading)
     rows_->open = true;
 }
 
+void Recordset::Open(const first_columns& columns)
+{
+    rows_->read_first = columns.ordinals;
+    try {
+        Open();
+    } catch (...) {
+        rows_->read_first.clear();
+        throw;
+    }
+}
+
 void Recordset::Close()
 {
     rows_->need_open();
     rows_->open = false;
+    rows_->read_first.clear();
     rows_->forget_rows();
 }
 
@@ -193,8 +205,7 @@ QVariant Recordset::value_at(int row, int ordinal) const
     rows_->need_all_rows();
     if (row < 0 || row >= rows_->count())
         rows_->fail(failure_kind::misuse, u"there is no row %1"_s.arg(row));
-    return rows_->set.rows[static_cast<std::size_t>(row)]
-        ->cells[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))];
+    return rows_->cell(*rows_->set.rows[static_cast<std::size_t>(row)], rows_->checked_ordinal(ordinal));
 }
 
 void Recordset::AddNew()

@@ -5,6 +5,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <vector>
 
 #include "store/Field.h"
 #include "store/recordset_settings.h"
@@ -30,6 +31,14 @@ enum class row_reading {
     /// with `misuse`.
     one_by_one
 };
+
+/// The columns that `Open` reads of every row. The other columns of a row are read by one statement when one
+/// of them is first needed, and then kept like the rest.
+struct first_columns {
+    /// At least one; each exists in the table.
+    std::vector<int> ordinals;
+};
+
 enum class search_direction { forward = 1, backward = -1 };
 
 /// Which rows a batch update writes. Both values commit everything that is pending.
@@ -65,6 +74,10 @@ public:
     /// `misuse` if the recordset is open, and with `missing_table` if the store lacks the table; with
     /// `when_needed` the latter is left to the first function that needs a row.
     void Open(row_reading reading = row_reading::at_once);
+    /// The same, for a table of which a few columns of every row are needed, and the others of a few rows. A
+    /// row that was removed from the store before its other columns were read fails with `misuse` then. Reads
+    /// all columns if the statement is not `select * from TABLE ...`, or if the table has no identity column.
+    void Open(const first_columns& columns);
     /// Frees the rows and drops what is pending. Fails with `misuse` if the recordset is not open.
     void Close();
     bool is_open() const;

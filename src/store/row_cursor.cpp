@@ -52,7 +52,29 @@ void row_cursor::need_all_rows()
 row_set row_cursor::read() const
 {
     const lock_wait::limit wait = time_out();
-    return read_rows(connection, source, where());
+    return read_rows(connection, source, where(), read_first);
+}
+
+const QVariant& row_cursor::cell(recordset_row& row, int ordinal)
+{
+    if (!set.has_value(row, ordinal))
+        complete(row);
+    return row.cells[static_cast<std::size_t>(ordinal)];
+}
+
+void row_cursor::complete(recordset_row& row)
+{
+    if (row.complete)
+        return;
+    const lock_wait::limit wait = time_out();
+    complete_row(connection, set, row, where());
+}
+
+void row_cursor::complete_all()
+{
+    const lock_wait::limit wait = time_out();
+    complete_rows(connection, set, source, where());
+    set.read_first.clear();
 }
 
 void row_cursor::open_stream()
@@ -93,7 +115,11 @@ find_criterion criterion_of(const row_cursor& rows, const QString& text)
 void row_cursor::find(const QString& criterion, search_direction direction)
 {
     const find_criterion wanted = criterion_of(*this, criterion);
-    const auto column = static_cast<std::size_t>(ordinal_of(wanted.column()));
+    const int ordinal = ordinal_of(wanted.column());
+    if (std::any_of(set.rows.begin(), set.rows.end(),
+                    [&](const auto& row) { return !set.has_value(*row, ordinal); }))
+        complete_all();
+    const auto column = static_cast<std::size_t>(ordinal);
     const auto& all = set.rows;
     const auto matches = [&wanted, column](const auto& row) { return wanted.matches(row->cells[column]); };
     const auto start = all.begin() + std::clamp(place, 0, count());

@@ -24,6 +24,8 @@ public:
     bool open = false;
     /// True while the recordset is open and its rows have not been read.
     bool unread = false;
+    /// The columns that are read for every row; empty for all.
+    std::vector<int> read_first;
     row_set set;
     /// The following rows if rows are read one by one; `set` then has only the current row.
     std::unique_ptr<row_stream> stream;
@@ -52,6 +54,11 @@ public:
     void move_to(int target);
     /// Moves to the first match from the current row on.
     void find(const QString& criterion, search_direction direction);
+    /// A value of a row, which is read now if the row was not read completely.
+    const QVariant& cell(recordset_row& row, int ordinal);
+    /// Reads what was not read of a row, or of all rows.
+    void complete(recordset_row& row);
+    void complete_all();
     int checked_ordinal(int ordinal) const;
     int ordinal_of(QStringView name) const;
     const QString& column_name(int ordinal) const;

@@ -137,6 +137,7 @@ void row_editor::write(int ordinal, const QVariant& value)
     const auto at = static_cast<std::size_t>(checked_ordinal(ordinal));
     if (!set.columns[at].stored)
         fail(failure_kind::misuse, QString(column_name(ordinal) + u" is no column of the table"));
+    complete(row);
     QVariant stored = located(ordinal, [&] { return converted(value, set.columns[at].type); });
     if (!row.pending)
         row.pending = std::make_unique<pending_edit>();

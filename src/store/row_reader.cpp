@@ -1,8 +1,6 @@
 #include "store/row_reader.h"
 
-#include <QSqlError>
-#include <QSqlField>
-#include <QSqlRecord>
+#include <QStringList>
 
 #include <algorithm>
 #include <limits>
@@ -44,13 +42,25 @@ recordset_column column_of(const QString& name, std::size_t likely, const select
                                : recordset_column{name, declared->type, declared->default_value, true};
 }
 
-void read_columns(row_set& set, const QSqlRecord& record)
+/// All columns of the table, although the statement selects some of them only.
+void declare_columns(row_set& set, const table& owner)
+{
+    for (const column& each : owner.columns) {
+        set.ordinals.insert(each.name.toLower(), static_cast<int>(set.columns.size()));
+        set.columns.push_back({each.name, each.type, each.default_value, true});
+    }
+}
+
+void read_columns(row_set& set, const result_rows& rows)
 {
     const table* owner = set.shape.updatable ? find_table(set.shape.table) : nullptr;
+    if (owner != nullptr && !set.read_first.empty())
+        return declare_columns(set, *owner);
     const int hidden = set.has_numbers ? 1 : 0;
-    set.columns.reserve(static_cast<std::size_t>(record.count()));
-    for (int i = hidden; i < record.count(); ++i) {
-        const QString name = record.fieldName(i);
+    const int count = rows.column_count();
+    set.columns.reserve(static_cast<std::size_t>(count));
+    for (int i = hidden; i < count; ++i) {
+        const QString name = rows.column_name(i);
         set.columns.push_back(column_of(name, static_cast<std::size_t>(i - hidden), set.shape, owner));
         const QString key = name.toLower();
         if (!set.ordinals.contains(key))
@@ -93,36 +103,82 @@ QVariant in_column_type(QVariant value, column_type type)
                                      : QVariant(static_cast<int>(number));
 }
 
-std::unique_ptr<recordset_row> read_row(const QSqlQuery& query, const row_set& set)
+std::unique_ptr<recordset_row> read_row(const result_rows& rows, const row_set& set)
 {
     auto row = std::make_unique<recordset_row>();
-    const int hidden = set.has_numbers ? 1 : 0;
-    if (hidden != 0)
-        row->number = query.value(0).toLongLong();
-    row->cells.reserve(set.columns.size());
-    int at = hidden;
-    for (const recordset_column& column : set.columns)
-        row->cells.push_back(in_column_type(query.value(at++), column.type));
+    int at = 0;
+    if (set.has_numbers)
+        row->number = rows.value(at++).toLongLong();
+    row->complete = set.read_first.empty();
+    if (row->complete) {
+        row->cells.reserve(set.columns.size());
+        for (const recordset_column& column : set.columns)
+            row->cells.push_back(in_column_type(rows.value(at++), column.type));
+        return row;
+    }
+    row->cells.resize(set.columns.size());
+    for (const int ordinal : set.read_first) {
+        const auto place = static_cast<std::size_t>(ordinal);
+        row->cells[place] = in_column_type(rows.value(at++), set.columns[place].type);
+    }
     return row;
+}
+
+bool can_read_first(const select_statement& shape, const QString& identity)
+{
+    return shape.all_columns && !identity.isEmpty() && find_table(shape.table) != nullptr;
+}
+
+QString in_back_quotes(const QString& name)
+{
+    return u'`' + name + u'`';
+}
+
+/// Takes the cells of a row that was read completely.
+void take_cells(recordset_row& row, recordset_row& read, const row_set& set, const QString& where)
+{
+    if (read.cells.size() != set.columns.size())
+        throw run_time_failure(failure_kind::missing_table,
+                               QString(where + u": the table has other columns than the program"));
+    row.cells = std::move(read.cells);
+    row.complete = true;
 }
 
 }  // namespace
 
-row_stream::row_stream(const Connection1& connection, const QString& statement, QString where, row_use use)
-    : connection_(connection),
-      where_(std::move(where)),
-      shape_(read_select(statement)),
-      query_(connection.database())
+bool row_set::has_value(const recordset_row& row, int ordinal) const
+{
+    return row.complete || std::find(read_first.begin(), read_first.end(), ordinal) != read_first.end();
+}
+
+row_stream::row_stream(const Connection1& connection, const QString& statement, QString where, row_use use,
+                       std::vector<int> read_first)
+    : connection_(connection), shape_(read_select(statement)), read_first_(std::move(read_first))
 {
     const store_engine& engine = connection.engine();
     shape_.updatable = shape_.updatable && use == row_use::read_and_write;
     const QString identity = shape_.updatable ? engine.identity_column(shape_.table) : QString();
     has_numbers_ = !identity.isEmpty();
-    const QString complete =
-        has_numbers_ ? engine.select_with_identity(statement, shape_, identity) : statement;
-    query_.setForwardOnly(true);
-    if (!query_.exec(engine.as_sent(complete)))
-        throw connection_.engine().failure(query_.lastError(), where_);
+    if (!can_read_first(shape_, identity))
+        read_first_.clear();
+    ++connection.traffic().statements;
+    rows_ = engine.select(engine_statement(engine, statement, identity), where);
+}
+
+row_stream::~row_stream() = default;
+
+QString row_stream::engine_statement(const store_engine& engine, const QString& statement,
+                                     const QString& identity) const
+{
+    if (!has_numbers_)
+        return statement;
+    if (read_first_.empty())
+        return engine.select_with_identity(statement, shape_, identity);
+    const table& owner = *find_table(shape_.table);
+    QStringList names{identity};
+    for (const int ordinal : read_first_)
+        names += in_back_quotes(owner.columns[static_cast<std::size_t>(ordinal)].name);
+    return with_columns(statement, shape_, names.join(u", "));
 }
 
 row_set row_stream::columns() const
@@ -130,26 +186,55 @@ row_set row_stream::columns() const
     row_set set;
     set.shape = shape_;
     set.has_numbers = has_numbers_;
-    read_columns(set, query_.record());
+    set.read_first = read_first_;
+    read_columns(set, *rows_);
     return set;
 }
 
 std::unique_ptr<recordset_row> row_stream::next(const row_set& columns)
 {
-    if (query_.next())
-        return read_row(query_, columns);
-    if (query_.lastError().isValid())
-        throw connection_.engine().failure(query_.lastError(), where_);
-    return nullptr;
+    if (!rows_->next())
+        return nullptr;
+    store_traffic& traffic = connection_.traffic();
+    ++traffic.rows;
+    traffic.values += static_cast<qint64>(read_first_.empty() ? columns.columns.size() : read_first_.size());
+    return read_row(*rows_, columns);
 }
 
-row_set read_rows(const Connection1& connection, const QString& statement, const QString& where)
+row_set read_rows(const Connection1& connection, const QString& statement, const QString& where,
+                  const std::vector<int>& read_first)
 {
-    row_stream stream(connection, statement, where, row_use::read_and_write);
+    row_stream stream(connection, statement, where, row_use::read_and_write, read_first);
     row_set set = stream.columns();
     while (auto row = stream.next(set))
         set.rows.push_back(std::move(row));
     return set;
+}
+
+void complete_row(const Connection1& connection, const row_set& set, recordset_row& row, const QString& where)
+{
+    const QString identity = connection.engine().identity_column(set.shape.table);
+    row_set read = read_rows(connection,
+                             u"select * from " + in_back_quotes(set.shape.table) + u" where " + identity +
+                                 u'=' + QString::number(row.number),
+                             where);
+    if (read.rows.empty())
+        throw run_time_failure(failure_kind::misuse, QString(where + u": the row is no longer in the store"));
+    take_cells(row, *read.rows.front(), set, where);
+}
+
+void complete_rows(const Connection1& connection, row_set& set, const QString& statement,
+                   const QString& where)
+{
+    row_set read = read_rows(connection, statement, where);
+    QHash<qint64, recordset_row*> by_number;
+    for (const auto& row : read.rows)
+        by_number.insert(row->number, row.get());
+    for (const auto& row : set.rows) {
+        recordset_row* found = row->complete ? nullptr : by_number.value(row->number);
+        if (found != nullptr)
+            take_cells(*row, *found, set, where);
+    }
 }
 
 }  // namespace verdane

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QHash>
-#include <QSqlQuery>
 #include <QString>
 #include <QVariant>
 
@@ -16,6 +15,8 @@
 namespace verdane {
 
 class Connection1;
+class result_rows;
+class store_engine;
 
 struct recordset_column {
     QString name;
@@ -40,6 +41,8 @@ struct recordset_row {
     /// The engine's row number; 0 for a row that is not in the store.
     qint64 number = 0;
     std::vector<QVariant> cells;
+    /// False while only the columns that were read first have their values.
+    bool complete = true;
     std::unique_ptr<pending_edit> pending;
 };
 
@@ -53,7 +56,11 @@ struct row_set {
     std::vector<recordset_column> columns;
     /// By name in small letters; the first column of a name counts.
     QHash<QString, int> ordinals;
+    /// The columns that were read first, in their order; empty if all were read.
+    std::vector<int> read_first;
     row_list rows;
+
+    bool has_value(const recordset_row& row, int ordinal) const;
 };
 
 /// Whether rows may be written; only those of a plain table can be.
@@ -62,8 +69,11 @@ enum class row_use { read_and_write, read_only };
 /// The rows of a statement in the order of the engine.
 class row_stream {
 public:
-    /// Runs the statement. `where` names it in a failure.
-    row_stream(const Connection1& connection, const QString& statement, QString where, row_use use);
+    /// Runs the statement. `where` names it in a failure. If `read_first` is not empty, only these columns
+    /// are read, provided that the statement selects all columns of a table whose rows have an identity.
+    row_stream(const Connection1& connection, const QString& statement, QString where, row_use use,
+               std::vector<int> read_first = {});
+    ~row_stream();
 
     /// The columns, without a row.
     row_set columns() const;
@@ -71,14 +81,27 @@ public:
     std::unique_ptr<recordset_row> next(const row_set& columns);
 
 private:
+    QString engine_statement(const store_engine& engine, const QString& statement,
+                             const QString& identity) const;
+
     const Connection1& connection_;
-    QString where_;
     select_statement shape_;
+    std::vector<int> read_first_;
     bool has_numbers_ = false;
-    QSqlQuery query_;
+    std::unique_ptr<result_rows> rows_;
 };
 
-/// Runs a statement and reads all its rows. `where` names it in a failure.
-row_set read_rows(const Connection1& connection, const QString& statement, const QString& where);
+/// Runs a statement and reads all its rows. `where` names it in a failure. For `read_first` see `row_stream`.
+row_set read_rows(const Connection1& connection, const QString& statement, const QString& where,
+                  const std::vector<int>& read_first = {});
+
+/// Reads the columns of a row that were not read first. Fails with `misuse` if the row is no longer in the
+/// store.
+void complete_row(const Connection1& connection, const row_set& set, recordset_row& row,
+                  const QString& where);
+
+/// The same for all rows, with one statement. A row that is no longer in the store stays as it is.
+void complete_rows(const Connection1& connection, row_set& set, const QString& statement,
+                   const QString& where);
 
 }  // namespace verdane

@@ -140,6 +140,8 @@ qint64 write_row(const Connection1& connection, const row_set& set, const record
                  const QString& where)
 {
     connection.need_soundness();
+    if (row.pending->is_new || !changed_columns(row).empty())
+        ++connection.traffic().statements;
     if (row.pending->is_new)
         return insert_row(connection.engine(), set, row, where);
     update_row(connection.engine(), set, row, where);
@@ -152,6 +154,7 @@ void erase_row(const Connection1& connection, const row_set& set, const recordse
     connection.need_soundness();
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
     add_identity(connection.engine(), statement, set, row);
+    ++connection.traffic().statements;
     connection.engine().change(statement, where);
 }
 

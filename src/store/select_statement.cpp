@@ -129,7 +129,8 @@ select_statement read_select(QStringView statement)
     const bool is_name = is_word(table->text[0]) || is_quote(table->text[0]);
     if (!is_name || !plain_columns(tokens.begin() + 1, from) || !plain_rest(table + 1, tokens.end()))
         return {};
-    return {true, bare_name(table->written), tokens[1].at, from->at};
+    const bool all_columns = from == tokens.begin() + 2 && tokens[1].text == u"*";
+    return {true, bare_name(table->written), tokens[1].at, from->at, all_columns};
 }
 
 QString with_row_number(const QString& statement, const select_statement& shape, const QString& identity)
@@ -142,6 +143,11 @@ QString with_qualified_columns(const QString& statement, const select_statement&
     QString columns = statement.sliced(shape.columns_at, shape.columns_end - shape.columns_at);
     columns.replace(u"*"_s, u'`' + shape.table + u"`.*");
     return statement.first(shape.columns_at) + columns + statement.sliced(shape.columns_end);
+}
+
+QString with_columns(const QString& statement, const select_statement& shape, const QString& columns)
+{
+    return statement.first(shape.columns_at) + columns + u' ' + statement.sliced(shape.columns_end);
 }
 
 }  // namespace verdane

@@ -17,6 +17,8 @@ struct select_statement {
     qsizetype columns_at = 0;
     /// The position after that list; 0 if not updatable.
     qsizetype columns_end = 0;
+    /// True if COLUMNS is `*`.
+    bool all_columns = false;
 };
 
 /// Parses a statement to that extent. Case and blanks have no effect.
@@ -30,5 +32,8 @@ QString with_row_number(const QString& statement, const select_statement& shape,
 /// The statement with each `*` in its list of columns after the name of the table: `select t.* from t`. Only
 /// for an updatable statement.
 QString with_qualified_columns(const QString& statement, const select_statement& shape);
+
+/// The statement with other columns. Only for an updatable statement.
+QString with_columns(const QString& statement, const select_statement& shape, const QString& columns);
 
 }  // namespace verdane

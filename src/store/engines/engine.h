@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "base/run_time_failure.h"
+#include "store/engines/result_rows.h"
 #include "store/prepared_statements.h"
 #include "store/select_statement.h"
 #include "store/soundness_check.h"
@@ -79,6 +80,9 @@ public:
     /// their characters are.
     virtual void add_comparison(statement_with_values& statement, const QString& column,
                                 const QVariant& value) const;
+
+    /// Runs a statement that selects rows. Fails like `change`; so do the functions of the result.
+    virtual std::unique_ptr<result_rows> select(const QString& statement, const QString& where) const;
 
     /// Runs a statement that changes or deletes rows, and returns how many rows it found. Fails with the kind
     /// that fits the engine's error; its details contain `where` and the statement.
