@@ -9,6 +9,12 @@ namespace verdane::Round_functions {
 
 namespace {
 
+namespace at = tables::games;
+
+/// What a line of the list shows: key, course, and whether the last hole has strokes.
+const first_columns shown_columns{
+    {at::date, at::field, at::long_h(hole_count), at::approach_h(hole_count), at::putt_h(hole_count)}};
+
 QString line_of_current_row(Recordset& games)
 {
     return Verdane_tools::round_entry(games.Fields(tables::games::date).text_or_empty(),
@@ -21,7 +27,7 @@ void open_rounds_in_time_order()
 {
     Recordset& games = data_environment().rsgames;
     games.set_Source(games.settings().source);
-    games.Open();
+    games.Open(shown_columns);
 }
 
 QStringList round_list_lines()

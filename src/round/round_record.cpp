@@ -93,17 +93,17 @@ bool has_a_course()
 
 void open_games_and_field_info()
 {
-    data_environment().rsgames.Open();
+    data_environment().rsgames.Open(first_columns{{games::date}});
     data_environment().rsfield_info.Open();
 }
 
 void add_rows_without_key()
 {
     DataEnvironment1& store = data_environment();
-    store.rsgames2.Open();
+    store.rsgames2.Open(first_columns{{games2::date}});
     store.rsgames2.AddNew();
     store.rsgames.AddNew();
-    store.rscost.Open();
+    store.rscost.Open(first_columns{{cost::date}});
     store.rscost.AddNew();
     zero_amounts(store.rscost);
     store.rsvrd_fields.Open();
@@ -112,13 +112,13 @@ void add_rows_without_key()
 void open_rows(const QString& key)
 {
     DataEnvironment1& store = data_environment();
-    store.rsgames2.Open();
+    store.rsgames2.Open(first_columns{{games2::date}});
     find_round(store.rsgames2, key);
     find_round(store.rsgames, key, search_direction::backward);
     store.rsvrd_fields.Open();
     find_first(store.rsvrd_fields, u"CODE = ", store.rsgames.Fields(games::CODEF).trimmed(),
                search_direction::backward);
-    store.rscost.Open();
+    store.rscost.Open(first_columns{{cost::date}});
     find_round(store.rscost, key);
     if (store.rscost.eof())
         add_cost_row(key);

@@ -25,7 +25,8 @@ namespace {
 
 bool has_rows(Recordset& recordset)
 {
-    recordset.Open();
+    constexpr int key = 0;
+    recordset.Open(first_columns{{key}});
     const bool rows = !recordset.empty();
     recordset.Close();
     return rows;

@@ -9,6 +9,7 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "records/round_list.h"
 #include "round/f_new_round.h"
 #include "round/round_opening.h"
 #include "round/tee_off.h"
@@ -26,7 +27,7 @@ const QDate day_of_play(2024, 6, 14);
 /// Opens a stored round as the round list does, with two recordsets open.
 void open_from_list(const QString& key)
 {
-    data_environment().rsgames.Open();
+    Round_functions::open_rounds_in_time_order();
     data_environment().rsfield_info.Open();
     open_stored_round(key);
 }
