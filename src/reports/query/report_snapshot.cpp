@@ -6,16 +6,13 @@
 #include <QSqlRecord>
 #include <QUuid>
 
-#include <sqlite3.h>
-
 #include "base/run_time_failure.h"
 #include "controls/lock_box.h"
 #include "reports/query/report_tables.h"
 #include "reports/report_store.h"
 #include "reports/template/page_limits.h"
 #include "reports/template/query_text.h"
-#include "store/engines/sqlite.h"
-#include "store/lock_wait.h"
+#include "store/table_copy.h"
 
 namespace verdane {
 
@@ -32,32 +29,6 @@ QString as_next_of_list(const QString& sql)
     if (!match.hasMatch())
         return u"\n"_s + sql;
     return u",\n"_s + sql.sliced(match.capturedEnd());
-}
-
-failure_kind kind_of(const QSqlError& error)
-{
-    switch (error.nativeErrorCode().toInt() & 0xff) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return failure_kind::store_locked;
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-        return failure_kind::store_damaged;
-    default:
-        return failure_kind::store_unreachable;
-    }
-}
-
-/// Copies the tables; waits for a lock of another program as the program's connection does.
-QSqlError copy_when_unlocked(QSqlDatabase& database)
-{
-    lock_wait waiting;
-    waiting.set_notice_maker(make_lock_box);
-    waiting.attach(engine_handle(database));
-    const lock_wait::limit limit(waiting, lock_wait::default_time_out_s);
-    const QSqlError error = copy_report_tables(database, report_store().name);
-    sqlite3_busy_handler(engine_handle(database), nullptr, nullptr);
-    return error;
 }
 
 }  // namespace
@@ -98,13 +69,17 @@ report_snapshot::~report_snapshot()
 
 void report_snapshot::open()
 {
-    QSqlError error;
-    if (report_store().name.isEmpty() || !database_.open())
-        error = database_.lastError();
-    else if (error = copy_when_unlocked(database_); !error.isValid())
-        return;
-    throw run_time_failure(kind_of(error),
-                           u"%1: %2: %3"_s.arg(source_.file_name, report_store().name, error.text()));
+    const store_location& store = report_store();
+    const auto fail = [&](failure_kind kind, const QString& why) {
+        throw run_time_failure(kind, u"%1: %2: %3"_s.arg(source_.file_name, store.name, why));
+    };
+    if (store.name.isEmpty() || !database_.open())
+        fail(failure_kind::store_unreachable, database_.lastError().text());
+    try {
+        copy_tables(store, {readable_tables(), most_text_characters}, database_, make_lock_box);
+    } catch (const run_time_failure& failure) {
+        fail(failure.kind(), failure.details());
+    }
 }
 
 QStringList report_snapshot::parameters_of(const template_query& query)

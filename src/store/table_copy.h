@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QStringList>
+
+#include "store/lock_wait.h"
+#include "store/store_location.h"
+
+/// The committed rows of some tables, copied into memory.
+namespace verdane {
+
+/// What is copied.
+struct copied_tables {
+    QStringList names;
+    /// A longer text is cut to this number of characters, the last of which is then an ellipsis.
+    int most_characters = 0;
+};
+
+/// Copies tables, as one moment of the committed rows, from a store into `target`, an open and empty SQLite
+/// database in memory, which was opened with `QSQLITE_OPEN_URI`. Rows keep their order, columns their names
+/// and types. A table that the store lacks is left out.
+///
+/// A file is read on a connection of its own, a source on the program's connection if that is open. Fails
+/// with `store_unreachable` when the store cannot be opened, `store_damaged` when it cannot be read, and
+/// `store_locked` when another program locks it for longer than `lock_wait::default_time_out_s` or the user
+/// gives up waiting, for which `notice` is shown.
+void copy_tables(const store_location& store, const copied_tables& tables, QSqlDatabase& target,
+                 const lock_notice_maker& notice);
+
+}  // namespace verdane
