@@ -3,11 +3,13 @@
 set(verdane_id io.verdane.Verdane)
 set(verdane_home lib/verdane)
 
-install(TARGETS verdane RUNTIME DESTINATION ${verdane_home})
+install(TARGETS verdane verdane-store RUNTIME DESTINATION ${verdane_home})
 install(CODE [[
   set(commands "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
   file(MAKE_DIRECTORY "${commands}")
-  file(CREATE_LINK ../lib/verdane/verdane "${commands}/verdane" SYMBOLIC)]])
+  foreach(command verdane verdane-store)
+    file(CREATE_LINK ../lib/verdane/${command} "${commands}/${command}" SYMBOLIC)
+  endforeach()]])
 
 install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING
   PATTERN "*.rpt" PATTERN "*.layout")

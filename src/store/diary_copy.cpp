@@ -1,0 +1,141 @@
+#include "store/diary_copy.h"
+
+#include <QStringList>
+
+#include <memory>
+
+#include "store/commits.h"
+#include "store/engines/engine.h"
+#include "store/schema.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString in_back_quotes(const QString& name)
+{
+    return u'`' + name + u'`';
+}
+
+QString columns_of(const table& copied)
+{
+    QStringList names;
+    for (const column& each : copied.columns)
+        names += in_back_quotes(each.name);
+    return names.join(u',');
+}
+
+std::unique_ptr<result_rows> rows_of(const Connection1& store, const table& copied)
+{
+    const QString identity = store.engine().identity_column(copied.name);
+    const QString statement = u"select " + columns_of(copied) + u" from " + in_back_quotes(copied.name) +
+                              (identity.isEmpty() ? QString() : u" order by " + identity);
+    return store.engine().select(statement, copied.name);
+}
+
+int number_of_rows(const Connection1& store, const table& counted)
+{
+    const QString statement = u"select count(*) from " + in_back_quotes(counted.name);
+    const auto rows = store.engine().select(statement, counted.name);
+    return rows->next() ? rows->value(0).toInt() : 0;
+}
+
+void insert_row(const Connection1& to, const table& copied, const QString& start, const result_rows& row)
+{
+    statement_with_values statement;
+    statement.text = start;
+    QStringView before;
+    for (int column = 0; column < row.column_count(); ++column) {
+        statement.text += before;
+        to.engine().add_value(statement, row.value(column));
+        before = u",";
+    }
+    statement.text += u')';
+    to.engine().change(statement, copied.name);
+}
+
+void copy_rows(const Connection1& from, Connection1& to, const table& copied)
+{
+    const QString start =
+        u"INSERT INTO " + in_back_quotes(copied.name) + u" (" + columns_of(copied) + u") VALUES (";
+    const auto rows = rows_of(from, copied);
+    while (rows->next())
+        insert_row(to, copied, start, *rows);
+}
+
+bool is_number(const QVariant& value)
+{
+    return value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double;
+}
+
+/// Numbers are compared by value: one engine returns a whole number where another returns a real one.
+bool equal(const QVariant& left, const QVariant& right)
+{
+    if (left.isNull() || right.isNull())
+        return left.isNull() && right.isNull();
+    if (is_number(left) && is_number(right))
+        return left.toDouble() == right.toDouble();
+    return left.toString() == right.toString();
+}
+
+[[noreturn]] void fail_comparison(const table& compared, int row, const QString& what)
+{
+    throw run_time_failure(failure_kind::store_other,
+                           u"%1, row %2: %3"_s.arg(compared.name).arg(row).arg(what));
+}
+
+/// Returns the number of rows.
+int compare_rows(const Connection1& from, const Connection1& to, const table& compared)
+{
+    const auto left = rows_of(from, compared);
+    const auto right = rows_of(to, compared);
+    int row = 0;
+    while (left->next()) {
+        ++row;
+        if (!right->next())
+            fail_comparison(compared, row, u"missing in the copy"_s);
+        for (int column = 0; column < left->column_count(); ++column) {
+            if (!equal(left->value(column), right->value(column)))
+                fail_comparison(compared, row,
+                                u"%1 is %2 in the copy instead of %3"_s.arg(
+                                    compared.columns[static_cast<std::size_t>(column)].name,
+                                    right->value(column).toString(), left->value(column).toString()));
+        }
+    }
+    if (right->next())
+        fail_comparison(compared, row + 1, u"only in the copy"_s);
+    return row;
+}
+
+}  // namespace
+
+std::vector<counted_table> tables_in_use(const Connection1& store)
+{
+    std::vector<counted_table> used;
+    for (const table& each : schema()) {
+        const int rows = each.fixed_rows > 0 ? 0 : number_of_rows(store, each);
+        if (rows > 0)
+            used.push_back({each.name, rows});
+    }
+    return used;
+}
+
+std::vector<counted_table> copy_diary(Connection1& from, Connection1& to, const table_notice& notice)
+{
+    if (!tables_in_use(to).empty())
+        throw run_time_failure(failure_kind::misuse, u"%1: the store is not empty"_s.arg(to.location().name));
+    single_commit together(to);
+    std::vector<counted_table> copied;
+    for (const table& each : schema()) {
+        notice({each.name, number_of_rows(from, each)});
+        to.Execute(u"DELETE FROM " + in_back_quotes(each.name));
+        copy_rows(from, to, each);
+        copied.push_back({each.name, compare_rows(from, to, each)});
+    }
+    together.finish();
+    return copied;
+}
+
+}  // namespace verdane

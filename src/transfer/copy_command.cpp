@@ -1,0 +1,111 @@
+#include "transfer/copy_command.h"
+
+#include <QFile>
+#include <QTextStream>
+
+#include "base/failure_words.h"
+#include "base/run_time_failure.h"
+#include "store/diary_copy.h"
+#include "store/store_files.h"
+#include "transfer/store_argument.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void print(const QString& line)
+{
+    QTextStream(stdout) << line << Qt::endl;
+}
+
+exit_status refuse(exit_status status, const QString& line)
+{
+    QTextStream(stderr) << line << Qt::endl;
+    return status;
+}
+
+bool is_missing_file(const store_location& store)
+{
+    return store.where == store_location::place::file && !QFile::exists(store.name);
+}
+
+exit_status report(const run_time_failure& failure)
+{
+    const exit_status status =
+        failure.kind() == failure_kind::store_locked ? exit_status::in_use : exit_status::failed;
+    return refuse(status, failure_words(failure.kind()).in(is_french) + u'\n' + failure.details());
+}
+
+exit_status refuse_without_diary(const store_location& from)
+{
+    return refuse(exit_status::no_diary,
+                  in_language(u"Il n'y a pas de journal à copier : %1", u"There is no diary to copy: %1")
+                      .arg(argument_of_store(from)));
+}
+
+exit_status refuse_target(const store_location& to, const counted_table& used)
+{
+    return refuse(
+        exit_status::not_empty,
+        in_language(u"La destination %1 n'est pas vide : la table %2 a %3 lignes. Rien n'a été modifié.",
+                    u"The target %1 is not empty: table %2 has %3 rows. Nothing was changed.")
+            .arg(argument_of_store(to), used.name)
+            .arg(used.rows));
+}
+
+exit_status copy_open_stores(Connection1& source, Connection1& target)
+{
+    if (tables_in_use(source).empty())
+        return refuse_without_diary(source.location());
+    const std::vector<counted_table> used = tables_in_use(target);
+    if (!used.empty())
+        return refuse_target(target.location(), used.front());
+    int rows = 0;
+    const auto copied = copy_diary(source, target, [](const counted_table& table) {
+        print(in_language(u"%1 : %2 lignes", u"%1: %2 rows").arg(table.name).arg(table.rows));
+    });
+    for (const counted_table& table : copied)
+        rows += table.rows;
+    print(in_language(u"Copié et vérifié : %1 tables, %2 lignes.", u"Copied and checked: %1 tables, %2 rows.")
+              .arg(copied.size())
+              .arg(rows));
+    return exit_status::done;
+}
+
+exit_status copy(const store_location& from, const store_location& to)
+{
+    Connection1 source;
+    source.Open(from);
+    Connection1 target;
+    target.Open(to);
+    return copy_open_stores(source, target);
+}
+
+}  // namespace
+
+exit_status run_copy(const QStringList& arguments)
+{
+    const auto from = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
+    const auto to = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
+    if (!from || !to || *from == *to)
+        return refuse(exit_status::usage,
+                      in_language(u"Il faut deux magasins différents : verdane-store copy DE VERS (--help)",
+                                  u"Two different stores are needed: verdane-store copy FROM TO (--help)"));
+    if (is_missing_file(*from))
+        return refuse_without_diary(*from);
+    const bool is_new_file = is_missing_file(*to);
+    exit_status status = exit_status::failed;
+    try {
+        status = copy(*from, *to);
+    } catch (const run_time_failure& failure) {
+        status = report(failure);
+    }
+    // A file that was made for the copy is removed again.
+    if (status != exit_status::done && is_new_file)
+        remove_store_files(to->name);
+    return status;
+}
+
+}  // namespace verdane

@@ -1,0 +1,75 @@
+#include "tests/transfer/store_run.h"
+
+#include <QCoreApplication>
+
+#include <sys/resource.h>
+
+namespace verdane::testing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int longest_run_ms = 60'000;
+
+}  // namespace
+
+store_run::store_run(const QStringList& arguments)
+{
+    process_.setProgram(QCoreApplication::applicationDirPath() + u"/verdane-store"_s);
+    process_.setArguments(arguments);
+    set_language(u"en_GB.UTF-8"_s);
+}
+
+void store_run::set_language(const QString& language)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LC_ALL"_s, language);
+    process_.setProcessEnvironment(environment);
+}
+
+void store_run::limit_files(unsigned long bytes)
+{
+    process_.setChildProcessModifier([bytes] {
+        const rlimit limit{bytes, bytes};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    });
+}
+
+void store_run::start()
+{
+    process_.start();
+}
+
+bool store_run::wait_for(const QString& printed)
+{
+    while (!output_.contains(printed)) {
+        if (!process_.waitForReadyRead(longest_run_ms))
+            return false;
+        output_ += QString::fromUtf8(process_.readAllStandardOutput());
+    }
+    return true;
+}
+
+void store_run::kill()
+{
+    process_.kill();
+    process_.waitForFinished(longest_run_ms);
+}
+
+std::optional<int> store_run::exit_status()
+{
+    const bool ended = process_.waitForFinished(longest_run_ms);
+    output_ += QString::fromUtf8(process_.readAllStandardOutput());
+    if (!ended || process_.exitStatus() != QProcess::NormalExit)
+        return std::nullopt;
+    return process_.exitCode();
+}
+
+std::optional<int> store_run::run()
+{
+    start();
+    return exit_status();
+}
+
+}  // namespace verdane::testing
