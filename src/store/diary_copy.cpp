@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "store/commits.h"
@@ -70,13 +72,20 @@ bool is_number(const QVariant& value)
     return value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double;
 }
 
+/// One of the drivers returns 15 digits of a real number.
+bool equal_numbers(double left, double right)
+{
+    constexpr double last_digit = 1e-14;
+    return std::abs(left - right) <= last_digit * std::max(std::abs(left), std::abs(right));
+}
+
 /// Numbers are compared by value: one engine returns a whole number where another returns a real one.
 bool equal(const QVariant& left, const QVariant& right)
 {
     if (left.isNull() || right.isNull())
         return left.isNull() && right.isNull();
     if (is_number(left) && is_number(right))
-        return left.toDouble() == right.toDouble();
+        return equal_numbers(left.toDouble(), right.toDouble());
     return left.toString() == right.toString();
 }
 

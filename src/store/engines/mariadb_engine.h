@@ -31,6 +31,7 @@ public:
 
 protected:
     QString text_literal(QStringView text) const override;
+    text_form texts() const override { return text_form::bytes; }
     QString in_dialect(const QString& part) const override;
 
 private:

@@ -36,6 +36,13 @@ QString odbc_engine::literal(const QVariant& value) const
     return is_plain_text(text) ? QString(u'\'' + text + u'\'') : text_literal(text);
 }
 
+std::unique_ptr<result_rows> odbc_engine::select(const QString& statement, const QString& where) const
+{
+    return std::make_unique<odbc_rows>(
+        database(), as_sent(statement), texts(),
+        [this, where](const QSqlError& error) { return failure(error, where); });
+}
+
 int odbc_engine::change(const statement_with_values& statement, const QString& where)
 {
     QSqlQuery query(database());

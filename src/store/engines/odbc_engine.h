@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/engines/engine.h"
+#include "store/engines/odbc_rows.h"
 
 namespace verdane {
 
@@ -12,6 +13,7 @@ public:
     using store_engine::store_engine;
 
     void add_value(statement_with_values& statement, const QVariant& value) const override;
+    std::unique_ptr<result_rows> select(const QString& statement, const QString& where) const override;
     int change(const statement_with_values& statement, const QString& where) override;
     QString as_sent(const QString& statement) const override;
 
@@ -20,6 +22,9 @@ protected:
     virtual QString text_literal(QStringView text) const = 0;
     /// A part of a statement outside its texts, in the dialect of the engine.
     virtual QString in_dialect(const QString& part) const { return part; }
+
+    /// How the driver returns a text unchanged.
+    virtual text_form texts() const = 0;
 
     QString literal(const QVariant& value) const;
 };

@@ -12,8 +12,8 @@ namespace verdane {
 
 /// In which form a driver returns the characters of a text unchanged, as UTF-8.
 enum class text_form {
-    characters,  ///< as characters (SQL_C_CHAR)
-    bytes        ///< as bytes (SQL_C_BINARY); as characters, the driver would convert them to the locale
+    characters,  ///< as characters (SQL_C_CHAR); as bytes, SQLite's driver would decode the text `X'41'`
+    bytes        ///< as bytes (SQL_C_BINARY); as characters, MariaDB's driver would use the locale
 };
 
 /// The rows of a statement on an ODBC connection, read into bound columns. The driver of the toolkit asks

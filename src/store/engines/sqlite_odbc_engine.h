@@ -34,6 +34,7 @@ public:
 
 protected:
     QString text_literal(QStringView text) const override;
+    text_form texts() const override { return text_form::characters; }
 
 private:
     QString path_of_file() const;
