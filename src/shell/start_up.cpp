@@ -3,8 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 
-#include <csignal>
-
+#include "base/oversized_writes.h"
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
 #include "controls/events.h"
@@ -36,15 +35,6 @@ namespace verdane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Makes a write beyond the limit on file sizes (`ulimit -f`) fail like a write to a full disk. Without this
-/// call such a write ends the process. Does nothing on systems without that limit.
-void let_oversized_writes_fail()
-{
-#ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN);
-#endif
-}
 
 /// Sets the language to that of the store. Opens the language window if none has been chosen yet.
 start_result load_language(Recordset& rssettings)

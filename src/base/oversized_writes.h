@@ -1,0 +1,9 @@
+#pragma once
+
+namespace verdane {
+
+/// Makes a write beyond the limit on file sizes (`ulimit -f`) fail like a write to a full disk. Without this
+/// call such a write ends the process. Called once, at the start; does nothing on systems without that limit.
+void let_oversized_writes_fail();
+
+}  // namespace verdane
