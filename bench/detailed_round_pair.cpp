@@ -18,9 +18,9 @@ namespace {
 
 constexpr int round_in_diary = 183;
 
-void open_detailed_round(benchmark::State& state)
+void open_detailed_round(benchmark::State& state, const store_location& diary)
 {
-    const opened_store store(diaries_of_run().full());
+    const opened_store store(diary);
     for (auto _ : state) {
         open_tables_of_list();
         const stopwatch watch;
@@ -88,7 +88,13 @@ void open_detailed_page_floor(benchmark::State& state)
 
 void register_detailed_round()
 {
-    register_timed("open_detailed_round", open_detailed_round);
+    register_timed("open_detailed_round", [](benchmark::State& state) {
+        open_detailed_round(state, store_location::file(diaries_of_run().full()));
+    });
+    if (diaries_of_run().on_source())
+        register_timed("open_detailed_round" + on_source, [](benchmark::State& state) {
+            open_detailed_round(state, *diaries_of_run().on_source());
+        });
     register_timed("open_detailed_round_floor", open_detailed_round_floor);
     register_timed("open_detailed_page", open_detailed_page);
     register_timed("open_detailed_page_floor", open_detailed_page_floor);

@@ -8,6 +8,7 @@
 #include "scoring/limits.h"
 #include "shell/language_change.h"
 #include "store/DataEnvironment1.h"
+#include "store/diary_copy.h"
 #include "tests/support/reader.h"
 
 namespace verdane::bench {
@@ -65,16 +66,32 @@ QString diaries::with_free_keys() const
     return created(u"with_free_keys.db"_s, rounds_with_free_keys);
 }
 
+std::optional<store_location> diaries::on_source() const
+{
+    const store_location source = default_store();
+    if (source.where != store_location::place::source)
+        return std::nullopt;
+    if (!is_on_source_) {
+        Connection1 from;
+        from.Open(full());
+        Connection1 to;
+        to.Open(source);
+        copy_diary(from, to, [](const counted_table&) {});
+        is_on_source_ = true;
+    }
+    return source;
+}
+
 const diaries& diaries_of_run()
 {
     static const diaries all;
     return all;
 }
 
-opened_store::opened_store(const QString& path)
+opened_store::opened_store(const store_location& store)
 {
     set_interface_language(false);
-    data_environment().connection.Open(path);
+    data_environment().connection.Open(store);
 }
 
 opened_store::~opened_store()

@@ -3,6 +3,9 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include <optional>
+
+#include "store/store_location.h"
 #include "tests/support/full_diary.h"
 
 namespace verdane::bench {
@@ -20,6 +23,9 @@ public:
     QString half() const;
     /// 300 rounds: every save uses one of the 366 entries for keys, so a full diary allows no save.
     QString with_free_keys() const;
+    /// The same rounds as `full` on the registered data source, which must be empty at first. Nothing if no
+    /// source is registered.
+    std::optional<store_location> on_source() const;
     /// The value of `XDG_DATA_HOME` with which the program opens the full diary.
     QString data_home() const;
 
@@ -30,6 +36,7 @@ private:
     QString created(const QString& name, int rounds) const;
 
     QTemporaryDir folder_;
+    mutable bool is_on_source_ = false;
 };
 
 /// The diaries of this run; made at the first call.
@@ -38,7 +45,8 @@ const diaries& diaries_of_run();
 /// Keeps the program's connection open on a store.
 class opened_store {
 public:
-    explicit opened_store(const QString& path);
+    explicit opened_store(const store_location& store);
+    explicit opened_store(const QString& path) : opened_store(store_location::file(path)) {}
     ~opened_store();
     opened_store(const opened_store&) = delete;
     opened_store& operator=(const opened_store&) = delete;

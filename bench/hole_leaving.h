@@ -50,9 +50,10 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
 
 /// The same with the stored round that is opened by `open(key, work)`, on the page that is measured.
 template <typename Open, typename Change>
-void leave_holes_of_stored_round(benchmark::State& state, hole_seen end, Open open, Change change)
+void leave_holes_of_stored_round(benchmark::State& state, hole_seen end, Open open, Change change,
+                                 const std::optional<store_location>& diary = {})
 {
-    const opened_store store(diaries_of_run().with_free_keys());
+    const opened_store store(diary ? *diary : store_location::file(diaries_of_run().with_free_keys()));
     open_tables_of_list();
     open(testing::key_in_diary(round_of_left_holes),
          [&](f_new_round& window) { leave_holes(state, window, end, change); });

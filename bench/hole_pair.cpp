@@ -39,6 +39,12 @@ void leave_hole(benchmark::State& state)
     leave_holes_of_stored_round(state, hole_seen::filled_in, in_round_window, change_figures);
 }
 
+void leave_hole_on_source(benchmark::State& state)
+{
+    leave_holes_of_stored_round(state, hole_seen::filled_in, in_round_window, change_figures,
+                                diaries_of_run().on_source());
+}
+
 void leave_hole_painted(benchmark::State& state)
 {
     leave_holes_of_stored_round(state, hole_seen::painted, in_round_window, change_figures);
@@ -71,6 +77,8 @@ void leave_hole_floor(benchmark::State& state)
 void register_hole()
 {
     register_timed("leave_hole", leave_hole);
+    if (diaries_of_run().on_source())
+        register_timed("leave_hole" + on_source, leave_hole_on_source);
     register_timed("leave_hole_painted", leave_hole_painted);
     register_timed("leave_hole_floor", leave_hole_floor);
 }

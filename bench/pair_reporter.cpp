@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <string_view>
 
 namespace verdane::bench {
 
@@ -9,6 +10,7 @@ namespace {
 
 constexpr const char* floor_ending = "_floor";
 constexpr const char* half_ending = "_half";
+constexpr const char* source_ending = "_on_source";
 
 double median(std::vector<double> times)
 {
@@ -44,8 +46,13 @@ void pair_reporter::Finalize()
     std::sort(names_.begin(), names_.end());
     print_head("median of the repetitions", "floor ms", "ratio");
     for (const std::string& name : names_) {
-        if (!name.ends_with(floor_ending) && !name.ends_with(half_ending))
+        if (!name.ends_with(floor_ending) && !name.ends_with(half_ending) && !name.ends_with(source_ending))
             print_beside(name, name + floor_ending);
+    }
+    print_head("on the registered source", "file ms", "ratio");
+    for (const std::string& name : names_) {
+        if (name.ends_with(source_ending))
+            print_beside(name, name.substr(0, name.size() - std::string_view(source_ending).size()));
     }
     print_head("twice the rounds", "half ms", "growth");
     for (const std::string& name : names_) {

@@ -9,6 +9,7 @@
 namespace verdane::bench {
 
 /// Prints, after all runs, the median of each measurement, that of its floor and their ratio;
+/// those on the registered data source next to the same on a file (suffix "_on_source");
 /// then the growth of those that are also measured on half of the rounds (suffix "_half").
 class pair_reporter : public benchmark::ConsoleReporter {
 public:

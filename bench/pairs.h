@@ -15,6 +15,10 @@ void register_timed(const std::string& name, const Measurement& measurement)
     benchmark::RegisterBenchmark(name.c_str(), measurement)->UseManualTime()->Unit(benchmark::kMillisecond);
 }
 
+/// The suffix of a measurement on the registered data source. The one without it, on a file, is its
+/// comparison.
+inline const std::string on_source = "_on_source";
+
 void register_start();
 void register_round_list();
 void register_hole();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "records/round_list.h"
 #include "round/f_new_round.h"
 #include "round/page_bar.h"
 #include "round/round_opening.h"
@@ -12,7 +13,7 @@ namespace verdane::bench {
 
 void open_tables_of_list()
 {
-    data_environment().rsgames.Open();
+    Round_functions::open_rounds_in_time_order();
     data_environment().rsfield_info.Open();
 }
 

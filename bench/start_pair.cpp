@@ -62,13 +62,32 @@ void time_start(benchmark::State& state, const char* program, const QStringList&
     }
 }
 
+/// Hides the registered data source from the programs that are started during its lifetime.
+class without_source {
+public:
+    without_source() { qputenv("ODBCINI", "/dev/null"); }
+    ~without_source() { qputenv("ODBCINI", sources_); }
+    without_source(const without_source&) = delete;
+    without_source& operator=(const without_source&) = delete;
+
+private:
+    const QByteArray sources_ = qgetenv("ODBCINI");
+};
+
 void start(benchmark::State& state)
+{
+    const without_source file_only;
+    time_start(state, "timed_start_verdane", {u"shown"_s});
+}
+
+void start_on_source(benchmark::State& state)
 {
     time_start(state, "timed_start_verdane", {u"shown"_s});
 }
 
 void start_settled(benchmark::State& state)
 {
+    const without_source file_only;
     time_start(state, "timed_start_verdane", {u"settled"_s});
 }
 
@@ -87,6 +106,8 @@ void start_of_one_word(benchmark::State& state)
 void register_start()
 {
     register_timed("start", start);
+    if (diaries_of_run().on_source())
+        register_timed("start" + on_source, start_on_source);
     register_timed("start_floor", start_floor);
     register_timed("start_settled", start_settled);
     register_timed("start_of_one_word", start_of_one_word);

@@ -17,9 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void time_statistic(benchmark::State& state, const statistic_pair& pair, const QString& path, int rounds)
+void time_statistic_on(benchmark::State& state, const statistic_pair& pair, const store_location& diary,
+                       int rounds)
 {
-    const opened_store store(path);
+    const opened_store store(diary);
     const selection_arguments chosen = first_rounds(rounds, pair.clauses);
     QProgressBar bar;
     run_progress progress(bar);
@@ -30,6 +31,11 @@ void time_statistic(benchmark::State& state, const statistic_pair& pair, const Q
             state.SkipWithError("the selection holds no round");
         state.SetIterationTime(watch.seconds());
     }
+}
+
+void time_statistic(benchmark::State& state, const statistic_pair& pair, const QString& path, int rounds)
+{
+    time_statistic_on(state, pair, store_location::file(path), rounds);
 }
 
 void time_floor(benchmark::State& state, const statistic_pair& pair, const QString& path, int rounds)
@@ -72,6 +78,11 @@ void register_statistic(const statistic_pair& pair)
 {
     register_full_and_half(pair.name, pair, time_statistic);
     register_full_and_half(pair.name + "_floor", pair, time_floor);
+    if (!diaries_of_run().on_source())
+        return;
+    register_timed(pair.name + on_source, [=](benchmark::State& state) {
+        time_statistic_on(state, pair, *diaries_of_run().on_source(), testing::rounds_of_full_diary);
+    });
 }
 
 QString columns_of_holes(const QString& prefix, const QString& suffix)
