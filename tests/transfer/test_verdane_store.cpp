@@ -4,10 +4,12 @@
 
 #include "store/Connection1.h"
 #include "store/diary_copy.h"
+#include "tests/support/engine_of_tests.h"
 #include "tests/support/full_diary.h"
 #include "tests/support/reader.h"
 #include "tests/transfer/store_run.h"
 #include "transfer/copy_command.h"
+#include "transfer/store_argument.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
@@ -36,6 +38,19 @@ struct copied_folder {
     QTemporaryDir folder;
     QString diary = folder.filePath(u"diary/Verdbase.db"_s);
     QString target = folder.filePath(u"target/Verdbase.db"_s);
+};
+
+/// A store on the engine of the tests, without tables.
+struct other_store {
+    other_store() : place(testing::new_store_place(folder.filePath(u"other"_s))) {}
+    ~other_store() { testing::remove_store_place(place); }
+    other_store(const other_store&) = delete;
+    other_store& operator=(const other_store&) = delete;
+
+    QString argument() const { return argument_of_store(place); }
+
+    QTemporaryDir folder;
+    store_location place;
 };
 
 /// Every row of every table in order, as text.
@@ -75,6 +90,32 @@ private Q_SLOTS:
         QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
         QVERIFY2(run.output().contains(u"games: 12 rows\n"), qUtf8Printable(run.output()));
         QVERIFY2(run.output().contains(u"Copied and checked: 18 tables, "), qUtf8Printable(run.output()));
+    }
+
+    void a_diary_is_the_same_after_a_copy_to_the_engine_of_the_tests_and_back()
+    {
+        const copied_folder folder;
+        const other_store other;
+        QCOMPARE(store_run({u"copy"_s, file(folder.diary), other.argument()}).run(),
+                 status(exit_status::done));
+        QCOMPARE(store_run({u"copy"_s, other.argument(), file(folder.target)}).run(),
+                 status(exit_status::done));
+        QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
+        QCOMPARE(store_run({u"copy"_s, file(folder.diary), other.argument()}).run(),
+                 status(exit_status::not_empty));
+    }
+
+    void a_copy_to_the_engine_of_the_tests_that_is_killed_can_be_made_again()
+    {
+        const copied_folder folder;
+        const other_store other;
+        store_run run({u"copy"_s, file(folder.diary), other.argument()});
+        run.start();
+        QVERIFY2(run.wait_for(u"Stat_rounds: "_s), qUtf8Printable(run.output()));
+        run.kill();
+        QTRY_COMPARE(store_run({u"copy"_s, file(folder.diary), other.argument()}).run(),
+                     status(exit_status::done));
+        QCOMPARE(testing::reader(other.place).number(u"select count(*) from games"_s), rounds);
     }
 
     void a_target_with_rows_is_refused_and_not_changed()
