@@ -96,6 +96,8 @@ void copy_from(Connection1& connection, const copied_tables& tables, const QSqlD
     const store_engine& engine = connection.engine();
     const lock_wait::limit wait(connection.waiting(), lock_wait::default_time_out_s);
     connection.Execute(engine.commits().begin);
+    // SQLite makes the table of this function at its first use, which the query of a template may not do.
+    run(target, u"select count(*) from pragma_table_info('none')"_s);
     run(target, u"begin"_s);
     for (const QString& name : tables.names) {
         const table* copied = find_table(name);

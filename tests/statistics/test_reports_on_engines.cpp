@@ -125,6 +125,7 @@ class test_reports_on_engines : public QObject {
     Q_OBJECT
 
     QTemporaryDir folder_;
+    QTemporaryDir other_folder_;
     store_location file_;
     store_location other_;
 
@@ -134,7 +135,7 @@ private Q_SLOTS:
         file_ = store_location::file(folder_.filePath(u"file/Verdbase.db"_s));
         create_diary(file_, rounds, true);
         clear_sixth_putts(file_);
-        other_ = new_store_place(folder_.filePath(u"other"_s));
+        other_ = new_store_place(other_folder_.path());
         copy(file_, other_);
     }
 
