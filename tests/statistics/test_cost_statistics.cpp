@@ -12,6 +12,7 @@
 #include "tests/support/failures.h"
 #include "tests/support/hand_widgets.h"
 #include "tests/support/store_folder.h"
+#include "tests/support/wide_column.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -124,16 +125,20 @@ private Q_SLOTS:
 
     void an_amount_beyond_32_bits_is_an_overflow_and_nothing_is_copied_data()
     {
-        QTest::addColumn<QString>("change");
-        QTest::newRow("too large") << u"au = 2147483648"_s;
-        QTest::newRow("too far below 0") << u"fg = -2147483649"_s;
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<QString>("amount");
+        QTest::newRow("too large") << u"au"_s << u"2147483648"_s;
+        QTest::newRow("too far below 0") << u"fg"_s << u"-2147483649"_s;
     }
     void an_amount_beyond_32_bits_is_an_overflow_and_nothing_is_copied()
     {
-        QFETCH(QString, change);
+        QFETCH(QString, column);
+        QFETCH(QString, amount);
         const stored_costs costs(3);
         QVERIFY(fill(days(2, 2)));
-        costs.book.store.write(u"update cost set "_s + change + u" where date = '" + key_of_day(3) + u'\'');
+        widen_column(costs.location(), u"cost"_s, column);
+        costs.book.store.write(
+            u"update cost set %1 = %2 where date = '%3'"_s.arg(column, amount, key_of_day(3)));
         QVERIFY(failure_of([] { fill(days(1, 3)); }) == failure_kind::overflow);
         data_environment().rscost.Close();
         QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(2, u"1"_s)}));
@@ -169,7 +174,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, french);
         const stored_costs costs(2, french);
-        costs.book.store.write(u"insert into r_cost (date) values ('of the last run')"_s);
+        costs.book.store.write(u"insert into r_cost (date) values ('last run')"_s);
         in_selection_window(
             [&](hand& user) {
                 select_range(user, 1, 0);

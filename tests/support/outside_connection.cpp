@@ -32,7 +32,9 @@ bool is_on_server(const store_location& store)
 QString in_words_of_server(QString statement)
 {
     static const QRegularExpression row_number(u"\\browid\\b"_s, QRegularExpression::CaseInsensitiveOption);
-    return statement.replace(row_number, u"verdane_row"_s);
+    // A column of the shots has the name of a reserved word.
+    static const QRegularExpression reserved_name(u"\\bbefore\\b(?=\\s*[,=)])"_s);
+    return statement.replace(row_number, u"verdane_row"_s).replace(reserved_name, u"`before`"_s);
 }
 
 }  // namespace
