@@ -66,12 +66,25 @@ private Q_SLOTS:
         QTEST(kind_of_mariadb_opening(code), "kind");
     }
 
+    void a_server_that_does_not_run_the_first_query_cannot_be_used()
+    {
+        QVERIFY(kind_of_unusable_server(1047, u"WSREP has not yet prepared node"_s) ==
+                failure_kind::source_stopped);
+        QVERIFY(kind_of_unusable_server(2013, u"Lost connection"_s) == failure_kind::source_silent);
+        QVERIFY(kind_of_unusable_server(0, QString()) == failure_kind::source_silent);
+        QVERIFY(!kind_of_unusable_server(1, u"no such function: version (1)"_s));
+        QVERIFY(!kind_of_unusable_server(195, u"not a recognized built-in function name"_s));
+    }
+
     void a_source_of_an_unknown_engine_is_unsupported_data()
     {
         QTest::addColumn<QString>("server");
         QTest::addColumn<QString>("sqlite");
         QTest::addColumn<source_kind>("kind");
         QTest::newRow("MariaDB") << u"10.11.6-MariaDB-0+deb12u1"_s << QString() << source_kind::mariadb;
+        QTest::newRow("oldest MariaDB") << u"10.5.0-MariaDB"_s << QString() << source_kind::mariadb;
+        QTest::newRow("newer MariaDB") << u"11.4.2-MariaDB-log"_s << QString() << source_kind::mariadb;
+        QTest::newRow("too old MariaDB") << u"10.4.34-MariaDB"_s << QString() << source_kind::unsupported;
         QTest::newRow("SQLite") << QString() << u"3.40.1"_s << source_kind::sqlite;
         QTest::newRow("MySQL") << u"8.0.33"_s << QString() << source_kind::unsupported;
         QTest::newRow("PostgreSQL") << u"PostgreSQL 15.4 on x86_64"_s << QString()

@@ -17,6 +17,7 @@ constexpr int storage_error = 1030;
 constexpr int database_denied = 1044;
 constexpr int account_denied = 1045;
 constexpr int no_database_selected = 1046;
+constexpr int node_not_ready = 1047;
 constexpr int unknown_database = 1049;
 constexpr int server_shutdown = 1053;
 constexpr int unknown_column = 1054;
@@ -72,6 +73,16 @@ failure_kind kind_of_mariadb_opening(int number)
     default:
         return failure_kind::source_stopped;
     }
+}
+
+std::optional<failure_kind> kind_of_unusable_server(int number, const QString& text)
+{
+    // A node of a cluster that has lost the other nodes accepts connections and refuses queries.
+    if (number == code::node_not_ready)
+        return failure_kind::source_stopped;
+    if (kind_of_mariadb_error(number, text) == failure_kind::source_lost)
+        return failure_kind::source_silent;
+    return std::nullopt;
 }
 
 failure_kind kind_of_mariadb_error(int number, const QString& text)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "base/run_time_failure.h"
 
 /// The meaning of the error numbers of MariaDB and of its driver.
@@ -7,6 +9,9 @@ namespace verdane {
 
 /// Of an error while the connection is opened. Any unknown one means that no server accepts it.
 failure_kind kind_of_mariadb_opening(int code);
+
+/// Of an error of the first query. Nothing if the server has run it and does not know its function.
+std::optional<failure_kind> kind_of_unusable_server(int code, const QString& text);
 
 /// Of an error of a statement. `text` is empty after the connection was lost.
 failure_kind kind_of_mariadb_error(int code, const QString& text);

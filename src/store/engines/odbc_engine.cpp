@@ -2,8 +2,10 @@
 
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QVersionNumber>
 
 #include "store/engines/mariadb_engine.h"
+#include "store/engines/mariadb_errors.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/sql_text.h"
 #include "store/engines/sqlite_odbc_engine.h"
@@ -14,11 +16,42 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first value of a query; empty if the engine does not know its function.
-QString first_value_or_none(const QString& connection, const QString& question)
+/// The oldest server that returns the identity of an inserted row with the insertion.
+const QVersionNumber oldest_mariadb(10, 5);
+
+/// The first value of a query, or its error.
+struct value_or_error {
+    value_or_error(const QString& connection, const QString& question)
+    {
+        QSqlQuery query(QSqlDatabase::database(connection, false));
+        if (query.exec(question) && query.next())
+            value = query.value(0).toString();
+        else
+            error = query.lastError();
+    }
+
+    QString value;
+    QSqlError error;
+};
+
+[[noreturn]] void refuse(const QString& connection, failure_kind kind, const QString& details)
 {
-    QSqlQuery query(QSqlDatabase::database(connection, false));
-    return query.exec(question) && query.next() ? query.value(0).toString() : QString();
+    QSqlDatabase::database(connection, false).close();
+    QSqlDatabase::removeDatabase(connection);
+    throw run_time_failure(kind, details);
+}
+
+/// The version of the server; empty if the engine does not know the function.
+QString version_of_server(const QString& connection, const QString& source)
+{
+    const value_or_error version(connection, u"select version()"_s);
+    if (version.error.isValid()) {
+        const int code = native_code(version.error);
+        const QString text = version.error.databaseText();
+        if (const auto kind = kind_of_unusable_server(code, text))
+            refuse(connection, *kind, u"%1: %2 (%3)"_s.arg(source, text).arg(code));
+    }
+    return version.value;
 }
 
 }  // namespace
@@ -61,7 +94,8 @@ QString odbc_engine::as_sent(const QString& statement) const
 source_kind kind_of_source(const QString& server, const QString& sqlite)
 {
     if (server.contains(u"MariaDB", Qt::CaseInsensitive))
-        return source_kind::mariadb;
+        return QVersionNumber::fromString(server) < oldest_mariadb ? source_kind::unsupported
+                                                                   : source_kind::mariadb;
     return server.isEmpty() && !sqlite.isEmpty() ? source_kind::sqlite : source_kind::unsupported;
 }
 
@@ -69,9 +103,9 @@ std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_
 {
     sqlite_odbc_engine::check_before_opening(where.name);
     open_link(name, where.name);
-    const QString server = first_value_or_none(name, u"select version()"_s);
+    const QString server = version_of_server(name, where.name);
     const QString sqlite =
-        server.isEmpty() ? first_value_or_none(name, u"select sqlite_version()"_s) : QString();
+        server.isEmpty() ? value_or_error(name, u"select sqlite_version()"_s).value : QString();
     switch (kind_of_source(server, sqlite)) {
     case source_kind::mariadb:
         return std::make_unique<mariadb_engine>(name, where);
@@ -80,9 +114,8 @@ std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_
     case source_kind::unsupported:
         break;
     }
-    QSqlDatabase::database(name, false).close();
-    QSqlDatabase::removeDatabase(name);
-    throw run_time_failure(failure_kind::source_engine, u"%1: %2"_s.arg(where.name, server));
+    refuse(name, failure_kind::source_engine,
+           u"%1: %2 (MariaDB %3, SQLite)"_s.arg(where.name, server, oldest_mariadb.toString()));
 }
 
 }  // namespace verdane
