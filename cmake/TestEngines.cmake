@@ -18,7 +18,8 @@ set(VERDANE_TESTS_WITHOUT_STORE
   test_drawing_texts
   test_class_captions
   test_club_texts test_selection_clauses
-  test_column_value test_mariadb_errors test_select_statement test_source_tables test_sql_text test_tables)
+  test_column_value test_mariadb_errors test_mariadb_tables test_registered_source test_select_statement
+  test_source_tables test_sql_text test_tables)
 
 # The only list of the tests that run on the embedded engine alone, with the reason.
 set(VERDANE_FILE_TESTS

@@ -72,7 +72,7 @@ void mariadb_engine::check_server() const
 void mariadb_engine::take_lock() const
 {
     const QString question =
-        u"select get_lock(concat('verdane ', md5(database())), %1)"_s.arg(lock_time_out_s);
+        u"select get_lock(concat('verdane ', md5(lower(database()))), %1)"_s.arg(lock_time_out_s);
     if (first_value(question) != u"1")
         throw run_time_failure(failure_kind::store_locked, where_.name);
 }

@@ -21,7 +21,7 @@ QString mariadb_tables::ending(const table& declared)
 
 QString mariadb_tables::question()
 {
-    return u"select table_name, column_name, column_key from information_schema.columns "
+    return u"select table_name, column_name, column_key, extra from information_schema.columns "
            u"where table_schema = database() order by table_name, ordinal_position"_s;
 }
 
@@ -32,7 +32,8 @@ mariadb_tables::mariadb_tables(QSqlQuery& columns)
         const QString column = columns.value(1).toString();
         if (column == row_column())
             identified_ << table;
-        else
+        // `select *` returns a column that identifies rows unless it is invisible.
+        if (!columns.value(3).toString().contains(u"INVISIBLE", Qt::CaseInsensitive))
             columns_[table] << column;
         if (columns.value(2).toString() == u"PRI")
             keyed_ << table;

@@ -28,7 +28,7 @@ public:
     /// From the rows of that question.
     explicit mariadb_tables(QSqlQuery& columns);
 
-    /// Without the columns that identify rows.
+    /// The columns that `select *` returns.
     const source_tables& columns() const { return columns_; }
     bool contains(QStringView table) const;
     bool has_row_column(QStringView table) const;

@@ -1,6 +1,8 @@
 #include "store/engines/registered_source.h"
 
 #include <QByteArray>
+#include <QDir>
+#include <QFile>
 #include <QLibrary>
 
 namespace verdane {
@@ -30,7 +32,7 @@ QFunctionPointer resolve_reader()
 #endif
 }
 
-/// Null if the library is not installed, in which case no source can be used.
+/// Null if the library is not installed, in which case no source can be opened.
 read_profile profile_reader()
 {
     static const auto reader = reinterpret_cast<read_profile>(resolve_reader());
@@ -48,11 +50,42 @@ QString profile(const QString& name, const char* setting)
     return QString::fromLocal8Bit(value.constData());
 }
 
+#ifdef Q_OS_WIN
+bool is_named_in_files(const QString&)
+{
+    return false;
+}
+#else
+/// True if a line of the file is the name of a source between brackets. Names have no case.
+bool names_source(const QString& path, const QString& name)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    while (!file.atEnd()) {
+        const QString line = QString::fromLocal8Bit(file.readLine()).trimmed();
+        const QString found = line.mid(1).section(u']', 0, 0).trimmed();
+        if (line.startsWith(u'[') && found.compare(name, Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return false;
+}
+
+/// True if a source of that name is in the file of the user or in that of the computer, where the driver
+/// manager looks for it.
+bool is_named_in_files(const QString& name)
+{
+    const QString of_user = qEnvironmentVariable("ODBCINI", QDir::homePath() + u"/.odbc.ini");
+    const QString of_computer = qEnvironmentVariable("ODBCSYSINI", u"/etc"_s) + u"/odbc.ini";
+    return names_source(of_user, name) || names_source(of_computer, name);
+}
+#endif
+
 }  // namespace
 
 bool is_registered_source(const QString& name)
 {
-    return !profile(name, nullptr).isEmpty();
+    return !profile(name, nullptr).isEmpty() || is_named_in_files(name);
 }
 
 QString setting_of_source(const QString& name, const QString& setting)

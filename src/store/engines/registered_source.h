@@ -6,8 +6,9 @@
 /// library of the driver manager, which does not load the manager or a driver.
 namespace verdane {
 
-/// True if a source of that name is registered for the user or for the computer. Always false without the
-/// installer library.
+/// True if a source of that name is registered for the user or for the computer, even if it has no settings
+/// or if the installer library is missing: it cannot be opened then, but the program must not use the file
+/// instead.
 bool is_registered_source(const QString& name);
 
 /// A setting of a registered source (`Driver`, `Database`); empty if there is none.
