@@ -137,10 +137,12 @@ QString in_back_quotes(const QString& name)
 /// Takes the cells of a row that was read completely.
 void take_cells(recordset_row& row, recordset_row& read, const row_set& set, const QString& where)
 {
-    if (read.cells.size() != set.columns.size())
+    if (read.cells.size() < set.columns.size())
         throw run_time_failure(failure_kind::missing_table,
-                               QString(where + u": the table has other columns than the program"));
+                               QString(where + u": the table has fewer columns than the program"));
     row.cells = std::move(read.cells);
+    // A table may have further columns after those of the program.
+    row.cells.resize(set.columns.size());
     row.complete = true;
 }
 

@@ -131,6 +131,20 @@ private Q_SLOTS:
         QCOMPARE(failure_of([&] { rows.Fields(at::NAME).value(); }), failure_kind::misuse);
     }
 
+    void columns_after_those_of_the_program_are_ignored()
+    {
+        store_fixture store;
+        store.connection.Execute(u"alter table partners add column remark text"_s);
+        store.add_partners(testing::three_names);
+        const auto rows = store.recordset(u"select * from partners order by NAME"_s);
+        rows->Open(only_codes);
+        rows->Find(u"code = 2"_s);
+        rows->Fields(at::NAME).set(u"x"_s);
+        rows->Find(u"NAME = 'c'"_s);
+        QCOMPARE(plain(rows->Fields(at::code).to_int16()), 3);
+        QCOMPARE(stored_names(store), u"a x c"_s);
+    }
+
     void requery_reads_the_first_columns_again()
     {
         const coded_partners partners;
