@@ -76,7 +76,7 @@ QFrame* course_holes::make_page(int number, int first_index)
     auto* page = new course_page;
     QGridLayout* grid = page->make_grid(rhythm);
     add_headings(*grid, number);
-    for (int index = first_index; index < first_index + holes_on_a_page; ++index)
+    for (int index = first_index; index < first_index + nine_holes; ++index)
         add_hole(*grid, index);
     for (const int column : {yards_column, stroke_index_column, par_column})
         grid->setColumnStretch(column, 1);
@@ -109,7 +109,7 @@ void course_holes::add_hole(QGridLayout& grid, int index)
     add_box(yards, index, hole + window_.caption(u"distance", u"distance"));
     add_box(stroke_index, index, hole + window_.caption(u"handicap", u"handicap"));
     add_box(par, index, hole + window_.caption(u"normale", u"par"));
-    const int row = first_hole_row + 2 * (index % holes_on_a_page);
+    const int row = first_hole_row + 2 * (index % nine_holes);
     grid.addWidget(named(make_label(number), QString(u"lbl_number_" + number)), row, number_column);
     grid.addWidget(&box(yards, index), row, yards_column, Qt::AlignRight);
     grid.addWidget(&box(stroke_index, index), row, stroke_index_column, Qt::AlignRight);
@@ -199,7 +199,7 @@ std::vector<QWidget*> course_holes::tab_order(int first_index) const
 {
     std::vector<QWidget*> order;
     for (const figure which : {yards, stroke_index, par}) {
-        for (int index = first_index; index < first_index + holes_on_a_page; ++index)
+        for (int index = first_index; index < first_index + nine_holes; ++index)
             order.push_back(&box(which, index));
     }
     return order;

@@ -23,7 +23,6 @@ class Form;
 class course_holes {
 public:
     enum figure { yards, stroke_index, par };
-    static constexpr int holes_on_a_page = hole_count / 2;
 
     explicit course_holes(const Form& window);
 

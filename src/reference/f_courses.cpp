@@ -26,7 +26,7 @@ namespace {
 
 constexpr QSize usual_size(pixels(10410), pixels(8700));
 constexpr int left_margin = 3 * rhythm;
-constexpr int first_back_index = course_holes::holes_on_a_page;
+constexpr int first_back_index = nine_holes;
 
 void append(std::vector<QWidget*>& order, const std::vector<QWidget*>& more)
 {
@@ -37,7 +37,7 @@ void append(std::vector<QWidget*>& order, const std::vector<QWidget*>& more)
 
 f_courses::f_courses(bool new_course)
     : Form(u"f_courses"),
-      isNew(new_course),
+      isNew_(new_course),
       tabs_(named(new TabStrip, u"TabStrip1")),
       general_(new course_general_page(*this)),
       front_yards_(named(new QLabel, u"lbl_alle")),
@@ -129,7 +129,7 @@ void f_courses::set_tab_order()
 
 void f_courses::connect_events()
 {
-    general_->changed = [this] { needtosave = true; };
+    general_->changed = [this] { mark_changed(); };
     holes_.yards_entered = [this] { f_courses_func::yards_entered(*this); };
     tabs_->clicked = [this] { f_courses_func::page_clicked(*this); };
     on_click(*ok_, [this] {
@@ -158,8 +158,8 @@ int16 f_courses::selected_page() const
 void f_courses::show_page(int16 page)
 {
     pages_(plain(page)).show();
-    pages_(plain(curFrame)).hide();
-    curFrame = page;
+    pages_(plain(curFrame_)).hide();
+    curFrame_ = page;
 }
 
 void f_courses::show_totals()

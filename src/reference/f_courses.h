@@ -23,13 +23,23 @@ public:
     /// `new_course` is true if the rows were just added.
     explicit f_courses(bool new_course);
 
-    bool isNew;
-    bool isCreated = false;
-    bool needtosave = true;
+    /// True if the rows were added for this editor, also after they have been saved.
+    bool isNew() const { return isNew_; }
+    /// Always false: opening the editor sets it, and nothing else changes it.
+    bool isCreated() const { return isCreated_; }
+    /// True from the start until the first save, and after any change.
+    bool needtosave() const { return needtosave_; }
     /// The page on screen: 1 general, 2 holes 1 to 9, 3 holes 10 to 18.
-    int16 curFrame = 1;
+    int16 curFrame() const { return curFrame_; }
     /// Result of the last save.
-    bool saveSucceed = false;
+    bool saveSucceed() const { return saveSucceed_; }
+
+    void mark_changed() { needtosave_ = true; }
+    /// Until the save has succeeded, it counts as failed.
+    void save_begins() { saveSucceed_ = false; }
+    void save_succeeded() { saveSucceed_ = true; }
+    /// The changes are no longer to be saved; the result of the last save does not change.
+    void changes_are_settled() { needtosave_ = false; }
 
     course_general_page& general() const { return *general_; }
     course_holes& holes() { return holes_; }
@@ -57,6 +67,12 @@ private:
     void set_tab_order();
     void connect_events();
     void add_shortcuts();
+
+    const bool isNew_;
+    const bool isCreated_ = false;
+    bool needtosave_ = true;
+    bool saveSucceed_ = false;
+    int16 curFrame_ = 1;
 
     TabStrip* tabs_;
     control_array<QFrame> pages_{u"frm"};

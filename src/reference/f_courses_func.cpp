@@ -65,7 +65,7 @@ bool settle_changes(f_courses& window)
     switch (ask_whether_to_save(window)) {
     case QMessageBox::Yes:
         save(window);
-        return window.saveSucceed;
+        return window.saveSucceed();
     case QMessageBox::No:
         edited_course::cancel();
         return true;
@@ -76,10 +76,10 @@ bool settle_changes(f_courses& window)
 
 void focus_first_box(f_courses& window)
 {
-    if (window.curFrame == 1)
+    if (window.curFrame() == 1)
         window.general().focus_name();
     else
-        window.holes().focus_yards(window.curFrame == 2 ? 0 : course_holes::holes_on_a_page);
+        window.holes().focus_yards(window.curFrame() == 2 ? 0 : nine_holes);
 }
 
 }  // namespace
@@ -88,7 +88,7 @@ void load(f_courses& window)
 {
     current_form = &window;
     Place_and_lock(window);
-    if (window.isNew)
+    if (window.isNew())
         return;
     edited_course::show(window.general(), window.holes());
     window.show_totals();
@@ -96,29 +96,29 @@ void load(f_courses& window)
 
 void save(f_courses& window)
 {
-    window.saveSucceed = false;
+    window.save_begins();
     if (!has_name_and_figures(window)) {
         refuse_incomplete(window);
         return;
     }
-    if (window.isNew && !set_key_of_new_course(window))
+    if (window.isNew() && !set_key_of_new_course(window))
         return;
     edited_course::write(window.general(), window.holes());
     if (!edited_course::commit())
         show_information(u"Fatal Error : 101"_s);
-    window.needtosave = false;
+    window.changes_are_settled();
     show_information(window.caption(u"Les modifications sont enregistrées.", u"Changes have been saved"),
                      QMessageBox::Information);
-    window.saveSucceed = true;
+    window.save_succeeded();
 }
 
 void close(f_courses& window)
 {
-    if (!window.needtosave) {
+    if (!window.needtosave()) {
         edited_course::cancel();
         window.unload();
     } else if (settle_changes(window)) {
-        window.needtosave = false;
+        window.changes_are_settled();
         window.unload();
     }
     // Also when the window stays open: it is modal, so the main window cannot be used anyway.
@@ -128,14 +128,14 @@ void close(f_courses& window)
 void page_clicked(f_courses& window)
 {
     const int16 page = window.selected_page();
-    if (page != window.curFrame)
+    if (page != window.curFrame())
         window.show_page(page);
     focus_first_box(window);
 }
 
 void yards_entered(f_courses& window)
 {
-    window.needtosave = true;
+    window.mark_changed();
     window.show_totals();
 }
 
@@ -152,7 +152,7 @@ void toolbar_clicked(f_courses& window, QStringView key)
 
 void unload(f_courses& window)
 {
-    if (window.needtosave)
+    if (window.needtosave())
         edited_course::cancel();
     Unlock_menu();
 }

@@ -4,6 +4,8 @@
 namespace verdane {
 
 constexpr int hole_count = 18;
+/// The holes of the front nine, and of the back nine.
+constexpr int nine_holes = hole_count / 2;
 /// The clubs of the bag; the last one is the putter.
 constexpr int club_count = 14;
 /// Putts of a hole whose lengths are stored.

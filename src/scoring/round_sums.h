@@ -11,7 +11,7 @@
 namespace verdane {
 
 /// The last hole of the front nine.
-constexpr int last_front_hole = hole_count / 2;
+constexpr int last_front_hole = nine_holes;
 
 /// One value for each hole, indexed 1 to 18.
 template <typename Value>

@@ -20,7 +20,7 @@ Recordset& card()
 void write_holes(int holes_before)
 {
     Recordset& holes = data_environment().rsfield_info;
-    for (int place = 1; place <= holes_of_a_row; ++place) {
+    for (int place = 1; place <= nine_holes; ++place) {
         const int hole = holes_before + place;
         card().Fields(card_yards(place)).set(holes.Fields(tables::field_info::yards_h(hole)).value());
         card().Fields(card_hole(place)).set(hole);
@@ -45,7 +45,7 @@ void write_rows_of_holes()
     write_course();
     card().Update();
     card().MoveNext();
-    write_holes(holes_of_a_row);
+    write_holes(nine_holes);
     write_course();
 }
 

@@ -11,21 +11,20 @@ enum class lock_type { optimistic, batch_optimistic };
 enum class cursor_location { server, client };
 
 /// The settings of a recordset, applied whenever it is opened. Each recordset of the catalogue is declared
-/// next to its table. Cursor, location and cache size are listed for completeness: they have no effect on a
-/// store that is one local file, for the reason given at each.
+/// next to its table. Cursor, location and cache size are listed for completeness: they have no effect, for
+/// the reason given at each.
 template <typename Text>
 struct basic_recordset_settings {
     Text name;
     Text source;
     /// No effect: both kinds of cursor read their rows once, and later rows after `Requery`. Only one program
-    /// changes the file, so a dynamic cursor would find no changes of others.
+    /// changes a store, so a dynamic cursor would find no changes of others.
     cursor_type cursor = cursor_type::fixed;
     lock_type lock = lock_type::optimistic;
-    /// No effect: the engine is a library of this process, so the rows of server-side and client-side cursors
-    /// are in the same memory.
+    /// No effect: the rows that were read are in the memory of this process on every engine.
     cursor_location location = cursor_location::server;
-    /// No effect: a recordset keeps all its rows, and without a network, fetching several rows at a time
-    /// saves nothing.
+    /// No effect: a recordset keeps all rows that it has read, and the engines decide how many they fetch at
+    /// a time.
     int cache_rows = 100;
     /// How long a statement waits for the lock of another program, in seconds.
     int time_out_s = 30;

@@ -109,7 +109,7 @@ private Q_SLOTS:
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(refusal_of_missing());
             user.wait_for_window(editor_window());
-            with_editor(user, [](f_courses& window) { QVERIFY(window.needtosave); });
+            with_editor(user, [](f_courses& window) { QVERIFY(window.needtosave()); });
             discard(user);
         });
         QCOMPARE(figures(store), figures_before);
@@ -121,10 +121,10 @@ private Q_SLOTS:
         add_three_courses(store);
         in_stored_course(0, [](hand& user) {
             with_editor(user, [](f_courses& window) {
-                QVERIFY(window.needtosave);
-                QVERIFY(!window.isNew);
-                QVERIFY(!window.isCreated);
-                QVERIFY(!window.saveSucceed);
+                QVERIFY(window.needtosave());
+                QVERIFY(!window.isNew());
+                QVERIFY(!window.isCreated());
+                QVERIFY(!window.saveSucceed());
             });
             discard(user);
         });
@@ -143,7 +143,7 @@ private Q_SLOTS:
         const course_store store;
         add_three_courses(store);
         in_new_course([&](hand& user) {
-            with_editor(user, [](f_courses& window) { QVERIFY(window.isNew); });
+            with_editor(user, [](f_courses& window) { QVERIFY(window.isNew()); });
             fill_required(user, u"Delta"_s);
             if (way == u"button"_s)
                 discard(user);
@@ -231,8 +231,8 @@ private Q_SLOTS:
             user.click_tab(u"TabStrip1"_s, 1);
             save_by_shortcut(user);
             with_editor(user, [](f_courses& window) {
-                QVERIFY(window.saveSucceed);
-                QVERIFY(!window.needtosave);
+                QVERIFY(window.saveSucceed());
+                QVERIFY(!window.needtosave());
             });
             user.key(Qt::Key_W, Qt::ControlModifier);
             user.wait_until_gone(editor_window());

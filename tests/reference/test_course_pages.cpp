@@ -24,7 +24,7 @@ void check_page(hand& user, int page, const QString& focus)
         user.same(user.visible(u"frm_"_s + QString::number(other)), other == page,
                   u"page "_s + QString::number(other));
     user.same(user.focus(), focus, u"focus"_s);
-    with_editor(user, [page](f_courses& window) { QCOMPARE(plain(window.curFrame), page); });
+    with_editor(user, [page](f_courses& window) { QCOMPARE(plain(window.curFrame()), page); });
 }
 
 /// The boxes that Tab visits from the focus to `last`, both included.

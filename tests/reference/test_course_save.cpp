@@ -114,8 +114,8 @@ private Q_SLOTS:
             // OK closes the window after the save, and the changes are still unsaved.
             user.answer(question_on_closing(), QMessageBox::Cancel);
             with_editor(user, [](f_courses& window) {
-                QVERIFY(!window.saveSucceed);
-                QVERIFY(window.needtosave);
+                QVERIFY(!window.saveSucceed());
+                QVERIFY(window.needtosave());
             });
             discard(user);
         });
@@ -135,7 +135,7 @@ private Q_SLOTS:
             user.click(u"smdsave"_s);
             user.answer(refusal_of_duplicate(u"beTA"_s, in_language(u"Bleu", u"Blue")));
             user.answer(question_on_closing(), QMessageBox::Cancel);
-            with_editor(user, [](f_courses& window) { QVERIFY(!window.saveSucceed); });
+            with_editor(user, [](f_courses& window) { QVERIFY(!window.saveSucceed()); });
             // With another tee the course is not a duplicate.
             user.choose(u"departure"_s, 4);
             save_by_ok(user);

@@ -154,10 +154,10 @@ constexpr named_run named_runs[] = {
     {"s_put1", u"band_", s_put1::band_j, putt_band_count},
     {"s_put1", u"mean_band_", s_put1::mean_band_j, putt_band_count},
     {"s_put2", u"band_", s_put2::band_j, putt_band_count},
-    {"r_card", u"card_yards_", r_card::card_yards, r_card::holes_of_a_row},
-    {"r_card", u"card_hole_", r_card::card_hole, r_card::holes_of_a_row},
-    {"r_card", u"card_hcp_", r_card::card_hcp, r_card::holes_of_a_row},
-    {"r_card", u"card_par_", r_card::card_par, r_card::holes_of_a_row},
+    {"r_card", u"card_yards_", r_card::card_yards, nine_holes},
+    {"r_card", u"card_hole_", r_card::card_hole, nine_holes},
+    {"r_card", u"card_hcp_", r_card::card_hcp, nine_holes},
+    {"r_card", u"card_par_", r_card::card_par, nine_holes},
     {"r_card", u"card_club_", r_card::card_club, r_card::clubs_on_card},
 };
 

@@ -7,15 +7,14 @@
 /// no column.
 namespace verdane::tables::r_card {
 
-inline constexpr int holes_of_a_row = hole_count / 2;
 inline constexpr int clubs_on_card = club_count - 1;
 
 inline constexpr column_list columns{
     unused({u"card_row"}).filled_with(fixed_value::row_from_one),
-    count({u"card_yards_"}).numbered(holes_of_a_row),
-    count({u"card_hole_"}).numbered(holes_of_a_row),
-    count({u"card_hcp_"}).numbered(holes_of_a_row),
-    count({u"card_par_"}).numbered(holes_of_a_row),
+    count({u"card_yards_"}).numbered(nine_holes),
+    count({u"card_hole_"}).numbered(nine_holes),
+    count({u"card_hcp_"}).numbered(nine_holes),
+    count({u"card_par_"}).numbered(nine_holes),
     text({u"card_name", u"card_slope", u"card_tee", u"card_rating"}),
     unused({u"card_spare"}),
     real({u"card_club_"}).numbered(clubs_on_card),
@@ -39,6 +38,6 @@ inline constexpr int card_tee = columns.ordinal(u"card_tee");
 inline constexpr int card_rating = columns.ordinal(u"card_rating");
 inline constexpr column_run card_club = columns.run(u"card_club_");
 
-static_assert(card_par(holes_of_a_row) == 36 && card_club(clubs_on_card) == 54);
+static_assert(card_par(nine_holes) == 36 && card_club(clubs_on_card) == 54);
 
 }  // namespace verdane::tables::r_card
