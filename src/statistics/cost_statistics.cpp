@@ -10,19 +10,20 @@
 
 namespace verdane::Statistics {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int step_of_a_round = 3;
 
+/// Removes all rows by one statement: a source on a server takes ten times as long for one of each row.
 void remove_rows(Recordset& report)
 {
-    report.Open();
-    if (!report.empty()) {
-        for (report.MoveFirst(); !report.eof(); report.MoveNext())
-            report.Delete();
-    }
-    report.UpdateBatch();
+    report.Open(row_reading::one_by_one);
+    const bool has_rows = !report.eof();
     report.Close();
+    if (has_rows)
+        data_environment().connection.Execute(u"delete from r_cost"_s);
 }
 
 void check_amounts(Recordset& cost)
