@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <functional>
+
 #include "base/failure_words.h"
 #include "base/run_time_failure.h"
 #include "store/diary_copy.h"
@@ -36,6 +38,16 @@ exit_status report(const run_time_failure& failure)
     const exit_status status =
         failure.kind() == failure_kind::store_locked ? exit_status::in_use : exit_status::failed;
     return refuse(status, failure_words(failure.kind()).in(is_french) + u'\n' + failure.details());
+}
+
+/// Runs a step; its failure is reported.
+exit_status reported(const std::function<exit_status()>& step)
+{
+    try {
+        return step();
+    } catch (const run_time_failure& failure) {
+        return report(failure);
+    }
 }
 
 exit_status refuse_without_diary(const store_location& from)
@@ -78,9 +90,15 @@ exit_status copy(const store_location& from, const store_location& to)
 {
     Connection1 source;
     source.Open(from);
+    const bool is_new_file = is_missing_file(to);
     Connection1 target;
+    // A failure to open removes nothing but what it has made: there may be the log of a file that was lost.
     target.Open(to);
-    return copy_open_stores(source, target);
+    const exit_status status = reported([&] { return copy_open_stores(source, target); });
+    target.Close();
+    if (status != exit_status::done && is_new_file)
+        remove_store_files(to.name);
+    return status;
 }
 
 }  // namespace
@@ -95,17 +113,7 @@ exit_status run_copy(const QStringList& arguments)
                                   u"Two different stores are needed: verdane-store copy FROM TO (--help)"));
     if (is_missing_file(*from))
         return refuse_without_diary(*from);
-    const bool is_new_file = is_missing_file(*to);
-    exit_status status = exit_status::failed;
-    try {
-        status = copy(*from, *to);
-    } catch (const run_time_failure& failure) {
-        status = report(failure);
-    }
-    // A file that was made for the copy is removed again.
-    if (status != exit_status::done && is_new_file)
-        remove_store_files(to->name);
-    return status;
+    return reported([&] { return copy(*from, *to); });
 }
 
 }  // namespace verdane

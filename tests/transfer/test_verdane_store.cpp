@@ -1,4 +1,6 @@
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -212,6 +214,19 @@ private Q_SLOTS:
         french.set_language(u"fr_CA.UTF-8"_s);
         QCOMPARE(french.run(), 0);
         QVERIFY2(french.output().contains(u"3 destination non vide"), qUtf8Printable(french.output()));
+    }
+
+    void the_log_of_a_target_that_was_lost_is_kept()
+    {
+        const copied_folder folder;
+        QVERIFY(QDir().mkpath(QFileInfo(folder.target).absolutePath()));
+        QFile log(folder.target + u"-wal");
+        QVERIFY(log.open(QIODevice::WriteOnly));
+        QCOMPARE(log.write("content"), 7);
+        log.close();
+        QCOMPARE(folder.copy(), status(exit_status::failed));
+        QCOMPARE(log.size(), 7);
+        QVERIFY(!QFile::exists(folder.target));
     }
 
     void a_full_disk_leaves_no_copy()
