@@ -46,11 +46,13 @@ int check_rows(Recordset& cost, run_progress& bar)
 }
 
 /// Copies all rows by one statement, which is much faster than adding them one by one. The statement copies
-/// any amount, so `check_rows` has to be called before.
+/// any amount, so `check_rows` has to be called before. The rounds are sorted by date on every engine: the
+/// embedded one reads them by the index of the dates, a server in any order.
 void copy_rows(const QString& selection)
 {
     data_environment().connection.Execute(
-        u"insert into r_cost (date,fg,cm,vt,ft,ba,tee,tex,nrt,lg,bs,ln,au) " + selection);
+        u"insert into r_cost (date,fg,cm,vt,ft,ba,tee,tex,nrt,lg,bs,ln,au) " + selection +
+        u" order by cost.date");
 }
 
 /// Writes the number of rounds to the first row of the table.
