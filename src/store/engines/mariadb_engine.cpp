@@ -58,6 +58,8 @@ void mariadb_engine::set_session() const
         u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
             .arg(source_lock_time_out_s)
             .arg(idle_time_out_s));
+    // The reads of a report see one moment, whatever the default of the server is.
+    run(u"set session transaction isolation level repeatable read"_s);
 }
 
 void mariadb_engine::check_server() const

@@ -58,7 +58,7 @@ QSqlError error_of(SQLHANDLE statement)
     return QSqlError({}, from_wide(text.data(), known), QSqlError::StatementError, QString::number(code));
 }
 
-enum class form { whole_number, real, text };
+enum class form { whole_number, real, decimal, text };
 
 form form_of(SQLSMALLINT type)
 {
@@ -72,9 +72,10 @@ form form_of(SQLSMALLINT type)
     case SQL_REAL:
     case SQL_FLOAT:
     case SQL_DOUBLE:
+        return form::real;
     case SQL_DECIMAL:
     case SQL_NUMERIC:
-        return form::real;
+        return form::decimal;
     default:
         return form::text;
     }
@@ -100,11 +101,12 @@ struct odbc_rows::bound_column {
             return &number;
         return kind == form::real ? static_cast<SQLPOINTER>(&real) : text.data();
     }
-    SQLLEN size() const { return kind == form::text ? text.size() : sizeof number; }
+    bool is_number() const { return kind == form::whole_number || kind == form::real; }
+    SQLLEN size() const { return is_number() ? static_cast<SQLLEN>(sizeof number) : text.size(); }
 
     /// A driver ends characters, but not bytes, with a zero byte.
     SQLLEN room() const { return size() - (type_in_memory == SQL_C_CHAR ? 1 : 0); }
-    bool is_cut() const { return kind == form::text && (length == SQL_NO_TOTAL || length > room()); }
+    bool is_cut() const { return !is_number() && (length == SQL_NO_TOTAL || length > room()); }
 };
 
 odbc_rows::odbc_rows(const QSqlDatabase& database, const QString& statement, text_form texts,
@@ -147,11 +149,12 @@ void odbc_rows::describe_columns(text_form texts)
                                    &letters, &type, &size, &digits, &nullable));
         column.name = from_wide(name.data(), letters);
         column.kind = form_of(type);
-        if (column.kind == form::text) {
-            column.type_in_memory = texts == text_form::bytes ? SQL_C_BINARY : SQL_C_CHAR;
-            column.text.resize(bytes_of_text);
-        } else {
+        if (column.is_number()) {
             column.type_in_memory = column.kind == form::real ? SQL_C_DOUBLE : SQL_C_SBIGINT;
+        } else {
+            const bool as_bytes = column.kind == form::text && texts == text_form::bytes;
+            column.type_in_memory = as_bytes ? SQL_C_BINARY : SQL_C_CHAR;
+            column.text.resize(bytes_of_text);
         }
     }
 }
@@ -206,6 +209,9 @@ QVariant odbc_rows::value(int column) const
         return static_cast<qlonglong>(read.number);
     case form::real:
         return read.real;
+    case form::decimal:
+        // A driver that converts it to a number reads the decimal point of the current locale.
+        return read.text.left(read.length).toDouble();
     case form::text:
         break;
     }
