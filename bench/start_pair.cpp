@@ -65,13 +65,22 @@ void time_start(benchmark::State& state, const char* program, const QStringList&
 /// Hides the registered data source from the programs that are started during its lifetime.
 class without_source {
 public:
-    without_source() { qputenv("ODBCINI", "/dev/null"); }
-    ~without_source() { qputenv("ODBCINI", sources_); }
+    without_source()
+    {
+        qputenv("ODBCINI", "/dev/null");
+        qputenv("ODBCSYSINI", "/dev/null");
+    }
+    ~without_source()
+    {
+        qputenv("ODBCINI", of_user_);
+        qputenv("ODBCSYSINI", of_system_);
+    }
     without_source(const without_source&) = delete;
     without_source& operator=(const without_source&) = delete;
 
 private:
-    const QByteArray sources_ = qgetenv("ODBCINI");
+    const QByteArray of_user_ = qgetenv("ODBCINI");
+    const QByteArray of_system_ = qgetenv("ODBCSYSINI");
 };
 
 void start(benchmark::State& state)
