@@ -38,7 +38,7 @@ QString declared_type(const column& column)
     return engine_type(column.type);
 }
 
-/// Both engines accept names between back quotes. Some of the columns are reserved words in one of them.
+/// The engines accept names between back quotes. Some of the columns are reserved words in one of them.
 QString in_back_quotes(const QString& name)
 {
     return u'`' + name + u'`';

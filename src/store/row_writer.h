@@ -4,7 +4,7 @@
 
 #include "store/row_reader.h"
 
-/// Writing rows to the store: one statement for each row, with every value bound. The rows in memory are not
+/// Writing rows to the store: one statement for each row. The rows in memory are not
 /// changed.
 namespace verdane {
 

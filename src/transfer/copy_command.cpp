@@ -109,7 +109,7 @@ exit_status run_copy(const QStringList& arguments)
     const auto to = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
     if (!from || !to || *from == *to)
         return refuse(exit_status::usage,
-                      in_language(u"Il faut deux magasins différents : verdane-store copy DE VERS (--help)",
+                      in_language(u"Il faut deux endroits différents : verdane-store copy DE VERS (--help)",
                                   u"Two different stores are needed: verdane-store copy FROM TO (--help)"));
     if (is_missing_file(*from))
         return refuse_without_diary(*from);

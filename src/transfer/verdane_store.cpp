@@ -17,7 +17,7 @@ QString description()
     return in_language(
         u"Travaille sur les journaux de Verdane.\n\n"
         "Commandes :\n"
-        "  copy DE VERS    copie un journal, ligne par ligne, dans un magasin vide, et compare les deux\n\n"
+        "  copy DE VERS    copie un journal, ligne par ligne, à un endroit vide, et compare les deux\n\n"
         "DE et VERS :\n"
         "  file            le fichier de Verdane\n"
         "  file:CHEMIN     un autre fichier\n"

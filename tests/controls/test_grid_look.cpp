@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
