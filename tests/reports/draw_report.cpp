@@ -16,6 +16,7 @@
 #include "tests/support/store_folder.h"
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv)
 {
