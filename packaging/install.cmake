@@ -3,6 +3,9 @@
 set(verdane_id io.verdane.Verdane)
 set(verdane_home lib/verdane)
 
+# All that an installation needs to be built.
+add_custom_target(verdane_product DEPENDS verdane verdane-store verdane_templates verdane_guide)
+
 install(TARGETS verdane verdane-store RUNTIME DESTINATION ${verdane_home})
 install(CODE [[
   set(commands "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
