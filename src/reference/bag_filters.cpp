@@ -150,9 +150,13 @@ void bag_filters::fill_partners_and_courses()
 
 selection_arguments bag_filters::selection() const
 {
-    return selection_of(controls_, clause_form::appended,
-                        {window_.caption(u"TOUS LES PARTENAIRES", u"All partners"),
-                         window_.caption(u"TOUS LES TERRAINS", u"All COURSES")});
+    selection_arguments chosen = selection_of(controls_, clause_form::appended,
+                                              {window_.caption(u"TOUS LES PARTENAIRES", u"All partners"),
+                                               window_.caption(u"TOUS LES TERRAINS", u"All COURSES")});
+    // The statement of the averages contains no blank for this filter.
+    if (chosen.course_code.isEmpty())
+        chosen.course_clause = QString();
+    return chosen;
 }
 
 }  // namespace verdane
