@@ -9,6 +9,8 @@
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/look.h"
@@ -25,6 +27,8 @@ namespace {
 
 constexpr int emblem_pixels = 80;
 constexpr int text_pixels = 320;
+/// A longer path is scrolled in its box.
+constexpr int most_path_pixels = 640;
 
 QLabel* make_text(const QString& text, double size = 1.0)
 {
@@ -60,6 +64,8 @@ QLineEdit* make_store_box(const Form& window)
     auto* box = named(new QLineEdit(text_of_store(window)), u"store");
     box->setReadOnly(true);
     box->setCursorPosition(0);
+    const int wanted = box->fontMetrics().horizontalAdvance(box->text()) + 3 * rhythm;
+    box->setMinimumWidth(std::min(wanted, most_path_pixels));
     return box;
 }
 
