@@ -4,28 +4,12 @@
 
 namespace verdane {
 
-text_pair failure_words(failure_kind kind)
+namespace {
+
+/// The failures of a store, whatever its engine is.
+text_pair words_of_store(failure_kind kind)
 {
     switch (kind) {
-    case failure_kind::overflow:
-        return {u"Un nombre est devenu trop grand pour Verdane. Ce qui était enregistré est intact.",
-                u"A number has grown too large for Verdane. What was saved is intact."};
-    case failure_kind::subscript:
-        return {u"Une liste de Verdane est pleine : elle ne peut contenir plus de 366 rondes ni plus "
-                u"de 51 terrains et départs. Ce qui était enregistré est intact.",
-                u"One of Verdane's lists is full: it holds no more than 366 rounds and 51 courses and "
-                u"tees. What was saved is intact."};
-    case failure_kind::invalid_null:
-        return {u"Il manque une valeur dans le journal. Ce qui était enregistré est intact.",
-                u"A value is missing in the diary. What was saved is intact."};
-    case failure_kind::bad_number:
-        return {u"Un texte n'est pas un nombre là où il en faut un. Ce qui était enregistré est "
-                u"intact.",
-                u"A text is no number where a number is needed. What was saved is intact."};
-    case failure_kind::misuse:
-        return {u"Verdane n'a pas trouvé ce qu'il cherchait dans le journal. Ce qui était enregistré "
-                u"est intact.",
-                u"Verdane did not find what it looked for in the diary. What was saved is intact."};
     case failure_kind::missing_table:
         return {u"Il manque une partie du journal (une table ou une colonne) ; le reste est intact. "
                 u"Remettez en place une copie complète du fichier.",
@@ -56,6 +40,44 @@ text_pair failure_words(failure_kind kind)
     case failure_kind::store_other:
         return {u"Le journal a refusé une opération. Ce qui était enregistré est intact.",
                 u"The diary refused an operation. What was saved is intact."};
+    default:
+        break;
+    }
+    return {u"Verdane ne peut pas continuer.", u"Verdane cannot go on."};
+}
+
+}  // namespace
+
+text_pair failure_words(failure_kind kind)
+{
+    switch (kind) {
+    case failure_kind::overflow:
+        return {u"Un nombre est devenu trop grand pour Verdane. Ce qui était enregistré est intact.",
+                u"A number has grown too large for Verdane. What was saved is intact."};
+    case failure_kind::subscript:
+        return {u"Une liste de Verdane est pleine : elle ne peut contenir plus de 366 rondes ni plus "
+                u"de 51 terrains et départs. Ce qui était enregistré est intact.",
+                u"One of Verdane's lists is full: it holds no more than 366 rounds and 51 courses and "
+                u"tees. What was saved is intact."};
+    case failure_kind::invalid_null:
+        return {u"Il manque une valeur dans le journal. Ce qui était enregistré est intact.",
+                u"A value is missing in the diary. What was saved is intact."};
+    case failure_kind::bad_number:
+        return {u"Un texte n'est pas un nombre là où il en faut un. Ce qui était enregistré est "
+                u"intact.",
+                u"A text is no number where a number is needed. What was saved is intact."};
+    case failure_kind::misuse:
+        return {u"Verdane n'a pas trouvé ce qu'il cherchait dans le journal. Ce qui était enregistré "
+                u"est intact.",
+                u"Verdane did not find what it looked for in the diary. What was saved is intact."};
+    case failure_kind::missing_table:
+    case failure_kind::store_locked:
+    case failure_kind::store_read_only:
+    case failure_kind::store_damaged:
+    case failure_kind::store_full:
+    case failure_kind::store_unreachable:
+    case failure_kind::store_other:
+        return words_of_store(kind);
     case failure_kind::source_unknown:
     case failure_kind::source_driver:
     case failure_kind::source_password:

@@ -2,6 +2,50 @@
 
 namespace verdane {
 
+namespace {
+
+/// The failures of a source that was opened.
+text_pair words_of_open_source(failure_kind kind)
+{
+    switch (kind) {
+    case failure_kind::source_table:
+        return {u"Il manque des tables dans la source de données ; les autres sont intactes. Remettez en "
+                u"place une copie complète du journal, ou indiquez une base de données vide. Rien n'a été "
+                u"modifié.",
+                u"Tables are missing in the data source; the others are intact. Put a complete copy of the "
+                u"diary back in place, or name an empty database. Nothing was changed."};
+    case failure_kind::source_column:
+        return {u"Une table de la source de données n'a pas les colonnes de Verdane : une colonne manque, "
+                u"porte un autre nom ou se trouve à une autre place. Corrigez la table, puis recommencez. "
+                u"Rien n'a été modifié.",
+                u"A table of the data source does not have Verdane's columns: a column is missing, has "
+                u"another name or is in another place. Correct the table, then start again. Nothing was "
+                u"changed."};
+    case failure_kind::source_read_only:
+        return {u"Le compte de la source de données n'a pas le droit d'écrire dans le journal. Donnez-lui ce "
+                u"droit sur le serveur, puis recommencez. Ce qui était enregistré est intact.",
+                u"The account of the data source may not write to the diary. Give it that right on the "
+                u"server, then start again. What was saved is intact."};
+    case failure_kind::source_full:
+        return {u"Il n'y a plus de place sur le disque du serveur. Libérez de l'espace sur le serveur, puis "
+                u"recommencez. Ce qui était enregistré est intact.",
+                u"There is no room left on the server's disk. Free some space on the server, then start "
+                u"again. What was saved is intact."};
+    case failure_kind::source_lost:
+        return {u"La connexion avec le serveur du journal est perdue. Ce qui était enregistré avant est "
+                u"intact ; le dernier enregistrement y est en entier ou pas du tout. Vérifiez le serveur et "
+                u"le réseau, relancez Verdane et contrôlez le dernier trou.",
+                u"The connection to the diary's server was lost. What was saved before is intact; the last "
+                u"save is there as a whole or not at all. Check the server and the network, start Verdane "
+                u"again and check the last hole."};
+    default:
+        break;
+    }
+    return {u"Verdane ne peut pas continuer.", u"Verdane cannot go on."};
+}
+
+}  // namespace
+
 text_pair source_failure_words(failure_kind kind)
 {
     switch (kind) {
@@ -47,40 +91,9 @@ text_pair source_failure_words(failure_kind kind)
                 u"Réglez lower_case_table_names=1 sur le serveur, puis recommencez. Rien n'a été modifié.",
                 u"The diary's server distinguishes capital from small letters in the names of tables. Set "
                 u"lower_case_table_names=1 on the server, then start again. Nothing was changed."};
-    case failure_kind::source_table:
-        return {u"Il manque des tables dans la source de données ; les autres sont intactes. Remettez en "
-                u"place une copie complète du journal, ou indiquez une base de données vide. Rien n'a été "
-                u"modifié.",
-                u"Tables are missing in the data source; the others are intact. Put a complete copy of the "
-                u"diary back in place, or name an empty database. Nothing was changed."};
-    case failure_kind::source_column:
-        return {u"Une table de la source de données n'a pas les colonnes de Verdane : une colonne manque, "
-                u"porte un autre nom ou se trouve à une autre place. Corrigez la table, puis recommencez. "
-                u"Rien n'a été modifié.",
-                u"A table of the data source does not have Verdane's columns: a column is missing, has "
-                u"another name or is in another place. Correct the table, then start again. Nothing was "
-                u"changed."};
-    case failure_kind::source_read_only:
-        return {u"Le compte de la source de données n'a pas le droit d'écrire dans le journal. Donnez-lui ce "
-                u"droit sur le serveur, puis recommencez. Ce qui était enregistré est intact.",
-                u"The account of the data source may not write to the diary. Give it that right on the "
-                u"server, then start again. What was saved is intact."};
-    case failure_kind::source_full:
-        return {u"Il n'y a plus de place sur le disque du serveur. Libérez de l'espace sur le serveur, puis "
-                u"recommencez. Ce qui était enregistré est intact.",
-                u"There is no room left on the server's disk. Free some space on the server, then start "
-                u"again. What was saved is intact."};
-    case failure_kind::source_lost:
-        return {u"La connexion avec le serveur du journal est perdue. Ce qui était enregistré avant est "
-                u"intact ; le dernier enregistrement y est en entier ou pas du tout. Vérifiez le serveur et "
-                u"le réseau, relancez Verdane et contrôlez le dernier trou.",
-                u"The connection to the diary's server was lost. What was saved before is intact; the last "
-                u"save is there as a whole or not at all. Check the server and the network, start Verdane "
-                u"again and check the last hole."};
     default:
-        break;
+        return words_of_open_source(kind);
     }
-    return {u"Verdane ne peut pas continuer.", u"Verdane cannot go on."};
 }
 
 }  // namespace verdane
