@@ -183,7 +183,7 @@ bool odbc_rows::next()
 
 QByteArray odbc_rows::whole_text(unsigned short number, short type) const
 {
-    constexpr SQLLEN bytes_of_part = 64 * 1024;
+    constexpr SQLLEN bytes_of_part = 65536;
     const SQLLEN room = bytes_of_part - (type == SQL_C_CHAR ? 1 : 0);
     QByteArray part(bytes_of_part, '\0');
     QByteArray whole;
