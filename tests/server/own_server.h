@@ -21,11 +21,11 @@ void administer(const QString& statement);
 /// Options of a server that can store at most that number of megabytes in the tables made since it has them.
 QStringList room_for_mb(int megabytes);
 
-/// Fills the rest of that room, and the pages of a table of a database with rows without a key: the next row
-/// of the table needs another page. Rows of pages that are not full can still be changed.
+/// Fills the disk space that `room_for_mb` allows, and the pages of a table, with rows that have no key. The
+/// next row of the table then needs another page. Rows of pages that are not full can still be changed.
 void fill_server(const QString& database, const QString& table);
 
-/// Removes those rows, for which the server needs more room, and stops the server.
+/// Removes those rows and stops the server. Removing them needs free disk space, too.
 void empty_server(const QString& database, const QString& table);
 
 }  // namespace verdane::testing
