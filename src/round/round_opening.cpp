@@ -1,5 +1,6 @@
 #include "round/round_opening.h"
 
+#include "base/language.h"
 #include "controls/boxes.h"
 #include "round/f_new_round.h"
 #include "round/hole_bar.h"
@@ -15,6 +16,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::int16_t first_hole = 1;
+
+/// The languages differ in icon and title, too.
+void show_no_course()
+{
+    if (is_french)
+        show_information(u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
+                         u"un terrain"_s,
+                         QMessageBox::Critical, u"Verdane"_s);
+    else
+        show_information(u"Verdane could not find any course. To create a round, you need to define at "
+                         u"least one course."_s);
+}
 
 void refuse_without_row_in_games2(f_new_round& window)
 {
@@ -45,7 +58,11 @@ bool load_stored_round(f_new_round& window, const QString& key)
 
 void start_new_round()
 {
-    if (!round_record::has_a_course())
+    const bool any_course = round_record::open_courses();
+    if (!any_course)
+        show_no_course();
+    round_record::close_courses();
+    if (!any_course)
         return;
     round_record::open_games_and_field_info();
     prepare_round_window();

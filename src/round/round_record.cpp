@@ -1,7 +1,5 @@
 #include "round/round_record.h"
 
-#include "base/language.h"
-#include "controls/boxes.h"
 #include "records/Main_module.h"
 #include "records/round_rows.h"
 #include "store/commits.h"
@@ -14,26 +12,12 @@
 
 namespace verdane::round_record {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 namespace games = tables::games;
 namespace games2 = tables::games2;
 namespace cost = tables::cost;
 namespace vrd_fields = tables::vrd_fields;
-
-/// The languages differ in icon and title, too.
-void show_no_course()
-{
-    if (is_french)
-        show_information(u"Verdane n'a trouvé aucun terrain. Pour créer une ronde il faut definir au moin "
-                         u"un terrain"_s,
-                         QMessageBox::Critical, u"Verdane"_s);
-    else
-        show_information(u"Verdane could not find any course. To create a round, you need to define at "
-                         u"least one course."_s);
-}
 
 void find_first(Recordset& recordset, QStringView criterion, const QString& value,
                 search_direction direction = search_direction::forward)
@@ -80,15 +64,16 @@ void commit_and_find(Recordset& recordset, const QString& key)
 
 }  // namespace
 
-bool has_a_course()
+bool open_courses()
 {
     Recordset& courses = data_environment().rsvrd_fields;
     courses.Open();
-    const bool none = courses.bof() || courses.eof();
-    if (none)
-        show_no_course();
-    courses.Close();
-    return !none;
+    return !courses.bof() && !courses.eof();
+}
+
+void close_courses()
+{
+    data_environment().rsvrd_fields.Close();
 }
 
 void open_games_and_field_info()

@@ -20,8 +20,9 @@ struct round_header {
 /// `rsvrd_fields` and `rsfield_info` for its course.
 namespace round_record {
 
-/// False, after a message, when there is no course.
-bool has_a_course();
+/// Opens the courses. False when there is none.
+bool open_courses();
+void close_courses();
 
 /// Opens the recordsets that the list of rounds has opened when it opens a stored round.
 void open_games_and_field_info();
