@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "base/language.h"
+#include "base/version.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/failure_guard.h"
@@ -196,7 +197,7 @@ void MainForm::enable_tool_button(QStringView key, bool enabled)
 
 void MainForm::activated()
 {
-    setWindowTitle(in_language(u"Verdane pour PC version 1.4", u"Verdane for PC version 1.4"));
+    setWindowTitle(in_language(u"Verdane pour PC version ", u"Verdane for PC version ") + program_version());
     fit_pictures();
     Picture1_->setVisible(is_french);
     Picture2_->setVisible(!is_french);

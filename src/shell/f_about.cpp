@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "base/version.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/look.h"
@@ -87,7 +88,7 @@ QLayout* f_about::make_texts()
     auto* texts = new QVBoxLayout;
     texts->setSpacing(rhythm);
     texts->addWidget(text(u"lblTitle", caption(u"VERDANE pour PC", u"VERDANE for PC"), 1.6));
-    texts->addWidget(text(u"lblVersion", u"Version 1.4"_s));
+    texts->addWidget(text(u"lblVersion", QString(u"Version " + program_version())));
     texts->addWidget(lines.add(0, make_line()));
     texts->addWidget(
         text(u"lblDescription", caption(u"Le journal et les statistiques de vos rondes de golf.",

@@ -4,6 +4,7 @@
 #include <QIcon>
 
 #include "base/oversized_writes.h"
+#include "base/version.h"
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
 #include "controls/events.h"
@@ -109,7 +110,7 @@ void prepare_application(QApplication& application)
     let_oversized_writes_fail();
     link_pictures();
     QCoreApplication::setApplicationName(u"Verdane"_s);
-    QCoreApplication::setApplicationVersion(u"1.4"_s);
+    QCoreApplication::setApplicationVersion(program_version());
     QGuiApplication::setDesktopFileName(u"io.verdane.Verdane"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/art/verdane.svg"_s));
     apply_look(application);

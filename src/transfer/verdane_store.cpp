@@ -5,6 +5,7 @@
 
 #include "base/language.h"
 #include "base/oversized_writes.h"
+#include "base/version.h"
 #include "transfer/copy_command.h"
 
 using namespace verdane;
@@ -57,7 +58,7 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     // The name decides in which folder the file of the program is.
     QCoreApplication::setApplicationName(u"Verdane"_s);
-    QCoreApplication::setApplicationVersion(u"1.4"_s);
+    QCoreApplication::setApplicationVersion(program_version());
     is_french = QLocale::system().language() == QLocale::French;
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
