@@ -1,5 +1,7 @@
 #include "records/course_rows.h"
 
+#include "base/language.h"
+#include "scoring/Verdane_tools.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"
@@ -22,3 +24,12 @@ void find_holes_of_course(search_direction direction)
 }
 
 }  // namespace verdane::Round_functions
+
+namespace verdane::Verdane_tools {
+
+QString tee_name(QStringView digit)
+{
+    return tee_name_in(is_french, digit);
+}
+
+}  // namespace verdane::Verdane_tools

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QString>
+#include <QStringView>
+
 #include "store/Recordset.h"
 
 /// Positions `rsvrd_fields` and `rsfield_info` on the rows of a course. The caller has opened them.
@@ -14,3 +17,10 @@ void move_to_course(int list_index);
 void find_holes_of_course(search_direction direction = search_direction::forward);
 
 }  // namespace verdane::Round_functions
+
+namespace verdane::Verdane_tools {
+
+/// `tee_name_in` for the current language of the interface.
+QString tee_name(QStringView digit);
+
+}  // namespace verdane::Verdane_tools

@@ -7,7 +7,6 @@
 #include "reference/course_keys.h"
 #include "reference/f_c_list.h"
 #include "reference/f_courses.h"
-#include "scoring/Verdane_tools.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"
 #include "store/tables/games.h"

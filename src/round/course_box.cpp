@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "records/course_rows.h"
 #include "scoring/Verdane_tools.h"
 
 namespace verdane {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/language.h"
 #include "base/numbers.h"
 #include "controls/failure_guard.h"
 #include "records/Main_module.h"
@@ -95,7 +96,7 @@ void shot_entry::walk_shots(int& incomplete)
     shot_list rows = rows_.read();
     if (rows.empty())
         return;
-    const shots_check found = verdane::check_shots(rows, card_of_shots().yards, units_of_interface());
+    const shots_check found = verdane::check_shots(rows, card_of_shots().yards, units_in(is_french));
     rows_.write(rows, [&](int row) {
         if (row + 1 == found.incomplete)
             incomplete = found.incomplete;
@@ -162,7 +163,7 @@ std::optional<int16> shot_entry::prepare_next_shot()
 {
     shots().MoveLast();
     shot_list rows = rows_.read();
-    const next_shot_plan plan = plan_next_shot(rows, units_of_interface());
+    const next_shot_plan plan = plan_next_shot(rows, units_in(is_french));
     if (plan.refused)
         return std::nullopt;
     PUT_MODE_ = plan.PUT_MODE;

@@ -2,7 +2,6 @@
 
 #include <string_view>
 
-#include "base/language.h"
 #include "base/text.h"
 #include "scoring/words.h"
 
@@ -59,14 +58,14 @@ QString pad_zero(QString& text, int16 width)
     return text;
 }
 
-QString tee_name(QStringView digit)
+QString tee_name_in(bool french, QStringView digit)
 {
     const QStringView code = trimmed_blanks(digit);
     if (code.size() != 1 || code.front() < u'0' || code.front() > u'7')
         return {};
     const int tee = code.front().unicode() - u'0';
-    const QString name = tee_words[static_cast<std::size_t>(tee)].in(is_french);
-    return is_french && tee < tees_in_capitals ? in_capitals(name) : name;
+    const QString name = tee_words[static_cast<std::size_t>(tee)].in(french);
+    return french && tee < tees_in_capitals ? in_capitals(name) : name;
 }
 
 int32 name_checksum(QString& first, QString& second)

@@ -1,6 +1,5 @@
 #include "scoring/hole_shots.h"
 
-#include "base/language.h"
 #include "base/numbers.h"
 #include "scoring/words.h"
 
@@ -75,9 +74,9 @@ bool hole_shot::is_complete() const
     return shot_type_value != 0 && stickval != 0;
 }
 
-unit_words units_of_interface()
+unit_words units_in(bool french)
 {
-    return {feet_words.in(is_french), yards_words.in(is_french)};
+    return {feet_words.in(french), yards_words.in(french)};
 }
 
 shots_check check_shots(shot_list& rows, int16 hole_length, const unit_words& words)

@@ -43,8 +43,8 @@ struct unit_words {
     QString yards;
 };
 
-/// Those in the language of the interface.
-unit_words units_of_interface();
+/// The words of one language.
+unit_words units_in(bool french);
 
 /// The result of the check of a hole.
 struct shots_check {

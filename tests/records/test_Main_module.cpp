@@ -1,5 +1,7 @@
 #include <QTest>
 
+#include "base/language.h"
+#include "records/course_rows.h"
 #include "records/Main_module.h"
 #include "tests/support/failures.h"
 
@@ -41,6 +43,17 @@ private Q_SLOTS:
         QVERIFY(failure_of([] { Main_module::append_round_key(u"x"_s); }) == failure_kind::subscript);
         QCOMPARE(plain(Main_module::round_key_count), 366);
         QCOMPARE(Main_module::round_keys[365], u"365"_s);
+    }
+
+    void a_tee_has_the_name_of_the_current_language()
+    {
+        is_french = true;
+        QCOMPARE(Verdane_tools::tee_name(u"6"), u"Vert"_s);
+        QCOMPARE(Verdane_tools::tee_name(u"0"), u"BLANC"_s);
+        is_french = false;
+        QCOMPARE(Verdane_tools::tee_name(u"6"), u"Green"_s);
+        QCOMPARE(Verdane_tools::tee_name(u"0"), u"White"_s);
+        is_french = true;
     }
 
     void a_key_is_free_until_a_round_has_it()

@@ -1,6 +1,5 @@
 #include <QTest>
 
-#include "base/language.h"
 #include "scoring/Verdane_tools.h"
 #include "tests/support/failures.h"
 
@@ -13,8 +12,6 @@ class test_Verdane_tools : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { is_french = true; }
-
     void a_text_is_padded_on_the_right_data()
     {
         QTest::addColumn<QString>("text");
@@ -114,9 +111,8 @@ private Q_SLOTS:
         QFETCH(QString, digit);
         QFETCH(QString, french);
         QFETCH(QString, english);
-        QCOMPARE(tee_name(digit), french);
-        is_french = false;
-        QCOMPARE(tee_name(digit), english);
+        QCOMPARE(tee_name_in(true, digit), french);
+        QCOMPARE(tee_name_in(false, digit), english);
     }
 
     void two_names_have_a_checksum_data()

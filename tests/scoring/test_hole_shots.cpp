@@ -1,6 +1,5 @@
 #include <QTest>
 
-#include "base/language.h"
 #include "scoring/hole_shots.h"
 #include "scoring/words.h"
 #include "tests/scoring/shot_tables.h"
@@ -27,7 +26,7 @@ class test_hole_shots : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void units_are_read_in_both_languages_and_written_in_the_current_one()
+    void units_are_read_in_both_languages_and_written_in_the_wanted_one()
     {
         for (const QStringView word : {u"Pieds", u"Feets"})
             QVERIFY(is_feet_word(word) && !is_yards_word(word));
@@ -35,12 +34,10 @@ private Q_SLOTS:
             QVERIFY(is_yards_word(word) && !is_feet_word(word));
         for (const QStringView word : {u"", u"pieds", u"Feet", u"Yard"})
             QVERIFY(!is_yards_word(word) && !is_feet_word(word));
-        is_french = false;
-        QCOMPARE(units_of_interface().feet, u"Feets"_s);
-        QCOMPARE(units_of_interface().yards, u"Yards"_s);
-        is_french = true;
-        QCOMPARE(units_of_interface().feet, u"Pieds"_s);
-        QCOMPARE(units_of_interface().yards, u"Verges"_s);
+        QCOMPARE(units_in(false).feet, u"Feets"_s);
+        QCOMPARE(units_in(false).yards, u"Yards"_s);
+        QCOMPARE(units_in(true).feet, u"Pieds"_s);
+        QCOMPARE(units_in(true).yards, u"Verges"_s);
     }
 
     void the_check_fills_and_converts_the_rows_data()
