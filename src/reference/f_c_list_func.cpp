@@ -7,6 +7,7 @@
 #include "reference/course_keys.h"
 #include "reference/f_c_list.h"
 #include "reference/f_courses.h"
+#include "scoring/round_key.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"
 #include "store/tables/games.h"
