@@ -16,7 +16,8 @@ install(CODE [[
 
 install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING
   PATTERN "*.rpt" PATTERN "*.layout")
-install(DIRECTORY guide DESTINATION ${verdane_home} FILES_MATCHING
+# The second folder has the pages that the build makes.
+install(DIRECTORY guide/ ${CMAKE_BINARY_DIR}/guide/pages/ DESTINATION ${verdane_home}/guide FILES_MATCHING
   PATTERN "*.html" PATTERN "*.css" PATTERN "*.png")
 install(FILES packaging/${verdane_id}.desktop DESTINATION share/applications)
 install(FILES packaging/${verdane_id}.metainfo.xml DESTINATION share/metainfo)

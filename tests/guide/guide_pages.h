@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-/// The files of the guide, read from the sources.
+/// The files of the guide, read from the build, which adds the pages that F1 opens.
 namespace verdane::testing {
 
 struct page_element {
