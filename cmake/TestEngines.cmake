@@ -37,8 +37,7 @@ set(VERDANE_FILE_TESTS
   test_locked_diary         # see test_lock_wait
   test_locked_removal       # see test_lock_wait
   test_soundness            # damages bytes of the file
-  test_start_refusals       # permissions and content of the file
-  test_full_diary)          # generated rows, read sixty times: a server's would be copied as often
+  test_start_refusals)      # permissions and content of the file
 
 set(VERDANE_FOLDERS_ON_ALL_ENGINES store statistics guided_day)
 

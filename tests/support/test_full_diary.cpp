@@ -22,6 +22,16 @@ QString over_the_holes(const QString& prefix)
     return columns.join(u" + "_s);
 }
 
+/// The columns of a table that belong to the holes, as rows of `date`, `hole` and `figure`. `column` is the
+/// name of such a column with %1 for the hole.
+QString figures_by_hole(const QString& table, const QString& column)
+{
+    QStringList parts;
+    for (int h = 1; h <= holes; ++h)
+        parts << u"select date, %1 as hole, "_s.arg(h) + column.arg(h) + u" as figure from " + table;
+    return parts.join(u" union all "_s);
+}
+
 }  // namespace
 
 class test_full_diary : public QObject {
@@ -89,17 +99,14 @@ private Q_SLOTS:
         QFETCH(QString, table);
         QFETCH(QString, figure);
         QFETCH(QString, shots);
-        int all = 0;
-        for (int h = 1; h <= holes; ++h) {
-            const QString column = u"%1_%2"_s.arg(figure).arg(h);
-            const QString counted = u"(select count(*) from Stat_rounds s where s.date = r.date "
-                                    u"and s.hole = %1 and (%2))"_s.arg(h)
-                                        .arg(shots);
-            QCOMPARE(store().number(u"select count(*) from %1 r where %2 is null or %2 <> %3"_s.arg(
-                         table, column, counted)),
-                     0);
-            all += store().number(u"select sum(%1) from %2"_s.arg(column, table));
-        }
+        const QString counted =
+            u"select date, hole, sum(%1) as figure from Stat_rounds group by date, hole"_s.arg(shots);
+        const auto sums = store().rows(
+            u"select sum(r.figure is null or r.figure <> coalesce(s.figure, 0)), sum(r.figure) from (%1) r "
+            u"left join (%2) s on s.date = r.date and s.hole = r.hole"_s.arg(
+                figures_by_hole(table, figure + u"_%1"), counted));
+        QCOMPARE(sums[0][0].toInt(), 0);
+        const int all = sums[0][1].toInt();
         QVERIFY2(all > 0, "the diary has values of this figure");
     }
 
@@ -125,14 +132,13 @@ private Q_SLOTS:
 
     void the_lengths_of_the_putts_are_the_distances_before_them()
     {
-        for (int h = 1; h <= holes; ++h) {
-            const QString first = u"(select s.before from Stat_rounds s where s.date = r.date and "
-                                  u"s.hole = %1 and shot_type_value = 3 order by shot limit 1)"_s.arg(h);
-            QCOMPARE(store().number(
-                         u"select count(*) from games2 r where putt_len_%1_1 <> ifnull(%2, 0)"_s.arg(h).arg(
-                             first)),
-                     0);
-        }
+        const QString first = u"select date, hole, before, min(shot) from Stat_rounds "
+                              "where shot_type_value = 3 group by date, hole"_s;
+        QCOMPARE(store().number(
+                     u"select count(*) from (%1) r left join (%2) s on s.date = r.date and s.hole = r.hole "
+                     u"where r.figure is null or r.figure <> coalesce(s.before, 0)"_s.arg(
+                         figures_by_hole(u"games2"_s, u"putt_len_%1_1"_s), first)),
+                 0);
     }
 
     void rounds_are_in_both_languages_with_all_weathers_and_many_partners()
