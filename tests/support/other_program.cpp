@@ -3,7 +3,7 @@
 #include <QStringList>
 
 #include "tests/support/outside_connection.h"
-#include "tests/support/server_copy.h"
+#include "tests/support/server_tables.h"
 
 namespace verdane::testing {
 

@@ -5,6 +5,7 @@
 #include <QSqlRecord>
 #include <QUuid>
 
+#include "store/engines/odbc_rows.h"
 #include "tests/support/engine_of_tests.h"
 
 namespace verdane::testing {
@@ -73,12 +74,23 @@ QSqlQuery outside_connection::run_unchanged(const QString& statement) const
     return query;
 }
 
+std::unique_ptr<result_rows> outside_connection::rows_of_server(const QString& statement) const
+{
+    return std::make_unique<odbc_rows>(QSqlDatabase::database(name_), statement, text_form::bytes,
+                                       [statement](const QSqlError& error) -> run_time_failure {
+                                           qFatal("%s: %s", qUtf8Printable(statement),
+                                                  qUtf8Printable(error.text()));
+                                       });
+}
+
 std::vector<std::vector<QVariant>> all_rows(QSqlQuery& query)
 {
     std::vector<std::vector<QVariant>> rows;
+    // Each call of `record` copies the descriptions of all columns.
+    const int columns = query.record().count();
     while (query.next()) {
         auto& row = rows.emplace_back();
-        for (int i = 0; i < query.record().count(); ++i)
+        for (int i = 0; i < columns; ++i)
             row.push_back(query.value(i));
     }
     return rows;

@@ -8,6 +8,7 @@
 
 #include "tests/support/outside_connection.h"
 #include "tests/support/server_copy.h"
+#include "tests/support/server_tables.h"
 
 namespace verdane::testing {
 
