@@ -44,27 +44,66 @@ int number_of_rows(const Connection1& store, const table& counted)
     return rows->next() ? rows->value(0).toInt() : 0;
 }
 
-void insert_row(const Connection1& to, const table& copied, const QString& start, const result_rows& row)
-{
-    statement_with_values statement;
-    statement.text = start;
-    QStringView before;
-    for (int column = 0; column < row.column_count(); ++column) {
-        statement.text += before;
-        to.engine().add_value(statement, row.value(column));
-        before = u",";
+/// Collects rows and inserts them in their order, many by one statement: a server takes as long for each
+/// statement as for many rows.
+class row_insertion {
+public:
+    row_insertion(const Connection1& to, const table& filled)
+        : to_(to),
+          filled_(filled),
+          columns_(static_cast<int>(filled.columns.size())),
+          most_rows_(std::max(1, most_values / columns_))
+    {
     }
-    statement.text += u')';
-    to.engine().change(statement, copied.name);
-}
+
+    void add(const result_rows& row)
+    {
+        statement_.text += rows_ == 0 ? start() : u",("_s;
+        QStringView before;
+        for (int column = 0; column < columns_; ++column) {
+            statement_.text += before;
+            to_.engine().add_value(statement_, row.value(column));
+            before = u",";
+        }
+        statement_.text += u')';
+        if (++rows_ == most_rows_)
+            finish();
+    }
+
+    /// Inserts the rows that remain.
+    void finish()
+    {
+        if (rows_ > 0)
+            to_.engine().change(statement_, filled_.name);
+        statement_ = {};
+        rows_ = 0;
+    }
+
+private:
+    QString start() const
+    {
+        return u"INSERT INTO " + in_back_quotes(filled_.name) + u" (" + columns_of(filled_) + u") VALUES (";
+    }
+
+    /// Far below the number of parameters that an engine allows, and the size of a statement that a server
+    /// allows.
+    static constexpr int most_values = 4000;
+
+    const Connection1& to_;
+    const table& filled_;
+    const int columns_;
+    const int most_rows_;
+    statement_with_values statement_;
+    int rows_ = 0;
+};
 
 void copy_rows(const Connection1& from, Connection1& to, const table& copied)
 {
-    const QString start =
-        u"INSERT INTO " + in_back_quotes(copied.name) + u" (" + columns_of(copied) + u") VALUES (";
+    row_insertion insertion(to, copied);
     const auto rows = rows_of(from, copied);
     while (rows->next())
-        insert_row(to, copied, start, *rows);
+        insertion.add(*rows);
+    insertion.finish();
 }
 
 bool is_number(const QVariant& value)
@@ -100,12 +139,13 @@ int compare_rows(const Connection1& from, const Connection1& to, const table& co
 {
     const auto left = rows_of(from, compared);
     const auto right = rows_of(to, compared);
+    const int columns = static_cast<int>(compared.columns.size());
     int row = 0;
     while (left->next()) {
         ++row;
         if (!right->next())
             fail_comparison(compared, row, u"missing in the copy"_s);
-        for (int column = 0; column < left->column_count(); ++column) {
+        for (int column = 0; column < columns; ++column) {
             if (!equal(left->value(column), right->value(column)))
                 fail_comparison(compared, row,
                                 u"%1 is %2 in the copy instead of %3"_s.arg(
