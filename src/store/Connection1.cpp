@@ -39,14 +39,30 @@ void Connection1::Open(const QString& path, soundness_check check)
 
 void Connection1::Open(const store_location& store, soundness_check check)
 {
+    open_engine(store, check, [this] { create_tables(*this); });
+}
+
+bool Connection1::OpenExisting(const store_location& store)
+{
+    return open_engine(store, soundness_check::while_opening, [this] {
+        engine_->abandon();
+        engine_.reset();
+    });
+}
+
+bool Connection1::open_engine(const store_location& store, soundness_check check,
+                              const std::function<void()>& without_tables)
+{
     if (is_open())
         throw run_time_failure(failure_kind::misuse,
                                QString(store.name + u": the connection is open already"));
     location_ = store;
     engine_ = make_engine(name_, store, *waiting_);
     try {
-        if (!engine_->open(check))
-            create_tables(*this);
+        const bool has_tables = engine_->open(check);
+        if (!has_tables)
+            without_tables();
+        return has_tables;
     } catch (...) {
         engine_->abandon();
         engine_.reset();

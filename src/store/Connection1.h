@@ -3,6 +3,7 @@
 #include <QSqlDatabase>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 #include "store/lock_wait.h"
@@ -38,6 +39,10 @@ public:
               soundness_check check = soundness_check::while_opening);
     /// Opens the file at `path`.
     void Open(const QString& path, soundness_check check = soundness_check::while_opening);
+
+    /// Opens a store like the other functions, but only if it has tables. Without them the result is false,
+    /// the connection stays closed and nothing is created.
+    bool OpenExisting(const store_location& store);
 
     /// Checks the whole file, and the indexes against the tables, without changing it. Fails with
     /// `store_damaged`.
@@ -82,6 +87,10 @@ private:
     friend class joined_commits;
     friend class relaxed_commits;
     friend class single_commit;
+
+    /// True if the store has its tables; `without_tables` is called otherwise. Closed after a failure.
+    bool open_engine(const store_location& store, soundness_check check,
+                     const std::function<void()>& without_tables);
 
     /// Qt's name for this connection. Tests open several in one process.
     const QString name_;

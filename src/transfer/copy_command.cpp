@@ -1,6 +1,7 @@
 #include "transfer/copy_command.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <functional>
@@ -33,6 +34,12 @@ bool is_missing_file(const store_location& store)
     return store.where == store_location::place::file && !QFile::exists(store.name);
 }
 
+/// Opening an empty file would write to it.
+bool is_empty_file(const store_location& store)
+{
+    return store.where == store_location::place::file && QFileInfo(store.name).size() == 0;
+}
+
 exit_status report(const run_time_failure& failure)
 {
     const exit_status status =
@@ -63,8 +70,7 @@ exit_status refuse_target(const store_location& to, const counted_table& used)
         exit_status::not_empty,
         in_language(u"La destination %1 n'est pas vide : la table %2 a %3 lignes. Rien n'a été modifié.",
                     u"The target %1 is not empty: table %2 has %3 rows. Nothing was changed.")
-            .arg(argument_of_store(to), used.name)
-            .arg(used.rows));
+            .arg(argument_of_store(to), used.name, QString::number(used.rows)));
 }
 
 exit_status copy_open_stores(Connection1& source, Connection1& target)
@@ -89,7 +95,8 @@ exit_status copy_open_stores(Connection1& source, Connection1& target)
 exit_status copy(const store_location& from, const store_location& to)
 {
     Connection1 source;
-    source.Open(from);
+    if (!source.OpenExisting(from))
+        return refuse_without_diary(from);
     const bool is_new_file = is_missing_file(to);
     Connection1 target;
     // A failure to open removes nothing but what it has made: there may be the log of a file that was lost.
@@ -111,7 +118,7 @@ exit_status run_copy(const QStringList& arguments)
         return refuse(exit_status::usage,
                       in_language(u"Il faut deux endroits différents : verdane-store copy DE VERS (--help)",
                                   u"Two different stores are needed: verdane-store copy FROM TO (--help)"));
-    if (is_missing_file(*from))
+    if (is_empty_file(*from))
         return refuse_without_diary(*from);
     return reported([&] { return copy(*from, *to); });
 }
