@@ -23,6 +23,7 @@ set(VERDANE_TESTS_WITHOUT_STORE
 
 # The only list of the tests that run on the embedded engine alone, with the reason.
 set(VERDANE_FILE_TESTS
+  test_copy_command         # both stores are files
   test_Connection1          # the folder and the lock file that are made, and the settings of the engine
   test_file_damage          # damages bytes of the file
   test_lock_wait            # the engine calls the program while it waits; the others wait by themselves
@@ -39,7 +40,7 @@ set(VERDANE_FILE_TESTS
   test_soundness            # damages bytes of the file
   test_start_refusals)      # permissions and content of the file
 
-set(VERDANE_FOLDERS_ON_ALL_ENGINES store statistics guided_day)
+set(VERDANE_FOLDERS_ON_ALL_ENGINES store statistics guided_day transfer)
 
 # Gives the labels to a test of the current folder.
 function(verdane_label_test name)

@@ -1,141 +1,45 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "store/Connection1.h"
-#include "store/diary_copy.h"
-#include "tests/support/engine_of_tests.h"
 #include "tests/support/full_diary.h"
 #include "tests/support/reader.h"
-#include "tests/transfer/store_run.h"
-#include "transfer/copy_command.h"
-#include "transfer/store_argument.h"
+#include "tests/transfer/stored_files.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
-using testing::store_run;
+using namespace verdane::testing;
 
 namespace {
 
-constexpr int rounds = 12;
-
-QString file(const QString& path)
-{
-    return u"file:"_s + path;
-}
-
-constexpr int status(exit_status value)
-{
-    return static_cast<int>(value);
-}
-
-/// A folder with a diary of some rounds.
-struct copied_folder {
-    copied_folder() { testing::create_diary(diary, rounds, true); }
-
-    std::optional<int> copy() const { return store_run({u"copy"_s, file(diary), file(target)}).run(); }
-
-    QTemporaryDir folder;
-    QString diary = folder.filePath(u"diary/Verdbase.db"_s);
-    QString target = folder.filePath(u"target/Verdbase.db"_s);
-};
-
-/// A store on the engine of the tests, without tables.
-struct other_store {
-    other_store() : place(testing::new_store_place(folder.path())) {}
-    ~other_store() { testing::remove_store_place(place); }
-    other_store(const other_store&) = delete;
-    other_store& operator=(const other_store&) = delete;
-
-    QString argument() const { return argument_of_store(place); }
-
-    QTemporaryDir folder;
-    store_location place;
-};
-
-/// Every row of every table in order, as text.
-QStringList all_rows(const QString& path)
-{
-    const testing::reader store(path);
-    QStringList lines;
-    for (const auto& table :
-         store.rows(u"select name from sqlite_master where type = 'table' order by name"_s)) {
-        const QString name = table[0].toString();
-        for (const auto& row : store.rows(u"select * from `%1` order by rowid"_s.arg(name))) {
-            lines += name;
-            for (const QVariant& value : row)
-                lines.back() += u'|' + (value.isNull() ? u"null"_s : value.toString());
-        }
-    }
-    return lines;
-}
-
-/// Runs the program again while a server has not noticed yet that the last program was killed.
-std::optional<int> run_when_free(const QStringList& arguments)
-{
-    constexpr int attempts = 20;
-    std::optional<int> result;
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        result = store_run(arguments).run();
-        if (result != status(exit_status::in_use))
-            break;
-    }
-    return result;
-}
-
 int rounds_in(const QString& path)
 {
-    return testing::reader(path).number(u"select count(*) from games"_s);
+    return reader(path).number(u"select count(*) from games"_s);
 }
 
 }  // namespace
 
-/// The program as a child process, on files of the embedded engine.
-class test_verdane_store : public QObject {
+/// `verdane-store copy` as a child process, from a file to a file.
+class test_copy_command : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void a_copy_has_the_rows_of_the_diary_in_their_order()
     {
         const copied_folder folder;
-        store_run run({u"copy"_s, file(folder.diary), file(folder.target)});
+        store_run run({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)});
         QCOMPARE(run.run(), status(exit_status::done));
         QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
         QVERIFY2(run.output().contains(u"games: 12 rows\n"), qUtf8Printable(run.output()));
         QVERIFY2(run.output().contains(u"Copied and checked: 18 tables, "), qUtf8Printable(run.output()));
     }
 
-    void a_diary_is_the_same_after_a_copy_to_the_engine_of_the_tests_and_back()
-    {
-        const copied_folder folder;
-        const other_store other;
-        QCOMPARE(store_run({u"copy"_s, file(folder.diary), other.argument()}).run(),
-                 status(exit_status::done));
-        QCOMPARE(store_run({u"copy"_s, other.argument(), file(folder.target)}).run(),
-                 status(exit_status::done));
-        QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
-        QCOMPARE(store_run({u"copy"_s, file(folder.diary), other.argument()}).run(),
-                 status(exit_status::not_empty));
-    }
-
-    void a_copy_to_the_engine_of_the_tests_that_is_killed_can_be_made_again()
-    {
-        const copied_folder folder;
-        const other_store other;
-        store_run run({u"copy"_s, file(folder.diary), other.argument()});
-        run.start();
-        QVERIFY2(run.wait_for(u"Stat_rounds: "_s), qUtf8Printable(run.output()));
-        run.kill();
-        QCOMPARE(run_when_free({u"copy"_s, file(folder.diary), other.argument()}), status(exit_status::done));
-        QCOMPARE(testing::reader(other.place).number(u"select count(*) from games"_s), rounds);
-    }
-
     void a_target_with_rows_is_refused_and_not_changed()
     {
         const copied_folder folder;
-        testing::create_diary(folder.target, 1, false);
+        create_diary(folder.target, 1, false);
         const QStringList before = all_rows(folder.target);
         QCOMPARE(folder.copy(), status(exit_status::not_empty));
         QCOMPARE(all_rows(folder.target), before);
@@ -146,7 +50,7 @@ private Q_SLOTS:
         const copied_folder folder;
         Connection1().Open(folder.target);
         QCOMPARE(folder.copy(), status(exit_status::done));
-        QCOMPARE(rounds_in(folder.target), rounds);
+        QCOMPARE(rounds_in(folder.target), rounds_of_diary);
     }
 
     void a_diary_in_use_is_refused()
@@ -170,7 +74,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString none = folder.filePath(u"none.db"_s);
-        store_run run({u"copy"_s, file(none), file(folder.filePath(u"target.db"_s))});
+        store_run run({u"copy"_s, file_argument(none), file_argument(folder.filePath(u"target.db"_s))});
         QCOMPARE(run.run(), status(exit_status::no_diary));
         QVERIFY(!QFile::exists(none));
         QVERIFY(!QFile::exists(folder.filePath(u"target.db"_s)));
@@ -180,10 +84,38 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         Connection1().Open(folder.filePath(u"empty.db"_s));
-        store_run run(
-            {u"copy"_s, file(folder.filePath(u"empty.db"_s)), file(folder.filePath(u"target.db"_s))});
+        store_run run({u"copy"_s, file_argument(folder.filePath(u"empty.db"_s)),
+                       file_argument(folder.filePath(u"target.db"_s))});
         QCOMPARE(run.run(), status(exit_status::no_diary));
         QVERIFY(!QFile::exists(folder.filePath(u"target.db"_s)));
+    }
+
+    void an_empty_file_is_no_diary_and_stays_empty()
+    {
+        const QTemporaryDir folder;
+        QFile empty(folder.filePath(u"empty.db"_s));
+        QVERIFY(empty.open(QIODevice::WriteOnly));
+        empty.close();
+        store_run run(
+            {u"copy"_s, file_argument(empty.fileName()), file_argument(folder.filePath(u"target.db"_s))});
+        QCOMPARE(run.run(), status(exit_status::no_diary));
+        QCOMPARE(empty.size(), 0);
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{u"empty.db"_s});
+    }
+
+    void a_path_with_quotes_accents_blanks_and_place_marks_is_used_as_it_is()
+    {
+        const QTemporaryDir folder;
+        const QString name = u"L'été \"à la mer\" `50 %1`; --"_s;
+        const QString diary = folder.filePath(name + u" 1/Verdbase.db");
+        const QString target = folder.filePath(name + u" 2/Verdbase.db");
+        create_diary(diary, 2, true);
+        QCOMPARE(store_run({u"copy"_s, file_argument(diary), file_argument(target)}).run(),
+                 status(exit_status::done));
+        QCOMPARE(all_rows(target), all_rows(diary));
+        store_run again({u"copy"_s, file_argument(diary), file_argument(target)});
+        QCOMPARE(again.run(), status(exit_status::not_empty));
+        QVERIFY(again.errors().contains(name + u" 2/Verdbase.db is not empty: table games has 2 rows."));
     }
 
     void a_wrong_command_line_is_refused_data()
@@ -229,12 +161,21 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(folder.target));
     }
 
+    void a_full_disk_leaves_no_copy_data()
+    {
+        QTest::addColumn<int>("bytes");
+        // The lock file, the first page, the tables, the rounds, the shots.
+        for (const int bytes : {0, 4096, 40'000, 100'000, 300'000})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
     void a_full_disk_leaves_no_copy()
     {
+        QFETCH(int, bytes);
         const copied_folder folder;
         const QStringList before = all_rows(folder.diary);
-        store_run run({u"copy"_s, file(folder.diary), file(folder.target)});
-        run.limit_files(100'000);
+        store_run run({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)});
+        run.limit_files(static_cast<unsigned long>(bytes));
         QCOMPARE(run.run(), status(exit_status::failed));
         QVERIFY2(run.errors().contains(u"no room left on the disk"), "another failure");
         QVERIFY(!QFile::exists(folder.target));
@@ -245,7 +186,8 @@ private Q_SLOTS:
     void a_copy_that_is_killed_leaves_an_empty_store_that_can_be_used_again_data()
     {
         QTest::addColumn<QString>("table");
-        for (const QString& name : {u"games"_s, u"games2"_s, u"Stat_rounds"_s, u"stats"_s})
+        for (const QString& name :
+             {u"games"_s, u"games2"_s, u"Stat_rounds"_s, u"partners"_s, u"stats"_s, u"Cryst_hand"_s})
             QTest::newRow(qUtf8Printable(name)) << name;
     }
 
@@ -253,16 +195,16 @@ private Q_SLOTS:
     {
         QFETCH(QString, table);
         const copied_folder folder;
-        store_run run({u"copy"_s, file(folder.diary), file(folder.target)});
+        store_run run({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)});
         run.start();
         QVERIFY2(run.wait_for(table + u": "_s), qUtf8Printable(run.output()));
         run.kill();
         const int found = rounds_in(folder.target);
-        QVERIFY2(found == 0 || found == rounds, qUtf8Printable(QString::number(found)));
+        QVERIFY2(found == 0 || found == rounds_of_diary, qUtf8Printable(QString::number(found)));
         QCOMPARE(folder.copy(), status(found == 0 ? exit_status::done : exit_status::not_empty));
         QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
     }
 };
 
-QTEST_GUILESS_MAIN(test_verdane_store)
-#include "test_verdane_store.moc"
+QTEST_GUILESS_MAIN(test_copy_command)
+#include "test_copy_command.moc"

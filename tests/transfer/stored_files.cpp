@@ -1,0 +1,53 @@
+#include "tests/transfer/stored_files.h"
+
+#include <QFile>
+
+#include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
+
+namespace verdane::testing {
+
+namespace {
+
+/// Made once, because that takes longer than most of the tests.
+const QString& made_diary()
+{
+    static const QTemporaryDir folder;
+    static const QString path = [] {
+        const QString made = folder.filePath(u"Verdbase.db"_s);
+        create_diary(made, rounds_of_diary, true);
+        return made;
+    }();
+    return path;
+}
+
+}  // namespace
+
+copied_folder::copied_folder()
+{
+    if (!QFile::copy(made_diary(), diary))
+        qFatal("cannot write %s", qUtf8Printable(diary));
+}
+
+std::optional<int> copied_folder::copy() const
+{
+    return store_run({u"copy"_s, file_argument(diary), file_argument(target)}).run();
+}
+
+QStringList all_rows(const QString& path)
+{
+    const reader store(path);
+    QStringList lines;
+    for (const auto& table :
+         store.rows(u"select name from sqlite_master where type = 'table' order by name"_s)) {
+        const QString name = table[0].toString();
+        for (const auto& row : store.rows(u"select * from `%1` order by rowid"_s.arg(name))) {
+            lines += name;
+            for (const QVariant& value : row)
+                lines.back() += u'|' + (value.isNull() ? u"null"_s : value.toString());
+        }
+    }
+    return lines;
+}
+
+}  // namespace verdane::testing
