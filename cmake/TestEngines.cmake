@@ -18,13 +18,14 @@ set(VERDANE_TESTS_WITHOUT_STORE
   test_drawing_texts
   test_class_captions
   test_club_texts test_selection_clauses
-  test_column_value test_mariadb_errors test_mariadb_tables test_registered_source test_select_statement
+  test_column_value test_copy_days test_mariadb_errors test_mariadb_tables test_registered_source test_select_statement
   test_source_tables test_sql_text test_tables)
 
 # The only list of the tests that run on the embedded engine alone, with the reason.
 set(VERDANE_FILE_TESTS
   test_copy_command         # both stores are files
   test_Connection1          # the folder and the lock file that are made, and the settings of the engine
+  test_dated_copies         # copies of the file
   test_file_damage          # damages bytes of the file
   test_lock_wait            # the engine calls the program while it waits; the others wait by themselves
   test_lost_store           # files next to the store

@@ -1,13 +1,11 @@
 #include "store/store_files.h"
 
 #include "base/run_time_failure.h"
+#include "store/copy_days.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
-
-#include <algorithm>
 
 namespace verdane {
 
@@ -56,24 +54,13 @@ bool has_content(const QString& path)
     return QFileInfo(path).size() > 0;
 }
 
-bool has_dated_copy(const QString& path)
-{
-    const QFileInfo file(path);
-    const QDir copies(file.absolutePath() + u"/copies");
-    const QString digit = u"[0-9]"_s;
-    const QString day = digit.repeated(4) + u'-' + digit.repeated(2) + u'-' + digit.repeated(2);
-    const QString pattern = file.completeBaseName() + u'-' + day + u".db";
-    const QFileInfoList found = copies.entryInfoList({pattern}, QDir::Files);
-    return std::any_of(found.begin(), found.end(), [](const QFileInfo& copy) { return copy.size() > 0; });
-}
-
 /// When the engine opens an empty file, it deletes the log and creates a new store.
 void check_that_nothing_was_lost(const QString& path, bool is_there)
 {
     if (has_content(file_of_engine(path, u"-wal")))
         refuse(path, is_there ? u"the file is empty, its write-ahead log is not"
                               : u"the file is missing, its write-ahead log is not");
-    if (is_there && has_dated_copy(path))
+    if (is_there && !days_of_copies(path).empty())
         refuse(path, u"the file is empty, its copies are not");
 }
 

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "store/Connection1.h"
+#include "store/dated_copies.h"
 #include "store/Recordset.h"
 #include "tests/store/store_child.h"
 #include "tests/support/engine_of_tests.h"
@@ -37,6 +38,12 @@ void limit_files(const char* bytes)
         std::exit(testing::child_broken);
 }
 
+/// Lets the system kill this process when it writes beyond the limit.
+void die_at_limit()
+{
+    std::signal(SIGXFSZ, SIG_DFL);
+}
+
 void say(int number)
 {
     std::printf("%d\n", number);
@@ -62,13 +69,20 @@ void write_partners(Connection1& connection)
 void run(const QByteArray& mode, const store_location& place, const char* argument)
 {
     Connection1 connection;
-    if (mode == "nobody")
+    if (mode == "nobody" || mode == "copy_as_nobody")
         become_nobody();
     connection.Open(place);
     if (mode == "write" || mode == "fill") {
         if (mode == "fill")
             limit_files(argument);
         write_partners(connection);
+    }
+    if (mode.startsWith("copy")) {
+        if (mode != "copy_as_nobody")
+            limit_files(argument);
+        if (mode == "copy_until_killed")
+            die_at_limit();
+        write_dated_copy(connection.path(), testing::day_of_child);
     }
     if (mode == "hold") {
         say(0);

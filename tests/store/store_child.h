@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QProcess>
 
 #include <optional>
@@ -12,6 +13,10 @@ namespace verdane::testing {
 /// Exit status of `store_child`.
 constexpr int child_broken = 99;
 constexpr int child_failed = 100;
+
+/// The day of the copy that it writes in the modes `copy_as_nobody`, `copy_on_full_disk` and
+/// `copy_until_killed`.
+const QDate day_of_child(2026, 6, 14);
 
 /// Starts it from the folder of the test programs, on the store whose location has that name.
 inline void start_child(QProcess& child, const QString& mode, const QString& store, int argument = 0)

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+#include <vector>
+
+/// The names of the copies of the embedded store, one for each day, and which of them are kept. The copy of
+/// `Verdbase.db` is `copies/Verdbase-YYYY-MM-DD.db` in its folder. `store` is the path of the file.
+namespace verdane {
+
+/// For how many days, today included, every copy is kept.
+constexpr int days_with_every_copy = 30;
+
+QString folder_of_copies(const QString& store);
+QString path_of_copy(const QString& store, QDate day);
+
+/// The days that have a copy with content, in ascending order.
+std::vector<QDate> days_of_copies(const QString& store);
+
+/// The days of `days` whose copies are not kept: those before the last 30 days, except the last of each
+/// month. Days after today are kept. `days` may be in any order; the result is in ascending order.
+std::vector<QDate> days_to_remove(std::vector<QDate> days, QDate today);
+
+}  // namespace verdane

@@ -1,0 +1,79 @@
+#include "store/dated_copies.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+
+#include "base/run_time_failure.h"
+#include "store/copy_days.h"
+#include "store/engines/file_backup.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool is_sound_copy(const QString& path)
+{
+    if (QFileInfo(path).size() == 0)
+        return false;
+    try {
+        check_copy(path);
+        return true;
+    } catch (const run_time_failure& failure) {
+        if (failure.kind() == failure_kind::store_damaged)
+            return false;
+        throw;
+    }
+}
+
+/// Creates the file, or empties the one that a killed program has left.
+void make_empty_file(const QString& path)
+{
+    QFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).absolutePath()) ||
+        !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        throw run_time_failure(failure_kind::store_read_only, QString(path + u": " + file.errorString()));
+}
+
+/// Renames a file. In contrast to that of Qt, this function replaces a file that has the new name.
+void give_name(const QString& path, const QString& name)
+{
+    std::error_code error;
+    std::filesystem::rename(path.toStdU16String(), name.toStdU16String(), error);
+    if (error)
+        throw run_time_failure(failure_kind::store_other,
+                               QString(name + u": " + QString::fromStdString(error.message())));
+}
+
+void remove_old_copies(const QString& store, QDate today)
+{
+    for (const QDate day : days_to_remove(days_of_copies(store), today))
+        QFile::remove(path_of_copy(store, day));
+}
+
+}  // namespace
+
+bool write_dated_copy(const QString& store, QDate day)
+{
+    const QString copy = path_of_copy(store, day);
+    if (is_sound_copy(copy))
+        return false;
+    const QString unfinished = folder_of_copies(store) + u"/unfinished"_s;
+    make_empty_file(unfinished);
+    try {
+        back_up(store, unfinished);
+        check_copy(unfinished);
+        give_name(unfinished, copy);
+    } catch (...) {
+        QFile::remove(unfinished);
+        throw;
+    }
+    remove_old_copies(store, day);
+    return true;
+}
+
+}  // namespace verdane

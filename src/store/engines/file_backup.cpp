@@ -1,0 +1,95 @@
+#include "store/engines/file_backup.h"
+
+#include <QFileInfo>
+#include <QSqlError>
+#include <QUrl>
+
+#include <sqlite3.h>
+
+#include "store/engines/sqlite.h"
+#include "store/store_files.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int lock_time_out_ms = 5000;
+
+/// A file that is open in SQLite. The database classes of Qt have no backup.
+class open_file {
+public:
+    open_file(const QString& address, int flags) : address_(address)
+    {
+        need(sqlite3_open_v2(address.toUtf8().constData(), &handle_, flags | SQLITE_OPEN_URI, nullptr));
+        sqlite3_busy_timeout(handle_, lock_time_out_ms);
+    }
+    ~open_file() { sqlite3_close(handle_); }
+    open_file(const open_file&) = delete;
+    open_file& operator=(const open_file&) = delete;
+
+    sqlite3* handle() const { return handle_; }
+
+    /// Fails unless the result of a call on this file is that of a success.
+    void need(int result, int success = SQLITE_OK) const
+    {
+        if (result != success)
+            throw store_failure({{},
+                                 QString::fromUtf8(sqlite3_errmsg(handle_)),
+                                 QSqlError::StatementError,
+                                 QString::number(sqlite3_extended_errcode(handle_))},
+                                address_);
+    }
+
+    /// The first value of a statement as text.
+    QString first_value(const char* statement) const
+    {
+        sqlite3_stmt* prepared = nullptr;
+        need(sqlite3_prepare_v2(handle_, statement, -1, &prepared, nullptr));
+        const int result = sqlite3_step(prepared);
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(prepared, 0));
+        const QString value = result == SQLITE_ROW ? QString::fromUtf8(text) : QString();
+        sqlite3_finalize(prepared);
+        need(result, SQLITE_ROW);
+        return value;
+    }
+
+private:
+    QString address_;
+    sqlite3* handle_ = nullptr;
+};
+
+QString address_of(const QString& path)
+{
+    return QString::fromLatin1(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded());
+}
+
+}  // namespace
+
+void back_up(const QString& store, const QString& copy)
+{
+    const open_file from(address_of(store), SQLITE_OPEN_READONLY);
+    const open_file to(address_of(copy), SQLITE_OPEN_READWRITE);
+    // An incomplete copy is not used, so nothing has to be undone.
+    to.first_value("PRAGMA journal_mode=OFF");
+    sqlite3_backup* backup = sqlite3_backup_init(to.handle(), "main", from.handle(), "main");
+    // All pages in one step, that is, in one reading transaction.
+    if (backup != nullptr) {
+        sqlite3_backup_step(backup, -1);
+        sqlite3_backup_finish(backup);
+    }
+    to.need(sqlite3_errcode(to.handle()));
+}
+
+void check_copy(const QString& path)
+{
+    check_store_files(path);
+    // Nobody writes to a copy. Without this mark, reading it would create files next to it.
+    const open_file copy(address_of(path) + u"?immutable=1", SQLITE_OPEN_READONLY);
+    const QString verdict = copy.first_value("PRAGMA integrity_check(1)");
+    if (verdict != u"ok")
+        throw run_time_failure(failure_kind::store_damaged, QString(path + u": " + verdict));
+}
+
+}  // namespace verdane

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// Copies of the file of the embedded engine. Both functions open their files on connections of their own and
+/// can be called from any thread.
+namespace verdane {
+
+/// Copies the pages of an open store to a file, which is empty, up to the last commit. Does not wait for the
+/// other connections of the store, nor do they wait. Returns after the copy has reached the disk. Fails like
+/// `store_engine::change`; the file is then incomplete.
+void back_up(const QString& store, const QString& copy);
+
+/// Checks a copy as the store is checked when it is opened, without changing anything. Fails with
+/// `store_damaged`, or with `store_read_only` or `store_unreachable` if it cannot be opened.
+void check_copy(const QString& path);
+
+}  // namespace verdane

@@ -1,0 +1,139 @@
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "store/copy_days.h"
+
+using namespace verdane;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using days = std::vector<QDate>;
+
+/// Every day from the first to the last.
+days every_day(QDate first, QDate last)
+{
+    days result;
+    for (QDate day = first; day <= last; day = day.addDays(1))
+        result.push_back(day);
+    return result;
+}
+
+days without(days all, const days& removed)
+{
+    for (const QDate day : removed)
+        all.erase(std::find(all.begin(), all.end(), day));
+    return all;
+}
+
+QString names_of(const days& all)
+{
+    QStringList names;
+    for (const QDate day : all)
+        names << day.toString(Qt::ISODate);
+    return names.join(u' ');
+}
+
+void put(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write the file");
+}
+
+}  // namespace
+
+/// The names of the dated copies, and which of them are kept.
+class test_copy_days : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_copy_has_the_name_of_the_store_and_its_day()
+    {
+        QCOMPARE(path_of_copy(u"/home/golfer/Verdbase.db"_s, QDate(2026, 6, 4)),
+                 u"/home/golfer/copies/Verdbase-2026-06-04.db"_s);
+    }
+
+    void only_files_with_content_and_the_name_of_a_copy_are_copies()
+    {
+        const QTemporaryDir folder;
+        const QString store = folder.filePath(u"Verdbase.db"_s);
+        QCOMPARE(names_of(days_of_copies(store)), QString());
+        QDir(folder.path()).mkpath(u"copies/Verdbase-2026-01-07.db"_s);
+        for (const QString& name :
+             {u"Verdbase-2026-06-14.db"_s, u"Verdbase-2025-12-31.db"_s, u"Verdbase-2026-02-30.db"_s,
+              u"Verdbase-2026-6-15.db"_s, u"Verdbase-2026-06-16.db-wal"_s, u"Verdbase-2026-06-17.DB"_s,
+              u"Music-2026-06-18.db"_s, u"My Verdbase-2026-06-19.db"_s, u"Verdbase-2026-06-20 (2).db"_s})
+            put(folder_of_copies(store) + u'/' + name, "content");
+        put(folder_of_copies(store) + u"/Verdbase-2026-06-21.db"_s, {});
+        QCOMPARE(names_of(days_of_copies(store)), u"2025-12-31 2026-06-14"_s);
+    }
+
+    void days_to_remove_are_those_before_the_last_thirty_except_the_last_of_a_month_data()
+    {
+        QTest::addColumn<days>("present");
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<days>("kept");
+        QTest::newRow("no copy") << days{} << QDate(2026, 6, 14) << days{};
+        QTest::newRow("only today") << days{{2026, 6, 14}} << QDate(2026, 6, 14) << days{{2026, 6, 14}};
+        QTest::newRow("thirty days in two months")
+            << every_day({2026, 5, 16}, {2026, 6, 14}) << QDate(2026, 6, 14)
+            << every_day({2026, 5, 16}, {2026, 6, 14});
+        QTest::newRow("the thirty-first day, after the end of a month")
+            << every_day({2026, 5, 31}, {2026, 6, 30}) << QDate(2026, 6, 30)
+            << every_day({2026, 5, 31}, {2026, 6, 30});
+        QTest::newRow("the thirty-first day, in a month")
+            << every_day({2026, 5, 15}, {2026, 6, 14}) << QDate(2026, 6, 14)
+            << every_day({2026, 5, 16}, {2026, 6, 14});
+        QTest::newRow("a month ends between two copies")
+            << days{{2026, 1, 30}, {2026, 1, 31}, {2026, 2, 1}} << QDate(2026, 3, 3)
+            << days{{2026, 1, 31}, {2026, 2, 1}};
+        QTest::newRow("a short February")
+            << every_day({2026, 2, 1}, {2026, 3, 31}) << QDate(2026, 3, 31) << [] {
+                   days kept{{2026, 2, 28}};
+                   for (const QDate day : every_day({2026, 3, 2}, {2026, 3, 31}))
+                       kept.push_back(day);
+                   return kept;
+               }();
+        QTest::newRow("the last copy of a month is not that of its last day")
+            << days{{2026, 1, 3}, {2026, 1, 17}, {2026, 2, 2}, {2026, 6, 14}} << QDate(2026, 6, 14)
+            << days{{2026, 1, 17}, {2026, 2, 2}, {2026, 6, 14}};
+        QTest::newRow("the same month of two years")
+            << days{{2025, 1, 3}, {2026, 1, 2}, {2026, 6, 14}} << QDate(2026, 6, 14)
+            << days{{2025, 1, 3}, {2026, 1, 2}, {2026, 6, 14}};
+        QTest::newRow("the turn of a year") << days{{2025, 12, 30}, {2025, 12, 31}, {2026, 1, 1}}
+                                            << QDate(2026, 2, 14) << days{{2025, 12, 31}, {2026, 1, 1}};
+        QTest::newRow("in another order") << days{{2026, 6, 14}, {2026, 1, 17}, {2026, 1, 3}}
+                                          << QDate(2026, 6, 14) << days{{2026, 6, 14}, {2026, 1, 17}};
+        QTest::newRow("days after today")
+            << days{{2026, 6, 14}, {2027, 1, 1}, {2027, 1, 2}} << QDate(2026, 6, 14)
+            << days{{2026, 6, 14}, {2027, 1, 1}, {2027, 1, 2}};
+    }
+    void days_to_remove_are_those_before_the_last_thirty_except_the_last_of_a_month()
+    {
+        QFETCH(days, present);
+        QFETCH(QDate, today);
+        QFETCH(days, kept);
+        QCOMPARE(names_of(without(present, days_to_remove(present, today))), names_of(kept));
+    }
+
+    void a_copy_each_day_leaves_thirty_days_and_one_copy_for_each_month_before()
+    {
+        days present;
+        for (const QDate today : every_day({2024, 1, 1}, {2026, 6, 14})) {
+            present.push_back(today);
+            present = without(present, days_to_remove(present, today));
+        }
+        days expected;
+        for (QDate month(2024, 1, 1); month < QDate(2026, 5, 1); month = month.addMonths(1))
+            expected.push_back(QDate(month.year(), month.month(), month.daysInMonth()));
+        for (const QDate day : every_day({2026, 5, 16}, {2026, 6, 14}))
+            expected.push_back(day);
+        QCOMPARE(names_of(present), names_of(expected));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_copy_days)
+#include "test_copy_days.moc"
