@@ -25,7 +25,8 @@ set(VERDANE_TESTS_WITHOUT_STORE
 set(VERDANE_FILE_TESTS
   test_copy_command         # both stores are files
   test_Connection1          # the folder and the lock file that are made, and the settings of the engine
-  test_dated_copies         # copies of the file
+  test_daily_copy           # copies of the file
+  test_dated_copies         # the same
   test_file_damage          # damages bytes of the file
   test_lock_wait            # the engine calls the program while it waits; the others wait by themselves
   test_lost_store           # files next to the store

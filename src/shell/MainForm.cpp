@@ -15,6 +15,7 @@
 #include "controls/Form.h"
 #include "controls/screen_limits.h"
 #include "shell/language_change.h"
+#include "shell/main_commands.h"
 
 namespace verdane {
 
@@ -129,6 +130,7 @@ void MainForm::add_pictures()
     Picture1_ = named(new picture_pane(u":/art/landscape_fr.svg"_s, background), u"Picture1");
     Picture2_ = named(new picture_pane(u":/art/landscape_en.svg"_s, background), u"Picture2");
     setCentralWidget(background);
+    notes_ = std::make_unique<pane_notes>(*background, is_french);
 }
 
 void MainForm::load()
@@ -141,6 +143,7 @@ void MainForm::load()
     name_tool_buttons();
     tick_language(is_french ? french_value : english_value);
     shortcuts_.set_language(is_french);
+    notes_->set_language(is_french);
 }
 
 void MainForm::name_tool_buttons()
@@ -198,6 +201,8 @@ void MainForm::enable_tool_button(QStringView key, bool enabled)
 void MainForm::activated()
 {
     setWindowTitle(in_language(u"Verdane pour PC version ", u"Verdane for PC version ") + program_version());
+    if (first_steps_known_)
+        update_first_steps();
     fit_pictures();
     Picture1_->setVisible(is_french);
     Picture2_->setVisible(!is_french);
@@ -205,8 +210,22 @@ void MainForm::activated()
 
 void MainForm::fit_pictures()
 {
+    const QRect place = notes_->lay_out();
     for (picture_pane* picture : {Picture1_, Picture2_})
-        picture->setGeometry(centralWidget()->rect());
+        picture->setGeometry(place);
+}
+
+void MainForm::show_problem(const text_pair& line, const QString& details)
+{
+    notes_->show_problem(line, details);
+    fit_pictures();
+}
+
+void MainForm::update_first_steps()
+{
+    first_steps_known_ = true;
+    notes_->show_first_steps(!a_course_is_stored());
+    fit_pictures();
 }
 
 void MainForm::resizeEvent(QResizeEvent* event)

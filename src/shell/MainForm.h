@@ -5,11 +5,13 @@
 #include <QToolBar>
 
 #include <map>
+#include <memory>
 
 #include "base/language.h"
 #include "controls/main_frame.h"
 #include "controls/shortcuts.h"
 #include "shell/main_menu.h"
+#include "shell/pane_notes.h"
 #include "shell/picture_pane.h"
 
 namespace verdane {
@@ -30,6 +32,11 @@ public:
     /// Ticks the menu entry of a language (`french_value` or `english_value`) and removes the tick of the
     /// other.
     void tick_language(int value);
+    /// Shows a line below the picture that reports a problem, in the current language.
+    void show_problem(const text_pair& line, const QString& details);
+    /// Shows what to do first if no course is stored, and hides it otherwise. Called once after the start;
+    /// from then on, the window calls it whenever it is activated.
+    void update_first_steps();
     /// Unloads the window, loads it again in the current language and shows it.
     void reload();
 
@@ -59,6 +66,8 @@ private:
     std::map<QString, QAction*> tool_actions_;
     picture_pane* Picture1_ = nullptr;
     picture_pane* Picture2_ = nullptr;
+    std::unique_ptr<pane_notes> notes_;
+    bool first_steps_known_ = false;
 };
 
 }  // namespace verdane

@@ -56,6 +56,14 @@ void open_statistics(statistics_mode mode)
 
 }  // namespace
 
+bool a_course_is_stored()
+{
+    Recordset courses(data_environment().connection,
+                      {u"first_course"_s, u"select code from vrd_fields limit 1"_s});
+    courses.Open();
+    return !courses.empty();
+}
+
 void command_new_round()
 {
     start_new_round();

@@ -5,6 +5,9 @@
 /// shows a message box instead.
 namespace verdane {
 
+/// Reads at most one row, on a recordset of its own.
+bool a_course_is_stored();
+
 void command_new_round();         ///< needs a course
 void command_round_list();        ///< needs a round
 void command_course_list();       ///< needs nothing

@@ -15,6 +15,7 @@
 #include "records/Main_module.h"
 #include "reports/report_store.h"
 #include "scoring/limits.h"
+#include "shell/daily_copy.h"
 #include "shell/f_lang.h"
 #include "shell/language_change.h"
 #include "shell/MainForm.h"
@@ -55,6 +56,18 @@ start_result load_language(Recordset& rssettings)
         return start_result::left;
     set_interface_language(language == french_value);
     return start_result::running;
+}
+
+/// The part of the start for which the user need not wait.
+void finish_start(daily_copy& copy)
+{
+    Connection1& connection = data_environment().connection;
+    connection.check_soundness();
+    MainForm::of_run()->update_first_steps();
+    offer_row_script();
+    copy.start(connection.location(), [](const run_time_failure& failure) {
+        MainForm::of_run()->show_problem(copy_failure_words(failure.kind()), failure.details());
+    });
 }
 
 }  // namespace
@@ -122,10 +135,8 @@ int run_verdane(QApplication& application)
     start_result result = start_result::left;
     run_event([&] { result = Main(); });
     if (result == start_result::running) {
-        after_first_paint(*MainForm::of_run(), [] {
-            data_environment().connection.check_soundness();
-            offer_row_script();
-        });
+        daily_copy copy;
+        after_first_paint(*MainForm::of_run(), [&copy] { finish_start(copy); });
         const int status = application.exec();
         MainForm::end_of_run();
         return status;

@@ -11,6 +11,7 @@
 #include "scoring/putt_bands.h"
 #include "scoring/round_totals.h"
 #include "scoring/words.h"
+#include "store/copy_days.h"
 #include "tests/guide/guide_pages.h"
 #include "tests/support/languages.h"
 
@@ -68,6 +69,7 @@ const std::map<QString, int>& limits()
         {u"most_rounds"_s, most_rounds},
         {u"most_courses"_s, most_courses},
         {u"feet_in_a_yard"_s, feet_in_a_yard},
+        {u"days_with_every_copy"_s, days_with_every_copy},
     };
     return all;
 }
