@@ -67,7 +67,7 @@ QWidget* cell_delegate::createEditor(QWidget* parent, const QStyleOptionViewItem
     box->setObjectName(u"cell_being_typed"_s);
     box->setFrame(false);
     box->setAlignment(Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt()));
-    grid_.watch_editor(*box, index);
+    grid_.edited_.watch(*box, index);
     return box;
 }
 

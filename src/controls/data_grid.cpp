@@ -2,18 +2,14 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-
-#include <utility>
 
 #include "controls/boxes.h"
 #include "controls/cell_delegate.h"
 #include "controls/choice_menu.h"
 #include "controls/failure_guard.h"
 #include "controls/grid_painting.h"
-#include "controls/leaving.h"
 
 namespace verdane {
 
@@ -23,7 +19,8 @@ constexpr int button_width = 16;
 
 }  // namespace
 
-data_grid::data_grid(recordset_model* model, QWidget* parent) : QTableView(parent), model_(model)
+data_grid::data_grid(recordset_model* model, QWidget* parent)
+    : QTableView(parent), model_(model), edited_(*model)
 {
     if (!model_->parent())
         model_->setParent(this);
@@ -121,16 +118,6 @@ void data_grid::set_cell_menu(int column, choice_menu* menu)
     menus_[column] = menu;
 }
 
-void data_grid::set_key_filter(int column, std::function<key_answer(QChar)> filter)
-{
-    filters_[column] = std::move(filter);
-}
-
-void data_grid::hold_refused_text(int column)
-{
-    holding_columns_.insert(column);
-}
-
 void data_grid::open_cell_menu()
 {
     const auto menu = menus_.find(col_);
@@ -193,9 +180,7 @@ bool data_grid::take_character(const QKeyEvent& event)
         choose_by_letter(key);
         return true;
     }
-    const auto filter = filters_.find(col_);
-    const bool refused = filter != filters_.end() && filter->second(key) == key_answer::refuse;
-    if (refused || !is_typed_into(currentIndex()))
+    if (edited_.refuses(col_, key) || !is_typed_into(currentIndex()))
         ring_bell();
     else
         start_typing(event.text());
@@ -213,28 +198,12 @@ void data_grid::start_typing(const QString& text)
     if (!is_typed_into(currentIndex()))
         return;
     edit(currentIndex());
-    if (!editor_ || text.isEmpty())
-        return;
-    editor_->setText(text.front() == backspace ? QString() : text);
-    editor_->setModified(true);
-}
-
-void data_grid::watch_editor(QLineEdit& editor, const QModelIndex& index)
-{
-    editor_ = &editor;
-    edited_ = index;
-    if (holding_columns_.count(index.column()) > 0)
-        when_left(editor, [this, box = &editor] { return editor_ != box || may_leave_cell(); });
-    const auto filter = filters_.find(index.column());
-    if (filter == filters_.end())
-        return;
-    filter_keys(editor, filter->second);
-    filter_pasted_text(editor, filter->second);
+    edited_.type_first(text);
 }
 
 void data_grid::drop_cell()
 {
-    if (QLineEdit* editor = std::exchange(editor_, nullptr))
+    if (QLineEdit* editor = edited_.release())
         closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
@@ -250,33 +219,20 @@ void data_grid::take_keyboard()
         setFocus(Qt::OtherFocusReason);
 }
 
-bool data_grid::may_leave_cell()
-{
-    if (!editor_ || !editor_->isModified() || !edited_.isValid() ||
-        holding_columns_.count(edited_.column()) == 0 || model_->takes(edited_.column(), editor_->text()))
-        return true;
-    ring_bell();
-    editor_->setFocus(Qt::OtherFocusReason);
-    editor_->selectAll();
-    return false;
-}
-
 bool data_grid::commit_cell()
 {
-    if (!may_leave_cell())
+    if (!edited_.may_leave())
         return false;
-    if (!editor_)
+    if (!edited_.editor())
         return true;
-    const bool changed = editor_->isModified();
-    const QString typed = editor_->text();
-    const QModelIndex cell = edited_;
+    const std::optional<edited_cell::typed_text> typed = edited_.changed_text();
     const QScopedValueRollback<bool> elsewhere(left_, keyboard_is_elsewhere());
     drop_cell();
-    if (!changed || !cell.isValid())
+    if (!typed)
         return true;
     run_event([&] {
-        const int column = cell.column();
-        if (!model_->write(cell.row(), column, typed))
+        const int column = typed->cell.column();
+        if (!model_->write(typed->cell.row(), column, typed->text))
             ring_bell();
         else if (column_updated)
             column_updated(column);

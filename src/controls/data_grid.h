@@ -1,15 +1,12 @@
 #pragma once
 
-#include <QLineEdit>
-#include <QPersistentModelIndex>
-#include <QPointer>
 #include <QTableView>
 
 #include <functional>
 #include <map>
-#include <set>
+#include <utility>
 
-#include "controls/keys.h"
+#include "controls/edited_cell.h"
 #include "controls/recordset_model.h"
 
 namespace verdane {
@@ -44,10 +41,14 @@ public:
     /// Adds a button to the cells of a column, which opens the menu.
     void set_cell_menu(int column, choice_menu* menu);
     /// Sets the filter that accepts or refuses each character typed or pasted into a column.
-    void set_key_filter(int column, std::function<key_answer(QChar)> filter);
+    void set_key_filter(int column, std::function<key_answer(QChar)> filter)
+    {
+        edited_.set_key_filter(column, std::move(filter));
+    }
     /// A text that is not valid in this column stays in its cell, selected and with the focus, until it is
     /// corrected or discarded by Escape. In other columns it is discarded. The bell rings in both cases.
-    void hold_refused_text(int column);
+    void hold_refused_text(int column) { edited_.hold_refused_text(column); }
+
     /// Called with the column after the user has changed a cell of the current row.
     std::function<void(int)> column_updated;
 
@@ -83,18 +84,13 @@ private:
     bool take_character(const QKeyEvent& event);
     void choose_by_letter(QChar letter);
     void start_typing(const QString& text);
-    void watch_editor(QLineEdit& editor, const QModelIndex& index);
     void drop_cell();
-    bool may_leave_cell();
     bool keyboard_is_elsewhere() const;
     void commit_and_move_on();
 
     recordset_model* model_;
     std::map<int, choice_menu*> menus_;
-    std::map<int, std::function<key_answer(QChar)>> filters_;
-    std::set<int> holding_columns_;
-    QPointer<QLineEdit> editor_;
-    QPersistentModelIndex edited_;
+    edited_cell edited_;
     int col_ = 0;
     /// True while the cursor is moved to the current row of the recordset; otherwise a move of the cursor
     /// moves the recordset.
