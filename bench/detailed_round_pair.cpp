@@ -6,7 +6,6 @@
 #include "bench/round_in_window.h"
 #include "bench/stopwatch.h"
 #include "round/f_new_round.h"
-#include "round/page_bar.h"
 
 /// Opening a detailed round of a full diary: from the list's command until its window is painted, and
 /// from the click on the detailed page until its shots are. The floor reads what is then displayed.
@@ -39,7 +38,7 @@ void open_detailed_page(benchmark::State& state)
         in_round_window(testing::key_in_diary(round_in_diary), [&](f_new_round& window) {
             Form::paint_now();
             const stopwatch watch;
-            window.pages().click(round_page::detailed);
+            click_tab_of_shots(window);
             Form::paint_now();
             state.SetIterationTime(watch.seconds());
         });

@@ -5,9 +5,9 @@
 #include "bench/diaries.h"
 #include "bench/round_in_window.h"
 #include "bench/stopwatch.h"
+#include "controls/TabStrip.h"
 #include "records/Main_module.h"
 #include "round/f_new_round.h"
-#include "round/hole_bar.h"
 #include "scoring/limits.h"
 #include "tests/support/full_diary.h"
 
@@ -31,19 +31,19 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
         Form::paint_now();
     };
     // The first commit of a connection creates the log, once per start; it is not measured.
-    hole_bar& holes = window.holes();
+    auto& holes = *window.findChild<TabStrip*>(QStringLiteral("TabStrip1"));
     int hole = 2;
     change_hole();
-    holes.click_tab(hole);
+    holes.click(hole);
     for (auto _ : state) {
         change_hole();
         hole = hole % hole_count + 1;
         const stopwatch watch;
-        holes.click_tab(hole);
+        holes.click(hole);
         if (end == hole_seen::painted)
             Form::paint_now();
         state.SetIterationTime(watch.seconds());
-        if (holes.selected_tab() != hole)
+        if (holes.selected() != hole)
             state.SkipWithError("the hole was not left");
     }
 }

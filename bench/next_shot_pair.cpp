@@ -7,7 +7,6 @@
 #include "bench/plain_store.h"
 #include "bench/round_in_window.h"
 #include "bench/stopwatch.h"
-#include "round/detailed_page.h"
 #include "round/f_new_round.h"
 #include "round/shot_grid.h"
 #include "store/DataEnvironment1.h"
@@ -60,7 +59,7 @@ QWidget* enter_until_last_key(f_new_round& window)
     shots.CancelUpdate();
     for (const QString& statement : hole_before_its_putts())
         data_environment().connection.Execute(statement);
-    window.detailed().open_hole_shots();
+    window.open_hole_shots();
     for (int putt = 1; putt <= putts_entered; ++putt)
         QTest::keyClick(type_distance(window, '9'), Qt::Key_Return);
     QWidget* box = type_distance(window, '4');

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "controls/TabStrip.h"
 #include "records/round_list.h"
 #include "round/f_new_round.h"
-#include "round/page_bar.h"
 #include "round/round_opening.h"
 #include "store/DataEnvironment1.h"
 
@@ -30,10 +30,15 @@ void in_round_window(const QString& key, const std::function<void(f_new_round&)>
 void on_detailed_page_of(const QString& key, const std::function<void(f_new_round&)>& work)
 {
     in_round_window(key, [&](f_new_round& window) {
-        window.pages().click(round_page::detailed);
+        click_tab_of_shots(window);
         Form::paint_now();
         work(window);
     });
+}
+
+void click_tab_of_shots(f_new_round& window)
+{
+    window.findChild<TabStrip*>(QStringLiteral("TabStrip2"))->click(static_cast<int>(round_page::detailed));
 }
 
 }  // namespace verdane::bench

@@ -20,4 +20,7 @@ void in_round_window(const QString& key, const std::function<void(f_new_round&)>
 /// The same, the shots of hole 1 being on screen.
 void on_detailed_page_of(const QString& key, const std::function<void(f_new_round&)>& work);
 
+/// Clicks the tab of shot-by-shot entry.
+void click_tab_of_shots(f_new_round& window);
+
 }  // namespace verdane::bench

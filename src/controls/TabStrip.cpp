@@ -24,8 +24,7 @@ void TabStrip::click(int tab)
         if (before_click && !before_click())
             return;
         select(tab);
-        if (clicked)
-            clicked();
+        Q_EMIT clicked();
     });
 }
 

@@ -11,21 +11,25 @@ namespace verdane {
 ///
 /// Keyboard: Left, Right, Home and End select a tab as a click does.
 class TabStrip : public QTabBar {
+    Q_OBJECT
+
 public:
     explicit TabStrip(QWidget* parent = nullptr);
 
     /// Called before a click changes the tab; false keeps the old one.
     std::function<bool()> before_click;
-    /// Called after a click, when the new tab is selected.
-    std::function<void()> clicked;
 
     /// The selected tab, from 1.
     int selected() const { return currentIndex() + 1; }
-    /// Selects a tab without calling `before_click` and `clicked`.
+    /// Selects a tab without calling `before_click` and without `clicked`.
     void select(int tab) { setCurrentIndex(tab - 1); }
 
-    /// Acts as a click on a tab: calls `before_click`, selects the tab and calls `clicked`.
+    /// Acts as a click on a tab: calls `before_click`, selects the tab and emits `clicked`.
     void click(int tab);
+
+Q_SIGNALS:
+    /// A tab was clicked, also the selected one; the new tab is selected.
+    void clicked();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

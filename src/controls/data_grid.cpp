@@ -234,8 +234,8 @@ bool data_grid::commit_cell()
         const int column = typed->cell.column();
         if (!model_->write(typed->cell.row(), column, typed->text))
             ring_bell();
-        else if (column_updated)
-            column_updated(column);
+        else
+            Q_EMIT column_updated(column);
     });
     return true;
 }

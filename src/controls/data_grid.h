@@ -23,6 +23,8 @@ class choice_menu;
 /// The cells of a column may have a button that opens a menu: by a click on it, a double click on the cell,
 /// Space, Enter, F4, Alt+Down, or the first letter of an entry. The text of such cells cannot be edited.
 class data_grid : public QTableView {
+    Q_OBJECT
+
 public:
     explicit data_grid(recordset_model* model, QWidget* parent = nullptr);
 
@@ -49,9 +51,6 @@ public:
     /// corrected or discarded by Escape. In other columns it is discarded. The bell rings in both cases.
     void hold_refused_text(int column) { edited_.hold_refused_text(column); }
 
-    /// Called with the column after the user has changed a cell of the current row.
-    std::function<void(int)> column_updated;
-
     /// Opens the menu of the cell with the cursor, if it has one.
     void open_cell_menu();
     /// Writes the text that is being edited. False if it is not valid and stays in its cell. Every routine
@@ -66,6 +65,10 @@ public:
     bool is_typed_into(const QModelIndex& cell) const;
     /// The rectangle of the button of a cell, from the rectangle of the cell.
     static QRect button_in(const QRect& cell);
+
+Q_SIGNALS:
+    /// The user has changed the cell of the current row in that column.
+    void column_updated(int column);
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

@@ -53,12 +53,13 @@ void on_double_click(QListWidget& list, Routine routine)
                      [routine = std::move(routine)] { run_event(routine); });
 }
 
-/// Calls a callback of a control, unless the owner of the control has left it unset.
-template <typename... Parameters, typename... Arguments>
-void call_if_set(const std::function<void(Parameters...)>& callback, Arguments&&... arguments)
+/// A signal of a pane or of another control of the program, with its values.
+template <typename Sender, typename Signal, typename Routine>
+void on_signal(Sender& sender, Signal signal, Routine routine)
 {
-    if (callback)
-        callback(std::forward<Arguments>(arguments)...);
+    QObject::connect(&sender, signal, &sender, [routine = std::move(routine)](const auto&... values) {
+        run_event([&] { routine(values...); });
+    });
 }
 
 /// Calls a routine once, after the window was painted for the first time. For work that need not delay the

@@ -55,10 +55,7 @@ bag_filters::bag_filters(const Form& window)
     setObjectName(u"Frame1"_s);
     name_control(*this, window.caption(u"Rondes des moyennes", u"Rounds of the averages"));
     auto* update = named(make_button(window.caption(u"Actualiser", u"Update")), u"Actualiser");
-    on_click(*update, [this] {
-        if (update_clicked)
-            update_clicked();
-    });
+    connect(update, &QPushButton::clicked, this, &bag_filters::update_clicked);
     take_double_click_as_one(*update);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(rhythm, rhythm, rhythm, rhythm);

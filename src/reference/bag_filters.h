@@ -3,8 +3,6 @@
 #include <QGroupBox>
 #include <QString>
 
-#include <functional>
-
 #include "statistics/selection_filters.h"
 
 class QLayout;
@@ -17,6 +15,8 @@ class Form;
 /// The right half of the golf bag: the rounds from which the averages are computed, selected by their range,
 /// the weather, a partner and a course.
 class bag_filters : public QGroupBox {
+    Q_OBJECT
+
 public:
     /// Makes the filters in the language of their window.
     explicit bag_filters(const Form& window);
@@ -29,8 +29,9 @@ public:
     /// The selection of the user.
     selection_arguments selection() const;
 
-    /// Called by the update button.
-    std::function<void()> update_clicked;
+Q_SIGNALS:
+    /// A click on the update button.
+    void update_clicked();
 
 private:
     QWidget* make_list_frame(QStringView name, QStringView label_name, const QString& words,

@@ -9,7 +9,6 @@
 
 #include "base/language.h"
 #include "base/text.h"
-#include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
@@ -112,10 +111,7 @@ void course_general_page::connect_events()
     for (const box which : {rating, slope})
         filter_keys(boxes_(which), [this, which](QChar key) { return figure_key(boxes_(which), key); });
     for (const auto& [index, edit] : boxes_.members())
-        on_change(*edit, [this] {
-            if (changed)
-                changed();
-        });
+        connect(edit, &QLineEdit::textChanged, this, &course_general_page::changed);
 }
 
 QString course_general_page::text(box which) const

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <functional>
 #include <vector>
 
 #include "controls/control_array.h"
@@ -18,6 +17,8 @@ class Form;
 
 /// The first page of the course editor: name, tee, rating, slope and three lines of address.
 class course_general_page : public course_page {
+    Q_OBJECT
+
 public:
     /// The members of the control array `text`.
     enum box { slope = 0, name = 1, rating = 2, address_1 = 3, address_2 = 4, address_3 = 5 };
@@ -40,8 +41,9 @@ public:
     /// The boxes in the order of the Tab key.
     std::vector<QWidget*> tab_order() const;
 
-    /// Called after each change of a text; the tee is not one.
-    std::function<void()> changed;
+Q_SIGNALS:
+    /// A text has changed; the tee is not one.
+    void changed();
 
 private:
     void make_boxes();

@@ -147,8 +147,8 @@ bool course_holes::may_leave(figure which, int index)
     }
     if (refusal != hole_refusal::none)
         refuse(box(which, index), reason_of(refusal, window_));
-    else if (which == yards && yards_entered)
-        yards_entered();
+    else if (which == yards)
+        Q_EMIT yards_entered();
     return refusal == hole_refusal::none;
 }
 

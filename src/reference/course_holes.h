@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QObject>
 #include <QStringList>
 
-#include <functional>
 #include <vector>
 
 #include "base/counts.h"
@@ -20,7 +20,9 @@ class Form;
 
 /// The figures of the eighteen holes in the course editor: a page for the front nine and one for the back
 /// nine. The index of a hole is its number less 1.
-class course_holes {
+class course_holes : public QObject {
+    Q_OBJECT
+
 public:
     enum figure { yards, stroke_index, par };
 
@@ -42,8 +44,9 @@ public:
     /// published scorecard lists them.
     std::vector<QWidget*> tab_order(int first_index) const;
 
-    /// Called when a length was left and accepted.
-    std::function<void()> yards_entered;
+Q_SIGNALS:
+    /// A length was left and accepted.
+    void yards_entered();
 
 private:
     QLineEdit& box(figure which, int index) const;

@@ -49,11 +49,10 @@ QLabel* make_mark(const QString& name)
 
 }  // namespace
 
-f_cost::f_cost(total_listener closed_with_total)
+f_cost::f_cost()
     : Form(u"f_cost"),
       total_(named(make_figure(total_digits), u"Text1")),
-      ok_(named(make_button(u"OK"_s), u"OKButton")),
-      closed_with_total_(std::move(closed_with_total))
+      ok_(named(make_button(u"OK"_s), u"OKButton"))
 {
     setWindowTitle(caption(u"Coûts", u"Costs"));
     lay_out();
@@ -172,8 +171,7 @@ void f_cost::activated()
 
 void f_cost::unloading()
 {
-    if (closed_with_total_)
-        closed_with_total_(total_->text());
+    Q_EMIT closed_with_total(total_->text());
 }
 
 }  // namespace verdane

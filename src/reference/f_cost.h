@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "controls/control_array.h"
 #include "controls/Form.h"
 
@@ -15,13 +13,11 @@ namespace verdane {
 /// The twelve costs of a round (`f_cost`, `f_cost_en`). It edits the current row of `rscost`, to which the
 /// caller has moved; only OK changes the row.
 class f_cost : public Form {
-public:
-    /// Called when the window closes, with the total that it showed last. If it was not closed by OK, this
-    /// is the total of what was typed, while the row has its old amounts.
-    using total_listener = std::function<void(const QString& total)>;
+    Q_OBJECT
 
+public:
     /// Loads the window. Fails with `overflow` when the total of the stored amounts exceeds 16 bits.
-    explicit f_cost(total_listener closed_with_total);
+    f_cost();
 
     /// The text in the box of an amount, 0 to 11. Amount i is ordinal i + 1 of the table.
     QString amount(int index) const;
@@ -32,6 +28,11 @@ public:
     /// Selects the digits of an amount.
     void select_amount(int index);
     void show_total(const QString& total);
+
+Q_SIGNALS:
+    /// The window closes, and showed this total last. If it was not closed by OK, this is the total of what
+    /// was typed, while the row has its old amounts.
+    void closed_with_total(const QString& total);
 
 protected:
     void activated() override;
@@ -48,7 +49,6 @@ private:
     control_array<QLineEdit> amounts_{u"cost"};
     QLineEdit* total_;
     QPushButton* ok_;
-    total_listener closed_with_total_;
 };
 
 }  // namespace verdane

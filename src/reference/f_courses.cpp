@@ -16,6 +16,7 @@
 #include "controls/TabStrip.h"
 #include "reference/course_general_page.h"
 #include "reference/course_page.h"
+#include "reference/edited_course.h"
 #include "reference/f_courses_func.h"
 
 namespace verdane {
@@ -129,9 +130,9 @@ void f_courses::set_tab_order()
 
 void f_courses::connect_events()
 {
-    general_->changed = [this] { mark_changed(); };
-    holes_.yards_entered = [this] { f_courses_func::yards_entered(*this); };
-    tabs_->clicked = [this] { f_courses_func::page_clicked(*this); };
+    on_signal(*general_, &course_general_page::changed, [this] { mark_changed(); });
+    on_signal(holes_, &course_holes::yards_entered, [this] { f_courses_func::yards_entered(*this); });
+    on_signal(*tabs_, &TabStrip::clicked, [this] { f_courses_func::page_clicked(*this); });
     on_click(*ok_, [this] {
         save();
         closeForm();
@@ -150,6 +151,43 @@ void f_courses::add_shortcuts()
     shortcuts().add(shortcut_table::close_course, press(u"B5"));
 }
 
+QString f_courses::course_name() const
+{
+    return general_->trimmed_text(course_general_page::name);
+}
+
+int f_courses::tee() const
+{
+    return general_->tee();
+}
+
+QString f_courses::tee_text() const
+{
+    return general_->tee_text();
+}
+
+bool f_courses::has_name_and_figures() const
+{
+    using page = course_general_page;
+    const auto filled = [this](page::box which) { return !general_->trimmed_text(which).isEmpty(); };
+    return filled(page::name) && filled(page::slope) && filled(page::rating);
+}
+
+void f_courses::show_rows()
+{
+    edited_course::show(*general_, holes_);
+}
+
+void f_courses::write_key(const QString& base) const
+{
+    edited_course::write_key(*general_, base);
+}
+
+void f_courses::write_rows() const
+{
+    edited_course::write(*general_, holes_);
+}
+
 int16 f_courses::selected_page() const
 {
     return tabs_->selected();
@@ -160,6 +198,14 @@ void f_courses::show_page(int16 page)
     pages_(plain(page)).show();
     pages_(plain(curFrame_)).hide();
     curFrame_ = page;
+}
+
+void f_courses::focus_first_box()
+{
+    if (curFrame_ == 1)
+        general_->focus_name();
+    else
+        holes_.focus_yards(curFrame_ == 2 ? 0 : first_back_index);
 }
 
 void f_courses::show_totals()

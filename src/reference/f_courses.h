@@ -41,14 +41,24 @@ public:
     /// The changes are no longer to be saved; the result of the last save does not change.
     void changes_are_settled() { needtosave_ = false; }
 
-    course_general_page& general() const { return *general_; }
-    course_holes& holes() { return holes_; }
-    const course_holes& holes() const { return holes_; }
+    /// The name of the course, trimmed.
+    QString course_name() const;
+    /// The digit of the tee, 0 to 7, and its name; -1 and an empty name if there is none.
+    int tee() const;
+    QString tee_text() const;
+    /// Name, rating and slope are not blank.
+    bool has_name_and_figures() const;
+
+    /// Between the pages and the rows; `edited_course` describes the routines.
+    void show_rows();
+    void write_key(const QString& base) const;
+    void write_rows() const;
 
     /// The page of the selected tab.
     int16 selected_page() const;
     /// Replaces the page on screen.
     void show_page(int16 page);
+    void focus_first_box();
     /// Shows the sums of the lengths. Fails with `overflow` when a sum exceeds 16 bits.
     void show_totals();
 

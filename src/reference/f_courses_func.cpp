@@ -3,7 +3,6 @@
 #include "base/text.h"
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
-#include "reference/course_general_page.h"
 #include "reference/course_keys.h"
 #include "reference/edited_course.h"
 #include "reference/f_courses.h"
@@ -13,14 +12,6 @@ namespace verdane::f_courses_func {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using box = course_general_page::box;
-
-bool has_name_and_figures(const f_courses& window)
-{
-    const auto filled = [&](box which) { return !window.general().trimmed_text(which).isEmpty(); };
-    return filled(box::name) && filled(box::slope) && filled(box::rating);
-}
 
 void refuse_incomplete(const f_courses& window)
 {
@@ -32,22 +23,20 @@ void refuse_incomplete(const f_courses& window)
 
 void refuse_duplicate(const f_courses& window)
 {
-    const course_general_page& page = window.general();
-    show_information(window.caption(u"Le tererain ", u"The golf course  ") + page.trimmed_text(box::name) +
-                         u' ' + page.tee_text() + window.caption(u" exist déjà.", u" already exist."),
+    show_information(window.caption(u"Le tererain ", u"The golf course  ") + window.course_name() + u' ' +
+                         window.tee_text() + window.caption(u" exist déjà.", u" already exist."),
                      QMessageBox::Warning);
 }
 
 /// False if the course is stored already; nothing is written then.
 bool set_key_of_new_course(const f_courses& window)
 {
-    const course_general_page& page = window.general();
-    const QString name = in_capitals(page.trimmed_text(box::name));
-    const known_course known = find_known_course(name, page.tee());
+    const QString name = in_capitals(window.course_name());
+    const known_course known = find_known_course(name, window.tee());
     if (known.duplicate)
         refuse_duplicate(window);
     else
-        edited_course::write_key(page, known.base.isEmpty() ? name : known.base);
+        window.write_key(known.base.isEmpty() ? name : known.base);
     return !known.duplicate;
 }
 
@@ -74,14 +63,6 @@ bool settle_changes(f_courses& window)
     }
 }
 
-void focus_first_box(f_courses& window)
-{
-    if (window.curFrame() == 1)
-        window.general().focus_name();
-    else
-        window.holes().focus_yards(window.curFrame() == 2 ? 0 : nine_holes);
-}
-
 }  // namespace
 
 void load(f_courses& window)
@@ -90,20 +71,20 @@ void load(f_courses& window)
     Place_and_lock(window);
     if (window.isNew())
         return;
-    edited_course::show(window.general(), window.holes());
+    window.show_rows();
     window.show_totals();
 }
 
 void save(f_courses& window)
 {
     window.save_begins();
-    if (!has_name_and_figures(window)) {
+    if (!window.has_name_and_figures()) {
         refuse_incomplete(window);
         return;
     }
     if (window.isNew() && !set_key_of_new_course(window))
         return;
-    edited_course::write(window.general(), window.holes());
+    window.write_rows();
     if (!edited_course::commit())
         show_information(u"Fatal Error : 101"_s);
     window.changes_are_settled();
@@ -130,7 +111,7 @@ void page_clicked(f_courses& window)
     const int16 page = window.selected_page();
     if (page != window.curFrame())
         window.show_page(page);
-    focus_first_box(window);
+    window.focus_first_box();
 }
 
 void yards_entered(f_courses& window)

@@ -41,7 +41,7 @@ QLabel* make_paragraph(QStringView name)
 f_sticks::f_sticks()
     : Form(u"f_sticks"),
       filters_(new bag_filters(*this)),
-      show_filters_(
+      filters_button_(
           named(make_button(caption(u"Actualiser les moyennes >>", u"Update Averages")), u"Command1")),
       ok_(named(make_button(u"OK"_s), u"enr")),
       cancel_(named(make_button(caption(u"Annuler", u"Cancel")), u"Fer"))
@@ -129,7 +129,7 @@ QLayout* f_sticks::make_foot()
 {
     auto* foot = new QHBoxLayout;
     foot->setSpacing(rhythm);
-    foot->addWidget(show_filters_);
+    foot->addWidget(filters_button_);
     foot->addStretch(1);
     foot->addWidget(ok_);
     foot->addWidget(cancel_);
@@ -138,8 +138,8 @@ QLayout* f_sticks::make_foot()
 
 void f_sticks::connect_events()
 {
-    on_click(*show_filters_, [this] { f_sticks_func::show_filters(*this); });
-    filters_->update_clicked = [this] { f_sticks_func::compute_averages(*this); };
+    on_click(*filters_button_, [this] { f_sticks_func::show_filters(*this); });
+    on_signal(*filters_, &bag_filters::update_clicked, [this] { f_sticks_func::compute_averages(*this); });
     on_click(*ok_, [this] { f_sticks_func::accept(*this); });
     on_click(*cancel_, [this] { f_sticks_func::cancel(*this); });
     set_cancel_button(*cancel_);
@@ -170,6 +170,25 @@ void f_sticks::set_average(int club, const QString& average)
 void f_sticks::set_explanation(const QString& text)
 {
     explanation_->setText(text);
+}
+
+bool f_sticks::fill_filters()
+{
+    filters_->fill_weather();
+    if (!filters_->fill_rounds())
+        return false;
+    filters_->fill_partners_and_courses();
+    return true;
+}
+
+void f_sticks::show_filters()
+{
+    filters_->show();
+}
+
+selection_arguments f_sticks::selection() const
+{
+    return filters_->selection();
 }
 
 void f_sticks::closeForm()

@@ -2,6 +2,7 @@
 
 #include "controls/control_array.h"
 #include "controls/Form.h"
+#include "statistics/selection.h"
 
 class QBoxLayout;
 class QGridLayout;
@@ -34,7 +35,11 @@ public:
     /// The explanation above the bag.
     void set_explanation(const QString& text);
 
-    bag_filters& filters() const { return *filters_; }
+    /// Fills the filters. False if no round is stored; the later lists are not filled then.
+    bool fill_filters();
+    void show_filters();
+    /// The selection of the user in the filters.
+    selection_arguments selection() const;
 
     /// Sets the window's width, at least what its controls need.
     void widen_to(int twips);
@@ -58,7 +63,7 @@ private:
     control_array<QLineEdit> averages_{u"Text1"};
     QLabel* explanation_ = nullptr;
     bag_filters* filters_;
-    QPushButton* show_filters_;
+    QPushButton* filters_button_;
     QPushButton* ok_;
     QPushButton* cancel_;
 };

@@ -9,7 +9,6 @@
 #include "records/Main_module.h"
 #include "records/round_list.h"
 #include "records/round_rows.h"
-#include "reference/bag_filters.h"
 #include "reference/f_sticks.h"
 #include "scoring/limits.h"
 #include "statistics/club_statistics.h"
@@ -126,18 +125,16 @@ void load(f_sticks& window)
     Place_and_lock(window);
     open_bag();
     show_bag(window);
-    window.filters().fill_weather();
-    if (!window.filters().fill_rounds()) {
+    if (!window.fill_filters()) {
         stop_without_rounds(window);
         return;
     }
-    window.filters().fill_partners_and_courses();
     window.widen_to(bag_width);
 }
 
 void show_filters(f_sticks& window)
 {
-    window.filters().show();
+    window.show_filters();
     window.widen_to(width_with_filters);
     if (main_frame())
         window.move(window.x(), main_frame()->frame_widget()->geometry().top() + pixels(top_with_filters));
@@ -146,7 +143,7 @@ void show_filters(f_sticks& window)
 
 void compute_averages(f_sticks& window)
 {
-    const selection_arguments chosen = window.filters().selection();
+    const selection_arguments chosen = window.selection();
     // The statistic opens the names itself.
     data_environment().rssticknames.Close();
     Statistics::club_run silent;

@@ -77,8 +77,9 @@ void detailed_page::connect_events()
                 (this->*pressed)();
         });
     }
-    choices_.next_shot = [this] { next_shot(); };
-    choices_.last_column_chosen = [this] { next_button_->setFocus(Qt::TabFocusReason); };
+    on_signal(choices_, &shot_choices::next_shot_wanted, [this] { next_shot(); });
+    on_signal(choices_, &shot_choices::last_column_chosen,
+              [this] { next_button_->setFocus(Qt::TabFocusReason); });
 }
 
 bool detailed_page::finish_typing()
@@ -227,7 +228,7 @@ void detailed_page::summarise_hole()
     if (!summary)
         return;
     grid_->ReBind();
-    call_if_set(summarised, *summary);
+    Q_EMIT summarised(*summary);
 }
 
 void detailed_page::show_finish_button(bool visible)

@@ -29,12 +29,11 @@ struct blank_shot {
 /// Shot-by-shot entry: the grid of shots and its commands. The rules are in `shot_entry`; the page runs them,
 /// shows their results and the messages.
 class detailed_page : public QGroupBox {
+    Q_OBJECT
+
 public:
     /// `hole` returns the hole on screen.
     detailed_page(Form& window, shot_rows& rows, std::function<hole_on_screen()> hole);
-
-    /// Runs with the figures of a hole whenever its shots were summarised.
-    std::function<void(const hole_summary&)> summarised;
 
     /// The hole that was summarised last has classified shots.
     bool isdetailed() const { return entry_.isdetailed(); }
@@ -85,6 +84,10 @@ public:
 
     /// The controls in the order of the Tab key.
     std::vector<QWidget*> tab_order() const;
+
+Q_SIGNALS:
+    /// The shots of the hole on screen were counted.
+    void summarised(const hole_summary& figures);
 
 private:
     QPushButton* make_command(const text_pair& caption, QStringView name, const shortcut& keys);

@@ -14,9 +14,11 @@
 #include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
+#include "round/round_record.h"
 #include "round/statistics_pane.h"
 #include "round/tab_keys.h"
 #include "round/tee_off.h"
+#include "scoring/round_key.h"
 
 namespace verdane {
 
@@ -52,23 +54,23 @@ public:
 // The panes are made in the order in which Ctrl+F1 lists their keys.
 f_new_round::f_new_round(shot_rows& shots)
     : Form(u"f_new_round"),
-      shots_(shots),
-      holes_(new hole_bar(*this)),
-      pages_(new page_bar(*this)),
-      quick_(new quick_page(*this)),
-      statistics_(new statistics_pane(*this)),
-      detailed_(
-          new detailed_page(*this, shots,
-                            [this] {
-                                return hole_on_screen{date_value_, holes_->listed_hole(), holes_->card()};
-                            })),
-      parameters_(new parameters_pane(*this)),
-      totals_(new totals_pane)
+      panes_{*new hole_bar(*this),
+             *new page_bar(*this),
+             *new quick_page(*this),
+             *new statistics_pane(*this),
+             *new detailed_page(
+                 *this, shots,
+                 [this] {
+                     return hole_on_screen{date_value_, panes_.holes.listed_hole(), panes_.holes.card()};
+                 }),
+             *new parameters_pane(*this),
+             *new totals_pane,
+             shots}
 {
     lay_out();
     connect_panes();
     connect_window();
-    f_new_round_func::load(*this);
+    f_new_round_func::load(*this, panes_);
 }
 
 void f_new_round::lay_out()
@@ -76,31 +78,31 @@ void f_new_round::lay_out()
     setWindowTitle(caption(u"Ronde", u"Round"));
     auto* content = new QVBoxLayout;
     content->setSpacing(gap_between_rows);
-    content->addWidget(holes_);
-    content->addWidget(pages_);
+    content->addWidget(&panes_.holes);
+    content->addWidget(&panes_.pages);
     content->addLayout(make_panes(), 1);
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     page->setSpacing(gap_between_rows);
-    page->addWidget(holes_->tab_strip());
+    page->addWidget(panes_.holes.tab_strip());
     page->addWidget(scrolled(content), 1);
     page->addLayout(make_bottom());
     order_for_tab_key();
-    std::vector<QWidget*> wheel_controls = parameters_->wheel_controls();
-    wheel_controls.push_back(holes_->wheel_control());
+    std::vector<QWidget*> wheel_controls = panes_.parameters.wheel_controls();
+    wheel_controls.push_back(panes_.holes.wheel_control());
     for (QWidget* control : wheel_controls)
         new wheel_filter(*control);
 }
 
 QLayout* f_new_round::make_panes()
 {
-    panes_ = new QHBoxLayout;
-    panes_->setSpacing(rhythm);
-    panes_->addWidget(quick_);
-    panes_->addWidget(statistics_, 1);
-    panes_->addWidget(detailed_, 1);
-    panes_->addWidget(parameters_);
-    return panes_;
+    pane_layout_ = new QHBoxLayout;
+    pane_layout_->setSpacing(rhythm);
+    pane_layout_->addWidget(&panes_.quick);
+    pane_layout_->addWidget(&panes_.statistics, 1);
+    pane_layout_->addWidget(&panes_.detailed, 1);
+    pane_layout_->addWidget(&panes_.parameters);
+    return pane_layout_;
 }
 
 QLayout* f_new_round::make_bottom()
@@ -109,7 +111,7 @@ QLayout* f_new_round::make_bottom()
     end_buttons_.add(cancel, make_button(caption(u"Annuler", u"Cancel")));
     auto* bottom = new QHBoxLayout;
     bottom->setSpacing(rhythm);
-    bottom->addWidget(totals_);
+    bottom->addWidget(&panes_.totals);
     bottom->addStretch();
     for (const int index : {ok, cancel}) {
         end_buttons_(index).setMinimumWidth(12 * rhythm);
@@ -123,8 +125,8 @@ QLayout* f_new_round::make_bottom()
 void f_new_round::order_for_tab_key()
 {
     std::vector<QWidget*> order;
-    for (const auto& part : {holes_->tab_order(), pages_->tab_order(), quick_->tab_order(),
-                             detailed_->tab_order(), parameters_->tab_order()})
+    for (const auto& part : {panes_.holes.tab_order(), panes_.pages.tab_order(), panes_.quick.tab_order(),
+                             panes_.detailed.tab_order(), panes_.parameters.tab_order()})
         order.insert(order.end(), part.begin(), part.end());
     order.insert(order.end(), {&end_buttons_(ok), &end_buttons_(cancel)});
     for (std::size_t place = 1; place < order.size(); ++place)
@@ -133,49 +135,57 @@ void f_new_round::order_for_tab_key()
 
 void f_new_round::connect_panes()
 {
-    holes_->list_changed = [this] { f_new_round_func::hole_chosen(*this); };
-    holes_->before_tab_click = [this] { return f_new_round_func::hole_tab_before_click(*this); };
-    holes_->tab_clicked = [this] { f_new_round_func::hole_tab_clicked(*this); };
-    pages_->before_tab_click = [this] { return detailed_->finish_typing(); };
-    pages_->tab_clicked = [this] { f_new_round_func::page_changed(*this); };
-    pages_->shots_clicked = [this] { f_new_round_func::open_shots_of_hole(*this); };
-    pages_->putts_clicked = [this] { f_new_round_func::report_putts(*this); };
-    quick_->figure_changed = [this] { f_new_round_func::refresh_panel(*this, quick_->figures()); };
-    quick_->strokes_changed = [this] { f_new_round_func::refresh_score(*this); };
-    quick_->last_figure_typed = [this] { end_buttons_(ok).setFocus(Qt::TabFocusReason); };
-    detailed_->summarised = [this](const hole_summary& summary) {
-        f_new_round_func::show_summary(*this, summary);
-    };
-    parameters_->course_changed = [this] { f_new_round_func::course_selected(*this); };
-    parameters_->costs_clicked = [this] { f_new_round_func::show_costs(*this); };
+    namespace func = f_new_round_func;
+    hole_bar& holes = panes_.holes;
+    page_bar& pages = panes_.pages;
+    quick_page& quick = panes_.quick;
+    holes.before_tab_click = [this] { return func::hole_tab_before_click(*this, panes_); };
+    pages.before_tab_click = [this] { return panes_.detailed.finish_typing(); };
+    on_signal(holes, &hole_bar::list_changed, [this] { func::hole_chosen(*this, panes_); });
+    on_signal(holes, &hole_bar::tab_clicked, [this] { func::hole_tab_clicked(*this, panes_); });
+    on_signal(pages, &page_bar::tab_clicked, [this] { func::page_changed(*this, panes_); });
+    on_signal(pages, &page_bar::shots_clicked, [this] { func::open_shots_of_hole(*this, panes_); });
+    on_signal(pages, &page_bar::putts_clicked, [this] { func::report_putts(*this, panes_); });
+    on_signal(quick, &quick_page::figure_changed,
+              [this] { func::refresh_panel(*this, panes_, panes_.quick.figures()); });
+    on_signal(quick, &quick_page::strokes_changed,
+              [this] { func::refresh_score(panes_.quick, panes_.totals); });
+    on_signal(quick, &quick_page::last_figure_typed,
+              [this] { end_buttons_(ok).setFocus(Qt::TabFocusReason); });
+    on_signal(panes_.detailed, &detailed_page::summarised,
+              [this](const hole_summary& summary) { func::show_summary(panes_.quick, summary); });
+    on_signal(panes_.parameters, &parameters_pane::course_changed,
+              [this] { func::course_selected(*this, panes_); });
+    on_signal(panes_.parameters, &parameters_pane::costs_clicked, [this] { func::show_costs(panes_); });
 }
 
 void f_new_round::connect_window()
 {
     for (const auto& [index, button] : end_buttons_.members())
-        on_click(*button, [this, pressed = index] { f_new_round_func::on_ok_cancel(*this, pressed); });
+        on_click(*button,
+                 [this, pressed = index] { f_new_round_func::on_ok_cancel(*this, panes_, pressed); });
     set_cancel_button(end_buttons_(cancel));
-    watch_tab_keys(*this, *holes_, *pages_);
+    watch_tab_keys(*this, panes_.holes, panes_.pages);
 }
 
 /// Hides one page before it shows the other: both at once would enlarge the window beyond the screen
 /// permanently.
 void f_new_round::show_page(round_page page)
 {
-    const std::initializer_list<QWidget*> of_quick_page{quick_, statistics_};
-    const std::initializer_list<QWidget*> of_detailed_page{detailed_};
+    const std::initializer_list<QWidget*> of_quick_page{&panes_.quick, &panes_.statistics};
+    const std::initializer_list<QWidget*> of_detailed_page{&panes_.detailed};
     const bool quick = page == round_page::quick;
     for (QWidget* pane : quick ? of_detailed_page : of_quick_page)
         pane->hide();
-    panes_->setDirection(quick ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    parameters_->arrange(quick ? Qt::Vertical : Qt::Horizontal);
+    pane_layout_->setDirection(quick ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    panes_.parameters.arrange(quick ? Qt::Vertical : Qt::Horizontal);
     for (QWidget* pane : quick ? of_quick_page : of_detailed_page)
         pane->show();
 }
 
 void f_new_round::choose_date(f_get_date& dialog)
 {
-    dialog.canceled = [this] { get_date_canceled_ = true; };
+    on_signal(dialog, &f_get_date::canceled, [this] { get_date_canceled_ = true; });
     choosing_date_ = true;
     dialog.show_modal();
     choosing_date_ = false;
@@ -187,25 +197,102 @@ void f_new_round::hole_is_shown(int16 hole)
     last_hole_ = hole - 1;
 }
 
+void f_new_round::fill_courses(const std::vector<course_line>& courses)
+{
+    panes_.parameters.fill_courses(courses);
+}
+
+void f_new_round::select_course(int list_index)
+{
+    panes_.parameters.select_course(list_index);
+}
+
+void f_new_round::show_stored_hole(int16 hole, const QString& course_code)
+{
+    panes_.holes.select_in_list(plain(hole));
+    panes_.parameters.select_course(course_code);
+    panes_.holes.set_hole_in_boxes(hole);
+}
+
+void f_new_round::set_hole_in_boxes(int16 hole)
+{
+    panes_.holes.set_hole_in_boxes(hole);
+}
+
+void f_new_round::show_header(const round_header& header)
+{
+    panes_.parameters.show_weather(header.weather);
+    panes_.parameters.show_temperature(header.temperature);
+    panes_.holes.set_course_name(header.course_name);
+    panes_.holes.show_tee_off(Verdane_tools::key_date_text(date_value_),
+                              Verdane_tools::key_time_text(date_value_));
+    panes_.parameters.show_costs(header.costs);
+}
+
+void f_new_round::lock_date()
+{
+    panes_.holes.lock_date();
+}
+
+bool f_new_round::on_detailed_page() const
+{
+    return panes_.pages.is_selected(round_page::detailed);
+}
+
+void f_new_round::save_round(bool silent)
+{
+    f_new_round_func::save_round(*this, panes_, silent);
+}
+
+void f_new_round::ask_and_close(bool skip_prompt)
+{
+    f_new_round_func::ask_and_close(*this, panes_, skip_prompt);
+}
+
+bool f_new_round::isdetailed() const
+{
+    return panes_.detailed.isdetailed();
+}
+
+bool f_new_round::PUT_MODE() const
+{
+    return panes_.detailed.PUT_MODE();
+}
+
+bool f_new_round::open_hole_shots()
+{
+    return panes_.detailed.open_hole_shots();
+}
+
+bool f_new_round::check_shots()
+{
+    return panes_.detailed.check_shots();
+}
+
+blank_shot f_new_round::drop_blank_shot()
+{
+    return panes_.detailed.drop_blank_shot();
+}
+
 void f_new_round::saveShots()
 {
-    shots_.commit_all();
+    panes_.shots.commit_all();
 }
 
 void f_new_round::activated()
 {
     if (!choosing_date_)
-        f_new_round_func::activate(*this);
+        f_new_round_func::activate(*this, panes_);
 }
 
 void f_new_round::unloading()
 {
-    f_new_round_func::unload(*this);
+    f_new_round_func::unload(panes_);
 }
 
 void f_new_round::close_requested()
 {
-    f_new_round_func::on_close_box(*this);
+    f_new_round_func::on_close_box(*this, panes_);
 }
 
 }  // namespace verdane

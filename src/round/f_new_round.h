@@ -2,12 +2,16 @@
 
 #include <QString>
 
+#include <vector>
+
 #include "base/counts.h"
 #include "controls/control_array.h"
 #include "controls/Form.h"
 #include "reports/report_control.h"
+#include "round/detailed_page.h"
+#include "round/list_lines.h"
 #include "round/page_bar.h"
-#include "round/shot_rows.h"
+#include "round/round_panes.h"
 
 class QBoxLayout;
 class QLayout;
@@ -15,13 +19,8 @@ class QPushButton;
 
 namespace verdane {
 
-class detailed_page;
 class f_get_date;
-class hole_bar;
-class parameters_pane;
-class quick_page;
-class statistics_pane;
-class totals_pane;
+struct round_header;
 
 /// The window in which a round is created, reopened, entered and saved; in English `f_new_round_en`. It
 /// arranges the panes and connects their events with the routines of `f_new_round_func`.
@@ -68,20 +67,34 @@ public:
     /// The report on the putts of the round.
     report_control& cr2() { return cr2_; }
 
-    hole_bar& holes() const { return *holes_; }
-    page_bar& pages() const { return *pages_; }
-    quick_page& quick() const { return *quick_; }
-    statistics_pane& statistics() const { return *statistics_; }
-    detailed_page& detailed() const { return *detailed_; }
-    parameters_pane& parameters() const { return *parameters_; }
-    totals_pane& totals() const { return *totals_; }
-    shot_rows& shots() const { return shots_; }
+    /// Fills the list of courses. No course is selected.
+    void fill_courses(const std::vector<course_line>& courses);
+    /// Selects a course, which moves the recordsets of the courses to it.
+    void select_course(int list_index);
+    /// Shows a hole of a stored round and its course. `course_code` is the code of the course.
+    void show_stored_hole(int16 hole, const QString& course_code);
+    /// The number of the hole whose figures are in the boxes, which is kept in a hidden box.
+    void set_hole_in_boxes(int16 hole);
+    /// Shows what is stored for the round as a whole.
+    void show_header(const round_header& header);
+    /// Disables the button that chooses the date.
+    void lock_date();
 
     /// Shows the panes of a page and hides those of the other one.
     void show_page(round_page page);
     /// The tab of the detailed page is selected.
-    bool on_detailed_page() const { return pages_->is_selected(round_page::detailed); }
+    bool on_detailed_page() const;
 
+    /// `f_new_round_func::save_round` and `ask_and_close`.
+    void save_round(bool silent);
+    void ask_and_close(bool skip_prompt);
+
+    /// The routines of shot-by-shot entry; `detailed_page` describes them.
+    bool isdetailed() const;
+    bool PUT_MODE() const;
+    bool open_hole_shots();
+    bool check_shots();
+    blank_shot drop_blank_shot();
     /// Commits all shots that are not committed yet.
     void saveShots();
 
@@ -107,18 +120,11 @@ private:
     bool closingoK_ = false;
     report_control cr2_{this};
 
-    shot_rows& shots_;
-    hole_bar* holes_;
-    page_bar* pages_;
-    quick_page* quick_;
-    statistics_pane* statistics_;
-    detailed_page* detailed_;
-    parameters_pane* parameters_;
-    totals_pane* totals_;
+    round_panes panes_;
     /// OK and Cancel.
     control_array<QPushButton> end_buttons_{u"Command1"};
     /// The panes of both pages: side by side on the quick page, below each other on the detailed page.
-    QBoxLayout* panes_ = nullptr;
+    QBoxLayout* pane_layout_ = nullptr;
 };
 
 }  // namespace verdane

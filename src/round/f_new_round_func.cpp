@@ -3,6 +3,7 @@
 #include <QLocale>
 
 #include "controls/boxes.h"
+#include "controls/events.h"
 #include "controls/failure_guard.h"
 #include "controls/main_frame.h"
 #include "reference/f_cost.h"
@@ -44,19 +45,19 @@ void size_and_place(f_new_round& window)
     Place_and_lock(window);
 }
 
-void take_moment(f_new_round& window, const tee_off_moment& moment)
+void take_moment(f_new_round& window, hole_bar& holes, const tee_off_moment& moment)
 {
-    window.holes().show_tee_off(QLocale::system().toString(moment.date, QLocale::ShortFormat),
-                                moment.time_text());
+    holes.show_tee_off(QLocale::system().toString(moment.date, QLocale::ShortFormat), moment.time_text());
     round_record::set_key(moment.key());
     window.set_date_value(moment.key());
-    window.holes().lock_date();
+    holes.lock_date();
 }
 
-void open_tee_off_dialog(f_new_round& window)
+void open_tee_off_dialog(f_new_round& window, hole_bar& holes)
 {
     f_get_date dialog;
-    dialog.accepted = [&window](const tee_off_moment& moment) { take_moment(window, moment); };
+    on_signal(dialog, &f_get_date::moment_chosen,
+              [&](const tee_off_moment& moment) { take_moment(window, holes, moment); });
     window.choose_date(dialog);
 }
 
@@ -68,136 +69,138 @@ QMessageBox::StandardButton ask_to_save(const f_new_round& window)
                          QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel});
 }
 
-void save_and_close(f_new_round& window)
+void save_and_close(f_new_round& window, const round_panes& panes)
 {
     window.mark_changed();
-    save_round(window, false);
+    save_round(window, panes, false);
     if (!window.needSave())
         window.unload();
 }
 
-void save_and_leave(f_new_round& window)
+void save_and_leave(f_new_round& window, const round_panes& panes)
 {
-    save_round(window, true);
-    window.detailed().drop_blank_shot();
-    hole_tab_before_click(window);
+    save_round(window, panes, true);
+    panes.detailed.drop_blank_shot();
+    hole_tab_before_click(window, panes);
     Unlock_menu();
     // The summary has changed the boxes after the first save.
-    if (window.detailed().isdetailed())
-        save_round(window, true);
+    if (panes.detailed.isdetailed())
+        save_round(window, panes, true);
     window.unload();
 }
 
 /// The shots were checked: from now on only the quick page is shown.
-void return_to_quick_page(f_new_round& window)
+void return_to_quick_page(f_new_round& window, const round_panes& panes)
 {
     if (!window.on_detailed_page())
         return;
     window.allow_quick_page_only();
-    page_changed(window);
+    page_changed(window, panes);
 }
 
 }  // namespace
 
-void load(f_new_round& window)
+void load(f_new_round& window, const round_panes& panes)
 {
-    window.totals().hide();
-    window.detailed().show_finish_button(false);
-    window.holes().show_number(1);
+    panes.totals.hide();
+    panes.detailed.show_finish_button(false);
+    panes.holes.show_number(1);
     size_and_place(window);
     // `open_stored_round` shows the message about a missing row in `games2`.
     if (!round_record::has_row_in_games2())
         return;
-    window.holes().fill_list();
-    window.parameters().fill_weathers(window.french());
-    window.parameters().fill_partners(round_lists::open_partner_lines());
+    panes.holes.fill_list();
+    panes.parameters.fill_weathers(window.french());
+    panes.parameters.fill_partners(round_lists::open_partner_lines());
     round_record::move_to_first_course();
-    window.parameters().show_costs(round_record::cost_total());
-    window.parameters().show_weather(0);
-    window.holes().clear_date();
+    panes.parameters.show_costs(round_record::cost_total());
+    panes.parameters.show_weather(0);
+    panes.holes.clear_date();
     unload_round_list();
     // Closing the list has unlocked the menu.
     Lock_menu();
 }
 
-void activate(f_new_round& window)
+void activate(f_new_round& window, const round_panes& panes)
 {
     if (round_record::key_is_missing())
-        open_tee_off_dialog(window);
+        open_tee_off_dialog(window, panes.holes);
     if (round_record::key_is_missing()) {
-        ask_and_close(window, true);
+        ask_and_close(window, panes, true);
         return;
     }
     if (window.on_detailed_page()) {
-        window.detailed().enter_again();
+        panes.detailed.enter_again();
         return;
     }
-    window.shots().reopen();
-    window.quick().focus_first_box();
+    panes.shots.reopen();
+    panes.quick.focus_first_box();
 }
 
-void unload(f_new_round& window)
+void unload(const round_panes& panes)
 {
-    window.detailed().unbind();
+    panes.detailed.unbind();
     enable_save_and_close(true);
-    finishes_without_failure([&] { window.detailed().drop_untouched_shot(); });
+    finishes_without_failure([&] { panes.detailed.drop_untouched_shot(); });
     finishes_without_failure(round_record::close_tables);
-    finishes_without_failure([&] { window.shots().close(); });
+    finishes_without_failure([&] { panes.shots.close(); });
     Unlock_menu();
     unload_round_list();
 }
 
-void show_costs(f_new_round& window)
+void show_costs(const round_panes& panes)
 {
-    if (!window.detailed().finish_typing())
+    if (!panes.detailed.finish_typing())
         return;
-    f_cost costs([&window](const QString& total) { window.parameters().show_costs(total); });
+    f_cost costs;
+    on_signal(costs, &f_cost::closed_with_total,
+              [&panes](const QString& total) { panes.parameters.show_costs(total); });
     costs.show_modal();
 }
 
-void report_putts(f_new_round& window)
+void report_putts(f_new_round& window, const round_panes& panes)
 {
-    if (!window.detailed().finish_typing())
+    if (!panes.detailed.finish_typing())
         return;
     // A summary of a hole without shots would overwrite the figures of the quick page with zeros.
-    if (window.on_detailed_page() && !window.detailed().is_untouched())
-        window.detailed().finish_hole();
-    const QString round = window.caption(u"Ronde : ", u"Round : ") + window.holes().date() + u' ' +
-                          window.parameters().course();
+    if (window.on_detailed_page() && !panes.detailed.is_untouched())
+        panes.detailed.finish_hole();
+    const QString round =
+        window.caption(u"Ronde : ", u"Round : ") + panes.holes.date() + u' ' + panes.parameters.course();
     const QString weather = window.caption(u"Conditions atmosphériques : ", u"Weather conditions : ") +
-                            window.parameters().weather();
+                            panes.parameters.weather();
     Statistics::one_round_putt_report(window.cr2(), round, weather);
 }
 
-void on_ok_cancel(f_new_round& window, int index)
+void on_ok_cancel(f_new_round& window, const round_panes& panes, int index)
 {
-    if (!window.detailed().finish_typing() || !window.detailed().check_shots())
+    if (!panes.detailed.finish_typing() || !panes.detailed.check_shots())
         return;
-    return_to_quick_page(window);
+    return_to_quick_page(window, panes);
     if (index == f_new_round::ok) {
-        save_and_leave(window);
+        save_and_leave(window, panes);
         return;
     }
     Unlock_menu();
-    ask_and_close(window, false);
+    ask_and_close(window, panes, false);
 }
 
-void on_close_box(f_new_round& window)
+void on_close_box(f_new_round& window, const round_panes& panes)
 {
     // A round without a key has nothing to save.
     if (window.date_value().isEmpty()) {
-        ask_and_close(window, true);
+        ask_and_close(window, panes, true);
         return;
     }
     // A distance that is too large has to be corrected, or dropped by Escape, before anything else.
-    if (!window.detailed().finish_typing())
+    if (!panes.detailed.finish_typing())
         return;
-    if (window.detailed().check_shots())
-        return_to_quick_page(window);
-    ask_and_close(window, false);
+    if (panes.detailed.check_shots())
+        return_to_quick_page(window, panes);
+    ask_and_close(window, panes, false);
 }
 
-void ask_and_close(f_new_round& window, bool skip_prompt)
+void ask_and_close(f_new_round& window, const round_panes& panes, bool skip_prompt)
 {
     if (!window.needSave()) {
         window.unload();
@@ -205,11 +208,11 @@ void ask_and_close(f_new_round& window, bool skip_prompt)
     }
     const auto answer = skip_prompt ? QMessageBox::No : ask_to_save(window);
     if (answer == QMessageBox::Yes)
-        save_and_close(window);
+        save_and_close(window, panes);
     if (answer != QMessageBox::No)
         return;
     round_record::drop_changes();
-    window.shots().drop_changes();
+    panes.shots.drop_changes();
     window.unload();
 }
 

@@ -2,39 +2,40 @@
 
 namespace verdane {
 class f_new_round;
-}
+struct round_panes;
+}  // namespace verdane
 
-/// The life cycle of the round window, for both twins. `hole_navigation.h` and `load_and_save.h` have the
-/// other routines of this namespace.
+/// The life cycle of the round window, for both twins. The window passes its panes to the routines.
+/// `hole_navigation.h` and `load_and_save.h` have the other routines of this namespace.
 namespace verdane::f_new_round_func {
 
 /// Sizes the window, fills the lists, shows hole 1 and closes the round list, so that it is never open below
 /// the round window.
-void load(f_new_round& window);
+void load(f_new_round& window, const round_panes& panes);
 
 /// Opens the tee-off dialog for a round without a key; a round that still has none closes its window and
 /// leaves no rows. Focuses the page otherwise.
-void activate(f_new_round& window);
+void activate(f_new_round& window, const round_panes& panes);
 
 /// Closes the recordsets of the round. A failure of one step does not prevent the others.
-void unload(f_new_round& window);
+void unload(const round_panes& panes);
 
 /// Opens the twelve amounts of the round. The total that their window showed last stays on screen.
-void show_costs(f_new_round& window);
+void show_costs(const round_panes& panes);
 
 /// Prints the putts of the round. On the detailed page the hole on screen is summarised first, so that its
 /// putts are included.
-void report_putts(f_new_round& window);
+void report_putts(f_new_round& window, const round_panes& panes);
 
 /// OK (index 4) saves and closes, Cancel (index 2) closes after the question whether to save.
-void on_ok_cancel(f_new_round& window, int index);
+void on_ok_cancel(f_new_round& window, const round_panes& panes, int index);
 
 /// The title bar's close box: like Cancel, but an incomplete shot is reported and does not keep the window
 /// open.
-void on_close_box(f_new_round& window);
+void on_close_box(f_new_round& window, const round_panes& panes);
 
 /// Closes the window. If there is something to save, shows the question whether to save first; with
 /// `skip_prompt` the changes are dropped without a question.
-void ask_and_close(f_new_round& window, bool skip_prompt);
+void ask_and_close(f_new_round& window, const round_panes& panes, bool skip_prompt);
 
 }  // namespace verdane::f_new_round_func

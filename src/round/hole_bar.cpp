@@ -8,7 +8,6 @@
 #include <QSignalBlocker>
 
 #include "controls/accessible_controls.h"
-#include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "controls/TabStrip.h"
@@ -79,8 +78,8 @@ hole_bar::hole_bar(Form& window) : hole_tabs_(make_hole_tabs(window))
     course_name_box_ = add_hidden(index_of::course_name);
     hole_box_ = add_hidden(index_of::hole);
     hole_tabs_->before_click = [this] { return !before_tab_click || before_tab_click(); };
-    hole_tabs_->clicked = [this] { call_if_set(tab_clicked); };
-    on_select(*hole_list_, [this] { call_if_set(list_changed); });
+    connect(hole_tabs_, &TabStrip::clicked, this, &hole_bar::tab_clicked);
+    connect(hole_list_, &QComboBox::currentIndexChanged, this, &hole_bar::list_changed);
 }
 
 QLineEdit* hole_bar::add_figure(QHBoxLayout& line, int index, const QString& caption, int characters)

@@ -22,16 +22,13 @@ class TabStrip;
 /// The hole on screen: the tabs and the list that choose it, its card, and when the round was teed off.
 /// Holes are numbered 1 to 18.
 class hole_bar : public QWidget {
+    Q_OBJECT
+
 public:
     explicit hole_bar(Form& window);
 
-    /// Runs after each change of the list's entry, by the user or by the program.
-    std::function<void()> list_changed;
-
     /// Runs before a click on a tab is accepted; false keeps the selected tab.
     std::function<bool()> before_tab_click;
-    /// Runs after a click on a tab, also on the selected one.
-    std::function<void()> tab_clicked;
 
     /// The row of tabs, which the window places above its other content.
     QWidget* tab_strip() const;
@@ -41,7 +38,7 @@ public:
     void click_tab(int hole);
     void set_tab_tip(const QString& text);
 
-    /// Fills the list and selects hole 1 in it, which runs `list_changed`.
+    /// Fills the list and selects hole 1 in it, with `list_changed`.
     void fill_list();
     /// The hole that is selected in the list; it is the hole on screen.
     int16 listed_hole() const;
@@ -73,6 +70,12 @@ public:
     std::vector<QWidget*> tab_order() const;
     /// The control that the mouse wheel would change.
     QWidget* wheel_control() const;
+
+Q_SIGNALS:
+    /// The entry of the list has changed, by the user or by the program.
+    void list_changed();
+    /// A tab was clicked, also the selected one.
+    void tab_clicked();
 
 private:
     QLineEdit* add_figure(QHBoxLayout& line, int index, const QString& caption, int characters);

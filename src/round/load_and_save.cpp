@@ -55,66 +55,65 @@ quick_figures figures_from_shots(const hole_summary& summary)
 }
 
 /// When a hole is left, the list already has the next one selected.
-int16 hole_to_save(const f_new_round& window, bool silent)
+int16 hole_to_save(const f_new_round& window, const hole_bar& holes, bool silent)
 {
     if (silent)
         return window.last_hole() + 1;
-    return window.holes().hole_in_boxes();
+    return holes.hole_in_boxes();
 }
 
 }  // namespace
 
-void refresh_panel(f_new_round& window, const Round_functions::figure_source& figures)
+void refresh_panel(f_new_round& window, const round_panes& panes,
+                   const Round_functions::figure_source& figures)
 {
     window.mark_changed();
-    const int16 hole = window.holes().listed_hole();
-    window.statistics().show_hole(Round_functions::figures_of(hole, figures),
-                                  Round_functions::hole_par(hole));
+    const int16 hole = panes.holes.listed_hole();
+    panes.statistics.show_hole(Round_functions::figures_of(hole, figures), Round_functions::hole_par(hole));
 }
 
-void refresh_score(f_new_round& window)
+void refresh_score(const quick_page& quick, totals_pane& totals)
 {
-    const auto totals = Round_functions::round_score(window.quick().figures());
-    window.totals().show_round(Round_functions::labels_of(totals));
+    totals.show_round(Round_functions::labels_of(Round_functions::round_score(quick.figures())));
 }
 
-void load_hole(f_new_round& window, int16 hole)
+void load_hole(f_new_round& window, const round_panes& panes, int16 hole)
 {
-    window.quick().show_stored(figures_from_rows(hole));
-    show_hole_card(window, hole);
-    window.holes().set_hole_in_boxes(hole);
-    refresh_panel(window, Round_functions::from_row);
+    panes.quick.show_stored(figures_from_rows(hole));
+    show_hole_card(panes.holes, hole);
+    panes.holes.set_hole_in_boxes(hole);
+    refresh_panel(window, panes, Round_functions::from_row);
 }
 
-void show_hole_card(f_new_round& window, int16 hole)
+void show_hole_card(hole_bar& holes, int16 hole)
 {
-    window.holes().show_card(Round_functions::read_hole_card(hole));
+    holes.show_card(Round_functions::read_hole_card(hole));
 }
 
-void show_summary(f_new_round& window, const hole_summary& summary)
+void show_summary(quick_page& quick, const hole_summary& summary)
 {
-    window.quick().show_counted(figures_from_shots(summary));
+    quick.show_counted(figures_from_shots(summary));
 }
 
-void store_hole(f_new_round& window, int16 hole)
+void store_hole(const quick_page& quick, const QStringList& partners, int16 hole)
 {
-    const hole_figures f = window.quick().figures();
+    const hole_figures f = quick.figures();
     Round_functions::store_strokes(hole, {f.long_shots, f.approach, f.putts});
     Round_functions::store_penalties(hole, {f.pen_rule, f.pen_water, f.pen_bounds, f.pen_lost});
-    round_record::store_partners(window.parameters().selected_partners());
-    Round_functions::store_situation(hole, window.quick().situation());
+    round_record::store_partners(partners);
+    Round_functions::store_situation(hole, quick.situation());
 }
 
-void save_round(f_new_round& window, bool silent)
+void save_round(f_new_round& window, const round_panes& panes, bool silent)
 {
-    if (window.holes().date().isEmpty()) {
+    if (panes.holes.date().isEmpty()) {
         show_information(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
                                         u"Please select a round's date first."),
                          QMessageBox::Critical);
         return;
     }
-    store_hole(window, hole_to_save(window, silent));
-    const parameters_pane& parameters = window.parameters();
+    const parameters_pane& parameters = panes.parameters;
+    store_hole(panes.quick, parameters.selected_partners(), hole_to_save(window, panes.holes, silent));
     round_record::store_and_commit(
         window.date_value(),
         {parameters.course_index(), parameters.weather_index(), parameters.temperature()});

@@ -5,7 +5,6 @@
 
 #include "controls/accessible_controls.h"
 #include "controls/control_array.h"
-#include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "controls/shortcuts.h"
@@ -41,9 +40,9 @@ page_bar::page_bar(Form& window)
     line->addWidget(putts_button_);
     line->addWidget(shots_button_);
     page_tabs_->before_click = [this] { return !before_tab_click || before_tab_click(); };
-    page_tabs_->clicked = [this] { call_if_set(tab_clicked); };
-    on_click(*shots_button_, [this] { call_if_set(shots_clicked); });
-    on_click(*putts_button_, [this] { call_if_set(putts_clicked); });
+    connect(page_tabs_, &TabStrip::clicked, this, &page_bar::tab_clicked);
+    connect(shots_button_, &QPushButton::clicked, this, &page_bar::shots_clicked);
+    connect(putts_button_, &QPushButton::clicked, this, &page_bar::putts_clicked);
 }
 
 bool page_bar::is_selected(round_page page) const

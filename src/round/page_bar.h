@@ -17,17 +17,13 @@ enum class round_page { quick = 1, detailed = 2 };
 
 /// The tabs of the two pages, and the buttons next to them.
 class page_bar : public QWidget {
+    Q_OBJECT
+
 public:
     explicit page_bar(Form& window);
 
-    /// Clicks on "Putts" and on the button that opens the shots of the hole.
-    std::function<void()> putts_clicked;
-    std::function<void()> shots_clicked;
-
     /// Runs before a click on a tab is accepted; false keeps the selected page.
     std::function<bool()> before_tab_click;
-    /// Runs after a click on a tab, also on the selected one.
-    std::function<void()> tab_clicked;
 
     bool is_selected(round_page page) const;
     void select(round_page page);
@@ -37,6 +33,13 @@ public:
 
     /// The controls in the order of the Tab key.
     std::vector<QWidget*> tab_order() const;
+
+Q_SIGNALS:
+    /// A tab was clicked, also the selected one.
+    void tab_clicked();
+    /// Clicks on "Putts" and on the button that opens the shots of the hole.
+    void putts_clicked();
+    void shots_clicked();
 
 private:
     TabStrip* page_tabs_;

@@ -12,7 +12,6 @@
 
 #include "base/language.h"
 #include "controls/control_array.h"
-#include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "round/course_box.h"
@@ -84,8 +83,8 @@ parameters_pane::parameters_pane(const Form& window)
     // Side by side, the two lists are on one line.
     weathers_->setMinimumHeight(courses_->sizeHint().height());
     lay_out(window);
-    on_select(*courses_, [this] { call_if_set(course_changed); });
-    on_click(*costs_button_, [this] { call_if_set(costs_clicked); });
+    connect(courses_, &QComboBox::currentIndexChanged, this, &parameters_pane::course_changed);
+    connect(costs_button_, &QPushButton::clicked, this, &parameters_pane::costs_clicked);
 }
 
 void parameters_pane::lay_out(const Form& window)

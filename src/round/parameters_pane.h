@@ -3,7 +3,6 @@
 #include <QGroupBox>
 #include <QStringList>
 
-#include <functional>
 #include <vector>
 
 #include "round/list_lines.h"
@@ -23,15 +22,12 @@ class temperature_box;
 /// What belongs to the round as a whole: course, weather, temperature, partners and costs. The values are
 /// only in the controls until the round is saved.
 class parameters_pane : public QGroupBox {
+    Q_OBJECT
+
 public:
     explicit parameters_pane(const Form& window);
 
-    /// Runs after each change of the selected course, by the user or by the program.
-    std::function<void()> course_changed;
-    /// A click on "Details".
-    std::function<void()> costs_clicked;
-
-    /// Fills the list of courses. No course is selected, and `course_changed` does not run.
+    /// Fills the list of courses. No course is selected, without `course_changed`.
     void fill_courses(const std::vector<course_line>& courses);
     void select_course(int list_index);
     /// Selects the course of that code, the first one when there is none.
@@ -65,6 +61,12 @@ public:
     std::vector<QWidget*> tab_order() const;
     /// The controls that the mouse wheel would change.
     std::vector<QWidget*> wheel_controls() const;
+
+Q_SIGNALS:
+    /// The selected course has changed, by the user or by the program.
+    void course_changed();
+    /// A click on "Details".
+    void costs_clicked();
 
 private:
     void lay_out(const Form& window);

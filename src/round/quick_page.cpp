@@ -130,23 +130,23 @@ void quick_page::watch_keys()
     for (std::size_t place = 0; place + 1 < boxes.size(); ++place)
         watch_digit_keys(*boxes[place].box,
                          [next = boxes[place + 1].box] { next->setFocus(Qt::TabFocusReason); });
-    watch_digit_keys(*boxes.back().box, [this] { call_if_set(last_figure_typed); });
+    watch_digit_keys(*boxes.back().box, [this] { Q_EMIT last_figure_typed(); });
 }
 
 void quick_page::watch_changes()
 {
     for (const figure_box& stroke : stroke_boxes_) {
         on_change(*stroke.box, [this] {
-            call_if_set(figure_changed);
+            Q_EMIT figure_changed();
             sum_stroke_boxes();
-            call_if_set(strokes_changed);
+            Q_EMIT strokes_changed();
         });
     }
     for (const figure_box& count : situation_boxes_)
-        on_change(*count.box, [this] { call_if_set(figure_changed); });
+        on_change(*count.box, [this] { Q_EMIT figure_changed(); });
     for (const figure_box& penalty : penalty_boxes_) {
         on_change(*penalty.box, [this] {
-            call_if_set(figure_changed);
+            Q_EMIT figure_changed();
             sum_penalty_boxes();
         });
     }

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-#include <functional>
 #include <vector>
 
 #include "records/round_rows.h"
@@ -32,15 +31,10 @@ struct quick_figures {
 /// Quick entry: a hole in eleven boxes. A typed digit replaces the figure of its box and moves the focus to
 /// the next box. Every change of a box is reported, also one by the program.
 class quick_page : public QWidget {
+    Q_OBJECT
+
 public:
     explicit quick_page(const Form& window);
-
-    /// Runs after each change of a box.
-    std::function<void()> figure_changed;
-    /// Runs after each change of a stroke box, after `figure_changed`.
-    std::function<void()> strokes_changed;
-    /// Runs when a digit was typed into the last box.
-    std::function<void()> last_figure_typed;
 
     /// Shows the figures of a stored hole: strokes, penalties, then the situation. Each change is reported
     /// before the next box is set.
@@ -60,6 +54,14 @@ public:
 
     /// The boxes in the order of the Tab key, which is that of the digits.
     std::vector<QWidget*> tab_order() const;
+
+Q_SIGNALS:
+    /// A box has changed.
+    void figure_changed();
+    /// A stroke box has changed. Emitted after `figure_changed`.
+    void strokes_changed();
+    /// A digit was typed into the last box.
+    void last_figure_typed();
 
 private:
     struct figure_box {

@@ -3,11 +3,9 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "round/f_new_round.h"
-#include "round/hole_bar.h"
-#include "round/parameters_pane.h"
 #include "round/round_lists.h"
 #include "round/round_record.h"
-#include "scoring/round_key.h"
+#include "round/shot_rows.h"
 
 namespace verdane {
 
@@ -32,7 +30,7 @@ void show_no_course()
 void refuse_without_row_in_games2(f_new_round& window)
 {
     show_information(u"Error : games2 record not found"_s);
-    window.holes().set_hole_in_boxes(first_hole);
+    window.set_hole_in_boxes(first_hole);
     window.unload();
 }
 
@@ -46,11 +44,9 @@ bool load_stored_round(f_new_round& window, const QString& key)
         return false;
     }
     const QString code = round_record::find_holes_of_round(key);
-    window.parameters().fill_courses(round_lists::course_lines());
+    window.fill_courses(round_lists::course_lines());
     round_record::find_course(code);
-    window.holes().select_in_list(first_hole);
-    window.parameters().select_course(code);
-    window.holes().set_hole_in_boxes(first_hole);
+    window.show_stored_hole(first_hole, code);
     return true;
 }
 
@@ -73,9 +69,9 @@ void prepare_round_window()
     shot_rows shots;
     round_record::add_rows_without_key();
     f_new_round window(shots);
-    window.parameters().fill_courses(round_lists::course_lines());
+    window.fill_courses(round_lists::course_lines());
     // Selecting the first course moves the recordsets of the courses to it.
-    window.parameters().select_course(0);
+    window.select_course(0);
     window.show_modal();
 }
 
@@ -88,20 +84,14 @@ void open_stored_round(const QString& key)
     if (load_stored_round(window, key)) {
         load_round_header(window);
         // The key of a stored round never changes.
-        window.holes().lock_date();
+        window.lock_date();
     }
     window.show_modal();
 }
 
 void load_round_header(f_new_round& window)
 {
-    const round_header header = round_record::read_header(window.date_value());
-    window.parameters().show_weather(header.weather);
-    window.parameters().show_temperature(header.temperature);
-    window.holes().set_course_name(header.course_name);
-    window.holes().show_tee_off(Verdane_tools::key_date_text(window.date_value()),
-                                Verdane_tools::key_time_text(window.date_value()));
-    window.parameters().show_costs(header.costs);
+    window.show_header(round_record::read_header(window.date_value()));
 }
 
 }  // namespace verdane

@@ -13,12 +13,12 @@ shot_choices::shot_choices(shot_grid& grid, const shot_rows& rows, const shot_en
                            std::function<hole_on_screen()> hole)
     : grid_(grid), rows_(rows), entry_(entry), hole_(std::move(hole))
 {
-    grid_.club_chosen = [this](int chosen) { club_chosen(chosen); };
-    grid_.kind_chosen = [this](int chosen) { kind_chosen(chosen); };
-    grid_.position_chosen = [this](int chosen) { position_chosen(chosen); };
-    grid_.penalty_chosen = [this](int chosen) { penalty_chosen(chosen); };
-    grid_.yes_or_no_chosen = [this](int chosen) { yes_or_no_chosen(chosen == 0); };
-    grid_.column_updated = [this](int column) { column_updated(column); };
+    on_signal(grid_, &shot_grid::club_chosen, [this](int chosen) { club_chosen(chosen); });
+    on_signal(grid_, &shot_grid::kind_chosen, [this](int chosen) { kind_chosen(chosen); });
+    on_signal(grid_, &shot_grid::position_chosen, [this](int chosen) { position_chosen(chosen); });
+    on_signal(grid_, &shot_grid::penalty_chosen, [this](int chosen) { penalty_chosen(chosen); });
+    on_signal(grid_, &shot_grid::yes_or_no_chosen, [this](int chosen) { yes_or_no_chosen(chosen == 0); });
+    on_signal(grid_, &shot_grid::column_updated, [this](int column) { column_updated(column); });
 }
 
 void shot_choices::club_chosen(int entry)
@@ -36,7 +36,7 @@ void shot_choices::kind_chosen(int entry)
         return;
     current_shot::set_kind(entry);
     if (entry == putt) {
-        call_if_set(next_shot);
+        Q_EMIT next_shot_wanted();
         // The current row is the new shot, or the same one if the message was shown.
         current_shot::make_putt();
     }
@@ -58,7 +58,7 @@ void shot_choices::penalty_chosen(int entry)
     if (!rows_.on_a_row())
         return;
     current_shot::set_penalty(entry);
-    call_if_set(last_column_chosen);
+    Q_EMIT last_column_chosen();
     grid_.ReBind();
 }
 
@@ -75,7 +75,7 @@ void shot_choices::column_updated(int column)
 {
     current_shot::set_par(hole_().card.par);
     if (column == shot_grid::distance_column && current_shot::distance_changed())
-        call_if_set(next_shot);
+        Q_EMIT next_shot_wanted();
     grid_.ReBind();
     grid_.set_Col(entry_.PUT_MODE() ? shot_grid::club_column : shot_grid::unit_column);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QObject>
+
 #include <functional>
 
 #include "round/shot_entry.h"
@@ -10,18 +12,20 @@ class shot_grid;
 
 /// Stores what the user chooses from the menus of the grid or types into its cells, in the shot under the
 /// cursor, and moves the cursor to the next cell.
-class shot_choices {
+class shot_choices : public QObject {
+    Q_OBJECT
+
 public:
     /// The arguments must outlive the object. `hole` returns the hole on screen.
     shot_choices(shot_grid& grid, const shot_rows& rows, const shot_entry& entry,
                  std::function<hole_on_screen()> hole);
-    shot_choices(const shot_choices&) = delete;
-    shot_choices& operator=(const shot_choices&) = delete;
 
-    /// Adds the next shot: after the distance of the last putt, and when a shot becomes a putt.
-    std::function<void()> next_shot;
-    /// Runs when the penalty was chosen, the last column of a shot.
-    std::function<void()> last_column_chosen;
+Q_SIGNALS:
+    /// The next shot has to be added: after the distance of the last putt, and when a shot becomes a putt.
+    /// The current row is the new shot afterwards, or the same one if it was refused.
+    void next_shot_wanted();
+    /// The penalty was chosen, the last column of a shot.
+    void last_column_chosen();
 
 private:
     void club_chosen(int entry);

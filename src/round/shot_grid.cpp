@@ -7,7 +7,6 @@
 
 #include "base/language.h"
 #include "controls/choice_menu.h"
-#include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
@@ -109,13 +108,13 @@ shot_grid::shot_grid(Form& window)
 }
 
 choice_menu* shot_grid::make_menu(Form& window, QStringView name, control_array<QAction>& entries, int first,
-                                  const QStringList& captions, const std::function<void(int)>& chosen)
+                                  const QStringList& captions, entry_signal chosen)
 {
     auto* menu = named(new choice_menu(&window), name);
     int number = first;
     for (const QString& caption : captions) {
         QAction* entry = entries.add(number, menu->add_choice(QString(), caption));
-        connect(entry, &QAction::triggered, menu, [number, &chosen] { run_event([&] { chosen(number); }); });
+        connect(entry, &QAction::triggered, menu, [this, number, chosen] { Q_EMIT(this->*chosen)(number); });
         ++number;
     }
     return menu;
@@ -124,17 +123,19 @@ choice_menu* shot_grid::make_menu(Form& window, QStringView name, control_array<
 void shot_grid::add_menus(Form& window)
 {
     const QStringList unnamed_clubs(club_count, QString());
-    set_cell_menu(club_column, make_menu(window, u"mSticks", club_entries_, 1, unnamed_clubs, club_chosen));
+    set_cell_menu(club_column,
+                  make_menu(window, u"mSticks", club_entries_, 1, unnamed_clubs, &shot_grid::club_chosen));
     set_cell_menu(kind_column, make_menu(window, u"mshot", kind_entries_, 1, captions_of(french_, kind_words),
-                                         kind_chosen));
-    choice_menu* yes_or_no =
-        make_menu(window, u"mon", yes_no_entries_, 0, captions_of(french_, yes_no_words), yes_or_no_chosen);
+                                         &shot_grid::kind_chosen));
+    choice_menu* yes_or_no = make_menu(window, u"mon", yes_no_entries_, 0, captions_of(french_, yes_no_words),
+                                       &shot_grid::yes_or_no_chosen);
     for (const int column : {beyond_column, missed_column, sand_column, zero_column})
         set_cell_menu(column, yes_or_no);
-    set_cell_menu(position_column, make_menu(window, u"mAlle", position_entries_, 1,
-                                             captions_of(french_, position_words), position_chosen));
+    set_cell_menu(position_column,
+                  make_menu(window, u"mAlle", position_entries_, 1, captions_of(french_, position_words),
+                            &shot_grid::position_chosen));
     set_cell_menu(penalty_column, make_menu(window, u"mpen", penalty_entries_, 1,
-                                            captions_of(french_, penalty_words), penalty_chosen));
+                                            captions_of(french_, penalty_words), &shot_grid::penalty_chosen));
 }
 
 void shot_grid::set_club_names(const QStringList& names)

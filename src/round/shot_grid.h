@@ -3,8 +3,6 @@
 #include <QAction>
 #include <QStringList>
 
-#include <functional>
-
 #include "controls/control_array.h"
 #include "controls/data_grid.h"
 
@@ -16,6 +14,8 @@ class Form;
 /// The grid of the shots of a hole (`details`) with its columns and the menus of its cells. It is not bound
 /// at first.
 class shot_grid : public data_grid {
+    Q_OBJECT
+
 public:
     /// The columns, hidden ones included.
     enum grid_column {
@@ -37,14 +37,6 @@ public:
     /// The menus belong to the window.
     explicit shot_grid(Form& window);
 
-    /// Run when an entry of a menu was chosen, with its number from 1, for the cursor's row.
-    std::function<void(int)> club_chosen;
-    std::function<void(int)> kind_chosen;
-    std::function<void(int)> position_chosen;
-    std::function<void(int)> penalty_chosen;
-    /// The same for yes (0) and no (1), in the cursor's column.
-    std::function<void(int)> yes_or_no_chosen;
-
     /// The names of the fourteen clubs in their menu.
     void set_club_names(const QStringList& names);
     QString club_name(int club) const;
@@ -52,10 +44,21 @@ public:
     /// Sets width and visibility of the columns. A column is at least as wide as its texts need.
     void set_up_columns();
 
+Q_SIGNALS:
+    /// An entry of a menu was chosen for the cursor's row. Entries count from 1.
+    void club_chosen(int entry);
+    void kind_chosen(int entry);
+    void position_chosen(int entry);
+    void penalty_chosen(int entry);
+    /// The same for yes (0) and no (1), in the cursor's column.
+    void yes_or_no_chosen(int entry);
+
 private:
-    /// A menu whose entries, numbered from `first`, run `chosen`.
+    using entry_signal = void (shot_grid::*)(int);
+
+    /// A menu whose entries, numbered from `first`, emit `chosen`.
     choice_menu* make_menu(Form& window, QStringView name, control_array<QAction>& entries, int first,
-                           const QStringList& captions, const std::function<void(int)>& chosen);
+                           const QStringList& captions, entry_signal chosen);
     void add_menus(Form& window);
     QStringList words_of_cells(int column) const;
     int width_of_words(int column) const;

@@ -170,13 +170,13 @@ void f_get_date::accept_moment()
     }
     if (!user_confirms())
         return;
-    call_if_set(accepted, chosen);
+    Q_EMIT moment_chosen(chosen);
     unload();
 }
 
 void f_get_date::cancel()
 {
-    call_if_set(canceled);
+    Q_EMIT canceled();
     unload();
 }
 

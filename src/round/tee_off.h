@@ -3,8 +3,6 @@
 #include <QDate>
 #include <QString>
 
-#include <functional>
-
 #include "controls/Form.h"
 
 class QCalendarWidget;
@@ -31,13 +29,16 @@ struct tee_off_moment {
 /// The dialog in which the user chooses when a new round was teed off, and so its key, which can not be
 /// changed afterwards. One form for both languages.
 class f_get_date : public Form {
+    Q_OBJECT
+
 public:
     f_get_date();
 
-    /// Runs when the user has confirmed a moment that no other round has, before the dialog closes.
-    std::function<void(const tee_off_moment&)> accepted;
-    /// Runs when the dialog is cancelled or closed, before it closes.
-    std::function<void()> canceled;
+Q_SIGNALS:
+    /// The user has confirmed a moment that no other round has. The dialog is still open.
+    void moment_chosen(const tee_off_moment& moment);
+    /// The dialog is cancelled or closed. It is still open.
+    void canceled();
 
 protected:
     void activated() override;

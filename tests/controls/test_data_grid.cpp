@@ -46,7 +46,7 @@ public:
         cells->set_key_filter(2, [](QChar key) {
             return key == backspace || is_plain_digit(key) ? key_answer::pass : key_answer::refuse;
         });
-        cells->column_updated = [this](int column) { updated << column; };
+        connect(cells, &data_grid::column_updated, this, [this](int column) { updated << column; });
         layout->addWidget(cells);
         layout->addWidget(named(make_button(u"next"_s), u"next"));
         cells->bind();

@@ -26,7 +26,7 @@ public:
             seen_before.append(QString::number(tabs->selected()));
             return allowed;
         };
-        tabs->clicked = [this] { clicks.append(QString::number(tabs->selected())); };
+        connect(tabs, &TabStrip::clicked, this, [this] { clicks.append(QString::number(tabs->selected())); });
     }
 
     TabStrip* tabs = nullptr;

@@ -6,6 +6,7 @@
 
 #include "base/language.h"
 #include "controls/boxes.h"
+#include "controls/events.h"
 #include "controls/failure_guard.h"
 #include "reference/f_cost.h"
 #include "store/DataEnvironment1.h"
@@ -47,7 +48,9 @@ inline void in_costs(cost_store& store, const std::function<void(hand&)>& script
     play(
         [&] {
             run_event([&] {
-                f_cost window([&](const QString& total) { store.totals << total; });
+                f_cost window;
+                on_signal(window, &f_cost::closed_with_total,
+                          [&](const QString& total) { store.totals << total; });
                 window.show_modal();
             });
         },

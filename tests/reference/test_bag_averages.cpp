@@ -2,7 +2,6 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "reference/bag_filters.h"
 #include "reference/f_sticks.h"
 #include "reference/f_sticks_func.h"
 #include "tests/reference/golf_bags.h"
@@ -231,9 +230,9 @@ private Q_SLOTS:
         {
             f_sticks window;
             choose(window, u"cmb_courses"_s, 2);
-            QCOMPARE(window.filters().selection().course_clause, u" AND GAMES2.FC = 'PINS-5'"_s);
+            QCOMPARE(window.selection().course_clause, u" AND GAMES2.FC = 'PINS-5'"_s);
             choose(window, u"cmb_courses"_s, 3);
-            QCOMPARE(window.filters().selection().course_clause, u" AND GAMES2.FC = 'PINS-2'"_s);
+            QCOMPARE(window.selection().course_clause, u" AND GAMES2.FC = 'PINS-2'"_s);
             window.closeForm();
         }
     }
@@ -305,7 +304,7 @@ private Q_SLOTS:
                 choose(window, u"pList"_s, 1);
                 choose(window, u"cmb_courses"_s, 1);
             }
-            const selection_arguments got = window.filters().selection();
+            const selection_arguments got = window.selection();
             const QStringList seen{got.weather_clause, got.partner_clause, got.course_clause,
                                    got.weather_text,   got.partner_text,   got.course_text};
             QTEST(seen, "expected");

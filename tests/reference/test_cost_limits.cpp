@@ -65,7 +65,7 @@ int run_child(const store_location& place, const QString& limit)
     data_environment().connection.Open(place);
     const recording_frame frame;
     data_environment().rscost.Open();
-    play([] { run_event([] { f_cost(nullptr).show_modal(); }); },
+    play([] { run_event([] { f_cost().show_modal(); }); },
          [&](hand& user) {
              if (limit == u"loading")
                  user.answer(failure_box(failure_kind::overflow));

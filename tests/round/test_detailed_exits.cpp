@@ -1,9 +1,7 @@
 #include <QTest>
 
 #include "records/Main_module.h"
-#include "round/detailed_page.h"
 #include "round/f_new_round.h"
-#include "round/f_new_round_func.h"
 #include "round/shot_rows.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"
@@ -293,7 +291,7 @@ private Q_SLOTS:
             if (!blank)
                 enter_shot(user, 0, 1, u"60"_s, 1);
             with_round(user, [&](f_new_round& window) {
-                const blank_shot result = window.detailed().drop_blank_shot();
+                const blank_shot result = window.drop_blank_shot();
                 QCOMPARE(result.removed, blank);
                 // A removal leaves out the check of the shots.
                 QCOMPARE(result.shots_complete.has_value(), !blank);
@@ -367,7 +365,7 @@ private Q_SLOTS:
             open_detailed_page(user);
             enter_shot(user, 0, 9, QString(), 0);
             user.same(user.cell(details, 0, 2), u"F9"_s, u"club in the grid"_s);
-            with_round(user, [](f_new_round& window) { f_new_round_func::ask_and_close(window, true); });
+            with_round(user, [](f_new_round& window) { window.ask_and_close(true); });
         });
         QCOMPARE(stored_shots(round.store, 1), stored);
     }

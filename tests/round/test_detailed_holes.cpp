@@ -1,7 +1,6 @@
 #include <QComboBox>
 #include <QTest>
 
-#include "round/detailed_page.h"
 #include "round/f_new_round.h"
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"
@@ -29,14 +28,14 @@ void in_detailed_round(const std::function<void(hand&)>& script)
 bool is_detailed(hand& user)
 {
     bool detailed = false;
-    with_round(user, [&](f_new_round& window) { detailed = window.detailed().isdetailed(); });
+    with_round(user, [&](f_new_round& window) { detailed = window.isdetailed(); });
     return detailed;
 }
 
 bool put_mode(hand& user)
 {
     bool putt = false;
-    with_round(user, [&](f_new_round& window) { putt = window.detailed().PUT_MODE(); });
+    with_round(user, [&](f_new_round& window) { putt = window.PUT_MODE(); });
     return putt;
 }
 

@@ -66,7 +66,7 @@ void set_focus(hand& user, const QString& control)
     });
 }
 
-int hole_on_screen(hand& user)
+int shown_hole(hand& user)
 {
     return user.selected(hole_tabs) + 1;
 }
@@ -172,13 +172,13 @@ private Q_SLOTS:
             set_focus(user, control);
             const QString before = parameters(user);
             user.key(Qt::Key_PageDown);
-            user.same(hole_on_screen(user), 2, u"hole after PageDown"_s);
+            user.same(shown_hole(user), 2, u"hole after PageDown"_s);
             user.same(user.focus(), page == 1 ? quick_boxes.front() : details, u"focus"_s);
             if (page == 2)
                 enter_shot(user, 0, 1, u"60"_s, 1);
             set_focus(user, control);
             user.key(Qt::Key_PageUp);
-            user.same(hole_on_screen(user), 1, u"hole after PageUp"_s);
+            user.same(shown_hole(user), 1, u"hole after PageUp"_s);
             user.same(parameters(user), before, u"parameters"_s);
             accept(user);
         });
@@ -190,11 +190,11 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             const int bells = user.bells();
             user.key(Qt::Key_PageUp);
-            user.same(hole_on_screen(user), 1, u"hole"_s);
+            user.same(shown_hole(user), 1, u"hole"_s);
             user.same(user.bells() - bells, 1, u"bells"_s);
             user.click_tab(hole_tabs, holes);
             user.key(Qt::Key_PageDown);
-            user.same(hole_on_screen(user), holes, u"hole"_s);
+            user.same(shown_hole(user), holes, u"hole"_s);
             user.same(user.bells() - bells, 2, u"bells"_s);
             discard(user);
         });
@@ -206,9 +206,9 @@ private Q_SLOTS:
         in_keyed_round([&](hand& user) {
             const int keys = plain(Main_module::round_key_count);
             hold_down(user, Qt::Key_PageDown);
-            user.same(hole_on_screen(user), 2, u"hole after PageDown"_s);
+            user.same(shown_hole(user), 2, u"hole after PageDown"_s);
             hold_down(user, Qt::Key_PageUp);
-            user.same(hole_on_screen(user), 1, u"hole after PageUp"_s);
+            user.same(shown_hole(user), 1, u"hole after PageUp"_s);
             user.same(plain(Main_module::round_key_count) - keys, 2, u"places taken"_s);
             discard(user);
         });
@@ -236,14 +236,14 @@ private Q_SLOTS:
             user.key(Qt::Key_2, Qt::ControlModifier);
             user.click(u"OKButton"_s);
             user.wait_for_window(round_window());
-            user.same(hole_on_screen(user), 1, u"hole under the costs"_s);
+            user.same(shown_hole(user), 1, u"hole under the costs"_s);
             user.same(user.selected(page_tabs), 0, u"page under the costs"_s);
             user.key(Qt::Key_F1, Qt::ControlModifier);
             user.wait_for_window(u"message_box"_s);
             user.key(Qt::Key_PageDown);
             user.key(Qt::Key_Return);
             user.wait_for_window(round_window());
-            user.same(hole_on_screen(user), 1, u"hole under a message box"_s);
+            user.same(shown_hole(user), 1, u"hole under a message box"_s);
             discard(user);
         });
     }
@@ -257,7 +257,7 @@ private Q_SLOTS:
             user.click_cell(details, 0, 3);
             user.type(u"45"_s);
             user.key(Qt::Key_PageDown);
-            user.same(hole_on_screen(user), 2, u"hole"_s);
+            user.same(shown_hole(user), 2, u"hole"_s);
             open_quick_page(user);
             accept(user);
         });
@@ -281,7 +281,7 @@ private Q_SLOTS:
             user.wait_until(u"the page of the guide"_s, [&] { return !opened.isEmpty(); });
             user.type(u"5"_s);
             user.key(Qt::Key_PageDown);
-            user.same(hole_on_screen(user), 2, u"hole"_s);
+            user.same(shown_hole(user), 2, u"hole"_s);
             open_quick_page(user);
             accept(user);
         });
@@ -300,7 +300,7 @@ private Q_SLOTS:
             user.answer(refusal_of_shot(u" 2"_s));
             user.answer(refusal_of_shot(u" 2"_s));
             user.wait_for_window(round_window());
-            user.same(hole_on_screen(user), 1, u"hole"_s);
+            user.same(shown_hole(user), 1, u"hole"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }
@@ -319,7 +319,7 @@ private Q_SLOTS:
                 });
             }
             user.same(user.selected(u"conditions"_s), 3, u"weather"_s);
-            user.same(hole_on_screen(user), 1, u"hole"_s);
+            user.same(shown_hole(user), 1, u"hole"_s);
             discard(user);
         });
     }
@@ -350,7 +350,7 @@ private Q_SLOTS:
             user.menu_key(Qt::Key_PageDown);
             user.wait_for_menu(u"mSticks"_s);
             user.choose_menu_entry(u"ms1_1"_s);
-            user.same(hole_on_screen(user), 1, u"hole"_s);
+            user.same(shown_hole(user), 1, u"hole"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });
         });
     }

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "round/f_new_round.h"
-#include "round/load_and_save.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/commit_watch.h"
 #include "tests/round/entered_shots.h"
@@ -176,7 +175,7 @@ private Q_SLOTS:
             round.store.store.write(refuse(u"update"_s, u"games"_s));
             user.type(new_keys);
             with_round(user, [&](f_new_round& window) {
-                const auto failure = failure_of([&] { f_new_round_func::save_round(window, true); });
+                const auto failure = failure_of([&] { window.save_round(true); });
                 QVERIFY(failure == failure_kind::store_other);
             });
             round.store.store.write(refuse_no_more());

@@ -2,7 +2,6 @@
 #include <QTest>
 
 #include "controls/data_grid.h"
-#include "round/detailed_page.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"
@@ -49,7 +48,7 @@ struct round_with_shots {
 bool put_mode(hand& user)
 {
     bool on = false;
-    with_round(user, [&on](f_new_round& window) { on = window.detailed().PUT_MODE(); });
+    with_round(user, [&on](f_new_round& window) { on = window.PUT_MODE(); });
     return on;
 }
 
@@ -342,8 +341,8 @@ private Q_SLOTS:
             round.store.store.write(refuse(u"update"_s, u"Stat_rounds"_s));
             with_round(user, [](f_new_round& window) {
                 data_environment().rsStat_rounds.Fields(u"after").set(61);
-                QVERIFY(window.detailed().check_shots());
-                QVERIFY(window.detailed().open_hole_shots());
+                QVERIFY(window.check_shots());
+                QVERIFY(window.open_hole_shots());
             });
             user.same(user.cell(details, 0, 3), u"60"_s, u"distance"_s);
             round.store.store.write(refuse_no_more());
