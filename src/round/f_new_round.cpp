@@ -1,6 +1,5 @@
 #include "round/f_new_round.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 
@@ -11,12 +10,12 @@
 #include "round/f_new_round_func.h"
 #include "round/hole_bar.h"
 #include "round/hole_navigation.h"
+#include "round/input_filters.h"
 #include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
-#include "round/tab_keys.h"
 #include "round/tee_off.h"
 #include "scoring/round_key.h"
 
@@ -27,27 +26,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int gap_between_rows = rhythm + rhythm / 2;
-
-/// Ignores the mouse wheel over a control: turned by accident, it would select another course, hole or
-/// weather unnoticed.
-class wheel_filter : public QObject {
-public:
-    explicit wheel_filter(QWidget& control) : QObject(&control)
-    {
-        control.installEventFilter(this);
-        // The toolkit focuses a control with this policy before any filter runs.
-        if (control.focusPolicy() == Qt::WheelFocus)
-            control.setFocusPolicy(Qt::StrongFocus);
-    }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() != QEvent::Wheel)
-            return false;
-        event->ignore();
-        return true;
-    }
-};
 
 }  // namespace
 
@@ -91,7 +69,7 @@ void f_new_round::lay_out()
     std::vector<QWidget*> wheel_controls = panes_.parameters.wheel_controls();
     wheel_controls.push_back(panes_.holes.wheel_control());
     for (QWidget* control : wheel_controls)
-        new wheel_filter(*control);
+        ignore_wheel(*control);
 }
 
 QLayout* f_new_round::make_panes()

@@ -9,8 +9,8 @@
 #include "controls/Form.h"
 #include "reports/report_control.h"
 #include "round/detailed_page.h"
-#include "round/list_lines.h"
 #include "round/page_bar.h"
+#include "round/round_lists.h"
 #include "round/round_panes.h"
 
 class QBoxLayout;

@@ -14,8 +14,7 @@
 #include "controls/control_array.h"
 #include "controls/Form.h"
 #include "controls/look.h"
-#include "round/course_box.h"
-#include "round/temperature_box.h"
+#include "round/parameter_boxes.h"
 #include "scoring/words.h"
 
 namespace verdane {

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "round/list_lines.h"
+#include "round/round_lists.h"
 
 class QBoxLayout;
 class QComboBox;

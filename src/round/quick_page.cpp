@@ -13,7 +13,7 @@
 #include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/look.h"
-#include "round/digit_keys.h"
+#include "round/input_filters.h"
 
 namespace verdane {
 

@@ -6,10 +6,9 @@
 #include <QTest>
 
 #include "controls/failure_guard.h"
-#include "round/course_box.h"
 #include "round/f_new_round.h"
+#include "round/parameter_boxes.h"
 #include "round/round_opening.h"
-#include "round/temperature_box.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/languages.h"

@@ -1,11 +1,16 @@
-#include "round/tab_keys.h"
+#include "round/input_filters.h"
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
+
+#include <utility>
 
 #include "controls/boxes.h"
+#include "controls/entering.h"
 #include "controls/failure_guard.h"
 #include "controls/Form.h"
+#include "controls/keys.h"
 #include "controls/shortcuts.h"
 #include "round/hole_bar.h"
 #include "round/page_bar.h"
@@ -96,6 +101,53 @@ private:
     page_bar& pages_;
 };
 
+constexpr int selection_length = 4;
+
+/// A click into a box that has the focus already selects its figure, too: the next digit replaces it,
+/// wherever the pointer is.
+class click_selects : public QObject {
+public:
+    explicit click_selects(QLineEdit& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease && !box_.hasSelectedText())
+            select_figure(box_);
+        return false;
+    }
+
+private:
+    QLineEdit& box_;
+};
+
+key_answer take_key(QLineEdit& box, QChar key, const std::function<void()>& move_on)
+{
+    if (key == backspace || digits_only(key) == key_answer::refuse)
+        return digits_only(key);
+    box.insert(key);
+    move_on();
+    return key_answer::taken;
+}
+
+class wheel_filter : public QObject {
+public:
+    explicit wheel_filter(QWidget& control) : QObject(&control)
+    {
+        control.installEventFilter(this);
+        // The toolkit focuses a control with this policy before any filter runs.
+        if (control.focusPolicy() == Qt::WheelFocus)
+            control.setFocusPolicy(Qt::StrongFocus);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
 }  // namespace
 
 void watch_tab_keys(Form& window, hole_bar& holes, page_bar& pages)
@@ -109,6 +161,24 @@ void watch_tab_keys(Form& window, hole_bar& holes, page_bar& pages)
     holes.set_tab_tip(next + u'\n' + tip(shortcut_table::previous_hole));
     pages.set_tab_tip(round_page::quick, tip(shortcut_table::quick_page));
     pages.set_tab_tip(round_page::detailed, tip(shortcut_table::detailed_page));
+}
+
+void watch_digit_keys(QLineEdit& box, std::function<void()> move_on)
+{
+    filter_keys(box, [&box, move_on = std::move(move_on)](QChar key) { return take_key(box, key, move_on); });
+    when_entered(box, [&box] { select_figure(box); });
+    new click_selects(box);
+    filter_pasted_text(box, digits_only);
+}
+
+void select_figure(QLineEdit& box)
+{
+    select_characters(box, selection_length);
+}
+
+void ignore_wheel(QWidget& control)
+{
+    new wheel_filter(control);
 }
 
 }  // namespace verdane

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QComboBox>
+#include <QSpinBox>
 
+/// The two boxes of the parameters pane that the toolkit does not have.
 namespace verdane {
 
 /// The drop-down list of courses. An entry has the course's name, blanks and the tee. The blanks are so many
@@ -21,6 +23,25 @@ public:
 
     /// Opens the list in the width of its lines without the padding.
     void showPopup() override;
+};
+
+/// The temperature in degrees Celsius, -30 to 50. Its text box is `Text1`. The text is two blanks until the
+/// user changes the value or `show_value` sets it, then the value followed by " C".
+class temperature_box : public QSpinBox {
+public:
+    explicit temperature_box(QWidget* parent = nullptr);
+
+    /// Sets the value and shows it, also when the value does not change.
+    void show_value(int celsius);
+
+protected:
+    QString textFromValue(int value) const override;
+    int valueFromText(const QString& text) const override;
+    QValidator::State validate(QString& text, int& place) const override;
+    void stepBy(int steps) override;
+
+private:
+    bool touched_ = false;
 };
 
 }  // namespace verdane
