@@ -22,14 +22,6 @@ constexpr std::array<step, 10> ladder{
 
 constexpr double factor_of_mean = 0.96;
 
-double handicap(int take, double sum)
-{
-    if (take <= 0)
-        return 0;
-    // The factor applies to a mean only: a single differential counts whole.
-    return round_to_tenth(take == 1 ? sum : sum / take * factor_of_mean);
-}
-
 }  // namespace
 
 int16 handicap_take(int16 rounds)
@@ -39,10 +31,24 @@ int16 handicap_take(int16 rounds)
     return reached == ladder.end() ? 0 : reached->take;
 }
 
+double handicap_factor(int take)
+{
+    return take == 1 ? 1 : factor_of_mean;
+}
+
+std::optional<double> handicap_figure(int16 take, double sum)
+{
+    const int count = plain(take);
+    if (count <= 0)
+        return {};
+    const double figure = round_to_tenth(sum / count * handicap_factor(count));
+    return figure == 0 ? std::nullopt : std::optional(figure);
+}
+
 QString handicap_text(int16 take, double sum)
 {
-    const double figure = handicap(plain(take), sum);
-    return figure == 0 ? u"N/A"_s : plain_number_text(figure);
+    const std::optional<double> figure = handicap_figure(take, sum);
+    return figure ? plain_number_text(*figure) : u"N/A"_s;
 }
 
 }  // namespace verdane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "scoring/season_rounds.h"
+
+namespace verdane {
+
+/// One hole of a course over the rounds in which it was played.
+struct season_hole {
+    QString course_code;
+    QString course;
+    int hole = 0;
+    int par = 0;
+    int plays = 0;
+    /// Mean strokes less par.
+    double mean_over = 0;
+};
+
+/// The best and the worst holes of a season. No hole is in both lists.
+struct ranked_holes {
+    /// Only holes that were played at least so often are ranked: three times, or as often as the hole that
+    /// was played most often.
+    int least_plays = 0;
+    /// How many holes are ranked.
+    int candidates = 0;
+    /// The best one first. At most five.
+    std::vector<season_hole> best;
+    /// The worst one first. At most five.
+    std::vector<season_hole> worst;
+};
+
+/// Of holes with the same mean, the one that was played more often comes first in both lists, then the order
+/// of course and hole decides.
+ranked_holes holes_of_season(const season_rounds& rounds);
+
+}  // namespace verdane
