@@ -2,10 +2,10 @@
 
 #include <cmath>
 #include <map>
-#include <random>
 
 #include "reports/report_store.h"
 #include "store/DataEnvironment1.h"
+#include "tests/statistics/generated_diary.h"
 #include "tests/statistics/handicap_opinion.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/support/stored_diary.h"
@@ -16,62 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rounds_in_diary = 60;
 constexpr int rows_of_stats = 34;
-
-std::vector<diary_course> courses()
-{
-    return {course_of(u"Pebble Beach"_s, u"Gold"_s), course_of(u"Carnoustie Championship"_s, u"Yellow"_s),
-            course_of(u"North Berwick West Links"_s, u"Blue"_s)};
-}
-
-class generator {
-public:
-    int pick(int first, int last) { return first + static_cast<int>(engine_() % (last - first + 1U)); }
-
-    hole_entry hole()
-    {
-        hole_entry hole;
-        hole.stored = pick(1, 40) > 1;
-        hole.long_shots = pick(0, 3);
-        hole.approach = pick(0, 3);
-        hole.putts = pick(0, 4);
-        for (int* penalty : {&hole.rule, &hole.water, &hole.bounds, &hole.lost})
-            *penalty = pick(1, 12) == 1 ? pick(1, 2) : 0;
-        hole.sand = pick(0, 2);
-        hole.missed = pick(0, 1);
-        hole.fairway = pick(0, 2);
-        return hole;
-    }
-
-    QString partners()
-    {
-        static const QStringList lists{QString(), u"12-"_s, u"112-7-"_s, u"7-"_s};
-        return lists.at(pick(0, 3));
-    }
-
-private:
-    // A fixed seed: the diary is the same on every machine.
-    std::mt19937 engine_{20030614};
-};
-
-std::vector<diary_round> generated_diary()
-{
-    generator any;
-    const auto all = courses();
-    std::vector<diary_round> rounds;
-    for (int day = 1; day <= rounds_in_diary; ++day) {
-        diary_round round{key_of_day(3 * day),
-                          all.at(static_cast<std::size_t>(any.pick(0, 2))),
-                          {},
-                          any.pick(0, 3),
-                          any.partners()};
-        for (hole_entry& hole : round.holes)
-            hole = any.hole();
-        rounds.push_back(round);
-    }
-    return rounds;
-}
 
 /// One selection: the choices of the user, and the rounds that they select.
 struct choice {
@@ -227,8 +172,8 @@ QString condition_of(const choice& chosen, const std::vector<diary_round>& round
         u"g.date between '%1' and '%2'"_s.arg(rounds.at(static_cast<std::size_t>(chosen.from)).key,
                                               rounds.at(static_cast<std::size_t>(chosen.to)).key);
     if (chosen.course > 0)
-        condition +=
-            u" and g.CODEF = '%1'"_s.arg(courses().at(static_cast<std::size_t>(chosen.course - 1)).code);
+        condition += u" and g.CODEF = '%1'"_s.arg(
+            courses_of_generated_diary().at(static_cast<std::size_t>(chosen.course - 1)).code);
     if (chosen.partner > 0)
         condition += u" and s.PARTNERS like '%%1%'"_s.arg(chosen.partner == 1 ? 12 : 7);
     if (chosen.weather > 0)
@@ -262,7 +207,7 @@ private Q_SLOTS:
         const stored_diary store;
         set_report_store(store.location());
         const diary book(store.location());
-        for (const diary_course& course : courses())
+        for (const diary_course& course : courses_of_generated_diary())
             store.book.add(course);
         store.book.add_partner(u"Anne"_s, u"Douze"_s, 12);
         store.book.add_partner(u"Zoé"_s, u"Sept"_s, 7);
