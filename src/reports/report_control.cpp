@@ -26,13 +26,15 @@ QString path_of_platform(QString path)
 }
 
 /// The report; null if the user stopped it, which a message box has confirmed.
-std::shared_ptr<const report_document> document_or_stopped(const QString& path, const QString& title)
+std::shared_ptr<const report_document> document_or_stopped(const QString& path, const QString& title,
+                                                           const passed_rows& passed)
 {
     QString where;
     {
         report_wait wait(title);
         try {
-            return render_report(path, [&wait] { return wait.may_continue(); });
+            return render_report(
+                path, [&wait] { return wait.may_continue(); }, passed);
         } catch (const report_stopped& stopped) {
             where = stopped.where();
         }
@@ -48,7 +50,7 @@ void report_control::Action(int value)
     if (value != run_now)
         throw run_time_failure(failure_kind::misuse, u"a report control has no action %1"_s.arg(value));
     preview_.clear();
-    const auto document = document_or_stopped(path_of_platform(report_file_name_), window_title_);
+    const auto document = document_or_stopped(path_of_platform(report_file_name_), window_title_, passed_);
     if (document == nullptr)
         return;
     auto* window = new report_preview(document, window_title_, owner_);

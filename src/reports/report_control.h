@@ -5,6 +5,9 @@
 #include <QWidget>
 
 #include <optional>
+#include <utility>
+
+#include "reports/query/report_tables.h"
 
 namespace verdane {
 
@@ -37,6 +40,9 @@ public:
     const QString& ReportFileName() const { return report_file_name_; }
     void set_ReportFileName(const QString& path) { report_file_name_ = path; }
 
+    /// The rows that the report reads in addition to those of the store. Kept until the next call.
+    void pass_rows(passed_rows rows) { passed_ = std::move(rows); }
+
     /// With 1: reads the template and the committed rows of the store, opens the preview and returns
     /// while it is open. If the user stops the queries, a message box confirms it and no preview opens. Fails
     /// with `report_template` or as the store does, and with `misuse` for any other value.
@@ -51,6 +57,7 @@ private:
     std::optional<int> page_zoom_;
     QString window_title_;
     QString report_file_name_;
+    passed_rows passed_;
     QPointer<QWidget> preview_;
 };
 

@@ -24,14 +24,14 @@ report_document::report_document(std::unique_ptr<contents> made) : contents_(std
 
 report_document::~report_document() = default;
 
-std::shared_ptr<const report_document> render_report(const QString& template_path,
-                                                     const continue_check& may_continue)
+std::shared_ptr<const report_document>
+render_report(const QString& template_path, const continue_check& may_continue, const passed_rows& passed)
 {
     auto made = std::make_unique<report_document::contents>();
     made->source = read_template(template_path);
     template_file marked = made->source;
     marked.body = report_drawings::marked(marked.body, marked.body_line);
-    const report_snapshot snapshot(marked, may_continue);
+    const report_snapshot snapshot(marked, may_continue, passed);
     const QString html = fill_body(marked, snapshot);
     check_page(marked, snapshot, html);
     fill_footer(marked, 1, 1);

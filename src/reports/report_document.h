@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "reports/query/query_guard.h"
+#include "reports/query/report_tables.h"
 
 class QPainter;
 class QPrinter;
@@ -55,17 +56,19 @@ public:
 
 private:
     friend std::shared_ptr<const report_document> render_report(const QString& template_path,
-                                                                const continue_check& may_continue);
+                                                                const continue_check& may_continue,
+                                                                const passed_rows& passed);
     struct contents;
     explicit report_document(std::unique_ptr<contents> made);
 
     std::unique_ptr<contents> contents_;
 };
 
-/// Reads a template, gets its figures from the store and lays the pages out. Fails with `report_template`
-/// (file and line in the details) or as `report_snapshot` does. `may_continue` is called while queries run;
-/// `report_stopped` is thrown when it returns false.
+/// Reads a template, gets its figures from the store and from `passed`, and lays the pages out. Fails with
+/// `report_template` (file and line in the details) or as `report_snapshot` does. `may_continue` is called
+/// while queries run; `report_stopped` is thrown when it returns false.
 std::shared_ptr<const report_document> render_report(const QString& template_path,
-                                                     const continue_check& may_continue = {});
+                                                     const continue_check& may_continue = {},
+                                                     const passed_rows& passed = {});
 
 }  // namespace verdane

@@ -8,7 +8,7 @@
 
 #include "base/run_time_failure.h"
 #include "controls/lock_box.h"
-#include "reports/query/report_tables.h"
+#include "reports/query/passed_copy.h"
 #include "reports/report_store.h"
 #include "reports/template/page_limits.h"
 #include "reports/template/query_text.h"
@@ -41,7 +41,8 @@ qsizetype characters_in(const std::vector<QVariant>& row)
     return sum;
 }
 
-report_snapshot::report_snapshot(const template_file& source, const continue_check& may_continue)
+report_snapshot::report_snapshot(const template_file& source, const continue_check& may_continue,
+                                 const passed_rows& passed)
     : source_(source)
 {
     const QString name = u"verdane_reports_"_s + QUuid::createUuid().toString();
@@ -49,7 +50,7 @@ report_snapshot::report_snapshot(const template_file& source, const continue_che
     database_.setDatabaseName(u":memory:"_s);
     database_.setConnectOptions(u"QSQLITE_OPEN_URI"_s);
     try {
-        open();
+        open(passed);
         guard_ = std::make_unique<query_guard>(database_, may_continue);
     } catch (...) {
         database_ = QSqlDatabase();
@@ -67,7 +68,7 @@ report_snapshot::~report_snapshot()
     QSqlDatabase::removeDatabase(name);
 }
 
-void report_snapshot::open()
+void report_snapshot::open(const passed_rows& passed)
 {
     const store_location& store = report_store();
     const auto fail = [&](failure_kind kind, const QString& why) {
@@ -76,10 +77,11 @@ void report_snapshot::open()
     if (store.name.isEmpty() || !database_.open())
         fail(failure_kind::store_unreachable, database_.lastError().text());
     try {
-        copy_tables(store, {readable_tables(), most_text_characters}, database_, make_lock_box);
+        copy_tables(store, {stored_tables(), most_text_characters}, database_, make_lock_box);
     } catch (const run_time_failure& failure) {
         fail(failure.kind(), failure.details());
     }
+    create_passed_tables(database_, passed);
 }
 
 QStringList report_snapshot::parameters_of(const template_query& query)

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "reports/query/query_guard.h"
+#include "reports/query/report_tables.h"
 #include "reports/template/template_file.h"
 
 class QSqlQuery;
@@ -45,14 +46,17 @@ private:
     std::string what_;
 };
 
-/// The committed rows of the report tables at one moment, copied into a database in memory, so that a report
-/// can read nothing else and write nothing. It exists while the report is filled.
+/// The committed rows of the report tables at one moment, copied into a database in memory, and the rows that
+/// a statistic has passed, so that a report can read nothing else and write nothing. It exists while the
+/// report is filled.
 class report_snapshot {
 public:
     /// Fails with `store_unreachable` when the store cannot be opened, `store_damaged` when it cannot be
     /// read, and `store_locked` when another program locks it for longer than `lock_wait::default_time_out_s`
-    /// or the user gives up waiting. `may_continue` is called while queries run.
-    explicit report_snapshot(const template_file& source, const continue_check& may_continue = {});
+    /// or the user gives up waiting; with `misuse` when the passed rows do not fit their tables.
+    /// `may_continue` is called while queries run.
+    explicit report_snapshot(const template_file& source, const continue_check& may_continue = {},
+                             const passed_rows& passed = {});
     ~report_snapshot();
     report_snapshot(const report_snapshot&) = delete;
     report_snapshot& operator=(const report_snapshot&) = delete;
@@ -67,7 +71,7 @@ public:
     static QStringList parameters_of(const template_query& query);
 
 private:
-    void open();
+    void open(const passed_rows& passed);
     QString statement_for(const template_query& query) const;
     report_rows run(const template_query& query, const report_parameters& parameters) const;
     report_rows fetched(const template_query& query, QSqlQuery& statement) const;

@@ -1,11 +1,31 @@
 #pragma once
 
 #include <QStringList>
+#include <QVariant>
+
+#include <map>
+#include <vector>
 
 namespace verdane {
 
-/// The tables that a template may read: those that the statistics and the scorecard fill, and the names of
-/// the clubs, for which the scorecard's table has no column.
+/// The tables of the store that a template may read: those that the statistics and the scorecard fill, and
+/// the names of the clubs, for which the scorecard's table has no column.
+const QStringList& stored_tables();
+
+/// A table that a statistic passes to its report in memory. The store has no such table.
+struct passed_table {
+    QString name;
+    QStringList columns;
+};
+
+/// These tables. A report for which nothing was passed has them without rows.
+const std::vector<passed_table>& passed_tables();
+
+/// The rows of the passed tables by the name of the table, in the order of its columns. An invalid variant is
+/// Null.
+using passed_rows = std::map<QString, std::vector<std::vector<QVariant>>>;
+
+/// All tables that a template may read.
 const QStringList& readable_tables();
 
 }  // namespace verdane
