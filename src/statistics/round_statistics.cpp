@@ -1,10 +1,13 @@
 #include "statistics/round_statistics.h"
 
+#include <utility>
+
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "reports/report_control.h"
 #include "statistics/detail_pass.h"
 #include "statistics/round_handicap.h"
+#include "statistics/season_tables.h"
 #include "statistics/stats_table.h"
 #include "statistics/summary_pass.h"
 #include "store/commits.h"
@@ -79,31 +82,40 @@ bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress&
 
 }  // namespace
 
-bool fill_stats(const selection_arguments& chosen, run_progress& bar)
+std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, run_progress& bar)
 {
     // Each run rebuilds the table with hundreds of commits.
     const relaxed_commits scratch(data_environment().connection);
     stats_table::open_cleared();
     run_detail_pass(chosen, bar);
-    const filled_lines filled = fill_round_lines(chosen);
+    filled_lines filled = fill_round_lines(chosen);
     if (filled.missing != missing_row::none) {
         stop_at_missing_row(filled.missing, bar);
-        return false;
+        return {};
     }
     if (filled.rounds < 1) {
         stop_without_rounds(bar);
-        return false;
+        return {};
     }
-    return finish_table(chosen, filled.rounds, bar);
+    if (!finish_table(chosen, filled.rounds, bar))
+        return {};
+    return std::move(filled.season);
+}
+
+bool fill_stats(const selection_arguments& chosen, run_progress& bar)
+{
+    return rounds_in_stats(chosen, bar).has_value();
 }
 
 void round_statistics(const selection_arguments& chosen, const run_controls& controls)
 {
     run_progress bar(controls.Status);
-    if (!fill_stats(chosen, bar))
+    const std::optional<season_rounds> rounds = rounds_in_stats(chosen, bar);
+    if (!rounds)
         return;
     prepare_report(controls.report, report_opening::maximised(), u"\\Stat_rounds.rpt",
                    u"\\Stat_rounds_en.rpt");
+    controls.report.pass_rows(season_tables(*rounds));
     controls.report.Action(report_control::run_now);
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "scoring/season_rounds.h"
 #include "statistics/run_controls.h"
 #include "statistics/selection.h"
 
@@ -11,8 +14,11 @@ namespace verdane::Statistics {
 /// return.
 void round_statistics(const selection_arguments& chosen, const run_controls& controls);
 
-/// The same up to the finished table, without the report. False if there is nothing to print, which a message
-/// box has reported.
+/// The same up to the finished table, without the report. The rounds of the selection, for the pages about
+/// the season; no value if there is nothing to print, which a message box has reported.
+std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, run_progress& bar);
+
+/// The same for callers that need the table only. False if there is nothing to print.
 bool fill_stats(const selection_arguments& chosen, run_progress& bar);
 
 }  // namespace verdane::Statistics

@@ -1,7 +1,10 @@
 #include "statistics/summary_pass.h"
 
+#include <utility>
+
 #include "records/round_rows.h"
 #include "scoring/round_lines.h"
+#include "statistics/season_round_row.h"
 #include "statistics/stats_table.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
@@ -44,11 +47,14 @@ played_hole read_hole(int16 hole)
             situation.missed, situation.fairway};
 }
 
-void add_current_round(round_sums& sums)
+void add_current_round(round_sums& sums, season_rounds& season)
 {
+    season.push_back(current_season_round());
     sums.add_round();
-    for (int h = 1; h <= hole_count; ++h)
-        sums.add_hole(h, read_hole(h));
+    for (int h = 1; h <= hole_count; ++h) {
+        season.back().holes[h] = read_hole(h);
+        sums.add_hole(h, season.back().holes[h]);
+    }
 }
 
 void write_averages(const round_sums& sums)
@@ -123,11 +129,12 @@ filled_lines fill_round_lines(const selection_arguments& chosen)
                                u"Select * from games"_s);
     open_round_tables();
     round_sums sums;
-    const missing_row missing = walk_selected_rounds(chosen, [&] { add_current_round(sums); });
+    season_rounds season;
+    const missing_row missing = walk_selected_rounds(chosen, [&] { add_current_round(sums, season); });
     if (missing == missing_row::none)
         write_lines(sums);
     close_round_tables();
-    return {missing, sums.rounds};
+    return {missing, sums.rounds, std::move(season)};
 }
 
 }  // namespace verdane::Statistics

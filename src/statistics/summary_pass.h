@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scoring/season_rounds.h"
 #include "statistics/selected_rounds.h"
 
 /// The summary pass of the round statistics: the sums over the stored rounds.
@@ -8,6 +9,8 @@ namespace verdane::Statistics {
 struct filled_lines {
     missing_row missing = missing_row::none;
     int16 rounds = 0;
+    /// The rounds of the selection, for the pages about the season.
+    season_rounds season;
 };
 
 /// Adds up the rounds of the selection and writes all rows of `stats` through `rsstats`, which the caller has
