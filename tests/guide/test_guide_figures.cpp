@@ -10,6 +10,7 @@
 #include "scoring/limits.h"
 #include "scoring/putt_bands.h"
 #include "scoring/round_totals.h"
+#include "scoring/season_rounds.h"
 #include "scoring/words.h"
 #include "store/copy_days.h"
 #include "tests/guide/guide_pages.h"
@@ -129,6 +130,22 @@ private Q_SLOTS:
         std::sort(differentials.begin(), differentials.end());
         const QString result = handicap_text(handicap_take(int16(6)), differentials[0] + differentials[1]);
         QCOMPARE(with_point(page.with_class(u"result"_s).front().text), result.trimmed());
+    }
+
+    void the_windows_are_those_of_the_moving_mean_data() { both_languages(); }
+    void the_windows_are_those_of_the_moving_mean()
+    {
+        QFETCH(bool, french);
+        const auto rows = read_page(french, u"round_report.html"_s).table(u"windows"_s);
+        int rounds = window_of_moving_mean(0);
+        for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
+            const std::vector<int> range = numbers_in(row->at(0));
+            QCOMPARE(range.front(), rounds);
+            const bool is_last = row + 1 == rows.end();
+            for (; rounds <= (is_last ? most_rounds : range.back()); ++rounds)
+                QCOMPARE(row->at(1).toInt(), window_of_moving_mean(rounds));
+        }
+        QCOMPARE(rounds, most_rounds + 1);
     }
 
     void the_grades_are_those_of_the_putts_data() { both_languages(); }

@@ -1,9 +1,10 @@
 // Prints a template to a PDF file, or its figures to a CSV file: with the figures of a store, or without one
 // with the invented figures of the tests.
 //
-//   draw_report TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv
+//   draw_report [--rounds NUMBER] [--courses NUMBER] TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QTextStream>
 
 #include <optional>
@@ -12,6 +13,7 @@
 #include "reports/report_document.h"
 #include "reports/report_store.h"
 #include "tests/reports/invented_rows.h"
+#include "tests/reports/invented_season.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/store_folder.h"
 
@@ -22,20 +24,30 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
+    QCommandLineParser line;
+    const QCommandLineOption rounds(u"rounds"_s, u"rounds of the invented season"_s, u"number"_s, u"40"_s);
+    const QCommandLineOption courses(u"courses"_s, u"courses of the invented season"_s, u"number"_s, u"3"_s);
+    line.addOptions({rounds, courses});
+    line.addPositionalArgument(u"files"_s, u"TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv"_s);
+    line.addHelpOption();
+    line.process(application);
+    const QStringList arguments = line.positionalArguments();
     QTextStream errors(stderr);
-    if (arguments.size() < 3 || arguments.size() > 4) {
-        errors << "draw_report TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv\n";
+    if (arguments.size() < 2 || arguments.size() > 3) {
+        errors << line.helpText();
         return 2;
     }
     try {
         std::optional<testing::store_folder> invented;
-        if (arguments.size() == 3) {
+        passed_rows season;
+        if (arguments.size() == 2) {
             invented.emplace();
             testing::fill_all_reports(invented->location());
+            season =
+                testing::invented_season_tables({line.value(rounds).toInt(), line.value(courses).toInt()});
         }
-        set_report_store(invented ? invented->location() : store_location::file(arguments[2]));
-        const auto report = render_report(arguments[1]);
+        set_report_store(invented ? invented->location() : store_location::file(arguments[1]));
+        const auto report = render_report(arguments[0], {}, season);
         const QString& path = arguments.constLast();
         if (path.endsWith(u".csv"_s))
             report->save_csv(path);

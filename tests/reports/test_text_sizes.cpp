@@ -3,6 +3,7 @@
 #include "reports/report_document.h"
 #include "reports/report_store.h"
 #include "tests/reports/invented_rows.h"
+#include "tests/reports/invented_season.h"
 #include "tests/reports/printed_texts.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/reader.h"
@@ -32,9 +33,10 @@ class test_text_sizes : public QObject {
 
     store_folder store_;
 
-    void check_sizes(const QString& name)
+    void check_sizes(const QString& name) { check_sizes(*render_report(built_template(name))); }
+    void check_sizes(const report_document& document)
     {
-        const std::vector<printed_text> texts = printed_texts(*render_report(built_template(name)));
+        const std::vector<printed_text> texts = printed_texts(document);
         QVERIFY(texts.size() > 50);
         for (const printed_text& text : texts)
             QVERIFY2(text.points >= least_points,
@@ -78,6 +80,23 @@ private Q_SLOTS:
         fill_putts(store_.location(), figures::extreme);
         fill_clubs(store_.location(), figures::extreme);
         check_sizes(name);
+    }
+
+    void no_text_about_the_season_is_smaller_than_7_pt_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("rounds");
+        for (const QString& name : {u"Stat_rounds.rpt"_s, u"Stat_rounds_en.rpt"_s})
+            for (const int rounds : {1, 45})
+                QTest::addRow("%s, %d rounds", qPrintable(name), rounds) << name << rounds;
+    }
+    void no_text_about_the_season_is_smaller_than_7_pt()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, rounds);
+        season_rounds season = invented_season({rounds, 51});
+        season.front().course = QString(60, u'W');
+        check_sizes(*render_report(built_template(name), {}, tables_of(season)));
     }
 
     void the_longest_names_of_a_card_are_printed_in_7_pt_or_more()

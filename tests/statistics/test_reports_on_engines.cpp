@@ -15,6 +15,7 @@
 #include "statistics/f_carte_func.h"
 #include "statistics/putt_statistics.h"
 #include "statistics/round_statistics.h"
+#include "statistics/season_tables.h"
 #include "statistics/selection.h"
 #include "store/DataEnvironment1.h"
 #include "store/diary_copy.h"
@@ -54,8 +55,9 @@ public:
     /// Fills the report tables by the statistics and draws every page. Pages are named "REPORT NUMBER".
     std::map<QString, QImage> pages()
     {
-        run([](const selection_arguments& chosen, const run_controls& controls) {
-            Statistics::round_statistics(chosen, controls);
+        run([this](const selection_arguments& chosen, const run_controls& controls) {
+            run_progress bar(controls.Status);
+            season_ = Statistics::season_tables(*Statistics::rounds_in_stats(chosen, bar));
         });
         run([](const selection_arguments& chosen,
                const run_controls& controls) { Statistics::putt_statistics(chosen, controls); },
@@ -98,7 +100,8 @@ private:
     {
         std::map<QString, QImage> all;
         for (const QString& name : reports) {
-            const auto document = render_report(built_template(name + (french_ ? u".rpt"_s : u"_en.rpt"_s)));
+            const QString path = built_template(name + (french_ ? u".rpt"_s : u"_en.rpt"_s));
+            const auto document = render_report(path, {}, name == u"Stat_rounds" ? season_ : passed_rows());
             for (int page = 0; page < document->page_count(); ++page)
                 all[u"%1 %2"_s.arg(name).arg(page + 1)] = document->page_image(page, dots_per_inch);
         }
@@ -107,6 +110,7 @@ private:
 
     recording_frame frame_;
     bool french_;
+    passed_rows season_;
 };
 
 void copy(const store_location& from, const store_location& to)
@@ -154,6 +158,7 @@ private Q_SLOTS:
         const auto of_file = drawn_store(file_, french).pages();
         const auto of_other = drawn_store(other_, french).pages();
         QVERIFY(of_file.size() >= static_cast<std::size_t>(reports.size()));
+        QVERIFY(of_file.contains(u"Stat_rounds 3"_s));
         QCOMPARE(of_other.size(), of_file.size());
         for (const auto& [name, page] : of_file) {
             QVERIFY2(of_other.contains(name), qPrintable(name));
