@@ -31,8 +31,12 @@ enum class failure_kind {
     source_case,        ///< the server distinguishes the case of table names
     source_table,       ///< the source lacks some of the tables
     source_column,      ///< a table of the source lacks a column, or has it in another place
+    source_type,        ///< a column of the source has a type that does not fit its values
+    source_storage,     ///< tables of the source have a storage engine without transactions
     source_read_only,   ///< the account may not write
     source_full,        ///< the disk of the server is full
+    source_value,       ///< a value does not fit into its column on the server
+    source_part,        ///< the server lacks a table or a column that a statement names
     source_lost,        ///< the connection to the server was lost
     report_template,    ///< a report template is missing or contains an error
     report_output,      ///< a report could not be written or printed

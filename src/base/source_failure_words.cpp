@@ -4,8 +4,8 @@ namespace verdane {
 
 namespace {
 
-/// The failures of a source that was opened.
-text_pair words_of_open_source(failure_kind kind)
+/// The tables of a source that the program cannot use.
+text_pair words_of_tables(failure_kind kind)
 {
     switch (kind) {
     case failure_kind::source_table:
@@ -21,6 +21,37 @@ text_pair words_of_open_source(failure_kind kind)
                 u"A table of the data source does not have Verdane's columns: a column is missing, has "
                 u"another name or is in another place. Correct the table, then start again. Nothing was "
                 u"changed."};
+    case failure_kind::source_type:
+        return {
+            u"Une colonne de la source de données a un type qui ne convient pas aux valeurs de Verdane (un "
+            u"texte, un nombre entier ou un nombre à virgule). Corrigez la table, puis recommencez. Rien "
+            u"n'a été modifié.",
+            u"A column of the data source has a type that does not fit Verdane's values (a text, a whole "
+            u"number or a number with decimals). Correct the table, then start again. Nothing was "
+            u"changed."};
+    case failure_kind::source_storage:
+        return {u"Des tables de la source de données ont un moteur de stockage sans transactions, comme "
+                u"MyISAM : un enregistrement interrompu y resterait incomplet. Convertissez-les en InnoDB, "
+                u"puis recommencez. Rien n'a été modifié.",
+                u"Tables of the data source have a storage engine without transactions, such as MyISAM: a "
+                u"save that is interrupted would stay incomplete there. Convert them to InnoDB, then start "
+                u"again. Nothing was changed."};
+    case failure_kind::source_part:
+        return {
+            u"Il manque une table ou une colonne dans la source de données ; le reste est intact. "
+            u"Remettez-la en place sur le serveur, ou restaurez une copie complète de la base de données.",
+            u"A table or a column is missing in the data source; the rest is intact. Put it back in place "
+            u"on the server, or restore a complete copy of the database."};
+    default:
+        break;
+    }
+    return {u"Verdane ne peut pas continuer.", u"Verdane cannot go on."};
+}
+
+/// The failures of a source that was opened.
+text_pair words_of_open_source(failure_kind kind)
+{
+    switch (kind) {
     case failure_kind::source_read_only:
         return {u"Le compte de la source de données n'a pas le droit d'écrire dans le journal. Donnez-lui ce "
                 u"droit sur le serveur, puis recommencez. Ce qui était enregistré est intact.",
@@ -31,6 +62,13 @@ text_pair words_of_open_source(failure_kind kind)
                 u"recommencez. Ce qui était enregistré est intact.",
                 u"There is no room left on the server's disk. Free some space on the server, then start "
                 u"again. What was saved is intact."};
+    case failure_kind::source_value:
+        return {
+            u"Une valeur n'entre pas dans sa colonne de la source de données : un texte y est trop long ou "
+            u"un nombre trop grand. Elle n'a pas été enregistrée ; ce qui était enregistré avant est "
+            u"intact.",
+            u"A value does not fit into its column of the data source: a text is too long or a number too "
+            u"large for it. It was not saved; what was saved before is intact."};
     case failure_kind::source_lost:
         return {u"La connexion avec le serveur du journal est perdue. Ce qui était enregistré avant est "
                 u"intact ; le dernier enregistrement y est en entier ou pas du tout. Vérifiez le serveur et "
@@ -39,9 +77,8 @@ text_pair words_of_open_source(failure_kind kind)
                 u"save is there as a whole or not at all. Check the server and the network, start Verdane "
                 u"again and check the last hole."};
     default:
-        break;
+        return words_of_tables(kind);
     }
-    return {u"Verdane ne peut pas continuer.", u"Verdane cannot go on."};
 }
 
 }  // namespace

@@ -56,8 +56,12 @@ bool is_failure_of_store(failure_kind kind)
     case failure_kind::source_case:
     case failure_kind::source_table:
     case failure_kind::source_column:
+    case failure_kind::source_type:
+    case failure_kind::source_storage:
     case failure_kind::source_read_only:
     case failure_kind::source_full:
+    case failure_kind::source_value:
+    case failure_kind::source_part:
     case failure_kind::source_lost:
         return true;
     default:

@@ -26,7 +26,7 @@ int run_child(const store_location& place, failure_kind kind)
 {
     set_interface_language(true);
     data_environment().connection.Open(place);
-    if (kind == failure_kind::missing_table)
+    if (kind == missing_part_of_engine())
         reader(place).write(u"alter table cost rename to money"_s);
     const recording_frame frame;
     in_list([kind](hand& user) {
@@ -101,7 +101,7 @@ private Q_SLOTS:
     {
         const test_store place;
         create_store(place.location(), {});
-        remove_in_child(place.location(), failure_kind::missing_table);
+        remove_in_child(place.location(), missing_part_of_engine());
         const reader store(place.location());
         QCOMPARE(store.text(u"select group_concat(substr(date, 8, 1)) from games"_s), u"1,3"_s);
         QCOMPARE(shots_left(store), QString());

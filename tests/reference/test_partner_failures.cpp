@@ -33,7 +33,7 @@ int run_child(const store_location& place, const QString& step)
     const recording_frame frame;
     play(show_partners, [&](hand& user) {
         if (step == u"opening") {
-            user.answer(failure_box(failure_kind::missing_table));
+            user.answer(failure_box(missing_part_of_engine()));
             return;
         }
         user.wait_for_window(partner_window());

@@ -29,8 +29,8 @@ private Q_SLOTS:
         row("deadlock", 1213, failure_kind::store_locked);
         row("right on a table missing", 1142, failure_kind::source_read_only);
         row("read-only server", 1290, failure_kind::source_read_only);
-        row("missing table", 1146, failure_kind::missing_table);
-        row("missing column", 1054, failure_kind::missing_table);
+        row("missing table", 1146, failure_kind::source_part);
+        row("missing column", 1054, failure_kind::source_part);
         row("full table", 1114, failure_kind::source_full);
         row("full disk", 1026, failure_kind::source_full, u"Error writing file (Errcode: 28 ...)"_s);
         row("other error on a file", 1026, failure_kind::store_other,
@@ -38,7 +38,10 @@ private Q_SLOTS:
         row("another number with the same digits", 1026, failure_kind::store_other, u"(Errcode: 128 ...)"_s);
         row("full disk of the storage engine", 1030, failure_kind::source_full,
             u"Got error 28 \"No space left on device\" from storage engine"_s);
-        row("value too long", 1406, failure_kind::store_other);
+        row("text too long", 1406, failure_kind::source_value);
+        row("number too large", 1264, failure_kind::source_value);
+        row("text in a number", 1366, failure_kind::source_value);
+        row("wrong syntax", 1064, failure_kind::store_other);
     }
     void an_error_of_a_statement_has_its_meaning()
     {

@@ -202,6 +202,12 @@ QString administrator_source()
     return server_source;
 }
 
+failure_kind missing_part_of_engine()
+{
+    return engine_of_tests() == test_engine::mariadb ? failure_kind::source_part
+                                                     : failure_kind::missing_table;
+}
+
 QString file_of(const store_location& store)
 {
     return store.where == store_location::place::file ? store.name : own_sources().place(store.name);

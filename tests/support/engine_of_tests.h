@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "base/run_time_failure.h"
 #include "store/store_location.h"
 
 /// The engine that the stores of the tests are on, and the data sources of a test process.
@@ -29,7 +30,11 @@ store_location store_called(const QString& name);
 /// The source of the server's administrator.
 QString administrator_source();
 
-/// The file of a store on an engine that has one.
+/// The kind of the failure of a statement that names a missing table or column: a server has words of its
+/// own.
+failure_kind missing_part_of_engine();
+
+/// The file of a store on an engine that has one, or the database on a server.
 QString file_of(const store_location& store);
 
 }  // namespace verdane::testing

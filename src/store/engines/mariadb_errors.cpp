@@ -29,7 +29,10 @@ constexpr int no_such_table = 1146;
 constexpr int lock_wait_timeout = 1205;
 constexpr int deadlock = 1213;
 constexpr int privilege_missing = 1227;
+constexpr int out_of_range = 1264;
 constexpr int read_only_server = 1290;
+constexpr int incorrect_value = 1366;
+constexpr int too_long = 1406;
 constexpr int account_denied_without_password = 1698;
 constexpr int read_only_transaction = 1792;
 constexpr int read_only_mode = 1836;
@@ -111,7 +114,11 @@ failure_kind kind_of_mariadb_error(int number, const QString& text)
         return failure_kind::source_read_only;
     case code::no_such_table:
     case code::unknown_column:
-        return failure_kind::missing_table;
+        return failure_kind::source_part;
+    case code::out_of_range:
+    case code::incorrect_value:
+    case code::too_long:
+        return failure_kind::source_value;
     case code::no_database_selected:
         return failure_kind::source_database;
     case code::disk_full:
