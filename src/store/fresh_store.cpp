@@ -31,13 +31,6 @@ QString engine_type(column_type type)
     return u"TEXT"_s;
 }
 
-QString declared_type(const column& column)
-{
-    if (column.characters > 0)
-        return u"VARCHAR(%1)"_s.arg(column.characters);
-    return engine_type(column.type);
-}
-
 /// The engines accept names between back quotes. Some of the columns are reserved words in one of them.
 QString in_back_quotes(const QString& name)
 {
@@ -152,6 +145,13 @@ void create_tables_and_indexes(Connection1& connection)
 }
 
 }  // namespace
+
+QString declared_type(const column& column)
+{
+    if (column.characters > 0)
+        return u"VARCHAR(%1)"_s.arg(column.characters);
+    return engine_type(column.type);
+}
 
 void create_tables(Connection1& connection)
 {

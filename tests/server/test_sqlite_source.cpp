@@ -123,24 +123,27 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { embedded.Open(source.path()); }) == failure_kind::store_locked);
     }
 
-    void missing_tables_and_columns_are_refused_data()
+    void tables_and_columns_that_do_not_fit_are_refused_data()
     {
-        QTest::addColumn<QString>("change");
+        QTest::addColumn<QStringList>("changes");
         QTest::addColumn<failure_kind>("kind");
-        QTest::newRow("missing table") << u"drop table partners"_s << failure_kind::source_table;
+        QTest::newRow("missing table") << QStringList{u"drop table partners"_s} << failure_kind::source_table;
         QTest::newRow("missing column")
-            << u"alter table games drop column missed_18"_s << failure_kind::source_column;
-        QTest::newRow("renamed column")
-            << u"alter table games rename column field to course"_s << failure_kind::source_column;
+            << QStringList{u"alter table games drop column missed_18"_s} << failure_kind::source_column;
+        QTest::newRow("renamed column") << QStringList{u"alter table games rename column field to course"_s}
+                                        << failure_kind::source_column;
+        QTest::newRow("column of another type")
+            << QStringList{u"drop table hand"_s, u"create table hand (hnd text)"_s}
+            << failure_kind::source_type;
     }
-    void missing_tables_and_columns_are_refused()
+    void tables_and_columns_that_do_not_fit_are_refused()
     {
-        QFETCH(QString, change);
+        QFETCH(QStringList, changes);
         QFETCH(failure_kind, kind);
         sqlite_source source;
         source.open();
         source.connection.Close();
-        source.file().write(change);
+        source.file().write(changes);
         QVERIFY(failure_of([&] { source.open(); }) == kind);
         QVERIFY(!source.connection.is_open());
     }

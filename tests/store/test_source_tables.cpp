@@ -16,7 +16,7 @@ source_tables complete_tables()
     source_tables tables;
     for (const table& each : schema()) {
         for (const column& column : each.columns)
-            tables[each.name.toLower()] << column.name;
+            tables[each.name.toLower()] << source_column{column.name, {}, column_content::anything};
     }
     return tables;
 }
@@ -31,23 +31,23 @@ private Q_SLOTS:
     void a_source_without_tables_of_the_store_has_none()
     {
         QVERIFY(check_tables({}) == tables_found::none);
-        QVERIFY(check_tables({{u"invoices"_s, {u"number"_s}}}) == tables_found::none);
+        QVERIFY(check_tables({{u"invoices"_s, {{u"number"_s}}}}) == tables_found::none);
     }
 
     void a_complete_source_has_all_tables_whatever_the_case_of_names()
     {
         source_tables tables = complete_tables();
         QVERIFY(check_tables(tables) == tables_found::all);
-        for (QString& name : tables[u"games"_s])
-            name = name.toUpper();
+        for (source_column& column : tables[u"games"_s])
+            column.name = column.name.toUpper();
         QVERIFY(check_tables(tables) == tables_found::all);
     }
 
     void other_tables_and_columns_after_the_last_are_ignored()
     {
         source_tables tables = complete_tables();
-        tables[u"invoices"_s] << u"number"_s;
-        tables[u"games"_s] << u"remark"_s;
+        tables[u"invoices"_s] << source_column{u"number"_s};
+        tables[u"games"_s] << source_column{u"remark"_s};
         QVERIFY(check_tables(tables) == tables_found::all);
     }
 
@@ -62,15 +62,84 @@ private Q_SLOTS:
 
     void a_column_that_is_missing_renamed_or_moved_is_refused()
     {
-        for (const auto& change : std::initializer_list<void (*)(QStringList&)>{
-                 [](QStringList& names) { names.removeLast(); },
-                 [](QStringList& names) { names[1] = u"course"_s; },
-                 [](QStringList& names) { names.swapItemsAt(0, 1); },
-                 [](QStringList& names) { names.prepend(u"number"_s); }}) {
+        using columns = QList<source_column>;
+        for (const auto& change : std::initializer_list<void (*)(columns&)>{
+                 [](columns& all) { all.removeLast(); }, [](columns& all) { all[1].name = u"course"_s; },
+                 [](columns& all) { all.swapItemsAt(0, 1); },
+                 [](columns& all) { all.prepend({u"number"_s}); }}) {
             source_tables tables = complete_tables();
             change(tables[u"games"_s]);
             QVERIFY(failure_of([&] { check_tables(tables); }) == failure_kind::source_column);
         }
+    }
+
+    void a_column_whose_type_does_not_fit_is_refused_with_both_types()
+    {
+        source_tables tables = complete_tables();
+        tables[u"hand"_s][0] = {u"hnd"_s, u"int"_s, column_content::whole_numbers};
+        try {
+            check_tables(tables);
+            QFAIL("the column was accepted");
+        } catch (const run_time_failure& failure) {
+            QCOMPARE(failure.kind(), failure_kind::source_type);
+            QCOMPARE(failure.details(), u"hand, 1: hnd: int ≠ DOUBLE"_s);
+        }
+    }
+
+    void a_type_of_a_server_fits_the_columns_whose_values_it_stores_unchanged_data()
+    {
+        add_types();
+        type("text", content_in_mariadb(u"text"_s, 0), u"text"_s);
+        type("varchar", content_in_mariadb(u"VARCHAR"_s, 0), u"text"_s);
+        type("smallint", content_in_mariadb(u"smallint"_s, 0), u"count amount yes_no"_s);
+        type("tinyint", content_in_mariadb(u"tinyint"_s, 0), u"count amount yes_no"_s);
+        type("decimal", content_in_mariadb(u"decimal"_s, 0), u"count amount yes_no"_s);
+        type("decimal with decimals", content_in_mariadb(u"decimal"_s, 2), u"count amount real yes_no"_s);
+        type("double", content_in_mariadb(u"double"_s, 0), u"count amount real yes_no"_s);
+        type("datetime", content_in_mariadb(u"datetime"_s, 0), QString());
+        type("blob", content_in_mariadb(u"blob"_s, 0), QString());
+    }
+    void a_type_of_a_server_fits_the_columns_whose_values_it_stores_unchanged() { check_type(); }
+
+    void a_type_of_a_file_fits_the_columns_whose_values_it_stores_unchanged_data()
+    {
+        add_types();
+        type("SMALLINT", content_in_sqlite(u"SMALLINT"_s), u"count amount real yes_no"_s);
+        type("BOOLEAN", content_in_sqlite(u"BOOLEAN"_s), u"count amount real yes_no"_s);
+        type("VARCHAR(14)", content_in_sqlite(u"varchar(14)"_s), u"text"_s);
+        type("TEXT", content_in_sqlite(u"TEXT"_s), u"text"_s);
+        type("DATE", content_in_sqlite(u"DATE"_s), u"count amount real yes_no"_s);
+        type("none", content_in_sqlite(QString()), u"text count amount real yes_no"_s);
+    }
+    void a_type_of_a_file_fits_the_columns_whose_values_it_stores_unchanged() { check_type(); }
+
+private:
+    static void add_types()
+    {
+        QTest::addColumn<column_content>("content");
+        QTest::addColumn<QString>("fitting");
+    }
+    /// `fitting` names the types of columns that fit.
+    static void type(const char* name, column_content content, const QString& fitting)
+    {
+        QTest::newRow(name) << content << fitting;
+    }
+    static void check_type()
+    {
+        QFETCH(column_content, content);
+        QFETCH(QString, fitting);
+        QStringList found;
+        const std::pair<column_type, QString> types[]{{column_type::text, u"text"_s},
+                                                      {column_type::count, u"count"_s},
+                                                      {column_type::amount, u"amount"_s},
+                                                      {column_type::real, u"real"_s},
+                                                      {column_type::yes_no, u"yes_no"_s}};
+        for (const auto& [type, name] : types) {
+            if (fits(content, type))
+                found << name;
+        }
+        QCOMPARE(found.join(u' '), fitting);
+        QVERIFY(fits(content, column_type::any));
     }
 };
 

@@ -36,6 +36,7 @@ bool mariadb_engine::open(soundness_check)
     take_lock();
     read_tables();
     const tables_found which = check_tables(tables_.columns());
+    tables_.check_transactions();
     if (which == tables_found::all)
         check_writable();
     // Each statement that creates a table is committed by itself, so an earlier start may have been ended in

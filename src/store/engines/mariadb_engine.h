@@ -12,7 +12,7 @@ public:
     using odbc_engine::odbc_engine;
 
     /// Fails with `store_locked`, `source_case`, `source_database`, `source_table`, `source_column`,
-    /// `source_read_only` or `source_lost`.
+    /// `source_type`, `source_storage`, `source_read_only` or `source_lost`.
     bool open(soundness_check check) override;
 
     QString identity_column(QStringView table) const override;

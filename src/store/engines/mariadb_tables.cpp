@@ -3,6 +3,7 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+#include "base/run_time_failure.h"
 #include "store/schema.h"
 
 namespace verdane {
@@ -21,8 +22,12 @@ QString mariadb_tables::ending(const table& declared)
 
 QString mariadb_tables::question()
 {
-    return u"select table_name, column_name, column_key, extra from information_schema.columns "
-           u"where table_schema = database() order by table_name, ordinal_position"_s;
+    // A view has no storage engine.
+    return u"select c.table_name, c.column_name, c.column_key, c.extra, c.data_type, c.numeric_scale, "
+           u"t.engine, e.transactions from information_schema.columns c "
+           u"join information_schema.tables t using (table_schema, table_name) "
+           u"left join information_schema.engines e on e.engine = t.engine "
+           u"where c.table_schema = database() order by c.table_name, c.ordinal_position"_s;
 }
 
 mariadb_tables::mariadb_tables(QSqlQuery& columns)
@@ -30,13 +35,17 @@ mariadb_tables::mariadb_tables(QSqlQuery& columns)
     while (columns.next()) {
         const QString table = columns.value(0).toString().toLower();
         const QString column = columns.value(1).toString();
+        const QString type = columns.value(4).toString();
         if (column == row_column())
             identified_ << table;
         // `select *` returns a column that identifies rows unless it is invisible.
         if (!columns.value(3).toString().contains(u"INVISIBLE", Qt::CaseInsensitive))
-            columns_[table] << column;
+            columns_[table] << source_column{column, type,
+                                             content_in_mariadb(type, columns.value(5).toInt())};
         if (columns.value(2).toString() == u"PRI")
             keyed_ << table;
+        if (columns.value(7).toString() == u"NO")
+            engines_without_transactions_[table] = columns.value(6).toString();
     }
 }
 
@@ -48,6 +57,18 @@ bool mariadb_tables::contains(QStringView table) const
 bool mariadb_tables::has_row_column(QStringView table) const
 {
     return identified_.contains(table.toString().toLower());
+}
+
+void mariadb_tables::check_transactions() const
+{
+    QStringList tables;
+    for (const table& declared : schema()) {
+        const QString engine = engines_without_transactions_.value(declared.name.toLower());
+        if (!engine.isEmpty())
+            tables << declared.name + u" (" + engine + u')';
+    }
+    if (!tables.isEmpty())
+        throw run_time_failure(failure_kind::source_storage, tables.join(u", "_s));
 }
 
 QString mariadb_tables::row_column_script() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QStringView>
@@ -33,6 +34,10 @@ public:
     bool contains(QStringView table) const;
     bool has_row_column(QStringView table) const;
 
+    /// Fails with `source_storage` if a table of the store has a storage engine without transactions, which
+    /// could not undo the first part of a commit that fails; the details name the tables.
+    void check_transactions() const;
+
     /// Statements that add the column to the tables of the store that lack it; empty if none does.
     QString row_column_script() const;
 
@@ -41,6 +46,8 @@ private:
     /// The tables with that column, and those with a primary key, in small letters.
     QSet<QString> identified_;
     QSet<QString> keyed_;
+    /// The storage engines of tables that have no transactions.
+    QHash<QString, QString> engines_without_transactions_;
 };
 
 }  // namespace verdane

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/run_time_failure.h"
+#include "store/fresh_store.h"
 #include "store/schema.h"
 
 namespace verdane {
@@ -11,17 +12,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void check_columns(const table& declared, const QStringList& found)
+void check_column(const table& declared, qsizetype place, const column& column, const source_column& found)
+{
+    const QString where = u"%1, %2: "_s.arg(declared.name).arg(place);
+    if (found.name.compare(column.name, Qt::CaseInsensitive) != 0)
+        throw run_time_failure(
+            failure_kind::source_column,
+            QString(where + (found.name.isEmpty() ? u"-"_s : found.name) + u" ≠ " + column.name));
+    if (!fits(found.content, column.type))
+        throw run_time_failure(failure_kind::source_type, QString(where + column.name + u": " + found.type +
+                                                                  u" ≠ " + declared_type(column)));
+}
+
+void check_columns(const table& declared, const QList<source_column>& found)
 {
     qsizetype place = 0;
     for (const column& column : declared.columns) {
-        const QString name = found.value(place++);
-        if (name.compare(column.name, Qt::CaseInsensitive) == 0)
-            continue;
-        throw run_time_failure(failure_kind::source_column,
-                               u"%1, %2: %3 ≠ %4"_s.arg(declared.name)
-                                   .arg(place)
-                                   .arg(name.isEmpty() ? u"-"_s : name, column.name));
+        check_column(declared, place + 1, column, found.value(place));
+        ++place;
     }
 }
 

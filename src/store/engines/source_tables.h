@@ -1,21 +1,32 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QStringList>
+
+#include "store/engines/column_content.h"
 
 /// The check of the tables that a registered source has.
 namespace verdane {
 
-/// The names of the columns of each table in their order, by the name of the table in small letters.
-using source_tables = QHash<QString, QStringList>;
+/// A column of a table, with its type in the words of the engine and what it can hold.
+struct source_column {
+    QString name;
+    QString type = {};
+    column_content content = column_content::anything;
+};
+
+/// The columns of each table in their order, by the name of the table in small letters.
+using source_tables = QHash<QString, QList<source_column>>;
 
 /// How many tables of the store a source has.
 enum class tables_found { none, some, all };
 
 /// Compares the tables of the store with those of a source; other tables are ignored. Columns after the last
 /// declared one are ignored, too. Names have no case. Fails with `source_column` if a column is missing, has
-/// another name or is in another place; the details name the table, the place and both names.
+/// another name or is in another place, and with `source_type` if its type does not fit the values of the
+/// program; the details name the table, the place and the difference.
 tables_found check_tables(const source_tables& found);
 
 /// True if the source has the first tables of the store in the order in which they are created, and not the

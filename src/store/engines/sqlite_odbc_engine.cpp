@@ -24,9 +24,19 @@ namespace {
 /// How much of the file the engine may keep in memory.
 constexpr int kept_pages_kb = 16 * 1024;
 
-constexpr QStringView columns_of_tables =
-    u"select m.name, p.name from sqlite_master m join pragma_table_info(m.name) p where m.type = 'table' "
-    u"order by m.name, p.cid";
+/// How long a statement waits for the lock of another program, in seconds. The program shows nothing
+/// meanwhile.
+constexpr int lock_time_out_s = 20;
+
+constexpr QStringView columns_of_tables = u"select m.name, p.name, p.type from sqlite_master m join "
+                                          u"pragma_table_info(m.name) p where m.type = 'table' "
+                                          u"order by m.name, p.cid";
+
+source_column column_of(const QSqlQuery& row)
+{
+    const QString type = row.value(2).toString();
+    return {row.value(1).toString(), type, content_in_sqlite(type)};
+}
 
 }  // namespace
 
@@ -55,7 +65,7 @@ bool sqlite_odbc_engine::open(soundness_check check)
     lock_ = take_store_lock(path_);
     check_store_files(path_);
     created_ = QFileInfo(path_).size() == 0;
-    first_value(u"PRAGMA busy_timeout=%1"_s.arg(source_lock_time_out_s * 1000));
+    first_value(u"PRAGMA busy_timeout=%1"_s.arg(lock_time_out_s * 1000));
     if (check == soundness_check::while_opening || created_ ||
         first_value(u"PRAGMA journal_mode"_s) != u"wal")
         check_soundness();
@@ -87,7 +97,7 @@ bool sqlite_odbc_engine::check_content() const
         throw failure(query.lastError(), question);
     source_tables found;
     while (query.next())
-        found[query.value(0).toString().toLower()] << query.value(1).toString();
+        found[query.value(0).toString().toLower()] << column_of(query);
     const tables_found which = check_tables(found);
     if (which == tables_found::some)
         throw run_time_failure(failure_kind::source_table,

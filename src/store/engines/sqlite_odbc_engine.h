@@ -19,7 +19,7 @@ public:
     static void check_before_opening(const QString& source);
 
     /// Creates the file if there is none. Fails like the embedded engine, and with `source_database`,
-    /// `source_table` or `source_column`.
+    /// `source_table`, `source_column` or `source_type`.
     bool open(soundness_check check) override;
     void close() override;
     void abandon() override;
