@@ -1,8 +1,11 @@
 #include "tests/server/own_server.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
+#include <QThread>
 
+#include <chrono>
 #include <csignal>
 
 #include "tests/support/engine_of_tests.h"
@@ -19,7 +22,7 @@ QString folder()
     return qEnvironmentVariable("VERDANE_TEST_FOLDER");
 }
 
-/// The output of the script goes to that of the test: the server does not have it.
+/// The output of the script is that of the test; the server does not inherit it.
 void run_script(const QStringList& arguments)
 {
     const int status = QProcess::execute(QStringLiteral(VERDANE_TOOLS "/test_server"), arguments);
@@ -63,6 +66,21 @@ void signal_server(int number)
 void administer(const QString& statement)
 {
     outside_connection(store_location::source(administrator_source())).run_unchanged(statement);
+}
+
+void wait_until_a_table_is_awaited()
+{
+    const outside_connection server(store_location::source(administrator_source()));
+    const QString waiting = u"select count(*) from information_schema.processlist where state like "
+                            "'Waiting for table%'"_s;
+    const QDeadlineTimer limit(std::chrono::seconds(30));
+    while (!limit.hasExpired()) {
+        QSqlQuery query = server.run_unchanged(waiting);
+        if (all_rows(query)[0][0].toInt() > 0)
+            return;
+        QThread::msleep(50);
+    }
+    qFatal("no connection waits for a table");
 }
 
 QStringList room_for_mb(int megabytes)

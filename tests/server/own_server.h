@@ -18,7 +18,11 @@ void signal_server(int number);
 /// Runs a statement as its administrator.
 void administer(const QString& statement);
 
-/// Options of a server that can store at most that number of megabytes in the tables made since it has them.
+/// Returns when a connection to the server waits for the lock of a table. A wait of half a minute ends the
+/// test. Usable from any thread.
+void wait_until_a_table_is_awaited();
+
+/// Options of a server that stores at most that number of megabytes in the tables made while it has them.
 QStringList room_for_mb(int megabytes);
 
 /// Fills the disk space that `room_for_mb` allows, and the pages of a table, with rows that have no key. The

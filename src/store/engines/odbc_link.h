@@ -16,14 +16,15 @@ constexpr int source_opening_time_out_s = 3;
 /// recordsets. Afterwards the connection cannot be used any more.
 constexpr int source_time_out_s = 30;
 
-/// How long a statement waits on the server for the lock of another program, in seconds. Shorter than the
-/// time-out, so that the failure is that of the lock.
-constexpr int source_lock_time_out_s = 20;
+/// How long a statement waits on the server for the lock of a table, and then again for that of a row, in
+/// seconds. Both together are shorter than the time-out, so that the failure is that of the lock.
+constexpr int source_lock_time_out_s = 12;
+static_assert(2 * source_lock_time_out_s < source_time_out_s);
 
-/// Opens the source under Qt's name `connection`. It is never opened again by itself: the lock of the program
-/// ends with the connection. Fails with `source_unknown`, `source_driver`, `source_password`,
-/// `source_database`, `source_stopped`, `source_silent` or `store_unreachable`. After a failure Qt does not
-/// know the connection.
+/// Opens the source under Qt's name `connection`. A lost connection is never opened again automatically: the
+/// lock of the program ended with it. Fails with `source_unknown`, `source_driver`, `source_password`,
+/// `source_database`, `source_stopped`, `source_silent` or `store_unreachable`. After a failure
+/// there is no connection of that name.
 void open_link(const QString& connection, const QString& source);
 
 /// The code of the engine in an error; 0 for an error of the driver manager.
