@@ -3,6 +3,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
+#include "store/commits.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "store/engines/attached_copy.h"
@@ -95,7 +96,7 @@ void copy_from(Connection1& connection, const copied_tables& tables, const QSqlD
 {
     const store_engine& engine = connection.engine();
     const lock_wait::limit wait(connection.waiting(), lock_wait::default_time_out_s);
-    connection.Execute(engine.commits().begin);
+    joined_commits one_moment(connection);
     // SQLite makes the table of this function at its first use, which the query of a template may not do.
     run(target, u"select count(*) from pragma_table_info('none')"_s);
     run(target, u"begin"_s);
@@ -107,7 +108,7 @@ void copy_from(Connection1& connection, const copied_tables& tables, const QSqlD
         copy_rows(engine, *copied, target, tables.most_characters);
     }
     run(target, u"commit"_s);
-    connection.Execute(engine.commits().finish);
+    one_moment.finish();
 }
 
 }  // namespace
