@@ -1,11 +1,15 @@
 #include <QTest>
 
+#include <memory>
+
 #include "store/Connection1.h"
 #include "store/Recordset.h"
 #include "store/schema.h"
 #include "tests/server/own_server.h"
+#include "tests/support/comma_locale.h"
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/failures.h"
+#include "tests/support/outside_connection.h"
 #include "tests/support/reader.h"
 
 using namespace verdane;
@@ -27,6 +31,13 @@ struct source {
         connection.Close();
         open();
     }
+    /// The result of a question that the server itself computes, with its own comparison of numbers.
+    int number(const QString& question) const
+    {
+        const outside_connection server(place);
+        QSqlQuery query = server.run_unchanged(question);
+        return all_rows(query)[0][0].toInt();
+    }
     /// Runs a statement as the administrator, in which %1 is the database.
     void change(const QString& statement) const { administer(statement.arg(database())); }
 };
@@ -35,6 +46,16 @@ void remove_row_columns(const source& from)
 {
     for (const table& each : schema())
         administer(u"alter table %1.%2 drop column verdane_row"_s.arg(from.database(), each.name));
+}
+
+std::unique_ptr<Recordset> opened(source& from, const QString& statement)
+{
+    recordset_settings settings;
+    settings.name = u"rstest"_s;
+    settings.source = statement;
+    auto rows = std::make_unique<Recordset>(from.connection, settings);
+    rows->Open();
+    return rows;
 }
 
 recordset_settings partners_settings(lock_type lock = lock_type::optimistic)
@@ -133,6 +154,92 @@ private Q_SLOTS:
         partners.Find(u"NAME='b'"_s);
         partners.Delete();
         QCOMPARE(stored_partners(bare).count(u':'), 4);
+    }
+
+    void a_row_of_two_hundred_columns_is_found_by_all_its_values()
+    {
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.reopen();
+        const auto rounds = opened(bare, u"select * from games2"_s);
+        QVERIFY(rounds->field_count() > 200);
+        for (const QString& key : {u"1"_s, u"2"_s}) {
+            rounds->AddNew();
+            rounds->Fields(u"date").set(key);
+            rounds->Fields(u"PARTNERS").set(u"Zoë; l'ami"_s);
+            rounds->Fields(u"putt_len_18_6").set(12);
+            rounds->Update();
+        }
+        rounds->Fields(u"fairway_9").set(1);
+        rounds->Update();
+        rounds->Fields(u"PARTNERS").set(u""_s);
+        rounds->Update();
+        const auto stored = bare.outside().rows(
+            u"select date, fairway_9, PARTNERS, putt_len_18_6 from games2 order by date"_s);
+        QCOMPARE(stored.size(), std::size_t(2));
+        QCOMPARE(stored[0][2].toString(), u"Zoë; l'ami"_s);
+        QCOMPARE(stored[1][1].toInt(), 1);
+        QCOMPARE(stored[1][2].toString(), QString());
+        rounds->MoveFirst();
+        rounds->Delete();
+        QCOMPARE(bare.outside().text(u"select date from games2"_s), u"2"_s);
+    }
+
+    void a_row_with_real_numbers_is_found_by_all_its_values_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::newRow("double") << u"double"_s;
+        QTest::newRow("decimal") << u"decimal(30,15)"_s;
+    }
+    void a_row_with_real_numbers_is_found_by_all_its_values()
+    {
+        QFETCH(QString, type);
+        const comma_locale locale;
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        for (const QString& column : {u"hole_1"_s, u"hole_2"_s, u"front_nine"_s})
+            administer(u"alter table %1.stats modify column %2 %3"_s.arg(bare.database(), column, type));
+        bare.reopen();
+        const auto figures = opened(bare, u"select * from stats"_s);
+        const int row = 20;
+        figures->MoveTo(row);
+        figures->Fields(u"hole_1").set(0.1);
+        figures->Fields(u"hole_2").set(72.125);
+        figures->Update();
+        figures->Fields(u"front_nine").set(-0.375);
+        figures->Update();
+        figures->Fields(u"hole_1").set(0.2);
+        figures->Update();
+        figures->Requery();
+        figures->Find(u"hole_2=72.125"_s);
+        QVERIFY(!figures->eof());
+        QCOMPARE(figures->Fields(u"hole_1").to_double(), 0.2);
+        QCOMPARE(figures->Fields(u"front_nine").to_double(), -0.375);
+        QCOMPARE(bare.number(u"select count(*) from stats where hole_1 = 0.2"_s), 1);
+        figures->Delete();
+        QCOMPARE(bare.number(u"select count(*) from stats where hole_1 = 0.2"_s), 0);
+    }
+
+    void a_value_that_does_not_fit_is_refused_and_nothing_is_lost()
+    {
+        source narrow;
+        narrow.open();
+        narrow.change(u"alter table %1.partners modify code tinyint"_s);
+        Recordset partners(narrow.connection, partners_settings());
+        partners.Open();
+        add_partner(partners, u"a"_s, 1);
+        partners.Fields(u"TEL").set(QString(40'000, u'é'));
+        QVERIFY(failure_of([&] { partners.Update(); }) == failure_kind::source_value);
+        partners.CancelUpdate();
+        QVERIFY(failure_of([&] { add_partner(partners, QString(40'000, u'é'), 2); }) ==
+                failure_kind::source_value);
+        partners.CancelUpdate();
+        QVERIFY(failure_of([&] { add_partner(partners, u"c"_s, 300); }) == failure_kind::source_value);
+        partners.CancelUpdate();
+        add_partner(partners, u"b"_s, 2);
+        QCOMPARE(stored_partners(narrow), u"a:1:null b:2:null"_s);
     }
 
     void one_of_two_equal_rows_is_changed()

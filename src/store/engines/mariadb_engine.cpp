@@ -16,13 +16,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How long opening waits for the lock of another program, in seconds. The server needs a moment to notice
-/// that a program was killed.
+/// How long opening waits for the lock of another program, in seconds. The server
+/// releases the lock of a killed program a moment later.
 constexpr int lock_time_out_s = 1;
 
 /// How long the server keeps a connection on which nothing is sent, in seconds; its default is 8 hours. The
 /// longest time that a server on every system accepts, some 24 days.
 constexpr int idle_time_out_s = 2'147'483;
+
+/// The longest statement, in characters, that inserts a row and returns its identity. The driver runs one of
+/// more than 32 KB without reading what it returns, and the connection cannot be used any more.
+constexpr qsizetype longest_returning = 32'000;
 
 /// The tables have names in small letters if the server ignores case.
 constexpr QStringView case_setting = u"select @@lower_case_table_names";
@@ -102,7 +106,7 @@ bool mariadb_engine::holds_rows() const
 
 void mariadb_engine::check_writable() const
 {
-    // An account that may only read opens the source without an error. This changes nothing.
+    // Opening a source with an account that may only read succeeds. This statement changes nothing.
     run(u"update settings set language = language"_s);
 }
 
@@ -149,6 +153,10 @@ void mariadb_engine::add_comparison(statement_with_values& statement, const QStr
 qint64 mariadb_engine::insert(const statement_with_values& statement, const QString& where)
 {
     const QString text = statement.text + u" RETURNING " + mariadb_tables::row_column();
+    if (text.size() > longest_returning) {
+        change(statement, where);
+        return first_value(u"select last_insert_id()"_s).toLongLong();
+    }
     QSqlQuery query(database());
     query.setForwardOnly(true);
     if (!query.exec(text) || !query.next())
