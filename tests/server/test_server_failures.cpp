@@ -28,7 +28,7 @@ constexpr int longest_ms = 60000;
 
 const QString hole_tabs = u"TabStrip1"_s;
 
-/// Prints a line and waits until the test answers with one.
+/// Prints a line and returns when a line can be read.
 void report_and_wait(const char* word)
 {
     std::printf("%s\n", word);
@@ -59,8 +59,8 @@ void leave_hole(hand& user, int hole)
     user.click_tab(hole_tabs, hole + 1);
 }
 
-/// The child process: leaves one hole. After the test has harmed the server it leaves another one, or selects
-/// the detailed page, which adds a row, and expects the message box of the failure.
+/// The child process: leaves one hole. When the test has made the server fail, it leaves another one, or
+/// selects the detailed page, which adds a row, and expects the message box of the failure.
 int fail_in_a_round(failure_kind kind)
 {
     play([] { run_verdane(*qApp); },
@@ -112,7 +112,12 @@ void restore_rights()
     administer(u"grant all on `verdbase%`.* to golfer@localhost"_s);
 }
 
-/// What happens to the server while a round is open, and how it is undone.
+void rename_table(const QString& from, const QString& to)
+{
+    administer(u"alter table %1.%2 rename to %1.%3"_s.arg(file_of(program_run::store_place()), from, to));
+}
+
+/// What happens to the server while a round is open, and how that is undone.
 struct harm {
     const char* name;
     failure_kind kind;
@@ -134,6 +139,12 @@ const std::vector<harm>& harms()
         {"stopped", failure_kind::source_lost, nothing, stop_server, start_with_little_room},
         {"killed", failure_kind::source_lost, nothing, [] { signal_server(SIGKILL); },
          start_with_little_room},
+        {"restarted", failure_kind::source_lost, nothing,
+         [] {
+             stop_server();
+             start_with_little_room();
+         },
+         nothing},
         {"frozen", failure_kind::source_lost, nothing, [] { signal_server(SIGSTOP); },
          [] { signal_server(SIGCONT); }},
         {"full", failure_kind::source_full, nothing,
@@ -142,6 +153,8 @@ const std::vector<harm>& harms()
              empty_server(file_of(program_run::store_place()), u"Stat_rounds"_s);
              start_with_little_room();
          }},
+        {"without a table", failure_kind::source_part, nothing, [] { rename_table(u"games2"_s, u"away"_s); },
+         [] { rename_table(u"away"_s, u"games2"_s); }},
         {"without the right to write", failure_kind::source_read_only, grant_rights_by_table,
          revoke_right_to_write, restore_rights},
     };

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMap>
@@ -15,6 +16,7 @@
 #include "base/language.h"
 #include "shell/start_up.h"
 #include "store/Connection1.h"
+#include "store/engines/odbc_link.h"
 #include "store/engines/registered_source.h"
 #include "tests/server/own_server.h"
 #include "tests/shell/main_windows.h"
@@ -28,8 +30,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The time in which the program reports that a server does not answer: 3 s, and what its start takes.
+/// The longest time until the program, under the sanitizers on a busy computer, reports that a server does
+/// not respond. Opening alone is limited by `longest_opening_ms`.
 constexpr int longest_ms = 12000;
+
+constexpr int opening_time_out_ms = 1000 * source_opening_time_out_s;
+constexpr int longest_opening_ms = 2 * opening_time_out_ms;
 
 const QString program_source = u"Verdbase"_s;
 
@@ -52,7 +58,8 @@ int start_and_leave()
          [](hand& user) {
              user.wait_until(u"a window"_s, [] { return QApplication::activeWindow() != nullptr; });
              if (user.is_open(u"failure_box"_s)) {
-                 std::printf("failure: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)));
+                 std::printf("failure: %s\ndetails: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)),
+                             qUtf8Printable(user.text(u"qt_msgbox_informativelabel"_s)));
                  std::fflush(stdout);
                  user.key(Qt::Key_Return);
                  return;
@@ -60,6 +67,17 @@ int start_and_leave()
              quit(user);
          });
     return status;
+}
+
+/// The child process: prints how long opening the store takes until it fails, in milliseconds.
+int time_refusal()
+{
+    QElapsedTimer time;
+    time.start();
+    Connection1 connection;
+    const auto kind = failure_of([&] { connection.Open(); });
+    std::printf("%lld", static_cast<long long>(time.elapsed()));
+    return kind == failure_kind::source_silent ? 0 : 1;
 }
 
 /// The child process: keeps the store open until it is killed.
@@ -75,10 +93,12 @@ int hold_store()
 struct ended {
     int status;
     QString said;
+    /// What it has written to its error output.
+    QString log;
 };
 
-/// Starts the program with those settings of its source.
-ended child_start(const source_settings& settings)
+/// Starts this program again, by default as Verdane, with those settings of its source.
+ended child_start(const source_settings& settings, const QString& task = u"--start"_s)
 {
     QTemporaryDir folder;
     QFile file(folder.filePath(u"odbc.ini"_s));
@@ -92,12 +112,12 @@ ended child_start(const source_settings& settings)
     environment.insert(u"ODBCINI"_s, file.fileName());
     QProcess child;
     child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    child.start(QCoreApplication::applicationFilePath(), {u"--start"_s});
+    child.start(QCoreApplication::applicationFilePath(), {task});
     if (!child.waitForFinished(120000))
         child.kill();
     return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
-            QString::fromUtf8(child.readAllStandardOutput())};
+            QString::fromUtf8(child.readAllStandardOutput()),
+            QString::fromUtf8(child.readAllStandardError())};
 }
 
 const auto nothing = [] {};
@@ -111,6 +131,25 @@ void restart_server(const QStringList& options = {})
 void alter(const QString& change)
 {
     administer(u"alter table %1.%2"_s.arg(file_of(program_run::store_place()), change));
+}
+
+/// A file that the ODBC driver of another engine opens: the first page of an empty database.
+QString file_of_other_engine()
+{
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath(u"other.mdb"_s);
+    QByteArray page("\0\1\0\0Standard Jet DB\0\1", 21);
+    page.append(4096 - page.size(), '\0');
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(page) != page.size())
+        qFatal("cannot write %s", qUtf8Printable(path));
+    return path;
+}
+
+QString driver_of_other_engine()
+{
+    const QString driver = setting_of_source(program_source, u"Driver"_s);
+    return QFileInfo(driver).dir().filePath(u"libmdbodbcW.so"_s);
 }
 
 void add_account_that_reads()
@@ -137,6 +176,11 @@ const std::vector<refusal>& refusals()
          nothing,
          nothing},
         {"driver not installed", failure_kind::source_driver, {{u"Driver"_s, u"None"_s}}, nothing, nothing},
+        {"another engine",
+         failure_kind::source_engine,
+         {{u"Driver"_s, driver_of_other_engine()}, {u"DATABASE"_s, file_of_other_engine()}},
+         nothing,
+         nothing},
         {"wrong password", failure_kind::source_password, {{u"PWD"_s, u"bunker"_s}}, nothing, nothing},
         {"unknown account", failure_kind::source_password, {{u"UID"_s, u"caddie"_s}}, nothing, nothing},
         {"database of others",
@@ -186,6 +230,26 @@ const std::vector<refusal>& refusals()
          {},
          [] { alter(u"games modify column CODEF text after missed_18"_s); },
          nothing},
+        {"column of texts instead of numbers",
+         failure_kind::source_type,
+         {},
+         [] { alter(u"games modify column missed_18 text"_s); },
+         nothing},
+        {"column of whole numbers instead of real ones",
+         failure_kind::source_type,
+         {},
+         [] { alter(u"hand modify column hnd int"_s); },
+         nothing},
+        {"column of dates instead of texts",
+         failure_kind::source_type,
+         {},
+         [] { alter(u"cost modify column date datetime"_s); },
+         nothing},
+        {"table without transactions",
+         failure_kind::source_storage,
+         {},
+         [] { alter(u"games2 engine = MyISAM"_s); },
+         nothing},
     };
     return all;
 }
@@ -222,9 +286,24 @@ private Q_SLOTS:
         QVERIFY2(child.said.contains(words.french) && child.said.contains(words.english),
                  qPrintable(child.said));
         QCOMPARE(child.status, 1);
+        QVERIFY2(child.said.contains(u"\ndetails: ") && !child.said.endsWith(u"details: \n"),
+                 qPrintable(child.said));
+        const QString password = settings[u"PWD"_s];
+        QVERIFY2(!child.said.contains(password) && !child.log.contains(password), qPrintable(child.log));
         QVERIFY2(took < longest_ms, qPrintable(QString::number(took)));
         QCOMPARE(run.store().number(u"select count(*) from games"_s), 1);
         QVERIFY(!QFile::exists(Connection1::default_path()));
+    }
+
+    void opening_a_source_on_a_server_that_does_not_respond_ends_after_its_time_out()
+    {
+        const program_run run(2);
+        signal_server(SIGSTOP);
+        const ended child = child_start(good_settings(), u"--time"_s);
+        signal_server(SIGCONT);
+        QCOMPARE(child.status, 0);
+        const int took = child.said.toInt();
+        QVERIFY2(took > opening_time_out_ms / 2 && took < longest_opening_ms, qPrintable(child.said));
     }
 
     void a_usable_source_is_opened()
@@ -269,6 +348,8 @@ int main(int argc, char** argv)
     const QString way = application.arguments().value(1);
     if (way == u"--start")
         return start_and_leave();
+    if (way == u"--time")
+        return time_refusal();
     if (way == u"--hold")
         return hold_store();
     test_server_refusals test;

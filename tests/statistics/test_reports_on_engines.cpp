@@ -22,6 +22,7 @@
 #include "tests/reports/report_tools.h"
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
 #include "tests/support/recording_frame.h"
 
 using namespace verdane;
@@ -113,6 +114,15 @@ private:
     passed_rows season_;
 };
 
+/// Moves the costs of every second round after the others: the order in which they were entered is not that
+/// of their dates.
+void enter_costs_out_of_order(const store_location& file)
+{
+    reader(file).write(QStringList{u"create table moved as select * from cost where rowid % 2 = 0"_s,
+                                   u"delete from cost where rowid % 2 = 0"_s,
+                                   u"insert into cost select * from moved"_s, u"drop table moved"_s});
+}
+
 void copy(const store_location& from, const store_location& to)
 {
     Connection1 source;
@@ -139,6 +149,7 @@ private Q_SLOTS:
         file_ = store_location::file(folder_.filePath(u"file/Verdbase.db"_s));
         create_diary(file_, rounds, true);
         clear_sixth_putts(file_);
+        enter_costs_out_of_order(file_);
         other_ = new_store_place(other_folder_.path());
         copy(file_, other_);
     }
