@@ -32,9 +32,30 @@ public:
 
     /// Opens a store, creates its tables if there are none, and takes the lock that excludes a second
     /// program. A file with only some of the tables is opened, too; a recordset on a missing table then fails
-    /// with `missing_table`. Fails with `store_locked`, `store_read_only`, `store_damaged`, `store_full` or
-    /// `store_unreachable`, and with `misuse` if the connection is open. After a failure the store is
-    /// unchanged.
+    /// with `missing_table`. After a failure the store is unchanged. Fails with
+    /// - `misuse`: the connection is open;
+    /// - `store_locked`: another program uses the store;
+    /// - `store_read_only`, `store_damaged`, `store_full`, `store_unreachable`: the file, its folder or its
+    ///   lock file cannot be written or opened, or the file is damaged or of another kind; also the file of
+    ///   a source of SQLite.
+    ///
+    /// A source fails while it is opened with
+    /// - `source_unknown`: no source of that name is registered for the user or the computer;
+    /// - `source_driver`: Qt's ODBC plug-in is missing, or the driver of the source cannot be loaded;
+    /// - `source_password`: the server refuses the account, its password or this computer;
+    /// - `source_database`: the source names no database or file, or a database that the account cannot use;
+    /// - `source_stopped`: no server accepts the connection, or the server runs no query;
+    /// - `source_silent`: the server accepts the connection and does not respond within 3 seconds;
+    /// - `source_engine`: the source belongs to an engine other than MariaDB from 10.5 and SQLite.
+    ///
+    /// An opened source fails, before anything is written, with
+    /// - `source_case`: the server distinguishes the case of table names;
+    /// - `source_table`: some tables are missing, and the others are not those of an interrupted creation;
+    /// - `source_column`: a column is missing, has another name or is in another place;
+    /// - `source_type`: a column has a type that changes or refuses the values of the program;
+    /// - `source_storage`: a table has a storage engine without transactions;
+    /// - `source_read_only`: the account, or every account, may only read;
+    /// - `source_lost`: the connection ended meanwhile.
     void Open(const store_location& store = default_store(),
               soundness_check check = soundness_check::while_opening);
     /// Opens the file at `path`.
@@ -63,7 +84,14 @@ public:
 
     /// Runs a statement without parameters and commits it. Recordsets that are open keep the rows they
     /// have read until their next `Requery`. Fails with the kind that fits the engine's error; its details
-    /// contain the statement.
+    /// contain the statement. Every statement on a server, also one of a recordset, can fail with
+    /// - `source_lost`: the server was stopped or restarted, or did not respond within 30 seconds; no later
+    ///   statement succeeds, because the connection is never opened again;
+    /// - `store_locked`: another connection has locked the table or the row, and did not release it in time;
+    /// - `source_read_only`: the account may not write any more;
+    /// - `source_full`: the disk of the server, or the space of its tables, is full;
+    /// - `source_value`: a text is too long or a number too large for its column;
+    /// - `source_part`: the table or the column does not exist.
     void Execute(const QString& statement);
 
     /// Statements that add the column that identifies a row to the tables of the store. Empty unless someone

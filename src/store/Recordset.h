@@ -21,14 +21,11 @@ enum class row_reading {
     /// By `Open`.
     at_once,
     /// All of them by the first function that needs one. For a whole table that is opened although its rows
-    /// may not
-    /// be needed. An error in the statement is a failure of that function.
+    /// may not be needed. An error in the statement is a failure of that function.
     when_needed,
     /// One by one, by `MoveNext`; only the current row is in memory. For a statement over all rounds. The
-    /// rows are
-    /// read-only, and all that needs other rows (any other move, counting, finding, `bof`, `empty`,
-    /// `Requery`) fails
-    /// with `misuse`.
+    /// rows are read-only, and all that needs other rows (any other move, counting, finding, `bof`, `empty`,
+    /// `Requery`) fails with `misuse`.
     one_by_one
 };
 
@@ -71,8 +68,8 @@ public:
     void set_Source(const QString& statement);
 
     /// Reads the rows. The first one is then current; without rows the recordset is at `eof()`. Fails with
-    /// `misuse` if the recordset is open, and with `missing_table` if the store lacks the table; with
-    /// `when_needed` the latter is left to the first function that needs a row.
+    /// `misuse` if the recordset is open, and with `missing_table` (on a server `source_part`) if the store
+    /// lacks the table; with `when_needed` the latter is left to the first function that needs a row.
     void Open(row_reading reading = row_reading::at_once);
     /// The same, for a table of which a few columns of every row are needed, and the others of a few rows. A
     /// row that was removed from the store before its other columns were read fails with `misuse` then. Reads

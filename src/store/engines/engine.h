@@ -36,7 +36,7 @@ struct commit_statements {
 };
 
 /// All that differs between the engines a store can be on. One object for each open connection; `Connection1`
-/// owns it. Nothing outside this library knows which engine is open.
+/// owns it. Nothing outside this library depends on which engine is open.
 class store_engine {
 public:
     /// `name` is Qt's name of the connection, `where` what is opened.
@@ -84,8 +84,8 @@ public:
     /// Runs a statement that selects rows. Fails like `change`; so do the functions of the result.
     virtual std::unique_ptr<result_rows> select(const QString& statement, const QString& where) const;
 
-    /// Runs a statement that changes or deletes rows, and returns how many rows it found. Fails with the kind
-    /// that fits the engine's error; its details contain `where` and the statement.
+    /// Runs a statement that changes or deletes rows, and returns the number of rows that matched. Fails with
+    /// the kind that fits the engine's error; its details contain `where` and the statement.
     virtual int change(const statement_with_values& statement, const QString& where) = 0;
 
     /// Runs a statement that inserts one row, and returns the value of its identity column. Fails like
@@ -126,8 +126,7 @@ protected:
 };
 
 /// The engine of a store, which is then to be opened. Fails like `engine_of_source` if the store is a source.
-/// `waiting` is how its statements wait for the lock of another program;
-/// it must exist as long as the engine.
+/// `waiting` is how its statements wait for the lock of another program; it must exist as long as the engine.
 std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,
                                           lock_wait& waiting);
 

@@ -10,7 +10,7 @@ namespace verdane {
 /// Of an error while the connection is opened. Any unknown one means that no server accepts it.
 failure_kind kind_of_mariadb_opening(int code);
 
-/// Of an error of the first query. Nothing if the server has run it and does not know its function.
+/// Of an error of the first query. No value if the server has run it and has no such function.
 std::optional<failure_kind> kind_of_unusable_server(int code, const QString& text);
 
 /// Of an error of a statement. `text` is empty after the connection was lost.

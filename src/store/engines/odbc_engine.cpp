@@ -41,7 +41,7 @@ struct value_or_error {
     throw run_time_failure(kind, details);
 }
 
-/// The version of the server; empty if the engine does not know the function.
+/// The version of the server; empty if the engine has no such function.
 QString version_of_server(const QString& connection, const QString& source)
 {
     const value_or_error version(connection, u"select version()"_s);

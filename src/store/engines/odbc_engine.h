@@ -6,8 +6,8 @@
 namespace verdane {
 
 /// What the engines of registered data sources share: the link through Qt's ODBC plug-in, and values as
-/// literals, because drivers do not agree about bound values. Statements contain nothing but ASCII: one of
-/// the drivers has no functions for other texts.
+/// literals, because bound values have different results with different drivers. Statements contain only
+/// ASCII: one of the drivers has no functions for other texts.
 class odbc_engine : public store_engine {
 public:
     using store_engine::store_engine;
@@ -32,7 +32,7 @@ protected:
 enum class source_kind { mariadb, sqlite, unsupported };
 
 /// Which engine a source belongs to. `server` is the value of `version()`, `sqlite` that of
-/// `sqlite_version()`; empty if the source does not know the function. MariaDB before 10.5 is unsupported.
+/// `sqlite_version()`; empty if the source has no such function. MariaDB before 10.5 is unsupported.
 source_kind kind_of_source(const QString& server, const QString& sqlite);
 
 /// Opens a registered source and returns the engine for it, which is then still to be opened itself. Fails

@@ -18,7 +18,7 @@ failure_kind kind_of_opening(const QSqlError& error)
 {
     switch (native_code(error)) {
     case 0:
-        // The manager found the source and could not use its driver.
+        // An error of the driver manager: the source is registered, and its driver cannot be loaded.
         return failure_kind::source_driver;
     case cannot_open_file:
         return failure_kind::store_unreachable;
@@ -27,11 +27,12 @@ failure_kind kind_of_opening(const QSqlError& error)
     }
 }
 
-/// Settings of the connection, which override those of the source. A driver ignores what it does not know.
+/// Settings of the connection, which override those of the source. Settings unknown to a driver have no
+/// effect.
 QString settings_of_link()
 {
-    // OPTION=2: a row that an update found counts, even if no value changed. BigInt: the driver of SQLite
-    // would cut whole numbers to 32 bits.
+    // OPTION=2: an update counts the rows that match, even if no value changes. BigInt: without it, the
+    // driver of SQLite cuts whole numbers to 32 bits.
     return u";OPTION=2;BigInt=1;AUTO_RECONNECT=0;CHARSET=utf8mb4"
            ";CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s.arg(source_opening_time_out_s)
                .arg(source_time_out_s);

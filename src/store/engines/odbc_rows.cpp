@@ -43,7 +43,7 @@ QString from_wide(const SQLWCHAR* text, qsizetype characters)
     return QString::fromUtf16(reinterpret_cast<const char16_t*>(text), characters);
 }
 
-/// The last error of a statement, with the text and the number that the driver gives it.
+/// The last error of a statement, with the text and the number from the driver.
 QSqlError error_of(SQLHANDLE statement)
 {
     std::array<SQLWCHAR, 6> state{};

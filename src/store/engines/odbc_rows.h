@@ -12,12 +12,12 @@ namespace verdane {
 
 /// In which form a driver returns the characters of a text unchanged, as UTF-8.
 enum class text_form {
-    characters,  ///< as characters (SQL_C_CHAR); as bytes, SQLite's driver would decode the text `X'41'`
-    bytes        ///< as bytes (SQL_C_BINARY); as characters, MariaDB's driver would use the locale
+    characters,  ///< as characters (SQL_C_CHAR); as bytes, SQLite's driver decodes the text `X'41'`
+    bytes        ///< as bytes (SQL_C_BINARY); as characters, MariaDB's driver converts them by the locale
 };
 
-/// The rows of a statement on an ODBC connection, read into bound columns. The driver of the toolkit asks
-/// for each value separately, which takes ten to thirty times as long.
+/// The rows of a statement on an ODBC connection, read into bound columns. Qt's plug-in reads each value by a
+/// call of its own, which takes ten to thirty times as long.
 class odbc_rows : public result_rows {
 public:
     /// Runs the statement on an open connection of the driver `QODBC`, which must exist as long as the rows.
