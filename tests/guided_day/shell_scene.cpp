@@ -1,3 +1,9 @@
+#include <QFileInfo>
+#include <QUrl>
+
+#include <memory>
+
+#include "controls/guide.h"
 #include "controls/main_frame.h"
 #include "tests/guided_day/day.h"
 
@@ -22,9 +28,27 @@ void change_language(visit& now)
     });
 }
 
+namespace {
+
+/// Presses F1 and waits until the program opens a page that exists. No browser is started.
+void open_guide_by_key(visit& now)
+{
+    const auto opened = std::make_shared<QUrl>();
+    guide().open = [opened](const QUrl& page) {
+        *opened = page;
+        return true;
+    };
+    now.user.key(Qt::Key_F1);
+    now.user.wait_until(u"the page of the guide"_s,
+                        [&] { return QFileInfo(opened->toLocalFile()).isFile(); });
+}
+
+}  // namespace
+
 void show_main_and_about_window(day& today)
 {
     today.pictures.save_picture(today.user, u"MainForm"_s, today.twin(u"main"_s));
+    open_guide_by_key(today);
     today.user.menu(u"maprop"_s);
     today.save_picture(u"f_about"_s, u"f_about"_s);
     today.user.click(u"cmdOK"_s);
