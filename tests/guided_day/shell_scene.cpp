@@ -1,5 +1,6 @@
 #include <QFileInfo>
 #include <QUrl>
+#include <QWidget>
 
 #include <memory>
 
@@ -38,6 +39,8 @@ void open_guide_by_key(visit& now)
         *opened = page;
         return true;
     };
+    // On a screen without a window manager, nothing else gives the window the focus.
+    now.user.look([] { main_frame()->frame_widget()->activateWindow(); });
     now.user.key(Qt::Key_F1);
     now.user.wait_until(u"the page of the guide"_s,
                         [&] { return QFileInfo(opened->toLocalFile()).isFile(); });
