@@ -113,19 +113,20 @@ void insert_fixed_rows(store_engine& engine, const table& table)
 
 /// No index is unique: the program itself checks that a key is used once, and the rows of a new round have no
 /// key yet.
-QStringList index_statements()
+std::vector<index_creation> all_indexes()
 {
-    QStringList statements;
+    std::vector<index_creation> indexes;
     for (const table& table : schema()) {
         if (table.index_name.isEmpty())
             continue;
         QStringList columns;
         for (const QString& column : table.indexed_columns)
             columns << in_back_quotes(column);
-        statements << u"CREATE INDEX " + in_back_quotes(table.index_name) + u" ON " +
-                          in_back_quotes(table.name) + u" (" + columns.join(u", "_s) + u')';
+        indexes.push_back({table.index_name, u"CREATE INDEX " + in_back_quotes(table.index_name) + u" ON " +
+                                                 in_back_quotes(table.name) + u" (" + columns.join(u", "_s) +
+                                                 u')'});
     }
-    return statements;
+    return indexes;
 }
 
 void create_tables_and_indexes(Connection1& connection)
@@ -140,8 +141,8 @@ void create_tables_and_indexes(Connection1& connection)
     }
     if (engine.declares_indexes())
         return;
-    for (const QString& statement : index_statements())
-        connection.Execute(statement);
+    for (const index_creation& index : all_indexes())
+        connection.Execute(index.statement);
 }
 
 }  // namespace
@@ -166,6 +167,30 @@ void create_tables(Connection1& connection)
         QSqlQuery(connection.database()).exec(statements.undo);
         throw;
     }
+}
+
+void renew_fixed_rows(Connection1& connection, const table& renewed)
+{
+    connection.Execute(u"DELETE FROM " + in_back_quotes(renewed.name));
+    insert_fixed_rows(connection.engine(), renewed);
+}
+
+std::vector<index_creation> missing_indexes(const Connection1& connection)
+{
+    const QString question =
+        connection.engine().declares_indexes()
+            ? u"select distinct index_name from information_schema.statistics where table_schema = database()"_s
+            : u"select name from sqlite_master where type = 'index'"_s;
+    QStringList present;
+    const auto rows = connection.engine().select(question, question);
+    while (rows->next())
+        present << rows->value(0).toString().toLower();
+    std::vector<index_creation> missing;
+    for (const index_creation& index : all_indexes()) {
+        if (!present.contains(index.name.toLower()))
+            missing.push_back(index);
+    }
+    return missing;
 }
 
 }  // namespace verdane

@@ -2,10 +2,13 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace verdane {
 
 class Connection1;
 struct column;
+struct table;
 
 /// The type of a column in the statement that creates its table.
 QString declared_type(const column& column);
@@ -13,5 +16,18 @@ QString declared_type(const column& column);
 /// Creates every table of `schema`, its fixed rows and the indexes in one transaction. After a failure none
 /// of them exists.
 void create_tables(Connection1& connection);
+
+/// Replaces the rows of a table of fixed size with those of a new store. The caller commits. Fails with the
+/// kind that fits the engine's error.
+void renew_fixed_rows(Connection1& connection, const table& renewed);
+
+/// A statement that creates an index of the store.
+struct index_creation {
+    QString name;
+    QString statement;
+};
+
+/// The indexes that a store lacks. Fails with the kind that fits the engine's error.
+std::vector<index_creation> missing_indexes(const Connection1& connection);
 
 }  // namespace verdane
