@@ -1,15 +1,10 @@
 #include "transfer/copy_command.h"
 
 #include <QFile>
-#include <QFileInfo>
-#include <QTextStream>
 
-#include <functional>
-
-#include "base/failure_words.h"
-#include "base/run_time_failure.h"
 #include "store/diary_copy.h"
 #include "store/store_files.h"
+#include "transfer/console.h"
 #include "transfer/store_argument.h"
 
 namespace verdane {
@@ -18,46 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void print(const QString& line)
-{
-    QTextStream(stdout) << line << Qt::endl;
-}
-
-exit_status refuse(exit_status status, const QString& line)
-{
-    QTextStream(stderr) << line << Qt::endl;
-    return status;
-}
-
 bool is_missing_file(const store_location& store)
 {
     return store.where == store_location::place::file && !QFile::exists(store.name);
 }
 
-/// Opening an empty file would write to it.
-bool is_empty_file(const store_location& store)
-{
-    return store.where == store_location::place::file && QFileInfo(store.name).size() == 0;
-}
-
-exit_status report(const run_time_failure& failure)
-{
-    const exit_status status =
-        failure.kind() == failure_kind::store_locked ? exit_status::in_use : exit_status::failed;
-    return refuse(status, failure_words(failure.kind()).in(is_french) + u'\n' + failure.details());
-}
-
-/// Runs a step; its failure is reported.
-exit_status reported(const std::function<exit_status()>& step)
-{
-    try {
-        return step();
-    } catch (const run_time_failure& failure) {
-        return report(failure);
-    }
-}
-
-exit_status refuse_without_diary(const store_location& from)
+exit_status refuse_without_source(const store_location& from)
 {
     return refuse(exit_status::no_diary,
                   in_language(u"Il n'y a pas de journal à copier : %1", u"There is no diary to copy: %1")
@@ -76,7 +37,7 @@ exit_status refuse_target(const store_location& to, const counted_table& used)
 exit_status copy_open_stores(Connection1& source, Connection1& target)
 {
     if (tables_in_use(source).empty())
-        return refuse_without_diary(source.location());
+        return refuse_without_source(source.location());
     const std::vector<counted_table> used = tables_in_use(target);
     if (!used.empty())
         return refuse_target(target.location(), used.front());
@@ -96,7 +57,7 @@ exit_status copy(const store_location& from, const store_location& to)
 {
     Connection1 source;
     if (!source.OpenExisting(from))
-        return refuse_without_diary(from);
+        return refuse_without_source(from);
     const bool is_new_file = is_missing_file(to);
     Connection1 target;
     // A failure to open removes nothing but what it has made: there may be the log of a file that was lost.
@@ -119,7 +80,7 @@ exit_status run_copy(const QStringList& arguments)
                       in_language(u"Il faut deux endroits différents : verdane-store copy DE VERS (--help)",
                                   u"Two different stores are needed: verdane-store copy FROM TO (--help)"));
     if (is_empty_file(*from))
-        return refuse_without_diary(*from);
+        return refuse_without_source(*from);
     return reported([&] { return copy(*from, *to); });
 }
 

@@ -1,53 +1,37 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QLocale>
-#include <QTextStream>
 
 #include "base/language.h"
 #include "base/oversized_writes.h"
 #include "base/version.h"
-#include "transfer/copy_command.h"
+#include "transfer/command.h"
+#include "transfer/console.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString description()
+void add_options(QCommandLineParser& parser)
 {
-    return in_language(
-        u"Travaille sur les journaux de Verdane.\n\n"
-        "Commandes :\n"
-        "  copy DE VERS    copie un journal, ligne par ligne, à un endroit vide, et compare les deux\n\n"
-        "DE et VERS :\n"
-        "  file            le fichier de Verdane\n"
-        "  file:CHEMIN     un autre fichier\n"
-        "  source          la source de données ODBC de Verdane, Verdbase\n"
-        "  source:NOM      une autre source de données\n\n"
-        "État de sortie : 0 copié et vérifié, 1 échec (la destination est comme avant), 2 ligne de commande\n"
-        "incorrecte, 3 destination non vide, 4 journal utilisé par un autre programme, 5 aucun journal à "
-        "copier.",
-        u"Works on the diaries of Verdane.\n\n"
-        "Commands:\n"
-        "  copy FROM TO    copies a diary, row by row, into an empty store, and compares both\n\n"
-        "FROM and TO:\n"
-        "  file            the file of Verdane\n"
-        "  file:PATH       another file\n"
-        "  source          the ODBC data source of Verdane, Verdbase\n"
-        "  source:NAME     another data source\n\n"
-        "Exit status: 0 copied and checked, 1 failure (the target is as before), 2 wrong command line,\n"
-        "3 target not empty, 4 diary in use by another program, 5 no diary to copy.");
+    for (const command& each : all_commands()) {
+        for (const command::option& option : each.options) {
+            if (!option.name.isEmpty())
+                parser.addOption({option.name.sliced(2).toString(), option.words.in(is_french)});
+        }
+    }
 }
 
-exit_status run_command(QStringList arguments)
+/// The command, its arguments, and the options that were given.
+QStringList given_arguments(const QCommandLineParser& parser)
 {
-    const QString command = arguments.isEmpty() ? QString() : arguments.takeFirst();
-    if (command == u"copy")
-        return run_copy(arguments);
-    QTextStream(stderr)
-        << in_language(u"Commande inconnue : %1 (--help)", u"Unknown command: %1 (--help)").arg(command)
-        << Qt::endl;
-    return exit_status::usage;
+    QStringList given = parser.positionalArguments();
+    QStringList options = parser.optionNames();
+    options.removeDuplicates();
+    for (const QString& option : options)
+        given << u"--" + option;
+    return given;
 }
 
 }  // namespace
@@ -61,18 +45,17 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(program_version());
     is_french = QLocale::system().language() == QLocale::French;
     QCommandLineParser parser;
-    parser.setApplicationDescription(description());
+    parser.setApplicationDescription(help_text());
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(u"command"_s, in_language(u"la commande", u"the command"), u"copy"_s);
-    parser.addPositionalArgument(u"arguments"_s, in_language(u"DE VERS", u"FROM TO"), u"FROM TO"_s);
-    if (!parser.parse(QCoreApplication::arguments())) {
-        QTextStream(stderr) << parser.errorText() << Qt::endl;
-        return static_cast<int>(exit_status::usage);
-    }
+    add_options(parser);
+    parser.addPositionalArgument(u"command"_s, in_language(u"la commande", u"the command"));
+    parser.addPositionalArgument(u"arguments"_s, in_language(u"ses arguments", u"its arguments"), u"..."_s);
+    if (!parser.parse(QCoreApplication::arguments()))
+        return static_cast<int>(refuse(exit_status::usage, parser.errorText()));
     if (parser.isSet(u"help"_s))
         parser.showHelp(0);
     if (parser.isSet(u"version"_s))
         parser.showVersion();
-    return static_cast<int>(run_command(parser.positionalArguments()));
+    return static_cast<int>(run_command(given_arguments(parser)));
 }

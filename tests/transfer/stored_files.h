@@ -8,7 +8,7 @@
 
 #include "tests/support/test_store.h"
 #include "tests/transfer/store_run.h"
-#include "transfer/copy_command.h"
+#include "transfer/exit_status.h"
 #include "transfer/store_argument.h"
 
 /// The stores that the tests of `verdane-store` work on.

@@ -137,17 +137,6 @@ private Q_SLOTS:
         QCOMPARE(store_run(arguments).run(), status(exit_status::usage));
     }
 
-    void help_names_the_stores_and_the_exit_statuses_in_both_languages()
-    {
-        store_run english({u"--help"_s});
-        QCOMPARE(english.run(), 0);
-        QVERIFY2(english.output().contains(u"3 target not empty"), qUtf8Printable(english.output()));
-        store_run french({u"--help"_s});
-        french.set_language(u"fr_CA.UTF-8"_s);
-        QCOMPARE(french.run(), 0);
-        QVERIFY2(french.output().contains(u"3 destination non vide"), qUtf8Printable(french.output()));
-    }
-
     void the_log_of_a_target_that_was_lost_is_kept()
     {
         const copied_folder folder;

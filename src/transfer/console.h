@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+#include "store/store_location.h"
+#include "transfer/exit_status.h"
+
+/// What the commands print.
+namespace verdane {
+
+/// A line on standard output.
+void print(const QString& line);
+
+/// A line on the standard error output. Returns the status.
+exit_status refuse(exit_status status, const QString& line);
+
+/// Refuses a command line that a command does not understand.
+exit_status refuse_usage();
+
+/// Refuses to work on a store without a diary.
+exit_status refuse_without_diary(const store_location& store);
+
+/// True for a file that does not exist or is empty. Opening it would write to it.
+bool is_empty_file(const store_location& store);
+
+/// Runs a step; its failure is reported.
+exit_status reported(const std::function<exit_status()>& step);
+
+}  // namespace verdane

@@ -1,0 +1,43 @@
+#include "transfer/kept_copy.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFileInfo>
+
+#include "store/Connection1.h"
+#include "store/diary_copy.h"
+#include "store/store_files.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+QString free_copy_path(const store_location& store, const QString& why)
+{
+    const bool is_file = store.where == store_location::place::file;
+    const QFileInfo file(is_file ? store.name : Connection1::default_path());
+    const QString name = is_file ? file.completeBaseName() : store.name;
+    const QString start = file.absolutePath() + u"/copies/" + name + u'-' +
+                          QDate::currentDate().toString(Qt::ISODate) + u'-' + why;
+    QString path = start + u".db";
+    for (int number = 2; QFile::exists(path); ++number)
+        path = start + u'-' + QString::number(number) + u".db";
+    return path;
+}
+
+QString keep_copy(Connection1& store, const QString& why)
+{
+    const QString path = free_copy_path(store.location(), why);
+    Connection1 copy;
+    copy.Open(path);
+    try {
+        copy_diary(store, copy, [](const counted_table&) {});
+    } catch (...) {
+        copy.Close();
+        remove_store_files(path);
+        throw;
+    }
+    return path;
+}
+
+}  // namespace verdane

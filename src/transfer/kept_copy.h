@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace verdane {
+
+class Connection1;
+
+struct store_location;
+
+/// A path that does not exist, for a copy of a store that is about to be changed:
+/// `copies/NAME-YYYY-MM-DD-WHY.db` in the folder of the file, or of the program's file for a source. A number
+/// follows if that file exists.
+QString free_copy_path(const store_location& store, const QString& why);
+
+/// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path. Fails
+/// like `copy_diary`; no file is left then.
+QString keep_copy(Connection1& store, const QString& why);
+
+}  // namespace verdane

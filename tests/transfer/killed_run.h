@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStringList>
+
+#include <vector>
+
+namespace verdane::testing {
+
+/// Runs `verdane-store` and counts its system calls that change a file: write, rename, remove, cut, link.
+int number_of_writes(const QStringList& arguments);
+
+/// Runs `verdane-store` and kills it immediately before such a call, counted from 1. If there are fewer, the
+/// program ends by itself.
+void kill_before_write(const QStringList& arguments, int number);
+
+/// Numbers of writes from 1 to `all`: the first twelve, the last twelve and some between.
+std::vector<int> some_writes(int all);
+
+}  // namespace verdane::testing

@@ -1,0 +1,316 @@
+#include <QDir>
+#include <QTest>
+
+#include "store/Connection1.h"
+#include "tests/support/engine_of_tests.h"
+#include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
+#include "tests/transfer/killed_run.h"
+#include "tests/transfer/stored_files.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int rounds = 2;
+
+/// A diary of two detailed rounds on the engine of the tests.
+struct checked_store {
+    checked_store() { create_diary(place.location(), rounds, true); }
+
+    QStringList arguments(const QStringList& options = {}) const
+    {
+        return QStringList{u"check"_s, argument_of(place)} + options;
+    }
+    QVariantList row(const QString& table) const
+    {
+        const auto rows =
+            store.rows(u"select * from "_s + table + u" where date = '" + key_in_diary(1) + u'\'');
+        const QVariantList values(rows.at(0).begin(), rows.at(0).end());
+        return values;
+    }
+    void lose(const QStringList& tables) const
+    {
+        for (const QString& table : tables)
+            store.write(u"delete from "_s + table + u" where date = '" + key_in_diary(1) + u'\'');
+    }
+
+    test_store place;
+    reader store{place.location()};
+};
+
+QString drop_index()
+{
+    const QString statement = u"drop index shots_by_hole"_s;
+    return engine_of_tests() == test_engine::mariadb ? statement + u" on Stat_rounds" : statement;
+}
+
+/// What is refused when a source is opened is found in a file.
+exit_status status_of_structure()
+{
+    return engine_of_tests() == test_engine::embedded ? exit_status::problems : exit_status::failed;
+}
+
+QStringList kept_copies(const QString& folder)
+{
+    const QDir copies(folder + u"/copies");
+    QStringList paths;
+    for (const QString& name : copies.entryList(QDir::Files))
+        paths << copies.filePath(name);
+    return paths;
+}
+
+}  // namespace
+
+/// `verdane-store check` as a child process.
+class test_check_command : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// The copies of a source are in the data folder of the user.
+    void initTestCase() { qputenv("XDG_DATA_HOME", data_.path().toUtf8()); }
+
+    void a_diary_without_problems_is_reported_with_its_size()
+    {
+        const checked_store checked;
+        store_run english(checked.arguments());
+        QCOMPARE(english.run(), status(exit_status::done));
+        const int shots = checked.store.number(u"select count(*) from Stat_rounds"_s);
+        QCOMPARE(english.output(), u"No problem: 2 rounds, %1 shots.\n"_s.arg(shots));
+        store_run french(checked.arguments());
+        french.set_language(u"fr_CA.UTF-8"_s);
+        QCOMPARE(french.run(), status(exit_status::done));
+        QCOMPARE(french.output(), u"Aucun problème : 2 rondes, %1 coups.\n"_s.arg(shots));
+    }
+
+    void a_full_diary_without_problems_is_checked()
+    {
+        const test_store place;
+        create_diary(place.location(), rounds_of_full_diary, true);
+        store_run run({u"check"_s, argument_of(place)});
+        QCOMPARE(run.run(), status(exit_status::done));
+        QVERIFY2(run.output().startsWith(u"No problem: 366 rounds, "), qUtf8Printable(run.output()));
+    }
+
+    void a_problem_is_found_and_repaired_if_no_choice_is_needed_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::addColumn<QString>("reported");
+        QTest::addColumn<bool>("repaired");
+        const auto row = [](const char* name, const QString& damage, const QString& reported, bool repaired) {
+            QTest::newRow(name) << damage << reported << repaired;
+        };
+        row("no situation", u"delete from games2"_s, u"every round has one row of games2 (2 : "_s, true);
+        row("no costs", u"delete from cost"_s, u"every round has one row of cost (2 : "_s, true);
+        row("situation of no round", u"insert into games2 (date) values ('20200101000000')"_s,
+            u"every row of games2 has its round (1 : 20200101000000)"_s, true);
+        row("costs of no round", u"insert into cost (date) values (null)"_s,
+            u"every row of cost has its round (1 : )"_s, true);
+        row("two situations", u"insert into games2 (date) values ('%1')"_s.arg(key_in_diary(1)),
+            u"no round has two rows of games2 (1 : "_s + key_in_diary(1), false);
+        row("two rounds of a key", u"insert into games (date) values ('%1')"_s.arg(key_in_diary(1)),
+            u"every key has one round (1 : "_s, false);
+        row("a key with a letter",
+            u"insert into games (date) values ('2020010100000x');"
+            "insert into games2 (date) values ('2020010100000x');"
+            "insert into cost (date) values ('2020010100000x')"_s,
+            u"every key has 14 digits (1 : 2020010100000x)"_s, false);
+        row("kind", u"update Stat_rounds set shot_type = 'x' where shot = 1"_s,
+            u"the kind in words is the kind in code (36 : "_s, true);
+        row("position", u"update Stat_rounds set fairval = 1, faireway = 'x' where shot = 1"_s,
+            u"the position in words is the position in code (36 : "_s, true);
+        row("position of a putt", u"update Stat_rounds set faireway = 'Left' where shot_type_value = 3"_s,
+            u"a putt without a code of its position has no word ("_s, true);
+        row("penalty", u"update Stat_rounds set penval = 3, addpen = 1, penality = 'x' where shot = 1"_s,
+            u"the penalty in words is the penalty in code (36 : "_s, true);
+        row("strokes of a penalty", u"update Stat_rounds set addpen = 7 where shot = 1"_s,
+            u"a penalty adds one stroke (36 : "_s, true);
+        row("unit", u"update Stat_rounds set unit = 'm' where shot = 1"_s,
+            u"units are words of one of the languages (36 : "_s, false);
+        row("distance", u"update Stat_rounds set after = -1 where shot = 1"_s,
+            u"no distance is below zero (36 : "_s, false);
+        row("hole", u"update Stat_rounds set hole = 19 where hole = 18"_s, u"every shot is on a hole ("_s,
+            false);
+        row("number of a shot", u"update Stat_rounds set shot = 1 where shot = 2"_s,
+            u"no two shots of a hole have one number (36 : "_s, false);
+        row("club", u"update Stat_rounds set stickval = 15 where shot = 1"_s,
+            u"codes of shots are in their sets (36 : "_s, false);
+        row("rows of a report table", u"delete from stats"_s, u"(1 : stats: 0 ≠ 34)"_s, true);
+        row("one row of settings", u"delete from settings"_s, u"(1 : settings: 0 ≠ 1)"_s, true);
+        row("two rows of names", u"insert into sticknames (club_1) values ('x')"_s,
+            u"(1 : sticknames: 2 ≠ 1)"_s, false);
+        row("index", drop_index(), u"an index is missing (1 : shots_by_hole)"_s, true);
+    }
+
+    void a_problem_is_found_and_repaired_if_no_choice_is_needed()
+    {
+        QFETCH(QString, damage);
+        QFETCH(QString, reported);
+        QFETCH(bool, repaired);
+        const checked_store checked;
+        checked.store.write(damage.split(u';'));
+        store_run found(checked.arguments());
+        QCOMPARE(found.run(), status(exit_status::problems));
+        QVERIFY2(found.output().contains(reported), qUtf8Printable(found.output()));
+        QVERIFY2(found.output().contains(u"\n    --repair repairs it\n") == repaired,
+                 qUtf8Printable(found.output()));
+        store_run repair(checked.arguments({u"--repair"_s}));
+        QCOMPARE(repair.run(), status(repaired ? exit_status::done : exit_status::problems));
+    }
+
+    void a_table_or_column_that_is_missing_is_not_repaired_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::newRow("table") << u"drop table hand"_s;
+        QTest::newRow("column") << u"alter table hand rename column hnd to other"_s;
+    }
+
+    void a_table_or_column_that_is_missing_is_not_repaired()
+    {
+        QFETCH(QString, damage);
+        const checked_store checked;
+        checked.store.write(damage);
+        store_run run(checked.arguments({u"--repair"_s}));
+        QCOMPARE(run.run(), status(status_of_structure()));
+        const QString printed = run.output() + run.errors();
+        QVERIFY2(printed.contains(u"hand"), qUtf8Printable(printed));
+    }
+
+    void a_round_is_made_of_shots_that_have_none_if_that_is_wanted()
+    {
+        const checked_store checked;
+        const QVariantList games = checked.row(u"games"_s);
+        const QVariantList games2 = checked.row(u"games2"_s);
+        checked.lose({u"games"_s});
+        store_run found(checked.arguments({u"--repair"_s}));
+        QCOMPARE(found.run(), status(exit_status::problems));
+        QVERIFY2(found.output().contains(u"--repair --make-rounds makes rounds of them"),
+                 qUtf8Printable(found.output()));
+        QCOMPARE(checked.store.number(u"select count(*) from games"_s), 1);
+        store_run made(checked.arguments({u"--repair"_s, u"--make-rounds"_s}));
+        QCOMPARE(made.run(), status(exit_status::done));
+        QVERIFY2(made.output().contains(u"Round made of its shots: " + key_in_diary(1)),
+                 qUtf8Printable(made.output()));
+        QCOMPARE(checked.row(u"games"_s), games);
+        QCOMPARE(checked.row(u"games2"_s), games2);
+    }
+
+    void the_situation_of_a_round_is_made_of_its_shots_too()
+    {
+        const checked_store checked;
+        QVariantList games2 = checked.row(u"games2"_s);
+        checked.lose({u"games"_s, u"games2"_s, u"cost"_s});
+        QCOMPARE(store_run(checked.arguments({u"--make-rounds"_s, u"--repair"_s})).run(),
+                 status(exit_status::done));
+        QVariantList made = checked.row(u"games2"_s);
+        // Weather, partners and temperature are lost.
+        for (const qsizetype column : {1, 2, 201})
+            made[column] = games2[column] = 0;
+        QCOMPARE(made, games2);
+        QCOMPARE(checked.store.number(u"select count(*) from cost"_s), rounds);
+    }
+
+    void no_round_is_made_of_shots_whose_course_is_not_known()
+    {
+        const checked_store checked;
+        checked.lose({u"games"_s});
+        checked.store.write(u"update Stat_rounds set verges = 1 where hole = 7"_s);
+        store_run run(checked.arguments({u"--repair"_s, u"--make-rounds"_s}));
+        QCOMPARE(run.run(), status(exit_status::problems));
+        QVERIFY2(run.output().contains(u"0 courses have these pars and lengths"),
+                 qUtf8Printable(run.output()));
+        QCOMPARE(checked.store.number(u"select count(*) from games"_s), 1);
+    }
+
+    void a_copy_with_the_old_rows_is_made_before_a_repair()
+    {
+        const copied_folder folder;
+        reader(folder.diary).write(u"update Stat_rounds set addpen = 7"_s);
+        const QStringList before = all_rows(folder.diary);
+        const QStringList arguments{u"check"_s, file_argument(folder.diary), u"--repair"_s};
+        QCOMPARE(store_run(arguments).run(), status(exit_status::done));
+        const QStringList copies = kept_copies(folder.folder.path());
+        QCOMPARE(copies.size(), 1);
+        QVERIFY2(copies[0].endsWith(u"-repair.db"), qUtf8Printable(copies[0]));
+        QCOMPARE(all_rows(copies[0]), before);
+        QCOMPARE(store_run(arguments).run(), status(exit_status::done));
+        QCOMPARE(kept_copies(folder.folder.path()), copies);
+    }
+
+    void a_full_disk_changes_nothing_data()
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : {0, 50'000, 300'000})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
+    void a_full_disk_changes_nothing()
+    {
+        QFETCH(int, bytes);
+        const copied_folder folder;
+        reader(folder.diary).write(u"update Stat_rounds set addpen = 7"_s);
+        const QStringList before = all_rows(folder.diary);
+        store_run run({u"check"_s, file_argument(folder.diary), u"--repair"_s});
+        run.limit_files(static_cast<unsigned long>(bytes));
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(kept_copies(folder.folder.path()), QStringList());
+    }
+
+    void a_repair_that_is_killed_changes_all_or_nothing_and_can_be_repeated()
+    {
+        const QStringList damage{u"update Stat_rounds set addpen = 7"_s, u"delete from cost"_s};
+        const copied_folder whole;
+        reader(whole.diary).write(damage);
+        const auto arguments = [](const copied_folder& folder) {
+            return QStringList{u"check"_s, file_argument(folder.diary), u"--repair"_s};
+        };
+        for (const int number : some_writes(number_of_writes(arguments(whole)))) {
+            const copied_folder folder;
+            reader(folder.diary).write(damage);
+            kill_before_write(arguments(folder), number);
+            const reader store(folder.diary);
+            const bool costs = store.number(u"select count(*) from cost"_s) > 0;
+            const bool strokes = store.number(u"select count(*) from Stat_rounds where addpen = 7"_s) == 0;
+            QVERIFY2(costs == strokes, qPrintable(QString::number(number)));
+            QCOMPARE(store_run(arguments(folder)).run(), status(exit_status::done));
+        }
+    }
+
+    void a_diary_in_use_is_refused()
+    {
+        const checked_store checked;
+        Connection1 user;
+        user.Open(checked.place.location());
+        QCOMPARE(store_run(checked.arguments({u"--repair"_s})).run(), status(exit_status::in_use));
+    }
+
+    void a_store_without_tables_is_no_diary()
+    {
+        const test_store place;
+        QCOMPARE(store_run({u"check"_s, argument_of(place)}).run(), status(exit_status::no_diary));
+    }
+
+    void a_wrong_command_line_is_refused_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("two stores") << QStringList{u"file:a"_s, u"file:b"_s};
+        QTest::newRow("no store") << QStringList{u"--repair"_s};
+        QTest::newRow("rounds without repair") << QStringList{u"file:a"_s, u"--make-rounds"_s};
+        QTest::newRow("unknown option") << QStringList{u"file:a"_s, u"--mend"_s};
+    }
+
+    void a_wrong_command_line_is_refused()
+    {
+        QFETCH(QStringList, arguments);
+        QCOMPARE(store_run(QStringList{u"check"_s} + arguments).run(), status(exit_status::usage));
+    }
+
+private:
+    QTemporaryDir data_;
+};
+
+QTEST_GUILESS_MAIN(test_check_command)
+#include "test_check_command.moc"
