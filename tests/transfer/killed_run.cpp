@@ -109,8 +109,8 @@ void kill_before_write(const QStringList& arguments, int number)
 
 std::vector<int> some_writes(int all)
 {
-    constexpr int ends = 12;
-    constexpr int between = 8;
+    constexpr int ends = 8;
+    constexpr int between = 4;
     std::vector<int> numbers;
     const int step = std::max(1, (all - 2 * ends) / between);
     for (int number = 1; number <= all; ++number) {

@@ -13,7 +13,7 @@ int number_of_writes(const QStringList& arguments);
 /// program ends by itself.
 void kill_before_write(const QStringList& arguments, int number);
 
-/// Numbers of writes from 1 to `all`: the first twelve, the last twelve and some between.
+/// Numbers of writes from 1 to `all`: the first eight, the last eight and some between.
 std::vector<int> some_writes(int all);
 
 }  // namespace verdane::testing
