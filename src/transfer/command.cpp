@@ -5,6 +5,7 @@
 #include "transfer/check_command.h"
 #include "transfer/console.h"
 #include "transfer/copy_command.h"
+#include "transfer/restore_command.h"
 
 namespace verdane {
 
@@ -30,6 +31,12 @@ constexpr std::array commands{
              u"copies a diary, row by row, into an empty store, and compares both"},
             {},
             run_copy},
+    command{u"restore",
+            {u"COPIE JOURNAL", u"COPY STORE"},
+            {u"remet une copie à la place d'un journal, dont le fichier est gardé",
+             u"puts a copy in the place of a diary, whose file is kept"},
+            {},
+            run_restore},
 };
 
 constexpr std::array<std::pair<QStringView, text_pair>, 4> stores{{

@@ -1,0 +1,138 @@
+#include "transfer/restore_command.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+
+#include "base/run_time_failure.h"
+#include "store/Connection1.h"
+#include "store/diary_copy.h"
+#include "store/store_files.h"
+#include "store/store_lock.h"
+#include "transfer/console.h"
+#include "transfer/kept_copy.h"
+#include "transfer/store_argument.h"
+#include "transfer/whole_files.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString new_ending = u".restored"_s;
+
+/// Writes what `copy` has into a new file next to the place. False if `copy` has no tables.
+bool write_new_file(const store_location& copy, const QString& path)
+{
+    Connection1 from;
+    if (!from.OpenExisting(copy))
+        return false;
+    Connection1 to;
+    to.Open(path);
+    try {
+        copy_diary(from, to, [](const counted_table&) {});
+    } catch (...) {
+        to.Close();
+        remove_store_files(path);
+        throw;
+    }
+    return true;
+}
+
+/// Opening and closing a store copies its write-ahead log into its file. A damaged file is not changed.
+void finish_log(const store_location& place)
+{
+    try {
+        Connection1().OpenExisting(place);
+    } catch (const run_time_failure& failure) {
+        if (failure.kind() == failure_kind::store_locked)
+            throw;
+    }
+}
+
+/// Copies the file of a place, and the log if one is left, to the folder of the copies. Empty if there is no
+/// file.
+QString keep_file(const store_location& place)
+{
+    if (!QFile::exists(place.name))
+        return {};
+    const QString kept = free_copy_path(place, u"replaced"_s);
+    const QString log = place.name + u"-wal";
+    if (QFileInfo(log).size() > 0)
+        copy_whole_file(log, kept + u"-wal");
+    copy_whole_file(place.name, kept);
+    return kept;
+}
+
+/// The log is removed first, because the engine would apply it to the new file.
+void put_in_place(const QString& file, const QString& path)
+{
+    QFile::remove(path + u"-wal");
+    QFile::remove(path + u"-shm");
+    replace_file(file, path);
+}
+
+/// A link to a file stays a link.
+store_location target_of(const store_location& place)
+{
+    const QString target = QFileInfo(place.name).canonicalFilePath();
+    return target.isEmpty() ? place : store_location::file(target);
+}
+
+exit_status restore(const store_location& copy, const store_location& place)
+{
+    if (QFileInfo(place.name).size() > 0)
+        finish_log(place);
+    if (!QDir().mkpath(QFileInfo(place.name).absolutePath()))
+        throw run_time_failure(failure_kind::store_read_only, place.name);
+    const auto lock = take_store_lock(place.name);
+    const store_location target = target_of(place);
+    const QString file = target.name + new_ending;
+    remove_store_files(file);
+    if (!write_new_file(copy, file))
+        return refuse_without_diary(copy);
+    QString kept;
+    try {
+        kept = keep_file(target);
+    } catch (...) {
+        remove_store_files(file);
+        throw;
+    }
+    put_in_place(file, target.name);
+    print(in_language(u"Copie remise en place : %1", u"Copy put in place: %1").arg(argument_of_store(place)));
+    if (!kept.isEmpty())
+        print(in_language(u"L'ancien fichier est gardé : %1", u"The old file is kept: %1").arg(kept));
+    return exit_status::done;
+}
+
+bool is_file(const std::optional<store_location>& store)
+{
+    return store && store->where == store_location::place::file;
+}
+
+bool are_one_file(const QString& left, const QString& right)
+{
+    return left == right || (QFile::exists(left) &&
+                             QFileInfo(left).canonicalFilePath() == QFileInfo(right).canonicalFilePath());
+}
+
+}  // namespace
+
+exit_status run_restore(const QStringList& arguments)
+{
+    const auto copy = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
+    const auto place = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
+    if (!is_file(copy) || !is_file(place) || are_one_file(copy->name, place->name))
+        return refuse(
+            exit_status::usage,
+            in_language(u"Il faut deux fichiers différents : verdane-store restore COPIE JOURNAL. Pour "
+                        u"une source, utilisez copy vers une source vide.",
+                        u"Two different files are needed: verdane-store restore COPY STORE. For a "
+                        u"source, use copy to an empty source."));
+    if (is_empty_file(*copy))
+        return refuse_without_diary(*copy);
+    return reported([&] { return restore(*copy, *place); });
+}
+
+}  // namespace verdane

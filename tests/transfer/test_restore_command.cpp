@@ -1,0 +1,233 @@
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#include "store/Connection1.h"
+#include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
+#include "tests/transfer/killed_run.h"
+#include "tests/transfer/stored_files.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray content_of(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write_file(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+/// A folder with a diary, and with a copy that has fewer rounds.
+struct restored_folder : copied_folder {
+    restored_folder()
+    {
+        if (!QFile::copy(diary, copy_path))
+            qFatal("cannot write %s", qUtf8Printable(copy_path));
+        reader(copy_path).write(u"delete from games where date > '%1'"_s.arg(key_in_diary(3)));
+    }
+
+    QStringList arguments() const { return {u"restore"_s, file_argument(copy_path), file_argument(diary)}; }
+    std::optional<int> restore() const { return store_run(arguments()).run(); }
+
+    QStringList kept() const
+    {
+        const QDir copies(folder.filePath(u"copies"_s));
+        return copies.entryList({u"*-replaced*"_s}, QDir::Files);
+    }
+    QString kept_path() const { return folder.filePath(u"copies/"_s + kept().value(0)); }
+
+    /// The files next to the diary, without those of the engine that have no rows.
+    QStringList files() const
+    {
+        QStringList names;
+        for (const QFileInfo& file : QDir(folder.path()).entryInfoList(QDir::Files)) {
+            const QString name = file.fileName();
+            if (!name.endsWith(u".lock") && !name.endsWith(u"-shm") && file.size() > 0)
+                names << name;
+        }
+        return names;
+    }
+
+    QString copy_path = folder.filePath(u"copy.db"_s);
+};
+
+}  // namespace
+
+/// `verdane-store restore` as a child process.
+class test_restore_command : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void the_copy_is_put_in_place_and_the_old_file_is_kept()
+    {
+        const restored_folder folder;
+        const QStringList old = all_rows(folder.diary);
+        const QStringList copied = all_rows(folder.copy_path);
+        store_run run(folder.arguments());
+        QCOMPARE(run.run(), status(exit_status::done));
+        QCOMPARE(all_rows(folder.diary), copied);
+        QCOMPARE(all_rows(folder.copy_path), copied);
+        QCOMPARE(folder.kept().size(), 1);
+        QCOMPARE(all_rows(folder.kept_path()), old);
+        QVERIFY2(run.output().contains(u"The old file is kept: " + folder.kept_path()),
+                 qUtf8Printable(run.output()));
+        QCOMPARE(folder.files(), (QStringList{u"copy.db"_s, u"Verdbase.db"_s}));
+        QCOMPARE(folder.restore(), status(exit_status::done));
+        QCOMPARE(folder.kept().size(), 2);
+    }
+
+    void a_copy_is_put_where_no_file_is()
+    {
+        const restored_folder folder;
+        const QString place = folder.folder.filePath(u"L'été \"%1\"/new/Verdbase.db"_s);
+        store_run run({u"restore"_s, file_argument(folder.copy_path), file_argument(place)});
+        QCOMPARE(run.run(), status(exit_status::done));
+        QCOMPARE(all_rows(place), all_rows(folder.copy_path));
+        QVERIFY2(!run.output().contains(u"kept"), qUtf8Printable(run.output()));
+    }
+
+    void a_full_diary_is_restored()
+    {
+        const QTemporaryDir folder;
+        const QString copy = folder.filePath(u"copy.db"_s);
+        const QString place = folder.filePath(u"Verdbase.db"_s);
+        create_diary(copy, rounds_of_full_diary, true);
+        QCOMPARE(store_run({u"restore"_s, file_argument(copy), file_argument(place)}).run(),
+                 status(exit_status::done));
+        QCOMPARE(all_rows(place), all_rows(copy));
+    }
+
+    void a_damaged_file_is_kept_as_it_is_with_its_log()
+    {
+        const restored_folder folder;
+        write_file(folder.diary, "no diary");
+        write_file(folder.diary + u"-wal", "its log");
+        QCOMPARE(folder.restore(), status(exit_status::done));
+        QCOMPARE(all_rows(folder.diary), all_rows(folder.copy_path));
+        QVERIFY(!QFile::exists(folder.diary + u"-wal"));
+        QCOMPARE(content_of(folder.kept_path()), QByteArray("no diary"));
+        QCOMPARE(content_of(folder.kept_path() + u"-wal"), QByteArray("its log"));
+    }
+
+    void what_is_only_in_the_log_of_the_old_file_is_kept()
+    {
+        const restored_folder folder;
+        QByteArray file;
+        QByteArray log;
+        {
+            Connection1 program;
+            program.Open(folder.diary);
+            program.Execute(u"delete from cost"_s);
+            file = content_of(folder.diary);
+            log = content_of(folder.diary + u"-wal");
+        }
+        QVERIFY(!log.isEmpty());
+        write_file(folder.diary, file);
+        write_file(folder.diary + u"-wal", log);
+        QCOMPARE(folder.restore(), status(exit_status::done));
+        QCOMPARE(all_rows(folder.diary), all_rows(folder.copy_path));
+        QCOMPARE(reader(folder.kept_path()).number(u"select count(*) from cost"_s), 0);
+    }
+
+    void a_diary_or_copy_in_use_is_refused_and_nothing_changes()
+    {
+        const restored_folder folder;
+        const QStringList before = all_rows(folder.diary);
+        for (const QString& used : {folder.diary, folder.copy_path}) {
+            Connection1 user;
+            user.Open(used);
+            QCOMPARE(folder.restore(), status(exit_status::in_use));
+        }
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(folder.kept(), QStringList());
+    }
+
+    void a_damaged_copy_is_refused_and_nothing_changes()
+    {
+        const restored_folder folder;
+        const QStringList before = all_rows(folder.diary);
+        write_file(folder.copy_path, "no diary");
+        QCOMPARE(folder.restore(), status(exit_status::failed));
+        write_file(folder.copy_path, "");
+        QCOMPARE(folder.restore(), status(exit_status::no_diary));
+        QVERIFY(QFile::remove(folder.copy_path));
+        QCOMPARE(folder.restore(), status(exit_status::no_diary));
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(folder.files(), QStringList{u"Verdbase.db"_s});
+    }
+
+    void a_wrong_command_line_is_refused_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("one file") << QStringList{u"file:a"_s};
+        QTest::newRow("the same file") << QStringList{u"file:a"_s, u"file:a"_s};
+        QTest::newRow("from a source") << QStringList{u"source"_s, u"file:a"_s};
+        QTest::newRow("to a source") << QStringList{u"file:a"_s, u"source"_s};
+        QTest::newRow("option of another command") << QStringList{u"file:a"_s, u"file:b"_s, u"--repair"_s};
+    }
+
+    void a_wrong_command_line_is_refused()
+    {
+        QFETCH(QStringList, arguments);
+        QCOMPARE(store_run(QStringList{u"restore"_s} + arguments).run(), status(exit_status::usage));
+    }
+
+    void a_full_disk_changes_nothing_data()
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : {0, 4096, 100'000, 200'000})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
+    void a_full_disk_changes_nothing()
+    {
+        QFETCH(int, bytes);
+        const restored_folder folder;
+        const QStringList before = all_rows(folder.diary);
+        store_run run(folder.arguments());
+        run.limit_files(static_cast<unsigned long>(bytes));
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(folder.kept(), QStringList());
+        QCOMPARE(folder.files(), (QStringList{u"copy.db"_s, u"Verdbase.db"_s}));
+    }
+
+    /// The last writes are those that replace the file.
+    void a_kill_leaves_the_old_diary_or_the_new_one_and_can_be_repeated()
+    {
+        const restored_folder whole;
+        const QStringList old = all_rows(whole.diary);
+        const QStringList copied = all_rows(whole.copy_path);
+        const int writes = number_of_writes(whole.arguments());
+        QCOMPARE(all_rows(whole.diary), copied);
+        int with_old = 0;
+        int with_new = 0;
+        for (const int number : some_writes(writes)) {
+            const restored_folder folder;
+            kill_before_write(folder.arguments(), number);
+            const QStringList found = all_rows(folder.diary);
+            QVERIFY2(found == copied || found == old, qPrintable(QString::number(number)));
+            (found == old ? with_old : with_new) += 1;
+            if (!folder.kept().isEmpty())
+                QCOMPARE(all_rows(folder.kept_path()), old);
+            QCOMPARE(folder.restore(), status(exit_status::done));
+            QCOMPARE(all_rows(folder.diary), copied);
+        }
+        QVERIFY(with_old > 0);
+        QVERIFY(with_new > 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_restore_command)
+#include "test_restore_command.moc"
