@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/empty_text.h"
 #include "controls/events.h"
 #include "controls/list_box.h"
 #include "controls/look.h"
@@ -56,6 +57,7 @@ QWidget* f_games::make_rounds_frame()
     auto* frame =
         named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), u"Frame1");
     lines_->setAccessibleName(frame->title());
+    say_when_empty(*lines_, caption(u"Aucune ronde", u"No round"));
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->addWidget(lines_);

@@ -10,6 +10,7 @@
 
 #include "controls/control_array.h"
 #include "controls/data_grid.h"
+#include "controls/empty_text.h"
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
@@ -80,6 +81,7 @@ data_grid* f_partners::make_grid() const
     grid->setWordWrap(false);
     grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     set_widths(*grid);
+    say_when_empty(*grid, caption(u"Aucun partenaire", u"No partner"));
     return grid;
 }
 

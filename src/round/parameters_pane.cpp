@@ -12,6 +12,7 @@
 
 #include "base/language.h"
 #include "controls/control_array.h"
+#include "controls/empty_text.h"
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "round/parameter_boxes.h"
@@ -94,6 +95,7 @@ void parameters_pane::lay_out(const Form& window)
     add_block(*blocks_, window.caption(u"Conditions atmosphériques", u"Weather Conditions "), weathers_);
     add_line(*blocks_, u"Temp. :"_s, {temperature_});
     add_block(*blocks_, window.caption(u"Partenaires", u"Partners"), partners_, 1);
+    say_when_empty(*partners_, window.caption(u"Aucun partenaire", u"No partner"));
     add_line(*blocks_, window.caption(u"Coûts", u"Costs"), {costs_box_, costs_button_});
 }
 
