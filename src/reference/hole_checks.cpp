@@ -4,12 +4,13 @@
 
 #include "base/counts.h"
 #include "base/numbers.h"
+#include "scoring/limits.h"
 
 namespace verdane {
 
 namespace {
 
-constexpr int stroke_index_limit = 19;
+constexpr int stroke_index_limit = hole_count + 1;
 constexpr int lowest_par = 3;
 constexpr int highest_par = 5;
 

@@ -61,9 +61,9 @@ QString pad_zero(QString& text, int16 width)
 QString tee_name_in(bool french, QStringView digit)
 {
     const QStringView code = trimmed_blanks(digit);
-    if (code.size() != 1 || code.front() < u'0' || code.front() > u'7')
+    const int tee = code.size() == 1 ? code.front().unicode() - u'0' : -1;
+    if (tee < 0 || tee >= static_cast<int>(tee_words.size()))
         return {};
-    const int tee = code.front().unicode() - u'0';
     const QString name = tee_words[static_cast<std::size_t>(tee)].in(french);
     return french && tee < tees_in_capitals ? in_capitals(name) : name;
 }
