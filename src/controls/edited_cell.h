@@ -47,7 +47,7 @@ public:
     bool may_leave();
     /// The text, if the user has changed it and its cell still exists.
     std::optional<typed_text> changed_text() const;
-    /// Forgets the editor and returns it; null if no cell is being edited.
+    /// Returns the editor, which is no longer watched; null if no cell is being edited.
     QLineEdit* release();
 
 private:

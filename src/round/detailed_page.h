@@ -19,7 +19,7 @@ class shot_grid;
 struct shortcut;
 struct text_pair;
 
-/// What became of the blank first shot of a hole.
+/// The result of `detailed_page::drop_blank_shot`.
 struct blank_shot {
     bool removed = false;
     /// The result of `check_shots`, which runs only when no shot was removed.

@@ -11,8 +11,8 @@ struct season_course {
     season_sums sums;
 };
 
-/// One entry for each course, the one with the most rounds first; courses with equally many in order of their
-/// names. `figures` are those of `rounds`, in the same order.
+/// One entry for each course, the one with the most rounds first, then by name. `figures` are those of
+/// `rounds`, in the same order.
 std::vector<season_course> courses_of_season(const season_rounds& rounds,
                                              const std::vector<season_figures>& figures);
 

@@ -12,7 +12,7 @@ namespace {
 constexpr int usual_least_plays = 3;
 constexpr std::size_t most_ranked = 5;
 
-/// The holes that were played, in order of course and hole. `mean_over` is a mean.
+/// The holes that were played, in order of course and hole. `mean_over` is a sum until all rounds are added.
 std::vector<season_hole> played_holes(const season_rounds& rounds)
 {
     std::map<std::pair<QString, int>, season_hole> holes;

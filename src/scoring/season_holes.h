@@ -17,8 +17,8 @@ struct season_hole {
 
 /// The best and the worst holes of a season. No hole is in both lists.
 struct ranked_holes {
-    /// Only holes that were played at least so often are ranked: three times, or as often as the hole that
-    /// was played most often.
+    /// How often a hole must have been played to be ranked: three times, or less often if no hole was played
+    /// three times.
     int least_plays = 0;
     /// How many holes are ranked.
     int candidates = 0;
@@ -28,8 +28,8 @@ struct ranked_holes {
     std::vector<season_hole> worst;
 };
 
-/// Of holes with the same mean, the one that was played more often comes first in both lists, then the order
-/// of course and hole decides.
+/// Holes with the same mean are sorted in both lists by the number of plays, the highest first, then by
+/// course and hole.
 ranked_holes holes_of_season(const season_rounds& rounds);
 
 }  // namespace verdane

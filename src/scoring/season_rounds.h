@@ -7,9 +7,8 @@
 
 #include "scoring/round_sums.h"
 
-/// The figures of each round of a season, in order of time. Pure functions. "Played" is a hole with at least
-/// one stroke or penalty, "whole" a round with eighteen played holes: only whole rounds are compared with one
-/// another.
+/// The figures of each round of a season, in order of time. Pure functions. A played hole has at least one
+/// stroke or penalty. In a whole round all holes are played; means over rounds use whole rounds only.
 namespace verdane {
 
 /// One stored round.

@@ -29,7 +29,7 @@ public:
     void start(const store_location& store, failure_report report);
 
 private:
-    /// Calls of the other thread arrive here, in the thread of the windows.
+    /// Belongs to the thread of the windows, in which the report of the other thread is called.
     std::unique_ptr<QObject> receiver_;
     std::unique_ptr<QThread> thread_;
 };

@@ -14,11 +14,11 @@ namespace verdane::Statistics {
 /// return.
 void round_statistics(const selection_arguments& chosen, const run_controls& controls);
 
-/// The same up to the finished table, without the report. The rounds of the selection, for the pages about
-/// the season; no value if there is nothing to print, which a message box has reported.
+/// Fills the table without launching the report. Returns the rounds of the selection, for the pages about the
+/// season; no value if there is nothing to print, which a message box has reported.
 std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, run_progress& bar);
 
-/// The same for callers that need the table only. False if there is nothing to print.
+/// Fills the table and drops the rounds. False if there is nothing to print.
 bool fill_stats(const selection_arguments& chosen, run_progress& bar);
 
 }  // namespace verdane::Statistics

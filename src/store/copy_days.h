@@ -18,8 +18,9 @@ QString path_of_copy(const QString& store, QDate day);
 /// The days that have a copy with content, in ascending order.
 std::vector<QDate> days_of_copies(const QString& store);
 
-/// The days of `days` whose copies are not kept: those before the last 30 days, except the last of each
-/// month. Days after today are kept. `days` may be in any order; the result is in ascending order.
+/// The days of `days` whose copies are removed: those before the last `days_with_every_copy` days, except the
+/// last one of each month. Copies of days after today are kept. `days` may be in any order; the result is in
+/// ascending order.
 std::vector<QDate> days_to_remove(std::vector<QDate> days, QDate today);
 
 }  // namespace verdane

@@ -25,7 +25,7 @@ class test_handicap_steps : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void four_rounds_have_no_step_but_their_number()
+    void four_rounds_have_no_handicap_and_no_ranks()
     {
         const handicap_steps steps = steps_of_handicap(falling(4));
         QCOMPARE(steps.take, 0);
@@ -35,7 +35,7 @@ private Q_SLOTS:
         QCOMPARE(steps.text, u"N/A"_s);
     }
 
-    void the_one_differential_of_five_rounds_counts_whole()
+    void of_five_differentials_the_best_counts_without_the_factor()
     {
         const handicap_steps steps = steps_of_handicap({12, 10.44, 11, 10.45, 30});
         QCOMPARE(steps.take, 1);

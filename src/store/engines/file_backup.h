@@ -6,8 +6,8 @@
 /// can be called from any thread.
 namespace verdane {
 
-/// Copies the pages of an open store to a file, which is empty, up to the last commit. Does not wait for the
-/// other connections of the store, nor do they wait. Returns after the copy has reached the disk. Fails like
+/// Copies all committed pages of a store to an empty file. The store may be open on other connections;
+/// neither they nor this function wait. Returns after the copy has reached the disk. Fails like
 /// `store_engine::change`; the file is then incomplete.
 void back_up(const QString& store, const QString& copy);
 
