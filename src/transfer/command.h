@@ -15,7 +15,7 @@ struct command {
     QStringView name;
     /// The arguments as the help shows them.
     text_pair arguments;
-    /// What the command does, in one sentence.
+    /// One sentence that describes the command.
     text_pair words;
     /// An option and what it does; both empty if the command has none.
     struct option {

@@ -16,7 +16,7 @@ struct diary_problem {
     /// Where it is, up to a few places.
     QStringList places;
     int count = 0;
-    /// Ends the problem without a choice; empty if a choice is needed.
+    /// Repairs the problem; empty if the user must decide how.
     std::function<void(Connection1&)> repair;
     /// A table or a column is missing or in another place: nothing else can be checked or repaired.
     bool in_structure = false;

@@ -9,7 +9,7 @@ namespace verdane {
 class Connection1;
 class diary_snapshot;
 
-/// What became of the shots of a key that has no round.
+/// The result for the shots of a key that has no round.
 struct lost_round {
     QString key;
     /// Empty if the round was made; the reason otherwise, in the current language.
