@@ -39,7 +39,13 @@ void leave_hole(benchmark::State& state)
     leave_holes_of_stored_round(state, hole_seen::filled_in, in_round_window, change_figures);
 }
 
-void leave_hole_on_source(benchmark::State& state)
+void leave_hole_of_full_diary(benchmark::State& state)
+{
+    leave_holes_of_stored_round(state, hole_seen::filled_in, in_round_window, change_figures,
+                                store_location::file(diaries_of_run().full()));
+}
+
+void leave_hole_of_full_diary_on_source(benchmark::State& state)
 {
     leave_holes_of_stored_round(state, hole_seen::filled_in, in_round_window, change_figures,
                                 diaries_of_run().on_source());
@@ -77,8 +83,11 @@ void leave_hole_floor(benchmark::State& state)
 void register_hole()
 {
     register_timed("leave_hole", leave_hole);
-    if (diaries_of_run().on_source())
-        register_timed("leave_hole" + on_source, leave_hole_on_source);
+    // The source has the full diary, so its file has to have the same.
+    if (diaries_of_run().on_source()) {
+        register_timed("leave_hole_of_full_diary", leave_hole_of_full_diary);
+        register_timed("leave_hole_of_full_diary" + on_source, leave_hole_of_full_diary_on_source);
+    }
     register_timed("leave_hole_painted", leave_hole_painted);
     register_timed("leave_hole_floor", leave_hole_floor);
 }

@@ -1,5 +1,6 @@
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <benchmark/benchmark.h>
@@ -12,6 +13,7 @@
 #include "bench/diaries.h"
 #include "bench/pairs.h"
 #include "bench/stopwatch.h"
+#include "store/engines/registered_source.h"
 
 extern char** environ;
 
@@ -40,11 +42,16 @@ bool run_to_its_end(const char* program, const QStringList& arguments)
            waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// Removes the lock and the log that a killed program leaves in the folder.
+/// Removes the locks and the logs that a killed program leaves next to its file. A source has a file if its
+/// engine is SQLite; a server removes what is left by itself.
 void tidy_up_after_end()
 {
-    for (const QString& ending : {u".lock"_s, u"-wal"_s, u"-shm"_s})
+    const QString of_source = setting_of_source(default_store().name, u"Database"_s);
+    for (const QString& ending : {u".lock"_s, u"-wal"_s, u"-shm"_s}) {
         QFile::remove(diaries_of_run().full() + ending);
+        if (QFileInfo(of_source).isAbsolute())
+            QFile::remove(of_source + ending);
+    }
 }
 
 void time_start(benchmark::State& state, const char* program, const QStringList& arguments)

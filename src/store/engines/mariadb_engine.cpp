@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How long opening waits for the lock of another program, in seconds. The server releases the lock of a killed
-/// program a moment later.
+/// How long opening waits for the lock of another program, in seconds. The server releases the lock of a
+/// killed program a moment later.
 constexpr int lock_time_out_s = 1;
 
 /// How long the server keeps a connection on which nothing is sent, in seconds; its default is 8 hours. The
