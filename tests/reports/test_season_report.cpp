@@ -110,9 +110,9 @@ private Q_SLOTS:
         QTest::newRow("4 rounds") << 4 << 1 << 3;
         QTest::newRow("40 rounds, 10 courses") << 40 << 10 << 3;
         QTest::newRow("41 rounds") << 41 << 3 << 4;
-        QTest::newRow("124 rounds") << 124 << 3 << 4;
-        QTest::newRow("125 rounds") << 125 << 3 << 5;
-        QTest::newRow("51 courses") << 366 << 51 << 8;
+        QTest::newRow("84 rounds") << 84 << 3 << 4;
+        QTest::newRow("85 rounds") << 85 << 3 << 5;
+        QTest::newRow("51 courses") << 366 << 51 << 9;
     }
     void the_rounds_take_as_many_pages_as_they_need()
     {
@@ -122,6 +122,15 @@ private Q_SLOTS:
         const auto document =
             render_report(built_template(french), {}, invented_season_tables({rounds, courses}));
         QCOMPARE(document->page_count(), pages);
+    }
+
+    void a_list_on_several_pages_is_distributed_equally()
+    {
+        const QStringList pages = pages_of(english, invented_season_tables({101, 1, false}));
+        QCOMPARE(pages.size(), 5);
+        QVERIFY(!pages[1].contains(u" 2022-04-02 LE BLAINVILLIER"));
+        QCOMPARE(pages[2].count(u", Blanc 18 "), 51);
+        QCOMPARE(pages[3].count(u", Blanc 18 "), 50);
     }
 
     void no_word_covers_another_data()
