@@ -153,8 +153,8 @@ bool row_set::has_value(const recordset_row& row, int ordinal) const
     return row.complete || std::find(read_first.begin(), read_first.end(), ordinal) != read_first.end();
 }
 
-row_stream::row_stream(const Connection1& connection, const QString& statement, QString where, row_use use,
-                       std::vector<int> read_first)
+row_stream::row_stream(const Connection1& connection, const QString& statement, const QString& where,
+                       row_use use, std::vector<int> read_first)
     : connection_(connection), shape_(read_select(statement)), read_first_(std::move(read_first))
 {
     const store_engine& engine = connection.engine();

@@ -71,7 +71,7 @@ class row_stream {
 public:
     /// Runs the statement. `where` names it in a failure. If `read_first` is not empty, only these columns
     /// are read, provided that the statement selects all columns of a table whose rows have an identity.
-    row_stream(const Connection1& connection, const QString& statement, QString where, row_use use,
+    row_stream(const Connection1& connection, const QString& statement, const QString& where, row_use use,
                std::vector<int> read_first = {});
     ~row_stream();
 
