@@ -53,8 +53,11 @@ function(verdane_test name)
     set(ARG_SOURCES ${name}.cpp)
   endif()
   add_executable(${name} ${ARG_SOURCES})
-  verdane_use_headers(${name} windows)
+  verdane_use_headers(${name} tests)
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  # AUTOMOC adds this source to the target. It is empty, because a test includes its own *.moc file.
+  set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
+    PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
   target_link_libraries(${name} PRIVATE verdane_test_support ${ARG_LINKS} Qt6::Test)
   add_test(NAME ${name} COMMAND ${ARG_COMMAND} $<TARGET_FILE:${name}>)
   # By default Qt Test ends a test function after five minutes.
