@@ -29,6 +29,12 @@ if(VERDANE_SANITIZE)
   target_link_options(verdane_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Two hundred test programs are linked: mold needs a fifth of the time of the default linker.
+find_program(VERDANE_MOLD mold)
+if(VERDANE_MOLD AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+  target_link_options(verdane_flags INTERFACE -fuse-ld=mold)
+endif()
+
 function(verdane_library name)
   cmake_parse_arguments(ARG "" "HEADERS" "LINKS;SOURCES" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
