@@ -137,7 +137,7 @@ bool has_row(const diary_snapshot& diary, const QString& table, const QString& k
 }
 
 /// What is left of the other rows of the round is kept.
-void make_round(Connection1& store, const diary_snapshot& diary, const QString& key, round_shots shots,
+void make_round(Connection1& store, const diary_snapshot& diary, const QString& key, const round_shots& shots,
                 const course_of_shots& course)
 {
     insertion games(u"games"_s);
@@ -148,8 +148,9 @@ void make_round(Connection1& store, const diary_snapshot& diary, const QString& 
     games2.set(u"date"_s, QVariant(key));
     games2.set(u"conditionM"_s, int16(0));
     games2.set(u"FC"_s, QVariant(course.code));
-    for (auto& [hole, rows] : shots) {
-        const hole_summary counted = summarise(rows);
+    for (const auto& [hole, rows] : shots) {
+        shot_list summarised = rows;
+        const hole_summary counted = summarise(summarised);
         set_strokes(games, hole, counted);
         set_situation(games2, hole, counted);
     }
