@@ -136,13 +136,13 @@ private Q_SLOTS:
         QCOMPARE(reader(store_.location()).text(u"select count(*) from sqlite_master"_s), before);
     }
 
-    void a_query_reads_each_report_table_whole_and_the_queries_above_it_data()
+    void a_query_reads_each_stored_report_table_whole_and_the_queries_above_it_data()
     {
         QTest::addColumn<QString>("table");
-        for (const QString& table : readable_tables())
+        for (const QString& table : stored_tables())
             QTest::newRow(qPrintable(table)) << table;
     }
-    void a_query_reads_each_report_table_whole_and_the_queries_above_it()
+    void a_query_reads_each_stored_report_table_whole_and_the_queries_above_it()
     {
         QFETCH(QString, table);
         const template_file source = read_template(written(
