@@ -43,7 +43,10 @@ set(VERDANE_FILE_TESTS
   test_soundness            # damages bytes of the file
   test_start_refusals)      # permissions and content of the file
 
-set(VERDANE_FOLDERS_ON_ALL_ENGINES store statistics guided_day transfer)
+# Which tests of `store` also have the label `engines`. Of verdane-store only the copy between engines: the checks
+# of a diary take a minute on each of them.
+set(VERDANE_FOLDERS_ON_ALL_ENGINES store statistics guided_day)
+set(VERDANE_TESTS_ON_ALL_ENGINES test_copy_engines)
 
 # Gives the labels to a test of the current folder.
 function(verdane_label_test name)
@@ -54,7 +57,7 @@ function(verdane_label_test name)
     set(labels server)
   elseif(name IN_LIST VERDANE_FILE_TESTS)
     set(labels file)
-  elseif(folder IN_LIST VERDANE_FOLDERS_ON_ALL_ENGINES)
+  elseif(folder IN_LIST VERDANE_FOLDERS_ON_ALL_ENGINES OR name IN_LIST VERDANE_TESTS_ON_ALL_ENGINES)
     set(labels store engines)
   else()
     set(labels store)
@@ -66,7 +69,7 @@ endfunction()
 # Fails if a list above names a test that does not exist. To be called after all tests were declared.
 function(verdane_check_labels)
   get_property(known GLOBAL PROPERTY VERDANE_LABELLED_TESTS)
-  foreach(name ${VERDANE_TESTS_WITHOUT_STORE} ${VERDANE_FILE_TESTS})
+  foreach(name ${VERDANE_TESTS_WITHOUT_STORE} ${VERDANE_FILE_TESTS} ${VERDANE_TESTS_ON_ALL_ENGINES})
     if(NOT name IN_LIST known)
       message(FATAL_ERROR "cmake/TestEngines.cmake names ${name}, which is no test")
     endif()
