@@ -1,3 +1,4 @@
+#include <QScopeGuard>
 #include <QTest>
 
 #include <memory>
@@ -220,6 +221,34 @@ private Q_SLOTS:
         QCOMPARE(bare.number(u"select count(*) from stats where hole_1 = 0.2"_s), 1);
         figures->Delete();
         QCOMPARE(bare.number(u"select count(*) from stats where hole_1 = 0.2"_s), 0);
+    }
+
+    void a_setting_of_the_server_loses_no_save_data()
+    {
+        QTest::addColumn<QString>("setting");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("a commit begins a transaction") << u"completion_type"_s << u"'CHAIN'"_s;
+        QTest::newRow("a change needs a key") << u"sql_safe_updates"_s << u"1"_s;
+    }
+    void a_setting_of_the_server_loses_no_save()
+    {
+        QFETCH(QString, setting);
+        QFETCH(QString, value);
+        source strict;
+        administer(u"set global %1 = %2"_s.arg(setting, value));
+        const auto restored =
+            qScopeGuard([&setting] { administer(u"set global %1 = default"_s.arg(setting)); });
+        strict.open();
+        Recordset partners(strict.connection, partners_settings(lock_type::batch_optimistic));
+        partners.Open();
+        add_partner(partners, u"a"_s, 1);
+        partners.UpdateBatch();
+        // Without a transaction of its own, unlike the other save.
+        strict.connection.Execute(u"insert into partners (name, code) values ('b', 2)"_s);
+        strict.reopen();
+        QCOMPARE(stored_partners(strict), u"a:1:null b:2:null"_s);
+        strict.connection.Execute(u"delete from partners"_s);
+        QCOMPARE(stored_partners(strict), QString());
     }
 
     void a_value_that_does_not_fit_is_refused_and_nothing_is_lost()

@@ -63,6 +63,9 @@ void mariadb_engine::set_session() const
         u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
             .arg(source_lock_time_out_s)
             .arg(idle_time_out_s));
+    // A commit begins no transaction, in which later changes would be lost, and a change needs no key,
+    // whatever the defaults of the server are.
+    run(u"set session completion_type = 'NO_CHAIN', session sql_safe_updates = 0"_s);
     // The reads of a report see one moment, whatever the default of the server is.
     run(u"set session transaction isolation level repeatable read"_s);
 }
