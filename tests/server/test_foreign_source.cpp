@@ -251,6 +251,20 @@ private Q_SLOTS:
         QCOMPARE(stored_partners(strict), QString());
     }
 
+    void a_column_with_a_long_name_is_read()
+    {
+        source any;
+        any.open();
+        const QString expression = u"language"_s + u"+language"_s.repeated(20);
+        const auto rows = opened(any, u"select %1, language+7 from settings"_s.arg(expression));
+        QVERIFY(expression.size() > 128);
+        QVERIFY(rows->field_name(0).size() > 100);
+        QVERIFY2(expression.startsWith(rows->field_name(0)), qPrintable(rows->field_name(0)));
+        QCOMPARE(rows->field_name(1), u"language+7"_s);
+        QCOMPARE(rows->Fields(0).to_double(), 0.0);
+        QCOMPARE(rows->Fields(1).to_double(), 7.0);
+    }
+
     void a_value_that_does_not_fit_is_refused_and_nothing_is_lost()
     {
         source narrow;

@@ -147,7 +147,9 @@ void odbc_rows::describe_columns(text_form texts)
         SQLSMALLINT nullable = 0;
         check(odbc.describe_column(statement_, ++number, name.data(), static_cast<SQLSMALLINT>(name.size()),
                                    &letters, &type, &size, &digits, &nullable));
-        column.name = from_wide(name.data(), letters);
+        // The driver returns the length of the whole name. A longer name than the memory is cut.
+        const auto known = std::min<qsizetype>(letters, static_cast<qsizetype>(name.size()) - 1);
+        column.name = from_wide(name.data(), known);
         column.kind = form_of(type);
         if (column.is_number()) {
             column.type_in_memory = column.kind == form::real ? SQL_C_DOUBLE : SQL_C_SBIGINT;
