@@ -32,12 +32,31 @@ private Q_SLOTS:
         row("missing table", 1146, failure_kind::source_part);
         row("missing column", 1054, failure_kind::source_part);
         row("full table", 1114, failure_kind::source_full);
-        row("full disk", 1026, failure_kind::source_full, u"Error writing file (Errcode: 28 ...)"_s);
+        row("full disk while a file is written", 1026, failure_kind::source_full,
+            u"Error writing file './verdbase/games' (errno: 28 \"No space left on device\")"_s);
         row("other error on a file", 1026, failure_kind::store_other,
-            u"Error writing file (Errcode: 5 ...)"_s);
-        row("another number with the same digits", 1026, failure_kind::store_other, u"(Errcode: 128 ...)"_s);
+            u"Error writing file './verdbase/games' (errno: 5 \"Input/output error\")"_s);
+        row("another number with the same digits", 1026, failure_kind::store_other,
+            u"Error writing file './verdbase/games' (errno: 128 \"Out of memory in engine\")"_s);
+        row("full disk while the server writes a temporary file", 3, failure_kind::source_full,
+            u"Error writing file '/tmp/#sql/fd=52' (Errcode: 28 \"No space left on device\")"_s);
+        row("full disk while the server makes a temporary file", 1, failure_kind::source_full,
+            u"Can't create/write to file '/tmp/#sql.MAI' (Errcode: 28 \"No space left on device\")"_s);
+        row("temporary folder without rights", 1, failure_kind::store_other,
+            u"Can't create/write to file '/tmp/#sql.MAI' (Errcode: 13 \"Permission denied\")"_s);
+        row("full disk while a table is created", 1005, failure_kind::source_full,
+            u"Can't create table `verdbase`.`games` (errno: 28 \"No space left on device\")"_s);
+        row("full disk while a table of the storage engine is created", 1005, failure_kind::source_full,
+            u"Can't create table `verdbase`.`games` (errno: 135 \"No more room in record file\")"_s);
+        row("table that cannot be created", 1005, failure_kind::store_other,
+            u"Can't create table `verdbase`.`games` (errno: 150 \"Foreign key constraint is incorrectly "
+            u"formed\")"_s);
+        row("full disk during a commit", 1180, failure_kind::source_full,
+            u"Got error 28 \"No space left on device\" during COMMIT"_s);
+        row("other error during a commit", 1180, failure_kind::store_other,
+            u"Got error 5 \"Input/output error\" during COMMIT"_s);
         row("full disk of the storage engine", 1030, failure_kind::source_full,
-            u"Got error 28 \"No space left on device\" from storage engine"_s);
+            u"Got error 28 \"No space left on device\" from storage engine InnoDB"_s);
         row("text too long", 1406, failure_kind::source_value);
         row("number too large", 1264, failure_kind::source_value);
         row("text in a number", 1366, failure_kind::source_value);

@@ -10,7 +10,9 @@ namespace {
 
 // The documented numbers. Those from 2000 are of the client library.
 namespace code {
+constexpr int cannot_make_file = 1;
 constexpr int error_on_write = 3;
+constexpr int cannot_create_table = 1005;
 constexpr int disk_full = 1021;
 constexpr int error_writing_file = 1026;
 constexpr int storage_error = 1030;
@@ -26,6 +28,7 @@ constexpr int host_not_allowed = 1130;
 constexpr int table_denied = 1142;
 constexpr int column_denied = 1143;
 constexpr int no_such_table = 1146;
+constexpr int error_during_commit = 1180;
 constexpr int lock_wait_timeout = 1205;
 constexpr int deadlock = 1213;
 constexpr int privilege_missing = 1227;
@@ -45,11 +48,11 @@ constexpr int server_lost_extended = 2055;
 constexpr int connection_error = 5014;
 }  // namespace code
 
-/// The storage engine reports the error of the operating system in the text: 28 means that no space is left,
-/// 122 that the quota is used up.
+/// The server reports the error of the operating system or of the storage engine in the text: 28 means that
+/// no space is left, 122 that the quota is used up, 135 that a table cannot grow.
 bool names_full_disk(const QString& text)
 {
-    static const QRegularExpression full(u"\\b(error|errcode:) (28|122)\\b"_s,
+    static const QRegularExpression full(u"\\b(error|errno:|errcode:) (28|122|135)\\b"_s,
                                          QRegularExpression::CaseInsensitiveOption);
     return full.match(text).hasMatch();
 }
@@ -124,9 +127,12 @@ failure_kind kind_of_mariadb_error(int number, const QString& text)
     case code::disk_full:
     case code::table_full:
         return failure_kind::source_full;
+    case code::cannot_make_file:
     case code::error_on_write:
+    case code::cannot_create_table:
     case code::error_writing_file:
     case code::storage_error:
+    case code::error_during_commit:
         return names_full_disk(text) ? failure_kind::source_full : failure_kind::store_other;
     default:
         return failure_kind::store_other;
