@@ -1,7 +1,5 @@
 #include "store/row_writer.h"
 
-#include <numeric>
-
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
 #include "store/engines/engine.h"
@@ -31,6 +29,19 @@ std::vector<int> changed_columns(const recordset_row& row)
     return changed;
 }
 
+/// The columns that are declared. The server sets those that someone else has added to a table, and their
+/// values in memory may be others.
+std::vector<int> declared_columns(const row_set& set)
+{
+    std::vector<int> declared;
+    declared.reserve(set.columns.size());
+    for (int ordinal = 0; ordinal < static_cast<int>(set.columns.size()); ++ordinal) {
+        if (set.columns[static_cast<std::size_t>(ordinal)].stored)
+            declared.push_back(ordinal);
+    }
+    return declared;
+}
+
 /// The columns with a value in the statement that inserts a row.
 std::vector<int> written_columns(const row_set& set, const recordset_row& row)
 {
@@ -42,11 +53,7 @@ std::vector<int> written_columns(const row_set& set, const recordset_row& row)
     if (written.empty())
         written.push_back(0);
     // Without a number the row is found again by its values, so the defaults of the table must not apply.
-    if (!set.has_numbers) {
-        written.resize(set.columns.size());
-        std::iota(written.begin(), written.end(), 0);
-    }
-    return written;
+    return set.has_numbers ? written : declared_columns(set);
 }
 
 statement_with_values start_statement(QStringView words, const row_set& set, std::size_t columns)
@@ -71,8 +78,8 @@ const QVariant& stored_value(const recordset_row& row, int ordinal)
     return cell(row, ordinal);
 }
 
-/// Appends the condition that selects the row: by its number, or by all its values if its table has no column
-/// that identifies a row.
+/// Appends the condition that selects the row: by its number, or by its values in all declared columns if its
+/// table has no column that identifies a row.
 void add_identity(const store_engine& engine, statement_with_values& statement, const row_set& set,
                   const recordset_row& row)
 {
@@ -83,7 +90,7 @@ void add_identity(const store_engine& engine, statement_with_values& statement, 
         return;
     }
     QStringView before = u"";
-    for (int ordinal = 0; ordinal < static_cast<int>(set.columns.size()); ++ordinal) {
+    for (const int ordinal : declared_columns(set)) {
         statement.text += before;
         engine.add_comparison(statement, column_name(set, ordinal), stored_value(row, ordinal));
         before = u" AND ";

@@ -187,6 +187,29 @@ private Q_SLOTS:
         QCOMPARE(bare.outside().text(u"select date from games2"_s), u"2"_s);
     }
 
+    void columns_that_the_program_does_not_have_keep_the_values_of_the_server()
+    {
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.change(u"alter table %1.games2 add column remark varchar(9) not null default 'none', "
+                    "add column id int auto_increment primary key"_s);
+        bare.reopen();
+        const auto rounds = opened(bare, u"select * from games2"_s);
+        rounds->AddNew();
+        rounds->Fields(u"date").set(u"1"_s);
+        rounds->Update();
+        for (const int hole : {1, 2}) {
+            rounds->Fields(u"fairway_%1"_s.arg(hole)).set(hole);
+            rounds->Update();
+        }
+        QCOMPARE(bare.number(u"select count(*) from games2 where fairway_1 = 1 and fairway_2 = 2 and "
+                             "remark = 'none' and id = 1"_s),
+                 1);
+        rounds->Delete();
+        QCOMPARE(bare.number(u"select count(*) from games2"_s), 0);
+    }
+
     void a_row_with_real_numbers_is_found_by_all_its_values_data()
     {
         QTest::addColumn<QString>("type");
