@@ -122,6 +122,11 @@ qint64 insert_row(store_engine& engine, const row_set& set, const recordset_row&
     return 0;
 }
 
+run_time_failure no_such_row(const QString& where)
+{
+    return {failure_kind::misuse, QString(where + u": the row is no longer in the store")};
+}
+
 void update_row(store_engine& engine, const row_set& set, const recordset_row& row, const QString& where)
 {
     const std::vector<int> changed = changed_columns(row);
@@ -138,7 +143,7 @@ void update_row(store_engine& engine, const row_set& set, const recordset_row& r
     }
     add_identity(engine, statement, set, row);
     if (engine.change(statement, where) == 0)
-        throw run_time_failure(failure_kind::misuse, QString(where + u": the row is no longer in the store"));
+        throw no_such_row(where);
 }
 
 }  // namespace
@@ -162,7 +167,9 @@ void erase_row(const Connection1& connection, const row_set& set, const recordse
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
     add_identity(connection.engine(), statement, set, row);
     ++connection.traffic().statements;
-    connection.engine().change(statement, where);
+    // Without a number, a row that has other values now would be kept in the store without notice.
+    if (connection.engine().change(statement, where) == 0 && !set.has_numbers)
+        throw no_such_row(where);
 }
 
 }  // namespace verdane

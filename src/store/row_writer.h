@@ -13,7 +13,8 @@ namespace verdane {
 qint64 write_row(const Connection1& connection, const row_set& set, const recordset_row& row,
                  const QString& where);
 
-/// Deletes the row. A row that no longer exists is no failure.
+/// Deletes the row. A row that no longer exists is no failure if rows have numbers. Without them it fails
+/// with `misuse`: the row may still exist with other values.
 void erase_row(const Connection1& connection, const row_set& set, const recordset_row& row,
                const QString& where);
 

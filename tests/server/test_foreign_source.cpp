@@ -344,6 +344,32 @@ private Q_SLOTS:
         QCOMPARE(stored_partners(bare), u"a:5:null"_s);
     }
 
+    void deleting_a_row_that_someone_changed_meanwhile_fails_and_keeps_it_data()
+    {
+        QTest::addColumn<lock_type>("lock");
+        QTest::newRow("at once") << lock_type::optimistic;
+        QTest::newRow("as a batch") << lock_type::batch_optimistic;
+    }
+    void deleting_a_row_that_someone_changed_meanwhile_fails_and_keeps_it()
+    {
+        QFETCH(lock_type, lock);
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.reopen();
+        Recordset partners(bare.connection, partners_settings(lock));
+        partners.Open();
+        add_partner(partners, u"a"_s, 1);
+        partners.UpdateBatch();
+        bare.change(u"update %1.partners set code = 5"_s);
+        const auto delete_it = [&partners] {
+            partners.Delete();
+            partners.UpdateBatch();
+        };
+        QVERIFY(failure_of(delete_it) == failure_kind::misuse);
+        QCOMPARE(stored_partners(bare), u"a:5:null"_s);
+    }
+
     void the_script_adds_the_identity_column_to_the_tables_that_lack_it()
     {
         source bare;
