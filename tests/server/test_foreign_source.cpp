@@ -288,6 +288,26 @@ private Q_SLOTS:
         QCOMPARE(rows->Fields(1).to_double(), 7.0);
     }
 
+    void a_yes_of_any_number_is_found_by_all_its_values()
+    {
+        source bare;
+        bare.open();
+        remove_row_columns(bare);
+        bare.change(u"insert into %1.stat_rounds (date, hole, ts, dz, cal) values ('1', 4, -1, 0, null)"_s);
+        bare.reopen();
+        const auto shots = opened(bare, u"select * from Stat_rounds"_s);
+        QCOMPARE(shots->Fields(u"ts").value(), QVariant(true));
+        shots->Fields(u"hole").set(5);
+        shots->Update();
+        QCOMPARE(bare.number(u"select count(*) from stat_rounds where hole = 5 and ts = -1"_s), 1);
+        shots->Fields(u"ts").set(false);
+        shots->Update();
+        QCOMPARE(bare.number(u"select count(*) from stat_rounds where ts = 0 and dz = 0 and cal is null"_s),
+                 1);
+        shots->Delete();
+        QCOMPARE(bare.number(u"select count(*) from stat_rounds"_s), 0);
+    }
+
     void a_value_that_does_not_fit_is_refused_and_nothing_is_lost()
     {
         source narrow;

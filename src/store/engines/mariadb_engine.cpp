@@ -145,9 +145,12 @@ QString mariadb_engine::select_with_identity(const QString& statement, const sel
 void mariadb_engine::add_comparison(statement_with_values& statement, const QString& column,
                                     const QVariant& value) const
 {
-    // The texts of a table that was made by someone else may be compared without regard to case.
+    // The texts of a table that was made by someone else may be compared without regard to case, and every
+    // number but 0 is a yes.
     if (value.typeId() == QMetaType::QString)
         statement.text += u"CONVERT(`" + column + u"` USING utf8mb4) COLLATE utf8mb4_nopad_bin <=> ";
+    else if (value.typeId() == QMetaType::Bool)
+        statement.text += u"(`" + column + u"` <> 0) <=> ";
     else
         statement.text += u'`' + column + u"` <=> ";
     add_value(statement, value);
