@@ -11,6 +11,7 @@
 #include "store/store_lock.h"
 #include "transfer/console.h"
 #include "transfer/kept_copy.h"
+#include "transfer/sole_use.h"
 #include "transfer/store_argument.h"
 #include "transfer/whole_files.h"
 
@@ -88,12 +89,15 @@ exit_status restore(const store_location& copy, const store_location& place)
         throw run_time_failure(failure_kind::store_read_only, place.name);
     const auto lock = take_store_lock(place.name);
     const store_location target = target_of(place);
+    const auto lock_of_target =
+        QFileInfo(place.name).isSymLink() ? take_store_lock(target.name) : std::unique_ptr<QLockFile>();
     const QString file = target.name + new_ending;
     remove_store_files(file);
     if (!write_new_file(copy, file))
         return refuse_without_diary(copy);
     QString kept;
     try {
+        need_sole_use(target.name);
         kept = keep_file(target);
     } catch (...) {
         remove_store_files(file);

@@ -37,8 +37,21 @@ struct restored_folder : copied_folder {
         reader(copy_path).write(u"delete from games where date > '%1'"_s.arg(key_in_diary(3)));
     }
 
-    QStringList arguments() const { return {u"restore"_s, file_argument(copy_path), file_argument(diary)}; }
+    QStringList arguments() const { return arguments_for(diary); }
+    QStringList arguments_for(const QString& place) const
+    {
+        return {u"restore"_s, file_argument(copy_path), file_argument(place)};
+    }
     std::optional<int> restore() const { return store_run(arguments()).run(); }
+
+    /// Makes a link to the diary in a folder of its own.
+    QString make_link() const
+    {
+        const QString link = folder.filePath(u"links/linked.db"_s);
+        if (!QDir(folder.path()).mkpath(u"links"_s) || !QFile::link(diary, link))
+            qFatal("cannot make %s", qUtf8Printable(link));
+        return link;
+    }
 
     QStringList kept() const
     {
@@ -151,6 +164,43 @@ private Q_SLOTS:
         }
         QCOMPARE(all_rows(folder.diary), before);
         QCOMPARE(folder.kept(), QStringList());
+    }
+
+    void a_diary_in_use_by_another_name_is_refused_and_nothing_changes_data()
+    {
+        QTest::addColumn<bool>("used_by_link");
+        QTest::newRow("restored by a link") << false;
+        QTest::newRow("used by a link") << true;
+    }
+
+    void a_diary_in_use_by_another_name_is_refused_and_nothing_changes()
+    {
+        QFETCH(bool, used_by_link);
+        const restored_folder folder;
+        const QString link = folder.make_link();
+        const QStringList before = all_rows(folder.diary);
+        Connection1 user;
+        user.Open(used_by_link ? link : folder.diary);
+        store_run run(folder.arguments_for(used_by_link ? folder.diary : link));
+        QCOMPARE(run.run(), status(exit_status::in_use));
+        QVERIFY2(run.errors().contains(u"in use by another program"), qUtf8Printable(run.output()));
+        user.Execute(u"delete from cost"_s);
+        user.Close();
+        QVERIFY(all_rows(folder.diary) != before);
+        QCOMPARE(reader(folder.diary).number(u"select count(*) from cost"_s), 0);
+        QCOMPARE(folder.kept(), QStringList());
+        QCOMPARE(folder.files(), (QStringList{u"copy.db"_s, u"Verdbase.db"_s}));
+    }
+
+    void a_link_to_a_file_stays_a_link()
+    {
+        const restored_folder folder;
+        const QString link = folder.make_link();
+        QCOMPARE(store_run(folder.arguments_for(link)).run(), status(exit_status::done));
+        QCOMPARE(QFileInfo(link).symLinkTarget(), folder.diary);
+        QVERIFY(!QFileInfo(folder.diary).isSymLink());
+        QCOMPARE(all_rows(folder.diary), all_rows(folder.copy_path));
+        QCOMPARE(folder.kept().size(), 1);
     }
 
     void a_damaged_copy_is_refused_and_nothing_changes()
