@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 #include "store/Connection1.h"
 #include "store/diary_copy.h"
 #include "store/store_files.h"
@@ -11,6 +13,17 @@
 namespace verdane {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool is_free(const QString& path)
+{
+    return !QFile::exists(path) &&
+           std::none_of(endings_of_logs.begin(), endings_of_logs.end(),
+                        [&](QStringView ending) { return QFile::exists(path + ending); });
+}
+
+}  // namespace
 
 QString free_copy_path(const store_location& store, const QString& why)
 {
@@ -20,7 +33,7 @@ QString free_copy_path(const store_location& store, const QString& why)
     const QString start = file.absolutePath() + u"/copies/" + name + u'-' +
                           QDate::currentDate().toString(Qt::ISODate) + u'-' + why;
     QString path = start + u".db";
-    for (int number = 2; QFile::exists(path); ++number)
+    for (int number = 2; !is_free(path); ++number)
         path = start + u'-' + QString::number(number) + u".db";
     return path;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
+
+#include <array>
 
 namespace verdane {
 
@@ -8,9 +11,12 @@ class Connection1;
 
 struct store_location;
 
+/// The endings of the engine's files next to a store that can have rows which the file of the store lacks.
+inline constexpr std::array<QStringView, 2> endings_of_logs{u"-journal", u"-wal"};
+
 /// A path that does not exist, for a copy of a store that is about to be changed:
 /// `copies/NAME-YYYY-MM-DD-WHY.db` in the folder of the file, or of the program's file for a source. A number
-/// follows if that file exists.
+/// follows if that file or a log of it exists.
 QString free_copy_path(const store_location& store, const QString& why);
 
 /// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path. Fails

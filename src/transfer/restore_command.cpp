@@ -52,33 +52,51 @@ void finish_log(const store_location& place)
     }
 }
 
-/// Copies the file of a place, and the log if one is left, to the folder of the copies. Empty if there is no
-/// file.
-QString keep_file(const store_location& place)
+/// Copies the file of a place, and the logs that have content, to the folder of the copies. Returns the
+/// paths, that of the file first.
+QStringList keep_files(const store_location& place)
 {
-    if (!QFile::exists(place.name))
-        return {};
     const QString kept = free_copy_path(place, u"replaced"_s);
-    const QString log = place.name + u"-wal";
-    if (QFileInfo(log).size() > 0)
-        copy_whole_file(log, kept + u"-wal");
-    copy_whole_file(place.name, kept);
-    return kept;
+    QStringList paths;
+    const auto keep = [&](QStringView ending) {
+        copy_whole_file(place.name + ending, kept + ending);
+        paths.prepend(kept + ending);
+    };
+    for (const QStringView ending : endings_of_logs) {
+        if (QFileInfo(place.name + ending).size() > 0)
+            keep(ending);
+    }
+    if (QFile::exists(place.name))
+        keep({});
+    return paths;
 }
 
-/// The log is removed first, because the engine would apply it to the new file.
+/// The logs are removed first, because the engine would apply them to the new file.
 void put_in_place(const QString& file, const QString& path)
 {
-    QFile::remove(path + u"-wal");
+    for (const QStringView ending : endings_of_logs)
+        QFile::remove(path + ending);
     QFile::remove(path + u"-shm");
     replace_file(file, path);
 }
 
-/// A link to a file stays a link.
+void print_kept(const QStringList& kept, bool with_file)
+{
+    if (with_file)
+        print(in_language(u"L'ancien fichier est gardé : %1", u"The old file is kept: %1").arg(kept.first()));
+    else if (!kept.isEmpty())
+        print(in_language(u"Le fichier du journal manquait ; ce qui restait à côté est gardé : %1",
+                          u"The diary's file was missing; what was left next to it is kept: %1")
+                  .arg(kept.join(u", "_s)));
+}
+
+/// A link stays a link, also if its target is missing.
 store_location target_of(const store_location& place)
 {
-    const QString target = QFileInfo(place.name).canonicalFilePath();
-    return target.isEmpty() ? place : store_location::file(target);
+    const QFileInfo file(place.name);
+    if (file.exists())
+        return store_location::file(file.canonicalFilePath());
+    return file.isSymLink() ? store_location::file(file.symLinkTarget()) : place;
 }
 
 exit_status restore(const store_location& copy, const store_location& place)
@@ -95,18 +113,18 @@ exit_status restore(const store_location& copy, const store_location& place)
     remove_store_files(file);
     if (!write_new_file(copy, file))
         return refuse_without_diary(copy);
-    QString kept;
+    const bool is_there = QFile::exists(target.name);
+    QStringList kept;
     try {
         need_sole_use(target.name);
-        kept = keep_file(target);
+        kept = keep_files(target);
     } catch (...) {
         remove_store_files(file);
         throw;
     }
     put_in_place(file, target.name);
     print(in_language(u"Copie remise en place : %1", u"Copy put in place: %1").arg(argument_of_store(place)));
-    if (!kept.isEmpty())
-        print(in_language(u"L'ancien fichier est gardé : %1", u"The old file is kept: %1").arg(kept));
+    print_kept(kept, is_there);
     return exit_status::done;
 }
 

@@ -153,6 +153,42 @@ private Q_SLOTS:
         QCOMPARE(reader(folder.kept_path()).number(u"select count(*) from cost"_s), 0);
     }
 
+    void the_log_of_a_missing_diary_is_kept_data()
+    {
+        QTest::addColumn<QString>("ending");
+        QTest::addColumn<bool>("by_link");
+        QTest::newRow("write-ahead log") << u"-wal"_s << false;
+        QTest::newRow("write-ahead log, by a link") << u"-wal"_s << true;
+        QTest::newRow("rollback journal") << u"-journal"_s << false;
+    }
+
+    void the_log_of_a_missing_diary_is_kept()
+    {
+        QFETCH(QString, ending);
+        QFETCH(bool, by_link);
+        const restored_folder folder;
+        const QString place = by_link ? folder.make_link() : folder.diary;
+        QVERIFY(QFile::remove(folder.diary));
+        for (const QByteArray content : {"first", "second"}) {
+            write_file(folder.diary + ending, content);
+            store_run run(folder.arguments_for(place));
+            QCOMPARE(run.run(), status(exit_status::done));
+            QVERIFY2(
+                run.output().contains(u"The diary's file was missing; what was left next to it is kept: " +
+                                      folder.folder.path() + u"/copies/"),
+                qUtf8Printable(run.output()));
+            QVERIFY(!QFile::exists(folder.diary + ending));
+            QCOMPARE(all_rows(folder.diary), all_rows(folder.copy_path));
+            QVERIFY(QFile::remove(folder.diary));
+        }
+        QCOMPARE(QFileInfo(place).isSymLink(), by_link);
+        QStringList contents;
+        for (const QString& name : folder.kept())
+            contents << QString::fromUtf8(content_of(folder.folder.filePath(u"copies/" + name)));
+        contents.sort();
+        QCOMPARE(contents, (QStringList{u"first"_s, u"second"_s}));
+    }
+
     void a_diary_or_copy_in_use_is_refused_and_nothing_changes()
     {
         const restored_folder folder;
