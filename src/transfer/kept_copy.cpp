@@ -6,8 +6,10 @@
 
 #include <algorithm>
 
+#include "base/run_time_failure.h"
 #include "store/Connection1.h"
 #include "store/diary_copy.h"
+#include "store/engines/file_backup.h"
 #include "store/store_files.h"
 
 namespace verdane {
@@ -23,6 +25,15 @@ bool is_free(const QString& path)
                         [&](QStringView ending) { return QFile::exists(path + ending); });
 }
 
+/// Closing a connection does not fail if the log cannot be copied into the file.
+void check_closed(const QString& path)
+{
+    if (QFileInfo(path + u"-wal").size() > 0)
+        throw run_time_failure(failure_kind::store_full,
+                               QString(path + u": the write-ahead log was not copied into the file"));
+    check_copy(path);
+}
+
 }  // namespace
 
 QString free_copy_path(const store_location& store, const QString& why)
@@ -36,6 +47,22 @@ QString free_copy_path(const store_location& store, const QString& why)
     for (int number = 2; !is_free(path); ++number)
         path = start + u'-' + QString::number(number) + u".db";
     return path;
+}
+
+void write_closed_copy(Connection1& from, const QString& path)
+{
+    remove_store_files(path);
+    Connection1 copy;
+    copy.Open(path);
+    try {
+        copy_diary(from, copy, [](const counted_table&) {});
+        copy.Close();
+        check_closed(path);
+    } catch (...) {
+        copy.Close();
+        remove_store_files(path);
+        throw;
+    }
 }
 
 QString keep_copy(Connection1& store, const QString& why)

@@ -19,6 +19,11 @@ inline constexpr std::array<QStringView, 2> endings_of_logs{u"-journal", u"-wal"
 /// follows if that file or a log of it exists.
 QString free_copy_path(const store_location& store, const QString& why);
 
+/// Copies a diary, row by row and compared, to a file of its own, and replaces the file that a killed run has
+/// left there. The file is closed, complete and checked afterwards. Fails like `copy_diary`, with
+/// `store_full` if the file is not complete, and like `check_copy`; no file is left then.
+void write_closed_copy(Connection1& from, const QString& path);
+
 /// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path. Fails
 /// like `copy_diary`; no file is left then.
 QString keep_copy(Connection1& store, const QString& why);

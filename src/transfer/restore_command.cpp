@@ -6,7 +6,6 @@
 
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
-#include "store/diary_copy.h"
 #include "store/store_files.h"
 #include "store/store_lock.h"
 #include "transfer/console.h"
@@ -29,15 +28,7 @@ bool write_new_file(const store_location& copy, const QString& path)
     Connection1 from;
     if (!from.OpenExisting(copy))
         return false;
-    Connection1 to;
-    to.Open(path);
-    try {
-        copy_diary(from, to, [](const counted_table&) {});
-    } catch (...) {
-        to.Close();
-        remove_store_files(path);
-        throw;
-    }
+    write_closed_copy(from, path);
     return true;
 }
 
@@ -110,7 +101,6 @@ exit_status restore(const store_location& copy, const store_location& place)
     const auto lock_of_target =
         QFileInfo(place.name).isSymLink() ? take_store_lock(target.name) : std::unique_ptr<QLockFile>();
     const QString file = target.name + new_ending;
-    remove_store_files(file);
     if (!write_new_file(copy, file))
         return refuse_without_diary(copy);
     const bool is_there = QFile::exists(target.name);

@@ -8,7 +8,10 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <functional>
+#include <optional>
 #include <sys/ptrace.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -61,50 +64,79 @@ pid_t start(const QStringList& arguments)
     return child;
 }
 
-/// Whether the system call at which a process has stopped begins and changes a file.
-bool is_at_change(pid_t child)
+using system_call = __ptrace_syscall_info;
+
+/// The system call at which a process has stopped, if it begins and changes a file.
+std::optional<system_call> change_at_stop(pid_t child)
 {
-    __ptrace_syscall_info call{};
+    system_call call{};
     if (ptrace(PTRACE_GET_SYSCALL_INFO, child, sizeof call, &call) <= 0)
-        return false;
-    return call.op == PTRACE_SYSCALL_INFO_ENTRY && changes_a_file(static_cast<long>(call.entry.nr));
+        return std::nullopt;
+    if (call.op != PTRACE_SYSCALL_INFO_ENTRY || !changes_a_file(static_cast<long>(call.entry.nr)))
+        return std::nullopt;
+    return call;
 }
 
-/// Runs the program, and kills it before the change with that number. Returns the number of changes.
-int run_until(const QStringList& arguments, int last)
+/// Called before a change; the process continues if the result is true.
+using change_step = std::function<bool(pid_t child, const system_call& call)>;
+
+/// Runs the program until the step returns false, and kills it then.
+void run_by_changes(const QStringList& arguments, const change_step& step)
 {
     const pid_t child = start(arguments);
     int state = 0;
     waitpid(child, &state, 0);
     ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
     int signal = 0;
-    int changes = 0;
     while (true) {
         ptrace(PTRACE_SYSCALL, child, nullptr, signal);
         waitpid(child, &state, 0);
         if (!WIFSTOPPED(state))
-            return changes;
+            return;
         const bool at_call = WSTOPSIG(state) == (SIGTRAP | 0x80);
         signal = at_call || WSTOPSIG(state) == SIGTRAP ? 0 : WSTOPSIG(state);
-        changes += at_call && is_at_change(child) ? 1 : 0;
-        if (changes == last)
+        const auto change = at_call ? change_at_stop(child) : std::nullopt;
+        if (change && !step(child, *change))
             break;
     }
     kill(child, SIGKILL);
     waitpid(child, &state, 0);
-    return changes;
+}
+
+void limit_files_of(pid_t process, rlim_t bytes)
+{
+    rlimit limit{};
+    prlimit(process, RLIMIT_FSIZE, nullptr, &limit);
+    limit.rlim_cur = std::min(bytes, limit.rlim_max);
+    prlimit(process, RLIMIT_FSIZE, &limit, nullptr);
 }
 
 }  // namespace
 
 int number_of_writes(const QStringList& arguments)
 {
-    return run_until(arguments, -1);
+    int changes = 0;
+    run_by_changes(arguments, [&](pid_t, const system_call&) { return ++changes > 0; });
+    return changes;
 }
 
 void kill_before_write(const QStringList& arguments, int number)
 {
-    run_until(arguments, number);
+    int changes = 0;
+    run_by_changes(arguments, [&](pid_t, const system_call&) { return ++changes < number; });
+}
+
+int run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes)
+{
+    int limited = 0;
+    run_by_changes(arguments, [&](pid_t child, const system_call& call) {
+        const QString file = QFile::symLinkTarget(u"/proc/%1/fd/%2"_s.arg(child).arg(call.entry.args[0]));
+        const bool is_limited = file.endsWith(ending);
+        limit_files_of(child, is_limited ? bytes : RLIM_INFINITY);
+        limited += is_limited ? 1 : 0;
+        return true;
+    });
+    return limited;
 }
 
 std::vector<int> some_writes(int all)

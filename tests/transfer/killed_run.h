@@ -13,6 +13,10 @@ int number_of_writes(const QStringList& arguments);
 /// program ends by itself.
 void kill_before_write(const QStringList& arguments, int number);
 
+/// Runs the program; files whose path has that ending cannot grow beyond that size, in bytes, and all others
+/// can. Returns how many times the program changed such a file.
+int run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes);
+
 /// Numbers of writes from 1 to `all`: the first eight, the last eight and some between.
 std::vector<int> some_writes(int all);
 

@@ -289,6 +289,18 @@ private Q_SLOTS:
         QCOMPARE(folder.files(), (QStringList{u"copy.db"_s, u"Verdbase.db"_s}));
     }
 
+    void a_copy_that_was_not_completed_changes_nothing()
+    {
+        const restored_folder folder;
+        const QStringList before = all_rows(folder.diary);
+        // The log of the new file can be written, but not be copied into the file.
+        QVERIFY(run_without_space_for(folder.arguments(), u"Verdbase.db.restored"_s, 8192) > 1);
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(folder.kept(), QStringList());
+        QCOMPARE(folder.files(), (QStringList{u"copy.db"_s, u"Verdbase.db"_s}));
+        QCOMPARE(folder.restore(), status(exit_status::done));
+    }
+
     /// The last writes are those that replace the file.
     void a_kill_leaves_the_old_diary_or_the_new_one_and_can_be_repeated()
     {
