@@ -6,6 +6,7 @@
 
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
+#include "store/diary_copy.h"
 #include "store/store_files.h"
 #include "store/store_lock.h"
 #include "transfer/console.h"
@@ -22,11 +23,11 @@ namespace {
 
 const QString new_ending = u".restored"_s;
 
-/// Writes what `copy` has into a new file next to the place. False if `copy` has no tables.
+/// Writes what `copy` has into a new file next to the place. False if `copy` has no rows.
 bool write_new_file(const store_location& copy, const QString& path)
 {
     Connection1 from;
-    if (!from.OpenExisting(copy))
+    if (!from.OpenExisting(copy) || tables_in_use(from).empty())
         return false;
     write_closed_copy(from, path);
     return true;

@@ -253,6 +253,18 @@ private Q_SLOTS:
         QCOMPARE(folder.files(), QStringList{u"Verdbase.db"_s});
     }
 
+    void a_copy_without_rows_is_refused_and_nothing_changes()
+    {
+        const restored_folder folder;
+        const QStringList before = all_rows(folder.diary);
+        QVERIFY(QFile::remove(folder.copy_path));
+        Connection1().Open(folder.copy_path);
+        QCOMPARE(folder.restore(), status(exit_status::no_diary));
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(folder.kept(), QStringList());
+        QCOMPARE(folder.files(), (QStringList{u"copy.db"_s, u"Verdbase.db"_s}));
+    }
+
     void a_wrong_command_line_is_refused_data()
     {
         QTest::addColumn<QStringList>("arguments");
