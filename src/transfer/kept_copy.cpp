@@ -11,6 +11,7 @@
 #include "store/diary_copy.h"
 #include "store/engines/file_backup.h"
 #include "store/store_files.h"
+#include "transfer/whole_files.h"
 
 namespace verdane {
 
@@ -23,6 +24,14 @@ bool is_free(const QString& path)
     return !QFile::exists(path) &&
            std::none_of(endings_of_logs.begin(), endings_of_logs.end(),
                         [&](QStringView ending) { return QFile::exists(path + ending); });
+}
+
+/// The path of every copy of a store begins with it.
+QString start_of_copies(const store_location& store)
+{
+    const bool is_file = store.where == store_location::place::file;
+    const QFileInfo file(is_file ? store.name : Connection1::default_path());
+    return file.absolutePath() + u"/copies/" + (is_file ? file.completeBaseName() : store.name);
 }
 
 /// Closing a connection does not fail if the log cannot be copied into the file.
@@ -38,11 +47,8 @@ void check_closed(const QString& path)
 
 QString free_copy_path(const store_location& store, const QString& why)
 {
-    const bool is_file = store.where == store_location::place::file;
-    const QFileInfo file(is_file ? store.name : Connection1::default_path());
-    const QString name = is_file ? file.completeBaseName() : store.name;
-    const QString start = file.absolutePath() + u"/copies/" + name + u'-' +
-                          QDate::currentDate().toString(Qt::ISODate) + u'-' + why;
+    const QString start =
+        start_of_copies(store) + u'-' + QDate::currentDate().toString(Qt::ISODate) + u'-' + why;
     QString path = start + u".db";
     for (int number = 2; !is_free(path); ++number)
         path = start + u'-' + QString::number(number) + u".db";
@@ -67,16 +73,10 @@ void write_closed_copy(Connection1& from, const QString& path)
 
 QString keep_copy(Connection1& store, const QString& why)
 {
+    const QString unfinished = start_of_copies(store.location()) + u'-' + why + u"-unfinished";
+    write_closed_copy(store, unfinished);
     const QString path = free_copy_path(store.location(), why);
-    Connection1 copy;
-    copy.Open(path);
-    try {
-        copy_diary(store, copy, [](const counted_table&) {});
-    } catch (...) {
-        copy.Close();
-        remove_store_files(path);
-        throw;
-    }
+    replace_file(unfinished, path);
     return path;
 }
 

@@ -24,8 +24,9 @@ QString free_copy_path(const store_location& store, const QString& why);
 /// `store_full` if the file is not complete, and like `check_copy`; no file is left then.
 void write_closed_copy(Connection1& from, const QString& path);
 
-/// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path. Fails
-/// like `copy_diary`; no file is left then.
+/// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path, which
+/// has the whole copy or nothing, also if the process is killed. Fails like `write_closed_copy` and
+/// `replace_file`.
 QString keep_copy(Connection1& store, const QString& why);
 
 }  // namespace verdane

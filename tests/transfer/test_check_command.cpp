@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <algorithm>
@@ -62,6 +63,11 @@ QStringList kept_copies(const QString& folder)
     for (const QString& name : copies.entryList(QDir::Files))
         paths << copies.filePath(name);
     return paths;
+}
+
+QStringList finished_copies(const QString& folder)
+{
+    return kept_copies(folder).filter(QRegularExpression(u"\\.db$"_s));
 }
 
 }  // namespace
@@ -281,6 +287,41 @@ private Q_SLOTS:
             QVERIFY2(costs == strokes, qPrintable(QString::number(number)));
             QCOMPARE(store_run(arguments(folder)).run(), status(exit_status::done));
         }
+    }
+
+    void a_repair_that_is_killed_leaves_whole_copies_only()
+    {
+        const QString damage = u"update Stat_rounds set addpen = 7"_s;
+        const auto arguments = [](const copied_folder& folder) {
+            return QStringList{u"check"_s, file_argument(folder.diary), u"--repair"_s};
+        };
+        const copied_folder whole;
+        reader(whole.diary).write(damage);
+        const QStringList before = all_rows(whole.diary);
+        const int writes = number_of_writes(arguments(whole));
+        int unfinished = 0;
+        for (int number = writes / 8; number < writes; number += writes / 8) {
+            const copied_folder folder;
+            reader(folder.diary).write(damage);
+            kill_before_write(arguments(folder), number);
+            for (const QString& copy : finished_copies(folder.folder.path()))
+                QCOMPARE(all_rows(copy), before);
+            unfinished += kept_copies(folder.folder.path()) == finished_copies(folder.folder.path()) ? 0 : 1;
+            QCOMPARE(store_run(arguments(folder)).run(), status(exit_status::done));
+            QCOMPARE(kept_copies(folder.folder.path()), finished_copies(folder.folder.path()));
+        }
+        QVERIFY(unfinished > 0);
+    }
+
+    void a_copy_that_was_not_completed_prevents_the_repair()
+    {
+        const copied_folder folder;
+        reader(folder.diary).write(u"update Stat_rounds set addpen = 7"_s);
+        const QStringList before = all_rows(folder.diary);
+        const QStringList arguments{u"check"_s, file_argument(folder.diary), u"--repair"_s};
+        QVERIFY(run_without_space_for(arguments, u"-repair-unfinished"_s, 8192) > 1);
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(kept_copies(folder.folder.path()), QStringList());
     }
 
     void a_diary_in_use_is_refused()
