@@ -3,6 +3,7 @@
 #include "scoring/limits.h"
 #include "scoring/words.h"
 #include "store/Connection1.h"
+#include "store/schema.h"
 
 namespace verdane {
 
@@ -60,25 +61,82 @@ std::vector<text_pair> words_of_penalties()
     return {penalty_words.begin(), penalty_words.end() - 1};
 }
 
+/// Keys are compared without blanks around them: a row whose key has one is not without its round, and is
+/// reported by a rule of its own.
 QString keys_of(const QString& table)
 {
-    return u"(select date from "_s + table + u" where date is not null)";
+    return u"(select trim(date) from "_s + table + u" where date is not null)";
 }
 
 QString without_round(const QString& table)
 {
-    return table + u" where (date is null or date not in "_s + keys_of(u"games"_s) + u')';
+    return table + u" where (date is null or trim(date) not in "_s + keys_of(u"games"_s) + u')';
 }
 
 /// Rows of rounds that are lost completely. Those of a round that has shots are used when it is made again.
 QString without_round_and_shots(const QString& table)
 {
-    return without_round(table) + u" and (date is null or date not in " + keys_of(u"Stat_rounds"_s) + u')';
+    return without_round(table) + u" and (date is null or trim(date) not in " + keys_of(u"Stat_rounds"_s) +
+           u')';
+}
+
+QString is_empty(const column& tested)
+{
+    const QString name = u'`' + tested.name + u'`';
+    if (tested.type == column_type::text)
+        return u"trim(coalesce("_s + name + u", '')) = ''";
+    if (tested.type == column_type::any)
+        return u"trim(coalesce("_s + name + u", '')) in ('', '0')";
+    return u"coalesce("_s + name + u", 0) = 0";
+}
+
+/// The condition that a row has no other values than its key and those of a new row.
+QString has_no_values(const QString& name)
+{
+    QStringList conditions;
+    for (const column& each : find_table(name)->columns) {
+        if (each.name != u"date")
+            conditions << is_empty(each);
+    }
+    return u'(' + conditions.join(u" and "_s) + u')';
+}
+
+QString empty_without_round(const QString& table)
+{
+    return without_round_and_shots(table) + u" and " + has_no_values(table);
+}
+
+/// Values are not deleted: the round that they belong to may be in a copy.
+diary_rule rule_of_values_without_round(const QString& table)
+{
+    return {u"aucune ligne remplie de %1 n'est sans ronde"_s.arg(table),
+            u"no row of %1 with values is without its round"_s.arg(table),
+            u"select coalesce(date, '') from "_s + without_round_and_shots(table) + u" and not " +
+                has_no_values(table),
+            {},
+            true};
+}
+
+QString with_blank_in_key(const QString& table)
+{
+    return u"select date from "_s + table + u" where date <> trim(date)";
+}
+
+/// The keys of `games` have a rule of their own.
+diary_rule rule_of_blanks_in_keys()
+{
+    return {u"aucune clé ne commence ni ne finit par un blanc"_s,
+            u"no key begins or ends with a blank"_s,
+            QStringList{with_blank_in_key(u"games2"_s), with_blank_in_key(u"cost"_s),
+                        with_blank_in_key(u"Stat_rounds"_s)}
+                .join(u" union "_s),
+            {},
+            true};
 }
 
 QString round_without(const QString& table)
 {
-    return u"from games where date not in "_s + keys_of(table);
+    return u"from games where trim(date) not in "_s + keys_of(table);
 }
 
 QString round_with_several(const QString& table)
@@ -103,8 +161,9 @@ std::vector<diary_rule> rules_of_rounds()
          {}},
         {u"chaque ligne de games2 a sa ronde"_s,
          u"every row of games2 has its round"_s,
-         u"select coalesce(date, '') from "_s + without_round_and_shots(u"games2"_s),
-         {u"delete from "_s + without_round_and_shots(u"games2"_s)}},
+         u"select coalesce(date, '') from "_s + empty_without_round(u"games2"_s),
+         {u"delete from "_s + empty_without_round(u"games2"_s)}},
+        rule_of_values_without_round(u"games2"_s),
         {u"chaque ronde a une ligne de games2"_s,
          u"every round has one row of games2"_s,
          u"select date "_s + round_without(u"games2"_s),
@@ -116,8 +175,9 @@ std::vector<diary_rule> rules_of_rounds()
          {}},
         {u"chaque ligne de cost a sa ronde"_s,
          u"every row of cost has its round"_s,
-         u"select coalesce(date, '') from "_s + without_round_and_shots(u"cost"_s),
-         {u"delete from "_s + without_round_and_shots(u"cost"_s)}},
+         u"select coalesce(date, '') from "_s + empty_without_round(u"cost"_s),
+         {u"delete from "_s + empty_without_round(u"cost"_s)}},
+        rule_of_values_without_round(u"cost"_s),
         {u"chaque ronde a une ligne de cost"_s,
          u"every round has one row of cost"_s,
          u"select date "_s + round_without(u"cost"_s),
@@ -126,6 +186,7 @@ std::vector<diary_rule> rules_of_rounds()
          u"no round has two rows of cost"_s,
          round_with_several(u"cost"_s),
          {}},
+        rule_of_blanks_in_keys(),
     };
 }
 

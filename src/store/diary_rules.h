@@ -17,6 +17,8 @@ struct diary_rule {
     QString violations;
     /// Statements for every engine that repair all violations; empty if the user must decide how.
     QStringList repairs;
+    /// Whether the windows cannot correct a violation either, so that a copy must be put back.
+    bool needs_copy = false;
 
     QString sentence() const { return in_language(sentence_french, sentence_english); }
 };

@@ -31,7 +31,7 @@ QString advice(const diary_problem& problem)
 {
     if (problem.repair)
         return in_language(u"--repair le répare", u"--repair repairs it");
-    if (problem.in_structure)
+    if (problem.in_structure || problem.needs_copy)
         return in_language(u"remettez une copie en place (restore)", u"put a copy back in place (restore)");
     if (problem.lost_shots)
         return in_language(u"--repair --make-rounds en fait des rondes",

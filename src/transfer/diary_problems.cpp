@@ -100,6 +100,7 @@ void find_violations(const diary_snapshot& diary, const diary_rule& rule, proble
     for (std::size_t i = 0; i < std::min(most_places, violations.size()); ++i)
         problem.places << violations[i][0].toString();
     problem.lost_shots = rule.violations == rule_of_lost_shots().violations;
+    problem.needs_copy = rule.needs_copy;
     if (!rule.repairs.isEmpty())
         problem.repair = [repairs = rule.repairs](Connection1& store) {
             for (const QString& statement : repairs)

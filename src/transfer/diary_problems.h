@@ -22,6 +22,8 @@ struct diary_problem {
     bool in_structure = false;
     /// Shots without a round.
     bool lost_shots = false;
+    /// The windows cannot correct it: a copy must be put back.
+    bool needs_copy = false;
 };
 
 /// Checks tables and columns, the rows of tables of fixed size, the indexes and the rules of the diary. The

@@ -168,6 +168,47 @@ private Q_SLOTS:
         QCOMPARE(repair.run(), status(repaired ? exit_status::done : exit_status::problems));
     }
 
+    void a_row_that_only_a_copy_can_correct_is_not_changed_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("damage");
+        QTest::addColumn<QString>("reported");
+        const auto row = [](const char* name, const QString& table, const QString& damage,
+                            const QString& reported) { QTest::newRow(name) << table << damage << reported; };
+        row("temperature of no round", u"games2"_s,
+            u"insert into games2 (date, temperature) values ('20200101000000', 20)"_s,
+            u"no row of games2 with values is without its round (1 : 20200101000000)"_s);
+        row("partners of no round", u"games2"_s, u"insert into games2 (PARTNERS) values ('1-')"_s,
+            u"no row of games2 with values is without its round (1 : )"_s);
+        row("spare value of no round", u"games2"_s,
+            u"insert into games2 (date, games2_spare_1) values ('20200101000000', '7')"_s,
+            u"no row of games2 with values is without its round (1 : 20200101000000)"_s);
+        row("costs of no round", u"cost"_s, u"insert into cost (date, au) values ('20200101000000', 5)"_s,
+            u"no row of cost with values is without its round (1 : 20200101000000)"_s);
+        for (const QString& table : {u"games2"_s, u"cost"_s, u"Stat_rounds"_s})
+            row(qPrintable(u"blank in a key of "_s + table), table,
+                u"update %1 set date = '%2 ' where date = '%2'"_s.arg(table, key_in_diary(1)),
+                u"no key begins or ends with a blank (1 : %1 )"_s.arg(key_in_diary(1)));
+    }
+
+    void a_row_that_only_a_copy_can_correct_is_not_changed()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, damage);
+        QFETCH(QString, reported);
+        const checked_store checked;
+        checked.store.write({damage, u"update Stat_rounds set addpen = 7"_s});
+        const QString count = u"select count(*) from "_s + table;
+        const int before = checked.store.number(count);
+        store_run repair(checked.arguments({u"--repair"_s}));
+        QCOMPARE(repair.run(), status(exit_status::problems));
+        QVERIFY2(repair.output().contains(reported + u"\n    put a copy back in place (restore)\n"),
+                 qUtf8Printable(repair.output()));
+        QVERIFY2(repair.output().endsWith(u"Problems: 1.\n"), qUtf8Printable(repair.output()));
+        QCOMPARE(checked.store.number(count), before);
+        QCOMPARE(checked.store.number(u"select count(*) from Stat_rounds where addpen = 7"_s), 0);
+    }
+
     void a_table_or_column_that_is_missing_is_not_repaired_data()
     {
         QTest::addColumn<QString>("damage");
