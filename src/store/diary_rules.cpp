@@ -139,6 +139,7 @@ QString round_without(const QString& table)
     return u"from games where trim(date) not in "_s + keys_of(table);
 }
 
+/// A window that deletes one of the rows of a key deletes all of them.
 QString round_with_several(const QString& table)
 {
     return u"select date from "_s + table + u" where date is not null group by date having count(*) > 1";
@@ -154,7 +155,11 @@ std::vector<diary_rule> rules_of_rounds()
          u"select coalesce(date, '') from games "
          "where date is null or length(date) <> 14 or date glob '*[^0-9]*'"_s,
          {}},
-        {u"chaque clé n'a qu'une ronde"_s, u"every key has one round"_s, round_with_several(u"games"_s), {}},
+        {u"chaque clé n'a qu'une ronde"_s,
+         u"every key has one round"_s,
+         round_with_several(u"games"_s),
+         {},
+         true},
         {u"le journal a %1 rondes au plus"_s.arg(most_rounds),
          u"the diary has %1 rounds at most"_s.arg(most_rounds),
          u"select rounds from (select count(*) as rounds from games) where rounds > %1"_s.arg(most_rounds),
@@ -166,13 +171,14 @@ std::vector<diary_rule> rules_of_rounds()
         rule_of_values_without_round(u"games2"_s),
         {u"chaque ronde a une ligne de games2"_s,
          u"every round has one row of games2"_s,
-         u"select date "_s + round_without(u"games2"_s),
-         {u"insert into games2 (date, conditionM, FC) select date, 0, CODEF "_s +
-          round_without(u"games2"_s)}},
+         u"select distinct date "_s + round_without(u"games2"_s),
+         {u"insert into games2 (date, conditionM, FC) select date, 0, min(CODEF) "_s +
+          round_without(u"games2"_s) + u" group by date"}},
         {u"aucune ronde n'a deux lignes de games2"_s,
          u"no round has two rows of games2"_s,
          round_with_several(u"games2"_s),
-         {}},
+         {},
+         true},
         {u"chaque ligne de cost a sa ronde"_s,
          u"every row of cost has its round"_s,
          u"select coalesce(date, '') from "_s + empty_without_round(u"cost"_s),
@@ -180,12 +186,13 @@ std::vector<diary_rule> rules_of_rounds()
         rule_of_values_without_round(u"cost"_s),
         {u"chaque ronde a une ligne de cost"_s,
          u"every round has one row of cost"_s,
-         u"select date "_s + round_without(u"cost"_s),
-         {u"insert into cost (date) select date "_s + round_without(u"cost"_s)}},
+         u"select distinct date "_s + round_without(u"cost"_s),
+         {u"insert into cost (date) select distinct date "_s + round_without(u"cost"_s)}},
         {u"aucune ronde n'a deux lignes de cost"_s,
          u"no round has two rows of cost"_s,
          round_with_several(u"cost"_s),
-         {}},
+         {},
+         true},
         rule_of_blanks_in_keys(),
     };
 }

@@ -185,6 +185,13 @@ private Q_SLOTS:
             u"no row of games2 with values is without its round (1 : 20200101000000)"_s);
         row("costs of no round", u"cost"_s, u"insert into cost (date, au) values ('20200101000000', 5)"_s,
             u"no row of cost with values is without its round (1 : 20200101000000)"_s);
+        row("two rounds of a key", u"games"_s,
+            u"insert into games (date) values ('%1')"_s.arg(key_in_diary(1)),
+            u"every key has one round (1 : %1)"_s.arg(key_in_diary(1)));
+        for (const QString& table : {u"games2"_s, u"cost"_s})
+            row(qPrintable(u"two rows of "_s + table), table,
+                u"insert into %1 (date) values ('%2')"_s.arg(table, key_in_diary(1)),
+                u"no round has two rows of %1 (1 : %2)"_s.arg(table, key_in_diary(1)));
         for (const QString& table : {u"games2"_s, u"cost"_s, u"Stat_rounds"_s})
             row(qPrintable(u"blank in a key of "_s + table), table,
                 u"update %1 set date = '%2 ' where date = '%2'"_s.arg(table, key_in_diary(1)),
@@ -207,6 +214,19 @@ private Q_SLOTS:
         QVERIFY2(repair.output().endsWith(u"Problems: 1.\n"), qUtf8Printable(repair.output()));
         QCOMPARE(checked.store.number(count), before);
         QCOMPARE(checked.store.number(u"select count(*) from Stat_rounds where addpen = 7"_s), 0);
+    }
+
+    void a_repair_adds_one_row_for_two_rounds_of_a_key()
+    {
+        const checked_store checked;
+        const QString key = key_in_diary(1);
+        checked.lose({u"games2"_s, u"cost"_s});
+        checked.store.write(u"insert into games (date, CODEF) values ('%1', 'other')"_s.arg(key));
+        store_run repair(checked.arguments({u"--repair"_s}));
+        QCOMPARE(repair.run(), status(exit_status::problems));
+        QVERIFY2(repair.output().endsWith(u"Problems: 1.\n"), qUtf8Printable(repair.output()));
+        for (const QString& table : {u"games2"_s, u"cost"_s})
+            QCOMPARE(checked.store.number(u"select count(*) from %1 where date = '%2'"_s.arg(table, key)), 1);
     }
 
     void a_table_or_column_that_is_missing_is_not_repaired_data()
