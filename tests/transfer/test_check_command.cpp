@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <optional>
 
 #include "store/Connection1.h"
 #include "tests/support/engine_of_tests.h"
@@ -192,6 +193,9 @@ private Q_SLOTS:
             row(qPrintable(u"two rows of "_s + table), table,
                 u"insert into %1 (date) values ('%2')"_s.arg(table, key_in_diary(1)),
                 u"no round has two rows of %1 (1 : %2)"_s.arg(table, key_in_diary(1)));
+        // MariaDB drops a blank after the 14 characters of the column.
+        if (engine_of_tests() == test_engine::mariadb)
+            return;
         for (const QString& table : {u"games2"_s, u"cost"_s, u"Stat_rounds"_s})
             row(qPrintable(u"blank in a key of "_s + table), table,
                 u"update %1 set date = '%2 ' where date = '%2'"_s.arg(table, key_in_diary(1)),
@@ -208,10 +212,11 @@ private Q_SLOTS:
         const QString count = u"select count(*) from "_s + table;
         const int before = checked.store.number(count);
         store_run repair(checked.arguments({u"--repair"_s}));
-        QCOMPARE(repair.run(), status(exit_status::problems));
+        const std::optional<int> ended = repair.run();
         QVERIFY2(repair.output().contains(reported + u"\n    put a copy back in place (restore)\n"),
                  qUtf8Printable(repair.output()));
         QVERIFY2(repair.output().endsWith(u"Problems: 1.\n"), qUtf8Printable(repair.output()));
+        QCOMPARE(ended, status(exit_status::problems));
         QCOMPARE(checked.store.number(count), before);
         QCOMPARE(checked.store.number(u"select count(*) from Stat_rounds where addpen = 7"_s), 0);
     }
