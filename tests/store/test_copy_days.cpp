@@ -52,8 +52,8 @@ class test_copy_days : public QObject {
 private Q_SLOTS:
     void a_copy_has_the_name_of_the_store_and_its_day()
     {
-        QCOMPARE(path_of_copy(u"/home/golfer/Verdbase.db"_s, QDate(2026, 6, 4)),
-                 u"/home/golfer/copies/Verdbase-2026-06-04.db"_s);
+        QCOMPARE(path_of_copy(u"/diaries/Verdbase.db"_s, QDate(2026, 6, 4)),
+                 u"/diaries/copies/Verdbase-2026-06-04.db"_s);
     }
 
     void only_files_with_content_and_the_name_of_a_copy_are_copies()
