@@ -8,7 +8,7 @@
 #include "scoring/limits.h"
 #include "shell/language_change.h"
 #include "store/DataEnvironment1.h"
-#include "store/diary_copy.h"
+#include "store/recovery/diary_copy.h"
 #include "tests/support/reader.h"
 
 namespace verdane::bench {

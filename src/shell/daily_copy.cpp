@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "store/dated_copies.h"
+#include "store/recovery/dated_copies.h"
 
 namespace verdane {
 

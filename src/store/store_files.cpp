@@ -1,7 +1,7 @@
 #include "store/store_files.h"
 
 #include "base/run_time_failure.h"
-#include "store/copy_days.h"
+#include "store/recovery/copy_days.h"
 
 #include <QFile>
 #include <QFileInfo>

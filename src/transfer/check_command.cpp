@@ -4,11 +4,11 @@
 
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
+#include "store/recovery/diary_problems.h"
+#include "store/recovery/diary_snapshot.h"
+#include "store/recovery/kept_copy.h"
+#include "store/recovery/lost_rounds.h"
 #include "transfer/console.h"
-#include "transfer/diary_problems.h"
-#include "transfer/diary_snapshot.h"
-#include "transfer/kept_copy.h"
-#include "transfer/lost_rounds.h"
 #include "transfer/store_argument.h"
 
 namespace verdane {

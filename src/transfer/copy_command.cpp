@@ -2,7 +2,7 @@
 
 #include <QFile>
 
-#include "store/diary_copy.h"
+#include "store/recovery/diary_copy.h"
 #include "store/store_files.h"
 #include "transfer/console.h"
 #include "transfer/store_argument.h"

@@ -6,14 +6,14 @@
 
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
-#include "store/diary_copy.h"
+#include "store/recovery/diary_copy.h"
+#include "store/recovery/kept_copy.h"
+#include "store/recovery/whole_files.h"
 #include "store/store_files.h"
 #include "store/store_lock.h"
 #include "transfer/console.h"
-#include "transfer/kept_copy.h"
 #include "transfer/sole_use.h"
 #include "transfer/store_argument.h"
-#include "transfer/whole_files.h"
 
 namespace verdane {
 

@@ -12,7 +12,7 @@
 #include "scoring/round_totals.h"
 #include "scoring/season_rounds.h"
 #include "scoring/words.h"
-#include "store/copy_days.h"
+#include "store/recovery/copy_days.h"
 #include "tests/guide/guide_pages.h"
 #include "tests/support/languages.h"
 

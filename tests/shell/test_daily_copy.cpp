@@ -6,7 +6,7 @@
 #include "shell/daily_copy.h"
 #include "shell/MainForm.h"
 #include "shell/start_up.h"
-#include "store/copy_days.h"
+#include "store/recovery/copy_days.h"
 #include "tests/shell/main_windows.h"
 #include "tests/shell/program_run.h"
 

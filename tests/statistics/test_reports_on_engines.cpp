@@ -18,7 +18,7 @@
 #include "statistics/season_tables.h"
 #include "statistics/selection.h"
 #include "store/DataEnvironment1.h"
-#include "store/diary_copy.h"
+#include "store/recovery/diary_copy.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/full_diary.h"

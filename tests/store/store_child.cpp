@@ -10,8 +10,8 @@
 #include <unistd.h>
 
 #include "store/Connection1.h"
-#include "store/dated_copies.h"
 #include "store/Recordset.h"
+#include "store/recovery/dated_copies.h"
 #include "tests/store/store_child.h"
 #include "tests/support/engine_of_tests.h"
 

@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "store/copy_days.h"
+#include "store/recovery/copy_days.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;

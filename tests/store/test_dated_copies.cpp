@@ -6,8 +6,8 @@
 #include <memory>
 #include <sys/stat.h>
 
-#include "store/copy_days.h"
-#include "store/dated_copies.h"
+#include "store/recovery/copy_days.h"
+#include "store/recovery/dated_copies.h"
 #include "tests/store/store_child.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"

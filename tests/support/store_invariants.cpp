@@ -1,6 +1,6 @@
 #include "tests/support/store_invariants.h"
 
-#include "store/diary_rules.h"
+#include "store/recovery/diary_rules.h"
 
 namespace verdane::testing {
 

@@ -1,4 +1,4 @@
-#include "store/diary_rules.h"
+#include "store/recovery/diary_rules.h"
 
 #include "scoring/limits.h"
 #include "scoring/words.h"

@@ -1,4 +1,4 @@
-#include "transfer/diary_snapshot.h"
+#include "store/recovery/diary_snapshot.h"
 
 #include <QSqlError>
 #include <QSqlQuery>

@@ -1,15 +1,15 @@
-#include "transfer/diary_problems.h"
+#include "store/recovery/diary_problems.h"
 
 #include <algorithm>
 
 #include "base/language.h"
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
-#include "store/diary_rules.h"
 #include "store/engines/source_tables.h"
 #include "store/fresh_store.h"
+#include "store/recovery/diary_rules.h"
+#include "store/recovery/diary_snapshot.h"
 #include "store/schema.h"
-#include "transfer/diary_snapshot.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "transfer/lost_rounds.h"
+#include "store/recovery/lost_rounds.h"
 
 #include <QRegularExpression>
 
@@ -10,9 +10,9 @@
 #include "scoring/limits.h"
 #include "scoring/words.h"
 #include "store/Connection1.h"
-#include "store/diary_rules.h"
 #include "store/engines/engine.h"
-#include "transfer/diary_snapshot.h"
+#include "store/recovery/diary_rules.h"
+#include "store/recovery/diary_snapshot.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "store/diary_copy.h"
+#include "store/recovery/diary_copy.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "transfer/whole_files.h"
+#include "store/recovery/whole_files.h"
 
 #include <QDir>
 #include <QFileInfo>

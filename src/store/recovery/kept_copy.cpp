@@ -1,4 +1,4 @@
-#include "transfer/kept_copy.h"
+#include "store/recovery/kept_copy.h"
 
 #include <QDate>
 #include <QDir>
@@ -8,10 +8,10 @@
 
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
-#include "store/diary_copy.h"
 #include "store/engines/file_backup.h"
+#include "store/recovery/diary_copy.h"
+#include "store/recovery/whole_files.h"
 #include "store/store_files.h"
-#include "transfer/whole_files.h"
 
 namespace verdane {
 

@@ -1,4 +1,4 @@
-#include "store/copy_days.h"
+#include "store/recovery/copy_days.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "store/dated_copies.h"
+#include "store/recovery/dated_copies.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,8 +7,8 @@
 #include <filesystem>
 
 #include "base/run_time_failure.h"
-#include "store/copy_days.h"
 #include "store/engines/file_backup.h"
+#include "store/recovery/copy_days.h"
 
 namespace verdane {
 
