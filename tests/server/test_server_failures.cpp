@@ -1,15 +1,12 @@
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QProcess>
 #include <QTest>
 
 #include <csignal>
-#include <cstdio>
 #include <functional>
 
-#include "base/language.h"
 #include "shell/start_up.h"
 #include "store/schema.h"
+#include "tests/server/failing_round.h"
 #include "tests/server/own_server.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/engine_of_tests.h"
@@ -21,43 +18,6 @@ using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int not_reached = 77;
-/// Longer than any time-out of the program.
-constexpr int longest_ms = 60000;
-
-const QString hole_tabs = u"TabStrip1"_s;
-
-/// Prints a line and returns when a line can be read.
-void report_and_wait(const char* word)
-{
-    std::printf("%s\n", word);
-    std::fflush(stdout);
-    while (std::getchar() != '\n') {
-    }
-}
-
-void open_the_round(hand& user)
-{
-    user.wait_for_window(u"MainForm"_s);
-    user.menu(u"mnOPenr"_s);
-    user.wait_for_window(in_language(u"f_games", u"f_games_en"));
-    user.double_click_row(u"List1"_s, 0);
-    user.wait_for_window(in_language(u"f_new_round", u"f_new_round_en"));
-}
-
-/// The figures with which a hole is left: every digit is the same.
-QString figures_of(int hole)
-{
-    return QString(11, QChar(u'0' + 1 + hole % 9));
-}
-
-/// Types the figures of a hole and selects the next one, which stores them.
-void leave_hole(hand& user, int hole)
-{
-    user.type(figures_of(hole));
-    user.click_tab(hole_tabs, hole + 1);
-}
 
 /// The child process: leaves one hole. When the test has made the server fail, it leaves another one, or
 /// selects the detailed page, which adds a row, and expects the message box of the failure.
@@ -75,17 +35,6 @@ int fail_in_a_round(failure_kind kind)
              user.answer(failure_box(kind));
          });
     return not_reached;
-}
-
-/// The eleven figures of a hole in the order of the quick page.
-QString stored_figures(const reader& store, int hole)
-{
-    QStringList columns;
-    for (const QString& name :
-         {u"long_"_s, u"approach_"_s, u"putt_"_s, u"fairway_"_s, u"sand_"_s, u"missed_"_s, u"recovery_"_s,
-          u"pen_water_"_s, u"pen_lost_"_s, u"pen_rule_"_s, u"pen_bounds_"_s})
-        columns << u"coalesce(%1%2, 0)"_s.arg(name).arg(hole);
-    return store.text(u"select " + columns.join(u" || ") + u" from games join games2 using (date)");
 }
 
 /// Grants or revokes rights on each table, because open connections keep their rights on a whole database.
@@ -192,26 +141,14 @@ private Q_SLOTS:
         const harm& what = harms()[static_cast<std::size_t>(index)];
         const program_run run(french ? 1 : 2, one_course() + one_round());
         what.prepare();
-        QProcess child;
-        child.start(QCoreApplication::applicationFilePath(),
-                    {u"--child"_s, QString::number(static_cast<int>(what.kind))});
-        while (!child.canReadLine())
-            QVERIFY(child.waitForReadyRead(60000));
-        what.occur();
-        QElapsedTimer time;
-        time.start();
-        child.write("\n");
-        const bool ended = child.waitForFinished(2 * longest_ms);
-        const qint64 took = time.elapsed();
-        if (!ended)
-            child.kill();
+        const failed_child child =
+            run_failing_child({u"--child"_s, QString::number(static_cast<int>(what.kind))}, what.occur);
         what.undo();
-        QVERIFY(ended);
-        QVERIFY2(took < longest_ms, qPrintable(QString::number(took)));
-        const QByteArray output = child.readAllStandardError();
-        QVERIFY2(!output.contains("FAIL!"), output.constData());
-        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(child.exitCode(), 1);
+        QVERIFY2(child.ended, child.errors.constData());
+        QVERIFY2(child.took_ms < longest_failure_ms, qPrintable(QString::number(child.took_ms)));
+        QVERIFY2(!child.errors.contains("FAIL!"), child.errors.constData());
+        QVERIFY(!child.crashed);
+        QCOMPARE(child.status, 1);
         QCOMPARE(stored_figures(run.store(), 1), figures_of(1));
         QCOMPARE(stored_figures(run.store(), 2), QString(11, u'0'));
         QCOMPARE(run.store().number(u"select count(*) from Stat_rounds"_s), 0);
