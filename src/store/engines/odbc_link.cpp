@@ -32,8 +32,9 @@ failure_kind kind_of_opening(const QSqlError& error)
 QString settings_of_link()
 {
     // OPTION=2: an update counts the rows that match, even if no value changes. BigInt: without it, the
-    // driver of SQLite cuts whole numbers to 32 bits.
-    return u";OPTION=2;BigInt=1;AUTO_RECONNECT=0;CHARSET=utf8mb4"
+    // driver of SQLite cuts whole numbers to 32 bits. Timeout: for that many milliseconds the driver of
+    // SQLite repeats a statement whose own wait for a lock has ended; by default for 100 s.
+    return u";OPTION=2;BigInt=1;Timeout=1;AUTO_RECONNECT=0;CHARSET=utf8mb4"
            ";CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s.arg(source_opening_time_out_s)
                .arg(source_time_out_s);
 }

@@ -24,9 +24,12 @@ namespace {
 /// How much of the file the engine may keep in memory.
 constexpr int kept_pages_kb = 16 * 1024;
 
-/// How long a statement waits for the lock of another program, in seconds. The program shows nothing
-/// meanwhile.
-constexpr int lock_time_out_s = 20;
+/// How long a statement waits for the lock of another program, in seconds. Then the driver runs it once more,
+/// so it fails after twice that time. The program shows nothing meanwhile.
+constexpr int lock_time_out_s = 10;
+
+/// The documented result code of the engine.
+constexpr int input_output_error = 10;
 
 constexpr QStringView columns_of_tables = u"select m.name, p.name, p.type from sqlite_master m join "
                                           u"pragma_table_info(m.name) p where m.type = 'table' "
@@ -150,7 +153,11 @@ const commit_statements& sqlite_odbc_engine::commits() const
 
 run_time_failure sqlite_odbc_engine::failure(const QSqlError& error, const QString& where) const
 {
-    return store_failure(error, where);
+    const run_time_failure known = store_failure(error, where);
+    // The driver does not report which operation on the file failed: most often a write, of an open file.
+    if (native_code(error) == input_output_error)
+        return {failure_kind::store_other, known.details()};
+    return known;
 }
 
 QString sqlite_odbc_engine::text_literal(QStringView text) const
