@@ -152,6 +152,8 @@ void row_editor::remove()
     need_updatable();
     recordset_row& row = current();
     const bool in_store = !row.pending || !row.pending->is_new;
+    if (in_store)
+        number_equal_rows(set, row);
     if (in_store && !batch()) {
         const lock_wait::limit wait = time_out();
         erase_row(connection, set, row, where());

@@ -40,6 +40,8 @@ struct pending_edit {
 struct recordset_row {
     /// The engine's row number; 0 for a row that is not in the store.
     qint64 number = 0;
+    /// For a row that is removed and has no such number: how many rows before it have the same values.
+    int equal_before = 0;
     std::vector<QVariant> cells;
     /// False while only the columns that were read first have their values.
     bool complete = true;

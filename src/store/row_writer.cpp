@@ -1,5 +1,7 @@
 #include "store/row_writer.h"
 
+#include <algorithm>
+
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
 #include "store/engines/engine.h"
@@ -78,25 +80,57 @@ const QVariant& stored_value(const recordset_row& row, int ordinal)
     return cell(row, ordinal);
 }
 
-/// Appends the condition that selects the row: by its number, or by its values in all declared columns if its
-/// table has no column that identifies a row.
-void add_identity(const store_engine& engine, statement_with_values& statement, const row_set& set,
-                  const recordset_row& row)
+/// A value of a row that may be pending.
+using value_in_row = const QVariant& (*)(const recordset_row& row, int ordinal);
+
+/// How many rows before `row` have the values that the store has in it. `value` is what the store has in the
+/// rows before.
+int equal_rows_before(const row_set& set, const recordset_row& row, value_in_row value)
 {
-    statement.text += u" WHERE ";
-    if (set.has_numbers) {
-        statement.text += engine.identity_column(set.shape.table) + u'=';
-        engine.add_value(statement, row.number);
-        return;
+    const std::vector<int> columns = declared_columns(set);
+    int equal = 0;
+    for (const auto& other : set.rows) {
+        if (other.get() == &row)
+            break;
+        equal += std::all_of(columns.begin(), columns.end(), [&](int ordinal) {
+            return value(*other, ordinal) == stored_value(row, ordinal);
+        });
     }
+    return equal;
+}
+
+/// Appends the condition that selects the row by its number.
+void add_number(const store_engine& engine, statement_with_values& statement, const row_set& set,
+                const recordset_row& row)
+{
+    statement.text += u" WHERE " + engine.identity_column(set.shape.table) + u'=';
+    engine.add_value(statement, row.number);
+}
+
+/// The condition that holds for the row, and for those that have the same values in all declared columns.
+statement_with_values condition_of_values(const store_engine& engine, const row_set& set,
+                                          const recordset_row& row)
+{
+    statement_with_values condition;
     QStringView before = u"";
     for (const int ordinal : declared_columns(set)) {
-        statement.text += before;
-        engine.add_comparison(statement, column_name(set, ordinal), stored_value(row, ordinal));
+        condition.text += before;
+        engine.add_comparison(condition, column_name(set, ordinal), stored_value(row, ordinal));
         before = u" AND ";
     }
-    // Two rows with the same values are exchangeable.
-    statement.text += QStringView(u" LIMIT 1");
+    return condition;
+}
+
+/// Runs a statement, which ends before its condition, for the row alone. `equal_before` is the number of rows
+/// before it that a condition on its values cannot distinguish from it. Returns the number of rows that
+/// matched.
+int change_row(store_engine& engine, statement_with_values& statement, const row_set& set,
+               const recordset_row& row, int equal_before, const QString& where)
+{
+    if (!set.has_numbers)
+        return engine.change_one(statement, condition_of_values(engine, set, row), equal_before, where);
+    add_number(engine, statement, set, row);
+    return engine.change(statement, where);
 }
 
 qint64 insert_row(store_engine& engine, const row_set& set, const recordset_row& row, const QString& where)
@@ -141,8 +175,9 @@ void update_row(store_engine& engine, const row_set& set, const recordset_row& r
         engine.add_value(statement, cell(row, ordinal));
         before = u",`";
     }
-    add_identity(engine, statement, set, row);
-    if (engine.change(statement, where) == 0)
+    // The rows before it that are pending, too, have been written by the same batch.
+    const int equal_before = set.has_numbers ? 0 : equal_rows_before(set, row, cell);
+    if (change_row(engine, statement, set, row, equal_before, where) == 0)
         throw no_such_row(where);
 }
 
@@ -165,11 +200,17 @@ void erase_row(const Connection1& connection, const row_set& set, const recordse
 {
     connection.need_soundness();
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
-    add_identity(connection.engine(), statement, set, row);
     ++connection.traffic().statements;
     // Without a number, a row that has other values now would be kept in the store without notice.
-    if (connection.engine().change(statement, where) == 0 && !set.has_numbers)
+    if (change_row(connection.engine(), statement, set, row, row.equal_before, where) == 0 &&
+        !set.has_numbers)
         throw no_such_row(where);
+}
+
+void number_equal_rows(const row_set& set, recordset_row& removed)
+{
+    if (!set.has_numbers)
+        removed.equal_before = equal_rows_before(set, removed, stored_value);
 }
 
 }  // namespace verdane

@@ -1,7 +1,5 @@
 #include "tests/server/foreign_source.h"
 
-#include <QStringList>
-
 #include "store/schema.h"
 #include "tests/server/own_server.h"
 #include "tests/support/outside_connection.h"
@@ -23,6 +21,16 @@ int foreign_source::number(const QString& question) const
     return all_rows(query)[0][0].toInt();
 }
 
+QStringList foreign_source::stored(const QString& question) const
+{
+    const outside_connection server(place);
+    QSqlQuery query = server.run_unchanged(question);
+    QStringList values;
+    for (const auto& row : all_rows(query))
+        values << row[0].toString();
+    return values;
+}
+
 void foreign_source::change(const QString& statement) const
 {
     administer(statement.arg(database()));
@@ -34,9 +42,10 @@ void remove_row_columns(const foreign_source& from)
         administer(u"alter table %1.%2 drop column verdane_row"_s.arg(from.database(), each.name));
 }
 
-std::unique_ptr<Recordset> opened(foreign_source& from, const QString& statement)
+std::unique_ptr<Recordset> opened(foreign_source& from, const QString& statement, lock_type lock)
 {
     recordset_settings settings;
+    settings.lock = lock;
     settings.name = u"rstest"_s;
     settings.source = statement;
     auto rows = std::make_unique<Recordset>(from.connection, settings);

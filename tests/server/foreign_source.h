@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -24,6 +25,8 @@ struct foreign_source {
     void reopen();
     /// The result of a question that the server itself computes, with its own comparison of numbers.
     int number(const QString& question) const;
+    /// The first column of the rows that the server returns, in its order.
+    QStringList stored(const QString& question) const;
     /// Runs a statement as the administrator, in which %1 is the database.
     void change(const QString& statement) const;
 };
@@ -32,7 +35,8 @@ struct foreign_source {
 void remove_row_columns(const foreign_source& from);
 
 /// An open recordset of a statement.
-std::unique_ptr<Recordset> opened(foreign_source& from, const QString& statement);
+std::unique_ptr<Recordset> opened(foreign_source& from, const QString& statement,
+                                  lock_type lock = lock_type::optimistic);
 
 recordset_settings partners_settings(lock_type lock = lock_type::optimistic);
 

@@ -48,6 +48,14 @@ void store_engine::add_comparison(statement_with_values& statement, const QStrin
     add_value(statement, value);
 }
 
+int store_engine::change_one(const statement_with_values& statement, const statement_with_values&, int,
+                             const QString& where)
+{
+    throw run_time_failure(failure_kind::misuse, QString(where + u" [" + statement.text +
+                                                         u"]: the table has no column that "
+                                                         u"identifies a row"));
+}
+
 QSqlDatabase store_engine::database() const
 {
     return QSqlDatabase::database(name_, false);

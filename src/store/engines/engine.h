@@ -88,6 +88,13 @@ public:
     /// the kind that fits the engine's error; its details contain `where` and the statement.
     virtual int change(const statement_with_values& statement, const QString& where) = 0;
 
+    /// Runs a statement that changes or deletes one row of a table without a column that identifies a row.
+    /// `statement` ends before its condition. Of the rows for which `condition` holds, the one is changed
+    /// that has `before` of them before it in the order in which the engine returns the table. Returns the
+    /// number of rows that matched. Fails like `change`. Only for an engine that has such tables.
+    virtual int change_one(const statement_with_values& statement, const statement_with_values& condition,
+                           int before, const QString& where);
+
     /// Runs a statement that inserts one row, and returns the value of its identity column. Fails like
     /// `change`.
     virtual qint64 insert(const statement_with_values& statement, const QString& where) = 0;

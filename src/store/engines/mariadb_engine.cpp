@@ -156,6 +156,20 @@ void mariadb_engine::add_comparison(statement_with_values& statement, const QStr
     add_value(statement, value);
 }
 
+int mariadb_engine::change_one(const statement_with_values& statement, const statement_with_values& condition,
+                               int before, const QString& where)
+{
+    QString chosen = condition.text;
+    if (before > 0) {
+        // The server reads the whole table in its order, and counts the rows for which the condition holds: a
+        // CASE computes the value of a branch only if its condition holds.
+        run(u"set @verdane_equal = 0"_s);
+        chosen = u"CASE WHEN %1 THEN @verdane_equal := @verdane_equal + 1 END = %2"_s.arg(
+            condition.text, QString::number(before + 1));
+    }
+    return change({statement.text + u" WHERE " + chosen + u" LIMIT 1", {}}, where);
+}
+
 qint64 mariadb_engine::insert(const statement_with_values& statement, const QString& where)
 {
     const QString text = statement.text + u" RETURNING " + mariadb_tables::row_column();

@@ -20,6 +20,8 @@ public:
                                  const QString& identity) const override;
     void add_comparison(statement_with_values& statement, const QString& column,
                         const QVariant& value) const override;
+    int change_one(const statement_with_values& statement, const statement_with_values& condition, int before,
+                   const QString& where) override;
     qint64 insert(const statement_with_values& statement, const QString& where) override;
     const commit_statements& commits() const override;
     QString table_ending(const table& declared) const override;
