@@ -81,7 +81,6 @@ void season_sums::add(const season_figures& round)
 {
     ++rounds;
     holes += round.holes;
-    best_differential = std::min(best_differential.value_or(round.differential), round.differential);
     if (!round.whole())
         return;
     ++whole_rounds;
@@ -91,6 +90,7 @@ void season_sums::add(const season_figures& round)
     greens += round.greens;
     penalties += round.penalties;
     best_gross = std::min(best_gross.value_or(round.gross), round.gross);
+    best_differential = std::min(best_differential.value_or(round.differential), round.differential);
 }
 
 std::optional<double> season_sums::per_round(double sum) const

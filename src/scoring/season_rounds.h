@@ -71,7 +71,6 @@ struct season_sums {
     double greens = 0;
     double penalties = 0;
     std::optional<int> best_gross;
-    /// Of all rounds: the lowest differential.
     std::optional<double> best_differential;
 
     void add(const season_figures& round);

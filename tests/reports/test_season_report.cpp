@@ -162,7 +162,7 @@ private Q_SLOTS:
         const QStringList pages = pages_of(english, tables_of(rounds));
         QCOMPARE(pages.size(), 3);
         for (const QString& words :
-             {u"The handicap, step by step"_s, u"the lowest of 6"_s, u"14.5000"_s, u"29.00 ÷ 2"_s,
+             {u"The handicap, step by step"_s, u"the lowest of 6"_s, u"14.5000"_s, u"29.0000 ÷ 2"_s,
               u"13.9200"_s, u"14.5000 × 0.96"_s, u"13.9"_s, u"0–4 5 6–7 8–9"_s,
               u"mean of those that count: 14.50"_s, u"1 2024-05-01 Alpha, White 18 92 70.5 113 21.50"_s,
               u"6 2024-05-06 Alpha, White 18 84 70.5 113 13.50 1"_s})
@@ -173,22 +173,30 @@ private Q_SLOTS:
             QVERIFY2(in_french.contains(words), qPrintable(words));
     }
 
-    void a_single_differential_counts_whole()
+    void ratings_are_printed_as_stored()
+    {
+        const season_rounds rounds{round_of(u"20240501"_s, 80, 71.25), round_of(u"20240502"_s, 81, 72)};
+        const QString page = pages_of(french, tables_of(rounds)).at(1);
+        QVERIFY2(page.contains(u"18 80 71,25 113 8,75"), qPrintable(page));
+        QVERIFY2(page.contains(u"18 81 72,0 113 9,00"), qPrintable(page));
+    }
+
+    void a_single_differential_counts_without_the_factor()
     {
         season_rounds rounds;
         for (int day = 20240501; day <= 20240505; ++day)
             rounds.push_back(round_of(QString::number(day), 80 + day % 10, 70));
         const QString page = pages_of(english, tables_of(rounds)).at(1);
-        QVERIFY2(page.contains(u"a single one counts whole"), qPrintable(page));
+        QVERIFY2(page.contains(u"a single one, without factor"), qPrintable(page));
         QVERIFY(page.contains(u"11.0 "));
     }
 
-    void what_is_missing_is_printed_below_five_rounds()
+    void below_five_rounds_the_number_of_missing_rounds_is_printed()
     {
         season_rounds rounds{round_of(u"20240501"_s, 80, 70)};
         QVERIFY(pages_of(english, tables_of(rounds))
                     .at(1)
-                    .contains(u"4 more rounds are needed: a handicap takes at least 5 rounds."));
+                    .contains(u"4 more rounds are needed: a handicap needs at least 5 rounds."));
         for (int day = 20240502; day <= 20240504; ++day)
             rounds.push_back(round_of(QString::number(day), 80, 70));
         const QStringList pages = pages_of(french, tables_of(rounds));
@@ -206,7 +214,7 @@ private Q_SLOTS:
         QVERIFY(page.contains(u"A handicap of exactly 0 is shown as N/A."));
     }
 
-    void means_state_of_how_many_rounds_they_are()
+    void each_mean_is_printed_with_the_number_of_its_rounds()
     {
         season_rounds rounds{round_of(u"20240501"_s, 80, 70), round_of(u"20240502"_s, 75, 70),
                              round_of(u"20240503"_s, 90, 70)};
@@ -215,12 +223,12 @@ private Q_SLOTS:
         QVERIFY(pages.at(1).contains(u"One round has fewer than 18 holes played."));
         for (const QString& words :
              {u"rounds of 18 holes: 2 of 3"_s, u"mean +5.5"_s, u"fewer than 18: holes played"_s,
-              u"of 17 holes played 3 or more times"_s, u"Hole 1 · par 4 · Alpha, White +9.67"_s,
+              u"holes compared: 17; rounds on each: 3 or more"_s, u"Hole 1 · par 4 · Alpha, White +9.67"_s,
               u"3 rounds"_s, u"Alpha, White 3 2 77.5 75 +5.5 36.0 17.0 0.0 5.00"_s})
             QVERIFY2(pages.at(2).contains(words), qPrintable(words + u" in " + pages.at(2)));
     }
 
-    void a_round_without_strokes_prints()
+    void a_round_without_strokes_is_printed()
     {
         season_round round = round_of(u"20240501"_s, 80, 70);
         for (int h = 1; h <= hole_count; ++h)
@@ -228,7 +236,7 @@ private Q_SLOTS:
         const QStringList pages = pages_of(english, tables_of({round}));
         QCOMPARE(pages.size(), 3);
         QVERIFY(pages.at(1).contains(u"1 2024-05-01 Alpha, White 0 0 70.0 113 −70.00"));
-        QVERIFY(pages.at(2).contains(u"Alpha, White 1 0 · · · · · · −70.00"));
+        QVERIFY(pages.at(2).contains(u"Alpha, White 1 0 · · · · · · ·"));
     }
 };
 

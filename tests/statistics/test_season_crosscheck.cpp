@@ -305,12 +305,13 @@ void check_courses(const passed_rows& tables, const std::vector<read_round>& rou
         const auto& played =
             by_course.at(cell_of(tables, table, i, u"course"_s).toString().section(u", "_s, 0, 0));
         QVariant best_gross;
-        double lowest = played.front().differential();
+        QVariant lowest;
         int whole = 0;
         for (const read_round& round : played) {
-            lowest = std::min(lowest, round.differential());
             if (!round.whole())
                 continue;
+            lowest =
+                lowest.isValid() ? std::min(lowest.toDouble(), round.differential()) : round.differential();
             ++whole;
             best_gross =
                 best_gross.isValid() ? std::min(best_gross.toInt(), round.strokes()) : round.strokes();
