@@ -11,7 +11,7 @@ class test_checked_array : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_new_array_holds_initial_values()
+    void a_new_array_has_initial_values()
     {
         checked_array<int, 3> list;
         for (int index = list.first_index; index <= list.last_index; ++index)

@@ -200,7 +200,7 @@ private Q_SLOTS:
              [&](hand& user) {
                  user.click(u"box"_s);
                  user.key(Qt::Key_Return);
-                 user.check(!user.is_open(u"message_box"_s), u"Enter in a box"_s);
+                 user.check(!user.is_open(u"message_box"_s), u"Enter in a box clicks no button"_s);
                  user.look([&] { window.asker->setFocus(); });
                  user.key(Qt::Key_Return);
                  user.answer(notice);

@@ -45,7 +45,7 @@ QStringList window_page_names(bool french);
 /// A page by its name in the folder of the language. Fails the test if the file cannot be read.
 guide_page read_page(bool french, const QString& name);
 
-/// Where a page that F1 opens leads to, for example "round.html#f_get_date".
+/// The target of the redirection of a page that F1 opens, for example "round.html#f_get_date".
 QString target_of(const guide_page& page);
 
 /// The text of a file, as it is stored.

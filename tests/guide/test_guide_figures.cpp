@@ -82,8 +82,8 @@ class test_guide_figures : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void limits_are_those_of_the_program_data() { both_languages(); }
-    void limits_are_those_of_the_program()
+    void quoted_limits_are_those_of_the_program_data() { both_languages(); }
+    void quoted_limits_are_those_of_the_program()
     {
         QFETCH(bool, french);
         std::map<QString, int> quoted;
@@ -98,8 +98,8 @@ private Q_SLOTS:
         QCOMPARE(quoted.size(), limits().size());
     }
 
-    void the_ladder_is_that_of_the_handicap_data() { both_languages(); }
-    void the_ladder_is_that_of_the_handicap()
+    void the_quoted_handicap_ladder_is_that_of_the_program_data() { both_languages(); }
+    void the_quoted_handicap_ladder_is_that_of_the_program()
     {
         QFETCH(bool, french);
         const auto rows = read_page(french, u"handicap.html"_s).table(u"ladder"_s);
@@ -132,8 +132,8 @@ private Q_SLOTS:
         QCOMPARE(with_point(page.with_class(u"result"_s).front().text), result.trimmed());
     }
 
-    void the_windows_are_those_of_the_moving_mean_data() { both_languages(); }
-    void the_windows_are_those_of_the_moving_mean()
+    void the_quoted_windows_of_the_moving_mean_are_those_of_the_program_data() { both_languages(); }
+    void the_quoted_windows_of_the_moving_mean_are_those_of_the_program()
     {
         QFETCH(bool, french);
         const auto rows = read_page(french, u"round_report.html"_s).table(u"windows"_s);
@@ -148,8 +148,8 @@ private Q_SLOTS:
         QCOMPARE(rounds, most_rounds + 1);
     }
 
-    void the_grades_are_those_of_the_putts_data() { both_languages(); }
-    void the_grades_are_those_of_the_putts()
+    void the_quoted_grades_of_putts_are_those_of_the_program_data() { both_languages(); }
+    void the_quoted_grades_of_putts_are_those_of_the_program()
     {
         QFETCH(bool, french);
         const auto rows = read_page(french, u"putt_report.html"_s).table(u"grades"_s);
@@ -160,8 +160,8 @@ private Q_SLOTS:
         }
     }
 
-    void the_bands_are_those_of_the_putts_data() { both_languages(); }
-    void the_bands_are_those_of_the_putts()
+    void the_quoted_bands_of_putts_are_those_of_the_program_data() { both_languages(); }
+    void the_quoted_bands_of_putts_are_those_of_the_program()
     {
         QFETCH(bool, french);
         const auto rows = read_page(french, u"putt_report.html"_s).table(u"grades"_s);
@@ -171,8 +171,8 @@ private Q_SLOTS:
         }
     }
 
-    void the_ratings_are_those_of_the_score_data() { both_languages(); }
-    void the_ratings_are_those_of_the_score()
+    void the_quoted_ratings_are_those_of_the_program_data() { both_languages(); }
+    void the_quoted_ratings_are_those_of_the_program()
     {
         QFETCH(bool, french);
         const auto rows = read_page(french, u"putt_report.html"_s).table(u"ratings"_s);

@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(faults.join(u'\n'), QString());
     }
 
-    void a_page_of_a_window_leads_to_its_section_data()
+    void a_page_of_a_window_redirects_to_its_section_data()
     {
         QTest::addColumn<bool>("french");
         QTest::addColumn<QString>("name");
@@ -134,7 +134,7 @@ private Q_SLOTS:
                 QTest::addRow("%s %s", french ? "French" : "English", qUtf8Printable(name)) << french << name;
         }
     }
-    void a_page_of_a_window_leads_to_its_section()
+    void a_page_of_a_window_redirects_to_its_section()
     {
         QFETCH(bool, french);
         QFETCH(QString, name);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         const QString target = target_of(page);
         QCOMPARE(target.section(u'#', 1), QFileInfo(name).completeBaseName());
         QVERIFY(read_page(french, target.section(u'#', 0, 0)).has_anchor(target.section(u'#', 1)));
-        // For a browser that does not follow at once.
+        // For a browser that does not redirect automatically.
         QCOMPARE(page.with_tag(u"a"_s).front().attribute(u"href"_s), u"../"_s + target);
     }
 

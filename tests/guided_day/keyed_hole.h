@@ -8,7 +8,7 @@ namespace verdane::guided_day {
 /// and then the drive of the second hole. Saves pictures of the grid and of open menus.
 void enter_hole_by_keys(day& today);
 
-/// The five shots as the store holds them afterwards, one line each.
+/// The five shots as they are stored afterwards, one line each.
 QString keyed_shots(const day& today);
 
 }  // namespace verdane::guided_day

@@ -49,7 +49,7 @@ stored_shot stored(const entered_shot& shot, int number)
             shot.penalty, shot.sand};
 }
 
-/// Whether a row holds the shot. The distance before the first putt may be in yards or feet.
+/// Whether a row has the values of the shot. The distance before the first putt may be in yards or feet.
 bool agrees(const stored_shot& row, const entered_shot& shot)
 {
     stored_shot wanted = stored(shot, row.number);

@@ -8,7 +8,7 @@
 
 #include "tests/support/reader.h"
 
-/// A hole as it is entered shot by shot, and a hole as the store holds it.
+/// A hole as it is entered shot by shot, and a hole as it is stored.
 namespace verdane::testing {
 
 constexpr int figures_of_a_hole = 11;
@@ -60,7 +60,7 @@ struct stored_hole {
     bool operator==(const stored_hole&) const = default;
 };
 
-/// What the store holds after the last shot of a hole was entered and the hole was left.
+/// What is stored after the last shot of a hole was entered and the hole was left.
 stored_hole outcome_of(const entered_hole& hole);
 
 /// A hole of the only round of the store.

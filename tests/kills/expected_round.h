@@ -10,7 +10,7 @@
 
 namespace verdane::testing {
 
-/// What the only round of a store must hold after the program was killed.
+/// What the only round of a store must contain after the program was killed.
 class expected_round {
 public:
     explicit expected_round(const reader& store);

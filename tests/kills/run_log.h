@@ -9,7 +9,7 @@ namespace verdane::testing {
 
 /// The output of a program until it was killed, one line for each step:
 ///
-///     typed HOLE FIGURES    the boxes of the hole hold these figures; the next step leaves the hole
+///     typed HOLE FIGURES    the boxes of the hole contain these figures; the next step leaves the hole
 ///     entering HOLE SHOTS   these shots of the hole will be entered into the empty grid
 ///     entered HOLE SHOT     this shot is entered and the next row is there
 ///     left HOLE             the hole that was typed or entered is left

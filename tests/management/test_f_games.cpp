@@ -144,11 +144,11 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void every_way_out_closes_the_recordsets_and_unlocks_the_menu_data()
+    void closing_in_any_way_closes_the_recordsets_and_unlocks_the_menu_data()
     {
         every_way_out(ways_out(list_window, {{"OK", [](hand& user) { user.click(u"Command1_2"_s); }}}));
     }
-    void every_way_out_closes_the_recordsets_and_unlocks_the_menu()
+    void closing_in_any_way_closes_the_recordsets_and_unlocks_the_menu()
     {
         QFETCH(leaving, leave);
         const stored_diary store;

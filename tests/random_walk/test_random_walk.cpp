@@ -32,7 +32,7 @@ class test_random_walk : public QObject {
 private Q_SLOTS:
     void initTestCase() { prepare_application(*qApp); }
 
-    void after_thousands_of_keys_and_clicks_the_store_is_valid_and_holds_the_shown_figures()
+    void after_thousands_of_keys_and_clicks_the_store_is_valid_and_has_the_shown_figures()
     {
         const int steps = from_environment("VERDANE_WALK_STEPS", 3000);
         const int seed = from_environment("VERDANE_WALK_SEED", 20260614);

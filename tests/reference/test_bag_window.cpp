@@ -140,12 +140,12 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void every_way_out_except_OK_discards_the_changes_data()
+    void closing_in_any_way_except_OK_discards_the_changes_data()
     {
         every_way_out(
             ways_out(bag_window, {{"the cancel button", [](hand& user) { user.click(u"Fer"_s); }}}));
     }
-    void every_way_out_except_OK_discards_the_changes()
+    void closing_in_any_way_except_OK_discards_the_changes()
     {
         QFETCH(leaving, leave);
         const filled_bag bag;

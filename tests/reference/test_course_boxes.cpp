@@ -47,7 +47,7 @@ void type_and_tab(hand& user, const QString& box, const QString& typed)
     user.key(Qt::Key_Tab);
 }
 
-/// How many visible boxes of one kind hold only the digit that is typed when they get the focus.
+/// How many visible boxes of one kind contain only the digit that is typed when they get the focus.
 int boxes_that_replace_their_text(const f_courses& window, const QString& kind, Qt::FocusReason reason)
 {
     int replacing = 0;
@@ -59,7 +59,7 @@ int boxes_that_replace_their_text(const f_courses& window, const QString& kind, 
     return replacing;
 }
 
-/// A refused box holds "0", selected, and keeps the focus.
+/// A refused box shows "0", selected, and keeps the focus.
 void check_refused(hand& user, const QString& box)
 {
     user.wait_for_window(editor_window());
@@ -71,7 +71,7 @@ void check_refused(hand& user, const QString& box)
 void check_accepted(hand& user, const QString& box, const QString& text)
 {
     user.same(user.text(box), text, u"text of "_s + box);
-    user.check(user.focus() != box, u"the focus is still in "_s + box);
+    user.check(user.focus() != box, u"the focus has left "_s + box);
 }
 
 }  // namespace

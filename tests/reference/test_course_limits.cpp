@@ -107,8 +107,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("courses");
         QTest::newRow("the 52nd course") << u"list"_s << most_courses + 1;
         QTest::newRow("a line without a row") << u"line"_s << 1;
-        QTest::newRow("a hole longer than a count holds") << u"hole"_s << 1;
-        QTest::newRow("a course longer than a count holds") << u"course"_s << 1;
+        QTest::newRow("a length of a hole beyond 16 bits") << u"hole"_s << 1;
+        QTest::newRow("a length of a course beyond 16 bits") << u"course"_s << 1;
     }
     void a_value_beyond_a_limit_ends_the_program_and_the_store_is_not_changed()
     {

@@ -182,7 +182,7 @@ private Q_SLOTS:
         QCOMPARE(store.totals, QStringList{example.after});
     }
 
-    void an_emptied_box_holds_zero_at_once_and_keeps_the_focus()
+    void an_emptied_box_shows_zero_at_once_and_keeps_the_focus()
     {
         cost_store store;
         in_costs(store, [](hand& user) {
@@ -313,7 +313,7 @@ private Q_SLOTS:
         QCOMPARE(store.store.text(stored_amounts), u"-25 12345 4 0 0 0 0 0 0 0 0 1"_s);
     }
 
-    void a_box_emptied_by_cutting_holds_zero()
+    void a_box_emptied_by_cutting_shows_zero()
     {
         cost_store store;
         in_costs(store, [](hand& user) {

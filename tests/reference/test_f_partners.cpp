@@ -46,11 +46,8 @@ private Q_SLOTS:
         });
     }
 
-    void the_menu_is_locked_until_any_way_out_unlocks_it_and_closes_the_recordset_data()
-    {
-        every_way_out(ways());
-    }
-    void the_menu_is_locked_until_any_way_out_unlocks_it_and_closes_the_recordset()
+    void closing_in_any_way_unlocks_the_menu_and_closes_the_recordset_data() { every_way_out(ways()); }
+    void closing_in_any_way_unlocks_the_menu_and_closes_the_recordset()
     {
         QFETCH(leaving, leave);
         const partner_store store;
@@ -84,8 +81,8 @@ private Q_SLOTS:
         QVERIFY(!store.frame.locked);
     }
 
-    void every_way_out_stores_what_was_typed_data() { every_way_out(ways()); }
-    void every_way_out_stores_what_was_typed()
+    void closing_in_any_way_stores_what_was_typed_data() { every_way_out(ways()); }
+    void closing_in_any_way_stores_what_was_typed()
     {
         QFETCH(leaving, leave);
         const partner_store store;
@@ -133,8 +130,8 @@ private Q_SLOTS:
         });
     }
 
-    void an_open_recordset_of_the_rounds_is_closed_data() { every_way_out(ways()); }
-    void an_open_recordset_of_the_rounds_is_closed()
+    void rsgames_is_closed_with_the_window_if_it_was_open_data() { every_way_out(ways()); }
+    void rsgames_is_closed_with_the_window_if_it_was_open()
     {
         QFETCH(leaving, leave);
         const partner_store store;

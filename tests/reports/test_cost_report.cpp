@@ -174,7 +174,7 @@ private Q_SLOTS:
         QCOMPARE(csv_lines(u"r_cost3_en.rpt"_s).at(1), u"2023-06-01,09:30,60,0,0,0,5,0,0,0,0,0,0,0,65"_s);
     }
 
-    void an_empty_table_still_is_a_page() { QCOMPARE(printed_pages(u"r_cost3.rpt"_s).size(), 1); }
+    void an_empty_table_is_printed_on_one_page() { QCOMPARE(printed_pages(u"r_cost3.rpt"_s).size(), 1); }
 
     void the_highest_amounts_are_printed_whole()
     {

@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(printed_pages(u"statPuts_en.rpt"_s).front().contains(u"3.70"_s));
     }
 
-    void the_score_never_contradicts_its_rating_data()
+    void a_score_near_a_limit_is_not_printed_as_the_limit_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("english");
@@ -155,7 +155,7 @@ private Q_SLOTS:
         add(u" 3.7003"_s, u"3.7003"_s);
         add(u" 3.71"_s, u"3.71"_s);
     }
-    void the_score_never_contradicts_its_rating()
+    void a_score_near_a_limit_is_not_printed_as_the_limit()
     {
         QFETCH(QString, text);
         QFETCH(QString, english);

@@ -80,7 +80,7 @@ class test_report_output : public QObject {
 private Q_SLOTS:
     void init() { set_report_store(store_.location()); }
 
-    void fields_of_a_figures_file_are_quoted_where_they_must_data()
+    void fields_of_a_figures_file_are_quoted_where_necessary_data()
     {
         QTest::addColumn<QString>("separator");
         QTest::addColumn<QString>("value");
@@ -100,7 +100,7 @@ private Q_SLOTS:
         add("number beside semicolons", ";", "2.5", "2,5");
         add("text that looks like a number", ";", "'2.5'", "2.5");
     }
-    void fields_of_a_figures_file_are_quoted_where_they_must()
+    void fields_of_a_figures_file_are_quoted_where_necessary()
     {
         QFETCH(QString, separator);
         QFETCH(QString, value);
@@ -173,8 +173,8 @@ private Q_SLOTS:
         QTest::newRow("all") << 0 << 0 << 3;
         QTest::newRow("one") << 2 << 2 << 1;
         QTest::newRow("two") << 2 << 3 << 2;
-        QTest::newRow("more than there are") << 3 << 9 << 1;
-        QTest::newRow("none that there is") << 4 << 9 << 0;
+        QTest::newRow("beyond the last page") << 3 << 9 << 1;
+        QTest::newRow("after the last page") << 4 << 9 << 0;
         QTest::newRow("far after the last") << 1000 << 1000 << 0;
     }
     void printing_prints_the_range_of_pages_set_in_the_printer()

@@ -209,13 +209,13 @@ private Q_SLOTS:
             QVERIFY(pages[page].contains(u"start-%1-"_s.arg(page + 1)));
     }
 
-    void few_rows_make_one_page_and_so_do_none_data()
+    void few_rows_or_none_make_one_page_data()
     {
         QTest::addColumn<QString>("body");
         QTest::newRow("few") << row_body;
         QTest::newRow("none") << QString();
     }
-    void few_rows_make_one_page_and_so_do_none()
+    void few_rows_or_none_make_one_page()
     {
         QFETCH(QString, body);
         QCOMPARE(rendered(row_head(u"A4 portrait"_s, 3), body)->page_count(), 1);

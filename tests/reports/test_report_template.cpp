@@ -91,7 +91,7 @@ private Q_SLOTS:
         add("double quotes after a name that ends with as",
             u"query bad = select hole_1 alias \"x\" from stats"_s, QString(),
             u"try.rpt:1: query bad: \"x\" is quoted"_s);
-        add("double quotes after a remark that ends with as",
+        add("double quotes after a comment that ends with as",
             u"query bad =\n    select 1, -- the same as\n    \"x\" from stats"_s, QString(),
             u"try.rpt:3: query bad: \"x\" is quoted"_s);
         add("writing statement", u"query bad = delete from stats"_s, QString(), u"try.rpt:1: query bad: "_s);
@@ -253,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(report_snapshot::parameters_of(query), QStringList{u"d"_s});
     }
 
-    void double_quotes_may_be_in_headings_texts_and_remarks()
+    void double_quotes_may_be_in_headings_texts_and_comments()
     {
         const QString head = u"query it =\n    select 'say \"a\", it''s \"b\"' as \"One\",\n"
                              u"        2 AS\n    \"A \", -- nor \"here\"\n"
@@ -262,7 +262,7 @@ private Q_SLOTS:
                  u"say &quot;a&quot;, it's &quot;b&quot; 3"_s);
     }
 
-    void a_report_sees_committed_rows_only()
+    void a_report_reads_committed_rows_only()
     {
         const QString path =
             written(u"query it = select course_text as c from stats"_s, u"{{#it}}{{c}}{{/it}}"_s);

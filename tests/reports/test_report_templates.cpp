@@ -151,8 +151,8 @@ private Q_SLOTS:
         QCOMPARE(english.margins, french.margins);
     }
 
-    void a_person_can_edit_every_line_of_a_template_data() { each_report(); }
-    void a_person_can_edit_every_line_of_a_template()
+    void every_line_of_a_template_has_fewer_than_120_characters_data() { each_report(); }
+    void every_line_of_a_template_has_fewer_than_120_characters()
     {
         QFETCH(QString, report);
         for (const QString& ending : {u".layout"_s, u".rpt"_s, u"_en.rpt"_s})
@@ -160,8 +160,8 @@ private Q_SLOTS:
                 QVERIFY2(line.size() < 120, qPrintable(ending + u": "_s + line));
     }
 
-    void the_twins_find_the_same_rows_data() { each_report(); }
-    void the_twins_find_the_same_rows()
+    void the_queries_of_the_twins_return_equal_numbers_of_rows_and_columns_data() { each_report(); }
+    void the_queries_of_the_twins_return_equal_numbers_of_rows_and_columns()
     {
         QFETCH(QString, report);
         const template_file french = read_template(built_template(report + u".rpt"_s));
@@ -186,8 +186,8 @@ private Q_SLOTS:
         QVERIFY(qMin(inside.width(), inside.height()) <= 198);
     }
 
-    void a_report_prints_the_same_on_a4_and_on_letter_within_reach_of_a_printer_data() { each_template(); }
-    void a_report_prints_the_same_on_a4_and_on_letter_within_reach_of_a_printer()
+    void a_report_prints_the_same_on_a4_and_on_letter_inside_the_printable_area_data() { each_template(); }
+    void a_report_prints_the_same_on_a4_and_on_letter_inside_the_printable_area()
     {
         QFETCH(QString, name);
         const QString a4 = folder_.filePath(u"a4.pdf"_s);
@@ -220,8 +220,8 @@ private Q_SLOTS:
 
     /// Run with VERDANE_KEEP_PAGES set, this writes the pictures instead; inspect them before you commit
     /// them.
-    void each_page_looks_as_it_did_when_it_was_last_checked_data() { each_template(); }
-    void each_page_looks_as_it_did_when_it_was_last_checked()
+    void each_page_looks_like_its_stored_picture_data() { each_template(); }
+    void each_page_looks_like_its_stored_picture()
     {
         QFETCH(QString, name);
         const auto document = rendered(name);

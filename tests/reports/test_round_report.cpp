@@ -186,7 +186,7 @@ private Q_SLOTS:
         qsizetype at = 0;
         for (int line = 1; line < 34; ++line) {
             const QString& caption = captions[line - 1];
-            // The first hole of line r holds r + 1; lines 9 and 20 are tested below.
+            // The first hole of line r has r + 1; lines 9 and 20 are tested below.
             const QString first = line == 9 || line == 20 ? QString() : QString::number(line + 1);
             at = page.indexOf(caption + u' ' + first, at);
             QVERIFY2(at >= 0, qPrintable(caption));
@@ -240,7 +240,7 @@ private Q_SLOTS:
         QVERIFY(lines[34].startsWith(u"Triple+,34,35,"_s));
     }
 
-    void the_french_figures_file_suits_a_french_spreadsheet()
+    void the_french_figures_file_has_semicolons_and_decimal_commas()
     {
         const QString path = folder_.filePath(u"figures.csv"_s);
         render_report(built_template(french))->save_csv(path);
@@ -251,7 +251,7 @@ private Q_SLOTS:
         QVERIFY(lines[1].endsWith(u";126;85,5"_s));
     }
 
-    void a_table_without_figures_prints_too()
+    void a_table_without_figures_is_printed()
     {
         QStringList nulls;
         for (int hole = 1; hole <= 18; ++hole)

@@ -185,7 +185,7 @@ private Q_SLOTS:
             << u"try.rpt:9: the name of a word has no blank: my caption"_s;
         QTest::newRow("word without a value")
             << with_word("spare\n") << layout << u"try.rpt:9: not a setting: spare"_s;
-        QTest::newRow("word without braces enough")
+        QTest::newRow("word in three braces")
             << words << with_body("{{{words.caption}}}") << u"try.layout:8: not a field or section"_s;
         QTest::newRow("section of a word") << words << with_body("{{#words.caption}}x{{/words.caption}}")
                                            << u"try.layout:8: not a field or section"_s;

@@ -213,7 +213,7 @@ private Q_SLOTS:
             << u"<table>"_s + u"<tr><td>a<td>b"_s.repeated(300) + u"</table>"_s;
         QTest::newRow("entries and paragraphs without ends")
             << u"<p>a"_s.repeated(300) + u"<ul>"_s + u"<li>a</li>"_s.repeated(300);
-        QTest::newRow("elements that hold nothing") << u"<br>x<hr>"_s.repeated(300);
+        QTest::newRow("elements without content") << u"<br>x<hr>"_s.repeated(300);
         QTest::newRow("four tables inside one another")
             << u"<table><tr><td>"_s.repeated(4) + u"x"_s + u"</td></tr></table>"_s.repeated(4);
         QTest::newRow("sizes in words and units")

@@ -32,14 +32,14 @@ void wait_for_rows(hand& user, int rows)
 
 }  // namespace
 
-/// A click on another control while a distance is being typed into the grid: the distance is taken, and the
-/// click has its usual effect.
+/// A click on another control while a distance is being typed into the grid: the distance is committed,
+/// and the click has its usual effect.
 class test_detailed_clicks : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void OK_takes_a_holed_putt_that_is_being_typed_and_closes_the_round_data() { both_languages(); }
-    void OK_takes_a_holed_putt_that_is_being_typed_and_closes_the_round()
+    void OK_commits_a_holed_putt_that_is_being_typed_and_closes_the_round_data() { both_languages(); }
+    void OK_commits_a_holed_putt_that_is_being_typed_and_closes_the_round()
     {
         QFETCH(bool, french);
         const golfer_store round(french);
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
-    void Cancel_takes_a_holed_putt_that_is_being_typed_and_shows_the_question()
+    void Cancel_commits_a_holed_putt_that_is_being_typed_and_shows_the_question()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 4);
     }
 
-    void OK_takes_a_typed_distance_and_refuses_the_incomplete_shot()
+    void OK_commits_a_typed_distance_and_refuses_the_incomplete_shot()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -81,7 +81,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_buttons_of_the_shots_take_a_holed_putt_and_run_data()
+    void the_buttons_of_the_shots_commit_a_holed_putt_and_act_data()
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<int>("messages");
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QTest::newRow("remove") << "CommandSup" << 1 << 3;
         QTest::newRow("shots of the hole") << "Command4" << 1 << 4;
     }
-    void the_buttons_of_the_shots_take_a_holed_putt_and_run()
+    void the_buttons_of_the_shots_commit_a_holed_putt_and_act()
     {
         QFETCH(QString, button);
         QFETCH(int, messages);
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), rows);
     }
 
-    void Command2_takes_a_holed_putt_and_opens_the_costs()
+    void Command2_commits_a_holed_putt_and_opens_the_costs()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -125,13 +125,13 @@ private Q_SLOTS:
         });
     }
 
-    void the_tabs_take_a_holed_putt_and_change_the_hole_or_page_data()
+    void the_tabs_commit_a_holed_putt_and_change_the_hole_or_page_data()
     {
         QTest::addColumn<QString>("tabs");
         QTest::newRow("holes") << hole_tabs;
         QTest::newRow("pages") << u"TabStrip2"_s;
     }
-    void the_tabs_take_a_holed_putt_and_change_the_hole_or_page()
+    void the_tabs_commit_a_holed_putt_and_change_the_hole_or_page()
     {
         QFETCH(QString, tabs);
         const golfer_store round;
@@ -214,7 +214,7 @@ private Q_SLOTS:
         QCOMPARE(round.shots(1), 4);
     }
 
-    void opening_and_closing_a_list_takes_the_typed_distance()
+    void opening_and_closing_a_list_commits_the_typed_distance()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -257,7 +257,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_close_box_takes_a_distance_that_is_being_typed()
+    void the_close_box_commits_a_distance_that_is_being_typed()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {

@@ -50,7 +50,7 @@ class test_detailed_exits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void each_way_out_of_a_new_round_stores_or_discards_its_rows_data()
+    void closing_a_new_round_stores_or_discards_its_rows_data()
     {
         QTest::addColumn<QString>("way");
         QTest::addColumn<bool>("kept");
@@ -60,7 +60,7 @@ private Q_SLOTS:
         QTest::newRow("title bar, Yes") << "title bar, Yes" << true;
         QTest::newRow("title bar, No") << "title bar, No" << false;
     }
-    void each_way_out_of_a_new_round_stores_or_discards_its_rows()
+    void closing_a_new_round_stores_or_discards_its_rows()
     {
         QFETCH(QString, way);
         QFETCH(bool, kept);
@@ -78,11 +78,11 @@ private Q_SLOTS:
         }
     }
 
-    void each_way_out_of_a_stored_round_stores_or_discards_its_changes_data()
+    void closing_a_stored_round_stores_or_discards_its_changes_data()
     {
-        each_way_out_of_a_new_round_stores_or_discards_its_rows_data();
+        closing_a_new_round_stores_or_discards_its_rows_data();
     }
-    void each_way_out_of_a_stored_round_stores_or_discards_its_changes()
+    void closing_a_stored_round_stores_or_discards_its_changes()
     {
         QFETCH(QString, way);
         QFETCH(bool, kept);
@@ -195,11 +195,11 @@ private Q_SLOTS:
         QCOMPARE(row_counts(round), u"0 0 0 0"_s);
     }
 
-    void if_the_shots_cannot_be_opened_the_grid_is_empty_and_every_way_out_works_data()
+    void if_the_shots_cannot_be_opened_the_grid_is_empty_and_the_window_can_be_closed_in_any_way_data()
     {
-        each_way_out_of_a_new_round_stores_or_discards_its_rows_data();
+        closing_a_new_round_stores_or_discards_its_rows_data();
     }
-    void if_the_shots_cannot_be_opened_the_grid_is_empty_and_every_way_out_works()
+    void if_the_shots_cannot_be_opened_the_grid_is_empty_and_the_window_can_be_closed_in_any_way()
     {
         QFETCH(QString, way);
         const golfer_store round;

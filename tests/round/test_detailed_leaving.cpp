@@ -34,7 +34,7 @@ private Q_SLOTS:
         QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
     }
 
-    void OK_takes_a_distance_that_is_being_typed()
+    void OK_commits_a_distance_that_is_being_typed()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {

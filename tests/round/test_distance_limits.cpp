@@ -89,13 +89,13 @@ class test_distance_limits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void no_way_out_of_the_cell_takes_or_discards_the_distance_data()
+    void leaving_the_cell_neither_commits_nor_discards_the_distance_data()
     {
         QTest::addColumn<way_out>("leave");
         rows_of_keys();
         rows_of_clicks();
     }
-    void no_way_out_of_the_cell_takes_or_discards_the_distance()
+    void leaving_the_cell_neither_commits_nor_discards_the_distance()
     {
         QFETCH(way_out, leave);
         const golfer_store round;

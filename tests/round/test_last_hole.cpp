@@ -11,7 +11,7 @@ namespace {
 
 constexpr int last_hole = 18;
 
-/// Adds a round with a shot on each hole, so that no hole is left with a message.
+/// Adds a round with a shot on each hole, so that leaving a hole shows no message.
 void add_round_with_shots(const golfer_store& round)
 {
     round.store.add_round(key_of_keyed_round());

@@ -248,7 +248,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_distance_that_is_being_typed_is_taken_before_the_hole_changes()
+    void a_distance_that_is_being_typed_is_committed_before_the_hole_changes()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {

@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(stored_putts(round.store, 1), entered_putts);
     }
 
-    void the_button_of_the_report_takes_a_holed_putt_and_runs()
+    void the_button_of_the_report_commits_a_holed_putt_and_opens_the_report()
     {
         const reported_store round;
         in_keyed_round([&](hand& user) {

@@ -114,14 +114,14 @@ class test_hole_classes_crosscheck : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void every_small_hole_has_the_cells_that_the_classes_mean_data()
+    void every_cell_of_a_hole_with_few_strokes_agrees_with_a_second_computation_data()
     {
         QTest::addColumn<int>("par");
         for (int par = 0; par <= 6; ++par)
             QTest::addRow("par %d", par) << par;
     }
 
-    void every_small_hole_has_the_cells_that_the_classes_mean()
+    void every_cell_of_a_hole_with_few_strokes_agrees_with_a_second_computation()
     {
         QFETCH(int, par);
         for (int long_shots = 0; long_shots <= 5; ++long_shots)
@@ -139,7 +139,7 @@ private:
         for (int selector = 0; selector <= 30; ++selector) {
             const QString cell = hole_cell(selector, f, par);
             const QString wanted = naive.cell(selector);
-            // A fresh message for each of some 200,000 cells would take longer than the check.
+            // Building a message for each of some 200,000 cells would take longer than the check.
             if (cell != wanted || hole_cell_value(selector, f, par) != to_int16(cell))
                 QFAIL(qPrintable(u"class %1 of %2 %3 %4 +%5 on par %6: \"%7\", not \"%8\""_s.arg(selector)
                                      .arg(long_shots)

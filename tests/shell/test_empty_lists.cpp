@@ -45,13 +45,13 @@ void expect_text(hand& user, const QString& window, const QString& name, const Q
 
 }  // namespace
 
-/// Lists without entries say that they are empty.
+/// Lists without entries show a text.
 class test_empty_lists : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_lists_of_courses_and_partners_say_that_they_are_empty_data() { both_stored_languages(); }
-    void the_lists_of_courses_and_partners_say_that_they_are_empty()
+    void the_empty_lists_of_courses_and_partners_show_a_text_data() { both_stored_languages(); }
+    void the_empty_lists_of_courses_and_partners_show_a_text()
     {
         QFETCH(int, language);
         in_main_window(language, {}, [](hand& user) {
@@ -70,8 +70,8 @@ private Q_SLOTS:
         });
     }
 
-    void the_list_of_rounds_says_so_after_the_last_one_was_removed_data() { both_stored_languages(); }
-    void the_list_of_rounds_says_so_after_the_last_one_was_removed()
+    void the_list_of_rounds_shows_a_text_after_the_last_one_was_removed_data() { both_stored_languages(); }
+    void the_list_of_rounds_shows_a_text_after_the_last_one_was_removed()
     {
         QFETCH(int, language);
         in_main_window(language, one_course() + one_round(), [](hand& user) {
@@ -87,8 +87,8 @@ private Q_SLOTS:
         });
     }
 
-    void the_partners_of_a_round_say_that_there_are_none_data() { both_stored_languages(); }
-    void the_partners_of_a_round_say_that_there_are_none()
+    void the_empty_list_of_partners_of_a_round_shows_a_text_data() { both_stored_languages(); }
+    void the_empty_list_of_partners_of_a_round_shows_a_text()
     {
         QFETCH(int, language);
         in_main_window(language, one_course() + one_round(), [](hand& user) {

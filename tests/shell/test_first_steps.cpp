@@ -30,13 +30,13 @@ void wait_for_first_steps(hand& user)
 
 }  // namespace
 
-/// What the main window says while no course is stored.
+/// The text in the main window while no course is stored.
 class test_first_steps : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void without_a_course_the_window_says_what_to_do_first_data() { both_stored_languages(); }
-    void without_a_course_the_window_says_what_to_do_first()
+    void without_a_course_the_window_shows_what_to_do_first_data() { both_stored_languages(); }
+    void without_a_course_the_window_shows_what_to_do_first()
     {
         QFETCH(int, language);
         in_main_window(language, {}, [&](hand& user) {

@@ -95,7 +95,7 @@ class test_start_refusals : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_diary_of_366_rounds_starts()
+    void the_program_starts_with_a_diary_of_366_rounds()
     {
         program_run run(2, rounds(366));
         const ended child = child_start();

@@ -53,7 +53,7 @@ private Q_SLOTS:
 
         run.play_through([&](hand& user) {
             user.wait_for_window(u"MainForm"_s);
-            user.check(!user.is_open(u"f_lang"_s), u"asked again"_s);
+            user.check(!user.is_open(u"f_lang"_s), u"the language window is not opened again"_s);
             quit(user);
         });
         QCOMPARE(is_french, french);

@@ -19,7 +19,7 @@ QString selection_window();
 void in_selection_window(const std::function<void(hand&)>& script,
                          statistics_mode mode = statistics_mode::round);
 
-/// One step of the progress bar: its value, and whether the bar was seen.
+/// One step of the progress bar: its value, and whether the bar was visible.
 struct bar_step {
     int value = 0;
     bool seen = false;

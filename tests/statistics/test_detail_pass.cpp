@@ -94,10 +94,10 @@ private Q_SLOTS:
         QTest::addColumn<bool>("detailed");
         QTest::newRow("the round with shots") << 2 << 2 << " " << true;
         QTest::newRow("among others") << 1 << 3 << " " << true;
-        QTest::newRow("rounds beside it") << 3 << 4 << " " << false;
+        QTest::newRow("rounds without shots") << 3 << 4 << " " << false;
         QTest::newRow("its weather") << 1 << 4 << " AND (games2.conditionM = 2)" << true;
         QTest::newRow("another weather") << 1 << 4 << " AND (games2.conditionM = 1)" << false;
-        QTest::newRow("a partner that it had not") << 1 << 4 << " AND INSTR(GAMES2.PARTNERS,'9')" << false;
+        QTest::newRow("a partner of no round") << 1 << 4 << " AND INSTR(GAMES2.PARTNERS,'9')" << false;
     }
     void a_selection_has_detail_if_a_matching_round_has_shots()
     {

@@ -114,7 +114,7 @@ struct putt_opinion {
     }
 };
 
-/// The lengths of the putts are rows here: no ordinal arithmetic is shared.
+/// The lengths of the putts are read by the names of their columns; the program computes ordinals instead.
 putt_opinion putts_of(const reader& store, const QString& condition)
 {
     putt_opinion opinion;
@@ -170,7 +170,7 @@ QStringList club_of(const reader& store, const QString& condition, int club)
     for (const auto& row : store.rows(u"select "_s + distance_sql() + rows)) {
         if (row[0].isNull())
             continue;
-        // Thirds never lie half way between two whole numbers, so any rounding does.
+        // A third is never half way between two whole numbers, so every rounding mode gives the same result.
         const double distance = std::nearbyint(row[0].toDouble());
         sum += distance;
         longest = std::max(longest, distance);
@@ -200,7 +200,7 @@ void choices()
     row("one round", 30, 30, {}, {}, {});
     row("in the rain", 0, last, u"2"_s, {}, {});
     row("with one partner", 0, last, {}, u"1129"_s, {});
-    row("with everyone whose number has a 12 in it", 0, last, {}, u"12"_s, {});
+    row("with partners whose number contains 12", 0, last, {}, u"12"_s, {});
     row("on one course", 0, last, {}, {}, u"PEBBLE BEACH-3"_s);
 }
 

@@ -177,7 +177,7 @@ private Q_SLOTS:
             QCOMPARE(store.stats(line)[17], 0.0);
     }
 
-    void a_filter_leaves_out_rounds_and_names_itself_in_the_head_data()
+    void a_filter_leaves_out_rounds_and_is_named_in_the_heading_data()
     {
         QTest::addColumn<QString>("filter");
         QTest::addColumn<int>("entry");
@@ -191,12 +191,12 @@ private Q_SLOTS:
                                << "Vent" << 126.0;
         QTest::newRow("a course") << "cmb_courses" << 2 << "course_text"
                                   << "Carnoustie Championship, BLANC" << 126.0;
-        QTest::newRow("partner 12, and 112 by the way") << "pList" << 1 << "partner_text"
-                                                        << "Anne, Douze" << 90.0;
+        QTest::newRow("partner 12, whose number is found in 112, too") << "pList" << 1 << "partner_text"
+                                                                       << "Anne, Douze" << 90.0;
         QTest::newRow("partner 7") << "pList" << 2 << "partner_text"
                                    << "Zoé, Sept" << 90.0;
     }
-    void a_filter_leaves_out_rounds_and_names_itself_in_the_head()
+    void a_filter_leaves_out_rounds_and_is_named_in_the_heading()
     {
         QFETCH(QString, filter);
         QFETCH(int, entry);

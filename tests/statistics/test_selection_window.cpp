@@ -199,12 +199,12 @@ private Q_SLOTS:
         QVERIFY(!frame.locked);
     }
 
-    void every_way_out_unlocks_the_menu_and_closes_the_recordsets_data()
+    void closing_in_any_way_unlocks_the_menu_and_closes_the_recordsets_data()
     {
         every_way_out(ways_out(selection_window,
                                {{"the cancel button", [](hand& user) { user.click(u"CancelButton"_s); }}}));
     }
-    void every_way_out_unlocks_the_menu_and_closes_the_recordsets()
+    void closing_in_any_way_unlocks_the_menu_and_closes_the_recordsets()
     {
         QFETCH(leaving, leave);
         const stored_diary store;

@@ -66,7 +66,7 @@ private:
         int holes = 0;
     };
 
-    /// One statement a hole gives its columns by name; no ordinal arithmetic is shared.
+    /// One statement for each hole selects its columns by name; the program computes ordinals instead.
     void add_hole(int h, const QString& condition)
     {
         const QString statement =

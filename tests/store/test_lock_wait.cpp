@@ -14,7 +14,7 @@ using testing::store_fixture;
 
 namespace {
 
-/// The notices that a test has seen.
+/// The notices that were shown during a test.
 struct notices {
     int made = 0;
     int shown = 0;

@@ -45,7 +45,7 @@ private Q_SLOTS:
         QVERIFY(memory.open());
     }
 
-    void an_invisible_column_is_none_of_a_table()
+    void an_invisible_column_is_not_listed_among_the_columns_of_a_table()
     {
         const mariadb_tables tables =
             described(u"('Games','date','',''),('Games','verdane_row','PRI','INVISIBLE, auto_increment'),"

@@ -74,7 +74,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { games->Find(criterion); }) == failure_kind::misuse);
     }
 
-    void forward_it_starts_at_the_current_row()
+    void a_forward_search_starts_at_the_current_row()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s, u"a"_s});
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(partners->eof());
     }
 
-    void after_an_absent_value_it_is_at_the_end()
+    void after_a_search_for_an_absent_value_the_recordset_is_at_the_end()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s});
@@ -103,7 +103,7 @@ private Q_SLOTS:
         }
     }
 
-    void backward_it_finds_every_row_after_a_move_to_the_first()
+    void a_backward_search_finds_every_row_after_a_move_to_the_first()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s, u"c"_s});
@@ -115,7 +115,7 @@ private Q_SLOTS:
         }
     }
 
-    void backward_it_finds_the_nearest_row_before()
+    void a_backward_search_finds_the_nearest_row_before()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"a"_s, u"b"_s, u"a"_s});
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(partners->position(), 2);
     }
 
-    void on_an_empty_recordset_it_stays_at_the_end()
+    void a_search_in_an_empty_recordset_stays_at_the_end()
     {
         store_fixture store;
         const auto games = store.opened(u"select * from games"_s);
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QVERIFY(games->eof());
     }
 
-    void it_commits_the_row_that_it_leaves()
+    void a_search_commits_the_row_that_it_leaves()
     {
         store_fixture store;
         store.add_partners({u"a"_s, u"b"_s});
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(testing::stored_names(store), u"changed b"_s);
     }
 
-    void it_finds_the_pending_values_of_a_batch()
+    void a_search_finds_the_pending_values_of_a_batch()
     {
         store_fixture store;
         store.add_partners({u"a"_s});
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(partners->position(), 1);
     }
 
-    void a_missing_column_is_a_missing_part()
+    void a_missing_column_is_reported_as_missing()
     {
         store_fixture store;
         const auto games = store.opened(u"select * from games"_s);

@@ -137,7 +137,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { closed.Execute(u"delete from hand"_s); }) == failure_kind::misuse);
     }
 
-    void a_missing_table_or_column_is_a_missing_part_data()
+    void a_missing_table_or_column_is_reported_as_missing_data()
     {
         QTest::addColumn<QString>("statement");
         QTest::newRow("table") << u"select * from golfers"_s;
@@ -146,7 +146,7 @@ private Q_SLOTS:
         QTest::newRow("join") << u"select games.date from games, golfers"_s;
     }
 
-    void a_missing_table_or_column_is_a_missing_part()
+    void a_missing_table_or_column_is_reported_as_missing()
     {
         QFETCH(QString, statement);
         const auto recordset = store_.recordset(statement);
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QVERIFY(!recordset->is_open());
     }
 
-    void a_field_outside_the_columns_is_a_missing_part()
+    void a_field_outside_the_columns_is_reported_as_missing()
     {
         const auto partners = store_.opened(u"select * from partners"_s);
         QVERIFY(failure_of([&] { partners->Fields(7); }) == failure_kind::missing_table);
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { partners->field_name(7); }) == failure_kind::missing_table);
     }
 
-    void a_statement_that_is_none_is_refused()
+    void a_text_that_is_no_statement_is_refused()
     {
         const auto recordset = store_.recordset(u"choose * from partners"_s);
         QVERIFY(failure_of([&] { recordset->Open(); }) == failure_kind::store_other);

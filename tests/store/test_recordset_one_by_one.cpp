@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(names_on_the_way(rows), u"a b c"_s);
     }
 
-    void its_rows_cannot_be_written()
+    void rows_read_one_by_one_cannot_be_written()
     {
         passing_partners partners;
         Recordset& rows = *partners.rows;

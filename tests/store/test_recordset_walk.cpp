@@ -183,7 +183,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { shots->Delete(); }) == failure_kind::misuse);
     }
 
-    void any_rows_value_is_read_without_leaving_the_current_row()
+    void a_value_of_any_row_is_read_without_a_move()
     {
         store_fixture store;
         store.add_partners(three);

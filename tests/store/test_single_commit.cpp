@@ -59,7 +59,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { single_commit{store.connection}; }).has_value());
     }
 
-    void it_ends_without_a_failure_if_its_transaction_has_ended()
+    void a_commit_ends_without_a_failure_if_its_transaction_has_ended()
     {
         store_fixture store;
         const auto partners = store.opened(u"select * from partners"_s);

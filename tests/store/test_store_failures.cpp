@@ -61,8 +61,7 @@ QString folder_of(const store_fixture& store)
     return QFileInfo(store.path()).absolutePath();
 }
 
-/// Gives everyone access to the folder of the store, so that `nobody` has the access that a user has to his
-/// folder.
+/// Gives everyone access to the folder of the store, so that `nobody` has the same access as the owner.
 void give_everyone_access(const store_fixture& store)
 {
     set_mode(QFileInfo(folder_of(store)).absolutePath(), 0755);

@@ -209,7 +209,7 @@ public:
     }
 
 private:
-    /// None to three of the partners, as the column `PARTNERS` holds them.
+    /// None to three of the partners, in the format of the column `PARTNERS`.
     QString some_partners()
     {
         QString text;

@@ -11,7 +11,7 @@ constexpr int rounds_of_full_diary = 366;
 
 /// Creates a store with a diary: the published courses, six partners, and rounds on consecutive days from
 /// 1 January 2023, in all weathers, with and without partners, alternately in French and English, each with
-/// its costs. A detailed diary has every shot (about ninety a round), and the figures of a hole are the sums
+/// its costs. A detailed diary has every shot (about 84 a round), and the figures of a hole are the sums
 /// of its shots; otherwise it has the same figures without shots. The content is the same on every machine.
 void create_diary(const store_location& place, int rounds, bool detailed);
 inline void create_diary(const QString& file, int rounds, bool detailed)

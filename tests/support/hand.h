@@ -75,7 +75,7 @@ public:
     /// Replaces the text of a box from the clipboard.
     void paste(const QString& box, const QString& text);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// Opens the menu that holds the entry and clicks the entry (by its name).
+    /// Opens the menu with that entry and clicks the entry (by its name).
     void menu(const QString& entry);
     /// The title bar's close box.
     void close_window(const QString& window);

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The complaints of `check table`, whose answer has the table, the operation, the kind and the text.
+/// The problems that `check table` reports. Its result has the table, the operation, the kind and the text.
 QString damage_on_server(const outside_connection& server)
 {
     QStringList complaints;

@@ -11,7 +11,7 @@ namespace verdane::testing {
 
 /// The rows of a statement in the SQL of SQLite, run on a copy in memory of those tables of a server that the
 /// statement names, at one moment. So all engines are compared by the same statements. `sqlite_master` names
-/// all tables. Texts are copied as the bytes that the server holds.
+/// all tables. Texts are copied as the bytes that the server stores.
 ///
 /// Each thread keeps its copy. A table is copied again only if its columns or rows have changed since.
 std::vector<std::vector<QVariant>> rows_of_server(const outside_connection& server, const QString& statement);

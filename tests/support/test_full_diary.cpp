@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(store().text(u"select min(date) from games"_s), key_in_diary(0));
     }
 
-    void a_full_diary_has_about_33000_shots()
+    void a_full_diary_has_about_31000_shots()
     {
         const int shots = store().number(u"select count(*) from Stat_rounds"_s);
         QVERIFY2(shots >= 30000 && shots <= 36000, qPrintable(QString::number(shots)));

@@ -6,7 +6,7 @@
 
 namespace verdane::testing {
 
-/// Lets a column hold whole numbers of any size, as every column of a file does.
+/// Lets a column store whole numbers of any size, as every column of a file does.
 void widen_column(const store_location& store, const QString& table, const QString& column);
 
 }  // namespace verdane::testing
