@@ -89,6 +89,18 @@ private Q_SLOTS:
         QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(1, u"2"_s), row_of_day(3, QString())}));
     }
 
+    void costs_that_were_entered_out_of_date_order_are_copied_in_date_order()
+    {
+        const stored_costs costs(4);
+        for (const int day : {3, 1, 2}) {
+            costs.book.store.write(u"delete from cost where date = '"_s + key_of_day(day) + u'\'');
+            put_costs(costs.book.store, key_of_day(day), day);
+        }
+        QVERIFY(fill(days(1, 3)));
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(1, u"3"_s), row_of_day(2, QString()),
+                                                     row_of_day(3, QString())}));
+    }
+
     void the_clauses_select_the_rounds()
     {
         const stored_costs costs(4);
