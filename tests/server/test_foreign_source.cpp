@@ -28,6 +28,21 @@ private Q_SLOTS:
         QCOMPARE(other.connection.identity_script(), QString());
     }
 
+    void tables_of_the_same_names_in_another_database_are_ignored_and_kept()
+    {
+        administer(u"create database verdbase_of_others"_s);
+        const auto dropped = qScopeGuard([] { administer(u"drop database verdbase_of_others"_s); });
+        administer(u"create table verdbase_of_others.games (remark text)"_s);
+        foreign_source own;
+        own.open();
+        own.reopen();
+        QCOMPARE(own.outside().number(u"select language from settings"_s), 0);
+        QCOMPARE(own.connection.identity_script(), QString());
+        QCOMPARE(own.number(u"select count(*) from information_schema.columns where table_schema = "
+                            "'verdbase_of_others'"_s),
+                 1);
+    }
+
     void an_interrupted_creation_of_the_tables_is_completed()
     {
         foreign_source halved;
