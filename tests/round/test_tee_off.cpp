@@ -6,6 +6,7 @@
 #include "round/f_new_round.h"
 #include "round/tee_off.h"
 #include "tests/round/round_windows.h"
+#include "tests/support/engine_of_tests.h"
 #include "tests/support/languages.h"
 
 using namespace verdane;
@@ -97,11 +98,13 @@ private Q_SLOTS:
                                             << " 3 "
                                             << "07:01:03"
                                             << "20240614070103";
-        QTest::newRow("three digits make a longer key") << "123"
-                                                        << "00"
-                                                        << "00"
-                                                        << "123:00:00"
-                                                        << "202406141230000";
+        // A server refuses a text that is longer than its column.
+        if (engine_of_tests() != test_engine::mariadb)
+            QTest::newRow("three digits make a longer key") << "123"
+                                                            << "00"
+                                                            << "00"
+                                                            << "123:00:00"
+                                                            << "202406141230000";
         QTest::newRow("letters are accepted") << "ab"
                                               << "99"
                                               << "x"
