@@ -17,8 +17,8 @@ mariadb_tables described(const QString& rows, const QString& engine = u"InnoDB"_
                          const QString& transactions = u"YES"_s)
 {
     QSqlQuery query(QSqlDatabase::database());
-    if (!query.exec(u"select *, 'int', 0, '%1', '%2' from (values "_s.arg(engine, transactions) + rows +
-                    u')'))
+    if (!query.exec(u"select *, 'int', 0, '%1', '%2', 'int(11)' from (values "_s.arg(engine, transactions) +
+                    rows + u')'))
         qFatal("wrong rows: %s", qUtf8Printable(rows));
     return mariadb_tables(query);
 }
@@ -77,7 +77,7 @@ private Q_SLOTS:
     {
         const source_column column =
             described(u"('games','date','','')"_s).columns().value(u"games"_s).value(0);
-        QCOMPARE(column.type, u"int"_s);
+        QCOMPARE(column.type, u"int(11)"_s);
         QVERIFY(column.content == column_content::whole_numbers);
     }
 

@@ -89,23 +89,29 @@ private Q_SLOTS:
     void a_type_of_a_server_fits_the_columns_whose_values_it_stores_unchanged_data()
     {
         add_types();
-        type("text", content_in_mariadb(u"text"_s, 0), u"text"_s);
-        type("varchar", content_in_mariadb(u"VARCHAR"_s, 0), u"text"_s);
-        type("smallint", content_in_mariadb(u"smallint"_s, 0), u"count amount yes_no"_s);
-        type("tinyint", content_in_mariadb(u"tinyint"_s, 0), u"count amount yes_no"_s);
-        type("decimal", content_in_mariadb(u"decimal"_s, 0), u"count amount yes_no"_s);
-        type("decimal with decimals", content_in_mariadb(u"decimal"_s, 2), u"count amount real yes_no"_s);
-        type("double", content_in_mariadb(u"double"_s, 0), u"count amount real yes_no"_s);
-        type("datetime", content_in_mariadb(u"datetime"_s, 0), QString());
-        type("blob", content_in_mariadb(u"blob"_s, 0), QString());
+        type("text", content_in_mariadb(u"text"_s, false), u"text"_s);
+        type("varchar", content_in_mariadb(u"VARCHAR"_s, false), u"text"_s);
+        type("char", content_in_mariadb(u"char"_s, false), QString());
+        type("smallint", content_in_mariadb(u"smallint"_s, false), u"count amount yes_no"_s);
+        type("tinyint", content_in_mariadb(u"tinyint"_s, false), u"count amount yes_no"_s);
+        type("decimal", content_in_mariadb(u"decimal"_s, false), u"count amount yes_no"_s);
+        type("decimal with decimals", content_in_mariadb(u"decimal"_s, true), u"count amount yes_no"_s);
+        type("float", content_in_mariadb(u"float"_s, false), u"count yes_no"_s);
+        type("double", content_in_mariadb(u"double"_s, false), u"count amount real yes_no"_s);
+        type("double with decimals", content_in_mariadb(u"double"_s, true), u"count amount yes_no"_s);
+        type("datetime", content_in_mariadb(u"datetime"_s, false), QString());
+        type("blob", content_in_mariadb(u"blob"_s, false), QString());
     }
     void a_type_of_a_server_fits_the_columns_whose_values_it_stores_unchanged() { check_type(); }
 
     void a_type_of_a_file_fits_the_columns_whose_values_it_stores_unchanged_data()
     {
         add_types();
-        type("SMALLINT", content_in_sqlite(u"SMALLINT"_s), u"count amount real yes_no"_s);
-        type("BOOLEAN", content_in_sqlite(u"BOOLEAN"_s), u"count amount real yes_no"_s);
+        type("SMALLINT", content_in_sqlite(u"SMALLINT"_s), u"count amount yes_no"_s);
+        type("unsigned int", content_in_sqlite(u"unsigned int"_s), u"count amount yes_no"_s);
+        type("UNSIGNED BIG INT", content_in_sqlite(u"UNSIGNED BIG INT"_s), u"count amount real yes_no"_s);
+        type("BOOLEAN", content_in_sqlite(u"BOOLEAN"_s), u"count amount yes_no"_s);
+        type("DOUBLE", content_in_sqlite(u"DOUBLE"_s), u"count amount real yes_no"_s);
         type("VARCHAR(14)", content_in_sqlite(u"varchar(14)"_s), u"text"_s);
         type("TEXT", content_in_sqlite(u"TEXT"_s), u"text"_s);
         type("DATE", content_in_sqlite(u"DATE"_s), u"count amount real yes_no"_s);

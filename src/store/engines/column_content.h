@@ -9,17 +9,19 @@ namespace verdane {
 
 enum class column_content {
     texts,
-    whole_numbers,
-    numbers,  ///< with decimals
+    counts,         ///< whole numbers of 16 bits
+    whole_numbers,  ///< of 32 bits
+    numbers,        ///< with decimals
     anything,
     other  ///< dates, for example
 };
 
-/// Of a type of MariaDB, without its length (`varchar`, `decimal`). `decimals` is the number of decimals of
-/// type `decimal`.
-column_content content_in_mariadb(const QString& type, int decimals);
+/// Of a type of MariaDB, without its length (`varchar`, `decimal`). `rounds` is true if the type has a fixed
+/// number of decimals.
+column_content content_in_mariadb(const QString& type, bool rounds);
 
-/// Of a declared type of SQLite, by the rules with which the engine derives the affinity of a column.
+/// Of a declared type of SQLite, by the rules with which the engine derives the affinity of a column, and by
+/// which its ODBC driver reads whole numbers.
 column_content content_in_sqlite(const QString& type);
 
 /// True if a column with that content stores every value of a column of the program.

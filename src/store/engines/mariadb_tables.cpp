@@ -24,7 +24,7 @@ QString mariadb_tables::question()
 {
     // A view has no storage engine.
     return u"select c.table_name, c.column_name, c.column_key, c.extra, c.data_type, c.numeric_scale, "
-           u"t.engine, e.transactions from information_schema.columns c "
+           u"t.engine, e.transactions, c.column_type from information_schema.columns c "
            u"join information_schema.tables t using (table_schema, table_name) "
            u"left join information_schema.engines e on e.engine = t.engine "
            u"where c.table_schema = database() order by c.table_name, c.ordinal_position"_s;
@@ -40,8 +40,8 @@ mariadb_tables::mariadb_tables(QSqlQuery& columns)
             identified_ << table;
         // `select *` returns a column that identifies rows unless it is invisible.
         if (!columns.value(3).toString().contains(u"INVISIBLE", Qt::CaseInsensitive))
-            columns_[table] << source_column{column, type,
-                                             content_in_mariadb(type, columns.value(5).toInt())};
+            columns_[table] << source_column{column, columns.value(8).toString(),
+                                             content_in_mariadb(type, columns.value(5).toInt() > 0)};
         if (columns.value(2).toString() == u"PRI")
             keyed_ << table;
         if (columns.value(7).toString() == u"NO")
