@@ -47,6 +47,7 @@ int main(int argc, char** argv)
     verdane::bench::register_cost_statistics();
     verdane::bench::register_report_pages();
     verdane::bench::pair_reporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return reporter.all_worked() ? 0 : 1;
+    // A filter that matches nothing is an error, such as that of a source that is not registered.
+    const std::size_t run = benchmark::RunSpecifiedBenchmarks(&reporter);
+    return run > 0 && reporter.all_worked() ? 0 : 1;
 }
