@@ -62,7 +62,7 @@ QString template_file_in(const QString& folder, const QString& name, const QStri
     return path;
 }
 
-QString complaint_about(const QString& path)
+QString failure_of_template(const QString& path)
 {
     try {
         render_report(path);

@@ -16,7 +16,7 @@ QString template_file_in(const QString& folder, const QString& name, const QStri
                          const QString& body);
 
 /// The details of the failure of a template; empty if it makes a report.
-QString complaint_about(const QString& path);
+QString failure_of_template(const QString& path);
 
 /// The path of one of the program's templates in the build.
 QString built_template(const QString& name);

@@ -143,7 +143,7 @@ private Q_SLOTS:
             QVERIFY2(text.count(change.before) == 1, qPrintable(change.file + u":\n"_s + change.before));
             write_text(path, text.replace(change.before, change.after));
         }
-        QCOMPARE(complaint_about(folder_.filePath(report)), QString());
+        QCOMPARE(failure_of_template(folder_.filePath(report)), QString());
         const printed_report after = printed(report);
         QVERIFY(after.pictures != before.pictures);
         QCOMPARE(after.pages.size(), before.pages.size());

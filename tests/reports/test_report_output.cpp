@@ -21,21 +21,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Limits the size of the files that this process writes, as long as it exists.
-class room_on_disk {
+class file_size_limit {
 public:
-    explicit room_on_disk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN))
+    explicit file_size_limit(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN))
     {
         getrlimit(RLIMIT_FSIZE, &before_);
         const rlimit now{bytes, before_.rlim_max};
         setrlimit(RLIMIT_FSIZE, &now);
     }
-    ~room_on_disk()
+    ~file_size_limit()
     {
         setrlimit(RLIMIT_FSIZE, &before_);
         std::signal(SIGXFSZ, signal_);
     }
-    room_on_disk(const room_on_disk&) = delete;
-    room_on_disk& operator=(const room_on_disk&) = delete;
+    file_size_limit(const file_size_limit&) = delete;
+    file_size_limit& operator=(const file_size_limit&) = delete;
 
 private:
     rlimit before_{};
@@ -151,7 +151,7 @@ private Q_SLOTS:
         const auto document = three_pages();
         document->save_csv(path);
         const QByteArray before = content(path);
-        const room_on_disk little(1024);
+        const file_size_limit little(1024);
         QCOMPARE(failure_of([&] { document->save_pdf(path); }), failure_kind::report_output);
         QCOMPARE(content(path), before);
         QCOMPARE(QDir(folder_.path()).entryList({u"kept.pdf*"_s}).size(), 1);

@@ -122,13 +122,13 @@ private Q_SLOTS:
         QFETCH(QString, head);
         QFETCH(QString, body);
         QFETCH(QString, words);
-        const QString seen = complaint_about(written(head, body));
+        const QString seen = failure_of_template(written(head, body));
         QVERIFY2(seen.startsWith(words), qPrintable(seen));
     }
 
     void a_template_that_is_not_there_is_an_error_that_names_it()
     {
-        const QString seen = complaint_about(folder_.filePath(u"gone.rpt"_s));
+        const QString seen = failure_of_template(folder_.filePath(u"gone.rpt"_s));
         QVERIFY2(seen.startsWith(u"gone.rpt:1: cannot open "_s), qPrintable(seen));
     }
 
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("page = A4 portrait\nquery one = select 1\n");
         file.close();
-        QCOMPARE(complaint_about(path), u"head.rpt:3: no line --- between the head and the body"_s);
+        QCOMPARE(failure_of_template(path), u"head.rpt:3: no line --- between the head and the body"_s);
     }
 
     void line_ends_marks_and_blanks_of_editors_are_ignored_data()

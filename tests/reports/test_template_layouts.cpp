@@ -134,9 +134,10 @@ private Q_SLOTS:
 
     void a_word_does_not_pass_the_checks_of_a_query()
     {
-        QCOMPARE(complaint_about(try_template("layout = try.layout\n[words]\nit = %.99999c\n",
-                                              "query bad =\n    select printf({{words.it}}, 'x')\n---\n")),
-                 u"try.layout:1: query bad: printf repeats a character at most 9999 times"_s);
+        QCOMPARE(
+            failure_of_template(try_template("layout = try.layout\n[words]\nit = %.99999c\n",
+                                             "query bad =\n    select printf({{words.it}}, 'x')\n---\n")),
+            u"try.layout:1: query bad: printf repeats a character at most 9999 times"_s);
     }
 
     void words_may_be_in_a_whole_template()
@@ -230,7 +231,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, its_words);
         QFETCH(QByteArray, its_layout);
         QFETCH(QString, complaint);
-        const QString seen = complaint_about(try_template(its_words, its_layout));
+        const QString seen = failure_of_template(try_template(its_words, its_layout));
         QVERIFY2(seen.startsWith(complaint), qPrintable(seen));
     }
 
@@ -271,13 +272,13 @@ private Q_SLOTS:
         QFETCH(QByteArray, head);
         QFETCH(QByteArray, body);
         QFETCH(QString, complaint);
-        const QString seen = complaint_about(try_template(words, head + layout + body));
+        const QString seen = failure_of_template(try_template(words, head + layout + body));
         QVERIFY2(seen.startsWith(u"try.layout:"_s + complaint), qPrintable(seen));
     }
 
     void a_layout_that_is_too_long_is_refused()
     {
-        QCOMPARE(complaint_about(try_template(words, layout + QByteArray("x\n").repeated(500'000))),
+        QCOMPARE(failure_of_template(try_template(words, layout + QByteArray("x\n").repeated(500'000))),
                  u"try.layout:1: the layout is longer than 1000000 bytes"_s);
     }
 
@@ -286,7 +287,7 @@ private Q_SLOTS:
         const QByteArray its_words =
             "layout = try.layout\n[words]\ncaption = " + QByteArray("x ").repeated(1000);
         const QByteArray many = layout + QByteArray("{{words.caption}}\n").repeated(40'000);
-        QCOMPARE(complaint_about(try_template(its_words, many)),
+        QCOMPARE(failure_of_template(try_template(its_words, many)),
                  u"try.layout:506: with its words the layout is longer than 1000000 characters"_s);
     }
 };

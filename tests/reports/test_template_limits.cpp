@@ -133,7 +133,7 @@ class test_template_limits : public QObject {
 
     QString complaint(const QString& its_head, const QString& body)
     {
-        return complaint_about(template_file_in(folder_.path(), u"try.rpt"_s, its_head, body));
+        return failure_of_template(template_file_in(folder_.path(), u"try.rpt"_s, its_head, body));
     }
 
 private Q_SLOTS:
@@ -225,7 +225,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, body);
         const QString path = template_file_in(folder_.path(), u"usual.rpt"_s, head, body);
-        QCOMPARE(complaint_about(path), QString());
+        QCOMPARE(failure_of_template(path), QString());
         QVERIFY(render_report(path)->page_count() > 0);
     }
 

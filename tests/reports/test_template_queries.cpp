@@ -47,9 +47,9 @@ QWidget* open_window(const QString& name)
 }
 
 /// Presses Stop or Escape in the window that opens while a report runs, then OK, and stores the texts.
-class impatient_user : public QObject {
+class stopping_user : public QObject {
 public:
-    explicit impatient_user(bool with_escape)
+    explicit stopping_user(bool with_escape)
     {
         QObject::connect(&timer_, &QTimer::timeout, this, [this, with_escape] { look(with_escape); });
         timer_.start(50);
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QFETCH(QString, words);
         const QString before = reader(store_.location()).text(u"select count(*) from sqlite_master"_s);
         QCOMPARE(
-            complaint_about(written(u"\nquery bad =\n    "_s + sql + u'\n')),
+            failure_of_template(written(u"\nquery bad =\n    "_s + sql + u'\n')),
             u"try.rpt:2: query bad: a query can only select from the report tables and the queries above it; "_s +
                 words);
         QCOMPARE(reader(store_.location()).text(u"select count(*) from sqlite_master"_s), before);
@@ -158,16 +158,16 @@ private Q_SLOTS:
 
     void a_query_with_too_many_rows_or_characters_is_refused_with_file_and_line()
     {
-        QCOMPARE(complaint_about(
+        QCOMPARE(failure_of_template(
                      written(u"query bad = with recursive c(n) as (select 1 union all select n + 1 from c)"
                              " select n from c\n"_s)),
                  u"try.rpt:1: query bad: more than 10000 rows"_s);
-        QCOMPARE(complaint_about(
+        QCOMPARE(failure_of_template(
                      written(u"query bad = with recursive c(n) as (select 1 union all select n + 1 from c)"
                              " select hex(zeroblob(90000)) as n from c\n"_s)),
                  u"try.rpt:1: query bad: more than 10000000 characters"_s);
         const QString too_big =
-            complaint_about(written(u"query bad = select hex(zeroblob(99999999)) as n\n"_s));
+            failure_of_template(written(u"query bad = select hex(zeroblob(99999999)) as n\n"_s));
         QVERIFY2(too_big.startsWith(u"try.rpt:1: query bad: string or blob too big"_s), qPrintable(too_big));
     }
 
@@ -222,7 +222,7 @@ private Q_SLOTS:
         report_control control;
         control.set_WindowTitle(u"Verdane International Inc."_s);
         control.set_ReportFileName(folder_.path() + u"\\try.rpt"_s);
-        impatient_user user(with_escape);
+        stopping_user user(with_escape);
         control.Action(report_control::run_now);
         QCOMPARE(user.words, words);
         QCOMPARE(user.icon, QMessageBox::Information);
@@ -254,7 +254,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, sql);
         QFETCH(QString, words);
-        const QString complaint = complaint_about(written(u"query bad = select "_s + sql + u" as n\n"_s));
+        const QString complaint = failure_of_template(written(u"query bad = select "_s + sql + u" as n\n"_s));
         QVERIFY2(complaint.startsWith(u"try.rpt:1: query bad: "_s + words), qPrintable(complaint));
     }
 
@@ -290,7 +290,7 @@ private Q_SLOTS:
                 other.release();
         });
         timer.start(50);
-        QCOMPARE(complaint_about(written(u"query one = select * from stats\n"_s)), QString());
+        QCOMPARE(failure_of_template(written(u"query one = select * from stats\n"_s)), QString());
         QVERIFY(seen && open_window(u"lock_box"_s) == nullptr);
     }
 

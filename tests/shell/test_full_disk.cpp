@@ -37,7 +37,7 @@ bool limit_files(rlim_t bytes)
     return setrlimit(RLIMIT_FSIZE, &limit) == 0;
 }
 
-void say_failure_and_answer(hand& user)
+void print_and_close_failure(hand& user)
 {
     user.wait_for_window(u"failure_box"_s);
     std::printf("failure: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)));
@@ -48,7 +48,7 @@ void say_failure_and_answer(hand& user)
 int start_and_fail()
 {
     int status = -1;
-    play([&] { status = run_verdane(*qApp); }, say_failure_and_answer);
+    play([&] { status = run_verdane(*qApp); }, print_and_close_failure);
     return status;
 }
 
@@ -85,7 +85,7 @@ int fail_in_a_round()
                      std::_Exit(not_limited);
              });
              type_holes(user);
-             say_failure_and_answer(user);
+             print_and_close_failure(user);
          });
     return status;
 }

@@ -37,7 +37,7 @@ bool fill_clubs(const selection_arguments& chosen)
     return Statistics::fill_stat_sticks(chosen, false, no_bar);
 }
 
-void fill_in_vain(const selection_arguments& chosen)
+void fill_without_result(const selection_arguments& chosen)
 {
     play([&] { QVERIFY(!fill_clubs(chosen)); }, answer_no_shots);
 }

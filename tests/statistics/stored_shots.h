@@ -29,7 +29,7 @@ selection_arguments rounds_of_days(int from, int to);
 /// Fills the table without window and report; false where no shot was found.
 bool fill_clubs(const selection_arguments& chosen);
 /// The same for a selection without shots; closes its message box.
-void fill_in_vain(const selection_arguments& chosen);
+void fill_without_result(const selection_arguments& chosen);
 
 /// The nine figures of a club without shots.
 inline const QStringList zeros(9, u"0"_s);

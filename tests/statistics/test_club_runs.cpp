@@ -61,7 +61,7 @@ private Q_SLOTS:
         shots.shot(1, 1, u"400, 150, 'Verges', 1, 0, 0, 1"_s);
         QVERIFY(fill_clubs(rounds_of_days(1, 1)));
         shots.book.store.write(u"update sticknames set club_2 = 'Neu'"_s);
-        fill_in_vain(rounds_of_days(from, 1));
+        fill_without_result(rounds_of_days(from, 1));
         QCOMPARE(shots.club(1).mid(1, 9), zeros);
         QCOMPARE(shots.club(1)[17], u"0"_s);
         QCOMPARE(shots.club(1)[12], u"2003-01-0%1 09:30:00"_s.arg(from));
@@ -85,7 +85,7 @@ private Q_SLOTS:
         QVERIFY(fill_clubs(chosen));
         QCOMPARE(shots.club(1)[3], u"250"_s);
         chosen.course_clause = u" AND GAMES2.FC = 'PINS-1'"_s;
-        fill_in_vain(chosen);
+        fill_without_result(chosen);
     }
 
     void with_store_counts_the_shot_counts_are_written_to_the_row_of_averages()

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Fills the tables of a selection that has nothing to print.
-void fill_in_vain(const selection_arguments& chosen)
+void fill_without_result(const selection_arguments& chosen)
 {
     play([&] { QVERIFY(!fill_grids(chosen)); }, answer_no_putts);
 }
@@ -192,7 +192,7 @@ private Q_SLOTS:
         rounds.putts(3, 1, {10});
         QVERIFY(fill_grids(days(1, 3)));
         const auto before = rounds.grids();
-        fill_in_vain(days(from, to));
+        fill_without_result(days(from, to));
         QCOMPARE(rounds.grids(), before);
         QVERIFY(open_recordsets().isEmpty());
         QCOMPARE(data_environment().rsgames2.Source(), u"select * from games2"_s);
@@ -203,7 +203,7 @@ private Q_SLOTS:
         const stored_rounds rounds(2);
         rounds.putts(1, 1, {10});
         QVERIFY(fill_grids(days(1, 1)));
-        fill_in_vain(days(2, 2));
+        fill_without_result(days(2, 2));
         for (int k = 1; k <= 5; ++k)
             QCOMPARE(bands(rounds.by_first(k)), no_bands);
         QCOMPARE(rounds.by_first(5).mid(13, 8), QStringList(8, u" 0"_s));

@@ -69,7 +69,7 @@ QString cut(const QString& text)
 
 // Putts.
 
-struct putt_opinion {
+struct second_putt_grids {
     int rounds = 0;
     std::array<std::array<int, 8>, 6> by_first{};
     std::array<std::array<int, 8>, 8> by_start{};
@@ -115,10 +115,10 @@ struct putt_opinion {
 };
 
 /// The lengths of the putts are read by the names of their columns; the program computes ordinals instead.
-putt_opinion putts_of(const reader& store, const QString& condition)
+second_putt_grids putts_of(const reader& store, const QString& condition)
 {
-    putt_opinion opinion;
-    opinion.rounds = store.number(u"select count(*) from games2 g where "_s + condition);
+    second_putt_grids second;
+    second.rounds = store.number(u"select count(*) from games2 g where "_s + condition);
     for (int h = 1; h <= 18; ++h) {
         QStringList columns;
         for (int putt = 1; putt <= 6; ++putt)
@@ -127,15 +127,15 @@ putt_opinion putts_of(const reader& store, const QString& condition)
              store.rows(u"select "_s + columns.join(u',') + u" from games2 g where " + condition)) {
             std::size_t putts = 0;
             while (putts < row.size() && row[putts].toInt() > 0) {
-                opinion.add(row[putts].toInt(), putts + 1 < row.size() ? row[putts + 1].toInt() : 0);
+                second.add(row[putts].toInt(), putts + 1 < row.size() ? row[putts + 1].toInt() : 0);
                 ++putts;
             }
             if (putts > 0)
-                ++opinion.by_first.at(putts).at(
-                    static_cast<std::size_t>(putt_opinion::start_band(row[0].toInt())));
+                ++second.by_first.at(putts).at(
+                    static_cast<std::size_t>(second_putt_grids::start_band(row[0].toInt())));
         }
     }
-    return opinion;
+    return second;
 }
 
 template <std::size_t Size>
@@ -238,20 +238,20 @@ private Q_SLOTS:
             open_end.to = u"99999999999999"_s;
             condition = open_end.condition();
         }
-        const putt_opinion opinion = putts_of(store, condition);
-        QVERIFY(opinion.putts > 0);
+        const second_putt_grids second = putts_of(store, condition);
+        QVERIFY(second.putts > 0);
         QVERIFY(Statistics::fill_putt_tables(chosen.arguments(clause_form::alone), no_bar_));
         const auto by_first = table_rows(store, u"s_put1"_s);
         for (int k = 1; k <= 5; ++k)
-            QCOMPARE(by_first[k - 1].mid(1, 7), counts(opinion.by_first.at(static_cast<std::size_t>(k))));
+            QCOMPARE(by_first[k - 1].mid(1, 7), counts(second.by_first.at(static_cast<std::size_t>(k))));
         for (int band = 1; band <= 7; ++band)
-            QCOMPARE(by_first[4][12 + band], opinion.mean(band));
-        QCOMPARE(by_first[4][20], opinion.mean(0));
-        QCOMPARE(by_first[0][26].toInt(), opinion.rounds);
+            QCOMPARE(by_first[4][12 + band], second.mean(band));
+        QCOMPARE(by_first[4][20], second.mean(0));
+        QCOMPARE(by_first[0][26].toInt(), second.rounds);
         const auto by_start = table_rows(store, u"s_put2"_s);
         for (int i = 1; i <= 7; ++i)
-            QCOMPARE(by_start[i - 1].mid(1, 7), counts(opinion.by_start.at(static_cast<std::size_t>(i))));
-        QCOMPARE(by_start[6][11], number(static_cast<double>(opinion.grades) / opinion.putts));
+            QCOMPARE(by_start[i - 1].mid(1, 7), counts(second.by_start.at(static_cast<std::size_t>(i))));
+        QCOMPARE(by_start[6][11], number(static_cast<double>(second.grades) / second.putts));
     }
 
     void every_cell_of_the_club_table_agrees_data() { choices(); }

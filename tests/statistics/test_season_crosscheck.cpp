@@ -10,7 +10,7 @@
 #include "statistics/summary_pass.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/generated_diary.h"
-#include "tests/statistics/handicap_opinion.h"
+#include "tests/statistics/second_handicap.h"
 #include "tests/support/stored_diary.h"
 
 using namespace verdane;
@@ -191,7 +191,7 @@ void check_rounds(const passed_rows& tables, const std::vector<read_round>& roun
         compare(tables, table, i, u"putts"_s, round.putts);
         compare(tables, table, i, u"greens"_s, round.greens);
         compare(tables, table, i, u"penalties"_s, round.penalties);
-        const QString handicap = handicap_opinion(store, condition + u" and g.date <= '%1'"_s.arg(round.key));
+        const QString handicap = second_handicap(store, condition + u" and g.date <= '%1'"_s.arg(round.key));
         compare(tables, table, i, u"handicap"_s,
                 handicap == u"N/A" ? QVariant() : QVariant(handicap.trimmed().toDouble()));
         if (round.whole())
@@ -372,7 +372,7 @@ private Q_SLOTS:
         const std::vector<read_round> expected = rounds_in(store.store, condition);
         QVERIFY(!expected.empty());
         check_rounds(tables, expected, store.store, condition);
-        check_handicap(tables, expected, handicap_opinion(store.store, condition));
+        check_handicap(tables, expected, second_handicap(store.store, condition));
         check_ladder(tables, expected.size());
         check_totals(tables, expected);
         check_holes(tables, expected);

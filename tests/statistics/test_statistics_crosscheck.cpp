@@ -6,7 +6,7 @@
 #include "reports/report_store.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/generated_diary.h"
-#include "tests/statistics/handicap_opinion.h"
+#include "tests/statistics/second_handicap.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/support/stored_diary.h"
 
@@ -28,9 +28,9 @@ struct choice {
 };
 
 /// The second computation: rows of the store joined by the engine, added up in plain loops.
-class second_opinion {
+class second_computation {
 public:
-    second_opinion(const reader& store, const QString& condition) : store_(store)
+    second_computation(const reader& store, const QString& condition) : store_(store)
     {
         rounds_ =
             store.number(u"select count(*) from games g join games2 s on g.date = s.date where " + condition);
@@ -222,12 +222,12 @@ private Q_SLOTS:
         });
         const QString condition = condition_of(chosen, rounds);
         QCOMPARE(stats_head(store.store, u"handicap_text"_s).toString(),
-                 handicap_opinion(store.store, condition));
-        const second_opinion opinion(store.store, condition);
-        QVERIFY(opinion.rounds() > 0);
-        QCOMPARE(stats_head(store.store, u"round_count"_s).toInt(), opinion.rounds());
+                 second_handicap(store.store, condition));
+        const second_computation second(store.store, condition);
+        QVERIFY(second.rounds() > 0);
+        QCOMPARE(stats_head(store.store, u"round_count"_s).toInt(), second.rounds());
         for (int line = 0; line < rows_of_stats; ++line) {
-            const auto expected = opinion.row(line);
+            const auto expected = second.row(line);
             const auto seen = stats_row(store.store, line);
             for (std::size_t i = 0; i < expected.size(); ++i) {
                 const QString where = u"row %1, column %2: %3, expected %4"_s.arg(line)

@@ -68,7 +68,7 @@ void give_everyone_access(const store_fixture& store)
 }
 
 /// A notice of a user who gives up at once.
-class impatient_notice final : public lock_notice {
+class notice_that_gives_up final : public lock_notice {
 public:
     bool keep_waiting() override { return false; }
 };
@@ -221,7 +221,7 @@ private Q_SLOTS:
         store.add_partners({u"a"_s, u"b"_s});
         const auto partners = store.opened(u"select * from partners"_s);
         const QString before = whole_content(store.outside());
-        store.connection.waiting().set_notice_maker([] { return std::make_unique<impatient_notice>(); });
+        store.connection.waiting().set_notice_maker([] { return std::make_unique<notice_that_gives_up>(); });
         Connection1 tool;
         const QString link = folder_of(store) + u"/tool.db";
         QVERIFY(QFile::link(store.path(), link));

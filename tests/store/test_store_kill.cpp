@@ -31,20 +31,20 @@ private Q_SLOTS:
         for (int seen = 0; seen < commits;) {
             QVERIFY(child.waitForReadyRead(60000));
             while (child.canReadLine() && seen < commits) {
-                last_said_ = child.readLine().trimmed().toInt();
+                last_printed_ = child.readLine().trimmed().toInt();
                 ++seen;
             }
         }
         child.kill();
         QVERIFY(child.waitForFinished(60000));
         while (child.canReadLine())
-            last_said_ = child.readLine().trimmed().toInt();
+            last_printed_ = child.readLine().trimmed().toInt();
         Connection1 connection;
         connection.Open(place_.location());
         const reader outside(place_.location());
         // One more may have been committed without having been printed.
         const int stored = outside.number(u"select count(*) from partners"_s);
-        QVERIFY(stored == last_said_ || stored == last_said_ + 1);
+        QVERIFY(stored == last_printed_ || stored == last_printed_ + 1);
         QCOMPARE(outside.number(u"select max(code) from partners"_s), stored);
         QCOMPARE(outside.number(u"select count(distinct code) from partners where length(AD1)=500"_s),
                  stored);
@@ -52,7 +52,7 @@ private Q_SLOTS:
     }
 
 private:
-    int last_said_ = 0;
+    int last_printed_ = 0;
 };
 
 QTEST_GUILESS_MAIN(test_store_kill)

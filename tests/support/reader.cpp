@@ -19,15 +19,15 @@ namespace {
 /// The problems that `check table` reports. Its result has the table, the operation, the kind and the text.
 QString damage_on_server(const outside_connection& server)
 {
-    QStringList complaints;
+    QStringList problems;
     for (const QString& table : tables_of(server)) {
         QSqlQuery query = server.run_unchanged(u"check table `%1` extended"_s.arg(table));
         for (const auto& row : all_rows(query)) {
             if (row[3] != u"OK"_s)
-                complaints << table + u": " + row[3].toString();
+                problems << table + u": " + row[3].toString();
         }
     }
-    return complaints.join(u'\n');
+    return problems.join(u'\n');
 }
 
 }  // namespace

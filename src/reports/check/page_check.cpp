@@ -30,7 +30,7 @@ public:
             check_height(*piece);
         }
         if (open_.is_in_drawing())
-            complain({drawing_position_, u"a drawing is not closed"_s});
+            report_fault({drawing_position_, u"a drawing is not closed"_s});
         return fault_;
     }
 
@@ -39,10 +39,10 @@ private:
     {
         switch (piece.kind) {
         case markup_kind::text:
-            complain(piece.position, fault_of_text(piece.text));
+            report_fault(piece.position, fault_of_text(piece.text));
             break;
         case markup_kind::style_sheet:
-            complain(piece.position, fault_of_style(piece.text));
+            report_fault(piece.position, fault_of_style(piece.text));
             break;
         case markup_kind::end_tag:
             open_.close(piece.name);
@@ -57,18 +57,19 @@ private:
     void check_start(const markup_piece& tag)
     {
         if (open_.depth() > most_nested_elements)
-            complain({tag.position, u"elements are nested more than %1 deep"_s.arg(most_nested_elements)});
+            report_fault(
+                {tag.position, u"elements are nested more than %1 deep"_s.arg(most_nested_elements)});
         if (tag.is(u"table") && open_.count(u"table") > most_nested_tables)
-            complain({tag.position, u"tables are nested more than %1 deep"_s.arg(most_nested_tables)});
+            report_fault({tag.position, u"tables are nested more than %1 deep"_s.arg(most_nested_tables)});
         const bool in_drawing = open_.is_in_drawing();
         if (tag.is(u"svg"))
             drawing_position_ = tag.position;
         if (!in_drawing && (tag.is(u"img") || tag.is(u"link")))
-            complain({tag.position, file_refusal(tag.name)});
+            report_fault({tag.position, file_refusal(tag.name)});
         if (in_drawing && !tag.is(u"svg") && !tag.text.contains(u"font-size") && !tag.text.contains(u"style"))
             return;
         for_each_attribute(tag.text, [&](QStringView name, QStringView value, qsizetype position) {
-            complain(tag.position + position, fault_of_attribute(tag.name, in_drawing, name, value));
+            report_fault(tag.position + position, fault_of_attribute(tag.name, in_drawing, name, value));
             add_height(name, value);
         });
     }
@@ -94,17 +95,17 @@ private:
             height_mm_ += line_mm_;
         }
         if (height_mm_ > most_height_mm)
-            complain({piece.position, u"the page may be taller than %1 mm"_s.arg(most_height_mm)});
+            report_fault({piece.position, u"the page may be taller than %1 mm"_s.arg(most_height_mm)});
     }
 
     /// Only the first fault is kept. `found` counts its position from `start`.
-    void complain(qsizetype start, const std::optional<page_fault>& found)
+    void report_fault(qsizetype start, const std::optional<page_fault>& found)
     {
         if (found)
-            complain({start + found->position, found->message});
+            report_fault({start + found->position, found->message});
     }
 
-    void complain(const page_fault& found)
+    void report_fault(const page_fault& found)
     {
         if (!fault_)
             fault_ = found;

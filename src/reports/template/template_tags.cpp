@@ -22,7 +22,7 @@ template_tag read_tag(const QString& inside, const template_place& place)
     return {kind.isEmpty() ? QChar(u' ') : kind.front(), match.captured(2), place.line};
 }
 
-bool is_remark(const QString& inside)
+bool is_comment(const QString& inside)
 {
     return inside.startsWith(u'!');
 }
@@ -97,7 +97,7 @@ std::vector<template_tag> find_tags(const QString& text, const template_place& f
         if (end < 0)
             fail_template(place, u"a tag {{ is not closed"_s);
         const QString inside = text.sliced(start + 2, end - start - 2);
-        if (!is_remark(inside)) {
+        if (!is_comment(inside)) {
             result.push_back(read_tag(inside, place));
             result.back().start = start;
             result.back().length = end + 2 - start;

@@ -1,4 +1,4 @@
-#include "tests/statistics/handicap_opinion.h"
+#include "tests/statistics/second_handicap.h"
 
 #include <algorithm>
 #include <array>
@@ -61,7 +61,7 @@ QString one_decimal(double value)
 
 }  // namespace
 
-QString handicap_opinion(const reader& store, const QString& condition)
+QString second_handicap(const reader& store, const QString& condition)
 {
     const std::vector<double> differentials = sorted_differentials(store, condition);
     const std::size_t best = best_of(differentials.size());
