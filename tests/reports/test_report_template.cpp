@@ -1,3 +1,4 @@
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -6,9 +7,9 @@
 #include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
-#include "store/DataEnvironment1.h"
+#include "store/Connection1.h"
 #include "tests/reports/report_tools.h"
-#include "tests/support/reader.h"
+#include "tests/support/outside_connection.h"
 #include "tests/support/store_folder.h"
 
 using namespace verdane;
@@ -267,10 +268,28 @@ private Q_SLOTS:
         const QString path =
             written(u"query it = select course_text as c from stats"_s, u"{{#it}}{{c}}{{/it}}"_s);
         const template_file source = read_template(path);
-        reader(store_.location())
-            .write(u"update stats set course_text = 'before' where "
-                   u"rowid = 1"_s);
-        Connection1& program = data_environment().connection;
+        const outside_connection other(store_.location());
+        other.run(u"update stats set course_text = 'before' where rowid = 1"_s);
+        other.run(u"begin"_s);
+        other.run(u"update stats set course_text = 'after' where rowid = 1"_s);
+        QVERIFY(fill_body(source, report_snapshot(source)).contains(u"before"_s));
+        other.run(u"commit"_s);
+        QVERIFY(fill_body(source, report_snapshot(source)).contains(u"after"_s));
+    }
+
+    void a_report_on_a_file_does_not_read_rows_that_the_program_has_not_committed()
+    {
+        // A registered source is read on the connection of the program.
+        const QTemporaryDir folder;
+        const store_location file = store_location::file(folder.filePath(u"Verdbase.db"_s));
+        Connection1 program;
+        program.Open(file);
+        set_report_store(file);
+        const auto restored = qScopeGuard([this] { set_report_store(store_.location()); });
+        const QString path =
+            written(u"query it = select course_text as c from stats"_s, u"{{#it}}{{c}}{{/it}}"_s);
+        const template_file source = read_template(path);
+        program.Execute(u"update stats set course_text = 'before' where rowid = 1"_s);
         program.Execute(u"begin"_s);
         program.Execute(u"update stats set course_text = 'after' where rowid = 1"_s);
         QVERIFY(fill_body(source, report_snapshot(source)).contains(u"before"_s));
