@@ -18,6 +18,7 @@
 #include "store/Connection1.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/registered_source.h"
+#include "store/schema.h"
 #include "tests/server/own_server.h"
 #include "tests/shell/main_windows.h"
 #include "tests/shell/program_run.h"
@@ -152,10 +153,11 @@ QString driver_of_other_engine()
     return QFileInfo(driver).dir().filePath(u"libmdbodbcW.so"_s);
 }
 
-void add_account_that_reads()
+/// Makes the account `viewer`, which has those rights on the databases of the tests.
+void add_account(const QString& rights)
 {
     administer(u"create or replace user viewer@localhost identified by 'fairway'"_s);
-    administer(u"grant select on `verdbase%`.* to viewer@localhost"_s);
+    administer(u"grant %1 on `verdbase%`.* to viewer@localhost"_s.arg(rights));
 }
 
 /// Why the source cannot be used, and how that is undone.
@@ -198,7 +200,28 @@ const std::vector<refusal>& refusals()
         {"account that only reads",
          failure_kind::source_read_only,
          {{u"UID"_s, u"viewer"_s}},
-         add_account_that_reads,
+         [] { add_account(u"select"_s); },
+         nothing},
+        {"account that may not insert",
+         failure_kind::source_read_only,
+         {{u"UID"_s, u"viewer"_s}},
+         [] { add_account(u"select, update, delete"_s); },
+         nothing},
+        {"account that may not delete",
+         failure_kind::source_read_only,
+         {{u"UID"_s, u"viewer"_s}},
+         [] { add_account(u"select, insert, update"_s); },
+         nothing},
+        {"account that may write all tables but one",
+         failure_kind::source_read_only,
+         {{u"UID"_s, u"viewer"_s}},
+         [] {
+             add_account(u"create"_s);
+             for (const table& each : schema())
+                 administer(u"grant %1 on %2.%3 to viewer@localhost"_s.arg(
+                     each.name == u"cost"_s ? u"select"_s : u"select, insert, update, delete"_s,
+                     file_of(program_run::store_place()), each.name));
+         },
          nothing},
         {"server that only reads",
          failure_kind::source_read_only,

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "store/engines/mariadb_errors.h"
+#include "store/engines/mariadb_rights.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/sql_text.h"
 #include "store/schema.h"
@@ -109,7 +110,10 @@ bool mariadb_engine::holds_rows() const
 
 void mariadb_engine::check_writable() const
 {
-    // Opening a source with an account that may only read succeeds. This statement changes nothing.
+    // Opening a source with an account that may only read succeeds.
+    for (const QString& statement : statements_that_need_rights())
+        run(statement);
+    // A server on which every account may only read refuses this statement, which changes nothing.
     run(u"update settings set language = language"_s);
 }
 
@@ -123,6 +127,7 @@ void mariadb_engine::tables_created()
     read_tables();
     if (check_tables(tables_.columns()) != tables_found::all)
         refuse_incomplete();
+    check_writable();
 }
 
 QString mariadb_engine::identity_script() const
