@@ -14,10 +14,11 @@ namespace {
 /// The tables that a server describes by those rows: table, column, key, further properties. All columns are
 /// whole numbers.
 mariadb_tables described(const QString& rows, const QString& engine = u"InnoDB"_s,
-                         const QString& transactions = u"YES"_s)
+                         const QString& transactions = u"YES"_s, const QString& collation = QString())
 {
     QSqlQuery query(QSqlDatabase::database());
-    if (!query.exec(u"select *, 'int', 0, '%1', '%2', 'int(11)' from (values "_s.arg(engine, transactions) +
+    if (!query.exec(u"select *, 'int', 0, '%1', '%2', 'int(11)', '%3' from (values "_s.arg(
+                        engine, transactions, collation) +
                     rows + u')'))
         qFatal("wrong rows: %s", qUtf8Printable(rows));
     return mariadb_tables(query);
@@ -64,13 +65,43 @@ private Q_SLOTS:
         QVERIFY(tables.has_row_column(u"games"));
     }
 
+    void a_row_column_that_is_not_numbered_or_not_unique_identifies_no_rows()
+    {
+        for (const QString& rows :
+             {u"('games','verdane_row','PRI','')"_s, u"('games','verdane_row','','auto_increment')"_s,
+              u"('games','verdane_row','MUL','auto_increment, INVISIBLE')"_s,
+              u"('games','date','PRI',''),"
+              "('games','verdane_row','PRI','auto_increment')"_s})
+            QVERIFY2(!described(rows).has_row_column(u"games"), qPrintable(rows));
+        QVERIFY(described(u"('games','date','PRI',''),('games','verdane_row','UNI','auto_increment')"_s)
+                    .has_row_column(u"games"));
+    }
+
     void the_script_adds_a_key_of_the_kind_that_a_table_can_have()
     {
-        const mariadb_tables tables = described(u"('games','date','PRI',''),('games2','date','','')"_s);
+        const mariadb_tables tables =
+            described(u"('games','date','PRI',''),('games2','date','',''),('cost','verdane_row','PRI',''),"
+                      "('partners','code','UNI','auto_increment')"_s);
         const QString script = tables.row_column_script();
         QVERIFY(script.contains(u"ALTER TABLE `games` ADD COLUMN verdane_row BIGINT AUTO_INCREMENT UNIQUE"));
         QVERIFY(script.contains(u"`games2` ADD COLUMN verdane_row BIGINT AUTO_INCREMENT PRIMARY KEY"));
-        QCOMPARE(script.count(u";\n"_s), static_cast<qsizetype>(schema().size()));
+        QVERIFY(script.contains(u"ALTER TABLE `cost` DROP COLUMN verdane_row;\nALTER TABLE `cost` ADD COLUMN "
+                                "verdane_row BIGINT AUTO_INCREMENT PRIMARY KEY"));
+        QVERIFY(!script.contains(u"`partners`"));
+        QCOMPARE(script.count(u"ADD COLUMN"), static_cast<qsizetype>(schema().size()) - 1);
+    }
+
+    void a_text_of_the_store_with_another_collation_is_noticed()
+    {
+        const auto noticed = [](const QString& table, const QString& collation) {
+            return described(u"('%1','date','','')"_s.arg(table), u"InnoDB"_s, u"YES"_s, collation)
+                .has_other_collations();
+        };
+        QVERIFY(noticed(u"Games"_s, u"utf8mb4_general_ci"_s));
+        QVERIFY(noticed(u"games"_s, u"utf8mb4_bin"_s));
+        QVERIFY(!noticed(u"games"_s, u"utf8mb4_nopad_bin"_s));
+        QVERIFY(!noticed(u"games"_s, QString()));
+        QVERIFY(!noticed(u"invoices"_s, u"utf8mb4_general_ci"_s));
     }
 
     void a_column_has_the_type_of_the_server()

@@ -153,7 +153,8 @@ void mariadb_engine::add_comparison(statement_with_values& statement, const QStr
     // The texts of a table that was made by someone else may be compared without regard to case, and every
     // number but 0 is a yes.
     if (value.typeId() == QMetaType::QString)
-        statement.text += u"CONVERT(`" + column + u"` USING utf8mb4) COLLATE utf8mb4_nopad_bin <=> ";
+        statement.text +=
+            u"CONVERT(`" + column + u"` USING utf8mb4) COLLATE " + mariadb_tables::collation() + u" <=> ";
     else if (value.typeId() == QMetaType::Bool)
         statement.text += u"(`" + column + u"` <> 0) <=> ";
     else
@@ -213,6 +214,14 @@ run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& 
 QString mariadb_engine::text_literal(QStringView text) const
 {
     return u"_utf8mb4 " + hex_literal(text);
+}
+
+QString mariadb_engine::literal_in_statement(const QString& text) const
+{
+    // The collation of a literal counts more than that of a column, but without it an index can be used.
+    if (!tables_.has_other_collations())
+        return odbc_engine::literal_in_statement(text);
+    return text_literal(text) + u" COLLATE " + mariadb_tables::collation();
 }
 
 QString mariadb_engine::in_dialect(const QString& part) const

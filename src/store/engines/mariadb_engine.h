@@ -34,6 +34,7 @@ public:
 protected:
     QString text_literal(QStringView text) const override;
     text_form texts() const override { return text_form::bytes; }
+    QString literal_in_statement(const QString& text) const override;
     QString in_dialect(const QString& part) const override;
 
 private:

@@ -3,6 +3,8 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+#include <algorithm>
+
 #include "base/run_time_failure.h"
 #include "store/schema.h"
 
@@ -15,16 +17,15 @@ QString mariadb_tables::ending(const table& declared)
     QString index;
     if (!declared.index_name.isEmpty())
         index = u", INDEX `%1` (`%2`)"_s.arg(declared.index_name, declared.indexed_columns.join(u"`, `"_s));
-    // The collation compares texts character by character, trailing blanks included.
     return u", %1 BIGINT AUTO_INCREMENT PRIMARY KEY INVISIBLE%2) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 "
-           u"COLLATE=utf8mb4_nopad_bin"_s.arg(row_column(), index);
+           u"COLLATE=%3"_s.arg(row_column(), index, collation());
 }
 
 QString mariadb_tables::question()
 {
     // A view has no storage engine.
     return u"select c.table_name, c.column_name, c.column_key, c.extra, c.data_type, c.numeric_scale, "
-           u"t.engine, e.transactions, c.column_type from information_schema.columns c "
+           u"t.engine, e.transactions, c.column_type, c.collation_name from information_schema.columns c "
            u"join information_schema.tables t using (table_schema, table_name) "
            u"left join information_schema.engines e on e.engine = t.engine "
            u"where c.table_schema = database() order by c.table_name, c.ordinal_position"_s;
@@ -36,17 +37,49 @@ mariadb_tables::mariadb_tables(QSqlQuery& columns)
         const QString table = columns.value(0).toString().toLower();
         const QString column = columns.value(1).toString();
         const QString type = columns.value(4).toString();
-        if (column == row_column())
-            identified_ << table;
+        const QString extra = columns.value(3).toString();
         // `select *` returns a column that identifies rows unless it is invisible.
-        if (!columns.value(3).toString().contains(u"INVISIBLE", Qt::CaseInsensitive))
+        if (!extra.contains(u"INVISIBLE", Qt::CaseInsensitive))
             columns_[table] << source_column{column, columns.value(8).toString(),
                                              content_in_mariadb(type, columns.value(5).toInt() > 0)};
-        if (columns.value(2).toString() == u"PRI")
-            keyed_ << table;
+        keys_[table].add(column, columns.value(2).toString(), extra);
         if (columns.value(7).toString() == u"NO")
             engines_without_transactions_[table] = columns.value(6).toString();
+        const QString of_column = columns.value(9).toString();
+        other_collations_ = other_collations_ || (find_table(table) != nullptr && !of_column.isEmpty() &&
+                                                  of_column != collation());
     }
+}
+
+void mariadb_tables::keys::add(const QString& column, const QString& key, const QString& extra)
+{
+    if (key == u"PRI")
+        primary << column;
+    if (extra.contains(u"auto_increment", Qt::CaseInsensitive))
+        numbered = column;
+    if (column != row_column())
+        return;
+    has_row_column = true;
+    row_column_is_unique = key == u"UNI";
+}
+
+bool mariadb_tables::keys::identify_rows() const
+{
+    // A column of a primary key of several columns is not unique.
+    return numbered == row_column() && (row_column_is_unique || primary == QStringList{row_column()});
+}
+
+bool mariadb_tables::keys::has_other_primary_key() const
+{
+    return std::any_of(primary.begin(), primary.end(),
+                       [](const QString& column) { return column != row_column(); });
+}
+
+bool mariadb_tables::keys::allow_row_column() const
+{
+    // The server numbers one column of a table, and a column of a key of several columns cannot be dropped.
+    const bool numbers_another = !numbered.isEmpty() && numbered != row_column();
+    return !numbers_another && !(primary.size() > 1 && primary.contains(row_column()));
 }
 
 bool mariadb_tables::contains(QStringView table) const
@@ -56,7 +89,7 @@ bool mariadb_tables::contains(QStringView table) const
 
 bool mariadb_tables::has_row_column(QStringView table) const
 {
-    return identified_.contains(table.toString().toLower());
+    return keys_.value(table.toString().toLower()).identify_rows();
 }
 
 void mariadb_tables::check_transactions() const
@@ -75,12 +108,13 @@ QString mariadb_tables::row_column_script() const
 {
     QString script;
     for (const table& declared : schema()) {
-        if (has_row_column(declared.name))
+        const keys of_table = keys_.value(declared.name.toLower());
+        if (of_table.identify_rows() || !of_table.allow_row_column())
             continue;
-        // A table has one primary key, and a column with a counter needs a key.
-        const bool keyed = keyed_.contains(declared.name.toLower());
+        if (of_table.has_row_column)
+            script += u"ALTER TABLE `%1` DROP COLUMN %2;\n"_s.arg(declared.name, row_column());
         script += u"ALTER TABLE `%1` ADD COLUMN %2 BIGINT AUTO_INCREMENT %3 INVISIBLE;\n"_s.arg(
-            declared.name, row_column(), keyed ? u"UNIQUE"_s : u"PRIMARY KEY"_s);
+            declared.name, row_column(), of_table.has_other_primary_key() ? u"UNIQUE"_s : u"PRIMARY KEY"_s);
     }
     return script;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QHash>
-#include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include "store/engines/source_tables.h"
@@ -19,6 +19,9 @@ class mariadb_tables {
 public:
     static QString row_column() { return QStringLiteral("verdane_row"); }
 
+    /// Compares texts character by character, trailing blanks included.
+    static QString collation() { return QStringLiteral("utf8mb4_nopad_bin"); }
+
     /// What follows the columns in the statement that creates a table with that column.
     static QString ending(const table& declared);
 
@@ -32,20 +35,41 @@ public:
     /// The columns that `select *` returns.
     const source_tables& columns() const { return columns_; }
     bool contains(QStringView table) const;
+    /// True for a column that the server numbers itself and that is unique. Another column of that name does
+    /// not identify rows.
     bool has_row_column(QStringView table) const;
+    /// True if a table of the store has a text with another collation than the tables of the program. Such a
+    /// text may be compared without regard to case, accents or trailing blanks.
+    bool has_other_collations() const { return other_collations_; }
 
     /// Fails with `source_storage` if a table of the store has a storage engine without transactions, which
     /// could not undo the first part of a commit that fails; the details name the tables.
     void check_transactions() const;
 
-    /// Statements that add the column to the tables of the store that lack it; empty if none does.
+    /// Statements that add the column to the tables of the store that lack it, instead of another column of
+    /// that name; empty if none does. A table in which the server numbers another column, or whose
+    /// primary key has several columns and one of that name, is left out.
     QString row_column_script() const;
 
 private:
+    /// Columns of a table that matter for a column that identifies rows.
+    struct keys {
+        QStringList primary;
+        /// The column that the server numbers.
+        QString numbered;
+        bool has_row_column = false;
+        bool row_column_is_unique = false;
+
+        void add(const QString& column, const QString& key, const QString& extra);
+        bool identify_rows() const;
+        bool has_other_primary_key() const;
+        bool allow_row_column() const;
+    };
+
     source_tables columns_;
-    /// The tables with that column, and those with a primary key, in small letters.
-    QSet<QString> identified_;
-    QSet<QString> keyed_;
+    bool other_collations_ = false;
+    /// By the name of the table in small letters.
+    QHash<QString, keys> keys_;
     /// The storage engines of tables that have no transactions.
     QHash<QString, QString> engines_without_transactions_;
 };

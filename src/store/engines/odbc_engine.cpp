@@ -65,8 +65,17 @@ QString odbc_engine::literal(const QVariant& value) const
 {
     if (value.typeId() != QMetaType::QString || value.isNull())
         return literal_of_number(value);
-    const QString text = value.toString();
+    return literal_of_text(value.toString());
+}
+
+QString odbc_engine::literal_of_text(const QString& text) const
+{
     return is_plain_text(text) ? QString(u'\'' + text + u'\'') : text_literal(text);
+}
+
+QString odbc_engine::literal_in_statement(const QString& text) const
+{
+    return literal_of_text(text);
 }
 
 std::unique_ptr<result_rows> odbc_engine::select(const QString& statement, const QString& where) const
@@ -87,7 +96,7 @@ int odbc_engine::change(const statement_with_values& statement, const QString& w
 QString odbc_engine::as_sent(const QString& statement) const
 {
     return rewritten(
-        statement, [this](const QString& text) { return text_literal(text); },
+        statement, [this](const QString& text) { return literal_in_statement(text); },
         [this](const QString& part) { return in_dialect(part); });
 }
 

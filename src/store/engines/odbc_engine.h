@@ -20,6 +20,8 @@ public:
 protected:
     /// A text that is not plain, as a literal of the engine.
     virtual QString text_literal(QStringView text) const = 0;
+    /// A text of a statement, as a literal with which the engine compares texts character by character.
+    virtual QString literal_in_statement(const QString& text) const;
     /// A part of a statement outside its texts, in the dialect of the engine.
     virtual QString in_dialect(const QString& part) const { return part; }
 
@@ -27,6 +29,9 @@ protected:
     virtual text_form texts() const = 0;
 
     QString literal(const QVariant& value) const;
+
+private:
+    QString literal_of_text(const QString& text) const;
 };
 
 enum class source_kind { mariadb, sqlite, unsupported };

@@ -83,9 +83,8 @@ QString rewritten(const QString& statement, const std::function<QString(const QS
             break;
         at = quoted_end(statement, start);
         const QString part = statement.sliced(start, at - start);
-        const bool is_text = part.startsWith(u'\'') && part.size() > 1;
-        const bool is_kept = !is_text || is_plain_text(value_of(part));
-        result += is_kept ? part : literal(value_of(part));
+        const bool is_text = part.startsWith(u'\'') && part.size() > 1 && part.endsWith(u'\'');
+        result += is_text ? literal(value_of(part)) : part;
     }
     return result;
 }

@@ -20,8 +20,8 @@ QString hex_literal(QStringView text);
 /// A number, a yes or no, or Null as a literal. Real numbers have all their digits.
 QString literal_of_number(const QVariant& value);
 
-/// A statement with its texts and the parts between them replaced. `literal` gets the value of a text that is
-/// not plain, `other` the parts outside texts and quoted names.
+/// A statement with its texts and the parts between them replaced. `literal` gets the value of a text,
+/// `other` the parts outside texts and quoted names.
 QString rewritten(const QString& statement, const std::function<QString(const QString&)>& literal,
                   const std::function<QString(const QString&)>& other);
 
