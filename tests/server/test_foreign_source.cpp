@@ -11,6 +11,16 @@ using namespace verdane;
 using namespace verdane::testing;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+void run_script(const foreign_source& in, const QString& script)
+{
+    for (const QString& statement : script.split(u";\n"_s, Qt::SkipEmptyParts))
+        administer(QString(statement).replace(u"TABLE `"_s, u"TABLE `" + in.database() + u"`.`"));
+}
+
+}  // namespace
+
 /// Databases that someone else has made, or that have content of others.
 class test_foreign_source : public QObject {
     Q_OBJECT
@@ -146,8 +156,7 @@ private Q_SLOTS:
         const QString script = bare.connection.identity_script();
         QCOMPARE(script.count(u"ALTER TABLE"), static_cast<qsizetype>(schema().size()));
         bare.connection.Close();
-        for (const QString& statement : script.split(u";\n"_s, Qt::SkipEmptyParts))
-            administer(QString(statement).replace(u"TABLE `"_s, u"TABLE `" + bare.database() + u"`.`"));
+        run_script(bare, script);
         bare.open();
         QCOMPARE(bare.connection.identity_script(), QString());
         Recordset partners(bare.connection, partners_settings());
@@ -157,6 +166,61 @@ private Q_SLOTS:
         partners.Fields(u"TEL").set(u"1"_s);
         partners.Update();
         QCOMPARE(stored_partners(bare), u"a:1:1"_s);
+    }
+
+    void the_script_leaves_out_a_table_in_which_the_server_numbers_another_column()
+    {
+        foreign_source numbered;
+        numbered.open();
+        remove_row_columns(numbered);
+        numbered.change(u"alter table %1.partners modify code int auto_increment primary key"_s);
+        numbered.change(u"alter table %1.cost add column verdane_row int"_s);
+        numbered.reopen();
+        const QString script = numbered.connection.identity_script();
+        QCOMPARE(script.count(u"ADD COLUMN"), static_cast<qsizetype>(schema().size()) - 1);
+        numbered.connection.Close();
+        run_script(numbered, script);
+        numbered.open();
+        QCOMPARE(numbered.connection.identity_script(), QString());
+        Recordset partners(numbered.connection, partners_settings());
+        partners.Open();
+        add_partner(partners, u"a"_s, 7);
+        partners.Fields(u"TEL").set(u"1"_s);
+        partners.Update();
+        QCOMPARE(stored_partners(numbered), u"a:7:1"_s);
+    }
+
+    void a_column_with_the_name_of_the_identity_column_is_not_trusted_data()
+    {
+        QTest::addColumn<QString>("definition");
+        QTest::newRow("no key") << u"int default 1"_s;
+        QTest::newRow("unique and not numbered") << u"int unique"_s;
+        QTest::newRow("part of a key, left out by the script")
+            << u"int default 1, add primary key (verdane_row, name(9))"_s;
+        QTest::newRow("a number that can occur twice")
+            << u"int auto_increment invisible, add index (verdane_row)"_s;
+    }
+    void a_column_with_the_name_of_the_identity_column_is_not_trusted()
+    {
+        QFETCH(QString, definition);
+        foreign_source bare;
+        bare.open();
+        bare.change(u"alter table %1.partners drop column verdane_row"_s);
+        bare.change(u"insert into %1.partners (name, code) values ('a', 1), ('b', 2)"_s);
+        bare.change(u"alter table %1.partners add column verdane_row "_s + definition);
+        bare.reopen();
+        Recordset partners(bare.connection, partners_settings());
+        partners.Open();
+        partners.Find(u"NAME='b'"_s);
+        partners.Fields(u"TEL").set(u"1"_s);
+        partners.Update();
+        QCOMPARE(bare.stored(u"select concat(NAME, ifnull(TEL, '-')) from partners order by 1"_s),
+                 (QStringList{u"a-"_s, u"b1"_s}));
+        const QString script = bare.connection.identity_script();
+        bare.connection.Close();
+        run_script(bare, script);
+        bare.open();
+        QCOMPARE(bare.connection.identity_script(), QString());
     }
 };
 
