@@ -1,11 +1,10 @@
 #include "controls/failure_guard.h"
 
-#include <QMessageBox>
-
 #include <cstdlib>
 
 #include "base/failure_words.h"
 #include "controls/boxes.h"
+#include "controls/failure_box.h"
 #include "controls/interface_language.h"
 #include "store/DataEnvironment1.h"
 
@@ -17,13 +16,9 @@ namespace {
 
 void show(const run_time_failure& failure)
 {
-    QMessageBox box(QMessageBox::Critical, QString(), in_known_language(failure_words(failure.kind())),
-                    QMessageBox::Ok, window_at_work());
-    box.setObjectName(u"failure_box"_s);
-    box.setWindowTitle(default_title());
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(failure.details());
-    box.exec();
+    const auto box = failure_box(failure, in_known_language(failure_words(failure.kind())), window_at_work());
+    box->setObjectName(u"failure_box"_s);
+    box->exec();
 }
 
 }  // namespace

@@ -1,4 +1,7 @@
 #include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QMessageBox>
 #include <QProcess>
 #include <QTest>
 
@@ -20,7 +23,25 @@ using verdane::testing::play;
 
 namespace {
 
-/// The child process: fails in an event, prints the text of the message box and closes it.
+/// What the clipboard contains, on one line.
+void print_copied(const char* caption)
+{
+    std::printf("%s:%s\n", caption,
+                qUtf8Printable(QGuiApplication::clipboard()->text().replace(u'\n', u'/')));
+    std::fflush(stdout);
+}
+
+/// Selects the first letters of the details, as the mouse does, and copies them.
+void copy_selected_details(int letters)
+{
+    auto* label = QApplication::activeModalWidget()->findChild<QLabel*>(u"qt_msgbox_informativelabel"_s);
+    label->setFocus();
+    label->setSelection(0, letters);
+    QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+}
+
+/// The child process: fails in an event, prints the text of the message box and what Ctrl+C copies of it, and
+/// closes it.
 int fail_in_an_event(const QString& language)
 {
     if (language != u"not")
@@ -34,6 +55,10 @@ int fail_in_an_event(const QString& language)
                              qUtf8Printable(box->informativeText()));
                  std::fflush(stdout);
              });
+             user.key(Qt::Key_C, Qt::ControlModifier);
+             user.look([] { print_copied("all"); });
+             user.look([] { copy_selected_details(5); });
+             user.look([] { print_copied("selected"); });
              user.key(Qt::Key_Return);
          });
     return 77;  // Not reached: the failure ends the process.
@@ -80,6 +105,14 @@ private Q_SLOTS:
         QCOMPARE(child.output.contains(words.french), french);
         QCOMPARE(child.output.contains(words.english), english);
         QVERIFY2(child.output.contains(u"|3|insert into x"_s), qPrintable(child.output));
+    }
+
+    void the_text_and_the_details_of_a_failure_can_be_copied()
+    {
+        const QString output = failed_child(u"en"_s).output;
+        const QString words = failure_words(failure_kind::store_full).english.toString();
+        QVERIFY2(output.contains(u"all:"_s + words + u"//insert into x\n"), qPrintable(output));
+        QVERIFY2(output.contains(u"selected:inser\n"), qPrintable(output));
     }
 
     void finishes_without_failure_returns_whether_there_was_none()

@@ -210,6 +210,7 @@ private Q_SLOTS:
         QCOMPARE(box()->windowTitle(), u"A title"_s);
         QCOMPARE(box()->standardButtons(), QMessageBox::Ok);
         QVERIFY(box()->informativeText().contains(answer_));
+        QCOMPARE(box()->textFormat(), Qt::PlainText);
         QTest::keyClick(box(), Qt::Key_Return);
         QTRY_VERIFY(box() == nullptr);
         QVERIFY(window_->isVisible());

@@ -11,6 +11,7 @@
 
 #include "base/failure_words.h"
 #include "base/run_time_failure.h"
+#include "controls/failure_box.h"
 #include "controls/screen_limits.h"
 #include "controls/shortcuts.h"
 #include "reports/preview/page_view.h"
@@ -187,10 +188,9 @@ void report_preview::guarded(const std::function<void()>& act)
     } catch (const run_time_failure& failure) {
         if (!still_there)
             return;
-        auto* box = new QMessageBox(QMessageBox::Critical, windowTitle(),
-                                    in_own(failure_words(failure.kind())), QMessageBox::Ok, this);
+        QMessageBox* box = failure_box(failure, in_own(failure_words(failure.kind())), this).release();
+        box->setWindowTitle(windowTitle());
         box->setObjectName(u"message_box"_s);
-        box->setInformativeText(failure.details());
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->open();
     }
