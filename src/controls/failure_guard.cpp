@@ -33,34 +33,15 @@ void end_after_failure(const run_time_failure& failure)
 bool is_failure_of_store(failure_kind kind)
 {
     switch (kind) {
-    case failure_kind::misuse:
-    case failure_kind::missing_table:
-    case failure_kind::store_locked:
-    case failure_kind::store_read_only:
-    case failure_kind::store_damaged:
-    case failure_kind::store_full:
-    case failure_kind::store_unreachable:
-    case failure_kind::store_other:
-    case failure_kind::source_unknown:
-    case failure_kind::source_driver:
-    case failure_kind::source_password:
-    case failure_kind::source_database:
-    case failure_kind::source_stopped:
-    case failure_kind::source_silent:
-    case failure_kind::source_engine:
-    case failure_kind::source_case:
-    case failure_kind::source_table:
-    case failure_kind::source_column:
-    case failure_kind::source_type:
-    case failure_kind::source_storage:
-    case failure_kind::source_read_only:
-    case failure_kind::source_full:
-    case failure_kind::source_value:
-    case failure_kind::source_part:
-    case failure_kind::source_lost:
-        return true;
-    default:
+    case failure_kind::overflow:
+    case failure_kind::subscript:
+    case failure_kind::invalid_null:
+    case failure_kind::bad_number:
+    case failure_kind::report_template:
+    case failure_kind::report_output:
         return false;
+    default:
+        return true;
     }
 }
 
