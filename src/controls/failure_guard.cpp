@@ -1,5 +1,7 @@
 #include "controls/failure_guard.h"
 
+#include <QDir>
+
 #include <cstdlib>
 
 #include "base/failure_words.h"
@@ -7,6 +9,7 @@
 #include "controls/failure_box.h"
 #include "controls/interface_language.h"
 #include "store/DataEnvironment1.h"
+#include "store/recovery/copy_days.h"
 
 namespace verdane {
 
@@ -14,9 +17,31 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The newest dated copy of the store if it is a file; empty if there is none.
+QString newest_copy(const store_location& store)
+{
+    if (store.where != store_location::place::file)
+        return {};
+    const std::vector<QDate> days = days_of_copies(store.name);
+    return days.empty() ? QString() : QDir::toNativeSeparators(path_of_copy(store.name, days.back()));
+}
+
+/// What the user reads; for a damaged file also which copy can be put back.
+QString words_of(const run_time_failure& failure)
+{
+    const QString words = in_known_language(failure_words(failure.kind()));
+    const QString copy = failure.kind() == failure_kind::store_damaged
+                             ? newest_copy(data_environment().connection.location())
+                             : QString();
+    if (copy.isEmpty())
+        return words;
+    const text_pair newest{u"La copie la plus récente : %1", u"The newest copy: %1"};
+    return words + u"\n\n" + in_known_language(newest, u"\n").arg(copy);
+}
+
 void show(const run_time_failure& failure)
 {
-    const auto box = failure_box(failure, in_known_language(failure_words(failure.kind())), window_at_work());
+    const auto box = failure_box(failure, words_of(failure), window_at_work());
     box->setObjectName(u"failure_box"_s);
     box->exec();
 }

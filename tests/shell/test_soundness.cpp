@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QMessageBox>
 #include <QProcess>
@@ -13,6 +14,7 @@
 #include "shell/start_up.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
+#include "store/recovery/copy_days.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/failures.h"
 #include "tests/support/hand.h"
@@ -95,6 +97,23 @@ private Q_SLOTS:
         QVERIFY2(output.contains(words.french) || output.contains(words.english), qPrintable(output));
         QVERIFY2(output.contains(u"language window: 0"_s), qPrintable(output));
         QCOMPARE(content_of_store(), before);
+    }
+
+    void the_failure_names_the_newest_copy_of_a_damaged_file()
+    {
+        program_run run(2);
+        const QString store = program_run::store_path();
+        QVERIFY(QDir().mkpath(folder_of_copies(store)));
+        const QDate newest = QDate::currentDate();
+        for (const QDate day : {newest.addDays(-1), newest})
+            QVERIFY(QFile::copy(store, path_of_copy(store, day)));
+        damage_page_of_costs(run.store());
+        QProcess child;
+        child.start(QCoreApplication::applicationFilePath(), {u"--start"_s});
+        QVERIFY(child.waitForFinished(120000));
+        const QString output = QString::fromUtf8(child.readAllStandardOutput());
+        QVERIFY2(output.contains(u"The newest copy: "_s + path_of_copy(store, newest) + u'\n'),
+                 qPrintable(output));
     }
 
     void a_file_can_be_checked_after_it_was_opened()
