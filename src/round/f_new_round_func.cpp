@@ -8,12 +8,12 @@
 #include "controls/main_frame.h"
 #include "reference/f_cost.h"
 #include "round/detailed_page.h"
-#include "round/f_new_round.h"
 #include "round/hole_bar.h"
 #include "round/hole_navigation.h"
 #include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
+#include "round/round_form.h"
 #include "round/round_lists.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
@@ -33,7 +33,7 @@ void unload_round_list()
         list->unload();
 }
 
-void size_and_place(f_new_round& window)
+void size_and_place(round_form& window)
 {
     // The size fits both pages, so that changing the page does not resize the window.
     window.show_page(round_page::detailed);
@@ -45,7 +45,7 @@ void size_and_place(f_new_round& window)
     Place_and_lock(window);
 }
 
-void take_moment(f_new_round& window, hole_bar& holes, const tee_off_moment& moment)
+void take_moment(round_form& window, hole_bar& holes, const tee_off_moment& moment)
 {
     holes.show_tee_off(QLocale::system().toString(moment.date, QLocale::ShortFormat), moment.time_text());
     round_record::set_key(moment.key());
@@ -53,7 +53,7 @@ void take_moment(f_new_round& window, hole_bar& holes, const tee_off_moment& mom
     holes.lock_date();
 }
 
-void open_tee_off_dialog(f_new_round& window, hole_bar& holes)
+void open_tee_off_dialog(round_form& window, hole_bar& holes)
 {
     f_get_date dialog;
     on_signal(dialog, &f_get_date::moment_chosen,
@@ -61,7 +61,7 @@ void open_tee_off_dialog(f_new_round& window, hole_bar& holes)
     window.choose_date(dialog);
 }
 
-QMessageBox::StandardButton ask_to_save(const f_new_round& window)
+QMessageBox::StandardButton ask_to_save(const round_form& window)
 {
     return show_message({window.caption(u"Voulez vous enregistrer les modifications avant de sortir ? ",
                                         u"Do you want to save your changes prior to exit?"),
@@ -69,7 +69,7 @@ QMessageBox::StandardButton ask_to_save(const f_new_round& window)
                          QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel});
 }
 
-void save_and_close(f_new_round& window, const round_panes& panes)
+void save_and_close(round_form& window, const round_panes& panes)
 {
     window.mark_changed();
     save_round(window, panes, false);
@@ -77,7 +77,7 @@ void save_and_close(f_new_round& window, const round_panes& panes)
         window.unload();
 }
 
-void save_and_leave(f_new_round& window, const round_panes& panes)
+void save_and_leave(round_form& window, const round_panes& panes)
 {
     save_round(window, panes, true);
     panes.detailed.drop_blank_shot();
@@ -90,7 +90,7 @@ void save_and_leave(f_new_round& window, const round_panes& panes)
 }
 
 /// The shots were checked: from now on only the quick page is shown.
-void return_to_quick_page(f_new_round& window, const round_panes& panes)
+void return_to_quick_page(round_form& window, const round_panes& panes)
 {
     if (!window.on_detailed_page())
         return;
@@ -100,7 +100,7 @@ void return_to_quick_page(f_new_round& window, const round_panes& panes)
 
 }  // namespace
 
-void load(f_new_round& window, const round_panes& panes)
+void load(round_form& window, const round_panes& panes)
 {
     panes.totals.hide();
     panes.detailed.show_finish_button(false);
@@ -121,7 +121,7 @@ void load(f_new_round& window, const round_panes& panes)
     Lock_menu();
 }
 
-void activate(f_new_round& window, const round_panes& panes)
+void activate(round_form& window, const round_panes& panes)
 {
     if (round_record::key_is_missing())
         open_tee_off_dialog(window, panes.holes);
@@ -158,7 +158,7 @@ void show_costs(const round_panes& panes)
     costs.show_modal();
 }
 
-void report_putts(f_new_round& window, const round_panes& panes)
+void report_putts(round_form& window, const round_panes& panes)
 {
     if (!panes.detailed.finish_typing())
         return;
@@ -172,12 +172,12 @@ void report_putts(f_new_round& window, const round_panes& panes)
     Statistics::one_round_putt_report(window.cr2(), round, weather);
 }
 
-void on_ok_cancel(f_new_round& window, const round_panes& panes, int index)
+void on_ok_cancel(round_form& window, const round_panes& panes, int index)
 {
     if (!panes.detailed.finish_typing() || !panes.detailed.check_shots())
         return;
     return_to_quick_page(window, panes);
-    if (index == f_new_round::ok) {
+    if (index == round_form::ok) {
         save_and_leave(window, panes);
         return;
     }
@@ -185,7 +185,7 @@ void on_ok_cancel(f_new_round& window, const round_panes& panes, int index)
     ask_and_close(window, panes, false);
 }
 
-void on_close_box(f_new_round& window, const round_panes& panes)
+void on_close_box(round_form& window, const round_panes& panes)
 {
     // A round without a key has nothing to save.
     if (window.date_value().isEmpty()) {
@@ -200,7 +200,7 @@ void on_close_box(f_new_round& window, const round_panes& panes)
     ask_and_close(window, panes, false);
 }
 
-void ask_and_close(f_new_round& window, const round_panes& panes, bool skip_prompt)
+void ask_and_close(round_form& window, const round_panes& panes, bool skip_prompt)
 {
     if (!window.needSave()) {
         window.unload();

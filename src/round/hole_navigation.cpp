@@ -5,11 +5,11 @@
 #include "controls/main_frame.h"
 #include "records/round_rows.h"
 #include "round/detailed_page.h"
-#include "round/f_new_round.h"
 #include "round/hole_bar.h"
 #include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
+#include "round/round_form.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
 #include "scoring/limits.h"
@@ -40,7 +40,7 @@ bool may_leave_shots(detailed_page& shots)
     return shots.drop_blank_shot().shots_complete.value_or(true);
 }
 
-void go_to_quick_page(f_new_round& window, const round_panes& panes)
+void go_to_quick_page(round_form& window, const round_panes& panes)
 {
     if (!panes.detailed.drop_blank_shot().removed)
         panes.detailed.summarise_hole();
@@ -52,7 +52,7 @@ void go_to_quick_page(f_new_round& window, const round_panes& panes)
     panes.quick.focus_first_box();
 }
 
-void leave_detailed_page(f_new_round& window, const round_panes& panes)
+void leave_detailed_page(round_form& window, const round_panes& panes)
 {
     if (panes.detailed.isHidden())
         panes.pages.select(round_page::quick);
@@ -60,7 +60,7 @@ void leave_detailed_page(f_new_round& window, const round_panes& panes)
         go_to_quick_page(window, panes);
 }
 
-void go_to_detailed_page(f_new_round& window, const round_panes& panes)
+void go_to_detailed_page(round_form& window, const round_panes& panes)
 {
     panes.shots.commit();
     window.show_page(round_page::detailed);
@@ -78,7 +78,7 @@ void go_to_detailed_page(f_new_round& window, const round_panes& panes)
 
 }  // namespace
 
-void hole_selected(f_new_round& window, const round_panes& panes)
+void hole_selected(round_form& window, const round_panes& panes)
 {
     if (!window.first_entry())
         save_round(window, panes, true);
@@ -89,7 +89,7 @@ void hole_selected(f_new_round& window, const round_panes& panes)
     refresh_score(panes.quick, panes.totals);
 }
 
-void hole_chosen(f_new_round& window, const round_panes& panes)
+void hole_chosen(round_form& window, const round_panes& panes)
 {
     const int chosen = plain(panes.holes.listed_hole());
     const int shown = plain(window.last_hole()) + 1;
@@ -101,7 +101,7 @@ void hole_chosen(f_new_round& window, const round_panes& panes)
     panes.holes.click_tab(chosen);
 }
 
-bool hole_tab_before_click(f_new_round& window, const round_panes& panes)
+bool hole_tab_before_click(round_form& window, const round_panes& panes)
 {
     if (window.on_detailed_page())
         return may_leave_shots(panes.detailed);
@@ -109,7 +109,7 @@ bool hole_tab_before_click(f_new_round& window, const round_panes& panes)
     return true;
 }
 
-void hole_tab_clicked(f_new_round& window, const round_panes& panes)
+void hole_tab_clicked(round_form& window, const round_panes& panes)
 {
     // Without an event of the list: a click on the tab of the hole on screen, which does not change the list,
     // saves the boxes, too.
@@ -122,14 +122,14 @@ void hole_tab_clicked(f_new_round& window, const round_panes& panes)
     panes.quick.select_first_box();
 }
 
-void course_selected(f_new_round& window, const round_panes& panes)
+void course_selected(round_form& window, const round_panes& panes)
 {
     round_record::find_holes_of_course(Round_functions::course_code_at(panes.parameters.course_index()));
     show_hole_card(panes.holes, panes.holes.listed_hole());
     refresh_panel(window, panes, panes.quick.figures());
 }
 
-void page_changed(f_new_round& window, const round_panes& panes)
+void page_changed(round_form& window, const round_panes& panes)
 {
     if (window.closingoK() || !window.on_detailed_page())
         leave_detailed_page(window, panes);
@@ -137,7 +137,7 @@ void page_changed(f_new_round& window, const round_panes& panes)
         go_to_detailed_page(window, panes);
 }
 
-void open_shots_of_hole(f_new_round& window, const round_panes& panes)
+void open_shots_of_hole(round_form& window, const round_panes& panes)
 {
     if (!panes.detailed.finish_typing())
         return;

@@ -2,10 +2,10 @@
 
 #include "base/language.h"
 #include "controls/boxes.h"
-#include "round/f_new_round.h"
 #include "round/hole_bar.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
+#include "round/round_form.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
 #include "scoring/hole_summary.h"
@@ -55,7 +55,7 @@ quick_figures figures_from_shots(const hole_summary& summary)
 }
 
 /// When a hole is left, the list already has the next one selected.
-int16 hole_to_save(const f_new_round& window, const hole_bar& holes, bool silent)
+int16 hole_to_save(const round_form& window, const hole_bar& holes, bool silent)
 {
     if (silent)
         return window.last_hole() + 1;
@@ -64,7 +64,7 @@ int16 hole_to_save(const f_new_round& window, const hole_bar& holes, bool silent
 
 }  // namespace
 
-void refresh_panel(f_new_round& window, const round_panes& panes,
+void refresh_panel(round_form& window, const round_panes& panes,
                    const Round_functions::figure_source& figures)
 {
     window.mark_changed();
@@ -77,7 +77,7 @@ void refresh_score(const quick_page& quick, totals_pane& totals)
     totals.show_round(Round_functions::labels_of(Round_functions::round_score(quick.figures())));
 }
 
-void load_hole(f_new_round& window, const round_panes& panes, int16 hole)
+void load_hole(round_form& window, const round_panes& panes, int16 hole)
 {
     panes.quick.show_stored(figures_from_rows(hole));
     show_hole_card(panes.holes, hole);
@@ -104,7 +104,7 @@ void store_hole(const quick_page& quick, const QStringList& partners, int16 hole
     Round_functions::store_situation(hole, quick.situation());
 }
 
-void save_round(f_new_round& window, const round_panes& panes, bool silent)
+void save_round(round_form& window, const round_panes& panes, bool silent)
 {
     if (panes.holes.date().isEmpty()) {
         show_information(window.caption(u"Veuillez d'abord choisir la date de la ronde.",

@@ -6,9 +6,9 @@
 
 namespace verdane {
 
-class f_new_round;
 class hole_bar;
 class quick_page;
+class round_form;
 class totals_pane;
 struct hole_summary;
 struct round_panes;
@@ -18,7 +18,7 @@ namespace f_new_round_func {
 
 /// Shows the classes of the hole on screen for figures from the rows or from the boxes. There is something to
 /// save afterwards.
-void refresh_panel(f_new_round& window, const round_panes& panes,
+void refresh_panel(round_form& window, const round_panes& panes,
                    const Round_functions::figure_source& figures);
 
 /// Shows the totals of the round: holes 1 to 17 from the row, the last one from the boxes, which show it
@@ -26,7 +26,7 @@ void refresh_panel(f_new_round& window, const round_panes& panes,
 void refresh_score(const quick_page& quick, totals_pane& totals);
 
 /// Shows a hole (1 to 18) from the rows.
-void load_hole(f_new_round& window, const round_panes& panes, int16 hole);
+void load_hole(round_form& window, const round_panes& panes, int16 hole);
 
 /// Shows length, par and handicap index of a hole from the current row of `rsfield_info`.
 void show_hole_card(hole_bar& holes, int16 hole);
@@ -40,7 +40,7 @@ void store_hole(const quick_page& quick, const QStringList& partners, int16 hole
 /// Stores the hole on screen and what belongs to the round, and commits both. `silent`: stores the hole that
 /// was shown last and shows no message. Refuses without a date. Fails with `subscript`, before the commit,
 /// when the list of round keys is full.
-void save_round(f_new_round& window, const round_panes& panes, bool silent);
+void save_round(round_form& window, const round_panes& panes, bool silent);
 
 }  // namespace f_new_round_func
 
