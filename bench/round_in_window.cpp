@@ -6,7 +6,6 @@
 #include "controls/TabStrip.h"
 #include "records/round_list.h"
 #include "round/f_new_round.h"
-#include "round/round_opening.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane::bench {

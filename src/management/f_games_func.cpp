@@ -6,7 +6,7 @@
 #include "management/f_games.h"
 #include "management/round_removal.h"
 #include "records/round_list.h"
-#include "round/round_opening.h"
+#include "round/f_new_round.h"
 #include "scoring/round_key.h"
 #include "store/DataEnvironment1.h"
 

@@ -18,8 +18,8 @@ struct round_header;
 ///
 /// An open round has no copy in memory: its rows are the current rows of `rsgames`, `rsgames2` and `rscost`,
 /// and the boxes show one hole. Their figures are written when the hole is left or the round is saved.
-/// `round_opening.h` opens the window on a new or a stored round. The constructor loads it; `rsgames`,
-/// `rsgames2`, `rscost`, `rsvrd_fields` and `rsfield_info` are open before, and are closed with it.
+/// The constructor loads the round; `rsgames`, `rsgames2`, `rscost`, `rsvrd_fields` and `rsfield_info` are
+/// open before, and are closed with the window. The list of rounds is closed, too.
 class f_new_round : public round_form {
 public:
     /// `shots` must outlive the window.
@@ -60,5 +60,20 @@ private:
     void connect_panes();
     void connect_window();
 };
+
+/// The command for a new round. Shows a message when there is no course.
+void start_new_round();
+
+/// Adds the rows of a new round, without a key and not committed, and opens the window on them. `rsgames` and
+/// `rsfield_info` are open, and there is a course.
+void prepare_round_window();
+
+/// Opens the window on a stored round and returns when it is closed. `rsgames` and `rsfield_info` are open. A
+/// round without a row of `cost` gets one, which the window commits.
+void open_stored_round(const QString& key);
+
+/// Shows what is stored for the round as a whole: weather, temperature, date, time and costs. A round without
+/// a row of `cost` gets one.
+void load_round_header(f_new_round& window);
 
 }  // namespace verdane

@@ -8,7 +8,7 @@
 #include "reference/f_c_list.h"
 #include "reference/f_partners.h"
 #include "reference/f_sticks.h"
-#include "round/round_opening.h"
+#include "round/f_new_round.h"
 #include "shell/f_about.h"
 #include "shell/language_change.h"
 #include "shell/MainForm.h"

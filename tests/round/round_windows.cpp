@@ -11,7 +11,6 @@
 #include "controls/failure_guard.h"
 #include "records/round_list.h"
 #include "round/f_new_round.h"
-#include "round/round_opening.h"
 #include "round/tee_off.h"
 #include "scoring/Verdane_tools.h"
 #include "store/DataEnvironment1.h"

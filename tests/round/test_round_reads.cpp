@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "records/round_list.h"
-#include "round/round_opening.h"
+#include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/round_windows.h"
 
