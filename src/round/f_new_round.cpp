@@ -13,7 +13,6 @@
 #include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
-#include "round/round_lists.h"
 #include "round/round_record.h"
 #include "round/shot_rows.h"
 #include "round/statistics_pane.h"
@@ -56,7 +55,7 @@ bool load_stored_round(f_new_round& window, const QString& key)
         return false;
     }
     const QString code = round_record::find_holes_of_round(key);
-    window.fill_courses(round_lists::course_lines());
+    window.fill_courses(round_record::course_lines());
     round_record::find_course(code);
     window.show_stored_hole(first_hole, code);
     return true;
@@ -214,7 +213,7 @@ void prepare_round_window()
     shot_rows shots;
     round_record::add_rows_without_key();
     f_new_round window(shots);
-    window.fill_courses(round_lists::course_lines());
+    window.fill_courses(round_record::course_lines());
     // Selecting the first course moves the recordsets of the courses to it.
     window.select_course(0);
     window.show_modal();

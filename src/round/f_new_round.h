@@ -7,11 +7,9 @@
 #include "base/counts.h"
 #include "round/detailed_page.h"
 #include "round/round_form.h"
-#include "round/round_lists.h"
+#include "round/round_record.h"
 
 namespace verdane {
-
-struct round_header;
 
 /// The window in which a round is created, reopened, entered and saved; in English `f_new_round_en`. It
 /// connects the events of its panes with the routines of `f_new_round_func`.

@@ -14,7 +14,6 @@
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/round_form.h"
-#include "round/round_lists.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
 #include "round/tee_off.h"
@@ -111,7 +110,7 @@ void load(round_form& window, const round_panes& panes)
         return;
     panes.holes.fill_list();
     panes.parameters.fill_weathers(window.french());
-    panes.parameters.fill_partners(round_lists::open_partner_lines());
+    panes.parameters.fill_partners(round_record::open_partner_lines());
     round_record::move_to_first_course();
     panes.parameters.show_costs(round_record::cost_total());
     panes.parameters.show_weather(0);

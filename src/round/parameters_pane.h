@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "round/round_lists.h"
+#include "round/round_record.h"
 
 class QBoxLayout;
 class QComboBox;

@@ -3,9 +3,27 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 #include "base/counts.h"
 
 namespace verdane {
+
+/// A course and tee in the list of courses.
+struct course_line {
+    QString name;
+    /// The last character is the code of the tee.
+    QString code;
+};
+
+/// A partner in the list of partners.
+struct partner_line {
+    QString text;
+    /// The partner's number, as it is stored with the round.
+    QString number;
+    /// The partner is one of the round on the current row of `rsgames2`.
+    bool selected = false;
+};
 
 /// What is stored for a round as a whole.
 struct round_header {
@@ -75,6 +93,11 @@ void commit(const QString& key);
 /// `store_round_header` and `commit` in one commit: if the process is killed, the store has all rows of the
 /// round or none, and the old figures of a hole or the new ones.
 void store_and_commit(const QString& key, const round_parameters& parameters);
+
+/// One line for each row of `rsvrd_fields`, in the order of the rows. The recordset is at its end afterwards.
+std::vector<course_line> course_lines();
+/// Opens `rspartners` and returns one line for each row, in the order of the rows.
+std::vector<partner_line> open_partner_lines();
 
 /// Drops what is not committed in the three rows.
 void drop_changes();
