@@ -7,11 +7,8 @@
 
 #include <algorithm>
 
-#include "base/language.h"
 #include "controls/Form.h"
 #include "controls/look.h"
-#include "round/class_captions.h"
-#include "scoring/hole_classes.h"
 
 namespace verdane {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "round/class_captions.h"
+#include "round/statistics_pane.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
