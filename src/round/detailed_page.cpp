@@ -12,7 +12,6 @@
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "controls/shortcuts.h"
-#include "round/shot_grid.h"
 
 namespace verdane {
 

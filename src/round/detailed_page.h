@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
-#include "round/shot_choices.h"
 #include "round/shot_entry.h"
+#include "round/shot_grid.h"
 
 class QLayout;
 class QPushButton;
@@ -15,7 +15,6 @@ class QPushButton;
 namespace verdane {
 
 class Form;
-class shot_grid;
 struct shortcut;
 struct text_pair;
 

@@ -7,7 +7,7 @@
 #include "base/numbers.h"
 #include "controls/failure_guard.h"
 #include "records/Main_module.h"
-#include "round/current_shot.h"
+#include "round/shot_rows.h"
 #include "scoring/limits.h"
 #include "scoring/words.h"
 #include "store/DataEnvironment1.h"

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QAction>
+#include <QObject>
 #include <QStringList>
+
+#include <functional>
 
 #include "controls/control_array.h"
 #include "controls/data_grid.h"
+#include "round/shot_entry.h"
 
 namespace verdane {
 
@@ -69,6 +73,37 @@ private:
     control_array<QAction> yes_no_entries_{u"mb"};
     control_array<QAction> position_entries_{u"ma"};
     control_array<QAction> penalty_entries_{u"mp"};
+};
+
+/// Stores what the user chooses from the menus of the grid or types into its cells, in the shot under the
+/// cursor, and moves the cursor to the next cell.
+class shot_choices : public QObject {
+    Q_OBJECT
+
+public:
+    /// The arguments must outlive the object. `hole` returns the hole on screen.
+    shot_choices(shot_grid& grid, const shot_rows& rows, const shot_entry& entry,
+                 std::function<hole_on_screen()> hole);
+
+Q_SIGNALS:
+    /// The next shot has to be added: after the distance of the last putt, and when a shot becomes a putt.
+    /// The current row is the new shot afterwards, or the same one if it was refused.
+    void next_shot_wanted();
+    /// The penalty was chosen, the last column of a shot.
+    void last_column_chosen();
+
+private:
+    void club_chosen(int entry);
+    void kind_chosen(int entry);
+    void position_chosen(int entry);
+    void penalty_chosen(int entry);
+    void yes_or_no_chosen(bool yes);
+    void column_updated(int column);
+
+    shot_grid& grid_;
+    const shot_rows& rows_;
+    const shot_entry& entry_;
+    std::function<hole_on_screen()> hole_;
 };
 
 }  // namespace verdane
