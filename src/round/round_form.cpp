@@ -1,5 +1,6 @@
 #include "round/round_form.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 
@@ -8,7 +9,6 @@
 #include "controls/scrolled_content.h"
 #include "round/detailed_page.h"
 #include "round/hole_bar.h"
-#include "round/input_filters.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/statistics_pane.h"
@@ -21,6 +21,32 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int gap_between_rows = rhythm + rhythm / 2;
+
+class wheel_filter : public QObject {
+public:
+    explicit wheel_filter(QWidget& control) : QObject(&control)
+    {
+        control.installEventFilter(this);
+        // The toolkit focuses a control with this policy before any filter runs.
+        if (control.focusPolicy() == Qt::WheelFocus)
+            control.setFocusPolicy(Qt::StrongFocus);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::Wheel)
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
+/// Ignores the mouse wheel over a control: turned by accident, it would select another course, hole or
+/// weather unnoticed.
+void ignore_wheel(QWidget& control)
+{
+    new wheel_filter(control);
+}
 
 }  // namespace
 
