@@ -9,7 +9,6 @@
 #include "round/f_new_round_func.h"
 #include "round/hole_bar.h"
 #include "round/hole_navigation.h"
-#include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/round_record.h"

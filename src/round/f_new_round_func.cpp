@@ -10,7 +10,6 @@
 #include "round/detailed_page.h"
 #include "round/hole_bar.h"
 #include "round/hole_navigation.h"
-#include "round/load_and_save.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/round_form.h"

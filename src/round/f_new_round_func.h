@@ -6,7 +6,7 @@ struct round_panes;
 }  // namespace verdane
 
 /// The life cycle of the round window, for both twins. The window passes its panes to the routines.
-/// `hole_navigation.h` and `load_and_save.h` have the other routines of this namespace.
+/// `hole_navigation.h` has the other routines of this namespace.
 namespace verdane::f_new_round_func {
 
 /// Sizes the window, fills the lists, shows hole 1 and closes the round list, so that it is never open below
