@@ -2,7 +2,7 @@
 #
 #   cmake -D SOURCES=FOLDER -D VERSION=NUMBER -P CheckVersion.cmake
 #
-# The program takes its version from CMake (`base/version.h`). The newest release in the metainfo and a
+# The program takes its version from CMake (`base/program.h`). The newest release in the metainfo and a
 # heading in the change log have to name the same one.
 
 cmake_minimum_required(VERSION 3.25)

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "base/language.h"
-#include "base/version.h"
+#include "base/program.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/failure_guard.h"

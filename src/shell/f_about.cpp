@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-#include "base/version.h"
+#include "base/program.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/look.h"

@@ -3,8 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 
-#include "base/oversized_writes.h"
-#include "base/version.h"
+#include "base/program.h"
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
 #include "controls/events.h"

@@ -3,8 +3,7 @@
 #include <QLocale>
 
 #include "base/language.h"
-#include "base/oversized_writes.h"
-#include "base/version.h"
+#include "base/program.h"
 #include "transfer/command.h"
 #include "transfer/console.h"
 

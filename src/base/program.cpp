@@ -1,8 +1,13 @@
-#include "base/oversized_writes.h"
+#include "base/program.h"
 
 #include <csignal>
 
 namespace verdane {
+
+QString program_version()
+{
+    return QStringLiteral(VERDANE_VERSION);
+}
 
 void let_oversized_writes_fail()
 {

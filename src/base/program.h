@@ -1,6 +1,12 @@
 #pragma once
 
+#include <QString>
+
+/// What the programs, Verdane and `verdane-store`, need at their start.
 namespace verdane {
+
+/// The version of the program, "1.4", from the project's declaration in the main `CMakeLists.txt`.
+QString program_version();
 
 /// Makes a write beyond the limit on file sizes (`ulimit -f`) fail like a write to a full disk. Without this
 /// call such a write ends the process. Called once, at the start; does nothing on systems without that limit.
