@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "base/language.h"
+#include "controls/box_focus.h"
 #include "controls/failure_guard.h"
-#include "controls/leaving.h"
 #include "controls/main_frame.h"
 #include "controls/screen_limits.h"
 #include "controls/scrolled_content.h"

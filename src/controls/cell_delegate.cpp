@@ -7,9 +7,9 @@
 
 #include <utility>
 
+#include "controls/box_focus.h"
 #include "controls/data_grid.h"
 #include "controls/grid_painting.h"
-#include "controls/leaving.h"
 
 namespace verdane {
 

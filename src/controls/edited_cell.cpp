@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
-#include "controls/leaving.h"
 #include "controls/recordset_model.h"
 
 namespace verdane {

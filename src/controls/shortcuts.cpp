@@ -7,10 +7,10 @@
 
 #include <utility>
 
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 #include "controls/guide.h"
-#include "controls/leaving.h"
 
 namespace verdane {
 

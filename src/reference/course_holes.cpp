@@ -7,11 +7,10 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
-#include "controls/entering.h"
 #include "controls/Form.h"
 #include "controls/keys.h"
-#include "controls/leaving.h"
 #include "controls/look.h"
 #include "reference/course_page.h"
 #include "reference/hole_checks.h"

@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "base/language.h"
-#include "controls/entering.h"
+#include "controls/box_focus.h"
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"

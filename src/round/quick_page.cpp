@@ -12,9 +12,9 @@
 #include <utility>
 
 #include "base/language.h"
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
 #include "controls/control_array.h"
-#include "controls/entering.h"
 #include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/keys.h"

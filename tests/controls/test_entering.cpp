@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "controls/entering.h"
+#include "controls/box_focus.h"
 #include "controls/keys.h"
 #include "tests/support/entering_boxes.h"
 

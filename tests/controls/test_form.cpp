@@ -4,11 +4,11 @@
 #include <QVBoxLayout>
 
 #include "base/language.h"
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/Form.h"
-#include "controls/leaving.h"
 #include "controls/main_frame.h"
 #include "tests/support/hand.h"
 

@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 
 #include "base/language.h"
+#include "controls/box_focus.h"
 #include "controls/Form.h"
 #include "controls/guide.h"
-#include "controls/leaving.h"
 #include "tests/support/hand.h"
 #include "tests/support/languages.h"
 

@@ -3,9 +3,9 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
 #include "controls/control_array.h"
-#include "controls/entering.h"
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "tests/support/hand.h"

@@ -4,11 +4,11 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/Form.h"
-#include "controls/leaving.h"
 #include "tests/support/hand.h"
 
 using namespace verdane;

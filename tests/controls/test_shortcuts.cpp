@@ -4,10 +4,10 @@
 #include <QVBoxLayout>
 
 #include "base/language.h"
+#include "controls/box_focus.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/Form.h"
-#include "controls/leaving.h"
 #include "controls/shortcuts.h"
 #include "tests/support/hand.h"
 #include "tests/support/languages.h"
