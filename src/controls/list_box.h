@@ -2,7 +2,9 @@
 
 #include <QStringList>
 
+class QAbstractItemView;
 class QListWidget;
+class QString;
 
 namespace verdane {
 
@@ -18,5 +20,9 @@ void fill_list_box(QListWidget& list, const QStringList& lines);
 
 /// Removes the selected line and selects the first one of the others.
 void remove_selected_line(QListWidget& list);
+
+/// Shows a text in the middle of a list or grid while it has no rows, and gives it to screen readers as the
+/// description of the list. Called once, after the list has its model.
+void say_when_empty(QAbstractItemView& list, const QString& text);
 
 }  // namespace verdane

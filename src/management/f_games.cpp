@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "controls/empty_text.h"
 #include "controls/events.h"
 #include "controls/list_box.h"
 #include "controls/look.h"

@@ -5,7 +5,6 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "controls/empty_text.h"
 #include "controls/events.h"
 #include "controls/list_box.h"
 #include "controls/look.h"

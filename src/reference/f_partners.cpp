@@ -10,8 +10,8 @@
 
 #include "controls/control_array.h"
 #include "controls/data_grid.h"
-#include "controls/empty_text.h"
 #include "controls/events.h"
+#include "controls/list_box.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
 #include "controls/scrolled_content.h"
