@@ -111,7 +111,7 @@ void remove_selected_line(QListWidget& list)
         list.setCurrentRow(0);
 }
 
-void say_when_empty(QAbstractItemView& list, const QString& text)
+void show_text_when_empty(QAbstractItemView& list, const QString& text)
 {
     new empty_text(list, text);
 }

@@ -23,6 +23,6 @@ void remove_selected_line(QListWidget& list);
 
 /// Shows a text in the middle of a list or grid while it has no rows, and gives it to screen readers as the
 /// description of the list. Called once, after the list has its model.
-void say_when_empty(QAbstractItemView& list, const QString& text);
+void show_text_when_empty(QAbstractItemView& list, const QString& text);
 
 }  // namespace verdane

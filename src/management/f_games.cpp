@@ -56,7 +56,7 @@ QWidget* f_games::make_rounds_frame()
     auto* frame =
         named(new QGroupBox(caption(u"Date / Heure / Terrain", u"Date / Time / Course")), u"Frame1");
     lines_->setAccessibleName(frame->title());
-    say_when_empty(*lines_, caption(u"Aucune ronde", u"No round"));
+    show_text_when_empty(*lines_, caption(u"Aucune ronde", u"No round"));
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
     inside->addWidget(lines_);

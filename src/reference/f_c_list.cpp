@@ -26,7 +26,7 @@ constexpr int list_characters = 40;
 f_c_list::f_c_list() : Form(u"f_c_list"), lines_(named(make_list_box(list_characters), u"List1"))
 {
     setWindowTitle(caption(u"Gestion des terrains", u"Golf Course Management "));
-    say_when_empty(*lines_, caption(u"Aucun terrain", u"No golf course"));
+    show_text_when_empty(*lines_, caption(u"Aucun terrain", u"No golf course"));
     auto* columns = new QHBoxLayout(this);
     columns->setContentsMargins(2 * rhythm, 2 * rhythm, 2 * rhythm, 2 * rhythm);
     columns->setSpacing(2 * rhythm);

@@ -81,7 +81,7 @@ data_grid* f_partners::make_grid() const
     grid->setWordWrap(false);
     grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     set_widths(*grid);
-    say_when_empty(*grid, caption(u"Aucun partenaire", u"No partner"));
+    show_text_when_empty(*grid, caption(u"Aucun partenaire", u"No partner"));
     return grid;
 }
 

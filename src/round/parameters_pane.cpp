@@ -125,7 +125,7 @@ void parameters_pane::lay_out(const Form& window)
     add_block(*blocks_, window.caption(u"Conditions atmosphériques", u"Weather Conditions "), weathers_);
     add_line(*blocks_, u"Temp. :"_s, {temperature_});
     add_block(*blocks_, window.caption(u"Partenaires", u"Partners"), partners_, 1);
-    say_when_empty(*partners_, window.caption(u"Aucun partenaire", u"No partner"));
+    show_text_when_empty(*partners_, window.caption(u"Aucun partenaire", u"No partner"));
     add_line(*blocks_, window.caption(u"Coûts", u"Costs"), {costs_box_, costs_button_});
 }
 
