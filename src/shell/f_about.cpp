@@ -1,23 +1,26 @@
 #include "shell/f_about.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
+#include <QSettings>
 #include <QSvgWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 #include "base/program.h"
+#include "controls/boxes.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
 #include "controls/scrolled_content.h"
-#include "shell/system_information.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane {
@@ -69,6 +72,19 @@ QLineEdit* make_store_box(const Form& window)
     box->setMinimumWidth(std::min(wanted, most_path_pixels));
     return box;
 }
+
+#ifdef Q_OS_WIN
+QString registry_value(const QString& key, const QString& value)
+{
+    const QSettings registry(u"HKEY_LOCAL_MACHINE\\"_s + key, QSettings::NativeFormat);
+    return registry.value(value).toString();
+}
+#else
+QString registry_value(const QString&, const QString&)
+{
+    return {};
+}
+#endif
 
 }  // namespace
 
@@ -141,6 +157,23 @@ void f_about::activated()
 void f_about::unloading()
 {
     Unlock_menu();
+}
+
+QString system_information_tool()
+{
+    const QString tool = registry_value(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"_s, u"PATH"_s);
+    if (!tool.isEmpty())
+        return tool;
+    const QString folder = registry_value(u"SOFTWARE\\Microsoft\\Shared Tools Location"_s, u"MSINFO"_s);
+    const QString in_folder = folder + u"\\MSINFO32.EXE"_s;
+    return !folder.isEmpty() && QFileInfo::exists(in_folder) ? in_folder : QString();
+}
+
+void show_system_information()
+{
+    const QString tool = system_information_tool();
+    if (tool.isEmpty() || !QProcess::startDetached(tool, {}))
+        show_information(u"System Information Is Unavailable At This Time"_s);
 }
 
 }  // namespace verdane

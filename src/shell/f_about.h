@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include "controls/Form.h"
 
 class QLayout;
@@ -23,5 +25,11 @@ private:
 
     QPushButton* ok_;
 };
+
+/// The platform's system information tool; empty where there is none.
+QString system_information_tool();
+
+/// Starts that tool with a normal window, or shows a message that there is none.
+void show_system_information();
 
 }  // namespace verdane

@@ -9,7 +9,6 @@
 #include "shell/f_about.h"
 #include "shell/MainForm.h"
 #include "shell/start_up.h"
-#include "shell/system_information.h"
 #include "shell/unopened_windows.h"
 #include "store/DataEnvironment1.h"
 #include "tests/shell/program_run.h"
