@@ -6,7 +6,7 @@
 
 #include "controls/interface_language.h"
 #include "scoring/limits.h"
-#include "shell/language_change.h"
+#include "shell/f_lang.h"
 #include "store/DataEnvironment1.h"
 #include "store/recovery/diary_copy.h"
 #include "tests/support/reader.h"

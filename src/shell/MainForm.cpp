@@ -14,7 +14,7 @@
 #include "controls/failure_guard.h"
 #include "controls/Form.h"
 #include "controls/screen_limits.h"
-#include "shell/language_change.h"
+#include "shell/f_lang.h"
 #include "shell/main_commands.h"
 
 namespace verdane {

@@ -14,4 +14,18 @@ private:
     void choose(int language);
 };
 
+/// The values of the column `language` of the table `settings`. Any other value that is not Null means that
+/// no language has been chosen yet.
+constexpr int french_value = 1;
+constexpr int english_value = 2;
+
+constexpr bool is_language_value(int value)
+{
+    return value == french_value || value == english_value;
+}
+
+/// Changes the language of the interface: stores the value, reads the club names again and reloads the main
+/// window.
+void change_language(int value);
+
 }  // namespace verdane

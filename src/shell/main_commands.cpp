@@ -10,7 +10,7 @@
 #include "reference/f_sticks.h"
 #include "round/f_new_round.h"
 #include "shell/f_about.h"
-#include "shell/language_change.h"
+#include "shell/f_lang.h"
 #include "shell/MainForm.h"
 #include "statistics/f_carte.h"
 #include "statistics/f_date_range.h"

@@ -16,7 +16,6 @@
 #include "scoring/limits.h"
 #include "shell/daily_copy.h"
 #include "shell/f_lang.h"
-#include "shell/language_change.h"
 #include "shell/MainForm.h"
 #include "shell/row_script.h"
 #include "store/DataEnvironment1.h"
