@@ -34,7 +34,7 @@ void add_holes(round_totals& totals, const figure_source& last_hole)
 
 }  // namespace
 
-hole_figures figures_of(int16 hole, const figure_source& source)
+hole_figures figures_from_source(int16 hole, const figure_source& source)
 {
     return source ? *source : figures_from_row(hole);
 }
@@ -76,27 +76,27 @@ int16 hole_pen_lost(int16 hole, const figure_source& source)
 
 int16 hole_penalties(int16 hole, const figure_source& source)
 {
-    return verdane::hole_penalties(figures_of(hole, source));
+    return verdane::hole_penalties(figures_from_source(hole, source));
 }
 
 int16 hole_gross(int16 hole, const figure_source& source)
 {
-    return verdane::hole_gross(figures_of(hole, source));
+    return verdane::hole_gross(figures_from_source(hole, source));
 }
 
 int in_regulation(int16 hole, const figure_source& source)
 {
-    return verdane::in_regulation(figures_of(hole, source), hole_par(hole));
+    return verdane::in_regulation(figures_from_source(hole, source), hole_par(hole));
 }
 
 bool not_in_regulation(int16 hole, const figure_source& source)
 {
-    return verdane::not_in_regulation(figures_of(hole, source), hole_par(hole));
+    return verdane::not_in_regulation(figures_from_source(hole, source), hole_par(hole));
 }
 
 QString hole_cell(int selector, int16 hole, const figure_source& source)
 {
-    return verdane::hole_cell(selector, figures_of(hole, source), hole_par(hole));
+    return verdane::hole_cell(selector, figures_from_source(hole, source), hole_par(hole));
 }
 
 round_figures round_score(const figure_source& last_hole)

@@ -9,8 +9,8 @@
 #include "scoring/round_totals.h"
 
 /// The scoring of a hole and of a round. The par of a hole always comes from the current row of
-/// `rsfield_info`. A caller that needs several results for one hole calls `figures_of` once and then the pure
-/// functions of `scoring`.
+/// `rsfield_info`. A caller that needs several results for one hole calls `figures_from_source` once and then
+/// the pure functions of `scoring`.
 namespace verdane::Round_functions {
 
 /// Where the figures of a hole come from: `from_row` reads them from the current row of `rsgames`. Otherwise
@@ -20,7 +20,7 @@ using figure_source = std::optional<hole_figures>;
 inline constexpr std::nullopt_t from_row = std::nullopt;
 
 /// The figures of a hole from that source.
-hole_figures figures_of(int16 hole, const figure_source& source);
+hole_figures figures_from_source(int16 hole, const figure_source& source);
 
 int16 hole_long(int16 hole, const figure_source& source);
 int16 hole_approach(int16 hole, const figure_source& source);

@@ -208,7 +208,7 @@ void detailed_page::remove_shot()
     grid_->ReBind();
     if (entry_.has_shots())
         check_shots();
-    entry_.follow_last_shot();
+    entry_.set_put_mode_by_last_shot();
 }
 
 void detailed_page::finish_hole()

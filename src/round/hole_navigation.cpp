@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Shows the listed hole in the tabs and as the number, and what is visible on the last hole only.
-void follow_list(const round_panes& panes)
+void show_listed_hole(const round_panes& panes)
 {
     const int hole = plain(panes.holes.listed_hole());
     panes.holes.show_hole(hole);
@@ -41,7 +41,7 @@ bool may_leave_shots(detailed_page& shots)
     return shots.drop_blank_shot().shots_complete.value_or(true);
 }
 
-void go_to_quick_page(round_form& window, const round_panes& panes)
+void show_quick_page(round_form& window, const round_panes& panes)
 {
     if (!panes.detailed.drop_blank_shot().removed)
         panes.detailed.summarise_hole();
@@ -58,10 +58,10 @@ void leave_detailed_page(round_form& window, const round_panes& panes)
     if (panes.detailed.isHidden())
         panes.pages.select(round_page::quick);
     else
-        go_to_quick_page(window, panes);
+        show_quick_page(window, panes);
 }
 
-void go_to_detailed_page(round_form& window, const round_panes& panes)
+void show_detailed_page(round_form& window, const round_panes& panes)
 {
     panes.shots.commit();
     window.show_page(round_page::detailed);
@@ -77,7 +77,7 @@ void go_to_detailed_page(round_form& window, const round_panes& panes)
     panes.detailed.focus_club();
 }
 
-quick_figures figures_from_rows(int16 hole)
+quick_figures read_quick_figures(int16 hole)
 {
     const Round_functions::strokes strokes = Round_functions::read_strokes(hole);
     const Round_functions::penalties penalties = Round_functions::read_penalties(hole);
@@ -131,7 +131,7 @@ void hole_selected(round_form& window, const round_panes& panes)
     const int16 hole = panes.holes.listed_hole();
     load_hole(window, panes, hole);
     window.hole_is_shown(hole);
-    follow_list(panes);
+    show_listed_hole(panes);
     refresh_score(panes.quick, panes.totals);
 }
 
@@ -180,7 +180,7 @@ void page_changed(round_form& window, const round_panes& panes)
     if (window.closingoK() || !window.on_detailed_page())
         leave_detailed_page(window, panes);
     else
-        go_to_detailed_page(window, panes);
+        show_detailed_page(window, panes);
 }
 
 void open_shots_of_hole(round_form& window, const round_panes& panes)
@@ -197,7 +197,7 @@ void open_shots_of_hole(round_form& window, const round_panes& panes)
         return;
     }
     panes.pages.select(round_page::detailed);
-    go_to_detailed_page(window, panes);
+    show_detailed_page(window, panes);
 }
 
 void enable_save_and_close(bool enabled)
@@ -213,7 +213,8 @@ void refresh_panel(round_form& window, const round_panes& panes,
 {
     window.mark_changed();
     const int16 hole = panes.holes.listed_hole();
-    panes.statistics.show_hole(Round_functions::figures_of(hole, figures), Round_functions::hole_par(hole));
+    panes.statistics.show_hole(Round_functions::figures_from_source(hole, figures),
+                               Round_functions::hole_par(hole));
 }
 
 void refresh_score(const quick_page& quick, totals_pane& totals)
@@ -223,7 +224,7 @@ void refresh_score(const quick_page& quick, totals_pane& totals)
 
 void load_hole(round_form& window, const round_panes& panes, int16 hole)
 {
-    panes.quick.show_stored(figures_from_rows(hole));
+    panes.quick.show_stored(read_quick_figures(hole));
     show_hole_card(panes.holes, hole);
     panes.holes.set_hole_in_boxes(hole);
     refresh_panel(window, panes, Round_functions::from_row);

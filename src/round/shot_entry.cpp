@@ -134,7 +134,7 @@ void shot_entry::remove_shot()
     rows_.remove_current();
 }
 
-void shot_entry::follow_last_shot()
+void shot_entry::set_put_mode_by_last_shot()
 {
     PUT_MODE_ =
         !shots().empty() &&

@@ -53,7 +53,7 @@ public:
     bool drop_blank_shot(int grid_row);
     void remove_shot();
     /// Sets `PUT_MODE` to true when the last shot is a putt, else to false.
-    void follow_last_shot();
+    void set_put_mode_by_last_shot();
 
     /// True when the hole has only the blank shot of a new hole, without club, kind and distance.
     bool is_untouched() const;

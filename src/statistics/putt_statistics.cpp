@@ -22,7 +22,7 @@ void prepare_putt_report(report_control& control)
 }
 
 /// Computes the figures, moving the bar.
-putt_figures figures_of(const putt_counts& counts, run_progress& bar)
+putt_figures compute_figures(const putt_counts& counts, run_progress& bar)
 {
     putt_figures figures;
     figures.counts = counts;
@@ -41,7 +41,7 @@ putt_figures figures_of(const putt_counts& counts, run_progress& bar)
 void write_tables(const selection_arguments& chosen, const gathered_putts& gathered, run_progress& bar)
 {
     bar.move_to(30);
-    const putt_figures figures = figures_of(gathered.counts, bar);
+    const putt_figures figures = compute_figures(gathered.counts, bar);
     bar.move_to(90);
     const relaxed_commits scratch(data_environment().connection);
     putt_tables::open();
@@ -85,7 +85,7 @@ bool round_putts(const QString& caption_1, const QString& caption_2)
 {
     const relaxed_commits scratch(data_environment().connection);
     run_progress no_bar;
-    const putt_figures figures = figures_of(putts_of_current_round(), no_bar);
+    const putt_figures figures = compute_figures(putts_of_current_round(), no_bar);
     putt_tables::open();
     putt_tables::write_grids(figures);
     putt_tables::write_captions();

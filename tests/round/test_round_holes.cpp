@@ -41,7 +41,7 @@ void check_hole(hand& user, int hole)
 }
 
 /// Changes from hole 1 to hole 2 in one of four ways.
-void go_to_hole_2(hand& user, const QString& way)
+void select_hole_2(hand& user, const QString& way)
 {
     if (way == u"tab") {
         user.click_tab(tabs, 2);
@@ -105,7 +105,7 @@ private Q_SLOTS:
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
             user.type(u"12345678901"_s);
-            go_to_hole_2(user, way);
+            select_hole_2(user, way);
             check_hole(user, 2);
             user.same(boxes(user), u"0 0 0 0 0 0 0 0 0 0 0"_s, u"boxes"_s);
             user.same(store.at(u"games"_s, tables::games::long_h(1)), u"1"_s, way);
