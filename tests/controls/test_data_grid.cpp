@@ -202,7 +202,7 @@ private Q_SLOTS:
         });
     }
 
-    void keys_open_the_menu_data()
+    void a_key_on_a_cell_with_a_menu_opens_the_menu_data()
     {
         QTest::addColumn<int>("key");
         QTest::addColumn<bool>("alt");
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QTest::newRow("F4") << int(Qt::Key_F4) << false;
         QTest::newRow("Alt+Down") << int(Qt::Key_Down) << true;
     }
-    void keys_open_the_menu()
+    void a_key_on_a_cell_with_a_menu_opens_the_menu()
     {
         QFETCH(int, key);
         QFETCH(bool, alt);

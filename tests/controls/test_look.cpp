@@ -73,7 +73,7 @@ private Q_SLOTS:
         check_figure(*figure);
     }
 
-    void the_background_of_a_figure_follows_the_palette()
+    void the_background_of_a_figure_changes_with_the_palette()
     {
         QApplication::setPalette(palette_of(false));
         QWidget window;

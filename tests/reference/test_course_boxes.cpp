@@ -315,7 +315,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_totals_follow_when_a_length_is_left()
+    void the_totals_are_computed_when_a_length_is_left()
     {
         const course_store store;
         in_new_course([](hand& user) {

@@ -120,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(store.number(u"select count(*) from field_info"_s), 1);
     }
 
-    void old_lines_open_their_rows_after_a_course_was_added()
+    void after_a_course_was_added_each_older_line_opens_its_own_course()
     {
         const course_store store;
         add_three_courses(store);

@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(course_keys[2].code.isEmpty());
     }
 
-    void lines_open_their_own_rows_after_a_removal()
+    void after_a_removal_each_line_opens_its_own_course()
     {
         const course_store store;
         add_three_courses(store);

@@ -242,7 +242,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_total_follows_every_change()
+    void the_total_is_computed_after_every_change()
     {
         cost_store store(true, u"32766,0,0,0,0,0,0,0,0,0,0,0"_s);
         in_costs(store, [](hand& user) {

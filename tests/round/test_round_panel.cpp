@@ -147,7 +147,7 @@ private Q_SLOTS:
         });
     }
 
-    void the_totals_follow_each_stroke_on_the_last_hole()
+    void the_totals_are_computed_after_each_stroke_on_the_last_hole()
     {
         const round_store store;
         store.add_two_courses();
