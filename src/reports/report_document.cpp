@@ -5,8 +5,7 @@
 
 #include "reports/check/page_check.h"
 #include "reports/fill/template_fill.h"
-#include "reports/output/report_files.h"
-#include "reports/output/report_print.h"
+#include "reports/output/report_output.h"
 #include "reports/page/layout_units.h"
 #include "reports/page/page_layout.h"
 #include "reports/page/report_drawings.h"

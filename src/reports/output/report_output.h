@@ -7,6 +7,8 @@
 
 #include "reports/query/report_snapshot.h"
 
+class QPrinter;
+
 namespace verdane {
 
 class report_document;
@@ -24,5 +26,8 @@ QByteArray csv_text(const report_rows& rows, QChar separator);
 
 /// Writes a file completely or not at all. Fails with `report_output`; a file of that name is then as it was.
 void write_report_file(const QString& path, const QByteArray& bytes);
+
+/// Prints the pages of the range that is set in the printer. Fails with `report_output`.
+void print_report(const report_document& document, QPrinter& printer);
 
 }  // namespace verdane
