@@ -8,7 +8,7 @@
 
 #include "base/run_time_failure.h"
 #include "controls/lock_box.h"
-#include "reports/query/passed_copy.h"
+#include "reports/query/report_tables.h"
 #include "reports/report_store.h"
 #include "reports/template/page_limits.h"
 #include "reports/template/query_text.h"

@@ -6,6 +6,8 @@
 #include <map>
 #include <vector>
 
+class QSqlDatabase;
+
 namespace verdane {
 
 /// The tables of the store that a template may read: those that the statistics and the scorecard fill, and
@@ -27,5 +29,10 @@ using passed_rows = std::map<QString, std::vector<std::vector<QVariant>>>;
 
 /// All tables that a template may read.
 const QStringList& readable_tables();
+
+/// Creates all passed tables in `target`, an open SQLite database in memory, and fills them with `rows`.
+/// Fails with `misuse` on rows of an unknown table or with another number of values than the table has
+/// columns.
+void create_passed_tables(const QSqlDatabase& target, const passed_rows& rows);
 
 }  // namespace verdane
