@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using table_rows = std::vector<std::vector<QVariant>>;
+using table_rows = std::vector<passed_row>;
 
 /// Null if there is no value.
 template <typename Value>
@@ -53,10 +53,17 @@ season computed(const season_rounds& rounds)
 table_rows total_row(const season& all, const ranked_holes& holes)
 {
     const season_sums& sums = all.sums;
-    return {{sums.rounds, sums.whole_rounds, sums.holes, all.mean_window, cell(sums.per_round(sums.gross)),
-             cell(sums.per_round(sums.over)), cell(sums.per_round(sums.putts)),
-             cell(sums.per_round(sums.greens)), cell(sums.per_round(sums.penalties)), holes.candidates,
-             holes.least_plays}};
+    return {{{u"rounds"_s, sums.rounds},
+             {u"whole_rounds"_s, sums.whole_rounds},
+             {u"holes"_s, sums.holes},
+             {u"mean_window"_s, all.mean_window},
+             {u"gross"_s, cell(sums.per_round(sums.gross))},
+             {u"over"_s, cell(sums.per_round(sums.over))},
+             {u"putts"_s, cell(sums.per_round(sums.putts))},
+             {u"greens"_s, cell(sums.per_round(sums.greens))},
+             {u"penalties"_s, cell(sums.per_round(sums.penalties))},
+             {u"ranked_holes"_s, holes.candidates},
+             {u"least_plays"_s, holes.least_plays}}};
 }
 
 table_rows round_rows(const season& all)
@@ -66,11 +73,22 @@ table_rows round_rows(const season& all)
         const season_round& round = all.rounds[i];
         const season_figures& figures = all.figures[i];
         const int rank = all.handicap.ranks[i];
-        rows.push_back({static_cast<int>(i) + 1, Verdane_tools::key_date_text(round.key), round.course,
-                        figures.holes, figures.whole() ? 1 : 0, figures.gross, round.rating, round.slope,
-                        figures.differential, rank == 0 ? QVariant() : QVariant(rank), cell(all.handicaps[i]),
-                        figures.over, cell(all.moving_means[i]), figures.putts, figures.greens,
-                        figures.penalties});
+        rows.push_back({{u"place"_s, static_cast<int>(i) + 1},
+                        {u"date"_s, Verdane_tools::key_date_text(round.key)},
+                        {u"course"_s, round.course},
+                        {u"holes"_s, figures.holes},
+                        {u"whole"_s, figures.whole() ? 1 : 0},
+                        {u"gross"_s, figures.gross},
+                        {u"rating"_s, round.rating},
+                        {u"slope"_s, round.slope},
+                        {u"differential"_s, figures.differential},
+                        {u"counting"_s, rank == 0 ? QVariant() : QVariant(rank)},
+                        {u"handicap"_s, cell(all.handicaps[i])},
+                        {u"over"_s, figures.over},
+                        {u"moving_mean"_s, cell(all.moving_means[i])},
+                        {u"putts"_s, figures.putts},
+                        {u"greens"_s, figures.greens},
+                        {u"penalties"_s, figures.penalties}});
     }
     return rows;
 }
@@ -80,16 +98,25 @@ table_rows handicap_row(const season& all)
     const handicap_steps& steps = all.handicap;
     const int rounds = all.sums.rounds;
     const int least = least_rounds_of_handicap();
-    return {{rounds, steps.take, steps.sum, steps.mean, steps.factor, steps.product, steps.text.trimmed(),
-             std::max(least - rounds, 0), least}};
+    return {{{u"rounds"_s, rounds},
+             {u"take"_s, steps.take},
+             {u"sum"_s, steps.sum},
+             {u"mean"_s, steps.mean},
+             {u"factor"_s, steps.factor},
+             {u"product"_s, steps.product},
+             {u"handicap"_s, steps.text.trimmed()},
+             {u"missing"_s, std::max(least - rounds, 0)},
+             {u"least_rounds"_s, least}}};
 }
 
 table_rows ladder_rows(int rounds)
 {
     table_rows rows;
     for (const ladder_step& step : handicap_ladder())
-        rows.push_back({step.first, step.last == most_rounds ? QVariant() : QVariant(step.last), step.take,
-                        step.first <= rounds && rounds <= step.last ? 1 : 0});
+        rows.push_back({{u"first_rounds"_s, step.first},
+                        {u"last_rounds"_s, step.last == most_rounds ? QVariant() : QVariant(step.last)},
+                        {u"take"_s, step.take},
+                        {u"is_current"_s, step.first <= rounds && rounds <= step.last ? 1 : 0}});
     return rows;
 }
 
@@ -97,8 +124,13 @@ void add_holes(table_rows& rows, const std::vector<season_hole>& holes, bool are
 {
     int rank = 0;
     for (const season_hole& hole : holes)
-        rows.push_back(
-            {are_best ? 1 : 0, ++rank, hole.course, hole.hole, hole.par, hole.plays, hole.mean_over});
+        rows.push_back({{u"is_best"_s, are_best ? 1 : 0},
+                        {u"rank"_s, ++rank},
+                        {u"course"_s, hole.course},
+                        {u"hole"_s, hole.hole},
+                        {u"par"_s, hole.par},
+                        {u"plays"_s, hole.plays},
+                        {u"mean_over"_s, hole.mean_over}});
 }
 
 table_rows hole_rows(const ranked_holes& holes)
@@ -114,10 +146,16 @@ table_rows course_rows(const season& all)
     table_rows rows;
     for (const season_course& course : courses_of_season(all.rounds, all.figures)) {
         const season_sums& sums = course.sums;
-        rows.push_back({course.course, sums.rounds, sums.whole_rounds, cell(sums.per_round(sums.gross)),
-                        cell(sums.best_gross), cell(sums.per_round(sums.over)),
-                        cell(sums.per_round(sums.putts)), cell(sums.per_round(sums.greens)),
-                        cell(sums.per_round(sums.penalties)), cell(sums.best_differential)});
+        rows.push_back({{u"course"_s, course.course},
+                        {u"rounds"_s, sums.rounds},
+                        {u"whole_rounds"_s, sums.whole_rounds},
+                        {u"gross"_s, cell(sums.per_round(sums.gross))},
+                        {u"best_gross"_s, cell(sums.best_gross)},
+                        {u"over"_s, cell(sums.per_round(sums.over))},
+                        {u"putts"_s, cell(sums.per_round(sums.putts))},
+                        {u"greens"_s, cell(sums.per_round(sums.greens))},
+                        {u"penalties"_s, cell(sums.per_round(sums.penalties))},
+                        {u"best_differential"_s, cell(sums.best_differential)}});
     }
     return rows;
 }

@@ -23,6 +23,14 @@ class test_passed_tables : public QObject {
     store_folder store_;
     QTemporaryDir folder_;
 
+    static passed_row step(int first, const QVariant& last, int take, int is_current)
+    {
+        return {{u"first_rounds"_s, first},
+                {u"last_rounds"_s, last},
+                {u"take"_s, take},
+                {u"is_current"_s, is_current}};
+    }
+
     /// The rows of a query of a template, as texts with commas between the values.
     QStringList rows_of(const QString& sql, const passed_rows& passed)
     {
@@ -43,14 +51,21 @@ private Q_SLOTS:
 
     void a_query_reads_the_rows_that_were_passed()
     {
-        const passed_rows passed{{u"season_ladder"_s, {{0, 4, 0, 1}, {20, QVariant(), 10, 0}}}};
+        const passed_rows passed{{u"season_ladder"_s, {step(0, 4, 0, 1), step(20, QVariant(), 10, 0)}}};
         QCOMPARE(rows_of(u"select * from season_ladder order by first_rounds"_s, passed),
                  (QStringList{u"0,4,0,1"_s, u"20,null,10,0"_s}));
     }
 
     void numbers_and_texts_keep_their_types()
     {
-        const passed_rows passed{{u"season_holes"_s, {{1, 1, u"17"_s, 3, 4, 2, -0.5}}}};
+        const passed_rows passed{{u"season_holes"_s,
+                                  {{{u"is_best"_s, 1},
+                                    {u"rank"_s, 1},
+                                    {u"course"_s, u"17"_s},
+                                    {u"hole"_s, 3},
+                                    {u"par"_s, 4},
+                                    {u"plays"_s, 2},
+                                    {u"mean_over"_s, -0.5}}}}};
         QCOMPARE(
             rows_of(u"select typeof(course), typeof(hole), typeof(mean_over) from season_holes"_s, passed),
             QStringList{u"text,integer,real"_s});
@@ -68,17 +83,31 @@ private Q_SLOTS:
 
     void a_long_text_is_cut()
     {
-        const passed_rows passed{{u"season_courses"_s, {{QString(1001, u'x'), 1, 1, 1, 1, 1, 1, 1, 1, 1}}}};
+        passed_row row;
+        for (const passed_table& table : passed_tables())
+            if (table.name == u"season_courses")
+                for (const QString& column : table.columns)
+                    row[column] = 1;
+        row[u"course"_s] = QString(1001, u'x');
+        const passed_rows passed{{u"season_courses"_s, {row}}};
         QCOMPARE(rows_of(u"select length(course), substr(course, -2) from season_courses"_s, passed),
                  QStringList{u"1000,x…"_s});
     }
 
     void rows_that_do_not_fit_are_misuse()
     {
-        const passed_rows short_row{{u"season_ladder"_s, {{0, 4, 0}}}};
+        passed_row without_column = step(0, 4, 0, 1);
+        without_column.erase(u"take"_s);
+        passed_row with_unknown_column = step(0, 4, 0, 1);
+        with_unknown_column[u"taken"_s] = 0;
+        passed_row with_wrong_name = with_unknown_column;
+        with_wrong_name.erase(u"take"_s);
+        for (const passed_row& row : {without_column, with_unknown_column, with_wrong_name})
+            QCOMPARE(failure_of([&] {
+                         rows_of(u"select * from season"_s, {{u"season_ladder"_s, {row}}});
+                     }),
+                     std::optional(failure_kind::misuse));
         const passed_rows other_table{{u"stats"_s, {}}};
-        QCOMPARE(failure_of([&] { rows_of(u"select * from season"_s, short_row); }),
-                 std::optional(failure_kind::misuse));
         QCOMPARE(failure_of([&] { rows_of(u"select * from season"_s, other_table); }),
                  std::optional(failure_kind::misuse));
     }
@@ -99,7 +128,7 @@ private Q_SLOTS:
         control.Action(report_control::run_now);
         QVERIFY(control.preview() != nullptr);
         QCOMPARE(preview_pages(control), 1);
-        control.pass_rows({{u"season_ladder"_s, {{0, 0, 1, 0}, {1, 1, 2, 0}}}});
+        control.pass_rows({{u"season_ladder"_s, {step(0, 0, 1, 0), step(1, 1, 2, 0)}}});
         control.Action(report_control::run_now);
         QCOMPARE(preview_pages(control), 2);
         delete control.preview();

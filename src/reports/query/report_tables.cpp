@@ -30,19 +30,27 @@ QVariant cut(const QVariant& value)
                : QVariant(text.left(most_text_characters - 1) + u'…');
 }
 
-void fill(const QSqlDatabase& target, const passed_table& table,
-          const std::vector<std::vector<QVariant>>& rows)
+/// The value of a column. Fails if the row has none for it.
+QVariant value_of(const passed_row& row, const passed_table& table, const QString& column)
+{
+    const auto found = row.find(column);
+    if (found == row.end())
+        throw run_time_failure(failure_kind::misuse, u"a row of %1 without %2"_s.arg(table.name, column));
+    return found->second;
+}
+
+void fill(const QSqlDatabase& target, const passed_table& table, const std::vector<passed_row>& rows)
 {
     QSqlQuery query(target);
     const QStringList places(table.columns.size(), u"?"_s);
     check(query.prepare(u"insert into %1 values (%2)"_s.arg(table.name, places.join(u','))), query);
-    for (const std::vector<QVariant>& row : rows) {
+    for (const passed_row& row : rows) {
         if (static_cast<qsizetype>(row.size()) != table.columns.size())
             throw run_time_failure(failure_kind::misuse, u"%1 values for %2 columns of %3"_s.arg(row.size())
                                                              .arg(table.columns.size())
                                                              .arg(table.name));
-        for (std::size_t column = 0; column < row.size(); ++column)
-            query.bindValue(static_cast<int>(column), cut(row[column]));
+        for (int column = 0; column < table.columns.size(); ++column)
+            query.bindValue(column, cut(value_of(row, table, table.columns[column])));
         check(query.exec(), query);
     }
 }

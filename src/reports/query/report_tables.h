@@ -23,16 +23,17 @@ struct passed_table {
 /// These tables. A report for which nothing was passed has them without rows.
 const std::vector<passed_table>& passed_tables();
 
-/// The rows of the passed tables by the name of the table, in the order of its columns. An invalid variant is
-/// Null.
-using passed_rows = std::map<QString, std::vector<std::vector<QVariant>>>;
+/// The values of a row by the name of the column, one for each column. An invalid variant is Null.
+using passed_row = std::map<QString, QVariant>;
+
+/// The rows of the passed tables by the name of the table.
+using passed_rows = std::map<QString, std::vector<passed_row>>;
 
 /// All tables that a template may read.
 const QStringList& readable_tables();
 
 /// Creates all passed tables in `target`, an open SQLite database in memory, and fills them with `rows`.
-/// Fails with `misuse` on rows of an unknown table or with another number of values than the table has
-/// columns.
+/// Fails with `misuse` on rows of an unknown table, and on a row that lacks a column or has an unknown one.
 void create_passed_tables(const QSqlDatabase& target, const passed_rows& rows);
 
 }  // namespace verdane
