@@ -11,8 +11,6 @@ namespace verdane {
 namespace {
 
 constexpr int stroke_index_limit = hole_count + 1;
-constexpr int lowest_par = 3;
-constexpr int highest_par = 5;
 
 }  // namespace
 

@@ -8,6 +8,9 @@ constexpr int hole_count = 18;
 constexpr int nine_holes = hole_count / 2;
 /// The clubs of the bag; the last one is the putter.
 constexpr int club_count = 14;
+/// The pars that a hole can have; 0 means that its par is not known yet.
+constexpr int lowest_par = 3;
+constexpr int highest_par = 5;
 /// Putts of a hole whose lengths are stored.
 constexpr int putt_lengths_kept = 6;
 /// Bands into which the lengths of putts are divided.

@@ -1,6 +1,7 @@
 #include "scoring/round_lines.h"
 
 #include "base/numbers.h"
+#include "scoring/limits.h"
 
 namespace verdane {
 
@@ -89,7 +90,7 @@ stats_line average_line(const round_sums& sums, int par)
 
 by_hole<double> class_holes(const round_sums& sums, int place)
 {
-    for (int par = 3; par <= 5; ++par) {
+    for (int par = lowest_par; par <= highest_par; ++par) {
         if (place == place_of_average(par))
             return average_line(sums, par).holes;
     }

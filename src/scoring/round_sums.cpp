@@ -1,5 +1,7 @@
 #include "scoring/round_sums.h"
 
+#include "scoring/limits.h"
+
 namespace verdane {
 
 void round_sums::add_hole(int h, const played_hole& hole)
@@ -25,7 +27,7 @@ void round_sums::add_classes(int h, const played_hole& hole)
     for (int i = 1; i <= class_count; ++i)
         classes[i][h].add(hole_cell_value(summary_selector(i), hole.figures, hole.par));
     // A hole has one par, so its strokes are in at most one of the three averages.
-    for (int par = 3; par <= 5; ++par) {
+    for (int par = lowest_par; par <= highest_par; ++par) {
         if (hole_cell_value(summary_selector(place_of_average(par)), hole.figures, hole.par) != 0)
             averaged[par][h].add(1);
     }

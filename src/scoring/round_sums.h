@@ -48,7 +48,7 @@ struct round_sums {
     checked_array<by_hole<tally>, class_count, 1> classes;
 
     /// How many holes are counted in the averages of par 3, 4 and 5, by par.
-    checked_array<by_hole<tally>, 3, 3> averaged;
+    checked_array<by_hole<tally>, highest_par - lowest_par + 1, lowest_par> averaged;
 
     void add_round() { rounds = rounds + 1; }
     void add_hole(int h, const played_hole& hole);

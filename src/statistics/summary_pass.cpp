@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "records/round_rows.h"
+#include "scoring/limits.h"
 #include "scoring/round_lines.h"
 #include "statistics/season_round_row.h"
 #include "statistics/stats_table.h"
@@ -60,7 +61,7 @@ void add_current_round(round_sums& sums, season_rounds& season)
 void write_averages(const round_sums& sums)
 {
     move_to_row(row::average_par_3);
-    for (int par = 3; par <= 5; ++par) {
+    for (int par = lowest_par; par <= highest_par; ++par) {
         stats_table::write_nines(average_line(sums, par));
         stats().MoveNext();
     }
