@@ -32,6 +32,14 @@ using int16 = boost::safe_numerics::safe<std::int16_t, boost::safe_numerics::nat
 /// An amount of money: the same in 32 bits.
 using int32 = boost::safe_numerics::safe<std::int32_t, boost::safe_numerics::native, overflow_policy>;
 
+/// A sum of counts that starts at 0.
+struct tally {
+    int16 sum = 0;
+
+    /// Fails with `overflow` if the sum exceeds 16 bits.
+    void add(int16 value) { sum = sum + value; }
+};
+
 /// The value of a checked integer as an `int`, for an index, a text or a calculation with doubles: Boost does
 /// not convert checked integers to doubles reliably.
 inline int plain(int16 value)

@@ -3,9 +3,9 @@
 #include <array>
 
 #include "base/checked_array.h"
+#include "base/counts.h"
 #include "scoring/hole_shots.h"
 #include "scoring/limits.h"
-#include "scoring/tally.h"
 
 /// The figures of a hole, counted from its shots.
 namespace verdane {

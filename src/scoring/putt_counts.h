@@ -2,8 +2,8 @@
 
 #include <functional>
 
+#include "base/counts.h"
 #include "scoring/putt_bands.h"
-#include "scoring/tally.h"
 
 /// The counts of the putt statistics. Pure functions.
 namespace verdane {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/checked_array.h"
+#include "base/counts.h"
 #include "scoring/hole_arithmetic.h"
 #include "scoring/hole_classes.h"
 #include "scoring/limits.h"
-#include "scoring/tally.h"
 
 /// The sums of the round statistics, hole by hole, added up from one hole of one round at a time. Pure
 /// functions. A sum that exceeds 16 bits fails with `overflow`.
