@@ -106,7 +106,10 @@ void read_and_add_up(const plain_store& store, const selection_arguments& chosen
 
 void register_round_statistics()
 {
-    register_statistic({"round_statistics", Statistics::fill_stats, read_and_add_up});
+    const auto fill_stats = [](const selection_arguments& chosen, run_progress& bar) {
+        return Statistics::rounds_in_stats(chosen, bar).has_value();
+    };
+    register_statistic({"round_statistics", fill_stats, read_and_add_up});
 }
 
 }  // namespace verdane::bench

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QAbstractButton>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 
@@ -34,14 +33,6 @@ template <typename Routine>
 void on_change(QLineEdit& box, Routine routine)
 {
     QObject::connect(&box, &QLineEdit::textChanged, &box,
-                     [routine = std::move(routine)] { run_event(routine); });
-}
-
-/// Each change of the selected entry, by the user or by the program.
-template <typename Routine>
-void on_select(QComboBox& list, Routine routine)
-{
-    QObject::connect(&list, &QComboBox::currentIndexChanged, &list,
                      [routine = std::move(routine)] { run_event(routine); });
 }
 

@@ -102,11 +102,6 @@ std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, 
     return std::move(filled.season);
 }
 
-bool fill_stats(const selection_arguments& chosen, run_progress& bar)
-{
-    return rounds_in_stats(chosen, bar).has_value();
-}
-
 void round_statistics(const selection_arguments& chosen, const run_controls& controls)
 {
     run_progress bar(controls.Status);

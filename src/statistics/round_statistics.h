@@ -18,7 +18,4 @@ void round_statistics(const selection_arguments& chosen, const run_controls& con
 /// season; no value if there is nothing to print, which a message box has reported.
 std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, run_progress& bar);
 
-/// Fills the table and drops the rounds. False if there is nothing to print.
-bool fill_stats(const selection_arguments& chosen, run_progress& bar);
-
 }  // namespace verdane::Statistics

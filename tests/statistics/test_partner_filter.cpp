@@ -107,7 +107,7 @@ private Q_SLOTS:
         QFETCH(QString, partner);
         const rounds_with_partners store;
         run_progress no_bar;
-        QVERIFY(Statistics::fill_stats(all_rounds_with(partner, statistics_mode::round), no_bar));
+        QVERIFY(Statistics::rounds_in_stats(all_rounds_with(partner, statistics_mode::round), no_bar));
         QCOMPARE(stats_head(store.book.store, u"round_count"_s).toInt(), 2);
         QVERIFY(Statistics::fill_r_cost(all_rounds_with(partner, statistics_mode::cost), no_bar));
         QCOMPARE(store.keys_of_costs(), QString(key_of_day(1) + u' ' + key_of_day(3)));

@@ -83,7 +83,7 @@ private Q_SLOTS:
         const rounds_in_all_weathers store;
         const selection_arguments chosen = all_rounds_in(entry, statistics_mode::round);
         QCOMPARE(shots_in_detail(chosen), rounds);
-        QVERIFY(Statistics::fill_stats(chosen, no_bar_));
+        QVERIFY(Statistics::rounds_in_stats(chosen, no_bar_));
         QCOMPARE(stats_head(store.book.store, u"round_count"_s).toInt(), rounds);
         QCOMPARE(store.book.store.number(u"select count(*) from hand"_s), rounds);
     }
