@@ -217,7 +217,7 @@ int16 f_date_range::rounds_between() const
 
 void f_date_range::closeForm()
 {
-    f_date_range_func::close_form(*this);
+    f_date_range_func::unload_and_unlock(*this);
 }
 
 void f_date_range::unloading()

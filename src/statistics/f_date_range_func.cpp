@@ -77,10 +77,10 @@ void run_putt_statistics(f_date_range& window)
 void cancel(f_date_range& window)
 {
     Unlock_menu();
-    close_form(window);
+    unload_and_unlock(window);
 }
 
-void close_form(f_date_range& window)
+void unload_and_unlock(f_date_range& window)
 {
     window.unload();
     Unlock_menu();

@@ -23,7 +23,7 @@ void run_cost_statistics(f_date_range& window);
 void run_putt_statistics(f_date_range& window);
 
 void cancel(f_date_range& window);
-void close_form(f_date_range& window);
+void unload_and_unlock(f_date_range& window);
 void unload();
 
 }  // namespace verdane::f_date_range_func
