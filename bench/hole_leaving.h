@@ -15,6 +15,8 @@
 /// clicked, and the time until the result is measured.
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 constexpr int round_of_left_holes = 150;
 
 enum class hole_seen { filled_in, painted };
@@ -31,7 +33,7 @@ void leave_holes(benchmark::State& state, f_new_round& window, hole_seen end, Ch
         Form::paint_now();
     };
     // The first commit of a connection creates the log, once per start; it is not measured.
-    auto& holes = *window.findChild<TabStrip*>(QStringLiteral("TabStrip1"));
+    auto& holes = *window.findChild<TabStrip*>(u"TabStrip1"_s);
     int hole = 2;
     change_hole();
     holes.click(hole);

@@ -10,6 +10,8 @@
 
 namespace verdane::bench {
 
+using namespace Qt::StringLiterals;
+
 void open_tables_of_list()
 {
     Round_functions::open_rounds_in_time_order();
@@ -37,7 +39,7 @@ void on_detailed_page_of(const QString& key, const std::function<void(f_new_roun
 
 void click_tab_of_shots(f_new_round& window)
 {
-    window.findChild<TabStrip*>(QStringLiteral("TabStrip2"))->click(static_cast<int>(round_page::detailed));
+    window.findChild<TabStrip*>(u"TabStrip2"_s)->click(static_cast<int>(round_page::detailed));
 }
 
 }  // namespace verdane::bench

@@ -26,10 +26,11 @@ public:
 private:
     static std::size_t position(int index)
     {
+        using namespace Qt::StringLiterals;
         if (index < first_index || index > last_index)
             throw run_time_failure(
                 failure_kind::subscript,
-                QStringLiteral("index %1 is outside %2 to %3").arg(index).arg(first_index).arg(last_index));
+                u"index %1 is outside %2 to %3"_s.arg(index).arg(first_index).arg(last_index));
         return static_cast<std::size_t>(index - first_index);
     }
 

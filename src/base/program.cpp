@@ -6,7 +6,7 @@ namespace verdane {
 
 QString program_version()
 {
-    return QStringLiteral(VERDANE_VERSION);
+    return QString::fromUtf8(VERDANE_VERSION);
 }
 
 void let_oversized_writes_fail()

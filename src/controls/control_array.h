@@ -27,17 +27,19 @@ public:
     /// Adds a control and names it. Returns the control.
     Control* add(int index, Control* control)
     {
-        members_[index] = named(control, QStringLiteral("%1_%2").arg(name_).arg(index));
+        using namespace Qt::StringLiterals;
+        members_[index] = named(control, u"%1_%2"_s.arg(name_).arg(index));
         return control;
     }
 
     /// The member of that index; fails with `subscript` when there is none.
     Control& operator()(int index) const
     {
+        using namespace Qt::StringLiterals;
         const auto found = members_.find(index);
         if (found == members_.end())
             throw run_time_failure(failure_kind::subscript,
-                                   QStringLiteral("there is no control %1(%2)").arg(name_).arg(index));
+                                   u"there is no control %1(%2)"_s.arg(name_).arg(index));
         return *found->second;
     }
 

@@ -14,9 +14,9 @@ struct selection_arguments {
     QString to_key;
 
     /// Fragments of a WHERE clause, made by `clause_of`.
-    QString partner_clause = QStringLiteral(" ");
-    QString course_clause = QStringLiteral(" ");
-    QString weather_clause = QStringLiteral(" ");
+    QString partner_clause{u' '};
+    QString course_clause{u' '};
+    QString weather_clause{u' '};
 
     /// The filters as the report shows them.
     QString partner_text;

@@ -73,7 +73,7 @@ std::vector<QStringList> guide_page::table(const QString& name) const
 
 QString guide_folder()
 {
-    return QStringLiteral(VERDANE_GUIDE);
+    return QString::fromUtf8(VERDANE_GUIDE);
 }
 
 QStringList page_names(bool french)

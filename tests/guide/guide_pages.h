@@ -10,6 +10,8 @@
 /// The files of the guide, read from the build, which adds the pages that F1 opens.
 namespace verdane::testing {
 
+using namespace Qt::StringLiterals;
+
 struct page_element {
     QString tag;
     QXmlStreamAttributes attributes;
@@ -17,7 +19,7 @@ struct page_element {
     QString text;
 
     QString attribute(const QString& name) const { return attributes.value(name).toString(); }
-    bool has_class(const QString& name) const { return attribute(QStringLiteral("class")) == name; }
+    bool has_class(const QString& name) const { return attribute(u"class"_s) == name; }
 };
 
 /// A page of one language. The elements are in the order in which they begin.

@@ -40,7 +40,7 @@ void add_captions_of_windows(QSet<QString>& captions, bool french)
 void add_words_of_reports(QSet<QString>& captions, bool french)
 {
     static const QRegularExpression word_line(u"^\\w+ = (.+)$"_s, QRegularExpression::MultilineOption);
-    const QDir folder(QStringLiteral(VERDANE_TEMPLATES));
+    const QDir folder(QString::fromUtf8(VERDANE_TEMPLATES));
     for (const QString& name : folder.entryList({u"*.rpt"_s})) {
         if (name.endsWith(u"_en.rpt") == french)
             continue;
@@ -116,7 +116,7 @@ private Q_SLOTS:
     void every_quoted_file_of_a_report_exists()
     {
         QFETCH(bool, french);
-        const QDir folder(QStringLiteral(VERDANE_TEMPLATES));
+        const QDir folder(QString::fromUtf8(VERDANE_TEMPLATES));
         QStringList quoted;
         for (const page_element& file : read_page(french, u"templates.html"_s).with_class(u"file"_s)) {
             QVERIFY2(folder.exists(file.text), qPrintable(file.text));

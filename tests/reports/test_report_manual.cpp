@@ -48,7 +48,7 @@ std::map<QString, std::vector<line_change>> changes_of_manual()
     std::map<QString, std::vector<line_change>> changes;
     QString heading;
     bool is_inside = false;
-    for (const QString& line : text_of(QStringLiteral(VERDANE_REPORT_MANUAL)).split(u'\n')) {
+    for (const QString& line : text_of(QString::fromUtf8(VERDANE_REPORT_MANUAL)).split(u'\n')) {
         if (line.startsWith(u"### "_s))
             heading = line.sliced(4);
         if (line.startsWith(u"```"_s)) {

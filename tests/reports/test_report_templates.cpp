@@ -95,7 +95,7 @@ double ink_on(const QImage& page)
 
 QString kept_page(const QString& name, int page)
 {
-    return QStringLiteral(VERDANE_LOOKED_AT "/%1-%2.png").arg(name).arg(page + 1);
+    return QString::fromUtf8(VERDANE_LOOKED_AT "/%1-%2.png").arg(name).arg(page + 1);
 }
 
 }  // namespace
@@ -232,7 +232,7 @@ private Q_SLOTS:
             const QImage seen = picture_of(page == 0 ? *alone : *document, page);
             const QString path = kept_page(name, page);
             if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
-                QVERIFY(QDir().mkpath(QStringLiteral(VERDANE_LOOKED_AT)) && seen.save(path, nullptr, 0));
+                QVERIFY(QDir().mkpath(QString::fromUtf8(VERDANE_LOOKED_AT)) && seen.save(path, nullptr, 0));
             const QImage kept = QImage(path).convertToFormat(QImage::Format_RGB32);
             QVERIFY2(kept.size() == seen.size(), qPrintable(path));
             const double shades = largest_difference(seen, kept, seen.rect());

@@ -25,7 +25,7 @@ QString folder()
 /// The output of the script is that of the test; the server does not inherit it.
 void run_script(const QStringList& arguments)
 {
-    const int status = QProcess::execute(QStringLiteral(VERDANE_TOOLS "/test_server"), arguments);
+    const int status = QProcess::execute(QString::fromUtf8(VERDANE_TOOLS "/test_server"), arguments);
     if (status != 0)
         qFatal("tools/test_server %s ended with %d", qUtf8Printable(arguments.join(u' ')), status);
 }

@@ -34,7 +34,7 @@ scorecard read_line(const QString& line)
 
 std::vector<scorecard> read_file()
 {
-    QFile file(QStringLiteral(VERDANE_TEST_DATA "/courses.csv"));
+    QFile file(QString::fromUtf8(VERDANE_TEST_DATA "/courses.csv"));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         qFatal("the published scorecards cannot be read: %s", qUtf8Printable(file.fileName()));
     std::vector<scorecard> cards;

@@ -17,7 +17,7 @@ struct drawing_text {
     QString words;
     QPointF base;
     Qt::Alignment anchor = Qt::AlignLeft;
-    QStringList families{QStringLiteral("DejaVu Sans")};
+    QStringList families{QStringView(u"DejaVu Sans").toString()};
     double size = 12;
     bool bold = false;
     /// The width that it may take; 0 for any. A wider text gets a smaller font, down to `least_size`, and is

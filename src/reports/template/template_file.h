@@ -40,7 +40,7 @@ struct template_file {
     int margins_line = 1;
 
     /// The font of the page: the first of these families that the machine has, in points.
-    QStringList font_families{QStringLiteral("DejaVu Sans")};
+    QStringList font_families{QStringView(u"DejaVu Sans").toString()};
     double font_points = 9;
 
     QString title;
