@@ -7,6 +7,8 @@
 # - A library links only libraries that are declared before it.
 # - An include in src/ names its folder, and the folder is that of the file or of a library linked,
 #   directly or through another one.
+# - In the folders of `folders_without_cycles` the sources can be ordered so that each includes only those
+#   before it. A source is a *.cpp with its header.
 # - The diagram of docs/architecture.md has exactly these links.
 
 cmake_minimum_required(VERSION 3.25)
@@ -49,6 +51,42 @@ foreach(folder ${folders})
       endif()
     endforeach()
   endforeach()
+endforeach()
+
+set(folders_without_cycles base scoring records round)
+foreach(folder ${folders_without_cycles})
+  file(GLOB files RELATIVE ${SOURCES}/src ${SOURCES}/src/${folder}/*.h ${SOURCES}/src/${folder}/*.cpp)
+  set(sources)
+  foreach(file ${files})
+    string(REGEX REPLACE "\\.(h|cpp)$" "" source ${file})
+    list(APPEND sources ${source})
+    file(STRINGS ${SOURCES}/src/${file} includes REGEX "^#include \"${folder}/")
+    foreach(include ${includes})
+      string(REGEX REPLACE "^#include \"(.*)\\.h\".*" "\\1" included "${include}")
+      if(NOT included STREQUAL source)
+        list(APPEND includes_of_${source} ${included})
+      endif()
+    endforeach()
+  endforeach()
+  list(REMOVE_DUPLICATES sources)
+  # Removes the sources that include no other one, again and again. Those of a cycle are left.
+  set(removed yes)
+  while(removed)
+    set(removed)
+    foreach(source ${sources})
+      set(others ${includes_of_${source}})
+      list(REMOVE_ITEM others ${already_removed_${folder}} "")
+      if(NOT others)
+        list(APPEND removed ${source})
+      endif()
+    endforeach()
+    list(APPEND already_removed_${folder} ${removed})
+    list(REMOVE_ITEM sources ${removed} "")
+  endwhile()
+  if(sources)
+    list(JOIN sources " " names)
+    problem("these sources include each other, or one of such sources: ${names}")
+  endif()
 endforeach()
 
 file(READ ${SOURCES}/docs/architecture.md architecture)
