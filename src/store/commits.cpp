@@ -87,9 +87,8 @@ void joined_commits::finish()
 
 relaxed_commits::relaxed_commits(Connection1& connection) : connection_(connection)
 {
-    const QString& relax = statements_of(connection_).relax;
-    if (connection_.relaxations_ == 0 && !relax.isEmpty())
-        connection_.Execute(relax);
+    if (connection_.relaxations_ == 0)
+        connection_.Execute(statements_of(connection_).relax);
     ++connection_.relaxations_;
 }
 
@@ -97,9 +96,7 @@ relaxed_commits::~relaxed_commits()
 {
     if (--connection_.relaxations_ > 0 || !connection_.is_open())
         return;
-    const QString& restore = statements_of(connection_).restore;
-    if (!restore.isEmpty())
-        run(connection_, restore);
+    run(connection_, statements_of(connection_).restore);
 }
 
 }  // namespace verdane

@@ -52,6 +52,9 @@ private:
 /// hundreds of times; lost rows of these are computed again by the next run. After the last such scope
 /// commits are as safe as before, and the first of them also writes the earlier ones to the disk.
 ///
+/// A server cannot do so: it commits the statements together at the end of the outermost scope, and those of
+/// a transaction within it at the end of that.
+///
 /// Reports read committed rows, and a relaxed commit is one.
 ///
 /// The scope has to contain every transaction that begins in it: the engine does not change the setting

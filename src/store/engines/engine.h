@@ -29,9 +29,9 @@ struct commit_statements {
     QString begin_locked;
     QString finish;
     QString undo;
-    /// From now on a commit may return before it has reached the disk. Empty if the engine cannot do so.
+    /// From now on a commit may return before it has reached the disk, or may wait for `restore`.
     QString relax;
-    /// The opposite of `relax`.
+    /// The opposite of `relax`. Commits what has waited.
     QString restore;
 };
 

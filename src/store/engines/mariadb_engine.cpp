@@ -192,8 +192,10 @@ qint64 mariadb_engine::insert(const statement_with_values& statement, const QStr
 
 const commit_statements& mariadb_engine::commits() const
 {
+    // The server waits for its disk at each commit, so the statements are committed together at the end.
     static const commit_statements statements{
-        u"START TRANSACTION"_s, u"START TRANSACTION"_s, u"COMMIT"_s, u"ROLLBACK"_s, QString(), QString()};
+        u"START TRANSACTION"_s, u"START TRANSACTION"_s,  u"COMMIT"_s,
+        u"ROLLBACK"_s,          u"SET autocommit = 0"_s, u"SET autocommit = 1"_s};
     return statements;
 }
 
