@@ -13,7 +13,7 @@ constexpr int usual_least_plays = 3;
 constexpr std::size_t most_ranked = 5;
 
 /// The holes that were played, in order of course and hole. `mean_over` is a sum until all rounds are added.
-std::vector<season_hole> played_holes(const season_rounds& rounds)
+std::vector<season_hole> sums_of_holes(const season_rounds& rounds)
 {
     std::map<std::pair<QString, int>, season_hole> holes;
     for (const season_round& round : rounds)
@@ -69,7 +69,7 @@ std::vector<season_hole> taken_from_front(std::vector<season_hole>& holes, std::
 
 ranked_holes holes_of_season(const season_rounds& rounds)
 {
-    std::vector<season_hole> holes = played_holes(rounds);
+    std::vector<season_hole> holes = sums_of_holes(rounds);
     ranked_holes ranked;
     ranked.least_plays = least_plays_of(holes);
     holes.erase(std::remove_if(holes.begin(), holes.end(),
