@@ -2,8 +2,11 @@
 
 #include <QSqlQuery>
 
+#include <algorithm>
+
 #include "store/Connection1.h"
 #include "store/engines/engine.h"
+#include "store/row_insertion.h"
 #include "store/schema.h"
 #include "store/tables/golf_bag.h"
 
@@ -29,12 +32,6 @@ QString engine_type(column_type type)
         break;
     }
     return u"TEXT"_s;
-}
-
-/// The engines accept names between back quotes. Some of the columns are reserved words in one of them.
-QString in_back_quotes(const QString& name)
-{
-    return u'`' + name + u'`';
 }
 
 QString column_definition(const column& column)
@@ -91,24 +88,16 @@ QVariant value_of_fixed_row(const column& column, int row)
     return value_by_type(column.type);
 }
 
-statement_with_values insertion_statement(const store_engine& engine, const table& table, int row)
+void insert_fixed_rows(const Connection1& connection, const table& filled)
 {
-    statement_with_values statement;
-    statement.text = u"INSERT INTO " + in_back_quotes(table.name);
-    QStringView before = u" VALUES (";
-    for (const column& column : table.columns) {
-        statement.text += before;
-        engine.add_value(statement, value_of_fixed_row(column, row));
-        before = u", ";
+    row_insertion insertion(connection, filled);
+    std::vector<QVariant> values(filled.columns.size());
+    for (int row = 0; row < filled.fixed_rows; ++row) {
+        std::transform(filled.columns.begin(), filled.columns.end(), values.begin(),
+                       [row](const column& each) { return value_of_fixed_row(each, row); });
+        insertion.add(values);
     }
-    statement.text += u')';
-    return statement;
-}
-
-void insert_fixed_rows(store_engine& engine, const table& table)
-{
-    for (int row = 0; row < table.fixed_rows; ++row)
-        engine.insert(insertion_statement(engine, table, row), table.name);
+    insertion.finish();
 }
 
 /// No index is unique: the program itself checks that a key is used once, and the rows of a new round have no
@@ -137,7 +126,7 @@ void create_tables_and_indexes(Connection1& connection)
             connection.Execute(creation_statement(engine, table));
         else if (table.fixed_rows > 0)
             connection.Execute(u"DELETE FROM " + in_back_quotes(table.name));
-        insert_fixed_rows(engine, table);
+        insert_fixed_rows(connection, table);
     }
     if (engine.declares_indexes())
         return;
@@ -172,22 +161,15 @@ void create_tables(Connection1& connection)
 void renew_fixed_rows(Connection1& connection, const table& renewed)
 {
     connection.Execute(u"DELETE FROM " + in_back_quotes(renewed.name));
-    insert_fixed_rows(connection.engine(), renewed);
+    insert_fixed_rows(connection, renewed);
 }
 
 std::vector<index_creation> missing_indexes(const Connection1& connection)
 {
-    const QString question =
-        connection.engine().declares_indexes()
-            ? u"select distinct index_name from information_schema.statistics where table_schema = database()"_s
-            : u"select name from sqlite_master where type = 'index'"_s;
-    QStringList present;
-    const auto rows = connection.engine().select(question, question);
-    while (rows->next())
-        present << rows->value(0).toString().toLower();
+    const QStringList present = connection.engine().index_names();
     std::vector<index_creation> missing;
     for (const index_creation& index : all_indexes()) {
-        if (!present.contains(index.name.toLower()))
+        if (!present.contains(index.name, Qt::CaseInsensitive))
             missing.push_back(index);
     }
     return missing;

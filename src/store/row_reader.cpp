@@ -129,11 +129,6 @@ bool can_read_first(const select_statement& shape, const QString& identity)
     return shape.all_columns && !identity.isEmpty() && find_table(shape.table) != nullptr;
 }
 
-QString in_back_quotes(const QString& name)
-{
-    return u'`' + name + u'`';
-}
-
 /// Takes the cells of a row that was read completely.
 void take_cells(recordset_row& row, recordset_row& read, const row_set& set, const QString& where)
 {

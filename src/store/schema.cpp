@@ -103,4 +103,17 @@ const table* find_table(QStringView name)
     return found == all.end() ? nullptr : &*found;
 }
 
+QString in_back_quotes(const QString& name)
+{
+    return u'`' + name + u'`';
+}
+
+QString columns_of(const table& listed)
+{
+    QStringList names;
+    for (const column& each : listed.columns)
+        names += in_back_quotes(each.name);
+    return names.join(u',');
+}
+
 }  // namespace verdane

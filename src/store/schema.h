@@ -40,4 +40,10 @@ const std::vector<table>& schema();
 /// The table of that name, in any case; null if the store has none.
 const table* find_table(QStringView name);
 
+/// A name as it is written in statements. Some of the columns are reserved words in one of the engines.
+QString in_back_quotes(const QString& name);
+
+/// The columns of a table as they are listed in statements.
+QString columns_of(const table& listed);
+
 }  // namespace verdane

@@ -35,6 +35,11 @@ QString store_engine::table_ending(const table&) const
     return QStringLiteral(")");
 }
 
+QStringList store_engine::index_names() const
+{
+    return first_values(QStringLiteral("select name from sqlite_master where type = 'index'"));
+}
+
 QString store_engine::select_with_identity(const QString& statement, const select_statement& shape,
                                            const QString& identity) const
 {
@@ -82,6 +87,15 @@ QString store_engine::first_value(const QString& question) const
     if (!query.exec(question) || !query.next())
         throw failure(query.lastError(), question);
     return query.value(0).toString();
+}
+
+QStringList store_engine::first_values(const QString& question) const
+{
+    QStringList values;
+    const auto rows = select(question, question);
+    while (rows->next())
+        values << rows->value(0).toString();
+    return values;
 }
 
 std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,

@@ -106,6 +106,9 @@ public:
     virtual QString table_ending(const table& declared) const;
     virtual bool declares_indexes() const { return false; }
 
+    /// The names of all indexes of the store. Fails like `select`.
+    virtual QStringList index_names() const;
+
     /// True for a table that an interrupted creation of the tables has left. Its fixed rows may be
     /// incomplete.
     virtual bool was_created_before(QStringView) const { return false; }
@@ -127,6 +130,8 @@ protected:
     void run(const QString& statement) const;
     /// The first value of the first row. Fails like `change`, and if there is no row.
     QString first_value(const QString& question) const;
+    /// The first values of all rows. Fails like `select`.
+    QStringList first_values(const QString& question) const;
 
     const QString name_;
     const store_location where_;

@@ -204,6 +204,12 @@ QString mariadb_engine::table_ending(const table& declared) const
     return mariadb_tables::ending(declared);
 }
 
+QStringList mariadb_engine::index_names() const
+{
+    return first_values(
+        u"select distinct index_name from information_schema.statistics where table_schema = database()"_s);
+}
+
 run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& where) const
 {
     const int code = native_code(error);

@@ -26,6 +26,7 @@ public:
     const commit_statements& commits() const override;
     QString table_ending(const table& declared) const override;
     bool declares_indexes() const override { return true; }
+    QStringList index_names() const override;
     bool was_created_before(QStringView table) const override;
     run_time_failure failure(const QSqlError& error, const QString& where) const override;
     void tables_created() override;

@@ -1,13 +1,12 @@
 #include "store/recovery/diary_copy.h"
 
-#include <QStringList>
-
 #include <algorithm>
 #include <cmath>
 #include <memory>
 
 #include "store/commits.h"
 #include "store/engines/engine.h"
+#include "store/row_insertion.h"
 #include "store/schema.h"
 
 namespace verdane {
@@ -15,19 +14,6 @@ namespace verdane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString in_back_quotes(const QString& name)
-{
-    return u'`' + name + u'`';
-}
-
-QString columns_of(const table& copied)
-{
-    QStringList names;
-    for (const column& each : copied.columns)
-        names += in_back_quotes(each.name);
-    return names.join(u',');
-}
 
 std::unique_ptr<result_rows> rows_of(const Connection1& store, const table& copied)
 {
@@ -44,65 +30,16 @@ int number_of_rows(const Connection1& store, const table& counted)
     return rows->next() ? rows->value(0).toInt() : 0;
 }
 
-/// Collects rows and inserts them in their order, many by one statement: a server takes as long for each
-/// statement as for many rows.
-class row_insertion {
-public:
-    row_insertion(const Connection1& to, const table& filled)
-        : to_(to),
-          filled_(filled),
-          columns_(static_cast<int>(filled.columns.size())),
-          most_rows_(std::max(1, most_values / columns_))
-    {
-    }
-
-    void add(const result_rows& row)
-    {
-        statement_.text += rows_ == 0 ? start() : u",("_s;
-        QStringView before;
-        for (int column = 0; column < columns_; ++column) {
-            statement_.text += before;
-            to_.engine().add_value(statement_, row.value(column));
-            before = u",";
-        }
-        statement_.text += u')';
-        if (++rows_ == most_rows_)
-            finish();
-    }
-
-    /// Inserts the rows that remain.
-    void finish()
-    {
-        if (rows_ > 0)
-            to_.engine().change(statement_, filled_.name);
-        statement_ = {};
-        rows_ = 0;
-    }
-
-private:
-    QString start() const
-    {
-        return u"INSERT INTO " + in_back_quotes(filled_.name) + u" (" + columns_of(filled_) + u") VALUES (";
-    }
-
-    /// Far below the number of parameters that an engine allows, and the size of a statement that a server
-    /// allows.
-    static constexpr int most_values = 4000;
-
-    const Connection1& to_;
-    const table& filled_;
-    const int columns_;
-    const int most_rows_;
-    statement_with_values statement_;
-    int rows_ = 0;
-};
-
 void copy_rows(const Connection1& from, Connection1& to, const table& copied)
 {
     row_insertion insertion(to, copied);
     const auto rows = rows_of(from, copied);
-    while (rows->next())
-        insertion.add(*rows);
+    std::vector<QVariant> values(copied.columns.size());
+    while (rows->next()) {
+        for (std::size_t column = 0; column < values.size(); ++column)
+            values[column] = rows->value(static_cast<int>(column));
+        insertion.add(values);
+    }
     insertion.finish();
 }
 

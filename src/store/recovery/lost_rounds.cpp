@@ -10,15 +10,21 @@
 #include "scoring/limits.h"
 #include "scoring/words.h"
 #include "store/Connection1.h"
-#include "store/engines/engine.h"
 #include "store/recovery/diary_rules.h"
 #include "store/recovery/diary_snapshot.h"
+#include "store/row_insertion.h"
+#include "store/tables/cost.h"
+#include "store/tables/games.h"
+#include "store/tables/games2.h"
 
 namespace verdane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+namespace games = tables::games;
+namespace games2 = tables::games2;
 
 /// The shots of a round by hole.
 using round_shots = std::map<int, shot_list>;
@@ -72,63 +78,49 @@ std::vector<course_of_shots> courses_of(const diary_snapshot& diary, const QStri
     return courses;
 }
 
-/// A statement that inserts one row.
-class insertion {
+/// A new row of a table of the store.
+class row_of_round {
 public:
-    explicit insertion(QString table) : table_(std::move(table)) {}
-
-    void set(const QString& column, const QVariant& value)
+    explicit row_of_round(const tables::table_declaration& declaration)
+        : table_(*find_table(declaration.name)), values_(new_row(table_))
     {
-        columns_ << u'`' + column + u'`';
-        values_.push_back(value);
     }
-    void set(const QString& column, int16 value) { set(column, QVariant(plain(value))); }
 
-    void run(Connection1& store) const
+    void set(int ordinal, const QString& value) { values_.at(static_cast<std::size_t>(ordinal)) = value; }
+    void set(int ordinal, int16 value) { values_.at(static_cast<std::size_t>(ordinal)) = plain(value); }
+
+    void insert_into(const Connection1& store) const
     {
-        statement_with_values statement;
-        statement.text = u"INSERT INTO `%1` (%2) VALUES "_s.arg(table_, columns_.join(u','));
-        QStringView before = u"(";
-        for (const QVariant& value : values_) {
-            statement.text += before;
-            store.engine().add_value(statement, value);
-            before = u",";
-        }
-        statement.text += u')';
-        store.engine().change(statement, table_);
+        row_insertion insertion(store, table_);
+        insertion.add(values_);
+        insertion.finish();
     }
 
 private:
-    QString table_;
-    QStringList columns_;
+    const table& table_;
     std::vector<QVariant> values_;
 };
 
-QString column_of(QStringView prefix, int hole)
+void set_strokes(row_of_round& row, int hole, const hole_summary& counted)
 {
-    return prefix.toString() + QString::number(hole);
+    row.set(games::long_h(hole), counted.kinds[long_shot].sum);
+    row.set(games::approach_h(hole), counted.kinds[approach_shot].sum);
+    row.set(games::putt_h(hole), counted.kinds[putt].sum);
+    row.set(games::pen_water_h(hole), counted.penalties[water_hazard].sum);
+    row.set(games::pen_lost_h(hole), counted.penalties[lost_ball].sum);
+    row.set(games::pen_rule_h(hole), counted.penalties[against_the_rules].sum);
+    row.set(games::pen_bounds_h(hole), counted.penalties[out_of_bounds].sum);
+    row.set(games::missed_h(hole), counted.missed);
 }
 
-void set_strokes(insertion& games, int hole, const hole_summary& counted)
+void set_situation(row_of_round& row, int hole, const hole_summary& counted)
 {
-    games.set(column_of(u"long_", hole), counted.kinds[long_shot].sum);
-    games.set(column_of(u"approach_", hole), counted.kinds[approach_shot].sum);
-    games.set(column_of(u"putt_", hole), counted.kinds[putt].sum);
-    games.set(column_of(u"pen_water_", hole), counted.penalties[water_hazard].sum);
-    games.set(column_of(u"pen_lost_", hole), counted.penalties[lost_ball].sum);
-    games.set(column_of(u"pen_rule_", hole), counted.penalties[against_the_rules].sum);
-    games.set(column_of(u"pen_bounds_", hole), counted.penalties[out_of_bounds].sum);
-    games.set(column_of(u"missed_", hole), counted.missed);
-}
-
-void set_situation(insertion& games2, int hole, const hole_summary& counted)
-{
-    games2.set(column_of(u"sand_", hole), counted.sand);
-    games2.set(column_of(u"recovery_", hole), counted.recovery);
-    games2.set(column_of(u"fairway_", hole), counted.fairway);
+    row.set(games2::sand_h(hole), counted.sand);
+    row.set(games2::recovery_h(hole), counted.recovery);
+    row.set(games2::fairway_h(hole), counted.fairway);
     int number = 0;
     for (const int16 length : counted.putt_lengths)
-        games2.set(column_of(u"putt_len_", hole) + u'_' + QString::number(++number), length);
+        row.set(games2::putt_len(hole, ++number), length);
 }
 
 bool has_row(const diary_snapshot& diary, const QString& table, const QString& key)
@@ -140,27 +132,26 @@ bool has_row(const diary_snapshot& diary, const QString& table, const QString& k
 void make_round(Connection1& store, const diary_snapshot& diary, const QString& key, const round_shots& shots,
                 const course_of_shots& course)
 {
-    insertion games(u"games"_s);
-    games.set(u"date"_s, QVariant(key));
-    games.set(u"field"_s, QVariant(course.name));
-    games.set(u"CODEF"_s, QVariant(course.code));
-    insertion games2(u"games2"_s);
-    games2.set(u"date"_s, QVariant(key));
-    games2.set(u"conditionM"_s, int16(0));
-    games2.set(u"FC"_s, QVariant(course.code));
+    row_of_round strokes(games::table);
+    strokes.set(games::date, key);
+    strokes.set(games::field, course.name);
+    strokes.set(games::CODEF, course.code);
+    row_of_round situation(games2::table);
+    situation.set(games2::date, key);
+    situation.set(games2::FC, course.code);
     for (const auto& [hole, rows] : shots) {
         shot_list summarised = rows;
         const hole_summary counted = summarise(summarised);
-        set_strokes(games, hole, counted);
-        set_situation(games2, hole, counted);
+        set_strokes(strokes, hole, counted);
+        set_situation(situation, hole, counted);
     }
-    games.run(store);
+    strokes.insert_into(store);
     if (!has_row(diary, u"games2"_s, key))
-        games2.run(store);
-    insertion cost(u"cost"_s);
-    cost.set(u"date"_s, QVariant(key));
+        situation.insert_into(store);
+    row_of_round costs(tables::cost::table);
+    costs.set(tables::cost::date, key);
     if (!has_row(diary, u"cost"_s, key))
-        cost.run(store);
+        costs.insert_into(store);
 }
 
 /// Why no round can be made; empty if one can.
