@@ -9,6 +9,7 @@
 #   directly or through another one.
 # - In the folders of `folders_without_cycles` the sources can be ordered so that each includes only those
 #   before it. A source is a *.cpp with its header.
+# - The engines of the store are included by the store only.
 # - The diagram of docs/architecture.md has exactly these links.
 
 cmake_minimum_required(VERSION 3.25)
@@ -48,6 +49,9 @@ foreach(folder ${folders})
       string(REGEX REPLACE "^#include \"([^/\"]*).*" "\\1" target "${include}")
       if(NOT target IN_LIST reachable_${folder})
         problem("${file}: ${include}")
+      endif()
+      if(include MATCHES "^#include \"store/engines/" AND NOT folder STREQUAL store)
+        problem("${file}: ${include}, which only the store may include")
       endif()
     endforeach()
   endforeach()

@@ -8,6 +8,7 @@
 #include "store/DataEnvironment1.h"
 #include "store/engines/attached_copy.h"
 #include "store/engines/engine.h"
+#include "store/engines/sqlite.h"
 #include "store/schema.h"
 
 namespace verdane {
@@ -125,6 +126,11 @@ void copy_tables(const store_location& store, const copied_tables& tables, QSqlD
     own.waiting().set_notice_maker(notice);
     own.Open(store);
     copy_from(own, tables, target);
+}
+
+sqlite3* handle_of_copy(const QSqlDatabase& target)
+{
+    return engine_handle(target);
 }
 
 }  // namespace verdane

@@ -6,6 +6,8 @@
 #include "store/lock_wait.h"
 #include "store/store_location.h"
 
+struct sqlite3;
+
 /// The committed rows of some tables, copied into memory.
 namespace verdane {
 
@@ -26,5 +28,9 @@ struct copied_tables {
 /// gives up waiting, for which `notice` is shown.
 void copy_tables(const store_location& store, const copied_tables& tables, QSqlDatabase& target,
                  const lock_notice_maker& notice);
+
+/// The engine's handle of such a database, for limits on the queries that read it. Fails with
+/// `store_unreachable` if the database is of another kind.
+sqlite3* handle_of_copy(const QSqlDatabase& target);
 
 }  // namespace verdane

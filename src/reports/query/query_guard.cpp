@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "reports/query/report_tables.h"
-#include "store/engines/sqlite.h"
+#include "store/table_copy.h"
 
 namespace verdane {
 
@@ -110,7 +110,7 @@ void limit_trim(sqlite3* connection)
 }  // namespace
 
 query_guard::query_guard(const QSqlDatabase& database, continue_check may_continue)
-    : connection_(engine_handle(database)), may_continue_(std::move(may_continue))
+    : connection_(handle_of_copy(database)), may_continue_(std::move(may_continue))
 {
     sqlite3_set_authorizer(connection_, authorize, this);
     sqlite3_progress_handler(connection_, steps_between_checks, interrupt, this);

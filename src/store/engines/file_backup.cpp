@@ -6,6 +6,8 @@
 
 #include <sqlite3.h>
 
+#include <memory>
+
 #include "store/engines/sqlite.h"
 #include "store/store_files.h"
 
@@ -16,29 +18,36 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int lock_time_out_ms = 5000;
+/// How long the check of sole use waits.
+constexpr int use_time_out_ms = 1000;
+
+struct closing {
+    void operator()(sqlite3* file) const { sqlite3_close(file); }
+};
 
 /// A file that is open in SQLite. The database classes of Qt have no backup.
 class open_file {
 public:
     open_file(const QString& address, int flags) : address_(address)
     {
-        need(sqlite3_open_v2(address.toUtf8().constData(), &handle_, flags | SQLITE_OPEN_URI, nullptr));
-        sqlite3_busy_timeout(handle_, lock_time_out_ms);
+        sqlite3* opened = nullptr;
+        const int result =
+            sqlite3_open_v2(address.toUtf8().constData(), &opened, flags | SQLITE_OPEN_URI, nullptr);
+        file_.reset(opened);
+        need(result);
+        sqlite3_busy_timeout(opened, lock_time_out_ms);
     }
-    ~open_file() { sqlite3_close(handle_); }
-    open_file(const open_file&) = delete;
-    open_file& operator=(const open_file&) = delete;
 
-    sqlite3* handle() const { return handle_; }
+    sqlite3* handle() const { return file_.get(); }
 
     /// Fails unless the result of a call on this file is that of a success.
     void need(int result, int success = SQLITE_OK) const
     {
         if (result != success)
             throw store_failure({{},
-                                 QString::fromUtf8(sqlite3_errmsg(handle_)),
+                                 QString::fromUtf8(sqlite3_errmsg(handle())),
                                  QSqlError::StatementError,
-                                 QString::number(sqlite3_extended_errcode(handle_))},
+                                 QString::number(sqlite3_extended_errcode(handle()))},
                                 address_);
     }
 
@@ -46,7 +55,7 @@ public:
     QString first_value(const char* statement) const
     {
         sqlite3_stmt* prepared = nullptr;
-        need(sqlite3_prepare_v2(handle_, statement, -1, &prepared, nullptr));
+        need(sqlite3_prepare_v2(handle(), statement, -1, &prepared, nullptr));
         const int result = sqlite3_step(prepared);
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(prepared, 0));
         const QString value = result == SQLITE_ROW ? QString::fromUtf8(text) : QString();
@@ -57,7 +66,7 @@ public:
 
 private:
     QString address_;
-    sqlite3* handle_ = nullptr;
+    std::unique_ptr<sqlite3, closing> file_;
 };
 
 QString address_of(const QString& path)
@@ -90,6 +99,25 @@ void check_copy(const QString& path)
     const QString verdict = copy.first_value("PRAGMA integrity_check(1)");
     if (verdict != u"ok")
         throw run_time_failure(failure_kind::store_damaged, QString(path + u": " + verdict));
+}
+
+void need_sole_use(const QString& path)
+{
+    sqlite3* opened = nullptr;
+    const int result = sqlite3_open_v2(path.toUtf8().constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
+    const std::unique_ptr<sqlite3, closing> file(opened);
+    if (result != SQLITE_OK)
+        return;
+    // The log of a damaged file stays.
+    sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    sqlite3_busy_timeout(opened, use_time_out_ms);
+    // In this mode the engine locks the whole file, which it refuses while another connection is open with a
+    // write-ahead log, even if that connection neither reads nor writes.
+    const int locked =
+        sqlite3_exec(opened, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    if (locked == SQLITE_BUSY)
+        throw run_time_failure(failure_kind::store_locked,
+                               QString(path + u": " + QString::fromUtf8(sqlite3_errmsg(opened))));
 }
 
 }  // namespace verdane

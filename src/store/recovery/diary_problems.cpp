@@ -9,6 +9,7 @@
 #include "store/fresh_store.h"
 #include "store/recovery/diary_rules.h"
 #include "store/recovery/diary_snapshot.h"
+#include "store/recovery/shot_rules.h"
 #include "store/schema.h"
 
 namespace verdane {

@@ -26,7 +26,4 @@ struct diary_rule {
 /// All conditions, in the order in which a diary is repaired.
 const std::vector<diary_rule>& diary_rules();
 
-/// The condition that every shot has its round. A round can be made of shots that have none.
-const diary_rule& rule_of_lost_shots();
-
 }  // namespace verdane
