@@ -71,6 +71,7 @@ const std::map<QString, int>& limits()
         {u"most_courses"_s, most_courses},
         {u"feet_in_a_yard"_s, feet_in_a_yard},
         {u"days_with_every_copy"_s, days_with_every_copy},
+        {u"newest_copies_kept"_s, newest_copies_kept},
     };
     return all;
 }

@@ -74,49 +74,60 @@ private Q_SLOTS:
     void days_to_remove_are_those_before_the_last_thirty_except_the_last_of_a_month_data()
     {
         QTest::addColumn<days>("present");
-        QTest::addColumn<QDate>("today");
-        QTest::addColumn<days>("kept");
-        QTest::newRow("no copy") << days{} << QDate(2026, 6, 14) << days{};
-        QTest::newRow("only today") << days{{2026, 6, 14}} << QDate(2026, 6, 14) << days{{2026, 6, 14}};
-        QTest::newRow("thirty days in two months")
-            << every_day({2026, 5, 16}, {2026, 6, 14}) << QDate(2026, 6, 14)
-            << every_day({2026, 5, 16}, {2026, 6, 14});
-        QTest::newRow("the thirty-first day, after the end of a month")
-            << every_day({2026, 5, 31}, {2026, 6, 30}) << QDate(2026, 6, 30)
-            << every_day({2026, 5, 31}, {2026, 6, 30});
-        QTest::newRow("the thirty-first day, in a month")
-            << every_day({2026, 5, 15}, {2026, 6, 14}) << QDate(2026, 6, 14)
-            << every_day({2026, 5, 16}, {2026, 6, 14});
-        QTest::newRow("a month ends between two copies")
-            << days{{2026, 1, 30}, {2026, 1, 31}, {2026, 2, 1}} << QDate(2026, 3, 3)
-            << days{{2026, 1, 31}, {2026, 2, 1}};
-        QTest::newRow("a short February")
-            << every_day({2026, 2, 1}, {2026, 3, 31}) << QDate(2026, 3, 31) << [] {
-                   days kept{{2026, 2, 28}};
-                   for (const QDate day : every_day({2026, 3, 2}, {2026, 3, 31}))
-                       kept.push_back(day);
-                   return kept;
-               }();
-        QTest::newRow("the last copy of a month is not that of its last day")
-            << days{{2026, 1, 3}, {2026, 1, 17}, {2026, 2, 2}, {2026, 6, 14}} << QDate(2026, 6, 14)
-            << days{{2026, 1, 17}, {2026, 2, 2}, {2026, 6, 14}};
-        QTest::newRow("the same month of two years")
-            << days{{2025, 1, 3}, {2026, 1, 2}, {2026, 6, 14}} << QDate(2026, 6, 14)
-            << days{{2025, 1, 3}, {2026, 1, 2}, {2026, 6, 14}};
-        QTest::newRow("the turn of a year") << days{{2025, 12, 30}, {2025, 12, 31}, {2026, 1, 1}}
-                                            << QDate(2026, 2, 14) << days{{2025, 12, 31}, {2026, 1, 1}};
-        QTest::newRow("in another order") << days{{2026, 6, 14}, {2026, 1, 17}, {2026, 1, 3}}
-                                          << QDate(2026, 6, 14) << days{{2026, 6, 14}, {2026, 1, 17}};
-        QTest::newRow("days after today")
-            << days{{2026, 6, 14}, {2027, 1, 1}, {2027, 1, 2}} << QDate(2026, 6, 14)
-            << days{{2026, 6, 14}, {2027, 1, 1}, {2027, 1, 2}};
+        QTest::addColumn<days>("removed");
+        const auto row = [](const char* name, const days& older, const days& removed) {
+            QTest::newRow(name) << older << removed;
+        };
+        row("no older copy", {}, {});
+        row("the thirty-first day, in a month", {{2026, 5, 15}}, {{2026, 5, 15}});
+        row("the first day of that month", {{2026, 5, 1}}, {{2026, 5, 1}});
+        row("the month before", {{2026, 4, 29}, {2026, 4, 30}}, {{2026, 4, 29}});
+        row("a month ends between two copies", {{2026, 1, 30}, {2026, 1, 31}, {2026, 2, 1}}, {{2026, 1, 30}});
+        row("a short February", every_day({2026, 2, 1}, {2026, 3, 1}),
+            every_day({2026, 2, 1}, {2026, 2, 27}));
+        row("the last copy of a month is not that of its last day",
+            {{2026, 1, 3}, {2026, 1, 17}, {2026, 2, 2}}, {{2026, 1, 3}});
+        row("the same month of two years", {{2025, 1, 3}, {2026, 1, 2}}, {});
+        row("the turn of a year", {{2025, 12, 30}, {2025, 12, 31}, {2026, 1, 1}}, {{2025, 12, 30}});
+        row("in another order", {{2026, 2, 2}, {2026, 1, 17}, {2026, 1, 3}}, {{2026, 1, 3}});
     }
     void days_to_remove_are_those_before_the_last_thirty_except_the_last_of_a_month()
     {
         QFETCH(days, present);
+        QFETCH(days, removed);
+        for (const QDate day : every_day({2026, 5, 16}, {2026, 6, 14}))
+            present.insert(present.begin(), day);
+        QCOMPARE(names_of(days_to_remove(present, {2026, 6, 14})), names_of(removed));
+    }
+
+    void the_thirty_newest_copies_are_kept_whatever_the_clock_shows_data()
+    {
+        QTest::addColumn<QDate>("today");
+        QTest::addColumn<days>("present");
+        QTest::addColumn<days>("removed");
+        const days thirty = every_day({2026, 5, 16}, {2026, 6, 14});
+        const days thirty_two = every_day({2026, 5, 14}, {2026, 6, 14});
+        const days two{{2026, 5, 14}, {2026, 5, 15}};
+        QTest::newRow("on time") << QDate(2026, 6, 14) << thirty << days();
+        QTest::newRow("a year late") << QDate(2025, 6, 14) << thirty_two << days();
+        QTest::newRow("a year early") << QDate(2027, 6, 14) << thirty << days();
+        QTest::newRow("a year early, with older copies") << QDate(2027, 6, 14) << thirty_two << two;
+        QTest::newRow("on time, with older copies") << QDate(2026, 6, 14) << thirty_two << two;
+        QTest::newRow("fewer copies") << QDate(2027, 6, 14) << two << days();
+    }
+    void the_thirty_newest_copies_are_kept_whatever_the_clock_shows()
+    {
         QFETCH(QDate, today);
-        QFETCH(days, kept);
-        QCOMPARE(names_of(without(present, days_to_remove(present, today))), names_of(kept));
+        QFETCH(days, present);
+        QFETCH(days, removed);
+        QCOMPARE(names_of(days_to_remove(present, today)), names_of(removed));
+    }
+
+    void copies_of_the_last_thirty_days_and_after_today_are_kept_if_there_are_more()
+    {
+        const days present = every_day({2026, 5, 16}, {2026, 7, 20});
+        QCOMPARE(names_of(days_to_remove(present, {2026, 6, 14})), QString());
+        QCOMPARE(names_of(days_to_remove(present, {2026, 6, 15})), u"2026-05-16"_s);
     }
 
     void a_copy_each_day_leaves_thirty_days_and_one_copy_for_each_month_before()

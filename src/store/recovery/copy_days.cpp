@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <iterator>
 
 namespace verdane {
 
@@ -51,9 +52,10 @@ std::vector<QDate> days_of_copies(const QString& store)
 std::vector<QDate> days_to_remove(std::vector<QDate> days, QDate today)
 {
     std::sort(days.begin(), days.end());
+    const auto newest = days.end() - std::min<std::ptrdiff_t>(newest_copies_kept, std::ssize(days));
     std::vector<QDate> removed;
-    for (auto day = days.begin(); day != days.end() && day->daysTo(today) >= days_with_every_copy; ++day) {
-        if (day + 1 != days.end() && is_in_month_of(*day, *(day + 1)))
+    for (auto day = days.begin(); day != newest && day->daysTo(today) >= days_with_every_copy; ++day) {
+        if (is_in_month_of(*day, *(day + 1)))
             removed.push_back(*day);
     }
     return removed;
