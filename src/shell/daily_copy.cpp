@@ -1,10 +1,6 @@
 #include "shell/daily_copy.h"
 
-#include <QDate>
-
-#include <utility>
-
-#include "store/recovery/dated_copies.h"
+#include <exception>
 
 namespace verdane {
 
@@ -19,16 +15,21 @@ void daily_copy::start(const store_location& store, failure_report report)
     if (store.where != store_location::place::file || thread_)
         return;
     receiver_ = std::make_unique<QObject>();
-    const auto write = [path = store.name, day = QDate::currentDate(), receiver = receiver_.get(),
-                        report = std::move(report)] {
-        try {
-            write_dated_copy(path, day);
-        } catch (const run_time_failure& failure) {
-            QMetaObject::invokeMethod(
-                receiver, [failure, report] { report(failure); }, Qt::QueuedConnection);
-        }
+    const auto pass_on = [receiver = receiver_.get(),
+                          report = std::move(report)](const run_time_failure& failure) {
+        QMetaObject::invokeMethod(
+            receiver, [failure, report] { report(failure); }, Qt::QueuedConnection);
     };
-    thread_.reset(QThread::create(write));
+    // An exception that left the thread would end the program.
+    thread_.reset(QThread::create([write = write_, path = store.name, day = QDate::currentDate(), pass_on] {
+        try {
+            write(path, day);
+        } catch (const run_time_failure& failure) {
+            pass_on(failure);
+        } catch (const std::exception& failure) {
+            pass_on({failure_kind::store_other, QString::fromUtf8(failure.what())});
+        }
+    }));
     thread_->start();
 }
 

@@ -3,6 +3,10 @@
 #include <QLabel>
 #include <QTest>
 
+#include <new>
+#include <system_error>
+#include <vector>
+
 #include "shell/daily_copy.h"
 #include "shell/MainForm.h"
 #include "shell/start_up.h"
@@ -76,6 +80,40 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(failures, 0);
         QVERIFY(!QFile::exists(folder_of_copies(program_run::store_path())));
+    }
+
+    void every_exception_of_the_copy_is_reported_data()
+    {
+        QTest::addColumn<daily_copy::copy_writer>("write");
+        QTest::addColumn<failure_kind>("kind");
+        const auto row = [](const char* name, const daily_copy::copy_writer& write, failure_kind kind) {
+            QTest::newRow(name) << write << kind;
+        };
+        row(
+            "a failure of the store",
+            [](const QString&, QDate) -> bool { throw run_time_failure(failure_kind::store_full, u"x"_s); },
+            failure_kind::store_full);
+        row(
+            "no memory", [](const QString&, QDate) -> bool { throw std::bad_alloc(); },
+            failure_kind::store_other);
+        row(
+            "an error of the system",
+            [](const QString&, QDate) -> bool {
+                throw std::system_error(std::make_error_code(std::errc::io_error));
+            },
+            failure_kind::store_other);
+    }
+    void every_exception_of_the_copy_is_reported()
+    {
+        QFETCH(daily_copy::copy_writer, write);
+        QFETCH(failure_kind, kind);
+        std::vector<run_time_failure> failures;
+        daily_copy copy(write);
+        copy.start(store_location::file(u"none"_s),
+                   [&](const run_time_failure& failure) { failures.push_back(failure); });
+        QTRY_COMPARE(failures.size(), std::size_t(1));
+        QCOMPARE(failures[0].kind(), kind);
+        QVERIFY(!failures[0].details().isEmpty());
     }
 
     void a_copy_that_fails_is_reported_in_one_line_and_blocks_nothing_data() { both_stored_languages(); }
