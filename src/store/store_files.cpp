@@ -113,6 +113,14 @@ void check_store_files(const QString& path)
         check_head(file, path);
 }
 
+void check_file_of_copy(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::ExistingOnly))
+        throw run_time_failure(failure_kind::store_unreachable, QString(path + u": " + file.errorString()));
+    check_head(file, path);
+}
+
 void remove_store_files(const QString& path)
 {
     // The file last: a log without its file means that the file of a store was lost.

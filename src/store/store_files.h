@@ -10,6 +10,9 @@ namespace verdane {
 /// Fails with `store_damaged`, `store_read_only` or `store_unreachable`.
 void check_store_files(const QString& path);
 
+/// Checks the file of a copy in the same way. It is only read, so it may be read-only.
+void check_file_of_copy(const QString& path);
+
 /// Removes the file of a store that could not be created, and the engine's other files.
 void remove_store_files(const QString& path);
 

@@ -62,6 +62,16 @@ void set_mode(const QString& path, mode_t mode)
         qFatal("cannot change the permissions");
 }
 
+/// Every user can write the store and its folders.
+void open_to_everyone(const store_fixture& store)
+{
+    const QString folder = folder_of_copies(store.path());
+    set_mode(folder, 0777);
+    set_mode(QFileInfo(folder).absolutePath(), 0777);
+    set_mode(QFileInfo(QFileInfo(folder).absolutePath()).absolutePath(), 0755);
+    set_mode(store.path(), 0666);
+}
+
 void sizes_of_files()
 {
     QTest::addColumn<int>("bytes");
@@ -143,13 +153,37 @@ private Q_SLOTS:
     {
         store_fixture store;
         const QString folder = folder_of_copies(store.path());
-        for (const QString& name : {u"Verdbase-2026-01-03.db"_s, u"Verdbase-2026-01-17.db"_s,
-                                    u"Verdbase-2026-06-01.db"_s, u"notes.txt"_s, u"Music-2026-01-03.db"_s})
+        for (const QString& name : {u"Verdbase-2026-01-03.db"_s, u"Verdbase-2026-01-17.db"_s, u"notes.txt"_s,
+                                    u"Music-2026-01-03.db"_s})
             put(folder + u'/' + name, "content");
+        for (int day = 1; day < newest_copies_kept; ++day)
+            put(path_of_copy(store.path(), today.addDays(-day)), "content");
+        const QStringList before = files_of_copies(store);
         write_dated_copy(store.path(), today);
-        QCOMPARE(files_of_copies(store),
-                 QStringList({u"Music-2026-01-03.db"_s, u"Verdbase-2026-01-17.db"_s,
-                              u"Verdbase-2026-06-01.db"_s, u"Verdbase-2026-06-14.db"_s, u"notes.txt"_s}));
+        QStringList expected = before + QStringList{u"Verdbase-2026-06-14.db"_s};
+        QVERIFY(expected.removeOne(u"Verdbase-2026-01-03.db"_s));
+        expected.sort();
+        QStringList found = files_of_copies(store);
+        found.sort();
+        QCOMPARE(found, expected);
+    }
+
+    void a_read_only_copy_of_the_day_is_no_failure()
+    {
+        store_fixture store;
+        fill(store);
+        write_dated_copy(store.path(), today);
+        store.connection.Close();
+        open_to_everyone(store);
+        const QString copy = path_of_copy(store.path(), today);
+        set_mode(copy, 0444);
+        const QByteArray before = bytes_of(copy);
+        QProcess child;
+        start_child(child, u"copy_as_nobody"_s, store.path());
+        QVERIFY(child.waitForFinished(60000));
+        QCOMPARE(QString::fromUtf8(child.readAllStandardError()), QString());
+        QCOMPARE(child.exitCode(), 0);
+        QCOMPARE(bytes_of(copy), before);
     }
 
     void a_read_only_folder_of_copies_is_a_failure()
@@ -158,10 +192,8 @@ private Q_SLOTS:
         fill(store);
         write_dated_copy(store.path(), today.addDays(-1));
         store.connection.Close();
+        open_to_everyone(store);
         const QString folder = folder_of_copies(store.path());
-        set_mode(QFileInfo(folder).absolutePath(), 0777);
-        set_mode(QFileInfo(QFileInfo(folder).absolutePath()).absolutePath(), 0755);
-        set_mode(store.path(), 0666);
         set_mode(folder, 0555);
         QProcess child;
         start_child(child, u"copy_as_nobody"_s, store.path());

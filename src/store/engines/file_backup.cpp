@@ -93,7 +93,7 @@ void back_up(const QString& store, const QString& copy)
 
 void check_copy(const QString& path)
 {
-    check_store_files(path);
+    check_file_of_copy(path);
     // Nobody writes to a copy. Without this mark, reading it would create files next to it.
     const open_file copy(address_of(path) + u"?immutable=1", SQLITE_OPEN_READONLY);
     const QString verdict = copy.first_value("PRAGMA integrity_check(1)");

@@ -12,7 +12,7 @@ namespace verdane {
 void back_up(const QString& store, const QString& copy);
 
 /// Checks a copy as the store is checked when it is opened, without changing anything. Fails with
-/// `store_damaged`, or with `store_read_only` or `store_unreachable` if it cannot be opened.
+/// `store_damaged`, or with `store_unreachable` if it cannot be opened.
 void check_copy(const QString& path);
 
 /// Fails with `store_locked` if another connection has the file of a store open, by whatever name: the lock
