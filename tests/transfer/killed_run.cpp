@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -66,22 +68,21 @@ pid_t start(const QStringList& arguments)
 
 using system_call = __ptrace_syscall_info;
 
-/// The system call at which a process has stopped, if it begins and changes a file.
-std::optional<system_call> change_at_stop(pid_t child)
+/// The system call at which a process has stopped, if it begins.
+std::optional<system_call> call_at_stop(pid_t child)
 {
     system_call call{};
-    if (ptrace(PTRACE_GET_SYSCALL_INFO, child, sizeof call, &call) <= 0)
-        return std::nullopt;
-    if (call.op != PTRACE_SYSCALL_INFO_ENTRY || !changes_a_file(static_cast<long>(call.entry.nr)))
+    if (ptrace(PTRACE_GET_SYSCALL_INFO, child, sizeof call, &call) <= 0 ||
+        call.op != PTRACE_SYSCALL_INFO_ENTRY)
         return std::nullopt;
     return call;
 }
 
-/// Called before a change; the process continues if the result is true.
-using change_step = std::function<bool(pid_t child, const system_call& call)>;
+/// Called before a system call; the process continues if the result is true.
+using call_step = std::function<bool(pid_t child, const system_call& call)>;
 
 /// Runs the program until the step returns false, and kills it then.
-void run_by_changes(const QStringList& arguments, const change_step& step)
+void run_by_calls(const QStringList& arguments, const call_step& step)
 {
     const pid_t child = start(arguments);
     int state = 0;
@@ -95,13 +96,97 @@ void run_by_changes(const QStringList& arguments, const change_step& step)
             return;
         const bool at_call = WSTOPSIG(state) == (SIGTRAP | 0x80);
         signal = at_call || WSTOPSIG(state) == SIGTRAP ? 0 : WSTOPSIG(state);
-        const auto change = at_call ? change_at_stop(child) : std::nullopt;
-        if (change && !step(child, *change))
+        const auto call = at_call ? call_at_stop(child) : std::nullopt;
+        if (call && !step(child, *call))
             break;
     }
     kill(child, SIGKILL);
     waitpid(child, &state, 0);
 }
+
+/// The same with the calls that change a file only.
+void run_by_changes(const QStringList& arguments, const call_step& step)
+{
+    run_by_calls(arguments, [&](pid_t child, const system_call& call) {
+        return !changes_a_file(static_cast<long>(call.entry.nr)) || step(child, call);
+    });
+}
+
+/// The file that a process has opened under that number.
+QString opened_file(pid_t process, quint64 number)
+{
+    return QFile::symLinkTarget(u"/proc/%1/fd/%2"_s.arg(process).arg(number));
+}
+
+/// A text in the memory of a process.
+QString text_at(pid_t process, quint64 address)
+{
+    QFile memory(u"/proc/%1/mem"_s.arg(process));
+    QByteArray text;
+    char next = 0;
+    if (!memory.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
+        !memory.seek(static_cast<qint64>(address)))
+        return {};
+    while (memory.getChar(&next) && next != '\0')
+        text += next;
+    return QFile::decodeName(text);
+}
+
+/// What a program has written, and which of it has not reached the disk yet.
+class written_files {
+public:
+    void see(pid_t child, const system_call& call)
+    {
+        const auto& arguments = call.entry.args;
+        switch (static_cast<long>(call.entry.nr)) {
+        case SYS_fsync:
+        case SYS_fdatasync:
+            files_.remove(opened_file(child, arguments[0]));
+            folders_.remove(opened_file(child, arguments[0]));
+            break;
+        case SYS_copy_file_range:
+            files_.insert(opened_file(child, arguments[2]));
+            break;
+        case SYS_write:
+        case SYS_pwrite64:
+        case SYS_sendfile:
+            files_.insert(opened_file(child, arguments[0]));
+            break;
+#ifdef SYS_rename
+        case SYS_rename:
+            see_rename(text_at(child, arguments[0]), text_at(child, arguments[1]));
+            break;
+#endif
+        case SYS_renameat:
+            see_rename(text_at(child, arguments[1]), text_at(child, arguments[3]));
+            break;
+        default:
+            break;
+        }
+    }
+    QStringList faults() const
+    {
+        return faults_ + folders_.values();
+    }
+    int renames() const
+    {
+        return renames_;
+    }
+
+private:
+    void see_rename(const QString& from, const QString& to)
+    {
+        ++renames_;
+        if (files_.contains(from))
+            faults_ << from;
+        folders_.insert(QFileInfo(to).absolutePath());
+    }
+
+    QSet<QString> files_;
+    QSet<QString> folders_;
+    QStringList faults_;
+    int renames_ = 0;
+};
 
 void limit_files_of(pid_t process, rlim_t bytes)
 {
@@ -130,13 +215,22 @@ int run_without_space_for(const QStringList& arguments, const QString& ending, u
 {
     int limited = 0;
     run_by_changes(arguments, [&](pid_t child, const system_call& call) {
-        const QString file = QFile::symLinkTarget(u"/proc/%1/fd/%2"_s.arg(child).arg(call.entry.args[0]));
-        const bool is_limited = file.endsWith(ending);
+        const bool is_limited = opened_file(child, call.entry.args[0]).endsWith(ending);
         limit_files_of(child, is_limited ? bytes : RLIM_INFINITY);
         limited += is_limited ? 1 : 0;
         return true;
     });
     return limited;
+}
+
+QStringList renames_before_content(const QStringList& arguments)
+{
+    written_files written;
+    run_by_calls(arguments, [&](pid_t child, const system_call& call) {
+        written.see(child, call);
+        return true;
+    });
+    return written.renames() > 0 ? written.faults() : QStringList{u"nothing was renamed"_s};
 }
 
 std::vector<int> some_writes(int all)

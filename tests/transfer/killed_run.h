@@ -17,6 +17,10 @@ void kill_before_write(const QStringList& arguments, int number);
 /// can. Returns how many times the program changed such a file.
 int run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes);
 
+/// Runs the program. The files that were renamed before what was written to them had reached the disk, and
+/// the folders of renamed files that did not reach the disk afterwards.
+QStringList renames_before_content(const QStringList& arguments);
+
 /// Numbers of writes from 1 to `all`: the first eight, the last eight and some between.
 std::vector<int> some_writes(int all);
 

@@ -4,11 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <filesystem>
-
 #include "base/run_time_failure.h"
 #include "store/engines/file_backup.h"
 #include "store/recovery/copy_days.h"
+#include "store/recovery/whole_files.h"
 
 namespace verdane {
 
@@ -39,16 +38,6 @@ void make_empty_file(const QString& path)
         throw run_time_failure(failure_kind::store_read_only, QString(path + u": " + file.errorString()));
 }
 
-/// Renames a file. In contrast to that of Qt, this function replaces a file that has the new name.
-void give_name(const QString& path, const QString& name)
-{
-    std::error_code error;
-    std::filesystem::rename(path.toStdU16String(), name.toStdU16String(), error);
-    if (error)
-        throw run_time_failure(failure_kind::store_other,
-                               QString(name + u": " + QString::fromStdString(error.message())));
-}
-
 void remove_old_copies(const QString& store, QDate today)
 {
     for (const QDate day : days_to_remove(days_of_copies(store), today))
@@ -67,7 +56,7 @@ bool write_dated_copy(const QString& store, QDate day)
     try {
         back_up(store, unfinished);
         check_copy(unfinished);
-        give_name(unfinished, copy);
+        replace_file(unfinished, copy);
     } catch (...) {
         QFile::remove(unfinished);
         throw;

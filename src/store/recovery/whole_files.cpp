@@ -1,9 +1,12 @@
 #include "store/recovery/whole_files.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
+#include <unistd.h>
 
 #include "base/run_time_failure.h"
 
@@ -33,6 +36,20 @@ void check(const std::error_code& error, const QString& path)
         throw run_time_failure(kind_of(error), path + u": "_s + QString::fromStdString(error.message()));
 }
 
+/// Waits until the content of a file, or the names in a folder, have reached the disk.
+void write_to_disk(const QString& path)
+{
+    const int opened = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const bool is_written = opened >= 0 && fsync(opened) == 0;
+    const std::error_code error =
+        is_written ? std::error_code() : std::error_code(errno, std::generic_category());
+    if (opened >= 0)
+        close(opened);
+    // Some file systems do not write out a folder by itself.
+    if (error != std::errc::invalid_argument)
+        check(error, path);
+}
+
 }  // namespace
 
 void copy_whole_file(const QString& from, const QString& to)
@@ -40,23 +57,26 @@ void copy_whole_file(const QString& from, const QString& to)
     std::error_code error;
     std::filesystem::create_directories(system_path(QFileInfo(to).absolutePath()), error);
     check(error, to);
-    const std::filesystem::path part = system_path(to + u".part");
-    std::filesystem::copy_file(system_path(from), part, std::filesystem::copy_options::overwrite_existing,
-                               error);
-    if (error) {
-        std::error_code ignored;
-        std::filesystem::remove(part, ignored);
+    const QString part = to + u".part";
+    try {
+        std::filesystem::copy_file(system_path(from), system_path(part),
+                                   std::filesystem::copy_options::overwrite_existing, error);
         check(error, to);
+        replace_file(part, to);
+    } catch (...) {
+        std::error_code ignored;
+        std::filesystem::remove(system_path(part), ignored);
+        throw;
     }
-    std::filesystem::rename(part, system_path(to), error);
-    check(error, to);
 }
 
 void replace_file(const QString& from, const QString& to)
 {
+    write_to_disk(from);
     std::error_code error;
     std::filesystem::rename(system_path(from), system_path(to), error);
     check(error, to);
+    write_to_disk(QFileInfo(to).absolutePath());
 }
 
 }  // namespace verdane
