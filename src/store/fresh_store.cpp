@@ -2,8 +2,6 @@
 
 #include <QSqlQuery>
 
-#include <algorithm>
-
 #include "store/Connection1.h"
 #include "store/engines/engine.h"
 #include "store/row_insertion.h"
@@ -91,12 +89,8 @@ QVariant value_of_fixed_row(const column& column, int row)
 void insert_fixed_rows(const Connection1& connection, const table& filled)
 {
     row_insertion insertion(connection, filled);
-    std::vector<QVariant> values(filled.columns.size());
-    for (int row = 0; row < filled.fixed_rows; ++row) {
-        std::transform(filled.columns.begin(), filled.columns.end(), values.begin(),
-                       [row](const column& each) { return value_of_fixed_row(each, row); });
-        insertion.add(values);
-    }
+    for (int row = 0; row < filled.fixed_rows; ++row)
+        insertion.add(fixed_row(filled, row));
     insertion.finish();
 }
 
@@ -156,6 +150,14 @@ void create_tables(Connection1& connection)
         QSqlQuery(connection.database()).exec(statements.undo);
         throw;
     }
+}
+
+std::vector<QVariant> fixed_row(const table& fixed, int row)
+{
+    std::vector<QVariant> values;
+    for (const column& each : fixed.columns)
+        values.push_back(value_of_fixed_row(each, row));
+    return values;
 }
 
 void renew_fixed_rows(Connection1& connection, const table& renewed)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 #include <vector>
 
@@ -16,6 +17,9 @@ QString declared_type(const column& column);
 /// Creates every table of `schema`, its fixed rows and the indexes in one transaction. After a failure none
 /// of them exists.
 void create_tables(Connection1& connection);
+
+/// The values of a row of a table of fixed size in a new store. Rows count from 0.
+std::vector<QVariant> fixed_row(const table& fixed, int row);
 
 /// Replaces the rows of a table of fixed size with those of a new store. The caller commits. Fails with the
 /// kind that fits the engine's error.

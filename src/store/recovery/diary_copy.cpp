@@ -6,8 +6,10 @@
 
 #include "store/commits.h"
 #include "store/engines/engine.h"
+#include "store/fresh_store.h"
 #include "store/row_insertion.h"
 #include "store/schema.h"
+#include "store/tables/golf_bag.h"
 
 namespace verdane {
 
@@ -45,7 +47,8 @@ void copy_rows(const Connection1& from, Connection1& to, const table& copied)
 
 bool is_number(const QVariant& value)
 {
-    return value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double;
+    return value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double ||
+           value.typeId() == QMetaType::Int;
 }
 
 /// One of the drivers returns 15 digits of a real number.
@@ -95,14 +98,41 @@ int compare_rows(const Connection1& from, const Connection1& to, const table& co
     return row;
 }
 
+/// True for a table of the golf bag, whose only row has the names or the averages of the clubs.
+bool is_of_bag(const table& tested)
+{
+    return tested.name == QStringView(tables::sticks::table.name) ||
+           tested.name == QStringView(tables::sticknames::table.name);
+}
+
+bool has_other_rows(const Connection1& store, const table& fixed)
+{
+    const auto rows = rows_of(store, fixed);
+    for (int row = 0; rows->next(); ++row) {
+        int column = 0;
+        for (const QVariant& value : fixed_row(fixed, row)) {
+            if (!equal(rows->value(column++), value))
+                return true;
+        }
+    }
+    return false;
+}
+
+bool is_in_use(const Connection1& store, const table& tested, int rows)
+{
+    if (is_of_bag(tested))
+        return has_other_rows(store, tested);
+    return tested.fixed_rows == 0 && rows > 0;
+}
+
 }  // namespace
 
 std::vector<counted_table> tables_in_use(const Connection1& store)
 {
     std::vector<counted_table> used;
     for (const table& each : schema()) {
-        const int rows = each.fixed_rows > 0 ? 0 : number_of_rows(store, each);
-        if (rows > 0)
+        const int rows = number_of_rows(store, each);
+        if (is_in_use(store, each, rows))
             used.push_back({each.name, rows});
     }
     return used;

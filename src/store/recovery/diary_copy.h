@@ -19,8 +19,8 @@ struct counted_table {
 /// Called before the rows of a table are copied.
 using table_notice = std::function<void(const counted_table& table)>;
 
-/// The tables that hold a row which a new store does not have. The rows of tables of fixed size, as the names
-/// of the clubs, are not looked at.
+/// The tables that hold a row which a new store does not have. Of the tables of fixed size only those of the
+/// golf bag are compared: the first start sets the language, and reports rewrite the others.
 std::vector<counted_table> tables_in_use(const Connection1& store);
 
 /// Copies every row of every table, in their order, into a store without rows of its own, compares the rows
