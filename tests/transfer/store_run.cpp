@@ -1,8 +1,10 @@
 #include "tests/transfer/store_run.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace verdane::testing {
 
@@ -33,6 +35,21 @@ void store_run::limit_files(unsigned long bytes)
     process_.setChildProcessModifier([bytes] {
         const rlimit limit{bytes, bytes};
         setrlimit(RLIMIT_FSIZE, &limit);
+    });
+}
+
+void store_run::become_nobody(const QString& folder)
+{
+    if (geteuid() != 0)
+        return;
+    const QString copy = folder + u"/verdane-store";
+    if (!QFile::copy(process_.program(), copy))
+        qFatal("cannot write %s", qUtf8Printable(copy));
+    process_.setProgram(copy);
+    process_.setChildProcessModifier([] {
+        constexpr int nobody = 65534;
+        if (setgid(nobody) != 0 || setuid(nobody) != 0)
+            _exit(1);
     });
 }
 

@@ -17,6 +17,10 @@ public:
     /// Files cannot grow beyond that size, in bytes; the same as a full disk.
     void limit_files(unsigned long bytes);
 
+    /// Runs a copy of the program in that folder as a user without rights, if the tests are run by root, who
+    /// has every right.
+    void become_nobody(const QString& folder);
+
     void start();
     /// Waits until the program has printed a text.
     bool wait_for(const QString& printed);

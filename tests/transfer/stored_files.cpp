@@ -34,6 +34,12 @@ std::optional<int> copied_folder::copy() const
     return store_run({u"copy"_s, file_argument(diary), file_argument(target)}).run();
 }
 
+QByteArray content_of(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QStringList all_rows(const QString& path)
 {
     const reader store(path);

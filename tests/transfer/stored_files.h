@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -45,6 +46,9 @@ struct copied_folder {
     QString diary = folder.filePath(u"Verdbase.db"_s);
     QString target = folder.filePath(u"target/Verdbase.db"_s);
 };
+
+/// The bytes of a file.
+QByteArray content_of(const QString& path);
 
 /// Every row of every table of a file in order, as text.
 QStringList all_rows(const QString& path);

@@ -1,7 +1,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTest>
+
+#include <sys/stat.h>
+#include <utility>
+#include <vector>
 
 #include "store/Connection1.h"
 #include "tests/support/full_diary.h"
@@ -15,17 +20,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray content_of(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void write_file(const QString& path, const QByteArray& content)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+void set_modes(const std::vector<std::pair<QString, mode_t>>& modes)
+{
+    for (const auto& [path, mode] : modes) {
+        if (chmod(QFile::encodeName(path).constData(), mode) != 0)
+            qFatal("cannot change the permissions of %s", qUtf8Printable(path));
+    }
 }
 
 /// A folder with a diary, and with a copy that has fewer rounds.
@@ -237,6 +244,51 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo(folder.diary).isSymLink());
         QCOMPARE(all_rows(folder.diary), all_rows(folder.copy_path));
         QCOMPARE(folder.kept().size(), 1);
+    }
+
+    void a_copy_on_a_read_only_medium_is_restored_data()
+    {
+        QTest::addColumn<QString>("ending");
+        QTest::newRow("without a log") << QString();
+        QTest::newRow("with a log") << u"-wal"_s;
+    }
+
+    void a_copy_on_a_read_only_medium_is_restored()
+    {
+        QFETCH(QString, ending);
+        const restored_folder folder;
+        const QString medium = folder.folder.filePath(u"medium"_s);
+        const QString copy = medium + u"/copy.db";
+        QVERIFY(QDir().mkpath(medium));
+        QVERIFY(QFile::copy(folder.copy_path, copy));
+        QStringList expected = all_rows(copy);
+        if (!ending.isEmpty()) {
+            Connection1 program;
+            program.Open(folder.copy_path);
+            program.Execute(u"delete from cost"_s);
+            write_file(copy, content_of(folder.copy_path));
+            write_file(copy + ending, content_of(folder.copy_path + ending));
+            expected = expected.filter(QRegularExpression(u"^(?!cost\\|)"_s));
+        }
+        QFile::remove(copy + u"-shm");
+        set_modes({{folder.folder.path(), 0777}, {folder.diary, 0666}, {copy, 0444}, {medium, 0555}});
+        const QStringList files = QDir(medium).entryList(QDir::Files);
+        store_run run({u"restore"_s, file_argument(copy), file_argument(folder.diary)});
+        run.become_nobody(folder.folder.path());
+        const auto ended = run.run();
+        set_modes({{medium, 0755}});
+        QCOMPARE(run.errors(), QString());
+        QCOMPARE(ended, status(exit_status::done));
+        QCOMPARE(all_rows(folder.diary), expected);
+        QCOMPARE(QDir(medium).entryList(QDir::Files), files);
+        QCOMPARE(QDir(folder.folder.path()).entryList({u"*.source*"_s}, QDir::Files), QStringList());
+    }
+
+    void every_file_reaches_the_disk_before_it_gets_its_name()
+    {
+        const restored_folder folder;
+        QCOMPARE(renames_before_content(folder.arguments()), QStringList());
+        QCOMPARE(all_rows(folder.diary), all_rows(folder.copy_path));
     }
 
     void a_damaged_copy_is_refused_and_nothing_changes()

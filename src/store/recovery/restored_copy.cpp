@@ -21,14 +21,48 @@ namespace {
 
 const QString new_ending = u".restored"_s;
 
-/// Writes what `copy` has into a new file next to the place. False if `copy` has no rows.
-bool write_new_file(const store_location& copy, const QString& path)
+/// Writes what `copy` has into a new file. False if `copy` has no rows.
+bool write_rows(const store_location& copy, const QString& path)
 {
     Connection1 from;
     if (!from.OpenExisting(copy) || tables_in_use(from).empty())
         return false;
     write_closed_copy(from, path);
     return true;
+}
+
+/// The same from the copy of a copy, which can be opened on a medium that is read-only: opening a store takes
+/// its lock and may write its log into its file.
+bool write_rows_of_read_only(const store_location& copy, const QString& path)
+{
+    const QString writable = path + u".source";
+    remove_store_files(writable);
+    try {
+        for (const QStringView ending : endings_of_logs) {
+            if (QFileInfo(copy.name + ending).size() > 0)
+                copy_whole_file(copy.name + ending, writable + ending);
+        }
+        copy_whole_file(copy.name, writable);
+        QFile::setPermissions(writable, QFile::ReadOwner | QFile::WriteOwner);
+        const bool written = write_rows(store_location::file(writable), path);
+        remove_store_files(writable);
+        return written;
+    } catch (...) {
+        remove_store_files(writable);
+        throw;
+    }
+}
+
+/// Writes what `copy` has into a new file next to the place. False if `copy` has no rows.
+bool write_new_file(const store_location& copy, const QString& path)
+{
+    try {
+        return write_rows(copy, path);
+    } catch (const run_time_failure& failure) {
+        if (failure.kind() != failure_kind::store_read_only)
+            throw;
+    }
+    return write_rows_of_read_only(copy, path);
 }
 
 /// Opening and closing a store copies its write-ahead log into its file. A damaged file is not changed.
