@@ -12,4 +12,8 @@ QString program_version();
 /// call such a write ends the process. Called once, at the start; does nothing on systems without that limit.
 void let_oversized_writes_fail();
 
+/// Loads the toolkit's own texts in the current language (`is_french`), and sets its locale. The texts are in
+/// English if the files of the toolkit's translations are missing.
+void load_toolkit_texts();
+
 }  // namespace verdane

@@ -1,26 +1,12 @@
 #include "controls/interface_language.h"
 
-#include <QCoreApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
+#include "base/program.h"
 
 namespace verdane {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
 bool language_is_set = false;
-
-void load_toolkit_texts()
-{
-    static QTranslator texts;
-    QCoreApplication::removeTranslator(&texts);
-    QLocale::setDefault(is_french ? QLocale(QLocale::French) : QLocale(QLocale::English));
-    if (texts.load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&texts);
-}
 
 }  // namespace
 
