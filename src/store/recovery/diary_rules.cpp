@@ -1,5 +1,6 @@
 #include "store/recovery/diary_rules.h"
 
+#include "store/recovery/course_rules.h"
 #include "store/recovery/round_rules.h"
 #include "store/recovery/shot_rules.h"
 
@@ -9,8 +10,8 @@ const std::vector<diary_rule>& diary_rules()
 {
     static const std::vector<diary_rule> rules = [] {
         std::vector<diary_rule> all = rules_of_rounds();
-        for (const diary_rule& rule : rules_of_shots())
-            all.push_back(rule);
+        for (const auto& more : {rules_of_shots(), rules_of_courses()})
+            all.insert(all.end(), more.begin(), more.end());
         return all;
     }();
     return rules;
