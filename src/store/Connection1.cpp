@@ -42,9 +42,9 @@ void Connection1::Open(const store_location& store, soundness_check check)
     open_engine(store, check, [this] { create_tables(*this); });
 }
 
-bool Connection1::OpenExisting(const store_location& store)
+bool Connection1::OpenExisting(const store_location& store, soundness_check check)
 {
-    return open_engine(store, soundness_check::while_opening, [this] {
+    return open_engine(store, check, [this] {
         engine_->abandon();
         engine_.reset();
     });
@@ -78,6 +78,16 @@ void Connection1::check_soundness() const
 void Connection1::need_soundness() const
 {
     engine().need_soundness();
+}
+
+QStringList Connection1::damaged_indexes() const
+{
+    return engine().damaged_indexes();
+}
+
+void Connection1::rebuild_indexes() const
+{
+    engine().rebuild_indexes();
 }
 
 void Connection1::Close()

@@ -2,6 +2,7 @@
 
 #include <QSqlDatabase>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -63,7 +64,7 @@ public:
 
     /// Opens a store like the other functions, but only if it has tables. Without them the result is false,
     /// the connection stays closed and nothing is created.
-    bool OpenExisting(const store_location& store);
+    bool OpenExisting(const store_location& store, soundness_check check = soundness_check::while_opening);
 
     /// Checks the whole file, and the indexes against the tables, without changing it. Fails with
     /// `store_damaged`.
@@ -72,6 +73,14 @@ public:
     /// Checks the file unless it has been checked. Called before every statement that writes, because figures
     /// that a damaged index hides would be overwritten with zeros. Fails with `store_damaged`.
     void need_soundness() const;
+
+    /// The names of the indexes that differ from their tables, which `rebuild_indexes` corrects; empty if the
+    /// stored data are sound. Changes nothing. Fails with `store_damaged` if anything else is damaged.
+    QStringList damaged_indexes() const;
+
+    /// Builds all indexes anew and commits that. Fails with `store_damaged` if the stored data would not be
+    /// sound then; nothing is changed.
+    void rebuild_indexes() const;
 
     /// Closes the connection and releases the lock. Pending rows of recordsets are not written.
     void Close();

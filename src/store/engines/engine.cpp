@@ -1,5 +1,6 @@
 #include "store/engines/engine.h"
 
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -28,6 +29,36 @@ void store_engine::close()
 bool store_engine::is_open() const
 {
     return QSqlDatabase::contains(name_) && database().isOpen();
+}
+
+QStringList store_engine::damaged_indexes() const
+{
+    static const QRegularExpression difference(
+        QStringLiteral("^(?:row -?\\d+ missing from|wrong # of entries in|row -?\\d+ values differ from|"
+                       "rowid not at end-of-record for row -?\\d+ of) index (.+)$"));
+    QStringList names;
+    for (const QString& verdict : first_values(QStringLiteral("PRAGMA integrity_check"))) {
+        const auto found = difference.match(verdict);
+        if (found.hasMatch())
+            names << found.captured(1);
+        else if (verdict != u"ok")
+            throw run_time_failure(failure_kind::store_damaged, QString(where_.name + u": " + verdict));
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+void store_engine::rebuild_indexes()
+{
+    run(commits().begin_locked);
+    try {
+        run(QStringLiteral("REINDEX"));
+        check_soundness();
+        run(commits().finish);
+    } catch (...) {
+        QSqlQuery(database()).exec(commits().undo);
+        throw;
+    }
 }
 
 QString store_engine::table_ending(const table&) const
@@ -91,10 +122,13 @@ QString store_engine::first_value(const QString& question) const
 
 QStringList store_engine::first_values(const QString& question) const
 {
+    QSqlQuery query(database());
+    query.setForwardOnly(true);
+    if (!query.exec(question))
+        throw failure(query.lastError(), question);
     QStringList values;
-    const auto rows = select(question, question);
-    while (rows->next())
-        values << rows->value(0).toString();
+    while (query.next())
+        values << query.value(0).toString();
     return values;
 }
 

@@ -62,6 +62,13 @@ public:
     /// The same unless they have been checked. Called before every statement that writes.
     virtual void need_soundness() {}
 
+    /// The names of the indexes that differ from their tables; empty if the stored data are sound. Fails with
+    /// `store_damaged` if anything else is damaged.
+    virtual QStringList damaged_indexes() const;
+    /// Builds all indexes anew, and commits that if the stored data are sound then. Fails with
+    /// `store_damaged` otherwise; nothing is changed.
+    virtual void rebuild_indexes();
+
     /// The column that identifies a row of a table and is not among the columns of `select *`; empty if the
     /// table has none.
     virtual QString identity_column(QStringView table) const = 0;
@@ -130,7 +137,7 @@ protected:
     void run(const QString& statement) const;
     /// The first value of the first row. Fails like `change`, and if there is no row.
     QString first_value(const QString& question) const;
-    /// The first values of all rows. Fails like `select`.
+    /// The first values of all rows. Fails like `change`.
     QStringList first_values(const QString& question) const;
 
     const QString name_;

@@ -15,6 +15,9 @@ public:
     /// `source_type`, `source_storage`, `source_read_only` or `source_lost`.
     bool open(soundness_check check) override;
 
+    /// The server checks its indexes itself.
+    QStringList damaged_indexes() const override { return {}; }
+
     QString identity_column(QStringView table) const override;
     QString select_with_identity(const QString& statement, const select_statement& shape,
                                  const QString& identity) const override;
