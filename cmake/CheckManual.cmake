@@ -30,6 +30,38 @@ function(words_in text expression result)
   set(${result} ${found} PARENT_SCOPE)
 endfunction()
 
+# Lines without blanks and with round brackets: CMake does not split a list within square ones.
+function(plain_lines lines result)
+  set(plain)
+  foreach(line IN LISTS lines)
+    string(REPLACE " " "" line "${line}")
+    list(APPEND plain "${line}")
+  endforeach()
+  set(${result} "${plain}" PARENT_SCOPE)
+endfunction()
+
+# The commands of the help with their options and arguments. Two blanks end a synopsis.
+function(synopses_of_help part result)
+  string(REPLACE "[" "(" part "${part}")
+  string(REPLACE "]" ")" part "${part}")
+  words_in("${part}" "\n  ([a-z]+( [^ \n]+)*)" found)
+  plain_lines("${found}" found)
+  set(${result} "${found}" PARENT_SCOPE)
+endfunction()
+
+# The same from a manual page, where .br ends a synopsis. The last one has the options of the program itself.
+function(synopses_of_page part result)
+  string(REPLACE "[" "(" part "${part}")
+  string(REPLACE "]" ")" part "${part}")
+  string(REGEX REPLACE "\"" "" part "${part}")
+  string(REPLACE "\n.br\n" ";" found "${part}")
+  list(POP_BACK found)
+  list(TRANSFORM found REPLACE "\n?\\.(BI|BR|RB|B|I) " "")
+  list(TRANSFORM found REPLACE "^verdane-store " "")
+  plain_lines("${found}" found)
+  set(${result} "${found}" PARENT_SCOPE)
+endfunction()
+
 function(check_language language locale commands statuses)
   execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=${locale} ${PROGRAM} --help
     OUTPUT_VARIABLE help COMMAND_ERROR_IS_FATAL ANY)
@@ -45,6 +77,12 @@ function(check_language language locale commands statuses)
   part_of("${page}" "\\.SH COMMAND" "\\.SH" part)
   words_in("${part}" "\n\\.TP\n\\.BI? ([a-z]+)" in_page)
   compare("${language}: commands" "${in_help}" "${in_page}")
+
+  part_of("${help}" "${commands}" "\n" part)
+  synopses_of_help("${part}" in_help)
+  part_of("${page}" "\\.SH SYNOPSIS" "\\.SH" part)
+  synopses_of_page("${part}" in_page)
+  compare("${language}: synopses" "${in_help}" "${in_page}")
 
   # The list of exit statuses ends with a blank line.
   string(FIND "${help}" "${statuses}" start)

@@ -1,43 +1,15 @@
 #include "transfer/command.h"
 
 #include <algorithm>
+#include <optional>
 
-#include "transfer/check_command.h"
 #include "transfer/console.h"
-#include "transfer/copy_command.h"
-#include "transfer/restore_command.h"
 
 namespace verdane {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr std::array commands{
-    command{u"check",
-            {u"JOURNAL", u"STORE"},
-            {u"vérifie un journal et dit comment réparer ce qui ne va pas",
-             u"checks a diary and reports how to repair what is wrong"},
-            {{{u"--repair",
-               {u"répare ce qui ne demande aucun choix, après avoir fait une copie",
-                u"repairs what needs no choice, after making a copy"}},
-              {u"--make-rounds",
-               {u"fait aussi une ronde des coups qui n'en ont pas",
-                u"also makes a round of shots that have none"}}}},
-            run_check},
-    command{u"copy",
-            {u"DE VERS", u"FROM TO"},
-            {u"copie un journal, ligne par ligne, à un endroit vide, et compare les deux",
-             u"copies a diary, row by row, into an empty store, and compares both"},
-            {},
-            run_copy},
-    command{u"restore",
-            {u"COPIE JOURNAL", u"COPY STORE"},
-            {u"remet une copie à la place d'un journal, dont le fichier est gardé",
-             u"puts a copy in the place of a diary, whose file is kept"},
-            {},
-            run_restore},
-};
 
 constexpr std::array<std::pair<QStringView, text_pair>, 4> stores{{
     {u"file", {u"le fichier de Verdane", u"the file of Verdane"}},
@@ -47,15 +19,18 @@ constexpr std::array<std::pair<QStringView, text_pair>, 4> stores{{
     {u"source:…", {u"une autre source de données, par son nom", u"another data source, by its name"}},
 }};
 
+/// The words begin in one column, on a line of their own if the left part is longer.
 QString line(const QString& left, const QString& right)
 {
     constexpr int width = 24;
-    return u"  " + left.leftJustified(width) + u' ' + right + u'\n';
+    const QString indented = u"  " + left.leftJustified(width);
+    const QString separator = left.size() > width ? u'\n' + QString(width + 3, u' ') : u" "_s;
+    return indented + separator + right + u'\n';
 }
 
 QString lines_of(const command& shown)
 {
-    QString text = line(shown.name + u' ' + shown.arguments.in(is_french), shown.words.in(is_french));
+    QString text = line(synopsis(shown), shown.words.in(is_french));
     for (const command::option& option : shown.options) {
         if (!option.name.isEmpty())
             text += line(u"  " + option.name, option.words.in(is_french));
@@ -63,18 +38,49 @@ QString lines_of(const command& shown)
     return text;
 }
 
+/// The number of options of a command that were given and are removed from the arguments. Nothing if one is
+/// missing before another.
+std::optional<int> take_options(const command& wanted, QStringList& arguments)
+{
+    int given = 0;
+    int last = 0;
+    int place = 0;
+    for (const command::option& option : wanted.options) {
+        ++place;
+        if (!option.name.isEmpty() && arguments.removeAll(option.name.toString()) > 0) {
+            ++given;
+            last = place;
+        }
+    }
+    return given == last ? std::optional(given) : std::nullopt;
+}
+
 }  // namespace
 
 std::span<const command> all_commands()
 {
+    static const std::array commands{check_command, copy_command, restore_command};
     return commands;
+}
+
+QString synopsis(const command& shown)
+{
+    QString options;
+    QString end;
+    for (const command::option& option : shown.options) {
+        if (option.name.isEmpty())
+            break;
+        options += u" [" + option.name;
+        end += u']';
+    }
+    return shown.name + options + end + u' ' + shown.arguments.in(is_french);
 }
 
 QString help_text()
 {
     QString text = in_language(u"Travaille sur les journaux de Verdane.\n\nCommandes :\n",
                                u"Works on the diaries of Verdane.\n\nCommands:\n");
-    for (const command& each : commands)
+    for (const command& each : all_commands())
         text += lines_of(each);
     text += in_language(u"\nUn journal est nommé par :\n", u"\nA diary is named by:\n");
     for (const auto& [name, words] : stores)
@@ -88,13 +94,15 @@ QString help_text()
 exit_status run_command(QStringList arguments)
 {
     const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    const auto commands = all_commands();
     const auto found = std::find_if(commands.begin(), commands.end(),
                                     [&](const command& each) { return each.name == name; });
     if (found == commands.end())
         return refuse(
             exit_status::usage,
             in_language(u"Commande inconnue : %1 (--help)", u"Unknown command: %1 (--help)").arg(name));
-    return found->run(arguments);
+    const std::optional<int> options = take_options(*found, arguments);
+    return options ? found->run(arguments, *options) : refuse_usage();
 }
 
 }  // namespace verdane

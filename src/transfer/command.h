@@ -13,23 +13,39 @@ namespace verdane {
 
 struct command {
     QStringView name;
-    /// The arguments as the help shows them.
+    /// The arguments after the options, as the help shows them.
     text_pair arguments;
     /// One sentence that describes the command.
     text_pair words;
-    /// An option and what it does; both empty if the command has none.
+    /// An option and what it does; both empty if the command has fewer.
     struct option {
         QStringView name;
         text_pair words;
     };
+    /// Each option requires those before it.
     std::array<option, 2> options;
-    /// Runs the command with its arguments and the options that were given, in any order. Reports on standard
-    /// output, and failures on the standard error output, in the current language.
-    exit_status (*run)(const QStringList& arguments);
+    /// Runs the command with its arguments and the first of its options: none, one or two. Reports on
+    /// standard output, and failures on the standard error output, in the current language.
+    exit_status (*run)(const QStringList& arguments, int options);
 };
+
+/// `check STORE`: reports the problems of a diary. With the first option those that need no choice are
+/// repaired, after a copy was made; with the second one, rounds are made of shots that have none, too. The
+/// status is `problems` while problems are left.
+extern const command check_command;
+
+/// `copy FROM TO`: copies a diary into an empty store and reports each table on standard output.
+extern const command copy_command;
+
+/// `restore COPY STORE`: puts a copy of a diary, the file `file:PATH`, in the place of the file of a diary
+/// (`restore_copy`).
+extern const command restore_command;
 
 /// All commands, in the order of the help.
 std::span<const command> all_commands();
+
+/// A command with its options and arguments, in the current language: "check [--repair] STORE".
+QString synopsis(const command& shown);
 
 /// The text of `--help` after the usage, in the current language.
 QString help_text();

@@ -25,6 +25,12 @@ void print(const QString& line)
     QTextStream(stdout) << line << Qt::endl;
 }
 
+QString counted(int number, const text_pair& one, const text_pair& several)
+{
+    const bool is_one = number == 1 || (is_french && number == 0);
+    return QString::number(number) + u' ' + (is_one ? one : several).in(is_french);
+}
+
 exit_status refuse(exit_status status, const QString& line)
 {
     QTextStream(stderr) << line << Qt::endl;

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "base/language.h"
 #include "store/store_location.h"
 #include "transfer/exit_status.h"
 
@@ -12,6 +13,9 @@ namespace verdane {
 
 /// A line on standard output.
 void print(const QString& line);
+
+/// A number with its noun, which is in the plural from 2 on, and in English for 0, too.
+QString counted(int number, const text_pair& one, const text_pair& several);
 
 /// A line on the standard error output. Returns the status.
 exit_status refuse(exit_status status, const QString& line);

@@ -1,8 +1,9 @@
-#include "transfer/copy_command.h"
+#include "transfer/command.h"
 
 #include <QFile>
 
 #include "store/recovery/diary_copy.h"
+#include "store/schema.h"
 #include "store/store_files.h"
 #include "transfer/console.h"
 #include "transfer/store_argument.h"
@@ -18,6 +19,11 @@ bool is_missing_file(const store_location& store)
     return store.where == store_location::place::file && !QFile::exists(store.name);
 }
 
+QString counted_rows(int rows)
+{
+    return counted(rows, {u"ligne", u"row"}, {u"lignes", u"rows"});
+}
+
 exit_status refuse_without_source(const store_location& from)
 {
     return refuse(exit_status::no_diary,
@@ -27,11 +33,17 @@ exit_status refuse_without_source(const store_location& from)
 
 exit_status refuse_target(const store_location& to, const counted_table& used)
 {
-    return refuse(
-        exit_status::not_empty,
-        in_language(u"La destination %1 n'est pas vide : la table %2 a %3 lignes. Rien n'a été modifié.",
-                    u"The target %1 is not empty: table %2 has %3 rows. Nothing was changed.")
-            .arg(argument_of_store(to), used.name, QString::number(used.rows)));
+    if (find_table(used.name)->fixed_rows > 0)
+        return refuse(exit_status::not_empty,
+                      in_language(u"La destination %1 n'est pas vide : son sac de golf a été modifié (table "
+                                  u"%2). Rien n'a été modifié.",
+                                  u"The target %1 is not empty: its golf bag was edited (table %2). Nothing "
+                                  u"was changed.")
+                          .arg(argument_of_store(to), used.name));
+    return refuse(exit_status::not_empty,
+                  in_language(u"La destination %1 n'est pas vide : la table %2 a %3. Rien n'a été modifié.",
+                              u"The target %1 is not empty: table %2 has %3. Nothing was changed.")
+                      .arg(argument_of_store(to), used.name, counted_rows(used.rows)));
 }
 
 exit_status copy_open_stores(Connection1& source, Connection1& target)
@@ -43,13 +55,12 @@ exit_status copy_open_stores(Connection1& source, Connection1& target)
         return refuse_target(target.location(), used.front());
     int rows = 0;
     const auto copied = copy_diary(source, target, [](const counted_table& table) {
-        print(in_language(u"%1 : %2 lignes", u"%1: %2 rows").arg(table.name).arg(table.rows));
+        print(in_language(u"%1 : %2", u"%1: %2").arg(table.name, counted_rows(table.rows)));
     });
     for (const counted_table& table : copied)
         rows += table.rows;
-    print(in_language(u"Copié et vérifié : %1 tables, %2 lignes.", u"Copied and checked: %1 tables, %2 rows.")
-              .arg(copied.size())
-              .arg(rows));
+    print(in_language(u"Copié et vérifié : %1 tables, %2.", u"Copied and checked: %1 tables, %2.")
+              .arg(QString::number(copied.size()), counted_rows(rows)));
     return exit_status::done;
 }
 
@@ -69,9 +80,7 @@ exit_status copy(const store_location& from, const store_location& to)
     return status;
 }
 
-}  // namespace
-
-exit_status run_copy(const QStringList& arguments)
+exit_status run_copy(const QStringList& arguments, int)
 {
     const auto from = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
     const auto to = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
@@ -83,5 +92,14 @@ exit_status run_copy(const QStringList& arguments)
         return refuse_without_source(*from);
     return reported([&] { return copy(*from, *to); });
 }
+
+}  // namespace
+
+const command copy_command{u"copy",
+                           {u"DE VERS", u"FROM TO"},
+                           {u"copie un journal, ligne par ligne, à un endroit vide, et compare les deux",
+                            u"copies a diary, row by row, into an empty store, and compares both"},
+                           {},
+                           run_copy};
 
 }  // namespace verdane

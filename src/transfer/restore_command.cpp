@@ -1,4 +1,4 @@
-#include "transfer/restore_command.h"
+#include "transfer/command.h"
 
 #include <QFileInfo>
 
@@ -43,9 +43,7 @@ bool are_one_file(const QString& left, const QString& right)
                              QFileInfo(left).canonicalFilePath() == QFileInfo(right).canonicalFilePath());
 }
 
-}  // namespace
-
-exit_status run_restore(const QStringList& arguments)
+exit_status run_restore(const QStringList& arguments, int)
 {
     const auto copy = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
     const auto place = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
@@ -60,5 +58,14 @@ exit_status run_restore(const QStringList& arguments)
         return refuse_without_diary(*copy);
     return reported([&] { return restore(*copy, *place); });
 }
+
+}  // namespace
+
+const command restore_command{u"restore",
+                              {u"COPIE JOURNAL", u"COPY STORE"},
+                              {u"remet une copie à la place d'un journal, dont le fichier est gardé",
+                               u"puts a copy in the place of a diary, whose file is kept"},
+                              {},
+                              run_restore};
 
 }  // namespace verdane

@@ -1,6 +1,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QHash>
 #include <QLocale>
+#include <QTranslator>
 
 #include "base/language.h"
 #include "base/program.h"
@@ -11,6 +13,20 @@ using namespace verdane;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// French texts of the parser that the toolkit's own translation lacks.
+class french_texts : public QTranslator {
+public:
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        static const QHash<QByteArray, QString> words{
+            {"Displays help on commandline options.", u"Affiche les commandes et les états de sortie."_s},
+            {"Displays help including Qt specific options.",
+             u"Affiche aussi les options de la boîte à outils."_s}};
+        return qstrcmp(context, "QCommandLineParser") == 0 ? words.value(text) : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
 
 void add_options(QCommandLineParser& parser)
 {
@@ -43,6 +59,10 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(u"Verdane"_s);
     QCoreApplication::setApplicationVersion(program_version());
     is_french = QLocale::system().language() == QLocale::French;
+    load_toolkit_texts();
+    french_texts texts;
+    if (is_french)
+        QCoreApplication::installTranslator(&texts);
     QCommandLineParser parser;
     parser.setApplicationDescription(help_text());
     parser.addHelpOption();

@@ -9,6 +9,7 @@
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/full_diary.h"
 #include "tests/support/reader.h"
+#include "tests/support/refused_change.h"
 #include "tests/transfer/killed_run.h"
 #include "tests/transfer/stored_files.h"
 
@@ -55,6 +56,35 @@ QString drop_index()
 exit_status status_of_structure()
 {
     return engine_of_tests() == test_engine::embedded ? exit_status::problems : exit_status::failed;
+}
+
+/// Removes the later holes from the index of the shots, which nothing else shows.
+void lose_half_of_index(const QString& path)
+{
+    const reader store(path);
+    const QString whole = store.text(u"select sql from sqlite_master where name = 'shots_by_hole'"_s);
+    const auto declare = [&](const QString& sql) {
+        store.write({u"pragma writable_schema = on"_s,
+                     u"update sqlite_master set sql = '%1' where name = 'shots_by_hole'"_s.arg(sql)});
+    };
+    declare(whole + u" where hole < 9"_s);
+    store.write(u"reindex shots_by_hole"_s);
+    declare(whole);
+}
+
+/// Overwrites a page of the table of the shots. Returns the content of the file.
+QByteArray damage_table(const QString& path)
+{
+    constexpr int page = 4096;
+    const reader store(path);
+    const int root = store.number(u"select rootpage from sqlite_master where name = 'Stat_rounds'"_s);
+    store.text(u"pragma wal_checkpoint(truncate)"_s);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite) || !file.seek(qint64(page) * (root - 1)) ||
+        file.write(QByteArray(page, '\xaa')) != page)
+        qFatal("cannot damage %s", qUtf8Printable(path));
+    file.close();
+    return content_of(path);
 }
 
 QStringList kept_copies(const QString& folder)
@@ -186,6 +216,15 @@ private Q_SLOTS:
             u"no row of games2 with values is without its round (1 : 20200101000000)"_s);
         row("costs of no round", u"cost"_s, u"insert into cost (date, au) values ('20200101000000', 5)"_s,
             u"no row of cost with values is without its round (1 : 20200101000000)"_s);
+        row("course without its holes", u"field_info"_s,
+            u"delete from field_info where FIELD_CODE in (select max(code) from vrd_fields)"_s,
+            u"every course has its holes in field_info (1 : "_s);
+        row("unknown course of a round", u"games"_s,
+            u"update games set CODEF = 'unknown' where date = '%1'"_s.arg(key_in_diary(1)),
+            u"the course of every round exists (1 : %1)"_s.arg(key_in_diary(1)));
+        row("unknown course of a situation", u"games2"_s,
+            u"update games2 set FC = 'unknown' where date = '%1'"_s.arg(key_in_diary(1)),
+            u"the course of every round exists (1 : %1)"_s.arg(key_in_diary(1)));
         row("two rounds of a key", u"games"_s,
             u"insert into games (date) values ('%1')"_s.arg(key_in_diary(1)),
             u"every key has one round (1 : %1)"_s.arg(key_in_diary(1)));
@@ -213,8 +252,11 @@ private Q_SLOTS:
         const int before = checked.store.number(count);
         store_run repair(checked.arguments({u"--repair"_s}));
         const std::optional<int> ended = repair.run();
-        QVERIFY2(repair.output().contains(reported + u"\n    put a copy back in place (restore)\n"),
-                 qUtf8Printable(repair.output()));
+        const QString printed = repair.output();
+        const qsizetype place = printed.lastIndexOf(reported);
+        const qsizetype line = printed.indexOf(u'\n', place);
+        QVERIFY2(place >= 0 && printed.sliced(line).startsWith(u"\n    put a copy back in place (restore)\n"),
+                 qUtf8Printable(printed));
         QVERIFY2(repair.output().endsWith(u"Problems: 1.\n"), qUtf8Printable(repair.output()));
         QCOMPARE(ended, status(exit_status::problems));
         QCOMPARE(checked.store.number(count), before);
@@ -226,7 +268,8 @@ private Q_SLOTS:
         const checked_store checked;
         const QString key = key_in_diary(1);
         checked.lose({u"games2"_s, u"cost"_s});
-        checked.store.write(u"insert into games (date, CODEF) values ('%1', 'other')"_s.arg(key));
+        checked.store.write(
+            u"insert into games (date, CODEF) select '%1', max(code) from vrd_fields"_s.arg(key));
         store_run repair(checked.arguments({u"--repair"_s}));
         QCOMPARE(repair.run(), status(exit_status::problems));
         QVERIFY2(repair.output().endsWith(u"Problems: 1.\n"), qUtf8Printable(repair.output()));
@@ -293,9 +336,127 @@ private Q_SLOTS:
         checked.store.write(u"update Stat_rounds set verges = 1 where hole = 7"_s);
         store_run run(checked.arguments({u"--repair"_s, u"--make-rounds"_s}));
         QCOMPARE(run.run(), status(exit_status::problems));
-        QVERIFY2(run.output().contains(u"0 courses have these pars and lengths"),
+        QVERIFY2(run.output().contains(u"no course has these pars and lengths"),
+                 qUtf8Printable(run.output()));
+        QVERIFY2(!run.output().contains(u"Repaired"), qUtf8Printable(run.output()));
+        QCOMPARE(checked.store.number(u"select count(*) from games"_s), 1);
+    }
+
+    void no_round_is_made_of_shots_without_par_or_length_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::newRow("no par") << u"update Stat_rounds set normal = null"_s;
+        QTest::newRow("no length") << u"update Stat_rounds set verges = null"_s;
+        QTest::newRow("neither") << u"update Stat_rounds set normal = null, verges = null"_s;
+    }
+
+    void no_round_is_made_of_shots_without_par_or_length()
+    {
+        QFETCH(QString, damage);
+        const checked_store checked;
+        checked.lose({u"games"_s});
+        // With a single course, every shot without values would fit it.
+        checked.store.write(
+            {damage, u"delete from vrd_fields where code not in (select CODEF from games)"_s});
+        store_run run(checked.arguments({u"--repair"_s, u"--make-rounds"_s}));
+        QCOMPARE(run.run(), status(exit_status::problems));
+        QVERIFY2(run.output().contains(u"no course has these pars and lengths"),
                  qUtf8Printable(run.output()));
         QCOMPARE(checked.store.number(u"select count(*) from games"_s), 1);
+    }
+
+    void no_round_is_made_of_shots_on_some_of_its_holes_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::newRow("no shots") << u"delete from Stat_rounds where hole in (3, 18)"_s;
+        QTest::newRow("shots without a kind")
+            << u"update Stat_rounds set shot_type_value = 0 where hole in (3, 18)"_s;
+    }
+
+    void no_round_is_made_of_shots_on_some_of_its_holes()
+    {
+        QFETCH(QString, damage);
+        const checked_store checked;
+        checked.lose({u"games"_s});
+        checked.store.write(damage);
+        const QString count = u"select count(*) from Stat_rounds"_s;
+        const int shots = checked.store.number(count);
+        store_run run(checked.arguments({u"--repair"_s, u"--make-rounds"_s}));
+        QCOMPARE(run.run(), status(exit_status::problems));
+        QVERIFY2(run.output().contains(u"No round for the shots of " + key_in_diary(1) +
+                                       u": shots are missing on these holes: 3, 18\n"),
+                 qUtf8Printable(run.output()));
+        QCOMPARE(checked.store.number(u"select count(*) from games"_s), 1);
+        QCOMPARE(checked.store.number(count), shots);
+    }
+
+    void without_a_repair_there_is_no_copy_and_no_report_of_one()
+    {
+        const copied_folder folder;
+        reader(folder.diary).write(u"update Stat_rounds set verges = 1"_s);
+        reader(folder.diary).write(u"delete from games where date = '%1'"_s.arg(key_in_diary(1)));
+        store_run run({u"check"_s, file_argument(folder.diary), u"--repair"_s, u"--make-rounds"_s});
+        QCOMPARE(run.run(), status(exit_status::problems));
+        QVERIFY2(run.output().contains(u"No round for the shots of "), qUtf8Printable(run.output()));
+        QVERIFY2(!run.output().contains(u"Repaired"), qUtf8Printable(run.output()));
+        QCOMPARE(kept_copies(folder.folder.path()), QStringList());
+    }
+
+    void an_index_that_differs_from_its_table_is_rebuilt()
+    {
+        const copied_folder folder;
+        lose_half_of_index(folder.diary);
+        const QStringList before = all_rows(folder.diary);
+        const reader store(folder.diary);
+        QVERIFY(!store.damage().isEmpty());
+        const QStringList arguments{u"check"_s, file_argument(folder.diary)};
+        store_run found(arguments);
+        QCOMPARE(found.run(), status(exit_status::problems));
+        QVERIFY2(found.output().contains(
+                     u"an index differs from its table (1 : shots_by_hole)\n    --repair repairs it\n"),
+                 qUtf8Printable(found.output()));
+        QVERIFY(!store.damage().isEmpty());
+        store_run repair(arguments + QStringList{u"--repair"_s});
+        QCOMPARE(repair.run(), status(exit_status::done));
+        QCOMPARE(store.damage(), QString());
+        QCOMPARE(all_rows(folder.diary), before);
+    }
+
+    void a_damaged_table_is_not_repaired()
+    {
+        const copied_folder folder;
+        const QByteArray damaged = damage_table(folder.diary);
+        store_run repair({u"check"_s, file_argument(folder.diary), u"--repair"_s});
+        QCOMPARE(repair.run(), status(exit_status::failed));
+        QCOMPARE(content_of(folder.diary), damaged);
+        QCOMPARE(kept_copies(folder.folder.path()), QStringList());
+    }
+
+    void a_repair_that_fails_changes_no_row_also_if_an_index_is_missing()
+    {
+        const checked_store checked;
+        checked.store.write({drop_index(), u"delete from cost"_s, u"update Stat_rounds set addpen = 7"_s,
+                             refuse(u"update"_s, u"Stat_rounds"_s)});
+        QCOMPARE(store_run(checked.arguments({u"--repair"_s})).run(), status(exit_status::failed));
+        QCOMPARE(checked.store.number(u"select count(*) from cost"_s), 0);
+        checked.store.write(refuse_no_more());
+        QCOMPARE(store_run(checked.arguments({u"--repair"_s})).run(), status(exit_status::done));
+        QCOMPARE(checked.store.number(u"select count(*) from cost"_s), rounds);
+    }
+
+    void a_number_of_one_is_followed_by_the_singular()
+    {
+        const test_store place;
+        create_diary(place.location(), 1, true);
+        reader(place.location()).write(u"delete from Stat_rounds where hole > 1 or shot > 1"_s);
+        store_run english({u"check"_s, argument_of(place)});
+        QCOMPARE(english.run(), status(exit_status::done));
+        QCOMPARE(english.output(), u"No problem: 1 round, 1 shot.\n"_s);
+        reader(place.location()).write(u"delete from Stat_rounds"_s);
+        store_run french({u"check"_s, argument_of(place)});
+        french.set_language(u"fr_CA.UTF-8"_s);
+        QCOMPARE(french.run(), status(exit_status::done));
+        QCOMPARE(french.output(), u"Aucun problème : 1 ronde, 0 coup.\n"_s);
     }
 
     void a_copy_with_the_old_rows_is_made_before_a_repair()

@@ -29,7 +29,8 @@ private Q_SLOTS:
             const QString help = help_in(french);
             QStringList expected;
             for (const command& each : all_commands()) {
-                expected << each.name + u' ' + each.arguments.in(french) << each.words.in(french);
+                expected << u"\n  " + each.name + u' ' << u' ' + each.arguments.in(french)
+                         << each.words.in(french);
                 for (const command::option& option : each.options)
                     expected << option.name.toString() << option.words.in(french);
             }
@@ -38,6 +39,25 @@ private Q_SLOTS:
             for (const QString& text : expected)
                 QVERIFY2(help.contains(text), qUtf8Printable(text + u" is missing in\n" + help));
         }
+    }
+
+    void the_texts_of_the_toolkit_are_in_the_language_of_the_others()
+    {
+        const QString english = help_in(false);
+        const QString french = help_in(true);
+        for (const QString& text : {u"Usage: "_s, u"Options:"_s, u"Displays "_s}) {
+            QVERIFY2(english.contains(text), qUtf8Printable(english));
+            QVERIFY2(!french.contains(text), qUtf8Printable(french));
+        }
+        QVERIFY2(french.contains(u"Affiche "), qUtf8Printable(french));
+    }
+
+    void an_option_without_the_one_that_it_requires_is_refused()
+    {
+        QCOMPARE(synopsis(check_command).remove(check_command.arguments.french.toString()).trimmed(),
+                 u"check [--repair [--make-rounds]]"_s);
+        store_run run({u"check"_s, u"file:none"_s, u"--make-rounds"_s});
+        QCOMPARE(run.run(), static_cast<int>(exit_status::usage));
     }
 
     void every_command_name_and_exit_status_is_used_once()

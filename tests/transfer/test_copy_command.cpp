@@ -70,6 +70,37 @@ private Q_SLOTS:
         QCOMPARE(folder.copy(), status(exit_status::in_use));
     }
 
+    void a_target_whose_golf_bag_was_edited_is_refused_data()
+    {
+        QTest::addColumn<QString>("edit");
+        QTest::addColumn<QString>("table");
+        QTest::newRow("a name") << u"update sticknames set club_1 = 'Driver'"_s << u"sticknames"_s;
+        QTest::newRow("an average") << u"update sticks set avg_3 = 150"_s << u"sticks"_s;
+    }
+
+    void a_target_whose_golf_bag_was_edited_is_refused()
+    {
+        QFETCH(QString, edit);
+        QFETCH(QString, table);
+        const copied_folder folder;
+        Connection1().Open(folder.target);
+        reader(folder.target).write(edit);
+        const QStringList before = all_rows(folder.target);
+        store_run run({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)});
+        QCOMPARE(run.run(), status(exit_status::not_empty));
+        QVERIFY2(run.errors().contains(u"its golf bag was edited (table " + table + u')'), "another reason");
+        QCOMPARE(all_rows(folder.target), before);
+    }
+
+    void a_target_with_a_language_only_is_empty()
+    {
+        const copied_folder folder;
+        Connection1().Open(folder.target);
+        reader(folder.target).write(u"update settings set language = 2"_s);
+        QCOMPARE(folder.copy(), status(exit_status::done));
+        QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
+    }
+
     void a_file_that_does_not_exist_is_no_diary_and_is_not_made()
     {
         const QTemporaryDir folder;

@@ -8,11 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString in_back_quotes(const QString& name)
-{
-    return u'`' + name + u'`';
-}
-
 /// The server checks the rights of a statement while it prepares it.
 QString preparation(const QString& statement)
 {

@@ -82,11 +82,22 @@ void find_in_fixed_rows(const diary_snapshot& diary, problem_list& problems)
 
 void find_in_indexes(const Connection1& store, problem_list& problems)
 {
-    for (const index_creation& index : missing_indexes(store))
-        problems.push_back({in_language(u"un index manque", u"an index is missing"),
-                            {index.name},
-                            1,
-                            [index](Connection1& repaired) { repaired.Execute(index.statement); }});
+    const QStringList damaged = store.damaged_indexes();
+    if (!damaged.isEmpty()) {
+        diary_problem problem{
+            in_language(u"un index diffère de sa table", u"an index differs from its table"), damaged,
+            static_cast<int>(damaged.size()), [](Connection1& repaired) { repaired.rebuild_indexes(); }};
+        problem.step = repair_step::indexes;
+        problems.push_back(problem);
+    }
+    for (const index_creation& index : missing_indexes(store)) {
+        diary_problem problem{in_language(u"un index manque", u"an index is missing"),
+                              {index.name},
+                              1,
+                              [index](Connection1& repaired) { repaired.Execute(index.statement); }};
+        problem.step = repair_step::new_indexes;
+        problems.push_back(problem);
+    }
 }
 
 void find_violations(const diary_snapshot& diary, const diary_rule& rule, problem_list& problems)
@@ -112,9 +123,8 @@ void find_violations(const diary_snapshot& diary, const diary_rule& rule, proble
 
 }  // namespace
 
-std::vector<diary_problem> find_problems(const Connection1& store)
+std::vector<diary_problem> find_problems(const Connection1& store, const diary_snapshot& diary)
 {
-    const diary_snapshot diary(store.location());
     problem_list problems;
     find_in_structure(diary, problems);
     if (!problems.empty())

@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <map>
 #include <optional>
 
@@ -63,12 +64,14 @@ round_shots shots_of(const diary_snapshot& diary, const QString& key)
     return shots;
 }
 
-/// The courses whose holes have the pars and lengths that the shots were stored with.
+/// The courses whose holes have the pars and lengths that the shots were stored with. A shot without a par or
+/// a length fits no course.
 std::vector<course_of_shots> courses_of(const diary_snapshot& diary, const QString& key)
 {
     QStringList differences;
     for (int hole = 1; hole <= hole_count; ++hole)
-        differences << u"(s.hole = %1 and (s.normal <> f.par_%1 or s.verges <> f.yards_%1))"_s.arg(hole);
+        differences << u"(s.hole = %1 and not coalesce(s.normal = f.par_%1 and s.verges = f.yards_%1, 0))"_s
+                           .arg(hole);
     std::vector<course_of_shots> courses;
     for (const auto& row : diary.rows(
              u"select c.code, c.name from vrd_fields c join field_info f on f.FIELD_CODE = c.code where not "
@@ -89,12 +92,7 @@ public:
     void set(int ordinal, const QString& value) { values_.at(static_cast<std::size_t>(ordinal)) = value; }
     void set(int ordinal, int16 value) { values_.at(static_cast<std::size_t>(ordinal)) = plain(value); }
 
-    void insert_into(const Connection1& store) const
-    {
-        row_insertion insertion(store, table_);
-        insertion.add(values_);
-        insertion.finish();
-    }
+    std::pair<QString, std::vector<QVariant>> named() const { return {table_.name, values_}; }
 
 private:
     const table& table_;
@@ -128,16 +126,15 @@ bool has_row(const diary_snapshot& diary, const QString& table, const QString& k
     return diary.number(u"select count(*) from %1 where date = %2"_s.arg(table, quoted(key))) > 0;
 }
 
-/// What is left of the other rows of the round is kept.
-void make_round(Connection1& store, const diary_snapshot& diary, const QString& key, const round_shots& shots,
-                const course_of_shots& course)
+void add_rows(lost_round& round, const diary_snapshot& diary, const round_shots& shots,
+              const course_of_shots& course)
 {
     row_of_round strokes(games::table);
-    strokes.set(games::date, key);
+    strokes.set(games::date, round.key);
     strokes.set(games::field, course.name);
     strokes.set(games::CODEF, course.code);
     row_of_round situation(games2::table);
-    situation.set(games2::date, key);
+    situation.set(games2::date, round.key);
     situation.set(games2::FC, course.code);
     for (const auto& [hole, rows] : shots) {
         shot_list summarised = rows;
@@ -145,25 +142,46 @@ void make_round(Connection1& store, const diary_snapshot& diary, const QString& 
         set_strokes(strokes, hole, counted);
         set_situation(situation, hole, counted);
     }
-    strokes.insert_into(store);
-    if (!has_row(diary, u"games2"_s, key))
-        situation.insert_into(store);
+    round.rows.push_back(strokes.named());
+    if (!has_row(diary, u"games2"_s, round.key))
+        round.rows.push_back(situation.named());
     row_of_round costs(tables::cost::table);
-    costs.set(tables::cost::date, key);
-    if (!has_row(diary, u"cost"_s, key))
-        costs.insert_into(store);
+    costs.set(tables::cost::date, round.key);
+    if (!has_row(diary, u"cost"_s, round.key))
+        round.rows.push_back(costs.named());
 }
 
-/// Why no round can be made; empty if one can.
+/// The holes on which no shot counts as a stroke.
+QStringList holes_without_strokes(const round_shots& shots)
+{
+    QStringList holes;
+    for (int hole = 1; hole <= hole_count; ++hole) {
+        const auto found = shots.find(hole);
+        const auto has_kind = [](const hole_shot& shot) { return shot.shot_type_value != 0; };
+        if (found == shots.end() || std::none_of(found->second.begin(), found->second.end(), has_kind))
+            holes << QString::number(hole);
+    }
+    return holes;
+}
+
+/// Why no round can be made; empty if one can. A round with shots on some of its holes only would count in
+/// the handicap with too few strokes.
 QString refusal_of(const QString& key, const round_shots& shots, std::size_t courses, int rounds)
 {
     static const QRegularExpression digits(u"^[0-9]{14}$"_s);
     const bool known_holes = shots.begin()->first >= 1 && shots.rbegin()->first <= hole_count;
     if (!digits.match(key).hasMatch() || !known_holes)
         return in_language(u"la clé ou un trou est incorrect", u"the key or a hole is wrong");
+    const QStringList missing = holes_without_strokes(shots);
+    if (!missing.isEmpty())
+        return in_language(u"il manque les coups de ces trous : %1", u"shots are missing on these holes: %1")
+            .arg(missing.join(u", "_s));
     if (rounds >= most_rounds)
         return in_language(u"le journal est plein", u"the diary is full");
-    if (courses != 1)
+    if (courses == 0)
+        return in_language(u"aucun terrain n'a ces normales et ces distances",
+                           u"no course has these pars and lengths");
+    if (courses > 1)
         return in_language(u"%1 terrains ont ces normales et ces distances",
                            u"%1 courses have these pars and lengths")
             .arg(courses);
@@ -172,32 +190,43 @@ QString refusal_of(const QString& key, const round_shots& shots, std::size_t cou
 
 bool has_unknown_codes(const diary_snapshot& diary, const QString& key)
 {
-    return diary.number(
-               u"select count(*) from Stat_rounds where date = %1 and (coalesce(shot_type_value, 0) "
-               "not between 0 and 3 or coalesce(penval, 0) not between 0 and 4)"_s.arg(quoted(key))) > 0;
+    const QString statement =
+        u"select count(*) from Stat_rounds where date = %1 and (coalesce(shot_type_value, 0) not between 0 "
+        "and %2 or coalesce(penval, 0) not between 0 and %3)"_s.arg(quoted(key), QString::number(putt),
+                                                                    QString::number(out_of_bounds));
+    return diary.number(statement) > 0;
 }
 
 }  // namespace
 
-std::vector<lost_round> make_lost_rounds(Connection1& store, const diary_snapshot& diary)
+std::vector<lost_round> find_lost_rounds(const diary_snapshot& diary)
 {
     std::vector<lost_round> rounds;
     int present = diary.number(u"select count(*) from games"_s);
     for (const auto& row : diary.rows(rule_of_lost_shots().violations)) {
-        const QString key = row[0].toString();
-        const round_shots shots = shots_of(diary, key);
-        const auto courses = courses_of(diary, key);
-        QString refusal = shots.empty() ? in_language(u"la clé manque", u"the key is missing")
-                                        : refusal_of(key, shots, courses.size(), present);
-        if (refusal.isEmpty() && has_unknown_codes(diary, key))
-            refusal = in_language(u"un code est inconnu", u"a code is unknown");
-        if (refusal.isEmpty()) {
-            make_round(store, diary, key, shots, courses.front());
+        lost_round round{row[0].toString(), {}, {}};
+        const round_shots shots = shots_of(diary, round.key);
+        const auto courses = courses_of(diary, round.key);
+        round.refusal = shots.empty() ? in_language(u"la clé manque", u"the key is missing")
+                                      : refusal_of(round.key, shots, courses.size(), present);
+        if (round.refusal.isEmpty() && has_unknown_codes(diary, round.key))
+            round.refusal = in_language(u"un code est inconnu", u"a code is unknown");
+        if (round.refusal.isEmpty()) {
+            add_rows(round, diary, shots, courses.front());
             ++present;
         }
-        rounds.push_back({key, refusal});
+        rounds.push_back(round);
     }
     return rounds;
+}
+
+void make_round(const Connection1& store, const lost_round& round)
+{
+    for (const auto& [table, values] : round.rows) {
+        row_insertion insertion(store, *find_table(table));
+        insertion.add(values);
+        insertion.finish();
+    }
 }
 
 }  // namespace verdane

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
+#include <utility>
 #include <vector>
 
 namespace verdane {
@@ -9,17 +11,23 @@ namespace verdane {
 class Connection1;
 class diary_snapshot;
 
-/// The result for the shots of a key that has no round.
+/// What can be done with the shots of a key that has no round.
 struct lost_round {
     QString key;
-    /// Empty if the round was made; the reason otherwise, in the current language.
+    /// Why no round can be made of them, in the current language; empty if one can.
     QString refusal;
+    /// The rows of the round that the diary lacks, by the names of their tables.
+    std::vector<std::pair<QString, std::vector<QVariant>>> rows;
 };
 
-/// Makes a round of the shots of each key that has no round: the figures of each hole are counted from its
-/// shots. The course is the only one whose pars and lengths are those of the shots; if there is none, or more
-/// than one, nothing is made. The same holds for a wrong key, unknown codes, and a full diary. `diary` has
-/// the rows of the store. The caller commits. Fails with the kind that fits the engine's error.
-std::vector<lost_round> make_lost_rounds(Connection1& store, const diary_snapshot& diary);
+/// Plans a round for the shots of each key that has no round: the figures of each hole are counted from its
+/// shots. What is left of the other rows of the round is kept. The course is the only one whose pars and
+/// lengths are those of the shots; if there is none, or more than one, there can be no round. The same holds
+/// for a wrong key, holes without shots, unknown codes, and a full diary. `diary` has the rows of the store.
+std::vector<lost_round> find_lost_rounds(const diary_snapshot& diary);
+
+/// Inserts the rows of a round that was planned. The caller commits. Fails with the kind that fits the
+/// engine's error.
+void make_round(const Connection1& store, const lost_round& round);
 
 }  // namespace verdane
