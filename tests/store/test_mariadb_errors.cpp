@@ -42,6 +42,11 @@ private Q_SLOTS:
             u"Error writing file '/tmp/#sql/fd=52' (Errcode: 28 \"No space left on device\")"_s);
         row("full disk while the server makes a temporary file", 1, failure_kind::source_full,
             u"Can't create/write to file '/tmp/#sql.MAI' (Errcode: 28 \"No space left on device\")"_s);
+        row("quota used up while the server writes a file", 3, failure_kind::source_full,
+            u"Error writing file './ddl_recovery.log' (Errcode: 122 \"Internal (unspecified) error in "
+            u"handler\")"_s);
+        row("internal error of the storage engine", 1030, failure_kind::store_other,
+            u"Got error 122 \"Internal (unspecified) error in handler\" from storage engine InnoDB"_s);
         row("temporary folder without rights", 1, failure_kind::store_other,
             u"Can't create/write to file '/tmp/#sql.MAI' (Errcode: 13 \"Permission denied\")"_s);
         row("full disk while a table is created", 1005, failure_kind::source_full,

@@ -48,13 +48,25 @@ constexpr int server_lost_extended = 2055;
 constexpr int connection_error = 5014;
 }  // namespace code
 
-/// The server reports the error of the operating system or of the storage engine in the text: 28 means that
-/// no space is left, 122 that the quota is used up, 135 that a table cannot grow.
-bool names_full_disk(const QString& text)
+/// The server reports the error of the operating system or of the storage engine in the text.
+bool names_error(const QString& text, const QString& numbers)
 {
-    static const QRegularExpression full(u"\\b(error|errno:|errcode:) (28|122|135)\\b"_s,
-                                         QRegularExpression::CaseInsensitiveOption);
-    return full.match(text).hasMatch();
+    const QRegularExpression error(u"\\b(error|errno:|errcode:) (%1)\\b"_s.arg(numbers),
+                                   QRegularExpression::CaseInsensitiveOption);
+    return error.match(text).hasMatch();
+}
+
+/// 28 means that no space is left. 122 means that the quota is used up, although the server describes the
+/// number as an error of a storage engine.
+bool names_full_disk_of_file(const QString& text)
+{
+    return names_error(text, u"28|122"_s);
+}
+
+/// 122 is an internal error of a storage engine. 135 means that a table cannot grow.
+bool names_full_disk_of_storage(const QString& text)
+{
+    return names_error(text, u"28|135"_s);
 }
 
 }  // namespace
@@ -129,11 +141,12 @@ failure_kind kind_of_mariadb_error(int number, const QString& text)
         return failure_kind::source_full;
     case code::cannot_make_file:
     case code::error_on_write:
-    case code::cannot_create_table:
     case code::error_writing_file:
+        return names_full_disk_of_file(text) ? failure_kind::source_full : failure_kind::store_other;
+    case code::cannot_create_table:
     case code::storage_error:
     case code::error_during_commit:
-        return names_full_disk(text) ? failure_kind::source_full : failure_kind::store_other;
+        return names_full_disk_of_storage(text) ? failure_kind::source_full : failure_kind::store_other;
     default:
         return failure_kind::store_other;
     }
