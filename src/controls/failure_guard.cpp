@@ -3,6 +3,7 @@
 #include <QDir>
 
 #include <cstdlib>
+#include <optional>
 
 #include "base/failure_words.h"
 #include "controls/boxes.h"
@@ -39,6 +40,13 @@ QString words_of(const run_time_failure& failure)
     return words + u"\n\n" + in_known_language(newest, u"\n").arg(copy);
 }
 
+/// The first loss of the connection that was ignored.
+std::optional<run_time_failure>& ignored_loss()
+{
+    static std::optional<run_time_failure> loss;
+    return loss;
+}
+
 void show(const run_time_failure& failure)
 {
     const auto box = failure_box(failure, words_of(failure), window_at_work());
@@ -53,6 +61,18 @@ void end_after_failure(const run_time_failure& failure)
     show(failure);
     data_environment().abandon();
     std::_Exit(EXIT_FAILURE);
+}
+
+void note_ignored(const run_time_failure& failure)
+{
+    if (failure.kind() == failure_kind::source_lost && !ignored_loss())
+        ignored_loss() = failure;
+}
+
+void end_if_store_is_lost()
+{
+    if (ignored_loss())
+        end_after_failure(*ignored_loss());
 }
 
 bool is_failure_of_store(failure_kind kind)

@@ -11,6 +11,13 @@ namespace verdane {
 /// stack, so that no routine of an open window continues and commits after a failure.
 [[noreturn]] void end_after_failure(const run_time_failure& failure);
 
+/// Remembers that a routine has ignored the loss of the connection to the store; other failures have no
+/// effect. For this header.
+void note_ignored(const run_time_failure& failure);
+
+/// Ends the program like `end_after_failure` if a loss was remembered. For this header.
+void end_if_store_is_lost();
+
 /// Calls the routine of an event and handles its failure. Every event of a window is handled through this
 /// function, because an exception must not pass through the toolkit.
 template <typename Routine>
@@ -18,6 +25,7 @@ void run_event(Routine&& routine)
 {
     try {
         routine();
+        end_if_store_is_lost();
     } catch (const run_time_failure& failure) {
         end_after_failure(failure);
     } catch (const std::exception& failure) {
@@ -27,13 +35,17 @@ void run_event(Routine&& routine)
 
 /// Calls a routine and ignores a failure. True if there was none. Only for the few routines that must always
 /// finish; every other failure ends the program.
+///
+/// A lost connection is ignored until the event has been handled: its routine finishes (unlocks the menu, for
+/// example), and then the program ends with that failure, because nothing can be stored any more.
 template <typename Routine>
 bool finishes_without_failure(Routine&& routine)
 {
     try {
         routine();
         return true;
-    } catch (const run_time_failure&) {
+    } catch (const run_time_failure& failure) {
+        note_ignored(failure);
         return false;
     }
 }
@@ -42,7 +54,7 @@ bool finishes_without_failure(Routine&& routine)
 /// count beyond its range.
 bool is_failure_of_store(failure_kind kind);
 
-/// Calls a routine and ignores a failure of the store. True if there was none. Other failures are thrown on.
+/// The same for failures of the store only. Other failures are thrown on.
 template <typename Routine>
 bool finishes_without_store_failure(Routine&& routine)
 {
@@ -52,6 +64,7 @@ bool finishes_without_store_failure(Routine&& routine)
     } catch (const run_time_failure& failure) {
         if (!is_failure_of_store(failure.kind()))
             throw;
+        note_ignored(failure);
         return false;
     }
 }

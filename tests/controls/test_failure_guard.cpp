@@ -64,15 +64,39 @@ int fail_in_an_event(const QString& language)
     return 77;  // Not reached: the failure ends the process.
 }
 
+/// The child process: ignores a failure in an event, and prints what is shown after the event.
+int ignore_in_an_event(failure_kind kind)
+{
+    const auto routine = [kind] {
+        finishes_without_failure([kind] { throw run_time_failure(kind, u"first"_s); });
+        finishes_without_store_failure([kind] { throw run_time_failure(kind, u"second"_s); });
+        std::printf("finished\n");
+        std::fflush(stdout);
+    };
+    play([&routine] { run_event(routine); },
+         [kind](hand& user) {
+             if (kind != failure_kind::source_lost)
+                 return;
+             user.wait_for_window(u"failure_box"_s);
+             user.look([] {
+                 auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                 std::printf("shown:%s\n", qUtf8Printable(box->informativeText()));
+                 std::fflush(stdout);
+             });
+             user.key(Qt::Key_Return);
+         });
+    return 77;
+}
+
 struct ended {
     int status = -1;
     QString output;
 };
 
-ended failed_child(const QString& language)
+ended failed_child(const QString& argument, const QString& task = u"--fail"_s)
 {
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {u"--fail"_s, language});
+    child.start(QCoreApplication::applicationFilePath(), {task, argument});
     child.waitForFinished(60000);
     return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
             QString::fromUtf8(child.readAllStandardOutput())};
@@ -115,6 +139,19 @@ private Q_SLOTS:
         QVERIFY2(output.contains(u"selected:inser\n"), qPrintable(output));
     }
 
+    void a_lost_connection_that_a_routine_ignores_ends_the_program_after_the_event()
+    {
+        const auto child_of = [](failure_kind kind) {
+            return failed_child(QString::number(static_cast<int>(kind)), u"--ignore"_s);
+        };
+        const ended lost = child_of(failure_kind::source_lost);
+        QCOMPARE(lost.output, u"finished\nshown:first\n"_s);
+        QCOMPARE(lost.status, 1);
+        const ended other = child_of(failure_kind::store_locked);
+        QCOMPARE(other.output, u"finished\n"_s);
+        QCOMPARE(other.status, 77);
+    }
+
     void finishes_without_failure_returns_whether_there_was_none()
     {
         QVERIFY(finishes_without_failure([] {}));
@@ -153,6 +190,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     if (argc == 3 && QByteArray(argv[1]) == "--fail")
         return fail_in_an_event(QString::fromLocal8Bit(argv[2]));
+    if (argc == 3 && QByteArray(argv[1]) == "--ignore")
+        return ignore_in_an_event(static_cast<failure_kind>(QByteArray(argv[2]).toInt()));
     test_failure_guard test;
     return QTest::qExec(&test, argc, argv);
 }
