@@ -46,7 +46,8 @@ public:
     /// - `source_password`: the server refuses the account, its password or this computer;
     /// - `source_database`: the source names no database or file, or a database that the account cannot use;
     /// - `source_stopped`: no server accepts the connection, or the server runs no query;
-    /// - `source_silent`: the server accepts the connection and does not respond within 3 seconds;
+    /// - `source_silent`: the server accepts the connection and does not respond within 3 seconds, or ends
+    /// it;
     /// - `source_engine`: the source belongs to an engine other than MariaDB from 10.5 and SQLite.
     ///
     /// An opened source fails, before anything is written, with
@@ -55,8 +56,8 @@ public:
     /// - `source_column`: a column is missing, has another name or is in another place;
     /// - `source_type`: a column has a type that changes or refuses the values of the program;
     /// - `source_storage`: a table has a storage engine without transactions;
-    /// - `source_read_only`: the account, or every account, may only read;
-    /// - `source_lost`: the connection ended meanwhile.
+    /// - `source_read_only`: the account, or every account, lacks the right to select, insert, update or
+    ///   delete.
     void Open(const store_location& store = default_store(),
               soundness_check check = soundness_check::while_opening);
     /// Opens the file at `path`.

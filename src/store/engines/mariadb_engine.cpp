@@ -19,7 +19,7 @@ namespace {
 
 /// How long opening waits for the lock of another program, in seconds. The server releases the lock of a
 /// killed program a moment later.
-constexpr int lock_time_out_s = 1;
+constexpr int program_lock_time_out_s = 1;
 
 /// How long the server keeps a connection on which nothing is sent, in seconds; its default is 8 hours. The
 /// longest time that a server on every system accepts, some 24 days.
@@ -36,7 +36,29 @@ constexpr QStringView case_setting = u"select @@lower_case_table_names";
 
 bool mariadb_engine::open(soundness_check)
 {
-    set_session();
+    try {
+        const bool has_tables = check_source();
+        open_for_work();
+        return has_tables;
+    } catch (const run_time_failure& failure) {
+        // Nothing has been written yet.
+        if (failure.kind() == failure_kind::source_lost)
+            throw run_time_failure(failure_kind::source_silent, failure.details());
+        throw;
+    }
+}
+
+void mariadb_engine::open_for_work()
+{
+    close();
+    open_link(name_, where_.name, source_time_out_s);
+    set_session(source_lock_time_out_s);
+    take_lock();
+}
+
+bool mariadb_engine::check_source()
+{
+    set_session(source_opening_lock_time_out_s);
     check_server();
     take_lock();
     read_tables();
@@ -57,12 +79,12 @@ void mariadb_engine::refuse_incomplete() const
                            u"%1: %2"_s.arg(where_.name, missing_tables(tables_.columns()).join(u", "_s)));
 }
 
-void mariadb_engine::set_session() const
+void mariadb_engine::set_session(int lock_time_out_s) const
 {
     // A backslash in a text is a backslash; a value that does not fit is an error.
     run(u"set session sql_mode = 'STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION,NO_BACKSLASH_ESCAPES', "
         u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
-            .arg(source_lock_time_out_s)
+            .arg(lock_time_out_s)
             .arg(idle_time_out_s));
     // A commit begins no transaction, in which later changes would be lost, and a change needs no key,
     // whatever the defaults of the server are.
@@ -83,7 +105,7 @@ void mariadb_engine::check_server() const
 void mariadb_engine::take_lock() const
 {
     const QString question =
-        u"select get_lock(concat('verdane ', md5(lower(database()))), %1)"_s.arg(lock_time_out_s);
+        u"select get_lock(concat('verdane ', md5(lower(database()))), %1)"_s.arg(program_lock_time_out_s);
     if (first_value(question) != u"1")
         throw run_time_failure(failure_kind::store_locked, where_.name);
 }
@@ -215,8 +237,12 @@ run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& 
     const int code = native_code(error);
     const QString text = error.databaseText();
     const QString shown = text.isEmpty() ? u"connection lost"_s : text;
-    return {kind_of_mariadb_error(code, text),
-            QString(where + u": " + shown + u" (" + error.nativeErrorCode() + u')')};
+    const failure_kind kind = kind_of_mariadb_error(code, text);
+    // A server that writes a binary log does not report a full disk; it waits until there is room again.
+    const QString hint = kind == failure_kind::source_lost
+                             ? u"; the server may wait for room on a full disk: see its log"_s
+                             : QString();
+    return {kind, QString(where + u": " + shown + u" (" + error.nativeErrorCode() + u')' + hint)};
 }
 
 QString mariadb_engine::text_literal(QStringView text) const

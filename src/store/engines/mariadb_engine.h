@@ -12,7 +12,7 @@ public:
     using odbc_engine::odbc_engine;
 
     /// Fails with `store_locked`, `source_case`, `source_database`, `source_table`, `source_column`,
-    /// `source_type`, `source_storage`, `source_read_only` or `source_lost`.
+    /// `source_type`, `source_storage`, `source_read_only` or `source_silent`.
     bool open(soundness_check check) override;
 
     /// The server checks its indexes itself.
@@ -42,7 +42,9 @@ protected:
     QString in_dialect(const QString& part) const override;
 
 private:
-    void set_session() const;
+    bool check_source();
+    void open_for_work();
+    void set_session(int lock_time_out_s) const;
     void check_server() const;
     void take_lock() const;
     [[noreturn]] void refuse_incomplete() const;

@@ -111,7 +111,7 @@ source_kind kind_of_source(const QString& server, const QString& sqlite)
 std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where)
 {
     sqlite_odbc_engine::check_before_opening(where.name);
-    open_link(name, where.name);
+    open_link(name, where.name, source_opening_time_out_s);
     const QString server = version_of_server(name, where.name);
     const QString sqlite =
         server.isEmpty() ? value_or_error(name, u"select sqlite_version()"_s).value : QString();

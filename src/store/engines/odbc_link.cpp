@@ -29,19 +29,19 @@ failure_kind kind_of_opening(const QSqlError& error)
 
 /// Settings of the connection, which override those of the source. Settings unknown to a driver have no
 /// effect.
-QString settings_of_link()
+QString settings_of_link(int time_out_s)
 {
     // OPTION=2: an update counts the rows that match, even if no value changes. BigInt: without it, the
     // driver of SQLite cuts whole numbers to 32 bits. Timeout: for that many milliseconds the driver of
     // SQLite repeats a statement whose own wait for a lock has ended; by default for 100 s.
     return u";OPTION=2;BigInt=1;Timeout=1;AUTO_RECONNECT=0;CHARSET=utf8mb4"
            ";CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s.arg(source_opening_time_out_s)
-               .arg(source_time_out_s);
+               .arg(time_out_s);
 }
 
 }  // namespace
 
-void open_link(const QString& connection, const QString& source)
+void open_link(const QString& connection, const QString& source, int time_out_s)
 {
     if (!is_registered_source(source))
         throw run_time_failure(failure_kind::source_unknown, source);
@@ -50,7 +50,7 @@ void open_link(const QString& connection, const QString& source)
     QSqlError error;
     {
         QSqlDatabase link = QSqlDatabase::addDatabase(u"QODBC"_s, connection);
-        link.setDatabaseName(source + settings_of_link());
+        link.setDatabaseName(source + settings_of_link(time_out_s));
         if (link.open())
             return;
         error = link.lastError();
