@@ -45,8 +45,12 @@ std::vector<int> declared_columns(const row_set& set)
 }
 
 /// The columns with a value in the statement that inserts a row.
-std::vector<int> written_columns(const row_set& set, const recordset_row& row)
+std::vector<int> written_columns(const store_engine& engine, const row_set& set, const recordset_row& row)
 {
+    // The defaults of the table must not apply if they are not those of the row in memory, and without a
+    // number the row is found again by its values.
+    if (!set.has_numbers || !engine.has_declared_defaults(set.shape.table))
+        return declared_columns(set);
     std::vector<int> written;
     written.reserve(row.pending->before.size());
     for (const auto& [ordinal, before] : row.pending->before)
@@ -54,8 +58,7 @@ std::vector<int> written_columns(const row_set& set, const recordset_row& row)
     // An insertion needs at least one column. A column that was not written has its default.
     if (written.empty())
         written.push_back(0);
-    // Without a number the row is found again by its values, so the defaults of the table must not apply.
-    return set.has_numbers ? written : declared_columns(set);
+    return written;
 }
 
 statement_with_values start_statement(QStringView words, const row_set& set, std::size_t columns)
@@ -135,7 +138,7 @@ int change_row(store_engine& engine, statement_with_values& statement, const row
 
 qint64 insert_row(store_engine& engine, const row_set& set, const recordset_row& row, const QString& where)
 {
-    const std::vector<int> written = written_columns(set, row);
+    const std::vector<int> written = written_columns(engine, set, row);
     statement_with_values statement = start_statement(u"INSERT INTO ", set, written.size());
     QStringView before = u" (`";
     for (const int ordinal : written) {

@@ -222,6 +222,30 @@ private Q_SLOTS:
         bare.open();
         QCOMPARE(bare.connection.identity_script(), QString());
     }
+
+    void a_new_row_has_the_defaults_of_the_program_whatever_those_of_the_table_are_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::newRow("none") << u"alter table %1.games alter column pen_water_1 drop default"_s;
+        QTest::newRow("another one") << u"alter table %1.games alter column pen_water_1 set default 7"_s;
+        QTest::newRow("the same") << u"alter table %1.games alter column pen_water_1 set default 0"_s;
+    }
+    void a_new_row_has_the_defaults_of_the_program_whatever_those_of_the_table_are()
+    {
+        QFETCH(QString, change);
+        foreign_source other;
+        other.open();
+        other.change(change);
+        other.reopen();
+        const auto rounds = opened(other, u"select * from games"_s);
+        rounds->AddNew();
+        rounds->Fields(u"date").set(u"20260614093000"_s);
+        rounds->Update();
+        QCOMPARE(other.number(u"select count(*) from games where pen_water_1 = 0"_s), 1);
+        rounds->Fields(u"date").set(u"20260615093000"_s);
+        rounds->Update();
+        QCOMPARE(other.number(u"select count(*) from games where date = '20260615093000'"_s), 1);
+    }
 };
 
 QTEST_GUILESS_MAIN(test_foreign_source)

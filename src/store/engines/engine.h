@@ -73,6 +73,9 @@ public:
     /// table has none.
     virtual QString identity_column(QStringView table) const = 0;
 
+    /// True if a column of the table that an insertion leaves out gets the default that the program declares.
+    virtual bool has_declared_defaults(QStringView) const { return true; }
+
     /// A statement whose rows can be written, with the column that identifies a row before the others.
     virtual QString select_with_identity(const QString& statement, const select_statement& shape,
                                          const QString& identity) const;

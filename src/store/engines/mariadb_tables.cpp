@@ -25,11 +25,35 @@ QString mariadb_tables::question()
 {
     // A view has no storage engine.
     return u"select c.table_name, c.column_name, c.column_key, c.extra, c.data_type, c.numeric_scale, "
-           u"t.engine, e.transactions, c.column_type, c.collation_name from information_schema.columns c "
+           u"t.engine, e.transactions, c.column_type, c.collation_name, c.column_default from "
+           u"information_schema.columns c "
            u"join information_schema.tables t using (table_schema, table_name) "
            u"left join information_schema.engines e on e.engine = t.engine "
            u"where c.table_schema = database() order by c.table_name, c.ordinal_position"_s;
 }
+
+namespace {
+
+/// True if the server has the declared default of a column, or if the program does not have that column. The
+/// server describes a column whose default is Null by the word or by no value.
+bool is_declared_default(const QString& table, const QString& name, const QVariant& found)
+{
+    const struct table* declared = find_table(table);
+    if (declared == nullptr)
+        return true;
+    const auto& all = declared->columns;
+    const auto same = std::find_if(all.begin(), all.end(), [&name](const column& each) {
+        return each.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    if (same == all.end())
+        return true;
+    const QString text = found.toString();
+    if (same->default_value.isNull())
+        return text.isEmpty() || text == u"NULL";
+    return text == QString::number(same->default_value.toInt());
+}
+
+}  // namespace
 
 mariadb_tables::mariadb_tables(QSqlQuery& columns)
 {
@@ -42,6 +66,8 @@ mariadb_tables::mariadb_tables(QSqlQuery& columns)
         if (!extra.contains(u"INVISIBLE", Qt::CaseInsensitive))
             columns_[table] << source_column{column, columns.value(8).toString(),
                                              content_in_mariadb(type, columns.value(5).toInt() > 0)};
+        if (!is_declared_default(table, column, columns.value(10)) && !other_defaults_.contains(table))
+            other_defaults_ << table;
         keys_[table].add(column, columns.value(2).toString(), extra);
         if (columns.value(7).toString() == u"NO")
             engines_without_transactions_[table] = columns.value(6).toString();
@@ -90,6 +116,11 @@ bool mariadb_tables::contains(QStringView table) const
 bool mariadb_tables::has_row_column(QStringView table) const
 {
     return keys_.value(table.toString().toLower()).identify_rows();
+}
+
+bool mariadb_tables::has_declared_defaults(QStringView table) const
+{
+    return !other_defaults_.contains(table.toString().toLower());
 }
 
 void mariadb_tables::check_transactions() const

@@ -38,6 +38,8 @@ public:
     /// True for a column that the server numbers itself and that is unique. Another column of that name does
     /// not identify rows.
     bool has_row_column(QStringView table) const;
+    /// True if all columns of a table of the store have the defaults that the program declares.
+    bool has_declared_defaults(QStringView table) const;
     /// True if a table of the store has a text with another collation than the tables of the program. Such a
     /// text may be compared without regard to case, accents or trailing blanks.
     bool has_other_collations() const { return other_collations_; }
@@ -68,6 +70,8 @@ private:
 
     source_tables columns_;
     bool other_collations_ = false;
+    /// The tables with another default, in small letters.
+    QStringList other_defaults_;
     /// By the name of the table in small letters.
     QHash<QString, keys> keys_;
     /// The storage engines of tables that have no transactions.
