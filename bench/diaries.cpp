@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The generated diary contains holes with six putts, on which the putt statistics fail by rule.
+/// The generated diary has holes with six putts, on which the putt statistics fail.
 QString without_sixth_putts()
 {
     QStringList cleared;

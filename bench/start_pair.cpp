@@ -63,7 +63,7 @@ void time_start(benchmark::State& state, const char* program, const QStringList&
     for (auto _ : state) {
         const stopwatch watch;
         if (!run_to_its_end(program, arguments))
-            state.SkipWithError("the program did not come to its window");
+            state.SkipWithError("the program did not show its window");
         state.SetIterationTime(watch.seconds());
         tidy_up_after_end();
     }

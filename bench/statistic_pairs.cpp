@@ -28,7 +28,7 @@ void time_statistic_on(benchmark::State& state, const statistic_pair& pair, cons
         pair.prepare();
         const stopwatch watch;
         if (!pair.statistic(chosen, progress))
-            state.SkipWithError("the selection holds no round");
+            state.SkipWithError("the selection has no round");
         state.SetIterationTime(watch.seconds());
     }
 }

@@ -26,7 +26,7 @@ enum class failure_kind {
     source_password,    ///< the server refuses the account or its password
     source_database,    ///< the source names no database, or one that the account cannot use
     source_stopped,     ///< no server accepts the connection
-    source_silent,      ///< the server did not answer in time while the source was opened
+    source_silent,      ///< the server did not respond in time while the source was opened
     source_engine,      ///< the source belongs to an engine that the program does not support
     source_case,        ///< the server distinguishes the case of table names
     source_table,       ///< the source lacks some of the tables

@@ -27,7 +27,7 @@ class window_shortcuts;
 /// is closed. Message boxes, pop-ups and other programs do not cause it.
 class Form : public QDialog {
 public:
-    /// `family` is the name of the French twin. A window that is one for both languages has no twin.
+    /// `family` is the name of the French twin. With `one`, a single window is used for both languages.
     enum class twins { two, one };
     explicit Form(QStringView family, twins kind = twins::two);
     ~Form() override;

@@ -26,8 +26,8 @@ bool leave_focused_box(const QWidget& window);
 
 /// Calls `routine` after the end of the click that moves the focus from the box: the mouse button is
 /// released, the clicked control has handled it, and a list that it opened is closed. A window that is shown
-/// before that would get the release, and the click would have no effect. A box that is deleted before calls
-/// nothing.
+/// before that would get the release, and the click would have no effect. If the box is deleted before,
+/// `routine` is not called.
 void when_click_is_over(QLineEdit& box, std::function<void()> routine);
 
 }  // namespace verdane

@@ -22,8 +22,8 @@ struct guide_access {
 /// The access of the program. Tests replace its members.
 guide_access& guide();
 
-/// The page of a window in its present state, for example "windows/f_sticks_averages.html". It leads to the
-/// section that describes the window. The name of a section cannot be part of the address that is opened:
+/// The page of a window in its present state, for example "windows/f_sticks_averages.html". It redirects to
+/// the section that describes the window. The name of a section cannot be part of the address that is opened:
 /// some desktops refuse such an address of a file.
 QString guide_page_of(const QWidget& window);
 

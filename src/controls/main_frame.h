@@ -10,7 +10,8 @@ namespace verdane {
 
 class Form;
 
-/// What the other windows need of the main window, which implements it in a higher library.
+/// The functions of the main window that other windows call. The main window, in a higher library, implements
+/// them.
 class main_frame_interface {
 public:
     virtual ~main_frame_interface() = default;

@@ -44,7 +44,7 @@ void open_selected_round(f_games& window)
     if (selected.isNull())
         return;
     open_stored_round(Verdane_tools::key_of_entry(selected));
-    // A round window that refused the round leaves recordsets open.
+    // If the round was refused, the recordsets of the list are still open.
     close_recordsets();
 }
 

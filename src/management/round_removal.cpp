@@ -28,7 +28,7 @@ void delete_to_the_end(Recordset& rows, const QString& key)
 void open_at_round(Recordset& rows, const QString& source, const QString& key)
 {
     rows.set_Source(source);
-    // A diary holds tens of thousands of shots: the requery does not read them, so they are read once.
+    // A diary has tens of thousands of shots: the requery does not read them, so they are read once.
     rows.Open(row_reading::when_needed);
     rows.Requery();
     if (!rows.eof())

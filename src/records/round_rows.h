@@ -59,7 +59,7 @@ situation read_situation(int16 hole);
 /// The recovery shots, which only the round window shows.
 int16 read_recovery(int16 hole);
 
-/// All counts of the hole of which its gross consists.
+/// All counts of the hole that are part of its gross.
 hole_figures figures_from_row(int16 hole);
 
 int16 hole_par(int16 hole);

@@ -42,7 +42,7 @@ public:
     std::vector<QWidget*> tab_order() const;
 
 Q_SIGNALS:
-    /// A text has changed; the tee is not one.
+    /// A text has changed. A change of the tee is not reported.
     void changed();
 
 private:

@@ -15,8 +15,7 @@ namespace verdane {
 /// are opened in the editor, added and removed. `rsvrd_fields` and `rsfield_info` are open until it is
 /// unloaded.
 ///
-/// The constructor loads it; it fails with `subscript` when the store has more courses than the list can
-/// hold.
+/// The constructor loads it; it fails with `subscript` when the store has more than `most_courses` courses.
 class f_c_list : public Form {
 public:
     /// The members of the control array `Command1`.

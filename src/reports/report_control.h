@@ -73,8 +73,8 @@ struct report_opening {
 
 /// Sets a control up for a report: window state or zoom, then title, then the path of the template,
 /// which is the program's folder followed by the literal of the current language (each begins with a
-/// backslash). Starting it, with `Action(report_control::run_now)`, is the caller's last act, when
-/// every row is committed.
+/// backslash). The caller starts the report with `Action(report_control::run_now)` after it has committed
+/// every row, and does nothing afterwards.
 void prepare_report(report_control& control, report_opening opening, QStringView french_literal,
                     QStringView english_literal);
 

@@ -165,7 +165,7 @@ blank_shot detailed_page::drop_blank_shot()
     return {true, std::nullopt};
 }
 
-/// The hole has lost all its shots.
+/// Called when the hole has no shots any more.
 void detailed_page::start_hole_again()
 {
     grid_->unbind();

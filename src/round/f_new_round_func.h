@@ -20,7 +20,7 @@ void activate(round_form& window, const round_panes& panes);
 /// Closes the recordsets of the round. A failure of one step does not prevent the others.
 void unload(const round_panes& panes);
 
-/// Opens the twelve amounts of the round. The total that their window showed last stays on screen.
+/// Opens the window of the costs. The total that it showed last stays on screen.
 void show_costs(const round_panes& panes);
 
 /// Prints the putts of the round. On the detailed page the hole on screen is summarised first, so that its

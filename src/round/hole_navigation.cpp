@@ -187,8 +187,8 @@ void open_shots_of_hole(round_form& window, const round_panes& panes)
 {
     if (!panes.detailed.finish_typing())
         return;
-    // Once the window was to be closed from the detailed page, it does not show its shots again, even if the
-    // user chose Cancel then: a blank shot would prevent the next closing.
+    // After an attempt to close the window from the detailed page, the shots are not shown again, even if the
+    // user chose Cancel: a blank shot would prevent the next attempt.
     if (window.closingoK())
         return;
     if (window.on_detailed_page() || window.date_value().isEmpty()) {

@@ -233,7 +233,7 @@ void close_tables()
 {
     DataEnvironment1& store = data_environment();
     store.rsgames2.Update();
-    // A round that could not be loaded has not opened all of them.
+    // If the round could not be loaded, some of them are closed.
     for (Recordset* recordset : {&store.rsgames2, &store.rsvrd_fields, &store.rscost, &store.rspartners,
                                  &store.rsgames, &store.rsfield_info})
         close_if_open(*recordset);

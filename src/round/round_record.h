@@ -67,7 +67,7 @@ void find_course(const QString& code);
 void find_holes_of_course(const QString& code);
 
 /// Finds the row of costs of that key, or commits a new one, and reads the header of the round. Fails with
-/// `overflow` when the costs are more than 16 bits hold.
+/// `overflow` when the sum of the costs exceeds 16 bits.
 round_header read_header(const QString& key);
 /// The sum of the twelve amounts. Fails with `overflow` beyond 16 bits.
 QString cost_total();

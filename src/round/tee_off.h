@@ -26,7 +26,7 @@ struct tee_off_moment {
     QString time_text() const;
 };
 
-/// The dialog in which the user chooses when a new round was teed off, and so its key, which can not be
+/// The dialog in which the user chooses when a new round was teed off, and so its key, which cannot be
 /// changed afterwards. One form for both languages.
 class f_get_date : public Form {
     Q_OBJECT

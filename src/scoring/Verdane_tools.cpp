@@ -9,7 +9,7 @@ namespace verdane::Verdane_tools {
 
 namespace {
 
-// In French lists.
+// The number of tees, from the first one on, whose French names are in capitals.
 constexpr int tees_in_capitals = 4;
 
 // The characters of Windows-1252 at 0x80 to 0x9F; a code without a character is mapped to itself.

@@ -1,6 +1,6 @@
 #pragma once
 
-/// How much the diary holds. Each limit is defined here once; a list of fixed length is declared with it.
+/// The limits of the diary. Each is defined here once; a list of fixed length is declared with it.
 namespace verdane {
 
 constexpr int hole_count = 18;

@@ -8,7 +8,7 @@ namespace {
 
 QStringView piece(QStringView text, qsizetype from, qsizetype length)
 {
-    // A text that is too short gives what it has.
+    // If the text is too short, the result is shorter, too.
     return text.mid(from, length);
 }
 

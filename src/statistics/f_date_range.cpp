@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Date, time, a course's name of some length and the mark.
+// Date, time, a course name of average length and the mark.
 constexpr int characters_of_a_line = 52;
 constexpr int lines_in_view = 12;
 constexpr int characters_of_a_filter = 28;

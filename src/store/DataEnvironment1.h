@@ -9,7 +9,7 @@
 namespace verdane {
 
 /// The connection to the store and the catalogue: one shared recordset for each table, with the settings that
-/// are declared next to the table (`store/tables/`). They exist for the whole run and hold no rows between
+/// are declared next to the table (`store/tables/`). They exist for the whole run and have no rows between
 /// uses: the caller that opens a recordset closes it.
 class DataEnvironment1 {
 public:

@@ -132,7 +132,7 @@ public:
     void CancelUpdate();
     /// Removes the current row (at once with an optimistic lock, at `UpdateBatch` otherwise). No row is
     /// current until the next move, which moves to the row before or after the removed one. Without rows
-    /// `bof()` and `eof()` hold. Fails with `misuse` if there is no current row.
+    /// `bof()` and `eof()` are true. Fails with `misuse` if there is no current row.
     void Delete();
 
     /// True if the current row, or with a batch lock any row, has changes that are not committed.

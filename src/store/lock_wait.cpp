@@ -18,7 +18,7 @@ constexpr int pause_ms = 20;
 
 lock_wait::limit::limit(lock_wait& wait, int seconds) : wait_(wait), before_ms_(wait.limit_ms_)
 {
-    // An event that the notice delivered runs a second statement, which cannot wait as well.
+    // The notice has handled an event that runs a second statement. Only one statement can wait at a time.
     if (wait_.waiting_)
         throw run_time_failure(failure_kind::store_locked, u"another statement waits for the lock already"_s);
     wait_.limit_ms_ = seconds * 1000;

@@ -68,7 +68,7 @@ void read_columns(row_set& set, const result_rows& rows)
     }
 }
 
-/// A whole number of any width; nothing if the value is none.
+/// A whole number of any width; nothing for any other value.
 std::optional<qlonglong> whole_number(const QVariant& value)
 {
     switch (value.typeId()) {

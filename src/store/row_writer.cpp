@@ -31,8 +31,8 @@ std::vector<int> changed_columns(const recordset_row& row)
     return changed;
 }
 
-/// The columns that are declared. The server sets those that someone else has added to a table, and their
-/// values in memory may be others.
+/// The columns that are declared. The server sets the columns that someone else has added to a table, so
+/// their stored values may differ from those in memory.
 std::vector<int> declared_columns(const row_set& set)
 {
     std::vector<int> declared;

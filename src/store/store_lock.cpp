@@ -48,7 +48,7 @@ std::unique_ptr<QLockFile> take_store_lock(const QString& path)
 {
     const QString lock_path = path + u".lock";
     auto lock = std::make_unique<QLockFile>(lock_path);
-    // A session may last for days: a lock is stale if the process that took it has ended, whatever its age.
+    // The program may run for days: a lock is stale if the process that took it has ended, whatever its age.
     lock->setStaleLockTime(std::chrono::milliseconds(0));
     if (lock->tryLock())
         return lock;

@@ -92,7 +92,7 @@ void copy_rows(const store_engine& engine, const table& copied, const QSqlDataba
     }
 }
 
-/// All reads are one transaction, so that they see one moment.
+/// All reads are in one transaction, so that they use one snapshot.
 void copy_from(Connection1& connection, const copied_tables& tables, const QSqlDatabase& target)
 {
     const store_engine& engine = connection.engine();

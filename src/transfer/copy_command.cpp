@@ -71,7 +71,7 @@ exit_status copy(const store_location& from, const store_location& to)
         return refuse_without_source(from);
     const bool is_new_file = is_missing_file(to);
     Connection1 target;
-    // A failure to open removes nothing but what it has made: there may be the log of a file that was lost.
+    // If opening fails, only files that it has created are removed: the log of a lost file may be there.
     target.Open(to);
     const exit_status status = reported([&] { return copy_open_stores(source, target); });
     target.Close();

@@ -75,7 +75,7 @@ class test_report_snapshot : public QObject {
 private Q_SLOTS:
     void initTestCase() { administer(u"set global transaction isolation level read committed"_s); }
 
-    void a_commit_between_two_tables_is_not_seen_on_a_server_that_reads_committed_rows()
+    void a_commit_between_two_tables_is_not_copied_on_a_server_that_reads_committed_rows()
     {
         const open_store store;
         const reader outside(store.place);

@@ -70,7 +70,7 @@ void page_view::zoom_to(int percent)
     const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->page_count());
     zoom_ = qBound(least_zoom, percent, most_zoom);
     set_up_scroll_bars();
-    // A view at the top stays at the top: before the first layout there is no middle.
+    // A view at the top stays there. Before the first layout, the middle is not defined.
     scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle), wanted_page);
     if (wanted_page && !is_visible_page(*wanted_page))
         turn_to(*wanted_page);

@@ -21,9 +21,9 @@ struct file_question {
 
 /// The two dialogs of the platform that a preview opens. A test replaces them by functions.
 struct report_dialogs {
-    /// Where to write to; empty when the user changed their mind.
+    /// The path to write to; empty if the user has cancelled.
     std::function<QString(QWidget* owner, const file_question&)> choose_file;
-    /// Sets the printer up for a report of that many pages; false when the user changed their mind.
+    /// Sets the printer up for a report of that many pages; false if the user has cancelled.
     std::function<bool(QWidget* owner, QPrinter&, int pages)> choose_printer;
 };
 

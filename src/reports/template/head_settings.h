@@ -26,7 +26,7 @@ struct head_settings {
 };
 
 /// Splits the lines of a head. A line that starts with a blank continues the setting above it; a line that
-/// starts with `#` is a remark. Fails with `report_template` on any other line that is no setting.
+/// starts with `#` is a comment. Fails with `report_template` on any other line that is no setting.
 head_settings split_head(const QString& file, const QStringList& lines);
 
 }  // namespace verdane

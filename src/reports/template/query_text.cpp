@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Texts, quoted names and remarks; an opened one that does not end reaches to the end.
+/// String literals, quoted names and comments. One that is not closed extends to the end.
 const QRegularExpression& literal()
 {
     static const QRegularExpression form(u"'[^']*('|$)|\"[^\"]*(\"|$)|--[^\\n]*|/\\*.*?(\\*/|$)"_s,

@@ -6,7 +6,8 @@
 
 namespace verdane {
 
-/// A statement with blanks in the place of its texts, quoted names and remarks, which contain no parameter.
+/// A statement with its string literals, quoted names and comments replaced by blanks. They contain no
+/// parameters.
 QString without_literals(QString sql);
 
 /// The position of a name in double quotes that is no heading (after `as`). The engine takes such a name for

@@ -44,7 +44,7 @@ struct template_file {
     double font_points = 9;
 
     QString title;
-    /// Printed below every page; may hold `{{page}}` and `{{pages}}`. Empty for none.
+    /// Printed below every page; may contain `{{page}}` and `{{pages}}`. Empty for none.
     QString footer;
     template_place footer_place;
 

@@ -20,7 +20,7 @@ struct template_tag {
     qsizetype length = 0;
 };
 
-/// The tags of a text whose first line is line `first_line` of its file, remarks left out. Fails
+/// The tags of a text whose first line is line `first_line` of its file, without comments. Fails
 /// with `report_template` on a tag that is not closed and on tags that would print a value unescaped or
 /// include another file.
 std::vector<template_tag> find_tags(const QString& text, const template_place& first_line);

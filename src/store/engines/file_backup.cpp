@@ -40,7 +40,7 @@ public:
 
     sqlite3* handle() const { return file_.get(); }
 
-    /// Fails unless the result of a call on this file is that of a success.
+    /// Fails unless a call on this file has returned `success`.
     void need(int result, int success = SQLITE_OK) const
     {
         if (result != success)
@@ -94,7 +94,7 @@ void back_up(const QString& store, const QString& copy)
 void check_copy(const QString& path)
 {
     check_file_of_copy(path);
-    // Nobody writes to a copy. Without this mark, reading it would create files next to it.
+    // A copy is never written to. Without this parameter, reading it would create files next to it.
     const open_file copy(address_of(path) + u"?immutable=1", SQLITE_OPEN_READONLY);
     const QString verdict = copy.first_value("PRAGMA integrity_check(1)");
     if (verdict != u"ok")

@@ -89,7 +89,7 @@ void mariadb_engine::set_session(int lock_time_out_s) const
     // A commit begins no transaction, in which later changes would be lost, and a change needs no key,
     // whatever the defaults of the server are.
     run(u"set session completion_type = 'NO_CHAIN', session sql_safe_updates = 0"_s);
-    // The reads of a report see one moment, whatever the default of the server is.
+    // All reads of a report use one snapshot, whatever the default of the server is.
     run(u"set session transaction isolation level repeatable read"_s);
 }
 

@@ -25,11 +25,11 @@ public:
     /// What follows the columns in the statement that creates a table with that column.
     static QString ending(const table& declared);
 
-    /// The question for the columns of all tables of the database.
+    /// The query for the columns of all tables of the database.
     static QString question();
 
     mariadb_tables() = default;
-    /// From the rows of that question.
+    /// From the rows of that query.
     explicit mariadb_tables(QSqlQuery& columns);
 
     /// The columns that `select *` returns.

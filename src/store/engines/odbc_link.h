@@ -36,7 +36,7 @@ void open_link(const QString& connection, const QString& source, int time_out_s)
 /// The code of the engine in an error; 0 for an error of the driver manager.
 int native_code(const QSqlError& error);
 
-/// The text of an error without that of Qt.
+/// The text of an error from the driver, without the text that Qt adds.
 QString text_of(const QSqlError& error);
 
 }  // namespace verdane

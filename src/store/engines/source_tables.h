@@ -10,7 +10,7 @@
 /// The check of the tables that a registered source has.
 namespace verdane {
 
-/// A column of a table, with its type in the words of the engine and what it can hold.
+/// A column of a table, with the engine's name of its type, and the values that it can store.
 struct source_column {
     QString name;
     QString type = {};

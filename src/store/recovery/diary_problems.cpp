@@ -55,8 +55,8 @@ void find_in_structure(const diary_snapshot& diary, problem_list& problems)
     }
 }
 
-/// Rows of a table with several fixed rows are results of the last report. A single row has settings of the
-/// golfer; of two of them one would have to be chosen.
+/// A table with several fixed rows has the results of the last report, which can be replaced. A table with a
+/// single row has settings of the golfer: with two rows, the user must decide which one is right.
 bool can_renew(const table& fixed, int rows)
 {
     return fixed.fixed_rows > 1 || rows == 0;

@@ -30,7 +30,7 @@ struct diary_problem {
     bool in_structure = false;
     /// Shots without a round.
     bool lost_shots = false;
-    /// The windows cannot correct it: a copy must be put back.
+    /// The windows cannot correct it: a copy must be restored.
     bool needs_copy = false;
     repair_step step = repair_step::rows;
 };

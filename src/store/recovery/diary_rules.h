@@ -17,7 +17,7 @@ struct diary_rule {
     QString violations;
     /// Statements for every engine that repair all violations; empty if the user must decide how.
     QStringList repairs;
-    /// Whether the windows cannot correct a violation either, so that a copy must be put back.
+    /// True if the windows cannot correct a violation either, so that a copy must be restored.
     bool needs_copy = false;
 
     QString sentence() const { return in_language(sentence_french, sentence_english); }

@@ -10,8 +10,8 @@
 
 namespace verdane {
 
-/// The committed rows of every table of a store, copied into an in-memory SQLite, so that one SQL serves all
-/// engines. The store is open on the connection of `data_environment`, unless it is a file.
+/// The committed rows of every table of a store, copied into an in-memory SQLite, so that the same statements
+/// work on every engine. The store is open on the connection of `data_environment`, unless it is a file.
 class diary_snapshot {
 public:
     /// Fails like `copy_tables`.

@@ -14,7 +14,8 @@ QString keys_of(const QString& table)
     return u"(select trim(date) from "_s + table + u" where date is not null)";
 }
 
-/// Rows of rounds that are lost completely. Those of a round that has shots are used when it is made again.
+/// Rows whose key has neither a round nor shots. If the key has shots, a round can be made of them, and it
+/// uses these rows.
 QString without_round_and_shots(const QString& table)
 {
     return without_round(table) + u" and (date is null or trim(date) not in " + keys_of(u"Stat_rounds"_s) +

@@ -21,7 +21,7 @@ struct column_run {
     int first = 0;
     int step = 1;
 
-    /// `number` (a hole, a club or a band) counts from 1. A number beyond the last is not noticed.
+    /// `number` (a hole, a club or a band) counts from 1. A number beyond the last is not detected.
     constexpr int operator()(int number) const { return first + step * (number - 1); }
     /// For a group in parts, which count from 1, too.
     constexpr int operator()(int number, int part) const { return (*this)(number) + part - 1; }
