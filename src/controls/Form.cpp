@@ -31,7 +31,7 @@ std::vector<Form*>& open_forms()
 
 QWidget* parent_of_a_new_form()
 {
-    if (Form* opener = form_at_work())
+    if (Form* opener = active_form())
         return opener;
     return main_frame() ? main_frame()->frame_widget() : nullptr;
 }
@@ -87,7 +87,7 @@ void Form::show_modal()
 {
     if (!loaded_)
         return;
-    Form* opener = form_at_work();
+    Form* opener = active_form();
     setParent(parent_of_a_new_form(), windowFlags());
     open_forms().push_back(this);
     keep_on_screen(*this);
@@ -159,7 +159,7 @@ void Form::keyPressEvent(QKeyEvent* event)
         button->click();
 }
 
-Form* form_at_work()
+Form* active_form()
 {
     auto& forms = open_forms();
     const auto last =

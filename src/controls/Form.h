@@ -95,7 +95,7 @@ private:
 };
 
 /// The active window: the last one shown that is not unloaded; null when there is none.
-Form* form_at_work();
+Form* active_form();
 
 /// The open window of a family ("f_games"), either twin; null when there is none.
 Form* open_form(QStringView family);

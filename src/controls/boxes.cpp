@@ -21,7 +21,7 @@ void show_no_title(QWidget& box)
 
 }  // namespace
 
-QWidget* window_at_work()
+QWidget* active_window()
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;

@@ -9,7 +9,7 @@ namespace verdane {
 QString default_title();
 
 /// The parent of a message box: the modal window, else the active one; null when there is none.
-QWidget* window_at_work();
+QWidget* active_window();
 
 /// The content of a message box: a refusal, a notice or a question.
 struct message {
@@ -21,7 +21,7 @@ struct message {
 
 /// Shows the message box above its owner, waits until it is closed and returns the button that closed it. The
 /// owner is the active window afterwards.
-QMessageBox::StandardButton show_message(const message& what, QWidget* owner = window_at_work());
+QMessageBox::StandardButton show_message(const message& what, QWidget* owner = active_window());
 
 /// Shows a notice with an OK button.
 void show_information(const QString& text, QMessageBox::Icon icon = QMessageBox::NoIcon,

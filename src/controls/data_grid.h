@@ -49,7 +49,7 @@ public:
     }
     /// A text that is not valid in this column stays in its cell, selected and with the focus, until it is
     /// corrected or discarded by Escape. In other columns it is discarded. The bell rings in both cases.
-    void hold_refused_text(int column) { edited_.hold_refused_text(column); }
+    void keep_refused_text(int column) { edited_.keep_refused_text(column); }
 
     /// Opens the menu of the cell with the cursor, if it has one.
     void open_cell_menu();

@@ -19,7 +19,7 @@ bool edited_cell::refuses(int column, QChar key) const
     return filter != filters_.end() && filter->second(key) == key_answer::refuse;
 }
 
-void edited_cell::hold_refused_text(int column)
+void edited_cell::keep_refused_text(int column)
 {
     holding_columns_.insert(column);
 }

@@ -34,7 +34,7 @@ public:
     /// True if the filter of a column refuses the character.
     bool refuses(int column, QChar key) const;
     /// A text that is not valid in this column stays in its cell.
-    void hold_refused_text(int column);
+    void keep_refused_text(int column);
 
     /// The editor of a cell was created: applies the rules of its column.
     void watch(QLineEdit& editor, const QModelIndex& index);

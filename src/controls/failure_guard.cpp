@@ -49,7 +49,7 @@ std::optional<run_time_failure>& ignored_loss()
 
 void show(const run_time_failure& failure)
 {
-    const auto box = failure_box(failure, words_of(failure), window_at_work());
+    const auto box = failure_box(failure, words_of(failure), active_window());
     box->setObjectName(u"failure_box"_s);
     box->exec();
 }

@@ -30,7 +30,7 @@ private:
 };
 
 lock_box::lock_box()
-    : owner_(window_at_work()),
+    : owner_(active_window()),
       box_(QMessageBox::Information, default_title(),
            in_known_language(
                {u"Le journal est utilisé par un autre programme. Verdane attend qu'il soit libre.",

@@ -102,7 +102,7 @@ shot_grid::shot_grid(Form& window)
     setObjectName(u"details"_s);
     add_menus(window);
     set_key_filter(distance_column, digits_only);
-    hold_refused_text(distance_column);
+    keep_refused_text(distance_column);
     QHeaderView& heads = *horizontalHeader();
     heads.setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
     heads.setMinimumSectionSize(pixels(narrowest_column_twips));

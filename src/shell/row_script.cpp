@@ -42,7 +42,7 @@ QString notice()
 
 void show_notice(const QString& script, bool written)
 {
-    QMessageBox box(QMessageBox::Information, default_title(), notice(), QMessageBox::Ok, window_at_work());
+    QMessageBox box(QMessageBox::Information, default_title(), notice(), QMessageBox::Ok, active_window());
     box.setObjectName(u"row_script_box"_s);
     box.setTextFormat(Qt::PlainText);
     if (written)

@@ -107,7 +107,7 @@ private Q_SLOTS:
                  user.wait_for_window(u"f_trial"_s);
                  user.double_click(u"asker"_s);
                  user.answer(notice);
-                 user.wait_until_gone(u"message_box"_s);
+                 user.wait_until_closed(u"message_box"_s);
                  user.close_window(u"f_trial"_s);
              });
         QCOMPARE(window.notices, 1);
@@ -122,7 +122,7 @@ private Q_SLOTS:
                  user.click(u"opener"_s);
                  user.wait_for_window(u"f_child"_s);
                  user.close_window(u"f_child"_s);
-                 user.wait_until_gone(u"f_child"_s);
+                 user.wait_until_closed(u"f_child"_s);
                  user.close_window(u"f_trial"_s);
              });
         QCOMPARE(window.activations, 2);
@@ -212,12 +212,12 @@ private Q_SLOTS:
     {
         is_french = false;
         trial window(u"f_trial");
-        QCOMPARE(form_at_work(), nullptr);
+        QCOMPARE(active_form(), nullptr);
         play([&] { window.show_modal(); },
              [&](hand& user) {
                  user.wait_for_window(u"f_trial_en"_s);
                  user.look([&] {
-                     QCOMPARE(form_at_work(), &window);
+                     QCOMPARE(active_form(), &window);
                      QCOMPARE(open_form(u"f_trial"), &window);
                      QCOMPARE(open_form(u"f_other"), nullptr);
                  });

@@ -46,7 +46,7 @@ void store_averages(visit& now)
     now.user.click(u"enr"_s);
     now.answer(u"Désirez vous conservés ces moyennes ?", u"Do you want to keep these averages ?",
                QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, u"VERDANE"_s);
-    now.user.wait_until_gone(now.window(u"f_sticks"_s));
+    now.user.wait_until_closed(now.window(u"f_sticks"_s));
     check_averages(now);
 }
 

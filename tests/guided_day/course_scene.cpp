@@ -49,15 +49,15 @@ void enter_course(day& today)
     today.user.click(u"smdsave"_s);
     today.answer(u"Les modifications sont enregistrées.", u"Changes have been saved",
                  QMessageBox::Information);
-    today.user.wait_until_gone(today.window(u"f_courses"_s));
+    today.user.wait_until_closed(today.window(u"f_courses"_s));
     today.user.click(u"Command1_2"_s);
-    today.user.wait_until_gone(today.window(u"f_c_list"_s));
+    today.user.wait_until_closed(today.window(u"f_c_list"_s));
 
     today.user.menu(u"mManagF"_s);
     today.user.wait_for_window(today.window(u"f_c_list"_s));
     today.save_picture(u"f_c_list"_s, u"f_c_list"_s);
     today.user.click(u"Command1_2"_s);
-    today.user.wait_until_gone(today.window(u"f_c_list"_s));
+    today.user.wait_until_closed(today.window(u"f_c_list"_s));
 }
 
 }  // namespace verdane::guided_day

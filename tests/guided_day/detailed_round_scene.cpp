@@ -116,7 +116,7 @@ void enter_detailed_round(day& today)
                     u"gross of the detailed round"_s);
     today.save_picture(u"f_new_round"_s, u"f_new_round_detailed_18"_s);
     today.user.click(u"Command1_4"_s);
-    today.user.wait_until_gone(today.window(u"f_new_round"_s));
+    today.user.wait_until_closed(today.window(u"f_new_round"_s));
     check_round(today, round);
     check_shots(today);
     check_partner_and_costs(today);

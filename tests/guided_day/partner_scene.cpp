@@ -49,7 +49,7 @@ void add_partners(day& today)
     today.user.key(Qt::Key_Up);
     today.save_picture(u"f_partners"_s, u"f_partners"_s);
     today.user.click(u"cmdSave"_s);
-    today.user.wait_until_gone(today.window(u"f_partners"_s));
+    today.user.wait_until_closed(today.window(u"f_partners"_s));
     for (const person& partner : people_of(today)) {
         const QString stored = u"select count(*) from partners where name = %1 and surname = %2 "
                                u"and ad2 = %3 and code > 0"_s.arg(

@@ -22,7 +22,7 @@ void add_last_round_of_day(day& today)
     today.user.key(Qt::Key_Return);
     today.user.type(u"l"_s);
     today.user.click(u"Command1_4"_s);
-    today.user.wait_until_gone(today.window(u"f_new_round"_s));
+    today.user.wait_until_closed(today.window(u"f_new_round"_s));
 }
 
 int rounds_stored(const day& today)
@@ -54,7 +54,7 @@ void remove_round(day& today)
     today.answer(u"Ronde supprimée", u"Round removed", QMessageBox::Information);
     today.user.same(static_cast<int>(today.user.entries(u"List1"_s).size()), last, u"rounds in the list"_s);
     today.user.click(u"Command1_2"_s);
-    today.user.wait_until_gone(today.window(u"f_games"_s));
+    today.user.wait_until_closed(today.window(u"f_games"_s));
     today.user.same(rounds_stored(today), before, u"rows after the removal"_s);
 }
 

@@ -50,7 +50,7 @@ void save_report(visit& now, const QString& name)
     now.user.check(begins_with(pdf, "%PDF-"), pdf + u" is no PDF file");
     save(now, u"save_csv"_s, report + u".csv");
     now.user.close_window(preview);
-    now.user.wait_until_gone(preview);
+    now.user.wait_until_closed(preview);
     activate_window_below(now);
 }
 

@@ -33,7 +33,7 @@ void enter_round(day& today)
                     u"gross of the round"_s);
     today.save_picture(u"f_new_round"_s, u"f_new_round_18"_s);
     today.user.click(u"Command1_4"_s);
-    today.user.wait_until_gone(today.window(u"f_new_round"_s));
+    today.user.wait_until_closed(today.window(u"f_new_round"_s));
 }
 
 void reopen_round(day& today)
@@ -51,7 +51,7 @@ void reopen_round(day& today)
     today.answer(u"Voulez vous enregistrer les modifications avant de sortir ? ",
                  u"Do you want to save your changes prior to exit?", QMessageBox::NoIcon,
                  QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::No, QString());
-    today.user.wait_until_gone(today.window(u"f_new_round"_s));
+    today.user.wait_until_closed(today.window(u"f_new_round"_s));
 }
 
 }  // namespace verdane::guided_day

@@ -29,7 +29,7 @@ void enter_costs(day& today, int fee, int meal, const QString& picture)
     if (!picture.isEmpty())
         today.save_picture(u"f_cost"_s, picture);
     today.user.click(u"OKButton"_s);
-    today.user.wait_until_gone(today.window(u"f_cost"_s));
+    today.user.wait_until_closed(today.window(u"f_cost"_s));
     today.user.same(today.user.text(u"text_7"_s), QString::number(fee + meal), u"costs of the round"_s);
 }
 
@@ -47,7 +47,7 @@ void tee_off(day& today, const QString& hours, const QString& minutes, const QSt
         u"Cette date est définitive. Êtes vous sûr de la date et l'heure enregistrée ? ",
         u"You will not be able to change this date afterwards. Do you want to use this date and time? ",
         QMessageBox::NoIcon, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
-    today.user.wait_until_gone(u"f_get_date"_s);
+    today.user.wait_until_closed(u"f_get_date"_s);
 }
 
 }  // namespace verdane::guided_day

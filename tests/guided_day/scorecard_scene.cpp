@@ -35,7 +35,7 @@ void print_scorecard(visit& now)
                                    u"(select avg_1 from sticks)"_s),
                   2, u"lines of the scorecard"_s);
     now.user.click(u"Command1_1"_s);
-    now.user.wait_until_gone(now.window(u"f_carte"_s));
+    now.user.wait_until_closed(now.window(u"f_carte"_s));
 }
 
 }  // namespace verdane::guided_day

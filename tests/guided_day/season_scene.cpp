@@ -37,7 +37,7 @@ void print(visit& now, const statistic& one)
     now.user.same(now.store.number(u"select round_count from %1 limit 1"_s.arg(one.table)), rounds_of_season,
                   u"rounds in the report on " + one.name);
     now.user.click(u"CancelButton"_s);
-    now.user.wait_until_gone(now.window(u"f_date_range"_s));
+    now.user.wait_until_closed(now.window(u"f_date_range"_s));
 }
 
 }  // namespace

@@ -55,13 +55,13 @@ void show_main_and_about_window(day& today)
     today.user.menu(u"maprop"_s);
     today.save_picture(u"f_about"_s, u"f_about"_s);
     today.user.click(u"cmdOK"_s);
-    today.user.wait_until_gone(today.window(u"f_about"_s));
+    today.user.wait_until_closed(today.window(u"f_about"_s));
 }
 
 void leave_program(visit& now)
 {
     now.user.menu(u"mQuit"_s);
-    now.user.wait_until_gone(u"MainForm"_s);
+    now.user.wait_until_closed(u"MainForm"_s);
 }
 
 }  // namespace verdane::guided_day

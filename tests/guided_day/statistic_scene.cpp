@@ -30,7 +30,7 @@ void print_statistic(day& today)
                  u"calculate summary statistics.");
     save_report(today, u"day"_s);
     today.user.click(u"CancelButton"_s);
-    today.user.wait_until_gone(today.window(u"f_date_range"_s));
+    today.user.wait_until_closed(today.window(u"f_date_range"_s));
 }
 
 }  // namespace verdane::guided_day

@@ -235,7 +235,7 @@ private:
                      QMessageBox::NoIcon, QString(),
                      QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
                     QMessageBox::No);
-        user.wait_until_gone(round_window_name());
+        user.wait_until_closed(round_window_name());
     }
 };
 

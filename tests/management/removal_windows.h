@@ -70,7 +70,7 @@ inline void in_list(const std::function<void(hand&)>& script)
          [&](hand& user) {
              user.wait_for_window(list_window());
              script(user);
-             user.wait_until_gone(list_window());
+             user.wait_until_closed(list_window());
          });
 }
 

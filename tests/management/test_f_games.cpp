@@ -10,7 +10,7 @@
 #include "tests/support/recording_frame.h"
 #include "tests/support/store_folder.h"
 #include "tests/support/stored_diary.h"
-#include "tests/support/ways_out.h"
+#include "tests/support/ways_to_close.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -51,7 +51,7 @@ void in_list(const std::function<void(hand&)>& script)
         user.wait_for_window(list_window());
         script(user);
         user.click(u"Command1_2"_s);
-        user.wait_until_gone(list_window());
+        user.wait_until_closed(list_window());
     });
 }
 
@@ -146,7 +146,8 @@ private Q_SLOTS:
 
     void closing_in_any_way_closes_the_recordsets_and_unlocks_the_menu_data()
     {
-        every_way_out(ways_out(list_window, {{"OK", [](hand& user) { user.click(u"Command1_2"_s); }}}));
+        every_way_to_close(
+            ways_to_close(list_window, {{"OK", [](hand& user) { user.click(u"Command1_2"_s); }}}));
     }
     void closing_in_any_way_closes_the_recordsets_and_unlocks_the_menu()
     {
@@ -161,9 +162,9 @@ private Q_SLOTS:
                 user.check(frame.locked, u"the menu is locked"_s);
                 user.check(data_environment().rsgames.is_open() && data_environment().rsfield_info.is_open(),
                            u"both recordsets are open"_s);
-                user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
+                user.look([&] { user.check(current_form == active_form(), u"current_form"_s); });
                 leave(user);
-                user.wait_until_gone(list_window());
+                user.wait_until_closed(list_window());
             });
             QCOMPARE(open_recordsets(), QStringList());
             QVERIFY(!frame.locked);

@@ -22,7 +22,7 @@ void start_at_the_moment_of_the_removed_round(hand& user)
 
 void quit(hand& user)
 {
-    user.wait_until_gone(round_window());
+    user.wait_until_closed(round_window());
     user.menu(u"mQuit"_s);
 }
 
@@ -50,7 +50,7 @@ private Q_SLOTS:
             user.wait_for_window(list_window());
             remove_round_in_list(user);
             leave_list(user);
-            user.wait_until_gone(list_window());
+            user.wait_until_closed(list_window());
             start_at_the_moment_of_the_removed_round(user);
             user.answer(refusal_of_moment());
             user.key(Qt::Key_Escape);

@@ -58,7 +58,7 @@ void from_list(const std::function<void(hand&)>& script)
         [&](hand& user) {
             user.wait_for_window(list_window());
             script(user);
-            user.wait_until_gone(list_window());
+            user.wait_until_closed(list_window());
         });
 }
 
@@ -112,7 +112,7 @@ private Q_SLOTS:
         });
         QCOMPARE(open_recordsets(), QStringList());
         QVERIFY(!store.frame.locked);
-        QVERIFY(form_at_work() == nullptr);
+        QVERIFY(active_form() == nullptr);
         QVERIFY(store.frame.activations > 0);
         QCOMPARE(data_environment().rsStat_rounds.Source(), u"select * from stat_rounds"_s);
     }
@@ -230,12 +230,12 @@ private Q_SLOTS:
             user.click(u"Command1_1"_s);
             user.wait_for_window(u"f_get_date"_s);
             user.close_window(u"f_get_date"_s);
-            user.wait_until_gone(round_window());
+            user.wait_until_closed(round_window());
         });
         for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s})
             QCOMPARE(store.number(u"select count(*) from " + table), 3);
         QCOMPARE(open_recordsets(), QStringList());
-        QVERIFY(form_at_work() == nullptr);
+        QVERIFY(active_form() == nullptr);
     }
 };
 

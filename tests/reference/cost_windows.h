@@ -57,7 +57,7 @@ inline void in_costs(cost_store& store, const std::function<void(hand&)>& script
         [&](hand& user) {
             user.wait_for_window(cost_window());
             script(user);
-            user.wait_until_gone(cost_window());
+            user.wait_until_closed(cost_window());
         });
 }
 

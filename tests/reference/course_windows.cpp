@@ -52,7 +52,7 @@ void in_course_list_until_ok(const std::function<void(hand&)>& script)
         script(user);
         user.wait_for_window(list_window());
         user.click(u"Command1_2"_s);
-        user.wait_until_gone(list_window());
+        user.wait_until_closed(list_window());
     });
 }
 
@@ -62,7 +62,7 @@ void in_new_course(const std::function<void(hand&)>& script)
         user.click(u"Command1_1"_s);
         user.wait_for_window(editor_window());
         script(user);
-        user.wait_until_gone(editor_window());
+        user.wait_until_closed(editor_window());
     });
 }
 
@@ -73,7 +73,7 @@ void in_stored_course(int line, const std::function<void(hand&)>& script)
         user.click(u"Command1_0"_s);
         user.wait_for_window(editor_window());
         script(user);
-        user.wait_until_gone(editor_window());
+        user.wait_until_closed(editor_window());
     });
 }
 
@@ -81,7 +81,7 @@ void discard(hand& user)
 {
     user.click(u"cmdan"_s);
     user.answer(question_on_closing(), QMessageBox::No);
-    user.wait_until_gone(editor_window());
+    user.wait_until_closed(editor_window());
 }
 
 void fill_required(hand& user, const QString& name)

@@ -66,7 +66,7 @@ void in_bag(const std::function<void(hand&)>& script)
         [&](hand& user) {
             user.wait_for_window(bag_window());
             script(user);
-            user.wait_until_gone(bag_window());
+            user.wait_until_closed(bag_window());
         });
     QVERIFY(open_recordsets().isEmpty());
 }

@@ -40,7 +40,7 @@ void in_partners(const std::function<void(hand&)>& script)
     play(show_partners, [&](hand& user) {
         user.wait_for_window(partner_window());
         script(user);
-        user.wait_until_gone(partner_window());
+        user.wait_until_closed(partner_window());
     });
 }
 

@@ -8,7 +8,7 @@
 #include "reference/f_sticks.h"
 #include "tests/reference/golf_bags.h"
 #include "tests/support/recording_frame.h"
-#include "tests/support/ways_out.h"
+#include "tests/support/ways_to_close.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -104,16 +104,16 @@ private Q_SLOTS:
         in_bag([&](hand& user) {
             user.look([&] {
                 user.check(frame.locked, u"the menu is locked"_s);
-                user.check(current_form == form_at_work(), u"current_form"_s);
-                QCOMPARE(form_at_work()->width(), pixels(7000));
-                QVERIFY(!scrolls(*form_at_work()));
-                QCOMPARE(form_at_work()->y(), 80 + 40 / 15);
+                user.check(current_form == active_form(), u"current_form"_s);
+                QCOMPARE(active_form()->width(), pixels(7000));
+                QVERIFY(!scrolls(*active_form()));
+                QCOMPARE(active_form()->y(), 80 + 40 / 15);
             });
             user.click(u"Command1"_s);
             user.look([&] {
-                QCOMPARE(form_at_work()->width(), pixels(10605));
-                QVERIFY(!scrolls(*form_at_work()));
-                QCOMPARE(form_at_work()->y(), 80);
+                QCOMPARE(active_form()->width(), pixels(10605));
+                QVERIFY(!scrolls(*active_form()));
+                QCOMPARE(active_form()->y(), 80);
             });
             user.click(u"Fer"_s);
         });
@@ -142,8 +142,8 @@ private Q_SLOTS:
 
     void closing_in_any_way_except_OK_discards_the_changes_data()
     {
-        every_way_out(
-            ways_out(bag_window, {{"the cancel button", [](hand& user) { user.click(u"Fer"_s); }}}));
+        every_way_to_close(
+            ways_to_close(bag_window, {{"the cancel button", [](hand& user) { user.click(u"Fer"_s); }}}));
     }
     void closing_in_any_way_except_OK_discards_the_changes()
     {

@@ -170,7 +170,7 @@ private Q_SLOTS:
         in_stored_course(1, [&](hand& user) {
             change(user);
             user.close_window(editor_window());
-            user.wait_until_gone(editor_window());
+            user.wait_until_closed(editor_window());
             user.check(!store.frame.locked, u"the menu is unlocked"_s);
         });
         QCOMPARE(figures(store), figures_before);
@@ -193,7 +193,7 @@ private Q_SLOTS:
             user.key(Qt::Key_Escape);
             user.answer(question_on_closing(), QMessageBox::Yes);
             user.answer(notice_of_save());
-            user.wait_until_gone(editor_window());
+            user.wait_until_closed(editor_window());
         });
         for (int hole = 1; hole <= 18; ++hole)
             QCOMPARE(store.text(u"select yards_%1 || ' ' || hcp_%1 || ' ' || par_%1 from field_info "
@@ -235,7 +235,7 @@ private Q_SLOTS:
                 QVERIFY(!window.needtosave());
             });
             user.key(Qt::Key_W, Qt::ControlModifier);
-            user.wait_until_gone(editor_window());
+            user.wait_until_closed(editor_window());
             user.check(!store.frame.locked, u"the menu is unlocked"_s);
         });
         QCOMPARE(figures(store), figures_after);
@@ -278,7 +278,7 @@ private Q_SLOTS:
             user.fill(u"text_0"_s, u"55"_s);
             save_by_shortcut(user);
             user.key(Qt::Key_W, Qt::ControlModifier);
-            user.wait_until_gone(editor_window());
+            user.wait_until_closed(editor_window());
         });
         QCOMPARE(store.text(u"select group_concat(code || ' ' || slope, '|') from vrd_fields"_s),
                  u"DELTA-0 55"_s);

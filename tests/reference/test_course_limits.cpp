@@ -68,7 +68,7 @@ void open_a_line_without_a_row(const reader& store)
     add_courses(store, 1);
     in_course_list([](hand& user) {
         user.look([] {
-            auto& lines = find_control<QListWidget>(*form_at_work(), u"List1"_s);
+            auto& lines = find_control<QListWidget>(*active_form(), u"List1"_s);
             lines.addItem(u"Ghost, BLANC"_s);
             lines.setCurrentRow(1);
         });

@@ -165,7 +165,7 @@ private Q_SLOTS:
                 user.close_window(list_window());
             else
                 user.click(u"Command1_2"_s);
-            user.wait_until_gone(list_window());
+            user.wait_until_closed(list_window());
         });
         QVERIFY(!store.frame.locked);
         QCOMPARE(store.frame.activations, 1);
@@ -191,7 +191,7 @@ private Q_SLOTS:
         const course_store store;
         in_course_list([](hand& user) {
             user.look([] { run_event([] { current_form->closeForm(); }); });
-            user.wait_until_gone(list_window());
+            user.wait_until_closed(list_window());
         });
         QVERIFY(!store.frame.locked);
     }

@@ -17,7 +17,7 @@ void save_by_ok(hand& user)
 {
     user.click(u"smdsave"_s);
     user.answer(notice_of_save());
-    user.wait_until_gone(editor_window());
+    user.wait_until_closed(editor_window());
 }
 
 QString course_line(const course_store& store, const QString& where = u"1"_s)
@@ -194,7 +194,7 @@ private Q_SLOTS:
             user.click(u"smdsave"_s);
             user.answer(refusal_of_duplicate(u"Delta"_s, u"Blanc"_s));
             user.answer(question_on_closing(), QMessageBox::No);
-            user.wait_until_gone(editor_window());
+            user.wait_until_closed(editor_window());
         });
         QCOMPARE(store.number(u"select count(*) from vrd_fields"_s), 1);
     }
@@ -326,7 +326,7 @@ private Q_SLOTS:
                  user.click(u"smdsave"_s);
                  user.answer({u"Fatal Error : 101"_s, QMessageBox::NoIcon, u"Verdane"_s, QMessageBox::Ok});
                  user.answer(notice_of_save());
-                 user.wait_until_gone(editor_window());
+                 user.wait_until_closed(editor_window());
              });
         QCOMPARE(store.text(u"select slope from vrd_fields where code = 'ALPHA-0'"_s), u"99"_s);
     }

@@ -6,7 +6,7 @@
 #include "reference/f_partners.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"
-#include "tests/support/ways_out.h"
+#include "tests/support/ways_to_close.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -17,10 +17,10 @@ namespace {
 
 const QString grid = u"pgrid"_s;
 
-std::vector<way_out> ways()
+std::vector<way_to_close> ways()
 {
-    return ways_out(partner_window,
-                    {{"OK", accept_partners}, {"Cancel", [](hand& user) { user.click(u"cmdAn"_s); }}});
+    return ways_to_close(partner_window,
+                         {{"OK", accept_partners}, {"Cancel", [](hand& user) { user.click(u"cmdAn"_s); }}});
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ private Q_SLOTS:
         });
     }
 
-    void closing_in_any_way_unlocks_the_menu_and_closes_the_recordset_data() { every_way_out(ways()); }
+    void closing_in_any_way_unlocks_the_menu_and_closes_the_recordset_data() { every_way_to_close(ways()); }
     void closing_in_any_way_unlocks_the_menu_and_closes_the_recordset()
     {
         QFETCH(leaving, leave);
@@ -56,7 +56,7 @@ private Q_SLOTS:
         for (int time = 0; time < 2; ++time) {
             in_partners([&](hand& user) {
                 user.check(store.frame.locked, u"the menu is locked"_s);
-                user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
+                user.look([&] { user.check(current_form == active_form(), u"current_form"_s); });
                 user.check(data_environment().rspartners.is_open(), u"rspartners is open"_s);
                 leave(user);
             });
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(store.rows(), u"Cedar,Cleo,3 | Alder,Ann,1 | Birch,Bob,2"_s);
     }
 
-    void an_empty_table_closes_without_a_message_data() { every_way_out(ways()); }
+    void an_empty_table_closes_without_a_message_data() { every_way_to_close(ways()); }
     void an_empty_table_closes_without_a_message()
     {
         QFETCH(leaving, leave);
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(!store.frame.locked);
     }
 
-    void closing_in_any_way_stores_what_was_typed_data() { every_way_out(ways()); }
+    void closing_in_any_way_stores_what_was_typed_data() { every_way_to_close(ways()); }
     void closing_in_any_way_stores_what_was_typed()
     {
         QFETCH(leaving, leave);
@@ -99,7 +99,7 @@ private Q_SLOTS:
     {
         auto some = ways();
         some.resize(3);
-        every_way_out(some);
+        every_way_to_close(some);
     }
     void a_text_that_is_being_typed_is_stored()
     {
@@ -130,7 +130,7 @@ private Q_SLOTS:
         });
     }
 
-    void rsgames_is_closed_with_the_window_if_it_was_open_data() { every_way_out(ways()); }
+    void rsgames_is_closed_with_the_window_if_it_was_open_data() { every_way_to_close(ways()); }
     void rsgames_is_closed_with_the_window_if_it_was_open()
     {
         QFETCH(leaving, leave);

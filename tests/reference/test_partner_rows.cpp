@@ -264,7 +264,7 @@ private Q_SLOTS:
         in_partners([](hand& user) {
             const QStringList people[] = {{u"Alder"_s, u"Ann"_s}, {u"Birch"_s, u"Bob"_s}};
             for (const QStringList& person : people) {
-                user.look([] { form_at_work()->findChild<QWidget*>(u"add"_s)->setFocus(); });
+                user.look([] { active_form()->findChild<QWidget*>(u"add"_s)->setFocus(); });
                 user.key(Qt::Key_Return);
                 user.type(person[0]);
                 user.key(Qt::Key_Tab);

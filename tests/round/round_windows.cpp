@@ -81,7 +81,7 @@ void in_keyed_round(const std::function<void(hand&)>& script)
             return focused && focused->objectName() == u"text_vrd_0";
         });
         script(user);
-        user.wait_until_gone(round_window());
+        user.wait_until_closed(round_window());
     });
 }
 
@@ -96,7 +96,7 @@ void in_stored_round(const QString& key, const std::function<void(hand&)>& scrip
              [&](hand& user) {
                  user.wait_for_window(round_window());
                  script(user);
-                 user.wait_until_gone(round_window());
+                 user.wait_until_closed(round_window());
              });
 }
 
@@ -126,20 +126,20 @@ void tee_off(hand& user, const QString& hours, const QString& minutes, const QSt
 {
     fill_tee_off(user, hours, minutes, seconds);
     user.answer(question_on_tee_off(), QMessageBox::Yes);
-    user.wait_until_gone(u"f_get_date"_s);
+    user.wait_until_closed(u"f_get_date"_s);
 }
 
 void discard(hand& user)
 {
     user.click(u"Command1_2"_s);
     user.answer(question_on_closing(), QMessageBox::No);
-    user.wait_until_gone(round_window());
+    user.wait_until_closed(round_window());
 }
 
 void accept(hand& user)
 {
     user.click(u"Command1_4"_s);
-    user.wait_until_gone(round_window());
+    user.wait_until_closed(round_window());
 }
 
 void with_round(hand& user, const std::function<void(f_new_round&)>& routine)

@@ -171,7 +171,7 @@ private Q_SLOTS:
             user.wait_for_window(u"f_cost"_s);
             user.fill(u"cost_0"_s, u"25"_s);
             user.click(u"OKButton"_s);
-            user.wait_until_gone(u"f_cost"_s);
+            user.wait_until_closed(u"f_cost"_s);
             user.wait_for_window(round_window());
             user.same(user.text(u"text_7"_s), u"25"_s, u"costs"_s);
             user.same(user.cursor(details), u"2,3"_s, u"cursor"_s);
@@ -191,7 +191,7 @@ private Q_SLOTS:
             enter_shot(user, 0, 3, QString(), 0);
             user.click(u"Command2"_s);
             user.close_window(u"f_cost"_s);
-            user.wait_until_gone(u"f_cost"_s);
+            user.wait_until_closed(u"f_cost"_s);
             user.wait_for_window(round_window());
             user.same(user.cell(details, 0, 2), u"F3"_s, u"club"_s);
             with_round(user, [](f_new_round& window) { window.unload(); });

@@ -31,7 +31,7 @@ void leave(hand& user, const QString& way)
     user.answer(question_on_closing(), yes ? QMessageBox::Yes : QMessageBox::No);
     if (yes)
         user.answer(notice_of_save());
-    user.wait_until_gone(round_window());
+    user.wait_until_closed(round_window());
 }
 
 /// The number of rows in games, games2, cost and Stat_rounds.

@@ -25,14 +25,14 @@ void type_too_far(hand& user)
     user.type(too_far);
 }
 
-using way_out = std::function<void(hand&)>;
+using way_to_close = std::function<void(hand&)>;
 
-way_out by_key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+way_to_close by_key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     return [=](hand& user) { user.key(key, modifiers); };
 }
 
-way_out by_click(const char* control)
+way_to_close by_click(const char* control)
 {
     return [name = QString::fromLatin1(control)](hand& user) { user.click(name); };
 }
@@ -56,12 +56,12 @@ void rows_of_clicks()
          {"Command1_4", "Command1_2", "CommandSuiv", "CommandSup", "Command2", "Command4", "b_putts",
           "cmb_courses", "cmb_holes", "conditions", "Text1", "pList"})
         QTest::newRow(control) << by_click(control);
-    QTest::newRow("a hole tab") << way_out([](hand& user) { user.click_tab(hole_tabs, 2); });
-    QTest::newRow("a page tab") << way_out([](hand& user) { open_quick_page(user); });
-    QTest::newRow("another cell") << way_out([](hand& user) { user.click_cell(details, 0, 4); });
-    QTest::newRow("a cell with a menu") << way_out([](hand& user) { user.click_cell(details, 0, 5); });
-    QTest::newRow("a partner") << way_out([](hand& user) { user.click_row(u"pList"_s, 0); });
-    QTest::newRow("the title bar") << way_out([](hand& user) { user.close_window(round_window()); });
+    QTest::newRow("a hole tab") << way_to_close([](hand& user) { user.click_tab(hole_tabs, 2); });
+    QTest::newRow("a page tab") << way_to_close([](hand& user) { open_quick_page(user); });
+    QTest::newRow("another cell") << way_to_close([](hand& user) { user.click_cell(details, 0, 4); });
+    QTest::newRow("a cell with a menu") << way_to_close([](hand& user) { user.click_cell(details, 0, 5); });
+    QTest::newRow("a partner") << way_to_close([](hand& user) { user.click_row(u"pList"_s, 0); });
+    QTest::newRow("the title bar") << way_to_close([](hand& user) { user.close_window(round_window()); });
 }
 
 /// The state that leaving the cell could change.
@@ -82,7 +82,7 @@ QString state_of(hand& user)
 
 }  // namespace
 
-Q_DECLARE_METATYPE(way_out)
+Q_DECLARE_METATYPE(way_to_close)
 
 /// A distance of more than 32,767 stays in its cell until it is corrected or discarded.
 class test_distance_limits : public QObject {
@@ -91,13 +91,13 @@ class test_distance_limits : public QObject {
 private Q_SLOTS:
     void leaving_the_cell_neither_commits_nor_discards_the_distance_data()
     {
-        QTest::addColumn<way_out>("leave");
+        QTest::addColumn<way_to_close>("leave");
         rows_of_keys();
         rows_of_clicks();
     }
     void leaving_the_cell_neither_commits_nor_discards_the_distance()
     {
-        QFETCH(way_out, leave);
+        QFETCH(way_to_close, leave);
         const golfer_store round;
         round.store.add_partner(u"Ann"_s, u"Berg"_s, 77);
         in_keyed_round([&](hand& user) {

@@ -50,7 +50,7 @@ private Q_SLOTS:
             user.same(user.focus(), u"Command1_4"_s, u"focus"_s);
             user.same(boxes(user), u"1 2 3 4 5 6 7 8 9 1 0"_s, u"boxes"_s);
             user.key(Qt::Key_Return);
-            user.wait_until_gone(round_window());
+            user.wait_until_closed(round_window());
         });
         QCOMPARE(store.of_round(u"games"_s, u"long_1 || approach_1 || putt_1 || missed_1 || pen_water_1 || "
                                             u"pen_lost_1 || pen_rule_1 || pen_bounds_1"_s),

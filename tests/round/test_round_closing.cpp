@@ -43,7 +43,7 @@ void accept_costs(hand& user, const QString& amount)
     user.wait_for_window(u"f_cost"_s);
     user.fill(u"cost_0"_s, amount);
     user.click(u"OKButton"_s);
-    user.wait_until_gone(u"f_cost"_s);
+    user.wait_until_closed(u"f_cost"_s);
     user.wait_for_window(round_window());
 }
 
@@ -215,7 +215,7 @@ private Q_SLOTS:
             user.wait_for_window(u"f_cost"_s);
             user.same(user.text(u"cost_0"_s), u"25"_s, u"amount"_s);
             user.click(u"OKButton"_s);
-            user.wait_until_gone(u"f_cost"_s);
+            user.wait_until_closed(u"f_cost"_s);
             accept(user);
         });
         QCOMPARE(store.text(u"select group_concat(fg) from cost"_s), u"25,0"_s);
@@ -261,7 +261,7 @@ private Q_SLOTS:
                  user.wait_for_window(u"f_games"_s);
                  in_stored_round_over(user, key_of_keyed_round());
                  user.wait_for_window(round_window());
-                 user.wait_until_gone(u"f_games"_s);
+                 user.wait_until_closed(u"f_games"_s);
                  discard(user);
              });
         QVERIFY(!list.is_loaded());

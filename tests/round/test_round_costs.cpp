@@ -27,7 +27,7 @@ void open_costs(hand& user)
 void leave_costs_by_the_close_box(hand& user)
 {
     user.close_window(cost_window());
-    user.wait_until_gone(cost_window());
+    user.wait_until_closed(cost_window());
     user.wait_for_window(round_window());
 }
 

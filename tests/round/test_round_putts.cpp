@@ -39,7 +39,7 @@ void close_report(hand& user)
         QCOMPARE(preview->parentWidget()->objectName(), round_window());
         preview->close();
     });
-    user.wait_until_gone(report);
+    user.wait_until_closed(report);
 }
 
 void check_control(hand& user)
@@ -216,7 +216,7 @@ private Q_SLOTS:
             user.click(button);
             user.wait_until(u"the report"_s, [] { return visible_window(report) != nullptr; });
             discard(user);
-            user.wait_until_gone(report);
+            user.wait_until_closed(report);
         });
     }
 };

@@ -195,8 +195,8 @@ private Q_SLOTS:
                 user.key(Qt::Key_Escape);
             else
                 user.close_window(dialog);
-            user.wait_until_gone(dialog);
-            user.wait_until_gone(round_window());
+            user.wait_until_closed(dialog);
+            user.wait_until_closed(round_window());
         });
         QCOMPARE(rows_in(store), 0);
         QCOMPARE(plain(Main_module::round_key_count), 0);

@@ -41,7 +41,7 @@ void play_round(hand& user)
     user.fill(u"text_vrd_0"_s, u"7"_s);
     user.click_tab(hole_tabs, 18);
     accept(user);
-    user.wait_until_gone(round_window());
+    user.wait_until_closed(round_window());
 }
 
 /// Every row of every table; a row without its identity.

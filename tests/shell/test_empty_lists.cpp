@@ -60,13 +60,13 @@ private Q_SLOTS:
             user.wait_for_window(courses);
             expect_text(user, courses, u"List1"_s, in_language(u"Aucun terrain", u"No golf course"));
             user.click(u"Command1_2"_s);
-            user.wait_until_gone(courses);
+            user.wait_until_closed(courses);
             const QString partners = in_language(u"f_partners", u"f_partners_en");
             user.menu(u"mpartners"_s);
             user.wait_for_window(partners);
             expect_text(user, partners, u"pgrid"_s, in_language(u"Aucun partenaire", u"No partner"));
             user.key(Qt::Key_Escape);
-            user.wait_until_gone(partners);
+            user.wait_until_closed(partners);
         });
     }
 
@@ -83,7 +83,7 @@ private Q_SLOTS:
             user.answer(notice_of_removal());
             expect_text(user, list_window(), u"List1"_s, in_language(u"Aucune ronde", u"No round"));
             user.click(u"Command1_2"_s);
-            user.wait_until_gone(list_window());
+            user.wait_until_closed(list_window());
         });
     }
 
@@ -104,7 +104,7 @@ private Q_SLOTS:
                          QMessageBox::NoIcon, QString(),
                          QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
                         QMessageBox::No);
-            user.wait_until_gone(round);
+            user.wait_until_closed(round);
         });
     }
 

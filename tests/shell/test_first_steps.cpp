@@ -62,7 +62,7 @@ private Q_SLOTS:
         in_main_window(1, one_course(), [](hand& user) {
             user.menu(u"mManagF"_s);
             user.click(u"Command1_2"_s);
-            user.wait_until_gone(u"f_c_list"_s);
+            user.wait_until_closed(u"f_c_list"_s);
             user.look([] { QVERIFY(!are_visible()); });
         });
     }
@@ -76,7 +76,7 @@ private Q_SLOTS:
             const auto open_and_close_courses = [&] {
                 user.menu(u"mManagF"_s);
                 user.click(u"Command1_2"_s);
-                user.wait_until_gone(u"f_c_list"_s);
+                user.wait_until_closed(u"f_c_list"_s);
             };
             run.store().write(one_course());
             open_and_close_courses();

@@ -57,7 +57,7 @@ void opens(hand& user, const QString& window, const QString& french_title, const
 void closes(hand& user, const QString& window)
 {
     user.close_window(twin_of(window));
-    user.wait_until_gone(twin_of(window));
+    user.wait_until_closed(twin_of(window));
 }
 
 void open_each_entry(hand& user)
@@ -86,7 +86,7 @@ void leave_the_round(hand& user)
                              u"Do you want to save your changes prior to exit?"),
                  QMessageBox::NoIcon, QString(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
                 QMessageBox::No);
-    user.wait_until_gone(twin_of(u"f_new_round"_s));
+    user.wait_until_closed(twin_of(u"f_new_round"_s));
 }
 
 void open_a_stored_round_and_its_costs(hand& user)
@@ -111,8 +111,8 @@ void open_a_new_round(hand& user)
         user.check(verdane::testing::visible_window(twin_of(u"f_new_round"_s)) != nullptr, u"round window"_s);
     });
     user.click(u"Command1"_s);
-    user.wait_until_gone(u"f_get_date"_s);
-    user.wait_until_gone(twin_of(u"f_new_round"_s));
+    user.wait_until_closed(u"f_get_date"_s);
+    user.wait_until_closed(twin_of(u"f_new_round"_s));
 }
 
 void open_every_window(hand& user)

@@ -38,7 +38,7 @@ void open_round(hand& user, const QString& suffix)
 void close_round(hand& user, const QString& suffix)
 {
     user.click(u"Command1_4"_s);
-    user.wait_until_gone(u"f_new_round" + suffix);
+    user.wait_until_closed(u"f_new_round" + suffix);
     user.menu(u"mQuit"_s);
 }
 
@@ -124,7 +124,7 @@ private Q_SLOTS:
                       u"the notice"_s);
             keep_picture_of_notice(user, suffix);
             other.release();
-            user.wait_until_gone(notice);
+            user.wait_until_closed(notice);
             user.same(figure(run, u"long_1"_s), 1, u"long shots"_s);
             user.same(figure(run, u"fairway_1"_s), 4, u"fairways"_s);
             // The focus is in the first box of the next hole.
@@ -150,7 +150,7 @@ private Q_SLOTS:
                 user.key(key);
             user.check(user.is_open(notice), u"the notice is still open"_s);
             other.release();
-            user.wait_until_gone(notice);
+            user.wait_until_closed(notice);
             user.same(user.text(u"text_vrd_0"_s), u"0"_s, u"box"_s);
             close_round(user, u"_en"_s);
         });
@@ -175,7 +175,7 @@ private Q_SLOTS:
             });
             user.wait_until(u"the round window to be painted"_s, [&] { return painted.count > 0; });
             other.release();
-            user.wait_until_gone(notice);
+            user.wait_until_closed(notice);
             user.look([&] { visible_window(u"f_new_round_en"_s)->removeEventFilter(&painted); });
             close_round(user, u"_en"_s);
         });

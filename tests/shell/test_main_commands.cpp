@@ -97,7 +97,7 @@ private Q_SLOTS:
                 user.wait_for_window(window);
                 user.check(!user.enabled(u"B8"_s), u"the toolbar is locked"_s);
                 user.click(u"Command1_1"_s);
-                user.wait_until_gone(window);
+                user.wait_until_closed(window);
                 user.check(user.enabled(u"B8"_s), u"the toolbar is enabled again"_s);
             };
             user.menu(u"mCarte"_s);
@@ -143,7 +143,7 @@ private Q_SLOTS:
             user.same(lines.join(u'\n'), u"2025-01-01 00:00:00 |  - Links\n2025-01-01 00:00:01 |  - Links"_s,
                       u"lines"_s);
             user.click(u"Command1_2"_s);
-            user.wait_until_gone(list);
+            user.wait_until_closed(list);
         });
     }
 
@@ -171,7 +171,7 @@ private Q_SLOTS:
                 for (const auto& [other, each] : commands)
                     user.check(user.visible(each) == (each == button), command + u' ' + each);
                 user.close_window(u"f_date_range"_s);
-                user.wait_until_gone(u"f_date_range"_s);
+                user.wait_until_closed(u"f_date_range"_s);
             }
         });
     }
@@ -182,7 +182,7 @@ private Q_SLOTS:
             user.click(u"B7"_s);
             user.wait_for_window(u"f_sticks"_s);
             user.click(u"Fer"_s);
-            user.wait_until_gone(u"f_sticks"_s);
+            user.wait_until_closed(u"f_sticks"_s);
         });
     }
 };

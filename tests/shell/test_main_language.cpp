@@ -85,7 +85,7 @@ private Q_SLOTS:
             user.menu(u"mManagF"_s);
             user.wait_for_window(u"f_c_list_en"_s);
             user.click(u"Command1_2"_s);
-            user.wait_until_gone(u"f_c_list_en"_s);
+            user.wait_until_closed(u"f_c_list_en"_s);
             user.menu(u"mfr"_s);
             user.same(user.title(u"MainForm"_s), u"Verdane pour PC version 1.4"_s, u"title"_s);
             user.menu(u"mEn"_s);

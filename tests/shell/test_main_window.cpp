@@ -78,7 +78,7 @@ private Q_SLOTS:
             user.wait_for_window(u"f_c_list"_s);
             locked(true);
             user.click(u"Command1_2"_s);
-            user.wait_until_gone(u"f_c_list"_s);
+            user.wait_until_closed(u"f_c_list"_s);
             locked(false);
         });
     }
@@ -128,7 +128,7 @@ private Q_SLOTS:
             save_and_close();
             user.menu(u"mManagF"_s);
             user.click(u"Command1_2"_s);
-            user.wait_until_gone(in_language(u"f_c_list", u"f_c_list_en"));
+            user.wait_until_closed(in_language(u"f_c_list", u"f_c_list_en"));
             save_and_close();
         });
     }

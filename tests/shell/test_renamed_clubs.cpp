@@ -39,7 +39,7 @@ void rename_first_club_and_answer_no(hand& user, const QString& name)
         {in_language(u"Désirez vous conservés ces moyennes ?", u"Do you want to keep these averages ?"),
          QMessageBox::NoIcon, u"VERDANE"_s, QMessageBox::Yes | QMessageBox::No},
         QMessageBox::No);
-    user.wait_until_gone(bag_window());
+    user.wait_until_closed(bag_window());
 }
 
 void open_the_shots_of_the_stored_round(hand& user)
@@ -62,7 +62,7 @@ QString first_club_of_the_menu(hand& user)
     user.click(u"CommandSup"_s);
     user.click_tab(u"TabStrip2"_s, 1);
     user.click(u"Command1_4"_s);
-    user.wait_until_gone(round_window());
+    user.wait_until_closed(round_window());
     return name;
 }
 

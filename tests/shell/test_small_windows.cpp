@@ -39,7 +39,7 @@ private Q_SLOTS:
             user.wait_for_window(u"f_about"_s);
             user.look([] { Lock_menu(); });
             user.click(u"cmdOK"_s);
-            user.wait_until_gone(u"f_about"_s);
+            user.wait_until_closed(u"f_about"_s);
             user.check(user.enabled(u"mOpen"_s), u"menu unlocked"_s);
             user.menu(u"mQuit"_s);
         });
@@ -58,7 +58,7 @@ private Q_SLOTS:
                       is_file ? Connection1::default_path() : u"Source de données ODBC Verdbase"_s,
                       u"the store"_s);
             user.click(u"cmdOK"_s);
-            user.wait_until_gone(u"f_about"_s);
+            user.wait_until_closed(u"f_about"_s);
             user.menu(u"mQuit"_s);
         });
     }
@@ -102,7 +102,7 @@ private Q_SLOTS:
                  user.wait_for_window(u"report_preview"_s);
                  user.look([&] { QCOMPARE(window.cr2.preview()->parentWidget(), &window); });
                  user.close_window(u"report_preview"_s);
-                 user.wait_until_gone(u"report_preview"_s);
+                 user.wait_until_closed(u"report_preview"_s);
                  user.close_window(u"f_report"_s);
              });
     }

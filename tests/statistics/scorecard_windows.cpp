@@ -48,7 +48,7 @@ void in_scorecard_window(const std::function<void(hand&)>& script)
             user.wait_for_window(scorecard_window());
             script(user);
             user.click(u"Command1_1"_s);
-            user.wait_until_gone(scorecard_window());
+            user.wait_until_closed(scorecard_window());
         });
 }
 
@@ -66,11 +66,11 @@ void close_card(hand& user)
         QCOMPARE(report->windowTitle(), u"Verdane International Inc."_s);
         QVERIFY(report->isMaximized());
         QCOMPARE(report->parentWidget()->objectName(), scorecard_window());
-        QCOMPARE(dynamic_cast<const f_carte&>(*form_at_work()).cr2.ReportFileName(),
+        QCOMPARE(dynamic_cast<const f_carte&>(*active_form()).cr2.ReportFileName(),
                  QCoreApplication::applicationDirPath() + in_language(u"\\r_card2.rpt", u"\\r_card2_en.rpt"));
         report->close();
     });
-    user.wait_until_gone(preview);
+    user.wait_until_closed(preview);
 }
 
 }  // namespace verdane::testing

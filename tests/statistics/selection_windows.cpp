@@ -52,7 +52,7 @@ void in_window(statistics_mode mode, const std::function<void(f_date_range&)>& p
             user.wait_for_window(selection_window());
             script(user);
             user.click(u"CancelButton"_s);
-            user.wait_until_gone(selection_window());
+            user.wait_until_closed(selection_window());
         });
 }
 
@@ -135,7 +135,7 @@ void close_report(hand& user, statistics_mode mode)
     user.wait_until(u"the report"_s, [&] { return visible_window(preview) != nullptr; });
     user.look([&] {
         const launch& expected = launch_of(mode);
-        const auto& control = dynamic_cast<f_date_range&>(*form_at_work()).*expected.control;
+        const auto& control = dynamic_cast<f_date_range&>(*active_form()).*expected.control;
         const bool zoomed = mode == statistics_mode::putt;
         QWidget* report = visible_window(preview);
         QCOMPARE(report->windowTitle(), u"Verdane International Inc."_s);
@@ -146,7 +146,7 @@ void close_report(hand& user, statistics_mode mode)
                                                in_language(expected.french_file, expected.english_file));
         report->close();
     });
-    user.wait_until_gone(preview);
+    user.wait_until_closed(preview);
 }
 
 void run_without_detail(hand& user)

@@ -158,9 +158,9 @@ private Q_SLOTS:
             [&](hand& user) {
                 run(user, statistics_mode::club);
                 user.wait_until(u"the message"_s,
-                                [] { return QApplication::activeModalWidget() != form_at_work(); });
+                                [] { return QApplication::activeModalWidget() != active_form(); });
                 user.look([&] {
-                    const auto& window = dynamic_cast<f_date_range&>(*form_at_work());
+                    const auto& window = dynamic_cast<f_date_range&>(*active_form());
                     QVERIFY(!find_control<QProgressBar>(window, u"Status"_s).isVisible());
                     QCOMPARE(shots.club(1)[1], u"0"_s);
                     QVERIFY(open_recordsets().isEmpty());

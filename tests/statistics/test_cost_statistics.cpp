@@ -192,9 +192,9 @@ private Q_SLOTS:
                 select_range(user, 1, 0);
                 run(user, statistics_mode::cost);
                 user.wait_until(u"the message"_s,
-                                [] { return QApplication::activeModalWidget() != form_at_work(); });
+                                [] { return QApplication::activeModalWidget() != active_form(); });
                 user.look([&] {
-                    const auto& window = dynamic_cast<f_date_range&>(*form_at_work());
+                    const auto& window = dynamic_cast<f_date_range&>(*active_form());
                     const auto& bar = find_control<QProgressBar>(window, u"Status"_s);
                     QVERIFY(bar.isVisible());
                     QCOMPARE(bar.value(), 0);

@@ -33,7 +33,7 @@ void look_under_the_box(hand& user, const std::function<void(f_date_range&)>& ro
 void close_putt_report(hand& user)
 {
     close_report(user, statistics_mode::putt);
-    user.look([] { form_at_work()->activateWindow(); });
+    user.look([] { active_form()->activateWindow(); });
 }
 
 void run_and_close(hand& user)

@@ -98,7 +98,7 @@ private Q_SLOTS:
                 const QStringList open = open_recordsets();
                 QCOMPARE(open, (QStringList{u"rsvrd_fields"_s, u"rsfield_info"_s}));
                 QVERIFY(frame.locked);
-                QCOMPARE(current_form.data(), form_at_work());
+                QCOMPARE(current_form.data(), active_form());
             });
         });
         QVERIFY(open_recordsets().isEmpty());
@@ -117,7 +117,7 @@ private Q_SLOTS:
                          user.close_window(scorecard_window());
                      else
                          user.look([] { current_form->closeForm(); });
-                     user.wait_until_gone(scorecard_window());
+                     user.wait_until_closed(scorecard_window());
                  });
             QVERIFY(open_recordsets().isEmpty());
             QVERIFY(!frame.locked);

@@ -69,7 +69,7 @@ private Q_SLOTS:
             user.click_row(u"List1"_s, 1);
             user.click(u"List1"_s);
             user.look([&] {
-                const auto& list = find_control<QListWidget>(*form_at_work(), u"List1"_s);
+                const auto& list = find_control<QListWidget>(*active_form(), u"List1"_s);
                 QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
                                   QPoint(5, list.viewport()->height() - 5));
                 user.check(list.selectedItems().size() == 1 && list.currentRow() == 1, u"selection"_s);

@@ -12,7 +12,7 @@
 #include "tests/support/recording_frame.h"
 #include "tests/support/store_folder.h"
 #include "tests/support/stored_diary.h"
-#include "tests/support/ways_out.h"
+#include "tests/support/ways_to_close.h"
 #include "tests/support/window_look.h"
 
 using namespace verdane;
@@ -119,7 +119,7 @@ private Q_SLOTS:
                 user.double_click(u"OKButton"_s);
                 answer_plain(user, u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies",
                              u"Verdane could not find any detailed rounds with the chosen parameters.");
-                user.wait_until_gone(u"message_box"_s);
+                user.wait_until_closed(u"message_box"_s);
             },
             statistics_mode::putt);
     }
@@ -201,8 +201,8 @@ private Q_SLOTS:
 
     void closing_in_any_way_unlocks_the_menu_and_closes_the_recordsets_data()
     {
-        every_way_out(ways_out(selection_window,
-                               {{"the cancel button", [](hand& user) { user.click(u"CancelButton"_s); }}}));
+        every_way_to_close(ways_to_close(
+            selection_window, {{"the cancel button", [](hand& user) { user.click(u"CancelButton"_s); }}}));
     }
     void closing_in_any_way_unlocks_the_menu_and_closes_the_recordsets()
     {
@@ -218,9 +218,9 @@ private Q_SLOTS:
             [&](hand& user) {
                 user.wait_for_window(selection_window());
                 user.check(frame.locked, u"the menu is locked"_s);
-                user.look([&] { user.check(current_form == form_at_work(), u"current_form"_s); });
+                user.look([&] { user.check(current_form == active_form(), u"current_form"_s); });
                 leave(user);
-                user.wait_until_gone(selection_window());
+                user.wait_until_closed(selection_window());
             });
         QVERIFY(!frame.locked);
         QVERIFY(open_recordsets().isEmpty());

@@ -59,7 +59,7 @@ void hand::wait_for_window(const QString& name)
     });
 }
 
-void hand::wait_until_gone(const QString& window)
+void hand::wait_until_closed(const QString& window)
 {
     wait_until(u"the end of "_s + window, [&] { return !visible_window(window); });
 }

@@ -34,7 +34,7 @@ public:
 
     // Waiting and reading.
     void wait_for_window(const QString& name);
-    void wait_until_gone(const QString& window);
+    void wait_until_closed(const QString& window);
     bool is_open(const QString& window);
     void wait_until(const QString& what, const std::function<bool()>& holds);
     /// The text of a box, label, button, combo or frame, the selected entry of a list, or the title of a

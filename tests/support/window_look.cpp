@@ -40,7 +40,7 @@ bool is_clipped(const QWidget& control)
 QStringList clipped_controls(hand& user)
 {
     QStringList names;
-    user.look([&] { names = clipped_controls_of(*form_at_work()); });
+    user.look([&] { names = clipped_controls_of(*active_form()); });
     return names;
 }
 

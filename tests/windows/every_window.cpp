@@ -126,7 +126,7 @@ bool close_message_box(hand& user)
 void close_preview(hand& user)
 {
     user.close_window(u"report_preview"_s);
-    user.wait_until_gone(u"report_preview"_s);
+    user.wait_until_closed(u"report_preview"_s);
     // Without a window manager the window below does not get the keyboard focus again.
     user.look([] { windows_taking_input().constLast()->activateWindow(); });
 }

@@ -48,7 +48,7 @@ bool report_wait::may_continue()
 
 void report_wait::open()
 {
-    window_ = std::make_unique<QDialog>(window_at_work());
+    window_ = std::make_unique<QDialog>(active_window());
     window_->setObjectName(u"report_wait"_s);
     window_->setWindowTitle(title_);
     window_->setWindowModality(Qt::ApplicationModal);

@@ -42,7 +42,7 @@ constexpr int read_only_mode = 1836;
 constexpr int connection_killed = 1927;
 constexpr int account_locked = 4151;
 constexpr int password_expired = 1862;
-constexpr int server_gone = 2006;
+constexpr int connection_lost = 2006;
 constexpr int server_lost = 2013;
 constexpr int server_lost_extended = 2055;
 constexpr int connection_error = 5014;
@@ -83,7 +83,7 @@ failure_kind kind_of_mariadb_opening(int number)
     case code::database_denied:
     case code::unknown_database:
         return failure_kind::source_database;
-    case code::server_gone:
+    case code::connection_lost:
     case code::server_lost:
     case code::server_lost_extended:
     case code::connection_error:
@@ -111,7 +111,7 @@ failure_kind kind_of_mariadb_error(int number, const QString& text)
         return text.isEmpty() ? failure_kind::source_lost : failure_kind::store_other;
     case code::server_shutdown:
     case code::connection_killed:
-    case code::server_gone:
+    case code::connection_lost:
     case code::server_lost:
     case code::server_lost_extended:
     case code::connection_error:

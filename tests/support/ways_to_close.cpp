@@ -1,4 +1,4 @@
-#include "tests/support/ways_out.h"
+#include "tests/support/ways_to_close.h"
 
 #include <QTest>
 
@@ -7,9 +7,10 @@
 
 namespace verdane::testing {
 
-std::vector<way_out> ways_out(const std::function<QString()>& window, std::vector<way_out> buttons)
+std::vector<way_to_close> ways_to_close(const std::function<QString()>& window,
+                                        std::vector<way_to_close> buttons)
 {
-    std::vector<way_out> ways = std::move(buttons);
+    std::vector<way_to_close> ways = std::move(buttons);
     ways.push_back({"the title bar", [window](hand& user) { user.close_window(window()); }});
     ways.push_back({"Escape", [](hand& user) { user.key(Qt::Key_Escape); }});
     ways.push_back({"the command Close of the main window",
@@ -17,10 +18,10 @@ std::vector<way_out> ways_out(const std::function<QString()>& window, std::vecto
     return ways;
 }
 
-void every_way_out(const std::vector<way_out>& ways)
+void every_way_to_close(const std::vector<way_to_close>& ways)
 {
     QTest::addColumn<leaving>("leave");
-    for (const way_out& way : ways)
+    for (const way_to_close& way : ways)
         QTest::newRow(way.name) << way.leave;
 }
 
