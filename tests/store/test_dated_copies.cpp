@@ -56,6 +56,14 @@ void put(const QString& path, const QByteArray& bytes)
         qFatal("cannot write the file");
 }
 
+/// Overwrites a page of the partners.
+void overwrite_page(const QString& path)
+{
+    QByteArray content = bytes_of(path);
+    const auto page = content.indexOf("partner number 7 ") / 4096 * 4096;
+    put(path, content.replace(page, 4096, QByteArray(4096, '\xaa')));
+}
+
 void set_mode(const QString& path, mode_t mode)
 {
     if (chmod(QFile::encodeName(path).constData(), mode) != 0)
@@ -131,11 +139,7 @@ private Q_SLOTS:
         QTest::newRow("a text") << damage([](const QString& path) { put(path, "my diary"); });
         QTest::newRow("cut inside a page") << damage([](const QString& path) { QFile::resize(path, 50001); });
         QTest::newRow("cut after a page") << damage([](const QString& path) { QFile::resize(path, 40960); });
-        QTest::newRow("a page overwritten") << damage([](const QString& path) {
-            QByteArray content = bytes_of(path);
-            const auto page = content.indexOf("partner number 7 ") / 4096 * 4096;
-            put(path, content.replace(page, 4096, QByteArray(4096, '\xaa')));
-        });
+        QTest::newRow("a page overwritten") << damage(overwrite_page);
     }
     void a_damaged_copy_of_the_day_is_replaced()
     {
@@ -147,6 +151,17 @@ private Q_SLOTS:
         QVERIFY(write_dated_copy(store.path(), today));
         QCOMPARE(content_of_copy(store), whole_content(store.outside()));
         QCOMPARE(files_of_copies(store), QStringList{u"Verdbase-2026-06-14.db"_s});
+    }
+
+    void a_copy_of_a_damaged_store_is_a_failure_and_the_other_copies_remain()
+    {
+        store_fixture store;
+        fill(store);
+        write_dated_copy(store.path(), today.addDays(-1));
+        store.connection.Close();
+        overwrite_page(store.path());
+        QVERIFY(failure_of([&] { write_dated_copy(store.path(), today); }) == failure_kind::store_damaged);
+        QCOMPARE(files_of_copies(store), QStringList{u"Verdbase-2026-06-13.db"_s});
     }
 
     void copies_that_are_not_kept_are_removed_after_a_new_one()
