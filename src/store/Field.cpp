@@ -49,7 +49,7 @@ const QVariant& Field::cell_with_value() const
     const QVariant& value = cell();
     if (value.isNull()) {
         const row_editor& rows = *owner_.rows_;
-        rows.fail(failure_kind::invalid_null, QString(rows.column_name(ordinal_) + u" has no value"));
+        rows.fail(failure_kind::invalid_null, QString(rows.column(ordinal_).name + u" has no value"));
     }
     return value;
 }

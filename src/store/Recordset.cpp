@@ -1,8 +1,5 @@
 #include "store/Recordset.h"
 
-#include <algorithm>
-
-#include "store/Connection1.h"
 #include "store/row_editor.h"
 
 namespace verdane {
@@ -18,85 +15,59 @@ Recordset::~Recordset() = default;
 
 const QString& Recordset::name() const
 {
-    return rows_->settings.name;
+    return rows_->settings().name;
 }
 
 const recordset_settings& Recordset::settings() const
 {
-    return rows_->settings;
+    return rows_->settings();
 }
 
 const QString& Recordset::Source() const
 {
-    return rows_->source;
+    return rows_->source();
 }
 
 void Recordset::set_Source(const QString& statement)
 {
-    rows_->source = statement;
+    rows_->set_source(statement);
 }
 
 void Recordset::Open(row_reading reading)
 {
-    if (rows_->open)
-        rows_->fail(failure_kind::misuse, u"the recordset is open already"_s);
-    if (!rows_->connection.is_open())
-        rows_->fail(failure_kind::misuse, u"the connection is closed"_s);
-    rows_->forget_rows();
-    if (reading == row_reading::at_once)
-        rows_->set = rows_->read();
-    if (reading == row_reading::one_by_one)
-        rows_->open_stream();
-    rows_->unread = reading == row_reading::when_needed;
-    rows_->open = true;
+    rows_->open(reading);
 }
 
 void Recordset::Open(const first_columns& columns)
 {
-    rows_->read_first = columns.ordinals;
-    try {
-        Open();
-    } catch (...) {
-        rows_->read_first.clear();
-        throw;
-    }
+    rows_->open(row_reading::at_once, columns.ordinals);
 }
 
 void Recordset::Close()
 {
-    rows_->need_open();
-    rows_->open = false;
-    rows_->read_first.clear();
-    rows_->forget_rows();
+    rows_->close();
 }
 
 bool Recordset::is_open() const
 {
-    return rows_->open;
+    return rows_->is_open();
 }
 
 void Recordset::Requery()
 {
-    rows_->commit_on_leaving();
-    if (rows_->unread)
-        return;
-    rows_->need_all_rows();
-    // The old rows are kept until the new ones have been read: a failure changes nothing.
-    row_set fresh = rows_->read();
-    rows_->forget_rows();
-    rows_->set = std::move(fresh);
+    rows_->requery();
 }
 
 bool Recordset::bof() const
 {
     rows_->need_all_rows();
-    return rows_->count() == 0 || rows_->place < 0;
+    return rows_->before_first();
 }
 
 bool Recordset::eof() const
 {
     rows_->need_rows();
-    return rows_->count() == 0 || (rows_->place >= rows_->count() && !rows_->in_gap);
+    return rows_->after_last();
 }
 
 bool Recordset::empty() const
@@ -114,7 +85,7 @@ int Recordset::RecordCount() const
 int Recordset::position() const
 {
     rows_->need_all_rows();
-    return rows_->on_row() ? rows_->place : -1;
+    return rows_->position();
 }
 
 void Recordset::MoveFirst()
@@ -135,8 +106,8 @@ void Recordset::MoveLast()
 
 void Recordset::MoveNext()
 {
-    if (rows_->stream != nullptr)
-        rows_->read_next(*rows_->stream);
+    if (rows_->reads_one_by_one())
+        rows_->read_next();
     else
         Move(1);
 }
@@ -149,19 +120,13 @@ void Recordset::MovePrevious()
 void Recordset::Move(int steps)
 {
     rows_->leave_row();
-    if (steps == 0)
-        return;
-    // In a gap `place` is the index of the next row.
-    const qint64 from = rows_->in_gap && steps > 0 ? rows_->place - 1 : rows_->place;
-    rows_->move_to(static_cast<int>(std::clamp<qint64>(from + steps, -1, rows_->count())));
+    rows_->move_by(steps);
 }
 
 void Recordset::MoveTo(int row)
 {
     rows_->leave_row();
-    if (row < 0 || row >= rows_->count())
-        rows_->fail(failure_kind::misuse, u"there is no row %1"_s.arg(row));
-    rows_->move_to(row);
+    rows_->move_to_row(row);
 }
 
 void Recordset::Find(const QString& criterion, search_direction direction)
@@ -185,27 +150,26 @@ Field Recordset::Fields(QStringView name)
 int Recordset::field_count() const
 {
     rows_->need_rows();
-    return static_cast<int>(rows_->set.columns.size());
+    return rows_->column_count();
 }
 
 QString Recordset::field_name(int ordinal) const
 {
     rows_->need_rows();
-    return rows_->set.columns[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))].name;
+    return rows_->column(ordinal).name;
 }
 
 column_type Recordset::field_type(int ordinal) const
 {
     rows_->need_rows();
-    return rows_->set.columns[static_cast<std::size_t>(rows_->checked_ordinal(ordinal))].type;
+    return rows_->column(ordinal).type;
 }
 
 QVariant Recordset::value_at(int row, int ordinal) const
 {
     rows_->need_all_rows();
-    if (row < 0 || row >= rows_->count())
-        rows_->fail(failure_kind::misuse, u"there is no row %1"_s.arg(row));
-    return rows_->cell(*rows_->set.rows[static_cast<std::size_t>(row)], rows_->checked_ordinal(ordinal));
+    recordset_row& at = rows_->row_at(row);
+    return rows_->cell(at, rows_->checked_ordinal(ordinal));
 }
 
 void Recordset::AddNew()
@@ -220,18 +184,12 @@ void Recordset::Update()
 
 void Recordset::UpdateBatch(affect)
 {
-    rows_->need_open();
-    if (rows_->batch())
-        rows_->commit_all();
-    else
-        rows_->commit_on_leaving();
+    rows_->commit_all();
 }
 
 void Recordset::CancelUpdate()
 {
-    rows_->need_open();
-    if (recordset_row* row = rows_->current_or_null())
-        rows_->cancel(*row);
+    rows_->cancel_current();
 }
 
 void Recordset::Delete()

@@ -30,13 +30,30 @@ std::vector<recordset_row*> pending_rows(const row_list& rows)
 
 }  // namespace
 
+void row_editor::close()
+{
+    close_rows();
+    removed_.clear();
+}
+
+void row_editor::requery()
+{
+    commit_on_leaving();
+    if (is_unread())
+        return;
+    need_all_rows();
+    read_again();
+    removed_.clear();
+}
+
 bool row_editor::pending() const
 {
-    if (!open)
+    if (!is_open())
         return false;
     if (batch())
-        return !removed_.empty() || std::any_of(set.rows.begin(), set.rows.end(), is_pending);
-    return on_row() && is_pending(set.rows[static_cast<std::size_t>(place)]);
+        return !removed_.empty() || std::any_of(set().rows.begin(), set().rows.end(), is_pending);
+    const recordset_row* row = current_or_null();
+    return row != nullptr && row->pending != nullptr;
 }
 
 void row_editor::commit_on_leaving()
@@ -59,22 +76,31 @@ void row_editor::commit(recordset_row& row)
     if (!row.pending)
         return;
     const lock_wait::limit wait = time_out();
-    row.number = write_row(connection, set, row, where());
+    row.number = write_row(connection(), set(), row, where());
     row.pending.reset();
 }
 
 void row_editor::commit_all()
 {
-    const std::vector<recordset_row*> pending = pending_rows(set.rows);
+    need_open();
+    if (batch())
+        commit_batch();
+    else
+        commit_on_leaving();
+}
+
+void row_editor::commit_batch()
+{
+    const std::vector<recordset_row*> pending = pending_rows(set().rows);
     if (pending.empty() && removed_.empty())
         return;
     std::vector<qint64> numbers;
     const lock_wait::limit wait = time_out();
-    single_commit together(connection);
+    single_commit together(connection());
     for (const auto& row : removed_)
-        erase_row(connection, set, *row, where());
+        erase_row(connection(), set(), *row, where());
     for (const recordset_row* row : pending)
-        numbers.push_back(write_row(connection, set, *row, where()));
+        numbers.push_back(write_row(connection(), set(), *row, where()));
     together.finish();
     // Nothing in memory changes before the commit, so after a failure everything is still pending.
     removed_.clear();
@@ -82,6 +108,13 @@ void row_editor::commit_all()
         pending[i]->number = numbers[i];
         pending[i]->pending.reset();
     }
+}
+
+void row_editor::cancel_current()
+{
+    need_open();
+    if (recordset_row* row = current_or_null())
+        cancel(*row);
 }
 
 void row_editor::cancel(recordset_row& row)
@@ -94,25 +127,13 @@ void row_editor::cancel(recordset_row& row)
         row.pending.reset();
         return;
     }
-    const recordset_row* origin = row.pending->came_from;
-    std::erase_if(set.rows, [&row](const auto& candidate) { return candidate.get() == &row; });
-    const auto back = std::find_if(set.rows.begin(), set.rows.end(),
-                                   [origin](const auto& candidate) { return candidate.get() == origin; });
-    move_to(static_cast<int>(back - set.rows.begin()));
-}
-
-void row_editor::forget_rows()
-{
-    stream.reset();
-    set = {};
-    removed_.clear();
-    move_to(0);
+    remove_appended(row, row.pending->came_from);
 }
 
 void row_editor::need_updatable()
 {
     need_rows();
-    if (!set.shape.updatable)
+    if (!set().shape.updatable)
         fail(failure_kind::misuse, u"its rows cannot be written"_s);
 }
 
@@ -121,13 +142,12 @@ void row_editor::add()
     need_updatable();
     commit_on_leaving();
     auto row = std::make_unique<recordset_row>();
-    for (const recordset_column& column : set.columns)
+    for (const recordset_column& column : set().columns)
         row->cells.push_back(column.default_value);
     row->pending = std::make_unique<pending_edit>();
     row->pending->is_new = true;
     row->pending->came_from = current_or_null();
-    set.rows.push_back(std::move(row));
-    move_to(count() - 1);
+    append(std::move(row));
 }
 
 void row_editor::write(int ordinal, const QVariant& value)
@@ -135,10 +155,10 @@ void row_editor::write(int ordinal, const QVariant& value)
     need_updatable();
     recordset_row& row = current();
     const auto at = static_cast<std::size_t>(checked_ordinal(ordinal));
-    if (!set.columns[at].stored)
-        fail(failure_kind::misuse, QString(column_name(ordinal) + u" is no column of the table"));
+    if (!set().columns[at].stored)
+        fail(failure_kind::misuse, QString(column(ordinal).name + u" is no column of the table"));
     complete(row);
-    QVariant stored = located(ordinal, [&] { return converted(value, set.columns[at].type); });
+    QVariant stored = located(ordinal, [&] { return converted(value, set().columns[at].type); });
     if (!row.pending)
         row.pending = std::make_unique<pending_edit>();
     auto& before = row.pending->before;
@@ -153,18 +173,16 @@ void row_editor::remove()
     recordset_row& row = current();
     const bool in_store = !row.pending || !row.pending->is_new;
     if (in_store)
-        number_equal_rows(set, row);
+        number_equal_rows(set(), row);
     if (in_store && !batch()) {
         const lock_wait::limit wait = time_out();
-        erase_row(connection, set, row, where());
+        erase_row(connection(), set(), row, where());
     }
-    const auto index = static_cast<std::size_t>(place);
-    if (in_store && batch()) {
+    if (in_store && batch())
         cancel(row);
-        removed_.push_back(std::move(set.rows[index]));
-    }
-    set.rows.erase(set.rows.begin() + place);
-    in_gap = true;
+    std::unique_ptr<recordset_row> taken = take_current();
+    if (in_store && batch())
+        removed_.push_back(std::move(taken));
 }
 
 }  // namespace verdane
