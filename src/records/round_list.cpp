@@ -9,11 +9,11 @@ namespace verdane::Round_functions {
 
 namespace {
 
-namespace at = tables::games;
+namespace games = tables::games;
 
 /// What a line of the list shows: key, course, and whether the last hole has strokes.
-const first_columns shown_columns{
-    {at::date, at::field, at::long_h(hole_count), at::approach_h(hole_count), at::putt_h(hole_count)}};
+const first_columns shown_columns{{games::date, games::field, games::long_h(hole_count),
+                                   games::approach_h(hole_count), games::putt_h(hole_count)}};
 
 QString line_of_current_row(Recordset& games)
 {

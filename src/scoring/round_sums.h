@@ -57,10 +57,10 @@ private:
     void add_classes(int h, const played_hole& hole);
 };
 
-/// The place in the report of the average of par 3, 4 or 5: 15, 16 or 17.
+/// The place in the report of the average of par 3, 4 or 5. From class 6 on it is the number of the class.
 constexpr int place_of_average(int par)
 {
-    return par + 12;
+    return hole_class::average_of_par_3 - lowest_par + par;
 }
 
 }  // namespace verdane

@@ -3,6 +3,7 @@
 #include <QTest>
 
 using namespace verdane;
+using namespace Qt::StringLiterals;
 
 class test_select_statement : public QObject {
     Q_OBJECT
@@ -49,9 +50,9 @@ private Q_SLOTS:
 
     void every_star_of_the_columns_is_qualified_and_nothing_else()
     {
-        const QString statement = QStringLiteral("Select *, date from Games where field='*' order by date");
+        const QString statement = u"Select *, date from Games where field='*' order by date"_s;
         QCOMPARE(with_qualified_columns(statement, read_select(statement)),
-                 QStringLiteral("Select `Games`.*, date from Games where field='*' order by date"));
+                 u"Select `Games`.*, date from Games where field='*' order by date"_s);
     }
 
     void anything_joined_grouped_or_computed_is_read_only_data()

@@ -11,7 +11,7 @@ namespace {
 
 QStringList recorded_lines()
 {
-    const QString recorded = QString::fromUtf8(testing::bytes_of(QStringLiteral(VERDANE_NEW_STORE)));
+    const QString recorded = QString::fromUtf8(testing::bytes_of(QString::fromUtf8(VERDANE_NEW_STORE)));
     QStringList lines = recorded.split(u'\n', Qt::SkipEmptyParts);
     lines.removeIf([](const QString& line) { return line.startsWith(u"--"_s); });
     return lines;
