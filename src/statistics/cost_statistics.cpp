@@ -5,7 +5,6 @@
 #include "reports/report_control.h"
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
-#include "store/scoped_source.h"
 #include "store/tables/cost.h"
 
 namespace verdane::Statistics {
@@ -66,17 +65,19 @@ void write_round_count(Recordset& report, int rounds)
     report.Close();
 }
 
-/// False if the selection has no costs; the report table is empty then, and the statement of `rscost`
-/// is not reset.
+/// False if the selection has no costs; the report table is empty then, and the statement of the selection
+/// stays in force.
 bool fill_from_costs(const selection_arguments& chosen, run_progress& bar)
 {
     Recordset& cost = data_environment().rscost;
     Recordset& report = data_environment().rsr_cost;
     remove_rows(report);
-    cost.set_Source(cost_select(chosen));
+    scoped_source selection(cost, cost_select(chosen), cost.settings().source);
     const int rounds = check_rows(cost, bar);
-    if (rounds == 0)
+    if (rounds == 0) {
+        selection.leave_in_force();
         return false;
+    }
     copy_rows(cost.Source());
     write_round_count(report, rounds);
     return true;
@@ -100,6 +101,12 @@ void empty_cost_report()
     together.finish();
 }
 
+scoped_source whole_cost_table_afterwards()
+{
+    Recordset& cost = data_environment().rscost;
+    return {cost, cost.Source(), cost.settings().source};
+}
+
 QString cost_select(const selection_arguments& chosen)
 {
     return u"select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
@@ -118,8 +125,6 @@ bool fill_r_cost(const selection_arguments& chosen, run_progress& bar)
         bar.hide();
         return false;
     }
-    Recordset& cost = data_environment().rscost;
-    cost.set_Source(cost.settings().source);
     bar.move_to(100);
     bar.hide();
     return true;

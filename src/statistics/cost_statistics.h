@@ -4,6 +4,7 @@
 
 #include "statistics/run_controls.h"
 #include "statistics/selection.h"
+#include "store/scoped_source.h"
 
 /// The cost statistics: copy the costs of the selected rounds to the report table `r_cost`. The report
 /// template adds them up.
@@ -11,6 +12,10 @@ namespace verdane::Statistics {
 
 /// Removes every row of `r_cost`.
 void empty_cost_report();
+
+/// Sets the statement of `rscost` on the whole table at the end of its scope. A run without costs leaves a
+/// statement in force whose rows are read-only, and other windows write to this recordset.
+[[nodiscard]] scoped_source whole_cost_table_afterwards();
 
 /// The statement that selects the costs of the selected rounds. A round without a row of costs is left out.
 QString cost_select(const selection_arguments& chosen);

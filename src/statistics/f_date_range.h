@@ -4,6 +4,7 @@
 #include "controls/control_array.h"
 #include "controls/Form.h"
 #include "reports/report_control.h"
+#include "statistics/cost_statistics.h"
 #include "statistics/run_controls.h"
 #include "statistics/selection_filters.h"
 
@@ -63,6 +64,7 @@ private:
     QProgressBar* make_progress_bar() const;
     void connect_events();
 
+    const scoped_source costs_ = Statistics::whole_cost_table_afterwards();
     const statistics_mode mode_;
     selection_controls controls_;
     QProgressBar* progress_;

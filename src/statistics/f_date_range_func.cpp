@@ -7,7 +7,6 @@
 #include "statistics/f_date_range.h"
 #include "statistics/putt_statistics.h"
 #include "statistics/round_statistics.h"
-#include "store/DataEnvironment1.h"
 
 namespace verdane::f_date_range_func {
 
@@ -88,9 +87,6 @@ void unload_and_unlock(f_date_range& window)
 
 void unload()
 {
-    // Cost statistics without a result leave a statement in force whose rows are read-only.
-    Recordset& cost = data_environment().rscost;
-    cost.set_Source(cost.settings().source);
     Unlock_menu();
 }
 

@@ -27,7 +27,14 @@ public:
         recordset_.set_Source(statement);
     }
 
-    ~scoped_source() { recordset_.set_Source(afterwards_); }
+    ~scoped_source()
+    {
+        if (!stays_)
+            recordset_.set_Source(afterwards_);
+    }
+
+    /// The statement of the scope stays in force after it.
+    void leave_in_force() { stays_ = true; }
 
     scoped_source(const scoped_source&) = delete;
     scoped_source& operator=(const scoped_source&) = delete;
@@ -35,6 +42,7 @@ public:
 private:
     Recordset& recordset_;
     const QString afterwards_;
+    bool stays_ = false;
 };
 
 }  // namespace verdane

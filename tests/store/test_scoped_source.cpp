@@ -53,6 +53,17 @@ private Q_SLOTS:
         QCOMPARE(partners->Source(), last_name_first);
     }
 
+    void a_statement_that_is_left_in_force_remains_after_the_scope()
+    {
+        store_fixture store;
+        const auto partners = store.recordset(all_partners);
+        {
+            scoped_source one(*partners, only_b, last_name_first);
+            one.leave_in_force();
+        }
+        QCOMPARE(partners->Source(), only_b);
+    }
+
     void a_failure_within_the_scope_restores_the_statement()
     {
         store_fixture store;
