@@ -1,6 +1,7 @@
 #include "statistics/club_shots.h"
 
 #include "scoring/words.h"
+#include "statistics/column_places.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
 
@@ -10,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView columns =
+constexpr std::u16string_view columns =
     u"select stat_rounds.date,stat_rounds.hole,stat_rounds.before, "
     u"stat_rounds.after,stat_rounds.shot_type,stat_rounds.stick, "
     u"stat_rounds.beyong_hole,stat_rounds.missed,stat_rounds.ts,stat_rounds.dz, "
@@ -20,19 +21,20 @@ constexpr QStringView columns =
 
 /// The ordinals in this list, which differ from those of the table.
 enum column {
-    date = 0,
-    before = 2,
-    after = 3,
-    beyong_hole = 6,
-    missed = 7,
-    ts = 8,
-    dz = 9,
-    stickval = 13,
-    fairval = 14,
-    penval = 15,
-    shot_type_value = 16,
-    unit = 20,
+    date = place_in(columns, u"date"),
+    before = place_in(columns, u"before"),
+    after = place_in(columns, u"after"),
+    beyong_hole = place_in(columns, u"beyong_hole"),
+    missed = place_in(columns, u"missed"),
+    ts = place_in(columns, u"ts"),
+    dz = place_in(columns, u"dz"),
+    stickval = place_in(columns, u"stickval"),
+    fairval = place_in(columns, u"fairval"),
+    penval = place_in(columns, u"penval"),
+    shot_type_value = place_in(columns, u"shot_type_value"),
+    unit = place_in(columns, u"unit"),
 };
+static_assert(before == 2 && shot_type_value == 16 && unit == 20);
 
 std::optional<int16> length(const Field& field)
 {
@@ -79,9 +81,9 @@ gathered_shots add_up(Recordset& shots)
 
 QString club_shot_select(const selection_arguments& chosen)
 {
-    return columns + u"where ( games2.date>= " + quoted(chosen.from_key) + u" AND games2.date <=" +
-           quoted(chosen.to_key) + u"  AND  stat_rounds.date=games2.date) " + chosen.weather_clause +
-           chosen.partner_clause + chosen.course_clause +
+    return QStringView(columns) + u"where ( games2.date>= " + quoted(chosen.from_key) +
+           u" AND games2.date <=" + quoted(chosen.to_key) + u"  AND  stat_rounds.date=games2.date) " +
+           chosen.weather_clause + chosen.partner_clause + chosen.course_clause +
            u"  AND (NOT stat_rounds.shot_type_value = 3 ) ORDER BY STAT_ROUNDS.DATE,STAT_ROUNDS.HOLE ";
 }
 

@@ -3,6 +3,7 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "reports/report_control.h"
+#include "statistics/column_places.h"
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/cost.h"
@@ -14,6 +15,32 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int step_of_a_round = 3;
+
+constexpr std::u16string_view columns =
+    u"select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
+    u"cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au from  cost ";
+
+/// True if the statement selects the key and the amounts in the order of the table. The ordinals of the table
+/// then apply to its rows, too.
+consteval bool selects_in_order_of_the_table()
+{
+    int ordinal = tables::cost::first_amount;
+    for (int i = 0; i < tables::round_amounts.name_count; ++i, ++ordinal) {
+        if (place_in(columns, tables::round_amounts.names[static_cast<std::size_t>(i)]) != ordinal)
+            return false;
+    }
+    return place_in(columns, u"date") == tables::cost::date;
+}
+static_assert(selects_in_order_of_the_table());
+
+/// The names of the amounts, separated by commas.
+QString amount_columns()
+{
+    QStringList names;
+    for (int i = 0; i < tables::round_amounts.name_count; ++i)
+        names << QStringView(tables::round_amounts.names[static_cast<std::size_t>(i)]).toString();
+    return names.join(u',');
+}
 
 /// Removes all rows by one statement: a source on a server takes ten times as long for one of each row.
 void remove_rows(Recordset& report)
@@ -49,9 +76,8 @@ int check_rows(Recordset& cost, run_progress& bar)
 /// embedded one reads them by the index of the dates, a server in any order.
 void copy_rows(const QString& selection)
 {
-    data_environment().connection.Execute(
-        u"insert into r_cost (date,fg,cm,vt,ft,ba,tee,tex,nrt,lg,bs,ln,au) " + selection +
-        u" order by cost.date");
+    data_environment().connection.Execute(u"insert into r_cost (date," + amount_columns() + u") " +
+                                          selection + u" order by cost.date");
 }
 
 /// Writes the number of rounds to the first row of the table.
@@ -109,9 +135,7 @@ scoped_source whole_cost_table_afterwards()
 
 QString cost_select(const selection_arguments& chosen)
 {
-    return u"select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
-           u"cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au from  cost "
-           u", games2 where ( cost.date=games2.date and cost.date>= " +
+    return QStringView(columns) + u", games2 where ( cost.date=games2.date and cost.date>= " +
            quoted(chosen.from_key) + u" AND cost.date <=" + quoted(chosen.to_key) + u" ) " +
            chosen.partner_clause + chosen.course_clause + chosen.weather_clause;
 }
