@@ -8,6 +8,13 @@
 
 #include "base/run_time_failure.h"
 #include "reports/template/page_limits.h"
+#include "store/tables/cost.h"
+#include "store/tables/golf_bag.h"
+#include "store/tables/hand.h"
+#include "store/tables/putts.h"
+#include "store/tables/r_card.h"
+#include "store/tables/stat_sticks.h"
+#include "store/tables/stats.h"
 
 namespace verdane {
 
@@ -67,9 +74,15 @@ void check_names(const passed_rows& rows)
 
 const QStringList& stored_tables()
 {
-    static const QStringList tables{u"stats"_s,  u"s_put1"_s, u"s_put2"_s, u"stat_sticks"_s,
-                                    u"r_cost"_s, u"hand"_s,   u"r_card"_s, u"sticknames"_s};
-    return tables;
+    static const QStringList names = [] {
+        QStringList all;
+        for (const tables::table_declaration& table :
+             {tables::stats::table, tables::s_put1::table, tables::s_put2::table, tables::stat_sticks::table,
+              tables::r_cost::table, tables::hand::table, tables::r_card::table, tables::sticknames::table})
+            all << QStringView(table.name).toString();
+        return all;
+    }();
+    return names;
 }
 
 const std::vector<passed_table>& passed_tables()
