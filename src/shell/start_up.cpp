@@ -86,11 +86,12 @@ void load_round_keys()
     Main_module::round_key_count = 0;
     Recordset& rsgames = data_environment().rsgames;
     // The rows of this table have many columns; only the key is needed.
+    constexpr int only_column = 0;
     const scoped_source keys_only(rsgames, u"select date from games order by date"_s);
     rsgames.Open();
     if (!rsgames.eof()) {
         for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
-            Main_module::append_round_key(rsgames.Fields(u"date").trimmed());
+            Main_module::append_round_key(rsgames.Fields(only_column).trimmed());
     }
     rsgames.Close();
 }
