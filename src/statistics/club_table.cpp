@@ -14,6 +14,11 @@ namespace {
 
 using namespace tables::stat_sticks;
 
+/// The columns of `club_texts`.
+constexpr std::array columns_of_texts{shot_count, longest,    average,     pct_fairway, pct_right,
+                                      pct_left,   pct_missed, pct_penalty, pct_holed};
+static_assert(columns_of_texts.size() == std::tuple_size_v<club_texts>);
+
 Recordset& clubs_of_report()
 {
     return data_environment().rsstat_sticks;
@@ -72,9 +77,9 @@ void write_names()
 void write_figures(const bag_sums& clubs)
 {
     for (int s = 1; s < club_count; ++s) {
-        int ordinal = shot_count;
-        for (const QString& text : texts_of(clubs[s]))
-            clubs_of_report().Fields(ordinal++).set(text);
+        const club_texts texts = texts_of(clubs[s]);
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            clubs_of_report().Fields(columns_of_texts[i]).set(texts[i]);
         clubs_of_report().UpdateBatch(affect::all_chapters);
         clubs_of_report().MoveNext();
     }
