@@ -1,8 +1,8 @@
 #include "records/course_rows.h"
 
 #include "base/language.h"
+#include "records/row_search.h"
 #include "scoring/Verdane_tools.h"
-#include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"
 
@@ -19,8 +19,7 @@ void find_holes_of_course(search_direction direction)
 {
     Recordset& holes = data_environment().rsfield_info;
     const QString code = data_environment().rsvrd_fields.Fields(tables::vrd_fields::code).trimmed();
-    holes.MoveFirst();
-    holes.Find(u"FIELD_CODE =" + quoted(code), direction);
+    find_first(holes, u"FIELD_CODE =", code, direction);
 }
 
 }  // namespace verdane::Round_functions

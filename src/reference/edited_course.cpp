@@ -4,6 +4,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "records/row_search.h"
 #include "reference/course_general_page.h"
 #include "reference/course_holes.h"
 #include "reference/course_keys.h"
@@ -50,10 +51,8 @@ int16 stored_figure(int ordinal)
 
 bool find_again(const QString& code)
 {
-    course().MoveFirst();
-    course().Find(u"CODE = " + quoted(code));
-    hole_row().MoveFirst();
-    hole_row().Find(u"FIELD_CODE= " + quoted(code));
+    Round_functions::find_first(course(), Round_functions::by_code, code);
+    Round_functions::find_first(hole_row(), u"FIELD_CODE= ", code);
     return !(course().bof() || course().eof() || hole_row().bof() || hole_row().eof());
 }
 

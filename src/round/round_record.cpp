@@ -2,6 +2,7 @@
 
 #include "records/Main_module.h"
 #include "records/round_rows.h"
+#include "records/row_search.h"
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
 #include "store/Recordset.h"
@@ -20,18 +21,16 @@ namespace games2 = tables::games2;
 namespace cost = tables::cost;
 namespace vrd_fields = tables::vrd_fields;
 
-void find_first(Recordset& recordset, QStringView criterion, const QString& value,
-                search_direction direction = search_direction::forward)
-{
-    recordset.MoveFirst();
-    recordset.Find(criterion + quoted(value), direction);
-}
+using Round_functions::by_code;
+using Round_functions::by_course;
+using Round_functions::by_key;
+using Round_functions::find_first;
 
 void find_round(Recordset& recordset, const QString& key,
                 search_direction direction = search_direction::forward)
 {
     if (!recordset.empty())
-        find_first(recordset, u"Date =", key, direction);
+        find_first(recordset, by_key, key, direction);
 }
 
 void zero_amounts(Recordset& costs)
@@ -113,7 +112,7 @@ void open_rows(const QString& key)
     find_round(store.rsgames2, key);
     find_round(store.rsgames, key, search_direction::backward);
     store.rsvrd_fields.Open();
-    find_first(store.rsvrd_fields, u"CODE = ", store.rsgames.Fields(games::CODEF).trimmed(),
+    find_first(store.rsvrd_fields, by_code, store.rsgames.Fields(games::CODEF).trimmed(),
                search_direction::backward);
     store.rscost.Open(first_columns{{cost::date}});
     find_round(store.rscost, key);
@@ -142,7 +141,7 @@ void set_key(const QString& key)
 QString find_holes_of_round(const QString& key)
 {
     Recordset& rounds = data_environment().rsgames;
-    find_first(rounds, u"Date =", key);
+    find_first(rounds, by_key, key);
     const QString code = rounds.Fields(games::CODEF).trimmed();
     find_holes_of_course(code);
     return code;
@@ -155,12 +154,12 @@ void move_to_first_course()
 
 void find_course(const QString& code)
 {
-    find_first(data_environment().rsvrd_fields, u"CODE = ", code);
+    find_first(data_environment().rsvrd_fields, by_code, code);
 }
 
 void find_holes_of_course(const QString& code)
 {
-    find_first(data_environment().rsfield_info, u"FIELD_CODE = ", code);
+    find_first(data_environment().rsfield_info, by_course, code);
 }
 
 round_header read_header(const QString& key)

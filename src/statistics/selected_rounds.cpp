@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "controls/boxes.h"
 #include "records/round_rows.h"
+#include "records/row_search.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/games.h"
 #include "store/tables/games2.h"
@@ -13,25 +14,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool found(Recordset& rows, const QString& criterion)
+bool found(Recordset& rows, QStringView criterion, const QString& value)
 {
     if (rows.empty())
         return false;
-    rows.MoveFirst();
-    rows.Find(criterion);
+    Round_functions::find_first(rows, criterion, value);
     return !rows.bof() && !rows.eof();
 }
 
 missing_row locate_rows_of_round()
 {
     DataEnvironment1& store = data_environment();
-    const QString course = quoted(store.rsgames.Fields(tables::games::CODEF).text_or_empty());
-    if (!found(store.rsvrd_fields, u"CODE = " + course))
+    const QString course = store.rsgames.Fields(tables::games::CODEF).text_or_empty();
+    if (!found(store.rsvrd_fields, Round_functions::by_code, course))
         return missing_row::course;
-    if (!found(store.rsfield_info, u"FIELD_CODE = " + course))
+    if (!found(store.rsfield_info, Round_functions::by_course, course))
         return missing_row::holes;
-    const QString key = quoted(store.rsgames.Fields(tables::games::date).text_or_empty());
-    return found(store.rsgames2, u"Date =" + key) ? missing_row::none : missing_row::games2;
+    const QString key = store.rsgames.Fields(tables::games::date).text_or_empty();
+    return found(store.rsgames2, Round_functions::by_key, key) ? missing_row::none : missing_row::games2;
 }
 
 /// Null matches no weather, as in the clauses of the statements.
