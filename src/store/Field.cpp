@@ -40,17 +40,14 @@ QString text_of(const QVariant& value)
 
 const QVariant& Field::cell() const
 {
-    row_editor& rows = *owner_.rows_;
-    return rows.cell(rows.current(), ordinal_);
+    return rows_.cell(rows_.current(), ordinal_);
 }
 
 const QVariant& Field::cell_with_value() const
 {
     const QVariant& value = cell();
-    if (value.isNull()) {
-        const row_editor& rows = *owner_.rows_;
-        rows.fail(failure_kind::invalid_null, QString(rows.column(ordinal_).name + u" has no value"));
-    }
+    if (value.isNull())
+        rows_.fail(failure_kind::invalid_null, QString(rows_.column(ordinal_).name + u" has no value"));
     return value;
 }
 
@@ -83,7 +80,7 @@ QString Field::trimmed() const
 int16 Field::to_int16() const
 {
     const QVariant& value = cell_with_value();
-    return owner_.rows_->located(ordinal_, [&value] { return count_of(value); });
+    return rows_.located(ordinal_, [&value] { return count_of(value); });
 }
 
 int16 Field::int16_or_zero() const
@@ -91,13 +88,13 @@ int16 Field::int16_or_zero() const
     const QVariant& value = cell();
     if (is_nothing(value))
         return 0;
-    return owner_.rows_->located(ordinal_, [&value] { return count_of(value); });
+    return rows_.located(ordinal_, [&value] { return count_of(value); });
 }
 
 int32 Field::to_int32() const
 {
     const QVariant& value = cell_with_value();
-    return owner_.rows_->located(ordinal_, [&value] { return amount_of(value); });
+    return rows_.located(ordinal_, [&value] { return amount_of(value); });
 }
 
 int32 Field::int32_or_zero() const
@@ -105,7 +102,7 @@ int32 Field::int32_or_zero() const
     const QVariant& value = cell();
     if (is_nothing(value))
         return 0;
-    return owner_.rows_->located(ordinal_, [&value] { return amount_of(value); });
+    return rows_.located(ordinal_, [&value] { return amount_of(value); });
 }
 
 double Field::to_double() const
@@ -127,7 +124,7 @@ bool Field::yes() const
 
 void Field::set(const QVariant& value)
 {
-    owner_.rows_->write(ordinal_, value);
+    rows_.write(ordinal_, value);
 }
 
 void Field::set(int16 value)

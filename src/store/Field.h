@@ -7,7 +7,7 @@
 
 namespace verdane {
 
-class Recordset;
+class row_editor;
 
 /// One field of the current row of a recordset. Reading it at `eof()`, or on a row that was deleted, fails
 /// with `misuse`.
@@ -51,10 +51,10 @@ public:
 
 private:
     friend class Recordset;
-    Field(Recordset& owner, int ordinal) : owner_(owner), ordinal_(ordinal) {}
+    Field(row_editor& rows, int ordinal) : rows_(rows), ordinal_(ordinal) {}
     const QVariant& cell() const;
     const QVariant& cell_with_value() const;
-    Recordset& owner_;
+    row_editor& rows_;
     int ordinal_;
 };
 

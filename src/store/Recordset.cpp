@@ -138,13 +138,13 @@ void Recordset::Find(const QString& criterion, search_direction direction)
 Field Recordset::Fields(int ordinal)
 {
     rows_->need_rows();
-    return {*this, rows_->checked_ordinal(ordinal)};
+    return {*rows_, rows_->checked_ordinal(ordinal)};
 }
 
 Field Recordset::Fields(QStringView name)
 {
     rows_->need_rows();
-    return {*this, rows_->ordinal_of(name)};
+    return {*rows_, rows_->ordinal_of(name)};
 }
 
 int Recordset::field_count() const

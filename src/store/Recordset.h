@@ -16,27 +16,12 @@ namespace verdane {
 class Connection1;
 class row_editor;
 
-/// When the rows of a statement are read.
-enum class row_reading {
-    /// By `Open`.
-    at_once,
-    /// All of them by the first function that needs one. For a whole table that is opened although its rows
-    /// may not be needed. An error in the statement is a failure of that function.
-    when_needed,
-    /// One by one, by `MoveNext`; only the current row is in memory. For a statement over all rounds. The
-    /// rows are read-only, and all that needs other rows (any other move, counting, finding, `bof`, `empty`,
-    /// `Requery`) fails with `misuse`.
-    one_by_one
-};
-
 /// The columns that `Open` reads of every row. The other columns of a row are read by one statement when one
 /// of them is first needed, and then kept like the rest.
 struct first_columns {
     /// At least one; each exists in the table.
     std::vector<int> ordinals;
 };
-
-enum class search_direction { forward = 1, backward = -1 };
 
 /// Which rows a batch update writes. Both values commit everything that is pending.
 enum class affect { all = 3, all_chapters = 4 };
@@ -139,7 +124,6 @@ public:
     bool pending() const;
 
 private:
-    friend class Field;
     std::unique_ptr<row_editor> rows_;
 };
 

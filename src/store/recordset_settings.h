@@ -6,6 +6,21 @@
 
 namespace verdane {
 
+/// When the rows of a statement are read.
+enum class row_reading {
+    /// By `Open`.
+    at_once,
+    /// All of them by the first function that needs one. For a whole table that is opened although its rows
+    /// may not be needed. An error in the statement is a failure of that function.
+    when_needed,
+    /// One by one, by `MoveNext`; only the current row is in memory. For a statement over all rounds. The
+    /// rows are read-only, and all that needs other rows (any other move, counting, finding, `bof`, `empty`,
+    /// `Requery`) fails with `misuse`.
+    one_by_one
+};
+
+enum class search_direction { forward = 1, backward = -1 };
+
 enum class cursor_type { dynamic, fixed };
 enum class lock_type { optimistic, batch_optimistic };
 enum class cursor_location { server, client };

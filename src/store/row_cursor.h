@@ -7,7 +7,7 @@
 
 #include "base/run_time_failure.h"
 #include "store/lock_wait.h"
-#include "store/Recordset.h"
+#include "store/recordset_settings.h"
 #include "store/row_reader.h"
 
 namespace verdane {
