@@ -147,18 +147,6 @@ Field Recordset::Fields(QStringView name)
     return {*rows_, rows_->ordinal_of(name)};
 }
 
-int Recordset::field_count() const
-{
-    rows_->need_rows();
-    return rows_->column_count();
-}
-
-QString Recordset::field_name(int ordinal) const
-{
-    rows_->need_rows();
-    return rows_->column(ordinal).name;
-}
-
 column_type Recordset::field_type(int ordinal) const
 {
     rows_->need_rows();

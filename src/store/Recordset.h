@@ -97,9 +97,8 @@ public:
     /// `missing_table` if the statement has no such column.
     Field Fields(int ordinal);
     Field Fields(QStringView name);
-    int field_count() const;
-    QString field_name(int ordinal) const;
-    /// The column's declared type; `any` for a column that the statement computed or joined.
+    /// The column's declared type; `any` for a column that the statement computed or joined. Fails like
+    /// `Fields`.
     column_type field_type(int ordinal) const;
 
     /// A value of the row with that index, from 0. The current row does not change. Null is an invalid value.

@@ -230,7 +230,7 @@ const recordset_column& row_cursor::column(int ordinal) const
 
 int row_cursor::checked_ordinal(int ordinal) const
 {
-    if (ordinal < 0 || ordinal >= column_count())
+    if (ordinal < 0 || ordinal >= static_cast<int>(set_.columns.size()))
         fail(failure_kind::missing_table, u"no column %1"_s.arg(ordinal));
     return ordinal;
 }

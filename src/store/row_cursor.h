@@ -58,7 +58,6 @@ public:
 
     /// A value of a row, which is read now if the row was not read completely.
     const QVariant& cell(recordset_row& row, int ordinal);
-    int column_count() const { return static_cast<int>(set_.columns.size()); }
     /// These three fail with `missing_table` if the statement has no such column.
     const recordset_column& column(int ordinal) const;
     int checked_ordinal(int ordinal) const;

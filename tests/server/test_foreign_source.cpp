@@ -6,6 +6,7 @@
 #include "tests/server/foreign_source.h"
 #include "tests/server/own_server.h"
 #include "tests/support/failures.h"
+#include "tests/support/recordset_columns.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -17,6 +18,16 @@ void run_script(const foreign_source& in, const QString& script)
 {
     for (const QString& statement : script.split(u";\n"_s, Qt::SkipEmptyParts))
         administer(QString(statement).replace(u"TABLE `"_s, u"TABLE `" + in.database() + u"`.`"));
+}
+
+/// True if the first column has the name that `text` begins with, of more than `least` letters.
+bool first_column_begins(Recordset& rows, const QString& text, qsizetype least)
+{
+    for (qsizetype size = text.size(); size > least; --size) {
+        if (!failure_of([&] { rows.Fields(text.first(size)); }))
+            return rows.Fields(text.first(size)).ordinal() == 0;
+    }
+    return false;
 }
 
 }  // namespace
@@ -119,9 +130,8 @@ private Q_SLOTS:
         const QString expression = u"language"_s + u"+language"_s.repeated(20);
         const auto rows = opened(any, u"select %1, language+7 from settings"_s.arg(expression));
         QVERIFY(expression.size() > 128);
-        QVERIFY(rows->field_name(0).size() > 100);
-        QVERIFY2(expression.startsWith(rows->field_name(0)), qPrintable(rows->field_name(0)));
-        QCOMPARE(rows->field_name(1), u"language+7"_s);
+        QVERIFY(first_column_begins(*rows, expression, 100));
+        QCOMPARE(rows->Fields(u"language+7").ordinal(), 1);
         QCOMPARE(rows->Fields(0).to_double(), 0.0);
         QCOMPARE(rows->Fields(1).to_double(), 7.0);
     }
@@ -161,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(bare.connection.identity_script(), QString());
         Recordset partners(bare.connection, partners_settings());
         partners.Open();
-        QCOMPARE(partners.field_count(), static_cast<int>(find_table(u"partners")->columns.size()));
+        QCOMPARE(column_count(partners), static_cast<int>(find_table(u"partners")->columns.size()));
         add_partner(partners, u"a"_s, 1);
         partners.Fields(u"TEL").set(u"1"_s);
         partners.Update();

@@ -6,6 +6,7 @@
 #include "store/tables/partners.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
+#include "tests/support/recordset_columns.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
@@ -159,7 +160,7 @@ private Q_SLOTS:
         const coded_partners partners;
         partners.rows->Close();
         partners.rows->Open();
-        QCOMPARE(partners.values_read(), 3 + 3 * partners.rows->field_count());
+        QCOMPARE(partners.values_read(), 3 + 3 * testing::column_count(*partners.rows));
     }
 
     void a_statement_with_a_list_of_columns_is_read_completely()

@@ -37,8 +37,7 @@ const std::vector<operation>& all_operations()
         {"Find", [](Recordset& r) { r.Find(u"name='a'"_s); }},
         {"Fields by place", [](Recordset& r) { r.Fields(0); }},
         {"Fields by name", [](Recordset& r) { r.Fields(u"name"); }},
-        {"field_count", [](Recordset& r) { r.field_count(); }},
-        {"field_name", [](Recordset& r) { r.field_name(0); }},
+        {"field_type", [](Recordset& r) { r.field_type(0); }},
         {"value_at", [](Recordset& r) { r.value_at(0, 0); }},
         {"AddNew", [](Recordset& r) { r.AddNew(); }},
         {"Update", [](Recordset& r) { r.Update(); }},
@@ -160,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { partners->Fields(7); }) == failure_kind::missing_table);
         QVERIFY(failure_of([&] { partners->Fields(-1); }) == failure_kind::missing_table);
         QVERIFY(failure_of([&] { partners->Fields(u"nickname"); }) == failure_kind::missing_table);
-        QVERIFY(failure_of([&] { partners->field_name(7); }) == failure_kind::missing_table);
+        QVERIFY(failure_of([&] { partners->field_type(7); }) == failure_kind::missing_table);
     }
 
     void a_text_that_is_no_statement_is_refused()

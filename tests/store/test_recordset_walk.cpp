@@ -3,6 +3,7 @@
 #include "tests/store/store_fixture.h"
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/failures.h"
+#include "tests/support/recordset_columns.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
@@ -161,7 +162,7 @@ private Q_SLOTS:
         QCOMPARE(partners->Fields(0).text(), u"a"_s);
         QCOMPARE(partners->Fields(u"Name").text(), u"a"_s);
         QCOMPARE(plain(partners->Fields(u"CODE").to_int32()), 1);
-        QCOMPARE(partners->field_count(), 7);
+        QCOMPARE(testing::column_count(*partners), 7);
         QCOMPARE(partners->field_type(6), column_type::amount);
     }
 
@@ -174,7 +175,7 @@ private Q_SLOTS:
         const auto shots =
             store.opened(u"select STAT_ROUNDS.date, hole, games2.date, verges, ts from STAT_ROUNDS, GAMES2 "
                          u"where STAT_ROUNDS.date=games2.date"_s);
-        QCOMPARE(shots->field_count(), 5);
+        QCOMPARE(testing::column_count(*shots), 5);
         QCOMPARE(plain(shots->Fields(1).to_int16()), 4);
         QCOMPARE(plain(shots->Fields(3).to_int16()), 380);
         QVERIFY(shots->Fields(4).yes());
