@@ -109,7 +109,7 @@ void Connection1::Execute(const QString& statement)
         throw run_time_failure(failure_kind::misuse, QString(statement + u": the connection is closed"));
     need_soundness();
     const lock_wait::limit wait(*waiting_, lock_wait::default_time_out_s);
-    ++traffic_.statements;
+    count_statement();
     QSqlQuery query(database());
     if (!query.exec(engine_->as_sent(statement)))
         throw engine_->failure(query.lastError(), statement);

@@ -114,8 +114,15 @@ public:
     /// The engine of the open store, for this library only. Fails with `misuse` on a closed connection.
     store_engine& engine() const;
 
-    /// Counted by the functions of this library that send statements.
-    store_traffic& traffic() const { return traffic_; }
+    const store_traffic& traffic() const { return traffic_; }
+
+    /// Count what was sent and read, for the functions of this library that do so.
+    void count_statement() const { ++traffic_.statements; }
+    void count_row(std::size_t values) const
+    {
+        ++traffic_.rows;
+        traffic_.values += static_cast<qint64>(values);
+    }
 
     /// How statements wait for the lock of another program. The time-out is that of the recordset, or
     /// `lock_wait::default_time_out_s`.

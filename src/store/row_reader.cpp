@@ -158,7 +158,7 @@ row_stream::row_stream(const Connection1& connection, const QString& statement, 
     has_numbers_ = !identity.isEmpty();
     if (!can_read_first(shape_, identity))
         read_first_.clear();
-    ++connection.traffic().statements;
+    connection.count_statement();
     rows_ = engine.select(engine_statement(engine, statement, identity), where);
 }
 
@@ -192,9 +192,7 @@ std::unique_ptr<recordset_row> row_stream::next(const row_set& columns)
 {
     if (!rows_->next())
         return nullptr;
-    store_traffic& traffic = connection_.traffic();
-    ++traffic.rows;
-    traffic.values += static_cast<qint64>(read_first_.empty() ? columns.columns.size() : read_first_.size());
+    connection_.count_row(read_first_.empty() ? columns.columns.size() : read_first_.size());
     return read_row(*rows_, columns);
 }
 

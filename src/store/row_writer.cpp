@@ -191,7 +191,7 @@ qint64 write_row(const Connection1& connection, const row_set& set, const record
 {
     connection.need_soundness();
     if (row.pending->is_new || !changed_columns(row).empty())
-        ++connection.traffic().statements;
+        connection.count_statement();
     if (row.pending->is_new)
         return insert_row(connection.engine(), set, row, where);
     update_row(connection.engine(), set, row, where);
@@ -203,7 +203,7 @@ void erase_row(const Connection1& connection, const row_set& set, const recordse
 {
     connection.need_soundness();
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
-    ++connection.traffic().statements;
+    connection.count_statement();
     // Without a number, a row that has other values now would be kept in the store without notice.
     if (change_row(connection.engine(), statement, set, row, row.equal_before, where) == 0 &&
         !set.has_numbers)
