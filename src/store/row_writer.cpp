@@ -6,6 +6,7 @@
 #include "store/Connection1.h"
 #include "store/engines/engine.h"
 #include "store/prepared_statements.h"
+#include "store/schema.h"
 
 namespace verdane {
 
@@ -66,7 +67,7 @@ statement_with_values start_statement(QStringView words, const row_set& set, std
     constexpr qsizetype letters_of_a_column = 32;
     statement_with_values statement;
     statement.text.reserve(letters_of_a_column * static_cast<qsizetype>(columns + 2));
-    statement.text += words + u'`' + set.shape.table + u'`';
+    statement.text += words + in_back_quotes(set.shape.table);
     statement.values.reserve(columns + 1);
     return statement;
 }

@@ -4,6 +4,8 @@
 #include <array>
 #include <vector>
 
+#include "store/schema.h"
+
 namespace verdane {
 
 using namespace Qt::StringLiterals;
@@ -141,7 +143,7 @@ QString with_row_number(const QString& statement, const select_statement& shape,
 QString with_qualified_columns(const QString& statement, const select_statement& shape)
 {
     QString columns = statement.sliced(shape.columns_at, shape.columns_end - shape.columns_at);
-    columns.replace(u"*"_s, u'`' + shape.table + u"`.*");
+    columns.replace(u"*"_s, in_back_quotes(shape.table) + u".*");
     return statement.first(shape.columns_at) + columns + statement.sliced(shape.columns_end);
 }
 

@@ -69,9 +69,9 @@ QString selection_of(const store_engine& engine, const table& copied)
 {
     QStringList columns;
     for (const column& each : copied.columns)
-        columns += u'`' + each.name + u'`';
+        columns += in_back_quotes(each.name);
     const QString identity = engine.identity_column(copied.name);
-    return u"select %1 from `%2`"_s.arg(columns.join(u", "_s), copied.name) +
+    return u"select %1 from %2"_s.arg(columns.join(u", "_s), in_back_quotes(copied.name)) +
            (identity.isEmpty() ? QString() : u" order by " + identity);
 }
 

@@ -8,6 +8,7 @@
 
 #include "store/engines/embedded_engine.h"
 #include "store/engines/odbc_engine.h"
+#include "store/schema.h"
 
 namespace verdane {
 
@@ -80,7 +81,7 @@ QString store_engine::select_with_identity(const QString& statement, const selec
 void store_engine::add_comparison(statement_with_values& statement, const QString& column,
                                   const QVariant& value) const
 {
-    statement.text += u'`' + column + u"` IS ";
+    statement.text += in_back_quotes(column) + u" IS ";
     add_value(statement, value);
 }
 

@@ -125,7 +125,7 @@ bool mariadb_engine::holds_rows() const
 {
     const auto has_rows = [this](const table& declared) {
         return declared.fixed_rows == 0 && tables_.contains(declared.name) &&
-               first_value(u"select count(*) from `" + declared.name + u'`') != u"0";
+               first_value(u"select count(*) from " + in_back_quotes(declared.name)) != u"0";
     };
     return std::any_of(schema().begin(), schema().end(), has_rows);
 }
@@ -180,12 +180,12 @@ void mariadb_engine::add_comparison(statement_with_values& statement, const QStr
     // The texts of a table that was made by someone else may be compared without regard to case, and every
     // number but 0 is a yes.
     if (value.typeId() == QMetaType::QString)
-        statement.text +=
-            u"CONVERT(`" + column + u"` USING utf8mb4) COLLATE " + mariadb_tables::collation() + u" <=> ";
+        statement.text += u"CONVERT(" + in_back_quotes(column) + u" USING utf8mb4) COLLATE " +
+                          mariadb_tables::collation() + u" <=> ";
     else if (value.typeId() == QMetaType::Bool)
-        statement.text += u"(`" + column + u"` <> 0) <=> ";
+        statement.text += u'(' + in_back_quotes(column) + u" <> 0) <=> ";
     else
-        statement.text += u'`' + column + u"` <=> ";
+        statement.text += in_back_quotes(column) + u" <=> ";
     add_value(statement, value);
 }
 
