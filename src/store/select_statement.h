@@ -26,8 +26,7 @@ select_statement read_select(QStringView statement);
 
 /// The statement with the column that identifies a row selected before the others. Only for an updatable
 /// statement.
-QString with_row_number(const QString& statement, const select_statement& shape,
-                        const QString& identity = QStringLiteral("rowid"));
+QString with_row_number(const QString& statement, const select_statement& shape, const QString& identity);
 
 /// The statement with each `*` in its list of columns after the name of the table: `select t.* from t`. Only
 /// for an updatable statement.

@@ -45,7 +45,7 @@ private Q_SLOTS:
         const select_statement shape = read_select(statement);
         QVERIFY(shape.updatable);
         QCOMPARE(shape.table, table);
-        QCOMPARE(with_row_number(statement, shape), fetched);
+        QCOMPARE(with_row_number(statement, shape, u"rowid"_s), fetched);
     }
 
     void every_star_of_the_columns_is_qualified_and_nothing_else()

@@ -12,6 +12,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 store_engine::store_engine(QString name, store_location where)
     : name_(std::move(name)), where_(std::move(where))
 {
@@ -35,10 +37,10 @@ bool store_engine::is_open() const
 QStringList store_engine::damaged_indexes() const
 {
     static const QRegularExpression difference(
-        QStringLiteral("^(?:row -?\\d+ missing from|wrong # of entries in|row -?\\d+ values differ from|"
-                       "rowid not at end-of-record for row -?\\d+ of) index (.+)$"));
+        u"^(?:row -?\\d+ missing from|wrong # of entries in|row -?\\d+ values differ from|"
+        u"rowid not at end-of-record for row -?\\d+ of) index (.+)$"_s);
     QStringList names;
-    for (const QString& verdict : first_values(QStringLiteral("PRAGMA integrity_check"))) {
+    for (const QString& verdict : first_values(u"PRAGMA integrity_check"_s)) {
         const auto found = difference.match(verdict);
         if (found.hasMatch())
             names << found.captured(1);
@@ -53,7 +55,7 @@ void store_engine::rebuild_indexes()
 {
     run(commits().begin_locked);
     try {
-        run(QStringLiteral("REINDEX"));
+        run(u"REINDEX"_s);
         check_soundness();
         run(commits().finish);
     } catch (...) {
@@ -64,12 +66,12 @@ void store_engine::rebuild_indexes()
 
 QString store_engine::table_ending(const table&) const
 {
-    return QStringLiteral(")");
+    return u")"_s;
 }
 
 QStringList store_engine::index_names() const
 {
-    return first_values(QStringLiteral("select name from sqlite_master where type = 'index'"));
+    return first_values(u"select name from sqlite_master where type = 'index'"_s);
 }
 
 QString store_engine::select_with_identity(const QString& statement, const select_statement& shape,

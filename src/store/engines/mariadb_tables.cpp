@@ -12,6 +12,16 @@ namespace verdane {
 
 using namespace Qt::StringLiterals;
 
+QString mariadb_tables::row_column()
+{
+    return u"verdane_row"_s;
+}
+
+QString mariadb_tables::collation()
+{
+    return u"utf8mb4_nopad_bin"_s;
+}
+
 QString mariadb_tables::ending(const table& declared)
 {
     QString index;

@@ -17,10 +17,10 @@ struct table;
 /// invisible: `select *` does not return it.
 class mariadb_tables {
 public:
-    static QString row_column() { return QStringLiteral("verdane_row"); }
+    static QString row_column();
 
     /// Compares texts character by character, trailing blanks included.
-    static QString collation() { return QStringLiteral("utf8mb4_nopad_bin"); }
+    static QString collation();
 
     /// What follows the columns in the statement that creates a table with that column.
     static QString ending(const table& declared);

@@ -26,7 +26,7 @@ void resolve(Function& function, const char* name)
     function = reinterpret_cast<Function>(driver_manager().resolve(name));
     if (function == nullptr)
         throw run_time_failure(failure_kind::store_unreachable,
-                               u"%1: %2: %3"_s.arg(driver_manager().fileName(), QLatin1String(name),
+                               u"%1: %2: %3"_s.arg(driver_manager().fileName(), QString::fromLatin1(name),
                                                    driver_manager().errorString()));
 }
 
