@@ -57,7 +57,7 @@ foreach(folder ${folders})
   endforeach()
 endforeach()
 
-set(folders_without_cycles base scoring records round)
+set(folders_without_cycles base scoring store/tables records round transfer)
 foreach(folder ${folders_without_cycles})
   file(GLOB files RELATIVE ${SOURCES}/src ${SOURCES}/src/${folder}/*.h ${SOURCES}/src/${folder}/*.cpp)
   set(sources)
