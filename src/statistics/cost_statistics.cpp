@@ -1,5 +1,7 @@
 #include "statistics/cost_statistics.h"
 
+#include <QStringList>
+
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "reports/report_control.h"
