@@ -149,7 +149,7 @@ private Q_SLOTS:
     void the_round_keys_are_loaded_trimmed_and_in_time_order()
     {
         QStringList statements = one_course();
-        // The column of a server has room for 14 characters.
+        // The column of a server stores at most 14 characters.
         for (const char* key : {"20260101120000", " 202512312359 ", "20260101115959"})
             statements << one_round(QString::fromLatin1(key));
         program_run run(1, statements);

@@ -243,7 +243,7 @@ run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& 
     const QString text = error.databaseText();
     const QString shown = text.isEmpty() ? u"connection lost"_s : text;
     const failure_kind kind = kind_of_mariadb_error(code, text);
-    // A server that writes a binary log does not report a full disk; it waits until there is room again.
+    // A server that writes a binary log does not report a full disk; it waits until space is free again.
     const QString hint = kind == failure_kind::source_lost
                              ? u"; the server may wait for room on a full disk: see its log"_s
                              : QString();
