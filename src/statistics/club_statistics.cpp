@@ -23,7 +23,7 @@ void put_shot_counts(const bag_sums& clubs)
 void write_table(const selection_arguments& chosen, const gathered_shots& gathered, bool store_counts,
                  run_progress& bar)
 {
-    const relaxed_commits scratch(data_environment().connection);
+    relaxed_commits scratch(data_environment().connection);
     bar.move_to(30);
     club_table::open();
     club_table::write_heading(chosen);
@@ -33,6 +33,7 @@ void write_table(const selection_arguments& chosen, const gathered_shots& gather
     if (store_counts)
         put_shot_counts(gathered.clubs);
     club_table::write_round_count_and_close(gathered.rounds);
+    scratch.finish();
     bar.move_to(100);
 }
 

@@ -113,10 +113,11 @@ bool fill_from_costs(const selection_arguments& chosen, run_progress& bar)
 
 bool fill_in_one_commit(const selection_arguments& chosen, run_progress& bar)
 {
-    const relaxed_commits scratch(data_environment().connection);
+    relaxed_commits scratch(data_environment().connection);
     single_commit together(data_environment().connection);
     const bool any_cost = fill_from_costs(chosen, bar);
     together.finish();
+    scratch.finish();
     return any_cost;
 }
 

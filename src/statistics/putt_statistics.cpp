@@ -43,7 +43,7 @@ void write_tables(const selection_arguments& chosen, const gathered_putts& gathe
     bar.move_to(30);
     const putt_figures figures = compute_figures(gathered.counts, bar);
     bar.move_to(90);
-    const relaxed_commits scratch(data_environment().connection);
+    relaxed_commits scratch(data_environment().connection);
     putt_tables::open();
     putt_tables::write_captions();
     putt_tables::write_range(Verdane_tools::key_text(chosen.from_key),
@@ -53,6 +53,7 @@ void write_tables(const selection_arguments& chosen, const gathered_putts& gathe
     putt_tables::write_rating_on_last_row(figures.rating());
     putt_tables::write_round_count(gathered.rounds);
     putt_tables::commit_and_close();
+    scratch.finish();
     bar.move_to(100);
 }
 
@@ -83,7 +84,7 @@ void putt_statistics(const selection_arguments& chosen, const run_controls& cont
 
 bool round_putts(const QString& caption_1, const QString& caption_2)
 {
-    const relaxed_commits scratch(data_environment().connection);
+    relaxed_commits scratch(data_environment().connection);
     run_progress no_bar;
     const putt_figures figures = compute_figures(putts_of_current_round(), no_bar);
     putt_tables::open();
@@ -92,6 +93,7 @@ bool round_putts(const QString& caption_1, const QString& caption_2)
     putt_tables::write_rating_on_first_row(figures.rating());
     putt_tables::write_range(caption_1, caption_2);
     putt_tables::commit_and_close();
+    scratch.finish();
     return figures.counts.any_putt;
 }
 

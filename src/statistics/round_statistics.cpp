@@ -80,12 +80,9 @@ bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress&
     return true;
 }
 
-}  // namespace
-
-std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, run_progress& bar)
+/// Rebuilds the table; no value if there is nothing to print.
+std::optional<season_rounds> fill_stats_table(const selection_arguments& chosen, run_progress& bar)
 {
-    // Each run rebuilds the table with hundreds of commits.
-    const relaxed_commits scratch(data_environment().connection);
     stats_table::open_cleared();
     run_detail_pass(chosen, bar);
     filled_lines filled = fill_round_lines(chosen);
@@ -100,6 +97,17 @@ std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, 
     if (!finish_table(chosen, filled.rounds, bar))
         return {};
     return std::move(filled.season);
+}
+
+}  // namespace
+
+std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, run_progress& bar)
+{
+    // Each run rebuilds the table with hundreds of commits.
+    relaxed_commits scratch(data_environment().connection);
+    std::optional<season_rounds> rounds = fill_stats_table(chosen, bar);
+    scratch.finish();
+    return rounds;
 }
 
 void round_statistics(const selection_arguments& chosen, const run_controls& controls)

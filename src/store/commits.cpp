@@ -94,9 +94,26 @@ relaxed_commits::relaxed_commits(Connection1& connection) : connection_(connecti
 
 relaxed_commits::~relaxed_commits()
 {
-    if (--connection_.relaxations_ > 0 || !connection_.is_open())
+    if (!finished_ && leave() && !run(connection_, statements_of(connection_).restore))
+        connection_.Close();
+}
+
+void relaxed_commits::finish()
+{
+    finished_ = true;
+    if (!leave())
         return;
-    run(connection_, statements_of(connection_).restore);
+    try {
+        connection_.Execute(statements_of(connection_).restore);
+    } catch (...) {
+        connection_.Close();
+        throw;
+    }
+}
+
+bool relaxed_commits::leave()
+{
+    return --connection_.relaxations_ == 0 && connection_.is_open();
 }
 
 }  // namespace verdane

@@ -52,8 +52,8 @@ private:
 /// hundreds of times; lost rows of these are computed again by the next run. After the last such scope
 /// commits are as safe as before, and the first of them also writes the earlier ones to the disk.
 ///
-/// A server cannot do so: it commits the statements together at the end of the outermost scope, and those of
-/// a transaction within it at the end of that.
+/// A server cannot do so: `finish` of the outermost scope commits the statements together, and a transaction
+/// within it at its own end.
 ///
 /// Reports read committed rows, and a relaxed commit is one.
 ///
@@ -66,8 +66,17 @@ public:
     relaxed_commits(const relaxed_commits&) = delete;
     relaxed_commits& operator=(const relaxed_commits&) = delete;
 
+    /// Ends the scope. Fails with the kind that fits the engine's error, also if an engine cannot commit the
+    /// statements. The destructor ends a scope that a failure has left. If the statements cannot be
+    /// committed, both close the connection: later statements would never be committed.
+    void finish();
+
 private:
+    /// True if this is the outermost scope of an open connection.
+    bool leave();
+
     Connection1& connection_;
+    bool finished_ = false;
 };
 
 }  // namespace verdane

@@ -112,13 +112,23 @@ std::vector<index_creation> all_indexes()
     return indexes;
 }
 
+/// False if an earlier start was ended before it had inserted all rows. Complete rows may have been edited.
+bool has_fixed_rows(const Connection1& connection, const table& filled)
+{
+    QSqlQuery query(connection.database());
+    return query.exec(u"SELECT COUNT(*) FROM " + in_back_quotes(filled.name)) && query.next() &&
+           query.value(0).toInt() == filled.fixed_rows;
+}
+
 void create_tables_and_indexes(Connection1& connection)
 {
     store_engine& engine = connection.engine();
     for (const table& table : schema()) {
         if (!engine.was_created_before(table.name))
             connection.Execute(creation_statement(engine, table));
-        else if (table.fixed_rows > 0)
+        else if (has_fixed_rows(connection, table))
+            continue;
+        else
             connection.Execute(u"DELETE FROM " + in_back_quotes(table.name));
         insert_fixed_rows(connection, table);
     }

@@ -95,6 +95,19 @@ private Q_SLOTS:
         QCOMPARE(damaged.outside().number(u"select count(*) from games"_s), 1);
     }
 
+    void an_edited_golf_bag_is_kept_when_a_missing_table_is_created_again()
+    {
+        foreign_source edited;
+        edited.open();
+        edited.connection.Execute(u"update sticknames set club_1 = 'Driver'"_s);
+        edited.connection.Execute(u"update settings set language = 2"_s);
+        edited.connection.Close();
+        administer(u"drop table %1.%2"_s.arg(edited.database(), schema().back().name));
+        edited.open();
+        QCOMPARE(edited.outside().number(u"select count(*) from sticknames where club_1 = 'Driver'"_s), 1);
+        QCOMPARE(edited.outside().number(u"select language from settings"_s), 2);
+    }
+
     void a_setting_of_the_server_loses_no_save_data()
     {
         QTest::addColumn<QString>("setting");
