@@ -13,10 +13,12 @@
 #include "store/DataEnvironment1.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/hand_widgets.h"
+#include "tests/support/languages.h"
 #include "tests/support/store_folder.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
+using verdane::testing::both_languages;
 using verdane::testing::find_control;
 using verdane::testing::hand;
 using verdane::testing::play;
@@ -45,20 +47,23 @@ private Q_SLOTS:
         });
     }
 
+    void the_about_window_shows_which_store_is_open_data() { both_languages(); }
     void the_about_window_shows_which_store_is_open()
     {
-        program_run run(1);
-        run.play_through([](hand& user) {
+        QFETCH(bool, french);
+        program_run run(french ? 1 : 2);
+        run.play_through([french](hand& user) {
+            const QString about = french ? u"f_about"_s : u"f_about_en"_s;
+            const QString source =
+                french ? u"Source de données ODBC Verdbase"_s : u"ODBC data source Verdbase"_s;
             user.wait_for_window(u"MainForm"_s);
             user.menu(u"maprop"_s);
-            user.wait_for_window(u"f_about"_s);
+            user.wait_for_window(about);
             const store_location where = data_environment().connection.location();
             const bool is_file = where.where == store_location::place::file;
-            user.same(user.text(u"store"_s),
-                      is_file ? Connection1::default_path() : u"Source de données ODBC Verdbase"_s,
-                      u"the store"_s);
+            user.same(user.text(u"store"_s), is_file ? Connection1::default_path() : source, u"the store"_s);
             user.click(u"cmdOK"_s);
-            user.wait_until_closed(u"f_about"_s);
+            user.wait_until_closed(about);
             user.menu(u"mQuit"_s);
         });
     }
