@@ -14,8 +14,11 @@
 
 #include "base/failure_words.h"
 #include "base/language.h"
+#include "controls/failure_guard.h"
+#include "controls/interface_language.h"
 #include "shell/start_up.h"
 #include "store/Connection1.h"
+#include "store/DataEnvironment1.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/registered_source.h"
 #include "store/schema.h"
@@ -51,6 +54,15 @@ source_settings good_settings()
     return settings;
 }
 
+/// Prints the failure that is shown, and closes its box.
+void print_failure(hand& user)
+{
+    std::printf("failure: %s\ndetails: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)),
+                qUtf8Printable(user.text(u"qt_msgbox_informativelabel"_s)));
+    std::fflush(stdout);
+    user.key(Qt::Key_Return);
+}
+
 /// The child process: starts the program, prints the failure if there is one, and quits.
 int start_and_leave()
 {
@@ -58,16 +70,25 @@ int start_and_leave()
     play([&] { status = run_verdane(*qApp); },
          [](hand& user) {
              user.wait_until(u"a window"_s, [] { return QApplication::activeWindow() != nullptr; });
-             if (user.is_open(u"failure_box"_s)) {
-                 std::printf("failure: %s\ndetails: %s\n", qUtf8Printable(user.text(u"qt_msgbox_label"_s)),
-                             qUtf8Printable(user.text(u"qt_msgbox_informativelabel"_s)));
-                 std::fflush(stdout);
-                 user.key(Qt::Key_Return);
-                 return;
-             }
-             quit(user);
+             if (user.is_open(u"failure_box"_s))
+                 print_failure(user);
+             else
+                 quit(user);
          });
     return status;
+}
+
+/// The child process: opens a source that is not registered, as the program opens its store, and prints the
+/// failure. The exit status is not used, because the program ends after the failure.
+int open_unknown_source()
+{
+    reset_interface_language();
+    play([] { run_event([] { data_environment().connection.Open(store_location::source(u"nowhere"_s)); }); },
+         [](hand& user) {
+             user.wait_for_window(u"failure_box"_s);
+             print_failure(user);
+         });
+    return -1;
 }
 
 /// The child process: prints how long opening the store takes until it fails, in milliseconds.
@@ -355,12 +376,18 @@ private Q_SLOTS:
         QCOMPARE(child_start(good_settings()).status, 0);
     }
 
-    void a_source_that_is_not_registered_is_unknown()
+    void a_source_that_is_not_registered_is_reported_in_both_languages()
     {
         Connection1 connection;
         QVERIFY(failure_of([&] { connection.Open(store_location::source(u"nowhere"_s)); }) ==
                 failure_kind::source_unknown);
         QVERIFY(!connection.is_open());
+        const ended child = child_start(good_settings(), u"--unknown"_s);
+        QVERIFY2(child.said.contains(u"n'est pas enregistrée sur cet ordinateur") &&
+                     child.said.contains(u"is not registered on this computer"),
+                 qPrintable(child.said));
+        QVERIFY2(child.said.endsWith(u"details: nowhere\n"), qPrintable(child.said));
+        QCOMPARE(child.status, 1);
     }
 };
 
@@ -371,6 +398,8 @@ int main(int argc, char** argv)
     const QString way = application.arguments().value(1);
     if (way == u"--start")
         return start_and_leave();
+    if (way == u"--unknown")
+        return open_unknown_source();
     if (way == u"--time")
         return time_refusal();
     if (way == u"--hold")

@@ -132,6 +132,9 @@ private Q_SLOTS:
             << QStringList{u"alter table games drop column missed_18"_s} << failure_kind::source_column;
         QTest::newRow("renamed column") << QStringList{u"alter table games rename column field to course"_s}
                                         << failure_kind::source_column;
+        QTest::newRow("moved column") << QStringList{u"alter table partners drop column NAME"_s,
+                                                     u"alter table partners add column NAME text"_s}
+                                      << failure_kind::source_column;
         QTest::newRow("column of another type")
             << QStringList{u"drop table hand"_s, u"create table hand (hnd text)"_s}
             << failure_kind::source_type;

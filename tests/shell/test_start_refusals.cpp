@@ -13,9 +13,11 @@
 #include "shell/start_up.h"
 #include "tests/shell/main_windows.h"
 #include "tests/shell/program_run.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
+using verdane::testing::both_languages;
 using verdane::testing::hand;
 using verdane::testing::play;
 using verdane::testing::program_run;
@@ -54,6 +56,12 @@ ended child_start(const char* way = "--start")
     child.waitForFinished(120000);
     return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
             QString::fromUtf8(child.readAllStandardOutput())};
+}
+
+/// What the child process prints about a failure after the language of the diary was read.
+QString reported(failure_kind kind, bool french)
+{
+    return u"failure: %1\n"_s.arg(failure_words(kind).in(french));
 }
 
 constexpr QFile::Permissions owner_only = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
@@ -102,13 +110,14 @@ private Q_SLOTS:
         QCOMPARE(child.status, 0);
     }
 
-    void a_diary_of_367_rounds_is_a_failure_of_the_start()
+    void a_diary_of_367_rounds_is_reported_in_its_language_and_ends_the_program_data() { both_languages(); }
+    void a_diary_of_367_rounds_is_reported_in_its_language_and_ends_the_program()
     {
-        program_run run(2, rounds(367));
+        QFETCH(bool, french);
+        const program_run run(french ? 1 : 2, rounds(367));
         const ended child = child_start();
         QCOMPARE(child.status, 1);
-        QVERIFY2(child.output.contains(failure_words(failure_kind::subscript).english),
-                 qPrintable(child.output));
+        QCOMPARE(child.output, reported(failure_kind::subscript, french));
     }
 
     void a_second_program_on_the_same_diary_reports_the_lock_and_stops()
@@ -158,13 +167,17 @@ private Q_SLOTS:
         QCOMPARE(content(path), before);
     }
 
-    void a_missing_table_is_reported_and_ends_the_program()
+    void a_missing_table_is_reported_in_the_language_of_the_diary_and_ends_the_program_data()
     {
-        program_run run(1, {u"drop table sticknames"_s});
+        both_languages();
+    }
+    void a_missing_table_is_reported_in_the_language_of_the_diary_and_ends_the_program()
+    {
+        QFETCH(bool, french);
+        const program_run run(french ? 1 : 2, {u"drop table sticknames"_s});
         const ended child = child_start();
         QCOMPARE(child.status, 1);
-        QVERIFY2(child.output.contains(failure_words(failure_kind::missing_table).french),
-                 qPrintable(child.output));
+        QCOMPARE(child.output, reported(failure_kind::missing_table, french));
     }
 };
 

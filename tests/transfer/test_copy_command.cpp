@@ -149,6 +149,28 @@ private Q_SLOTS:
         QVERIFY(again.errors().contains(name + u" 2/Verdbase.db is not empty: table games has 2 rows."));
     }
 
+    void a_source_that_is_not_registered_is_reported_in_the_language_of_the_user_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("French") << u"fr_FR.UTF-8"_s << u"n'est pas enregistrée sur cet ordinateur"_s;
+        QTest::newRow("English") << u"en_GB.UTF-8"_s << u"is not registered on this computer"_s;
+    }
+
+    void a_source_that_is_not_registered_is_reported_in_the_language_of_the_user()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, words);
+        const copied_folder folder;
+        const QStringList before = all_rows(folder.diary);
+        store_run run({u"copy"_s, file_argument(folder.diary), u"source:nowhere"_s});
+        run.set_language(language);
+        QCOMPARE(run.run(), status(exit_status::failed));
+        const QString errors = run.errors();
+        QVERIFY2(errors.contains(words) && errors.endsWith(u"\nnowhere\n"), qPrintable(errors));
+        QCOMPARE(all_rows(folder.diary), before);
+    }
+
     void a_wrong_command_line_is_refused_data()
     {
         QTest::addColumn<QStringList>("arguments");
