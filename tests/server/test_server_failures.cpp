@@ -5,9 +5,9 @@
 #include <functional>
 
 #include "shell/start_up.h"
-#include "store/schema.h"
 #include "tests/server/failing_round.h"
 #include "tests/server/own_server.h"
+#include "tests/server/rights_of_account.h"
 #include "tests/shell/program_run.h"
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/failure_boxes.h"
@@ -35,30 +35,6 @@ int fail_in_a_round(failure_kind kind)
              user.answer(failure_box(kind));
          });
     return not_reached;
-}
-
-/// Grants or revokes rights on each table, because open connections keep their rights on a whole database.
-void change_rights(const QString& statement)
-{
-    const QString database = file_of(program_run::store_place());
-    for (const table& each : schema())
-        administer(statement.arg(database, each.name));
-}
-
-void grant_rights_by_table()
-{
-    change_rights(u"grant select, insert, update, delete on %1.%2 to golfer@localhost"_s);
-    administer(u"revoke all on `verdbase%`.* from golfer@localhost"_s);
-}
-
-void revoke_right_to_write()
-{
-    change_rights(u"revoke insert, update, delete on %1.%2 from golfer@localhost"_s);
-}
-
-void restore_rights()
-{
-    administer(u"grant all on `verdbase%`.* to golfer@localhost"_s);
 }
 
 void rename_table(const QString& from, const QString& to)
