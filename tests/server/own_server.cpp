@@ -2,6 +2,7 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QThread>
 
@@ -16,6 +17,9 @@ namespace verdane::testing {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// In steps of 4 MB instead of 64.
+const QString growth_of_file = u"--innodb-autoextend-increment=4"_s;
 
 QString folder()
 {
@@ -85,8 +89,10 @@ void wait_until_a_table_is_awaited()
 
 QStringList room_for_mb(int megabytes)
 {
-    return {u"--innodb-file-per-table=0"_s, u"--innodb-autoextend-increment=4"_s,
-            u"--innodb-data-file-path=ibdata1:12M:autoextend:max:%1M"_s.arg(megabytes)};
+    constexpr qint64 mb = 1024 * 1024;
+    const qint64 present = QFileInfo(folder() + u"/data/ibdata1").size() / mb;
+    return {u"--innodb-file-per-table=0"_s, growth_of_file,
+            u"--innodb-data-file-path=ibdata1:12M:autoextend:max:%1M"_s.arg(present + megabytes)};
 }
 
 void fill_server(const QString& database, const QString& table)
@@ -101,7 +107,7 @@ void fill_server(const QString& database, const QString& table)
 void empty_server(const QString& database, const QString& table)
 {
     stop_server();
-    start_server({u"--innodb-file-per-table=0"_s});
+    start_server({u"--innodb-file-per-table=0"_s, growth_of_file});
     administer(u"drop table mysql.filler"_s);
     administer(u"delete from %1.%2 where date = ''"_s.arg(database, table));
     stop_server();

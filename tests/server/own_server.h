@@ -22,7 +22,8 @@ void administer(const QString& statement);
 /// test. Usable from any thread.
 void wait_until_a_table_is_awaited();
 
-/// Options of a server that stores at most that number of megabytes in the tables made while it has them.
+/// Options for the next start of the stopped server: its file of tables grows by at most that number of
+/// megabytes, and contains the tables that are created meanwhile.
 QStringList room_for_mb(int megabytes);
 
 /// Fills the disk space that `room_for_mb` allows, and the pages of a table, with rows that have no key. The

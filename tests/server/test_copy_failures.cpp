@@ -22,7 +22,7 @@ namespace {
 
 void start_with_little_room()
 {
-    start_server(room_for_mb(64));
+    start_server(room_for_mb(48));
 }
 
 /// The rows of all tables whose number of rows is not fixed.

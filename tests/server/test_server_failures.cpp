@@ -55,7 +55,7 @@ const auto nothing = [] {};
 
 void start_with_little_room()
 {
-    start_server(room_for_mb(64));
+    start_server(room_for_mb(48));
 }
 
 const std::vector<harm>& harms()
