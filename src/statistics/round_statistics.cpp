@@ -19,22 +19,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Determines whether the selection has shots. The summary pass overwrites the figures of this pass.
-void run_detail_pass(const selection_arguments& chosen, run_progress& bar)
+void report_no_detail()
 {
-    const std::vector<detailed_hole> holes = gather_detail(chosen);
-    if (holes.empty())
-        show_information(
-            in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies. Faite OK "
-                        u"pour vérifier si des statistiques sommaires existent.",
-                        u"Verdane could not find any detailed rounds with the chosen parameters. Click on "
-                        u"OK to calculate summary statistics."));
-    bar.show(20);
-    write_detail(holes);
-    bar.move_to(40);
-    if (!holes.empty())
-        data_environment().rsstats.Update();
-    bar.move_to(30);
+    show_information(
+        in_language(u"Verdane n'a trouvé aucune ronde détaillée avec les conditions choisies. Faite OK "
+                    u"pour vérifier si des statistiques sommaires existent.",
+                    u"Verdane could not find any detailed rounds with the chosen parameters. Click on "
+                    u"OK to calculate summary statistics."));
+}
+
+void report_no_round()
+{
+    show_information(
+        in_language(u"Verdane ne peut pas afficher les statistiques sommaires avec les conditions choisies.",
+                    u"Verdane could not find summary statistics with the chosen parameters."));
+}
+
+void open_cleared_table()
+{
+    relaxed_commits scratch(data_environment().connection);
+    stats_table::open_cleared();
+    scratch.finish();
 }
 
 void close_stats()
@@ -43,25 +48,20 @@ void close_stats()
     data_environment().rsstats.Close();
 }
 
-void stop_without_rounds(run_progress& bar)
+/// The summary pass overwrites these figures.
+void write_detail_pass(const std::vector<detailed_hole>& holes, run_progress& bar)
 {
-    bar.hide();
-    show_information(
-        in_language(u"Verdane ne peut pas afficher les statistiques sommaires avec les conditions choisies.",
-                    u"Verdane could not find summary statistics with the chosen parameters."));
-    close_stats();
+    bar.show(20);
+    write_detail(holes);
+    bar.move_to(40);
+    if (!holes.empty())
+        data_environment().rsstats.Update();
+    bar.move_to(30);
 }
 
-void stop_at_missing_row(missing_row row, run_progress& bar)
-{
-    bar.hide();
-    close_stats();
-    report_missing_row(row);
-}
-
-/// Adds heading, totals and handicap to the lines of the summary pass and closes the table. False if a round
-/// lacks a row.
-bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress& bar)
+/// Adds heading, totals and handicap to the lines of the summary pass and closes the table. If a round lacks
+/// a row, the table is still open, and that row is returned.
+missing_row finish_table(const selection_arguments& chosen, int16 rounds, run_progress& bar)
 {
     stats_table::write_heading(chosen);
     bar.move_to(50);
@@ -69,45 +69,52 @@ bool finish_table(const selection_arguments& chosen, int16 rounds, run_progress&
     bar.move_to(60);
     bar.move_to(80);
     const handicap_result handicap = compute_handicap(chosen);
-    if (handicap.missing != missing_row::none) {
-        stop_at_missing_row(handicap.missing, bar);
-        return false;
-    }
+    if (handicap.missing != missing_row::none)
+        return handicap.missing;
     stats_table::write_handicap(handicap.text);
     stats_table::write_round_count_and_close(rounds);
     bar.move_to(100);
-    bar.hide();
-    return true;
+    return missing_row::none;
 }
 
-/// Rebuilds the table; no value if there is nothing to print.
-std::optional<season_rounds> fill_stats_table(const selection_arguments& chosen, run_progress& bar)
+/// Fills the table, which is open and cleared, with hundreds of commits. It is closed on return unless no
+/// round was found.
+filled_lines fill_table(const selection_arguments& chosen, const std::vector<detailed_hole>& holes,
+                        run_progress& bar)
 {
-    stats_table::open_cleared();
-    run_detail_pass(chosen, bar);
+    relaxed_commits scratch(data_environment().connection);
+    write_detail_pass(holes, bar);
     filled_lines filled = fill_round_lines(chosen);
-    if (filled.missing != missing_row::none) {
-        stop_at_missing_row(filled.missing, bar);
-        return {};
-    }
-    if (filled.rounds < 1) {
-        stop_without_rounds(bar);
-        return {};
-    }
-    if (!finish_table(chosen, filled.rounds, bar))
-        return {};
-    return std::move(filled.season);
+    if (filled.missing == missing_row::none && filled.rounds > 0)
+        filled.missing = finish_table(chosen, filled.rounds, bar);
+    bar.hide();
+    if (filled.missing != missing_row::none)
+        close_stats();
+    scratch.finish();
+    return filled;
 }
 
 }  // namespace
 
 std::optional<season_rounds> rounds_in_stats(const selection_arguments& chosen, run_progress& bar)
 {
-    // Each run rebuilds the table with hundreds of commits.
-    relaxed_commits scratch(data_environment().connection);
-    std::optional<season_rounds> rounds = fill_stats_table(chosen, bar);
-    scratch.finish();
-    return rounds;
+    // A message box waits for the user, so it is shown after the statements before it were committed: on a
+    // server they would lock their rows meanwhile.
+    open_cleared_table();
+    const std::vector<detailed_hole> holes = gather_detail(chosen);
+    if (holes.empty())
+        report_no_detail();
+    filled_lines filled = fill_table(chosen, holes, bar);
+    if (filled.missing != missing_row::none) {
+        report_missing_row(filled.missing);
+        return {};
+    }
+    if (filled.rounds < 1) {
+        report_no_round();
+        close_stats();
+        return {};
+    }
+    return std::move(filled.season);
 }
 
 void round_statistics(const selection_arguments& chosen, const run_controls& controls)

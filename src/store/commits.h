@@ -53,7 +53,7 @@ private:
 /// commits are as safe as before, and the first of them also writes the earlier ones to the disk.
 ///
 /// A server cannot do so: `finish` of the outermost scope commits the statements together, and a transaction
-/// within it at its own end.
+/// within it at its own end. Until then their rows are locked, so no message box is shown within the scope.
 ///
 /// Reports read committed rows, and a relaxed commit is one.
 ///
