@@ -14,7 +14,6 @@ set(VERDANE_TESTS_WITHOUT_STORE
   test_boxes test_choice_menu test_entering test_failure_guard test_form test_keys test_leaving test_look
   test_scrolled_content test_shortcuts test_tab_strip
   test_Main_module test_round_labels
-  test_hole_checks
   test_drawing_texts
   test_class_captions
   test_club_texts test_selection_clauses

@@ -13,7 +13,7 @@
 #include "controls/keys.h"
 #include "controls/look.h"
 #include "reference/course_page.h"
-#include "reference/hole_checks.h"
+#include "scoring/hole_checks.h"
 
 namespace verdane {
 

@@ -4,10 +4,10 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "records/course_keys.h"
 #include "records/row_search.h"
 #include "reference/course_general_page.h"
 #include "reference/course_holes.h"
-#include "reference/course_keys.h"
 #include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"

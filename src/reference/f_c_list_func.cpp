@@ -2,9 +2,9 @@
 
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
+#include "records/course_keys.h"
 #include "records/course_rows.h"
 #include "records/round_list.h"
-#include "reference/course_keys.h"
 #include "reference/f_c_list.h"
 #include "reference/f_courses.h"
 #include "scoring/round_key.h"

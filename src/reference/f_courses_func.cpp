@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
-#include "reference/course_keys.h"
+#include "records/course_keys.h"
 #include "reference/edited_course.h"
 #include "reference/f_courses.h"
 

@@ -5,7 +5,7 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
-#include "reference/course_keys.h"
+#include "records/course_keys.h"
 #include "reference/f_c_list.h"
 #include "reference/f_courses.h"
 

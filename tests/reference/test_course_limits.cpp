@@ -6,7 +6,7 @@
 #include "base/language.h"
 #include "controls/failure_guard.h"
 #include "controls/interface_language.h"
-#include "reference/course_keys.h"
+#include "records/course_keys.h"
 #include "reference/f_c_list.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/course_windows.h"

@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "reference/course_keys.h"
+#include "records/course_keys.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/course_windows.h"
 

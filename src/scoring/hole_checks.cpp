@@ -1,4 +1,4 @@
-#include "reference/hole_checks.h"
+#include "scoring/hole_checks.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "reference/hole_checks.h"
+#include "scoring/hole_checks.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;

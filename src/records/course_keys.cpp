@@ -1,4 +1,4 @@
-#include "reference/course_keys.h"
+#include "records/course_keys.h"
 
 #include <algorithm>
 
