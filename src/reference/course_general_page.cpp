@@ -12,6 +12,7 @@
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
+#include "scoring/course_checks.h"
 #include "scoring/words.h"
 
 namespace verdane {
@@ -20,9 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int figure_characters = 6;
-/// The longest name that the round window can show.
-constexpr int name_characters = 195;
 constexpr int address_characters = 255;
 /// Tee, rating and slope have boxes of the same width.
 constexpr int short_box_width = 20 * rhythm;
@@ -33,15 +31,13 @@ key_answer figure_key(const QLineEdit& box, QChar key)
 {
     if (key == u'.' || key == backspace)
         return key_answer::pass;
-    const bool full = trimmed_blanks(box.text()).size() >= figure_characters;
-    return is_plain_digit(key) && !full ? key_answer::pass : key_answer::refuse;
+    const bool full = trimmed_blanks(box.text()).size() >= course_figure_characters;
+    return may_be_in_course_figure(key) && !full ? key_answer::pass : key_answer::refuse;
 }
 
-/// The name becomes part of the course's key: plain letters and blanks only.
 key_answer name_key(QChar key)
 {
-    const bool letter = (key >= u'a' && key <= u'z') || (key >= u'A' && key <= u'Z');
-    return letter || key == u' ' || key == backspace ? key_answer::pass : key_answer::refuse;
+    return may_be_in_course_name(key) || key == backspace ? key_answer::pass : key_answer::refuse;
 }
 
 }  // namespace
@@ -57,9 +53,9 @@ course_general_page::course_general_page(const Form& window) : tee_box_(named(ne
 
 void course_general_page::make_boxes()
 {
-    boxes_.add(name, new QLineEdit)->setMaxLength(name_characters);
+    boxes_.add(name, new QLineEdit)->setMaxLength(course_name_characters);
     for (const box which : {rating, slope})
-        boxes_.add(which, make_number_box(figure_characters))->setFixedWidth(short_box_width);
+        boxes_.add(which, make_number_box(course_figure_characters))->setFixedWidth(short_box_width);
     for (const box which : {address_1, address_2, address_3})
         boxes_.add(which, new QLineEdit)->setMaxLength(address_characters);
     for (const auto& [index, edit] : boxes_.members())

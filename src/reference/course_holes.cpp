@@ -13,6 +13,7 @@
 #include "controls/keys.h"
 #include "controls/look.h"
 #include "reference/course_page.h"
+#include "scoring/course_checks.h"
 #include "scoring/hole_checks.h"
 
 namespace verdane {
@@ -21,8 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The digits of the largest length that can be stored, 32767. Entering a box selects as many.
-constexpr int figure_characters = 5;
 constexpr int heading_row = 0;
 /// A hole takes two rows: its figures, and the line below them.
 constexpr int first_hole_row = 2;
@@ -30,8 +29,8 @@ enum hole_column { number_column, yards_column, stroke_index_column, par_column 
 
 QLineEdit* make_figure_box(const QString& accessible_name)
 {
-    QLineEdit* box = make_number_box(figure_characters);
-    box->setMaxLength(figure_characters);
+    QLineEdit* box = make_number_box(hole_figure_characters);
+    box->setMaxLength(hole_figure_characters);
     box->setText(u"0"_s);
     box->setAccessibleName(accessible_name);
     return box;
@@ -120,7 +119,7 @@ void course_holes::add_box(figure which, int index, const QString& accessible_na
 {
     control_array<QLineEdit>* const arrays[] = {&yards_, &stroke_indexes_, &pars_};
     QLineEdit& added = *arrays[which]->add(index, make_figure_box(accessible_name));
-    when_entered(added, [&added] { select_characters(added, figure_characters); });
+    when_entered(added, [&added] { select_characters(added, hole_figure_characters); });
     when_left(added, [this, which, index] { return may_leave(which, index); });
 }
 
@@ -168,7 +167,7 @@ void course_holes::refuse(QLineEdit& refused, const QString& reason)
         show_information(reason);
     refused.setText(u"0"_s);
     refused.setFocus();
-    select_characters(refused, figure_characters);
+    select_characters(refused, hole_figure_characters);
 }
 
 QString course_holes::text(figure which, int index) const

@@ -3,9 +3,7 @@
 #include <array>
 
 #include "base/numbers.h"
-#include "base/text.h"
-#include "records/course_keys.h"
-#include "records/row_search.h"
+#include "records/course_entry.h"
 #include "reference/course_general_page.h"
 #include "reference/course_holes.h"
 #include "scoring/limits.h"
@@ -49,11 +47,27 @@ int16 stored_figure(int ordinal)
     return hole_row().Fields(ordinal).int16_or_zero();
 }
 
-bool find_again(const QString& code)
+entered_course::hole_texts texts_of(const course_holes& holes, course_holes::figure which)
 {
-    Round_functions::find_first(course(), Round_functions::by_code, code);
-    Round_functions::find_first(hole_row(), u"FIELD_CODE= ", code);
-    return !(course().bof() || course().eof() || hole_row().bof() || hole_row().eof());
+    entered_course::hole_texts texts;
+    int index = 0;
+    for (QString& text : texts)
+        text = holes.text(which, index++);
+    return texts;
+}
+
+/// The boxes of the general page.
+entered_course entered(const course_general_page& general)
+{
+    entered_course course;
+    course.name = general.text(box::name);
+    course.rating = general.text(box::rating);
+    course.slope = general.text(box::slope);
+    course.address = {general.text(box::address_1), general.text(box::address_2),
+                      general.text(box::address_3)};
+    course.tee = general.tee();
+    course.tee_text = general.tee_text();
+    return course;
 }
 
 }  // namespace
@@ -73,32 +87,21 @@ void show(course_general_page& general, course_holes& holes)
 
 void write_key(const course_general_page& general, const QString& base)
 {
-    const QString code = base + tee_mark(general.tee());
-    course().Fields(tables::vrd_fields::code).set(code);
-    hole_row().Fields(tables::field_info::FIELD_CODE).set(code);
-    course().Fields(tables::vrd_fields::tee).set(in_capitals(general.tee_text()));
-    course()
-        .Fields(tables::vrd_fields::name_tee)
-        .set(general.trimmed_text(box::name) + tee_mark(general.tee()));
+    write_course_key(entered(general), base);
 }
 
 void write(const course_general_page& general, const course_holes& holes)
 {
-    for (const auto& [which, ordinal] : columns_of_boxes)
-        course().Fields(ordinal).set(general.text(which));
-    for (int i = 0; i < hole_count; ++i) {
-        hole_row().Fields(tables::field_info::yards_h(i + 1)).set(holes.text(course_holes::yards, i));
-        hole_row().Fields(tables::field_info::hcp_h(i + 1)).set(holes.text(course_holes::stroke_index, i));
-        hole_row().Fields(tables::field_info::par_h(i + 1)).set(holes.text(course_holes::par, i));
-    }
+    entered_course course = entered(general);
+    course.yards = texts_of(holes, course_holes::yards);
+    course.stroke_indexes = texts_of(holes, course_holes::stroke_index);
+    course.pars = texts_of(holes, course_holes::par);
+    write_course(course);
 }
 
 bool commit()
 {
-    const QString code = course().Fields(tables::vrd_fields::code).text();
-    hole_row().Update();
-    course().Update();
-    return find_again(code);
+    return commit_course();
 }
 
 void cancel()

@@ -18,6 +18,7 @@
 #include "reference/course_page.h"
 #include "reference/edited_course.h"
 #include "reference/f_courses_func.h"
+#include "scoring/course_checks.h"
 
 namespace verdane {
 
@@ -169,8 +170,8 @@ QString f_courses::tee_text() const
 bool f_courses::has_name_and_figures() const
 {
     using page = course_general_page;
-    const auto filled = [this](page::box which) { return !general_->trimmed_text(which).isEmpty(); };
-    return filled(page::name) && filled(page::slope) && filled(page::rating);
+    return verdane::has_name_and_figures(general_->text(page::name), general_->text(page::rating),
+                                         general_->text(page::slope));
 }
 
 void f_courses::show_rows()

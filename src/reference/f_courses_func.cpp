@@ -36,7 +36,7 @@ bool set_key_of_new_course(const f_courses& window)
     if (known.duplicate)
         refuse_duplicate(window);
     else
-        window.write_key(known.base.isEmpty() ? name : known.base);
+        window.write_key(known.base);
     return !known.duplicate;
 }
 
