@@ -34,6 +34,6 @@ install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING
   PATTERN "*.rpt" PATTERN "*.layout")
 # The second folder has the pages that the build makes.
 install(DIRECTORY guide/ ${CMAKE_BINARY_DIR}/guide/pages/ DESTINATION ${verdane_guide} FILES_MATCHING
-  PATTERN "*.html" PATTERN "*.css" PATTERN "*.png")
+  PATTERN "*.html" PATTERN "*.css" PATTERN "*.png" PATTERN "*.csv")
 install(FILES packaging/${verdane_id}.desktop DESTINATION share/applications)
 install(FILES packaging/${verdane_id}.metainfo.xml DESTINATION share/metainfo)

@@ -41,6 +41,10 @@ extern const command copy_command;
 /// (`restore_copy`).
 extern const command restore_command;
 
+/// `courses FILE.csv STORE`: adds the courses of a file (`read_courses`) to a diary, in one commit. A course
+/// that the diary has already is not changed.
+extern const command courses_command;
+
 /// All commands, in the order of the help.
 std::span<const command> all_commands();
 

@@ -14,7 +14,8 @@ enum class exit_status {
     not_empty = 3,  ///< the target has rows; nothing was changed
     in_use = 4,     ///< another program uses one of the stores; nothing was changed
     no_diary = 5,   ///< there is no diary; nothing was changed
-    problems = 6    ///< the diary has problems, which are reported
+    problems = 6,   ///< the diary has problems, which are reported
+    bad_file = 7    ///< a CSV file is missing or wrong, which is reported with its line; nothing was changed
 };
 
 struct status_words {
@@ -23,7 +24,7 @@ struct status_words {
 };
 
 /// Every exit status with its words for the help.
-inline constexpr std::array<status_words, 7> all_exit_statuses{{
+inline constexpr std::array<status_words, 8> all_exit_statuses{{
     {exit_status::done, {u"fait et vérifié", u"done and checked"}},
     {exit_status::failed, {u"échec (le journal est comme avant)", u"failure (the diary is as before)"}},
     {exit_status::usage, {u"ligne de commande incorrecte", u"wrong command line"}},
@@ -31,6 +32,7 @@ inline constexpr std::array<status_words, 7> all_exit_statuses{{
     {exit_status::in_use, {u"journal utilisé par un autre programme", u"diary in use by another program"}},
     {exit_status::no_diary, {u"aucun journal", u"no diary"}},
     {exit_status::problems, {u"problèmes trouvés", u"problems found"}},
+    {exit_status::bad_file, {u"fichier CSV absent ou incorrect", u"CSV file missing or wrong"}},
 }};
 
 }  // namespace verdane

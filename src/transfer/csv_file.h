@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+#include "base/csv.h"
+#include "base/language.h"
+#include "transfer/exit_status.h"
+
+/// CSV files that a command reads, and the report of their faults.
+namespace verdane {
+
+/// A fault of a file, in the current language.
+struct bad_line {
+    QString file;
+    /// From 1; 0 if the fault is not one of a line.
+    int line = 0;
+    QString reason;
+};
+
+using bad_lines = std::vector<bad_line>;
+
+/// The records of a file, empty lines left out. Without a value the file cannot be read; the reason is then
+/// the last of `faults`.
+std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults);
+
+/// Reports every fault with file and line, and that nothing was changed. Returns `bad_file`.
+exit_status refuse_lines(const bad_lines& faults);
+
+}  // namespace verdane

@@ -1,0 +1,107 @@
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+#include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
+#include "tests/transfer/course_csv.h"
+#include "tests/transfer/killed_run.h"
+#include "tests/transfer/stored_files.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The diary of a `copied_folder`, and a file with two courses that it lacks.
+struct imported_folder : copied_folder {
+    imported_folder()
+    {
+        write_lines(file, {course_heads(), course_line_with({}), course_line_with({{u"tee"_s, u"Red"_s}})});
+    }
+
+    QStringList arguments() const { return {u"courses"_s, file, file_argument(diary)}; }
+    std::optional<int> import() const { return store_run(arguments()).run(); }
+    int added() const
+    {
+        return reader(diary).number(
+            u"select count(*) from vrd_fields join field_info on FIELD_CODE = code where name = 'Golf du Lac'"_s);
+    }
+    /// The rows of all other tables.
+    QStringList other_rows() const
+    {
+        return all_rows(diary).filter(QRegularExpression(u"^(?!vrd_fields|field_info)"_s));
+    }
+
+    QString file = folder.filePath(u"cards.csv"_s);
+};
+
+}  // namespace
+
+/// `verdane-store courses` that is killed or fails.
+class test_courses_safety : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void courses_are_added_to_a_full_diary_whose_rounds_do_not_change()
+    {
+        const imported_folder folder;
+        QVERIFY(QFile::remove(folder.diary));
+        create_diary(folder.diary, rounds_of_full_diary, false);
+        const QStringList before = folder.other_rows();
+        QCOMPARE(folder.import(), status(exit_status::done));
+        QCOMPARE(folder.added(), 2);
+        QCOMPARE(folder.other_rows(), before);
+    }
+
+    void a_store_that_does_not_exist_is_no_diary_and_is_not_made()
+    {
+        const imported_folder folder;
+        QVERIFY(QFile::remove(folder.diary));
+        QCOMPARE(folder.import(), status(exit_status::no_diary));
+        QVERIFY(!QFile::exists(folder.diary));
+    }
+
+    void a_full_disk_changes_nothing_data()
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : {0, 4096})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
+    void a_full_disk_changes_nothing()
+    {
+        QFETCH(int, bytes);
+        const imported_folder folder;
+        const QStringList before = all_rows(folder.diary);
+        store_run run(folder.arguments());
+        run.limit_files(static_cast<unsigned long>(bytes));
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QCOMPARE(all_rows(folder.diary), before);
+        QCOMPARE(folder.import(), status(exit_status::done));
+    }
+
+    void an_import_that_is_killed_adds_all_or_nothing_and_can_be_repeated()
+    {
+        const imported_folder whole;
+        int with_none = 0;
+        int with_all = 0;
+        const int writes = number_of_writes(whole.arguments());
+        for (const int number : some_writes(writes)) {
+            const imported_folder folder;
+            const QStringList rounds = folder.other_rows();
+            kill_before_write(folder.arguments(), number);
+            const int added = folder.added();
+            QVERIFY2(added == 0 || added == 2, qPrintable(QString::number(number)));
+            ++(added == 0 ? with_none : with_all);
+            QCOMPARE(folder.import(), status(exit_status::done));
+            QCOMPARE(folder.added(), 2);
+            QCOMPARE(folder.other_rows(), rounds);
+        }
+        QVERIFY(with_none > 0 && with_all > 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_courses_safety)
+#include "test_courses_safety.moc"
