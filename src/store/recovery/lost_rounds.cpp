@@ -11,6 +11,7 @@
 #include "scoring/limits.h"
 #include "scoring/words.h"
 #include "store/Connection1.h"
+#include "store/recovery/counted_rows.h"
 #include "store/recovery/diary_snapshot.h"
 #include "store/recovery/shot_rules.h"
 #include "store/row_insertion.h"
@@ -79,46 +80,6 @@ std::vector<course_of_shots> courses_of(const diary_snapshot& diary, const QStri
                  quoted(key), differences.join(u" or "_s))))
         courses.push_back({row[0].toString(), row[1].toString()});
     return courses;
-}
-
-/// A new row of a table of the store.
-class row_of_round {
-public:
-    explicit row_of_round(const tables::table_declaration& declaration)
-        : table_(*find_table(declaration.name)), values_(new_row(table_))
-    {
-    }
-
-    void set(int ordinal, const QString& value) { values_.at(static_cast<std::size_t>(ordinal)) = value; }
-    void set(int ordinal, int16 value) { values_.at(static_cast<std::size_t>(ordinal)) = plain(value); }
-
-    std::pair<QString, std::vector<QVariant>> named() const { return {table_.name, values_}; }
-
-private:
-    const table& table_;
-    std::vector<QVariant> values_;
-};
-
-void set_strokes(row_of_round& row, int hole, const hole_summary& counted)
-{
-    row.set(games::long_h(hole), counted.kinds[long_shot].sum);
-    row.set(games::approach_h(hole), counted.kinds[approach_shot].sum);
-    row.set(games::putt_h(hole), counted.kinds[putt].sum);
-    row.set(games::pen_water_h(hole), counted.penalties[water_hazard].sum);
-    row.set(games::pen_lost_h(hole), counted.penalties[lost_ball].sum);
-    row.set(games::pen_rule_h(hole), counted.penalties[against_the_rules].sum);
-    row.set(games::pen_bounds_h(hole), counted.penalties[out_of_bounds].sum);
-    row.set(games::missed_h(hole), counted.missed);
-}
-
-void set_situation(row_of_round& row, int hole, const hole_summary& counted)
-{
-    row.set(games2::sand_h(hole), counted.sand);
-    row.set(games2::recovery_h(hole), counted.recovery);
-    row.set(games2::fairway_h(hole), counted.fairway);
-    int number = 0;
-    for (const int16 length : counted.putt_lengths)
-        row.set(games2::putt_len(hole, ++number), length);
 }
 
 bool has_row(const diary_snapshot& diary, const QString& table, const QString& key)
