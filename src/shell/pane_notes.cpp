@@ -46,10 +46,14 @@ QString first_steps_text(bool french)
     const text_pair text{u"Il n'y a encore aucun terrain.\n\n"
                          u"1.  Entrez votre terrain : menu %1.\n"
                          u"2.  Entrez votre première ronde : menu %2.\n\n"
+                         u"Pour essayer Verdane avec une saison inventée, fermez-le et tapez dans un "
+                         u"terminal :\nverdane-store sample file\n\n"
                          u"La touche F1 ouvre le guide.",
                          u"There is no golf course yet.\n\n"
                          u"1.  Enter your golf course: menu %1.\n"
                          u"2.  Enter your first round: menu %2.\n\n"
+                         u"To try Verdane with an invented season, close it and type in a terminal:\n"
+                         u"verdane-store sample file\n\n"
                          u"The key F1 opens the guide."};
     return text.in(french).arg(path_in_menu(u"mManagF", french), path_in_menu(u"mOpen", french));
 }

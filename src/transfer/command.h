@@ -45,6 +45,9 @@ extern const command restore_command;
 /// that the diary has already is not changed.
 extern const command courses_command;
 
+/// `sample STORE`: writes an invented season (`write_sample_season`) into an empty store, in one commit.
+extern const command sample_command;
+
 /// All commands, in the order of the help.
 std::span<const command> all_commands();
 

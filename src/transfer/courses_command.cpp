@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
-#include "base/text.h"
-#include "records/course_keys.h"
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
 #include "transfer/console.h"
 #include "transfer/course_lines.h"
 #include "transfer/store_argument.h"
+#include "transfer/stored_course.h"
 
 namespace verdane {
 
@@ -17,11 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using course_lines = std::vector<course_line>;
-
-known_course known(const entered_course& course)
-{
-    return find_known_course(in_capitals(course.name), course.tee);
-}
 
 /// Removes the courses that are stored already. Returns their names.
 QStringList take_stored(course_lines& courses)
@@ -36,22 +30,12 @@ QStringList take_stored(course_lines& courses)
     return names;
 }
 
-void add(const entered_course& course)
-{
-    data_environment().rsvrd_fields.AddNew();
-    data_environment().rsfield_info.AddNew();
-    write_course_key(course, known(course).base);
-    write_course(course);
-    commit_course();
-    remember_new_course(data_environment().rsvrd_fields);
-}
-
 /// All courses are one commit.
 void add_all(const course_lines& courses)
 {
     single_commit together(data_environment().connection);
     for (const course_line& each : courses)
-        add(each.course);
+        add_course(each.course);
     together.finish();
 }
 
@@ -81,12 +65,9 @@ bad_line no_place(const QString& file, const course_line& course)
 
 exit_status add_courses(const QString& file, course_lines courses)
 {
-    Recordset& rows = data_environment().rsvrd_fields;
-    rows.Open();
-    data_environment().rsfield_info.Open();
-    rebuild_course_keys(rows);
+    const int present = open_courses();
     const QStringList stored = take_stored(courses);
-    const auto places = static_cast<std::size_t>(std::max(0, most_courses - rows.RecordCount()));
+    const auto places = static_cast<std::size_t>(std::max(0, most_courses - present));
     if (courses.size() > places)
         return refuse_lines({no_place(file, courses[places])});
     add_all(courses);

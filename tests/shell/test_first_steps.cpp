@@ -49,6 +49,9 @@ private Q_SLOTS:
                     QVERIFY(text.contains(french ? u"Terrains, Gestion des terrains"_s
                                                  : u"Golf Courses, Golf Course Management"_s));
                     QVERIFY(text.contains(french ? u"Rondes, Nouvelle ronde"_s : u"Rounds, New Round"_s));
+                    QVERIFY(text.contains(french ? u"une saison inventée, fermez-le"_s
+                                                 : u"an invented season, close it"_s));
+                    QVERIFY(text.contains(u":\nverdane-store sample file\n"_s));
                 });
             };
             shows(language == 1);

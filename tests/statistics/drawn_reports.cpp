@@ -28,11 +28,11 @@ namespace {
 constexpr int dots_per_inch = 100;
 
 template <typename Statistic>
-void run(int rounds, Statistic statistic, clause_form form = clause_form::appended)
+void run(const round_range& range, Statistic statistic, clause_form form = clause_form::appended)
 {
     selection_arguments chosen;
-    chosen.from_key = key_in_diary(0);
-    chosen.to_key = key_in_diary(rounds - 1);
+    chosen.from_key = range.from;
+    chosen.to_key = range.to;
     chosen.weather_clause = clause_of(filter::weather, form, {});
     chosen.partner_clause = clause_of(filter::partner, form, {});
     chosen.course_clause = clause_of(filter::course, form, {});
@@ -51,23 +51,23 @@ void fill_card()
 }
 
 /// Returns the rows that the season of the round statistics passes to its report.
-passed_rows fill_report_tables(int rounds)
+passed_rows fill_report_tables(const round_range& range)
 {
     passed_rows season;
-    run(rounds, [&season](const selection_arguments& chosen, const run_controls& controls) {
+    run(range, [&season](const selection_arguments& chosen, const run_controls& controls) {
         run_progress bar(controls.Status);
         season = Statistics::season_tables(*Statistics::rounds_in_stats(chosen, bar));
     });
     run(
-        rounds,
+        range,
         [](const selection_arguments& chosen, const run_controls& controls) {
             Statistics::putt_statistics(chosen, controls);
         },
         clause_form::alone);
-    run(rounds, [](const selection_arguments& chosen, const run_controls& controls) {
+    run(range, [](const selection_arguments& chosen, const run_controls& controls) {
         Statistics::club_statistics(chosen, {&controls});
     });
-    run(rounds, [](const selection_arguments& chosen, const run_controls& controls) {
+    run(range, [](const selection_arguments& chosen, const run_controls& controls) {
         Statistics::cost_statistics(chosen, controls);
     });
     fill_card();
@@ -95,16 +95,21 @@ const QStringList& names_of_reports()
     return names;
 }
 
-pages_of_reports drawn_reports(const store_location& store, int rounds, bool french)
+pages_of_reports drawn_reports(const store_location& store, const round_range& range, bool french)
 {
     const recording_frame frame;
     set_interface_language(french);
     data_environment().connection.Open(store);
     set_report_store(store);
-    pages_of_reports pages = drawn(french, fill_report_tables(rounds));
+    pages_of_reports pages = drawn(french, fill_report_tables(range));
     data_environment().abandon();
     set_interface_language(true);
     return pages;
+}
+
+pages_of_reports drawn_reports(const store_location& store, int rounds, bool french)
+{
+    return drawn_reports(store, round_range{key_in_diary(0), key_in_diary(rounds - 1)}, french);
 }
 
 }  // namespace verdane::testing

@@ -1,0 +1,63 @@
+#include "transfer/empty_store.h"
+
+#include <QFile>
+
+#include "store/recovery/diary_copy.h"
+#include "store/schema.h"
+#include "store/store_files.h"
+#include "transfer/console.h"
+#include "transfer/store_argument.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool is_missing_file(const store_location& store)
+{
+    return store.where == store_location::place::file && !QFile::exists(store.name);
+}
+
+exit_status refuse_target(const store_location& to, const counted_table& used)
+{
+    if (find_table(used.name)->fixed_rows > 0)
+        return refuse(exit_status::not_empty,
+                      in_language(u"La destination %1 n'est pas vide : son sac de golf a été modifié (table "
+                                  u"%2). Rien n'a été modifié.",
+                                  u"The target %1 is not empty: its golf bag was edited (table %2). Nothing "
+                                  u"was changed.")
+                          .arg(argument_of_store(to), used.name));
+    return refuse(exit_status::not_empty,
+                  in_language(u"La destination %1 n'est pas vide : la table %2 a %3. Rien n'a été modifié.",
+                              u"The target %1 is not empty: table %2 has %3. Nothing was changed.")
+                      .arg(argument_of_store(to), used.name, counted_rows(used.rows)));
+}
+
+exit_status fill_if_empty(const Connection1& target, const std::function<exit_status()>& fill)
+{
+    const std::vector<counted_table> used = tables_in_use(target);
+    return used.empty() ? fill() : refuse_target(target.location(), used.front());
+}
+
+}  // namespace
+
+exit_status fill_empty_store(Connection1& target, const store_location& to,
+                             const std::function<exit_status()>& fill)
+{
+    const bool is_new_file = is_missing_file(to);
+    // If opening fails, only files that it has created are removed: the log of a lost file may be there.
+    target.Open(to);
+    const exit_status status = reported([&] { return fill_if_empty(target, fill); });
+    target.Close();
+    if (status != exit_status::done && is_new_file)
+        remove_store_files(to.name);
+    return status;
+}
+
+QString counted_rows(int rows)
+{
+    return counted(rows, {u"ligne", u"row"}, {u"lignes", u"rows"});
+}
+
+}  // namespace verdane

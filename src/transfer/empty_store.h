@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+
+#include "store/Connection1.h"
+#include "transfer/exit_status.h"
+
+namespace verdane {
+
+/// Opens a store that has no rows of its own, creating it if needed, runs a step that fills it, and closes
+/// it. A store with rows is refused in the current language with `not_empty`; a failure is reported. A file
+/// that did not exist before is removed unless the result is `done`. Fails like `Connection1::Open`.
+exit_status fill_empty_store(Connection1& target, const store_location& to,
+                             const std::function<exit_status()>& fill);
+
+/// "1 row", in the current language.
+QString counted_rows(int rows);
+
+}  // namespace verdane

@@ -1,0 +1,77 @@
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "tests/support/reader.h"
+#include "tests/transfer/killed_run.h"
+#include "tests/transfer/stored_files.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct sample_folder {
+    QStringList arguments() const { return {u"sample"_s, file_argument(path)}; }
+    std::optional<int> write() const { return store_run(arguments()).run(); }
+    int rows() const
+    {
+        return reader(path).number(
+            u"select (select count(*) from games) + (select count(*) from vrd_fields)"_s);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"sample.db"_s);
+};
+
+/// 26 rounds and 3 courses.
+constexpr int all_rows_of_sample = 29;
+
+}  // namespace
+
+/// `verdane-store sample` that is killed or fails.
+class test_sample_safety : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_full_disk_leaves_no_store_data()
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : {0, 4096, 100'000, 200'000})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
+    void a_full_disk_leaves_no_store()
+    {
+        QFETCH(int, bytes);
+        const sample_folder folder;
+        store_run run(folder.arguments());
+        run.limit_files(static_cast<unsigned long>(bytes));
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QVERIFY2(run.errors().contains(u"no room left on the disk"), "another failure");
+        QVERIFY(!QFile::exists(folder.path));
+        QCOMPARE(folder.write(), status(exit_status::done));
+    }
+
+    void a_run_that_is_killed_writes_all_or_nothing_and_can_be_repeated()
+    {
+        const sample_folder whole;
+        const int writes = number_of_writes(whole.arguments());
+        int with_none = 0;
+        for (const int number : some_writes(writes)) {
+            const sample_folder folder;
+            kill_before_write(folder.arguments(), number);
+            const auto again = folder.write();
+            QVERIFY2(again == status(exit_status::done) || again == status(exit_status::not_empty),
+                     qPrintable(QString::number(number)));
+            with_none += again == status(exit_status::done) ? 1 : 0;
+            QCOMPARE(folder.rows(), all_rows_of_sample);
+        }
+        QVERIFY(with_none > 0);
+        QCOMPARE(whole.rows(), all_rows_of_sample);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_sample_safety)
+#include "test_sample_safety.moc"
