@@ -89,8 +89,6 @@ std::optional<qlonglong> whole_number(const QVariant& value)
 /// reading needs no conversion. A value of another type than the declared one is not changed.
 QVariant in_column_type(QVariant value, column_type type)
 {
-    if (value.isNull())
-        return {};
     const std::optional<qlonglong> whole = whole_number(value);
     if (!whole)
         return value;

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "store/engines/sqlite.h"
+#include "store/engines/sqlite_rows.h"
 #include "store/lock_wait.h"
 #include "store/schema.h"
 #include "store/store_files.h"
@@ -162,6 +163,12 @@ QString embedded_engine::identity_column(QStringView) const
 void embedded_engine::add_value(statement_with_values& statement, const QVariant& value) const
 {
     statement.add(value);
+}
+
+std::unique_ptr<result_rows> embedded_engine::select(const QString& statement, const QString& where) const
+{
+    return std::make_unique<sqlite_rows>(
+        database(), statement, [this, where](const QSqlError& error) { return failure(error, where); });
 }
 
 int embedded_engine::change(const statement_with_values& statement, const QString& where)

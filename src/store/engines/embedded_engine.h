@@ -26,6 +26,7 @@ public:
 
     QString identity_column(QStringView table) const override;
     void add_value(statement_with_values& statement, const QVariant& value) const override;
+    std::unique_ptr<result_rows> select(const QString& statement, const QString& where) const override;
     int change(const statement_with_values& statement, const QString& where) override;
     qint64 insert(const statement_with_values& statement, const QString& where) override;
     const commit_statements& commits() const override;

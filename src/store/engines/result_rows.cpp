@@ -37,7 +37,9 @@ bool query_rows::next()
 QVariant query_rows::value(int column) const
 {
     QVariant value = query_.value(column);
-    return value.isNull() ? QVariant() : value;
+    if (value.isNull())
+        return {};
+    return value;
 }
 
 }  // namespace verdane

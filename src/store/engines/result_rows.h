@@ -45,6 +45,10 @@ public:
     bool next() override;
     QVariant value(int column) const override;
 
+protected:
+    const QSqlQuery& query() const { return query_; }
+    run_time_failure failure_of(const QSqlError& error) const { return failure_(error); }
+
 private:
     failure_of_error failure_;
     QSqlQuery query_;
