@@ -92,6 +92,14 @@ situation read_situation(int16 hole)
             in_games2(games2::fairway_h(h)).to_int16()};
 }
 
+std::vector<int> situation_columns()
+{
+    std::vector<int> ordinals;
+    for (int h = 1; h <= hole_count; ++h)
+        ordinals.insert(ordinals.end(), {games2::sand_h(h), games2::fairway_h(h)});
+    return ordinals;
+}
+
 int16 read_recovery(int16 hole)
 {
     return in_games2(games2::recovery_h(checked_hole(hole))).to_int16();

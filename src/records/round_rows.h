@@ -55,6 +55,8 @@ penalties read_penalties(int16 hole);
 
 void store_situation(int16 hole, const situation_texts& boxes);
 situation read_situation(int16 hole);
+/// The ordinals of all columns of `games2` that `read_situation` reads.
+std::vector<int> situation_columns();
 
 /// The recovery shots, which only the round window shows.
 int16 read_recovery(int16 hole);

@@ -1,5 +1,6 @@
 #include "statistics/putt_lengths.h"
 
+#include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
 #include "store/tables/games2.h"
@@ -9,6 +10,19 @@ namespace verdane::Statistics {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int first_length = tables::games2::putt_len(1, 1);
+// After six lengths above 0 on the last hole, the column after them is read as a length, too.
+constexpr int last_length = tables::games2::putt_len(hole_count, putt_lengths_kept) + 1;
+
+/// The key and the lengths of all holes, which are adjacent columns.
+first_columns columns_read()
+{
+    first_columns columns{{tables::games2::date}};
+    for (int ordinal = first_length; ordinal <= last_length; ++ordinal)
+        columns.ordinals.push_back(ordinal);
+    return columns;
+}
 
 /// False if no round of the result is in the range.
 bool find_first_round(const selection_arguments& chosen)
@@ -49,10 +63,7 @@ QString putt_select(const selection_arguments& chosen)
 
 putt_counts putts_of_current_round()
 {
-    // The lengths of all holes are adjacent columns. After six lengths above 0 on the last hole, the column
-    // after them is read as a length, too.
     Recordset& games2 = data_environment().rsgames2;
-    constexpr int first_length = tables::games2::putt_len(1, 1);
     return scan_round_putts([&games2](int place) { return games2.Fields(first_length + place).to_int16(); });
 }
 
@@ -60,7 +71,7 @@ std::optional<gathered_putts> gather_putts(const selection_arguments& chosen, ru
 {
     Recordset& games2 = data_environment().rsgames2;
     const scoped_source selection(games2, putt_select(chosen), u"select * from games2"_s);
-    games2.Open();
+    games2.Open(columns_read());
     std::optional<gathered_putts> gathered;
     if (find_first_round(chosen))
         gathered = walk_rounds(chosen.to_key, bar);

@@ -24,7 +24,7 @@ void open_recordsets()
     store.connection.Execute(u"DELETE FROM HAND"_s);
     store.rsgames.Open();
     store.rshand.Open();
-    store.rsgames2.Open();
+    open_situations();
 }
 
 void close_recordsets()

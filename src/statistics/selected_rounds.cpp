@@ -59,6 +59,14 @@ QString selected_rounds_statement(const selection_arguments& chosen)
     return statement;
 }
 
+void open_situations(const std::vector<int>& further)
+{
+    namespace games2 = tables::games2;
+    first_columns columns{{games2::date, games2::conditionM, games2::PARTNERS}};
+    columns.ordinals.insert(columns.ordinals.end(), further.begin(), further.end());
+    data_environment().rsgames2.Open(columns);
+}
+
 missing_row walk_selected_rounds(const selection_arguments& chosen, const std::function<void()>& take)
 {
     Recordset& games = data_environment().rsgames;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "base/counts.h"
 #include "statistics/selection.h"
@@ -14,6 +15,9 @@ enum class missing_row { none = 0, course = 1, holes = 2, games2 = 3 };
 /// The statement for the rounds between two keys, on one course if its code has more than one character.
 /// Weather and partner are in another table and are tested for each round.
 QString selected_rounds_statement(const selection_arguments& chosen);
+
+/// Opens `rsgames2` for a walk. Of its columns it reads those that select a round and `further`.
+void open_situations(const std::vector<int>& further = {});
 
 /// Walks `rsgames` from its first row to its end. For each round `rsvrd_fields`, `rsfield_info` and
 /// `rsgames2` are moved to its rows, and `take` is called if the round matches the chosen weather and

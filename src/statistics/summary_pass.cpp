@@ -29,8 +29,10 @@ Recordset& stats()
 void open_round_tables()
 {
     DataEnvironment1& store = data_environment();
-    for (Recordset* table : {&store.rsvrd_fields, &store.rsfield_info, &store.rsgames2, &store.rsgames})
-        table->Open();
+    store.rsvrd_fields.Open();
+    store.rsfield_info.Open();
+    open_situations(Round_functions::situation_columns());
+    store.rsgames.Open();
 }
 
 void close_round_tables()
