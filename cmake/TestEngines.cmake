@@ -24,6 +24,8 @@ set(VERDANE_TESTS_WITHOUT_STORE
 set(VERDANE_FILE_TESTS
   test_copy_command         # both stores are files
   test_courses_safety       # kills at writes of the file, and its size
+  test_export_safety        # see test_courses_safety
+  test_import_faults        # what is wrong in files, before a store is opened
   test_sample_reports       # a file that another process writes
   test_sample_safety        # see test_courses_safety
   test_Connection1          # the folder and the lock file that are made, and the settings of the engine

@@ -59,8 +59,8 @@ std::optional<int> take_options(const command& wanted, QStringList& arguments)
 
 std::span<const command> all_commands()
 {
-    static const std::array commands{check_command, copy_command, restore_command, courses_command,
-                                     sample_command};
+    static const std::array commands{check_command,  copy_command,    restore_command, export_command,
+                                     import_command, courses_command, sample_command};
     return commands;
 }
 

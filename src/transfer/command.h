@@ -48,6 +48,13 @@ extern const command courses_command;
 /// `sample STORE`: writes an invented season (`write_sample_season`) into an empty store, in one commit.
 extern const command sample_command;
 
+/// `export STORE FOLDER`: writes every table to a CSV file (`table_csv.h`) of a folder that is empty or does
+/// not exist. After a failure, or if the process ends before, there are none of the files.
+extern const command export_command;
+
+/// `import FOLDER STORE`: reads these files into an empty store, in one commit.
+extern const command import_command;
+
 /// All commands, in the order of the help.
 std::span<const command> all_commands();
 

@@ -39,7 +39,8 @@ bool is_empty_line(const csv_record& record)
 
 }  // namespace
 
-std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults)
+std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults,
+                                                     empty_lines empty)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -51,7 +52,8 @@ std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_li
         faults.push_back({path, content.line, reason_of(content.fault)});
         return std::nullopt;
     }
-    std::erase_if(content.records, is_empty_line);
+    if (empty == empty_lines::skip)
+        std::erase_if(content.records, is_empty_line);
     return std::move(content.records);
 }
 

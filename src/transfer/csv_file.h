@@ -22,9 +22,12 @@ struct bad_line {
 
 using bad_lines = std::vector<bad_line>;
 
-/// The records of a file, empty lines left out. Without a value the file cannot be read; the reason is then
-/// the last of `faults`.
-std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults);
+/// Whether empty lines are records.
+enum class empty_lines { skip, read };
+
+/// The records of a file. Without a value the file cannot be read; the reason is then the last of `faults`.
+std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults,
+                                                     empty_lines empty = empty_lines::skip);
 
 /// Reports every fault with file and line, and that nothing was changed. Returns `bad_file`.
 exit_status refuse_lines(const bad_lines& faults);

@@ -35,13 +35,7 @@ int number_of_rows(const Connection1& store, const table& counted)
 void copy_rows(const Connection1& from, Connection1& to, const table& copied)
 {
     row_insertion insertion(to, copied);
-    const auto rows = rows_of(from, copied);
-    std::vector<QVariant> values(copied.columns.size());
-    while (rows->next()) {
-        for (std::size_t column = 0; column < values.size(); ++column)
-            values[column] = rows->value(static_cast<int>(column));
-        insertion.add(values);
-    }
+    read_rows(from, copied, [&insertion](const std::vector<QVariant>& values) { insertion.add(values); });
     insertion.finish();
 }
 
@@ -55,7 +49,7 @@ bool is_number(const QVariant& value)
 bool equal_numbers(double left, double right)
 {
     constexpr double last_digit = 1e-14;
-    return std::abs(left - right) <= last_digit * std::max(std::abs(left), std::abs(right));
+    return left == right || std::abs(left - right) <= last_digit * std::max(std::abs(left), std::abs(right));
 }
 
 /// Numbers are compared by value: one engine returns a whole number where another returns a real one.
@@ -136,6 +130,35 @@ std::vector<counted_table> tables_in_use(const Connection1& store)
             used.push_back({each.name, rows});
     }
     return used;
+}
+
+void read_rows(const Connection1& store, const table& read, const row_step& step)
+{
+    const auto rows = rows_of(store, read);
+    std::vector<QVariant> values(read.columns.size());
+    while (rows->next()) {
+        for (std::size_t column = 0; column < values.size(); ++column)
+            values[column] = rows->value(static_cast<int>(column));
+        step(values);
+    }
+}
+
+void replace_rows(Connection1& store, const table& replaced, const std::vector<std::vector<QVariant>>& rows)
+{
+    store.Execute(u"DELETE FROM " + in_back_quotes(replaced.name));
+    row_insertion insertion(store, replaced);
+    for (const std::vector<QVariant>& row : rows)
+        insertion.add(row);
+    insertion.finish();
+    std::size_t stored = 0;
+    read_rows(store, replaced, [&](const std::vector<QVariant>& values) {
+        if (stored == rows.size() ||
+            !std::equal(values.begin(), values.end(), rows[stored].begin(), rows[stored].end(), equal))
+            fail_comparison(replaced, static_cast<int>(stored) + 1, u"differs after it was stored"_s);
+        ++stored;
+    });
+    if (stored != rows.size())
+        fail_comparison(replaced, static_cast<int>(stored) + 1, u"was not stored"_s);
 }
 
 std::vector<counted_table> copy_diary(Connection1& from, Connection1& to, const table_notice& notice)

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 #include <functional>
 #include <vector>
 
 #include "store/Connection1.h"
+#include "store/schema.h"
 
 /// Copying a whole diary from one store to another, on any engines.
 namespace verdane {
@@ -22,6 +24,17 @@ using table_notice = std::function<void(const counted_table& table)>;
 /// The tables that hold a row which a new store does not have. Of the tables of fixed size only those of the
 /// golf bag are compared: the first start sets the language, and reports rewrite the others.
 std::vector<counted_table> tables_in_use(const Connection1& store);
+
+/// Called for each row of a table with the values of its columns, in their order.
+using row_step = std::function<void(const std::vector<QVariant>& values)>;
+
+/// Reads every row of a table in the order in which the rows were inserted. Null is an invalid value. Fails
+/// with the kind that fits the engine's error.
+void read_rows(const Connection1& store, const table& read, const row_step& step);
+
+/// Replaces the rows of a table and compares the stored rows with the given ones. The caller commits. Fails
+/// with `store_other` if a stored row differs, and with the kind that fits the engine's error.
+void replace_rows(Connection1& store, const table& replaced, const std::vector<std::vector<QVariant>>& rows);
 
 /// Copies every row of every table, in their order, into a store without rows of its own, compares the rows
 /// of both stores value by value, and commits all of it together. After a failure, or if the process ends

@@ -50,22 +50,69 @@ void write_to_disk(const QString& path)
         check(error, path);
 }
 
+std::error_code last_error()
+{
+    return {errno, std::generic_category()};
+}
+
+void write_bytes(const QString& path, const QByteArray& bytes)
+{
+    constexpr mode_t for_everyone = 0666;
+    const int opened =
+        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, for_everyone);
+    std::error_code error = opened >= 0 ? std::error_code() : last_error();
+    qsizetype written = 0;
+    while (!error && written < bytes.size()) {
+        const ssize_t part =
+            write(opened, bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written));
+        if (part < 0)
+            error = last_error();
+        else
+            written += part;
+    }
+    if (opened >= 0)
+        close(opened);
+    check(error, path);
+}
+
+/// The name of a file until it is complete.
+QString part_of(const QString& path)
+{
+    return path + u".part";
+}
+
+void remove_quietly(const QString& path)
+{
+    std::error_code ignored;
+    std::filesystem::remove(system_path(path), ignored);
+}
+
 }  // namespace
+
+void write_whole_file(const QString& path, const QByteArray& bytes)
+{
+    try {
+        write_bytes(part_of(path), bytes);
+        replace_file(part_of(path), path);
+    } catch (...) {
+        remove_quietly(part_of(path));
+        throw;
+    }
+}
 
 void copy_whole_file(const QString& from, const QString& to)
 {
     std::error_code error;
     std::filesystem::create_directories(system_path(QFileInfo(to).absolutePath()), error);
     check(error, to);
-    const QString part = to + u".part";
+    const QString part = part_of(to);
     try {
         std::filesystem::copy_file(system_path(from), system_path(part),
                                    std::filesystem::copy_options::overwrite_existing, error);
         check(error, to);
         replace_file(part, to);
     } catch (...) {
-        std::error_code ignored;
-        std::filesystem::remove(system_path(part), ignored);
+        remove_quietly(part);
         throw;
     }
 }

@@ -1,0 +1,118 @@
+#include "transfer/command.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "base/run_time_failure.h"
+#include "store/recovery/diary_copy.h"
+#include "store/recovery/whole_files.h"
+#include "transfer/console.h"
+#include "transfer/empty_store.h"
+#include "transfer/store_argument.h"
+#include "transfer/table_csv.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Where the files are until all of them are complete. A run that was killed may have left some.
+QString unfinished_folder(const QString& folder)
+{
+    return folder + u".unfinished";
+}
+
+/// Removes the files of an export, and the folder unless it has others.
+void remove_export(const QString& folder)
+{
+    for (const table& each : schema()) {
+        const QString path = QDir(folder).filePath(csv_name_of(each));
+        QFile::remove(path);
+        QFile::remove(path + u".part");
+    }
+    QDir().rmdir(folder);
+}
+
+/// Returns the number of rows.
+int write_table(const Connection1& store, const table& written, const QString& folder)
+{
+    QString text = csv_heads_of(written);
+    int rows = 0;
+    read_rows(store, written, [&](const std::vector<QVariant>& row) {
+        ++rows;
+        const auto line = csv_line_of(row);
+        if (!line)
+            throw run_time_failure(failure_kind::store_other,
+                                   u"%1, row %2: bytes that are no text"_s.arg(written.name).arg(rows));
+        text += *line;
+    });
+    write_whole_file(QDir(folder).filePath(csv_name_of(written)), text.toUtf8());
+    print(in_language(u"%1 : %2", u"%1: %2").arg(written.name, counted_rows(rows)));
+    return rows;
+}
+
+int write_tables(const Connection1& store, const QString& folder)
+{
+    const QString unfinished = unfinished_folder(folder);
+    remove_export(unfinished);
+    if (!QDir().mkpath(unfinished) || !QDir(unfinished).isEmpty())
+        throw run_time_failure(failure_kind::store_read_only, unfinished);
+    try {
+        int rows = 0;
+        for (const table& each : schema())
+            rows += write_table(store, each, unfinished);
+        replace_file(unfinished, folder);
+        return rows;
+    } catch (...) {
+        remove_export(unfinished);
+        throw;
+    }
+}
+
+exit_status export_diary(const store_location& from, const QString& folder)
+{
+    Connection1 store;
+    if (!store.OpenExisting(from) || tables_in_use(store).empty())
+        return refuse_without_diary(from);
+    const int rows = write_tables(store, folder);
+    print(in_language(u"Exporté : %1 tables, %2.", u"Exported: %1 tables, %2.")
+              .arg(QString::number(schema().size()), counted_rows(rows)));
+    return exit_status::done;
+}
+
+/// A folder that is empty is replaced.
+bool is_used(const QString& folder)
+{
+    const QFileInfo present(folder);
+    return (present.exists() || present.isSymLink()) &&
+           (!present.isDir() || present.isSymLink() || !QDir(folder).isEmpty());
+}
+
+exit_status run_export(const QStringList& arguments, int)
+{
+    const auto store = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
+    if (!store || arguments[1].isEmpty())
+        return refuse_usage();
+    if (is_empty_file(*store))
+        return refuse_without_diary(*store);
+    const QString folder = QDir::cleanPath(QFileInfo(arguments[1]).absoluteFilePath());
+    if (is_used(folder))
+        return refuse(exit_status::not_empty,
+                      in_language(u"Le dossier n'est pas vide : %1. Rien n'a été modifié.",
+                                  u"The folder is not empty: %1. Nothing was changed.")
+                          .arg(folder));
+    return reported([&] { return export_diary(*store, folder); });
+}
+
+}  // namespace
+
+const command export_command{u"export",
+                             {u"JOURNAL DOSSIER", u"STORE FOLDER"},
+                             {u"écrit tout le journal dans un nouveau dossier, un fichier CSV par table",
+                              u"writes the whole diary to a new folder, one CSV file for each table"},
+                             {},
+                             run_export};
+
+}  // namespace verdane

@@ -1,0 +1,67 @@
+#include "transfer/command.h"
+
+#include "store/commits.h"
+#include "store/recovery/diary_copy.h"
+#include "transfer/console.h"
+#include "transfer/empty_store.h"
+#include "transfer/store_argument.h"
+#include "transfer/table_csv.h"
+
+namespace verdane {
+
+namespace {
+
+using all_tables = std::vector<table_rows>;
+
+/// The rows of every table of `schema`, in its order.
+all_tables read_tables(const QString& folder, bad_lines& faults)
+{
+    all_tables tables;
+    for (const table& each : schema())
+        tables.push_back(read_table(each, folder, faults));
+    return tables;
+}
+
+/// All tables are one commit.
+exit_status write_tables(Connection1& store, const all_tables& tables)
+{
+    single_commit together(store);
+    int rows = 0;
+    for (std::size_t place = 0; place < tables.size(); ++place) {
+        const table& written = schema()[place];
+        const int of_table = static_cast<int>(tables[place].size());
+        print(in_language(u"%1 : %2", u"%1: %2").arg(written.name, counted_rows(of_table)));
+        replace_rows(store, written, tables[place]);
+        rows += of_table;
+    }
+    together.finish();
+    print(in_language(u"Importé et vérifié : %1 tables, %2.", u"Imported and checked: %1 tables, %2.")
+              .arg(QString::number(tables.size()), counted_rows(rows)));
+    return exit_status::done;
+}
+
+exit_status run_import(const QStringList& arguments, int)
+{
+    const auto to = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
+    if (!to || arguments[0].isEmpty())
+        return refuse_usage();
+    bad_lines faults;
+    const all_tables tables = read_tables(arguments[0], faults);
+    if (!faults.empty())
+        return refuse_lines(faults);
+    return reported([&] {
+        Connection1 store;
+        return fill_empty_store(store, *to, [&] { return write_tables(store, tables); });
+    });
+}
+
+}  // namespace
+
+const command import_command{u"import",
+                             {u"DOSSIER JOURNAL", u"FOLDER STORE"},
+                             {u"lit les fichiers de export dans un journal vide ou nouveau",
+                              u"reads the files of export into an empty or new diary"},
+                             {},
+                             run_import};
+
+}  // namespace verdane

@@ -1,0 +1,120 @@
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include "store/schema.h"
+#include "tests/support/reader.h"
+#include "tests/transfer/exported_folder.h"
+#include "tests/transfer/killed_run.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList export_arguments(const exported_folder& folder)
+{
+    return {u"export"_s, file_argument(folder.diary), folder.files};
+}
+
+QStringList import_arguments(const exported_folder& folder)
+{
+    return {u"import"_s, folder.files, file_argument(folder.target)};
+}
+
+bool is_exported(const exported_folder& folder)
+{
+    return contents_of(folder.files).size() == schema().size();
+}
+
+}  // namespace
+
+/// `verdane-store export` and `import` that are killed or fail.
+class test_export_safety : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void an_export_without_space_leaves_no_file_data() { sizes({0, 4096, 30'000}); }
+    void an_export_without_space_leaves_no_file()
+    {
+        QFETCH(int, bytes);
+        const exported_folder folder;
+        store_run run(export_arguments(folder));
+        run.limit_files(static_cast<unsigned long>(bytes));
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QVERIFY(!QFile::exists(folder.files));
+        QVERIFY(!QFile::exists(folder.files + u".unfinished"));
+        QCOMPARE(folder.run_export(), status(exit_status::done));
+    }
+
+    void an_import_without_space_leaves_no_store_data() { sizes({0, 4096, 40'000, 300'000}); }
+    void an_import_without_space_leaves_no_store()
+    {
+        QFETCH(int, bytes);
+        const exported_folder folder;
+        QCOMPARE(folder.run_export(), status(exit_status::done));
+        store_run run(import_arguments(folder));
+        run.limit_files(static_cast<unsigned long>(bytes));
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QVERIFY2(run.errors().contains(u"no room left on the disk"), "another failure");
+        QVERIFY(!QFile::exists(folder.target));
+        QCOMPARE(folder.run_import(), status(exit_status::done));
+    }
+
+    void an_export_that_is_killed_leaves_all_files_or_none_and_can_be_repeated()
+    {
+        const exported_folder whole;
+        const int writes = number_of_writes(export_arguments(whole));
+        const file_contents expected = contents_of(whole.files);
+        int with_none = 0;
+        for (const int number : some_writes(writes)) {
+            const exported_folder folder;
+            kill_before_write(export_arguments(folder), number);
+            with_none += is_exported(folder) ? 0 : 1;
+            QCOMPARE(folder.run_export(),
+                     status(is_exported(folder) ? exit_status::not_empty : exit_status::done));
+            QVERIFY(contents_of(folder.files) == expected);
+            QVERIFY(!QFile::exists(folder.files + u".unfinished"));
+        }
+        QVERIFY(with_none > 0);
+    }
+
+    void every_file_reaches_the_disk_before_it_gets_its_name()
+    {
+        const exported_folder folder;
+        QCOMPARE(renames_before_content(export_arguments(folder)), QStringList());
+        QVERIFY(is_exported(folder));
+    }
+
+    void an_import_that_is_killed_writes_all_or_nothing_and_can_be_repeated()
+    {
+        const exported_folder whole;
+        QCOMPARE(whole.run_export(), status(exit_status::done));
+        const int writes = number_of_writes(import_arguments(whole));
+        const QStringList expected = all_rows(whole.diary);
+        int with_none = 0;
+        for (const int number : some_writes(writes)) {
+            const exported_folder folder;
+            QCOMPARE(folder.run_export(), status(exit_status::done));
+            kill_before_write(import_arguments(folder), number);
+            const auto again = folder.run_import();
+            with_none += again == status(exit_status::done) ? 1 : 0;
+            QVERIFY2(again == status(exit_status::done) || again == status(exit_status::not_empty),
+                     qPrintable(QString::number(number)));
+            QVERIFY(all_rows(folder.target) == expected);
+        }
+        QVERIFY(with_none > 0);
+    }
+
+private:
+    static void sizes(const QList<int>& all)
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : all)
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+};
+
+QTEST_GUILESS_MAIN(test_export_safety)
+#include "test_export_safety.moc"
