@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -67,6 +68,12 @@ public:
     Connection1 connection;
 };
 
+/// The other process: reads the file and closes it again.
+int number_of_partners(const QString& path)
+{
+    return reader(path).number(u"select count(*) from partners"_s);
+}
+
 }  // namespace
 
 /// SQLite over ODBC: what it refuses, and what it leaves unchanged.
@@ -123,6 +130,23 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { embedded.Open(source.path()); }) == failure_kind::store_locked);
     }
 
+    void what_is_committed_after_another_program_has_read_the_file_is_stored()
+    {
+        sqlite_source source;
+        source.open();
+        // Only a file that was created before has a log while it is opened.
+        source.reopen();
+        source.connection.Execute(u"insert into partners (NAME, code) values ('a', 1)"_s);
+        QProcess other;
+        other.start(QCoreApplication::applicationFilePath(), {u"--read"_s, source.path()});
+        QVERIFY(other.waitForFinished(60000));
+        QCOMPARE(other.exitCode(), 1);
+        source.connection.Execute(u"insert into partners (NAME, code) values ('b', 2)"_s);
+        QCOMPARE(source.file().number(u"select count(*) from partners"_s), 2);
+        source.connection.Close();
+        QCOMPARE(source.file().number(u"select count(*) from partners"_s), 2);
+    }
+
     void tables_and_columns_that_do_not_fit_are_refused_data()
     {
         QTest::addColumn<QStringList>("changes");
@@ -163,5 +187,14 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(test_sqlite_source)
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == u"--read")
+        return number_of_partners(arguments.value(2));
+    test_sqlite_source test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "test_sqlite_source.moc"

@@ -66,7 +66,7 @@ bool sqlite_odbc_engine::open(soundness_check check)
 {
     path_ = path_of_file();
     lock_ = take_store_lock(path_);
-    check_store_files(path_);
+    check_closed_file();
     created_ = QFileInfo(path_).size() == 0;
     first_value(u"PRAGMA busy_timeout=%1"_s.arg(lock_time_out_s * 1000));
     if (check == soundness_check::while_opening || created_ ||
@@ -77,6 +77,15 @@ bool sqlite_odbc_engine::open(soundness_check check)
     run(commits().restore);
     run(u"PRAGMA cache_size=-%1"_s.arg(kept_pages_kb));
     return has_tables;
+}
+
+void sqlite_odbc_engine::check_closed_file()
+{
+    QSqlDatabase connection = database();
+    connection.close();
+    check_store_files(path_);
+    if (!connection.open())
+        throw failure(connection.lastError(), where_.name);
 }
 
 QString sqlite_odbc_engine::path_of_file() const

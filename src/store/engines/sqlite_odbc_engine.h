@@ -38,6 +38,9 @@ protected:
 
 private:
     QString path_of_file() const;
+    /// Checks the file while the driver does not have it open: on some systems a process that closes a file
+    /// loses all its locks of it. Another program would then remove the log that this one writes.
+    void check_closed_file();
     bool check_content() const;
 
     std::unique_ptr<QLockFile> lock_;
