@@ -63,14 +63,27 @@ failed_child run_failing_child(const QStringList& arguments, const std::function
     return result;
 }
 
-QString stored_figures(const reader& store, int hole)
+QStringList faults_of_end(const failed_child& child, int longest_ms)
+{
+    if (!child.ended)
+        return {u"it did not end: "_s + QString::fromUtf8(child.errors)};
+    QStringList faults;
+    if (child.took_ms >= longest_ms)
+        faults << u"it ended after %1 ms"_s.arg(child.took_ms);
+    if (child.crashed || child.status != 1 || child.errors.contains("FAIL!"))
+        faults << u"it ended with %1: %2"_s.arg(child.crashed ? u"a signal"_s : QString::number(child.status),
+                                                QString::fromUtf8(child.errors));
+    return faults;
+}
+
+QString figures_in_sql(int hole)
 {
     QStringList columns;
     for (const QString& name :
          {u"long_"_s, u"approach_"_s, u"putt_"_s, u"fairway_"_s, u"sand_"_s, u"missed_"_s, u"recovery_"_s,
           u"pen_water_"_s, u"pen_lost_"_s, u"pen_rule_"_s, u"pen_bounds_"_s})
         columns << u"coalesce(%1%2, 0)"_s.arg(name).arg(hole);
-    return store.text(u"select " + columns.join(u" || ") + u" from games join games2 using (date)");
+    return columns.join(u" || ");
 }
 
 }  // namespace verdane::testing

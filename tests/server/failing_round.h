@@ -6,8 +6,8 @@
 
 #include <functional>
 
+#include "base/run_time_failure.h"
 #include "tests/support/hand.h"
-#include "tests/support/reader.h"
 
 /// A round that is open in a child process when its store fails.
 namespace verdane::testing {
@@ -47,7 +47,28 @@ struct failed_child {
 /// Starts this program again, runs `harm` when the child reports, and returns after its end.
 failed_child run_failing_child(const QStringList& arguments, const std::function<void()>& harm);
 
-/// The eleven figures of a hole in the order of the quick page.
-QString stored_figures(const reader& store, int hole);
+/// How the end of the child differs from that of a program that has reported a failure in time; empty if it
+/// does not.
+QStringList faults_of_end(const failed_child& child, int longest_ms = longest_failure_ms);
+
+/// The SQL of the eleven figures of a hole in the order of the quick page, of a round in `games` and
+/// `games2`.
+QString figures_in_sql(int hole);
+
+/// What happens to the store while the program waits, and the failure that the program reports.
+struct store_harm {
+    QString name;
+    failure_kind kind;
+    /// Before the program starts.
+    std::function<void()> prepare;
+    /// In the parent, or in the process of the program.
+    std::function<void()> occur;
+    std::function<void()> occur_inside;
+    /// After the program has ended.
+    std::function<void()> undo;
+    int longest_ms = longest_failure_ms;
+    /// True if the store executes the last statement after the program has ended.
+    bool executes_later = false;
+};
 
 }  // namespace verdane::testing

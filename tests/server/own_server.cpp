@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 #include <QThread>
 
@@ -17,9 +16,6 @@ namespace verdane::testing {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// In steps of 4 MB instead of 64.
-const QString growth_of_file = u"--innodb-autoextend-increment=4"_s;
 
 QString folder()
 {
@@ -40,13 +36,6 @@ pid_t process_of_server()
     if (!file.open(QIODevice::ReadOnly))
         qFatal("no %s", qUtf8Printable(file.fileName()));
     return file.readAll().trimmed().toInt();
-}
-
-/// 1114: the table is full.
-void insert_until_full(const QString& rows)
-{
-    administer(u"begin not atomic declare exit handler for 1114 begin end; loop insert into %1; end loop; "
-               "end"_s.arg(rows));
 }
 
 }  // namespace
@@ -87,30 +76,9 @@ void wait_until_a_table_is_awaited()
     qFatal("no connection waits for a table");
 }
 
-QStringList room_for_mb(int megabytes)
+QString file_of_tables()
 {
-    constexpr qint64 mb = 1024 * 1024;
-    const qint64 present = QFileInfo(folder() + u"/data/ibdata1").size() / mb;
-    return {u"--innodb-file-per-table=0"_s, growth_of_file,
-            u"--innodb-data-file-path=ibdata1:12M:autoextend:max:%1M"_s.arg(present + megabytes)};
-}
-
-void fill_server(const QString& database, const QString& table)
-{
-    administer(u"create table mysql.filler (content text) engine=innodb"_s);
-    // Large rows first, then rows that fit into the space that is left.
-    for (const int size : {60000, 6000, 100})
-        insert_until_full(u"mysql.filler values (repeat('x', %1))"_s.arg(size));
-    insert_until_full(u"%1.%2 (date) values ('')"_s.arg(database, table));
-}
-
-void empty_server(const QString& database, const QString& table)
-{
-    stop_server();
-    start_server({u"--innodb-file-per-table=0"_s, growth_of_file});
-    administer(u"drop table mysql.filler"_s);
-    administer(u"delete from %1.%2 where date = ''"_s.arg(database, table));
-    stop_server();
+    return folder() + u"/data/ibdata1";
 }
 
 }  // namespace verdane::testing

@@ -2,12 +2,14 @@
 
 #include <csignal>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include "base/failure_words.h"
 #include "store/Connection1.h"
 #include "store/schema.h"
+#include "tests/server/full_server.h"
 #include "tests/server/own_server.h"
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/outside_connection.h"
@@ -22,7 +24,7 @@ namespace {
 
 void start_with_little_room()
 {
-    start_server(room_for_mb(48));
+    start_server(little_room());
 }
 
 /// The rows of all tables whose number of rows is not fixed.
@@ -98,13 +100,11 @@ private Q_SLOTS:
         const copied_folder folder;
         const test_store target;
         Connection1().Open(target.location());
-        // Filled with rows of another table, because the target has to be empty.
-        administer(u"create table mysql.pages (date text) engine=innodb"_s);
-        fill_server(u"mysql"_s, u"pages"_s);
+        auto no_space = std::make_unique<full_server>();
         store_run run({u"copy"_s, file_argument(folder.diary), argument_of(target)});
         const std::optional<int> ended = run.run();
         const int rows = rows_of(target);
-        empty_server(u"mysql"_s, u"pages"_s);
+        no_space.reset();
         start_with_little_room();
         QCOMPARE(ended, status(exit_status::failed));
         const QString errors = run.errors();
