@@ -1,7 +1,11 @@
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
+
+#include <functional>
+#include <vector>
 
 #include "store/Connection1.h"
 #include "tests/support/full_diary.h"
@@ -17,6 +21,83 @@ namespace {
 int rounds_in(const QString& path)
 {
     return reader(path).number(u"select count(*) from games"_s);
+}
+
+void make_empty_file(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+/// The stores of a copy that is refused.
+struct refused_copy {
+    const char* name;
+    exit_status expected;
+    /// Prepares the folder. A connection keeps a store in use.
+    std::function<void(const copied_folder&, Connection1&)> prepare;
+    /// A file of the folder instead of its diary.
+    QString source = {};
+    /// Part of the reason that is reported.
+    QString reason = {};
+};
+
+std::function<void(const copied_folder&, Connection1&)> edited_target(const QString& edit)
+{
+    return [edit](const copied_folder& folder, Connection1&) {
+        Connection1().Open(folder.target);
+        reader(folder.target).write(edit);
+    };
+}
+
+const std::vector<refused_copy>& refused_copies()
+{
+    using enum exit_status;
+    static const std::vector<refused_copy> all{
+        {"target with rows", not_empty,
+         [](const copied_folder& folder, Connection1&) { create_diary(folder.target, 1, false); }},
+        {"target with a name of a club",
+         not_empty,
+         edited_target(u"update sticknames set club_1 = 'Driver'"_s),
+         {},
+         u"its golf bag was edited (table sticknames)"_s},
+        {"target with an average of a club",
+         not_empty,
+         edited_target(u"update sticks set avg_3 = 150"_s),
+         {},
+         u"its golf bag was edited (table sticks)"_s},
+        {"diary in use", in_use,
+         [](const copied_folder& folder, Connection1& user) { user.Open(folder.diary); }},
+        {"target in use", in_use,
+         [](const copied_folder& folder, Connection1& user) { user.Open(folder.target); }},
+        {"file that does not exist", no_diary, [](const copied_folder&, Connection1&) {}, u"none.db"_s},
+        {"store without rows", no_diary,
+         [](const copied_folder& folder, Connection1&) {
+             Connection1().Open(folder.folder.filePath(u"empty.db"_s));
+         },
+         u"empty.db"_s},
+        {"empty file", no_diary,
+         [](const copied_folder& folder, Connection1&) {
+             make_empty_file(folder.folder.filePath(u"empty.db"_s));
+         },
+         u"empty.db"_s},
+    };
+    return all;
+}
+
+/// The files of a folder and of the folders in it, with the rows of each store.
+QStringList content_of_folder(const QString& path)
+{
+    QStringList content;
+    QDirIterator files(path, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        content << file;
+        if (file.endsWith(u".db") && files.fileInfo().size() > 0)
+            content += all_rows(file);
+    }
+    content.sort();
+    return content;
 }
 
 }  // namespace
@@ -36,13 +117,27 @@ private Q_SLOTS:
         QVERIFY2(run.output().contains(u"Copied and checked: 18 tables, "), qUtf8Printable(run.output()));
     }
 
-    void a_target_with_rows_is_refused_and_not_changed()
+    void a_refused_copy_changes_no_file_and_makes_none_data()
     {
+        QTest::addColumn<int>("index");
+        for (std::size_t i = 0; i < refused_copies().size(); ++i)
+            QTest::newRow(refused_copies()[i].name) << static_cast<int>(i);
+    }
+
+    void a_refused_copy_changes_no_file_and_makes_none()
+    {
+        QFETCH(int, index);
+        const refused_copy& refused = refused_copies()[static_cast<std::size_t>(index)];
         const copied_folder folder;
-        create_diary(folder.target, 1, false);
-        const QStringList before = all_rows(folder.target);
-        QCOMPARE(folder.copy(), status(exit_status::not_empty));
-        QCOMPARE(all_rows(folder.target), before);
+        Connection1 user;
+        refused.prepare(folder, user);
+        const QStringList before = content_of_folder(folder.folder.path());
+        const QString source =
+            refused.source.isEmpty() ? folder.diary : folder.folder.filePath(refused.source);
+        store_run run({u"copy"_s, file_argument(source), file_argument(folder.target)});
+        QCOMPARE(run.run(), status(refused.expected));
+        QVERIFY2(run.errors().contains(refused.reason), qPrintable(run.errors()));
+        QCOMPARE(content_of_folder(folder.folder.path()), before);
     }
 
     void a_new_store_without_rows_is_accepted_as_target()
@@ -53,45 +148,6 @@ private Q_SLOTS:
         QCOMPARE(rounds_in(folder.target), rounds_of_diary);
     }
 
-    void a_diary_in_use_is_refused()
-    {
-        const copied_folder folder;
-        Connection1 user;
-        user.Open(folder.diary);
-        QCOMPARE(folder.copy(), status(exit_status::in_use));
-        QVERIFY(!QFile::exists(folder.target));
-    }
-
-    void a_target_in_use_is_refused()
-    {
-        const copied_folder folder;
-        Connection1 user;
-        user.Open(folder.target);
-        QCOMPARE(folder.copy(), status(exit_status::in_use));
-    }
-
-    void a_target_whose_golf_bag_was_edited_is_refused_data()
-    {
-        QTest::addColumn<QString>("edit");
-        QTest::addColumn<QString>("table");
-        QTest::newRow("a name") << u"update sticknames set club_1 = 'Driver'"_s << u"sticknames"_s;
-        QTest::newRow("an average") << u"update sticks set avg_3 = 150"_s << u"sticks"_s;
-    }
-
-    void a_target_whose_golf_bag_was_edited_is_refused()
-    {
-        QFETCH(QString, edit);
-        QFETCH(QString, table);
-        const copied_folder folder;
-        Connection1().Open(folder.target);
-        reader(folder.target).write(edit);
-        const QStringList before = all_rows(folder.target);
-        store_run run({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)});
-        QCOMPARE(run.run(), status(exit_status::not_empty));
-        QVERIFY2(run.errors().contains(u"its golf bag was edited (table " + table + u')'), "another reason");
-        QCOMPARE(all_rows(folder.target), before);
-    }
-
     void a_target_with_a_language_only_is_empty()
     {
         const copied_folder folder;
@@ -99,39 +155,6 @@ private Q_SLOTS:
         reader(folder.target).write(u"update settings set language = 2"_s);
         QCOMPARE(folder.copy(), status(exit_status::done));
         QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
-    }
-
-    void a_file_that_does_not_exist_is_no_diary_and_is_not_made()
-    {
-        const QTemporaryDir folder;
-        const QString none = folder.filePath(u"none.db"_s);
-        store_run run({u"copy"_s, file_argument(none), file_argument(folder.filePath(u"target.db"_s))});
-        QCOMPARE(run.run(), status(exit_status::no_diary));
-        QVERIFY(!QFile::exists(none));
-        QVERIFY(!QFile::exists(folder.filePath(u"target.db"_s)));
-    }
-
-    void a_store_without_rows_is_no_diary()
-    {
-        const QTemporaryDir folder;
-        Connection1().Open(folder.filePath(u"empty.db"_s));
-        store_run run({u"copy"_s, file_argument(folder.filePath(u"empty.db"_s)),
-                       file_argument(folder.filePath(u"target.db"_s))});
-        QCOMPARE(run.run(), status(exit_status::no_diary));
-        QVERIFY(!QFile::exists(folder.filePath(u"target.db"_s)));
-    }
-
-    void an_empty_file_is_no_diary_and_stays_empty()
-    {
-        const QTemporaryDir folder;
-        QFile empty(folder.filePath(u"empty.db"_s));
-        QVERIFY(empty.open(QIODevice::WriteOnly));
-        empty.close();
-        store_run run(
-            {u"copy"_s, file_argument(empty.fileName()), file_argument(folder.filePath(u"target.db"_s))});
-        QCOMPARE(run.run(), status(exit_status::no_diary));
-        QCOMPARE(empty.size(), 0);
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{u"empty.db"_s});
     }
 
     void a_path_with_quotes_accents_blanks_and_place_marks_is_used_as_it_is()
