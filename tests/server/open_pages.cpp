@@ -52,6 +52,7 @@ void type_costs(hand& user)
     user.click(u"Command2"_s);
     user.wait_for_window(in_language(u"f_cost", u"f_cost_en"));
     user.fill(u"cost_0"_s, u"100"_s);
+    user.same(user.text(u"cost_0"_s), u"100"_s, u"amount"_s);
 }
 
 void start_round(hand& user)
