@@ -16,13 +16,17 @@ namespace {
 
 constexpr int rounds = 24;
 
-/// Moves the costs of every second round after the others: the order in which they were entered is not that
-/// of their dates.
-void enter_costs_out_of_order(const store_location& file)
+/// Moves the rows of every second round after the others: the order in which they were entered is not that of
+/// their dates.
+void enter_rounds_out_of_order(const store_location& file)
 {
-    reader(file).write(QStringList{u"create table moved as select * from cost where rowid % 2 = 0"_s,
-                                   u"delete from cost where rowid % 2 = 0"_s,
-                                   u"insert into cost select * from moved"_s, u"drop table moved"_s});
+    QStringList statements{u"create table late as select date from games where rowid % 2 = 0"_s};
+    for (const QString& name : {u"games"_s, u"games2"_s, u"Stat_rounds"_s, u"cost"_s}) {
+        const QString rows = u" from %1 where date in (select date from late)"_s.arg(name);
+        statements << u"create table moved as select *"_s + rows + u" order by rowid" << u"delete"_s + rows
+                   << u"insert into %1 select * from moved"_s.arg(name) << u"drop table moved"_s;
+    }
+    reader(file).write(statements << u"drop table late"_s);
 }
 
 void copy(const store_location& from, const store_location& to)
@@ -51,7 +55,7 @@ private Q_SLOTS:
         file_ = store_location::file(folder_.filePath(u"file/Verdbase.db"_s));
         create_diary(file_, rounds, true);
         clear_sixth_putts(file_);
-        enter_costs_out_of_order(file_);
+        enter_rounds_out_of_order(file_);
         other_ = new_store_place(other_folder_.path());
         copy(file_, other_);
     }
