@@ -1,6 +1,7 @@
 #include "tests/server/own_server.h"
 
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QThread>
@@ -38,6 +39,35 @@ pid_t process_of_server()
     return file.readAll().trimmed().toInt();
 }
 
+/// The state in the description of a thread: it follows the name of the program, which is in parentheses.
+char state_in(const QByteArray& description)
+{
+    return description.mid(description.lastIndexOf(')') + 2, 1).append(' ').front();
+}
+
+/// True if every thread of a process is stopped.
+bool is_stopped(pid_t process)
+{
+    const QDir threads(u"/proc/%1/task"_s.arg(process));
+    for (const QString& thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile file(threads.filePath(thread) + u"/stat");
+        if (file.open(QIODevice::ReadOnly) && state_in(file.readAll()) != 'T')
+            return false;
+    }
+    return true;
+}
+
+/// A process stops when it has handled the signal, which takes some time on a busy computer.
+void wait_until_stopped(pid_t process)
+{
+    const QDeadlineTimer limit(std::chrono::seconds(30));
+    while (!is_stopped(process)) {
+        if (limit.hasExpired())
+            qFatal("the server has not stopped");
+        QThread::msleep(5);
+    }
+}
+
 }  // namespace
 
 void stop_server()
@@ -54,6 +84,8 @@ void signal_server(int number)
 {
     if (::kill(process_of_server(), number) != 0)
         qFatal("signal %d was not sent to the server", number);
+    if (number == SIGSTOP)
+        wait_until_stopped(process_of_server());
 }
 
 void administer(const QString& statement)

@@ -12,7 +12,7 @@ void stop_server();
 /// Starts it again with further options.
 void start_server(const QStringList& options = {});
 
-/// Sends a signal to its process.
+/// Sends a signal to its process. After SIGSTOP it returns when the process has stopped.
 void signal_server(int number);
 
 /// Runs a statement as its administrator.
