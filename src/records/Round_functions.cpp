@@ -10,18 +10,18 @@ namespace verdane::Round_functions {
 
 namespace {
 
-strokes strokes_of(int16 hole, const figure_source& source)
+stroke_counts strokes_of(int16 hole, const figure_source& source)
 {
-    if (!source)
-        return read_strokes(hole);
-    return {source->long_shots, source->approach, source->putts};
+    if (source)
+        return *source;
+    return read_strokes(hole);
 }
 
-penalties penalties_of(int16 hole, const figure_source& source)
+penalty_counts penalties_of(int16 hole, const figure_source& source)
 {
-    if (!source)
-        return read_penalties(hole);
-    return {source->pen_rule, source->pen_water, source->pen_bounds, source->pen_lost};
+    if (source)
+        return *source;
+    return read_penalties(hole);
 }
 
 void add_holes(round_totals& totals, const figure_source& last_hole)
@@ -56,22 +56,22 @@ int16 hole_putts(int16 hole, const figure_source& source)
 
 int16 hole_pen_rule(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, source).rule;
+    return penalties_of(hole, source).pen_rule;
 }
 
 int16 hole_pen_water(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, source).water;
+    return penalties_of(hole, source).pen_water;
 }
 
 int16 hole_pen_bounds(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, source).bounds;
+    return penalties_of(hole, source).pen_bounds;
 }
 
 int16 hole_pen_lost(int16 hole, const figure_source& source)
 {
-    return penalties_of(hole, source).lost;
+    return penalties_of(hole, source).pen_lost;
 }
 
 int16 hole_penalties(int16 hole, const figure_source& source)

@@ -45,31 +45,31 @@ int checked_hole(int16 hole)
 
 }  // namespace
 
-void store_strokes(int16 hole, const strokes& values)
+void store_strokes(int16 hole, const stroke_counts& counts)
 {
     const int h = checked_hole(hole);
-    in_games(games::long_h(h)).set(values.long_shots);
-    in_games(games::approach_h(h)).set(values.approach);
-    in_games(games::putt_h(h)).set(values.putts);
+    in_games(games::long_h(h)).set(counts.long_shots);
+    in_games(games::approach_h(h)).set(counts.approach);
+    in_games(games::putt_h(h)).set(counts.putts);
 }
 
-strokes read_strokes(int16 hole)
+stroke_counts read_strokes(int16 hole)
 {
     const int h = checked_hole(hole);
     return {in_games(games::long_h(h)).int16_or_zero(), in_games(games::approach_h(h)).int16_or_zero(),
             in_games(games::putt_h(h)).int16_or_zero()};
 }
 
-void store_penalties(int16 hole, const penalties& values)
+void store_penalties(int16 hole, const penalty_counts& counts)
 {
     const int h = checked_hole(hole);
-    in_games(games::pen_rule_h(h)).set(values.rule);
-    in_games(games::pen_water_h(h)).set(values.water);
-    in_games(games::pen_bounds_h(h)).set(values.bounds);
-    in_games(games::pen_lost_h(h)).set(values.lost);
+    in_games(games::pen_rule_h(h)).set(counts.pen_rule);
+    in_games(games::pen_water_h(h)).set(counts.pen_water);
+    in_games(games::pen_bounds_h(h)).set(counts.pen_bounds);
+    in_games(games::pen_lost_h(h)).set(counts.pen_lost);
 }
 
-penalties read_penalties(int16 hole)
+penalty_counts read_penalties(int16 hole)
 {
     const int h = checked_hole(hole);
     return {in_games(games::pen_rule_h(h)).to_int16(), in_games(games::pen_water_h(h)).to_int16(),
@@ -85,11 +85,14 @@ void store_situation(int16 hole, const situation_texts& boxes)
     in_games2(games2::recovery_h(h)).set(boxes.recovery);
 }
 
-situation read_situation(int16 hole)
+situation_counts read_situation(int16 hole)
 {
     const int h = checked_hole(hole);
-    return {in_games2(games2::sand_h(h)).to_int16(), in_games(games::missed_h(h)).to_int16(),
-            in_games2(games2::fairway_h(h)).to_int16()};
+    situation_counts counts;
+    counts.sand = in_games2(games2::sand_h(h)).to_int16();
+    counts.missed = in_games(games::missed_h(h)).to_int16();
+    counts.fairway = in_games2(games2::fairway_h(h)).to_int16();
+    return counts;
 }
 
 std::vector<int> situation_columns()
@@ -100,16 +103,16 @@ std::vector<int> situation_columns()
     return ordinals;
 }
 
-int16 read_recovery(int16 hole)
-{
-    return in_games2(games2::recovery_h(checked_hole(hole))).to_int16();
-}
-
 hole_figures figures_from_row(int16 hole)
 {
-    const strokes s = read_strokes(hole);
-    const penalties p = read_penalties(hole);
-    return {s.long_shots, s.approach, s.putts, p.rule, p.water, p.bounds, p.lost};
+    return {read_strokes(hole), read_penalties(hole)};
+}
+
+hole_counts read_hole(int16 hole)
+{
+    hole_counts counts{figures_from_row(hole), read_situation(hole)};
+    counts.recovery = in_games2(games2::recovery_h(checked_hole(hole))).to_int16();
+    return counts;
 }
 
 int16 hole_par(int16 hole)
@@ -126,7 +129,7 @@ hole_card read_hole_card(int16 hole)
 
 bool round_incomplete()
 {
-    const strokes last = read_strokes(hole_count);
+    const stroke_counts last = read_strokes(hole_count);
     return last.long_shots == 0 && last.approach == 0 && last.putts == 0;
 }
 

@@ -12,25 +12,6 @@
 /// read as 0. A penalty, a situation or a card without a value fails with `invalid_null`.
 namespace verdane::Round_functions {
 
-struct strokes {
-    int16 long_shots = 0;
-    int16 approach = 0;
-    int16 putts = 0;
-};
-
-struct penalties {
-    int16 rule = 0;
-    int16 water = 0;
-    int16 bounds = 0;
-    int16 lost = 0;
-};
-
-struct situation {
-    int16 sand = 0;
-    int16 missed = 0;
-    int16 fairway = 0;
-};
-
 /// The texts of the situation boxes, which the store converts.
 struct situation_texts {
     QString fairway;
@@ -47,22 +28,23 @@ struct hole_card {
     int16 par = 0;
 };
 
-void store_strokes(int16 hole, const strokes& values);
-strokes read_strokes(int16 hole);
+void store_strokes(int16 hole, const stroke_counts& counts);
+stroke_counts read_strokes(int16 hole);
 
-void store_penalties(int16 hole, const penalties& values);
-penalties read_penalties(int16 hole);
+void store_penalties(int16 hole, const penalty_counts& counts);
+penalty_counts read_penalties(int16 hole);
 
 void store_situation(int16 hole, const situation_texts& boxes);
-situation read_situation(int16 hole);
+/// Without the recovery shots, which only the round window shows.
+situation_counts read_situation(int16 hole);
 /// The ordinals of all columns of `games2` that `read_situation` reads.
 std::vector<int> situation_columns();
 
-/// The recovery shots, which only the round window shows.
-int16 read_recovery(int16 hole);
-
 /// All counts of the hole that are part of its gross.
 hole_figures figures_from_row(int16 hole);
+
+/// All counts of the hole, the recovery shots included.
+hole_counts read_hole(int16 hole);
 
 int16 hole_par(int16 hole);
 hole_card read_hole_card(int16 hole);

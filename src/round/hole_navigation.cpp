@@ -13,7 +13,6 @@
 #include "round/statistics_pane.h"
 #include "scoring/hole_summary.h"
 #include "scoring/limits.h"
-#include "scoring/words.h"
 
 namespace verdane::f_new_round_func {
 
@@ -75,43 +74,6 @@ void show_detailed_page(round_form& window, const round_panes& panes)
     panes.detailed.enter();
     Lock_menu();
     panes.detailed.focus_club();
-}
-
-quick_figures read_quick_figures(int16 hole)
-{
-    const Round_functions::strokes strokes = Round_functions::read_strokes(hole);
-    const Round_functions::penalties penalties = Round_functions::read_penalties(hole);
-    const Round_functions::situation situation = Round_functions::read_situation(hole);
-    quick_figures figures;
-    figures.long_shots = strokes.long_shots;
-    figures.approach = strokes.approach;
-    figures.putts = strokes.putts;
-    figures.fairway = situation.fairway;
-    figures.sand = situation.sand;
-    figures.missed = situation.missed;
-    figures.recovery = Round_functions::read_recovery(hole);
-    figures.pen_water = penalties.water;
-    figures.pen_lost = penalties.lost;
-    figures.pen_rule = penalties.rule;
-    figures.pen_bounds = penalties.bounds;
-    return figures;
-}
-
-quick_figures figures_from_shots(const hole_summary& summary)
-{
-    quick_figures figures;
-    figures.long_shots = summary.kinds[long_shot].sum;
-    figures.approach = summary.kinds[approach_shot].sum;
-    figures.putts = summary.kinds[putt].sum;
-    figures.fairway = summary.fairway;
-    figures.sand = summary.sand;
-    figures.missed = summary.missed;
-    figures.recovery = summary.recovery;
-    figures.pen_water = summary.penalties[water_hazard].sum;
-    figures.pen_lost = summary.penalties[lost_ball].sum;
-    figures.pen_rule = summary.penalties[against_the_rules].sum;
-    figures.pen_bounds = summary.penalties[out_of_bounds].sum;
-    return figures;
 }
 
 /// When a hole is left, the list already has the next one selected.
@@ -224,7 +186,7 @@ void refresh_score(const quick_page& quick, totals_pane& totals)
 
 void load_hole(round_form& window, const round_panes& panes, int16 hole)
 {
-    panes.quick.show_stored(read_quick_figures(hole));
+    panes.quick.show_stored(Round_functions::read_hole(hole));
     show_hole_card(panes.holes, hole);
     panes.holes.set_hole_in_boxes(hole);
     refresh_panel(window, panes, Round_functions::from_row);
@@ -237,14 +199,14 @@ void show_hole_card(hole_bar& holes, int16 hole)
 
 void show_summary(quick_page& quick, const hole_summary& summary)
 {
-    quick.show_counted(figures_from_shots(summary));
+    quick.show_counted(summary.counts);
 }
 
 void store_hole(const quick_page& quick, const QStringList& partners, int16 hole)
 {
-    const hole_figures f = quick.figures();
-    Round_functions::store_strokes(hole, {f.long_shots, f.approach, f.putts});
-    Round_functions::store_penalties(hole, {f.pen_rule, f.pen_water, f.pen_bounds, f.pen_lost});
+    const hole_figures figures = quick.figures();
+    Round_functions::store_strokes(hole, figures);
+    Round_functions::store_penalties(hole, figures);
     round_record::store_partners(partners);
     Round_functions::store_situation(hole, quick.situation());
 }

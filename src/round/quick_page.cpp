@@ -30,38 +30,44 @@ constexpr int box_digits = 4;
 /// Thirteen lines and three frames fit into the height of the window.
 constexpr int row_gap = 6;
 
-/// A figure with the name and the label of its box, from top to bottom, which is also the order of the keys.
-struct figure_row {
-    int16 quick_figures::*figure;
+/// A count with the name and the label of its box, from top to bottom, which is also the order of the keys.
+template <typename Counts>
+struct count_row {
+    int16 Counts::*count;
     QStringView box_name;
     text_pair label;
 };
 
 constexpr std::array stroke_rows{
-    figure_row{&quick_figures::long_shots, u"text_vrd_0", {u"Long :", u"Long :"}},
-    figure_row{&quick_figures::approach, u"text_vrd_1", {u"Approche :", u"Approach :"}},
-    figure_row{&quick_figures::putts, u"text_vrd_2", {u"Putt  :", u"Putt  :"}}};
+    count_row<stroke_counts>{&stroke_counts::long_shots, u"text_vrd_0", {u"Long :", u"Long :"}},
+    count_row<stroke_counts>{&stroke_counts::approach, u"text_vrd_1", {u"Approche :", u"Approach :"}},
+    count_row<stroke_counts>{&stroke_counts::putts, u"text_vrd_2", {u"Putt  :", u"Putt  :"}}};
 constexpr QStringView stroke_total_name = u"text_vrd_3";
 
+using situation_row = count_row<situation_counts>;
 constexpr std::array situation_rows{
-    figure_row{&quick_figures::fairway, u"text_p_3", {u"Allée :", u"Fairway Shots :"}},
-    figure_row{&quick_figures::sand, u"text_p_4", {u"Fosse de sable :", u"Sand Trap Shots :"}},
-    figure_row{&quick_figures::missed, u"text_p_5", {u"Coups ratés :", u"Missed Shots :"}},
-    figure_row{&quick_figures::recovery, u"text_p_6", {u"C. de redressement :", u"Adjustment Shots :"}}};
+    situation_row{&situation_counts::fairway, u"text_p_3", {u"Allée :", u"Fairway Shots :"}},
+    situation_row{&situation_counts::sand, u"text_p_4", {u"Fosse de sable :", u"Sand Trap Shots :"}},
+    situation_row{&situation_counts::missed, u"text_p_5", {u"Coups ratés :", u"Missed Shots :"}},
+    situation_row{
+        &situation_counts::recovery, u"text_p_6", {u"C. de redressement :", u"Adjustment Shots :"}}};
 
+using penalty_row = count_row<penalty_counts>;
 constexpr std::array penalty_rows{
-    figure_row{&quick_figures::pen_water, u"text_s_8", {u"Pénalité eau :", u"Water Hazard :"}},
-    figure_row{&quick_figures::pen_lost, u"text_s_9", {u"Pénalité balle perdue :", u"Lost Ball :"}},
-    figure_row{&quick_figures::pen_rule, u"text_s_10", {u"Pén.  (règlement) :", u"Rules :"}},
-    figure_row{&quick_figures::pen_bounds, u"text_s_11", {u"Pénalité hors limites :", u"Out of Bound :"}}};
+    penalty_row{&penalty_counts::pen_water, u"text_s_8", {u"Pénalité eau :", u"Water Hazard :"}},
+    penalty_row{&penalty_counts::pen_lost, u"text_s_9", {u"Pénalité balle perdue :", u"Lost Ball :"}},
+    penalty_row{&penalty_counts::pen_rule, u"text_s_10", {u"Pén.  (règlement) :", u"Rules :"}},
+    penalty_row{&penalty_counts::pen_bounds, u"text_s_11", {u"Pénalité hors limites :", u"Out of Bound :"}}};
 constexpr QStringView penalty_total_name = u"text_36";
 
-/// A frame with lines of a label and a box each.
+/// A frame with lines of a label and a box each, added below the frames of a layout.
 class framed_boxes {
 public:
-    framed_boxes(const Form& window, const QString& caption)
-        : window_(window), frame_(new QGroupBox(caption)), rows_(new QGridLayout(frame_))
+    framed_boxes(QBoxLayout& frames, const Form& window, const text_pair& caption) : french_(window.french())
     {
+        auto* frame = new QGroupBox(caption.in(french_));
+        frames.addWidget(frame);
+        rows_ = new QGridLayout(frame);
         rows_->setHorizontalSpacing(2 * rhythm);
         rows_->setContentsMargins(rhythm, rhythm, rhythm, rhythm);
         rows_->setVerticalSpacing(row_gap);
@@ -71,14 +77,16 @@ public:
     QLineEdit* add(const text_pair& label, QLineEdit* box)
     {
         const int row = rows_->rowCount();
-        rows_->addWidget(make_label(label.in(window_.french()), box), row, 0);
+        rows_->addWidget(make_label(label.in(french_), box), row, 0);
         rows_->addWidget(box, row, 1);
         return box;
     }
 
-    QLineEdit* add_box(const figure_row& row)
+    template <typename Rows, typename Group>
+    void add_boxes(const Rows& rows, Group& group)
     {
-        return add(row.label, named(make_number_box(box_digits), row.box_name));
+        for (const auto& row : rows)
+            group.push_back({row.count, add(row.label, named(make_number_box(box_digits), row.box_name))});
     }
 
     QLineEdit* add_total(const text_pair& label, QStringView name)
@@ -86,11 +94,8 @@ public:
         return add(label, named(make_figure(box_digits), name));
     }
 
-    QGroupBox* frame() const { return frame_; }
-
 private:
-    const Form& window_;
-    QGroupBox* frame_;
+    bool french_;
     QGridLayout* rows_;
 };
 
@@ -143,57 +148,55 @@ void watch_digit_keys(QLineEdit& box, std::function<void()> move_on)
 quick_page::quick_page(const Form& window)
 {
     setObjectName(u"Frame5_0"_s);
-    framed_boxes strokes(window, window.caption(u"Entrée rapide", u"Quick Entry"));
-    for (const figure_row& row : stroke_rows)
-        stroke_boxes_.push_back({row.figure, strokes.add_box(row)});
+    auto* frames = new QVBoxLayout(this);
+    frames->setContentsMargins(0, 0, 0, 0);
+    frames->setSpacing(rhythm);
+    framed_boxes strokes(*frames, window, {u"Entrée rapide", u"Quick Entry"});
+    strokes.add_boxes(stroke_rows, stroke_boxes_);
     stroke_total_box_ = strokes.add_total({u"Nombre de coups :", u"Number of Shots :"}, stroke_total_name);
-    framed_boxes situation(window, window.caption(u"Situation", u"Position"));
-    for (const figure_row& row : situation_rows)
-        situation_boxes_.push_back({row.figure, situation.add_box(row)});
-    framed_boxes penalties(window, window.caption(u"Pénalités", u"Penalties"));
-    for (const figure_row& row : penalty_rows)
-        penalty_boxes_.push_back({row.figure, penalties.add_box(row)});
+    framed_boxes situation(*frames, window, {u"Situation", u"Position"});
+    situation.add_boxes(situation_rows, situation_boxes_);
+    framed_boxes penalties(*frames, window, {u"Pénalités", u"Penalties"});
+    penalties.add_boxes(penalty_rows, penalty_boxes_);
     penalty_total_box_ = penalties.add_total({u"Total pénalités :", u"Total :"}, penalty_total_name);
-
-    auto* groups = new QVBoxLayout(this);
-    groups->setContentsMargins(0, 0, 0, 0);
-    groups->setSpacing(rhythm);
-    for (const framed_boxes* group : {&strokes, &situation, &penalties})
-        groups->addWidget(group->frame());
-    groups->addStretch();
+    frames->addStretch();
     watch_keys();
     watch_changes();
 }
 
-std::vector<quick_page::figure_box> quick_page::boxes_in_order() const
+std::vector<QLineEdit*> quick_page::boxes_in_order() const
 {
-    std::vector<figure_box> boxes;
-    for (const box_group* group : {&stroke_boxes_, &situation_boxes_, &penalty_boxes_})
-        boxes.insert(boxes.end(), group->begin(), group->end());
+    std::vector<QLineEdit*> boxes;
+    const auto append = [&boxes](const auto& group) {
+        for (const auto& entry : group)
+            boxes.push_back(entry.box);
+    };
+    append(stroke_boxes_);
+    append(situation_boxes_);
+    append(penalty_boxes_);
     return boxes;
 }
 
 void quick_page::watch_keys()
 {
-    const box_group boxes = boxes_in_order();
+    const std::vector<QLineEdit*> boxes = boxes_in_order();
     for (std::size_t place = 0; place + 1 < boxes.size(); ++place)
-        watch_digit_keys(*boxes[place].box,
-                         [next = boxes[place + 1].box] { next->setFocus(Qt::TabFocusReason); });
-    watch_digit_keys(*boxes.back().box, [this] { Q_EMIT last_figure_typed(); });
+        watch_digit_keys(*boxes[place], [next = boxes[place + 1]] { next->setFocus(Qt::TabFocusReason); });
+    watch_digit_keys(*boxes.back(), [this] { Q_EMIT last_figure_typed(); });
 }
 
 void quick_page::watch_changes()
 {
-    for (const figure_box& stroke : stroke_boxes_) {
+    for (const auto& stroke : stroke_boxes_) {
         on_change(*stroke.box, [this] {
             Q_EMIT figure_changed();
             sum_stroke_boxes();
             Q_EMIT strokes_changed();
         });
     }
-    for (const figure_box& count : situation_boxes_)
+    for (const auto& count : situation_boxes_)
         on_change(*count.box, [this] { Q_EMIT figure_changed(); });
-    for (const figure_box& penalty : penalty_boxes_) {
+    for (const auto& penalty : penalty_boxes_) {
         on_change(*penalty.box, [this] {
             Q_EMIT figure_changed();
             sum_penalty_boxes();
@@ -213,39 +216,39 @@ void quick_page::sum_penalty_boxes()
     penalty_total_box_->setText(sum_of_boxes({text(0), text(1), text(2), text(3)}));
 }
 
-void quick_page::show(const box_group& boxes, const quick_figures& figures)
+template <typename Counts>
+void quick_page::show(const box_group<Counts>& boxes, const Counts& counts)
 {
-    for (const figure_box& entry : boxes)
-        entry.box->setText(QString::number(plain(figures.*entry.figure)));
+    for (const auto& entry : boxes)
+        entry.box->setText(QString::number(plain(counts.*entry.count)));
 }
 
-void quick_page::read(const box_group& boxes, quick_figures& figures)
+template <typename Counts>
+Counts quick_page::read(const box_group<Counts>& boxes)
 {
-    for (const figure_box& entry : boxes)
-        figures.*entry.figure = figure_of_box(entry.box->text());
+    Counts counts;
+    for (const auto& entry : boxes)
+        counts.*entry.count = figure_of_box(entry.box->text());
+    return counts;
 }
 
-void quick_page::show_stored(const quick_figures& figures)
+void quick_page::show_stored(const hole_counts& counts)
 {
-    show(stroke_boxes_, figures);
-    show(penalty_boxes_, figures);
-    show(situation_boxes_, figures);
+    show<stroke_counts>(stroke_boxes_, counts);
+    show<penalty_counts>(penalty_boxes_, counts);
+    show<situation_counts>(situation_boxes_, counts);
 }
 
-void quick_page::show_counted(const quick_figures& figures)
+void quick_page::show_counted(const hole_counts& counts)
 {
-    show(penalty_boxes_, figures);
-    show(situation_boxes_, figures);
-    show(stroke_boxes_, figures);
+    show<penalty_counts>(penalty_boxes_, counts);
+    show<situation_counts>(situation_boxes_, counts);
+    show<stroke_counts>(stroke_boxes_, counts);
 }
 
 hole_figures quick_page::figures() const
 {
-    quick_figures in_boxes;
-    read(stroke_boxes_, in_boxes);
-    read(penalty_boxes_, in_boxes);
-    return {in_boxes.long_shots, in_boxes.approach,   in_boxes.putts,   in_boxes.pen_rule,
-            in_boxes.pen_water,  in_boxes.pen_bounds, in_boxes.pen_lost};
+    return {read(stroke_boxes_), read(penalty_boxes_)};
 }
 
 Round_functions::situation_texts quick_page::situation() const
@@ -266,10 +269,8 @@ void quick_page::select_first_box()
 
 std::vector<QWidget*> quick_page::tab_order() const
 {
-    std::vector<QWidget*> boxes;
-    for (const figure_box& entry : boxes_in_order())
-        boxes.push_back(entry.box);
-    return boxes;
+    const std::vector<QLineEdit*> boxes = boxes_in_order();
+    return {boxes.begin(), boxes.end()};
 }
 
 }  // namespace verdane

@@ -13,21 +13,6 @@ namespace verdane {
 
 class Form;
 
-/// The figures in the eleven boxes of a hole.
-struct quick_figures {
-    int16 long_shots = 0;
-    int16 approach = 0;
-    int16 putts = 0;
-    int16 fairway = 0;
-    int16 sand = 0;
-    int16 missed = 0;
-    int16 recovery = 0;
-    int16 pen_water = 0;
-    int16 pen_lost = 0;
-    int16 pen_rule = 0;
-    int16 pen_bounds = 0;
-};
-
 /// Quick entry: a hole in eleven boxes. A typed digit replaces the figure of its box and moves the focus to
 /// the next box. Every change of a box is reported, also one by the program.
 class quick_page : public QWidget {
@@ -36,12 +21,12 @@ class quick_page : public QWidget {
 public:
     explicit quick_page(const Form& window);
 
-    /// Shows the figures of a stored hole: strokes, penalties, then the situation. Each change is reported
+    /// Shows the counts of a stored hole: strokes, penalties, then the situation. Each change is reported
     /// before the next box is set.
-    void show_stored(const quick_figures& figures);
-    /// Shows figures that were counted from shots: penalties, situation, then strokes. When the strokes are
+    void show_stored(const hole_counts& counts);
+    /// Shows what was counted from shots: penalties, situation, then strokes. When the strokes are
     /// reported, all penalties are set.
-    void show_counted(const quick_figures& figures);
+    void show_counted(const hole_counts& counts);
 
     /// Strokes and penalties; an empty box is 0. Fails with `overflow` beyond 16 bits.
     hole_figures figures() const;
@@ -64,24 +49,29 @@ Q_SIGNALS:
     void last_figure_typed();
 
 private:
-    struct figure_box {
-        int16 quick_figures::*figure;
+    template <typename Counts>
+    struct count_box {
+        int16 Counts::*count;
         QLineEdit* box;
     };
-    using box_group = std::vector<figure_box>;
+    /// The boxes of a frame, from top to bottom.
+    template <typename Counts>
+    using box_group = std::vector<count_box<Counts>>;
 
-    std::vector<figure_box> boxes_in_order() const;
+    template <typename Counts>
+    static void show(const box_group<Counts>& boxes, const Counts& counts);
+    template <typename Counts>
+    static Counts read(const box_group<Counts>& boxes);
+
+    std::vector<QLineEdit*> boxes_in_order() const;
     void watch_keys();
     void watch_changes();
     void sum_stroke_boxes();
     void sum_penalty_boxes();
 
-    static void show(const box_group& boxes, const quick_figures& figures);
-    static void read(const box_group& boxes, quick_figures& figures);
-
-    box_group stroke_boxes_;
-    box_group situation_boxes_;
-    box_group penalty_boxes_;
+    box_group<stroke_counts> stroke_boxes_;
+    box_group<situation_counts> situation_boxes_;
+    box_group<penalty_counts> penalty_boxes_;
     QLineEdit* stroke_total_box_;
     QLineEdit* penalty_total_box_;
 };

@@ -10,16 +10,34 @@
 /// The counts of one hole. Pure functions; a sum that exceeds 16 bits fails with `overflow`.
 namespace verdane {
 
-/// The counts of one hole, all in strokes.
-struct hole_figures {
+struct stroke_counts {
     int16 long_shots = 0;
     int16 approach = 0;
     int16 putts = 0;
+};
+
+/// Penalties, one stroke each.
+struct penalty_counts {
     int16 pen_rule = 0;
     int16 pen_water = 0;
     int16 pen_bounds = 0;
     int16 pen_lost = 0;
 };
+
+/// The counts that add up to the gross of a hole.
+struct hole_figures : stroke_counts, penalty_counts {};
+
+/// Shots in the fairway, in sand, missed ones and recovery shots. They are also counted as strokes, so they
+/// do not change the gross.
+struct situation_counts {
+    int16 fairway = 0;
+    int16 sand = 0;
+    int16 missed = 0;
+    int16 recovery = 0;
+};
+
+/// Everything that is counted on a hole: the eleven boxes of quick entry.
+struct hole_counts : hole_figures, situation_counts {};
 
 /// Long and approach shots added: the strokes that are neither putts nor penalties.
 int16 hole_shots(const hole_figures& f);

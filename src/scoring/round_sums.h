@@ -17,13 +17,9 @@ constexpr int last_front_hole = nine_holes;
 template <typename Value>
 using by_hole = checked_array<Value, hole_count, 1>;
 
-/// One hole of one round, as it was played.
-struct played_hole {
-    hole_figures figures;
+/// One hole of one round, as it was played. The statistics do not count recovery shots.
+struct played_hole : hole_counts {
     int16 par = 0;
-    int16 sand = 0;
-    int16 missed = 0;
-    int16 fairway = 0;
 };
 
 /// The sums over the rounds of a selection.

@@ -27,7 +27,7 @@ std::vector<season_hole> sums_of_holes(const season_rounds& rounds)
                     h,
                     plain(hole.par),
                     sums.plays + 1,
-                    sums.mean_over + plain(hole_gross(hole.figures)) - plain(hole.par)};
+                    sums.mean_over + plain(hole_gross(hole)) - plain(hole.par)};
         }
     std::vector<season_hole> result;
     for (auto& [place, hole] : holes) {

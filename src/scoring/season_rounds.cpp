@@ -19,17 +19,17 @@ constexpr std::array<window_step, 3> window_steps{{{120, 20}, {30, 10}, {0, 5}}}
 void add_hole(season_figures& figures, const played_hole& hole)
 {
     ++figures.holes;
-    figures.over += plain(hole_gross(hole.figures)) - plain(hole.par);
-    figures.putts += plain(hole.figures.putts);
-    figures.greens += in_regulation(hole.figures, hole.par);
-    figures.penalties += plain(hole_penalties(hole.figures));
+    figures.over += plain(hole_gross(hole)) - plain(hole.par);
+    figures.putts += plain(hole.putts);
+    figures.greens += in_regulation(hole, hole.par);
+    figures.penalties += plain(hole_penalties(hole));
 }
 
 }  // namespace
 
 bool is_played(const played_hole& hole)
 {
-    return hole_gross(hole.figures) != 0;
+    return hole_gross(hole) != 0;
 }
 
 season_figures figures_of_round(const season_round& round)
@@ -37,7 +37,7 @@ season_figures figures_of_round(const season_round& round)
     season_figures figures;
     round_totals totals;
     for (int h = 1; h <= hole_count; ++h) {
-        totals.add_hole(hole_gross(round.holes[h].figures), round.holes[h].par);
+        totals.add_hole(hole_gross(round.holes[h]), round.holes[h].par);
         if (is_played(round.holes[h]))
             add_hole(figures, round.holes[h]);
     }

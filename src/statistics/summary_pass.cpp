@@ -45,9 +45,8 @@ void close_round_tables()
 /// Reads a hole of the round from the current rows, each column once.
 played_hole read_hole(int16 hole)
 {
-    const Round_functions::situation situation = Round_functions::read_situation(hole);
-    return {Round_functions::figures_from_row(hole), Round_functions::hole_par(hole), situation.sand,
-            situation.missed, situation.fairway};
+    const situation_counts situation = Round_functions::read_situation(hole);
+    return {{Round_functions::figures_from_row(hole), situation}, Round_functions::hole_par(hole)};
 }
 
 void add_current_round(round_sums& sums, season_rounds& season)

@@ -19,7 +19,7 @@ namespace {
 hole_figures typed_boxes(const QStringList& texts)
 {
     const auto box = [&texts](int i) { return figure_of_box(texts.value(i)); };
-    return {box(0), box(1), box(2), box(3), box(4), box(5), box(6)};
+    return {{box(0), box(1), box(2)}, {box(3), box(4), box(5), box(6)}};
 }
 
 }  // namespace

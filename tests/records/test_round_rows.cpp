@@ -20,7 +20,7 @@ private Q_SLOTS:
     void stored_strokes_are_in_their_columns_and_are_read_back()
     {
         store_strokes(18, {3, 2, 1});
-        const strokes read = read_strokes(18);
+        const stroke_counts read = read_strokes(18);
         QCOMPARE(plain(read.long_shots), 3);
         QCOMPARE(plain(read.approach), 2);
         QCOMPARE(plain(read.putts), 1);
@@ -33,7 +33,7 @@ private Q_SLOTS:
 
     void strokes_without_a_value_are_read_as_0()
     {
-        const strokes read = read_strokes(7);
+        const stroke_counts read = read_strokes(7);
         QCOMPARE(plain(read.long_shots), 0);
         QCOMPARE(plain(read.approach), 0);
         QCOMPARE(plain(read.putts), 0);
@@ -42,11 +42,11 @@ private Q_SLOTS:
     void stored_penalties_are_in_their_columns_and_are_read_back()
     {
         store_penalties(1, {1, 2, 3, 4});
-        const penalties read = read_penalties(1);
-        QCOMPARE(plain(read.rule), 1);
-        QCOMPARE(plain(read.water), 2);
-        QCOMPARE(plain(read.bounds), 3);
-        QCOMPARE(plain(read.lost), 4);
+        const penalty_counts read = read_penalties(1);
+        QCOMPARE(plain(read.pen_rule), 1);
+        QCOMPARE(plain(read.pen_water), 2);
+        QCOMPARE(plain(read.pen_bounds), 3);
+        QCOMPARE(plain(read.pen_lost), 4);
         round_->commit();
         QCOMPARE(round_->stored(games_, u"pen_rule_1"_s).toInt(), 1);
         QCOMPARE(round_->stored(games_, u"pen_water_1"_s).toInt(), 2);
@@ -57,11 +57,9 @@ private Q_SLOTS:
     void a_new_row_has_no_penalties_and_no_situations()
     {
         for (int hole = 1; hole <= 18; ++hole) {
-            const penalties p = read_penalties(hole);
-            const situation s = read_situation(hole);
-            QVERIFY(p.rule == 0 && p.water == 0 && p.bounds == 0 && p.lost == 0);
-            QVERIFY(s.sand == 0 && s.missed == 0 && s.fairway == 0);
-            QCOMPARE(plain(read_recovery(hole)), 0);
+            const hole_counts read = read_hole(hole);
+            QVERIFY(read.pen_rule == 0 && read.pen_water == 0 && read.pen_bounds == 0 && read.pen_lost == 0);
+            QVERIFY(read.sand == 0 && read.missed == 0 && read.fairway == 0 && read.recovery == 0);
         }
     }
 
@@ -69,11 +67,11 @@ private Q_SLOTS:
     {
         store_situation(9, {u"2"_s, u"3a"_s, u"2.5"_s, QString()});
         round_->commit();
-        const situation read = read_situation(9);
+        const situation_counts read = read_situation(9);
         QCOMPARE(plain(read.fairway), 2);
         QCOMPARE(plain(read.sand), 3);
         QCOMPARE(plain(read.missed), 2);
-        QCOMPARE(plain(read_recovery(9)), 0);
+        QCOMPARE(plain(read_hole(9).recovery), 0);
         QCOMPARE(round_->stored(games2_, u"fairway_9"_s).toInt(), 2);
         QCOMPARE(round_->stored(games2_, u"sand_9"_s).toInt(), 3);
         QCOMPARE(round_->stored(games_, u"missed_9"_s).toInt(), 2);
@@ -85,7 +83,7 @@ private Q_SLOTS:
         round_->store.rsgames.Fields(tables::games::pen_lost_h(4)).set(QVariant());
         QVERIFY(failure_of([] { read_penalties(4); }) == failure_kind::invalid_null);
         QVERIFY(failure_of([] { figures_from_row(4); }) == failure_kind::invalid_null);
-        QCOMPARE(plain(read_penalties(5).lost), 0);
+        QCOMPARE(plain(read_penalties(5).pen_lost), 0);
     }
 
     void a_situation_without_a_value_is_an_invalid_null()
@@ -96,7 +94,7 @@ private Q_SLOTS:
         round_->store.rsgames2.Fields(tables::games2::recovery_h(7)).set(QVariant());
         for (const int hole : {4, 5, 6})
             QVERIFY(failure_of([=] { read_situation(hole); }) == failure_kind::invalid_null);
-        QVERIFY(failure_of([] { read_recovery(7); }) == failure_kind::invalid_null);
+        QVERIFY(failure_of([] { read_hole(7); }) == failure_kind::invalid_null);
         QVERIFY(!failure_of([] { read_situation(7); }));
     }
 

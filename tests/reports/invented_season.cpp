@@ -69,11 +69,11 @@ private:
         const int lost_greens = pick(0, 99) < 55 - 20 * place / size_.rounds + (h * 7 + course) % 20 ? 1 : 0;
         played_hole made;
         made.par = par;
-        made.figures.putts = pick(0, 9) < 2 ? 1 : pick(0, 9) < 8 ? 2 : 3;
-        made.figures.long_shots = par - 2 > 1 ? par - 3 : 1;
-        made.figures.approach = (par - 2 > 1 ? 1 : 0) + lost_greens;
-        made.figures.pen_water = pick(0, 29) == 0 ? 1 : 0;
-        made.figures.pen_lost = pick(0, 39) == 0 ? 1 : 0;
+        made.putts = pick(0, 9) < 2 ? 1 : pick(0, 9) < 8 ? 2 : 3;
+        made.long_shots = par - 2 > 1 ? par - 3 : 1;
+        made.approach = (par - 2 > 1 ? 1 : 0) + lost_greens;
+        made.pen_water = pick(0, 29) == 0 ? 1 : 0;
+        made.pen_lost = pick(0, 39) == 0 ? 1 : 0;
         return made;
     }
 

@@ -23,11 +23,11 @@ season_round round_of(const QString& day, int gross, double rating)
     season_round round{day + u"080000"_s, u"ALPHA-0"_s, u"Alpha, White"_s, rating, 113, {}};
     for (int h = 1; h <= hole_count; ++h) {
         round.holes[h].par = 4;
-        round.holes[h].figures.long_shots = 1;
-        round.holes[h].figures.approach = 1;
-        round.holes[h].figures.putts = 2;
+        round.holes[h].long_shots = 1;
+        round.holes[h].approach = 1;
+        round.holes[h].putts = 2;
     }
-    round.holes[1].figures.approach = gross - 72 + 1;
+    round.holes[1].approach = gross - 72 + 1;
     return round;
 }
 
@@ -218,7 +218,7 @@ private Q_SLOTS:
     {
         season_rounds rounds{round_of(u"20240501"_s, 80, 70), round_of(u"20240502"_s, 75, 70),
                              round_of(u"20240503"_s, 90, 70)};
-        rounds[2].holes[18].figures = {};
+        rounds[2].holes[18] = {};
         const QStringList pages = pages_of(english, tables_of(rounds));
         QVERIFY(pages.at(1).contains(u"One round has fewer than 18 holes played."));
         for (const QString& words :
@@ -232,7 +232,7 @@ private Q_SLOTS:
     {
         season_round round = round_of(u"20240501"_s, 80, 70);
         for (int h = 1; h <= hole_count; ++h)
-            round.holes[h].figures = {};
+            round.holes[h] = {};
         const QStringList pages = pages_of(english, tables_of({round}));
         QCOMPARE(pages.size(), 3);
         QVERIFY(pages.at(1).contains(u"1 2024-05-01 Alpha, White 0 0 70.0 113 −70.00"));

@@ -13,13 +13,16 @@ namespace {
 /// "long approach putts | fairway sand missed recovery | water lost rules bounds"
 QString figures_of(const hole_summary& sum)
 {
-    const auto kind = [&sum](int which) { return QString::number(plain(sum.kinds[which].sum)); };
-    const auto penalty = [&sum](int which) { return QString::number(plain(sum.penalties[which].sum)); };
-    const auto number = [](int16 count) { return QString::number(plain(count)); };
-    return QStringList{kind(1), kind(2), kind(3)}.join(u' ') + u" | " +
-           QStringList{number(sum.fairway), number(sum.sand), number(sum.missed), number(sum.recovery)}.join(
-               u' ') +
-           u" | " + QStringList{penalty(1), penalty(2), penalty(3), penalty(4)}.join(u' ');
+    const auto line = [](std::initializer_list<int16> counts) {
+        QStringList numbers;
+        for (const int16 count : counts)
+            numbers << QString::number(plain(count));
+        return numbers.join(u' ');
+    };
+    const hole_counts& c = sum.counts;
+    return line({c.long_shots, c.approach, c.putts}) + u" | " +
+           line({c.fairway, c.sand, c.missed, c.recovery}) + u" | " +
+           line({c.pen_water, c.pen_lost, c.pen_rule, c.pen_bounds});
 }
 
 QString putts_of(const hole_summary& sum)
@@ -108,7 +111,7 @@ private Q_SLOTS:
         for (hole_shot& row : rows)
             row.faireway = u"Fairway"_s;
         const hole_summary sum = summarise(rows);
-        QCOMPARE(plain(sum.fairway), 0);
+        QCOMPARE(plain(sum.counts.fairway), 0);
         QCOMPARE(plain(rows[0].fairval), 2);
         QCOMPARE(plain(rows[1].fairval), 0);
         QCOMPARE(plain(rows[2].fairval), 0);

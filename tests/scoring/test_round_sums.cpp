@@ -16,9 +16,9 @@ namespace {
 played_hole played(int long_shots, int approach, int putts, int par)
 {
     played_hole hole;
-    hole.figures.long_shots = long_shots;
-    hole.figures.approach = approach;
-    hole.figures.putts = putts;
+    hole.long_shots = long_shots;
+    hole.approach = approach;
+    hole.putts = putts;
     hole.par = par;
     return hole;
 }
@@ -46,10 +46,10 @@ private Q_SLOTS:
     void a_hole_is_added_to_its_own_sums_and_to_no_other()
     {
         played_hole hole = gross_on(4, 4);
-        hole.figures.pen_water = 1;
-        hole.figures.pen_lost = 2;
-        hole.figures.pen_rule = 3;
-        hole.figures.pen_bounds = 4;
+        hole.pen_water = 1;
+        hole.pen_lost = 2;
+        hole.pen_rule = 3;
+        hole.pen_bounds = 4;
         hole.sand = 5;
         hole.missed = 6;
         hole.fairway = 7;
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QCOMPARE(seen, places);
         for (int p = 3; p <= 5; ++p) {
             QCOMPARE(plain(sums.averaged[p][18].sum), p == par ? 1 : 0);
-            QCOMPARE(plain(sums.classes[p + 12][18].sum), p == par ? plain(hole_gross(hole.figures)) : 0);
+            QCOMPARE(plain(sums.classes[p + 12][18].sum), p == par ? plain(hole_gross(hole)) : 0);
         }
     }
 

@@ -14,9 +14,9 @@ namespace {
 played_hole hole_in(int long_shots, int approach, int putts, int par = 4)
 {
     played_hole hole;
-    hole.figures.long_shots = long_shots;
-    hole.figures.approach = approach;
-    hole.figures.putts = putts;
+    hole.long_shots = long_shots;
+    hole.approach = approach;
+    hole.putts = putts;
     hole.par = par;
     return hole;
 }
@@ -60,7 +60,7 @@ private Q_SLOTS:
     {
         played_hole hole = hole_in(1, 1, 2);
         season_round round = round_of(u"1"_s, hole);
-        hole.figures.pen_water = 2;
+        hole.pen_water = 2;
         round.holes[18] = hole;
         const season_figures figures = figures_of_round(round);
         QVERIFY(figures.whole());
@@ -86,7 +86,7 @@ private Q_SLOTS:
     {
         played_hole hole;
         QVERIFY(!is_played(hole));
-        hole.figures.pen_lost = 1;
+        hole.pen_lost = 1;
         QVERIFY(is_played(hole));
     }
 
