@@ -1,7 +1,6 @@
 #include "records/round_rows.h"
 
 #include "records/course_rows.h"
-#include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/cost.h"
 #include "store/tables/courses.h"
@@ -101,6 +100,14 @@ std::vector<int> situation_columns()
     for (int h = 1; h <= hole_count; ++h)
         ordinals.insert(ordinals.end(), {games2::sand_h(h), games2::fairway_h(h)});
     return ordinals;
+}
+
+void store_putt_lengths(int16 hole, const std::array<int16, putt_lengths_kept>& lengths)
+{
+    const int h = checked_hole(hole);
+    int number = 0;
+    for (const int16 length : lengths)
+        in_games2(games2::putt_len(h, ++number)).set(length);
 }
 
 hole_figures figures_from_row(int16 hole)

@@ -3,7 +3,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
+#include <vector>
+
 #include "scoring/hole_arithmetic.h"
+#include "scoring/limits.h"
 
 /// One hole of a stored round in the current rows of the shared recordsets: `rsgames`, `rsgames2`,
 /// `rsfield_info`, `rsvrd_fields`, `rscost`. The caller has opened and positioned them, and commits.
@@ -39,6 +43,9 @@ void store_situation(int16 hole, const situation_texts& boxes);
 situation_counts read_situation(int16 hole);
 /// The ordinals of all columns of `games2` that `read_situation` reads.
 std::vector<int> situation_columns();
+
+/// Writes the lengths of the first putts of a hole, in feet.
+void store_putt_lengths(int16 hole, const std::array<int16, putt_lengths_kept>& lengths);
 
 /// All counts of the hole that are part of its gross.
 hole_figures figures_from_row(int16 hole);

@@ -12,6 +12,7 @@
 #include "controls/Form.h"
 #include "controls/look.h"
 #include "controls/shortcuts.h"
+#include "round/shot_grid.h"
 
 namespace verdane {
 
@@ -22,8 +23,8 @@ detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_o
       window_(window),
       rows_(rows),
       hole_(std::move(hole)),
-      entry_(rows, window.french(), hole_),
-      grid_(new shot_grid(window)),
+      entry_(rows, hole_),
+      grid_(new shot_grid(window, rows)),
       choices_(*grid_, rows, entry_, hole_)
 {
     setObjectName(u"Framedet"_s);
@@ -178,7 +179,7 @@ void detailed_page::next_shot()
 {
     if (!entry_.hole_is_loaded())
         return;
-    if (!entry_.has_shots()) {
+    if (rows_.empty()) {
         start_hole_again();
         return;
     }
@@ -204,9 +205,9 @@ void detailed_page::remove_shot()
                          QMessageBox::Critical);
         return;
     }
-    entry_.remove_shot();
+    rows_.remove_current();
     grid_->ReBind();
-    if (entry_.has_shots())
+    if (!rows_.empty())
         check_shots();
     entry_.set_put_mode_by_last_shot();
 }
@@ -217,7 +218,7 @@ void detailed_page::finish_hole()
         return;
     drop_blank_shot();
     summarise_hole();
-    if (!entry_.has_shots())
+    if (rows_.empty())
         start_hole_again();
 }
 

@@ -6,8 +6,9 @@
 #include <optional>
 #include <vector>
 
+#include "round/shot_choices.h"
 #include "round/shot_entry.h"
-#include "round/shot_grid.h"
+#include "round/shot_rows.h"
 
 class QLayout;
 class QPushButton;
@@ -15,6 +16,7 @@ class QPushButton;
 namespace verdane {
 
 class Form;
+class shot_grid;
 struct shortcut;
 struct text_pair;
 
@@ -40,7 +42,7 @@ public:
     bool PUT_MODE() const { return entry_.PUT_MODE(); }
 
     /// True when the hole has only the blank shot of a new hole.
-    bool is_untouched() const { return entry_.is_untouched(); }
+    bool is_untouched() const { return rows_.only_blank_shot(); }
     /// Removes that shot from the store.
     void drop_untouched_shot() { entry_.drop_untouched_shot(); }
 

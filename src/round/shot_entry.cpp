@@ -1,42 +1,19 @@
 #include "round/shot_entry.h"
 
-#include <algorithm>
-#include <array>
+#include <span>
+#include <utility>
 
 #include "base/language.h"
-#include "base/numbers.h"
 #include "controls/failure_guard.h"
 #include "records/Main_module.h"
 #include "round/shot_rows.h"
 #include "scoring/limits.h"
-#include "scoring/words.h"
 #include "store/DataEnvironment1.h"
-#include "store/tables/games2.h"
-#include "store/tables/Stat_rounds.h"
 
 namespace verdane {
 
-namespace {
-
-namespace Stat_rounds = tables::Stat_rounds;
-
-Recordset& shots()
-{
-    return data_environment().rsStat_rounds;
-}
-
-void store_putt_lengths(int16 hole, const hole_summary& summary)
-{
-    for (int i = 0; i < putt_lengths_kept; ++i)
-        data_environment()
-            .rsgames2.Fields(tables::games2::putt_len(plain(hole), i + 1))
-            .set(summary.putt_lengths[static_cast<std::size_t>(i)]);
-}
-
-}  // namespace
-
-shot_entry::shot_entry(shot_rows& rows, bool french, std::function<hole_on_screen()> hole)
-    : rows_(rows), french_(french), hole_(std::move(hole))
+shot_entry::shot_entry(shot_rows& rows, std::function<hole_on_screen()> hole)
+    : rows_(rows), hole_(std::move(hole))
 {
 }
 
@@ -46,29 +23,15 @@ bool shot_entry::hole_is_loaded() const
     return rows_.has_hole(hole.key, hole.number);
 }
 
-bool shot_entry::has_shots() const
-{
-    return !shots().empty();
-}
-
-/// In the fairway, without a penalty.
-void shot_entry::start_row(int number, int16 distance)
+new_shot shot_entry::shot_of_hole(int number, int16 distance) const
 {
     const hole_on_screen hole = hole_();
-    shots().AddNew();
-    shots().Fields(Stat_rounds::faireway).set(position_words[0].in(french_));
-    shots().Fields(Stat_rounds::fairval).set(in_the_fairway);
-    shots().Fields(Stat_rounds::date).set(hole.key);
-    shots().Fields(Stat_rounds::hole).set(hole.number);
-    shots().Fields(Stat_rounds::shot).set(number);
-    shots().Fields(Stat_rounds::before).set(distance);
-    shots().Fields(Stat_rounds::verges).set(hole.card.yards);
+    return {hole.key, hole.number, number, distance, hole.card.yards};
 }
 
 void shot_entry::add_first_shot()
 {
-    start_row(1, hole_().card.yards);
-    rows_.commit_first_shot();
+    rows_.add_first(shot_of_hole(1, hole_().card.yards));
 }
 
 void shot_entry::load_hole()
@@ -77,40 +40,36 @@ void shot_entry::load_hole()
     rows_.change_hole(hole.key, hole.number);
     if (!rows_.is_open())
         return;
-    if (shots().empty())
+    if (rows_.empty())
         add_first_shot();
-    shots().MoveFirst();
+    rows_.move_to(0);
 }
 
 Round_functions::hole_card shot_entry::card_of_shots() const
 {
-    if (!hole_is_loaded() && !shots().empty())
-        return Round_functions::read_hole_card(to_int16(shots().value_at(0, Stat_rounds::hole).toDouble()));
-    return hole_().card;
-}
-
-/// `incomplete` is set before the incomplete row is committed, so that a failure of that commit does not hide
-/// it.
-void shot_entry::walk_shots(int& incomplete)
-{
-    shot_list rows = rows_.read();
-    if (rows.empty())
-        return;
-    const shots_check found = verdane::check_shots(rows, card_of_shots().yards, units_in(is_french));
-    rows_.write(rows, [&](int row) {
-        if (row + 1 == found.incomplete)
-            incomplete = found.incomplete;
-    });
-    if (found.ok)
-        shots().MoveLast();
-    else
-        shots().MoveTo(found.incomplete - 1);
+    return hole_is_loaded() ? hole_().card : Round_functions::read_hole_card(rows_.hole());
 }
 
 int shot_entry::check_shots()
 {
     int incomplete = 0;
-    finishes_without_store_failure([&] { walk_shots(incomplete); });
+    finishes_without_store_failure([&] {
+        shot_list shots = rows_.read();
+        if (shots.empty())
+            return;
+        const shots_check found = verdane::check_shots(shots, card_of_shots().yards, units_in(is_french));
+        if (found.ok) {
+            rows_.write(shots);
+            rows_.move_to_last();
+            return;
+        }
+        const int place = found.incomplete - 1;
+        rows_.write(std::span(shots).first(static_cast<std::size_t>(place)));
+        // From here on, a failure does not hide the incomplete shot.
+        incomplete = found.incomplete;
+        rows_.write(shots);
+        rows_.move_to(place);
+    });
     return incomplete;
 }
 
@@ -118,79 +77,64 @@ bool shot_entry::drop_blank_shot(int grid_row)
 {
     if (!rows_.has_hole())
         return false;
-    if (grid_row == 0 && !current_shot::is_complete()) {
+    if (grid_row == 0 && !rows_.current().is_complete()) {
         rows_.remove_current();
         return true;
     }
-    if (!shots().empty()) {
-        shots().MoveFirst();
-        current_shot::set_par(card_of_shots().par);
+    if (!rows_.empty()) {
+        rows_.move_to(0);
+        rows_.current().set_par(card_of_shots().par);
     }
     return false;
 }
 
-void shot_entry::remove_shot()
-{
-    rows_.remove_current();
-}
-
 void shot_entry::set_put_mode_by_last_shot()
 {
-    PUT_MODE_ =
-        !shots().empty() &&
-        to_int16(shots().value_at(shots().RecordCount() - 1, Stat_rounds::shot_type_value).toDouble()) ==
-            putt;
-}
-
-bool shot_entry::is_untouched() const
-{
-    if (!rows_.has_hole() || shots().RecordCount() != 1)
-        return false;
-    const std::array entered{Stat_rounds::stickval, Stat_rounds::shot_type_value, Stat_rounds::after};
-    return std::all_of(entered.begin(), entered.end(),
-                       [](int ordinal) { return shots().value_at(0, ordinal).toInt() == 0; });
+    PUT_MODE_ = rows_.last_is_putt();
 }
 
 void shot_entry::drop_untouched_shot()
 {
-    if (!is_untouched())
+    if (!rows_.only_blank_shot())
         return;
-    shots().MoveFirst();
+    rows_.move_to(0);
     rows_.remove_current();
 }
 
 std::optional<int16> shot_entry::prepare_next_shot()
 {
-    shots().MoveLast();
-    shot_list rows = rows_.read();
-    const next_shot_plan plan = plan_next_shot(rows, units_in(is_french));
+    rows_.move_to_last();
+    shot_list shots = rows_.read();
+    const next_shot_plan plan = plan_next_shot(shots, units_in(is_french));
     if (plan.refused)
         return std::nullopt;
     PUT_MODE_ = plan.PUT_MODE;
-    rows_.write(rows);
+    rows_.write(shots);
     return std::make_optional(plan.distance);
 }
 
 void shot_entry::add_shot(int16 distance)
 {
-    start_row(shots().RecordCount() + 1, distance);
-    current_shot::set_par(hole_().card.par);
+    rows_.add(shot_of_hole(rows_.count() + 1, distance));
+    shot_row added = rows_.current();
+    added.set_par(hole_().card.par);
     if (PUT_MODE_) {
-        current_shot::make_putt();
-        current_shot::clear_position();
+        added.make_putt();
+        added.clear_position();
     }
-    shots().MoveLast();
+    // Commits the shot.
+    rows_.move_to_last();
 }
 
 std::optional<hole_summary> shot_entry::summarise_hole()
 {
     if (!hole_is_loaded())
         return std::nullopt;
-    shot_list rows = rows_.read();
-    const hole_summary summary = summarise(rows);
-    rows_.write(rows);
+    shot_list shots = rows_.read();
+    const hole_summary summary = summarise(shots);
+    rows_.write(shots);
     isdetailed_ = summary.isdetailed;
-    store_putt_lengths(hole_().number, summary);
+    Round_functions::store_putt_lengths(hole_().number, summary.putt_lengths);
     return summary;
 }
 

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "records/round_rows.h"
+#include "records/shot_row.h"
 #include "round/shot_rows.h"
 #include "scoring/hole_summary.h"
 
@@ -27,7 +28,7 @@ class shot_entry {
 public:
     /// `hole` returns the hole on screen. The shots that are loaded can be those of another hole: on the
     /// quick page the hole changes without its shots.
-    shot_entry(shot_rows& rows, bool french, std::function<hole_on_screen()> hole);
+    shot_entry(shot_rows& rows, std::function<hole_on_screen()> hole);
 
     /// The shot that is being entered is a putt.
     bool PUT_MODE() const { return PUT_MODE_; }
@@ -35,7 +36,6 @@ public:
     bool isdetailed() const { return isdetailed_; }
 
     bool hole_is_loaded() const;
-    bool has_shots() const;
 
     /// Loads the shots of the hole on screen. A hole without shots gets a blank one. Shots that cannot be
     /// opened leave no rows.
@@ -51,14 +51,11 @@ public:
     /// Removes the current shot if it is the first one (`grid_row` is 0) and lacks club or kind, and returns
     /// true. Otherwise stores the par in the first shot.
     bool drop_blank_shot(int grid_row);
-    void remove_shot();
     /// Sets `PUT_MODE` to true when the last shot is a putt, else to false.
     void set_put_mode_by_last_shot();
 
-    /// True when the hole has only the blank shot of a new hole, without club, kind and distance.
-    bool is_untouched() const;
-    /// Removes that shot. The close box closes the window without complete shots, and a hole that was only
-    /// displayed must not count as a detailed one.
+    /// Removes the blank shot of a new hole. The close box closes the window without complete shots, and a
+    /// hole that was only displayed must not count as a detailed one.
     void drop_untouched_shot();
 
     /// Prepares the rows for the next shot and sets `PUT_MODE`. Returns the distance before that shot,
@@ -75,12 +72,12 @@ public:
     static QStringList club_names();
 
 private:
-    void start_row(int number, int16 distance);
+    /// A shot of the hole on screen.
+    new_shot shot_of_hole(int number, int16 distance) const;
+    /// The card of the hole whose shots are loaded.
     Round_functions::hole_card card_of_shots() const;
-    void walk_shots(int& incomplete);
 
     shot_rows& rows_;
-    bool french_;
     std::function<hole_on_screen()> hole_;
     bool PUT_MODE_ = false;
     bool isdetailed_ = false;

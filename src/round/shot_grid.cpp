@@ -4,11 +4,9 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 #include "base/language.h"
 #include "controls/choice_menu.h"
-#include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
@@ -16,7 +14,6 @@
 #include "round/shot_rows.h"
 #include "scoring/limits.h"
 #include "scoring/words.h"
-#include "store/DataEnvironment1.h"
 
 namespace verdane {
 
@@ -95,9 +92,8 @@ int widest(const QFontMetrics& font, const QStringList& words)
 
 }  // namespace
 
-shot_grid::shot_grid(Form& window)
-    : data_grid(new recordset_model(data_environment().rsStat_rounds, bound_columns(window.french()))),
-      french_(window.french())
+shot_grid::shot_grid(Form& window, shot_rows& rows)
+    : data_grid(rows.make_model(bound_columns(window.french()))), french_(window.french())
 {
     setObjectName(u"details"_s);
     add_menus(window);
@@ -194,77 +190,6 @@ void shot_grid::set_up_columns()
         if (twips > 0)
             setColumnWidth(column, std::max(pixels(twips), width_of_words(column)));
     }
-}
-
-shot_choices::shot_choices(shot_grid& grid, const shot_rows& rows, const shot_entry& entry,
-                           std::function<hole_on_screen()> hole)
-    : grid_(grid), rows_(rows), entry_(entry), hole_(std::move(hole))
-{
-    on_signal(grid_, &shot_grid::club_chosen, [this](int chosen) { club_chosen(chosen); });
-    on_signal(grid_, &shot_grid::kind_chosen, [this](int chosen) { kind_chosen(chosen); });
-    on_signal(grid_, &shot_grid::position_chosen, [this](int chosen) { position_chosen(chosen); });
-    on_signal(grid_, &shot_grid::penalty_chosen, [this](int chosen) { penalty_chosen(chosen); });
-    on_signal(grid_, &shot_grid::yes_or_no_chosen, [this](int chosen) { yes_or_no_chosen(chosen == 0); });
-    on_signal(grid_, &shot_grid::column_updated, [this](int column) { column_updated(column); });
-}
-
-void shot_choices::club_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_club(entry, grid_.club_name(entry));
-    grid_.ReBind();
-    grid_.set_Col(shot_grid::distance_column);
-}
-
-void shot_choices::kind_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_kind(entry);
-    if (entry == putt) {
-        Q_EMIT next_shot_wanted();
-        // The current row is the new shot, or the same one if the message was shown.
-        current_shot::make_putt();
-    }
-    grid_.ReBind();
-    grid_.set_Col(entry == putt ? shot_grid::distance_column : shot_grid::kind_column);
-}
-
-void shot_choices::position_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_position(entry);
-    grid_.ReBind();
-    grid_.set_Col(grid_.Col() + 1);
-}
-
-void shot_choices::penalty_chosen(int entry)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_penalty(entry);
-    Q_EMIT last_column_chosen();
-    grid_.ReBind();
-}
-
-void shot_choices::yes_or_no_chosen(bool yes)
-{
-    if (!rows_.on_a_row())
-        return;
-    current_shot::set_yes_or_no(grid_.bound_model().column(grid_.Col()).field, yes);
-    grid_.ReBind();
-    grid_.set_Col(grid_.Col() + 1);
-}
-
-void shot_choices::column_updated(int column)
-{
-    current_shot::set_par(hole_().card.par);
-    if (column == shot_grid::distance_column && current_shot::distance_changed())
-        Q_EMIT next_shot_wanted();
-    grid_.ReBind();
-    grid_.set_Col(entry_.PUT_MODE() ? shot_grid::club_column : shot_grid::unit_column);
 }
 
 }  // namespace verdane

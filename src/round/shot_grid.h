@@ -1,19 +1,16 @@
 #pragma once
 
 #include <QAction>
-#include <QObject>
 #include <QStringList>
-
-#include <functional>
 
 #include "controls/control_array.h"
 #include "controls/data_grid.h"
-#include "round/shot_entry.h"
 
 namespace verdane {
 
 class choice_menu;
 class Form;
+class shot_rows;
 
 /// The grid of the shots of a hole (`details`) with its columns and the menus of its cells. It is not bound
 /// at first.
@@ -38,8 +35,8 @@ public:
         shot_again_column
     };
 
-    /// The menus belong to the window.
-    explicit shot_grid(Form& window);
+    /// The menus belong to the window. `rows` must outlive the grid.
+    shot_grid(Form& window, shot_rows& rows);
 
     /// The names of the fourteen clubs in their menu.
     void set_club_names(const QStringList& names);
@@ -73,37 +70,6 @@ private:
     control_array<QAction> yes_no_entries_{u"mb"};
     control_array<QAction> position_entries_{u"ma"};
     control_array<QAction> penalty_entries_{u"mp"};
-};
-
-/// Stores what the user chooses from the menus of the grid or types into its cells, in the shot under the
-/// cursor, and moves the cursor to the next cell.
-class shot_choices : public QObject {
-    Q_OBJECT
-
-public:
-    /// The arguments must outlive the object. `hole` returns the hole on screen.
-    shot_choices(shot_grid& grid, const shot_rows& rows, const shot_entry& entry,
-                 std::function<hole_on_screen()> hole);
-
-Q_SIGNALS:
-    /// The next shot has to be added: after the distance of the last putt, and when a shot becomes a putt.
-    /// The current row is the new shot afterwards, or the same one if it was refused.
-    void next_shot_wanted();
-    /// The penalty was chosen, the last column of a shot.
-    void last_column_chosen();
-
-private:
-    void club_chosen(int entry);
-    void kind_chosen(int entry);
-    void position_chosen(int entry);
-    void penalty_chosen(int entry);
-    void yes_or_no_chosen(bool yes);
-    void column_updated(int column);
-
-    shot_grid& grid_;
-    const shot_rows& rows_;
-    const shot_entry& entry_;
-    std::function<hole_on_screen()> hole_;
 };
 
 }  // namespace verdane

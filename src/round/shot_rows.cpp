@@ -1,9 +1,12 @@
 #include "round/shot_rows.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
-#include "base/language.h"
+#include "base/numbers.h"
 #include "controls/failure_guard.h"
+#include "controls/recordset_model.h"
 #include "scoring/words.h"
 #include "store/DataEnvironment1.h"
 #include "store/Recordset.h"
@@ -20,64 +23,12 @@ namespace Stat_rounds = tables::Stat_rounds;
 /// In force when no round window is open.
 const QString statement_without_hole = u"select * from stat_rounds"_s;
 
-std::optional<int16> figure(const Field& field)
-{
-    if (field.is_null())
-        return std::nullopt;
-    return field.int16_or_zero();
-}
-
-hole_shot read_current(Recordset& row)
-{
-    hole_shot shot;
-    shot.shot = figure(row.Fields(Stat_rounds::shot));
-    shot.before = figure(row.Fields(Stat_rounds::before));
-    shot.after = figure(row.Fields(Stat_rounds::after));
-    shot.unit = row.Fields(Stat_rounds::unit).text_or_empty();
-    shot.shot_type_value = row.Fields(Stat_rounds::shot_type_value).int16_or_zero();
-    shot.stickval = row.Fields(Stat_rounds::stickval).int16_or_zero();
-    shot.faireway = row.Fields(Stat_rounds::faireway).text_or_empty();
-    shot.fairval = row.Fields(Stat_rounds::fairval).int16_or_zero();
-    shot.penval = row.Fields(Stat_rounds::penval).int16_or_zero();
-    shot.missed = row.Fields(Stat_rounds::missed).yes();
-    shot.ts = row.Fields(Stat_rounds::ts).yes();
-    shot.dz = row.Fields(Stat_rounds::dz).yes();
-    shot.cal = row.Fields(Stat_rounds::cal).yes();
-    return shot;
-}
-
-void write_figure(Field field, const std::optional<int16>& value, const std::optional<int16>& stored)
-{
-    if (value && value != stored)
-        field.set(*value);
-}
-
-void write_text(Field field, const QString& value, const QString& stored)
-{
-    if (value != stored)
-        field.set(value);
-}
-
-void write_current(Recordset& row, const hole_shot& shot)
-{
-    const hole_shot stored = read_current(row);
-    write_figure(row.Fields(Stat_rounds::shot), shot.shot, stored.shot);
-    write_figure(row.Fields(Stat_rounds::before), shot.before, stored.before);
-    write_figure(row.Fields(Stat_rounds::after), shot.after, stored.after);
-    write_text(row.Fields(Stat_rounds::unit), shot.unit, stored.unit);
-    write_text(row.Fields(Stat_rounds::faireway), shot.faireway, stored.faireway);
-    write_figure(row.Fields(Stat_rounds::fairval), std::make_optional(shot.fairval),
-                 std::make_optional(stored.fairval));
-    if (shot.cal != stored.cal)
-        row.Fields(Stat_rounds::cal).set(shot.cal);
-}
-
-/// Makes each row the current one in turn, then the row that was current before.
+/// Makes each of the first rows the current one in turn, then the row that was current before.
 template <typename Work>
-void with_each_row(Recordset& rows, Work work)
+void with_first_rows(Recordset& rows, int count, Work work)
 {
     const int current = rows.position();
-    for (int row = 0; row < rows.RecordCount(); ++row) {
+    for (int row = 0; row < count; ++row) {
         rows.MoveTo(row);
         work(row);
     }
@@ -98,6 +49,11 @@ shot_rows::shot_rows()
       statement_(rows_, rows_.settings().source, statement_without_hole)
 {
     close_if_open(rows_);
+}
+
+recordset_model* shot_rows::make_model(std::vector<bound_column> columns)
+{
+    return new recordset_model(rows_, std::move(columns));
 }
 
 void shot_rows::set_hole(const QString& key, int16 hole)
@@ -131,14 +87,6 @@ void shot_rows::reopen()
     rows_.Requery();
 }
 
-void shot_rows::commit_first_shot()
-{
-    rows_.Update();
-    rows_.Close();
-    rows_.Open();
-    rows_.MoveFirst();
-}
-
 void shot_rows::commit()
 {
     if (rows_.is_open())
@@ -148,14 +96,6 @@ void shot_rows::commit()
 void shot_rows::commit_all()
 {
     rows_.UpdateBatch();
-}
-
-void shot_rows::remove_current()
-{
-    rows_.Delete();
-    rows_.UpdateBatch();
-    if (!rows_.empty())
-        rows_.MoveFirst();
 }
 
 void shot_rows::drop_changes()
@@ -186,142 +126,87 @@ bool shot_rows::has_hole(const QString& key, int16 hole) const
     return has_hole() && loaded_->key == key && loaded_->number == hole;
 }
 
+int shot_rows::count() const
+{
+    return rows_.RecordCount();
+}
+
+bool shot_rows::last_is_putt() const
+{
+    return !empty() && to_int16(rows_.value_at(count() - 1, Stat_rounds::shot_type_value).toDouble()) == putt;
+}
+
+bool shot_rows::only_blank_shot() const
+{
+    if (!has_hole() || count() != 1)
+        return false;
+    const std::array entered{Stat_rounds::stickval, Stat_rounds::shot_type_value, Stat_rounds::after};
+    return std::all_of(entered.begin(), entered.end(),
+                       [this](int ordinal) { return rows_.value_at(0, ordinal).toInt() == 0; });
+}
+
 bool shot_rows::on_a_row() const
 {
     return rows_.is_open() && rows_.position() >= 0;
 }
 
-shot_list shot_rows::read() const
+void shot_rows::move_to(int place)
 {
-    shot_list shots;
-    with_each_row(rows_, [&](int) { shots.push_back(read_current(rows_)); });
-    return shots;
+    rows_.MoveTo(place);
 }
 
-void shot_rows::write(const shot_list& shots, const std::function<void(int)>& written)
+void shot_rows::move_to_last()
 {
-    with_each_row(rows_, [&](int row) {
-        write_current(rows_, shots[static_cast<std::size_t>(row)]);
-        if (written)
-            written(row);
-    });
-    rows_.Update();
+    rows_.MoveLast();
 }
 
-namespace current_shot {
-
-namespace {
-
-Recordset& row()
-{
-    return data_environment().rsStat_rounds;
-}
-
-void write_kind(int value, const QString& caption)
-{
-    row().Fields(Stat_rounds::shot_type).set(caption);
-    row().Fields(Stat_rounds::shot_type_value).set(value);
-}
-
-void write_unit(const text_pair& words)
-{
-    row().Fields(Stat_rounds::unit).set(words.in(is_french));
-}
-
-template <std::size_t Count>
-QString word(const std::array<text_pair, Count>& words, int entry)
-{
-    return words[static_cast<std::size_t>(entry - 1)].in(is_french);
-}
-
-bool is_last()
+bool shot_rows::on_last_row()
 {
     bool last = false;
-    finishes_without_failure([&last] {
-        row().MoveNext();
-        last = row().eof();
-        row().MovePrevious();
+    finishes_without_failure([&] {
+        rows_.MoveNext();
+        last = rows_.eof();
+        rows_.MovePrevious();
     });
     return last;
 }
 
-}  // namespace
-
-bool is_complete()
+void shot_rows::add_first(const new_shot& shot)
 {
-    return row().Fields(Stat_rounds::shot_type_value).int16_or_zero() != 0 &&
-           row().Fields(Stat_rounds::stickval).int16_or_zero() != 0;
+    rows_.AddNew();
+    current().start(shot);
+    rows_.Update();
+    rows_.Close();
+    rows_.Open();
+    rows_.MoveFirst();
 }
 
-void set_club(int club, const QString& name)
+void shot_rows::add(const new_shot& shot)
 {
-    row().Fields(Stat_rounds::stickval).set(club);
-    row().Fields(Stat_rounds::stick).set(name);
-    if (club == putter) {
-        set_kind(putt);
-        write_unit(feet_words);
-        return;
-    }
-    if (row().Fields(Stat_rounds::shot_type_value).int16_or_zero() == putt)
-        write_kind(0, blank_word.toString());
-    if (!is_feet_word(row().Fields(Stat_rounds::unit).text_or_empty()))
-        write_unit(yards_words);
+    rows_.AddNew();
+    current().start(shot);
 }
 
-void set_kind(int kind)
+void shot_rows::remove_current()
 {
-    write_kind(kind, word(kind_words, kind));
+    rows_.Delete();
+    rows_.UpdateBatch();
+    if (!rows_.empty())
+        rows_.MoveFirst();
 }
 
-void make_putt()
+shot_list shot_rows::read()
 {
-    row().Fields(Stat_rounds::stickval).set(putter);
-    row().Fields(Stat_rounds::stick).set(putter_word.toString());
-    write_unit(feet_words);
-    set_kind(putt);
+    shot_list shots;
+    with_first_rows(rows_, count(), [&](int) { shots.push_back(current().read()); });
+    return shots;
 }
 
-void set_position(int entry)
+void shot_rows::write(std::span<const hole_shot> shots)
 {
-    row().Fields(Stat_rounds::fairval).set(entry);
-    row().Fields(Stat_rounds::faireway).set(word(position_words, entry));
+    with_first_rows(rows_, static_cast<int>(shots.size()),
+                    [&](int row) { current().write(shots[static_cast<std::size_t>(row)]); });
+    rows_.Update();
 }
-
-void clear_position()
-{
-    row().Fields(Stat_rounds::faireway).set(blank_word.toString());
-    row().Fields(Stat_rounds::fairval).set(0);
-}
-
-void set_penalty(int entry)
-{
-    const bool none = entry == no_penalty;
-    row().Fields(Stat_rounds::penval).set(none ? 0 : entry);
-    row().Fields(Stat_rounds::penality).set(word(penalty_words, entry));
-    row().Fields(Stat_rounds::addpen).set(none ? 0 : 1);
-}
-
-void set_yes_or_no(QStringView column, bool yes)
-{
-    row().Fields(column).set(yes);
-}
-
-void set_par(int16 par)
-{
-    row().Fields(Stat_rounds::normal).set(par);
-}
-
-bool distance_changed()
-{
-    if (row().Fields(Stat_rounds::stickval).int16_or_zero() != putter) {
-        write_unit(yards_words);
-        return false;
-    }
-    write_unit(feet_words);
-    set_kind(putt);
-    return is_last();
-}
-
-}  // namespace current_shot
 
 }  // namespace verdane
