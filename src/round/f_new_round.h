@@ -2,17 +2,19 @@
 
 #include <QString>
 
-#include <vector>
-
 #include "base/counts.h"
 #include "round/detailed_page.h"
+#include "round/f_new_round_func.h"
+#include "round/hole_navigation.h"
+#include "round/round_boxes.h"
 #include "round/round_form.h"
-#include "round/round_record.h"
 
 namespace verdane {
 
+struct round_header;
+
 /// The window in which a round is created, reopened, entered and saved; in English `f_new_round_en`. It
-/// connects the events of its panes with the routines of `f_new_round_func`.
+/// connects the events of its panes with the classes that handle them.
 ///
 /// An open round has no copy in memory: its rows are the current rows of `rsgames`, `rsgames2` and `rscost`,
 /// and the boxes show one hole. Their figures are written when the hole is left or the round is saved.
@@ -23,20 +25,22 @@ public:
     /// `shots` must outlive the window.
     explicit f_new_round(shot_rows& shots);
 
-    /// Fills the list of courses. No course is selected.
-    void fill_courses(const std::vector<course_line>& courses);
-    /// Selects a course, which moves the recordsets of the courses to it.
-    void select_course(int list_index);
-    /// Shows a hole of a stored round and its course. `course_code` is the code of the course.
-    void show_stored_hole(int16 hole, const QString& course_code);
-    /// The number of the hole whose figures are in the boxes, which is kept in a hidden box.
-    void set_hole_in_boxes(int16 hole);
+    /// Shows a new round: fills the list of courses and selects the first one.
+    void show_new_round();
+    /// Shows a stored round and its first hole. If the round has no row in `games2`, shows a message and
+    /// closes the window.
+    void show_stored_round(const QString& key);
     /// Shows what is stored for the round as a whole.
     void show_header(const round_header& header);
-    /// Disables the button that chooses the date.
-    void lock_date();
 
-    /// `f_new_round_func::save_round` and `ask_and_close`.
+    /// The tee-off dialog was cancelled.
+    bool get_date_canceled() const { return events_.get_date_canceled(); }
+    /// There is something to save.
+    bool needSave() const { return boxes_.needSave(); }
+    /// List index (0 to 17) of the hole that was shown last.
+    int16 last_hole() const { return navigation_.last_hole(); }
+
+    /// `hole_navigation` and `f_new_round_func` describe them.
     void save_round(bool silent);
     void ask_and_close(bool skip_prompt);
 
@@ -55,8 +59,13 @@ protected:
     void close_requested() override;
 
 private:
-    void connect_panes();
+    void connect_holes();
+    void connect_figures();
     void connect_window();
+
+    round_boxes boxes_;
+    hole_navigation navigation_;
+    f_new_round_func events_;
 };
 
 /// The command for a new round. Shows a message when there is no course.

@@ -12,13 +12,14 @@
 #include "round/hole_navigation.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
+#include "round/round_boxes.h"
 #include "round/round_form.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
 #include "round/tee_off.h"
 #include "statistics/putt_statistics.h"
 
-namespace verdane::f_new_round_func {
+namespace verdane {
 
 namespace {
 
@@ -31,34 +32,6 @@ void unload_round_list()
         list->unload();
 }
 
-void size_and_place(round_form& window)
-{
-    // The size fits both pages, so that changing the page does not resize the window.
-    window.show_page(round_page::detailed);
-    window.take_size({pixels(width_twips), pixels(height_twips)});
-    const QSize size_of_detailed_page = window.size();
-    window.show_page(round_page::quick);
-    window.take_size(size_of_detailed_page);
-    current_form = &window;
-    Place_and_lock(window);
-}
-
-void take_moment(round_form& window, hole_bar& holes, const tee_off_moment& moment)
-{
-    holes.show_tee_off(QLocale::system().toString(moment.date, QLocale::ShortFormat), moment.time_text());
-    round_record::set_key(moment.key());
-    window.set_date_value(moment.key());
-    holes.lock_date();
-}
-
-void open_tee_off_dialog(round_form& window, hole_bar& holes)
-{
-    f_get_date dialog;
-    on_signal(dialog, &f_get_date::moment_chosen,
-              [&](const tee_off_moment& moment) { take_moment(window, holes, moment); });
-    window.choose_date(dialog);
-}
-
 QMessageBox::StandardButton ask_to_save(const round_form& window)
 {
     return show_message({window.caption(u"Voulez vous enregistrer les modifications avant de sortir ? ",
@@ -67,151 +40,183 @@ QMessageBox::StandardButton ask_to_save(const round_form& window)
                          QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel});
 }
 
-void save_and_close(round_form& window, const round_panes& panes)
-{
-    window.mark_changed();
-    save_round(window, panes, false);
-    if (!window.needSave())
-        window.unload();
-}
-
-void save_and_leave(round_form& window, const round_panes& panes)
-{
-    save_round(window, panes, true);
-    panes.detailed.drop_blank_shot();
-    hole_tab_before_click(window, panes);
-    Unlock_menu();
-    // The summary has changed the boxes after the first save.
-    if (panes.detailed.isdetailed())
-        save_round(window, panes, true);
-    window.unload();
-}
-
-/// The shots were checked: from now on only the quick page is shown.
-void return_to_quick_page(round_form& window, const round_panes& panes)
-{
-    if (!window.on_detailed_page())
-        return;
-    window.allow_quick_page_only();
-    page_changed(window, panes);
-}
-
 }  // namespace
 
-void load(round_form& window, const round_panes& panes)
+f_new_round_func::f_new_round_func(round_form& window, const round_panes& panes, const round_boxes& boxes,
+                                   hole_navigation& navigation)
+    : window_(window),
+      holes_(panes.holes),
+      quick_(panes.quick),
+      detailed_(panes.detailed),
+      parameters_(panes.parameters),
+      totals_(panes.totals),
+      shots_(panes.shots),
+      boxes_(boxes),
+      navigation_(navigation)
 {
-    panes.totals.hide();
-    panes.detailed.show_finish_button(false);
-    panes.holes.show_number(1);
-    size_and_place(window);
-    // `open_stored_round` shows the message about a missing row in `games2`.
+}
+
+void f_new_round_func::load()
+{
+    totals_.hide();
+    detailed_.show_finish_button(false);
+    holes_.show_number(1);
+    size_and_place();
+    // `f_new_round::show_stored_round` shows the message about a missing row in `games2`.
     if (!round_record::has_row_in_games2())
         return;
-    panes.holes.fill_list();
-    panes.parameters.fill_weathers(window.french());
-    panes.parameters.fill_partners(round_record::open_partner_lines());
+    holes_.fill_list();
+    parameters_.fill_weathers(window_.french());
+    parameters_.fill_partners(round_record::open_partner_lines());
     round_record::move_to_first_course();
-    panes.parameters.show_costs(round_record::cost_total());
-    panes.parameters.show_weather(0);
-    panes.holes.clear_date();
+    parameters_.show_costs(round_record::cost_total());
+    parameters_.show_weather(0);
+    holes_.clear_date();
     unload_round_list();
     // Closing the list has unlocked the menu.
     Lock_menu();
 }
 
-void activate(round_form& window, const round_panes& panes)
+void f_new_round_func::size_and_place()
 {
-    if (round_record::key_is_missing())
-        open_tee_off_dialog(window, panes.holes);
-    if (round_record::key_is_missing()) {
-        ask_and_close(window, panes, true);
-        return;
-    }
-    if (window.on_detailed_page()) {
-        panes.detailed.enter_again();
-        return;
-    }
-    panes.shots.reopen();
-    panes.quick.focus_first_box();
+    // The size fits both pages, so that changing the page does not resize the window.
+    window_.show_page(round_page::detailed);
+    window_.take_size({pixels(width_twips), pixels(height_twips)});
+    const QSize size_of_detailed_page = window_.size();
+    window_.show_page(round_page::quick);
+    window_.take_size(size_of_detailed_page);
+    current_form = &window_;
+    Place_and_lock(window_);
 }
 
-void unload(const round_panes& panes)
+void f_new_round_func::activate()
 {
-    panes.detailed.unbind();
+    if (choosing_date_)
+        return;
+    if (round_record::key_is_missing())
+        open_tee_off_dialog();
+    if (round_record::key_is_missing()) {
+        ask_and_close(true);
+        return;
+    }
+    if (navigation_.on_detailed_page()) {
+        detailed_.enter_again();
+        return;
+    }
+    shots_.reopen();
+    quick_.focus_first_box();
+}
+
+void f_new_round_func::open_tee_off_dialog()
+{
+    f_get_date dialog;
+    on_signal(dialog, &f_get_date::moment_chosen,
+              [this](const tee_off_moment& moment) { take_moment(moment); });
+    on_signal(dialog, &f_get_date::canceled, [this] { get_date_canceled_ = true; });
+    choosing_date_ = true;
+    dialog.show_modal();
+    choosing_date_ = false;
+}
+
+void f_new_round_func::take_moment(const tee_off_moment& moment)
+{
+    holes_.show_tee_off(QLocale::system().toString(moment.date, QLocale::ShortFormat), moment.time_text());
+    round_record::set_key(moment.key());
+    window_.set_date_value(moment.key());
+    holes_.lock_date();
+}
+
+void f_new_round_func::unload()
+{
+    detailed_.unbind();
     enable_save_and_close(true);
-    finishes_without_failure([&] { panes.detailed.drop_untouched_shot(); });
+    finishes_without_failure([this] { detailed_.drop_untouched_shot(); });
     finishes_without_failure(round_record::close_tables);
-    finishes_without_failure([&] { panes.shots.close(); });
+    finishes_without_failure([this] { shots_.close(); });
     Unlock_menu();
     unload_round_list();
 }
 
-void show_costs(const round_panes& panes)
+void f_new_round_func::show_costs()
 {
-    if (!panes.detailed.finish_typing())
+    if (!detailed_.finish_typing())
         return;
     f_cost costs;
     on_signal(costs, &f_cost::closed_with_total,
-              [&panes](const QString& total) { panes.parameters.show_costs(total); });
+              [this](const QString& total) { parameters_.show_costs(total); });
     costs.show_modal();
 }
 
-void report_putts(round_form& window, const round_panes& panes)
+void f_new_round_func::report_putts()
 {
-    if (!panes.detailed.finish_typing())
+    if (!detailed_.finish_typing())
         return;
     // A summary of a hole without shots would overwrite the figures of the quick page with zeros.
-    if (window.on_detailed_page() && !panes.detailed.is_untouched())
-        panes.detailed.finish_hole();
+    if (navigation_.on_detailed_page() && !detailed_.is_untouched())
+        detailed_.finish_hole();
     const QString round =
-        window.caption(u"Ronde : ", u"Round : ") + panes.holes.date() + u' ' + panes.parameters.course();
-    const QString weather = window.caption(u"Conditions atmosphériques : ", u"Weather conditions : ") +
-                            panes.parameters.weather();
-    Statistics::one_round_putt_report(window.cr2(), round, weather);
+        window_.caption(u"Ronde : ", u"Round : ") + holes_.date() + u' ' + parameters_.course();
+    const QString weather =
+        window_.caption(u"Conditions atmosphériques : ", u"Weather conditions : ") + parameters_.weather();
+    Statistics::one_round_putt_report(window_.cr2(), round, weather);
 }
 
-void on_ok_cancel(round_form& window, const round_panes& panes, int index)
+void f_new_round_func::on_ok_cancel(int index)
 {
-    if (!panes.detailed.finish_typing() || !panes.detailed.check_shots())
+    if (!detailed_.finish_typing() || !detailed_.check_shots())
         return;
-    return_to_quick_page(window, panes);
+    navigation_.return_to_quick_page();
     if (index == round_form::ok) {
-        save_and_leave(window, panes);
+        save_and_leave();
         return;
     }
     Unlock_menu();
-    ask_and_close(window, panes, false);
+    ask_and_close(false);
 }
 
-void on_close_box(round_form& window, const round_panes& panes)
+void f_new_round_func::save_and_leave()
+{
+    navigation_.save_round(true);
+    detailed_.drop_blank_shot();
+    navigation_.hole_tab_before_click();
+    Unlock_menu();
+    // The summary has changed the boxes after the first save.
+    if (detailed_.isdetailed())
+        navigation_.save_round(true);
+    window_.unload();
+}
+
+void f_new_round_func::on_close_box()
 {
     // A round without a key has nothing to save.
-    if (window.date_value().isEmpty()) {
-        ask_and_close(window, panes, true);
+    if (window_.date_value().isEmpty()) {
+        ask_and_close(true);
         return;
     }
     // A distance that is too large has to be corrected, or dropped by Escape, before anything else.
-    if (!panes.detailed.finish_typing())
+    if (!detailed_.finish_typing())
         return;
-    if (panes.detailed.check_shots())
-        return_to_quick_page(window, panes);
-    ask_and_close(window, panes, false);
+    if (detailed_.check_shots())
+        navigation_.return_to_quick_page();
+    ask_and_close(false);
 }
 
-void ask_and_close(round_form& window, const round_panes& panes, bool skip_prompt)
+void f_new_round_func::ask_and_close(bool skip_prompt)
 {
-    if (!window.needSave()) {
-        window.unload();
+    if (!boxes_.needSave()) {
+        window_.unload();
         return;
     }
-    const auto answer = skip_prompt ? QMessageBox::No : ask_to_save(window);
-    if (answer == QMessageBox::Yes)
-        save_and_close(window, panes);
-    if (answer != QMessageBox::No)
-        return;
-    round_record::drop_changes();
-    panes.shots.drop_changes();
-    window.unload();
+    const auto answer = skip_prompt ? QMessageBox::No : ask_to_save(window_);
+    if (answer == QMessageBox::Yes) {
+        navigation_.save_round(false);
+        if (!boxes_.needSave())
+            window_.unload();
+    } else if (answer == QMessageBox::No) {
+        round_record::drop_changes();
+        shots_.drop_changes();
+        window_.unload();
+    }
 }
 
-}  // namespace verdane::f_new_round_func
+}  // namespace verdane

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <utility>
+
 #include "controls/accessible_controls.h"
 #include "controls/Form.h"
 #include "controls/look.h"
@@ -77,7 +79,6 @@ hole_bar::hole_bar(Form& window) : hole_tabs_(make_hole_tabs(window))
     add_date(*line, window);
     course_name_box_ = add_hidden(index_of::course_name);
     hole_box_ = add_hidden(index_of::hole);
-    hole_tabs_->before_click = [this] { return !before_tab_click || before_tab_click(); };
     connect(hole_tabs_, &TabStrip::clicked, this, &hole_bar::tab_clicked);
     connect(hole_list_, &QComboBox::currentIndexChanged, this, &hole_bar::list_changed);
 }
@@ -123,6 +124,11 @@ void hole_bar::add_date(QHBoxLayout& line, const Form& window)
     for (QLineEdit* box : {date_box_, time_box_})
         box->setAlignment(Qt::AlignCenter);
     line.addWidget(date_button_);
+}
+
+void hole_bar::set_before_tab_click(std::function<bool()> check)
+{
+    hole_tabs_->before_click = std::move(check);
 }
 
 QWidget* hole_bar::tab_strip() const

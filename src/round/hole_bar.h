@@ -27,8 +27,8 @@ class hole_bar : public QWidget {
 public:
     explicit hole_bar(Form& window);
 
-    /// Runs before a click on a tab is accepted; false keeps the selected tab.
-    std::function<bool()> before_tab_click;
+    /// `check` runs before a click on a tab is accepted; false keeps the selected tab.
+    void set_before_tab_click(std::function<bool()> check);
 
     /// The row of tabs, which the window places above its other content.
     QWidget* tab_strip() const;

@@ -1,165 +1,175 @@
 #include "round/hole_navigation.h"
 
-#include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
-#include "records/round_rows.h"
 #include "round/detailed_page.h"
 #include "round/hole_bar.h"
-#include "round/parameters_pane.h"
+#include "round/page_bar.h"
 #include "round/quick_page.h"
+#include "round/round_boxes.h"
 #include "round/round_form.h"
-#include "round/round_record.h"
 #include "round/statistics_pane.h"
-#include "scoring/hole_summary.h"
 #include "scoring/limits.h"
 
-namespace verdane::f_new_round_func {
+namespace verdane {
 
 using namespace Qt::StringLiterals;
 
-namespace {
+hole_navigation::hole_navigation(round_form& window, const round_panes& panes, round_boxes& boxes)
+    : window_(window),
+      holes_(panes.holes),
+      pages_(panes.pages),
+      quick_(panes.quick),
+      detailed_(panes.detailed),
+      totals_(panes.totals),
+      shots_(panes.shots),
+      boxes_(boxes)
+{
+}
+
+bool hole_navigation::on_detailed_page() const
+{
+    return pages_.is_selected(round_page::detailed);
+}
+
+void hole_navigation::hole_selected()
+{
+    if (!first_entry_)
+        save_round(true);
+    const int16 hole = holes_.listed_hole();
+    boxes_.load_hole(hole);
+    first_entry_ = false;
+    last_hole_ = hole - 1;
+    show_listed_hole();
+    boxes_.refresh_score();
+}
 
 /// Shows the listed hole in the tabs and as the number, and what is visible on the last hole only.
-void show_listed_hole(const round_panes& panes)
+void hole_navigation::show_listed_hole()
 {
-    const int hole = plain(panes.holes.listed_hole());
-    panes.holes.show_hole(hole);
-    panes.totals.setVisible(hole == hole_count);
-    panes.detailed.show_finish_button(hole == hole_count);
+    const int hole = plain(holes_.listed_hole());
+    holes_.show_hole(hole);
+    totals_.setVisible(hole == hole_count);
+    detailed_.show_finish_button(hole == hole_count);
+}
+
+void hole_navigation::hole_chosen()
+{
+    const int chosen = plain(holes_.listed_hole());
+    const int shown = plain(last_hole_) + 1;
+    if (!on_detailed_page() || chosen == shown) {
+        hole_selected();
+        return;
+    }
+    holes_.select_in_list_silently(shown);
+    holes_.click_tab(chosen);
+}
+
+bool hole_navigation::hole_tab_before_click()
+{
+    if (on_detailed_page())
+        return may_leave_shots();
+    quick_.focus_first_box();
+    return true;
 }
 
 /// Checks twice and uses only the second result, that of `drop_blank_shot`. A blank first shot is reported
 /// and removed, and the hole changes. An incomplete later shot is reported twice.
-bool may_leave_shots(detailed_page& shots)
+bool hole_navigation::may_leave_shots()
 {
-    if (!shots.finish_typing())
+    if (!detailed_.finish_typing())
         return false;
-    shots.check_shots();
-    shots.summarise_hole();
-    return shots.drop_blank_shot().shots_complete.value_or(true);
+    detailed_.check_shots();
+    detailed_.summarise_hole();
+    return detailed_.drop_blank_shot().shots_complete.value_or(true);
 }
 
-void show_quick_page(round_form& window, const round_panes& panes)
+void hole_navigation::hole_tab_clicked()
 {
-    if (!panes.detailed.drop_blank_shot().removed)
-        panes.detailed.summarise_hole();
-    window.show_page(round_page::quick);
-    // When the window is to be closed, the tab of the other page is still selected.
-    panes.pages.select(round_page::quick);
-    panes.holes.select_in_list(panes.holes.selected_tab());
-    enable_save_and_close(true);
-    panes.quick.focus_first_box();
+    // Without an event of the list: a click on the tab of the hole on screen, which does not change the list,
+    // saves the boxes, too.
+    holes_.select_in_list_silently(holes_.selected_tab());
+    hole_selected();
+    if (!on_detailed_page())
+        quick_.focus_first_box();
+    else if (detailed_.open_hole_shots())
+        detailed_.focus_club();
+    quick_.select_first_box();
 }
 
-void leave_detailed_page(round_form& window, const round_panes& panes)
+void hole_navigation::page_changed()
 {
-    if (panes.detailed.isHidden())
-        panes.pages.select(round_page::quick);
+    if (closingoK_ || !on_detailed_page())
+        leave_detailed_page();
     else
-        show_quick_page(window, panes);
+        show_detailed_page();
 }
 
-void show_detailed_page(round_form& window, const round_panes& panes)
+void hole_navigation::leave_detailed_page()
 {
-    panes.shots.commit();
-    window.show_page(round_page::detailed);
-    if (window.date_value().isEmpty()) {
+    if (detailed_.isHidden())
+        pages_.select(round_page::quick);
+    else
+        show_quick_page();
+}
+
+void hole_navigation::show_quick_page()
+{
+    if (!detailed_.drop_blank_shot().removed)
+        detailed_.summarise_hole();
+    window_.show_page(round_page::quick);
+    // When the window is to be closed, the tab of the other page is still selected.
+    pages_.select(round_page::quick);
+    holes_.select_in_list(holes_.selected_tab());
+    enable_save_and_close(true);
+    quick_.focus_first_box();
+}
+
+void hole_navigation::show_detailed_page()
+{
+    shots_.commit();
+    window_.show_page(round_page::detailed);
+    if (window_.date_value().isEmpty()) {
         show_information(u"Il faut choisir la date du ronde avant d'entrer les détails"_s,
                          QMessageBox::Critical);
         return;
     }
-    panes.detailed.open_hole_shots();
+    detailed_.open_hole_shots();
     enable_save_and_close(false);
-    panes.detailed.enter();
+    detailed_.enter();
     Lock_menu();
-    panes.detailed.focus_club();
+    detailed_.focus_club();
 }
 
-/// When a hole is left, the list already has the next one selected.
-int16 hole_to_save(const round_form& window, const hole_bar& holes, bool silent)
+void hole_navigation::open_shots_of_hole()
 {
-    if (silent)
-        return window.last_hole() + 1;
-    return holes.hole_in_boxes();
-}
-
-}  // namespace
-
-void hole_selected(round_form& window, const round_panes& panes)
-{
-    if (!window.first_entry())
-        save_round(window, panes, true);
-    const int16 hole = panes.holes.listed_hole();
-    load_hole(window, panes, hole);
-    window.hole_is_shown(hole);
-    show_listed_hole(panes);
-    refresh_score(panes.quick, panes.totals);
-}
-
-void hole_chosen(round_form& window, const round_panes& panes)
-{
-    const int chosen = plain(panes.holes.listed_hole());
-    const int shown = plain(window.last_hole()) + 1;
-    if (!window.on_detailed_page() || chosen == shown) {
-        hole_selected(window, panes);
-        return;
-    }
-    panes.holes.select_in_list_silently(shown);
-    panes.holes.click_tab(chosen);
-}
-
-bool hole_tab_before_click(round_form& window, const round_panes& panes)
-{
-    if (window.on_detailed_page())
-        return may_leave_shots(panes.detailed);
-    panes.quick.focus_first_box();
-    return true;
-}
-
-void hole_tab_clicked(round_form& window, const round_panes& panes)
-{
-    // Without an event of the list: a click on the tab of the hole on screen, which does not change the list,
-    // saves the boxes, too.
-    panes.holes.select_in_list_silently(panes.holes.selected_tab());
-    hole_selected(window, panes);
-    if (!window.on_detailed_page())
-        panes.quick.focus_first_box();
-    else if (panes.detailed.open_hole_shots())
-        panes.detailed.focus_club();
-    panes.quick.select_first_box();
-}
-
-void course_selected(round_form& window, const round_panes& panes)
-{
-    round_record::find_holes_of_course(Round_functions::course_code_at(panes.parameters.course_index()));
-    show_hole_card(panes.holes, panes.holes.listed_hole());
-    refresh_panel(window, panes, panes.quick.figures());
-}
-
-void page_changed(round_form& window, const round_panes& panes)
-{
-    if (window.closingoK() || !window.on_detailed_page())
-        leave_detailed_page(window, panes);
-    else
-        show_detailed_page(window, panes);
-}
-
-void open_shots_of_hole(round_form& window, const round_panes& panes)
-{
-    if (!panes.detailed.finish_typing())
+    if (!detailed_.finish_typing())
         return;
     // After an attempt to close the window from the detailed page, the shots are not shown again, even if the
     // user chose Cancel: a blank shot would prevent the next attempt.
-    if (window.closingoK())
+    if (closingoK_)
         return;
-    if (window.on_detailed_page() || window.date_value().isEmpty()) {
-        if (panes.detailed.open_hole_shots())
-            panes.detailed.focus_grid();
+    if (on_detailed_page() || window_.date_value().isEmpty()) {
+        if (detailed_.open_hole_shots())
+            detailed_.focus_grid();
         return;
     }
-    panes.pages.select(round_page::detailed);
-    show_detailed_page(window, panes);
+    pages_.select(round_page::detailed);
+    show_detailed_page();
+}
+
+void hole_navigation::return_to_quick_page()
+{
+    if (!on_detailed_page())
+        return;
+    closingoK_ = true;
+    page_changed();
+}
+
+void hole_navigation::save_round(bool silent)
+{
+    // When a hole is left, the list already has the next one selected.
+    boxes_.save_round(silent ? int16(last_hole_ + 1) : holes_.hole_in_boxes(), silent);
 }
 
 void enable_save_and_close(bool enabled)
@@ -170,63 +180,4 @@ void enable_save_and_close(bool enabled)
         main_frame()->enable_tool_button(key, enabled);
 }
 
-void refresh_panel(round_form& window, const round_panes& panes,
-                   const Round_functions::figure_source& figures)
-{
-    window.mark_changed();
-    const int16 hole = panes.holes.listed_hole();
-    panes.statistics.show_hole(Round_functions::figures_from_source(hole, figures),
-                               Round_functions::hole_par(hole));
-}
-
-void refresh_score(const quick_page& quick, totals_pane& totals)
-{
-    totals.show_round(Round_functions::labels_of(Round_functions::round_score(quick.figures())));
-}
-
-void load_hole(round_form& window, const round_panes& panes, int16 hole)
-{
-    panes.quick.show_stored(Round_functions::read_hole(hole));
-    show_hole_card(panes.holes, hole);
-    panes.holes.set_hole_in_boxes(hole);
-    refresh_panel(window, panes, Round_functions::from_row);
-}
-
-void show_hole_card(hole_bar& holes, int16 hole)
-{
-    holes.show_card(Round_functions::read_hole_card(hole));
-}
-
-void show_summary(quick_page& quick, const hole_summary& summary)
-{
-    quick.show_counted(summary.counts);
-}
-
-void store_hole(const quick_page& quick, const QStringList& partners, int16 hole)
-{
-    const hole_figures figures = quick.figures();
-    Round_functions::store_strokes(hole, figures);
-    Round_functions::store_penalties(hole, figures);
-    round_record::store_partners(partners);
-    Round_functions::store_situation(hole, quick.situation());
-}
-
-void save_round(round_form& window, const round_panes& panes, bool silent)
-{
-    if (panes.holes.date().isEmpty()) {
-        show_information(window.caption(u"Veuillez d'abord choisir la date de la ronde.",
-                                        u"Please select a round's date first."),
-                         QMessageBox::Critical);
-        return;
-    }
-    const parameters_pane& parameters = panes.parameters;
-    store_hole(panes.quick, parameters.selected_partners(), hole_to_save(window, panes.holes, silent));
-    round_record::store_and_commit(
-        window.date_value(),
-        {parameters.course_index(), parameters.weather_index(), parameters.temperature()});
-    window.mark_saved();
-    if (!silent)
-        show_information(window.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
-}
-
-}  // namespace verdane::f_new_round_func
+}  // namespace verdane

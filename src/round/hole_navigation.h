@@ -1,74 +1,77 @@
 #pragma once
 
-#include <QStringList>
-
-#include "records/Round_functions.h"
+#include "base/counts.h"
 
 namespace verdane {
+
+class detailed_page;
 class hole_bar;
+class page_bar;
 class quick_page;
+class round_boxes;
 class round_form;
+class shot_rows;
 class totals_pane;
-struct hole_summary;
 struct round_panes;
-}  // namespace verdane
 
-/// The hole on screen: changing it, its course or the page, showing its rows in the panes and storing the
-/// boxes in its rows.
-namespace verdane::f_new_round_func {
+/// Changes of the hole on screen and of the page.
+class hole_navigation {
+public:
+    /// The arguments must outlive the object.
+    hole_navigation(round_form& window, const round_panes& panes, round_boxes& boxes);
 
-/// A hole was selected in the list: saves the hole that was shown last, unless it is the first one, then
-/// shows the selected hole.
-void hole_selected(round_form& window, const round_panes& panes);
+    /// List index (0 to 17) of the hole that was shown last, which is saved when another one is selected.
+    int16 last_hole() const { return last_hole_; }
+    /// True when the tab of the detailed page is selected.
+    bool on_detailed_page() const;
 
-/// The list of holes changed. On the detailed page this is a click on the tab of the hole, so that the shots
-/// are checked and summarised first.
-void hole_chosen(round_form& window, const round_panes& panes);
+    /// A hole was selected in the list: saves the hole that was shown last, unless it is the first one, then
+    /// shows the selected hole.
+    void hole_selected();
+    /// The list of holes changed. On the detailed page this is a click on the tab of the hole, so that the
+    /// shots are checked and summarised first.
+    void hole_chosen();
+    /// Runs before a click on a hole tab is accepted; false keeps the selected tab. Also the last step before
+    /// the window closes by OK.
+    bool hole_tab_before_click();
+    /// A hole tab was clicked, also that of the hole on screen.
+    void hole_tab_clicked();
 
-/// Runs before a click on a hole tab is accepted; false keeps the selected tab. Also the last step before the
-/// window closes by OK.
-bool hole_tab_before_click(round_form& window, const round_panes& panes);
+    /// A page tab was clicked: shows its page. After `return_to_quick_page` only the quick page is shown.
+    void page_changed();
+    /// `Command4`: opens the shots of the hole on the detailed page.
+    void open_shots_of_hole();
+    /// The shots were checked because the window is to be closed: leaves the detailed page for good.
+    void return_to_quick_page();
 
-/// A hole tab was clicked, also that of the hole on screen.
-void hole_tab_clicked(round_form& window, const round_panes& panes);
+    /// Saves the round (`round_boxes`). `silent`: stores the boxes in the hole that was shown last, and shows
+    /// no message. Otherwise stores them in the hole whose figures they are.
+    void save_round(bool silent);
 
-/// Another course was selected: shows its card of the hole on screen.
-void course_selected(round_form& window, const round_panes& panes);
+private:
+    bool may_leave_shots();
+    void show_listed_hole();
+    void leave_detailed_page();
+    void show_quick_page();
+    void show_detailed_page();
 
-/// A page tab was clicked, or the window is to be closed from the detailed page. As soon as `closingoK` is
-/// true, only the quick page is shown.
-void page_changed(round_form& window, const round_panes& panes);
+    round_form& window_;
+    hole_bar& holes_;
+    page_bar& pages_;
+    quick_page& quick_;
+    detailed_page& detailed_;
+    totals_pane& totals_;
+    shot_rows& shots_;
+    round_boxes& boxes_;
 
-/// `Command4`: opens the shots of the hole on the detailed page.
-void open_shots_of_hole(round_form& window, const round_panes& panes);
+    /// No hole was shown yet: showing the first one must not save.
+    bool first_entry_ = true;
+    int16 last_hole_ = 0;
+    /// The window was to be closed from the detailed page: only the quick page can be shown from then on.
+    bool closingoK_ = false;
+};
 
 /// Enables the commands of the main window that must not act on the window while a row of the grid is open.
 void enable_save_and_close(bool enabled);
 
-/// Shows the classes of the hole on screen for figures from the rows or from the boxes. There is something to
-/// save afterwards.
-void refresh_panel(round_form& window, const round_panes& panes,
-                   const Round_functions::figure_source& figures);
-
-/// Shows the totals of the round: holes 1 to 17 from the row, the last one from the boxes, which show it
-/// whenever the totals are visible.
-void refresh_score(const quick_page& quick, totals_pane& totals);
-
-/// Shows a hole (1 to 18) from the rows.
-void load_hole(round_form& window, const round_panes& panes, int16 hole);
-
-/// Shows length, par and handicap index of a hole from the current row of `rsfield_info`.
-void show_hole_card(hole_bar& holes, int16 hole);
-
-/// Shows the figures that were counted from the shots of the hole on screen.
-void show_summary(quick_page& quick, const hole_summary& summary);
-
-/// Writes the boxes into the rows of a hole, and the numbers of the selected partners. Nothing is committed.
-void store_hole(const quick_page& quick, const QStringList& partners, int16 hole);
-
-/// Stores the hole on screen and what belongs to the round, and commits both. `silent`: stores the hole that
-/// was shown last and shows no message. Refuses without a date. Fails with `subscript`, before the commit,
-/// when the list of round keys is full.
-void save_round(round_form& window, const round_panes& panes, bool silent);
-
-}  // namespace verdane::f_new_round_func
+}  // namespace verdane

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include <utility>
+
 #include "controls/accessible_controls.h"
 #include "controls/boxes.h"
 #include "controls/control_array.h"
@@ -126,10 +128,14 @@ page_bar::page_bar(Form& window)
     line->addStretch();
     line->addWidget(putts_button_);
     line->addWidget(shots_button_);
-    page_tabs_->before_click = [this] { return !before_tab_click || before_tab_click(); };
     connect(page_tabs_, &TabStrip::clicked, this, &page_bar::tab_clicked);
     connect(shots_button_, &QPushButton::clicked, this, &page_bar::shots_clicked);
     connect(putts_button_, &QPushButton::clicked, this, &page_bar::putts_clicked);
+}
+
+void page_bar::set_before_tab_click(std::function<bool()> check)
+{
+    page_tabs_->before_click = std::move(check);
 }
 
 bool page_bar::is_selected(round_page page) const

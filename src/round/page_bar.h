@@ -23,8 +23,8 @@ class page_bar : public QWidget {
 public:
     explicit page_bar(Form& window);
 
-    /// Runs before a click on a tab is accepted; false keeps the selected page.
-    std::function<bool()> before_tab_click;
+    /// `check` runs before a click on a tab is accepted; false keeps the selected page.
+    void set_before_tab_click(std::function<bool()> check);
 
     bool is_selected(round_page page) const;
     void select(round_page page);

@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
-#include "controls/events.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
 #include "round/detailed_page.h"
@@ -12,7 +11,6 @@
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
 #include "round/statistics_pane.h"
-#include "round/tee_off.h"
 
 namespace verdane {
 
@@ -142,25 +140,6 @@ void round_form::show_page(round_page page)
     panes_.parameters.arrange(quick ? Qt::Vertical : Qt::Horizontal);
     for (QWidget* pane : quick ? of_quick_page : of_detailed_page)
         pane->show();
-}
-
-void round_form::choose_date(f_get_date& dialog)
-{
-    on_signal(dialog, &f_get_date::canceled, [this] { get_date_canceled_ = true; });
-    choosing_date_ = true;
-    dialog.show_modal();
-    choosing_date_ = false;
-}
-
-void round_form::hole_is_shown(int16 hole)
-{
-    first_entry_ = false;
-    last_hole_ = hole - 1;
-}
-
-bool round_form::on_detailed_page() const
-{
-    return panes_.pages.is_selected(round_page::detailed);
 }
 
 }  // namespace verdane

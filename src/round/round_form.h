@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include "base/counts.h"
 #include "controls/control_array.h"
 #include "controls/Form.h"
 #include "reports/report_control.h"
@@ -15,7 +14,6 @@ class QPushButton;
 namespace verdane {
 
 class detailed_page;
-class f_get_date;
 class hole_bar;
 class parameters_pane;
 class quick_page;
@@ -23,8 +21,8 @@ class shot_rows;
 class statistics_pane;
 class totals_pane;
 
-/// The panes of the round window and the shots of its hole. The window owns the panes and passes them to the
-/// routines of its events; nothing else has access to them.
+/// The panes of the round window and the shots of its hole. The window owns the panes. Each class that
+/// handles events of the window gets this struct when it is constructed and keeps the panes that it uses.
 struct round_panes {
     hole_bar& holes;
     page_bar& pages;
@@ -36,9 +34,8 @@ struct round_panes {
     shot_rows& shots;
 };
 
-/// The panes of the round window, their arrangement, and the state of the window. `f_new_round` is the
-/// window: it connects the events of the panes with the routines of `f_new_round_func`, which work on this
-/// class.
+/// The panes of the round window and their arrangement. `f_new_round` is the window: it connects the events
+/// of the panes with the classes that handle them, which work on this class.
 class round_form : public Form {
 public:
     /// Indexes of the buttons OK and Cancel.
@@ -49,35 +46,11 @@ public:
     const QString& date_value() const { return date_value_; }
     void set_date_value(const QString& key) { date_value_ = key; }
 
-    /// Shows the tee-off dialog and returns when it is closed. Closing it activates the window, which does
-    /// not open it again.
-    void choose_date(f_get_date& dialog);
-    /// The tee-off dialog was cancelled.
-    bool get_date_canceled() const { return get_date_canceled_; }
-
-    /// No hole was shown yet: showing the first one must not save.
-    bool first_entry() const { return first_entry_; }
-    /// List index (0 to 17) of the hole that was shown last, which is saved when another one is selected.
-    int16 last_hole() const { return last_hole_; }
-    /// A hole (1 to 18) is shown: `last_hole` is its index, and `first_entry` is false.
-    void hole_is_shown(int16 hole);
-
-    /// There is something to save. True at first, so that closing an unchanged round shows the question, too.
-    bool needSave() const { return needSave_; }
-    void mark_changed() { needSave_ = true; }
-    void mark_saved() { needSave_ = false; }
-
-    /// The window was to be closed from the detailed page: only the quick page can be shown from then on.
-    bool closingoK() const { return closingoK_; }
-    void allow_quick_page_only() { closingoK_ = true; }
-
     /// The report on the putts of the round.
     report_control& cr2() { return cr2_; }
 
     /// Shows the panes of a page and hides those of the other one.
     void show_page(round_page page);
-    /// The tab of the detailed page is selected.
-    bool on_detailed_page() const;
 
 protected:
     /// `shots` must outlive the window.
@@ -86,7 +59,6 @@ protected:
     const round_panes& panes() const { return panes_; }
     /// OK or Cancel.
     QPushButton& end_button(int index) const { return end_buttons_(index); }
-    bool choosing_date() const { return choosing_date_; }
 
 private:
     void lay_out();
@@ -95,12 +67,6 @@ private:
     void order_for_tab_key();
 
     QString date_value_;
-    bool get_date_canceled_ = false;
-    bool choosing_date_ = false;
-    bool first_entry_ = true;
-    int16 last_hole_ = 0;
-    bool needSave_ = true;
-    bool closingoK_ = false;
     report_control cr2_{this};
 
     round_panes panes_;

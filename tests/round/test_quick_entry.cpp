@@ -229,7 +229,10 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([&](hand& user) {
-            with_round(user, [](f_new_round& window) { window.mark_saved(); });
+            with_round(user, [](f_new_round& window) {
+                window.save_round(true);
+                QVERIFY(!window.needSave());
+            });
             user.click(box);
             user.type(u"1"_s);
             with_round(user, [](f_new_round& window) { QVERIFY(window.needSave()); });

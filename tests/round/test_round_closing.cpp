@@ -146,7 +146,10 @@ private Q_SLOTS:
         const round_store store;
         store.add_two_courses();
         in_keyed_round([](hand& user) {
-            with_round(user, [](f_new_round& window) { window.mark_saved(); });
+            with_round(user, [](f_new_round& window) {
+                window.save_round(true);
+                QVERIFY(!window.needSave());
+            });
             user.click(u"Command1_2"_s);
         });
         QVERIFY(all_closed());
