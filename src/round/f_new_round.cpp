@@ -176,12 +176,10 @@ void f_new_round::close_requested()
 
 void start_new_round()
 {
-    const bool any_course = round_record::open_courses();
-    if (!any_course)
+    if (!round_record::any_course()) {
         show_no_course();
-    round_record::close_courses();
-    if (!any_course)
         return;
+    }
     round_record::open_games_and_field_info();
     prepare_round_window();
 }

@@ -75,16 +75,13 @@ partner_line line_of_current_partner(Recordset& partners)
 
 }  // namespace
 
-bool open_courses()
+bool any_course()
 {
     Recordset& courses = data_environment().rsvrd_fields;
     courses.Open();
-    return !courses.bof() && !courses.eof();
-}
-
-void close_courses()
-{
-    data_environment().rsvrd_fields.Close();
+    const bool any = !courses.empty();
+    courses.Close();
+    return any;
 }
 
 void open_games_and_field_info()

@@ -38,9 +38,8 @@ struct round_header {
 /// `rsvrd_fields` and `rsfield_info` for its course.
 namespace round_record {
 
-/// Opens the courses. False when there is none.
-bool open_courses();
-void close_courses();
+/// True when there is a course. The recordset of the courses is closed, also afterwards.
+bool any_course();
 
 /// Opens the recordsets that the list of rounds has opened when it opens a stored round.
 void open_games_and_field_info();
