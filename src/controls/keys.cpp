@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/box_focus.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 
@@ -80,6 +81,34 @@ private:
     std::function<key_answer(QChar)> filter_;
 };
 
+constexpr int figure_length = 4;
+
+/// A click into a box that has the focus already selects its figure, too: the next digit replaces it,
+/// wherever the pointer is.
+class click_selects : public QObject {
+public:
+    explicit click_selects(QLineEdit& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease && !box_.hasSelectedText())
+            select_figure(box_);
+        return false;
+    }
+
+private:
+    QLineEdit& box_;
+};
+
+key_answer take_digit(QLineEdit& box, QChar key, const std::function<void()>& move_on)
+{
+    if (key == backspace || digits_only(key) == key_answer::refuse)
+        return digits_only(key);
+    box.insert(key);
+    move_on();
+    return key_answer::taken;
+}
+
 }  // namespace
 
 void filter_keys(QLineEdit& box, std::function<key_answer(QChar)> handler)
@@ -106,6 +135,20 @@ void filter_pasted_text(QLineEdit& box, std::function<key_answer(QChar)> filter)
 void select_characters(QLineEdit& box, int length)
 {
     box.setSelection(0, std::min(length, static_cast<int>(box.text().size())));
+}
+
+void select_figure(QLineEdit& box)
+{
+    select_characters(box, figure_length);
+}
+
+void watch_digit_keys(QLineEdit& box, std::function<void()> move_on)
+{
+    filter_keys(box,
+                [&box, move_on = std::move(move_on)](QChar key) { return take_digit(box, key, move_on); });
+    when_entered(box, [&box] { select_figure(box); });
+    new click_selects(box);
+    filter_pasted_text(box, digits_only);
 }
 
 }  // namespace verdane

@@ -35,4 +35,11 @@ void filter_pasted_text(QLineEdit& box, std::function<key_answer(QChar)> filter)
 /// Selects the first `length` characters of a box, so that the next digit replaces them.
 void select_characters(QLineEdit& box, int length);
 
+/// Selects the figure of a box, up to 4 characters.
+void select_figure(QLineEdit& box);
+
+/// Restricts a box to digits, also for pasted text. A typed digit replaces the figure of the box, which is
+/// selected by a click and whenever the box gets the focus, and runs `move_on`.
+void watch_digit_keys(QLineEdit& box, std::function<void()> move_on);
+
 }  // namespace verdane

@@ -1,6 +1,5 @@
 #include "round/quick_page.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -8,11 +7,8 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <functional>
-#include <utility>
 
 #include "base/language.h"
-#include "controls/box_focus.h"
 #include "controls/boxes.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
@@ -98,50 +94,6 @@ private:
     bool french_;
     QGridLayout* rows_;
 };
-
-constexpr int selection_length = 4;
-
-/// Selects the figure of a box, so that the next digit replaces it.
-void select_figure(QLineEdit& box)
-{
-    select_characters(box, selection_length);
-}
-
-/// A click into a box that has the focus already selects its figure, too: the next digit replaces it,
-/// wherever the pointer is.
-class click_selects : public QObject {
-public:
-    explicit click_selects(QLineEdit& box) : QObject(&box), box_(box) { box.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::MouseButtonRelease && !box_.hasSelectedText())
-            select_figure(box_);
-        return false;
-    }
-
-private:
-    QLineEdit& box_;
-};
-
-key_answer take_key(QLineEdit& box, QChar key, const std::function<void()>& move_on)
-{
-    if (key == backspace || digits_only(key) == key_answer::refuse)
-        return digits_only(key);
-    box.insert(key);
-    move_on();
-    return key_answer::taken;
-}
-
-/// Restricts a box to digits, also for pasted text. A typed digit replaces the figure of the box, which is
-/// selected by a click and whenever the box gets the focus, and runs `move_on`.
-void watch_digit_keys(QLineEdit& box, std::function<void()> move_on)
-{
-    filter_keys(box, [&box, move_on = std::move(move_on)](QChar key) { return take_key(box, key, move_on); });
-    when_entered(box, [&box] { select_figure(box); });
-    new click_selects(box);
-    filter_pasted_text(box, digits_only);
-}
 
 }  // namespace
 

@@ -7,7 +7,7 @@
 
 #include "controls/failure_guard.h"
 #include "round/f_new_round.h"
-#include "round/parameters_pane.h"
+#include "round/parameter_boxes.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/round_windows.h"
 #include "tests/support/languages.h"
