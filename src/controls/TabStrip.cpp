@@ -21,7 +21,7 @@ TabStrip::TabStrip(QWidget* parent) : QTabBar(parent)
 void TabStrip::click(int tab)
 {
     run_event([&] {
-        if (before_click && !before_click())
+        if (before_click_ && !before_click_())
             return;
         select(tab);
         Q_EMIT clicked();
@@ -62,7 +62,7 @@ void TabStrip::keyPressEvent(QKeyEvent* event)
 
 void TabStrip::wheelEvent(QWheelEvent* event)
 {
-    // By default the wheel changes the tab, without `before_click`.
+    // By default the wheel changes the tab, without the check.
     event->ignore();
 }
 

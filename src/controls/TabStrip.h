@@ -3,6 +3,7 @@
 #include <QTabBar>
 
 #include <functional>
+#include <utility>
 
 namespace verdane {
 
@@ -16,15 +17,15 @@ class TabStrip : public QTabBar {
 public:
     explicit TabStrip(QWidget* parent = nullptr);
 
-    /// Called before a click changes the tab; false keeps the old one.
-    std::function<bool()> before_click;
+    /// `check` is called before a click changes the tab; false keeps the old one.
+    void set_before_click(std::function<bool()> check) { before_click_ = std::move(check); }
 
     /// The selected tab, from 1.
     int selected() const { return currentIndex() + 1; }
-    /// Selects a tab without calling `before_click` and without `clicked`.
+    /// Selects a tab without calling that check and without `clicked`.
     void select(int tab) { setCurrentIndex(tab - 1); }
 
-    /// Acts as a click on a tab: calls `before_click`, selects the tab and emits `clicked`.
+    /// Acts as a click on a tab: calls the check, selects the tab and emits `clicked`.
     void click(int tab);
 
 Q_SIGNALS:
@@ -35,6 +36,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    std::function<bool()> before_click_;
 };
 
 }  // namespace verdane

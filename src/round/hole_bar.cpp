@@ -128,7 +128,7 @@ void hole_bar::add_date(QHBoxLayout& line, const Form& window)
 
 void hole_bar::set_before_tab_click(std::function<bool()> check)
 {
-    hole_tabs_->before_click = std::move(check);
+    hole_tabs_->set_before_click(std::move(check));
 }
 
 QWidget* hole_bar::tab_strip() const

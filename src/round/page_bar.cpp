@@ -135,7 +135,7 @@ page_bar::page_bar(Form& window)
 
 void page_bar::set_before_tab_click(std::function<bool()> check)
 {
-    page_tabs_->before_click = std::move(check);
+    page_tabs_->set_before_click(std::move(check));
 }
 
 bool page_bar::is_selected(round_page page) const

@@ -22,10 +22,10 @@ public:
         for (int i = 1; i <= 3; ++i)
             tabs->addTab(QString::number(i));
         (new QVBoxLayout(this))->addWidget(tabs);
-        tabs->before_click = [this] {
+        tabs->set_before_click([this] {
             seen_before.append(QString::number(tabs->selected()));
             return allowed;
-        };
+        });
         connect(tabs, &TabStrip::clicked, this, [this] { clicks.append(QString::number(tabs->selected())); });
     }
 
