@@ -22,10 +22,9 @@ detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_o
     : QGroupBox(window.caption(u"Coups", u"Shots")),
       window_(window),
       rows_(rows),
-      hole_(std::move(hole)),
-      entry_(rows, hole_),
+      entry_(rows, std::move(hole)),
       grid_(new shot_grid(window, rows)),
-      choices_(*grid_, rows, entry_, hole_)
+      choices_(*grid_, rows, entry_)
 {
     setObjectName(u"Framedet"_s);
     name_control(*grid_, title());
@@ -132,7 +131,7 @@ void detailed_page::show_incomplete(const QString& number)
 
 bool detailed_page::open_hole_shots()
 {
-    if (hole_().key.isEmpty()) {
+    if (entry_.hole().key.isEmpty()) {
         show_information(window_.caption(u"Veuillez d'abord choisir la date de la ronde.",
                                          u"Please enter the round's date."),
                          QMessageBox::Critical);

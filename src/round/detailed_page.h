@@ -99,7 +99,6 @@ private:
 
     Form& window_;
     shot_rows& rows_;
-    std::function<hole_on_screen()> hole_;
     shot_entry entry_;
     shot_grid* grid_;
     shot_choices choices_;

@@ -39,12 +39,12 @@ f_new_round::f_new_round(shot_rows& shots)
     : round_form(shots),
       boxes_(*this, panes()),
       navigation_(*this, panes(), boxes_),
-      events_(*this, panes(), boxes_, navigation_)
+      life_cycle_(*this, panes(), boxes_, navigation_)
 {
     connect_holes();
     connect_figures();
     connect_window();
-    events_.load();
+    life_cycle_.load();
 }
 
 void f_new_round::connect_holes()
@@ -57,7 +57,7 @@ void f_new_round::connect_holes()
     on_signal(holes, &hole_bar::tab_clicked, [this] { navigation_.hole_tab_clicked(); });
     on_signal(pages, &page_bar::tab_clicked, [this] { navigation_.page_changed(); });
     on_signal(pages, &page_bar::shots_clicked, [this] { navigation_.open_shots_of_hole(); });
-    on_signal(pages, &page_bar::putts_clicked, [this] { events_.report_putts(); });
+    on_signal(pages, &page_bar::putts_clicked, [this] { life_cycle_.report_putts(); });
 }
 
 void f_new_round::connect_figures()
@@ -70,13 +70,13 @@ void f_new_round::connect_figures()
     on_signal(panes().detailed, &detailed_page::summarised,
               [this](const hole_summary& summary) { boxes_.show_summary(summary); });
     on_signal(parameters, &parameters_pane::course_changed, [this] { boxes_.course_selected(); });
-    on_signal(parameters, &parameters_pane::costs_clicked, [this] { events_.show_costs(); });
+    on_signal(parameters, &parameters_pane::costs_clicked, [this] { life_cycle_.show_costs(); });
 }
 
 void f_new_round::connect_window()
 {
     for (const int index : {cancel, ok})
-        on_click(end_button(index), [this, index] { events_.on_ok_cancel(index); });
+        on_click(end_button(index), [this, index] { life_cycle_.on_ok_cancel(index); });
     set_cancel_button(end_button(cancel));
     watch_tab_keys(*this, panes().holes, panes().pages);
 }
@@ -126,7 +126,7 @@ void f_new_round::save_round(bool silent)
 
 void f_new_round::ask_and_close(bool skip_prompt)
 {
-    events_.ask_and_close(skip_prompt);
+    life_cycle_.ask_and_close(skip_prompt);
 }
 
 bool f_new_round::isdetailed() const
@@ -161,17 +161,17 @@ void f_new_round::saveShots()
 
 void f_new_round::activated()
 {
-    events_.activate();
+    life_cycle_.activate();
 }
 
 void f_new_round::unloading()
 {
-    events_.unload();
+    life_cycle_.unload();
 }
 
 void f_new_round::close_requested()
 {
-    events_.on_close_box();
+    life_cycle_.on_close_box();
 }
 
 void start_new_round()

@@ -34,7 +34,7 @@ public:
     void show_header(const round_header& header);
 
     /// The tee-off dialog was cancelled.
-    bool get_date_canceled() const { return events_.get_date_canceled(); }
+    bool get_date_canceled() const { return life_cycle_.get_date_canceled(); }
     /// There is something to save.
     bool needSave() const { return boxes_.needSave(); }
     /// List index (0 to 17) of the hole that was shown last.
@@ -65,7 +65,7 @@ private:
 
     round_boxes boxes_;
     hole_navigation navigation_;
-    f_new_round_func events_;
+    f_new_round_func life_cycle_;
 };
 
 /// The command for a new round. Shows a message when there is no course.

@@ -60,7 +60,7 @@ void f_new_round_func::load()
 {
     totals_.hide();
     detailed_.show_finish_button(false);
-    holes_.show_number(1);
+    holes_.show_hole(1);
     size_and_place();
     // `f_new_round::show_stored_round` shows the message about a missing row in `games2`.
     if (!round_record::has_row_in_games2())

@@ -181,11 +181,6 @@ void hole_bar::select_in_list_silently(int hole)
 void hole_bar::show_hole(int hole)
 {
     hole_tabs_->select(hole);
-    show_number(hole);
-}
-
-void hole_bar::show_number(int hole)
-{
     number_->setText(QString::number(hole));
 }
 

@@ -47,7 +47,6 @@ public:
     void select_in_list_silently(int hole);
     /// Shows the hole in the tabs and as the large number.
     void show_hole(int hole);
-    void show_number(int hole);
 
     void show_card(const Round_functions::hole_card& card);
     /// The card on screen; zeros before the first hole is shown.

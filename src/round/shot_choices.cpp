@@ -1,17 +1,15 @@
 #include "round/shot_choices.h"
 
-#include <utility>
-
 #include "controls/events.h"
+#include "round/shot_entry.h"
 #include "round/shot_grid.h"
 #include "round/shot_rows.h"
 #include "scoring/words.h"
 
 namespace verdane {
 
-shot_choices::shot_choices(shot_grid& grid, shot_rows& rows, const shot_entry& entry,
-                           std::function<hole_on_screen()> hole)
-    : grid_(grid), rows_(rows), entry_(entry), hole_(std::move(hole))
+shot_choices::shot_choices(shot_grid& grid, shot_rows& rows, const shot_entry& entry)
+    : grid_(grid), rows_(rows), entry_(entry)
 {
     on_choice(&shot_grid::club_chosen, &shot_choices::club_chosen);
     on_choice(&shot_grid::kind_chosen, &shot_choices::kind_chosen);
@@ -74,7 +72,7 @@ void shot_choices::yes_or_no_chosen(int entry)
 
 void shot_choices::column_updated(int column)
 {
-    rows_.current().set_par(hole_().card.par);
+    rows_.current().set_par(entry_.hole().card.par);
     if (column == shot_grid::distance_column && rows_.current().distance_changed() && rows_.on_last_row())
         Q_EMIT next_shot_wanted();
     show_row(entry_.PUT_MODE() ? shot_grid::club_column : shot_grid::unit_column);

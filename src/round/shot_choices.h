@@ -2,12 +2,9 @@
 
 #include <QObject>
 
-#include <functional>
-
-#include "round/shot_entry.h"
-
 namespace verdane {
 
+class shot_entry;
 class shot_grid;
 class shot_rows;
 
@@ -17,9 +14,8 @@ class shot_choices : public QObject {
     Q_OBJECT
 
 public:
-    /// The arguments must outlive the object. `hole` returns the hole on screen.
-    shot_choices(shot_grid& grid, shot_rows& rows, const shot_entry& entry,
-                 std::function<hole_on_screen()> hole);
+    /// The arguments must outlive the object.
+    shot_choices(shot_grid& grid, shot_rows& rows, const shot_entry& entry);
 
 Q_SIGNALS:
     /// The next shot has to be added: after the distance of the last putt, and when a shot becomes a putt.
@@ -42,7 +38,6 @@ private:
     shot_grid& grid_;
     shot_rows& rows_;
     const shot_entry& entry_;
-    std::function<hole_on_screen()> hole_;
 };
 
 }  // namespace verdane

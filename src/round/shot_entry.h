@@ -30,6 +30,8 @@ public:
     /// quick page the hole changes without its shots.
     shot_entry(shot_rows& rows, std::function<hole_on_screen()> hole);
 
+    hole_on_screen hole() const { return hole_(); }
+
     /// The shot that is being entered is a putt.
     bool PUT_MODE() const { return PUT_MODE_; }
     /// The hole that was summarised last has classified shots.
