@@ -23,6 +23,7 @@ set(VERDANE_TESTS_WITHOUT_STORE
 # The only list of the tests that run on the embedded engine alone, with the reason.
 set(VERDANE_FILE_TESTS
   test_copy_command         # both stores are files
+  test_archive_safety       # see test_courses_safety
   test_courses_safety       # kills at writes of the file, and its size
   test_export_safety        # see test_courses_safety
   test_import_faults        # what is wrong in files, before a store is opened

@@ -60,7 +60,7 @@ std::optional<int> take_options(const command& wanted, QStringList& arguments)
 std::span<const command> all_commands()
 {
     static const std::array commands{check_command,  copy_command,    restore_command, export_command,
-                                     import_command, courses_command, sample_command};
+                                     import_command, archive_command, courses_command, sample_command};
     return commands;
 }
 

@@ -55,6 +55,11 @@ extern const command export_command;
 /// `import FOLDER STORE`: reads these files into an empty store, in one commit.
 extern const command import_command;
 
+/// `archive STORE DATE NEWSTORE`: moves the rounds before a day into a new file (`archived_rounds.h`). The
+/// rounds are removed from the diary only after the file was written, read back and compared. A run that was
+/// killed is completed by the next one.
+extern const command archive_command;
+
 /// All commands, in the order of the help.
 std::span<const command> all_commands();
 

@@ -6,14 +6,13 @@
 #include <optional>
 #include <vector>
 
+#include "store/recovery/diary_copy.h"
 #include "store/schema.h"
 #include "transfer/csv_file.h"
 
 /// A table as a CSV file: a first line with the names of its columns, then a line for each row. A text is
 /// between quotes, a number is not, and Null is no value at all.
 namespace verdane {
-
-using table_rows = std::vector<std::vector<QVariant>>;
 
 /// The name of the file of a table.
 QString csv_name_of(const table& named);

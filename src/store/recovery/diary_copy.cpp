@@ -62,6 +62,11 @@ bool equal(const QVariant& left, const QVariant& right)
     return left.toString() == right.toString();
 }
 
+bool equal_values(const std::vector<QVariant>& left, const std::vector<QVariant>& right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), equal);
+}
+
 [[noreturn]] void fail_comparison(const table& compared, int row, const QString& what)
 {
     throw run_time_failure(failure_kind::store_other,
@@ -143,7 +148,12 @@ void read_rows(const Connection1& store, const table& read, const row_step& step
     }
 }
 
-void replace_rows(Connection1& store, const table& replaced, const std::vector<std::vector<QVariant>>& rows)
+bool equal_rows(const table_rows& left, const table_rows& right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), equal_values);
+}
+
+void replace_rows(Connection1& store, const table& replaced, const table_rows& rows)
 {
     store.Execute(u"DELETE FROM " + in_back_quotes(replaced.name));
     row_insertion insertion(store, replaced);
@@ -152,8 +162,7 @@ void replace_rows(Connection1& store, const table& replaced, const std::vector<s
     insertion.finish();
     std::size_t stored = 0;
     read_rows(store, replaced, [&](const std::vector<QVariant>& values) {
-        if (stored == rows.size() ||
-            !std::equal(values.begin(), values.end(), rows[stored].begin(), rows[stored].end(), equal))
+        if (stored == rows.size() || !equal_values(values, rows[stored]))
             fail_comparison(replaced, static_cast<int>(stored) + 1, u"differs after it was stored"_s);
         ++stored;
     });

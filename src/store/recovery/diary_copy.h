@@ -28,13 +28,18 @@ std::vector<counted_table> tables_in_use(const Connection1& store);
 /// Called for each row of a table with the values of its columns, in their order.
 using row_step = std::function<void(const std::vector<QVariant>& values)>;
 
+using table_rows = std::vector<std::vector<QVariant>>;
+
 /// Reads every row of a table in the order in which the rows were inserted. Null is an invalid value. Fails
 /// with the kind that fits the engine's error.
 void read_rows(const Connection1& store, const table& read, const row_step& step);
 
+/// True if two tables have the same values in the same order; numbers are compared by value.
+bool equal_rows(const table_rows& left, const table_rows& right);
+
 /// Replaces the rows of a table and compares the stored rows with the given ones. The caller commits. Fails
 /// with `store_other` if a stored row differs, and with the kind that fits the engine's error.
-void replace_rows(Connection1& store, const table& replaced, const std::vector<std::vector<QVariant>>& rows);
+void replace_rows(Connection1& store, const table& replaced, const table_rows& rows);
 
 /// Copies every row of every table, in their order, into a store without rows of its own, compares the rows
 /// of both stores value by value, and commits all of it together. After a failure, or if the process ends

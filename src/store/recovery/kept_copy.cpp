@@ -55,13 +55,13 @@ QString free_copy_path(const store_location& store, const QString& why)
     return path;
 }
 
-void write_closed_copy(Connection1& from, const QString& path)
+void write_closed_store(const QString& path, const store_filling& fill)
 {
     remove_store_files(path);
     Connection1 copy;
     copy.Open(path);
     try {
-        copy_diary(from, copy, [](const counted_table&) {});
+        fill(copy);
         copy.Close();
         check_closed(path);
     } catch (...) {
@@ -69,6 +69,11 @@ void write_closed_copy(Connection1& from, const QString& path)
         remove_store_files(path);
         throw;
     }
+}
+
+void write_closed_copy(Connection1& from, const QString& path)
+{
+    write_closed_store(path, [&](Connection1& copy) { copy_diary(from, copy, [](const counted_table&) {}); });
 }
 
 QString keep_copy(Connection1& store, const QString& why)

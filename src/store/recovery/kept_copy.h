@@ -4,6 +4,7 @@
 #include <QStringView>
 
 #include <array>
+#include <functional>
 
 namespace verdane {
 
@@ -19,9 +20,16 @@ inline constexpr std::array<QStringView, 2> endings_of_logs{u"-journal", u"-wal"
 /// follows if that file or a log of it exists.
 QString free_copy_path(const store_location& store, const QString& why);
 
+/// Fills a store without rows; the caller closes it.
+using store_filling = std::function<void(Connection1& store)>;
+
+/// Makes the file of a store of its own, replaces the file that a killed run has left there, and fills it.
+/// The file is closed, complete and checked afterwards. Fails like `fill`, `Connection1::Open` and
+/// `check_copy`, and with `store_full` if the file is not complete; no file is left then.
+void write_closed_store(const QString& path, const store_filling& fill);
+
 /// Copies a diary, row by row and compared, to a file of its own, and replaces the file that a killed run has
-/// left there. The file is closed, complete and checked afterwards. Fails like `copy_diary`, with
-/// `store_full` if the file is not complete, and like `check_copy`; no file is left then.
+/// left there. Fails like `copy_diary` and `write_closed_store`.
 void write_closed_copy(Connection1& from, const QString& path);
 
 /// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path, which

@@ -1,0 +1,89 @@
+#include "transfer/command.h"
+
+#include <QDate>
+#include <QFileInfo>
+
+#include "store/recovery/archived_rounds.h"
+#include "store/recovery/diary_copy.h"
+#include "transfer/console.h"
+#include "transfer/store_argument.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString counted_rounds(qsizetype rounds)
+{
+    return counted(static_cast<int>(rounds), {u"ronde", u"round"}, {u"rondes", u"rounds"});
+}
+
+exit_status refuse_other_archive(const store_location& to)
+{
+    return refuse(exit_status::not_empty,
+                  in_language(u"%1 existe déjà et n'a pas exactement les rondes à déplacer. Rien n'a été "
+                              u"modifié ; choisissez un nouveau fichier.",
+                              u"%1 exists already and does not have exactly the rounds to be moved. Nothing "
+                              u"was changed; choose a new file.")
+                      .arg(argument_of_store(to)));
+}
+
+/// A file with the same rounds was written by a run that ended before it removed them.
+exit_status move_rounds(Connection1& store, QDate day, const store_location& to)
+{
+    const QStringList keys = round_keys_before(store, day);
+    const QString date = day.toString(Qt::ISODate);
+    if (keys.isEmpty()) {
+        print(in_language(u"Aucune ronde avant le %1. Rien n'a été modifié.",
+                          u"No round before %1. Nothing was changed.")
+                  .arg(date));
+        return exit_status::done;
+    }
+    if (!QFileInfo::exists(to.name))
+        write_archive(store, keys, to.name);
+    if (!is_archive_of(store, keys, to.name))
+        return refuse_other_archive(to);
+    remove_archived(store, keys);
+    print(in_language(u"Archivé et vérifié : %1 d'avant le %2, dans %3.",
+                      u"Archived and checked: %1 before %2, in %3.")
+              .arg(counted_rounds(keys.size()), date, argument_of_store(to)));
+    return exit_status::done;
+}
+
+exit_status archive(const store_location& from, QDate day, const store_location& to)
+{
+    Connection1 store;
+    if (!store.OpenExisting(from) || tables_in_use(store).empty())
+        return refuse_without_diary(from);
+    return move_rounds(store, day, to);
+}
+
+exit_status run_archive(const QStringList& arguments, int)
+{
+    const bool complete = arguments.size() == 3;
+    const auto from = complete ? store_of_argument(arguments[0]) : std::nullopt;
+    const auto to = complete ? store_of_argument(arguments[2]) : std::nullopt;
+    const QDate day = complete ? QDate::fromString(arguments[1], Qt::ISODate) : QDate();
+    if (!from || !to || !day.isValid() || to->where != store_location::place::file || *from == *to)
+        return refuse(
+            exit_status::usage,
+            in_language(u"Il faut un journal, une date et un nouveau fichier : verdane-store archive "
+                        u"file 2025-01-01 file:ancien.db",
+                        u"A diary, a date and a new file are needed: verdane-store archive file "
+                        u"2025-01-01 file:old.db"));
+    if (is_empty_file(*from))
+        return refuse_without_diary(*from);
+    return reported([&] { return archive(*from, day, *to); });
+}
+
+}  // namespace
+
+const command archive_command{u"archive",
+                              {u"JOURNAL DATE NOUVEAU", u"STORE DATE NEWSTORE"},
+                              {u"déplace les rondes d'avant une date (AAAA-MM-JJ) dans un fichier à elles",
+                               u"moves the rounds before a date (YYYY-MM-DD) into a file of their own"},
+                              {},
+                              run_archive};
+
+}  // namespace verdane

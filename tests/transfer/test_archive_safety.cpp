@@ -1,0 +1,112 @@
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+
+#include "tests/support/reader.h"
+#include "tests/support/refused_change.h"
+#include "tests/transfer/archived_folder.h"
+#include "tests/transfer/killed_run.h"
+
+using namespace verdane;
+using namespace verdane::testing;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Some writes of the first part, which makes the new file, and more of the last part, which removes rounds.
+std::vector<int> writes_of_archive(int all)
+{
+    constexpr int last = 36;
+    constexpr int step = 4;
+    std::vector<int> numbers = some_writes(all);
+    for (int number = std::max(1, all - last); number <= all; number += step)
+        numbers.push_back(number);
+    return numbers;
+}
+
+}  // namespace
+
+/// `verdane-store archive` that is killed or fails.
+class test_archive_safety : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void a_run_that_is_killed_loses_no_round_and_can_be_repeated()
+    {
+        const divided_rows original = archived_folder().rows();
+        const archived_folder whole;
+        const int writes = number_of_writes(whole.arguments());
+        QVERIFY(whole.is_archived(original));
+        int in_both = 0;
+        for (const int number : writes_of_archive(writes)) {
+            const archived_folder folder;
+            kill_before_write(folder.arguments(), number);
+            const bool has_archive = QFile::exists(folder.target);
+            const bool is_removed = !(folder.rows() == original);
+            QVERIFY2(!is_removed || folder.is_archived(original), qPrintable(QString::number(number)));
+            if (has_archive)
+                QVERIFY(rows_divided_at(folder.target, day_of_first_kept_round).before == original.before);
+            in_both += has_archive && !is_removed ? 1 : 0;
+            QCOMPARE(folder.archive(), status(exit_status::done));
+            QVERIFY2(folder.is_archived(original), qPrintable(QString::number(number)));
+            QVERIFY(!QFile::exists(folder.target + u".unfinished"));
+        }
+        QVERIFY(in_both > 0);
+    }
+
+    void a_full_disk_changes_nothing_data()
+    {
+        QTest::addColumn<int>("bytes");
+        for (const int bytes : {0, 4096, 40'000, 100'000})
+            QTest::addRow("%d bytes", bytes) << bytes;
+    }
+
+    void a_full_disk_changes_nothing()
+    {
+        QFETCH(int, bytes);
+        const divided_rows original = archived_folder().rows();
+        const archived_folder folder;
+        store_run run(folder.arguments());
+        run.limit_files(static_cast<unsigned long>(bytes));
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QVERIFY(folder.rows() == original);
+        QVERIFY(!QFile::exists(folder.target));
+        QCOMPARE(folder.archive(), status(exit_status::done));
+    }
+
+    void rounds_that_cannot_be_removed_stay_and_the_run_can_be_repeated()
+    {
+        const divided_rows original = archived_folder().rows();
+        const archived_folder folder;
+        reader(folder.diary).write(refuse(u"delete"_s, u"cost"_s));
+        QCOMPARE(folder.archive(), status(exit_status::failed));
+        reader(folder.diary).write(refuse_no_more());
+        QVERIFY(folder.rows() == original);
+        QCOMPARE(folder.archive(), status(exit_status::done));
+        QVERIFY(folder.is_archived(original));
+    }
+
+    void a_round_that_was_changed_after_a_failure_is_not_removed()
+    {
+        const archived_folder folder;
+        reader(folder.diary).write(refuse(u"delete"_s, u"cost"_s));
+        QCOMPARE(folder.archive(), status(exit_status::failed));
+        reader(folder.diary).write({refuse_no_more(), u"update games set missed_1 = 3 where rowid = 2"_s});
+        const QStringList before = all_rows(folder.diary);
+        QCOMPARE(folder.archive(), status(exit_status::not_empty));
+        QCOMPARE(all_rows(folder.diary), before);
+        QVERIFY(QFile::remove(folder.target));
+        QCOMPARE(folder.archive(), status(exit_status::done));
+        QCOMPARE(reader(folder.target).number(u"select missed_1 from games where rowid = 2"_s), 3);
+    }
+
+    void the_new_file_reaches_the_disk_before_it_gets_its_name()
+    {
+        const archived_folder folder;
+        QCOMPARE(renames_before_content(folder.arguments()), QStringList());
+    }
+};
+
+QTEST_GUILESS_MAIN(test_archive_safety)
+#include "test_archive_safety.moc"
