@@ -2,6 +2,10 @@
 
 #include <QString>
 
+#include <memory>
+
+class QLockFile;
+
 namespace verdane {
 
 /// Checks the files of the store at `path` before the engine opens them, and changes nothing. If there is no
@@ -15,5 +19,10 @@ void check_file_of_copy(const QString& path);
 
 /// Removes the file of a store that could not be created, and the engine's other files.
 void remove_store_files(const QString& path);
+
+/// Takes the lock that excludes a second program from the store at `path`. It is released with the object.
+/// The lock of a program that was killed has no effect. Fails with `store_locked`, `store_read_only`,
+/// `store_full` or `store_unreachable`.
+std::unique_ptr<QLockFile> take_store_lock(const QString& path);
 
 }  // namespace verdane

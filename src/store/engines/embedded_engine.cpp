@@ -17,7 +17,6 @@
 #include "store/lock_wait.h"
 #include "store/schema.h"
 #include "store/store_files.h"
-#include "store/store_lock.h"
 
 namespace verdane {
 

@@ -13,7 +13,6 @@
 #include "store/engines/sql_text.h"
 #include "store/engines/sqlite.h"
 #include "store/store_files.h"
-#include "store/store_lock.h"
 
 namespace verdane {
 

@@ -11,7 +11,6 @@
 #include "store/recovery/kept_copy.h"
 #include "store/recovery/whole_files.h"
 #include "store/store_files.h"
-#include "store/store_lock.h"
 
 namespace verdane {
 
