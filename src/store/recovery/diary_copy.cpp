@@ -34,7 +34,7 @@ int number_of_rows(const Connection1& store, const table& counted)
 
 void copy_rows(const Connection1& from, Connection1& to, const table& copied)
 {
-    row_insertion insertion(to, copied);
+    row_insertion insertion(to.engine(), copied);
     read_rows(from, copied, [&insertion](const std::vector<QVariant>& values) { insertion.add(values); });
     insertion.finish();
 }
@@ -156,7 +156,7 @@ bool equal_rows(const table_rows& left, const table_rows& right)
 void replace_rows(Connection1& store, const table& replaced, const table_rows& rows)
 {
     store.Execute(u"DELETE FROM " + in_back_quotes(replaced.name));
-    row_insertion insertion(store, replaced);
+    row_insertion insertion(store.engine(), replaced);
     for (const std::vector<QVariant>& row : rows)
         insertion.add(row);
     insertion.finish();

@@ -75,7 +75,10 @@ void find_in_fixed_rows(const diary_snapshot& diary, problem_list& problems)
                               1,
                               {}};
         if (can_renew(each, rows))
-            problem.repair = [&each](Connection1& store) { renew_fixed_rows(store, each); };
+            problem.repair = [&each](Connection1& store) {
+                renew_fixed_rows(
+                    store.engine(), [&store](const QString& statement) { store.Execute(statement); }, each);
+            };
         problems.push_back(problem);
     }
 }
@@ -90,7 +93,7 @@ void find_in_indexes(const Connection1& store, problem_list& problems)
         problem.step = repair_step::indexes;
         problems.push_back(problem);
     }
-    for (const index_creation& index : missing_indexes(store)) {
+    for (const index_creation& index : missing_indexes(store.engine())) {
         diary_problem problem{in_language(u"un index manque", u"an index is missing"),
                               {index.name},
                               1,

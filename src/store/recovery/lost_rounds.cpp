@@ -184,7 +184,7 @@ std::vector<lost_round> find_lost_rounds(const diary_snapshot& diary)
 void make_round(const Connection1& store, const lost_round& round)
 {
     for (const auto& [table, values] : round.rows) {
-        row_insertion insertion(store, *find_table(table));
+        row_insertion insertion(store.engine(), *find_table(table));
         insertion.add(values);
         insertion.finish();
     }

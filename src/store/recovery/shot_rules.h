@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/recovery/diary_rules.h"
+#include "store/recovery/diary_rule.h"
 
 namespace verdane {
 
