@@ -13,6 +13,7 @@
 #include "bench/diaries.h"
 #include "bench/pairs.h"
 #include "bench/stopwatch.h"
+#include "store/Connection1.h"
 #include "store/engines/registered_source.h"
 
 extern char** environ;

@@ -7,8 +7,8 @@
 # - A library links only libraries that are declared before it.
 # - An include in src/ names its folder, and the folder is that of the file or of a library linked,
 #   directly or through another one.
-# - In the folders of `folders_without_cycles` the sources can be ordered so that each includes only those
-#   before it. A source is a *.cpp with its header.
+# - In the folders of `folders_without_cycles`, with the folders in them, the sources can be ordered so that
+#   each includes only those before it. A source is a *.cpp with its header.
 # - The engines of the store are included by the store only.
 # - The diagram of docs/architecture.md has exactly these links.
 
@@ -57,9 +57,9 @@ foreach(folder ${folders})
   endforeach()
 endforeach()
 
-set(folders_without_cycles base scoring store/tables records round transfer)
+set(folders_without_cycles base scoring store records round transfer)
 foreach(folder ${folders_without_cycles})
-  file(GLOB files RELATIVE ${SOURCES}/src ${SOURCES}/src/${folder}/*.h ${SOURCES}/src/${folder}/*.cpp)
+  file(GLOB_RECURSE files RELATIVE ${SOURCES}/src ${SOURCES}/src/${folder}/*.h ${SOURCES}/src/${folder}/*.cpp)
   set(sources)
   foreach(file ${files})
     string(REGEX REPLACE "\\.(h|cpp)$" "" source ${file})

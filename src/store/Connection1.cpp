@@ -1,6 +1,8 @@
 #include "store/Connection1.h"
 
 #include "store/engines/engine.h"
+#include "store/engines/engine_choice.h"
+#include "store/engines/registered_source.h"
 #include "store/fresh_store.h"
 
 #include <QSqlError>
@@ -11,6 +13,19 @@
 namespace verdane {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The value of `Data Source` in the connection string.
+QString data_source()
+{
+    const QString key = u"Data Source="_s;
+    const QString text = Connection1::connection_string();
+    const qsizetype start = text.indexOf(key) + key.size();
+    return text.sliced(start, text.indexOf(u';', start) - start);
+}
+
+}  // namespace
 
 Connection1::Connection1()
     : name_(QUuid::createUuid().toString(QUuid::WithoutBraces)), waiting_(std::make_unique<lock_wait>())
@@ -39,7 +54,9 @@ void Connection1::Open(const QString& path, soundness_check check)
 
 void Connection1::Open(const store_location& store, soundness_check check)
 {
-    open_engine(store, check, [this] { create_tables(*this); });
+    open_engine(store, check, [this] {
+        create_tables(*engine_, [this](const QString& statement) { Execute(statement); });
+    });
 }
 
 bool Connection1::OpenExisting(const store_location& store, soundness_check check)
@@ -130,6 +147,13 @@ store_engine& Connection1::engine() const
     if (engine_ == nullptr)
         throw run_time_failure(failure_kind::misuse, QString(location_.name + u": the connection is closed"));
     return *engine_;
+}
+
+store_location default_store()
+{
+    const QString source = data_source();
+    return is_registered_source(source) ? store_location::source(source)
+                                        : store_location::file(Connection1::default_path());
 }
 
 QString quoted(const QString& text)

@@ -8,13 +8,24 @@
 #include <memory>
 
 #include "store/lock_wait.h"
-#include "store/soundness_check.h"
 #include "store/store_location.h"
-#include "store/store_traffic.h"
 
 namespace verdane {
 
 class store_engine;
+
+/// The store that the program opens: the source of `Connection1::connection_string()` if it is registered,
+/// otherwise the file at `Connection1::default_path()`.
+store_location default_store();
+
+/// What a connection has sent to its engine and read from it since it was made, counted in the same way on
+/// every engine. For tests and measurements.
+struct store_traffic {
+    qint64 statements = 0;
+    qint64 rows = 0;
+    /// Values of columns in these rows.
+    qint64 values = 0;
+};
 
 /// The connection to the store: one SQLite file in the data folder of the user, or a registered ODBC data
 /// source. All tables are created on the first start.
@@ -111,7 +122,8 @@ public:
     /// Qt's handle of the connection, for this library only.
     QSqlDatabase database() const;
 
-    /// The engine of the open store, for this library only. Fails with `misuse` on a closed connection.
+    /// The engine of the open store. Other libraries only pass it to `row_insertion`. Fails with `misuse` on
+    /// a closed connection.
     store_engine& engine() const;
 
     const store_traffic& traffic() const { return traffic_; }

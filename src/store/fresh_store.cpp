@@ -2,7 +2,6 @@
 
 #include <QSqlQuery>
 
-#include "store/Connection1.h"
 #include "store/engines/engine.h"
 #include "store/row_insertion.h"
 #include "store/schema.h"
@@ -13,24 +12,6 @@ namespace verdane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString engine_type(column_type type)
-{
-    switch (type) {
-    case column_type::count:
-        return u"SMALLINT"_s;
-    case column_type::amount:
-        return u"INTEGER"_s;
-    case column_type::real:
-        return u"DOUBLE"_s;
-    case column_type::yes_no:
-        return u"BOOLEAN"_s;
-    case column_type::text:
-    case column_type::any:
-        break;
-    }
-    return u"TEXT"_s;
-}
 
 QString column_definition(const column& column)
 {
@@ -86,9 +67,9 @@ QVariant value_of_fixed_row(const column& column, int row)
     return value_by_type(column.type);
 }
 
-void insert_fixed_rows(const Connection1& connection, const table& filled)
+void insert_fixed_rows(store_engine& engine, const table& filled)
 {
-    row_insertion insertion(connection, filled);
+    row_insertion insertion(engine, filled);
     for (int row = 0; row < filled.fixed_rows; ++row)
         insertion.add(fixed_row(filled, row));
     insertion.finish();
@@ -113,51 +94,43 @@ std::vector<index_creation> all_indexes()
 }
 
 /// False if an earlier start was ended before it had inserted all rows. Complete rows may have been edited.
-bool has_fixed_rows(const Connection1& connection, const table& filled)
+bool has_fixed_rows(const store_engine& engine, const table& filled)
 {
-    QSqlQuery query(connection.database());
+    QSqlQuery query(engine.database());
     return query.exec(u"SELECT COUNT(*) FROM " + in_back_quotes(filled.name)) && query.next() &&
            query.value(0).toInt() == filled.fixed_rows;
 }
 
-void create_tables_and_indexes(Connection1& connection)
+void create_tables_and_indexes(store_engine& engine, const statement_runner& run)
 {
-    store_engine& engine = connection.engine();
     for (const table& table : schema()) {
         if (!engine.was_created_before(table.name))
-            connection.Execute(creation_statement(engine, table));
-        else if (has_fixed_rows(connection, table))
+            run(creation_statement(engine, table));
+        else if (has_fixed_rows(engine, table))
             continue;
         else
-            connection.Execute(u"DELETE FROM " + in_back_quotes(table.name));
-        insert_fixed_rows(connection, table);
+            run(u"DELETE FROM " + in_back_quotes(table.name));
+        insert_fixed_rows(engine, table);
     }
     if (engine.declares_indexes())
         return;
     for (const index_creation& index : all_indexes())
-        connection.Execute(index.statement);
+        run(index.statement);
 }
 
 }  // namespace
 
-QString declared_type(const column& column)
+void create_tables(store_engine& engine, const statement_runner& run)
 {
-    if (column.characters > 0)
-        return u"VARCHAR(%1)"_s.arg(column.characters);
-    return engine_type(column.type);
-}
-
-void create_tables(Connection1& connection)
-{
-    const commit_statements& statements = connection.engine().commits();
-    connection.Execute(statements.begin_locked);
+    const commit_statements& statements = engine.commits();
+    run(statements.begin_locked);
     try {
-        create_tables_and_indexes(connection);
-        connection.Execute(statements.finish);
-        connection.engine().tables_created();
+        create_tables_and_indexes(engine, run);
+        run(statements.finish);
+        engine.tables_created();
     } catch (...) {
         // Fails if the engine has ended the transaction by itself, which has the same result.
-        QSqlQuery(connection.database()).exec(statements.undo);
+        QSqlQuery(engine.database()).exec(statements.undo);
         throw;
     }
 }
@@ -170,15 +143,15 @@ std::vector<QVariant> fixed_row(const table& fixed, int row)
     return values;
 }
 
-void renew_fixed_rows(Connection1& connection, const table& renewed)
+void renew_fixed_rows(store_engine& engine, const statement_runner& run, const table& renewed)
 {
-    connection.Execute(u"DELETE FROM " + in_back_quotes(renewed.name));
-    insert_fixed_rows(connection, renewed);
+    run(u"DELETE FROM " + in_back_quotes(renewed.name));
+    insert_fixed_rows(engine, renewed);
 }
 
-std::vector<index_creation> missing_indexes(const Connection1& connection)
+std::vector<index_creation> missing_indexes(const store_engine& engine)
 {
-    const QStringList present = connection.engine().index_names();
+    const QStringList present = engine.index_names();
     std::vector<index_creation> missing;
     for (const index_creation& index : all_indexes()) {
         if (!present.contains(index.name, Qt::CaseInsensitive))

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "store/Connection1.h"
 #include "store/engines/sqlite.h"
 
 namespace verdane {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "store/Connection1.h"
 #include "store/engines/engine.h"
 
 namespace verdane {
@@ -17,7 +16,7 @@ constexpr int most_values = 4000;
 
 }  // namespace
 
-row_insertion::row_insertion(const Connection1& to, const table& filled)
+row_insertion::row_insertion(store_engine& to, const table& filled)
     : to_(to), filled_(filled), most_rows_(std::max(1, most_values / static_cast<int>(filled.columns.size())))
 {
 }
@@ -30,7 +29,7 @@ void row_insertion::add(const std::vector<QVariant>& values)
     QStringView before = rows_ == 0 ? u"(" : u",(";
     for (const QVariant& value : values) {
         statement_.text += before;
-        to_.engine().add_value(statement_, value);
+        to_.add_value(statement_, value);
         before = u",";
     }
     statement_.text += u')';
@@ -41,7 +40,7 @@ void row_insertion::add(const std::vector<QVariant>& values)
 void row_insertion::finish()
 {
     if (rows_ > 0)
-        to_.engine().change(statement_, filled_.name);
+        to_.change(statement_, filled_.name);
     statement_ = {};
     rows_ = 0;
 }

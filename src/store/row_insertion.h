@@ -9,14 +9,14 @@
 
 namespace verdane {
 
-class Connection1;
+class store_engine;
 
 /// Collects rows of a table and inserts them in their order, many by one statement: a server takes as long
 /// for each statement as for many rows.
 class row_insertion {
 public:
     /// Both arguments must exist as long as this object.
-    row_insertion(const Connection1& to, const table& filled);
+    row_insertion(store_engine& to, const table& filled);
 
     /// Adds a row with a value for each column of the table, in their order. Fails with the kind that fits
     /// the engine's error.
@@ -27,7 +27,7 @@ public:
     void finish();
 
 private:
-    const Connection1& to_;
+    store_engine& to_;
     const table& filled_;
     const int most_rows_;
     statement_with_values statement_;

@@ -19,6 +19,8 @@
 
 namespace verdane {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array declarations{
@@ -81,6 +83,24 @@ table table_of(const tables::table_declaration& declaration)
     return made;
 }
 
+QString engine_type(column_type type)
+{
+    switch (type) {
+    case column_type::count:
+        return u"SMALLINT"_s;
+    case column_type::amount:
+        return u"INTEGER"_s;
+    case column_type::real:
+        return u"DOUBLE"_s;
+    case column_type::yes_no:
+        return u"BOOLEAN"_s;
+    case column_type::text:
+    case column_type::any:
+        break;
+    }
+    return u"TEXT"_s;
+}
+
 }  // namespace
 
 const std::vector<table>& schema()
@@ -101,6 +121,13 @@ const table* find_table(QStringView name)
         return candidate.name.compare(name, Qt::CaseInsensitive) == 0;
     });
     return found == all.end() ? nullptr : &*found;
+}
+
+QString declared_type(const column& column)
+{
+    if (column.characters > 0)
+        return u"VARCHAR(%1)"_s.arg(column.characters);
+    return engine_type(column.type);
 }
 
 QString in_back_quotes(const QString& name)

@@ -40,6 +40,9 @@ const std::vector<table>& schema();
 /// The table of that name, in any case; null if the store has none.
 const table* find_table(QStringView name);
 
+/// The type of a column in the statement that creates its table.
+QString declared_type(const column& column);
+
 /// A name as it is written in statements. Some of the columns are reserved words in one of the engines.
 QString in_back_quotes(const QString& name);
 

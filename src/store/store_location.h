@@ -18,8 +18,9 @@ struct store_location {
     bool operator==(const store_location&) const = default;
 };
 
-/// The store that the program opens: the source of `Connection1::connection_string()` if it is registered,
-/// otherwise the file at `Connection1::default_path()`.
-store_location default_store();
+/// When the whole file is checked for damage: while it is opened, or later, when the caller calls
+/// `check_soundness`, but before the first statement that writes. If the file has no table, or if opening
+/// changes its journal mode, it is always checked while it is opened.
+enum class soundness_check { while_opening, later };
 
 }  // namespace verdane

@@ -6,7 +6,6 @@
 #include "store/commits.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
-#include "store/engines/attached_copy.h"
 #include "store/engines/engine.h"
 #include "store/engines/sqlite.h"
 #include "store/schema.h"

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QSqlDatabase>
-#include <QStringList>
 
+#include "store/engines/attached_copy.h"
 #include "store/lock_wait.h"
 #include "store/store_location.h"
 
@@ -10,13 +10,6 @@ struct sqlite3;
 
 /// The committed rows of some tables, copied into memory.
 namespace verdane {
-
-/// What is copied.
-struct copied_tables {
-    QStringList names;
-    /// A longer text is cut to this number of characters, the last of which is then an ellipsis.
-    int most_characters = 0;
-};
 
 /// Copies tables, as one moment of the committed rows, from a store into `target`, an open and empty SQLite
 /// database in memory, which was opened with `QSQLITE_OPEN_URI`. Rows keep their order, columns their names

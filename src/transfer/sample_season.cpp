@@ -66,7 +66,7 @@ private:
 
     void add_partners()
     {
-        row_insertion insertion(store(), *find_table(u"partners"));
+        row_insertion insertion(store().engine(), *find_table(u"partners"));
         for (const person& each : people) {
             QString name = each.name.toString();
             QString surname = each.surname.toString();
@@ -151,10 +151,10 @@ private:
     sample_golfer golfer_{seed};
     std::vector<coded_course> courses_;
     QStringList partners_;
-    row_insertion games_{store(), *find_table(u"games")};
-    row_insertion games2_{store(), *find_table(u"games2")};
-    row_insertion cost_{store(), *find_table(u"cost")};
-    row_insertion shots_{store(), *find_table(u"Stat_rounds")};
+    row_insertion games_{store().engine(), *find_table(u"games")};
+    row_insertion games2_{store().engine(), *find_table(u"games2")};
+    row_insertion cost_{store().engine(), *find_table(u"cost")};
+    row_insertion shots_{store().engine(), *find_table(u"Stat_rounds")};
 };
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "store/Connection1.h"
-#include "store/fresh_store.h"
 #include "store/Recordset.h"
 #include "store/schema.h"
 #include "tests/support/engine_of_tests.h"

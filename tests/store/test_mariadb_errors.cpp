@@ -1,7 +1,7 @@
 #include <QTest>
 
+#include "store/engines/engine_choice.h"
 #include "store/engines/mariadb_errors.h"
-#include "store/engines/odbc_engine.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;

@@ -45,7 +45,8 @@ private Q_SLOTS:
                 connection.Execute(u"drop table " + row[0].toString());
             connection.Execute(u"vacuum"_s);
             connection.Execute(u"pragma max_page_count=6"_s);
-            QVERIFY(failure_of([&] { create_tables(connection); }) == failure_kind::store_full);
+            const auto run = [&](const QString& statement) { connection.Execute(statement); };
+            QVERIFY(failure_of([&] { create_tables(connection.engine(), run); }) == failure_kind::store_full);
             QCOMPARE(other.outside().number(u"select count(*) from sqlite_master"_s), 0);
             connection.Close();
             QVERIFY(QFile::copy(other.path(), path));

@@ -2,7 +2,6 @@
 
 #include <memory>
 
-#include "store/store_traffic.h"
 #include "store/tables/partners.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"

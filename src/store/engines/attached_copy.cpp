@@ -10,7 +10,6 @@
 
 #include "base/run_time_failure.h"
 #include "store/engines/sqlite.h"
-#include "store/table_copy.h"
 
 namespace verdane {
 

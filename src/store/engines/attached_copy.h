@@ -2,12 +2,18 @@
 
 #include <QSqlDatabase>
 #include <QString>
+#include <QStringList>
 
 #include "store/lock_wait.h"
 
 namespace verdane {
 
-struct copied_tables;
+/// What is copied.
+struct copied_tables {
+    QStringList names;
+    /// A longer text is cut to this number of characters, the last of which is then an ellipsis.
+    int most_characters = 0;
+};
 
 /// `copy_tables` from the file of the embedded engine: `target` attaches the file, read-only, while it
 /// copies.

@@ -6,6 +6,8 @@ class QLockFile;
 
 namespace verdane {
 
+class lock_wait;
+
 /// The SQLite library in this process, on one file. Commits survive a power cut (WAL, synchronous=FULL). A
 /// row is identified by the engine's row number, and values are bound.
 class embedded_engine : public store_engine {

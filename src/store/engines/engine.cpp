@@ -6,8 +6,6 @@
 
 #include <utility>
 
-#include "store/engines/embedded_engine.h"
-#include "store/engines/odbc_engine.h"
 #include "store/schema.h"
 
 namespace verdane {
@@ -133,14 +131,6 @@ QStringList store_engine::first_values(const QString& question) const
     while (query.next())
         values << query.value(0).toString();
     return values;
-}
-
-std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,
-                                          lock_wait& waiting)
-{
-    if (where.where == store_location::place::source)
-        return engine_of_source(name, where);
-    return std::make_unique<embedded_engine>(name, where, waiting);
 }
 
 }  // namespace verdane

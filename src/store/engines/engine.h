@@ -8,32 +8,17 @@
 #include <memory>
 
 #include "base/run_time_failure.h"
+#include "store/engines/commit_statements.h"
 #include "store/engines/result_rows.h"
 #include "store/prepared_statements.h"
 #include "store/select_statement.h"
-#include "store/soundness_check.h"
 #include "store/store_location.h"
 
 class QSqlError;
 
 namespace verdane {
 
-class lock_wait;
 struct table;
-
-/// The statements with which an engine commits.
-struct commit_statements {
-    /// Begins a transaction that locks nothing before its first statement that writes.
-    QString begin;
-    /// Begins a transaction that has the lock for writing from the start.
-    QString begin_locked;
-    QString finish;
-    QString undo;
-    /// From now on a commit may return before it has reached the disk, or may wait for `restore`.
-    QString relax;
-    /// The opposite of `relax`. Commits what has waited.
-    QString restore;
-};
 
 /// All that differs between the engines a store can be on. One object for each open connection; `Connection1`
 /// owns it. Nothing outside this library depends on which engine is open.
@@ -146,10 +131,5 @@ protected:
     const QString name_;
     const store_location where_;
 };
-
-/// The engine of a store, which is then to be opened. Fails like `engine_of_source` if the store is a source.
-/// `waiting` is how its statements wait for the lock of another program; it must exist as long as the engine.
-std::unique_ptr<store_engine> make_engine(const QString& name, const store_location& where,
-                                          lock_wait& waiting);
 
 }  // namespace verdane

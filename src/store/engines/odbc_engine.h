@@ -34,16 +34,4 @@ private:
     QString literal_of_text(const QString& text) const;
 };
 
-enum class source_kind { mariadb, sqlite, unsupported };
-
-/// Which engine a source belongs to. `server` is the value of `version()`, `sqlite` that of
-/// `sqlite_version()`; empty if the source has no such function. MariaDB before 10.5 is unsupported.
-source_kind kind_of_source(const QString& server, const QString& sqlite);
-
-/// Opens a registered source and returns the engine for it, which is then still to be opened itself. Its
-/// statements have the time-out of the opening until then. Fails
-/// like `open_link`, like `check_store_files` for a file, with `source_engine` if the source belongs to
-/// another engine, and with `source_silent` or `source_stopped` if the server does not run its first query.
-std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where);
-
 }  // namespace verdane

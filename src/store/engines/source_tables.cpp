@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/run_time_failure.h"
-#include "store/fresh_store.h"
 #include "store/schema.h"
 
 namespace verdane {

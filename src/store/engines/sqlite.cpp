@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-#include "store/engines/engine.h"
+#include "store/engines/commit_statements.h"
 
 namespace verdane {
 
