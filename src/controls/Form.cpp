@@ -22,6 +22,8 @@ namespace verdane {
 
 namespace {
 
+constexpr int top_twips = 40;
+
 /// The windows that are shown, in the order in which they were opened.
 std::vector<Form*>& open_forms()
 {
@@ -37,6 +39,8 @@ QWidget* parent_of_a_new_form()
 }
 
 }  // namespace
+
+QPointer<Form> current_form;
 
 Form::Form(QStringView family, twins kind)
     : french_(is_french), shortcuts_(new window_shortcuts(*this, french_))
@@ -176,6 +180,17 @@ Form* open_form(QStringView family)
     auto& forms = open_forms();
     const auto found = std::find_if(forms.begin(), forms.end(), of_family);
     return found == forms.end() ? nullptr : *found;
+}
+
+void Place_and_lock(Form& form)
+{
+    if (main_frame()) {
+        const QRect frame = main_frame()->frame_widget()->geometry();
+        const int left = (frame.width() - form.width()) / 2;
+        form.move(frame.topLeft() + QPoint(left, pixels(top_twips)));
+        keep_on_screen(form);
+    }
+    Lock_menu();
 }
 
 QPushButton* make_button(const QString& caption)

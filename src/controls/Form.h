@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QEventLoop>
+#include <QPointer>
 #include <QString>
 #include <QStringView>
 
@@ -99,6 +100,14 @@ Form* active_form();
 
 /// The open window of a family ("f_games"), either twin; null when there is none.
 Form* open_form(QStringView family);
+
+/// The window that the commands Save and Close act on. Each window sets it to itself when it opens; it is
+/// null once that window is deleted.
+extern QPointer<Form> current_form;
+
+/// Moves the window near the top of the main window, centred from left to right, but with no part off the
+/// screen, and locks the menu.
+void Place_and_lock(Form& form);
 
 /// A push button that Enter clicks only while it has the focus.
 QPushButton* make_button(const QString& caption);

@@ -2,6 +2,7 @@
 
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"
 #include "management/round_removal.h"

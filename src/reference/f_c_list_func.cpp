@@ -1,6 +1,7 @@
 #include "reference/f_c_list_func.h"
 
 #include "controls/boxes.h"
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "records/course_keys.h"
 #include "records/course_rows.h"

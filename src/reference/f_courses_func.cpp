@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "controls/boxes.h"
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "records/course_keys.h"
 #include "reference/edited_course.h"

@@ -6,6 +6,7 @@
 
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "reference/f_partners.h"
 #include "scoring/Verdane_tools.h"

@@ -5,6 +5,7 @@
 #include "controls/boxes.h"
 #include "controls/events.h"
 #include "controls/failure_guard.h"
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "reference/f_cost.h"
 #include "round/detailed_page.h"

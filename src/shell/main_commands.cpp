@@ -3,6 +3,7 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"
 #include "reference/f_c_list.h"

@@ -1,5 +1,6 @@
 #include "statistics/f_carte_func.h"
 
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "records/course_rows.h"
 #include "scoring/Verdane_tools.h"

@@ -1,6 +1,7 @@
 #include "statistics/f_date_range_func.h"
 
 #include "controls/boxes.h"
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "statistics/club_statistics.h"
 #include "statistics/cost_statistics.h"

@@ -9,7 +9,6 @@
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/Form.h"
-#include "controls/main_frame.h"
 #include "tests/support/hand.h"
 
 using namespace verdane;

@@ -11,7 +11,6 @@
 
 #include "controls/Form.h"
 #include "controls/look.h"
-#include "controls/main_frame.h"
 #include "controls/screen_limits.h"
 #include "controls/scrolled_content.h"
 #include "tests/support/recording_frame.h"

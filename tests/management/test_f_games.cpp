@@ -4,7 +4,7 @@
 
 #include "base/language.h"
 #include "controls/boxes.h"
-#include "controls/main_frame.h"
+#include "controls/Form.h"
 #include "management/f_games.h"
 #include "store/DataEnvironment1.h"
 #include "tests/support/recording_frame.h"

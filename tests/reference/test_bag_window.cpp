@@ -3,6 +3,7 @@
 #include <QListWidget>
 #include <QTest>
 
+#include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "records/Main_module.h"
 #include "reference/f_sticks.h"

@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "controls/main_frame.h"
+#include "controls/Form.h"
 #include "reference/f_courses.h"
 #include "tests/reference/course_windows.h"
 

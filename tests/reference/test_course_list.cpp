@@ -2,6 +2,7 @@
 
 #include "base/language.h"
 #include "controls/failure_guard.h"
+#include "controls/Form.h"
 #include "records/course_keys.h"
 #include "reference/f_c_list.h"
 #include "store/DataEnvironment1.h"

@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "base/language.h"
+#include "controls/Form.h"
 #include "reference/f_courses.h"
 #include "tests/reference/course_windows.h"
 #include "tests/support/hand_widgets.h"

@@ -2,7 +2,7 @@
 
 #include "base/language.h"
 #include "controls/data_grid.h"
-#include "controls/main_frame.h"
+#include "controls/Form.h"
 #include "reference/f_partners.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"

@@ -1,7 +1,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "controls/main_frame.h"
+#include "controls/Form.h"
 #include "records/Main_module.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"

@@ -3,7 +3,6 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "controls/main_frame.h"
 #include "reports/report_store.h"
 #include "statistics/f_carte.h"
 #include "tests/support/hand_widgets.h"

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "controls/main_frame.h"
+#include "controls/Form.h"
 #include "statistics/f_carte.h"
 #include "tests/statistics/scorecard_windows.h"
 #include "tests/support/hand_widgets.h"

@@ -3,7 +3,6 @@
 #include <QListWidget>
 #include <QTest>
 
-#include "controls/main_frame.h"
 #include "statistics/f_date_range.h"
 #include "statistics/f_date_range_func.h"
 #include "tests/statistics/selection_windows.h"

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "controls/boxes.h"
-#include "controls/main_frame.h"
+#include "controls/Form.h"
 #include "statistics/f_date_range.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/selection_windows.h"

@@ -3,7 +3,6 @@
 #include <QTest>
 
 #include "controls/Form.h"
-#include "controls/main_frame.h"
 
 namespace verdane::testing {
 
