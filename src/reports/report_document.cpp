@@ -10,6 +10,7 @@
 #include "reports/page/page_layout.h"
 #include "reports/page/report_drawings.h"
 #include "reports/query/report_snapshot.h"
+#include "reports/template/template_reader.h"
 
 namespace verdane {
 

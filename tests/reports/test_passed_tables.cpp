@@ -8,6 +8,7 @@
 #include "reports/report_document.h"
 #include "reports/report_store.h"
 #include "reports/template/template_file.h"
+#include "reports/template/template_reader.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/failures.h"
 #include "tests/support/store_folder.h"

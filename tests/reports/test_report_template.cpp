@@ -7,6 +7,7 @@
 #include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
+#include "reports/template/template_reader.h"
 #include "store/Connection1.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/outside_connection.h"

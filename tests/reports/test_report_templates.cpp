@@ -10,6 +10,7 @@
 #include "reports/report_document.h"
 #include "reports/report_store.h"
 #include "reports/template/template_file.h"
+#include "reports/template/template_reader.h"
 #include "tests/reports/invented_rows.h"
 #include "tests/reports/invented_season.h"
 #include "tests/reports/page_pictures.h"

@@ -15,6 +15,7 @@
 #include "reports/report_control.h"
 #include "reports/report_document.h"
 #include "reports/report_store.h"
+#include "reports/template/template_reader.h"
 #include "store/Connection1.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/failures.h"
