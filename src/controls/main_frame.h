@@ -19,6 +19,8 @@ public:
     virtual void unlock_menu() = 0;
     /// Enables or disables one tool button, by its key (`B1` to `B8`).
     virtual void enable_tool_button(QStringView key, bool enabled) = 0;
+    /// Unloads the window, loads it again in the current language and shows it.
+    virtual void reload() = 0;
     /// Called when the last other window is closed.
     virtual void activated() = 0;
 };

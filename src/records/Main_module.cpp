@@ -1,8 +1,13 @@
 #include "records/Main_module.h"
 
 #include "base/text.h"
+#include "store/DataEnvironment1.h"
+#include "store/scoped_source.h"
+#include "store/tables/golf_bag.h"
 
 namespace verdane {
+
+using namespace Qt::StringLiterals;
 
 namespace Main_module {
 
@@ -15,6 +20,32 @@ void append_round_key(const QString& key)
 {
     round_keys[plain(round_key_count)] = key;
     round_key_count = round_key_count + 1;
+}
+
+void load_club_names()
+{
+    Recordset& rssticknames = data_environment().rssticknames;
+    rssticknames.Open();
+    rssticknames.MoveFirst();
+    for (int i = 0; i < club_count; ++i)
+        club_names[i] = rssticknames.Fields(tables::sticknames::club(i + 1)).text_or_empty();
+    rssticknames.Close();
+    club_names_kept = true;
+}
+
+void load_round_keys()
+{
+    round_key_count = 0;
+    Recordset& rsgames = data_environment().rsgames;
+    // The rows of this table have many columns; only the key is needed.
+    constexpr int only_column = 0;
+    const scoped_source keys_only(rsgames, u"select date from games order by date"_s);
+    rsgames.Open();
+    if (!rsgames.eof()) {
+        for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
+            append_round_key(rsgames.Fields(only_column).trimmed());
+    }
+    rsgames.Close();
 }
 
 }  // namespace Main_module

@@ -29,6 +29,13 @@ extern bool club_names_kept;
 /// Appends a key. Fails with `subscript` if the list is full.
 void append_round_key(const QString& key);
 
+/// Copies the names of the 14 clubs from the store to `club_names`.
+void load_club_names();
+
+/// Copies the key of every stored round, in time order, to `round_keys`. Fails with `subscript`
+/// if there are more than 366.
+void load_round_keys();
+
 }  // namespace Main_module
 
 namespace Verdane_tools {

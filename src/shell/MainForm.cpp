@@ -14,7 +14,6 @@
 #include "controls/failure_guard.h"
 #include "controls/Form.h"
 #include "controls/screen_limits.h"
-#include "shell/f_lang.h"
 #include "shell/main_commands.h"
 
 namespace verdane {
@@ -141,7 +140,7 @@ void MainForm::load()
             actions_.at(entry.name.toString())->setText(caption_of(entry.caption));
     }
     name_tool_buttons();
-    tick_language(is_french ? french_value : english_value);
+    tick_language();
     shortcuts_.set_language(is_french);
     notes_->set_language(is_french);
 }
@@ -167,12 +166,12 @@ void MainForm::reload()
     activated();
 }
 
-void MainForm::tick_language(int value)
+void MainForm::tick_language()
 {
     for (const QString& name : {u"mfr"_s, u"mEn"_s})
         actions_.at(name)->setCheckable(true);
-    actions_.at(u"mfr"_s)->setChecked(value == french_value);
-    actions_.at(u"mEn"_s)->setChecked(value == english_value);
+    actions_.at(u"mfr"_s)->setChecked(is_french);
+    actions_.at(u"mEn"_s)->setChecked(!is_french);
 }
 
 void MainForm::set_locked(bool locked)

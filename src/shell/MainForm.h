@@ -29,21 +29,17 @@ public:
     /// Deletes it, after the last window is closed.
     static void end_of_run();
 
-    /// Ticks the menu entry of a language (`french_value` or `english_value`) and removes the tick of the
-    /// other.
-    void tick_language(int value);
     /// Shows a line below the picture that reports a problem, in the current language.
     void show_problem(const text_pair& line, const QString& details);
     /// Shows what to do first if no course is stored, and hides it otherwise. Called once after the start;
     /// from then on, the window calls it whenever it is activated.
     void update_first_steps();
-    /// Unloads the window, loads it again in the current language and shows it.
-    void reload();
 
     QWidget* frame_widget() override { return this; }
     void lock_menu() override { set_locked(true); }
     void unlock_menu() override { set_locked(false); }
     void enable_tool_button(QStringView key, bool enabled) override;
+    void reload() override;
     void activated() override;
 
 protected:
@@ -57,6 +53,7 @@ private:
     void add_pictures();
     void load();
     void name_tool_buttons();
+    void tick_language();
     void unload();
     void set_locked(bool locked);
     void fit_pictures();

@@ -7,11 +7,8 @@
 #include "base/language.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
-#include "controls/interface_language.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
-#include "shell/MainForm.h"
-#include "shell/start_up.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/settings.h"
 
@@ -28,15 +25,6 @@ QSvgWidget* make_emblem()
     auto* emblem = new QSvgWidget(u":/art/verdane.svg"_s);
     emblem->setFixedSize(icon_pixels, icon_pixels);
     return emblem;
-}
-
-void store_language(int value)
-{
-    Recordset& rssettings = data_environment().rssettings;
-    rssettings.Open();
-    rssettings.Fields(tables::settings::language).set(value);
-    rssettings.Update();
-    rssettings.Close();
 }
 
 }  // namespace
@@ -74,15 +62,6 @@ void f_lang::choose(int language)
     rssettings.Update();
     is_french = language == french_value;
     unload();
-}
-
-void change_language(int value)
-{
-    store_language(value);
-    MainForm::of_run()->tick_language(value);
-    set_interface_language(value == french_value);
-    load_club_names();
-    MainForm::of_run()->reload();
 }
 
 }  // namespace verdane

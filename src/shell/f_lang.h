@@ -24,8 +24,4 @@ constexpr bool is_language_value(int value)
     return value == french_value || value == english_value;
 }
 
-/// Changes the language of the interface: stores the value, reads the club names again and reloads the main
-/// window.
-void change_language(int value);
-
 }  // namespace verdane

@@ -4,19 +4,21 @@
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 #include "controls/Form.h"
+#include "controls/interface_language.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"
+#include "records/Main_module.h"
 #include "reference/f_c_list.h"
 #include "reference/f_partners.h"
 #include "reference/f_sticks.h"
 #include "round/f_new_round.h"
 #include "shell/f_about.h"
 #include "shell/f_lang.h"
-#include "shell/MainForm.h"
 #include "statistics/f_carte.h"
 #include "statistics/f_date_range.h"
 #include "store/DataEnvironment1.h"
 #include "store/orphan_shots.h"
+#include "store/tables/settings.h"
 
 namespace verdane {
 
@@ -53,6 +55,24 @@ void open_statistics(statistics_mode mode)
         return;
     }
     open_window<f_date_range>(mode);
+}
+
+void store_language(int value)
+{
+    Recordset& rssettings = data_environment().rssettings;
+    rssettings.Open();
+    rssettings.Fields(tables::settings::language).set(value);
+    rssettings.Update();
+    rssettings.Close();
+}
+
+/// Stores the value, reads the club names again and reloads the main window.
+void change_language(int value)
+{
+    store_language(value);
+    set_interface_language(value == french_value);
+    Main_module::load_club_names();
+    main_frame()->reload();
 }
 
 }  // namespace
@@ -170,7 +190,7 @@ void command_french()
 
 void command_quit()
 {
-    finishes_without_failure([] { MainForm::of_run()->close(); });
+    finishes_without_failure([] { main_frame()->frame_widget()->close(); });
 }
 
 }  // namespace verdane

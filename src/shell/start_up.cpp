@@ -13,14 +13,11 @@
 #include "controls/look.h"
 #include "records/Main_module.h"
 #include "reports/report_store.h"
-#include "scoring/limits.h"
 #include "shell/daily_copy.h"
 #include "shell/f_lang.h"
 #include "shell/MainForm.h"
 #include "shell/row_script.h"
 #include "store/DataEnvironment1.h"
-#include "store/scoped_source.h"
-#include "store/tables/golf_bag.h"
 #include "store/tables/settings.h"
 
 /// The pictures are resources of a static library. The linker would leave them out without this call, which
@@ -70,32 +67,6 @@ void finish_start(daily_copy& copy)
 
 }  // namespace
 
-void load_club_names()
-{
-    Recordset& rssticknames = data_environment().rssticknames;
-    rssticknames.Open();
-    rssticknames.MoveFirst();
-    for (int i = 0; i < club_count; ++i)
-        Main_module::club_names[i] = rssticknames.Fields(tables::sticknames::club(i + 1)).text_or_empty();
-    rssticknames.Close();
-    Main_module::club_names_kept = true;
-}
-
-void load_round_keys()
-{
-    Main_module::round_key_count = 0;
-    Recordset& rsgames = data_environment().rsgames;
-    // The rows of this table have many columns; only the key is needed.
-    constexpr int only_column = 0;
-    const scoped_source keys_only(rsgames, u"select date from games order by date"_s);
-    rsgames.Open();
-    if (!rsgames.eof()) {
-        for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
-            Main_module::append_round_key(rsgames.Fields(only_column).trimmed());
-    }
-    rsgames.Close();
-}
-
 start_result Main()
 {
     reset_interface_language();
@@ -108,11 +79,11 @@ start_result Main()
     Recordset& rssettings = data_environment().rssettings;
     rssettings.Open();
     const start_result result = load_language(rssettings);
-    load_club_names();
+    Main_module::load_club_names();
     if (result != start_result::running)
         return result;
     rssettings.Close();
-    load_round_keys();
+    Main_module::load_round_keys();
     MainForm::show_first();
     return result;
 }

@@ -21,11 +21,4 @@ enum class start_result {
 /// Opens the store, sets the language, loads the club names and the round keys, and shows the main window.
 start_result Main();
 
-/// Copies the names of the 14 clubs from the store to `Main_module::club_names`.
-void load_club_names();
-
-/// Copies the key of every stored round, in time order, to `Main_module::round_keys`. Fails with `subscript`
-/// if there are more than 366.
-void load_round_keys();
-
 }  // namespace verdane

@@ -22,6 +22,7 @@ public:
     void lock_menu() override { locked = true; }
     void unlock_menu() override { locked = false; }
     void enable_tool_button(QStringView key, bool enabled) override { buttons_[key.toString()] = enabled; }
+    void reload() override {}
     void activated() override { ++activations; }
 
     /// The last state of a tool button; enabled if it was never set.
