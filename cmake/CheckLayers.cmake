@@ -7,8 +7,9 @@
 # - A library links only libraries that are declared before it.
 # - An include in src/ names its folder, and the folder is that of the file or of a library linked,
 #   directly or through another one.
-# - In the folders of `folders_without_cycles`, with the folders in them, the sources can be ordered so that
-#   each includes only those before it. A source is a *.cpp with its header.
+# - The sources of a library can be ordered so that each includes only those before it. A source is a *.cpp
+#   with its header. The two sources of each of the `pairs` may include each other: a window and its routines, a
+#   grid and its delegate, a report and its output.
 # - The engines of the store are included by the store only.
 # - The diagram of docs/architecture.md has exactly these links.
 
@@ -57,16 +58,40 @@ foreach(folder ${folders})
   endforeach()
 endforeach()
 
-set(folders_without_cycles base scoring store records round transfer)
-foreach(folder ${folders_without_cycles})
+set(pairs
+  controls/data_grid      controls/cell_delegate
+  management/f_games      management/f_games_func
+  reference/f_c_list      reference/f_c_list_func
+  reference/f_cost        reference/f_cost_func
+  reference/f_courses     reference/f_courses_func
+  reference/f_partners    reference/f_partners_func
+  reference/f_sticks      reference/f_sticks_func
+  reports/report_document reports/output/report_output
+  statistics/f_carte      statistics/f_carte_func
+  statistics/f_date_range statistics/f_date_range_func)
+
+# The source of a file or of an included header. The second one of a pair counts as the first.
+function(source_of file result)
+  string(REGEX REPLACE "\\.(h|cpp)$" "" source ${file})
+  list(FIND pairs ${source} place)
+  math(EXPR is_second "${place} % 2")
+  if(is_second EQUAL 1)
+    math(EXPR place "${place} - 1")
+    list(GET pairs ${place} source)
+  endif()
+  set(${result} ${source} PARENT_SCOPE)
+endfunction()
+
+foreach(folder ${folders})
   file(GLOB_RECURSE files RELATIVE ${SOURCES}/src ${SOURCES}/src/${folder}/*.h ${SOURCES}/src/${folder}/*.cpp)
   set(sources)
   foreach(file ${files})
-    string(REGEX REPLACE "\\.(h|cpp)$" "" source ${file})
+    source_of(${file} source)
     list(APPEND sources ${source})
     file(STRINGS ${SOURCES}/src/${file} includes REGEX "^#include \"${folder}/")
     foreach(include ${includes})
-      string(REGEX REPLACE "^#include \"(.*)\\.h\".*" "\\1" included "${include}")
+      string(REGEX REPLACE "^#include \"(.*)\".*" "\\1" header "${include}")
+      source_of(${header} included)
       if(NOT included STREQUAL source)
         list(APPEND includes_of_${source} ${included})
       endif()
