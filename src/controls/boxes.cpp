@@ -1,7 +1,10 @@
 #include "controls/boxes.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QLabel>
 #include <QPointer>
+#include <QShortcut>
 #include <QWindow>
 
 namespace verdane {
@@ -17,6 +20,21 @@ void show_no_title(QWidget& box)
 {
     box.winId();
     box.windowHandle()->setTitle(u" "_s);
+}
+
+/// The selection if there is one, else all.
+QString copied_text(const QMessageBox& box)
+{
+    const auto* label = qobject_cast<const QLabel*>(box.focusWidget());
+    if (label && label->hasSelectedText())
+        return label->selectedText();
+    return box.text() + u"\n\n" + box.informativeText();
+}
+
+void copy_on_key(QMessageBox& box)
+{
+    QObject::connect(new QShortcut(QKeySequence::Copy, &box), &QShortcut::activated, &box,
+                     [&box] { QGuiApplication::clipboard()->setText(copied_text(box)); });
 }
 
 }  // namespace
@@ -58,6 +76,18 @@ bool ask_yes_no(const QString& text, const QString& title)
 {
     return show_message({text, QMessageBox::NoIcon, title, QMessageBox::Yes | QMessageBox::No}) ==
            QMessageBox::Yes;
+}
+
+std::unique_ptr<QMessageBox> failure_box(const run_time_failure& failure, const QString& words,
+                                         QWidget* parent)
+{
+    auto box =
+        std::make_unique<QMessageBox>(QMessageBox::Critical, default_title(), words, QMessageBox::Ok, parent);
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(failure.details());
+    box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    copy_on_key(*box);
+    return box;
 }
 
 void ring_bell()

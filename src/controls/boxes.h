@@ -3,6 +3,10 @@
 #include <QMessageBox>
 #include <QString>
 
+#include <memory>
+
+#include "base/run_time_failure.h"
+
 namespace verdane {
 
 /// The title of a message box that has no other.
@@ -29,6 +33,11 @@ void show_information(const QString& text, QMessageBox::Icon icon = QMessageBox:
 
 /// Shows a question with Yes and No; true for Yes.
 bool ask_yes_no(const QString& text, const QString& title = default_title());
+
+/// The message box of a failure above `parent`, not yet shown: `words` for the user, and below them the
+/// technical details. Ctrl+C copies both, or what is selected of them.
+std::unique_ptr<QMessageBox> failure_box(const run_time_failure& failure, const QString& words,
+                                         QWidget* parent);
 
 /// Rings the bell of the platform, which signals a refused key.
 void ring_bell();

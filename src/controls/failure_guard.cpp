@@ -7,7 +7,6 @@
 
 #include "base/failure_words.h"
 #include "controls/boxes.h"
-#include "controls/failure_box.h"
 #include "controls/interface_language.h"
 #include "store/DataEnvironment1.h"
 #include "store/recovery/copy_days.h"

@@ -11,7 +11,7 @@
 
 #include "base/failure_words.h"
 #include "base/run_time_failure.h"
-#include "controls/failure_box.h"
+#include "controls/boxes.h"
 #include "controls/screen_limits.h"
 #include "controls/shortcuts.h"
 #include "reports/preview/page_view.h"
