@@ -2,13 +2,16 @@
 
 #include <utility>
 
+#include "base/text.h"
+#include "records/course_rows.h"
 #include "records/round_rows.h"
 #include "scoring/limits.h"
 #include "scoring/round_lines.h"
-#include "statistics/season_round_row.h"
 #include "statistics/stats_table.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
+#include "store/tables/courses.h"
+#include "store/tables/games.h"
 #include "store/tables/stats.h"
 
 namespace verdane::Statistics {
@@ -40,6 +43,28 @@ void close_round_tables()
     DataEnvironment1& store = data_environment();
     for (Recordset* table : {&store.rsgames2, &store.rsgames, &store.rsvrd_fields, &store.rsfield_info})
         table->Close();
+}
+
+QString course_text(QStringView name, QStringView code)
+{
+    const QString tee = Verdane_tools::tee_name(code.right(1));
+    return trimmed_blanks(name) + (tee.isEmpty() ? QString() : u", " + tee);
+}
+
+/// Key, course, rating and slope of the round in the current rows of `rsgames` and `rsvrd_fields`, without
+/// its holes. The name of the tee is in the current language.
+season_round current_season_round()
+{
+    using namespace tables::vrd_fields;
+    Recordset& course = data_environment().rsvrd_fields;
+    Recordset& games = data_environment().rsgames;
+    season_round round;
+    round.key = trimmed_blanks(games.Fields(tables::games::date).text_or_empty()).toString();
+    round.course_code = trimmed_blanks(games.Fields(tables::games::CODEF).text_or_empty()).toString();
+    round.course = course_text(course.Fields(name).text_or_empty(), round.course_code);
+    round.rating = course.Fields(rating).double_or_zero();
+    round.slope = course.Fields(slope).double_or_zero();
+    return round;
 }
 
 /// Reads a hole of the round from the current rows, each column once.
