@@ -4,8 +4,8 @@
 
 #include "scoring/handicap_steps.h"
 #include "scoring/round_key.h"
-#include "scoring/season_courses.h"
 #include "scoring/season_holes.h"
+#include "scoring/season_rounds.h"
 
 namespace verdane::Statistics {
 

@@ -1,6 +1,5 @@
 #include <QTest>
 
-#include "scoring/season_courses.h"
 #include "scoring/season_holes.h"
 #include "scoring/season_rounds.h"
 #include "tests/support/failures.h"
