@@ -12,7 +12,7 @@
 #include "controls/lock_box.h"
 #include "controls/look.h"
 #include "records/Main_module.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "shell/daily_copy.h"
 #include "shell/f_lang.h"
 #include "shell/MainForm.h"

@@ -11,8 +11,8 @@
 #include "reports/preview/page_view.h"
 #include "reports/preview/report_dialogs.h"
 #include "reports/preview/report_preview.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/store_folder.h"
 

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "tests/reports/invented_rows.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/reader.h"

@@ -6,7 +6,6 @@
 #include "reports/query/report_snapshot.h"
 #include "reports/report_control.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "reports/template/template_file.h"
 #include "reports/template/template_reader.h"
 #include "tests/reports/report_tools.h"

@@ -5,8 +5,8 @@
 
 #include <map>
 
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "tests/reports/invented_rows.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/store_folder.h"

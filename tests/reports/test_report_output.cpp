@@ -8,8 +8,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/failures.h"
 #include "tests/support/store_folder.h"

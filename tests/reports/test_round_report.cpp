@@ -2,8 +2,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/reader.h"
 #include "tests/support/store_folder.h"

@@ -1,8 +1,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "tests/reports/invented_rows.h"
 #include "tests/reports/invented_season.h"
 #include "tests/reports/report_tools.h"

@@ -6,7 +6,6 @@
 #include "reports/fill/template_fill.h"
 #include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "reports/template/template_reader.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/store_folder.h"

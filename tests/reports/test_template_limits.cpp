@@ -4,8 +4,8 @@
 
 #include "base/run_time_failure.h"
 #include "reports/page/page_cuts.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "reports/template/page_limits.h"
 #include "tests/reports/report_tools.h"
 #include "tests/support/failures.h"

@@ -14,7 +14,6 @@
 #include "reports/query/report_tables.h"
 #include "reports/report_control.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "reports/template/template_reader.h"
 #include "store/Connection1.h"
 #include "tests/reports/report_tools.h"

@@ -1,7 +1,7 @@
 #include <QTest>
 
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "tests/reports/invented_rows.h"
 #include "tests/reports/invented_season.h"
 #include "tests/reports/printed_texts.h"

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "round/f_new_round.h"
 #include "statistics/putt_statistics.h"
 #include "store/DataEnvironment1.h"

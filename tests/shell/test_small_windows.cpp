@@ -5,7 +5,7 @@
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "reports/preview/report_preview.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "shell/f_about.h"
 #include "shell/MainForm.h"
 #include "shell/start_up.h"

@@ -4,8 +4,8 @@
 
 #include "controls/interface_language.h"
 #include "reports/preview/report_preview.h"
+#include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"
-#include "reports/report_store.h"
 #include "statistics/club_statistics.h"
 #include "statistics/cost_statistics.h"
 #include "statistics/f_carte.h"

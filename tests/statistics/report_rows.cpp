@@ -1,6 +1,6 @@
 #include "tests/statistics/report_rows.h"
 
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 
 namespace verdane::testing {
 

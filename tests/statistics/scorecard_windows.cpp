@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "statistics/f_carte.h"
 #include "tests/support/hand_widgets.h"
 

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "controls/boxes.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "statistics/cost_statistics.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/report_rows.h"

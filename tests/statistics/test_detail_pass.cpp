@@ -1,7 +1,7 @@
 #include <QTest>
 
 #include "controls/boxes.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "statistics/detail_pass.h"
 #include "statistics/stats_table.h"
 #include "store/DataEnvironment1.h"

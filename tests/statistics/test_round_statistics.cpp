@@ -3,7 +3,7 @@
 #include <numeric>
 
 #include "controls/boxes.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/support/stored_diary.h"

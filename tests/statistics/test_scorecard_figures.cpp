@@ -5,7 +5,7 @@
 
 #include "base/language.h"
 #include "reports/preview/report_dialogs.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "statistics/f_carte.h"
 #include "statistics/f_carte_func.h"
 #include "tests/statistics/scorecard_windows.h"

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <map>
 
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "store/DataEnvironment1.h"
 #include "tests/statistics/generated_diary.h"
 #include "tests/statistics/second_handicap.h"

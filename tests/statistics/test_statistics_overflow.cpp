@@ -6,7 +6,7 @@
 
 #include "base/failure_words.h"
 #include "base/run_time_failure.h"
-#include "reports/report_store.h"
+#include "reports/query/report_snapshot.h"
 #include "scoring/limits.h"
 #include "tests/statistics/selection_windows.h"
 #include "tests/support/hand.h"

@@ -9,7 +9,6 @@
 #include "base/run_time_failure.h"
 #include "controls/lock_box.h"
 #include "reports/query/report_tables.h"
-#include "reports/report_store.h"
 #include "reports/template/page_limits.h"
 #include "reports/template/query_text.h"
 #include "store/table_copy.h"
@@ -31,7 +30,23 @@ QString as_next_of_list(const QString& sql)
     return u",\n"_s + sql.sliced(match.capturedEnd());
 }
 
+store_location& store_of_reports()
+{
+    static store_location store;
+    return store;
+}
+
 }  // namespace
+
+void set_report_store(const store_location& store)
+{
+    store_of_reports() = store;
+}
+
+const store_location& report_store()
+{
+    return store_of_reports();
+}
 
 qsizetype characters_in(const std::vector<QVariant>& row)
 {

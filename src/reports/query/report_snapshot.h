@@ -15,6 +15,7 @@
 #include "reports/query/query_guard.h"
 #include "reports/query/report_tables.h"
 #include "reports/template/template_file.h"
+#include "store/store_location.h"
 
 class QSqlQuery;
 
@@ -45,6 +46,14 @@ private:
     QString where_;
     std::string what_;
 };
+
+/// Sets the store that reports read. The program calls it once, at the start. The name is empty before.
+void set_report_store(const store_location& store);
+inline void set_report_store(const QString& file)
+{
+    set_report_store(store_location::file(file));
+}
+const store_location& report_store();
 
 /// The committed rows of the report tables at one moment, copied into a database in memory, and the rows that
 /// a statistic has passed, so that a report can read nothing else and write nothing. It exists while the
