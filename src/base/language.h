@@ -7,7 +7,7 @@ namespace verdane {
 
 /// The language of the interface: true is French, false is English. It is true when the program starts, and
 /// `set_interface_language` changes it.
-extern bool is_french;
+inline bool is_french = true;
 
 /// One text in both languages. Neither is derived from the other.
 struct text_pair {
@@ -19,6 +19,9 @@ struct text_pair {
 };
 
 /// The text for the current language of the interface.
-QString in_language(QStringView french, QStringView english);
+inline QString in_language(QStringView french, QStringView english)
+{
+    return text_pair{french, english}.in(is_french);
+}
 
 }  // namespace verdane

@@ -4,6 +4,7 @@
 
 #include <exception>
 #include <string>
+#include <utility>
 
 namespace verdane {
 
@@ -49,7 +50,10 @@ class run_time_failure : public std::exception {
 public:
     /// `details` names what failed and where (a statement, a recordset, a file and line). It is shown below
     /// the text for the user, for the person who helps them.
-    run_time_failure(failure_kind kind, QString details);
+    run_time_failure(failure_kind kind, QString details)
+        : kind_(kind), details_(std::move(details)), what_(details_.toStdString())
+    {
+    }
 
     failure_kind kind() const { return kind_; }
     const QString& details() const { return details_; }
