@@ -79,8 +79,8 @@ void card_report(benchmark::State& state)
     set_report_store(diaries_of_run().full());
     f_carte window;
     f_carte_func::print(window);
-    delete window.cr2.preview();
-    show_pages(state, window.cr2);
+    delete window.cr2().preview();
+    show_pages(state, window.cr2());
     window.unload();
 }
 

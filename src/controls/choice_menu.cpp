@@ -20,7 +20,7 @@ std::chrono::milliseconds steady_time()
 
 }  // namespace
 
-std::function<std::chrono::milliseconds()> choice_menu::clock = steady_time;
+choice_menu::time_function choice_menu::clock_ = steady_time;
 
 QAction* choice_menu::add_choice(const QString& name, const QString& caption)
 {
@@ -86,7 +86,7 @@ bool choice_menu::choose_only(QChar letter)
 QString choice_menu::continued_by(QChar letter) const
 {
     const QString longer = typed_ + letter;
-    const bool in_time = clock() - typed_at_ <= longest_pause;
+    const bool in_time = clock_() - typed_at_ <= longest_pause;
     return in_time && !beginning_with(longer).isEmpty() ? longer : QString(letter);
 }
 
@@ -101,7 +101,7 @@ void choice_menu::mark(const QList<QAction*>& matching)
 bool choice_menu::choose_by_letter(QChar letter)
 {
     typed_ = continued_by(letter);
-    typed_at_ = clock();
+    typed_at_ = clock_();
     const QList<QAction*> matching = beginning_with(typed_);
     if (matching.isEmpty())
         return false;

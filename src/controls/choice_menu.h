@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <functional>
+#include <utility>
 
 namespace verdane {
 
@@ -15,8 +16,9 @@ class choice_menu : public QMenu {
 public:
     using QMenu::QMenu;
 
-    /// The time since a fixed moment. The default is the steady clock; tests set their own.
-    static std::function<std::chrono::milliseconds()> clock;
+    using time_function = std::function<std::chrono::milliseconds()>;
+    /// Replaces the steady clock in all menus, for tests: the time since a fixed moment.
+    static void set_clock(time_function clock) { clock_ = std::move(clock); }
 
     /// Adds an entry. Its caption is shown and found literally: an ampersand marks no mnemonic.
     QAction* add_choice(const QString& name, const QString& caption);
@@ -41,6 +43,8 @@ private:
     /// The letters typed within the last second and this one, if an entry begins with them; else this one.
     QString continued_by(QChar letter) const;
     void mark(const QList<QAction*>& matching);
+
+    static time_function clock_;
 
     QString typed_;
     std::chrono::milliseconds typed_at_{0};

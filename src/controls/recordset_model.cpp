@@ -106,8 +106,8 @@ void recordset_model::finish_row()
 {
     if (!std::exchange(row_written_, false))
         return;
-    if (before_row_commit)
-        before_row_commit();
+    if (before_row_commit_)
+        before_row_commit_();
 }
 
 void recordset_model::move_to(int row)

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "store/Recordset.h"
@@ -39,9 +40,9 @@ public:
     /// Updates the rows of the model from the recordset.
     void refresh();
 
-    /// Called before a row that was written through this model is left and committed.
-    std::function<void()> before_row_commit;
-    /// Calls `before_row_commit` if the current row was written since it became current.
+    /// Sets what is called before a row that was written through this model is left and committed.
+    void set_before_row_commit(std::function<void()> routine) { before_row_commit_ = std::move(routine); }
+    /// Calls that routine if the current row was written since it became current.
     void finish_row();
     /// Makes a row the current one, after `finish_row` for the row that is left. A failure of the commit is a
     /// failure of this function.
@@ -69,6 +70,7 @@ private:
 
     Recordset& source_;
     std::vector<bound_column> columns_;
+    std::function<void()> before_row_commit_;
     bool bound_ = false;
     bool row_written_ = false;
     int rows_ = 0;

@@ -74,7 +74,7 @@ f_partners::f_partners()
 data_grid* f_partners::make_grid() const
 {
     auto* model = new recordset_model(data_environment().rspartners, columns(*this));
-    model->before_row_commit = before_row_commit;
+    model->set_before_row_commit(before_row_commit);
     auto* grid = named(new data_grid(model), u"pgrid");
     grid->setAccessibleName(frame_->title());
     grid->setAlternatingRowColors(true);

@@ -47,7 +47,7 @@ wait_form::wait_form() : Form(u"wait", twins::one)
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-f_report::f_report() : Form(u"f_report", twins::one), cr2(this)
+f_report::f_report() : Form(u"f_report", twins::one), cr2_(this)
 {
     setWindowTitle(u"Verdane"_s);
     resize(window_size);

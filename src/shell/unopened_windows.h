@@ -31,7 +31,10 @@ class f_report : public Form {
 public:
     f_report();
 
-    report_control cr2;
+    report_control& cr2() { return cr2_; }
+
+private:
+    report_control cr2_;
 };
 
 }  // namespace verdane

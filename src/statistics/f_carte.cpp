@@ -28,7 +28,7 @@ constexpr int lines_in_view = 12;
 
 f_carte::f_carte()
     : Form(u"f_carte"),
-      cr2(this),
+      cr2_(this),
       courses_(named(make_list_box(characters_of_a_line, lines_in_view), u"List1"))
 {
     setWindowTitle(caption(u"Carte de pointage", u"Scorecard"));

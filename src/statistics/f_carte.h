@@ -27,7 +27,7 @@ public:
     /// The index of the selected line; -1 if the list is empty.
     int selected_course() const;
 
-    report_control cr2;
+    report_control& cr2() { return cr2_; }
 
 protected:
     void unloading() override;
@@ -37,6 +37,7 @@ private:
     QBoxLayout* make_buttons();
     void connect_events();
 
+    report_control cr2_;
     QListWidget* courses_;
     /// 0 OK, 1 cancel.
     control_array<QPushButton> buttons_{u"Command1"};

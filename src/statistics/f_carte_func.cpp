@@ -139,8 +139,8 @@ void print(f_carte& window)
     Round_functions::move_to_course(window.selected_course());
     Round_functions::find_holes_of_course(search_direction::backward);
     write_current_course();
-    prepare_report(window.cr2, report_opening::maximised(), u"\\r_card2.rpt", u"\\r_card2_en.rpt");
-    window.cr2.Action(report_control::run_now);
+    prepare_report(window.cr2(), report_opening::maximised(), u"\\r_card2.rpt", u"\\r_card2_en.rpt");
+    window.cr2().Action(report_control::run_now);
 }
 
 void cancel(f_carte& window)

@@ -53,9 +53,9 @@ struct mode_look {
 
 f_date_range::f_date_range(statistics_mode mode)
     : Form(u"f_date_range"),
-      cr1(this),
-      cr2(this),
-      cr3(this),
+      cr1_(this),
+      cr2_(this),
+      cr3_(this),
       mode_(mode),
       controls_(make_selection_controls(characters_of_a_line, lines_in_view)),
       progress_(make_progress_bar()),

@@ -45,9 +45,9 @@ public:
     run_controls controls_for(report_control& report) const { return {*progress_, report}; }
 
     /// The reports on clubs (`cr1`), on rounds and costs (`cr2`), on putts (`cr3`).
-    report_control cr1;
-    report_control cr2;
-    report_control cr3;
+    report_control& cr1() { return cr1_; }
+    report_control& cr2() { return cr2_; }
+    report_control& cr3() { return cr3_; }
 
     void closeForm() override;
 
@@ -65,6 +65,9 @@ private:
     void connect_events();
 
     const scoped_source costs_ = Statistics::whole_cost_table_afterwards();
+    report_control cr1_;
+    report_control cr2_;
+    report_control cr3_;
     const statistics_mode mode_;
     selection_controls controls_;
     QProgressBar* progress_;

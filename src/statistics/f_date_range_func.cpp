@@ -55,23 +55,23 @@ selection_arguments selection_of(const f_date_range& window)
 
 void run_club_statistics(f_date_range& window)
 {
-    const run_controls controls = window.controls_for(window.cr1);
+    const run_controls controls = window.controls_for(window.cr1());
     Statistics::club_statistics(selection_of(window), {&controls});
 }
 
 void run_round_statistics(f_date_range& window)
 {
-    Statistics::round_statistics(selection_of(window), window.controls_for(window.cr2));
+    Statistics::round_statistics(selection_of(window), window.controls_for(window.cr2()));
 }
 
 void run_cost_statistics(f_date_range& window)
 {
-    Statistics::cost_statistics(selection_of(window), window.controls_for(window.cr2));
+    Statistics::cost_statistics(selection_of(window), window.controls_for(window.cr2()));
 }
 
 void run_putt_statistics(f_date_range& window)
 {
-    Statistics::putt_statistics(selection_of(window), window.controls_for(window.cr3));
+    Statistics::putt_statistics(selection_of(window), window.controls_for(window.cr3()));
 }
 
 void cancel(f_date_range& window)

@@ -43,7 +43,7 @@ class test_choice_menu : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        choice_menu::clock = [] { return now; };
+        choice_menu::set_clock([] { return now; });
     }
 
     void letters_typed_within_a_second_are_combined_data()

@@ -114,10 +114,10 @@ private Q_SLOTS:
     {
         bound_shots shots;
         int finished = 0;
-        shots.model.before_row_commit = [&] {
+        shots.model.set_before_row_commit([&] {
             ++finished;
             shots.source.Fields(u"unit").set(u"done"_s);
-        };
+        });
         shots.model.move_to(1);
         QCOMPARE(finished, 0);
         shots.model.write(1, 2, u"44"_s);

@@ -99,13 +99,13 @@ private Q_SLOTS:
         set_report_store(store.location());
         f_report window;
         QCOMPARE(window.objectName(), u"f_report"_s);
-        prepare_report(window.cr2, report_opening::zoomed(75), u"\\r_card2.rpt", u"\\r_card2_en.rpt");
+        prepare_report(window.cr2(), report_opening::zoomed(75), u"\\r_card2.rpt", u"\\r_card2_en.rpt");
         play([&] { window.show_modal(); },
              [&](hand& user) {
                  user.wait_for_window(u"f_report"_s);
-                 user.look([&] { window.cr2.Action(report_control::run_now); });
+                 user.look([&] { window.cr2().Action(report_control::run_now); });
                  user.wait_for_window(u"report_preview"_s);
-                 user.look([&] { QCOMPARE(window.cr2.preview()->parentWidget(), &window); });
+                 user.look([&] { QCOMPARE(window.cr2().preview()->parentWidget(), &window); });
                  user.close_window(u"report_preview"_s);
                  user.wait_until_closed(u"report_preview"_s);
                  user.close_window(u"f_report"_s);

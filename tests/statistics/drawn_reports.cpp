@@ -46,7 +46,7 @@ void fill_card()
 {
     f_carte window;
     f_carte_func::print(window);
-    delete window.cr2.preview();
+    delete window.cr2().preview();
     window.unload();
 }
 

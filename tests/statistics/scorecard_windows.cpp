@@ -65,7 +65,7 @@ void close_card(hand& user)
         QCOMPARE(report->windowTitle(), u"Verdane International Inc."_s);
         QVERIFY(report->isMaximized());
         QCOMPARE(report->parentWidget()->objectName(), scorecard_window());
-        QCOMPARE(dynamic_cast<const f_carte&>(*active_form()).cr2.ReportFileName(),
+        QCOMPARE(dynamic_cast<f_carte&>(*active_form()).cr2().ReportFileName(),
                  QCoreApplication::applicationDirPath() + in_language(u"\\r_card2.rpt", u"\\r_card2_en.rpt"));
         report->close();
     });

@@ -21,7 +21,7 @@ namespace {
 struct launch {
     statistics_mode mode;
     QString button;
-    report_control f_date_range::*control;
+    report_control& (f_date_range::*control)();
     QStringView french_file;
     QStringView english_file;
 };
@@ -135,7 +135,7 @@ void close_report(hand& user, statistics_mode mode)
     user.wait_until(u"the report"_s, [&] { return visible_window(preview) != nullptr; });
     user.look([&] {
         const launch& expected = launch_of(mode);
-        const auto& control = dynamic_cast<f_date_range&>(*active_form()).*expected.control;
+        const auto& control = (dynamic_cast<f_date_range&>(*active_form()).*expected.control)();
         const bool zoomed = mode == statistics_mode::putt;
         QWidget* report = visible_window(preview);
         QCOMPARE(report->windowTitle(), u"Verdane International Inc."_s);

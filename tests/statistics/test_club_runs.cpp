@@ -160,13 +160,13 @@ private Q_SLOTS:
                 user.wait_until(u"the message"_s,
                                 [] { return QApplication::activeModalWidget() != active_form(); });
                 user.look([&] {
-                    const auto& window = dynamic_cast<f_date_range&>(*active_form());
+                    auto& window = dynamic_cast<f_date_range&>(*active_form());
                     QVERIFY(!find_control<QProgressBar>(window, u"Status"_s).isVisible());
                     QCOMPARE(shots.club(1)[1], u"0"_s);
                     QVERIFY(open_recordsets().isEmpty());
                     // The report was set up before anything was computed.
-                    QVERIFY(window.cr1.ReportFileName().endsWith(french ? u"\\r_statSticks.rpt"_s
-                                                                        : u"\\r_statSticks_en.rpt"_s));
+                    QVERIFY(window.cr1().ReportFileName().endsWith(french ? u"\\r_statSticks.rpt"_s
+                                                                          : u"\\r_statSticks_en.rpt"_s));
                 });
                 answer_no_shots(user);
                 user.check(!user.is_open(u"report_preview"_s), u"no report"_s);

@@ -194,11 +194,11 @@ private Q_SLOTS:
                 user.wait_until(u"the message"_s,
                                 [] { return QApplication::activeModalWidget() != active_form(); });
                 user.look([&] {
-                    const auto& window = dynamic_cast<f_date_range&>(*active_form());
+                    auto& window = dynamic_cast<f_date_range&>(*active_form());
                     const auto& bar = find_control<QProgressBar>(window, u"Status"_s);
                     QVERIFY(bar.isVisible());
                     QCOMPARE(bar.value(), 0);
-                    QVERIFY(window.cr2.ReportFileName().isEmpty());
+                    QVERIFY(window.cr2().ReportFileName().isEmpty());
                     QVERIFY(costs.report().isEmpty());
                 });
                 answer_no_costs(user);

@@ -115,10 +115,10 @@ private Q_SLOTS:
                     user.check(!find_control<QProgressBar>(window, u"Status"_s).isVisible(),
                                u"the bar is hidden before the box opens"_s);
                     // The report is set up before the count, and not launched.
-                    user.check(window.cr3.ReportFileName().endsWith(french ? u"statPuts.rpt"_s
-                                                                           : u"statPuts_en.rpt"_s),
+                    user.check(window.cr3().ReportFileName().endsWith(french ? u"statPuts.rpt"_s
+                                                                             : u"statPuts_en.rpt"_s),
                                u"template"_s);
-                    user.check(window.cr3.preview() == nullptr, u"no report"_s);
+                    user.check(window.cr3().preview() == nullptr, u"no report"_s);
                 });
                 answer_no_putts(user);
                 user.check(!user.visible(u"Status"_s), u"the bar is hidden"_s);

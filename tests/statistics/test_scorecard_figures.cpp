@@ -141,7 +141,7 @@ private Q_SLOTS:
         const auto before = store.book.store.rows(u"select * from r_card"_s);
         f_carte window;
         QCOMPARE(failure_of([&] { f_carte_func::print(window); }), failure_kind::misuse);
-        QVERIFY(window.cr2.preview() == nullptr);
+        QVERIFY(window.cr2().preview() == nullptr);
         QCOMPARE(store.book.store.rows(u"select * from r_card"_s), before);
         window.unload();
     }
@@ -152,9 +152,9 @@ private Q_SLOTS:
         set_report_store(u"nowhere.sqlite"_s);
         f_carte window;
         QCOMPARE(failure_of([&] { f_carte_func::print(window); }), failure_kind::store_unreachable);
-        QVERIFY(window.cr2.preview() == nullptr);
-        QCOMPARE(window.cr2.WindowState(), report_control::maximised);
-        QVERIFY(!window.cr2.page_zoom());
+        QVERIFY(window.cr2().preview() == nullptr);
+        QCOMPARE(window.cr2().WindowState(), report_control::maximised);
+        QVERIFY(!window.cr2().page_zoom());
         QCOMPARE(store.card(2)[37].toString(), u"Pebble Beach"_s);
         QCOMPARE(open_recordsets(), (QStringList{u"rsvrd_fields"_s, u"rsfield_info"_s}));
         window.unload();

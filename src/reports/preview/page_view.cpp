@@ -150,8 +150,7 @@ void page_view::scroll_to(int y, std::optional<int> wanted_page)
     verticalScrollBar()->setValue(y);
     wanted_page_ = wanted_page;
     viewport()->update();
-    if (on_change)
-        on_change();
+    Q_EMIT changed();
 }
 
 void page_view::set_up_scroll_bars()
@@ -190,8 +189,7 @@ void page_view::resizeEvent(QResizeEvent* event)
     if (fitted_)
         zoom_to_width();
     set_up_scroll_bars();
-    if (on_change)
-        on_change();
+    Q_EMIT changed();
 }
 
 void page_view::scrollContentsBy(int, int dy)
@@ -199,8 +197,7 @@ void page_view::scrollContentsBy(int, int dy)
     if (dy != 0)
         wanted_page_.reset();
     viewport()->update();
-    if (on_change)
-        on_change();
+    Q_EMIT changed();
 }
 
 void page_view::wheelEvent(QWheelEvent* event)

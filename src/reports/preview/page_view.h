@@ -2,7 +2,6 @@
 
 #include <QAbstractScrollArea>
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -12,6 +11,8 @@ class report_document;
 
 /// The pages of a report below one another, at a zoom in percent of their true size.
 class page_view : public QAbstractScrollArea {
+    Q_OBJECT
+
 public:
     static constexpr int least_zoom = 25;
     static constexpr int most_zoom = 400;
@@ -33,8 +34,9 @@ public:
     void previous_page();
     void next_page();
 
-    /// Called whenever the zoom or the current page may have changed.
-    std::function<void()> on_change;
+Q_SIGNALS:
+    /// The zoom or the current page may have changed.
+    void changed();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

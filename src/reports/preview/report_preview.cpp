@@ -43,7 +43,7 @@ void report_preview::build()
 {
     pages_ = new page_view(document_, this);
     pages_->setAccessibleName(u"Pages"_s);
-    pages_->on_change = [this] { show_state(); };
+    connect(pages_, &page_view::changed, this, &report_preview::show_state);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
