@@ -1,0 +1,65 @@
+#include "reports/query/query_functions.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <sqlite3.h>
+
+namespace verdane {
+
+namespace {
+
+constexpr qsizetype most_trimmed_characters = 1000;
+
+struct trimmed_sides {
+    bool left;
+    bool right;
+};
+// The engine passes a pointer to one of them to every call of its function.
+trimmed_sides both{true, true};
+trimmed_sides only_left{true, false};
+trimmed_sides only_right{false, true};
+
+QList<uint> characters_of(sqlite3_value* value)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return QString::fromUtf8(text, sqlite3_value_bytes(value)).toUcs4();
+}
+
+void trim(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+        return;
+    const QList<uint> listed = characters_of(arguments[1]);
+    if (listed.size() > most_trimmed_characters)
+        return sqlite3_result_error(context, "trim takes a list of at most 1000 characters", -1);
+    const auto& sides = *static_cast<const trimmed_sides*>(sqlite3_user_data(context));
+    const QList<uint> text = characters_of(arguments[0]);
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (sides.left && start < end && listed.contains(text[start]))
+        ++start;
+    while (sides.right && start < end && listed.contains(text[end - 1]))
+        --end;
+    const QByteArray result =
+        QString::fromUcs4(reinterpret_cast<const char32_t*>(text.constData()) + start, end - start).toUtf8();
+    sqlite3_result_text(context, result.constData(), static_cast<int>(result.size()), SQLITE_TRANSIENT);
+}
+
+void replace_function(sqlite3* connection, const char* name, trimmed_sides& sides)
+{
+    sqlite3_create_function(connection, name, 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, &sides, trim, nullptr,
+                            nullptr);
+}
+
+}  // namespace
+
+void limit_trim(sqlite3* connection)
+{
+    replace_function(connection, "trim", both);
+    replace_function(connection, "ltrim", only_left);
+    replace_function(connection, "rtrim", only_right);
+}
+
+}  // namespace verdane
