@@ -263,26 +263,6 @@ private Q_SLOTS:
         QVERIFY2(complaint.startsWith(u"try.rpt:1: query bad: "_s + words), qPrintable(complaint));
     }
 
-    void functions_with_a_limit_give_the_results_of_the_engine_data()
-    {
-        QTest::addColumn<QString>("sql");
-        for (const QString& sql :
-             {u"rtrim('2.500', '0')"_s, u"ltrim('0012', '0')"_s, u"trim('--é--', '-')"_s,
-              u"trim('éàxàé', 'àé')"_s, u"trim('xxx', 'x')"_s, u"trim('', 'x')"_s, u"trim('x', '')"_s,
-              u"trim(null, 'x')"_s, u"trim('x', null)"_s, u"rtrim(2.50, 5)"_s, u"trim('  x ')"_s,
-              u"printf('%.9999c', 'x')"_s, u"trim('😀x😁', '😀')"_s})
-            QTest::newRow(qPrintable(sql)) << sql;
-    }
-    void functions_with_a_limit_give_the_results_of_the_engine()
-    {
-        QFETCH(QString, sql);
-        const QString select = u"select quote("_s + sql + u") as n"_s;
-        const template_file source = read_template(written(u"query it = "_s + select + u'\n'));
-        const report_snapshot snapshot(source);
-        QCOMPARE(snapshot.rows(source.queries[0]).rows[0][0].toString(),
-                 reader(store_.location()).text(select));
-    }
-
     void a_report_waits_until_another_program_unlocks_the_store()
     {
         set_report_store(file_without_log(folder_));
