@@ -45,6 +45,36 @@ private Q_SLOTS:
         QCOMPARE(snapshot.rows(source.queries[0]).rows[0][0].toString(),
                  reader(store_.location()).text(select));
     }
+
+    void a_number_of_five_digits_and_more_is_grouped_by_thousands_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<QString>("result");
+        const auto row = [](const QString& sql, const QString& result) {
+            QTest::newRow(qPrintable(sql)) << sql << result;
+        };
+        row(u"grouped(0, ',')"_s, u"0"_s);
+        row(u"grouped(9999, ',')"_s, u"9999"_s);
+        row(u"grouped(10000, ',')"_s, u"'10,000'"_s);
+        row(u"grouped(123456, ' ')"_s, u"'123 456'"_s);
+        row(u"grouped(2147483647, ',')"_s, u"'2,147,483,647'"_s);
+        row(u"grouped(-9999, ',')"_s, u"-9999"_s);
+        row(u"grouped(-10000, ',')"_s, u"'-10,000'"_s);
+        row(u"grouped(-123456, ',')"_s, u"'-123,456'"_s);
+        row(u"grouped('9999.99', ' ')"_s, u"'9999.99'"_s);
+        row(u"grouped('12345.67', ' ')"_s, u"'12 345.67'"_s);
+        row(u"grouped('-1234567.80', ',')"_s, u"'-1,234,567.80'"_s);
+        row(u"grouped(null, ',')"_s, u"NULL"_s);
+    }
+    void a_number_of_five_digits_and_more_is_grouped_by_thousands()
+    {
+        QFETCH(QString, sql);
+        QFETCH(QString, result);
+        const template_file source =
+            read_template(written(u"query it = select quote("_s + sql + u") as n\n"_s));
+        const report_snapshot snapshot(source);
+        QCOMPARE(snapshot.rows(source.queries[0]).rows[0][0].toString(), result);
+    }
 };
 
 QTEST_MAIN(test_query_functions)

@@ -6,9 +6,37 @@
 
 #include <sqlite3.h>
 
+#include <cmath>
+
 namespace verdane {
 
 namespace {
+
+constexpr double least_grouped_number = 10'000;
+constexpr qsizetype digits_of_group = 3;
+
+QString text_of(sqlite3_value* value)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return QString::fromUtf8(text, sqlite3_value_bytes(value));
+}
+
+void group(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL)
+        return;
+    if (std::abs(sqlite3_value_double(arguments[0])) < least_grouped_number)
+        return sqlite3_result_value(context, arguments[0]);
+    QString number = text_of(arguments[0]);
+    const QString separator = text_of(arguments[1]);
+    const qsizetype first_digit = number.startsWith(u'-') ? 1 : 0;
+    const qsizetype point = number.indexOf(u'.');
+    for (qsizetype place = (point < 0 ? number.size() : point) - digits_of_group; place > first_digit;
+         place -= digits_of_group)
+        number.insert(place, separator);
+    const QByteArray result = number.toUtf8();
+    sqlite3_result_text(context, result.constData(), static_cast<int>(result.size()), SQLITE_TRANSIENT);
+}
 
 constexpr qsizetype most_trimmed_characters = 1000;
 
@@ -23,8 +51,7 @@ trimmed_sides only_right{false, true};
 
 QList<uint> characters_of(sqlite3_value* value)
 {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-    return QString::fromUtf8(text, sqlite3_value_bytes(value)).toUcs4();
+    return text_of(value).toUcs4();
 }
 
 void trim(sqlite3_context* context, int, sqlite3_value** arguments)
@@ -60,6 +87,12 @@ void limit_trim(sqlite3* connection)
     replace_function(connection, "trim", both);
     replace_function(connection, "ltrim", only_left);
     replace_function(connection, "rtrim", only_right);
+}
+
+void add_grouped(sqlite3* connection)
+{
+    sqlite3_create_function(connection, "grouped", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, group,
+                            nullptr, nullptr);
 }
 
 }  // namespace verdane

@@ -10,4 +10,9 @@ namespace verdane {
 /// replacements fail when the list has more than 1,000 characters; otherwise the result is the same.
 void limit_trim(sqlite3* connection);
 
+/// Adds `grouped(number, separator)`: the number with its digits grouped by thousands. A number of at most
+/// four digits before the point is returned unchanged, as the engine has it. The number may be a text, and
+/// keeps its decimals. Null if the number is Null.
+void add_grouped(sqlite3* connection);
+
 }  // namespace verdane

@@ -62,6 +62,7 @@ query_guard::query_guard(const QSqlDatabase& database, continue_check may_contin
     sqlite3_progress_handler(connection_, steps_between_checks, interrupt, this);
     sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, most_bytes);
     limit_trim(connection_);
+    add_grouped(connection_);
     memory_limit_before_ = sqlite3_hard_heap_limit64(sqlite3_memory_used() + most_memory);
 }
 
