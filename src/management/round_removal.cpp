@@ -39,7 +39,7 @@ void open_at_round(Recordset& rows, const QString& source, const QString& key)
 void delete_shots(const QString& key)
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    open_at_round(shots, u"select * from Stat_rounds order by date,hole"_s, key);
+    open_at_round(shots, tables::Stat_rounds::source_of_removal.toString(), key);
     if (!shots.eof())
         delete_to_the_end(shots, key);
     shots.Close();

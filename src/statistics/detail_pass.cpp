@@ -54,7 +54,7 @@ QString detail_select(const selection_arguments& chosen)
 std::vector<detailed_hole> gather_detail(const selection_arguments& chosen)
 {
     Recordset& shots = data_environment().rsStat_rounds;
-    const scoped_source selection(shots, detail_select(chosen), u"select * from Stat_rounds"_s);
+    const scoped_source selection(shots, detail_select(chosen), shots.settings().source);
     shots.Open();
     std::vector<detailed_hole> holes;
     for (; !shots.eof(); shots.MoveNext())

@@ -70,7 +70,7 @@ putt_counts putts_of_current_round()
 std::optional<gathered_putts> gather_putts(const selection_arguments& chosen, run_progress& bar)
 {
     Recordset& games2 = data_environment().rsgames2;
-    const scoped_source selection(games2, putt_select(chosen), u"select * from games2"_s);
+    const scoped_source selection(games2, putt_select(chosen), tables::games2::source_after_run.toString());
     games2.Open(columns_read());
     std::optional<gathered_putts> gathered;
     if (find_first_round(chosen))

@@ -6,6 +6,7 @@
 #include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
+#include "store/tables/games.h"
 #include "store/tables/hand.h"
 
 namespace verdane::Statistics {
@@ -79,8 +80,10 @@ QString handicap_of_sorted_differentials()
 handicap_result compute_handicap(const selection_arguments& chosen)
 {
     DataEnvironment1& store = data_environment();
-    const scoped_source rounds(store.rsgames, selected_rounds_statement(chosen), u"Select * from games"_s);
-    const scoped_source differentials(store.rshand, store.rshand.Source(), u"select * from hand"_s);
+    const scoped_source rounds(store.rsgames, selected_rounds_statement(chosen),
+                               tables::games::source_after_run.toString());
+    const scoped_source differentials(store.rshand, store.rshand.Source(),
+                                      tables::hand::source_after_run.toString());
     open_recordsets();
     handicap_result result{gather_differentials(chosen), {}};
     if (result.missing == missing_row::none) {

@@ -153,7 +153,7 @@ void write_lines(const round_sums& sums)
 filled_lines fill_round_lines(const selection_arguments& chosen)
 {
     const scoped_source rounds(data_environment().rsgames, selected_rounds_statement(chosen),
-                               u"Select * from games"_s);
+                               tables::games::source_after_run.toString());
     open_round_tables();
     round_sums sums;
     season_rounds season;

@@ -36,7 +36,7 @@ void open_rounds_and_shots(Recordset& rounds, Recordset& shots)
 {
     rounds.set_Source(rounds.settings().source);
     rounds.Open();
-    shots.set_Source(u"select * from Stat_rounds order by date,hole"_s);
+    shots.set_Source(tables::Stat_rounds::source_of_removal.toString());
     // All shots of the diary: the requery does not read them, so they are read once.
     shots.Open(row_reading::when_needed);
     shots.Requery();

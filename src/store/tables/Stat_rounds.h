@@ -32,6 +32,8 @@ inline constexpr table_declaration table{.name = u"Stat_rounds",
 inline constexpr recordset_declaration rsStat_rounds{.name = u"rsStat_rounds",
                                                      .source = u"select * from Stat_rounds"};
 inline constexpr recordset_declaration rsbuffer{.name = u"rsbuffer", .source = u"select * from stat_rounds"};
+/// The statement with which shots are deleted. It stays in force.
+inline constexpr QStringView source_of_removal = u"select * from Stat_rounds order by date,hole";
 
 inline constexpr int date = columns.ordinal(u"date");
 inline constexpr int hole = columns.ordinal(u"hole");

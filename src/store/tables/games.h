@@ -24,6 +24,8 @@ inline constexpr table_declaration table{
 
 inline constexpr recordset_declaration rsgames{
     .name = u"rsgames", .source = u"select *  from games order by date", .cursor = cursor_type::dynamic};
+/// The statement that is in force after a run of a statistic has set another one.
+inline constexpr QStringView source_after_run = u"Select * from games";
 
 inline constexpr int date = columns.ordinal(u"date");
 /// The name of the course.

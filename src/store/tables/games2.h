@@ -24,6 +24,8 @@ inline constexpr table_declaration table{
 
 inline constexpr recordset_declaration rsgames2{.name = u"rsgames2",
                                                 .source = u"select * from games2 order by date"};
+/// The statement that is in force after a run of a statistic has set another one.
+inline constexpr QStringView source_after_run = u"select * from games2";
 
 inline constexpr int date = columns.ordinal(u"date");
 /// The weather, an index of `weather_words`.

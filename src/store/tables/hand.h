@@ -14,6 +14,8 @@ inline constexpr recordset_declaration rshand{.name = u"rshand",
                                               .source = u"select hnd from HAND ",
                                               .lock = lock_type::batch_optimistic,
                                               .location = cursor_location::client};
+/// The statement that is in force after a run of a statistic has set another one.
+inline constexpr QStringView source_after_run = u"select * from hand";
 
 inline constexpr int hnd = columns.ordinal(u"hnd");
 
