@@ -2,6 +2,9 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <array>
+
 namespace verdane {
 
 using namespace Qt::StringLiterals;
@@ -69,6 +72,53 @@ bool names_full_disk_of_storage(const QString& text)
     return names_error(text, u"28|135"_s);
 }
 
+/// After the driver has reported that the connection is lost, it reports nothing.
+bool is_nothing(const QString& text)
+{
+    return text.isEmpty();
+}
+
+struct error_meaning {
+    int number;
+    failure_kind kind;
+    /// Whether the error has that meaning with a text; always if null.
+    bool (*applies)(const QString& text) = nullptr;
+};
+
+/// What an error of a statement means. All others are `store_other`.
+constexpr std::array meanings{
+    error_meaning{0, failure_kind::source_lost, is_nothing},
+    error_meaning{code::server_shutdown, failure_kind::source_lost},
+    error_meaning{code::connection_killed, failure_kind::source_lost},
+    error_meaning{code::connection_lost, failure_kind::source_lost},
+    error_meaning{code::server_lost, failure_kind::source_lost},
+    error_meaning{code::server_lost_extended, failure_kind::source_lost},
+    error_meaning{code::connection_error, failure_kind::source_lost},
+    error_meaning{code::lock_wait_timeout, failure_kind::store_locked},
+    error_meaning{code::deadlock, failure_kind::store_locked},
+    error_meaning{code::database_denied, failure_kind::source_read_only},
+    error_meaning{code::table_denied, failure_kind::source_read_only},
+    error_meaning{code::column_denied, failure_kind::source_read_only},
+    error_meaning{code::privilege_missing, failure_kind::source_read_only},
+    error_meaning{code::read_only_server, failure_kind::source_read_only},
+    error_meaning{code::read_only_transaction, failure_kind::source_read_only},
+    error_meaning{code::read_only_mode, failure_kind::source_read_only},
+    error_meaning{code::no_such_table, failure_kind::source_part},
+    error_meaning{code::unknown_column, failure_kind::source_part},
+    error_meaning{code::out_of_range, failure_kind::source_value},
+    error_meaning{code::incorrect_value, failure_kind::source_value},
+    error_meaning{code::too_long, failure_kind::source_value},
+    error_meaning{code::no_database_selected, failure_kind::source_database},
+    error_meaning{code::disk_full, failure_kind::source_full},
+    error_meaning{code::table_full, failure_kind::source_full},
+    error_meaning{code::cannot_make_file, failure_kind::source_full, names_full_disk_of_file},
+    error_meaning{code::error_on_write, failure_kind::source_full, names_full_disk_of_file},
+    error_meaning{code::error_writing_file, failure_kind::source_full, names_full_disk_of_file},
+    error_meaning{code::cannot_create_table, failure_kind::source_full, names_full_disk_of_storage},
+    error_meaning{code::storage_error, failure_kind::source_full, names_full_disk_of_storage},
+    error_meaning{code::error_during_commit, failure_kind::source_full, names_full_disk_of_storage},
+};
+
 }  // namespace
 
 failure_kind kind_of_mariadb_opening(int number)
@@ -105,51 +155,10 @@ std::optional<failure_kind> kind_of_unusable_server(int number, const QString& t
 
 failure_kind kind_of_mariadb_error(int number, const QString& text)
 {
-    switch (number) {
-    case 0:
-        // After the driver has reported that the connection is lost, it reports nothing.
-        return text.isEmpty() ? failure_kind::source_lost : failure_kind::store_other;
-    case code::server_shutdown:
-    case code::connection_killed:
-    case code::connection_lost:
-    case code::server_lost:
-    case code::server_lost_extended:
-    case code::connection_error:
-        return failure_kind::source_lost;
-    case code::lock_wait_timeout:
-    case code::deadlock:
-        return failure_kind::store_locked;
-    case code::database_denied:
-    case code::table_denied:
-    case code::column_denied:
-    case code::privilege_missing:
-    case code::read_only_server:
-    case code::read_only_transaction:
-    case code::read_only_mode:
-        return failure_kind::source_read_only;
-    case code::no_such_table:
-    case code::unknown_column:
-        return failure_kind::source_part;
-    case code::out_of_range:
-    case code::incorrect_value:
-    case code::too_long:
-        return failure_kind::source_value;
-    case code::no_database_selected:
-        return failure_kind::source_database;
-    case code::disk_full:
-    case code::table_full:
-        return failure_kind::source_full;
-    case code::cannot_make_file:
-    case code::error_on_write:
-    case code::error_writing_file:
-        return names_full_disk_of_file(text) ? failure_kind::source_full : failure_kind::store_other;
-    case code::cannot_create_table:
-    case code::storage_error:
-    case code::error_during_commit:
-        return names_full_disk_of_storage(text) ? failure_kind::source_full : failure_kind::store_other;
-    default:
-        return failure_kind::store_other;
-    }
+    const auto found = std::find_if(meanings.begin(), meanings.end(), [&](const error_meaning& meaning) {
+        return meaning.number == number && (meaning.applies == nullptr || meaning.applies(text));
+    });
+    return found == meanings.end() ? failure_kind::store_other : found->kind;
 }
 
 }  // namespace verdane
