@@ -13,6 +13,7 @@
 #include "base/language.h"
 #include "controls/box_focus.h"
 #include "controls/failure_guard.h"
+#include "controls/look.h"
 #include "controls/main_frame.h"
 #include "controls/screen_limits.h"
 #include "controls/scrolled_content.h"
@@ -197,6 +198,13 @@ QPushButton* make_button(const QString& caption)
 {
     auto* button = new QPushButton(caption);
     button->setAutoDefault(false);
+    return button;
+}
+
+QPushButton* make_end_button(const QString& caption)
+{
+    auto* button = make_button(caption);
+    button->setMinimumWidth(12 * rhythm);
     return button;
 }
 

@@ -52,7 +52,7 @@ QLabel* make_mark(const QString& name)
 f_cost::f_cost()
     : Form(u"f_cost"),
       total_(named(make_figure(total_digits), u"Text1")),
-      ok_(named(make_button(u"OK"_s), u"OKButton"))
+      ok_(named(make_end_button(u"OK"_s), u"OKButton"))
 {
     setWindowTitle(caption(u"Coûts", u"Costs"));
     lay_out();
@@ -115,7 +115,6 @@ void f_cost::add_total(QGridLayout& grid)
 QLayout* f_cost::make_foot()
 {
     auto* notice = make_label(caption(u"Arrondir à l'unité près.", u"To be rounded without decimals."));
-    ok_->setMinimumWidth(12 * rhythm);
     auto* foot = new QHBoxLayout;
     foot->setSpacing(2 * rhythm);
     foot->addWidget(named(notice, u"Label2"));

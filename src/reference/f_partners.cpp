@@ -58,10 +58,10 @@ f_partners::f_partners()
     : Form(u"f_partners"),
       frame_(named(new QGroupBox(caption(u"Partenaires", u"Partners")), u"Frame1")),
       grid_(make_grid()),
-      add_(named(make_button(caption(u"Ajouter", u"Add")), u"add")),
-      remove_(named(make_button(caption(u"Supprimer", u"Remove")), u"Del")),
-      ok_(named(make_button(u"OK"_s), u"cmdSave")),
-      cancel_(named(make_button(caption(u"Annuler", u"Cancel")), u"cmdAn"))
+      add_(named(make_end_button(caption(u"Ajouter", u"Add")), u"add")),
+      remove_(named(make_end_button(caption(u"Supprimer", u"Remove")), u"Del")),
+      ok_(named(make_end_button(u"OK"_s), u"cmdSave")),
+      cancel_(named(make_end_button(caption(u"Annuler", u"Cancel")), u"cmdAn"))
 {
     setWindowTitle(caption(u"Partenaires", u"Partner Management "));
     lay_out();
@@ -113,8 +113,6 @@ QLayout* f_partners::make_buttons()
     row->addStretch();
     row->addWidget(ok_);
     row->addWidget(cancel_);
-    for (QPushButton* button : {add_, remove_, ok_, cancel_})
-        button->setMinimumWidth(12 * rhythm);
     return row;
 }
 

@@ -101,16 +101,14 @@ QLayout* round_form::make_panes()
 
 QLayout* round_form::make_bottom()
 {
-    end_buttons_.add(ok, make_button(u"OK"_s));
-    end_buttons_.add(cancel, make_button(caption(u"Annuler", u"Cancel")));
+    end_buttons_.add(ok, make_end_button(u"OK"_s));
+    end_buttons_.add(cancel, make_end_button(caption(u"Annuler", u"Cancel")));
     auto* bottom = new QHBoxLayout;
     bottom->setSpacing(rhythm);
     bottom->addWidget(&panes_.totals);
     bottom->addStretch();
-    for (const int index : {ok, cancel}) {
-        end_buttons_(index).setMinimumWidth(12 * rhythm);
+    for (const int index : {ok, cancel})
         bottom->addWidget(&end_buttons_(index), 0, Qt::AlignBottom);
-    }
     return bottom;
 }
 

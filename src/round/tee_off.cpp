@@ -65,8 +65,8 @@ f_get_date::f_get_date()
       hours_box_(make_time_box(u"12"_s, u"Text1")),
       minutes_box_(make_time_box(u"00"_s, u"Text2")),
       seconds_box_(make_time_box(u"00"_s, u"Text3")),
-      ok_button_(named(make_button(u"OK"_s), u"OKbut")),
-      cancel_button_(named(make_button(u"Annuler"_s), u"Command1"))
+      ok_button_(named(make_end_button(u"OK"_s), u"OKbut")),
+      cancel_button_(named(make_end_button(u"Annuler"_s), u"Command1"))
 {
     setWindowTitle(u"Date et heure du coup de départ"_s);
     calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
@@ -125,10 +125,8 @@ QLayout* f_get_date::make_button_line()
     auto* line = new QHBoxLayout;
     line->setSpacing(rhythm);
     line->addStretch();
-    for (QPushButton* button : {ok_button_, cancel_button_}) {
-        button->setMinimumWidth(12 * rhythm);
+    for (QPushButton* button : {ok_button_, cancel_button_})
         line->addWidget(button);
-    }
     return line;
 }
 
