@@ -1,5 +1,6 @@
 #include "records/round_list.h"
 
+#include "base/text.h"
 #include "records/round_rows.h"
 #include "scoring/round_key.h"
 #include "store/DataEnvironment1.h"
@@ -15,10 +16,12 @@ namespace games = tables::games;
 const first_columns shown_columns{{games::date, games::field, games::long_h(hole_count),
                                    games::approach_h(hole_count), games::putt_h(hole_count)}};
 
-QString line_of_current_row(Recordset& games)
+QString line_of_current_row(Recordset& games, course_names names)
 {
+    const QString course = games.Fields(tables::games::field).text_or_empty();
     return Verdane_tools::round_entry(games.Fields(tables::games::date).text_or_empty(),
-                                      games.Fields(tables::games::field).text_or_empty(), round_incomplete());
+                                      names == course_names::in_capitals ? in_capitals(course) : course,
+                                      round_incomplete());
 }
 
 }  // namespace
@@ -30,14 +33,14 @@ void open_rounds_in_time_order()
     games.Open(shown_columns);
 }
 
-QStringList round_list_lines()
+QStringList round_list_lines(course_names names)
 {
     Recordset& games = data_environment().rsgames;
     QStringList lines;
     if (games.eof())
         return lines;
     for (games.MoveFirst(); !games.eof(); games.MoveNext())
-        lines << line_of_current_row(games);
+        lines << line_of_current_row(games, names);
     return lines;
 }
 

@@ -11,17 +11,12 @@
 
 #include <array>
 
-#include "base/text.h"
 #include "controls/accessible_controls.h"
 #include "controls/control_array.h"
 #include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/look.h"
-#include "records/round_rows.h"
 #include "scoring/limits.h"
-#include "scoring/round_key.h"
-#include "store/DataEnvironment1.h"
-#include "store/tables/games.h"
 
 namespace verdane {
 
@@ -34,18 +29,6 @@ constexpr int characters_of_a_line = 54;
 constexpr int lines_in_view = 6;
 constexpr int characters_of_a_choice = 20;
 constexpr int short_figure = 2;
-
-/// The lines of the stored rounds, with the course in capitals.
-QStringList round_lines()
-{
-    Recordset& games = data_environment().rsgames;
-    QStringList lines;
-    for (; !games.eof(); games.MoveNext())
-        lines << Verdane_tools::round_entry(games.Fields(tables::games::date).text_or_empty(),
-                                            in_capitals(games.Fields(tables::games::field).text_or_empty()),
-                                            Round_functions::round_incomplete());
-    return lines;
-}
 
 }  // namespace
 
@@ -137,7 +120,7 @@ void bag_filters::fill_weather()
 
 bool bag_filters::fill_rounds()
 {
-    return verdane::fill_rounds(controls_, round_lines) > 0;
+    return verdane::fill_rounds(controls_, Round_functions::course_names::in_capitals) > 0;
 }
 
 void bag_filters::fill_partners_and_courses()

@@ -17,7 +17,6 @@
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/scrolled_content.h"
-#include "records/round_list.h"
 #include "statistics/f_date_range_func.h"
 
 namespace verdane {
@@ -200,7 +199,7 @@ void f_date_range::fill_filters()
 
 bool f_date_range::fill_round_lists()
 {
-    const int rounds = fill_rounds(controls_, Round_functions::round_list_lines);
+    const int rounds = fill_rounds(controls_);
     labels_(count_label).setText(QString::number(rounds));
     return rounds > 0;
 }

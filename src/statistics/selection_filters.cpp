@@ -128,12 +128,12 @@ void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter, int charact
     filter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 }
 
-int fill_rounds(const selection_controls& controls, const std::function<QStringList()>& read_lines)
+int fill_rounds(const selection_controls& controls, Round_functions::course_names names)
 {
     DataEnvironment1& store = data_environment();
     Round_functions::open_rounds_in_time_order();
     store.rsfield_info.Open();
-    const QStringList lines = read_lines();
+    const QStringList lines = Round_functions::round_list_lines(names);
     for (QListWidget* list : {controls.first_round, controls.last_round})
         fill_list_box(*list, lines);
     store.rsgames.Close();

@@ -3,9 +3,9 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <optional>
 
+#include "records/round_list.h"
 #include "statistics/selection.h"
 
 class QComboBox;
@@ -33,9 +33,10 @@ selection_controls make_selection_controls(int characters_of_a_line, int lines_i
 /// readers read the label. The filter is `characters` wide.
 void add_filter(QFormLayout& form, QLabel* label, QComboBox* filter, int characters);
 
-/// Opens the stored rounds in time order and the holes of the courses, fills both lists with the lines that
-/// `read_lines` makes of the rounds, closes them again, and returns the number of rounds.
-int fill_rounds(const selection_controls& controls, const std::function<QStringList()>& read_lines);
+/// Opens the stored rounds in time order and the holes of the courses, fills both lists with the lines of the
+/// rounds, closes them again, and returns the number of rounds.
+int fill_rounds(const selection_controls& controls,
+                Round_functions::course_names names = Round_functions::course_names::as_stored);
 
 /// The letters of the tees in the filter of courses: as `tee_name` gives them, or capitals.
 enum class tee_letters { as_named, capitals };
