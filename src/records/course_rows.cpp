@@ -8,6 +8,41 @@
 
 namespace verdane::Round_functions {
 
+namespace {
+
+QString line_of_current_course(int16 width_of_name)
+{
+    Recordset& courses = data_environment().rsvrd_fields;
+    QString name = courses.Fields(tables::vrd_fields::name).trimmed();
+    const QString code = courses.Fields(tables::vrd_fields::code).trimmed();
+    return Verdane_tools::pad_right(name, width_of_name) + u", " + Verdane_tools::tee_name(code.right(1));
+}
+
+}  // namespace
+
+void open_courses()
+{
+    data_environment().rsfield_info.Open();
+    data_environment().rsvrd_fields.Open();
+}
+
+void close_courses()
+{
+    data_environment().rsvrd_fields.Close();
+    data_environment().rsfield_info.Close();
+}
+
+QStringList course_list_lines(int16 width_of_name)
+{
+    Recordset& courses = data_environment().rsvrd_fields;
+    QStringList lines;
+    if (courses.empty())
+        return lines;
+    for (courses.MoveFirst(); !courses.eof(); courses.MoveNext())
+        lines << line_of_current_course(width_of_name);
+    return lines;
+}
+
 void move_to_course(int list_index)
 {
     Recordset& courses = data_environment().rsvrd_fields;

@@ -1,19 +1,29 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
+#include "base/counts.h"
 #include "store/Recordset.h"
 
-/// Positions `rsvrd_fields` and `rsfield_info` on the rows of a course. The caller has opened them.
+/// The rows of a course in `rsvrd_fields` and `rsfield_info`.
 namespace verdane::Round_functions {
 
-/// Moves `rsvrd_fields` to the row with the index that the course has in a list filled in row order, from 0.
-/// With an index beyond the last row it is at `eof()`.
+void open_courses();
+void close_courses();
+
+/// The line of a list for each course, in the order of the rows: its name, padded with blanks to a width in
+/// characters, and its tee in the current language. Courses are open, and `rsvrd_fields` is at `eof()`
+/// afterwards.
+QStringList course_list_lines(int16 width_of_name = 0);
+
+/// Courses are open. Moves `rsvrd_fields` to the row with the index that the course has in a list filled in
+/// row order, from 0. With an index beyond the last row it is at `eof()`.
 void move_to_course(int list_index);
 
-/// Moves `rsfield_info` to the holes of the course in the current row of `rsvrd_fields`, or to `eof()` if
-/// there are none.
+/// Courses are open. Moves `rsfield_info` to the holes of the course in the current row of `rsvrd_fields`, or
+/// to `eof()` if there are none.
 void find_holes_of_course(search_direction direction = search_direction::forward);
 
 }  // namespace verdane::Round_functions

@@ -29,13 +29,6 @@ Recordset& holes()
     return data_environment().rsfield_info;
 }
 
-QString list_line()
-{
-    const QString code = courses().Fields(tables::vrd_fields::code).trimmed();
-    return courses().Fields(tables::vrd_fields::name).trimmed() + u", " +
-           Verdane_tools::tee_name(code.right(1));
-}
-
 /// A course that was added since the list was filled has no line, so there may be rows and no selected line.
 bool has_selection(const f_c_list& window)
 {
@@ -127,16 +120,13 @@ void load(f_c_list& window)
     current_form = &window;
     Place_and_lock(window);
     course_keys.clear();
-    holes().Open();
-    courses().Open();
+    Round_functions::open_courses();
     if (courses().empty())
         return;
-    QStringList lines;
-    for (courses().MoveFirst(); !courses().eof(); courses().MoveNext()) {
-        keep_course_key(static_cast<int>(lines.size()), courses());
-        lines << list_line();
-    }
-    window.show_courses(lines);
+    int index = 0;
+    for (courses().MoveFirst(); !courses().eof(); courses().MoveNext())
+        keep_course_key(index++, courses());
+    window.show_courses(Round_functions::course_list_lines());
     courses().MoveFirst();
 }
 
@@ -164,8 +154,7 @@ void close(f_c_list& window)
 
 void unload()
 {
-    courses().Close();
-    holes().Close();
+    Round_functions::close_courses();
     // The title bar's close box does not call `close`.
     Unlock_menu();
 }

@@ -3,7 +3,6 @@
 #include "controls/Form.h"
 #include "controls/main_frame.h"
 #include "records/course_rows.h"
-#include "scoring/Verdane_tools.h"
 #include "statistics/f_carte.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"
@@ -16,23 +15,6 @@ namespace {
 
 /// Characters of the name in a line of the list.
 constexpr int width_of_name = 50;
-
-Recordset& courses()
-{
-    return data_environment().rsvrd_fields;
-}
-
-Recordset& holes()
-{
-    return data_environment().rsfield_info;
-}
-
-QString list_line()
-{
-    QString name = courses().Fields(tables::vrd_fields::name).trimmed();
-    const QString code = courses().Fields(tables::vrd_fields::code).trimmed();
-    return Verdane_tools::pad_right(name, width_of_name) + u", " + Verdane_tools::tee_name(code.right(1));
-}
 
 using namespace tables::r_card;
 
@@ -122,14 +104,8 @@ void load(f_carte& window)
 {
     current_form = &window;
     Place_and_lock(window);
-    holes().Open();
-    courses().Open();
-    if (courses().eof())
-        return;
-    QStringList lines;
-    for (courses().MoveFirst(); !courses().eof(); courses().MoveNext())
-        lines << list_line();
-    window.show_courses(lines);
+    Round_functions::open_courses();
+    window.show_courses(Round_functions::course_list_lines(width_of_name));
 }
 
 void print(f_carte& window)
@@ -151,8 +127,7 @@ void cancel(f_carte& window)
 
 void unload()
 {
-    courses().Close();
-    holes().Close();
+    Round_functions::close_courses();
     Unlock_menu();
 }
 
