@@ -11,7 +11,6 @@
 #include "controls/control_array.h"
 #include "controls/list_box.h"
 #include "records/course_rows.h"
-#include "records/round_list.h"
 #include "records/round_rows.h"
 #include "scoring/round_key.h"
 #include "scoring/Verdane_tools.h"
