@@ -39,7 +39,7 @@ void cell_delegate::paint_with_button(QPainter& painter, const QStyleOptionViewI
     const QString text = std::exchange(whole.text, QString());
     QStyle* style = grid_.style();
     style->drawControl(QStyle::CE_ItemViewItem, &whole, &painter, &grid_);
-    const QRect button = data_grid::button_in(option.rect);
+    const QRect button = cell_menus::button_in(option.rect);
     // The style draws the text next to the button as in a cell without one.
     whole.rect.setRight(button.left());
     whole.text = text;

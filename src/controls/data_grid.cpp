@@ -7,17 +7,10 @@
 
 #include "controls/boxes.h"
 #include "controls/cell_delegate.h"
-#include "controls/choice_menu.h"
 #include "controls/failure_guard.h"
 #include "controls/grid_painting.h"
 
 namespace verdane {
-
-namespace {
-
-constexpr int button_width = 16;
-
-}  // namespace
 
 data_grid::data_grid(recordset_model* model, QWidget* parent)
     : QTableView(parent), model_(model), edited_(*model)
@@ -35,11 +28,6 @@ data_grid::data_grid(recordset_model* model, QWidget* parent)
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
     setHorizontalScrollMode(ScrollPerPixel);
-}
-
-QRect data_grid::button_in(const QRect& cell)
-{
-    return {cell.right() - button_width + 1, cell.top(), button_width, cell.height()};
 }
 
 void data_grid::bind()
@@ -113,36 +101,9 @@ bool data_grid::move_cursor(int step)
     return true;
 }
 
-void data_grid::set_cell_menu(int column, choice_menu* menu)
-{
-    menus_[column] = menu;
-}
-
 void data_grid::open_cell_menu()
 {
-    const auto menu = menus_.find(col_);
-    if (menu == menus_.end() || !currentIndex().isValid())
-        return;
-    scrollTo(currentIndex());
-    const QPoint below = visualRect(currentIndex()).bottomLeft() + QPoint(0, 1);
-    menu->second->popup_on(viewport()->mapToGlobal(below), currentIndex().data().toString());
-}
-
-bool data_grid::opens_menu(const QKeyEvent& event) const
-{
-    if (!has_cell_button(col_))
-        return false;
-    switch (event.key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_F4:
-        return true;
-    case Qt::Key_Down:
-        return event.modifiers().testFlag(Qt::AltModifier);
-    default:
-        return false;
-    }
+    menus_.open(*this, col_);
 }
 
 void data_grid::keyPressEvent(QKeyEvent* event)
@@ -151,7 +112,7 @@ void data_grid::keyPressEvent(QKeyEvent* event)
     if (tab) {
         // The window moves the focus on a key that is not accepted.
         event->setAccepted(move_cursor(event->key() == Qt::Key_Tab ? 1 : -1));
-    } else if (opens_menu(*event)) {
+    } else if (menus_.opens(col_, *event)) {
         open_cell_menu();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                event->key() == Qt::Key_F2) {
@@ -161,15 +122,6 @@ void data_grid::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void data_grid::choose_by_letter(QChar letter)
-{
-    choice_menu* menu = menus_.at(col_);
-    if (!currentIndex().isValid() || menu->choose_only(letter))
-        return;
-    open_cell_menu();
-    menu->choose_by_letter(letter);
-}
-
 bool data_grid::take_character(const QKeyEvent& event)
 {
     const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
@@ -177,7 +129,7 @@ bool data_grid::take_character(const QKeyEvent& event)
     if (command || !(key.isPrint() || key == backspace))
         return false;
     if (has_cell_button(col_) && key != backspace) {
-        choose_by_letter(key);
+        menus_.choose_by_letter(*this, col_, key);
         return true;
     }
     if (edited_.refuses(col_, key) || !is_typed_into(currentIndex()))
@@ -270,10 +222,7 @@ void data_grid::mousePressEvent(QMouseEvent* event)
         return;
     }
     QTableView::mousePressEvent(event);
-    const bool on_button = pressed.isValid() && event->button() == Qt::LeftButton &&
-                           has_cell_button(pressed.column()) &&
-                           button_in(visualRect(pressed)).contains(place);
-    if (on_button && pressed == currentIndex())
+    if (event->button() == Qt::LeftButton && menus_.is_on_button(*this, place))
         open_cell_menu();
 }
 

@@ -3,15 +3,13 @@
 #include <QTableView>
 
 #include <functional>
-#include <map>
 #include <utility>
 
+#include "controls/cell_menus.h"
 #include "controls/edited_cell.h"
 #include "controls/recordset_model.h"
 
 namespace verdane {
-
-class choice_menu;
 
 /// A grid bound to a recordset. The row of the cursor is the current row of the recordset; moving the cursor
 /// to another row commits the row that is left.
@@ -41,7 +39,7 @@ public:
     int Row() const;
 
     /// Adds a button to the cells of a column, which opens the menu.
-    void set_cell_menu(int column, choice_menu* menu);
+    void set_cell_menu(int column, choice_menu* menu) { menus_.set(column, menu); }
     /// Sets the filter that accepts or refuses each character typed or pasted into a column.
     void set_key_filter(int column, std::function<key_answer(QChar)> filter)
     {
@@ -60,11 +58,9 @@ public:
     /// to another control.
     void take_keyboard();
 
-    bool has_cell_button(int column) const { return menus_.count(column) > 0; }
+    bool has_cell_button(int column) const { return menus_.has(column); }
     /// True for a cell whose text can be edited.
     bool is_typed_into(const QModelIndex& cell) const;
-    /// The rectangle of the button of a cell, from the rectangle of the cell.
-    static QRect button_in(const QRect& cell);
 
 Q_SIGNALS:
     /// The user has changed the cell of the current row in that column.
@@ -83,16 +79,14 @@ private:
     void show_current_row();
     int neighbour(int column, int step) const;
     bool move_cursor(int step);
-    bool opens_menu(const QKeyEvent& event) const;
     bool take_character(const QKeyEvent& event);
-    void choose_by_letter(QChar letter);
     void start_typing(const QString& text);
     void drop_cell();
     bool keyboard_is_elsewhere() const;
     void commit_and_move_on();
 
     recordset_model* model_;
-    std::map<int, choice_menu*> menus_;
+    cell_menus menus_;
     edited_cell edited_;
     int col_ = 0;
     /// True while the cursor is moved to the current row of the recordset; otherwise a move of the cursor

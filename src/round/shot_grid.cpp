@@ -176,7 +176,8 @@ int shot_grid::width_of_words(int column) const
 {
     const QFontMetrics font = fontMetrics();
     const QStringList heads = layout_of(column).caption.in(french_).split(u' ');
-    const int button = has_cell_button(column) ? button_in(QRect(0, 0, 100, 10)).width() : cell_margin;
+    const int button =
+        has_cell_button(column) ? cell_menus::button_in(QRect(0, 0, 100, 10)).width() : cell_margin;
     const int cells = widest(font, words_of_cells(column)) + cell_margin + button;
     return std::max(widest(font, heads) + rhythm + rhythm / 2,
                     column == club_column ? std::min(cells, pixels(widest_club_twips)) : cells);

@@ -151,7 +151,7 @@ private Q_SLOTS:
                     const QRect cell(0, 0, grid.columnWidth(column), 20);
                     for (const QAction* entry : find_control<choice_menu>(window, menu).actions())
                         QVERIFY2(grid.fontMetrics().horizontalAdvance(choice_menu::caption_of(*entry)) <
-                                     data_grid::button_in(cell).left(),
+                                     cell_menus::button_in(cell).left(),
                                  qPrintable(choice_menu::caption_of(*entry)));
                 }
             });

@@ -55,7 +55,7 @@ void hand::open_menu(const QString& grid, int row, int column)
     on_control(grid, [](QWidget&) {});
     post([=] {
         QTableView& cells = grid_named(grid);
-        press(cells, data_grid::button_in(visible_cell(cells, row, column)).center());
+        press(cells, cell_menus::button_in(visible_cell(cells, row, column)).center());
     });
     wait_until(u"the menu of a cell"_s, [] { return menu_on_top() != nullptr; });
 }
