@@ -53,9 +53,9 @@ bool removal_is_wanted(const f_games& window)
 {
     return ask_yes_no(
         window.caption(u"Attention : Toutes les données de cette ronde incluant les statistiques des bâtons "
-                       "et coups roulés seront supprimées. Voulez-vous continuer ?",
+                       u"et coups roulés seront supprimées. Voulez-vous continuer ?",
                        u"Attention: All data relative to this round will be removed, included associated "
-                       "statistics on clubs and putts. Do you wish to continue?"));
+                       u"statistics on clubs and putts. Do you wish to continue?"));
 }
 
 void remove_selected_round(f_games& window)

@@ -45,7 +45,7 @@ bool removal_is_wanted(const f_partners& window)
 {
     return ask_yes_no(
         window.caption(u"Attention : Toutes les données relatives à cette personne seront supprimées. "
-                       "Voulez-vous continuer ? ",
+                       u"Voulez-vous continuer ? ",
                        u"All data relative to this contact will be removed. Do you want to continue?"),
         window.caption(u"Supprimer ", u"Remove ") + name_of_current());
 }

@@ -35,7 +35,7 @@ QString settings_of_link(int time_out_s)
     // driver of SQLite cuts whole numbers to 32 bits. Timeout: for that many milliseconds the driver of
     // SQLite repeats a statement whose own wait for a lock has ended; by default for 100 s.
     return u";OPTION=2;BigInt=1;Timeout=1;AUTO_RECONNECT=0;CHARSET=utf8mb4"
-           ";CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s.arg(source_opening_time_out_s)
+           u";CONN_TIMEOUT=%1;READ_TIMEOUT=%2;WRITE_TIMEOUT=%2"_s.arg(source_opening_time_out_s)
                .arg(time_out_s);
 }
 

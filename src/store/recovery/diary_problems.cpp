@@ -28,7 +28,7 @@ source_tables tables_in(const diary_snapshot& diary)
     source_tables found;
     for (const auto& row :
          diary.rows(u"select m.name, p.name from sqlite_master m join pragma_table_info(m.name) p "
-                    "where m.type = 'table' order by m.name, p.cid"_s))
+                    u"where m.type = 'table' order by m.name, p.cid"_s))
         found[row[0].toString().toLower()].push_back({row[1].toString()});
     return found;
 }

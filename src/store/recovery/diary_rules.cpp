@@ -13,7 +13,7 @@ namespace {
 QString rounds_of_unknown_courses(const QString& table, const QString& column)
 {
     return u"select date from %1 where trim(coalesce(%2, '')) <> '' and trim(%2) not in "
-           "(select trim(code) from vrd_fields where code is not null)"_s.arg(table, column);
+           u"(select trim(code) from vrd_fields where code is not null)"_s.arg(table, column);
 }
 
 /// The conditions of the courses, and of the courses of rounds.
@@ -23,7 +23,7 @@ std::vector<diary_rule> rules_of_courses()
         {u"chaque terrain a ses trous dans field_info"_s,
          u"every course has its holes in field_info"_s,
          u"select coalesce(name_tee, code, '') from vrd_fields where code is null or trim(code) not in "
-         "(select trim(FIELD_CODE) from field_info where FIELD_CODE is not null)"_s,
+         u"(select trim(FIELD_CODE) from field_info where FIELD_CODE is not null)"_s,
          {},
          true},
         {u"le terrain de chaque ronde existe"_s,

@@ -60,7 +60,7 @@ round_shots shots_of(const diary_snapshot& diary, const QString& key)
     round_shots shots;
     for (const auto& row : diary.rows(
              u"select hole, after, unit, shot_type_value, fairval, penval, missed, ts, dz from Stat_rounds "
-             "where date = %1 order by hole, shot"_s.arg(quoted(key))))
+             u"where date = %1 order by hole, shot"_s.arg(quoted(key))))
         shots[row[0].toInt()].push_back(shot_of(row));
     return shots;
 }
@@ -76,7 +76,7 @@ std::vector<course_of_shots> courses_of(const diary_snapshot& diary, const QStri
     std::vector<course_of_shots> courses;
     for (const auto& row : diary.rows(
              u"select c.code, c.name from vrd_fields c join field_info f on f.FIELD_CODE = c.code where not "
-             "exists (select 1 from Stat_rounds s where s.date = %1 and (%2))"_s.arg(
+             u"exists (select 1 from Stat_rounds s where s.date = %1 and (%2))"_s.arg(
                  quoted(key), differences.join(u" or "_s))))
         courses.push_back({row[0].toString(), row[1].toString()});
     return courses;
@@ -153,8 +153,8 @@ bool has_unknown_codes(const diary_snapshot& diary, const QString& key)
 {
     const QString statement =
         u"select count(*) from Stat_rounds where date = %1 and (coalesce(shot_type_value, 0) not between 0 "
-        "and %2 or coalesce(penval, 0) not between 0 and %3)"_s.arg(quoted(key), QString::number(putt),
-                                                                    QString::number(out_of_bounds));
+        u"and %2 or coalesce(penval, 0) not between 0 and %3)"_s.arg(quoted(key), QString::number(putt),
+                                                                     QString::number(out_of_bounds));
     return diary.number(statement) > 0;
 }
 

@@ -115,7 +115,7 @@ std::vector<diary_rule> rules_of_keys()
         {u"chaque clé a 14 chiffres"_s,
          u"every key has 14 digits"_s,
          u"select coalesce(date, '') from games "
-         "where date is null or length(date) <> 14 or date glob '*[^0-9]*'"_s,
+         u"where date is null or length(date) <> 14 or date glob '*[^0-9]*'"_s,
          {}},
         {u"chaque clé n'a qu'une ronde"_s,
          u"every key has one round"_s,

@@ -46,7 +46,7 @@ QString right_words(const coded_words& column)
 QString shots_where(const QString& condition)
 {
     return u"select coalesce(date, '') || ' ' || coalesce(hole, '') || '.' || coalesce(shot, '') "
-           "from Stat_rounds where "_s +
+           u"from Stat_rounds where "_s +
            condition;
 }
 
@@ -92,7 +92,7 @@ std::vector<diary_rule> rules_of_shots()
         {u"deux coups d'un trou n'ont pas le même numéro"_s,
          u"no two shots of a hole have one number"_s,
          u"select date || ' ' || hole || '.' || shot from Stat_rounds group by date, hole, shot "
-         "having count(*) > 1"_s,
+         u"having count(*) > 1"_s,
          {}},
         {u"les codes des coups sont connus"_s,
          u"codes of shots are in their sets"_s,
