@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringView>
 
+#include "store/Connection1.h"
 #include "store/Recordset.h"
 
 /// The search for a row by its key.
@@ -17,7 +18,11 @@ inline constexpr QStringView by_course = u"FIELD_CODE = ";
 
 /// Moves to the first row, then to the row that `Recordset::Find` finds from there by the criterion and the
 /// quoted value, or to `eof()` if there is none. Fails with `misuse` on a recordset without rows.
-void find_first(Recordset& rows, QStringView criterion, const QString& value,
-                search_direction direction = search_direction::forward);
+inline void find_first(Recordset& rows, QStringView criterion, const QString& value,
+                       search_direction direction = search_direction::forward)
+{
+    rows.MoveFirst();
+    rows.Find(criterion + quoted(value), direction);
+}
 
 }  // namespace verdane::Round_functions
