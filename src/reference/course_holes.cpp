@@ -14,7 +14,6 @@
 #include "controls/look.h"
 #include "reference/course_page.h"
 #include "scoring/course_checks.h"
-#include "scoring/hole_checks.h"
 
 namespace verdane {
 

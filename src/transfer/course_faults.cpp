@@ -10,7 +10,6 @@
 #include "base/language.h"
 #include "base/numbers.h"
 #include "scoring/course_checks.h"
-#include "scoring/hole_checks.h"
 
 namespace verdane {
 

@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "scoring/hole_checks.h"
+#include "scoring/course_checks.h"
 #include "tests/support/failures.h"
 
 using namespace verdane;
