@@ -46,6 +46,7 @@ private Q_SLOTS:
         const QStringList lines{u"2023-01-02 08:15:30 |  - "_s, u"2024-06-07 15:00:00 |  - Les Pins**"_s};
         QCOMPARE(round_list_lines(), lines);
         QVERIFY(rsgames().eof());
+        rsgames().MoveFirst();
         QCOMPARE(round_list_lines(course_names::in_capitals).last(),
                  u"2024-06-07 15:00:00 |  - LES PINS**"_s);
     }
