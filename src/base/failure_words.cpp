@@ -77,6 +77,28 @@ constexpr std::array texts{
                   u"Corrigez-les dans l'enregistrement de la source, puis recommencez. Rien n'a été modifié.",
                   u"The diary's server refuses the account or the password of the data source. Correct them "
                   u"in the registration of the source, then start again. Nothing was changed."}},
+    failure_text{failure_kind::source_host,
+                 {u"Le serveur du journal refuse les connexions de cet ordinateur. Donnez-lui l'accès sur le "
+                  u"serveur, ou débloquez-le après des connexions manquées (FLUSH HOSTS), puis recommencez. "
+                  u"Rien n'a été modifié.",
+                  u"The diary's server refuses connections from this computer. Give it access on the server, "
+                  u"or unblock it after failed connections (FLUSH HOSTS), then start again. Nothing was "
+                  u"changed."}},
+    failure_text{failure_kind::source_login,
+                 {u"Le pilote ODBC et le serveur du journal n'ont pas de méthode commune pour chiffrer la "
+                  u"connexion (TLS) ou pour vérifier le mot de passe. Réglez-la dans l'enregistrement de la "
+                  u"source ou sur le serveur, ou mettez le pilote à jour, puis recommencez. Rien n'a été "
+                  u"modifié.",
+                  u"The ODBC driver and the diary's server have no method in common to encrypt the "
+                  u"connection (TLS) or to check the password. Set it in the registration of the source or "
+                  u"on the server, or update the driver, then start again. Nothing was changed."}},
+    failure_text{failure_kind::source_busy,
+                 {u"Le serveur du journal n'accepte pas d'autre connexion : le nombre permis pour le serveur "
+                  u"ou pour le compte est atteint. Fermez d'autres programmes qui l'utilisent, attendez un "
+                  u"moment ou augmentez ce nombre sur le serveur, puis recommencez. Rien n'a été modifié.",
+                  u"The diary's server accepts no further connection: the number that is allowed for the "
+                  u"server or for the account is reached. Close other programs that use it, wait a moment "
+                  u"or raise the number on the server, then start again. Nothing was changed."}},
     failure_text{
         failure_kind::source_database,
         {u"La source de données ne désigne aucune base de données, ou une base que le compte ne peut "

@@ -25,6 +25,9 @@ enum class failure_kind {
     source_unknown,     ///< no ODBC data source of that name is registered
     source_driver,      ///< the driver of the source is missing or cannot be loaded
     source_password,    ///< the server refuses the account or its password
+    source_host,        ///< the server refuses this computer
+    source_login,       ///< driver and server have no method of login or encryption in common
+    source_busy,        ///< the server or the account has as many connections as are allowed
     source_database,    ///< the source names no database, or one that the account cannot use
     source_stopped,     ///< no server accepts the connection
     source_silent,      ///< the server did not respond in time while the source was opened

@@ -54,7 +54,10 @@ public:
     /// A source fails while it is opened with
     /// - `source_unknown`: no source of that name is registered for the user or the computer;
     /// - `source_driver`: Qt's ODBC plug-in is missing, or the driver of the source cannot be loaded;
-    /// - `source_password`: the server refuses the account, its password or this computer;
+    /// - `source_password`: the server refuses the account or its password;
+    /// - `source_host`: the server refuses this computer;
+    /// - `source_login`: the driver and the server have no method of login or encryption in common;
+    /// - `source_busy`: the server or the account has as many connections as are allowed;
     /// - `source_database`: the source names no database or file, or a database that the account cannot use;
     /// - `source_stopped`: no server accepts the connection, or the server runs no query;
     /// - `source_silent`: the server accepts the connection and does not respond within 3 seconds, or ends

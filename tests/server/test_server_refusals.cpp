@@ -6,10 +6,12 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <csignal>
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "base/failure_words.h"
@@ -27,6 +29,7 @@
 #include "tests/shell/program_run.h"
 #include "tests/support/engine_of_tests.h"
 #include "tests/support/failures.h"
+#include "tests/support/outside_connection.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -181,6 +184,35 @@ void add_account(const QString& rights)
     administer(u"grant %1 on `verdbase%`.* to viewer@localhost"_s.arg(rights));
 }
 
+/// Connections of the golfer's account that are open until `close_connections`.
+std::vector<std::unique_ptr<outside_connection>> held_connections;
+
+void hold_connections(int number)
+{
+    for (int i = 0; i < number; ++i)
+        held_connections.push_back(std::make_unique<outside_connection>(program_run::store_place()));
+}
+
+/// The connections of which the server knows. It notices the end of one a moment later.
+int number_of_connections(const outside_connection& server)
+{
+    QSqlQuery query = server.run_unchanged(
+        u"select count(*) from information_schema.processlist where user != 'system user'"_s);
+    return all_rows(query)[0][0].toInt();
+}
+
+/// Lets the server accept as few connections as possible, and uses all of them.
+void use_all_connections()
+{
+    constexpr int least = 10;
+    administer(u"set global max_connections = %1"_s.arg(least));
+    held_connections.push_back(
+        std::make_unique<outside_connection>(store_location::source(administrator_source())));
+    while (number_of_connections(*held_connections.front()) > 1)
+        QThread::msleep(10);
+    hold_connections(least - 1);
+}
+
 /// Why the source cannot be used, and how that is undone.
 struct refusal {
     const char* name;
@@ -218,6 +250,30 @@ const std::vector<refusal>& refusals()
          {},
          [] { signal_server(SIGSTOP); },
          [] { signal_server(SIGCONT); }},
+        {"no connection free on the server",
+         failure_kind::source_busy,
+         {},
+         use_all_connections,
+         [] {
+             held_connections.clear();
+             administer(u"set global max_connections = 151"_s);
+         }},
+        {"no connection free for the account",
+         failure_kind::source_busy,
+         {},
+         [] {
+             administer(u"alter user golfer@localhost with max_user_connections 1"_s);
+             hold_connections(1);
+         },
+         [] {
+             held_connections.clear();
+             administer(u"alter user golfer@localhost with max_user_connections 0"_s);
+         }},
+        {"encryption that the server does not have",
+         failure_kind::source_login,
+         {{u"SSLVERIFY"_s, u"1"_s}},
+         nothing,
+         nothing},
         {"account that only reads",
          failure_kind::source_read_only,
          {{u"UID"_s, u"viewer"_s}},

@@ -79,12 +79,19 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<failure_kind>("kind");
         QTest::newRow("wrong password") << 1045 << failure_kind::source_password;
-        QTest::newRow("host not allowed") << 1130 << failure_kind::source_password;
+        QTest::newRow("account locked") << 4151 << failure_kind::source_password;
+        QTest::newRow("host not allowed") << 1130 << failure_kind::source_host;
+        QTest::newRow("host blocked") << 1129 << failure_kind::source_host;
+        QTest::newRow("error of encryption") << 2026 << failure_kind::source_login;
+        QTest::newRow("method of login missing") << 2059 << failure_kind::source_login;
+        QTest::newRow("method of login too old") << 1251 << failure_kind::source_login;
+        QTest::newRow("too many connections of an account") << 1203 << failure_kind::source_busy;
+        QTest::newRow("limit of an account") << 1226 << failure_kind::source_busy;
         QTest::newRow("database denied") << 1044 << failure_kind::source_database;
         QTest::newRow("unknown database") << 1049 << failure_kind::source_database;
         QTest::newRow("no socket") << 2002 << failure_kind::source_stopped;
         QTest::newRow("unknown host") << 2005 << failure_kind::source_stopped;
-        QTest::newRow("too many connections") << 1040 << failure_kind::source_stopped;
+        QTest::newRow("too many connections") << 1040 << failure_kind::source_busy;
         QTest::newRow("no answer in time") << 2013 << failure_kind::source_silent;
     }
     void an_error_of_opening_has_its_meaning()

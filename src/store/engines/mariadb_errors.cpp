@@ -19,6 +19,7 @@ constexpr int cannot_create_table = 1005;
 constexpr int disk_full = 1021;
 constexpr int error_writing_file = 1026;
 constexpr int storage_error = 1030;
+constexpr int too_many_connections = 1040;
 constexpr int database_denied = 1044;
 constexpr int account_denied = 1045;
 constexpr int no_database_selected = 1046;
@@ -27,14 +28,18 @@ constexpr int unknown_database = 1049;
 constexpr int server_shutdown = 1053;
 constexpr int unknown_column = 1054;
 constexpr int table_full = 1114;
+constexpr int host_blocked = 1129;
 constexpr int host_not_allowed = 1130;
 constexpr int table_denied = 1142;
 constexpr int column_denied = 1143;
 constexpr int no_such_table = 1146;
 constexpr int error_during_commit = 1180;
+constexpr int too_many_connections_of_account = 1203;
 constexpr int lock_wait_timeout = 1205;
 constexpr int deadlock = 1213;
+constexpr int limit_of_account = 1226;
 constexpr int privilege_missing = 1227;
+constexpr int login_method_too_old = 1251;
 constexpr int out_of_range = 1264;
 constexpr int read_only_server = 1290;
 constexpr int incorrect_value = 1366;
@@ -47,7 +52,9 @@ constexpr int account_locked = 4151;
 constexpr int password_expired = 1862;
 constexpr int connection_lost = 2006;
 constexpr int server_lost = 2013;
+constexpr int encryption_error = 2026;
 constexpr int server_lost_extended = 2055;
+constexpr int login_method_missing = 2059;
 constexpr int connection_error = 5014;
 }  // namespace code
 
@@ -126,10 +133,20 @@ failure_kind kind_of_mariadb_opening(int number)
     switch (number) {
     case code::account_denied:
     case code::account_denied_without_password:
-    case code::host_not_allowed:
     case code::account_locked:
     case code::password_expired:
         return failure_kind::source_password;
+    case code::host_blocked:
+    case code::host_not_allowed:
+        return failure_kind::source_host;
+    case code::encryption_error:
+    case code::login_method_missing:
+    case code::login_method_too_old:
+        return failure_kind::source_login;
+    case code::too_many_connections:
+    case code::too_many_connections_of_account:
+    case code::limit_of_account:
+        return failure_kind::source_busy;
     case code::database_denied:
     case code::unknown_database:
         return failure_kind::source_database;

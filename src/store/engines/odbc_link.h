@@ -29,8 +29,8 @@ static_assert(2 * source_opening_lock_time_out_s < source_opening_time_out_s);
 /// Opens the source under Qt's name `connection`. `time_out_s` is how long the server may take to send the
 /// result of a statement; a driver does not change it later. A lost connection is never opened again
 /// automatically: the lock of the program ended with it. Fails with `source_unknown`, `source_driver`,
-/// `source_password`, `source_database`, `source_stopped`, `source_silent` or `store_unreachable`. After a
-/// failure there is no connection of that name.
+/// `source_password`, `source_host`, `source_login`, `source_busy`, `source_database`, `source_stopped`,
+/// `source_silent` or `store_unreachable`. After a failure there is no connection of that name.
 void open_link(const QString& connection, const QString& source, int time_out_s);
 
 /// The code of the engine in an error; 0 for an error of the driver manager.
