@@ -20,7 +20,15 @@ constexpr int step_of_a_round = 3;
 
 constexpr std::u16string_view columns =
     u"select cost.date,cost.fg,cost.cm,cost.vt,cost.ft, "
-    u"cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au from  cost ";
+    u"cost.ba,cost.tee,cost.tex,cost.nrt,cost.lg,cost.bs,cost.ln,cost.au ";
+
+/// The rest of a statement that selects columns of the selected rounds.
+QString from_selected_rounds(const selection_arguments& chosen)
+{
+    return u"from  cost , games2 where ( cost.date=games2.date and cost.date>= " + quoted(chosen.from_key) +
+           u" AND cost.date <=" + quoted(chosen.to_key) + u" ) " + chosen.partner_clause +
+           chosen.course_clause + chosen.weather_clause;
+}
 
 /// True if the statement selects the key and the amounts in the order of the table. The ordinals of the table
 /// then apply to its rows, too.
@@ -45,14 +53,35 @@ QString amount_columns()
 }
 
 /// Removes all rows by one statement: a source on a server takes ten times as long for one of each row.
-void remove_rows(Recordset& report)
+void remove_rows()
+{
+    data_environment().connection.Execute(u"delete from r_cost"_s);
+}
+
+bool has_rows(Recordset& report)
 {
     report.Open(row_reading::one_by_one);
-    const bool has_rows = !report.eof();
+    const bool found = !report.eof();
     report.Close();
-    if (has_rows)
-        data_environment().connection.Execute(u"delete from r_cost"_s);
+    return found;
 }
+
+/// The rows to copy.
+struct cost_rows {
+    int number = 0;
+    /// The earliest date, and how many rows have it.
+    QString first_date;
+    int with_first_date = 0;
+
+    void add(const QString& date)
+    {
+        if (number++ == 0 || date < first_date) {
+            first_date = date;
+            with_first_date = 0;
+        }
+        with_first_date += date == first_date ? 1 : 0;
+    }
+};
 
 void check_amounts(Recordset& cost)
 {
@@ -60,26 +89,28 @@ void check_amounts(Recordset& cost)
         cost.Fields(amount).int32_or_zero();
 }
 
-/// Checks the rounds to copy and returns their number. An amount beyond 32 bits fails with `overflow`.
-int check_rows(Recordset& cost, run_progress& bar)
+/// Checks the rounds to copy. An amount beyond 32 bits fails with `overflow`.
+cost_rows check_rows(Recordset& cost, run_progress& bar)
 {
-    int rounds = 0;
+    cost_rows rows;
     for (cost.Open(row_reading::one_by_one); !cost.eof(); cost.MoveNext()) {
-        ++rounds;
-        bar.pass_through(rounds * step_of_a_round);
+        rows.add(cost.Fields(tables::cost::date).text());
+        bar.pass_through(rows.number * step_of_a_round);
         check_amounts(cost);
     }
     cost.Close();
-    return rounds;
+    return rows;
 }
 
 /// Copies all rows by one statement, which is much faster than adding them one by one. The statement copies
 /// any amount, so `check_rows` has to be called before. The rounds are sorted by date on every engine: the
-/// embedded one reads them by the index of the dates, a server in any order.
-void copy_rows(const QString& selection)
+/// embedded one reads them by the index of the dates, a server in any order. `round_count` is an expression
+/// for that column.
+void copy_rows(const selection_arguments& chosen, const QString& round_count)
 {
-    data_environment().connection.Execute(u"insert into r_cost (date," + amount_columns() + u") " +
-                                          selection + u" order by cost.date");
+    data_environment().connection.Execute(u"insert into r_cost (date," + amount_columns() +
+                                          u",round_count) " + QStringView(columns) + u"," + round_count +
+                                          u' ' + from_selected_rounds(chosen) + u" order by cost.date");
 }
 
 /// Writes the number of rounds to the first row of the table.
@@ -93,21 +124,32 @@ void write_round_count(Recordset& report, int rounds)
     report.Close();
 }
 
+/// Copies the rows with their number in the first one: by the same statement, unless several rows could be
+/// the first one.
+void copy_and_count(const selection_arguments& chosen, const cost_rows& rows)
+{
+    if (rows.with_first_date == 1) {
+        copy_rows(chosen, u"case when cost.date = "_s + quoted(rows.first_date) + u" then " +
+                              QString::number(rows.number) + u" end");
+        return;
+    }
+    copy_rows(chosen, u"null"_s);
+    write_round_count(data_environment().rsr_cost, rows.number);
+}
+
 /// False if the selection has no costs; the report table is empty then, and the statement of the selection
 /// stays in force.
 bool fill_from_costs(const selection_arguments& chosen, run_progress& bar)
 {
     Recordset& cost = data_environment().rscost;
-    Recordset& report = data_environment().rsr_cost;
-    remove_rows(report);
+    remove_rows();
     scoped_source selection(cost, cost_select(chosen), cost.settings().source);
-    const int rounds = check_rows(cost, bar);
-    if (rounds == 0) {
+    const cost_rows rows = check_rows(cost, bar);
+    if (rows.number == 0) {
         selection.leave_in_force();
         return false;
     }
-    copy_rows(cost.Source());
-    write_round_count(report, rounds);
+    copy_and_count(chosen, rows);
     return true;
 }
 
@@ -126,7 +168,9 @@ bool fill_in_one_commit(const selection_arguments& chosen, run_progress& bar)
 void empty_cost_report()
 {
     single_commit together(data_environment().connection);
-    remove_rows(data_environment().rsr_cost);
+    // Removing no rows would write to a file, too.
+    if (has_rows(data_environment().rsr_cost))
+        remove_rows();
     together.finish();
 }
 
@@ -138,9 +182,7 @@ scoped_source whole_cost_table_afterwards()
 
 QString cost_select(const selection_arguments& chosen)
 {
-    return QStringView(columns) + u", games2 where ( cost.date=games2.date and cost.date>= " +
-           quoted(chosen.from_key) + u" AND cost.date <=" + quoted(chosen.to_key) + u" ) " +
-           chosen.partner_clause + chosen.course_clause + chosen.weather_clause;
+    return QStringView(columns) + from_selected_rounds(chosen);
 }
 
 bool fill_r_cost(const selection_arguments& chosen, run_progress& bar)

@@ -101,6 +101,15 @@ private Q_SLOTS:
                                                      row_of_day(3, QString())}));
     }
 
+    void the_first_of_two_rows_with_the_earliest_date_has_the_count()
+    {
+        const stored_costs costs(2);
+        put_costs(costs.book.store, key_of_day(1), 1);
+        QVERIFY(fill(days(1, 2)));
+        QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(1, u"3"_s), row_of_day(1, QString()),
+                                                     row_of_day(2, QString())}));
+    }
+
     void the_clauses_select_the_rounds()
     {
         const stored_costs costs(4);
