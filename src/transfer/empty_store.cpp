@@ -34,10 +34,29 @@ exit_status refuse_target(const store_location& to, const counted_table& used)
                       .arg(argument_of_store(to), used.name, counted_rows(used.rows)));
 }
 
+exit_status refuse_order(const store_location& to, const QString& table)
+{
+    return refuse(exit_status::failed,
+                  in_language(u"La destination %1 ne garde pas l'ordre des lignes : la table %2 a une clé "
+                              u"primaire et n'a pas la colonne verdane_row. Démarrez Verdane, qui écrit un "
+                              u"script (verdane_row.sql), fermez Verdane, faites exécuter le script, puis "
+                              u"recommencez, ou utilisez une base de données vide. Rien n'a été modifié.",
+                              u"The target %1 does not keep the order of the rows: table %2 has a primary "
+                              u"key and not the column verdane_row. Start Verdane, which writes a script "
+                              u"(verdane_row.sql), close Verdane, run the script, then try again, or use an "
+                              u"empty database. Nothing was changed.")
+                      .arg(argument_of_store(to), table));
+}
+
 exit_status fill_if_empty(const Connection1& target, const std::function<exit_status()>& fill)
 {
     const std::vector<counted_table> used = tables_in_use(target);
-    return used.empty() ? fill() : refuse_target(target.location(), used.front());
+    if (!used.empty())
+        return refuse_target(target.location(), used.front());
+    const QStringList without_order = tables_without_order(target);
+    if (!without_order.isEmpty())
+        return refuse_order(target.location(), without_order.front());
+    return fill();
 }
 
 }  // namespace

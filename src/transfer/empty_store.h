@@ -8,8 +8,9 @@
 namespace verdane {
 
 /// Opens a store that has no rows of its own, creating it if needed, runs a step that fills it, and closes
-/// it. A store with rows is refused in the current language with `not_empty`; a failure is reported. A file
-/// that did not exist before is removed unless the result is `done`. Fails like `Connection1::Open`.
+/// it. Refused in the current language are a store with rows, with `not_empty`, and tables that do not keep
+/// the order of their rows, with `failed`; a failure is reported. A file that did not exist before is
+/// removed unless the result is `done`. Fails like `Connection1::Open`.
 exit_status fill_empty_store(Connection1& target, const store_location& to,
                              const std::function<exit_status()>& fill);
 

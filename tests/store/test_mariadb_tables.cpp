@@ -77,6 +77,16 @@ private Q_SLOTS:
                     .has_row_column(u"games"));
     }
 
+    void a_table_with_a_primary_key_of_its_own_does_not_keep_the_order_of_its_rows()
+    {
+        const auto keeps = [](const QString& rows) { return described(rows).keeps_order(u"Games"); };
+        QVERIFY(!keeps(u"('games','date','PRI','')"_s));
+        QVERIFY(!keeps(u"('games','date','PRI',''),('games','number','PRI','auto_increment')"_s));
+        QVERIFY(keeps(u"('games','date','','')"_s));
+        QVERIFY(keeps(u"('games','date','',''),('games','number','PRI','auto_increment')"_s));
+        QVERIFY(keeps(u"('games','date','PRI',''),('games','verdane_row','UNI','auto_increment')"_s));
+    }
+
     void the_script_adds_a_key_of_the_kind_that_a_table_can_have()
     {
         const mariadb_tables tables =

@@ -58,6 +58,9 @@ public:
     /// table has none.
     virtual QString identity_column(QStringView table) const = 0;
 
+    /// True if the engine returns the rows of a table in the order in which they were inserted.
+    virtual bool keeps_order(QStringView) const { return true; }
+
     /// True if a column of the table that an insertion leaves out gets the default that the program declares.
     virtual bool has_declared_defaults(QStringView) const { return true; }
 

@@ -162,6 +162,11 @@ QString mariadb_engine::identity_column(QStringView table) const
     return tables_.has_row_column(table) ? mariadb_tables::row_column() : QString();
 }
 
+bool mariadb_engine::keeps_order(QStringView table) const
+{
+    return tables_.keeps_order(table);
+}
+
 bool mariadb_engine::has_declared_defaults(QStringView table) const
 {
     return tables_.has_declared_defaults(table);

@@ -19,6 +19,7 @@ public:
     QStringList damaged_indexes() const override { return {}; }
 
     QString identity_column(QStringView table) const override;
+    bool keeps_order(QStringView table) const override;
     bool has_declared_defaults(QStringView table) const override;
     QString select_with_identity(const QString& statement, const select_statement& shape,
                                  const QString& identity) const override;

@@ -105,6 +105,11 @@ bool mariadb_tables::keys::identify_rows() const
     return numbered == row_column() && (row_column_is_unique || primary == QStringList{row_column()});
 }
 
+bool mariadb_tables::keys::keep_order() const
+{
+    return identify_rows() || primary.isEmpty() || primary == QStringList{numbered};
+}
+
 bool mariadb_tables::keys::has_other_primary_key() const
 {
     return std::any_of(primary.begin(), primary.end(),
@@ -126,6 +131,11 @@ bool mariadb_tables::contains(QStringView table) const
 bool mariadb_tables::has_row_column(QStringView table) const
 {
     return keys_.value(table.toString().toLower()).identify_rows();
+}
+
+bool mariadb_tables::keeps_order(QStringView table) const
+{
+    return keys_.value(table.toString().toLower()).keep_order();
 }
 
 bool mariadb_tables::has_declared_defaults(QStringView table) const

@@ -38,6 +38,9 @@ public:
     /// True for a column that the server numbers itself and that is unique. Another column of that name does
     /// not identify rows.
     bool has_row_column(QStringView table) const;
+    /// True if the server returns the rows of a table in the order in which they were inserted. Without a
+    /// column that identifies a row it returns them in the order of the primary key, if there is one.
+    bool keeps_order(QStringView table) const;
     /// True if all columns of a table of the store have the defaults that the program declares.
     bool has_declared_defaults(QStringView table) const;
     /// True if a table of the store has a text with another collation than the tables of the program. Such a
@@ -64,6 +67,7 @@ private:
 
         void add(const QString& column, const QString& key, const QString& extra);
         bool identify_rows() const;
+        bool keep_order() const;
         bool has_other_primary_key() const;
         bool allow_row_column() const;
     };

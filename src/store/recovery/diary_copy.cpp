@@ -170,6 +170,17 @@ void replace_rows(Connection1& store, const table& replaced, const table_rows& r
         fail_comparison(replaced, static_cast<int>(stored) + 1, u"was not stored"_s);
 }
 
+QStringList tables_without_order(const Connection1& store)
+{
+    QStringList names;
+    for (const table& each : schema()) {
+        // A single row needs no order.
+        if (each.fixed_rows != 1 && !store.engine().keeps_order(each.name))
+            names << each.name;
+    }
+    return names;
+}
+
 std::vector<counted_table> copy_diary(Connection1& from, Connection1& to, const table_notice& notice)
 {
     if (!tables_in_use(to).empty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <functional>
@@ -25,6 +26,11 @@ using table_notice = std::function<void(const counted_table& table)>;
 /// golf bag are compared: the first start sets the language, and reports rewrite the others.
 std::vector<counted_table> tables_in_use(const Connection1& store);
 
+/// The tables that would not return copied rows in their order, which they need. Empty unless somebody else
+/// made the tables of a source, with a key of their own; `Connection1::identity_script` corrects most of
+/// them.
+QStringList tables_without_order(const Connection1& store);
+
 /// Called for each row of a table with the values of its columns, in their order.
 using row_step = std::function<void(const std::vector<QVariant>& values)>;
 
@@ -46,7 +52,8 @@ void replace_rows(Connection1& store, const table& replaced, const table_rows& r
 /// before, the target is as it was. Returns the tables with the numbers of their rows.
 ///
 /// Both connections are open. Fails with `misuse` if the target has rows (`tables_in_use`), with
-/// `store_other` if a row differs after it was copied, and with the kind that fits the engine's error.
+/// `store_other` if a row differs after it was copied, as in a table without order, and with the kind that
+/// fits the engine's error.
 std::vector<counted_table> copy_diary(Connection1& from, Connection1& to, const table_notice& notice);
 
 }  // namespace verdane
