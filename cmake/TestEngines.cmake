@@ -37,6 +37,7 @@ set(VERDANE_FILE_TESTS
   test_lost_store           # files next to the store
   test_new_file             # a new file has all tables or none; a server commits each of them
   test_sqlite_rows          # the rows of the embedded engine
+  test_missing_plugin       # a source that is never opened
   test_prepared_statements  # the others have no prepared statements
   test_restore_command      # a source is restored with copy
   test_refused_commit       # a hook of the engine refuses the commit

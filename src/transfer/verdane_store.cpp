@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QTranslator>
 
 #include "base/language.h"
@@ -54,6 +55,9 @@ QStringList given_arguments(const QCommandLineParser& parser)
 int main(int argc, char** argv)
 {
     let_oversized_writes_fail();
+    // A failure is reported in words with the text of the driver, which a warning of the toolkit would
+    // repeat.
+    QLoggingCategory::setFilterRules(u"*.warning=false"_s);
     QCoreApplication application(argc, argv);
     // The name decides in which folder the file of the program is.
     QCoreApplication::setApplicationName(u"Verdane"_s);

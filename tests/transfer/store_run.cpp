@@ -1,7 +1,9 @@
 #include "tests/transfer/store_run.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -42,15 +44,36 @@ void store_run::become_nobody(const QString& folder)
 {
     if (geteuid() != 0)
         return;
-    const QString copy = folder + u"/verdane-store";
-    if (!QFile::copy(process_.program(), copy))
-        qFatal("cannot write %s", qUtf8Printable(copy));
-    process_.setProgram(copy);
+    copy_program(folder);
     process_.setChildProcessModifier([] {
         constexpr int nobody = 65534;
         if (setgid(nobody) != 0 || setuid(nobody) != 0)
             _exit(1);
     });
+}
+
+void store_run::limit_plugins(const QString& folder, const QStringList& drivers)
+{
+    copy_program(folder);
+    const QString wanted = u"/sqldrivers"_s;
+    const QString plugins = folder + u"/plugins";
+    QDir().mkpath(plugins + wanted);
+    for (const QString& driver : drivers) {
+        if (!QFile::link(QLibraryInfo::path(QLibraryInfo::PluginsPath) + wanted + u'/' + driver,
+                         plugins + wanted + u'/' + driver))
+            qFatal("no link to %s", qUtf8Printable(driver));
+    }
+    QFile settings(folder + u"/qt.conf");
+    if (!settings.open(QIODevice::WriteOnly) || settings.write("[Paths]\nPlugins=plugins\n") < 0)
+        qFatal("cannot write %s", qUtf8Printable(settings.fileName()));
+}
+
+void store_run::copy_program(const QString& folder)
+{
+    const QString copy = folder + u"/verdane-store";
+    if (!QFile::copy(process_.program(), copy))
+        qFatal("cannot write %s", qUtf8Printable(copy));
+    process_.setProgram(copy);
 }
 
 void store_run::start()

@@ -21,6 +21,10 @@ public:
     /// has every right.
     void become_nobody(const QString& folder);
 
+    /// Runs a copy of the program in that folder. Of the drivers for databases, the toolkit finds only those
+    /// plug-ins there.
+    void limit_plugins(const QString& folder, const QStringList& drivers);
+
     void start();
     /// Waits until the program has printed a text.
     bool wait_for(const QString& printed);
@@ -34,6 +38,8 @@ public:
     QString errors() { return QString::fromUtf8(process_.readAllStandardError()); }
 
 private:
+    void copy_program(const QString& folder);
+
     QProcess process_;
     QString output_;
 };
