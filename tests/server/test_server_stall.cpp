@@ -86,6 +86,24 @@ private Q_SLOTS:
             QVERIFY2(failed == failure_kind::source_silent, qPrintable(seen));
             QVERIFY2(took < 2000 * source_opening_time_out_s, qPrintable(seen));
         }
+        check_working_connection(messages);
+    }
+
+private:
+    /// After the checks the program opens the connection with which it works. The driver cannot change the
+    /// time-out of a connection, so the longer one applies from the first message.
+    static void check_working_connection(const std::vector<int>& messages)
+    {
+        Connection1 connection;
+        proxied_source stalled(messages[0] + messages[1] / 2);
+        QElapsedTimer time;
+        time.start();
+        const auto failed = failure_of([&] { connection.Open(stalled.place()); });
+        const qint64 took = time.elapsed();
+        QVERIFY2(failed == failure_kind::source_silent, qPrintable(QString::number(took)));
+        QVERIFY2(took > 1000 * (source_time_out_s - 1), qPrintable(QString::number(took)));
+        QVERIFY2(took < 1000 * (source_time_out_s + source_opening_time_out_s),
+                 qPrintable(QString::number(took)));
     }
 };
 
