@@ -4,7 +4,9 @@
 #include <QTest>
 
 #include "store/Connection1.h"
+#include "store/engines/odbc_link.h"
 #include "store/engines/registered_source.h"
+#include "store/engines/sqlite_odbc_engine.h"
 #include "tests/support/failures.h"
 #include "tests/support/reader.h"
 
@@ -37,9 +39,8 @@ QByteArray content_of(const QString& path)
 /// A source of SQLite with its file in a temporary folder.
 class sqlite_source {
 public:
-    explicit sqlite_source(bool names_file = true)
+    explicit sqlite_source(bool names_file = true, const QString& driver = driver_file())
     {
-        const QString driver = setting_of_source(u"Verdbase"_s, u"Driver"_s);
         const QString database = names_file ? u"Database=" + path() + u'\n' : QString();
         write_file(folder_.filePath(u"odbc.ini"_s),
                    QString(u'[' + name_ + u"]\nDriver=" + driver + u'\n' + database).toUtf8());
@@ -49,6 +50,8 @@ public:
     sqlite_source(const sqlite_source&) = delete;
     sqlite_source& operator=(const sqlite_source&) = delete;
 
+    static QString driver_file() { return setting_of_source(u"Verdbase"_s, u"Driver"_s); }
+    const QString& name() const { return name_; }
     QString path() const { return folder_.filePath(u"Verdbase.db"_s); }
     reader file() const { return reader(store_location::file(path())); }
     void open() { connection.Open(store_location::source(name_)); }
@@ -72,6 +75,27 @@ public:
 int number_of_partners(const QString& path)
 {
     return reader(path).number(u"select count(*) from partners"_s);
+}
+
+}  // namespace
+
+namespace {
+
+/// Inserts a partner by an engine for that version of the library, and returns the row with the identity that
+/// the engine returned.
+QString inserted_partner(const QString& version)
+{
+    sqlite_source source;
+    source.open();
+    source.connection.Close();
+    const QString connection = u"insertion"_s;
+    open_link(connection, source.name(), source_time_out_s);
+    sqlite_odbc_engine engine(connection, store_location::source(source.name()), version);
+    engine.open(soundness_check::while_opening);
+    engine.insert({u"INSERT INTO partners (`NAME`) VALUES ('first')"_s, {}}, u"test"_s);
+    const qint64 row = engine.insert({u"INSERT INTO partners (`NAME`) VALUES ('second')"_s, {}}, u"test"_s);
+    engine.close();
+    return source.file().text(u"select NAME from partners where rowid = %1"_s.arg(row));
 }
 
 }  // namespace
@@ -102,6 +126,12 @@ private Q_SLOTS:
             QVERIFY(failure_of([&] { source.open(); }) == failure_kind::store_damaged);
             QCOMPARE(content_of(source.path() + u"-wal"), log);
         }
+    }
+
+    void a_new_row_is_identified_with_every_version_of_the_library()
+    {
+        QCOMPARE(inserted_partner(u"3.40.1"_s), u"second"_s);
+        QCOMPARE(inserted_partner(u"3.34.1"_s), u"second"_s);
     }
 
     void a_file_of_another_kind_is_refused_and_kept()

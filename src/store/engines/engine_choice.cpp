@@ -75,7 +75,7 @@ std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_
     case source_kind::mariadb:
         return std::make_unique<mariadb_engine>(name, where);
     case source_kind::sqlite:
-        return std::make_unique<sqlite_odbc_engine>(name, where);
+        return std::make_unique<sqlite_odbc_engine>(name, where, sqlite);
     case source_kind::unsupported:
         break;
     }

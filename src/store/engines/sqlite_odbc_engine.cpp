@@ -4,6 +4,7 @@
 #include <QLockFile>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QVersionNumber>
 
 #include <utility>
 
@@ -34,6 +35,14 @@ constexpr QStringView columns_of_tables = u"select m.name, p.name, p.type from s
                                           u"pragma_table_info(m.name) p where m.type = 'table' "
                                           u"order by m.name, p.cid";
 
+/// The oldest library that returns the identity of an inserted row with the insertion. A driver contains a
+/// library of its own on some systems.
+const QVersionNumber oldest_with_returning(3, 35);
+
+/// The driver returns rows only of a statement that begins with one of the words of a query. This table,
+/// which the insertion does not use, makes it begin with such a word.
+constexpr QStringView beginning_of_query = u"WITH unused AS (SELECT 1) ";
+
 source_column column_of(const QSqlQuery& row)
 {
     const QString type = row.value(2).toString();
@@ -42,8 +51,9 @@ source_column column_of(const QSqlQuery& row)
 
 }  // namespace
 
-sqlite_odbc_engine::sqlite_odbc_engine(QString name, store_location where)
-    : odbc_engine(std::move(name), std::move(where))
+sqlite_odbc_engine::sqlite_odbc_engine(QString name, store_location where, const QString& version)
+    : odbc_engine(std::move(name), std::move(where)),
+      returns_new_rows_(QVersionNumber::fromString(version) >= oldest_with_returning)
 {
 }
 
@@ -150,7 +160,22 @@ QString sqlite_odbc_engine::identity_column(QStringView) const
 
 qint64 sqlite_odbc_engine::insert(const statement_with_values& statement, const QString& where)
 {
-    change(statement, where);
+    if (!returns_new_rows_) {
+        change(statement, where);
+        return last_identity();
+    }
+    const QString text = beginning_of_query + statement.text + u" RETURNING rowid";
+    // Not a forward-only query, of which the driver would commit the row only when the query ends, and would
+    // not report an error of that commit.
+    QSqlQuery query(database());
+    if (!query.exec(text))
+        throw failure(query.lastError(), where + u" [" + text + u']');
+    // Older drivers return no rows of such a statement, either.
+    return query.next() ? query.value(0).toLongLong() : last_identity();
+}
+
+qint64 sqlite_odbc_engine::last_identity() const
+{
     return first_value(u"select last_insert_rowid()"_s).toLongLong();
 }
 

@@ -10,7 +10,8 @@ namespace verdane {
 /// synchronous=FULL), and the same lock file, so that both cannot be open on one file.
 class sqlite_odbc_engine : public odbc_engine {
 public:
-    sqlite_odbc_engine(QString name, store_location where);
+    /// `version` is that of the library, as `sqlite_version()` returns it.
+    sqlite_odbc_engine(QString name, store_location where, const QString& version);
     ~sqlite_odbc_engine() override;
 
     /// Checks the file of a source before its driver opens it, because the driver deletes the log of a file
@@ -42,7 +43,9 @@ private:
     /// loses all its locks of it. Another program would then remove the log that this one writes.
     void check_closed_file();
     bool check_content() const;
+    qint64 last_identity() const;
 
+    const bool returns_new_rows_;
     std::unique_ptr<QLockFile> lock_;
     QString path_;
     bool created_ = false;
