@@ -81,6 +81,13 @@ int number_of_partners(const QString& path)
 
 namespace {
 
+/// Registers the driver of SQLite under another name, in the folder of the installed drivers.
+void register_alias(const QString& alias)
+{
+    write_file(qEnvironmentVariable("ODBCSYSINI") + u"/odbcinst.ini",
+               u"[%1]\nDriver=%2\n"_s.arg(alias, sqlite_source::driver_file()).toUtf8());
+}
+
 /// Inserts a partner by an engine for that version of the library, and returns the row with the identity that
 /// the engine returned.
 QString inserted_partner(const QString& version)
@@ -126,6 +133,24 @@ private Q_SLOTS:
             QVERIFY(failure_of([&] { source.open(); }) == failure_kind::store_damaged);
             QCOMPARE(content_of(source.path() + u"-wal"), log);
         }
+    }
+
+    void a_driver_whose_name_does_not_contain_sqlite_keeps_the_log_of_a_lost_file()
+    {
+        const QString alias = u"Lite"_s;
+        register_alias(alias);
+        sqlite_source source(true, alias);
+        const QByteArray log(4096, 'x');
+        for (const bool empty_file : {false, true}) {
+            write_file(source.path() + u"-wal", log);
+            if (empty_file)
+                write_file(source.path(), {});
+            QVERIFY(failure_of([&] { source.open(); }) == failure_kind::store_damaged);
+            QCOMPARE(content_of(source.path() + u"-wal"), log);
+        }
+        QVERIFY(QFile::remove(source.path() + u"-wal"));
+        source.open();
+        QVERIFY(source.connection.is_open());
     }
 
     void a_new_row_is_identified_with_every_version_of_the_library()

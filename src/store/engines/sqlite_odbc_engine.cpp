@@ -1,5 +1,6 @@
 #include "store/engines/sqlite_odbc_engine.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSqlError>
@@ -67,7 +68,9 @@ void sqlite_odbc_engine::check_before_opening(const QString& source)
     const QString path = setting_of_source(source, u"Database"_s);
     const bool is_for_sqlite =
         setting_of_source(source, u"Driver"_s).contains(u"sqlite", Qt::CaseInsensitive);
-    if (is_for_sqlite && !path.isEmpty())
+    // The name may be an alias. Another engine has no log next to a file without content.
+    const bool may_lose_log = QDir::isAbsolutePath(path) && QFileInfo(path).size() == 0;
+    if ((is_for_sqlite && !path.isEmpty()) || may_lose_log)
         check_store_files(path);
 }
 

@@ -15,8 +15,8 @@ public:
     ~sqlite_odbc_engine() override;
 
     /// Checks the file of a source before its driver opens it, because the driver deletes the log of a file
-    /// that is empty or missing. Does nothing for a source with another driver. Fails like
-    /// `check_store_files`.
+    /// that is empty or missing. Of a source whose driver may be that of another engine only such a file is
+    /// checked. Fails like `check_store_files`.
     static void check_before_opening(const QString& source);
 
     /// Creates the file if there is none. Fails like the embedded engine, and with `source_database`,
