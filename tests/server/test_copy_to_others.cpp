@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "base/failure_words.h"
 #include "tests/server/foreign_source.h"
 #include "tests/support/outside_connection.h"
 #include "tests/transfer/stored_files.h"
@@ -37,7 +38,7 @@ const QString own_key = u"drop column verdane_row, add primary key (date)"_s;
 }  // namespace
 
 /// `verdane-store copy` into tables that somebody else made on a server.
-class test_copy_order : public QObject {
+class test_copy_to_others : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -93,6 +94,18 @@ private Q_SLOTS:
         check_copy(unsorted_diary(), changed_target(change));
     }
 
+    void of_a_statement_that_fails_only_the_words_and_the_reason_are_written()
+    {
+        const unsorted_diary diary;
+        const changed_target target(u"modify column field varchar(1)"_s);
+        store_run run({u"copy"_s, file_argument(diary.diary), target.argument()});
+        QCOMPARE(run.run(), status(exit_status::failed));
+        const QString errors = run.errors();
+        QVERIFY2(errors.startsWith(failure_words(failure_kind::source_value).english + u"\ngames ["),
+                 qPrintable(errors));
+        QCOMPARE(target.number(u"select count(*) from games"_s), 0);
+    }
+
 private:
     /// Copies the diary to the target and back.
     static void check_copy(const unsorted_diary& diary, const changed_target& target)
@@ -106,5 +119,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(test_copy_order)
-#include "test_copy_order.moc"
+QTEST_GUILESS_MAIN(test_copy_to_others)
+#include "test_copy_to_others.moc"
