@@ -1,5 +1,6 @@
 #include "base/csv.h"
 
+#include <QList>
 #include <QStringDecoder>
 
 #include <algorithm>
