@@ -145,11 +145,11 @@ constexpr std::array texts{
     failure_text{
         failure_kind::source_type,
         {u"Une colonne de la source de données a un type qui ne convient pas aux valeurs de Verdane (un "
-         u"texte, un nombre entier ou un nombre à virgule). Corrigez la table, puis recommencez. Rien "
-         u"n'a été modifié.",
+         u"texte, un nombre entier ou un nombre à virgule), ou exige une valeur que Verdane ne lui donne "
+         u"pas (NOT NULL). Corrigez la table, puis recommencez. Rien n'a été modifié.",
          u"A column of the data source has a type that does not fit Verdane's values (a text, a whole "
-         u"number or a number with decimals). Correct the table, then start again. Nothing was "
-         u"changed."}},
+         u"number or a number with decimals), or needs a value that Verdane does not give it (NOT NULL). "
+         u"Correct the table, then start again. Nothing was changed."}},
     failure_text{failure_kind::source_storage,
                  {u"Des tables de la source de données ont un moteur de stockage sans transactions, comme "
                   u"MyISAM : un enregistrement interrompu y resterait incomplet. Convertissez-les en InnoDB, "

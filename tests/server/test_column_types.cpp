@@ -1,3 +1,4 @@
+#include <QScopeGuard>
 #include <QTest>
 
 #include <algorithm>
@@ -73,6 +74,25 @@ void change_type(const store_location& place, const sample& of, const QString& f
     const outside_connection server(place);
     server.run_unchanged(u"truncate table "_s + of.table);
     server.run_unchanged(u"alter table %1 modify column `%2` %3"_s.arg(of.table, of.column, type));
+}
+
+/// Adds a column after those of the program to an empty table.
+void add_column(const store_location& place, const QString& to, const QString& definition)
+{
+    const outside_connection store(place);
+    if (engine_of_tests() == test_engine::mariadb) {
+        store.run_unchanged(u"alter table %1 add column "_s.arg(to) + definition);
+        return;
+    }
+    // SQLite adds no column that needs a value.
+    const QString creation = reader(place).text(u"select sql from sqlite_master where name = '%1'"_s.arg(to));
+    store.run(u"drop table "_s + to);
+    store.run(creation.chopped(1) + u", " + definition + u')');
+}
+
+void drop_column(const store_location& place, const QString& from, const QString& column)
+{
+    outside_connection(place).run_unchanged(u"alter table %1 drop column %2"_s.arg(from, column));
 }
 
 /// Writes a value to a new row. The row is the last one of its table.
@@ -211,6 +231,69 @@ private Q_SLOTS:
             QCOMPARE(changed, QStringList());
         }
         QCOMPARE(found.join(u' '), accepted);
+    }
+
+    void a_column_that_refuses_null_is_refused_unless_new_rows_have_its_default_data()
+    {
+        QTest::addColumn<QString>("ending");
+        QTest::addColumn<QString>("accepted");
+        const QString with_default = u"count amount yes_no"_s;
+        // A server drops the default when it changes a column.
+        const bool is_server = engine_of_tests() == test_engine::mariadb;
+        QTest::newRow("without a default, or with that of the program")
+            << u" not null"_s << (is_server ? QString() : with_default);
+        QTest::newRow("with a default") << u" not null default 0"_s << with_default;
+    }
+    void a_column_that_refuses_null_is_refused_unless_new_rows_have_its_default()
+    {
+        QFETCH(QString, ending);
+        QFETCH(QString, accepted);
+        QStringList found;
+        for (const sample& each : samples()) {
+            const QString declared = declared_type_of(each);
+            change_type(place_, each, declared, declared + ending);
+            Connection1 connection;
+            const auto failure = failure_of([&] { connection.Open(place_); });
+            connection.Close();
+            change_type(place_, each, declared + ending, declared);
+            if (failure)
+                QVERIFY(failure == failure_kind::source_type);
+            else
+                found << QString::fromLatin1(each.name);
+        }
+        QCOMPARE(found.join(u' '), accepted);
+    }
+
+    void a_further_column_that_needs_a_value_in_a_new_row_is_refused_data()
+    {
+        QTest::addColumn<QString>("definition");
+        QTest::addColumn<bool>("refused");
+        QTest::newRow("no null and no default") << u"remark varchar(9) not null"_s << true;
+        QTest::newRow("no null and a default") << u"remark varchar(9) not null default 'none'"_s << false;
+        QTest::newRow("null and no default") << u"remark varchar(9)"_s << false;
+        const bool is_server = engine_of_tests() == test_engine::mariadb;
+        QTest::newRow("computed") << u"remark int generated always as (1 + 1) "_s +
+                                         (is_server ? u"persistent"_s : u"stored"_s)
+                                  << false;
+    }
+    void a_further_column_that_needs_a_value_in_a_new_row_is_refused()
+    {
+        QFETCH(QString, definition);
+        QFETCH(bool, refused);
+        const sample& filled = samples().front();
+        add_column(place_, filled.table, definition);
+        const auto dropped = qScopeGuard([&] { drop_column(place_, filled.table, u"remark"_s); });
+        Connection1 connection;
+        try {
+            connection.Open(place_);
+            QVERIFY(!refused);
+            store_value(connection, filled, filled.values.front());
+        } catch (const run_time_failure& failure) {
+            QVERIFY2(refused, qPrintable(failure.details()));
+            QCOMPARE(failure.kind(), failure_kind::source_type);
+            QVERIFY2(failure.details().contains(u"remark") && failure.details().contains(u"NOT NULL"),
+                     qPrintable(failure.details()));
+        }
     }
 };
 

@@ -86,6 +86,42 @@ private Q_SLOTS:
         }
     }
 
+    void a_column_that_refuses_the_value_of_a_new_row_is_refused_with_both_types_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("place");
+        QTest::addColumn<bool>("has_default");
+        QTest::addColumn<QString>("details");
+        QTest::newRow("Null, no default")
+            << u"hand"_s << 0 << false << u"hand, 1: hnd: int NOT NULL ≠ DOUBLE"_s;
+        QTest::newRow("Null, a default")
+            << u"hand"_s << 0 << true << u"hand, 1: hnd: int NOT NULL ≠ DOUBLE"_s;
+        QTest::newRow("after the last column, no default")
+            << u"hand"_s << 1 << false << u"hand, 2: further: int NOT NULL ≠ int"_s;
+        QTest::newRow("after the last column, a default") << u"hand"_s << 1 << true << QString();
+    }
+    void a_column_that_refuses_the_value_of_a_new_row_is_refused_with_both_types()
+    {
+        QFETCH(QString, table);
+        QFETCH(int, place);
+        QFETCH(bool, has_default);
+        source_tables tables = complete_tables();
+        QList<source_column>& columns = tables[table];
+        if (columns.size() == place)
+            columns << source_column{u"further"_s};
+        columns[place].type = u"int"_s;
+        columns[place].not_null = true;
+        columns[place].has_default = has_default;
+        QString details;
+        try {
+            check_tables(tables);
+        } catch (const run_time_failure& failure) {
+            QCOMPARE(failure.kind(), failure_kind::source_type);
+            details = failure.details();
+        }
+        QTEST(details, "details");
+    }
+
     void a_type_of_a_server_fits_the_columns_whose_values_it_stores_unchanged_data()
     {
         add_types();

@@ -35,7 +35,8 @@ QString mariadb_tables::question()
 {
     // A view has no storage engine.
     return u"select c.table_name, c.column_name, c.column_key, c.extra, c.data_type, c.numeric_scale, "
-           u"t.engine, e.transactions, c.column_type, c.collation_name, c.column_default from "
+           u"t.engine, e.transactions, c.column_type, c.collation_name, c.column_default, "
+           u"c.is_nullable from "
            u"information_schema.columns c "
            u"join information_schema.tables t using (table_schema, table_name) "
            u"left join information_schema.engines e on e.engine = t.engine "
@@ -63,6 +64,32 @@ bool is_declared_default(const QString& table, const QString& name, const QVaria
     return text == QString::number(same->default_value.toInt());
 }
 
+bool is_numbered(const QString& extra)
+{
+    return extra.contains(u"auto_increment", Qt::CaseInsensitive);
+}
+
+/// From a row of the query for the columns. The server numbers a row instead of storing Null.
+bool refuses_null(const QSqlQuery& row)
+{
+    return row.value(11).toString() == u"NO" && row.value(2).toString() != u"PRI" &&
+           !is_numbered(row.value(3).toString());
+}
+
+/// From such a row. The server sets the default, or computes the value.
+bool has_default(const QSqlQuery& row)
+{
+    return !row.value(10).toString().isEmpty() ||
+           row.value(3).toString().contains(u"GENERATED", Qt::CaseInsensitive);
+}
+
+source_column column_of(const QSqlQuery& row)
+{
+    const bool rounds = row.value(5).toInt() > 0;
+    return {row.value(1).toString(), row.value(8).toString(),
+            content_in_mariadb(row.value(4).toString(), rounds), refuses_null(row), has_default(row)};
+}
+
 }  // namespace
 
 mariadb_tables::mariadb_tables(QSqlQuery& columns)
@@ -70,12 +97,10 @@ mariadb_tables::mariadb_tables(QSqlQuery& columns)
     while (columns.next()) {
         const QString table = columns.value(0).toString().toLower();
         const QString column = columns.value(1).toString();
-        const QString type = columns.value(4).toString();
         const QString extra = columns.value(3).toString();
         // `select *` returns a column that identifies rows unless it is invisible.
         if (!extra.contains(u"INVISIBLE", Qt::CaseInsensitive))
-            columns_[table] << source_column{column, columns.value(8).toString(),
-                                             content_in_mariadb(type, columns.value(5).toInt() > 0)};
+            columns_[table] << column_of(columns);
         if (!is_declared_default(table, column, columns.value(10)) && !other_defaults_.contains(table))
             other_defaults_ << table;
         keys_[table].add(column, columns.value(2).toString(), extra);
@@ -91,7 +116,7 @@ void mariadb_tables::keys::add(const QString& column, const QString& key, const 
 {
     if (key == u"PRI")
         primary << column;
-    if (extra.contains(u"auto_increment", Qt::CaseInsensitive))
+    if (is_numbered(extra))
         numbered = column;
     if (column != row_column())
         return;

@@ -11,9 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void check_column(const table& declared, qsizetype place, const column& column, const source_column& found)
+/// Places count from 1.
+QString place_of(const table& declared, qsizetype place)
 {
-    const QString where = u"%1, %2: "_s.arg(declared.name).arg(place);
+    return u"%1, %2: "_s.arg(declared.name).arg(place);
+}
+
+void check_column(const QString& where, const column& column, const source_column& found)
+{
     if (found.name.compare(column.name, Qt::CaseInsensitive) != 0)
         throw run_time_failure(
             failure_kind::source_column,
@@ -23,13 +28,26 @@ void check_column(const table& declared, qsizetype place, const column& column, 
                                                                   u" ≠ " + declared_type(column)));
 }
 
+/// `needed` is the type that the column should have.
+void check_null(const QString& where, const source_column& found, bool is_null_in_new_rows,
+                const QString& needed)
+{
+    if (found.not_null && (is_null_in_new_rows || !found.has_default))
+        throw run_time_failure(failure_kind::source_type,
+                               QString(where + found.name + u": " + found.type + u" NOT NULL ≠ " + needed));
+}
+
 void check_columns(const table& declared, const QList<source_column>& found)
 {
     qsizetype place = 0;
     for (const column& column : declared.columns) {
-        check_column(declared, place + 1, column, found.value(place));
-        ++place;
+        const source_column present = found.value(place);
+        const QString where = place_of(declared, ++place);
+        check_column(where, column, present);
+        check_null(where, present, column.default_value.isNull(), declared_type(column));
     }
+    for (; place < found.size(); ++place)
+        check_null(place_of(declared, place + 1), found[place], false, found[place].type);
 }
 
 }  // namespace

@@ -15,6 +15,10 @@ struct source_column {
     QString name;
     QString type = {};
     column_content content = column_content::anything;
+    /// True if the column refuses Null. The columns of a primary key are excepted.
+    bool not_null = false;
+    /// True if the engine itself sets a value in a new row.
+    bool has_default = false;
 };
 
 /// The columns of each table in their order, by the name of the table in small letters.
@@ -23,10 +27,11 @@ using source_tables = QHash<QString, QList<source_column>>;
 /// How many tables of the store a source has.
 enum class tables_found { none, some, all };
 
-/// Compares the tables of the store with those of a source; other tables are ignored. Columns after the last
-/// declared one are ignored, too. Names have no case. Fails with `source_column` if a column is missing, has
-/// another name or is in another place, and with `source_type` if its type does not fit the values of the
-/// program; the details name the table, the place and the difference.
+/// Compares the tables of the store with those of a source; other tables are ignored. The names and types of
+/// columns after the last declared one are ignored, too. Names have no case. Fails with `source_column` if a
+/// column is missing, has another name or is in another place, and with `source_type` if its type does not
+/// fit the values of the program, or if it refuses Null and a new row has no other value there, which applies
+/// to further columns, too; the details name the table, the place and the difference.
 tables_found check_tables(const source_tables& found);
 
 /// True if the source has the first tables of the store in the order in which they are created, and not the

@@ -32,9 +32,11 @@ constexpr int lock_time_out_s = 10;
 /// The documented result code of the engine.
 constexpr int input_output_error = 10;
 
-constexpr QStringView columns_of_tables = u"select m.name, p.name, p.type from sqlite_master m join "
-                                          u"pragma_table_info(m.name) p where m.type = 'table' "
-                                          u"order by m.name, p.cid";
+constexpr QStringView columns_of_tables =
+    u"select m.name, p.name, p.type, p.\"notnull\" and p.pk = 0, p.dflt_value is not null "
+    u"from sqlite_master m join "
+    u"pragma_table_info(m.name) p where m.type = 'table' "
+    u"order by m.name, p.cid";
 
 /// The oldest library that returns the identity of an inserted row with the insertion. A driver contains a
 /// library of its own on some systems.
@@ -47,7 +49,8 @@ constexpr QStringView beginning_of_query = u"WITH unused AS (SELECT 1) ";
 source_column column_of(const QSqlQuery& row)
 {
     const QString type = row.value(2).toString();
-    return {row.value(1).toString(), type, content_in_sqlite(type)};
+    return {row.value(1).toString(), type, content_in_sqlite(type), row.value(3).toBool(),
+            row.value(4).toBool()};
 }
 
 }  // namespace
