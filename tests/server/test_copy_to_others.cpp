@@ -1,7 +1,9 @@
+#include <QScopeGuard>
 #include <QTest>
 
 #include "base/failure_words.h"
 #include "tests/server/foreign_source.h"
+#include "tests/server/own_server.h"
 #include "tests/support/outside_connection.h"
 #include "tests/transfer/stored_files.h"
 
@@ -92,6 +94,28 @@ private Q_SLOTS:
     {
         QFETCH(QString, change);
         check_copy(unsorted_diary(), changed_target(change));
+    }
+
+    void the_copy_is_complete_whatever_the_connections_of_the_server_begin_with_data()
+    {
+        QTest::addColumn<QString>("setting");
+        QTest::addColumn<QString>("value");
+        QTest::newRow("another character set") << u"init_connect"_s << u"'set names utf8mb3'"_s;
+        QTest::newRow("a limit of rows") << u"sql_select_limit"_s << u"3"_s;
+    }
+
+    void the_copy_is_complete_whatever_the_connections_of_the_server_begin_with()
+    {
+        QFETCH(QString, setting);
+        QFETCH(QString, value);
+        const unsorted_diary diary;
+        reader(diary.diary)
+            .write(QStringList{u"insert into partners (NAME, code) values ('é\U0001F3CC', 7)"_s});
+        const changed_target target(u"comment = ''"_s);
+        administer(u"set global %1 = %2"_s.arg(setting, value));
+        const auto restored =
+            qScopeGuard([&setting] { administer(u"set global %1 = default"_s.arg(setting)); });
+        check_copy(diary, target);
     }
 
     void of_a_statement_that_fails_only_the_words_and_the_reason_are_written()

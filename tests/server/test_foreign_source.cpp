@@ -1,7 +1,9 @@
 #include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "store/Recordset.h"
+#include "store/recovery/diary_copy.h"
 #include "store/schema.h"
 #include "tests/server/foreign_source.h"
 #include "tests/server/own_server.h"
@@ -18,6 +20,12 @@ void run_script(const foreign_source& in, const QString& script)
 {
     for (const QString& statement : script.split(u";\n"_s, Qt::SkipEmptyParts))
         administer(QString(statement).replace(u"TABLE `"_s, u"TABLE `" + in.database() + u"`.`"));
+}
+
+void restart_server(const QStringList& options = {})
+{
+    stop_server();
+    start_server(options);
 }
 
 /// True if the first column has the name that `text` begins with, of more than `least` letters.
@@ -134,6 +142,81 @@ private Q_SLOTS:
         QCOMPARE(stored_partners(strict), u"a:1:null b:2:null"_s);
         strict.connection.Execute(u"delete from partners"_s);
         QCOMPARE(stored_partners(strict), QString());
+    }
+
+    void a_text_is_stored_and_read_unchanged_whatever_the_character_set_of_the_server_is_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::newRow("of each connection") << QStringList{u"--init-connect=set names utf8mb3"_s};
+        QTest::newRow("instead of that of the client")
+            << QStringList{u"--skip-character-set-client-handshake"_s, u"--character-set-server=latin1"_s};
+    }
+    void a_text_is_stored_and_read_unchanged_whatever_the_character_set_of_the_server_is()
+    {
+        QFETCH(QStringList, options);
+        restart_server(options);
+        const auto restored = qScopeGuard([] { restart_server(); });
+        foreign_source other;
+        other.open();
+        Recordset partners(other.connection, partners_settings());
+        partners.Open();
+        const QString name = u"é\U0001F3CC"_s;
+        add_partner(partners, name, 1);
+        partners.Close();
+        other.reopen();
+        QCOMPARE(other.stored(u"select hex(NAME) from partners"_s), QStringList{u"C3A9F09F8F8C"_s});
+        partners.Open();
+        QCOMPARE(partners.Fields(u"NAME").text_or_empty(), name);
+        partners.Find(u"NAME='%1'"_s.arg(name));
+        QVERIFY(!partners.eof());
+    }
+
+    void a_setting_of_the_server_changes_no_rows_that_are_read_data()
+    {
+        QTest::addColumn<QString>("setting");
+        QTest::addColumn<int>("value");
+        QTest::newRow("the number of rows is limited") << u"sql_select_limit"_s << 3;
+        QTest::newRow("long selections are refused") << u"max_join_size"_s << 3;
+        QTest::newRow("the beginnings of texts are sorted") << u"max_sort_length"_s << 64;
+    }
+    void a_setting_of_the_server_changes_no_rows_that_are_read()
+    {
+        QFETCH(QString, setting);
+        QFETCH(int, value);
+        foreign_source other;
+        administer(u"set global %1 = %2"_s.arg(setting).arg(value));
+        const auto restored =
+            qScopeGuard([&setting] { administer(u"set global %1 = default"_s.arg(setting)); });
+        other.open();
+        Recordset partners(other.connection, partners_settings());
+        partners.Open();
+        QStringList names;
+        for (int code = 9; code > 0; --code) {
+            names.prepend(QString(40, u'a') + QString::number(code));
+            add_partner(partners, names.front(), code);
+        }
+        partners.Requery();
+        QStringList found;
+        for (; !partners.eof(); partners.MoveNext())
+            found << partners.Fields(u"NAME").text_or_empty();
+        QCOMPARE(found, names);
+    }
+
+    void a_copy_of_which_rows_are_not_returned_fails()
+    {
+        foreign_source from;
+        from.open();
+        from.connection.Execute(u"insert into partners (name) values ('a'), ('b')"_s);
+        const QTemporaryDir folder;
+        Connection1 to;
+        to.Open(folder.filePath(u"Verdbase.db"_s));
+        from.connection.Execute(u"set session sql_select_limit = 1"_s);
+        const auto copy = [&] { copy_diary(from.connection, to, [](const counted_table&) {}); };
+        QVERIFY(failure_of(copy) == failure_kind::store_other);
+        QCOMPARE(reader(to.location()).number(u"select count(*) from partners"_s), 0);
+        from.reopen();
+        copy();
+        QCOMPARE(reader(to.location()).number(u"select count(*) from partners"_s), 2);
     }
 
     void a_column_with_a_long_name_is_read()

@@ -7,6 +7,7 @@
 
 #include "store/engines/mariadb_errors.h"
 #include "store/engines/mariadb_rights.h"
+#include "store/engines/mariadb_session.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/sql_text.h"
 #include "store/schema.h"
@@ -20,10 +21,6 @@ namespace {
 /// How long opening waits for the lock of another program, in seconds. The server releases the lock of a
 /// killed program a moment later.
 constexpr int program_lock_time_out_s = 1;
-
-/// How long the server keeps a connection on which nothing is sent, in seconds; its default is 8 hours. The
-/// longest time that a server on every system accepts, some 24 days.
-constexpr int idle_time_out_s = 2'147'483;
 
 /// The longest statement, in characters, that inserts a row and returns its identity. The driver runs one of
 /// more than 32 KB without reading what it returns, and the connection cannot be used any more.
@@ -81,16 +78,8 @@ void mariadb_engine::refuse_incomplete() const
 
 void mariadb_engine::set_session(int lock_time_out_s) const
 {
-    // A backslash in a text is a backslash; a value that does not fit is an error.
-    run(u"set session sql_mode = 'STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION,NO_BACKSLASH_ESCAPES', "
-        u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
-            .arg(lock_time_out_s)
-            .arg(idle_time_out_s));
-    // A commit begins no transaction, in which later changes would be lost, and a change needs no key,
-    // whatever the defaults of the server are.
-    run(u"set session completion_type = 'NO_CHAIN', session sql_safe_updates = 0"_s);
-    // All reads of a report use one snapshot, whatever the default of the server is.
-    run(u"set session transaction isolation level repeatable read"_s);
+    for (const QString& statement : session_settings(lock_time_out_s))
+        run(statement);
 }
 
 void mariadb_engine::check_server() const

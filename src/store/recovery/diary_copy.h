@@ -52,8 +52,8 @@ void replace_rows(Connection1& store, const table& replaced, const table_rows& r
 /// before, the target is as it was. Returns the tables with the numbers of their rows.
 ///
 /// Both connections are open. Fails with `misuse` if the target has rows (`tables_in_use`), with
-/// `store_other` if a row differs after it was copied, as in a table without order, and with the kind that
-/// fits the engine's error.
+/// `store_other` if a row differs after it was copied, as in a table without order, or if the engine does not
+/// return all rows of a table, and with the kind that fits the engine's error.
 std::vector<counted_table> copy_diary(Connection1& from, Connection1& to, const table_notice& notice);
 
 }  // namespace verdane

@@ -1,0 +1,36 @@
+#include "store/engines/mariadb_session.h"
+
+namespace verdane {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How long the server keeps a connection on which nothing is sent, in seconds; its default is 8 hours. The
+/// longest time that a server on every system accepts, some 24 days.
+constexpr int idle_time_out_s = 2'147'483;
+
+}  // namespace
+
+QStringList session_settings(int lock_time_out_s)
+{
+    return {
+        // In another character set, characters that it does not have arrive as question marks. The driver
+        // refuses `set names`.
+        u"set session character_set_client = utf8mb4, session character_set_results = utf8mb4, "
+        u"session character_set_connection = utf8mb4"_s,
+        // A backslash in a text is a backslash; a value that does not fit is an error.
+        u"set session sql_mode = 'STRICT_ALL_TABLES,NO_ENGINE_SUBSTITUTION,NO_BACKSLASH_ESCAPES', "
+        u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
+            .arg(lock_time_out_s)
+            .arg(idle_time_out_s),
+        // A commit begins no transaction, in which later changes would be lost, and a change needs no key.
+        u"set session completion_type = 'NO_CHAIN', session sql_safe_updates = 0"_s,
+        // A query returns all its rows, however many it reads, sorted by more than the beginnings of texts.
+        u"set session sql_select_limit = 18446744073709551615, session sql_big_selects = 1, "
+        u"session max_sort_length = 1024"_s,
+        // All reads of a report use one snapshot.
+        u"set session transaction isolation level repeatable read"_s};
+}
+
+}  // namespace verdane
