@@ -238,6 +238,14 @@ const std::vector<refusal>& refusals()
          nothing},
         {"wrong password", failure_kind::source_password, {{u"PWD"_s, u"bunker"_s}}, nothing, nothing},
         {"unknown account", failure_kind::source_password, {{u"UID"_s, u"caddie"_s}}, nothing, nothing},
+        {"password that has to be changed first",
+         failure_kind::source_password,
+         {{u"UID"_s, u"viewer"_s}},
+         [] {
+             add_account(u"all"_s);
+             administer(u"alter user viewer@localhost password expire"_s);
+         },
+         nothing},
         {"database of others",
          failure_kind::source_database,
          {{u"DATABASE"_s, u"mysql"_s}},

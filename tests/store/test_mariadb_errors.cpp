@@ -79,6 +79,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("code");
         QTest::addColumn<failure_kind>("kind");
         QTest::newRow("wrong password") << 1045 << failure_kind::source_password;
+        QTest::newRow("password that has to be changed first") << 1820 << failure_kind::source_password;
         QTest::newRow("account locked") << 4151 << failure_kind::source_password;
         QTest::newRow("host not allowed") << 1130 << failure_kind::source_host;
         QTest::newRow("host blocked") << 1129 << failure_kind::source_host;
@@ -106,6 +107,10 @@ private Q_SLOTS:
                 failure_kind::source_stopped);
         QVERIFY(kind_of_unusable_server(2013, u"Lost connection"_s) == failure_kind::source_silent);
         QVERIFY(kind_of_unusable_server(0, QString()) == failure_kind::source_silent);
+        const QString from_server = u"[ma-3.1.17][10.11.6-MariaDB]text"_s;
+        QVERIFY(kind_of_unusable_server(1820, from_server) == failure_kind::source_password);
+        QVERIFY(kind_of_unusable_server(1290, from_server) == failure_kind::source_read_only);
+        QVERIFY(kind_of_unusable_server(1969, from_server) == failure_kind::store_other);
         QVERIFY(!kind_of_unusable_server(1, u"no such function: version (1)"_s));
         QVERIFY(!kind_of_unusable_server(195, u"not a recognized built-in function name"_s));
     }

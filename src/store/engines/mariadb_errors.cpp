@@ -46,6 +46,7 @@ constexpr int incorrect_value = 1366;
 constexpr int too_long = 1406;
 constexpr int account_denied_without_password = 1698;
 constexpr int read_only_transaction = 1792;
+constexpr int password_to_be_changed = 1820;
 constexpr int read_only_mode = 1836;
 constexpr int connection_killed = 1927;
 constexpr int account_locked = 4151;
@@ -64,6 +65,12 @@ bool names_error(const QString& text, const QString& numbers)
     const QRegularExpression error(u"\\b(error|errno:|errcode:) (%1)\\b"_s.arg(numbers),
                                    QRegularExpression::CaseInsensitiveOption);
     return error.match(text).hasMatch();
+}
+
+/// The driver begins the text with its own version in brackets, then that of the server.
+bool is_from_mariadb(const QString& text)
+{
+    return text.contains(u"[ma-") || text.contains(u"MariaDB", Qt::CaseInsensitive);
 }
 
 /// 28 means that no space is left. 122 means that the quota is used up, although the server describes the
@@ -115,6 +122,7 @@ constexpr std::array meanings{
     error_meaning{code::out_of_range, failure_kind::source_value},
     error_meaning{code::incorrect_value, failure_kind::source_value},
     error_meaning{code::too_long, failure_kind::source_value},
+    error_meaning{code::password_to_be_changed, failure_kind::source_password},
     error_meaning{code::no_database_selected, failure_kind::source_database},
     error_meaning{code::disk_full, failure_kind::source_full},
     error_meaning{code::table_full, failure_kind::source_full},
@@ -134,6 +142,7 @@ failure_kind kind_of_mariadb_opening(int number)
     case code::account_denied:
     case code::account_denied_without_password:
     case code::account_locked:
+    case code::password_to_be_changed:
     case code::password_expired:
         return failure_kind::source_password;
     case code::host_blocked:
@@ -165,9 +174,11 @@ std::optional<failure_kind> kind_of_unusable_server(int number, const QString& t
     // A node of a cluster that has lost the other nodes accepts connections and refuses queries.
     if (number == code::node_not_ready)
         return failure_kind::source_stopped;
-    if (kind_of_mariadb_error(number, text) == failure_kind::source_lost)
+    const failure_kind kind = kind_of_mariadb_error(number, text);
+    if (kind == failure_kind::source_lost)
         return failure_kind::source_silent;
-    return std::nullopt;
+    // The server has the function, so the error has another reason.
+    return is_from_mariadb(text) ? std::optional(kind) : std::nullopt;
 }
 
 failure_kind kind_of_mariadb_error(int number, const QString& text)
