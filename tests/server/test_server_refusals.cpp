@@ -184,6 +184,18 @@ void add_account(const QString& rights)
     administer(u"grant %1 on `verdbase%`.* to viewer@localhost"_s.arg(rights));
 }
 
+/// Makes that account with rights on every table but one, which the server does not describe to it then.
+void add_account_without(const QString& hidden)
+{
+    add_account(u"create"_s);
+    const QString database = file_of(program_run::store_place());
+    for (const table& each : schema()) {
+        if (each.name != hidden)
+            administer(u"grant all on %1.%2 to viewer@localhost"_s.arg(database, each.name));
+    }
+    administer(u"revoke create on `verdbase%`.* from viewer@localhost"_s);
+}
+
 /// Connections of the golfer's account that are open until `close_connections`.
 std::vector<std::unique_ptr<outside_connection>> held_connections;
 
@@ -307,6 +319,16 @@ const std::vector<refusal>& refusals()
                      each.name == u"cost"_s ? u"select"_s : u"select, insert, update, delete"_s,
                      file_of(program_run::store_place()), each.name));
          },
+         nothing},
+        {"account without rights on one table",
+         failure_kind::source_read_only,
+         {{u"UID"_s, u"viewer"_s}},
+         [] { add_account_without(u"cost"_s); },
+         nothing},
+        {"account without rights on any table",
+         failure_kind::source_read_only,
+         {{u"UID"_s, u"viewer"_s}},
+         [] { add_account(u"create"_s); },
          nothing},
         {"server that only reads",
          failure_kind::source_read_only,

@@ -61,6 +61,7 @@ bool mariadb_engine::check_source()
     read_tables();
     const tables_found which = check_tables(tables_.columns());
     tables_.check_transactions();
+    check_missing_tables();
     if (which == tables_found::all)
         check_writable();
     // Each statement that creates a table is committed by itself, so an earlier start may have been ended in
@@ -68,6 +69,19 @@ bool mariadb_engine::check_source()
     if (which == tables_found::some && (!are_first_tables(tables_.columns()) || holds_rows()))
         refuse_incomplete();
     return which == tables_found::all;
+}
+
+void mariadb_engine::check_missing_tables() const
+{
+    for (const QString& table : missing_tables(tables_.columns())) {
+        const QString statement = u"select 1 from " + in_back_quotes(table) + u" limit 0";
+        QSqlQuery query(database());
+        if (query.exec(statement))
+            continue;
+        const run_time_failure found = failure(query.lastError(), statement);
+        if (found.kind() != failure_kind::source_part)
+            throw found;
+    }
 }
 
 void mariadb_engine::refuse_incomplete() const

@@ -49,6 +49,9 @@ private:
     void set_session(int lock_time_out_s) const;
     void check_server() const;
     void take_lock() const;
+    /// Fails unless the server has no tables of the missing names: it does not describe tables on which the
+    /// account has no rights.
+    void check_missing_tables() const;
     [[noreturn]] void refuse_incomplete() const;
     void read_tables();
     bool holds_rows() const;
