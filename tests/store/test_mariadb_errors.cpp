@@ -26,7 +26,9 @@ private Q_SLOTS:
         row("connection killed", 1927, failure_kind::source_lost);
         row("server shut down", 1053, failure_kind::source_lost);
         row("lock not free in time", 1205, failure_kind::store_locked);
-        row("deadlock", 1213, failure_kind::store_locked);
+        row("deadlock, in which no program has to be closed", 1213, failure_kind::store_other);
+        row("node that has lost the others", 1047, failure_kind::source_lost);
+        row("password that has to be changed first", 1820, failure_kind::source_password);
         row("right on a table missing", 1142, failure_kind::source_read_only);
         row("read-only server", 1290, failure_kind::source_read_only);
         row("missing table", 1146, failure_kind::source_part);

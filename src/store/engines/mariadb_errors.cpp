@@ -36,7 +36,6 @@ constexpr int no_such_table = 1146;
 constexpr int error_during_commit = 1180;
 constexpr int too_many_connections_of_account = 1203;
 constexpr int lock_wait_timeout = 1205;
-constexpr int deadlock = 1213;
 constexpr int limit_of_account = 1226;
 constexpr int privilege_missing = 1227;
 constexpr int login_method_too_old = 1251;
@@ -102,6 +101,7 @@ struct error_meaning {
 /// What an error of a statement means. All others are `store_other`.
 constexpr std::array meanings{
     error_meaning{0, failure_kind::source_lost, is_nothing},
+    error_meaning{code::node_not_ready, failure_kind::source_lost},
     error_meaning{code::server_shutdown, failure_kind::source_lost},
     error_meaning{code::connection_killed, failure_kind::source_lost},
     error_meaning{code::connection_lost, failure_kind::source_lost},
@@ -109,7 +109,6 @@ constexpr std::array meanings{
     error_meaning{code::server_lost_extended, failure_kind::source_lost},
     error_meaning{code::connection_error, failure_kind::source_lost},
     error_meaning{code::lock_wait_timeout, failure_kind::store_locked},
-    error_meaning{code::deadlock, failure_kind::store_locked},
     error_meaning{code::database_denied, failure_kind::source_read_only},
     error_meaning{code::table_denied, failure_kind::source_read_only},
     error_meaning{code::column_denied, failure_kind::source_read_only},
