@@ -96,9 +96,9 @@ std::vector<index_creation> all_indexes()
 /// False if an earlier start was ended before it had inserted all rows. Complete rows may have been edited.
 bool has_fixed_rows(const store_engine& engine, const table& filled)
 {
-    QSqlQuery query(engine.database());
-    return query.exec(u"SELECT COUNT(*) FROM " + in_back_quotes(filled.name)) && query.next() &&
-           query.value(0).toInt() == filled.fixed_rows;
+    const QString statement = u"SELECT COUNT(*) FROM " + in_back_quotes(filled.name);
+    const auto rows = engine.select(statement, filled.name);
+    return rows->next() && rows->value(0).toInt() == filled.fixed_rows;
 }
 
 void create_tables_and_indexes(store_engine& engine, const statement_runner& run)

@@ -116,6 +116,23 @@ private Q_SLOTS:
         QCOMPARE(edited.outside().number(u"select language from settings"_s), 2);
     }
 
+    void an_edited_golf_bag_that_the_account_may_not_read_is_kept()
+    {
+        foreign_source edited;
+        edited.open();
+        edited.connection.Execute(u"update sticknames set club_1 = 'Driver'"_s);
+        edited.connection.Close();
+        administer(u"drop table %1.%2"_s.arg(edited.database(), schema().back().name));
+        for (const table& each : schema())
+            administer(u"grant %1 on %2.%3 to golfer@localhost"_s.arg(
+                each.name == u"sticknames" ? u"insert, delete"_s : u"all"_s, edited.database(), each.name));
+        administer(u"revoke all on `verdbase%`.* from golfer@localhost"_s);
+        const auto failed = failure_of([&] { edited.open(); });
+        administer(u"grant all on `verdbase%`.* to golfer@localhost"_s);
+        QVERIFY(failed == failure_kind::source_read_only);
+        QCOMPARE(edited.outside().number(u"select count(*) from sticknames where club_1 = 'Driver'"_s), 1);
+    }
+
     void a_setting_of_the_server_loses_no_save_data()
     {
         QTest::addColumn<QString>("setting");

@@ -130,6 +130,8 @@ QStringList store_engine::first_values(const QString& question) const
     QStringList values;
     while (query.next())
         values << query.value(0).toString();
+    if (query.lastError().isValid())
+        throw failure(query.lastError(), question);
     return values;
 }
 

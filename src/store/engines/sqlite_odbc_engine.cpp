@@ -125,6 +125,8 @@ bool sqlite_odbc_engine::check_content() const
     source_tables found;
     while (query.next())
         found[query.value(0).toString().toLower()] << column_of(query);
+    if (query.lastError().isValid())
+        throw failure(query.lastError(), question);
     const tables_found which = check_tables(found);
     if (which == tables_found::some)
         throw run_time_failure(failure_kind::source_table,
@@ -176,8 +178,12 @@ qint64 sqlite_odbc_engine::insert(const statement_with_values& statement, const 
     QSqlQuery query(database());
     if (!query.exec(text))
         throw failure(query.lastError(), where + u" [" + text + u']');
+    if (query.next())
+        return query.value(0).toLongLong();
+    if (query.lastError().isValid())
+        throw failure(query.lastError(), where + u" [" + text + u']');
     // Older drivers return no rows of such a statement, either.
-    return query.next() ? query.value(0).toLongLong() : last_identity();
+    return last_identity();
 }
 
 qint64 sqlite_odbc_engine::last_identity() const
