@@ -34,18 +34,35 @@ exit_status refuse_target(const store_location& to, const counted_table& used)
                       .arg(argument_of_store(to), used.name, counted_rows(used.rows)));
 }
 
-exit_status refuse_order(const store_location& to, const QString& table)
+/// True if the program, when it opens the store, writes a script that gives the table an order.
+bool writes_script(const Connection1& target, const QString& table)
 {
+    return target.location() == default_store() && target.identity_script().contains(in_back_quotes(table));
+}
+
+text_pair words_without_order(bool has_script)
+{
+    if (has_script)
+        return {
+            u"La destination %1 ne garde pas l'ordre des lignes : la table %2 a une clé primaire et n'a pas "
+            u"la colonne verdane_row. Démarrez Verdane, qui écrit un script (verdane_row.sql), fermez "
+            u"Verdane, faites exécuter le script, puis recommencez, ou utilisez une base de données vide. "
+            u"Rien n'a été modifié.",
+            u"The target %1 does not keep the order of the rows: table %2 has a primary key and not the "
+            u"column verdane_row. Start Verdane, which writes a script (verdane_row.sql), close Verdane, "
+            u"run the script, then try again, or use an empty database. Nothing was changed."};
+    return {
+        u"La destination %1 ne garde pas l'ordre des lignes : la table %2 a une clé primaire et n'a pas la "
+        u"colonne verdane_row. Utilisez une base de données vide. Rien n'a été modifié.",
+        u"The target %1 does not keep the order of the rows: table %2 has a primary key and not the "
+        u"column verdane_row. Use an empty database. Nothing was changed."};
+}
+
+exit_status refuse_order(const Connection1& target, const QString& table)
+{
+    const text_pair words = words_without_order(writes_script(target, table));
     return refuse(exit_status::failed,
-                  in_language(u"La destination %1 ne garde pas l'ordre des lignes : la table %2 a une clé "
-                              u"primaire et n'a pas la colonne verdane_row. Démarrez Verdane, qui écrit un "
-                              u"script (verdane_row.sql), fermez Verdane, faites exécuter le script, puis "
-                              u"recommencez, ou utilisez une base de données vide. Rien n'a été modifié.",
-                              u"The target %1 does not keep the order of the rows: table %2 has a primary "
-                              u"key and not the column verdane_row. Start Verdane, which writes a script "
-                              u"(verdane_row.sql), close Verdane, run the script, then try again, or use an "
-                              u"empty database. Nothing was changed.")
-                      .arg(argument_of_store(to), table));
+                  in_language(words.french, words.english).arg(argument_of_store(target.location()), table));
 }
 
 exit_status fill_if_empty(const Connection1& target, const std::function<exit_status()>& fill)
@@ -55,7 +72,7 @@ exit_status fill_if_empty(const Connection1& target, const std::function<exit_st
         return refuse_target(target.location(), used.front());
     const QStringList without_order = tables_without_order(target);
     if (!without_order.isEmpty())
-        return refuse_order(target.location(), without_order.front());
+        return refuse_order(target, without_order.front());
     return fill();
 }
 

@@ -69,6 +69,18 @@ private Q_SLOTS:
         QCOMPARE(target.number(u"select count(*) from games"_s), 0);
     }
 
+    void a_table_that_the_script_leaves_out_is_refused_without_the_script()
+    {
+        const unsorted_diary diary;
+        const changed_target target(own_key + u", add column number bigint auto_increment unique"_s);
+        store_run run({u"copy"_s, file_argument(diary.diary), target.argument()});
+        QCOMPARE(run.run(), status(exit_status::failed));
+        const QString errors = run.errors();
+        QVERIFY2(errors.contains(u"table games") && errors.contains(u"Use an empty database") &&
+                     !errors.contains(u"verdane_row.sql"),
+                 qPrintable(errors));
+    }
+
     void after_the_script_the_copy_is_complete_and_in_order()
     {
         const unsorted_diary diary;
