@@ -112,7 +112,7 @@ void Place_and_lock(Form& form);
 /// A push button that Enter clicks only while it has the focus.
 QPushButton* make_button(const QString& caption);
 
-/// The same for the end of a window (OK, Cancel), with the same least width in all windows.
+/// The same for OK and Cancel at the end of a window. All these buttons have the same minimum width.
 QPushButton* make_end_button(const QString& caption);
 
 }  // namespace verdane

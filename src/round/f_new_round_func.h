@@ -14,7 +14,7 @@ class totals_pane;
 struct round_panes;
 struct tee_off_moment;
 
-/// The life cycle of the round window, for both twins.
+/// Opening and closing of the round window, in both languages.
 class f_new_round_func {
 public:
     /// The arguments must outlive the object.
@@ -27,9 +27,9 @@ public:
     /// Sizes the window, fills the lists, shows hole 1 and closes the round list, so that it is never open
     /// below the round window.
     void load();
-    /// Opens the tee-off dialog for a round without a key; a round that still has none closes its window and
-    /// leaves no rows. Focuses the page otherwise. Closing the dialog activates the window, too, which does
-    /// not open it again.
+    /// Opens the tee-off dialog for a round without a key. If it has none afterwards, closes the window and
+    /// stores no rows. Otherwise focuses the page. Closing the dialog activates the window again; this does
+    /// not open the dialog a second time.
     void activate();
     /// Closes the recordsets of the round. A failure of one step does not prevent the others.
     void unload();

@@ -86,8 +86,8 @@ bool hole_navigation::may_leave_shots()
 
 void hole_navigation::hole_tab_clicked()
 {
-    // Without an event of the list: a click on the tab of the hole on screen, which does not change the list,
-    // saves the boxes, too.
+    // Without `list_changed`: a click on the tab of the hole on screen does not change the list, but saves
+    // the boxes, too. So `hole_selected` is called below in every case.
     holes_.select_in_list_silently(holes_.selected_tab());
     hole_selected();
     if (!on_detailed_page())

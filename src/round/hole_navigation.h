@@ -41,7 +41,7 @@ public:
     void page_changed();
     /// `Command4`: opens the shots of the hole on the detailed page.
     void open_shots_of_hole();
-    /// The shots were checked because the window is to be closed: leaves the detailed page for good.
+    /// The shots were checked because the window is to be closed: leaves the detailed page permanently.
     void return_to_quick_page();
 
     /// Saves the round (`round_boxes`). `silent`: stores the boxes in the hole that was shown last, and shows

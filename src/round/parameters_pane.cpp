@@ -100,11 +100,11 @@ void parameters_pane::lay_out(const Form& window)
     add_line(*blocks_, window.caption(u"Coûts", u"Costs"), {costs_box_, costs_button_});
 }
 
-void parameters_pane::fill_courses(const std::vector<course_line>& courses)
+void parameters_pane::fill_courses(const std::vector<listed_course>& courses)
 {
     const QSignalBlocker silence(courses_);
     courses_->clear();
-    for (const course_line& course : courses)
+    for (const listed_course& course : courses)
         courses_->add_course(course.name, course.code);
     courses_->setCurrentIndex(-1);
 }

@@ -28,7 +28,7 @@ public:
     explicit parameters_pane(const Form& window);
 
     /// Fills the list of courses. No course is selected, without `course_changed`.
-    void fill_courses(const std::vector<course_line>& courses);
+    void fill_courses(const std::vector<listed_course>& courses);
     void select_course(int list_index);
     /// Selects the course of that code, the first one when there is none.
     void select_course(const QString& code);

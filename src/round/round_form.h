@@ -35,7 +35,7 @@ struct round_panes {
 };
 
 /// The panes of the round window and their arrangement. `f_new_round` is the window: it connects the events
-/// of the panes with the classes that handle them, which work on this class.
+/// of the panes with the classes that handle them. Those classes use `round_form`, not `f_new_round`.
 class round_form : public Form {
 public:
     /// Indexes of the buttons OK and Cancel.

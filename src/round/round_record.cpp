@@ -235,10 +235,10 @@ void close_tables()
         close_if_open(*recordset);
 }
 
-std::vector<course_line> course_lines()
+std::vector<listed_course> course_lines()
 {
     Recordset& courses = data_environment().rsvrd_fields;
-    std::vector<course_line> lines;
+    std::vector<listed_course> lines;
     for (courses.MoveFirst(); !courses.eof(); courses.MoveNext())
         lines.push_back(
             {courses.Fields(vrd_fields::name).text_or_empty(), courses.Fields(vrd_fields::code).trimmed()});

@@ -10,7 +10,7 @@
 namespace verdane {
 
 /// A course and tee in the list of courses.
-struct course_line {
+struct listed_course {
     QString name;
     /// The last character is the code of the tee.
     QString code;
@@ -94,7 +94,7 @@ void commit(const QString& key);
 void store_and_commit(const QString& key, const round_parameters& parameters);
 
 /// One line for each row of `rsvrd_fields`, in the order of the rows. The recordset is at its end afterwards.
-std::vector<course_line> course_lines();
+std::vector<listed_course> course_lines();
 /// Opens `rspartners` and returns one line for each row, in the order of the rows.
 std::vector<partner_line> open_partner_lines();
 

@@ -18,7 +18,7 @@ public:
     shot_choices(shot_grid& grid, shot_rows& rows, const shot_entry& entry);
 
 Q_SIGNALS:
-    /// The next shot has to be added: after the distance of the last putt, and when a shot becomes a putt.
+    /// The next shot has to be added: the last row is a putt whose distance was typed, or putt was chosen.
     /// The current row is the new shot afterwards, or the same one if it was refused.
     void next_shot_wanted();
     /// The penalty was chosen, the last column of a shot.

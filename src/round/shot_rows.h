@@ -51,7 +51,7 @@ public:
     bool has_hole() const;
     /// True when the shots of that hole are open.
     bool has_hole(const QString& key, int16 hole) const;
-    /// The number of the hole that is loaded. Only while there is one.
+    /// The number of the hole that is loaded. Requires a loaded hole.
     int16 hole() const { return loaded_->number; }
 
     /// The number of shots.

@@ -19,7 +19,7 @@ struct hole_summary {
 };
 
 /// Counts the shots. A shot without a kind adds to no count; after the first putt its distance is a
-/// length like any other. The position of a putt is cleared. Fails with `subscript` on an unknown kind, and
+/// length like a putt's. The position of a putt is cleared. Fails with `subscript` on an unknown kind, and
 /// on an unknown penalty of a shot with a kind.
 hole_summary summarise(shot_list& rows);
 

@@ -124,8 +124,8 @@ void write_round_count(Recordset& report, int rounds)
     report.Close();
 }
 
-/// Copies the rows with their number in the first one: by the same statement, unless several rows could be
-/// the first one.
+/// Copies the rows and writes their number into the first one: in one statement, unless several rows have
+/// the earliest date.
 void copy_and_count(const selection_arguments& chosen, const cost_rows& rows)
 {
     if (rows.with_first_date == 1) {

@@ -16,7 +16,7 @@ enum class missing_row { none = 0, course = 1, holes = 2, games2 = 3 };
 /// Weather and partner are in another table and are tested for each round.
 QString selected_rounds_statement(const selection_arguments& chosen);
 
-/// Opens `rsgames2` for a walk. Of its columns it reads those that select a round and `further`.
+/// Opens `rsgames2` for `walk_selected_rounds`, with the columns that select a round and those in `further`.
 void open_situations(const std::vector<int>& further = {});
 
 /// Walks `rsgames` from its first row to its end. For each round `rsvrd_fields`, `rsfield_info` and

@@ -54,7 +54,7 @@ void print_result(const course_lines& added, const QStringList& stored)
     print(in_language(u"Terrains ajoutés : %1.", u"Courses added: %1.").arg(added.size()));
 }
 
-/// The fault of the first line for which the diary has no place.
+/// The fault of the first course beyond the limit of the diary.
 bad_line no_place(const QString& file, const course_line& course)
 {
     return {file, course.line,

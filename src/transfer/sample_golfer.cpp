@@ -10,14 +10,14 @@ namespace verdane {
 
 namespace {
 
-/// From here on the golfer plays approaches.
+/// The greatest distance from which the golfer plays an approach.
 constexpr int longest_approach_yards = 130;
 /// A ball that is not farther from the hole is on the green.
 constexpr int green_yards = 9;
 constexpr int driver = 1;
 constexpr int most_putts = 3;
 
-/// The longest club that does not go too far. The driver is for the tee.
+/// The longest club whose average does not exceed the distance. The driver is used from the tee only.
 int club_for(int yards, bool with_driver)
 {
     const int last_club = club_count - 1;

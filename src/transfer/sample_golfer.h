@@ -13,7 +13,7 @@ namespace verdane {
 inline constexpr std::array<int, club_count> sample_averages{212, 196, 183, 172, 163, 154, 145,
                                                              135, 125, 114, 101, 82,  60,  0};
 
-/// An invented golfer. The shots of the same calls are the same on every machine.
+/// An invented golfer. The same calls return the same shots on every machine.
 class sample_golfer {
 public:
     explicit sample_golfer(unsigned seed) : random_(seed) {}

@@ -55,8 +55,8 @@ QStringList given_arguments(const QCommandLineParser& parser)
 int main(int argc, char** argv)
 {
     let_oversized_writes_fail();
-    // A failure is reported in words with the text of the driver, which a warning of the toolkit would
-    // repeat.
+    // The report of a failure contains the text of the driver. Without this, a warning of the toolkit would
+    // repeat that text.
     QLoggingCategory::setFilterRules(u"*.warning=false"_s);
     QCoreApplication application(argc, argv);
     // The name decides in which folder the file of the program is.

@@ -26,7 +26,7 @@ class test_query_functions : public QObject {
 private Q_SLOTS:
     void init() { set_report_store(store_.location()); }
 
-    void functions_with_a_limit_give_the_results_of_the_engine_data()
+    void functions_with_a_limit_return_the_results_of_the_engine_data()
     {
         QTest::addColumn<QString>("sql");
         for (const QString& sql :
@@ -36,7 +36,7 @@ private Q_SLOTS:
               u"printf('%.9999c', 'x')"_s, u"trim('😀x😁', '😀')"_s})
             QTest::newRow(qPrintable(sql)) << sql;
     }
-    void functions_with_a_limit_give_the_results_of_the_engine()
+    void functions_with_a_limit_return_the_results_of_the_engine()
     {
         QFETCH(QString, sql);
         const QString select = u"select quote("_s + sql + u") as n"_s;

@@ -11,17 +11,17 @@ namespace verdane::testing {
 QStringList little_room();
 
 /// Uses up the disk space of a server that was started with `little_room`, so that no statement can write a
-/// row: rows have no free page, and neither have the records by which a transaction is undone.
+/// row: there is no free page for rows, and none for the undo records of a transaction.
 class full_server {
 public:
     full_server();
-    /// Makes space again, which itself needs more of it, and stops the server.
+    /// Frees the space, for which the server needs more space at first, and stops the server.
     ~full_server();
     full_server(const full_server&) = delete;
     full_server& operator=(const full_server&) = delete;
 
 private:
-    /// Reads the state before: the server keeps the former version of each row for it, and so cannot use
+    /// Reads the earlier state. For it the server keeps the former version of each row, and so cannot use
     /// their space again.
     outside_connection snapshot_;
 };

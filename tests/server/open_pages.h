@@ -19,7 +19,7 @@ struct open_page {
     QString name;
     std::function<void(hand&)> work;
     std::function<void(hand&)> next_step;
-    /// What the work has committed, and its result.
+    /// A query for what the work has committed, and its expected result.
     QString question;
     QString committed;
     /// The result after the next step if that is one statement, which commits itself.

@@ -76,7 +76,7 @@ private Q_SLOTS:
         QVERIFY(messages_[0] > 20);
     }
 
-    void opening_fails_within_its_time_out_at_whichever_check_the_server_stops()
+    void opening_fails_within_its_time_out_if_the_server_stops_at_any_check()
     {
         // The last message of the connection closes it.
         for (const int passed : {1, 2, messages_[0] / 2, messages_[0] - 2}) {

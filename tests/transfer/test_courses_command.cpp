@@ -259,7 +259,7 @@ private Q_SLOTS:
         QVERIFY(run.errors().startsWith(diary.path + u": "));
     }
 
-    void the_course_for_which_there_is_no_place_is_reported_and_none_is_imported()
+    void a_course_beyond_the_limit_is_reported_and_none_is_imported()
     {
         const course_import diary;
         QStringList lines;

@@ -62,7 +62,7 @@ private Q_SLOTS:
         QCOMPARE(folder.other_rows(), before);
     }
 
-    void a_store_that_does_not_exist_is_no_diary_and_is_not_made()
+    void a_store_that_does_not_exist_is_refused_and_not_created()
     {
         const imported_folder folder;
         QVERIFY(QFile::remove(folder.diary));

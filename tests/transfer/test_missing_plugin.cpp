@@ -54,7 +54,7 @@ class test_missing_plugin : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void only_the_words_and_the_reason_are_written_data()
+    void a_copy_to_a_source_that_cannot_be_opened_writes_only_the_words_and_the_reason_data()
     {
         QTest::addColumn<QStringList>("plugins");
         QTest::addColumn<bool>("french");
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QTest::newRow("no driver, English") << both << false << no_driver;
     }
 
-    void only_the_words_and_the_reason_are_written()
+    void a_copy_to_a_source_that_cannot_be_opened_writes_only_the_words_and_the_reason()
     {
         QFETCH(QStringList, plugins);
         QFETCH(bool, french);

@@ -25,7 +25,7 @@ class test_sample_command : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void a_new_store_has_a_season_without_problems_data()
+    void a_sample_in_a_new_store_has_no_problems_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("output");
@@ -36,7 +36,7 @@ private Q_SLOTS:
                                  << u"Approach,Long,Putt"_s;
     }
 
-    void a_new_store_has_a_season_without_problems()
+    void a_sample_in_a_new_store_has_no_problems()
     {
         QFETCH(QString, language);
         QFETCH(QString, output);
@@ -60,7 +60,7 @@ private Q_SLOTS:
         QVERIFY2(check.output().startsWith(u"No problem: 26 rounds, "), qUtf8Printable(check.output()));
     }
 
-    void the_strokes_of_every_hole_are_plausible()
+    void every_hole_of_a_sample_has_a_plausible_number_of_strokes()
     {
         const test_store place;
         const reader store(place.location());
@@ -76,7 +76,7 @@ private Q_SLOTS:
         }
     }
 
-    void two_samples_are_the_same()
+    void two_runs_write_the_same_sample()
     {
         const QTemporaryDir folder;
         const QString first = folder.filePath(u"first.db"_s);

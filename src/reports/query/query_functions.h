@@ -11,7 +11,7 @@ namespace verdane {
 void limit_trim(sqlite3* connection);
 
 /// Adds `grouped(number, separator)`: the number with its digits grouped by thousands. A number of at most
-/// four digits before the point is returned unchanged, as the engine has it. The number may be a text, and
+/// four digits before the point is returned unchanged. The number may be a text, and
 /// keeps its decimals. Null if the number is Null.
 void add_grouped(sqlite3* connection);
 

@@ -47,7 +47,7 @@ private:
     std::string what_;
 };
 
-/// Sets the store that reports read. The program calls it once, at the start. The name is empty before.
+/// Sets the store that reports read. The program calls this once, at the start; before, there is none.
 void set_report_store(const store_location& store);
 inline void set_report_store(const QString& file)
 {

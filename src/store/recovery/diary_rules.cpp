@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The rounds whose code of a course is that of none. A round has no code until its course was chosen.
+/// The rounds whose course code is that of no course. A round has no code until its course is chosen.
 QString rounds_of_unknown_courses(const QString& table, const QString& column)
 {
     return u"select date from %1 where trim(coalesce(%2, '')) <> '' and trim(%2) not in "

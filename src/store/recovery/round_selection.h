@@ -39,7 +39,7 @@ struct references {
 
 references references_of(const Connection1& store, const text_set& keys);
 
-/// The rows of these courses, or of their holes; the code of a course has that ordinal.
+/// The rows of these courses, or of their holes. `code` is the ordinal of the column with the course code.
 table_rows rows_of_courses(const Connection1& store, const table& read, int code, const text_set& courses);
 
 /// The partners whose number is anywhere in one of the texts, as the selection window finds it.
