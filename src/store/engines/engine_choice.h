@@ -20,7 +20,7 @@ source_kind kind_of_source(const QString& server, const QString& sqlite);
 /// Connects to a registered source and returns the engine for it, which the caller opens. Until then its
 /// statements have the time-out of the opening. Fails
 /// like `open_link`, like `check_store_files` for a file, with `source_engine` if the source belongs to
-/// another engine, and with `source_silent` or `source_stopped` if the server does not run its first query.
+/// another engine, and as `kind_of_unusable_server` returns it if the server does not run its first query.
 std::unique_ptr<store_engine> engine_of_source(const QString& name, const store_location& where);
 
 /// The engine of a store, which the caller opens. Fails like `engine_of_source` if the store is a source.
