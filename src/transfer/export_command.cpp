@@ -45,7 +45,10 @@ int write_table(const Connection1& store, const table& written, const QString& f
         const auto line = csv_line_of(row);
         if (!line)
             throw run_time_failure(failure_kind::store_other,
-                                   u"%1, row %2: bytes that are no text"_s.arg(written.name).arg(rows));
+                                   in_language(u"%1, ligne %2 : des octets qui ne sont pas du texte",
+                                               u"%1, row %2: bytes that are no text")
+                                       .arg(written.name)
+                                       .arg(rows));
         text += *line;
     });
     write_whole_file(QDir(folder).filePath(csv_name_of(written)), text.toUtf8());

@@ -107,6 +107,22 @@ class test_copy_command : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void texts_are_copied_byte_by_byte()
+    {
+        const QStringList edits{
+            u"update partners set AD1 = cast(x'41ff42' as text), AD2 = char(65279) || 'é'"_s,
+            u"update partners set MAIL = cast(x'efbbbfff' as text) where rowid = 2"_s};
+        const copied_folder folder;
+        reader(folder.diary).write(edits);
+        QCOMPARE(folder.copy(), status(exit_status::done));
+        const QString texts =
+            u"select typeof(AD1), hex(AD1), typeof(AD2), hex(AD2), typeof(MAIL), hex(MAIL) from partners "
+            u"order by rowid"_s;
+        const auto copied = reader(folder.target).rows(texts);
+        QCOMPARE(copied, reader(folder.diary).rows(texts));
+        QCOMPARE(copied.at(0).at(1).toString(), u"41FF42"_s);
+    }
+
     void a_copy_has_the_rows_of_the_diary_in_their_order()
     {
         const copied_folder folder;

@@ -24,6 +24,8 @@ QStringList unusual_values()
         u"update games2 set games2_spare_1 = 12, games2_spare_2 = '', games2_spare_3 = ' '"_s,
         u"update cost set date = date || '  ' where rowid = 2"_s,
         u"insert into partners values ('O\"Brien, Jr.', '', null, ' two  blanks ', 'line' || char(10) || 'next' || char(13, 10) || char(10), '⛳🏌 é', 1)"_s,
+        u"insert into partners values (char(65279), char(65279, 65279) || 'x', '" +
+            QString(QChar::ReplacementCharacter) + u"', null, null, null, 2)",
         u"insert into partners values (null, null, null, null, null, null, null)"_s,
         u"insert into partners values ('\"', ',', '\"\"', 'a' || char(9), 'x' || char(65279), '12', 2147483648)"_s,
     };
@@ -81,6 +83,7 @@ private Q_SLOTS:
             content_of(folder.file(u"partners"_s)),
             QByteArray("NAME,SURNAME,AD1,AD2,TEL,MAIL,code\n"
                        "\"O\"\"Brien, Jr.\",\"\",,\" two  blanks \",\"line\nnext\r\n\n\",\"⛳🏌 é\",1\n"
+                       "\"\xef\xbb\xbf\",\"\xef\xbb\xbf\xef\xbb\xbfx\",\"\xef\xbf\xbd\",,,,2\n"
                        ",,,,,,\n"
                        "\"\"\"\",\",\",\"\"\"\"\"\",\"a\t\",\"x\xef\xbb\xbf\",\"12\",2147483648\n"));
         QCOMPARE(content_of(folder.file(u"settings"_s)), QByteArray("language\n\n"));
@@ -111,6 +114,7 @@ private Q_SLOTS:
     {
         const exported_folder folder;
         const test_store other;
+        reader(folder.diary).write(u"update partners set AD1 = char(65279) || 'é'"_s);
         QCOMPARE(folder.run_export(), status(exit_status::done));
         QCOMPARE(folder.run_import(argument_of(other)), status(exit_status::done));
         const QString again = folder.folder.filePath(u"again"_s);
@@ -129,13 +133,34 @@ private Q_SLOTS:
         QVERIFY(all_rows(folder.target) == all_rows(folder.diary));
     }
 
+    void a_value_of_bytes_is_refused_and_no_file_is_left_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("words");
+        const QString english = u"partners, row 2: bytes that are no text\n"_s;
+        QTest::newRow("bytes") << u"x'00ff'"_s << 2 << u"en_GB.UTF-8"_s << english;
+        QTest::newRow("text that is not UTF-8")
+            << u"cast(x'41ff42' as text)"_s << 2 << u"en_GB.UTF-8"_s << english;
+        QTest::newRow("in the first row, in French")
+            << u"cast(x'41ff42' as text)"_s << 1 << u"fr_FR.UTF-8"_s
+            << u"partners, ligne 1 : des octets qui ne sont pas du texte\n"_s;
+    }
+
     void a_value_of_bytes_is_refused_and_no_file_is_left()
     {
+        QFETCH(QString, value);
+        QFETCH(int, row);
+        QFETCH(QString, language);
+        QFETCH(QString, words);
         const exported_folder folder;
-        reader(folder.diary).write(u"update partners set TEL = x'00ff' where rowid = 2"_s);
+        reader(folder.diary).write(u"update partners set TEL = %1 where rowid = %2"_s.arg(value).arg(row));
         store_run run({u"export"_s, file_argument(folder.diary), folder.files});
+        run.set_language(language);
         QCOMPARE(run.run(), status(exit_status::failed));
-        QVERIFY(run.errors().contains(u"partners, row 2: bytes that are no text"));
+        const QString errors = run.errors();
+        QVERIFY2(errors.endsWith(words), qUtf8Printable(errors));
         QVERIFY(!QFile::exists(folder.files));
         QVERIFY(!QFile::exists(folder.files + u".unfinished"));
     }

@@ -14,6 +14,7 @@
 
 #include "store/engines/sqlite.h"
 #include "store/engines/sqlite_rows.h"
+#include "store/engines/stored_text.h"
 #include "store/lock_wait.h"
 #include "store/schema.h"
 #include "store/store_files.h"
@@ -161,7 +162,11 @@ QString embedded_engine::identity_column(QStringView) const
 
 void embedded_engine::add_value(statement_with_values& statement, const QVariant& value) const
 {
-    statement.add(value);
+    if (!needs_bytes(value))
+        return statement.add(value);
+    statement.text += u"CAST(";
+    statement.add(value.toByteArray());
+    statement.text += u" AS TEXT)";
 }
 
 std::unique_ptr<result_rows> embedded_engine::select(const QString& statement, const QString& where) const

@@ -258,9 +258,9 @@ run_time_failure mariadb_engine::failure(const QSqlError& error, const QString& 
     return {kind, QString(where + u": " + shown + u" (" + error.nativeErrorCode() + u')' + hint)};
 }
 
-QString mariadb_engine::text_literal(QStringView text) const
+QString mariadb_engine::text_literal(const QByteArray& utf8) const
 {
-    return u"_utf8mb4 " + hex_literal(text);
+    return u"_utf8mb4 " + hex_literal(utf8);
 }
 
 QString mariadb_engine::literal_in_statement(const QString& text) const
@@ -268,7 +268,7 @@ QString mariadb_engine::literal_in_statement(const QString& text) const
     // The collation of a literal counts more than that of a column, but without it an index can be used.
     if (!tables_.has_other_collations())
         return odbc_engine::literal_in_statement(text);
-    return text_literal(text) + u" COLLATE " + mariadb_tables::collation();
+    return text_literal(text.toUtf8()) + u" COLLATE " + mariadb_tables::collation();
 }
 
 QString mariadb_engine::in_dialect(const QString& part) const

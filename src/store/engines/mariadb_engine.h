@@ -38,7 +38,7 @@ public:
     QString identity_script() const override;
 
 protected:
-    QString text_literal(QStringView text) const override;
+    QString text_literal(const QByteArray& utf8) const override;
     text_form texts() const override { return text_form::bytes; }
     QString literal_in_statement(const QString& text) const override;
     QString in_dialect(const QString& part) const override;

@@ -4,6 +4,7 @@
 #include <QSqlQuery>
 
 #include "store/engines/sql_text.h"
+#include "store/engines/stored_text.h"
 
 namespace verdane {
 
@@ -16,6 +17,8 @@ void odbc_engine::add_value(statement_with_values& statement, const QVariant& va
 
 QString odbc_engine::literal(const QVariant& value) const
 {
+    if (needs_bytes(value))
+        return text_literal(value.toByteArray());
     if (value.typeId() != QMetaType::QString || value.isNull())
         return literal_of_number(value);
     return literal_of_text(value.toString());
@@ -23,7 +26,7 @@ QString odbc_engine::literal(const QVariant& value) const
 
 QString odbc_engine::literal_of_text(const QString& text) const
 {
-    return is_plain_text(text) ? QString(u'\'' + text + u'\'') : text_literal(text);
+    return is_plain_text(text) ? QString(u'\'' + text + u'\'') : text_literal(text.toUtf8());
 }
 
 QString odbc_engine::literal_in_statement(const QString& text) const

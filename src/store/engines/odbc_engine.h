@@ -18,8 +18,8 @@ public:
     QString as_sent(const QString& statement) const override;
 
 protected:
-    /// A text that is not plain, as a literal of the engine.
-    virtual QString text_literal(QStringView text) const = 0;
+    /// A text that is not plain, in UTF-8, as a literal of the engine.
+    virtual QString text_literal(const QByteArray& utf8) const = 0;
     /// A text of a statement, as a literal with which the engine compares texts character by character.
     virtual QString literal_in_statement(const QString& text) const;
     /// A part of a statement outside its texts, in the dialect of the engine.

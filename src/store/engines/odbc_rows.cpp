@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "store/engines/odbc_library.h"
+#include "store/engines/stored_text.h"
 
 namespace verdane {
 
@@ -217,10 +218,9 @@ QVariant odbc_rows::value(int column) const
     case form::text:
         break;
     }
-    // An empty text is a value, which Qt distinguishes from Null.
     if (!read.long_text.isNull())
-        return QString::fromUtf8(read.long_text);
-    return read.length == 0 ? u""_s : QString::fromUtf8(read.text.constData(), read.length);
+        return text_or_bytes(read.long_text);
+    return text_or_bytes(QByteArrayView(read.text.constData(), read.length));
 }
 
 void odbc_rows::check(short result) const

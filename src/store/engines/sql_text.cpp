@@ -50,9 +50,9 @@ bool is_plain_text(QStringView text)
     return std::all_of(text.begin(), text.end(), is_plain);
 }
 
-QString hex_literal(QStringView text)
+QString hex_literal(const QByteArray& bytes)
 {
-    return u"x'" + QString::fromLatin1(text.toUtf8().toHex()) + u'\'';
+    return u"x'" + QString::fromLatin1(bytes.toHex()) + u'\'';
 }
 
 QString literal_of_number(const QVariant& value)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringView>
 #include <QVariant>
@@ -14,8 +15,8 @@ namespace verdane {
 /// not pass on letters with accents.
 bool is_plain_text(QStringView text);
 
-/// The bytes of a text in UTF-8 as a literal `x'...'`.
-QString hex_literal(QStringView text);
+/// Bytes as a literal `x'...'`.
+QString hex_literal(const QByteArray& bytes);
 
 /// A number, a yes or no, or Null as a literal. Real numbers have all their digits.
 QString literal_of_number(const QVariant& value);

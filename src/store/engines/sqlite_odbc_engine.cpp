@@ -205,9 +205,9 @@ run_time_failure sqlite_odbc_engine::failure(const QSqlError& error, const QStri
     return known;
 }
 
-QString sqlite_odbc_engine::text_literal(QStringView text) const
+QString sqlite_odbc_engine::text_literal(const QByteArray& utf8) const
 {
-    return u"CAST(" + hex_literal(text) + u" AS TEXT)";
+    return u"CAST(" + hex_literal(utf8) + u" AS TEXT)";
 }
 
 }  // namespace verdane

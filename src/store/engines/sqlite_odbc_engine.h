@@ -34,7 +34,7 @@ public:
     run_time_failure failure(const QSqlError& error, const QString& where) const override;
 
 protected:
-    QString text_literal(QStringView text) const override;
+    QString text_literal(const QByteArray& utf8) const override;
     text_form texts() const override { return text_form::characters; }
 
 private:

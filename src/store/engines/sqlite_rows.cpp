@@ -8,6 +8,8 @@
 #include <cstring>
 #include <utility>
 
+#include "store/engines/stored_text.h"
+
 namespace verdane {
 
 namespace {
@@ -18,12 +20,21 @@ QSqlError error_of(sqlite3* engine)
             QString::number(sqlite3_extended_errcode(engine))};
 }
 
-QString text_in(sqlite3_stmt* statement, int column)
+QVariant text_in(sqlite3_stmt* statement, int column)
 {
-    const auto* text = static_cast<const char16_t*>(sqlite3_column_text16(statement, column));
-    const auto length =
-        static_cast<std::size_t>(sqlite3_column_bytes16(statement, column)) / sizeof(char16_t);
-    return QStringView(text, static_cast<qsizetype>(length)).toString();
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    return text_or_bytes({text, sqlite3_column_bytes(statement, column)});
+}
+
+/// True if a text of the current row has the character with which bytes that are no text were replaced.
+bool has_replacement(sqlite3_stmt* statement)
+{
+    for (int column = 0; column < sqlite3_column_count(statement); ++column) {
+        if (sqlite3_column_type(statement, column) == SQLITE_TEXT &&
+            text_in(statement, column).toString().contains(QChar::ReplacementCharacter))
+            return true;
+    }
+    return false;
 }
 
 QByteArray bytes_in(sqlite3_stmt* statement, int column)
@@ -44,11 +55,23 @@ sqlite3_stmt* sqlite_rows::statement() const
 
 bool sqlite_rows::next()
 {
-    // The toolkit moved to the first row when it ran the statement.
-    const bool found = started_ ? step() : query_rows::next();
+    const bool found = started_ ? step() : first();
     started_ = true;
     on_row_ = found ? statement() : nullptr;
     return on_row_ != nullptr;
+}
+
+bool sqlite_rows::first()
+{
+    // The toolkit moved to the first row when it ran the statement.
+    if (!query_rows::next())
+        return false;
+    on_row_ = statement();
+    // It has converted the texts of that row, so they are read again if the conversion may have changed one.
+    if (on_row_ == nullptr || !has_replacement(on_row_))
+        return true;
+    sqlite3_reset(on_row_);
+    return step();
 }
 
 bool sqlite_rows::step()

@@ -18,6 +18,8 @@ public:
 private:
     /// The statement in the engine; null after the connection was closed.
     sqlite3_stmt* statement() const;
+    /// Moves to the first row.
+    bool first();
     /// Moves from the current row to the next one.
     bool step();
 

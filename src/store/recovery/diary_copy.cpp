@@ -4,6 +4,7 @@
 #include <cmath>
 #include <memory>
 
+#include "base/language.h"
 #include "store/commits.h"
 #include "store/engines/engine.h"
 #include "store/fresh_store.h"
@@ -52,13 +53,16 @@ bool equal_numbers(double left, double right)
     return left == right || std::abs(left - right) <= last_digit * std::max(std::abs(left), std::abs(right));
 }
 
-/// Numbers are compared by value: one engine returns a whole number where another returns a real one.
+/// Bytes are compared as such. Numbers are compared by value: one engine returns a whole number where another
+/// returns a real one.
 bool equal(const QVariant& left, const QVariant& right)
 {
     if (left.isNull() || right.isNull())
         return left.isNull() && right.isNull();
     if (is_number(left) && is_number(right))
         return equal_numbers(left.toDouble(), right.toDouble());
+    if (left.typeId() == QMetaType::QByteArray || right.typeId() == QMetaType::QByteArray)
+        return left.toByteArray() == right.toByteArray();
     return left.toString() == right.toString();
 }
 
@@ -69,8 +73,9 @@ bool equal_values(const std::vector<QVariant>& left, const std::vector<QVariant>
 
 [[noreturn]] void fail_comparison(const table& compared, int row, const QString& what)
 {
-    throw run_time_failure(failure_kind::store_other,
-                           u"%1, row %2: %3"_s.arg(compared.name).arg(row).arg(what));
+    throw run_time_failure(
+        failure_kind::store_other,
+        in_language(u"%1, ligne %2 : %3", u"%1, row %2: %3").arg(compared.name, QString::number(row), what));
 }
 
 /// Returns the number of rows.
@@ -83,17 +88,18 @@ int compare_rows(const Connection1& from, const Connection1& to, const table& co
     while (left->next()) {
         ++row;
         if (!right->next())
-            fail_comparison(compared, row, u"missing in the copy"_s);
+            fail_comparison(compared, row, in_language(u"manque dans la copie", u"missing in the copy"));
         for (int column = 0; column < columns; ++column) {
             if (!equal(left->value(column), right->value(column)))
                 fail_comparison(compared, row,
-                                u"%1 is %2 in the copy instead of %3"_s.arg(
-                                    compared.columns[static_cast<std::size_t>(column)].name,
-                                    right->value(column).toString(), left->value(column).toString()));
+                                in_language(u"%1 vaut %2 dans la copie au lieu de %3",
+                                            u"%1 is %2 in the copy instead of %3")
+                                    .arg(compared.columns[static_cast<std::size_t>(column)].name,
+                                         right->value(column).toString(), left->value(column).toString()));
         }
     }
     if (right->next())
-        fail_comparison(compared, row + 1, u"only in the copy"_s);
+        fail_comparison(compared, row + 1, in_language(u"seulement dans la copie", u"only in the copy"));
     return row;
 }
 
@@ -163,11 +169,14 @@ void replace_rows(Connection1& store, const table& replaced, const table_rows& r
     std::size_t stored = 0;
     read_rows(store, replaced, [&](const std::vector<QVariant>& values) {
         if (stored == rows.size() || !equal_values(values, rows[stored]))
-            fail_comparison(replaced, static_cast<int>(stored) + 1, u"differs after it was stored"_s);
+            fail_comparison(
+                replaced, static_cast<int>(stored) + 1,
+                in_language(u"diffère après avoir été enregistrée", u"differs after it was stored"));
         ++stored;
     });
     if (stored != rows.size())
-        fail_comparison(replaced, static_cast<int>(stored) + 1, u"was not stored"_s);
+        fail_comparison(replaced, static_cast<int>(stored) + 1,
+                        in_language(u"n'a pas été enregistrée", u"was not stored"));
 }
 
 QStringList tables_without_order(const Connection1& store)
