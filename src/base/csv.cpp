@@ -48,11 +48,15 @@ public:
 private:
     void read_record(csv_record& record)
     {
+        int line_of_value = line_;
         do {
-            record.values.push_back(at(place_) == u'"' ? quoted_value(record.line) : plain_value());
+            line_of_value = line_;
+            record.values.push_back(at(place_) == u'"' ? quoted_value() : plain_value());
         } while (content_.fault == csv_fault::none && take(u","));
+        // A quote that is not closed ends at the first one of another line.
         if (content_.fault == csv_fault::none && !take_line_end() && place_ < text_.size())
-            set_fault(csv_fault::text_after_quote, line_);
+            set_fault(line_ > line_of_value ? csv_fault::open_quote : csv_fault::text_after_quote,
+                      line_of_value);
     }
 
     csv_value plain_value()
@@ -68,8 +72,9 @@ private:
         return {text_.sliced(start, place_ - start).toString(), false};
     }
 
-    csv_value quoted_value(int first_line)
+    csv_value quoted_value()
     {
+        const int first_line = line_;
         csv_value value{u""_s, true};
         do {
             const qsizetype start = ++place_;

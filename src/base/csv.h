@@ -23,7 +23,7 @@ enum class csv_fault {
     encoding,          ///< bytes that are not UTF-8
     quote_in_value,    ///< a quote within a value that does not begin with one
     text_after_quote,  ///< text between the closing quote and the next comma
-    open_quote         ///< a quote that is not closed
+    open_quote         ///< a quote that is not closed, or is closed on a later line with text after it
 };
 
 struct csv_record {
@@ -36,7 +36,7 @@ struct csv_content {
     /// Every record before the fault. An empty line is a record with one empty value.
     std::vector<csv_record> records;
     csv_fault fault = csv_fault::none;
-    /// The line of the fault; for an open quote, the line of its record.
+    /// The line of the fault; for a fault of a quote, the line on which its value begins.
     int line = 0;
 };
 

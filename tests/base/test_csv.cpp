@@ -66,7 +66,11 @@ private Q_SLOTS:
         QTest::newRow("bytes that are not UTF-8") << QByteArray("a\nb\xe9\nc\n") << csv_fault::encoding << 2;
         QTest::newRow("quote in a value") << QByteArray("a\nb\"c\"\n") << csv_fault::quote_in_value << 2;
         QTest::newRow("text after a quote")
-            << QByteArray("\"a\nb\"c,d\n") << csv_fault::text_after_quote << 2;
+            << QByteArray("a\n\"b\"c,d\n") << csv_fault::text_after_quote << 2;
+        QTest::newRow("quote that ends at a quote of the next line")
+            << QByteArray("a\n\"b,c\n\"d\",e\n") << csv_fault::open_quote << 2;
+        QTest::newRow("open quote after lines in quotes")
+            << QByteArray("\"a\nb\",\"c\nd\n") << csv_fault::open_quote << 2;
         QTest::newRow("open quote") << QByteArray("a\n\"b\nc\nd\n") << csv_fault::open_quote << 2;
     }
 
