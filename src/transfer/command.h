@@ -48,11 +48,13 @@ extern const command courses_command;
 /// `sample STORE`: writes an invented season (`write_sample_season`) into an empty store, in one commit.
 extern const command sample_command;
 
-/// `export STORE FOLDER`: writes every table to a CSV file (`table_csv.h`) of a folder that is empty or does
-/// not exist. After a failure, or if the process ends before, there are none of the files.
+/// `export STORE FOLDER`: writes every table to a CSV file (`table_csv.h`), and the list of them
+/// (`table_list.h`), in a folder that is empty or does not exist. After a failure, or if the process ends
+/// before, there are none of the files.
 extern const command export_command;
 
-/// `import FOLDER STORE`: reads these files into an empty store, in one commit.
+/// `import FOLDER STORE`: reads these files (`table_reader.h`) into an empty store, in one commit. The status
+/// is `problems` if the diary that was exported had any.
 extern const command import_command;
 
 /// `archive STORE DATE NEWSTORE`: moves the rounds before a day into a new file (`archived_rounds.h`). The

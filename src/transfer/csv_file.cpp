@@ -39,15 +39,22 @@ bool is_empty_line(const csv_record& record)
 
 }  // namespace
 
-std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults,
-                                                     empty_lines empty)
+std::optional<QByteArray> read_file(const QString& path, bad_lines& faults)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        faults.push_back({path, 0, file.errorString()});
-        return std::nullopt;
+    if (file.open(QIODevice::ReadOnly)) {
+        QByteArray bytes = file.readAll();
+        if (file.error() == QFile::NoError)
+            return bytes;
     }
-    csv_content content = read_csv(file.readAll());
+    faults.push_back({path, 0, file.errorString()});
+    return std::nullopt;
+}
+
+std::optional<std::vector<csv_record>> records_of(const QByteArray& bytes, const QString& path,
+                                                  bad_lines& faults, empty_lines empty)
+{
+    csv_content content = read_csv(bytes);
     if (content.fault != csv_fault::none) {
         faults.push_back({path, content.line, reason_of(content.fault)});
         return std::nullopt;
@@ -55,6 +62,12 @@ std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_li
     if (empty == empty_lines::skip)
         std::erase_if(content.records, is_empty_line);
     return std::move(content.records);
+}
+
+std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults)
+{
+    const auto bytes = read_file(path, faults);
+    return bytes ? records_of(*bytes, path, faults) : std::nullopt;
 }
 
 exit_status refuse_lines(const bad_lines& faults)

@@ -11,6 +11,7 @@
 #include "transfer/empty_store.h"
 #include "transfer/store_argument.h"
 #include "transfer/table_csv.h"
+#include "transfer/table_list.h"
 
 namespace verdane {
 
@@ -27,16 +28,18 @@ QString unfinished_folder(const QString& folder)
 /// Removes the files of an export, and the folder unless it has others.
 void remove_export(const QString& folder)
 {
-    for (const table& each : schema()) {
-        const QString path = QDir(folder).filePath(csv_name_of(each));
+    QStringList paths{path_of_list(folder)};
+    for (const table& each : schema())
+        paths << QDir(folder).filePath(csv_name_of(each));
+    for (const QString& path : paths) {
         QFile::remove(path);
         QFile::remove(path + u".part");
     }
     QDir().rmdir(folder);
 }
 
-/// Returns the number of rows.
-int write_table(const Connection1& store, const table& written, const QString& folder)
+/// Returns the number of rows, and adds the table to the list.
+int write_table(const Connection1& store, const table& written, const QString& folder, QString& list)
 {
     QString text = csv_heads_of(written);
     int rows = 0;
@@ -51,7 +54,9 @@ int write_table(const Connection1& store, const table& written, const QString& f
                                        .arg(rows));
         text += *line;
     });
-    write_whole_file(QDir(folder).filePath(csv_name_of(written)), text.toUtf8());
+    const QByteArray bytes = text.toUtf8();
+    write_whole_file(QDir(folder).filePath(csv_name_of(written)), bytes);
+    list += line_of_list(written, rows, bytes);
     print(in_language(u"%1 : %2", u"%1: %2").arg(written.name, counted_rows(rows)));
     return rows;
 }
@@ -64,8 +69,10 @@ int write_tables(const Connection1& store, const QString& folder)
         throw run_time_failure(failure_kind::store_read_only, unfinished);
     try {
         int rows = 0;
+        QString list = heads_of_list();
         for (const table& each : schema())
-            rows += write_table(store, each, unfinished);
+            rows += write_table(store, each, unfinished, list);
+        write_whole_file(path_of_list(unfinished), list.toUtf8());
         replace_file(unfinished, folder);
         return rows;
     } catch (...) {

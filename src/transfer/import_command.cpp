@@ -1,11 +1,15 @@
 #include "transfer/command.h"
 
 #include "store/commits.h"
+#include "store/DataEnvironment1.h"
 #include "store/recovery/diary_copy.h"
+#include "store/recovery/diary_problems.h"
+#include "store/recovery/diary_snapshot.h"
 #include "transfer/console.h"
 #include "transfer/empty_store.h"
+#include "transfer/problem_report.h"
 #include "transfer/store_argument.h"
-#include "transfer/table_csv.h"
+#include "transfer/table_reader.h"
 
 namespace verdane {
 
@@ -16,14 +20,15 @@ using all_tables = std::vector<table_rows>;
 /// The rows of every table of `schema`, in its order.
 all_tables read_tables(const QString& folder, bad_lines& faults)
 {
+    const table_list list = read_list(folder, faults);
     all_tables tables;
     for (const table& each : schema())
-        tables.push_back(read_table(each, folder, faults));
+        tables.push_back(read_table(each, folder, list, faults));
     return tables;
 }
 
 /// All tables are one commit.
-exit_status write_tables(Connection1& store, const all_tables& tables)
+void write_tables(Connection1& store, const all_tables& tables)
 {
     single_commit together(store);
     int rows = 0;
@@ -37,7 +42,28 @@ exit_status write_tables(Connection1& store, const all_tables& tables)
     together.finish();
     print(in_language(u"Importé et vérifié : %1 tables, %2.", u"Imported and checked: %1 tables, %2.")
               .arg(QString::number(tables.size()), counted_rows(rows)));
-    return exit_status::done;
+}
+
+/// A store can have problems that are imported with it. Returns how many there are.
+std::size_t report_problems(const Connection1& store)
+{
+    const problem_list problems = find_problems(store, diary_snapshot(store.location()));
+    print_problems(problems);
+    if (!problems.empty())
+        print(in_language(u"Problèmes : %1.", u"Problems: %1.").arg(problems.size()));
+    return problems.size();
+}
+
+exit_status import_tables(const store_location& to, const all_tables& tables)
+{
+    Connection1& store = data_environment().connection;
+    std::size_t problems = 0;
+    const exit_status status = fill_empty_store(store, to, [&] {
+        write_tables(store, tables);
+        problems = report_problems(store);
+        return exit_status::done;
+    });
+    return problems > 0 ? exit_status::problems : status;
 }
 
 exit_status run_import(const QStringList& arguments, int)
@@ -49,10 +75,7 @@ exit_status run_import(const QStringList& arguments, int)
     const all_tables tables = read_tables(arguments[0], faults);
     if (!faults.empty())
         return refuse_lines(faults);
-    return reported([&] {
-        Connection1 store;
-        return fill_empty_store(store, *to, [&] { return write_tables(store, tables); });
-    });
+    return reported([&] { return import_tables(*to, tables); });
 }
 
 }  // namespace

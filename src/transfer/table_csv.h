@@ -6,9 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "store/recovery/diary_copy.h"
 #include "store/schema.h"
-#include "transfer/csv_file.h"
 
 /// A table as a CSV file: a first line with the names of its columns, then a line for each row. A text is
 /// between quotes, a number is not, and Null is no value at all.
@@ -23,9 +21,5 @@ QString csv_heads_of(const table& written);
 /// The line of a row, with its line end. A number has the digits with which it is read back unchanged, with a
 /// point as decimal mark. Without a value, one of the columns has bytes that are no text.
 std::optional<QString> csv_line_of(const std::vector<QVariant>& row);
-
-/// The rows of a table from its file in a folder. A value without quotes is a number in a column of numbers
-/// and a text in the others; one with quotes is a text everywhere. Every wrong line is added to `faults`.
-table_rows read_table(const table& read, const QString& folder, bad_lines& faults);
 
 }  // namespace verdane

@@ -29,8 +29,15 @@ struct exported_folder : copied_folder {
         return store_run({u"import"_s, files, store}).run();
     }
     QString file(const QString& table) const { return files + u'/' + table + u".csv"; }
-    /// Replaces a text in the file of a table, which has it once at least.
+    /// Replaces a text in the file of a table, or in the list of the tables (`tables`), which has it once at
+    /// least.
     void replace(const QString& table, const QByteArray& old_text, const QByteArray& new_text) const;
+    /// Writes a value, as it is in the file, to a row of a table, from 1. No text of the table has a comma.
+    void set_value(const QString& table, int row, const QString& column, const QByteArray& value) const;
+    /// Adds to the number of rows of a table in the list of the tables.
+    void change_listed_rows(const QString& table, int by) const;
+    /// Writes the file of a table.
+    void write(const QString& table, const QByteArray& content) const;
 
     QString files = folder.filePath(u"L'été \"%1\"/files"_s);
 };

@@ -25,7 +25,7 @@ QStringList import_arguments(const exported_folder& folder)
 
 bool is_exported(const exported_folder& folder)
 {
-    return contents_of(folder.files).size() == schema().size();
+    return contents_of(folder.files).size() == schema().size() + 1;
 }
 
 }  // namespace

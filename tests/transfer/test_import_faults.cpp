@@ -33,15 +33,22 @@ private Q_SLOTS:
             << u"partners"_s << head << head + "\"a\n\n\",\"b\",,,,,1\n\"a\",\"b\",,,,,1,\n"
             << 5 << u"8 values instead of 7"_s;
         QTest::newRow("open quote") << u"partners"_s << head << head + "\"a,b,,,,,1\n"
-                                    << 3 << u"text between the closing quotation mark and the comma"_s;
+                                    << 2 << u"a quotation mark is not closed"_s;
+        QTest::newRow("text after a quote")
+            << u"partners"_s << head << head + "\"a\"b,,,,,,1\n"
+            << 2 << u"text between the closing quotation mark and the comma"_s;
+        QTest::newRow("quote in a value")
+            << u"partners"_s << head << head + "a\"b,,,,,,1\n"
+            << 2 << u"a quotation mark within a value that does not begin with one"_s;
         QTest::newRow("other column")
             << u"partners"_s << QByteArray("AD1") << QByteArray("AD7") << 1 << not_head;
         QTest::newRow("columns exchanged")
             << u"partners"_s << QByteArray("NAME,SURNAME") << QByteArray("SURNAME,NAME") << 1 << not_head;
         QTest::newRow("other encoding") << u"partners"_s << head << head + "\xe9,,,,,,1\n"
                                         << 2 << u"the text is not in UTF-8"_s;
-        QTest::newRow("empty line") << u"settings"_s << QByteArray("language\n")
-                                    << QByteArray("language\na\n") << 2 << u"language: not a number"_s;
+        QTest::newRow("letter in the only column")
+            << u"settings"_s << QByteArray("language\n") << QByteArray("language\na\n") << 2
+            << u"language: not a number"_s;
     }
 
     void a_wrong_line_is_reported_and_nothing_is_imported()
@@ -83,7 +90,8 @@ private Q_SLOTS:
     {
         const exported_folder folder;
         QCOMPARE(folder.run_export(), status(exit_status::done));
-        folder.replace(u"partners"_s, "code\n", "code\r\nMorin,Zoé, ,12,,\"\",7\r\n");
+        folder.replace(u"partners"_s, "code\n", "code\r\nMorin,Zoé, ,12,,\"\",\"7\"\r\n");
+        folder.change_listed_rows(u"partners"_s, 1);
         QCOMPARE(folder.run_import(), status(exit_status::done));
         QVERIFY2(all_rows(folder.target).contains(u"partners|Morin|Zoé| |12|null||7"_s), "another row");
     }
@@ -96,6 +104,19 @@ private Q_SLOTS:
         const QStringList before = all_rows(folder.target);
         QCOMPARE(folder.run_import(), status(exit_status::not_empty));
         QCOMPARE(all_rows(folder.target), before);
+    }
+
+    void an_error_while_a_file_is_read_is_reported()
+    {
+        const exported_folder folder;
+        QCOMPARE(folder.run_export(), status(exit_status::done));
+        // Opening this file succeeds, and reading it fails.
+        QVERIFY(QFile::remove(folder.file(u"cost"_s)));
+        QVERIFY(QFile::link(u"/proc/self/mem"_s, folder.file(u"cost"_s)));
+        store_run run({u"import"_s, folder.files, file_argument(folder.target)});
+        QCOMPARE(run.run(), status(exit_status::bad_file));
+        QCOMPARE(run.errors(), folder.file(u"cost"_s) + u": Input/output error\nNothing was changed.\n"_s);
+        QVERIFY(!QFile::exists(folder.target));
     }
 
     void a_folder_that_does_not_exist_is_refused()
