@@ -55,6 +55,11 @@ QString tee_mark(int tee)
     return u'-' + QString::number(tee);
 }
 
+QString name_with_tee(const QString& name_in_capitals, int tee)
+{
+    return name_in_capitals + tee_mark(tee);
+}
+
 known_course find_known_course(const QString& name_in_capitals, int tee)
 {
     known_course known;
@@ -63,7 +68,7 @@ known_course find_known_course(const QString& name_in_capitals, int tee)
         if (name_tee.isEmpty())
             continue;
         const QString entry = in_capitals(name_tee);
-        if (entry == name_in_capitals + tee_mark(tee))
+        if (entry == name_with_tee(name_in_capitals, tee))
             known.duplicate = true;
         if (without_tee_mark(entry) == name_in_capitals)
             known.base = without_tee_mark(code);

@@ -129,7 +129,7 @@ private:
 
     void add(int line, const entered_course& course)
     {
-        const QString key = in_capitals(course.name) + tee_mark(course.tee);
+        const QString key = name_with_tee(in_capitals(course.name), course.tee);
         const QString fault = fault_of(course);
         if (!fault.isEmpty())
             add_fault(line, fault);

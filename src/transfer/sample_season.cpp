@@ -15,6 +15,7 @@
 #include "store/tables/games.h"
 #include "store/tables/games2.h"
 #include "store/tables/partners.h"
+#include "store/tables/Stat_rounds.h"
 #include "transfer/sample_courses.h"
 #include "transfer/sample_golfer.h"
 #include "transfer/sample_shots.h"
@@ -66,7 +67,7 @@ private:
 
     void add_partners()
     {
-        row_insertion insertion(store().engine(), *find_table(u"partners"));
+        row_insertion insertion(store().engine(), *find_table(tables::partners::table.name));
         for (const person& each : people) {
             QString name = each.name.toString();
             QString surname = each.surname.toString();
@@ -151,10 +152,10 @@ private:
     sample_golfer golfer_{seed};
     std::vector<coded_course> courses_;
     QStringList partners_;
-    row_insertion games_{store().engine(), *find_table(u"games")};
-    row_insertion games2_{store().engine(), *find_table(u"games2")};
-    row_insertion cost_{store().engine(), *find_table(u"cost")};
-    row_insertion shots_{store().engine(), *find_table(u"Stat_rounds")};
+    row_insertion games_{store().engine(), *find_table(tables::games::table.name)};
+    row_insertion games2_{store().engine(), *find_table(tables::games2::table.name)};
+    row_insertion cost_{store().engine(), *find_table(tables::cost::table.name)};
+    row_insertion shots_{store().engine(), *find_table(tables::Stat_rounds::table.name)};
 };
 
 }  // namespace

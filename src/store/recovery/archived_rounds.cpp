@@ -72,8 +72,8 @@ text_set set_of(const QStringList& keys)
 bool has_rows_of(const Connection1& archive, const Connection1& store, const text_set& keys)
 {
     const text_set courses = references_of(store, keys).courses;
-    const table& course = *find_table(u"vrd_fields");
-    const table& holes = *find_table(u"field_info");
+    const table& course = *find_table(tables::vrd_fields::table.name);
+    const table& holes = *find_table(tables::field_info::table.name);
     return std::all_of(tables_of_rounds.begin(), tables_of_rounds.end(),
                        [&](std::u16string_view name) {
                            const table& compared = *find_table(name);
@@ -101,7 +101,7 @@ QStringList round_keys_before(const Connection1& store, QDate day)
     static const QRegularExpression is_key(u"^[0-9]{14}$"_s);
     const QString limit = day.toString(u"yyyyMMdd"_s);
     QStringList keys;
-    for (const std::vector<QVariant>& row : all_rows(store, *find_table(u"games"))) {
+    for (const std::vector<QVariant>& row : all_rows(store, *find_table(tables::games::table.name))) {
         const QString key = row[tables::games::date].toString();
         if (is_key.match(key).hasMatch() && key < limit)
             keys << key;

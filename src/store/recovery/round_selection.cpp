@@ -53,9 +53,9 @@ table_rows rows_of_other_keys(const Connection1& store, const table& read, const
 references references_of(const Connection1& store, const text_set& keys)
 {
     references found;
-    for (const row_values& row : rows_of_keys(store, *find_table(u"games"), keys))
+    for (const row_values& row : rows_of_keys(store, *find_table(tables::games::table.name), keys))
         found.courses << text_at(row, tables::games::CODEF).trimmed();
-    for (const row_values& row : rows_of_keys(store, *find_table(u"games2"), keys)) {
+    for (const row_values& row : rows_of_keys(store, *find_table(tables::games2::table.name), keys)) {
         found.courses << text_at(row, tables::games2::FC).trimmed();
         found.partners << text_at(row, tables::games2::PARTNERS);
     }
