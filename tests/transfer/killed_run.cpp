@@ -27,16 +27,31 @@ namespace {
 
 #ifdef SYS_rename
 constexpr std::array changing_calls{SYS_write,     SYS_pwrite64, SYS_rename,         SYS_renameat,
-                                    SYS_unlink,    SYS_unlinkat, SYS_link,           SYS_linkat,
+                                    SYS_renameat2, SYS_unlink,   SYS_unlinkat,       SYS_link,
+                                    SYS_linkat,    SYS_mkdir,    SYS_rmdir,          SYS_mkdirat,
                                     SYS_ftruncate, SYS_sendfile, SYS_copy_file_range};
 #else
-constexpr std::array changing_calls{SYS_write,  SYS_pwrite64,  SYS_renameat, SYS_unlinkat,
-                                    SYS_linkat, SYS_ftruncate, SYS_sendfile, SYS_copy_file_range};
+constexpr std::array changing_calls{SYS_write,    SYS_pwrite64,       SYS_renameat, SYS_renameat2,
+                                    SYS_unlinkat, SYS_linkat,         SYS_mkdirat,  SYS_ftruncate,
+                                    SYS_sendfile, SYS_copy_file_range};
 #endif
 
-bool changes_a_file(long call)
+using system_call = __ptrace_syscall_info;
+
+long number_of(const system_call& call)
 {
-    return std::find(changing_calls.begin(), changing_calls.end(), call) != changing_calls.end();
+    return static_cast<long>(call.entry.nr);
+}
+
+bool creates_a_file(const system_call& call)
+{
+    return number_of(call) == SYS_openat && (call.entry.args[2] & O_CREAT) != 0;
+}
+
+bool changes_a_file(const system_call& call)
+{
+    return creates_a_file(call) ||
+           std::find(changing_calls.begin(), changing_calls.end(), number_of(call)) != changing_calls.end();
 }
 
 /// Does not return.
@@ -66,8 +81,6 @@ pid_t start(const QStringList& arguments)
     return child;
 }
 
-using system_call = __ptrace_syscall_info;
-
 /// The system call at which a process has stopped, if it begins.
 std::optional<system_call> call_at_stop(pid_t child)
 {
@@ -81,8 +94,8 @@ std::optional<system_call> call_at_stop(pid_t child)
 /// Called before a system call; the process continues if the result is true.
 using call_step = std::function<bool(pid_t child, const system_call& call)>;
 
-/// Runs the program until the step returns false, and kills it then.
-void run_by_calls(const QStringList& arguments, const call_step& step)
+/// Runs the program until the step returns false, and kills it then. Returns the state of the ended process.
+int run_by_calls(const QStringList& arguments, const call_step& step)
 {
     const pid_t child = start(arguments);
     int state = 0;
@@ -93,7 +106,7 @@ void run_by_calls(const QStringList& arguments, const call_step& step)
         ptrace(PTRACE_SYSCALL, child, nullptr, signal);
         waitpid(child, &state, 0);
         if (!WIFSTOPPED(state))
-            return;
+            return state;
         const bool at_call = WSTOPSIG(state) == (SIGTRAP | 0x80);
         signal = at_call || WSTOPSIG(state) == SIGTRAP ? 0 : WSTOPSIG(state);
         const auto call = at_call ? call_at_stop(child) : std::nullopt;
@@ -102,13 +115,14 @@ void run_by_calls(const QStringList& arguments, const call_step& step)
     }
     kill(child, SIGKILL);
     waitpid(child, &state, 0);
+    return state;
 }
 
 /// The same with the calls that change a file only.
 void run_by_changes(const QStringList& arguments, const call_step& step)
 {
     run_by_calls(arguments, [&](pid_t child, const system_call& call) {
-        return !changes_a_file(static_cast<long>(call.entry.nr)) || step(child, call);
+        return !changes_a_file(call) || step(child, call);
     });
 }
 
@@ -158,6 +172,7 @@ public:
             break;
 #endif
         case SYS_renameat:
+        case SYS_renameat2:
             see_rename(text_at(child, arguments[1]), text_at(child, arguments[3]));
             break;
         default:
@@ -187,6 +202,45 @@ private:
     QStringList faults_;
     int renames_ = 0;
 };
+
+/// The file that a call opens, removes, or gives a name.
+QString named_file(pid_t child, const system_call& call)
+{
+    const auto& arguments = call.entry.args;
+    switch (number_of(call)) {
+    case SYS_openat:
+    case SYS_unlinkat:
+        return text_at(child, arguments[1]);
+    case SYS_renameat:
+    case SYS_renameat2:
+    case SYS_linkat:
+        return text_at(child, arguments[3]);
+#ifdef SYS_rename
+    case SYS_unlink:
+        return text_at(child, arguments[0]);
+    case SYS_rename:
+    case SYS_link:
+        return text_at(child, arguments[1]);
+#endif
+    default:
+        return {};
+    }
+}
+
+file_use use_in(const system_call& call)
+{
+    switch (number_of(call)) {
+    case SYS_openat:
+        return file_use::open;
+#ifdef SYS_rename
+    case SYS_unlink:
+#endif
+    case SYS_unlinkat:
+        return file_use::remove;
+    default:
+        return file_use::name;
+    }
+}
 
 void limit_files_of(pid_t process, rlim_t bytes)
 {
@@ -223,6 +277,20 @@ int run_without_space_for(const QStringList& arguments, const QString& ending, u
     return limited;
 }
 
+std::optional<int> run_with_step(const QStringList& arguments, file_use use, const QString& ending,
+                                 const std::function<void()>& step)
+{
+    bool is_done = false;
+    const int state = run_by_calls(arguments, [&](pid_t child, const system_call& call) {
+        if (!is_done && use_in(call) == use && named_file(child, call).endsWith(ending)) {
+            is_done = true;
+            step();
+        }
+        return true;
+    });
+    return is_done && WIFEXITED(state) ? std::optional(WEXITSTATUS(state)) : std::nullopt;
+}
+
 QStringList renames_before_content(const QStringList& arguments)
 {
     written_files written;
@@ -236,7 +304,7 @@ QStringList renames_before_content(const QStringList& arguments)
 std::vector<int> some_writes(int all)
 {
     constexpr int ends = 8;
-    constexpr int between = 4;
+    constexpr int between = 12;
     std::vector<int> numbers;
     const int step = std::max(1, (all - 2 * ends) / between);
     for (int number = 1; number <= all; ++number) {

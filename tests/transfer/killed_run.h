@@ -2,11 +2,14 @@
 
 #include <QStringList>
 
+#include <functional>
+#include <optional>
 #include <vector>
 
 namespace verdane::testing {
 
-/// Runs `verdane-store` and counts its system calls that change a file: write, rename, remove, cut, link.
+/// Runs `verdane-store` and counts its system calls that change a file or a folder: write, create, rename,
+/// remove, cut, link.
 int number_of_writes(const QStringList& arguments);
 
 /// Runs `verdane-store` and kills it immediately before such a call, counted from 1. If there are fewer, the
@@ -17,11 +20,20 @@ void kill_before_write(const QStringList& arguments, int number);
 /// can. Returns how many times the program changed such a file.
 int run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes);
 
+/// What a system call does with the path of a file.
+enum class file_use { open, remove, name };
+
+/// Runs the program, and calls the step immediately before it opens a file whose path has that ending,
+/// removes it, or renames another file to its path, for the first time. Returns the exit status. No value if
+/// there was no such call, or if the program did not end by itself.
+std::optional<int> run_with_step(const QStringList& arguments, file_use use, const QString& ending,
+                                 const std::function<void()>& step);
+
 /// Runs the program. The files that were renamed before what was written to them had reached the disk, and
 /// the folders of renamed files that did not reach the disk afterwards.
 QStringList renames_before_content(const QStringList& arguments);
 
-/// Numbers of writes from 1 to `all`: the first eight, the last eight and some between.
+/// Numbers of writes from 1 to `all`: the first eight, the last eight and at least twelve between.
 std::vector<int> some_writes(int all);
 
 }  // namespace verdane::testing

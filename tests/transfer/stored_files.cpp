@@ -1,5 +1,6 @@
 #include "tests/transfer/stored_files.h"
 
+#include <QDir>
 #include <QFile>
 
 #include "tests/support/full_diary.h"
@@ -38,6 +39,11 @@ QByteArray content_of(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList unfinished_in(const QString& folder)
+{
+    return QDir(folder).entryList({u"*unfinished*"_s}, QDir::AllEntries | QDir::Hidden | QDir::System);
 }
 
 QStringList all_rows(const QString& path)

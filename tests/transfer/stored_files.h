@@ -50,6 +50,9 @@ struct copied_folder {
 /// The bytes of a file.
 QByteArray content_of(const QString& path);
 
+/// The files and folders in a folder that a run has for what is not complete.
+QStringList unfinished_in(const QString& folder);
+
 /// Every row of every table of a file in order, as text.
 QStringList all_rows(const QString& path);
 
