@@ -1,12 +1,12 @@
 #include "transfer/command.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include "base/run_time_failure.h"
 #include "store/recovery/diary_copy.h"
 #include "store/recovery/whole_files.h"
+#include "store/recovery/work_folder.h"
 #include "transfer/console.h"
 #include "transfer/empty_store.h"
 #include "transfer/store_argument.h"
@@ -18,25 +18,6 @@ namespace verdane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Where the files are until all of them are complete. A run that was killed may have left some.
-QString unfinished_folder(const QString& folder)
-{
-    return folder + u".unfinished";
-}
-
-/// Removes the files of an export, and the folder unless it has others.
-void remove_export(const QString& folder)
-{
-    QStringList paths{path_of_list(folder)};
-    for (const table& each : schema())
-        paths << QDir(folder).filePath(csv_name_of(each));
-    for (const QString& path : paths) {
-        QFile::remove(path);
-        QFile::remove(path + u".part");
-    }
-    QDir().rmdir(folder);
-}
 
 /// Returns the number of rows, and adds the table to the list.
 int write_table(const Connection1& store, const table& written, const QString& folder, QString& list)
@@ -61,35 +42,17 @@ int write_table(const Connection1& store, const table& written, const QString& f
     return rows;
 }
 
+/// Returns the number of rows.
 int write_tables(const Connection1& store, const QString& folder)
 {
-    const QString unfinished = unfinished_folder(folder);
-    remove_export(unfinished);
-    if (!QDir().mkpath(unfinished) || !QDir(unfinished).isEmpty())
-        throw run_time_failure(failure_kind::store_read_only, unfinished);
-    try {
-        int rows = 0;
-        QString list = heads_of_list();
-        for (const table& each : schema())
-            rows += write_table(store, each, unfinished, list);
-        write_whole_file(path_of_list(unfinished), list.toUtf8());
-        replace_file(unfinished, folder);
-        return rows;
-    } catch (...) {
-        remove_export(unfinished);
-        throw;
-    }
-}
-
-exit_status export_diary(const store_location& from, const QString& folder)
-{
-    Connection1 store;
-    if (!store.OpenExisting(from) || tables_in_use(store).empty())
-        return refuse_without_diary(from);
-    const int rows = write_tables(store, folder);
-    print(in_language(u"Exporté : %1 tables, %2.", u"Exported: %1 tables, %2.")
-              .arg(QString::number(schema().size()), counted_rows(rows)));
-    return exit_status::done;
+    if (!QDir().mkdir(folder))
+        throw run_time_failure(failure_kind::store_read_only, folder);
+    int rows = 0;
+    QString list = heads_of_list();
+    for (const table& each : schema())
+        rows += write_table(store, each, folder, list);
+    write_whole_file(path_of_list(folder), list.toUtf8());
+    return rows;
 }
 
 /// A folder that is empty is replaced.
@@ -100,6 +63,33 @@ bool is_used(const QString& folder)
            (!present.isDir() || present.isSymLink() || !QDir(folder).isEmpty());
 }
 
+exit_status refuse_folder(const QString& folder)
+{
+    return refuse(exit_status::not_empty,
+                  in_language(u"Le dossier n'est pas vide : %1. Rien n'a été modifié.",
+                              u"The folder is not empty: %1. Nothing was changed.")
+                      .arg(folder));
+}
+
+exit_status export_diary(const store_location& from, const QString& folder)
+{
+    remove_unfinished(folder);
+    if (is_used(folder))
+        return refuse_folder(folder);
+    Connection1 store;
+    if (!store.OpenExisting(from) || tables_in_use(store).empty())
+        return refuse_without_diary(from);
+    const work_folder work(folder);
+    const int rows = write_tables(store, work.files());
+    // Another program may have filled it. A folder with files cannot be replaced even after this.
+    if (is_used(folder))
+        return refuse_folder(folder);
+    replace_file(work.files(), folder);
+    print(in_language(u"Exporté : %1 tables, %2.", u"Exported: %1 tables, %2.")
+              .arg(QString::number(schema().size()), counted_rows(rows)));
+    return exit_status::done;
+}
+
 exit_status run_export(const QStringList& arguments, int)
 {
     const auto store = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
@@ -108,11 +98,6 @@ exit_status run_export(const QStringList& arguments, int)
     if (is_empty_file(*store))
         return refuse_without_diary(*store);
     const QString folder = QDir::cleanPath(QFileInfo(arguments[1]).absoluteFilePath());
-    if (is_used(folder))
-        return refuse(exit_status::not_empty,
-                      in_language(u"Le dossier n'est pas vide : %1. Rien n'a été modifié.",
-                                  u"The folder is not empty: %1. Nothing was changed.")
-                          .arg(folder));
     return reported([&] { return export_diary(*store, folder); });
 }
 

@@ -16,7 +16,7 @@ QStringList kept_copies(const QString& folder)
 {
     const QDir copies(folder + u"/copies");
     QStringList paths;
-    for (const QString& name : copies.entryList(QDir::Files))
+    for (const QString& name : copies.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
         paths << copies.filePath(name);
     return paths;
 }

@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 #include "store/Connection1.h"
@@ -166,7 +167,7 @@ private Q_SLOTS:
         const QString errors = run.errors();
         QVERIFY2(errors.endsWith(words), qUtf8Printable(errors));
         QVERIFY(!QFile::exists(folder.files));
-        QVERIFY(!QFile::exists(folder.files + u".unfinished"));
+        QCOMPARE(unfinished_in(QFileInfo(folder.files).path()), QStringList());
     }
 
     void a_folder_with_files_is_refused_and_an_empty_one_is_used()

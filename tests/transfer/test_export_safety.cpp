@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 #include "store/schema.h"
@@ -44,7 +45,7 @@ private Q_SLOTS:
         run.limit_files(static_cast<unsigned long>(bytes));
         QCOMPARE(run.run(), status(exit_status::failed));
         QVERIFY(!QFile::exists(folder.files));
-        QVERIFY(!QFile::exists(folder.files + u".unfinished"));
+        QCOMPARE(unfinished_in(QFileInfo(folder.files).path()), QStringList());
         QCOMPARE(folder.run_export(), status(exit_status::done));
     }
 
@@ -75,9 +76,37 @@ private Q_SLOTS:
             QCOMPARE(folder.run_export(),
                      status(is_exported(folder) ? exit_status::not_empty : exit_status::done));
             QVERIFY(contents_of(folder.files) == expected);
-            QVERIFY(!QFile::exists(folder.files + u".unfinished"));
+            QCOMPARE(unfinished_in(QFileInfo(folder.files).path()), QStringList());
         }
         QVERIFY(with_none > 0);
+    }
+
+    void folders_of_the_user_next_to_the_export_are_kept()
+    {
+        const exported_folder folder;
+        const QString own = folder.files + u".unfinished";
+        QVERIFY(QDir().mkpath(own));
+        QVERIFY(QFile::copy(folder.diary, own + u"/games.csv"));
+        QCOMPARE(folder.run_export(), status(exit_status::done));
+        QCOMPARE(content_of(own + u"/games.csv"), content_of(folder.diary));
+    }
+
+    void two_exports_to_one_folder_are_not_mixed()
+    {
+        const exported_folder folder;
+        const exported_folder other;
+        reader(other.diary).write(u"delete from games where rowid > 3"_s);
+        std::optional<int> of_other;
+        QCOMPARE(run_with_step(export_arguments(folder), file_use::name, u"/partners.csv"_s,
+                               [&] {
+                                   of_other =
+                                       exported_folder::run_export(file_argument(other.diary), folder.files);
+                               }),
+                 status(exit_status::not_empty));
+        QCOMPARE(of_other, status(exit_status::done));
+        QCOMPARE(other.run_export(), status(exit_status::done));
+        QVERIFY(contents_of(folder.files) == contents_of(other.files));
+        QCOMPARE(unfinished_in(QFileInfo(folder.files).path()), QStringList());
     }
 
     void every_file_reaches_the_disk_before_it_gets_its_name()

@@ -11,7 +11,7 @@
 #include "store/engines/file_backup.h"
 #include "store/recovery/diary_copy.h"
 #include "store/recovery/whole_files.h"
-#include "store/store_files.h"
+#include "store/recovery/work_folder.h"
 
 namespace verdane {
 
@@ -21,7 +21,7 @@ namespace {
 
 bool is_free(const QString& path)
 {
-    return !QFile::exists(path) &&
+    return !QFile::exists(path) && !QFileInfo(path).isSymLink() &&
            std::none_of(endings_of_logs.begin(), endings_of_logs.end(),
                         [&](QStringView ending) { return QFile::exists(path + ending); });
 }
@@ -55,20 +55,23 @@ QString free_copy_path(const store_location& store, const QString& why)
     return path;
 }
 
+void copy_store_files(const QString& from, const QString& to)
+{
+    for (const QStringView ending : endings_of_logs) {
+        if (QFileInfo(from + ending).size() > 0)
+            copy_whole_file(from + ending, to + ending);
+    }
+    copy_whole_file(from, to);
+    QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
+}
+
 void write_closed_store(const QString& path, const store_filling& fill)
 {
-    remove_store_files(path);
     Connection1 copy;
     copy.Open(path);
-    try {
-        fill(copy);
-        copy.Close();
-        check_closed(path);
-    } catch (...) {
-        copy.Close();
-        remove_store_files(path);
-        throw;
-    }
+    fill(copy);
+    copy.Close();
+    check_closed(path);
 }
 
 void write_closed_copy(Connection1& from, const QString& path)
@@ -78,10 +81,11 @@ void write_closed_copy(Connection1& from, const QString& path)
 
 QString keep_copy(Connection1& store, const QString& why)
 {
-    const QString unfinished = start_of_copies(store.location()) + u'-' + why + u"-unfinished";
-    write_closed_copy(store, unfinished);
-    const QString path = free_copy_path(store.location(), why);
-    replace_file(unfinished, path);
+    const work_folder work(start_of_copies(store.location()) + u'-' + why);
+    write_closed_copy(store, work.new_store());
+    QString path = free_copy_path(store.location(), why);
+    while (!rename_without_replacing(work.new_store(), path))
+        path = free_copy_path(store.location(), why);
     return path;
 }
 

@@ -20,21 +20,25 @@ inline constexpr std::array<QStringView, 2> endings_of_logs{u"-journal", u"-wal"
 /// follows if that file or a log of it exists.
 QString free_copy_path(const store_location& store, const QString& why);
 
+/// Copies the file of a store and the logs of it that have content, which may be read-only, to a path without
+/// files. The copy can be written. Fails like `copy_whole_file`.
+void copy_store_files(const QString& from, const QString& to);
+
 /// Fills a store without rows; the caller closes it.
 using store_filling = std::function<void(Connection1& store)>;
 
-/// Makes the file of a store of its own, replaces the file that a killed run has left there, and fills it.
-/// The file is closed, complete and checked afterwards. Fails like `fill`, `Connection1::Open` and
-/// `check_copy`, and with `store_full` if the file is not complete; no file is left then.
+/// Makes the file of a store of its own in a `work_folder` and fills it. The file is closed, complete and
+/// checked afterwards. Fails like `fill`, `Connection1::Open` and `check_copy`, and with `store_full` if the
+/// file is not complete.
 void write_closed_store(const QString& path, const store_filling& fill);
 
-/// Copies a diary, row by row and compared, to a file of its own, and replaces the file that a killed run has
-/// left there. Fails like `copy_diary` and `write_closed_store`.
+/// Copies a diary, row by row and compared, to a file of its own in a `work_folder`. Fails like `copy_diary`
+/// and `write_closed_store`.
 void write_closed_copy(Connection1& from, const QString& path);
 
 /// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path, which
-/// has the whole copy or nothing, also if the process is killed. Fails like `write_closed_copy` and
-/// `replace_file`.
+/// has the whole copy or nothing, also if the process is killed. Fails like `work_folder`,
+/// `write_closed_copy` and `rename_without_replacing`.
 QString keep_copy(Connection1& store, const QString& why);
 
 }  // namespace verdane

@@ -10,6 +10,7 @@
 #include "store/recovery/diary_copy.h"
 #include "store/recovery/kept_copy.h"
 #include "store/recovery/whole_files.h"
+#include "store/recovery/work_folder.h"
 #include "store/store_files.h"
 
 namespace verdane {
@@ -17,8 +18,6 @@ namespace verdane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString new_ending = u".restored"_s;
 
 /// Writes what `copy` has into a new file. False if `copy` has no rows.
 bool write_rows(const store_location& copy, const QString& path)
@@ -30,38 +29,18 @@ bool write_rows(const store_location& copy, const QString& path)
     return true;
 }
 
-/// The same from the copy of a copy, which can be opened on a medium that is read-only: opening a store takes
-/// its lock and may write its log into its file.
-bool write_rows_of_read_only(const store_location& copy, const QString& path)
-{
-    const QString writable = path + u".source";
-    remove_store_files(writable);
-    try {
-        for (const QStringView ending : endings_of_logs) {
-            if (QFileInfo(copy.name + ending).size() > 0)
-                copy_whole_file(copy.name + ending, writable + ending);
-        }
-        copy_whole_file(copy.name, writable);
-        QFile::setPermissions(writable, QFile::ReadOwner | QFile::WriteOwner);
-        const bool written = write_rows(store_location::file(writable), path);
-        remove_store_files(writable);
-        return written;
-    } catch (...) {
-        remove_store_files(writable);
-        throw;
-    }
-}
-
-/// Writes what `copy` has into a new file next to the place. False if `copy` has no rows.
-bool write_new_file(const store_location& copy, const QString& path)
+/// Writes what `copy` has into a new file. False if `copy` has no rows. A medium that is read-only needs a
+/// copy of the copy: opening a store takes its lock and may write its log into its file.
+bool write_new_file(const store_location& copy, const work_folder& work)
 {
     try {
-        return write_rows(copy, path);
+        return write_rows(copy, work.new_store());
     } catch (const run_time_failure& failure) {
         if (failure.kind() != failure_kind::store_read_only)
             throw;
     }
-    return write_rows_of_read_only(copy, path);
+    copy_store_files(copy.name, work.read_store());
+    return write_rows(store_location::file(work.read_store()), work.new_store());
 }
 
 /// Opening and closing a store copies its write-ahead log into its file. A damaged file is not changed.
@@ -124,19 +103,13 @@ std::optional<restored_files> restore_copy(const store_location& copy, const sto
     const store_location target = target_of(place);
     const auto lock_of_target =
         QFileInfo(place.name).isSymLink() ? take_store_lock(target.name) : std::unique_ptr<QLockFile>();
-    const QString file = target.name + new_ending;
-    if (!write_new_file(copy, file))
+    const work_folder work(target.name);
+    if (!write_new_file(copy, work))
         return std::nullopt;
     const bool is_there = QFile::exists(target.name);
-    QStringList kept;
-    try {
-        need_sole_use(target.name);
-        kept = keep_files(target);
-    } catch (...) {
-        remove_store_files(file);
-        throw;
-    }
-    put_in_place(file, target.name);
+    need_sole_use(target.name);
+    const QStringList kept = keep_files(target);
+    put_in_place(work.new_store(), target.name);
     return restored_files{kept, is_there};
 }
 

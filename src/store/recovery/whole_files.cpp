@@ -4,6 +4,8 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <unistd.h>
@@ -58,8 +60,8 @@ std::error_code last_error()
 void write_bytes(const QString& path, const QByteArray& bytes)
 {
     constexpr mode_t for_everyone = 0666;
-    const int opened =
-        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, for_everyone);
+    const int opened = open(QFile::encodeName(path).constData(),
+                            O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, for_everyone);
     std::error_code error = opened >= 0 ? std::error_code() : last_error();
     qsizetype written = 0;
     while (!error && written < bytes.size()) {
@@ -81,6 +83,26 @@ QString part_of(const QString& path)
     return path + u".part";
 }
 
+/// Fails with `file_exists` if there is a file at `to`.
+std::error_code link_and_unlink(const QByteArray& from, const QByteArray& to)
+{
+    if (link(from.constData(), to.constData()) != 0)
+        return last_error();
+    return unlink(from.constData()) == 0 ? std::error_code() : last_error();
+}
+
+/// The same. Some file systems support the first way, some the second one.
+std::error_code rename_to_new_name(const QByteArray& from, const QByteArray& to)
+{
+#ifdef RENAME_NOREPLACE
+    if (renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return {};
+    if (errno != EINVAL && errno != ENOSYS)
+        return last_error();
+#endif
+    return link_and_unlink(from, to);
+}
+
 void remove_quietly(const QString& path)
 {
     std::error_code ignored;
@@ -100,12 +122,28 @@ void write_whole_file(const QString& path, const QByteArray& bytes)
     }
 }
 
-void copy_whole_file(const QString& from, const QString& to)
+void make_folder_of(const QString& path)
 {
     std::error_code error;
-    std::filesystem::create_directories(system_path(QFileInfo(to).absolutePath()), error);
-    check(error, to);
+    std::filesystem::create_directories(system_path(QFileInfo(path).absolutePath()), error);
+    check(error, path);
+}
+
+QString make_unique_folder(const QString& start)
+{
+    QByteArray path = QFile::encodeName(start + u"XXXXXX");
+    if (mkdtemp(path.data()) == nullptr)
+        check(last_error(), start);
+    return QFile::decodeName(path);
+}
+
+void copy_whole_file(const QString& from, const QString& to)
+{
+    make_folder_of(to);
+    std::error_code error;
     const QString part = part_of(to);
+    if (QFileInfo(part).isSymLink())
+        throw run_time_failure(failure_kind::store_unreachable, QString(part + u": a link"));
     try {
         std::filesystem::copy_file(system_path(from), system_path(part),
                                    std::filesystem::copy_options::overwrite_existing, error);
@@ -124,6 +162,17 @@ void replace_file(const QString& from, const QString& to)
     std::filesystem::rename(system_path(from), system_path(to), error);
     check(error, to);
     write_to_disk(QFileInfo(to).absolutePath());
+}
+
+bool rename_without_replacing(const QString& from, const QString& to)
+{
+    write_to_disk(from);
+    const std::error_code error = rename_to_new_name(QFile::encodeName(from), QFile::encodeName(to));
+    if (error == std::errc::file_exists)
+        return false;
+    check(error, to);
+    write_to_disk(QFileInfo(to).absolutePath());
+    return true;
 }
 
 }  // namespace verdane

@@ -6,6 +6,13 @@
 /// Files that are copied or renamed as a whole.
 namespace verdane {
 
+/// Makes the folder of a path. Fails with `store_full`, `store_read_only` or `store_unreachable`.
+void make_folder_of(const QString& path);
+
+/// Makes a folder whose name begins with a text and ends with six random characters, for this user only.
+/// Returns its path. Fails in the same way.
+QString make_unique_folder(const QString& start);
+
 /// Copies a file to a path that does not exist yet, making its folder. The path has the whole file or
 /// nothing, also if the process is killed or the power fails. Fails with `store_full`, `store_read_only` or
 /// `store_unreachable`.
@@ -18,5 +25,8 @@ void write_whole_file(const QString& path, const QByteArray& bytes);
 /// Renames a file, replacing the file at `to` in one step. Its content reaches the disk before the new name,
 /// and the name before this function returns. Fails like `copy_whole_file`.
 void replace_file(const QString& from, const QString& to);
+
+/// Renames a file in the same way unless there is a file or a link at `to`: false then, and nothing changes.
+[[nodiscard]] bool rename_without_replacing(const QString& from, const QString& to);
 
 }  // namespace verdane
