@@ -61,10 +61,7 @@ void Connection1::Open(const store_location& store, soundness_check check)
 
 bool Connection1::OpenExisting(const store_location& store, soundness_check check)
 {
-    return open_engine(store, check, [this] {
-        engine_->abandon();
-        engine_.reset();
-    });
+    return open_engine(store, check, [this] { abandon(); });
 }
 
 bool Connection1::open_engine(const store_location& store, soundness_check check,
@@ -81,8 +78,7 @@ bool Connection1::open_engine(const store_location& store, soundness_check check
             without_tables();
         return has_tables;
     } catch (...) {
-        engine_->abandon();
-        engine_.reset();
+        abandon();
         throw;
     }
 }
@@ -112,6 +108,14 @@ void Connection1::Close()
     if (engine_ == nullptr)
         return;
     engine_->close();
+    engine_.reset();
+}
+
+void Connection1::abandon()
+{
+    if (engine_ == nullptr)
+        return;
+    engine_->abandon();
     engine_.reset();
 }
 

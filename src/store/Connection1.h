@@ -100,6 +100,10 @@ public:
     /// Closes the connection and releases the lock. Pending rows of recordsets are not written.
     void Close();
 
+    /// Closes the connection, and removes the file of the store if opening it has created the file. The lock
+    /// is released afterwards. Does nothing on a closed connection.
+    void abandon();
+
     bool is_open() const;
     /// The store that was opened last.
     const store_location& location() const { return location_; }

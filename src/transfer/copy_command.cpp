@@ -44,7 +44,7 @@ exit_status run_copy(const QStringList& arguments, int)
 {
     const auto from = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
     const auto to = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
-    if (!from || !to || *from == *to)
+    if (!from || !to || are_one_store(*from, *to))
         return refuse(exit_status::usage,
                       in_language(u"Il faut deux endroits différents : verdane-store copy DE VERS (--help)",
                                   u"Two different stores are needed: verdane-store copy FROM TO (--help)"));

@@ -1,10 +1,8 @@
 #include "transfer/empty_store.h"
 
-#include <QFile>
-
+#include "store/new_store_name.h"
 #include "store/recovery/diary_copy.h"
 #include "store/schema.h"
-#include "store/store_files.h"
 #include "transfer/console.h"
 #include "transfer/store_argument.h"
 
@@ -13,11 +11,6 @@ namespace verdane {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool is_missing_file(const store_location& store)
-{
-    return store.where == store_location::place::file && !QFile::exists(store.name);
-}
 
 exit_status refuse_target(const store_location& to, const counted_table& used)
 {
@@ -81,14 +74,31 @@ exit_status fill_if_empty(const Connection1& target, const std::function<exit_st
 exit_status fill_empty_store(Connection1& target, const store_location& to,
                              const std::function<exit_status()>& fill)
 {
-    const bool is_new_file = is_missing_file(to);
+    if (has_reserved_name(to))
+        return refuse_reserved_name(to);
     // If opening fails, only files that it has created are removed: the log of a lost file may be there.
     target.Open(to);
     const exit_status status = reported([&] { return fill_if_empty(target, fill); });
-    target.Close();
-    if (status != exit_status::done && is_new_file)
-        remove_store_files(to.name);
+    if (status == exit_status::done)
+        target.Close();
+    else
+        target.abandon();
     return status;
+}
+
+bool has_reserved_name(const store_location& store)
+{
+    return store.where == store_location::place::file && is_reserved_name(store.name);
+}
+
+exit_status refuse_reserved_name(const store_location& store)
+{
+    return refuse(exit_status::usage,
+                  in_language(u"Le nom %1 est réservé aux fichiers qui accompagnent un journal et à ses "
+                              u"copies. Rien n'a été modifié ; choisissez un autre nom ou un autre dossier.",
+                              u"The name %1 is reserved for the files that belong to a diary and for its "
+                              u"copies. Nothing was changed; choose another name or folder.")
+                      .arg(argument_of_store(store)));
 }
 
 QString counted_rows(int rows)

@@ -8,11 +8,15 @@
 namespace verdane {
 
 /// Opens a store that has no rows of its own, creating it if needed, runs a step that fills it, and closes
-/// it. Refused in the current language are a store with rows, with `not_empty`, and tables that do not keep
-/// the order of their rows, with `failed`; a failure is reported. A file that did not exist before is
-/// removed unless the result is `done`. Fails like `Connection1::Open`.
+/// it. Refused in the current language are a store with rows, with `not_empty`, tables that do not keep the
+/// order of their rows, with `failed`, and a reserved name, with `usage`; a failure is reported. A file that
+/// was created is removed unless the result is `done`. Fails like `Connection1::Open`.
 exit_status fill_empty_store(Connection1& target, const store_location& to,
                              const std::function<exit_status()>& fill);
+
+/// True for a file whose name a new store may not have (`is_reserved_name`), and its refusal.
+bool has_reserved_name(const store_location& store);
+exit_status refuse_reserved_name(const store_location& store);
 
 /// "1 row", in the current language.
 QString counted_rows(int rows);

@@ -1,7 +1,5 @@
 #include "transfer/command.h"
 
-#include <QFileInfo>
-
 #include "store/recovery/restored_copy.h"
 #include "transfer/console.h"
 #include "transfer/store_argument.h"
@@ -37,17 +35,11 @@ bool is_file(const std::optional<store_location>& store)
     return store && store->where == store_location::place::file;
 }
 
-bool are_one_file(const QString& left, const QString& right)
-{
-    return left == right || (QFile::exists(left) &&
-                             QFileInfo(left).canonicalFilePath() == QFileInfo(right).canonicalFilePath());
-}
-
 exit_status run_restore(const QStringList& arguments, int)
 {
     const auto copy = arguments.size() == 2 ? store_of_argument(arguments[0]) : std::nullopt;
     const auto place = arguments.size() == 2 ? store_of_argument(arguments[1]) : std::nullopt;
-    if (!is_file(copy) || !is_file(place) || are_one_file(copy->name, place->name))
+    if (!is_file(copy) || !is_file(place) || are_one_store(*copy, *place))
         return refuse(
             exit_status::usage,
             in_language(u"Il faut deux fichiers différents : verdane-store restore COPIE JOURNAL. Pour "

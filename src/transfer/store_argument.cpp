@@ -1,5 +1,10 @@
 #include "transfer/store_argument.h"
 
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
+
 #include "store/Connection1.h"
 
 namespace verdane {
@@ -21,10 +26,18 @@ std::optional<store_location> store_of_argument(const QString& argument)
     if (argument == u"source")
         return store_location::source(source_of_program);
     if (argument.startsWith(file_prefix) && argument.size() > file_prefix.size())
-        return store_location::file(argument.sliced(file_prefix.size()));
+        return store_location::file(QFileInfo(argument.sliced(file_prefix.size())).absoluteFilePath());
     if (argument.startsWith(source_prefix) && argument.size() > source_prefix.size())
         return store_location::source(argument.sliced(source_prefix.size()));
     return std::nullopt;
+}
+
+bool are_one_store(const store_location& left, const store_location& right)
+{
+    std::error_code ignored;
+    return left == right ||
+           (left.where == store_location::place::file && left.where == right.where &&
+            std::filesystem::equivalent(left.name.toStdU16String(), right.name.toStdU16String(), ignored));
 }
 
 QString argument_of_store(const store_location& store)

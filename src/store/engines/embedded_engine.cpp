@@ -118,19 +118,26 @@ bool embedded_engine::open_file(soundness_check check)
     return has_tables;
 }
 
-void embedded_engine::close()
+void embedded_engine::close_file()
 {
     // Prepared statements keep the connection open.
     prepared_.forget();
     store_engine::close();
+}
+
+void embedded_engine::close()
+{
+    close_file();
     lock_.reset();
 }
 
 void embedded_engine::abandon()
 {
-    close();
+    close_file();
+    // Without the lock, the file could be that of another program.
     if (std::exchange(created_, false))
         remove_store_files(where_.name);
+    lock_.reset();
 }
 
 void embedded_engine::check_soundness()

@@ -36,6 +36,7 @@ public:
 
 private:
     bool open_file(soundness_check check);
+    void close_file();
     void check_whole_file();
 
     lock_wait& waiting_;

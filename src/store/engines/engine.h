@@ -37,7 +37,8 @@ public:
     /// Closes the connection and releases the lock. Does nothing on a closed connection.
     virtual void close();
 
-    /// Closes after opening, or creating the tables, has failed. Removes what was created.
+    /// Closes after opening, creating the tables or filling them has failed. Removes the file that `open` has
+    /// created, and releases the lock afterwards.
     virtual void abandon() { close(); }
 
     bool is_open() const;

@@ -142,9 +142,11 @@ void sqlite_odbc_engine::close()
 
 void sqlite_odbc_engine::abandon()
 {
-    close();
+    store_engine::close();
+    // Without the lock, the file could be that of another program.
     if (std::exchange(created_, false))
         remove_store_files(path_);
+    lock_.reset();
 }
 
 void sqlite_odbc_engine::check_soundness()
