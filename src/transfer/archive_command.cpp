@@ -1,11 +1,12 @@
 #include "transfer/command.h"
 
 #include <QDate>
-#include <QFileInfo>
 
+#include "store/engines/file_backup.h"
 #include "store/recovery/archived_rounds.h"
 #include "store/recovery/diary_copy.h"
 #include "transfer/console.h"
+#include "transfer/empty_store.h"
 #include "transfer/store_argument.h"
 
 namespace verdane {
@@ -22,14 +23,22 @@ QString counted_rounds(qsizetype rounds)
 exit_status refuse_other_archive(const store_location& to)
 {
     return refuse(exit_status::not_empty,
-                  in_language(u"%1 existe déjà et n'a pas exactement les rondes à déplacer. Rien n'a été "
-                              u"modifié ; choisissez un nouveau fichier.",
-                              u"%1 exists already and does not have exactly the rounds to be moved. Nothing "
-                              u"was changed; choose a new file.")
+                  in_language(u"%1 existe déjà et n'a pas exactement les rondes à déplacer et leurs "
+                              u"terrains. Rien n'a été modifié ; choisissez un nouveau fichier.",
+                              u"%1 exists already and does not have exactly the rounds and courses to be "
+                              u"moved. Nothing was changed; choose a new file.")
                       .arg(argument_of_store(to)));
 }
 
-/// A file with the same rounds was written by a run that ended before it removed them.
+exit_status refuse_same_file(const store_location& to)
+{
+    return refuse(exit_status::usage,
+                  in_language(u"%1 est le journal lui-même. Rien n'a été modifié ; choisissez un nouveau "
+                              u"fichier.",
+                              u"%1 is the diary itself. Nothing was changed; choose a new file.")
+                      .arg(argument_of_store(to)));
+}
+
 exit_status move_rounds(Connection1& store, QDate day, const store_location& to)
 {
     const QStringList keys = round_keys_before(store, day);
@@ -40,11 +49,8 @@ exit_status move_rounds(Connection1& store, QDate day, const store_location& to)
                   .arg(date));
         return exit_status::done;
     }
-    if (!QFileInfo::exists(to.name))
-        write_archive(store, keys, to.name);
-    if (!is_archive_of(store, keys, to.name))
+    if (!move_to_archive(store, keys, to.name))
         return refuse_other_archive(to);
-    remove_archived(store, keys);
     print(in_language(u"Archivé et vérifié : %1 d'avant le %2, dans %3.",
                       u"Archived and checked: %1 before %2, in %3.")
               .arg(counted_rounds(keys.size()), date, argument_of_store(to)));
@@ -53,10 +59,20 @@ exit_status move_rounds(Connection1& store, QDate day, const store_location& to)
 
 exit_status archive(const store_location& from, QDate day, const store_location& to)
 {
+    // A program that has opened the file by another name does not see the lock.
+    if (from.where == store_location::place::file)
+        need_sole_use(from.name);
     Connection1 store;
     if (!store.OpenExisting(from) || tables_in_use(store).empty())
         return refuse_without_diary(from);
     return move_rounds(store, day, to);
+}
+
+/// Not valid unless the text is exactly of the form `YYYY-MM-DD`.
+QDate day_of_argument(const QString& argument)
+{
+    const QDate day = QDate::fromString(argument, Qt::ISODate);
+    return day.toString(Qt::ISODate) == argument ? day : QDate();
 }
 
 exit_status run_archive(const QStringList& arguments, int)
@@ -64,14 +80,18 @@ exit_status run_archive(const QStringList& arguments, int)
     const bool complete = arguments.size() == 3;
     const auto from = complete ? store_of_argument(arguments[0]) : std::nullopt;
     const auto to = complete ? store_of_argument(arguments[2]) : std::nullopt;
-    const QDate day = complete ? QDate::fromString(arguments[1], Qt::ISODate) : QDate();
-    if (!from || !to || !day.isValid() || to->where != store_location::place::file || *from == *to)
+    const QDate day = complete ? day_of_argument(arguments[1]) : QDate();
+    if (!from || !to || !day.isValid() || to->where != store_location::place::file)
         return refuse(
             exit_status::usage,
             in_language(u"Il faut un journal, une date et un nouveau fichier : verdane-store archive "
                         u"file 2025-01-01 file:ancien.db",
                         u"A diary, a date and a new file are needed: verdane-store archive file "
                         u"2025-01-01 file:old.db"));
+    if (are_one_store(*from, *to))
+        return refuse_same_file(*to);
+    if (has_reserved_name(*to))
+        return refuse_reserved_name(*to);
     if (is_empty_file(*from))
         return refuse_without_diary(*from);
     return reported([&] { return archive(*from, day, *to); });

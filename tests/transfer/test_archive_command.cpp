@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -44,7 +45,7 @@ private Q_SLOTS:
         QVERIFY(folder.is_archived(original));
         for (const QString& path : {folder.diary, folder.target})
             QCOMPARE(store_run({u"check"_s, file_argument(path)}).run(), status(exit_status::done));
-        QVERIFY(!QFile::exists(folder.target + u".unfinished"));
+        QCOMPARE(unfinished_in(QFileInfo(folder.target).path()), QStringList());
     }
 
     void the_new_store_has_the_courses_and_partners_of_its_rounds_and_the_bag()
@@ -99,6 +100,10 @@ private Q_SLOTS:
         QTest::newRow("a shot fewer") << u"delete from Stat_rounds where rowid = 7"_s;
         QTest::newRow("a round fewer") << u"delete from games where rowid = 1"_s;
         QTest::newRow("a course fewer") << u"delete from vrd_fields where rowid = 1"_s;
+        QTest::newRow("a partner fewer") << u"delete from partners where rowid = 1"_s;
+        QTest::newRow("a club") << u"update sticks set avg_1 = 77.5"_s;
+        QTest::newRow("a name of a club") << u"update sticknames set club_1 = 'Driver'"_s;
+        QTest::newRow("a language") << u"update settings set language = 7"_s;
         QTest::newRow("a cost") << u"update cost set au = 9"_s;
     }
 
@@ -115,8 +120,8 @@ private Q_SLOTS:
         QCOMPARE(run.run(), status(exit_status::not_empty));
         QCOMPARE(run.errors(),
                  file_argument(first.target) +
-                     u" exists already and does not have exactly the rounds to be moved. Nothing "
-                     "was changed; choose a new file.\n");
+                     u" exists already and does not have exactly the rounds and courses to be moved. "
+                     "Nothing was changed; choose a new file.\n");
         QVERIFY(folder.rows() == original);
     }
 
@@ -138,8 +143,50 @@ private Q_SLOTS:
                  0);
         // Every round of the diary would be moved.
         store_run run({u"archive"_s, file_argument(folder.diary), u"2030-01-01"_s, file_argument(other)});
-        QCOMPARE(run.run(), status(exit_status::in_use));
+        QCOMPARE(run.run(), status(exit_status::usage));
+        QCOMPARE(run.errors(),
+                 file_argument(other) + u" is the diary itself. Nothing was changed; choose a new file.\n");
+        QCOMPARE(store_run({u"copy"_s, file_argument(folder.diary), file_argument(other)}).run(),
+                 status(exit_status::usage));
         QVERIFY(folder.rows() == original);
+    }
+
+    void a_diary_that_is_in_use_by_another_name_is_refused()
+    {
+        const divided_rows original = archived_folder().rows();
+        const archived_folder folder;
+        const QString other = folder.folder.filePath(u"other.db"_s);
+        QVERIFY(QFile::link(folder.diary, other));
+        Connection1 user;
+        user.Open(other);
+        QCOMPARE(folder.archive(), status(exit_status::in_use));
+        QVERIFY(folder.rows() == original);
+        QVERIFY(!QFile::exists(folder.target));
+    }
+
+    void an_existing_file_that_is_no_archive_keeps_its_bytes_data()
+    {
+        QTest::addColumn<QString>("statement");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("no table") << u"pragma user_version = 7"_s;
+        QTest::newRow("tables of another program") << u"create table photos (name)"_s;
+    }
+
+    void an_existing_file_that_is_no_archive_keeps_its_bytes()
+    {
+        QFETCH(QString, statement);
+        const archived_folder folder;
+        QVERIFY(QDir(folder.folder.path()).mkdir(u"target"_s));
+        QFile file(folder.target);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        if (!statement.isEmpty())
+            reader(folder.target).write(statement);
+        const QByteArray before = content_of(folder.target);
+        QCOMPARE(before.isEmpty(), statement.isEmpty());
+        QCOMPARE(folder.archive(), status(exit_status::not_empty));
+        QCOMPARE(content_of(folder.target), before);
+        QCOMPARE(rounds_in(store_location::file(folder.diary)), rounds_of_diary);
     }
 
     void a_store_in_use_is_refused_and_nothing_changes()
@@ -207,6 +254,8 @@ private Q_SLOTS:
         QTest::newRow("the same file") << QStringList{u"file:a"_s, u"2023-01-01"_s, u"file:a"_s};
         QTest::newRow("no such day") << QStringList{u"file:a"_s, u"2023-02-30"_s, u"file:b"_s};
         QTest::newRow("another form of a day") << QStringList{u"file:a"_s, u"1/2/2023"_s, u"file:b"_s};
+        QTest::newRow("text after a day") << QStringList{u"file:a"_s, u"2023-01-01garbage"_s, u"file:b"_s};
+        QTest::newRow("a day with a time") << QStringList{u"file:a"_s, u"2023-01-01T10:00:00"_s, u"file:b"_s};
         QTest::newRow("into a source") << QStringList{u"file:a"_s, u"2023-01-01"_s, u"source:b"_s};
     }
 

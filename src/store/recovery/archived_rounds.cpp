@@ -1,8 +1,11 @@
 #include "store/recovery/archived_rounds.h"
 
+#include <QFileInfo>
+#include <QLockFile>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <optional>
 
 #include "base/run_time_failure.h"
 #include "store/commits.h"
@@ -10,6 +13,7 @@
 #include "store/recovery/kept_copy.h"
 #include "store/recovery/round_selection.h"
 #include "store/recovery/whole_files.h"
+#include "store/recovery/work_folder.h"
 #include "store/store_files.h"
 #include "store/tables/courses.h"
 #include "store/tables/golf_bag.h"
@@ -39,28 +43,31 @@ bool is_of_bag_or_settings(const table& tested)
            is_named(tables::settings::table.name, tested);
 }
 
-/// Writes the rows of one table that belong to the rounds. The report tables are those of a new store.
-void archive_table(const Connection1& from, Connection1& to, const table& moved, const text_set& keys,
-                   const references& named)
+/// What an archive has of one table of a diary. Nothing of a report table: it is that of a new store.
+std::optional<table_rows> rows_of_archive(const Connection1& diary, const table& moved, const text_set& keys,
+                                          const references& named)
 {
     if (is_of_rounds(moved))
-        replace_rows(to, moved, rows_of_keys(from, moved, keys));
-    else if (is_of_bag_or_settings(moved))
-        replace_rows(to, moved, all_rows(from, moved));
-    else if (is_named(tables::vrd_fields::table.name, moved))
-        replace_rows(to, moved, rows_of_courses(from, moved, tables::vrd_fields::code, named.courses));
-    else if (is_named(tables::field_info::table.name, moved))
-        replace_rows(to, moved, rows_of_courses(from, moved, tables::field_info::FIELD_CODE, named.courses));
-    else if (is_named(tables::partners::table.name, moved))
-        replace_rows(to, moved, rows_of_partners(from, moved, named.partners));
+        return rows_of_keys(diary, moved, keys);
+    if (is_of_bag_or_settings(moved))
+        return all_rows(diary, moved);
+    if (is_named(tables::vrd_fields::table.name, moved))
+        return rows_of_courses(diary, moved, tables::vrd_fields::code, named.courses);
+    if (is_named(tables::field_info::table.name, moved))
+        return rows_of_courses(diary, moved, tables::field_info::FIELD_CODE, named.courses);
+    if (is_named(tables::partners::table.name, moved))
+        return rows_of_partners(diary, moved, named.partners);
+    return std::nullopt;
 }
 
-void fill_archive(const Connection1& from, Connection1& to, const text_set& keys)
+void fill_archive(const Connection1& diary, Connection1& archive, const text_set& keys)
 {
-    const references named = references_of(from, keys);
-    single_commit together(to);
-    for (const table& each : schema())
-        archive_table(from, to, each, keys, named);
+    const references named = references_of(diary, keys);
+    single_commit together(archive);
+    for (const table& each : schema()) {
+        if (const auto rows = rows_of_archive(diary, each, keys, named))
+            replace_rows(archive, each, *rows);
+    }
     together.finish();
 }
 
@@ -69,21 +76,49 @@ text_set set_of(const QStringList& keys)
     return {keys.begin(), keys.end()};
 }
 
-bool has_rows_of(const Connection1& archive, const Connection1& store, const text_set& keys)
+bool has_rows_of(const Connection1& archive, const Connection1& diary, const text_set& keys)
 {
-    const text_set courses = references_of(store, keys).courses;
-    const table& course = *find_table(tables::vrd_fields::table.name);
-    const table& holes = *find_table(tables::field_info::table.name);
-    return std::all_of(tables_of_rounds.begin(), tables_of_rounds.end(),
-                       [&](std::u16string_view name) {
-                           const table& compared = *find_table(name);
-                           return equal_rows(all_rows(archive, compared),
-                                             rows_of_keys(store, compared, keys));
-                       }) &&
-           equal_rows(all_rows(archive, course),
-                      rows_of_courses(store, course, tables::vrd_fields::code, courses)) &&
-           equal_rows(all_rows(archive, holes),
-                      rows_of_courses(store, holes, tables::field_info::FIELD_CODE, courses));
+    const references named = references_of(diary, keys);
+    return std::all_of(schema().begin(), schema().end(), [&](const table& each) {
+        const auto rows = rows_of_archive(diary, each, keys, named);
+        return !rows || equal_rows(all_rows(archive, each), *rows);
+    });
+}
+
+/// Writes a new file. Another program that does not use the lock may write one at the same time, which is
+/// not replaced.
+void write_archive(const Connection1& diary, const QStringList& keys, const QString& path)
+{
+    check_store_files(path);
+    const work_folder work(path);
+    write_closed_store(work.new_store(),
+                       [&](Connection1& archive) { fill_archive(diary, archive, set_of(keys)); });
+    (void)rename_without_replacing(work.new_store(), path);
+}
+
+/// Opens a file that is no store, or a damaged one, as one without tables.
+bool open_archive(Connection1& archive, const QString& path)
+{
+    try {
+        return archive.OpenExisting(store_location::file(path));
+    } catch (const run_time_failure& failure) {
+        if (failure.kind() != failure_kind::store_damaged)
+            throw;
+        return false;
+    }
+}
+
+/// True if a file has exactly these rounds, and all that belongs to them. It is read from a copy, because
+/// opening a store may change its file.
+bool is_archive_of(const Connection1& diary, const QStringList& keys, const QString& path)
+{
+    need_sole_use(path);
+    const work_folder work(path);
+    if (!QFileInfo(path).isFile())
+        return false;
+    copy_store_files(path, work.read_store());
+    Connection1 archive;
+    return open_archive(archive, work.read_store()) && has_rows_of(archive, diary, set_of(keys));
 }
 
 QString condition_for(const QStringList& keys)
@@ -92,6 +127,21 @@ QString condition_for(const QStringList& keys)
     for (const QString& key : keys)
         values << quoted(key);
     return u" WHERE date IN ("_s + values.join(u',') + u')';
+}
+
+/// Removes the rows of some rounds. Fails with `store_other` unless exactly these rows are removed. The
+/// caller commits.
+void remove_archived(Connection1& store, const QStringList& keys)
+{
+    const text_set removed = set_of(keys);
+    for (const std::u16string_view name : tables_of_rounds) {
+        const table& changed = *find_table(name);
+        const table_rows kept = rows_of_other_keys(store, changed, removed);
+        store.Execute(u"DELETE FROM " + in_back_quotes(changed.name) + condition_for(keys));
+        if (!equal_rows(all_rows(store, changed), kept))
+            throw run_time_failure(failure_kind::store_other,
+                                   QString(changed.name + u": other rows would be removed, too"));
+    }
 }
 
 }  // namespace
@@ -110,34 +160,19 @@ QStringList round_keys_before(const Connection1& store, QDate day)
     return keys;
 }
 
-void write_archive(const Connection1& store, const QStringList& keys, const QString& path)
+bool move_to_archive(Connection1& diary, const QStringList& keys, const QString& path)
 {
-    check_store_files(path);
-    const QString unfinished = path + u".unfinished";
-    write_closed_store(unfinished, [&](Connection1& archive) { fill_archive(store, archive, set_of(keys)); });
-    replace_file(unfinished, path);
-}
-
-bool is_archive_of(const Connection1& store, const QStringList& keys, const QString& path)
-{
-    need_sole_use(path);
-    Connection1 archive;
-    return archive.OpenExisting(store_location::file(path)) && has_rows_of(archive, store, set_of(keys));
-}
-
-void remove_archived(Connection1& store, const QStringList& keys)
-{
-    const text_set removed = set_of(keys);
-    single_commit together(store);
-    for (const std::u16string_view name : tables_of_rounds) {
-        const table& changed = *find_table(name);
-        const table_rows kept = rows_of_other_keys(store, changed, removed);
-        store.Execute(u"DELETE FROM " + in_back_quotes(changed.name) + condition_for(keys));
-        if (!equal_rows(all_rows(store, changed), kept))
-            throw run_time_failure(failure_kind::store_other,
-                                   QString(changed.name + u": other rows would be removed, too"));
-    }
+    make_folder_of(path);
+    const auto lock = take_store_lock(path);
+    // From the first row that is read to the last one that is removed, no other program writes to the diary.
+    single_commit together(diary);
+    if (!QFileInfo::exists(path))
+        write_archive(diary, keys, path);
+    if (!is_archive_of(diary, keys, path))
+        return false;
+    remove_archived(diary, keys);
     together.finish();
+    return true;
 }
 
 }  // namespace verdane

@@ -52,9 +52,6 @@ void remove_work(const QString& folder, std::unique_ptr<QLockFile> lock)
         remove_named(files, tables);
         QDir().rmdir(files);
     }
-    // A folder without a lock file is not recognized later.
-    if (QDir(folder).entryList(every_entry).size() > 1)
-        return;
     lock.reset();
     QDir().rmdir(folder);
 }
