@@ -11,7 +11,7 @@ namespace verdane {
 
 struct csv_value {
     QString text;
-    /// True if the value is between quotes. An empty text is; without quotes an empty value is none.
+    /// True if the value is between quotes. Empty: with quotes an empty text, without them no value.
     bool quoted = false;
 
     bool operator==(const csv_value&) const = default;

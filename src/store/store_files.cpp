@@ -104,7 +104,7 @@ void check_head(QFile& file, const QString& path)
         refuse(path, u"its last page is not complete");
 }
 
-/// The lock does not report why it could not be written. If a file can be created and not be written, the
+/// The lock does not report why it could not be written. If a file can be created but not written, the
 /// disk is full, or a quota or a limit on the size of files applies.
 bool takes_no_content(const QString& folder)
 {

@@ -34,7 +34,7 @@ std::optional<QByteArray> read_file(const QString& path, bad_lines& faults);
 std::optional<std::vector<csv_record>> records_of(const QByteArray& bytes, const QString& path,
                                                   bad_lines& faults, empty_lines empty = empty_lines::skip);
 
-/// The records of a file. Without a value the file cannot be read; the reason is then the last of `faults`.
+/// The records of a file. No value if the file cannot be read; the reason is then the last of `faults`.
 std::optional<std::vector<csv_record>> read_csv_file(const QString& path, bad_lines& faults);
 
 /// Reports every fault with file and line, and that nothing was changed. Returns `bad_file`.

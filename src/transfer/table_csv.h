@@ -19,7 +19,7 @@ QString csv_name_of(const table& named);
 QString csv_heads_of(const table& written);
 
 /// The line of a row, with its line end. A number has the digits with which it is read back unchanged, with a
-/// point as decimal mark. Without a value, one of the columns has bytes that are no text.
+/// point as decimal mark. No value if a column has bytes that are no text.
 std::optional<QString> csv_line_of(const std::vector<QVariant>& row);
 
 }  // namespace verdane

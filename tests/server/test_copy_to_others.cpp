@@ -130,7 +130,7 @@ private Q_SLOTS:
         check_copy(diary, target);
     }
 
-    void of_a_statement_that_fails_only_the_words_and_the_reason_are_written()
+    void a_copy_whose_statement_fails_writes_only_the_words_and_the_reason()
     {
         const unsorted_diary diary;
         const changed_target target(u"modify column field varchar(1)"_s);

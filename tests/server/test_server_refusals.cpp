@@ -205,7 +205,7 @@ void hold_connections(int number)
         held_connections.push_back(std::make_unique<outside_connection>(program_run::store_place()));
 }
 
-/// The connections of which the server knows. It notices the end of one a moment later.
+/// The connections in the list of the server. A closed connection remains in it for a moment.
 int number_of_connections(const outside_connection& server)
 {
     QSqlQuery query = server.run_unchanged(

@@ -265,7 +265,7 @@ private Q_SLOTS:
         QCOMPARE(store_run(QStringList{u"archive"_s} + arguments).run(), status(exit_status::usage));
     }
 
-    void a_store_without_rows_is_no_diary()
+    void a_store_without_rows_is_refused()
     {
         const archived_folder folder;
         QCOMPARE(store_run(folder.arguments_for(file_argument(folder.folder.filePath(u"none.db"_s)),

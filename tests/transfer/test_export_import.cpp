@@ -184,7 +184,7 @@ private Q_SLOTS:
                  status(exit_status::not_empty));
     }
 
-    void a_store_without_rows_is_no_diary_and_no_folder_is_made()
+    void a_store_without_rows_is_refused_and_no_folder_is_created()
     {
         const exported_folder folder;
         Connection1().Open(folder.target);

@@ -94,7 +94,7 @@ bool is_nothing(const QString& text)
 struct error_meaning {
     int number;
     failure_kind kind;
-    /// Whether the error has that meaning with a text; always if null.
+    /// True if the error has that meaning with this text. Null: it has the meaning with every text.
     bool (*applies)(const QString& text) = nullptr;
 };
 

@@ -71,7 +71,7 @@ void sqlite_odbc_engine::check_before_opening(const QString& source)
     const QString path = setting_of_source(source, u"Database"_s);
     const bool is_for_sqlite =
         setting_of_source(source, u"Driver"_s).contains(u"sqlite", Qt::CaseInsensitive);
-    // The name may be an alias. Another engine has no log next to a file without content.
+    // A driver can have any name. A missing or empty file is checked whatever the name is.
     const bool may_lose_log = QDir::isAbsolutePath(path) && QFileInfo(path).size() == 0;
     if ((is_for_sqlite && !path.isEmpty()) || may_lose_log)
         check_store_files(path);

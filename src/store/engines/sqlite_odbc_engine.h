@@ -15,7 +15,7 @@ public:
     ~sqlite_odbc_engine() override;
 
     /// Checks the file of a source before its driver opens it, because the driver deletes the log of a file
-    /// that is empty or missing. Of a source whose driver may be that of another engine only such a file is
+    /// that is empty or missing. If the driver may be that of another engine, only such a file is
     /// checked. Fails like `check_store_files`.
     static void check_before_opening(const QString& source);
 

@@ -26,8 +26,8 @@ using table_notice = std::function<void(const counted_table& table)>;
 /// golf bag are compared: the first start sets the language, and reports rewrite the others.
 std::vector<counted_table> tables_in_use(const Connection1& store);
 
-/// The tables that would not return copied rows in their order, which they need. Empty unless somebody else
-/// made the tables of a source, with a key of their own; `Connection1::identity_script` corrects most of
+/// The tables that would not return copied rows in their order. Only tables that the program did not make
+/// and that have a key of their own are among them; `Connection1::identity_script` corrects most of
 /// them.
 QStringList tables_without_order(const Connection1& store);
 
