@@ -13,14 +13,14 @@ namespace {
 stroke_counts strokes_of(int16 hole, const figure_source& source)
 {
     if (source)
-        return *source;
+        return static_cast<const stroke_counts&>(*source);
     return read_strokes(hole);
 }
 
 penalty_counts penalties_of(int16 hole, const figure_source& source)
 {
     if (source)
-        return *source;
+        return static_cast<const penalty_counts&>(*source);
     return read_penalties(hole);
 }
 
