@@ -5,7 +5,8 @@
 #include "base/language.h"
 
 /// Every keyboard shortcut of the program: its keys, and the caption that the list of Ctrl+F1 and the tool
-/// tips show. To change a shortcut, change its line here.
+/// tips show. To change a shortcut, change its line here. `cancel`, `open_round` and `open_course` are only
+/// shown: `Form::reject` and `on_enter` have their keys.
 ///
 /// Mnemonics ("&Fichier") are part of the captions of menus and buttons. The keys inside a control are
 /// described at its class: `data_grid`, `choice_menu`, `TabStrip`.

@@ -25,8 +25,8 @@ public:
     /// True when the tab of the detailed page is selected.
     bool on_detailed_page() const;
 
-    /// A hole was selected in the list: saves the hole that was shown last, unless it is the first one, then
-    /// shows the selected hole.
+    /// A hole was selected in the list: saves the hole that was shown last (the first call saves nothing),
+    /// then shows the selected hole.
     void hole_selected();
     /// The list of holes changed. On the detailed page this is a click on the tab of the hole, so that the
     /// shots are checked and summarised first.
