@@ -2,7 +2,6 @@
 
 #include <QDate>
 
-#include "store/engines/file_backup.h"
 #include "store/recovery/archived_rounds.h"
 #include "store/recovery/diary_copy.h"
 #include "transfer/console.h"
@@ -59,11 +58,8 @@ exit_status move_rounds(Connection1& store, QDate day, const store_location& to)
 
 exit_status archive(const store_location& from, QDate day, const store_location& to)
 {
-    // A program that has opened the file by another name does not see the lock.
-    if (from.where == store_location::place::file)
-        need_sole_use(from.name);
     Connection1 store;
-    if (!store.OpenExisting(from) || tables_in_use(store).empty())
+    if (!open_alone(store, from) || tables_in_use(store).empty())
         return refuse_without_diary(from);
     return move_rounds(store, day, to);
 }

@@ -146,6 +146,14 @@ void remove_archived(Connection1& store, const QStringList& keys)
 
 }  // namespace
 
+bool open_alone(Connection1& diary, const store_location& place)
+{
+    // A program that has opened the file by another name does not see the lock.
+    if (place.where == store_location::place::file)
+        need_sole_use(place.name);
+    return diary.OpenExisting(place);
+}
+
 QStringList round_keys_before(const Connection1& store, QDate day)
 {
     static const QRegularExpression is_key(u"^[0-9]{14}$"_s);

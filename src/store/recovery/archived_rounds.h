@@ -8,6 +8,11 @@
 /// Rounds that are moved from a diary to a file of their own.
 namespace verdane {
 
+/// Opens a diary whose rounds are to be moved. False if there is no store. Fails like
+/// `Connection1::OpenExisting`, and with `store_locked` if another program has the file open, by whatever
+/// name.
+bool open_alone(Connection1& diary, const store_location& place);
+
 /// The keys of the rounds before a day, in the order of the diary. A key that is not 14 digits is left out.
 QStringList round_keys_before(const Connection1& store, QDate day);
 
