@@ -46,8 +46,8 @@ private Q_SLOTS:
             << u"partners"_s << QByteArray("NAME,SURNAME") << QByteArray("SURNAME,NAME") << 1 << not_head;
         QTest::newRow("other encoding") << u"partners"_s << head << head + "\xe9,,,,,,1\n"
                                         << 2 << u"the text is not in UTF-8"_s;
-        QTest::newRow("letter in the only column")
-            << u"settings"_s << QByteArray("language\n") << QByteArray("language\na\n") << 2
+        QTest::newRow("letter before a number")
+            << u"settings"_s << QByteArray("language\n") << QByteArray("language\na") << 2
             << u"language: not a number"_s;
     }
 
