@@ -89,7 +89,7 @@ private:
 
     static QString key_of(int round)
     {
-        const QDate day = QDate(2025, 4, 12).addDays(round * days_between_rounds);
+        const QDate day = QDate(2025, 4, 12).addDays(qint64{round} * days_between_rounds);
         const QTime tee_off = QTime(8, 0).addSecs(60 * (round * 47 % 420));
         return day.toString(u"yyyyMMdd") + tee_off.toString(u"HHmmss");
     }
