@@ -11,11 +11,11 @@ namespace verdane {
 /// stack, so that no routine of an open window continues and commits after a failure.
 [[noreturn]] void end_after_failure(const run_time_failure& failure);
 
-/// Remembers that a routine has ignored the loss of the connection to the store; other failures have no
-/// effect. For this header.
+/// Stores the failure if it is a loss of the connection to the store, which a routine has ignored; other
+/// failures have no effect. For this header.
 void note_ignored(const run_time_failure& failure);
 
-/// Ends the program like `end_after_failure` if a loss was remembered. For this header.
+/// Ends the program like `end_after_failure` if a loss was stored. For this header.
 void end_if_store_is_lost();
 
 /// Calls the routine of an event and handles its failure. Every event of a window is handled through this

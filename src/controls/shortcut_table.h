@@ -6,7 +6,7 @@
 
 /// Every keyboard shortcut of the program: its keys, and the caption that the list of Ctrl+F1 and the tool
 /// tips show. To change a shortcut, change its line here. `cancel`, `open_round` and `open_course` are only
-/// shown: `Form::reject` and `on_enter` have their keys.
+/// shown: Qt calls `Form::reject` for Escape, and `on_enter` handles Enter.
 ///
 /// Mnemonics ("&Fichier") are part of the captions of menus and buttons. The keys inside a control are
 /// described at its class: `data_grid`, `choice_menu`, `TabStrip`.

@@ -34,7 +34,7 @@ void remember_new_course(Recordset& rsvrd_fields);
 /// The end of a code and of a `name_tee`: a dash and the digit of the tee.
 QString tee_mark(int tee);
 
-/// A name in capitals with the mark of its tee. Two courses with the same one are the same course.
+/// A name in capitals with the mark of its tee. Two courses for which this text is equal are the same course.
 QString name_with_tee(const QString& name_in_capitals, int tee);
 
 /// The result of looking for a name in the table.

@@ -67,7 +67,7 @@ int16 partner_in_round(QStringView number_text);
 /// The text of partners: their numbers, each followed by "-".
 QString partners_text(const QStringList& numbers);
 
-/// The code of the course with that index in a list filled from `rsvrd_fields`, which is then on its row.
+/// Moves `rsvrd_fields` to the course with that index in a list filled from it, and returns its code.
 QString course_code_at(int list_index);
 
 /// The sum of the twelve amounts of the round. Fails with `overflow` beyond 16 bits.

@@ -40,6 +40,7 @@ void open_selected(f_c_list& window)
     if (!has_selection(window))
         return;
     Round_functions::move_to_course(window.selected_course());
+    // The message is English in both twins.
     if (courses().bof() || courses().eof())
         show_information(u"Fatal error : F not found"_s);
     else

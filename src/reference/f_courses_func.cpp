@@ -41,6 +41,7 @@ bool set_key_of_new_course(const f_courses& window)
     return !known.duplicate;
 }
 
+/// The title is French in both twins.
 QMessageBox::StandardButton ask_whether_to_save(const f_courses& window)
 {
     return show_message({window.caption(u"Voulez vous enregistrer les modifications avant de sortir ?  ",
@@ -86,6 +87,7 @@ void save(f_courses& window)
     if (window.isNew() && !set_key_of_new_course(window))
         return;
     window.write_rows();
+    // The message is English in both twins.
     if (!edited_course::commit())
         show_information(u"Fatal Error : 101"_s);
     window.changes_are_settled();

@@ -38,7 +38,7 @@ std::vector<bound_column> columns(const Form& window)
         {u"AD2"_s, window.caption(u"Ville", u"City")},
         {u"TEL"_s, window.caption(u"Téléphone", u"Telephone")},
         {u"MAIL"_s, window.caption(u"Courriel", u"Email")},
-        {u"code"_s, u"code"_s},
+        {u"code"_s, u"code"_s},  // The same caption in both languages.
     };
 }
 

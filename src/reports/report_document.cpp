@@ -69,8 +69,8 @@ void report_document::paint(QPainter& painter, int page) const
 {
     painter.save();
     painter.scale(1 / units_per_mm, 1 / units_per_mm);
-    // Smoothed edges would leave light seams between the coloured cells of a table; the drawings
-    // switch smoothing on for themselves.
+    // Smoothed edges would leave light seams between the coloured cells of a table. The drawings are painted
+    // with smoothing.
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setRenderHint(QPainter::TextAntialiasing);
     contents_->pages->paint(painter, page, fill_footer(contents_->source, page + 1, page_count()));

@@ -54,8 +54,8 @@ season_rounds in_order_of_time(season_rounds rounds);
 /// How many whole rounds the moving mean covers: 5, or more for many rounds, so that the line stays readable.
 int window_of_moving_mean(int whole_rounds);
 
-/// The mean strokes against par of a whole round and the whole rounds before it, `window` in all. No value
-/// for other rounds and for the first ones, which have fewer before them.
+/// For each whole round the mean strokes against par of the last `window` whole rounds, itself included. No
+/// value for a round that is not whole, and for a whole round with fewer than `window` - 1 before it.
 std::vector<std::optional<double>> moving_mean(const std::vector<season_figures>& rounds, int window);
 
 /// Sums over the whole rounds of a season, or of one course.

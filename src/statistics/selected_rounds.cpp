@@ -84,6 +84,7 @@ missing_row walk_selected_rounds(const selection_arguments& chosen, const std::f
 
 void report_missing_row(missing_row row)
 {
+    // English in both languages.
     show_information(u"Fatal Error : %1 "_s.arg(static_cast<int>(row)), QMessageBox::Critical, QString());
 }
 

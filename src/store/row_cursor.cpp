@@ -181,7 +181,7 @@ void row_cursor::move_by(int steps)
 {
     if (steps == 0)
         return;
-    // In a gap the position is the index of the next row.
+    // After a deletion, `place_` is already the index of the next row.
     const qint64 from = in_gap_ && steps > 0 ? place_ - 1 : place_;
     move_to(static_cast<int>(std::clamp<qint64>(from + steps, -1, count())));
 }

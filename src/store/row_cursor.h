@@ -120,8 +120,8 @@ private:
     row_set set_;
     /// The following rows if rows are read one by one; `set_` then has only the current row.
     std::unique_ptr<row_stream> stream_;
-    /// The index of the current row; -1 before the first, the number of rows after the last. In a gap it is
-    /// the index of the row that follows the deleted one.
+    /// The index of the current row; -1 before the first, the number of rows after the last. After a deletion
+    /// (`in_gap_`) it is the index of the row that follows the deleted one, until the next move.
     int place_ = 0;
     bool in_gap_ = false;
 };

@@ -205,7 +205,7 @@ void erase_row(const Connection1& connection, const row_set& set, const recordse
     connection.need_soundness();
     statement_with_values statement = start_statement(u"DELETE FROM ", set, 0);
     connection.count_statement();
-    // Without a number, a row that has other values now would be kept in the store without notice.
+    // Without a number, a row whose values have changed meanwhile would silently stay in the store.
     if (change_row(connection.engine(), statement, set, row, row.equal_before, where) == 0 &&
         !set.has_numbers)
         throw no_such_row(where);

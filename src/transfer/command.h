@@ -30,7 +30,7 @@ struct command {
 };
 
 /// `check STORE`: reports the problems of a diary. With the first option those that need no choice are
-/// repaired, after a copy was made; with the second one, rounds are made of shots that have none, too. The
+/// repaired, after a copy was made; with the second one, rounds are also made of shots without a round. The
 /// status is `problems` while problems are left.
 extern const command check_command;
 

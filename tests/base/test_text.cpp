@@ -33,7 +33,7 @@ private Q_SLOTS:
         QCOMPARE(trimmed_blanks(text).toString(), trimmed);
     }
 
-    void each_letter_is_converted_on_its_own_data()
+    void each_letter_is_converted_separately_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("capitals");
@@ -46,7 +46,7 @@ private Q_SLOTS:
                                << "";
     }
 
-    void each_letter_is_converted_on_its_own()
+    void each_letter_is_converted_separately()
     {
         QFETCH(QString, text);
         QFETCH(QString, capitals);

@@ -92,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(opened_, QList<QUrl>{QUrl::fromLocalFile(page_of(french))});
     }
 
-    void f1_leaves_the_text_that_is_being_typed()
+    void f1_keeps_the_text_that_is_being_typed()
     {
         trial window;
         in_trial(window, [&](hand& user) {

@@ -143,7 +143,7 @@ private Q_SLOTS:
         QCOMPARE(window.clicks, 0);
     }
 
-    void a_box_that_refuses_to_be_left_stops_shortcuts_but_not_their_list()
+    void while_a_box_may_not_be_left_only_the_list_of_shortcuts_opens()
     {
         trial window;
         window.may_leave = false;

@@ -56,7 +56,7 @@ private Q_SLOTS:
         QVERIFY(control.preview() == nullptr);
     }
 
-    void a_report_opens_maximised_and_titled_as_it_was_set_up()
+    void a_report_opens_maximised_with_the_title_that_was_set()
     {
         report_control control;
         prepare_round_report(control, report_opening::maximised());

@@ -166,7 +166,7 @@ private Q_SLOTS:
             QCOMPARE(page.count(u"end-"_s), page.count(u"start-"_s));
     }
 
-    void rows_that_a_cell_joins_stay_on_one_page()
+    void rows_that_one_cell_spans_stay_on_one_page()
     {
         const QString body =
             u"<table width=\"180mm\"><thead><tr><th>HEADING</th><th>x</th></tr></thead>{{#rows}}"

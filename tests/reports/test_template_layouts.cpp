@@ -132,7 +132,7 @@ private Q_SLOTS:
                  u"Écart d'un coup\r\n7\r\n"_s);
     }
 
-    void a_word_does_not_pass_the_checks_of_a_query()
+    void a_query_is_checked_with_its_words_in_place()
     {
         QCOMPARE(
             failure_of_template(try_template("layout = try.layout\n[words]\nit = %.99999c\n",

@@ -226,7 +226,7 @@ private Q_SLOTS:
         });
     }
 
-    void a_window_above_the_round_gets_its_keys()
+    void page_keys_do_not_change_the_round_below_another_window()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {
@@ -264,7 +264,7 @@ private Q_SLOTS:
         QVERIFY(stored_shots(round.store, 1).startsWith(u"1 101>45 "));
     }
 
-    void the_guide_leaves_a_distance_that_is_being_typed()
+    void F1_keeps_a_distance_that_is_being_typed()
     {
         const golfer_store round;
         QList<QUrl> opened;
@@ -305,7 +305,7 @@ private Q_SLOTS:
         });
     }
 
-    void an_open_list_gets_its_keys()
+    void PageDown_in_an_open_list_does_not_change_the_hole()
     {
         const golfer_store round;
         in_keyed_round([&](hand& user) {

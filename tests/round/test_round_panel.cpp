@@ -47,7 +47,7 @@ class test_round_panel : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void the_panel_classes_the_hole_on_screen_data()
+    void the_panel_shows_the_classes_of_the_hole_on_screen_data()
     {
         QTest::addColumn<QString>("par");
         QTest::addColumn<QString>("strokes");
@@ -127,7 +127,7 @@ private Q_SLOTS:
                                                              << "13=1 15=1 21= 33=1";
     }
 
-    void the_panel_classes_the_hole_on_screen()
+    void the_panel_shows_the_classes_of_the_hole_on_screen()
     {
         QFETCH(QString, par);
         QFETCH(QString, strokes);

@@ -77,7 +77,7 @@ private Q_SLOTS:
         QTEST(members(played(long_shots, approach, putts, penalties), par), "classes");
     }
 
-    void a_cell_that_is_no_member_is_one_blank()
+    void a_class_that_the_hole_does_not_belong_to_is_one_blank()
     {
         const hole_figures unplayed = played(0, 0, 0);
         for (int place = 1; place <= class_count; ++place)

@@ -134,7 +134,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { scan(lengths); }) == failure_kind::subscript);
     }
 
-    void six_lengths_read_on_until_a_length_of_0()
+    void after_six_lengths_reading_continues_until_a_length_of_0()
     {
         QList<int> places_read;
         const QList<int> lengths = lengths_from(18, {6, 5, 4, 3, 2, 1, 21});

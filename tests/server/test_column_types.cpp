@@ -233,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(found.join(u' '), accepted);
     }
 
-    void a_column_that_refuses_null_is_refused_unless_new_rows_have_its_default_data()
+    void a_column_without_null_is_refused_unless_a_new_row_has_a_default_there_data()
     {
         QTest::addColumn<QString>("ending");
         QTest::addColumn<QString>("accepted");
@@ -244,7 +244,7 @@ private Q_SLOTS:
             << u" not null"_s << (is_server ? QString() : with_default);
         QTest::newRow("with a default") << u" not null default 0"_s << with_default;
     }
-    void a_column_that_refuses_null_is_refused_unless_new_rows_have_its_default()
+    void a_column_without_null_is_refused_unless_a_new_row_has_a_default_there()
     {
         QFETCH(QString, ending);
         QFETCH(QString, accepted);

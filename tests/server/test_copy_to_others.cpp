@@ -108,7 +108,7 @@ private Q_SLOTS:
         check_copy(unsorted_diary(), changed_target(change));
     }
 
-    void the_copy_is_complete_whatever_the_connections_of_the_server_begin_with_data()
+    void the_copy_is_complete_with_other_settings_of_new_connections_data()
     {
         QTest::addColumn<QString>("setting");
         QTest::addColumn<QString>("value");
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QTest::newRow("a limit of rows") << u"sql_select_limit"_s << u"3"_s;
     }
 
-    void the_copy_is_complete_whatever_the_connections_of_the_server_begin_with()
+    void the_copy_is_complete_with_other_settings_of_new_connections()
     {
         QFETCH(QString, setting);
         QFETCH(QString, value);

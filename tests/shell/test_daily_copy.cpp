@@ -59,7 +59,7 @@ private Q_SLOTS:
                  run.store().text(u"select date from games"_s));
     }
 
-    void the_second_start_of_a_day_leaves_the_copy()
+    void the_second_start_of_a_day_does_not_change_the_copy()
     {
         program_run run(2);
         run.play_through([](hand& user) { quit(user); });

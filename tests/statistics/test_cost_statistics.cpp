@@ -235,7 +235,7 @@ private Q_SLOTS:
         QCOMPARE(costs.report(), (QList<QStringList>{row_of_day(3, u"1"_s)}));
     }
 
-    void closing_the_window_sets_the_statement_on_the_whole_table()
+    void closing_the_window_restores_the_statement_of_the_whole_table()
     {
         const stored_costs costs(2);
         in_selection_window(

@@ -62,14 +62,14 @@ private Q_SLOTS:
 
     void cleanupTestCase() { remove_store_place(other_); }
 
-    void the_pages_are_the_same_to_the_dot_data()
+    void the_pages_are_identical_pixel_by_pixel_data()
     {
         QTest::addColumn<bool>("french");
         QTest::newRow("French") << true;
         QTest::newRow("English") << false;
     }
 
-    void the_pages_are_the_same_to_the_dot()
+    void the_pages_are_identical_pixel_by_pixel()
     {
         QFETCH(bool, french);
         const auto of_file = drawn_reports(file_, rounds, french);

@@ -179,8 +179,8 @@ private Q_SLOTS:
         }
     }
 
-    void without_a_stored_round_a_message_is_shown_and_no_window_data() { both_languages(); }
-    void without_a_stored_round_a_message_is_shown_and_no_window()
+    void without_a_stored_round_a_message_is_shown_and_no_window_opens_data() { both_languages(); }
+    void without_a_stored_round_a_message_is_shown_and_no_window_opens()
     {
         QFETCH(bool, french);
         const store_folder store(french);

@@ -75,8 +75,8 @@ class test_weather_filter : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void round_statistics_leave_a_null_weather_out_of_every_filter_data() { weather_entries(); }
-    void round_statistics_leave_a_null_weather_out_of_every_filter()
+    void a_round_without_a_weather_matches_no_weather_in_round_statistics_data() { weather_entries(); }
+    void a_round_without_a_weather_matches_no_weather_in_round_statistics()
     {
         QFETCH(int, entry);
         QFETCH(int, rounds);
@@ -88,8 +88,8 @@ private Q_SLOTS:
         QCOMPARE(store.book.store.number(u"select count(*) from hand"_s), rounds);
     }
 
-    void putt_statistics_leave_a_null_weather_out_of_every_filter_data() { weather_entries(); }
-    void putt_statistics_leave_a_null_weather_out_of_every_filter()
+    void a_round_without_a_weather_matches_no_weather_in_putt_statistics_data() { weather_entries(); }
+    void a_round_without_a_weather_matches_no_weather_in_putt_statistics()
     {
         QFETCH(int, entry);
         QFETCH(int, rounds);
@@ -98,8 +98,8 @@ private Q_SLOTS:
         QCOMPARE(store.book.store.number(u"select sum(round_count) from s_put1"_s), rounds);
     }
 
-    void club_statistics_leave_a_null_weather_out_of_every_filter_data() { weather_entries(); }
-    void club_statistics_leave_a_null_weather_out_of_every_filter()
+    void a_round_without_a_weather_matches_no_weather_in_club_statistics_data() { weather_entries(); }
+    void a_round_without_a_weather_matches_no_weather_in_club_statistics()
     {
         QFETCH(int, entry);
         QFETCH(int, rounds);
@@ -109,8 +109,8 @@ private Q_SLOTS:
         QCOMPARE(store.book.store.number(u"select trim(shot_count) from stat_sticks limit 1"_s), rounds);
     }
 
-    void cost_statistics_leave_a_null_weather_out_of_every_filter_data() { weather_entries(); }
-    void cost_statistics_leave_a_null_weather_out_of_every_filter()
+    void a_round_without_a_weather_matches_no_weather_in_cost_statistics_data() { weather_entries(); }
+    void a_round_without_a_weather_matches_no_weather_in_cost_statistics()
     {
         QFETCH(int, entry);
         QFETCH(int, rounds);

@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(stored_names(store), u"A b c"_s);
     }
 
-    void cancel_of_a_new_row_whose_origin_was_deleted_leads_to_the_end()
+    void after_cancel_of_a_new_row_whose_previous_row_was_deleted_the_recordset_is_at_the_end()
     {
         store_fixture store;
         store.add_partners(three);

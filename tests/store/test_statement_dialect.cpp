@@ -52,7 +52,7 @@ private Q_SLOTS:
                      1);
     }
 
-    void names_of_tables_and_columns_have_no_case()
+    void the_case_of_names_of_tables_and_columns_is_ignored()
     {
         store_fixture store;
         add_shots(store);

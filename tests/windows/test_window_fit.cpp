@@ -216,11 +216,8 @@ private Q_SLOTS:
             });
     }
 
-    void every_window_lies_on_the_screen_with_all_its_controls_in_reach_data()
-    {
-        every_window_in_both_languages();
-    }
-    void every_window_lies_on_the_screen_with_all_its_controls_in_reach() { faults_.verify_nothing_found(); }
+    void every_window_fits_on_its_screen_with_all_its_controls_data() { every_window_in_both_languages(); }
+    void every_window_fits_on_its_screen_with_all_its_controls() { faults_.verify_nothing_found(); }
 
 private:
     window_findings faults_;

@@ -35,7 +35,7 @@ private:
 
     bool fits(double bottom) { return bottom - page().body.top <= available_height(); }
 
-    /// Whether what should stay with a band would be on the next page, although both fit on one page.
+    /// True if the band and those that have to stay with it fit on one page, but not on the rest of this one.
     bool would_separate(const page_band& band)
     {
         const double kept = band.head.height() + band.kept_bottom - band.place.top;

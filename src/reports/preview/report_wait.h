@@ -9,8 +9,8 @@ class QDialog;
 
 namespace verdane {
 
-/// Lets the user stop a report that takes long: after two seconds a window with a Stop button opens above the
-/// active window, and the program repaints. Other windows get no input meanwhile.
+/// The window in which the user can stop a long report. It has a Stop button, opens after two seconds above
+/// the active window, and the program repaints meanwhile. Other windows get no input until the report ends.
 class report_wait {
 public:
     /// `title` is the title of the window.

@@ -19,8 +19,9 @@ namespace {
 
 /// Steps of the engine between two calls of `may_continue`: less than a millisecond.
 constexpr int steps_between_checks = 20'000;
-/// Bytes of one value and of a row. A row of a report table with all its texts fits; the functions of the
-/// engine that search a text in another take time with the square of the length, and cannot be interrupted.
+/// Bytes of one value and of a row. A row of a report table with all its texts fits. The time of some
+/// functions of the engine, which search a text in another, grows with the square of the length, and they
+/// cannot be interrupted.
 constexpr int most_bytes = 200'000;
 /// What the queries of a report may use in addition, in bytes. Compiling a query whose steps name one another
 /// several times doubles the memory with every step, and cannot be interrupted.

@@ -24,9 +24,11 @@ QStringList session_settings(int lock_time_out_s)
         u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
             .arg(lock_time_out_s)
             .arg(idle_time_out_s),
-        // A commit begins no transaction, in which later changes would be lost, and a change needs no key.
+        // A commit begins no new transaction, in which later changes would be lost. A change is accepted
+        // if its condition has no key.
         u"set session completion_type = 'NO_CHAIN', session sql_safe_updates = 0"_s,
-        // A query returns all its rows, however many it reads, sorted by more than the beginnings of texts.
+        // A query returns all its rows, however many rows it reads. Texts are sorted by more than their first
+        // characters.
         u"set session sql_select_limit = 18446744073709551615, session sql_big_selects = 1, "
         u"session max_sort_length = 1024"_s,
         // All reads of a report use one snapshot.

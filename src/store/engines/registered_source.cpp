@@ -56,7 +56,7 @@ bool is_named_in_files(const QString&)
     return false;
 }
 #else
-/// True if a line of the file is the name of a source between brackets. Names have no case.
+/// True if a line of the file is the name of a source between brackets, in any case.
 bool names_source(const QString& path, const QString& name)
 {
     QFile file(path);

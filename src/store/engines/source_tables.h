@@ -28,7 +28,7 @@ using source_tables = QHash<QString, QList<source_column>>;
 enum class tables_found { none, some, all };
 
 /// Compares the tables of the store with those of a source; other tables are ignored. The names and types of
-/// columns after the last declared one are ignored, too. Names have no case. Fails with `source_column` if a
+/// columns after the last declared one are ignored, as is the case of names. Fails with `source_column` if a
 /// column is missing, has another name or is in another place, and with `source_type` if its type does not
 /// fit the values of the program, or if it refuses Null and a new row has no other value there, which applies
 /// to further columns, too; the details name the table, the place and the difference.

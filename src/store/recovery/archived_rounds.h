@@ -17,11 +17,11 @@ bool open_alone(Connection1& diary, const store_location& place);
 QStringList round_keys_before(const Connection1& store, QDate day);
 
 /// Moves some rounds to a file of their own, with the courses and partners that they name, the golf bag and
-/// the settings. The file is a new one, which has all of it or does not exist, also if the process is killed;
-/// or a run that ended early has written it. The rounds are removed from the diary, in one commit, after the
-/// file was read and every row compared.
+/// the settings. If the process is killed, the file has all of it or does not exist, and the next run uses a
+/// complete file. The rounds are removed from the diary, in one commit, after the file was read and every row
+/// compared.
 ///
-/// False if the file exists and differs from that; nothing is changed then. Fails like `work_folder` and
+/// False if the file exists with other content; nothing is changed then. Fails like `work_folder` and
 /// `write_closed_store`, with `store_locked` if another program has the file open, by whatever name, with
 /// `store_damaged` if there is a log with content without its file, and with `store_other` if other rows
 /// would be removed, too. No round is removed then.

@@ -8,8 +8,8 @@ namespace verdane {
 std::vector<diary_rule> rules_of_rounds();
 
 /// What follows `from` in a query for the rows of a table whose key is not that of a round. Keys are compared
-/// without blanks around them: a row whose key has one is not without its round, and is reported by a rule of
-/// its own.
+/// without blanks around them: a row whose key differs only by blanks belongs to the round, and another rule
+/// reports the blanks.
 QString without_round(const QString& table);
 
 }  // namespace verdane

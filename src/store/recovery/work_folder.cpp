@@ -56,7 +56,7 @@ void remove_work(const QString& folder, std::unique_ptr<QLockFile> lock)
     QDir().rmdir(folder);
 }
 
-/// Null if a program uses the folder, or if it is no folder of a program.
+/// Null if a program uses the folder, or if it is not a folder that `work_folder` has made.
 std::unique_ptr<QLockFile> lock_of_left_folder(const QString& folder)
 {
     if (!QFileInfo(lock_in(folder) + u".lock").isFile())

@@ -3,8 +3,8 @@
 #include "store/recordset_settings.h"
 #include "store/tables/declaration.h"
 
-/// `vrd_fields` and `field_info`: a course, which is one course played from one tee, and its holes. Both have
-/// one row for each course, with the same code.
+/// `vrd_fields` and `field_info`: the courses and their holes. Each tee of a golf course is a course of its
+/// own. Both tables have one row for each course, with the same code.
 namespace verdane::tables::vrd_fields {
 
 inline constexpr column_list columns{
