@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "store/engines/mariadb_errors.h"
-#include "store/engines/mariadb_rights.h"
 #include "store/engines/mariadb_session.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/sql_text.h"

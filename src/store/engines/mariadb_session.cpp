@@ -1,5 +1,7 @@
 #include "store/engines/mariadb_session.h"
 
+#include "store/schema.h"
+
 namespace verdane {
 
 using namespace Qt::StringLiterals;
@@ -9,6 +11,22 @@ namespace {
 /// How long the server keeps a connection on which nothing is sent, in seconds; its default is 8 hours. The
 /// longest time that a server on every system accepts, some 24 days.
 constexpr int idle_time_out_s = 2'147'483;
+
+/// The server checks the rights of a statement while it prepares it.
+QString preparation(const QString& statement)
+{
+    return u"prepare verdane_rights from '" + statement + u'\'';
+}
+
+QString update_of_all(const QString& tables)
+{
+    QStringList changes;
+    for (const table& each : schema()) {
+        const QString column = in_back_quotes(each.name) + u'.' + in_back_quotes(each.columns.front().name);
+        changes << column + u" = " + column;
+    }
+    return u"update " + tables + u" set " + changes.join(u", "_s);
+}
 
 }  // namespace
 
@@ -33,6 +51,21 @@ QStringList session_settings(int lock_time_out_s)
         u"session max_sort_length = 1024"_s,
         // All reads of a report use one snapshot.
         u"set session transaction isolation level repeatable read"_s};
+}
+
+QStringList statements_that_need_rights()
+{
+    QStringList names;
+    for (const table& each : schema())
+        names << in_back_quotes(each.name);
+    const QString tables = names.join(u", "_s);
+    QStringList statements{preparation(u"select 1 from " + tables), preparation(update_of_all(tables)),
+                           preparation(u"delete " + tables + u" from " + tables)};
+    // An insertion has one table.
+    for (const QString& name : names)
+        statements << preparation(u"insert into " + name + u" () values ()");
+    statements << u"deallocate prepare verdane_rights"_s;
+    return statements;
 }
 
 }  // namespace verdane

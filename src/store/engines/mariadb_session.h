@@ -9,4 +9,8 @@ namespace verdane {
 /// statement waits for the lock of a table, and then again for that of a row.
 QStringList session_settings(int lock_time_out_s);
 
+/// Statements that fail unless the account may select, insert, update and delete rows of every table of the
+/// store. The server prepares statements for them and never runs these, so nothing changes.
+QStringList statements_that_need_rights();
+
 }  // namespace verdane
