@@ -98,13 +98,6 @@ QSqlDatabase store_engine::database() const
     return QSqlDatabase::database(name_, false);
 }
 
-std::unique_ptr<result_rows> store_engine::select(const QString& statement, const QString& where) const
-{
-    return std::make_unique<query_rows>(
-        database(), as_sent(statement),
-        [this, where](const QSqlError& error) { return failure(error, where); });
-}
-
 void store_engine::run(const QString& statement) const
 {
     QSqlQuery query(database());

@@ -81,7 +81,7 @@ public:
                                 const QVariant& value) const;
 
     /// Runs a statement that selects rows. Fails like `change`; so do the functions of the result.
-    virtual std::unique_ptr<result_rows> select(const QString& statement, const QString& where) const;
+    virtual std::unique_ptr<result_rows> select(const QString& statement, const QString& where) const = 0;
 
     /// Runs a statement that changes or deletes rows, and returns the number of rows that matched. Fails with
     /// the kind that fits the engine's error; its details contain `where` and the statement.

@@ -34,12 +34,4 @@ bool query_rows::next()
     return false;
 }
 
-QVariant query_rows::value(int column) const
-{
-    QVariant value = query_.value(column);
-    if (value.isNull())
-        return {};
-    return value;
-}
-
 }  // namespace verdane

@@ -34,7 +34,7 @@ public:
     virtual QVariant value(int column) const = 0;
 };
 
-/// The same, read with the toolkit.
+/// The rows of a statement that the toolkit runs; a derived class reads their values.
 class query_rows : public result_rows {
 public:
     /// Runs the statement. Fails like `next`.
@@ -43,7 +43,6 @@ public:
     int column_count() const override;
     QString column_name(int column) const override;
     bool next() override;
-    QVariant value(int column) const override;
 
 protected:
     const QSqlQuery& query() const { return query_; }
