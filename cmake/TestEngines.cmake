@@ -51,9 +51,9 @@ set(VERDANE_FILE_TESTS
   test_start_refusals)      # permissions and content of the file
 
 # Which tests of `store` also have the label `engines`. Of verdane-store only the copy between engines: the checks
-# of a diary take a minute on each of them.
+# of a diary take a minute on each of them. Of the windows the one that names the argument of the open store.
 set(VERDANE_FOLDERS_ON_ALL_ENGINES store statistics guided_day)
-set(VERDANE_TESTS_ON_ALL_ENGINES test_copy_engines)
+set(VERDANE_TESTS_ON_ALL_ENGINES test_copy_engines test_first_steps)
 
 # Gives the labels to a test of the current folder.
 function(verdane_label_test name)

@@ -1,8 +1,10 @@
 #include "base/program.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTranslator>
 
 #include <csignal>
@@ -16,6 +18,19 @@ using namespace Qt::StringLiterals;
 QString program_version()
 {
     return QString::fromUtf8(VERDANE_VERSION);
+}
+
+QString command_of_store_program()
+{
+    const QString name = u"verdane-store"_s;
+    if (!QStandardPaths::findExecutable(name).isEmpty())
+        return name;
+    return in_shell_quotes(QDir(QCoreApplication::applicationDirPath()).filePath(name));
+}
+
+QString in_shell_quotes(QString text)
+{
+    return u'\'' + text.replace(u"'"_s, u"'\\''"_s) + u'\'';
 }
 
 void let_oversized_writes_fail()

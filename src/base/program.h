@@ -8,6 +8,12 @@ namespace verdane {
 /// The version of the program, "1.4", from the project's declaration in the main `CMakeLists.txt`.
 QString program_version();
 
+/// What the user types in a shell to run `verdane-store`: its name if the shell finds it (PATH), otherwise
+/// the quoted path of the program in the folder of the running one.
+QString command_of_store_program();
+/// The text in quotes, as one word of a shell.
+QString in_shell_quotes(QString text);
+
 /// Makes a write beyond the limit on file sizes (`ulimit -f`) fail like a write to a full disk. Without this
 /// call such a write ends the process. Called once, at the start; does nothing on systems without that limit.
 void let_oversized_writes_fail();

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/program.h"
 #include "controls/control_array.h"
 #include "controls/look.h"
 #include "shell/main_menu.h"
+#include "store/DataEnvironment1.h"
 
 namespace verdane {
 
@@ -41,21 +43,29 @@ QString path_in_menu(QStringView entry, bool french)
     return {};
 }
 
+/// The command that writes an invented season into the open store, which is empty.
+QString sample_command()
+{
+    const bool is_file = data_environment().connection.location().where == store_location::place::file;
+    return command_of_store_program() + (is_file ? u" sample file"_s : u" sample source"_s);
+}
+
 QString first_steps_text(bool french)
 {
     const text_pair text{u"Il n'y a encore aucun terrain.\n\n"
                          u"1.  Entrez votre terrain : menu %1.\n"
                          u"2.  Entrez votre première ronde : menu %2.\n\n"
                          u"Pour essayer Verdane avec une saison inventée, fermez-le et tapez dans un "
-                         u"terminal :\nverdane-store sample file\n\n"
+                         u"terminal :\n%3\n\n"
                          u"La touche F1 ouvre le guide.",
                          u"There is no golf course yet.\n\n"
                          u"1.  Enter your golf course: menu %1.\n"
                          u"2.  Enter your first round: menu %2.\n\n"
                          u"To try Verdane with an invented season, close it and type in a terminal:\n"
-                         u"verdane-store sample file\n\n"
+                         u"%3\n\n"
                          u"The key F1 opens the guide."};
-    return text.in(french).arg(path_in_menu(u"mManagF", french), path_in_menu(u"mOpen", french));
+    return text.in(french).arg(path_in_menu(u"mManagF", french), path_in_menu(u"mOpen", french),
+                               sample_command());
 }
 
 /// The width at which no line of the label is broken.
@@ -80,6 +90,9 @@ void pane_notes::show_first_steps(bool wanted)
         first_steps_ = make_note(u"first_steps", pane_);
         first_steps_->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
         first_steps_->setMargin(3 * rhythm);
+        // The command in it may be a long path: it can be copied.
+        first_steps_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        first_steps_->setFocusPolicy(Qt::NoFocus);
     } else {
         delete std::exchange(first_steps_, nullptr);
     }

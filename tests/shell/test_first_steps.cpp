@@ -1,7 +1,10 @@
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include "base/program.h"
 #include "shell/MainForm.h"
 #include "shell/start_up.h"
 #include "tests/shell/main_windows.h"
@@ -28,6 +31,12 @@ void wait_for_first_steps(hand& user)
     user.wait_until(u"what to do first"_s, [] { return are_visible(); });
 }
 
+/// The argument of `verdane-store` for the store of the run.
+QString argument_of_run()
+{
+    return program_run::store_place().where == store_location::place::source ? u"source"_s : u"file"_s;
+}
+
 }  // namespace
 
 /// The text in the main window while no course is stored.
@@ -51,12 +60,42 @@ private Q_SLOTS:
                     QVERIFY(text.contains(french ? u"Rondes, Nouvelle ronde"_s : u"Rounds, New Round"_s));
                     QVERIFY(text.contains(french ? u"une saison inventée, fermez-le"_s
                                                  : u"an invented season, close it"_s));
-                    QVERIFY(text.contains(u":\nverdane-store sample file\n"_s));
+                    QVERIFY(text.contains(u":\n" + command_of_store_program() + u" sample " +
+                                          argument_of_run() + u'\n'));
                 });
             };
             shows(language == 1);
             user.menu(language == 1 ? u"mEn"_s : u"mfr"_s);
             shows(language != 1);
+        });
+    }
+
+    void the_text_names_the_command_as_a_shell_finds_it_data()
+    {
+        QTest::addColumn<bool>("is_in_path");
+        QTest::newRow("in the path") << true;
+        QTest::newRow("next to the program") << false;
+    }
+    void the_text_names_the_command_as_a_shell_finds_it()
+    {
+        QFETCH(bool, is_in_path);
+        const QTemporaryDir folder;
+        if (is_in_path) {
+            QFile program(folder.filePath(u"verdane-store"_s));
+            QVERIFY(program.open(QFile::WriteOnly));
+            QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        }
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", QFile::encodeName(folder.path()));
+        const auto restore_path = qScopeGuard([&] { qputenv("PATH", path); });
+        const QString next_to_program = u"'" + QCoreApplication::applicationDirPath() + u"/verdane-store'";
+        const QString command = is_in_path ? u"verdane-store"_s : next_to_program;
+        in_main_window(2, {}, [&](hand& user) {
+            wait_for_first_steps(user);
+            user.look([&] {
+                const QString line = first_steps()->text().section(u"terminal:\n"_s, 1).section(u'\n', 0, 0);
+                QCOMPARE(line, command + u" sample " + argument_of_run());
+            });
         });
     }
 
