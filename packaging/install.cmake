@@ -25,10 +25,12 @@ install(CODE [[
   file(MAKE_DIRECTORY "${prefix}/bin")
   foreach(command verdane verdane-store)
     file(CREATE_LINK ../lib/verdane/${command} "${prefix}/bin/${command}" SYMBOLIC)
+    list(APPEND CMAKE_INSTALL_MANIFEST_FILES "${CMAKE_INSTALL_PREFIX}/bin/${command}")
   endforeach()
   # The guide of an earlier installation is a folder, which a link cannot replace.
   file(REMOVE_RECURSE "${prefix}/lib/verdane/guide")
-  file(CREATE_LINK ../../share/verdane/guide "${prefix}/lib/verdane/guide" SYMBOLIC)]])
+  file(CREATE_LINK ../../share/verdane/guide "${prefix}/lib/verdane/guide" SYMBOLIC)
+  list(APPEND CMAKE_INSTALL_MANIFEST_FILES "${CMAKE_INSTALL_PREFIX}/lib/verdane/guide")]])
 
 install(DIRECTORY templates/ DESTINATION ${verdane_home} FILES_MATCHING
   PATTERN "*.rpt" PATTERN "*.layout")
