@@ -44,6 +44,39 @@ private Q_SLOTS:
             left << courses->Fields(u"code").text();
         QCOMPARE(left, (QStringList{u"ABC"_s, u"abc "_s, u"ete"_s, u"ÉTÉ"_s}));
     }
+
+    void tables_that_statements_join_need_keys_of_one_collation_data()
+    {
+        QTest::addColumn<QStringList>("tables");
+        QTest::addColumn<QString>("details");
+        const QString first_of = u"%1.date: COLLATE utf8mb4_bin ≠ utf8mb4_nopad_bin (games2.date)"_s;
+        QTest::newRow("shots") << QStringList{u"stat_rounds"_s} << first_of.arg(u"stat_rounds");
+        QTest::newRow("costs") << QStringList{u"cost"_s} << first_of.arg(u"cost");
+        QTest::newRow("rounds") << QStringList{u"games2"_s}
+                                << u"cost.date: COLLATE utf8mb4_nopad_bin ≠ utf8mb4_bin (games2.date)"_s;
+        QTest::newRow("all that are joined")
+            << QStringList{u"games2"_s, u"cost"_s, u"stat_rounds"_s} << QString();
+    }
+    void tables_that_statements_join_need_keys_of_one_collation()
+    {
+        QFETCH(QStringList, tables);
+        foreign_source other;
+        other.open();
+        for (const QString& table : tables)
+            other.change(u"alter table %1."_s + table +
+                         u" modify column date varchar(14) character set utf8mb4 collate utf8mb4_bin");
+        QString details;
+        try {
+            other.reopen();
+            const QString shots = u"select count(*) from stat_rounds, games2 where stat_rounds.date = "
+                                  "games2.date"_s;
+            QCOMPARE(opened(other, shots)->Fields(0).to_double(), 0.0);
+        } catch (const run_time_failure& failure) {
+            QCOMPARE(failure.kind(), failure_kind::source_type);
+            details = failure.details();
+        }
+        QTEST(details, "details");
+    }
 };
 
 QTEST_GUILESS_MAIN(test_foreign_collations)

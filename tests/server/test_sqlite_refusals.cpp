@@ -50,6 +50,14 @@ private Q_SLOTS:
         QTest::newRow("moved column") << QStringList{u"alter table partners drop column NAME"_s,
                                                      u"alter table partners add column NAME text"_s}
                                       << failure_kind::source_column << u"NAME"_s;
+        const QString columns = u"create table partners (NAME text, SURNAME text, AD1 text, AD2 text, "
+                                "TEL text, MAIL text, code integer"_s;
+        QTest::newRow("column that is the number of the row")
+            << QStringList{u"drop table partners"_s, columns + u" primary key)"} << failure_kind::source_type
+            << u"code"_s;
+        QTest::newRow("table without numbers of rows")
+            << QStringList{u"drop table partners"_s, columns + u", primary key (NAME)) without rowid"}
+            << failure_kind::source_type << u"WITHOUT ROWID"_s;
     }
 
     void tables_that_do_not_fit_are_reported_in_both_languages()

@@ -3,10 +3,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
+
 #include "store/Connection1.h"
 #include "store/engines/odbc_link.h"
 #include "store/engines/registered_source.h"
 #include "store/engines/sqlite_odbc_engine.h"
+#include "store/Recordset.h"
 #include "tests/support/failures.h"
 #include "tests/support/reader.h"
 
@@ -71,6 +74,26 @@ public:
     Connection1 connection;
 };
 
+/// Creates an empty table again, with a part of its declaration replaced.
+void change_declaration(const reader& file, const QString& table, const QString& from, const QString& to)
+{
+    QString creation = file.text(u"select sql from sqlite_master where name = '%1'"_s.arg(table));
+    if (creation.count(from) != 1)
+        qFatal("not once: %s in %s", qUtf8Printable(from), qUtf8Printable(creation));
+    file.write(QStringList{u"drop table "_s + table, creation.replace(from, to)});
+}
+
+/// The details of the failure of an action; empty if it does not fail with that kind.
+QString details_of(failure_kind kind, const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const run_time_failure& failure) {
+        return failure.kind() == kind ? failure.details() : QString();
+    }
+    return {};
+}
+
 /// The other process: reads the file and closes it again.
 int number_of_partners(const QString& path)
 {
@@ -80,6 +103,14 @@ int number_of_partners(const QString& path)
 }  // namespace
 
 namespace {
+
+recordset_settings all_rows_of(const QString& table)
+{
+    recordset_settings settings;
+    settings.name = u"rstest"_s;
+    settings.source = u"select * from "_s + table;
+    return settings;
+}
 
 /// Registers the driver of SQLite under another name, in the folder of the installed drivers.
 void register_alias(const QString& alias)
@@ -228,6 +259,103 @@ private Q_SLOTS:
         source.file().write(changes);
         QVERIFY(failure_of([&] { source.open(); }) == kind);
         QVERIFY(!source.connection.is_open());
+    }
+
+    void a_declaration_with_which_values_or_rows_would_change_is_refused_by_name_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("to");
+        QTest::addColumn<QString>("details");
+        const QString code = u"`code` INTEGER"_s;
+        QTest::newRow("number of the row") << u"partners"_s << code << code + u" primary key"
+                                           << u"partners, 7: code: INTEGER PRIMARY KEY ≠ INTEGER"_s;
+        QTest::newRow("table without numbers of rows")
+            << u"partners"_s << code + u')' << u"`code` INTEGER, primary key (NAME)) without rowid"_s
+            << u"partners: WITHOUT ROWID"_s;
+        QTest::newRow("another column with the name of the number")
+            << u"partners"_s << code << code + u", rowid int" << u"partners: rowid INT"_s;
+        QTest::newRow("computed column of the program")
+            << u"partners"_s << code << u"`code` INTEGER generated always as (7)"_s
+            << u"partners, 7: code: INTEGER GENERATED ≠ INTEGER"_s;
+        QTest::newRow("computed column before those of the program")
+            << u"partners"_s << u"(`NAME`"_s << u"(long_name text as (upper(name)), `NAME`"_s
+            << u"partners, 1: long_name ≠ NAME"_s;
+    }
+    void a_declaration_with_which_values_or_rows_would_change_is_refused_by_name()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        sqlite_source source;
+        source.open();
+        source.connection.Close();
+        change_declaration(source.file(), table, from, to);
+        const failure_kind kind =
+            to.contains(u"long_name") ? failure_kind::source_column : failure_kind::source_type;
+        QTEST(details_of(kind, [&] { source.open(); }), "details");
+        QVERIFY(!source.connection.is_open());
+    }
+
+    void a_further_column_that_is_the_number_of_the_row_or_computed_changes_no_row_data()
+    {
+        QTest::addColumn<QString>("further");
+        QTest::newRow("number of the row") << u"id integer primary key"_s;
+        QTest::newRow("number of the row with its name") << u"rowid integer primary key"_s;
+        QTest::newRow("computed when it is read") << u"upper_name text not null as (upper(name))"_s;
+        QTest::newRow("computed and stored") << u"upper_name text as (upper(name)) stored"_s;
+    }
+    void a_further_column_that_is_the_number_of_the_row_or_computed_changes_no_row()
+    {
+        QFETCH(QString, further);
+        sqlite_source source;
+        source.open();
+        source.connection.Close();
+        change_declaration(source.file(), u"partners"_s, u"`code` INTEGER"_s, u"`code` INTEGER, " + further);
+        source.open();
+        Recordset partners(source.connection, all_rows_of(u"partners"_s));
+        partners.Open();
+        for (const int code : {3, 1, 2}) {
+            partners.AddNew();
+            partners.Fields(u"NAME").set(u"a"_s);
+            partners.Fields(u"code").set(code);
+            partners.Update();
+        }
+        partners.MoveFirst();
+        partners.Fields(u"code").set(9);
+        partners.Update();
+        partners.Fields(u"TEL").set(u"1"_s);
+        partners.Update();
+        QCOMPARE(source.file().text(u"select group_concat(code || ifnull(TEL, '-'), ' ') from partners"_s),
+                 u"91 1- 2-"_s);
+    }
+
+    void a_new_row_has_the_defaults_of_the_program_whatever_those_of_the_table_are_data()
+    {
+        QTest::addColumn<QString>("ending");
+        QTest::newRow("none") << QString();
+        QTest::newRow("Null") << u" default null"_s;
+        QTest::newRow("another one") << u" default 7"_s;
+        QTest::newRow("the same") << u" default 0"_s;
+    }
+    void a_new_row_has_the_defaults_of_the_program_whatever_those_of_the_table_are()
+    {
+        QFETCH(QString, ending);
+        sqlite_source source;
+        source.open();
+        source.connection.Close();
+        const QString column = u"`pen_water_1` SMALLINT"_s;
+        change_declaration(source.file(), u"games"_s, column + u" DEFAULT 0", column + ending);
+        source.open();
+        Recordset rounds(source.connection, all_rows_of(u"games"_s));
+        rounds.Open();
+        rounds.AddNew();
+        rounds.Fields(u"date").set(u"20260614093000"_s);
+        rounds.Update();
+        QCOMPARE(source.file().number(u"select count(*) from games where pen_water_1 = 0"_s), 1);
+        rounds.Fields(u"date").set(u"20260615093000"_s);
+        rounds.Update();
+        QCOMPARE(source.file().number(u"select count(*) from games where date = '20260615093000'"_s), 1);
     }
 
     void tables_of_other_applications_are_ignored_and_kept()

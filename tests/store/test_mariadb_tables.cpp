@@ -17,7 +17,7 @@ mariadb_tables described(const QString& rows, const QString& engine = u"InnoDB"_
                          const QString& transactions = u"YES"_s, const QString& collation = QString())
 {
     QSqlQuery query(QSqlDatabase::database());
-    if (!query.exec(u"select *, 'int', 0, '%1', '%2', 'int(11)', '%3', null, 'YES' from (values "_s.arg(
+    if (!query.exec(u"select *, 'int', 0, '%1', '%2', 'int(11)', '%3', null, 'YES', null from (values "_s.arg(
                         engine, transactions, collation) +
                     rows + u')'))
         qFatal("wrong rows: %s", qUtf8Printable(rows));

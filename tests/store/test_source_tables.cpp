@@ -86,6 +86,35 @@ private Q_SLOTS:
         }
     }
 
+    void a_column_that_is_computed_or_too_short_for_a_key_is_refused_with_both_types_data()
+    {
+        QTest::addColumn<bool>("computed");
+        QTest::addColumn<int>("characters");
+        QTest::addColumn<QString>("details");
+        QTest::newRow("computed") << true << 0 << u"games, 1: date: varchar GENERATED ≠ VARCHAR(14)"_s;
+        QTest::newRow("too short") << false << 13 << u"games, 1: date: varchar ≠ VARCHAR(14)"_s;
+        QTest::newRow("long enough") << false << 14 << QString();
+        QTest::newRow("of any length") << false << 0 << QString();
+    }
+    void a_column_that_is_computed_or_too_short_for_a_key_is_refused_with_both_types()
+    {
+        QFETCH(bool, computed);
+        QFETCH(int, characters);
+        source_tables tables = complete_tables();
+        source_column& key = tables[u"games"_s][0];
+        key.type = u"varchar"_s;
+        key.computed = computed;
+        key.characters = characters;
+        QString details;
+        try {
+            check_tables(tables);
+        } catch (const run_time_failure& failure) {
+            QCOMPARE(failure.kind(), failure_kind::source_type);
+            details = failure.details();
+        }
+        QTEST(details, "details");
+    }
+
     void a_column_that_refuses_the_value_of_a_new_row_is_refused_with_both_types_data()
     {
         QTest::addColumn<QString>("table");
@@ -111,7 +140,7 @@ private Q_SLOTS:
             columns << source_column{u"further"_s};
         columns[place].type = u"int"_s;
         columns[place].not_null = true;
-        columns[place].has_default = has_default;
+        columns[place].default_value = has_default ? u"7"_s : QString();
         QString details;
         try {
             check_tables(tables);

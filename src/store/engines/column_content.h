@@ -13,7 +13,7 @@ enum class column_content {
     whole_numbers,  ///< of 32 bits
     numbers,        ///< with decimals
     anything,
-    other  ///< dates, for example
+    other  ///< dates and the numbers of rows, for example
 };
 
 /// Of a type of MariaDB, without its length (`varchar`, `decimal`). `rounds` is true if the type has a fixed

@@ -61,8 +61,10 @@ bool mariadb_engine::check_source()
     const tables_found which = check_tables(tables_.columns());
     tables_.check_transactions();
     check_missing_tables();
-    if (which == tables_found::all)
+    if (which == tables_found::all) {
+        tables_.check_joined_keys();
         check_writable();
+    }
     // Each statement that creates a table is committed by itself, so an earlier start may have been ended in
     // between.
     if (which == tables_found::some && (!are_first_tables(tables_.columns()) || holds_rows()))
@@ -151,6 +153,7 @@ void mariadb_engine::tables_created()
     read_tables();
     if (check_tables(tables_.columns()) != tables_found::all)
         refuse_incomplete();
+    tables_.check_joined_keys();
     check_writable();
 }
 

@@ -33,10 +33,10 @@ QString mariadb_tables::ending(const table& declared)
 
 QString mariadb_tables::question()
 {
-    // A view has no storage engine.
+    // A view has no storage engine and no rows of its own.
     return u"select c.table_name, c.column_name, c.column_key, c.extra, c.data_type, c.numeric_scale, "
-           u"t.engine, e.transactions, c.column_type, c.collation_name, c.column_default, "
-           u"c.is_nullable from "
+           u"coalesce(t.engine, t.table_type), coalesce(e.transactions, 'NO'), c.column_type, "
+           u"c.collation_name, c.column_default, c.is_nullable, c.character_maximum_length from "
            u"information_schema.columns c "
            u"join information_schema.tables t using (table_schema, table_name) "
            u"left join information_schema.engines e on e.engine = t.engine "
@@ -45,24 +45,8 @@ QString mariadb_tables::question()
 
 namespace {
 
-/// True if the server has the declared default of a column, or if the program does not have that column. The
-/// server describes a column whose default is Null by the word or by no value.
-bool is_declared_default(const QString& table, const QString& name, const QVariant& found)
-{
-    const struct table* declared = find_table(table);
-    if (declared == nullptr)
-        return true;
-    const auto& all = declared->columns;
-    const auto same = std::find_if(all.begin(), all.end(), [&name](const column& each) {
-        return each.name.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    if (same == all.end())
-        return true;
-    const QString text = found.toString();
-    if (same->default_value.isNull())
-        return text.isEmpty() || text == u"NULL";
-    return text == QString::number(same->default_value.toInt());
-}
+/// The key of a round, in every table that has one.
+const QString key_column = u"date"_s;
 
 bool is_numbered(const QString& extra)
 {
@@ -76,18 +60,16 @@ bool refuses_null(const QSqlQuery& row)
            !is_numbered(row.value(3).toString());
 }
 
-/// From such a row. The server sets the default, or computes the value.
-bool has_default(const QSqlQuery& row)
-{
-    return !row.value(10).toString().isEmpty() ||
-           row.value(3).toString().contains(u"GENERATED", Qt::CaseInsensitive);
-}
-
 source_column column_of(const QSqlQuery& row)
 {
     const bool rounds = row.value(5).toInt() > 0;
-    return {row.value(1).toString(), row.value(8).toString(),
-            content_in_mariadb(row.value(4).toString(), rounds), refuses_null(row), has_default(row)};
+    return {row.value(1).toString(),
+            row.value(8).toString(),
+            content_in_mariadb(row.value(4).toString(), rounds),
+            refuses_null(row),
+            row.value(10).toString(),
+            row.value(3).toString().contains(u"GENERATED", Qt::CaseInsensitive),
+            row.value(12).toLongLong()};
 }
 
 }  // namespace
@@ -101,15 +83,16 @@ mariadb_tables::mariadb_tables(QSqlQuery& columns)
         // `select *` returns a column that identifies rows unless it is invisible.
         if (!extra.contains(u"INVISIBLE", Qt::CaseInsensitive))
             columns_[table] << column_of(columns);
-        if (!is_declared_default(table, column, columns.value(10)) && !other_defaults_.contains(table))
-            other_defaults_ << table;
         keys_[table].add(column, columns.value(2).toString(), extra);
         if (columns.value(7).toString() == u"NO")
             engines_without_transactions_[table] = columns.value(6).toString();
         const QString of_column = columns.value(9).toString();
         other_collations_ = other_collations_ || (find_table(table) != nullptr && !of_column.isEmpty() &&
                                                   of_column != collation());
+        if (column.compare(key_column, Qt::CaseInsensitive) == 0)
+            key_collations_[table] = of_column;
     }
+    other_defaults_ = tables_with_other_defaults(columns_);
 }
 
 void mariadb_tables::keys::add(const QString& column, const QString& key, const QString& extra)
@@ -178,6 +161,19 @@ void mariadb_tables::check_transactions() const
     }
     if (!tables.isEmpty())
         throw run_time_failure(failure_kind::source_storage, tables.join(u", "_s));
+}
+
+void mariadb_tables::check_joined_keys() const
+{
+    const QString rounds = u"games2"_s;
+    const QString expected = key_collations_.value(rounds);
+    for (const QString& joined : {u"cost"_s, u"stat_rounds"_s}) {
+        const QString found = key_collations_.value(joined);
+        if (found != expected)
+            throw run_time_failure(
+                failure_kind::source_type,
+                u"%1.%2: COLLATE %3 ≠ %4 (%5.%2)"_s.arg(joined, key_column, found, expected, rounds));
+    }
 }
 
 QString mariadb_tables::row_column_script() const

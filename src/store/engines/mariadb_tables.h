@@ -48,8 +48,12 @@ public:
     bool has_other_collations() const { return other_collations_; }
 
     /// Fails with `source_storage` if a table of the store has a storage engine without transactions, which
-    /// could not undo the first part of a commit that fails; the details name the tables.
+    /// could not undo the first part of a commit that fails, or is a view; the details name the tables.
     void check_transactions() const;
+
+    /// Fails with `source_type` if the keys of rounds have different collations in tables that statements
+    /// join: the server refuses to compare some of them. The details name the tables and the collations.
+    void check_joined_keys() const;
 
     /// Statements that add the column to the tables of the store that lack it, instead of another column of
     /// that name; empty if none does. A table in which the server numbers another column, or whose
@@ -74,11 +78,13 @@ private:
 
     source_tables columns_;
     bool other_collations_ = false;
+    /// The collation of the key of a round, by the name of the table in small letters.
+    QHash<QString, QString> key_collations_;
     /// The tables with another default, in small letters.
     QStringList other_defaults_;
     /// By the name of the table in small letters.
     QHash<QString, keys> keys_;
-    /// The storage engines of tables that have no transactions.
+    /// The storage engines of tables that have no transactions, or the word for a view.
     QHash<QString, QString> engines_without_transactions_;
 };
 

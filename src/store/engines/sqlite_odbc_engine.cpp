@@ -11,7 +11,6 @@
 
 #include "store/engines/odbc_link.h"
 #include "store/engines/registered_source.h"
-#include "store/engines/source_tables.h"
 #include "store/engines/sql_text.h"
 #include "store/engines/sqlite.h"
 #include "store/store_files.h"
@@ -32,12 +31,6 @@ constexpr int lock_time_out_s = 10;
 /// The documented result code of the engine.
 constexpr int input_output_error = 10;
 
-constexpr QStringView columns_of_tables =
-    u"select m.name, p.name, p.type, p.\"notnull\" and p.pk = 0, p.dflt_value is not null "
-    u"from sqlite_master m join "
-    u"pragma_table_info(m.name) p where m.type = 'table' "
-    u"order by m.name, p.cid";
-
 /// The oldest library that returns the identity of an inserted row with the insertion. A driver contains a
 /// library of its own on some systems.
 const QVersionNumber oldest_with_returning(3, 35);
@@ -45,13 +38,6 @@ const QVersionNumber oldest_with_returning(3, 35);
 /// The driver returns rows only of a statement that begins with one of the words of a query. This table,
 /// which the insertion does not use, makes it begin with such a word.
 constexpr QStringView beginning_of_query = u"WITH unused AS (SELECT 1) ";
-
-source_column column_of(const QSqlQuery& row)
-{
-    const QString type = row.value(2).toString();
-    return {row.value(1).toString(), type, content_in_sqlite(type), row.value(3).toBool(),
-            row.value(4).toBool()};
-}
 
 }  // namespace
 
@@ -115,22 +101,21 @@ QString sqlite_odbc_engine::path_of_file() const
     return path;
 }
 
-bool sqlite_odbc_engine::check_content() const
+bool sqlite_odbc_engine::check_content()
 {
     QSqlQuery query(database());
     query.setForwardOnly(true);
-    const QString question = columns_of_tables.toString();
+    const QString question = sqlite_tables::question();
     if (!query.exec(question))
         throw failure(query.lastError(), question);
-    source_tables found;
-    while (query.next())
-        found[query.value(0).toString().toLower()] << column_of(query);
+    tables_ = sqlite_tables(query);
     if (query.lastError().isValid())
         throw failure(query.lastError(), question);
-    const tables_found which = check_tables(found);
+    const tables_found which = check_tables(tables_.columns());
+    tables_.check_row_numbers();
     if (which == tables_found::some)
         throw run_time_failure(failure_kind::source_table,
-                               u"%1: %2"_s.arg(where_.name, missing_tables(found).join(u", "_s)));
+                               u"%1: %2"_s.arg(where_.name, missing_tables(tables_.columns()).join(u", "_s)));
     return which == tables_found::all;
 }
 
@@ -166,6 +151,11 @@ void sqlite_odbc_engine::need_soundness()
 QString sqlite_odbc_engine::identity_column(QStringView) const
 {
     return u"rowid"_s;
+}
+
+bool sqlite_odbc_engine::has_declared_defaults(QStringView table) const
+{
+    return tables_.has_declared_defaults(table);
 }
 
 qint64 sqlite_odbc_engine::insert(const statement_with_values& statement, const QString& where)

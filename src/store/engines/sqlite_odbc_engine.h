@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/engines/odbc_engine.h"
+#include "store/engines/sqlite_tables.h"
 
 class QLockFile;
 
@@ -29,6 +30,7 @@ public:
     void need_soundness() override;
 
     QString identity_column(QStringView table) const override;
+    bool has_declared_defaults(QStringView table) const override;
     qint64 insert(const statement_with_values& statement, const QString& where) override;
     const commit_statements& commits() const override;
     run_time_failure failure(const QSqlError& error, const QString& where) const override;
@@ -42,10 +44,11 @@ private:
     /// Checks the file while the driver does not have it open: on some systems a process that closes a file
     /// loses all its locks of it. Another program would then remove the log that this one writes.
     void check_closed_file();
-    bool check_content() const;
+    bool check_content();
     qint64 last_identity() const;
 
     const bool returns_new_rows_;
+    sqlite_tables tables_;
     std::unique_ptr<QLockFile> lock_;
     QString path_;
     bool created_ = false;
