@@ -172,10 +172,11 @@ constexpr std::array texts{
     failure_text{
         failure_kind::source_value,
         {u"Une valeur n'entre pas dans sa colonne de la source de données : un texte y est trop long ou "
-         u"un nombre trop grand. Elle n'a pas été enregistrée ; ce qui était enregistré avant est "
-         u"intact.",
-         u"A value does not fit into its column of the data source: a text is too long or a number too "
-         u"large for it. It was not saved; what was saved before is intact."}},
+         u"a un caractère que le jeu de caractères de la colonne ne contient pas, ou un nombre y est trop "
+         u"grand. Elle n'a pas été enregistrée ; ce qui était enregistré avant est intact.",
+         u"A value does not fit into its column of the data source: a text is too long or has a character "
+         u"that the character set of the column lacks, or a number is too large. It was not saved; what "
+         u"was saved before is intact."}},
     failure_text{
         failure_kind::source_part,
         {u"Il manque une table ou une colonne dans la source de données ; le reste est intact. "

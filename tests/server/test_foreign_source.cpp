@@ -7,7 +7,9 @@
 #include "store/schema.h"
 #include "tests/server/foreign_source.h"
 #include "tests/server/own_server.h"
+#include "tests/support/engine_of_tests.h"
 #include "tests/support/failures.h"
+#include "tests/support/outside_connection.h"
 #include "tests/support/recordset_columns.h"
 
 using namespace verdane;
@@ -131,6 +133,40 @@ private Q_SLOTS:
         administer(u"grant all on `verdbase%`.* to golfer@localhost"_s);
         QVERIFY(failed == failure_kind::source_read_only);
         QCOMPARE(edited.outside().number(u"select count(*) from sticknames where club_1 = 'Driver'"_s), 1);
+    }
+
+    void a_failure_is_described_in_the_language_in_which_errors_are_recognised()
+    {
+        foreign_source other;
+        administer(u"set global lc_messages = 'fr_FR'"_s);
+        const auto restored = qScopeGuard([] { administer(u"set global lc_messages = 'en_US'"_s); });
+        other.open();
+        try {
+            other.connection.Execute(u"delete from nowhere"_s);
+            QFAIL("the table was found");
+        } catch (const run_time_failure& failure) {
+            QVERIFY2(failure.details().contains(u"doesn't exist"), qPrintable(failure.details()));
+        }
+    }
+
+    void a_start_releases_its_first_lock_before_it_takes_the_next_one()
+    {
+        foreign_source other;
+        other.open();
+        other.connection.Close();
+        administer(u"set global log_output = 'TABLE', global general_log = on"_s);
+        const auto stopped = qScopeGuard([] { administer(u"set global general_log = off"_s); });
+        administer(u"truncate table mysql.general_log"_s);
+        other.open();
+        const outside_connection server(store_location::source(administrator_source()));
+        QSqlQuery query =
+            server.run_unchanged(u"select regexp_substr(argument, '(get|release)_lock') from "
+                                 "mysql.general_log where command_type in ('Query', 'Execute') and "
+                                 "argument regexp '^(select get|do release)_lock' order by event_time"_s);
+        QStringList locks;
+        for (const auto& row : all_rows(query))
+            locks << row[0].toString();
+        QCOMPARE(locks, (QStringList{u"get_lock"_s, u"release_lock"_s, u"get_lock"_s}));
     }
 
     void a_setting_of_the_server_loses_no_save_data()
@@ -267,6 +303,21 @@ private Q_SLOTS:
         partners.CancelUpdate();
         add_partner(partners, u"b"_s, 2);
         QCOMPARE(stored_partners(narrow), u"a:1:null b:2:null"_s);
+    }
+
+    void a_character_that_a_column_cannot_store_is_refused_and_nothing_is_lost()
+    {
+        foreign_source other;
+        other.open();
+        other.change(u"alter table %1.partners modify NAME text character set latin1"_s);
+        other.reopen();
+        Recordset partners(other.connection, partners_settings());
+        partners.Open();
+        add_partner(partners, u"a"_s, 1);
+        QVERIFY(failure_of([&] { add_partner(partners, u"Zoë \U0001F3CC"_s, 2); }) ==
+                failure_kind::source_value);
+        partners.CancelUpdate();
+        QCOMPARE(stored_partners(other), u"a:1:null"_s);
     }
 
     void the_script_adds_the_identity_column_to_the_tables_that_lack_it()

@@ -21,6 +21,9 @@ namespace {
 /// killed program a moment later.
 constexpr int program_lock_time_out_s = 1;
 
+/// The name of the lock of one program, as an expression.
+constexpr QStringView name_of_lock = u"concat('verdane ', md5(lower(database())))";
+
 /// The longest statement, in characters, that inserts a row and returns its identity. The driver runs one of
 /// more than 32 KB without reading what it returns, and the connection cannot be used any more.
 constexpr qsizetype longest_returning = 32'000;
@@ -46,6 +49,8 @@ bool mariadb_engine::open(soundness_check)
 
 void mariadb_engine::open_for_work()
 {
+    // The server ends a closed connection a moment later, with its lock.
+    run(u"do release_lock(" + name_of_lock + u')');
     close();
     open_link(name_, where_.name, source_time_out_s);
     set_session(source_lock_time_out_s);
@@ -108,8 +113,7 @@ void mariadb_engine::check_server() const
 
 void mariadb_engine::take_lock() const
 {
-    const QString question =
-        u"select get_lock(concat('verdane ', md5(lower(database()))), %1)"_s.arg(program_lock_time_out_s);
+    const QString question = u"select get_lock(%1, %2)"_s.arg(name_of_lock).arg(program_lock_time_out_s);
     if (first_value(question) != u"1")
         throw run_time_failure(failure_kind::store_locked, where_.name);
 }

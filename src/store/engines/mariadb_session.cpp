@@ -42,6 +42,8 @@ QStringList session_settings(int lock_time_out_s)
         u"session innodb_lock_wait_timeout = %1, session lock_wait_timeout = %1, session wait_timeout = %2"_s
             .arg(lock_time_out_s)
             .arg(idle_time_out_s),
+        // The text of some errors names the reason by its number, after an English word.
+        u"set session lc_messages = 'en_US'"_s,
         // A commit begins no new transaction, in which later changes would be lost. A change is accepted
         // if its condition has no key.
         u"set session completion_type = 'NO_CHAIN', session sql_safe_updates = 0"_s,
