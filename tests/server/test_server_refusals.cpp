@@ -492,6 +492,19 @@ private Q_SLOTS:
         QCOMPARE(child_start(good_settings()).status, 0);
     }
 
+    void a_registration_that_cannot_be_read_is_reported_in_both_languages()
+    {
+        const program_run run(2);
+        const QTemporaryDir folder;
+        const ended child = child_start_with(folder.path());
+        const text_pair words = failure_words(failure_kind::source_driver);
+        QVERIFY2(child.said.contains(words.french) && child.said.contains(words.english),
+                 qPrintable(child.said));
+        QVERIFY2(child.said.contains(u"details: "_s + folder.path() + u": "), qPrintable(child.said));
+        QCOMPARE(child.status, 1);
+        QVERIFY(!QFile::exists(Connection1::default_path()));
+    }
+
     void a_source_that_is_not_registered_is_reported_in_both_languages()
     {
         Connection1 connection;

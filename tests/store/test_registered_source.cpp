@@ -1,7 +1,9 @@
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "base/run_time_failure.h"
 #include "store/Connection1.h"
 #include "store/engines/registered_source.h"
 #include "store/store_location.h"
@@ -51,6 +53,7 @@ private Q_SLOTS:
         QTest::newRow("name without settings after another")
             << QByteArray("[Z]\nDriver=none\n[Verdbase]") << true;
         QTest::newRow("small letters and blanks") << QByteArray(" [ verdbase ]\n") << true;
+        QTest::newRow("mark of UTF-8 before the name") << QByteArray("\xEF\xBB\xBF[Verdbase]\n") << true;
         QTest::newRow("another name") << QByteArray("[Verdbase2]\nDriver=none\n") << false;
         QTest::newRow("name in a setting") << QByteArray("[Z]\nDescription=[Verdbase]\n") << false;
     }
@@ -67,6 +70,32 @@ private Q_SLOTS:
         const registration of_computer;
         registration::write(of_computer.of_computer(), content);
         QVERIFY(default_store() == expected);
+    }
+
+    void a_registration_that_cannot_be_read_is_a_failure_data()
+    {
+        QTest::addColumn<bool>("of_user");
+        QTest::addColumn<bool>("is_folder");
+        QTest::newRow("folder in place of the file of the user") << true << true;
+        QTest::newRow("file of the user that links to itself") << true << false;
+        QTest::newRow("folder in place of the file of the computer") << false << true;
+        QTest::newRow("file of the computer that links to itself") << false << false;
+    }
+    void a_registration_that_cannot_be_read_is_a_failure()
+    {
+        QFETCH(bool, of_user);
+        QFETCH(bool, is_folder);
+        const registration any;
+        const QString path = of_user ? any.of_user() : any.of_computer();
+        QVERIFY(is_folder ? QDir().mkdir(path) : QFile::link(path, path));
+        try {
+            default_store();
+            QFAIL("a store was found");
+        } catch (const run_time_failure& failure) {
+            QCOMPARE(failure.kind(), failure_kind::source_driver);
+            QVERIFY2(failure.details().startsWith(path + u": "), qPrintable(failure.details()));
+            QVERIFY(failure.details().size() > path.size() + 2);
+        }
     }
 
     void a_setting_is_read_from_the_file_of_the_user()

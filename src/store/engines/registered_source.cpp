@@ -5,6 +5,11 @@
 #include <QFile>
 #include <QLibrary>
 
+#include <filesystem>
+#include <system_error>
+
+#include "base/run_time_failure.h"
+
 namespace verdane {
 
 using namespace Qt::StringLiterals;
@@ -56,12 +61,23 @@ bool is_named_in_files(const QString&)
     return false;
 }
 #else
-/// True if a line of the file is the name of a source between brackets, in any case.
+bool is_missing(const QString& path)
+{
+    std::error_code error;
+    return std::filesystem::status(QFile::encodeName(path).toStdString(), error).type() ==
+           std::filesystem::file_type::not_found;
+}
+
+/// True if a line of the file is the name of a source between brackets, in any case. Fails with
+/// `source_driver` if the file exists and cannot be read: it may name the source.
 bool names_source(const QString& path, const QString& name)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (is_missing(path))
+            return false;
+        throw run_time_failure(failure_kind::source_driver, QString(path + u": " + file.errorString()));
+    }
     while (!file.atEnd()) {
         const QString line = QString::fromLocal8Bit(file.readLine()).trimmed();
         const QString found = line.mid(1).section(u']', 0, 0).trimmed();
@@ -85,7 +101,7 @@ bool is_named_in_files(const QString& name)
 
 bool is_registered_source(const QString& name)
 {
-    return !profile(name, nullptr).isEmpty() || is_named_in_files(name);
+    return is_named_in_files(name) || !profile(name, nullptr).isEmpty();
 }
 
 QString setting_of_source(const QString& name, const QString& setting)

@@ -8,7 +8,7 @@ namespace verdane {
 
 /// True if a source of that name is registered for the user or for the computer, even if it has no settings
 /// or if the installer library is missing: it cannot be opened then, but the program must not use the file
-/// instead.
+/// instead. Fails with `source_driver` if a file of registered sources exists and cannot be read.
 bool is_registered_source(const QString& name);
 
 /// A setting of a registered source (`Driver`, `Database`); empty if there is none.
