@@ -16,11 +16,20 @@ namespace {
 int bells = 0;
 
 /// The toolkit replaces an empty title by the name of the program, but keeps a blank.
-void show_no_title(QWidget& box)
-{
-    box.winId();
-    box.windowHandle()->setTitle(u" "_s);
-}
+class titled_box : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    /// The native window exists now. Creating it earlier by `winId` would make native windows of all controls
+    /// of the owner, and some platforms would then activate the owner instead of the box.
+    void showEvent(QShowEvent* event) override
+    {
+        QMessageBox::showEvent(event);
+        if (windowTitle().isEmpty())
+            windowHandle()->setTitle(u" "_s);
+    }
+};
 
 /// The selection if there is one, else all.
 QString copied_text(const QMessageBox& box)
@@ -54,11 +63,9 @@ QString default_title()
 QMessageBox::StandardButton show_message(const message& what, QWidget* above)
 {
     const QPointer<QWidget> owner = above;
-    QMessageBox box(what.icon, QString(), what.text, what.buttons, owner);
+    titled_box box(what.icon, QString(), what.text, what.buttons, owner);
     box.setObjectName(u"message_box"_s);
     box.setWindowTitle(what.title);
-    if (what.title.isEmpty())
-        show_no_title(box);
     box.setTextFormat(Qt::PlainText);
     const auto answer = static_cast<QMessageBox::StandardButton>(box.exec());
     // Some platforms do not activate the window below.

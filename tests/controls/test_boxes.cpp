@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QPushButton>
 #include <QTest>
 #include <QWindow>
 
@@ -44,6 +45,24 @@ private Q_SLOTS:
                  user.same(title_on_screen(user), on_screen, u"title on the screen"_s);
                  user.answer({u"Something"_s, QMessageBox::NoIcon, title});
              });
+    }
+
+    void a_message_box_without_a_title_gets_the_keyboard_and_leaves_the_controls_below_as_they_were()
+    {
+        QWidget owner;
+        const QPushButton button(u"Below"_s, &owner);
+        owner.show();
+        play(
+            [&] {
+                show_message({u"Something"_s, QMessageBox::NoIcon, QString()}, &owner);
+            },
+            [](hand& user) {
+                user.wait_for_window(u"message_box"_s);
+                // Space reaches the button OK only if the box has the keyboard.
+                user.key(Qt::Key_Space);
+                user.wait_until_closed(u"message_box"_s);
+            });
+        QVERIFY(!button.testAttribute(Qt::WA_NativeWindow));
     }
 };
 
