@@ -39,6 +39,9 @@ void TabStrip::keyPressEvent(QKeyEvent* event)
 {
     int tab = selected();
     switch (event->key()) {
+    case Qt::Key_Space:
+        click(tab);
+        return;
     case Qt::Key_Left:
         --tab;
         break;

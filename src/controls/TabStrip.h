@@ -10,7 +10,7 @@ namespace verdane {
 /// A row of tabs that can refuse a change, and reports every click, also one on the selected tab. Tabs are
 /// numbered from 1, as pages and holes are.
 ///
-/// Keyboard: Left, Right, Home and End select a tab as a click does.
+/// Keyboard: Left, Right, Home and End select another tab as a click does; Space clicks the selected tab.
 class TabStrip : public QTabBar {
     Q_OBJECT
 

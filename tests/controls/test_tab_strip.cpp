@@ -86,6 +86,16 @@ private Q_SLOTS:
         QCOMPARE(window.clicks, u"12321"_s);
     }
 
+    void space_clicks_the_selected_tab()
+    {
+        tabs_form window;
+        in_window(window, [](hand& user) {
+            user.click_tab(u"TabStrip1"_s, 2);
+            user.key(Qt::Key_Space);
+        });
+        QCOMPARE(window.clicks, u"22"_s);
+    }
+
     void the_wheel_does_not_change_the_tab()
     {
         tabs_form window;
