@@ -11,6 +11,7 @@
 set(VERDANE_FOLDERS_WITHOUT_STORE base scoring)
 set(VERDANE_TESTS_WITHOUT_STORE
   library_dependencies version_of_release screenshots_of_metainfo manual_pages_name_every_option
+  test_keyboard_hand
   test_boxes test_choice_menu test_entering test_failure_guard test_form test_keys test_leaving test_look
   test_scrolled_content test_shortcuts test_tab_strip
   test_Main_module test_round_labels

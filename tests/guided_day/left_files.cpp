@@ -33,11 +33,12 @@ void add(QStringList& files, const char* names, const QString& pattern)
 
 QStringList expected_files()
 {
-    QStringList files{u"f_lang.png"_s};
+    QStringList files{u"f_lang.png"_s, u"rows_of_the_days.txt"_s, u"rows_of_the_season.txt"_s};
     add(files, pictures_of_a_day, u"%1_%2.png"_s);
     add(files, pictures_of_a_season, u"%1_%2.png"_s);
     add(files, reports, u"report_%1_%2.pdf"_s);
     add(files, reports, u"report_%1_%2.csv"_s);
+    add(files, reports, u"printed_%1_%2.pdf"_s);
     return files;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QPrinter>
 #include <QWidget>
 
 #include "reports/preview/report_dialogs.h"
@@ -30,6 +31,21 @@ QString save(visit& now, const QString& button, const QString& file)
     return path;
 }
 
+/// Prints to a file, which the printer dialog chooses.
+void print(visit& now, const QString& file)
+{
+    const QString path = now.pictures.path_for(now.user, file);
+    now.user.look([&] {
+        dialogs_of_reports().choose_printer = [path](auto*, QPrinter& printer, int) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(path);
+            return true;
+        };
+    });
+    now.user.click(u"print"_s);
+    now.user.wait_until(file, [&] { return QFile(path).size() > 0; });
+}
+
 /// Without a window manager nothing activates the window below one that was closed.
 void activate_window_below(visit& now)
 {
@@ -49,6 +65,7 @@ void save_report(visit& now, const QString& name)
     const QString pdf = save(now, u"save_pdf"_s, report + u".pdf");
     now.user.check(begins_with(pdf, "%PDF-"), pdf + u" is no PDF file");
     save(now, u"save_csv"_s, report + u".csv");
+    print(now, now.twin(u"printed_" + name) + u".pdf");
     now.user.close_window(preview);
     now.user.wait_until_closed(preview);
     activate_window_below(now);

@@ -22,6 +22,8 @@ void choose_first_language(day& today)
 
 void change_language(visit& now)
 {
+    // On a screen without a window manager, nothing else gives the window the focus.
+    now.user.look([] { main_frame()->frame_widget()->activateWindow(); });
     now.user.menu(now.french ? u"mfr"_s : u"mEn"_s);
     now.user.wait_until(u"the title in the new language"_s, [&] {
         return main_frame()->frame_widget()->windowTitle() ==
@@ -39,8 +41,6 @@ void open_guide_by_key(visit& now)
         *opened = page;
         return true;
     };
-    // On a screen without a window manager, nothing else gives the window the focus.
-    now.user.look([] { main_frame()->frame_widget()->activateWindow(); });
     now.user.key(Qt::Key_F1);
     now.user.wait_until(u"the page of the guide"_s,
                         [&] { return QFileInfo(opened->toLocalFile()).isFile(); });

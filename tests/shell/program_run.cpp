@@ -69,8 +69,14 @@ QString program_run::store_path()
 
 int program_run::play_through(const std::function<void(hand&)>& script)
 {
+    hand user;
+    return play_through(script, user);
+}
+
+int program_run::play_through(const std::function<void(hand&)>& script, hand& user)
+{
     int status = -1;
-    play([&] { status = run_verdane(*qApp); }, script);
+    play([&] { status = run_verdane(*qApp); }, script, user);
     close_the_store();
     return status;
 }

@@ -22,6 +22,8 @@ public:
 
     /// Runs the program together with the script, and returns the exit status.
     int play_through(const std::function<void(hand&)>& script);
+    /// The same with a given user.
+    int play_through(const std::function<void(hand&)>& script, hand& user);
 
     const reader& store() const { return store_; }
     /// The store that the program opens.

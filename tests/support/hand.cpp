@@ -109,18 +109,23 @@ void hand::fail(const QString& message)
 
 void play(const std::function<void()>& program, const std::function<void(hand&)>& script)
 {
+    hand user;
+    play(program, script, user);
+}
+
+void play(const std::function<void()>& program, const std::function<void(hand&)>& script, hand& user)
+{
     bool script_ended = false;
-    std::thread user([&] {
-        hand of_user;
+    std::thread thread([&] {
         // Waits for the event loop of the program.
         in_window_thread([] {});
-        script(of_user);
+        script(user);
         in_window_thread([&] { script_ended = true; });
     });
     program();
     while (!script_ended)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    user.join();
+    thread.join();
 }
 
 }  // namespace verdane::testing

@@ -31,6 +31,7 @@ struct expected_box {
 class hand {
 public:
     explicit hand(std::chrono::milliseconds time_limit = std::chrono::seconds(20));
+    virtual ~hand() = default;
 
     // Waiting and reading.
     void wait_for_window(const QString& name);
@@ -54,18 +55,18 @@ public:
     /// Runs a routine in the window thread and waits until it returns.
     void look(const std::function<void()>& routine);
 
-    // Input.
-    void click(const QString& control);
+    // Input. The virtual functions use the mouse; `keyboard_hand` has the same by keys.
+    virtual void click(const QString& control);
     /// Posts both clicks before the handler of the first one returns.
     void double_click(const QString& button);
-    void double_click_row(const QString& list, int row);
+    virtual void double_click_row(const QString& list, int row);
     /// Sends press and release through the window system as two events: a window that opens at the press gets
     /// the release.
     void press_and_release(const QString& control);
     void press_and_release_tab(const QString& tabs, int tab);
     void press_and_release_row(const QString& list, int row);
-    void click_row(const QString& list, int row);
-    void click_tab(const QString& tabs, int tab);
+    virtual void click_row(const QString& list, int row);
+    virtual void click_tab(const QString& tabs, int tab);
     /// Chooses an entry of a combo with the keyboard.
     void choose(const QString& combo, int index);
     /// Types into the control with the focus, one key for each character.
@@ -76,18 +77,18 @@ public:
     void paste(const QString& box, const QString& text);
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Opens the menu with that entry and clicks the entry (by its name).
-    void menu(const QString& entry);
+    virtual void menu(const QString& entry);
     /// The title bar's close box.
-    void close_window(const QString& window);
+    virtual void close_window(const QString& window);
 
     // Grids. Rows and columns count from 0, hidden columns included.
-    void click_cell(const QString& grid, int row, int column);
+    virtual void click_cell(const QString& grid, int row, int column);
     /// Clicks the button of a cell and waits for its menu.
-    void open_menu(const QString& grid, int row, int column);
+    virtual void open_menu(const QString& grid, int row, int column);
     /// The captions of the open menu.
     QStringList menu_entries();
     /// Clicks an entry of the open menu, by its name.
-    void choose_menu_entry(const QString& entry);
+    virtual void choose_menu_entry(const QString& entry);
     /// Waits for a menu that was opened by the keyboard.
     void wait_for_menu(const QString& menu);
     /// Presses a key, or types characters, while a menu is open.
@@ -112,11 +113,18 @@ public:
     /// Prints the message and the open windows, and ends the process with status 1.
     [[noreturn]] void fail(const QString& message);
 
-private:
+protected:
+    /// Sets the focus to a control before keys are typed into it.
+    virtual void focus_on(const QString& control);
+    /// Clicks a button of the message box on top.
+    virtual void click_in_box(QMessageBox::StandardButton button);
+
     void wait_for_keyboard();
     void post(const std::function<void()>& action);
-    void press_and_release(QWidget& control, const QPoint& place);
     void on_control(const QString& name, const std::function<void(QWidget&)>& action);
+
+private:
+    void press_and_release(QWidget& control, const QPoint& place);
 
     std::chrono::milliseconds time_limit_;
 };
@@ -124,5 +132,7 @@ private:
 /// Runs `script` on a second thread while `program` (which opens windows and returns after they are closed)
 /// runs on this one. Returns when both have returned.
 void play(const std::function<void()>& program, const std::function<void(hand&)>& script);
+/// The same with a given user.
+void play(const std::function<void()>& program, const std::function<void(hand&)>& script, hand& user);
 
 }  // namespace verdane::testing

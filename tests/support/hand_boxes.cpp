@@ -38,11 +38,16 @@ void hand::answer(const expected_box& box, QMessageBox::StandardButton answer)
     const auto seen = result_of<expected_box>([] { return shown_box(*box_on_top()); });
     same(described(seen), described(box), u"message box"_s);
     const QPointer<QMessageBox> answered = result_of<QMessageBox*>([] { return box_on_top(); });
-    post([answered, answer] {
-        if (answered)
-            QTest::mouseClick(static_cast<QWidget*>(answered->button(answer)), Qt::LeftButton);
-    });
+    click_in_box(answer);
     wait_until(u"the end of the message box"_s, [&] { return !answered || !answered->isVisible(); });
+}
+
+void hand::click_in_box(QMessageBox::StandardButton button)
+{
+    post([button] {
+        if (QMessageBox* box = box_on_top())
+            QTest::mouseClick(static_cast<QWidget*>(box->button(button)), Qt::LeftButton);
+    });
 }
 
 }  // namespace verdane::testing

@@ -32,11 +32,6 @@ QRect visible_cell(QTableView& grid, int row, int column)
     return grid.visualRect(cell);
 }
 
-QMenu* menu_on_top()
-{
-    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-}
-
 }  // namespace
 
 void hand::click_cell(const QString& grid, int row, int column)

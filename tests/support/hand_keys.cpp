@@ -10,11 +10,16 @@ namespace verdane::testing {
 
 void hand::choose(const QString& combo, int index)
 {
-    on_control(combo, [](QWidget& found) { found.setFocus(Qt::TabFocusReason); });
+    focus_on(combo);
     const int steps = index - selected(combo);
     for (int i = 0; i < std::abs(steps); ++i)
         key(steps > 0 ? Qt::Key_Down : Qt::Key_Up);
     same(selected(combo), index, u"entry chosen in " + combo);
+}
+
+void hand::focus_on(const QString& control)
+{
+    on_control(control, [](QWidget& found) { found.setFocus(Qt::TabFocusReason); });
 }
 
 void hand::type(const QString& characters)

@@ -23,19 +23,6 @@ QPoint middle_of_row(const QListWidget& list, int row)
     return list.visualItemRect(list.item(row)).center();
 }
 
-/// The menu with the entry; null for an entry of the menu bar itself.
-QMenu* menu_of(const QAction& entry)
-{
-    QMenu* menu = nullptr;
-    for (QObject* owner : entry.associatedObjects()) {
-        if (qobject_cast<QMenuBar*>(owner))
-            return nullptr;
-        if (auto* found = qobject_cast<QMenu*>(owner))
-            menu = found;
-    }
-    return menu;
-}
-
 void click_action(QWidget& owner, const QRect& where)
 {
     QTest::mouseClick(&owner, Qt::LeftButton, Qt::NoModifier, where.center());

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTabBar>
 #include <QTextEdit>
@@ -70,6 +72,23 @@ QAction* find_action(const QString& name)
     return nullptr;
 }
 
+QMenu* menu_of(const QAction& entry)
+{
+    QMenu* menu = nullptr;
+    for (QObject* owner : entry.associatedObjects()) {
+        if (qobject_cast<QMenuBar*>(owner))
+            return nullptr;
+        if (auto* found = qobject_cast<QMenu*>(owner))
+            menu = found;
+    }
+    return menu;
+}
+
+QMenu* menu_on_top()
+{
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
 QString text_of(const QWidget& control)
 {
     if (auto* box = qobject_cast<const QLineEdit*>(&control))
@@ -123,6 +142,8 @@ QString describe_open_windows()
         if (!window->isVisible())
             continue;
         lines += u"  %1 \"%2\""_s.arg(window->objectName(), window->windowTitle());
+        if (window->isActiveWindow())
+            lines += u", active"_s;
         if (auto* box = qobject_cast<QMessageBox*>(window))
             lines += u" with the text \"%1\" %2"_s.arg(box->text(), box->informativeText());
         lines += u'\n';

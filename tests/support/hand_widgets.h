@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QAction;
+class QMenu;
 
 /// Finding and reading controls. To be called in the window thread.
 namespace verdane::testing {
@@ -22,6 +23,10 @@ Control& find_control(const QWidget& window, const QString& name)
     return dynamic_cast<Control&>(*window.findChild<QWidget*>(name));
 }
 QAction* find_action(const QString& name);
+/// The menu with the entry; null for an entry of the menu bar itself.
+QMenu* menu_of(const QAction& entry);
+/// The open menu, or null.
+QMenu* menu_on_top();
 QString text_of(const QWidget& control);
 QStringList entries_of(const QWidget& list);
 int selected_of(const QWidget& list);
