@@ -123,7 +123,7 @@ bool recordset_model::takes(int column, const QString& text) const
     if (!source_.is_open())
         return true;
     const bound_column& shown = this->column(column);
-    return value_in(shown, source_.field_type(source_.Fields(shown.field).ordinal()), text).has_value();
+    return value_in(shown, source_.field_type(shown.ordinal), text).has_value();
 }
 
 bool recordset_model::write(int row, int column, const QString& text)
@@ -132,11 +132,10 @@ bool recordset_model::write(int row, int column, const QString& text)
         return false;
     move_to(row);
     const bound_column& shown = this->column(column);
-    Field field = source_.Fields(shown.field);
-    const auto value = value_in(shown, source_.field_type(field.ordinal()), text);
+    const auto value = value_in(shown, source_.field_type(shown.ordinal), text);
     if (!value)
         return false;
-    field.set(*value);
+    source_.Fields(shown.ordinal).set(*value);
     row_written_ = true;
     // Two columns of the grid may show the same field.
     Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
@@ -160,16 +159,15 @@ bool recordset_model::holds(const QModelIndex& index) const
 
 QString recordset_model::text_of(int row, const bound_column& column) const
 {
-    const int ordinal = source_.Fields(column.field).ordinal();
-    const QVariant value = source_.value_at(row, ordinal);
-    if (source_.field_type(ordinal) == column_type::yes_no)
+    const QVariant value = source_.value_at(row, column.ordinal);
+    if (source_.field_type(column.ordinal) == column_type::yes_no)
         return !value.isNull() && value.toBool() ? column.yes : column.no;
     return value.toString();
 }
 
 Qt::Alignment recordset_model::alignment_of(const bound_column& column) const
 {
-    const column_type type = source_.field_type(source_.Fields(column.field).ordinal());
+    const column_type type = source_.field_type(column.ordinal);
     if (type == column_type::yes_no)
         return Qt::AlignCenter;
     return (is_number(type) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;

@@ -13,7 +13,7 @@ namespace verdane {
 
 /// One column of a grid that is bound to a recordset.
 struct bound_column {
-    QString field;    ///< the column of the recordset, in any case
+    int ordinal;      ///< of the column of the recordset
     QString caption;  ///< the text in the header
     bool locked = false;
     /// The texts of the values of a yes/no column; Null is shown as no.

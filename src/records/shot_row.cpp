@@ -143,9 +143,9 @@ void shot_row::set_penalty(int entry)
     field(Stat_rounds::addpen).set(none ? 0 : 1);
 }
 
-void shot_row::set_yes_or_no(QStringView column, bool yes)
+void shot_row::set_yes_or_no(int ordinal, bool yes)
 {
-    shots_.Fields(column).set(yes);
+    field(ordinal).set(yes);
 }
 
 void shot_row::set_par(int16 par)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 #include "base/counts.h"
 #include "scoring/hole_shots.h"
@@ -49,7 +48,8 @@ public:
     /// The shot has no position.
     void clear_position();
     void set_penalty(int entry);
-    void set_yes_or_no(QStringView column, bool yes);
+    /// `ordinal` is that of a yes/no column.
+    void set_yes_or_no(int ordinal, bool yes);
     void set_par(int16 par);
     /// The distance was changed: sets the unit, and the kind of a shot with the putter. True for that shot.
     bool distance_changed();

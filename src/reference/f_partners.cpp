@@ -17,10 +17,13 @@
 #include "controls/scrolled_content.h"
 #include "reference/f_partners_func.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/partners.h"
 
 namespace verdane {
 
 namespace {
+
+namespace partners = tables::partners;
 
 using namespace f_partners_func;
 using namespace Qt::StringLiterals;
@@ -32,13 +35,13 @@ constexpr std::array<int, f_partners::column_count> widths{18, 18, 26, 18, 18, 2
 std::vector<bound_column> columns(const Form& window)
 {
     return {
-        {u"NAME"_s, window.caption(u"Nom", u"Last Name")},
-        {u"SURNAME"_s, window.caption(u"Prénom", u"First Name")},
-        {u"AD1"_s, window.caption(u"Adresse", u"Address")},
-        {u"AD2"_s, window.caption(u"Ville", u"City")},
-        {u"TEL"_s, window.caption(u"Téléphone", u"Telephone")},
-        {u"MAIL"_s, window.caption(u"Courriel", u"Email")},
-        {u"code"_s, u"code"_s},  // The same caption in both languages.
+        {partners::NAME, window.caption(u"Nom", u"Last Name")},
+        {partners::SURNAME, window.caption(u"Prénom", u"First Name")},
+        {partners::AD1, window.caption(u"Adresse", u"Address")},
+        {partners::AD2, window.caption(u"Ville", u"City")},
+        {partners::TEL, window.caption(u"Téléphone", u"Telephone")},
+        {partners::MAIL, window.caption(u"Courriel", u"Email")},
+        {partners::code, u"code"_s},  // The same caption in both languages.
     };
 }
 

@@ -17,6 +17,10 @@ namespace verdane::f_partners_func {
 
 namespace {
 
+using tables::partners::code;
+using tables::partners::NAME;
+using tables::partners::SURNAME;
+
 constexpr int highest_provisional_code = 9900;
 
 Recordset& partners()
@@ -24,19 +28,19 @@ Recordset& partners()
     return data_environment().rspartners;
 }
 
-void empty_for_null(QStringView column)
+void empty_for_null(int ordinal)
 {
-    if (partners().Fields(column).is_null())
-        partners().Fields(column).set(QString());
+    if (partners().Fields(ordinal).is_null())
+        partners().Fields(ordinal).set(QString());
 }
 
 /// A blank precedes each of the two names.
 QString name_of_current()
 {
     QString name;
-    for (const QStringView column : {u"NAME", u"SURNAME"}) {
-        if (!partners().Fields(column).is_null())
-            name += u' ' + partners().Fields(column).text();
+    for (const int ordinal : {NAME, SURNAME}) {
+        if (!partners().Fields(ordinal).is_null())
+            name += u' ' + partners().Fields(ordinal).text();
     }
     return name;
 }
@@ -58,9 +62,9 @@ void leave_removed_row()
         partners().MoveLast();
 }
 
-bool lacks(QStringView column)
+bool lacks(int ordinal)
 {
-    return partners().Fields(column).trimmed().isEmpty();
+    return partners().Fields(ordinal).trimmed().isEmpty();
 }
 
 void refuse_missing_name(const f_partners& window)
@@ -82,8 +86,8 @@ void look_for_missing_name(const f_partners& window, std::optional<nameless_cell
 {
     partners().MoveFirst();
     while (!partners().eof() && !missing) {
-        if (lacks(u"NAME") || lacks(u"SURNAME")) {
-            missing = {partners().position(), lacks(u"NAME") ? f_partners::name : f_partners::first_name};
+        if (lacks(NAME) || lacks(SURNAME)) {
+            missing = {partners().position(), lacks(NAME) ? f_partners::name : f_partners::first_name};
             refuse_missing_name(window);
         }
         partners().MoveNext();
@@ -120,9 +124,7 @@ void add_partner(f_partners& window)
 {
     window.finish_typing();
     partners().AddNew();
-    partners()
-        .Fields(tables::partners::code)
-        .set(QRandomGenerator::global()->bounded(highest_provisional_code + 1));
+    partners().Fields(code).set(QRandomGenerator::global()->bounded(highest_provisional_code + 1));
     partners().UpdateBatch();
     partners().MoveLast();
     window.show_cell(f_partners::name);
@@ -130,11 +132,11 @@ void add_partner(f_partners& window)
 
 void before_row_commit()
 {
-    empty_for_null(u"SURNAME");
-    empty_for_null(u"NAME");
-    QString name = partners().Fields(tables::partners::NAME).text();
-    QString surname = partners().Fields(tables::partners::SURNAME).text();
-    partners().Fields(tables::partners::code).set(Verdane_tools::name_checksum(name, surname));
+    empty_for_null(SURNAME);
+    empty_for_null(NAME);
+    QString name = partners().Fields(NAME).text();
+    QString surname = partners().Fields(SURNAME).text();
+    partners().Fields(code).set(Verdane_tools::name_checksum(name, surname));
 }
 
 void remove_partner(f_partners& window)

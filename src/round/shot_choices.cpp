@@ -66,7 +66,7 @@ void shot_choices::penalty_chosen(int entry)
 /// The entries are yes and no.
 void shot_choices::yes_or_no_chosen(int entry)
 {
-    rows_.current().set_yes_or_no(grid_.bound_model().column(grid_.Col()).field, entry == 0);
+    rows_.current().set_yes_or_no(grid_.bound_model().column(grid_.Col()).ordinal, entry == 0);
     show_row(grid_.Col() + 1);
 }
 

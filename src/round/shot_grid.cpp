@@ -14,6 +14,7 @@
 #include "round/shot_rows.h"
 #include "scoring/limits.h"
 #include "scoring/words.h"
+#include "store/tables/Stat_rounds.h"
 
 namespace verdane {
 
@@ -21,8 +22,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+namespace Stat_rounds = tables::Stat_rounds;
+
 struct column_layout {
-    QStringView field;
+    int ordinal;
     text_pair caption;
     int width_twips;  ///< 0: hidden
     bool locked;
@@ -30,19 +33,19 @@ struct column_layout {
 };
 
 constexpr std::array columns{
-    column_layout{u"HOLE", {u"Trou", u"Shot"}, 0, false, false},
-    column_layout{u"Shot", {u"Coup", u"Shot"}, 700, false, false},
-    column_layout{u"STICK", {u"Bâton", u"Club"}, 700, true, false},
-    column_layout{u"AFTER", {u"Distance restante", u"Remaining Distance"}, 2000, false, false},
-    column_layout{u"unit", {u"Unités", u"Units"}, 700, true, false},
-    column_layout{u"SHOT_TYPE", {u"VRD", u"VRD"}, 1740, false, false},
-    column_layout{u"BEYONG_HOLE", {u"Dépassement", u"Beyond hole"}, 1740, true, true},
-    column_layout{u"MISSED", {u"Raté", u"Missed "}, 700, true, true},
-    column_layout{u"TS", {u"Trappe de sable", u"Sand Trap "}, 1300, true, true},
-    column_layout{u"DZ", {u"Distance zéro", u"Distance zero"}, 1200, true, true},
-    column_layout{u"Faireway", {u"Allée", u"Fairway "}, 1500, true, false},
-    column_layout{u"Penality", {u"Pénalité", u"Penalty "}, 1200, false, false},
-    column_layout{u"Shot", {u"Shot", u"Shot"}, 0, false, false},
+    column_layout{Stat_rounds::hole, {u"Trou", u"Shot"}, 0, false, false},
+    column_layout{Stat_rounds::shot, {u"Coup", u"Shot"}, 700, false, false},
+    column_layout{Stat_rounds::stick, {u"Bâton", u"Club"}, 700, true, false},
+    column_layout{Stat_rounds::after, {u"Distance restante", u"Remaining Distance"}, 2000, false, false},
+    column_layout{Stat_rounds::unit, {u"Unités", u"Units"}, 700, true, false},
+    column_layout{Stat_rounds::shot_type, {u"VRD", u"VRD"}, 1740, false, false},
+    column_layout{Stat_rounds::beyong_hole, {u"Dépassement", u"Beyond hole"}, 1740, true, true},
+    column_layout{Stat_rounds::missed, {u"Raté", u"Missed "}, 700, true, true},
+    column_layout{Stat_rounds::ts, {u"Trappe de sable", u"Sand Trap "}, 1300, true, true},
+    column_layout{Stat_rounds::dz, {u"Distance zéro", u"Distance zero"}, 1200, true, true},
+    column_layout{Stat_rounds::faireway, {u"Allée", u"Fairway "}, 1500, true, false},
+    column_layout{Stat_rounds::penality, {u"Pénalité", u"Penalty "}, 1200, false, false},
+    column_layout{Stat_rounds::shot, {u"Shot", u"Shot"}, 0, false, false},
 };
 
 constexpr std::array yes_no_words{yes_word, no_word};
@@ -58,7 +61,7 @@ std::vector<bound_column> bound_columns(bool french)
 {
     std::vector<bound_column> bound;
     for (const column_layout& column : columns) {
-        bound_column next{column.field.toString(), column.caption.in(french), column.locked};
+        bound_column next{column.ordinal, column.caption.in(french), column.locked};
         if (column.yes_or_no) {
             next.yes = yes_word.in(french);
             next.no = no_word.in(french);

@@ -9,6 +9,7 @@
 #include "controls/events.h"
 #include "controls/Form.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/Stat_rounds.h"
 #include "tests/support/hand.h"
 #include "tests/support/reader.h"
 #include "tests/support/store_folder.h"
@@ -28,11 +29,12 @@ public:
     {
         resize(600, 300);
         auto* layout = new QVBoxLayout(this);
-        auto* model = new recordset_model(data_environment().rsStat_rounds,
-                                          {{u"shot"_s, u"n"_s},
-                                           {u"stick"_s, u"Bâton"_s, true},
-                                           {u"after"_s, u"Distance"_s},
-                                           {u"missed"_s, u"Raté"_s, true, u"Oui"_s, u"Non"_s}});
+        auto* model =
+            new recordset_model(data_environment().rsStat_rounds,
+                                {{tables::Stat_rounds::shot, u"n"_s},
+                                 {tables::Stat_rounds::stick, u"Bâton"_s, true},
+                                 {tables::Stat_rounds::after, u"Distance"_s},
+                                 {tables::Stat_rounds::missed, u"Raté"_s, true, u"Oui"_s, u"Non"_s}});
         cells = named(new data_grid(model), u"grid");
         clubs = named(new choice_menu(this), u"clubs");
         for (const QString& club : {u"D"_s, u"F5"_s, u"F6"_s}) {

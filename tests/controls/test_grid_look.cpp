@@ -9,6 +9,7 @@
 #include "controls/data_grid.h"
 #include "controls/look.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/Stat_rounds.h"
 #include "tests/support/reader.h"
 #include "tests/support/store_folder.h"
 
@@ -39,7 +40,8 @@ struct grid_window {
                 .write(u"insert into Stat_rounds (shot, stick) values (%1, 'F5')"_s.arg(shot));
         data_environment().rsStat_rounds.Open();
         cells = new data_grid(new recordset_model(
-            data_environment().rsStat_rounds, {{u"stick"_s, u"Bâton"_s, true}, {u"after"_s, u"Distance"_s}}));
+            data_environment().rsStat_rounds,
+            {{tables::Stat_rounds::stick, u"Bâton"_s, true}, {tables::Stat_rounds::after, u"Distance"_s}}));
         cells->set_cell_menu(club, &clubs);
         auto* lines = new QVBoxLayout(&window);
         lines->addWidget(cells);

@@ -3,6 +3,7 @@
 
 #include "controls/recordset_model.h"
 #include "store/DataEnvironment1.h"
+#include "store/tables/Stat_rounds.h"
 #include "tests/support/failures.h"
 #include "tests/support/reader.h"
 #include "tests/support/refused_change.h"
@@ -14,12 +15,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+namespace Stat_rounds = tables::Stat_rounds;
+
 std::vector<bound_column> shot_columns()
 {
-    return {{u"Shot"_s, u"Coup"_s},
-            {u"STICK"_s, u"Bâton"_s, true},
-            {u"AFTER"_s, u"Distance restante"_s},
-            {u"MISSED"_s, u"Raté"_s, false, u"Oui"_s, u"Non"_s}};
+    return {{Stat_rounds::shot, u"Coup"_s},
+            {Stat_rounds::stick, u"Bâton"_s, true},
+            {Stat_rounds::after, u"Distance restante"_s},
+            {Stat_rounds::missed, u"Raté"_s, false, u"Oui"_s, u"Non"_s}};
 }
 
 /// Three shots of one hole in the store, and a model bound to them, checked by QAbstractItemModelTester.

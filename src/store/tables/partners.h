@@ -20,6 +20,12 @@ inline constexpr recordset_declaration rspartners{.name = u"rspartners",
 
 inline constexpr int NAME = columns.ordinal(u"NAME");
 inline constexpr int SURNAME = columns.ordinal(u"SURNAME");
+/// The address.
+inline constexpr int AD1 = columns.ordinal(u"AD1");
+/// The town.
+inline constexpr int AD2 = columns.ordinal(u"AD2");
+inline constexpr int TEL = columns.ordinal(u"TEL");
+inline constexpr int MAIL = columns.ordinal(u"MAIL");
 /// The number with which a round refers to the partner.
 inline constexpr int code = columns.ordinal(u"code");
 
