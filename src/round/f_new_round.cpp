@@ -93,6 +93,7 @@ void f_new_round::show_stored_round(const QString& key)
     hole_bar& holes = panes().holes;
     set_date_value(key);
     if (!round_record::has_row_in_games2()) {
+        // English in both languages.
         show_information(u"Error : games2 record not found"_s);
         holes.set_hole_in_boxes(first_hole);
         unload();

@@ -130,6 +130,7 @@ void hole_navigation::show_detailed_page()
     shots_.commit();
     window_.show_page(round_page::detailed);
     if (window_.date_value().isEmpty()) {
+        // French in both languages.
         show_information(u"Il faut choisir la date du ronde avant d'entrer les détails"_s,
                          QMessageBox::Critical);
         return;

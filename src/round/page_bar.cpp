@@ -114,6 +114,7 @@ private:
 
 page_bar::page_bar(Form& window)
     : page_tabs_(named(new TabStrip, u"TabStrip2")),
+      // French in both languages.
       shots_button_(named(make_button(u"Cliquer pour détailler votre ronde"_s), u"Command4")),
       putts_button_(named(make_button(window.caption(u"Coups roulés", u"Putts")), u"b_putts"))
 {
