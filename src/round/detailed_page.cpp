@@ -159,7 +159,7 @@ bool detailed_page::check_shots()
 
 blank_shot detailed_page::drop_blank_shot()
 {
-    if (!entry_.drop_blank_shot(grid_->Row()))
+    if (!entry_.drop_blank_shot())
         return {false, check_shots()};
     grid_->ReBind();
     return {true, std::nullopt};

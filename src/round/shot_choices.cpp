@@ -11,19 +11,19 @@ namespace verdane {
 shot_choices::shot_choices(shot_grid& grid, shot_rows& rows, const shot_entry& entry)
     : grid_(grid), rows_(rows), entry_(entry)
 {
-    on_choice(&shot_grid::club_chosen, &shot_choices::club_chosen);
-    on_choice(&shot_grid::kind_chosen, &shot_choices::kind_chosen);
-    on_choice(&shot_grid::position_chosen, &shot_choices::position_chosen);
-    on_choice(&shot_grid::penalty_chosen, &shot_choices::penalty_chosen);
-    on_choice(&shot_grid::yes_or_no_chosen, &shot_choices::yes_or_no_chosen);
-    on_signal(grid_, &shot_grid::column_updated, [this](int column) { column_updated(column); });
+    on_entry(&shot_grid::club_chosen, &shot_choices::club_chosen);
+    on_entry(&shot_grid::kind_chosen, &shot_choices::kind_chosen);
+    on_entry(&shot_grid::position_chosen, &shot_choices::position_chosen);
+    on_entry(&shot_grid::penalty_chosen, &shot_choices::penalty_chosen);
+    on_entry(&shot_grid::yes_or_no_chosen, &shot_choices::yes_or_no_chosen);
+    on_entry(&shot_grid::column_updated, &shot_choices::column_updated);
 }
 
-void shot_choices::on_choice(void (shot_grid::*chosen)(int), void (shot_choices::*routine)(int))
+void shot_choices::on_entry(void (shot_grid::*entered)(int), void (shot_choices::*routine)(int))
 {
-    on_signal(grid_, chosen, [this, routine](int entry) {
+    on_signal(grid_, entered, [this, routine](int value) {
         if (rows_.on_a_row())
-            (this->*routine)(entry);
+            (this->*routine)(value);
     });
 }
 

@@ -25,8 +25,8 @@ Q_SIGNALS:
     void last_column_chosen();
 
 private:
-    /// Runs a routine on a choice, unless there is no current row.
-    void on_choice(void (shot_grid::*chosen)(int), void (shot_choices::*routine)(int));
+    /// Runs a routine on a signal of the grid, unless there is no current row.
+    void on_entry(void (shot_grid::*entered)(int), void (shot_choices::*routine)(int));
     void club_chosen(int entry);
     void kind_chosen(int entry);
     void position_chosen(int entry);

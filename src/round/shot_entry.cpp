@@ -73,11 +73,11 @@ int shot_entry::check_shots()
     return incomplete;
 }
 
-bool shot_entry::drop_blank_shot(int grid_row)
+bool shot_entry::drop_blank_shot()
 {
     if (!rows_.has_hole())
         return false;
-    if (grid_row == 0 && !rows_.current().is_complete()) {
+    if (rows_.on_first_row() && !rows_.current().is_complete()) {
         rows_.remove_current();
         return true;
     }

@@ -50,9 +50,9 @@ public:
     /// incomplete one. A failure of the store ends the check.
     int check_shots();
 
-    /// Removes the current shot if it is the first one (`grid_row` is 0) and lacks club or kind, and returns
-    /// true. Otherwise stores the par in the first shot.
-    bool drop_blank_shot(int grid_row);
+    /// Removes the current shot if it is the first one and lacks club or kind, and returns true. Otherwise
+    /// stores the par in the first shot.
+    bool drop_blank_shot();
     /// Sets `PUT_MODE` to true when the last shot is a putt, else to false.
     void set_put_mode_by_last_shot();
 

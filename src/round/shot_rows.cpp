@@ -150,6 +150,11 @@ bool shot_rows::on_a_row() const
     return rows_.is_open() && rows_.position() >= 0;
 }
 
+bool shot_rows::on_first_row() const
+{
+    return rows_.is_open() && rows_.position() == 0;
+}
+
 void shot_rows::move_to(int place)
 {
     rows_.MoveTo(place);

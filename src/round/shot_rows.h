@@ -64,6 +64,8 @@ public:
 
     /// True when there is a current row.
     bool on_a_row() const;
+    /// True when the current row is the first one.
+    bool on_first_row() const;
     /// The current row.
     shot_row current() { return shot_row(rows_); }
     /// Makes the row at a place, from 0, the current one. The row that is left is committed.

@@ -1,3 +1,4 @@
+#include <QAction>
 #include <QHeaderView>
 #include <QTest>
 
@@ -310,6 +311,34 @@ private Q_SLOTS:
             user.key(Qt::Key_Backspace);
             user.same(user.bells() - before, 1, u"bell"_s);
             user.check(!user.exists(u"cell_being_typed"_s), u"no box"_s);
+        });
+    }
+
+    void without_a_shot_a_choice_stores_nothing_data()
+    {
+        QTest::addColumn<QString>("entry");
+        for (const char* entry : {"ms1_1", "mshots_3", "mb_0", "ma_1", "mp_1"})
+            QTest::newRow(entry) << entry;
+    }
+    void without_a_shot_a_choice_stores_nothing()
+    {
+        QFETCH(QString, entry);
+        in_detailed_page(true, [&](hand& user) {
+            user.click(u"CommandSup"_s);
+            with_round(user, [&](f_new_round& window) { window.findChild<QAction*>(entry)->trigger(); });
+            user.same(user.grid_rows(details), 0, u"shots"_s);
+        });
+    }
+
+    void without_a_shot_a_changed_cell_stores_nothing()
+    {
+        in_detailed_page(true, [&](hand& user) {
+            user.click(u"CommandSup"_s);
+            with_round(user, [](f_new_round& window) {
+                auto& grid = find_control<data_grid>(window, details);
+                Q_EMIT grid.column_updated(3);
+            });
+            user.same(user.grid_rows(details), 0, u"shots"_s);
         });
     }
 
