@@ -83,7 +83,7 @@ void f_new_round::connect_window()
 
 void f_new_round::show_new_round()
 {
-    panes().parameters.fill_courses(round_record::course_lines());
+    panes().parameters.fill_courses(round_record::walk_courses());
     // This moves the recordsets of the courses to the first one.
     panes().parameters.select_course(0);
 }
@@ -100,7 +100,7 @@ void f_new_round::show_stored_round(const QString& key)
         return;
     }
     const QString code = round_record::find_holes_of_round(key);
-    panes().parameters.fill_courses(round_record::course_lines());
+    panes().parameters.fill_courses(round_record::walk_courses());
     round_record::find_course(code);
     holes.select_in_list(first_hole);
     panes().parameters.select_course(code);
@@ -206,7 +206,8 @@ void open_stored_round(const QString& key)
 
 void load_round_header(f_new_round& window)
 {
-    window.show_header(round_record::read_header(window.date_value()));
+    round_record::find_or_store_costs(window.date_value());
+    window.show_header(round_record::header());
 }
 
 }  // namespace verdane

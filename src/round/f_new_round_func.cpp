@@ -68,7 +68,7 @@ void f_new_round_func::load()
         return;
     holes_.fill_list();
     parameters_.fill_weathers(window_.french());
-    parameters_.fill_partners(round_record::open_partner_lines());
+    parameters_.fill_partners(round_record::open_and_walk_partners());
     round_record::move_to_first_course();
     parameters_.show_costs(round_record::cost_total());
     parameters_.show_weather(0);

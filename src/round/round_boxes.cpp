@@ -38,7 +38,7 @@ void round_boxes::show_hole_card(int16 hole)
 
 void round_boxes::course_selected()
 {
-    round_record::find_holes_of_course(Round_functions::course_code_at(parameters_.course_index()));
+    round_record::move_to_course_and_holes(parameters_.course_index());
     show_hole_card(holes_.listed_hole());
     refresh_panel_from_boxes();
 }

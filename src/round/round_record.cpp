@@ -1,5 +1,6 @@
 #include "round/round_record.h"
 
+#include "records/course_rows.h"
 #include "records/Main_module.h"
 #include "records/round_rows.h"
 #include "records/row_search.h"
@@ -52,6 +53,11 @@ void store_cost_row(const QString& key)
 {
     add_cost_row(key);
     data_environment().rscost.Update();
+}
+
+void find_holes_of_course(const QString& code)
+{
+    find_first(data_environment().rsfield_info, by_course, code);
 }
 
 void commit_and_find(Recordset& recordset, const QString& key)
@@ -154,12 +160,13 @@ void find_course(const QString& code)
     find_first(data_environment().rsvrd_fields, by_code, code);
 }
 
-void find_holes_of_course(const QString& code)
+void move_to_course_and_holes(int course_index)
 {
-    find_first(data_environment().rsfield_info, by_course, code);
+    Round_functions::move_to_course(course_index);
+    find_holes_of_course(data_environment().rsvrd_fields.Fields(vrd_fields::code).text());
 }
 
-round_header read_header(const QString& key)
+void find_or_store_costs(const QString& key)
 {
     DataEnvironment1& store = data_environment();
     find_round(store.rscost, key);
@@ -167,6 +174,11 @@ round_header read_header(const QString& key)
         store_cost_row(store.rsgames.Fields(games::date).text());
         store.rscost.MoveLast();
     }
+}
+
+round_header header()
+{
+    DataEnvironment1& store = data_environment();
     round_header header;
     header.costs = cost_total();
     header.weather = plain(store.rsgames2.Fields(games2::conditionM).int16_or_zero());
@@ -188,7 +200,8 @@ void store_partners(const QStringList& numbers)
 void store_round_header(const round_parameters& parameters)
 {
     DataEnvironment1& store = data_environment();
-    const QString code = Round_functions::course_code_at(parameters.course_index);
+    Round_functions::move_to_course(parameters.course_index);
+    const QString code = store.rsvrd_fields.Fields(vrd_fields::code).text();
     store.rsgames.Fields(games::field).set(store.rsvrd_fields.Fields(vrd_fields::name).value());
     store.rsgames2.Fields(games2::conditionM).set(parameters.weather_index);
     store.rsgames2.Fields(games2::temperature).set(parameters.temperature);
@@ -235,7 +248,7 @@ void close_tables()
         close_if_open(*recordset);
 }
 
-std::vector<listed_course> course_lines()
+std::vector<listed_course> walk_courses()
 {
     Recordset& courses = data_environment().rsvrd_fields;
     std::vector<listed_course> lines;
@@ -245,7 +258,7 @@ std::vector<listed_course> course_lines()
     return lines;
 }
 
-std::vector<partner_line> open_partner_lines()
+std::vector<partner_line> open_and_walk_partners()
 {
     Recordset& partners = data_environment().rspartners;
     close_if_open(partners);

@@ -63,11 +63,13 @@ void set_key(const QString& key);
 QString find_holes_of_round(const QString& key);
 void move_to_first_course();
 void find_course(const QString& code);
-void find_holes_of_course(const QString& code);
+/// Moves to the course with that index in the list, and to its holes.
+void move_to_course_and_holes(int course_index);
 
-/// Finds the row of costs of that key, or commits a new one, and reads the header of the round. Fails with
-/// `overflow` when the sum of the costs exceeds 16 bits.
-round_header read_header(const QString& key);
+/// Finds the row of costs of that key, or commits a new one, which is the current row then.
+void find_or_store_costs(const QString& key);
+/// What the current rows have. Fails with `overflow` when the sum of the costs exceeds 16 bits.
+round_header header();
 /// The sum of the twelve amounts. Fails with `overflow` beyond 16 bits.
 QString cost_total();
 
@@ -82,8 +84,9 @@ struct round_parameters {
     int temperature;
 };
 
-/// Writes course, weather and temperature, appends the key to `round_keys`, then commits the rows of `games2`
-/// and `games`. Fails with `subscript`, before the commits, when that list is full.
+/// Moves to the course of that index, writes course, weather and temperature, appends the key to
+/// `round_keys`, then commits the rows of `games2` and `games`. Fails with `subscript`, before the commits,
+/// when that list is full.
 void store_round_header(const round_parameters& parameters);
 
 /// Commits the three rows and finds them again. Adds the row of costs if there is none.
@@ -93,10 +96,10 @@ void commit(const QString& key);
 /// round or none, and the old figures of a hole or the new ones.
 void store_and_commit(const QString& key, const round_parameters& parameters);
 
-/// One line for each row of `rsvrd_fields`, in the order of the rows. The recordset is at its end afterwards.
-std::vector<listed_course> course_lines();
-/// Opens `rspartners` and returns one line for each row, in the order of the rows.
-std::vector<partner_line> open_partner_lines();
+/// Moves through the rows of `rsvrd_fields` to its end and returns one line for each.
+std::vector<listed_course> walk_courses();
+/// Opens `rspartners`, moves through its rows to its end and returns one line for each.
+std::vector<partner_line> open_and_walk_partners();
 
 /// Drops what is not committed in the three rows.
 void drop_changes();
