@@ -23,8 +23,7 @@ detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_o
       window_(window),
       rows_(rows),
       entry_(rows, std::move(hole)),
-      grid_(new shot_grid(window, rows)),
-      choices_(*grid_, rows, entry_)
+      grid_(new shot_grid(window, rows, entry_))
 {
     setObjectName(u"Framedet"_s);
     name_control(*grid_, title());
@@ -76,9 +75,8 @@ void detailed_page::connect_events()
                 (this->*pressed)();
         });
     }
-    on_signal(choices_, &shot_choices::next_shot_wanted, [this] { next_shot(); });
-    on_signal(choices_, &shot_choices::last_column_chosen,
-              [this] { next_button_->setFocus(Qt::TabFocusReason); });
+    on_signal(*grid_, &shot_grid::next_shot_wanted, [this] { next_shot(); });
+    on_signal(*grid_, &shot_grid::last_column_chosen, [this] { next_button_->setFocus(Qt::TabFocusReason); });
 }
 
 bool detailed_page::finish_typing()

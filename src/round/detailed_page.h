@@ -6,7 +6,6 @@
 #include <optional>
 #include <vector>
 
-#include "round/shot_choices.h"
 #include "round/shot_entry.h"
 #include "round/shot_rows.h"
 
@@ -101,7 +100,6 @@ private:
     shot_rows& rows_;
     shot_entry entry_;
     shot_grid* grid_;
-    shot_choices choices_;
     QPushButton* next_button_ = nullptr;
     QPushButton* remove_button_ = nullptr;
     QPushButton* finish_button_ = nullptr;

@@ -7,10 +7,12 @@
 
 #include "base/language.h"
 #include "controls/choice_menu.h"
+#include "controls/events.h"
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
+#include "round/shot_entry.h"
 #include "round/shot_rows.h"
 #include "scoring/limits.h"
 #include "scoring/words.h"
@@ -95,8 +97,11 @@ int widest(const QFontMetrics& font, const QStringList& words)
 
 }  // namespace
 
-shot_grid::shot_grid(Form& window, shot_rows& rows)
-    : data_grid(rows.make_model(bound_columns(window.french()))), french_(window.french())
+shot_grid::shot_grid(Form& window, shot_rows& rows, const shot_entry& entry)
+    : data_grid(rows.make_model(bound_columns(window.french()))),
+      rows_(rows),
+      entry_(entry),
+      french_(window.french())
 {
     setObjectName(u"details"_s);
     add_menus(window);
@@ -107,16 +112,18 @@ shot_grid::shot_grid(Form& window, shot_rows& rows)
     heads.setMinimumSectionSize(pixels(narrowest_column_twips));
     heads.setFixedHeight(2 * heads.fontMetrics().lineSpacing() + rhythm);
     verticalHeader()->setDefaultSectionSize(3 * rhythm + rhythm / 2);
+    on_signal(*this, &shot_grid::column_updated,
+              [this](int column) { run_on_row(&shot_grid::cell_typed, column); });
 }
 
 choice_menu* shot_grid::make_menu(Form& window, QStringView name, control_array<QAction>& entries, int first,
-                                  const QStringList& captions, entry_signal chosen)
+                                  const QStringList& captions, entry_routine chosen)
 {
     auto* menu = named(new choice_menu(&window), name);
     int number = first;
     for (const QString& caption : captions) {
         QAction* entry = entries.add(number, menu->add_choice(QString(), caption));
-        connect(entry, &QAction::triggered, menu, [this, number, chosen] { Q_EMIT(this->*chosen)(number); });
+        on_signal(*entry, &QAction::triggered, [this, number, chosen](bool) { run_on_row(chosen, number); });
         ++number;
     }
     return menu;
@@ -144,11 +151,6 @@ void shot_grid::set_club_names(const QStringList& names)
 {
     for (int club = 1; club <= names.size(); ++club)
         choice_menu::set_caption(club_entries_(club), names[club - 1]);
-}
-
-QString shot_grid::club_name(int club) const
-{
-    return choice_menu::caption_of(club_entries_(club));
 }
 
 /// All texts that the cells of a column can show.
@@ -194,6 +196,62 @@ void shot_grid::set_up_columns()
         if (twips > 0)
             setColumnWidth(column, std::max(pixels(twips), width_of_words(column)));
     }
+}
+
+void shot_grid::run_on_row(entry_routine routine, int value)
+{
+    if (rows_.on_a_row())
+        (this->*routine)(value);
+}
+
+void shot_grid::show_row(int next_column)
+{
+    ReBind();
+    set_Col(next_column);
+}
+
+void shot_grid::club_chosen(int entry)
+{
+    rows_.current().set_club(entry, choice_menu::caption_of(club_entries_(entry)));
+    show_row(distance_column);
+}
+
+void shot_grid::kind_chosen(int entry)
+{
+    rows_.current().set_kind(entry);
+    if (entry == putt) {
+        Q_EMIT next_shot_wanted();
+        // The current row is the new shot, or the same one if the message was shown.
+        rows_.current().make_putt();
+    }
+    show_row(entry == putt ? distance_column : kind_column);
+}
+
+void shot_grid::position_chosen(int entry)
+{
+    rows_.current().set_position(entry);
+    show_row(Col() + 1);
+}
+
+void shot_grid::penalty_chosen(int entry)
+{
+    rows_.current().set_penalty(entry);
+    Q_EMIT last_column_chosen();
+    ReBind();
+}
+
+void shot_grid::yes_or_no_chosen(int entry)
+{
+    rows_.current().set_yes_or_no(bound_model().column(Col()).ordinal, entry == 0);
+    show_row(Col() + 1);
+}
+
+void shot_grid::cell_typed(int column)
+{
+    rows_.current().set_par(entry_.hole().card.par);
+    if (column == distance_column && rows_.current().distance_changed() && rows_.on_last_row())
+        Q_EMIT next_shot_wanted();
+    show_row(entry_.PUT_MODE() ? club_column : unit_column);
 }
 
 }  // namespace verdane
