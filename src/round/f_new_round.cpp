@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 
+#include <algorithm>
+
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/events.h"
@@ -95,16 +97,14 @@ void f_new_round::show_stored_round(const QString& key)
     if (!round_record::has_row_in_games2()) {
         // English in both languages.
         show_information(u"Error : games2 record not found"_s);
-        holes.set_hole_in_boxes(first_hole);
+        holes.show_hole(first_hole);
         unload();
         return;
     }
     const QString code = round_record::find_holes_of_round(key);
     panes().parameters.fill_courses(round_record::walk_courses());
     round_record::find_course(code);
-    holes.select_in_list(first_hole);
     panes().parameters.select_course(code);
-    holes.set_hole_in_boxes(first_hole);
     load_round_header(*this);
     // The key of a stored round never changes.
     holes.lock_date();
@@ -120,9 +120,14 @@ void f_new_round::show_header(const round_header& header)
     panes().parameters.show_costs(header.costs);
 }
 
+int16 f_new_round::last_hole() const
+{
+    return int16(std::max(plain(panes().holes.hole()) - 1, 0));
+}
+
 void f_new_round::save_round(bool silent)
 {
-    navigation_.save_round(silent);
+    boxes_.save_round(silent);
 }
 
 void f_new_round::ask_and_close(bool skip_prompt)

@@ -38,9 +38,9 @@ public:
     /// There is something to save.
     bool needSave() const { return boxes_.needSave(); }
     /// List index (0 to 17) of the hole that was shown last.
-    int16 last_hole() const { return navigation_.last_hole(); }
+    int16 last_hole() const;
 
-    /// `hole_navigation` and `f_new_round_func` describe them.
+    /// `round_boxes` and `f_new_round_func` describe them.
     void save_round(bool silent);
     void ask_and_close(bool skip_prompt);
 

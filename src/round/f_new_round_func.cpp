@@ -43,7 +43,7 @@ QMessageBox::StandardButton ask_to_save(const round_form& window)
 
 }  // namespace
 
-f_new_round_func::f_new_round_func(round_form& window, const round_panes& panes, const round_boxes& boxes,
+f_new_round_func::f_new_round_func(round_form& window, const round_panes& panes, round_boxes& boxes,
                                    hole_navigation& navigation)
     : window_(window),
       holes_(panes.holes),
@@ -61,7 +61,6 @@ void f_new_round_func::load()
 {
     totals_.hide();
     detailed_.show_finish_button(false);
-    holes_.show_hole(1);
     size_and_place();
     // `f_new_round::show_stored_round` shows the message about a missing row in `games2`.
     if (!round_record::has_row_in_games2())
@@ -177,13 +176,13 @@ void f_new_round_func::on_ok_cancel(int index)
 
 void f_new_round_func::save_and_leave()
 {
-    navigation_.save_round(true);
+    boxes_.save_round(true);
     detailed_.drop_blank_shot();
     navigation_.hole_tab_before_click();
     Unlock_menu();
     // The summary has changed the boxes after the first save.
     if (detailed_.isdetailed())
-        navigation_.save_round(true);
+        boxes_.save_round(true);
     window_.unload();
 }
 
@@ -210,7 +209,7 @@ void f_new_round_func::ask_and_close(bool skip_prompt)
     }
     const auto answer = skip_prompt ? QMessageBox::No : ask_to_save(window_);
     if (answer == QMessageBox::Yes) {
-        navigation_.save_round(false);
+        boxes_.save_round(false);
         if (!boxes_.needSave())
             window_.unload();
     } else if (answer == QMessageBox::No) {

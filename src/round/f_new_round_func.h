@@ -18,7 +18,7 @@ struct tee_off_moment;
 class f_new_round_func {
 public:
     /// The arguments must outlive the object.
-    f_new_round_func(round_form& window, const round_panes& panes, const round_boxes& boxes,
+    f_new_round_func(round_form& window, const round_panes& panes, round_boxes& boxes,
                      hole_navigation& navigation);
 
     /// True when the tee-off dialog was cancelled.
@@ -62,7 +62,7 @@ private:
     parameters_pane& parameters_;
     totals_pane& totals_;
     shot_rows& shots_;
-    const round_boxes& boxes_;
+    round_boxes& boxes_;
     hole_navigation& navigation_;
     bool get_date_canceled_ = false;
     bool choosing_date_ = false;

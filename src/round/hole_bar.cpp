@@ -109,6 +109,7 @@ void hole_bar::add_hole_choice(QHBoxLayout& line, const Form& window)
     // The width of the largest number, so that nothing moves between holes.
     number_->setText(QString::number(hole_count));
     number_->setMinimumWidth(number_->sizeHint().width());
+    number_->setText(QString::number(1));
     hole_list_ = named(new QComboBox, u"cmb_holes");
     line.addWidget(make_label(window.caption(u"Trou :", u"Hole :"), hole_list_));
     line.addWidget(number_);
@@ -129,6 +130,14 @@ void hole_bar::add_date(QHBoxLayout& line, const Form& window)
 void hole_bar::set_before_tab_click(std::function<bool()> check)
 {
     hole_tabs_->set_before_click(std::move(check));
+}
+
+void hole_bar::show_hole(int16 hole)
+{
+    hole_ = hole;
+    hole_tabs_->select(plain(hole));
+    number_->setText(QString::number(plain(hole)));
+    set_figure(*hole_box_, hole);
 }
 
 QWidget* hole_bar::tab_strip() const
@@ -159,7 +168,7 @@ void hole_bar::fill_list()
         hole_list_->addItems(hole_numbers());
         hole_list_->setCurrentIndex(-1);
     }
-    select_in_list(1);
+    hole_list_->setCurrentIndex(0);
 }
 
 int16 hole_bar::listed_hole() const
@@ -167,21 +176,10 @@ int16 hole_bar::listed_hole() const
     return int16(hole_list_->currentIndex() + 1);
 }
 
-void hole_bar::select_in_list(int hole)
-{
-    hole_list_->setCurrentIndex(hole - 1);
-}
-
 void hole_bar::select_in_list_silently(int hole)
 {
     const QSignalBlocker silence(hole_list_);
-    select_in_list(hole);
-}
-
-void hole_bar::show_hole(int hole)
-{
-    hole_tabs_->select(hole);
-    number_->setText(QString::number(hole));
+    hole_list_->setCurrentIndex(hole - 1);
 }
 
 void hole_bar::show_card(const Round_functions::hole_card& card)
@@ -216,16 +214,6 @@ QString hole_bar::date() const
 void hole_bar::lock_date()
 {
     date_button_->setEnabled(false);
-}
-
-void hole_bar::set_hole_in_boxes(int16 hole)
-{
-    set_figure(*hole_box_, hole);
-}
-
-int16 hole_bar::hole_in_boxes() const
-{
-    return figure_of_box(hole_box_->text());
 }
 
 void hole_bar::set_course_name(const QString& name)

@@ -19,7 +19,7 @@ namespace verdane {
 class Form;
 class TabStrip;
 
-/// The hole on screen: the tabs and the list that choose it, its card, and when the round was teed off.
+/// Which hole is on screen, the tabs and the list that choose it, its card, and when the round was teed off.
 /// Holes are numbered 1 to 18.
 class hole_bar : public QWidget {
     Q_OBJECT
@@ -30,9 +30,15 @@ public:
     /// `check` runs before a click on a tab is accepted; false keeps the selected tab.
     void set_before_tab_click(std::function<bool()> check);
 
+    /// The hole on screen; 0 before the first one is shown.
+    int16 hole() const { return hole_; }
+    /// Makes a hole the one on screen and shows its number, also in the tabs. The list has it selected
+    /// before, or is not filled.
+    void show_hole(int16 hole);
+
     /// The row of tabs, which the window places above its other content.
     QWidget* tab_strip() const;
-    /// The hole whose tab is selected.
+    /// The hole whose tab is selected; while a click is handled, the one to be shown.
     int selected_tab() const;
     /// Acts as a click on the tab of a hole.
     void click_tab(int hole);
@@ -40,13 +46,10 @@ public:
 
     /// Fills the list and selects hole 1 in it, with `list_changed`.
     void fill_list();
-    /// The hole that is selected in the list; it is the hole on screen.
+    /// The hole that is selected in the list; while `list_changed` is handled, the one to be shown.
     int16 listed_hole() const;
-    void select_in_list(int hole);
-    /// The same without `list_changed`.
+    /// Selects a hole in the list without `list_changed`.
     void select_in_list_silently(int hole);
-    /// Shows the hole in the tabs and as the large number.
-    void show_hole(int hole);
 
     void show_card(const Round_functions::hole_card& card);
     /// The card on screen; zeros before the first hole is shown.
@@ -59,10 +62,7 @@ public:
     /// Disables the button that chooses the date.
     void lock_date();
 
-    /// Two values that are kept in hidden boxes: the number of the hole whose figures are in the boxes, and
-    /// the name of the course.
-    void set_hole_in_boxes(int16 hole);
-    int16 hole_in_boxes() const;
+    /// The name is kept in a hidden box.
     void set_course_name(const QString& name);
 
     /// The controls in the order of the Tab key.
@@ -82,6 +82,7 @@ private:
     void add_hole_choice(QHBoxLayout& line, const Form& window);
     void add_date(QHBoxLayout& line, const Form& window);
 
+    int16 hole_ = 0;
     TabStrip* hole_tabs_;
     QComboBox* hole_list_ = nullptr;
     QLabel* number_ = nullptr;
@@ -92,6 +93,7 @@ private:
     QLineEdit* time_box_ = nullptr;
     QPushButton* date_button_ = nullptr;
     QLineEdit* course_name_box_ = nullptr;
+    /// The number of the hole on screen, in a hidden box.
     QLineEdit* hole_box_ = nullptr;
     control_array<QLineEdit> text_{u"text"};
     control_array<QLabel> labels_{u"Label"};

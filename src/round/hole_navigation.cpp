@@ -34,35 +34,26 @@ bool hole_navigation::on_detailed_page() const
 
 void hole_navigation::hole_selected()
 {
-    if (!first_entry_)
-        save_round(true);
+    const bool is_first = holes_.hole() == 0;
+    if (!is_first)
+        boxes_.save_round(true);
     const int16 hole = holes_.listed_hole();
-    boxes_.load_hole(hole);
-    first_entry_ = false;
-    last_hole_ = hole - 1;
-    show_listed_hole();
-    boxes_.refresh_score();
-}
-
-/// Shows the listed hole in the tabs and as the number, and what is visible on the last hole only.
-void hole_navigation::show_listed_hole()
-{
-    const int hole = plain(holes_.listed_hole());
     holes_.show_hole(hole);
+    boxes_.load_hole();
     totals_.setVisible(hole == hole_count);
     detailed_.show_finish_button(hole == hole_count);
+    boxes_.refresh_score();
 }
 
 void hole_navigation::hole_chosen()
 {
-    const int chosen = plain(holes_.listed_hole());
-    const int shown = plain(last_hole_) + 1;
-    if (!on_detailed_page() || chosen == shown) {
+    const int16 chosen = holes_.listed_hole();
+    if (!on_detailed_page() || chosen == holes_.hole()) {
         hole_selected();
         return;
     }
-    holes_.select_in_list_silently(shown);
-    holes_.click_tab(chosen);
+    holes_.select_in_list_silently(plain(holes_.hole()));
+    holes_.click_tab(plain(chosen));
 }
 
 bool hole_navigation::hole_tab_before_click()
@@ -120,7 +111,6 @@ void hole_navigation::show_quick_page()
     window_.show_page(round_page::quick);
     // When the window is to be closed, the tab of the other page is still selected.
     pages_.select(round_page::quick);
-    holes_.select_in_list(holes_.selected_tab());
     enable_save_and_close(true);
     quick_.focus_first_box();
 }
@@ -165,12 +155,6 @@ void hole_navigation::return_to_quick_page()
         return;
     closingoK_ = true;
     page_changed();
-}
-
-void hole_navigation::save_round(bool silent)
-{
-    // When a hole is left, the list already has the next one selected.
-    boxes_.save_round(silent ? int16(last_hole_ + 1) : holes_.hole_in_boxes(), silent);
 }
 
 void enable_save_and_close(bool enabled)

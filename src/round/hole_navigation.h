@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/counts.h"
-
 namespace verdane {
 
 class detailed_page;
@@ -20,13 +18,11 @@ public:
     /// The arguments must outlive the object.
     hole_navigation(round_form& window, const round_panes& panes, round_boxes& boxes);
 
-    /// List index (0 to 17) of the hole that was shown last, which is saved when another one is selected.
-    int16 last_hole() const { return last_hole_; }
     /// True when the tab of the detailed page is selected.
     bool on_detailed_page() const;
 
-    /// A hole was selected in the list: saves the hole that was shown last (the first call saves nothing),
-    /// then shows the selected hole.
+    /// A hole was selected in the list: saves the hole on screen (the first call saves nothing), then shows
+    /// the selected hole.
     void hole_selected();
     /// The list of holes changed. On the detailed page this is a click on the tab of the hole, so that the
     /// shots are checked and summarised first.
@@ -44,13 +40,8 @@ public:
     /// The shots were checked because the window is to be closed: leaves the detailed page permanently.
     void return_to_quick_page();
 
-    /// Saves the round (`round_boxes`). `silent`: stores the boxes in the hole that was shown last, and shows
-    /// no message. Otherwise stores them in the hole whose figures they are.
-    void save_round(bool silent);
-
 private:
     bool may_leave_shots();
-    void show_listed_hole();
     void leave_detailed_page();
     void show_quick_page();
     void show_detailed_page();
@@ -64,9 +55,6 @@ private:
     shot_rows& shots_;
     round_boxes& boxes_;
 
-    /// No hole was shown yet: showing the first one must not save.
-    bool first_entry_ = true;
-    int16 last_hole_ = 0;
     /// The window was to be closed from the detailed page: only the quick page can be shown from then on.
     bool closingoK_ = false;
 };

@@ -22,31 +22,30 @@ round_boxes::round_boxes(const round_form& window, const round_panes& panes)
 {
 }
 
-void round_boxes::load_hole(int16 hole)
+void round_boxes::load_hole()
 {
-    quick_.show_stored(Round_functions::read_hole(hole));
-    show_hole_card(hole);
-    holes_.set_hole_in_boxes(hole);
+    quick_.show_stored(Round_functions::read_hole(holes_.hole()));
+    show_hole_card();
     refresh_panel(Round_functions::from_row);
 }
 
 /// From the current row of `rsfield_info`.
-void round_boxes::show_hole_card(int16 hole)
+void round_boxes::show_hole_card()
 {
-    holes_.show_card(Round_functions::read_hole_card(hole));
+    holes_.show_card(Round_functions::read_hole_card(holes_.hole()));
 }
 
 void round_boxes::course_selected()
 {
     round_record::move_to_course_and_holes(parameters_.course_index());
-    show_hole_card(holes_.listed_hole());
+    show_hole_card();
     refresh_panel_from_boxes();
 }
 
 void round_boxes::refresh_panel(const Round_functions::figure_source& figures)
 {
     needSave_ = true;
-    const int16 hole = holes_.listed_hole();
+    const int16 hole = holes_.hole();
     statistics_.show_hole(Round_functions::figures_from_source(hole, figures),
                           Round_functions::hole_par(hole));
 }
@@ -66,8 +65,9 @@ void round_boxes::show_summary(const hole_summary& summary)
     quick_.show_counted(summary.counts);
 }
 
-void round_boxes::store_hole(int16 hole)
+void round_boxes::store_hole()
 {
+    const int16 hole = holes_.hole();
     const hole_figures figures = quick_.figures();
     Round_functions::store_strokes(hole, figures);
     Round_functions::store_penalties(hole, figures);
@@ -75,7 +75,7 @@ void round_boxes::store_hole(int16 hole)
     Round_functions::store_situation(hole, quick_.situation());
 }
 
-void round_boxes::save_round(int16 hole, bool silent)
+void round_boxes::save_round(bool silent)
 {
     if (holes_.date().isEmpty()) {
         show_information(window_.caption(u"Veuillez d'abord choisir la date de la ronde.",
@@ -83,7 +83,7 @@ void round_boxes::save_round(int16 hole, bool silent)
                          QMessageBox::Critical);
         return;
     }
-    store_hole(hole);
+    store_hole();
     round_record::store_and_commit(
         window_.date_value(),
         {parameters_.course_index(), parameters_.weather_index(), parameters_.temperature()});

@@ -23,8 +23,8 @@ public:
     /// There is something to save. True at first, so that closing an unchanged round shows the question, too.
     bool needSave() const { return needSave_; }
 
-    /// Shows a hole (1 to 18) from the rows.
-    void load_hole(int16 hole);
+    /// Shows the hole on screen from the rows.
+    void load_hole();
 
     /// Another course was selected: shows its card of the hole on screen.
     void course_selected();
@@ -42,14 +42,14 @@ public:
     /// Shows the counts of the shots of the hole on screen.
     void show_summary(const hole_summary& summary);
 
-    /// Writes the boxes into the rows of a hole, stores what belongs to the round, and commits both.
-    /// `silent`: shows no message. Refuses without a date. Fails with `subscript`, before the commit, when
-    /// the list of round keys is full.
-    void save_round(int16 hole, bool silent);
+    /// Writes the boxes into the rows of the hole on screen, stores what belongs to the round, and commits
+    /// both. `silent`: shows no message. Refuses without a date. Fails with `subscript`, before the commit,
+    /// when the list of round keys is full.
+    void save_round(bool silent);
 
 private:
-    void show_hole_card(int16 hole);
-    void store_hole(int16 hole);
+    void show_hole_card();
+    void store_hole();
 
     const round_form& window_;
     hole_bar& holes_;

@@ -51,18 +51,18 @@ void ignore_wheel(QWidget& control)
 // The panes are made in the order in which Ctrl+F1 lists their keys.
 round_form::round_form(shot_rows& shots)
     : Form(u"f_new_round"),
-      panes_{*new hole_bar(*this),
-             *new page_bar(*this),
-             *new quick_page(*this),
-             *new statistics_pane(*this),
-             *new detailed_page(
-                 *this, shots,
-                 [this] {
-                     return hole_on_screen{date_value_, panes_.holes.listed_hole(), panes_.holes.card()};
-                 }),
-             *new parameters_pane(*this),
-             *new totals_pane,
-             shots}
+      panes_{
+          *new hole_bar(*this),
+          *new page_bar(*this),
+          *new quick_page(*this),
+          *new statistics_pane(*this),
+          *new detailed_page(*this, shots,
+                             [this] {
+                                 return hole_on_screen{date_value_, panes_.holes.hole(), panes_.holes.card()};
+                             }),
+          *new parameters_pane(*this),
+          *new totals_pane,
+          shots}
 {
     lay_out();
 }
