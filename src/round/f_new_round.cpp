@@ -38,10 +38,7 @@ void show_no_course()
 }  // namespace
 
 f_new_round::f_new_round(shot_rows& shots)
-    : round_form(shots),
-      boxes_(*this, panes()),
-      navigation_(*this, panes(), boxes_),
-      life_cycle_(*this, panes(), boxes_, navigation_)
+    : round_form(shots), entry_(*this, panes()), life_cycle_(*this, panes(), entry_)
 {
     connect_holes();
     connect_figures();
@@ -53,12 +50,12 @@ void f_new_round::connect_holes()
 {
     hole_bar& holes = panes().holes;
     page_bar& pages = panes().pages;
-    holes.set_before_tab_click([this] { return navigation_.hole_tab_before_click(); });
+    holes.set_before_tab_click([this] { return entry_.hole_tab_before_click(); });
     pages.set_before_tab_click([this] { return panes().detailed.finish_typing(); });
-    on_signal(holes, &hole_bar::list_changed, [this] { navigation_.hole_chosen(); });
-    on_signal(holes, &hole_bar::tab_clicked, [this] { navigation_.hole_tab_clicked(); });
-    on_signal(pages, &page_bar::tab_clicked, [this] { navigation_.page_changed(); });
-    on_signal(pages, &page_bar::shots_clicked, [this] { navigation_.open_shots_of_hole(); });
+    on_signal(holes, &hole_bar::list_changed, [this] { entry_.hole_chosen(); });
+    on_signal(holes, &hole_bar::tab_clicked, [this] { entry_.hole_tab_clicked(); });
+    on_signal(pages, &page_bar::tab_clicked, [this] { entry_.page_changed(); });
+    on_signal(pages, &page_bar::shots_clicked, [this] { entry_.open_shots_of_hole(); });
     on_signal(pages, &page_bar::putts_clicked, [this] { life_cycle_.report_putts(); });
 }
 
@@ -66,12 +63,12 @@ void f_new_round::connect_figures()
 {
     quick_page& quick = panes().quick;
     parameters_pane& parameters = panes().parameters;
-    on_signal(quick, &quick_page::figure_changed, [this] { boxes_.refresh_panel_from_boxes(); });
-    on_signal(quick, &quick_page::strokes_changed, [this] { boxes_.refresh_score(); });
+    on_signal(quick, &quick_page::figure_changed, [this] { entry_.refresh_panel_from_boxes(); });
+    on_signal(quick, &quick_page::strokes_changed, [this] { entry_.refresh_score(); });
     on_signal(quick, &quick_page::last_figure_typed, [this] { end_button(ok).setFocus(Qt::TabFocusReason); });
     on_signal(panes().detailed, &detailed_page::summarised,
-              [this](const hole_summary& summary) { boxes_.show_summary(summary); });
-    on_signal(parameters, &parameters_pane::course_changed, [this] { boxes_.course_selected(); });
+              [this](const hole_summary& summary) { entry_.show_summary(summary); });
+    on_signal(parameters, &parameters_pane::course_changed, [this] { entry_.course_selected(); });
     on_signal(parameters, &parameters_pane::costs_clicked, [this] { life_cycle_.show_costs(); });
 }
 
@@ -127,7 +124,7 @@ int16 f_new_round::last_hole() const
 
 void f_new_round::save_round(bool silent)
 {
-    boxes_.save_round(silent);
+    entry_.save_round(silent);
 }
 
 void f_new_round::ask_and_close(bool skip_prompt)

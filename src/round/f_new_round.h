@@ -5,8 +5,7 @@
 #include "base/counts.h"
 #include "round/detailed_page.h"
 #include "round/f_new_round_func.h"
-#include "round/hole_navigation.h"
-#include "round/round_boxes.h"
+#include "round/round_entry.h"
 #include "round/round_form.h"
 
 namespace verdane {
@@ -36,11 +35,11 @@ public:
     /// The tee-off dialog was cancelled.
     bool get_date_canceled() const { return life_cycle_.get_date_canceled(); }
     /// There is something to save.
-    bool needSave() const { return boxes_.needSave(); }
+    bool needSave() const { return entry_.needSave(); }
     /// List index (0 to 17) of the hole that was shown last.
     int16 last_hole() const;
 
-    /// `round_boxes` and `f_new_round_func` describe them.
+    /// `round_entry` and `f_new_round_func` describe them.
     void save_round(bool silent);
     void ask_and_close(bool skip_prompt);
 
@@ -63,8 +62,7 @@ private:
     void connect_figures();
     void connect_window();
 
-    round_boxes boxes_;
-    hole_navigation navigation_;
+    round_entry entry_;
     f_new_round_func life_cycle_;
 };
 

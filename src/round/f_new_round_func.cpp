@@ -10,10 +10,9 @@
 #include "reference/f_cost.h"
 #include "round/detailed_page.h"
 #include "round/hole_bar.h"
-#include "round/hole_navigation.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
-#include "round/round_boxes.h"
+#include "round/round_entry.h"
 #include "round/round_form.h"
 #include "round/round_record.h"
 #include "round/statistics_pane.h"
@@ -43,8 +42,7 @@ QMessageBox::StandardButton ask_to_save(const round_form& window)
 
 }  // namespace
 
-f_new_round_func::f_new_round_func(round_form& window, const round_panes& panes, round_boxes& boxes,
-                                   hole_navigation& navigation)
+f_new_round_func::f_new_round_func(round_form& window, const round_panes& panes, round_entry& entry)
     : window_(window),
       holes_(panes.holes),
       quick_(panes.quick),
@@ -52,8 +50,7 @@ f_new_round_func::f_new_round_func(round_form& window, const round_panes& panes,
       parameters_(panes.parameters),
       totals_(panes.totals),
       shots_(panes.shots),
-      boxes_(boxes),
-      navigation_(navigation)
+      entry_(entry)
 {
 }
 
@@ -99,7 +96,7 @@ void f_new_round_func::activate()
         ask_and_close(true);
         return;
     }
-    if (navigation_.on_detailed_page()) {
+    if (entry_.on_detailed_page()) {
         detailed_.enter_again();
         return;
     }
@@ -152,7 +149,7 @@ void f_new_round_func::report_putts()
     if (!detailed_.finish_typing())
         return;
     // A summary of a hole without shots would overwrite the figures of the quick page with zeros.
-    if (navigation_.on_detailed_page() && !detailed_.is_untouched())
+    if (entry_.on_detailed_page() && !detailed_.is_untouched())
         detailed_.finish_hole();
     const QString round =
         window_.caption(u"Ronde : ", u"Round : ") + holes_.date() + u' ' + parameters_.course();
@@ -165,7 +162,7 @@ void f_new_round_func::on_ok_cancel(int index)
 {
     if (!detailed_.finish_typing() || !detailed_.check_shots())
         return;
-    navigation_.return_to_quick_page();
+    entry_.return_to_quick_page();
     if (index == round_form::ok) {
         save_and_leave();
         return;
@@ -176,13 +173,13 @@ void f_new_round_func::on_ok_cancel(int index)
 
 void f_new_round_func::save_and_leave()
 {
-    boxes_.save_round(true);
+    entry_.save_round(true);
     detailed_.drop_blank_shot();
-    navigation_.hole_tab_before_click();
+    entry_.hole_tab_before_click();
     Unlock_menu();
     // The summary has changed the boxes after the first save.
     if (detailed_.isdetailed())
-        boxes_.save_round(true);
+        entry_.save_round(true);
     window_.unload();
 }
 
@@ -197,20 +194,20 @@ void f_new_round_func::on_close_box()
     if (!detailed_.finish_typing())
         return;
     if (detailed_.check_shots())
-        navigation_.return_to_quick_page();
+        entry_.return_to_quick_page();
     ask_and_close(false);
 }
 
 void f_new_round_func::ask_and_close(bool skip_prompt)
 {
-    if (!boxes_.needSave()) {
+    if (!entry_.needSave()) {
         window_.unload();
         return;
     }
     const auto answer = skip_prompt ? QMessageBox::No : ask_to_save(window_);
     if (answer == QMessageBox::Yes) {
-        boxes_.save_round(false);
-        if (!boxes_.needSave())
+        entry_.save_round(false);
+        if (!entry_.needSave())
             window_.unload();
     } else if (answer == QMessageBox::No) {
         round_record::drop_changes();

@@ -4,10 +4,9 @@ namespace verdane {
 
 class detailed_page;
 class hole_bar;
-class hole_navigation;
 class parameters_pane;
 class quick_page;
-class round_boxes;
+class round_entry;
 class round_form;
 class shot_rows;
 class totals_pane;
@@ -18,8 +17,7 @@ struct tee_off_moment;
 class f_new_round_func {
 public:
     /// The arguments must outlive the object.
-    f_new_round_func(round_form& window, const round_panes& panes, round_boxes& boxes,
-                     hole_navigation& navigation);
+    f_new_round_func(round_form& window, const round_panes& panes, round_entry& entry);
 
     /// True when the tee-off dialog was cancelled.
     bool get_date_canceled() const { return get_date_canceled_; }
@@ -62,8 +60,7 @@ private:
     parameters_pane& parameters_;
     totals_pane& totals_;
     shot_rows& shots_;
-    round_boxes& boxes_;
-    hole_navigation& navigation_;
+    round_entry& entry_;
     bool get_date_canceled_ = false;
     bool choosing_date_ = false;
 };

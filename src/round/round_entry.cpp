@@ -1,51 +1,63 @@
-#include "round/hole_navigation.h"
+#include "round/round_entry.h"
 
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
+#include "records/round_rows.h"
 #include "round/detailed_page.h"
 #include "round/hole_bar.h"
 #include "round/page_bar.h"
+#include "round/parameters_pane.h"
 #include "round/quick_page.h"
-#include "round/round_boxes.h"
 #include "round/round_form.h"
+#include "round/round_record.h"
 #include "round/statistics_pane.h"
+#include "scoring/hole_summary.h"
 #include "scoring/limits.h"
 
 namespace verdane {
 
 using namespace Qt::StringLiterals;
 
-hole_navigation::hole_navigation(round_form& window, const round_panes& panes, round_boxes& boxes)
+round_entry::round_entry(round_form& window, const round_panes& panes)
     : window_(window),
       holes_(panes.holes),
       pages_(panes.pages),
       quick_(panes.quick),
+      statistics_(panes.statistics),
       detailed_(panes.detailed),
+      parameters_(panes.parameters),
       totals_(panes.totals),
-      shots_(panes.shots),
-      boxes_(boxes)
+      shots_(panes.shots)
 {
 }
 
-bool hole_navigation::on_detailed_page() const
-{
-    return pages_.is_selected(round_page::detailed);
-}
-
-void hole_navigation::hole_selected()
+void round_entry::hole_selected()
 {
     const bool is_first = holes_.hole() == 0;
     if (!is_first)
-        boxes_.save_round(true);
+        save_round(true);
     const int16 hole = holes_.listed_hole();
     holes_.show_hole(hole);
-    boxes_.load_hole();
+    load_hole();
     totals_.setVisible(hole == hole_count);
     detailed_.show_finish_button(hole == hole_count);
-    boxes_.refresh_score();
+    refresh_score();
 }
 
-void hole_navigation::hole_chosen()
+void round_entry::load_hole()
+{
+    quick_.show_stored(Round_functions::read_hole(holes_.hole()));
+    show_hole_card();
+    refresh_panel(Round_functions::from_row);
+}
+
+/// From the current row of `rsfield_info`.
+void round_entry::show_hole_card()
+{
+    holes_.show_card(Round_functions::read_hole_card(holes_.hole()));
+}
+
+void round_entry::hole_chosen()
 {
     const int16 chosen = holes_.listed_hole();
     if (!on_detailed_page() || chosen == holes_.hole()) {
@@ -56,7 +68,7 @@ void hole_navigation::hole_chosen()
     holes_.click_tab(plain(chosen));
 }
 
-bool hole_navigation::hole_tab_before_click()
+bool round_entry::hole_tab_before_click()
 {
     if (on_detailed_page())
         return may_leave_shots();
@@ -66,7 +78,7 @@ bool hole_navigation::hole_tab_before_click()
 
 /// Checks twice and uses only the second result, that of `drop_blank_shot`. A blank first shot is reported
 /// and removed, and the hole changes. An incomplete later shot is reported twice.
-bool hole_navigation::may_leave_shots()
+bool round_entry::may_leave_shots()
 {
     if (!detailed_.finish_typing())
         return false;
@@ -75,7 +87,7 @@ bool hole_navigation::may_leave_shots()
     return detailed_.drop_blank_shot().shots_complete.value_or(true);
 }
 
-void hole_navigation::hole_tab_clicked()
+void round_entry::hole_tab_clicked()
 {
     // Without `list_changed`: a click on the tab of the hole on screen does not change the list, but saves
     // the boxes, too. So `hole_selected` is called below in every case.
@@ -88,7 +100,12 @@ void hole_navigation::hole_tab_clicked()
     quick_.select_first_box();
 }
 
-void hole_navigation::page_changed()
+bool round_entry::on_detailed_page() const
+{
+    return pages_.is_selected(round_page::detailed);
+}
+
+void round_entry::page_changed()
 {
     if (closingoK_ || !on_detailed_page())
         leave_detailed_page();
@@ -96,7 +113,7 @@ void hole_navigation::page_changed()
         show_detailed_page();
 }
 
-void hole_navigation::leave_detailed_page()
+void round_entry::leave_detailed_page()
 {
     if (detailed_.isHidden())
         pages_.select(round_page::quick);
@@ -104,7 +121,7 @@ void hole_navigation::leave_detailed_page()
         show_quick_page();
 }
 
-void hole_navigation::show_quick_page()
+void round_entry::show_quick_page()
 {
     if (!detailed_.drop_blank_shot().removed)
         detailed_.summarise_hole();
@@ -115,7 +132,7 @@ void hole_navigation::show_quick_page()
     quick_.focus_first_box();
 }
 
-void hole_navigation::show_detailed_page()
+void round_entry::show_detailed_page()
 {
     shots_.commit();
     window_.show_page(round_page::detailed);
@@ -132,7 +149,7 @@ void hole_navigation::show_detailed_page()
     detailed_.focus_club();
 }
 
-void hole_navigation::open_shots_of_hole()
+void round_entry::open_shots_of_hole()
 {
     if (!detailed_.finish_typing())
         return;
@@ -149,12 +166,69 @@ void hole_navigation::open_shots_of_hole()
     show_detailed_page();
 }
 
-void hole_navigation::return_to_quick_page()
+void round_entry::return_to_quick_page()
 {
     if (!on_detailed_page())
         return;
     closingoK_ = true;
     page_changed();
+}
+
+void round_entry::course_selected()
+{
+    round_record::move_to_course_and_holes(parameters_.course_index());
+    show_hole_card();
+    refresh_panel_from_boxes();
+}
+
+void round_entry::refresh_panel(const Round_functions::figure_source& figures)
+{
+    needSave_ = true;
+    const int16 hole = holes_.hole();
+    statistics_.show_hole(Round_functions::figures_from_source(hole, figures),
+                          Round_functions::hole_par(hole));
+}
+
+void round_entry::refresh_panel_from_boxes()
+{
+    refresh_panel(quick_.figures());
+}
+
+void round_entry::refresh_score()
+{
+    totals_.show_round(Round_functions::labels_of(Round_functions::round_score(quick_.figures())));
+}
+
+void round_entry::show_summary(const hole_summary& summary)
+{
+    quick_.show_counted(summary.counts);
+}
+
+void round_entry::save_round(bool silent)
+{
+    if (holes_.date().isEmpty()) {
+        show_information(window_.caption(u"Veuillez d'abord choisir la date de la ronde.",
+                                         u"Please select a round's date first."),
+                         QMessageBox::Critical);
+        return;
+    }
+    store_hole();
+    round_record::store_and_commit(
+        window_.date_value(),
+        {parameters_.course_index(), parameters_.weather_index(), parameters_.temperature()});
+    needSave_ = false;
+    if (!silent)
+        show_information(window_.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
+}
+
+void round_entry::store_hole()
+{
+    const int16 hole = holes_.hole();
+    const hole_figures figures = quick_.figures();
+    Round_functions::store_strokes(hole, figures);
+    Round_functions::store_penalties(hole, figures);
+    round_record::store_partners(parameters_.selected_partners());
+    Round_functions::store_situation(hole, quick_.situation());
 }
 
 void enable_save_and_close(bool enabled)
