@@ -29,36 +29,6 @@ constexpr int number_of(round_page page)
     return static_cast<int>(page);
 }
 
-void click_hole(hole_bar& holes, int hole)
-{
-    if (hole < 1 || hole > hole_count)
-        ring_bell();
-    else
-        holes.click_tab(hole);
-}
-
-enum class tab_key { none, next_hole, previous_hole, quick_page, detailed_page };
-
-/// On a French keyboard the keys of 1 and 2 are those of & and é.
-tab_key meaning_of(const QKeyEvent& event)
-{
-    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    switch (QKeyCombination(modifiers, static_cast<Qt::Key>(event.key())).toCombined()) {
-    case shortcut_table::next_hole.keys.toCombined():
-        return tab_key::next_hole;
-    case shortcut_table::previous_hole.keys.toCombined():
-        return tab_key::previous_hole;
-    case shortcut_table::quick_page.keys.toCombined():
-    case (Qt::CTRL | Qt::Key_Ampersand).toCombined():
-        return tab_key::quick_page;
-    case shortcut_table::detailed_page.keys.toCombined():
-    case (Qt::CTRL | Qt::Key_Eacute).toCombined():
-        return tab_key::detailed_page;
-    default:
-        return tab_key::none;
-    }
-}
-
 /// Handles the keys before the controls do: lists and boxes with arrows use PageDown and PageUp themselves.
 class tab_key_filter : public QObject {
 public:
@@ -76,33 +46,42 @@ public:
         if (!control || control->window() != &window_)
             return false;
         const auto& pressed = *static_cast<QKeyEvent*>(event);
-        const tab_key key = meaning_of(pressed);
+        const std::function<void()> action = action_of(pressed);
         // A key that is held down acts once: each change of hole uses one of the limited places for round
         // keys.
-        if (key != tab_key::none && !pressed.isAutoRepeat())
-            run_event([&] { act_on(key); });
-        return key != tab_key::none;
+        if (action && !pressed.isAutoRepeat())
+            run_event(action);
+        return action != nullptr;
     }
 
 private:
-    void act_on(tab_key key)
+    /// Empty for a key that this filter does not handle. On a French keyboard the keys of 1 and 2 are those
+    /// of & and é.
+    std::function<void()> action_of(const QKeyEvent& event) const
     {
-        switch (key) {
-        case tab_key::next_hole:
-            click_hole(holes_, holes_.selected_tab() + 1);
-            break;
-        case tab_key::previous_hole:
-            click_hole(holes_, holes_.selected_tab() - 1);
-            break;
-        case tab_key::quick_page:
-            pages_.click(round_page::quick);
-            break;
-        case tab_key::detailed_page:
-            pages_.click(round_page::detailed);
-            break;
-        case tab_key::none:
-            break;
+        const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+        switch (QKeyCombination(modifiers, static_cast<Qt::Key>(event.key())).toCombined()) {
+        case shortcut_table::next_hole.keys.toCombined():
+            return [this] { click_hole(holes_.selected_tab() + 1); };
+        case shortcut_table::previous_hole.keys.toCombined():
+            return [this] { click_hole(holes_.selected_tab() - 1); };
+        case shortcut_table::quick_page.keys.toCombined():
+        case (Qt::CTRL | Qt::Key_Ampersand).toCombined():
+            return [this] { pages_.click(round_page::quick); };
+        case shortcut_table::detailed_page.keys.toCombined():
+        case (Qt::CTRL | Qt::Key_Eacute).toCombined():
+            return [this] { pages_.click(round_page::detailed); };
+        default:
+            return nullptr;
         }
+    }
+
+    void click_hole(int hole) const
+    {
+        if (hole < 1 || hole > hole_count)
+            ring_bell();
+        else
+            holes_.click_tab(hole);
     }
 
     Form& window_;
