@@ -52,7 +52,7 @@ void f_new_round::connect_holes()
     page_bar& pages = panes().pages;
     holes.set_before_tab_click([this] { return entry_.hole_tab_before_click(); });
     pages.set_before_tab_click([this] { return panes().detailed.finish_typing(); });
-    on_signal(holes, &hole_bar::list_changed, [this] { entry_.hole_chosen(); });
+    on_signal(holes, &hole_bar::list_changed, [this] { entry_.hole_list_changed(); });
     on_signal(holes, &hole_bar::tab_clicked, [this] { entry_.hole_tab_clicked(); });
     on_signal(pages, &page_bar::tab_clicked, [this] { entry_.page_changed(); });
     on_signal(pages, &page_bar::shots_clicked, [this] { entry_.open_shots_of_hole(); });

@@ -32,8 +32,7 @@ public:
 
     /// The hole on screen; 0 before the first one is shown.
     int16 hole() const { return hole_; }
-    /// Makes a hole the one on screen and shows its number, also in the tabs. The list has it selected
-    /// before, or is not filled.
+    /// Makes a hole the one on screen: shows its number and selects its tab. The list does not change.
     void show_hole(int16 hole);
 
     /// The row of tabs, which the window places above its other content.

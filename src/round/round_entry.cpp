@@ -57,7 +57,7 @@ void round_entry::show_hole_card()
     holes_.show_card(Round_functions::read_hole_card(holes_.hole()));
 }
 
-void round_entry::hole_chosen()
+void round_entry::hole_list_changed()
 {
     const int16 chosen = holes_.listed_hole();
     if (!on_detailed_page() || chosen == holes_.hole()) {

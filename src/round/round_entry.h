@@ -28,7 +28,7 @@ public:
     void hole_selected();
     /// The list of holes changed. On the detailed page this is a click on the tab of the hole, so that the
     /// shots are checked and summarised first.
-    void hole_chosen();
+    void hole_list_changed();
     /// Runs before a click on a hole tab is accepted; false keeps the selected tab. Also the last step before
     /// the window closes by OK.
     bool hole_tab_before_click();

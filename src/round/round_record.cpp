@@ -68,6 +68,16 @@ void commit_and_find(Recordset& recordset, const QString& key)
     find_round(recordset, key);
 }
 
+void commit_and_find_all(const QString& key)
+{
+    DataEnvironment1& store = data_environment();
+    for (Recordset* recordset : {&store.rsgames, &store.rsgames2, &store.rscost})
+        commit_and_find(*recordset, key);
+    find_first(store.rsvrd_fields, by_code, store.rsgames.Fields(games::CODEF).trimmed());
+    if (store.rscost.eof())
+        store_cost_row(key);
+}
+
 /// A column without a value is left out of the text.
 partner_line line_of_current_partner(Recordset& partners)
 {
@@ -212,40 +222,12 @@ void store_round_header(const round_parameters& parameters)
     store.rsgames.Update();
 }
 
-void commit(const QString& key)
-{
-    DataEnvironment1& store = data_environment();
-    for (Recordset* recordset : {&store.rsgames, &store.rsgames2, &store.rscost})
-        commit_and_find(*recordset, key);
-    find_course(store.rsgames.Fields(games::CODEF).trimmed());
-    if (store.rscost.eof())
-        store_cost_row(key);
-}
-
 void store_and_commit(const QString& key, const round_parameters& parameters)
 {
     joined_commits together(data_environment().connection);
     store_round_header(parameters);
-    commit(key);
+    commit_and_find_all(key);
     together.finish();
-}
-
-void drop_changes()
-{
-    DataEnvironment1& store = data_environment();
-    store.rsgames.CancelUpdate();
-    store.rsgames2.CancelUpdate();
-    store.rscost.CancelUpdate();
-}
-
-void close_tables()
-{
-    DataEnvironment1& store = data_environment();
-    store.rsgames2.Update();
-    // If the round could not be loaded, some of them are closed.
-    for (Recordset* recordset : {&store.rsgames2, &store.rsvrd_fields, &store.rscost, &store.rspartners,
-                                 &store.rsgames, &store.rsfield_info})
-        close_if_open(*recordset);
 }
 
 std::vector<listed_course> walk_courses()
@@ -269,6 +251,24 @@ std::vector<partner_line> open_and_walk_partners()
     for (partners.MoveFirst(); !partners.eof(); partners.MoveNext())
         lines.push_back(line_of_current_partner(partners));
     return lines;
+}
+
+void drop_changes()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames.CancelUpdate();
+    store.rsgames2.CancelUpdate();
+    store.rscost.CancelUpdate();
+}
+
+void close_tables()
+{
+    DataEnvironment1& store = data_environment();
+    store.rsgames2.Update();
+    // If the round could not be loaded, some of them are closed.
+    for (Recordset* recordset : {&store.rsgames2, &store.rsvrd_fields, &store.rscost, &store.rspartners,
+                                 &store.rsgames, &store.rsfield_info})
+        close_if_open(*recordset);
 }
 
 }  // namespace verdane::round_record

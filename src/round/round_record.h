@@ -89,11 +89,9 @@ struct round_parameters {
 /// when that list is full.
 void store_round_header(const round_parameters& parameters);
 
-/// Commits the three rows and finds them again. Adds the row of costs if there is none.
-void commit(const QString& key);
-
-/// `store_round_header` and `commit` in one commit: if the process is killed, the store has all rows of the
-/// round or none, and the old figures of a hole or the new ones.
+/// `store_round_header`, then commits the three rows, finds them again, and adds the row of costs if there is
+/// none. All of this is one commit: if the process is killed, the store has all rows of the round or none,
+/// and the old figures of a hole or the new ones.
 void store_and_commit(const QString& key, const round_parameters& parameters);
 
 /// Moves through the rows of `rsvrd_fields` to its end and returns one line for each.
