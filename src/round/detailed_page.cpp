@@ -28,7 +28,7 @@ detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_o
     setObjectName(u"Framedet"_s);
     name_control(*grid_, title());
     grid_->set_up_columns();
-    // While the grid is hidden for a moment, nothing else moves.
+    // The grid keeps its space while it is hidden, so that no other control moves.
     QSizePolicy policy = grid_->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     grid_->setSizePolicy(policy);

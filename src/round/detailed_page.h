@@ -26,8 +26,8 @@ struct blank_shot {
     std::optional<bool> shots_complete;
 };
 
-/// Shot-by-shot entry: the grid of shots and its commands. The rules are in `shot_entry`; the page runs them,
-/// shows their results and the messages.
+/// Shot-by-shot entry: the grid of shots and its commands. `shot_entry` changes the rows; the page calls it
+/// and shows the results and the messages.
 class detailed_page : public QGroupBox {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ public:
     /// Unbinds the grid from its rows.
     void unbind();
 
-    /// Loads the shots of the hole on screen into the grid; a hole without shots gets a blank one. Shows a
+    /// Loads the shots of the hole on screen into the grid; a hole without shots gets a blank shot. Shows a
     /// message and returns false as long as the round has no date.
     bool open_hole_shots();
 
@@ -71,11 +71,11 @@ public:
     /// the shots.
     blank_shot drop_blank_shot();
 
-    /// Adds a shot after the last one. Shows a message as long as that one lacks club, kind or distance.
+    /// Adds a shot after the last one. If the last one lacks club, kind or distance, shows a message instead.
     void next_shot();
     /// Removes the shot under the cursor.
     void remove_shot();
-    /// Removes a blank first shot and summarises the hole; a hole without shots gets a blank one.
+    /// Removes a blank first shot and summarises the hole; a hole without shots gets a blank shot.
     void finish_hole();
     /// Counts the shots of the hole on screen and reports the figures (`summarised`).
     void summarise_hole();

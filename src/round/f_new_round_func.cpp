@@ -70,7 +70,7 @@ void f_new_round_func::load()
     parameters_.show_weather(0);
     holes_.clear_date();
     unload_round_list();
-    // Closing the list has unlocked the menu.
+    // The list unlocks the menu when it is closed.
     Lock_menu();
 }
 

@@ -47,8 +47,8 @@ public:
             return false;
         const auto& pressed = *static_cast<QKeyEvent*>(event);
         const std::function<void()> action = action_of(pressed);
-        // A key that is held down acts once: each change of hole uses one of the limited places for round
-        // keys.
+        // A key that is held down acts once: each change of the hole saves the round, and each save adds an
+        // entry to `round_keys`, whose length is limited.
         if (action && !pressed.isAutoRepeat())
             run_event(action);
         return action != nullptr;

@@ -5,8 +5,8 @@
 
 namespace verdane {
 
-/// The drop-down list of courses. An entry has the course's name, blanks and the tee. The blanks are so many
-/// that the closed box does not show the tee; the open list shows name and tee without them.
+/// The drop-down list of courses. An entry has the course's name, blanks and the tee. With the blanks the
+/// tee is outside the closed box. The open list shows name and tee without them.
 class course_box : public QComboBox {
 public:
     explicit course_box(QWidget* parent = nullptr);

@@ -24,8 +24,8 @@ public:
     /// Shows the counts of a stored hole: strokes, penalties, then the situation. Each change is reported
     /// before the next box is set.
     void show_stored(const hole_counts& counts);
-    /// Shows what was counted from shots: penalties, situation, then strokes. In this order all
-    /// penalties are set when a change of the strokes is reported.
+    /// Shows what was counted from shots: penalties, situation, then strokes. The strokes are last because a
+    /// change of them is reported, and all penalties must be set by then.
     void show_counted(const hole_counts& counts);
 
     /// Strokes and penalties; an empty box is 0. Fails with `overflow` beyond 16 bits.

@@ -41,7 +41,8 @@ namespace round_record {
 /// True when there is a course. The recordset of the courses is closed, also afterwards.
 bool any_course();
 
-/// Opens the recordsets that the list of rounds has opened when it opens a stored round.
+/// Opens `rsgames` and `rsfield_info` for a round that is not opened or added from the list of rounds. That
+/// list has them open.
 void open_games_and_field_info();
 
 /// Opens `rsgames2` and `rscost` and adds a row to each table of rounds, without a key. Nothing is committed.

@@ -39,8 +39,8 @@ public:
 
     bool hole_is_loaded() const;
 
-    /// Loads the shots of the hole on screen. A hole without shots gets a blank one. Shots that cannot be
-    /// opened leave no rows.
+    /// Loads the shots of the hole on screen. A hole without shots gets a blank shot. If the shots cannot be
+    /// opened, there are no rows afterwards.
     void load_hole();
     /// Adds the blank first shot of a hole that has no shots.
     void add_first_shot();
