@@ -2,12 +2,14 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <cstdlib>
 #include <optional>
 
-#include "base/failure_words.h"
+#include "base/failure_text.h"
 #include "controls/boxes.h"
 #include "controls/interface_language.h"
+#include "controls/shown_subject.h"
 #include "store/DataEnvironment1.h"
 #include "store/recovery/copy_days.h"
 
@@ -17,26 +19,44 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The newest dated copy of the store if it is a file; empty if there is none.
-QString newest_copy(const store_location& store)
+QString in_both_if_unknown(const QString& french, const QString& english, QStringView separator = u"\n\n")
+{
+    return in_known_language({french, english}, separator);
+}
+
+QString line_of_copy(const text_pair& words, const store_location& store, QDate day)
+{
+    const QString path = QDir::toNativeSeparators(path_of_copy(store.name, day));
+    return u"\n\n" + in_both_if_unknown(words.in(true).arg(path), words.in(false).arg(path), u"\n");
+}
+
+/// Which dated copies of a damaged file can be put back; empty if there is none. A copy of a day after today
+/// is newer only if the clock was right when it was made, so it is named apart.
+QString lines_of_copies(const store_location& store)
 {
     if (store.where != store_location::place::file)
         return {};
     const std::vector<QDate> days = days_of_copies(store.name);
-    return days.empty() ? QString() : QDir::toNativeSeparators(path_of_copy(store.name, days.back()));
+    const auto later = std::upper_bound(days.begin(), days.end(), QDate::currentDate());
+    QString lines;
+    if (later != days.begin())
+        lines +=
+            line_of_copy({u"La copie la plus récente : %1", u"The newest copy: %1"}, store, *(later - 1));
+    if (later != days.end())
+        lines += line_of_copy({u"Une copie porte une date future (l'horloge de l'ordinateur était ou est "
+                               u"fausse) : %1",
+                               u"A copy has a date in the future (the clock of the computer was or is "
+                               u"wrong): %1"},
+                              store, days.back());
+    return lines;
 }
 
-/// What the user reads; for a damaged file also which copy can be put back.
 QString words_of(const run_time_failure& failure)
 {
-    const QString words = in_known_language(failure_words(failure.kind()));
-    const QString copy = failure.kind() == failure_kind::store_damaged
-                             ? newest_copy(data_environment().connection.location())
-                             : QString();
-    if (copy.isEmpty())
+    const QString words = in_both_if_unknown(failure_text(failure, true), failure_text(failure, false));
+    if (failure.kind() != failure_kind::store_damaged)
         return words;
-    const text_pair newest{u"La copie la plus récente : %1", u"The newest copy: %1"};
-    return words + u"\n\n" + in_known_language(newest, u"\n").arg(copy);
+    return words + lines_of_copies(data_environment().connection.location());
 }
 
 /// The first loss of the connection that was ignored.
@@ -57,7 +77,7 @@ void show(const run_time_failure& failure)
 
 void end_after_failure(const run_time_failure& failure)
 {
-    show(failure);
+    show(with_subject(failure, subject_on_screen));
     data_environment().abandon();
     std::_Exit(EXIT_FAILURE);
 }

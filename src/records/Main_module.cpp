@@ -1,5 +1,8 @@
 #include "records/Main_module.h"
 
+#include <QSet>
+
+#include "base/failure_subject.h"
 #include "base/text.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
@@ -8,6 +11,21 @@
 namespace verdane {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Appends a key. If the list is full, the failure names it as that list.
+void append_to(limited_list list, const QString& key)
+{
+    using namespace Main_module;
+    concerning([list] { return failure_subject{.list = list}; },
+               [&key] {
+                   round_keys[plain(round_key_count)] = key;
+                   round_key_count = round_key_count + 1;
+               });
+}
+
+}  // namespace
 
 namespace Main_module {
 
@@ -18,8 +36,20 @@ bool club_names_kept = true;
 
 void append_round_key(const QString& key)
 {
-    round_keys[plain(round_key_count)] = key;
-    round_key_count = round_key_count + 1;
+    append_to(limited_list::round_keys, key);
+}
+
+int places_left()
+{
+    return most_rounds - plain(round_key_count);
+}
+
+int rounds_with_key()
+{
+    QSet<QString> keys;
+    for (int index = 0; index < plain(round_key_count); ++index)
+        keys.insert(round_keys[index]);
+    return static_cast<int>(keys.size());
 }
 
 void load_club_names()
@@ -43,7 +73,7 @@ void load_round_keys()
     rsgames.Open();
     if (!rsgames.eof()) {
         for (rsgames.MoveFirst(); !rsgames.eof(); rsgames.MoveNext())
-            append_round_key(rsgames.Fields(only_column).trimmed());
+            append_to(limited_list::stored_rounds, rsgames.Fields(only_column).trimmed());
     }
     rsgames.Close();
 }
@@ -54,11 +84,14 @@ bool Verdane_tools::key_free(QStringView key)
 {
     const QStringView wanted = trimmed_blanks(key);
     bool result = true;
-    // This includes the first unused entry, so a full list fails.
-    for (int index = 0; index <= plain(Main_module::round_key_count); ++index) {
-        if (Main_module::round_keys[index] == wanted)
-            result = false;
-    }
+    concerning([] { return failure_subject{.list = limited_list::round_keys}; },
+               [&] {
+                   // This includes the first unused entry, so a full list fails.
+                   for (int index = 0; index <= plain(Main_module::round_key_count); ++index) {
+                       if (Main_module::round_keys[index] == wanted)
+                           result = false;
+                   }
+               });
     return result;
 }
 

@@ -29,6 +29,11 @@ extern bool club_names_kept;
 /// Appends a key. Fails with `subscript` if the list is full.
 void append_round_key(const QString& key);
 
+/// How many more keys the list can take; each save of a round takes one place.
+int places_left();
+/// How many different rounds have a key in the list.
+int rounds_with_key();
+
 /// Copies the names of the 14 clubs from the store to `club_names`.
 void load_club_names();
 

@@ -1,5 +1,6 @@
 #include "records/Round_functions.h"
 
+#include "base/failure_subject.h"
 #include "base/numbers.h"
 #include "scoring/hole_classes.h"
 #include "scoring/limits.h"
@@ -28,7 +29,8 @@ void add_holes(round_totals& totals, const figure_source& last_hole)
 {
     for (int16 hole = 1; hole <= hole_count; ++hole) {
         const int16 gross = hole < hole_count ? hole_gross(hole, from_row) : hole_gross(hole, last_hole);
-        totals.add_hole(gross, hole_par(hole));
+        concerning([&hole] { return failure_subject{.hole = plain(hole)}; },
+                   [&] { totals.add_hole(gross, hole_par(hole)); });
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/failure_subject.h"
 #include "base/text.h"
 #include "store/Recordset.h"
 #include "store/tables/courses.h"
@@ -23,8 +24,11 @@ QString without_tee_mark(const QString& text)
 
 void keep_course_key(int index, Recordset& rsvrd_fields)
 {
-    course_keys[index] = {rsvrd_fields.Fields(tables::vrd_fields::name_tee).trimmed(),
-                          rsvrd_fields.Fields(tables::vrd_fields::code).trimmed()};
+    concerning([] { return failure_subject{.list = limited_list::courses}; },
+               [&] {
+                   course_keys[index] = {rsvrd_fields.Fields(tables::vrd_fields::name_tee).trimmed(),
+                                         rsvrd_fields.Fields(tables::vrd_fields::code).trimmed()};
+               });
 }
 
 void rebuild_course_keys(Recordset& rsvrd_fields)

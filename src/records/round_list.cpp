@@ -1,7 +1,9 @@
 #include "records/round_list.h"
 
+#include "base/failure_subject.h"
 #include "base/text.h"
 #include "records/round_rows.h"
+#include "records/round_subject.h"
 #include "scoring/round_key.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/games.h"
@@ -40,7 +42,7 @@ QStringList round_list_lines(course_names names)
     if (games.eof())
         return lines;
     for (games.MoveFirst(); !games.eof(); games.MoveNext())
-        lines << line_of_current_row(games, names);
+        concerning(subject_of_current_round, [&] { lines << line_of_current_row(games, names); });
     return lines;
 }
 

@@ -1,5 +1,6 @@
 #include "records/round_rows.h"
 
+#include "base/failure_subject.h"
 #include "records/course_rows.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/cost.h"
@@ -40,6 +41,13 @@ int checked_hole(int16 hole)
     if (h < 1 || h > hole_count)
         throw run_time_failure(failure_kind::misuse, u"hole %1 of a round"_s.arg(h));
     return h;
+}
+
+/// Reads figures of a hole; a failure names the hole.
+template <typename Reading>
+auto in_hole(int16 hole, Reading read)
+{
+    return concerning([hole] { return failure_subject{.hole = plain(hole)}; }, read);
 }
 
 }  // namespace
@@ -112,26 +120,31 @@ void store_putt_lengths(int16 hole, const std::array<int16, putt_lengths_kept>& 
 
 hole_figures figures_from_row(int16 hole)
 {
-    return {read_strokes(hole), read_penalties(hole)};
+    return in_hole(hole, [hole]() -> hole_figures { return {read_strokes(hole), read_penalties(hole)}; });
 }
 
 hole_counts read_hole(int16 hole)
 {
-    hole_counts counts{figures_from_row(hole), read_situation(hole)};
-    counts.recovery = in_games2(games2::recovery_h(checked_hole(hole))).to_int16();
-    return counts;
+    return in_hole(hole, [hole] {
+        hole_counts counts{figures_from_row(hole), read_situation(hole)};
+        counts.recovery = in_games2(games2::recovery_h(checked_hole(hole))).to_int16();
+        return counts;
+    });
 }
 
 int16 hole_par(int16 hole)
 {
-    return in_field_info(field_info::par_h(checked_hole(hole))).to_int16();
+    return in_hole(hole, [hole] { return in_field_info(field_info::par_h(checked_hole(hole))).to_int16(); });
 }
 
 hole_card read_hole_card(int16 hole)
 {
     const int h = checked_hole(hole);
-    return {in_field_info(field_info::yards_h(h)).to_int16(), in_field_info(field_info::hcp_h(h)).to_int16(),
-            in_field_info(field_info::par_h(h)).to_int16()};
+    return in_hole(hole, [h]() -> hole_card {
+        return {in_field_info(field_info::yards_h(h)).to_int16(),
+                in_field_info(field_info::hcp_h(h)).to_int16(),
+                in_field_info(field_info::par_h(h)).to_int16()};
+    });
 }
 
 bool round_incomplete()

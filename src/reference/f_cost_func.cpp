@@ -1,8 +1,10 @@
 #include "reference/f_cost_func.h"
 
 #include "base/counts.h"
+#include "base/failure_subject.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "records/round_subject.h"
 #include "reference/f_cost.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/cost.h"
@@ -14,6 +16,11 @@ namespace {
 Field stored_amount(int index)
 {
     return data_environment().rscost.Fields(tables::cost::first_amount + index);
+}
+
+failure_subject round_of_costs()
+{
+    return Round_functions::subject_of_round(data_environment().rscost.Fields(tables::cost::date).trimmed());
 }
 
 /// The total of the twelve boxes, rounded box by box.
@@ -40,7 +47,8 @@ void box_changed(f_cost& window, int index)
         window.show_zero(index);
         return;
     }
-    window.show_total(QString::number(plain(total(window))));
+    const int16 sum = concerning(round_of_costs, [&window] { return total(window); });
+    window.show_total(QString::number(plain(sum)));
 }
 
 key_answer box_key(const f_cost& window, int index, QChar key)

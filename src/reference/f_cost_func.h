@@ -20,7 +20,7 @@ constexpr int amount_digits = 4;
 void load(f_cost& window);
 
 /// The text of `cost(index)` changed: an empty box is set to "0", and the total is computed again. Fails
-/// with `overflow` when the total exceeds 16 bits.
+/// with `overflow`, which names the round, when the total exceeds 16 bits.
 void box_changed(f_cost& window, int index);
 
 /// A key typed into `cost(index)`: up to four digits pass.

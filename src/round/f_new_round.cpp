@@ -4,9 +4,11 @@
 
 #include <algorithm>
 
+#include "base/failure_subject.h"
 #include "base/language.h"
 #include "controls/boxes.h"
 #include "controls/events.h"
+#include "records/round_subject.h"
 #include "round/hole_bar.h"
 #include "round/parameters_pane.h"
 #include "round/quick_page.h"
@@ -163,6 +165,16 @@ void f_new_round::saveShots()
     panes().shots.commit_all();
 }
 
+failure_subject f_new_round::shown_subject() const
+{
+    // A stored round is loaded before the window has its key.
+    if (date_value().isEmpty())
+        return Round_functions::subject_of_current_round();
+    return {.round = Verdane_tools::key_text(date_value()),
+            .course = panes().parameters.course(),
+            .hole = plain(panes().holes.hole())};
+}
+
 void f_new_round::activated()
 {
     life_cycle_.activate();
@@ -202,9 +214,12 @@ void open_stored_round(const QString& key)
     round_record::open_rows(key);
     shot_rows shots;
     shots.open_hole(key, first_hole);
-    f_new_round window(shots);
-    window.show_stored_round(key);
-    window.show_modal();
+    concerning([&key] { return Round_functions::subject_of_round(key); },
+               [&] {
+                   f_new_round window(shots);
+                   window.show_stored_round(key);
+                   window.show_modal();
+               });
 }
 
 void load_round_header(f_new_round& window)

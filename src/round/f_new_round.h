@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "base/counts.h"
+#include "controls/shown_subject.h"
 #include "round/detailed_page.h"
 #include "round/f_new_round_func.h"
 #include "round/round_entry.h"
@@ -19,7 +20,7 @@ struct round_header;
 /// and the boxes show one hole. Their figures are written when the hole is left or the round is saved.
 /// The constructor loads the round; `rsgames`, `rsgames2`, `rscost`, `rsvrd_fields` and `rsfield_info` are
 /// open before, and are closed with the window. The list of rounds is closed, too.
-class f_new_round : public round_form {
+class f_new_round : public round_form, public shows_subject {
 public:
     /// `shots` must outlive the window.
     explicit f_new_round(shot_rows& shots);
@@ -51,6 +52,9 @@ public:
     blank_shot drop_blank_shot();
     /// Commits all shots that are not committed yet.
     void saveShots();
+
+    /// The round and the hole on screen.
+    failure_subject shown_subject() const override;
 
 protected:
     void activated() override;

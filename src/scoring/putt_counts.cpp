@@ -1,5 +1,7 @@
 #include "scoring/putt_counts.h"
 
+#include "base/failure_subject.h"
+
 namespace verdane {
 
 namespace {
@@ -45,7 +47,8 @@ putt_counts scan_round_putts(const putt_length_at& length)
 {
     putt_counts counts;
     for (int h = 1; h <= hole_count; ++h)
-        scan_hole(counts, putt_lengths_kept * (h - 1), length);
+        concerning([h] { return failure_subject{.list = limited_list::putts_of_a_hole, .hole = h}; },
+                   [&] { scan_hole(counts, putt_lengths_kept * (h - 1), length); });
     return counts;
 }
 

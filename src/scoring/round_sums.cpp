@@ -1,10 +1,16 @@
 #include "scoring/round_sums.h"
 
+#include "base/failure_subject.h"
 #include "scoring/limits.h"
 
 namespace verdane {
 
 void round_sums::add_hole(int h, const played_hole& hole)
+{
+    concerning([h] { return failure_subject{.hole = h}; }, [&] { add_figures(h, hole); });
+}
+
+void round_sums::add_figures(int h, const played_hole& hole)
 {
     const int16 gross = hole_gross(hole);
     strokes[h].add(gross);

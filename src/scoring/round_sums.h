@@ -47,9 +47,11 @@ struct round_sums {
     checked_array<by_hole<tally>, highest_par - lowest_par + 1, lowest_par> averaged;
 
     void add_round() { rounds = rounds + 1; }
+    /// A failure names the hole.
     void add_hole(int h, const played_hole& hole);
 
 private:
+    void add_figures(int h, const played_hole& hole);
     void add_classes(int h, const played_hole& hole);
 };
 

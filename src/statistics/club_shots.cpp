@@ -1,5 +1,7 @@
 #include "statistics/club_shots.h"
 
+#include "base/failure_subject.h"
+#include "records/round_subject.h"
 #include "scoring/words.h"
 #include "statistics/column_places.h"
 #include "store/DataEnvironment1.h"
@@ -22,6 +24,7 @@ constexpr std::u16string_view columns =
 /// The ordinals in this list, which differ from those of the table.
 enum column {
     date = place_in(columns, u"date"),
+    hole = place_in(columns, u"hole"),
     before = place_in(columns, u"before"),
     after = place_in(columns, u"after"),
     beyong_hole = place_in(columns, u"beyong_hole"),
@@ -60,6 +63,12 @@ club_shot read_shot(Recordset& shots)
     return shot;
 }
 
+failure_subject subject_of_shot(Recordset& shots)
+{
+    return Round_functions::subject_of_round(shots.Fields(date).trimmed(),
+                                             plain(shots.Fields(hole).int16_or_zero()));
+}
+
 gathered_shots add_up(Recordset& shots)
 {
     gathered_shots gathered;
@@ -71,8 +80,11 @@ gathered_shots add_up(Recordset& shots)
             gathered.rounds = gathered.rounds + 1;
             previous = round;
         }
-        const club_shot shot = read_shot(shots);
-        gathered.clubs[plain(shot.club)].add(shot);
+        concerning([&shots] { return subject_of_shot(shots); },
+                   [&] {
+                       const club_shot shot = read_shot(shots);
+                       gathered.clubs[plain(shot.club)].add(shot);
+                   });
     }
     return gathered;
 }

@@ -2,8 +2,10 @@
 
 #include <QStringList>
 
+#include "base/failure_subject.h"
 #include "base/language.h"
 #include "controls/boxes.h"
+#include "records/round_subject.h"
 #include "reports/report_control.h"
 #include "statistics/column_places.h"
 #include "store/commits.h"
@@ -96,7 +98,9 @@ cost_rows check_rows(Recordset& cost, run_progress& bar)
     for (cost.Open(row_reading::one_by_one); !cost.eof(); cost.MoveNext()) {
         rows.add(cost.Fields(tables::cost::date).text());
         bar.pass_through(rows.number * step_of_a_round);
-        check_amounts(cost);
+        concerning(
+            [&cost] { return Round_functions::subject_of_round(cost.Fields(tables::cost::date).trimmed()); },
+            [&cost] { check_amounts(cost); });
     }
     cost.Close();
     return rows;

@@ -1,8 +1,10 @@
 #include "statistics/f_date_range_func.h"
 
+#include "base/failure_subject.h"
 #include "controls/boxes.h"
 #include "controls/Form.h"
 #include "controls/main_frame.h"
+#include "scoring/round_key.h"
 #include "statistics/club_statistics.h"
 #include "statistics/cost_statistics.h"
 #include "statistics/f_date_range.h"
@@ -36,6 +38,20 @@ unfiltered_texts texts_of(const f_date_range& window)
     return texts;
 }
 
+/// Calls a statistic for the selection of the window. A failure that names no round of its own names the
+/// first and the last one of the selection.
+template <typename Statistic>
+void run(const f_date_range& window, Statistic statistic)
+{
+    const selection_arguments chosen = selection_of(window);
+    concerning(
+        [&chosen] {
+            return failure_subject{.round = Verdane_tools::key_text(chosen.from_key),
+                                   .last_round = Verdane_tools::key_text(chosen.to_key)};
+        },
+        [&] { statistic(chosen); });
+}
+
 }  // namespace
 
 void load(f_date_range& window)
@@ -56,22 +72,28 @@ selection_arguments selection_of(const f_date_range& window)
 void run_club_statistics(f_date_range& window)
 {
     const run_controls controls = window.controls_for(window.cr1());
-    Statistics::club_statistics(selection_of(window), {&controls});
+    run(window, [&](const selection_arguments& chosen) { Statistics::club_statistics(chosen, {&controls}); });
 }
 
 void run_round_statistics(f_date_range& window)
 {
-    Statistics::round_statistics(selection_of(window), window.controls_for(window.cr2()));
+    run(window, [&](const selection_arguments& chosen) {
+        Statistics::round_statistics(chosen, window.controls_for(window.cr2()));
+    });
 }
 
 void run_cost_statistics(f_date_range& window)
 {
-    Statistics::cost_statistics(selection_of(window), window.controls_for(window.cr2()));
+    run(window, [&](const selection_arguments& chosen) {
+        Statistics::cost_statistics(chosen, window.controls_for(window.cr2()));
+    });
 }
 
 void run_putt_statistics(f_date_range& window)
 {
-    Statistics::putt_statistics(selection_of(window), window.controls_for(window.cr3()));
+    run(window, [&](const selection_arguments& chosen) {
+        Statistics::putt_statistics(chosen, window.controls_for(window.cr3()));
+    });
 }
 
 void cancel(f_date_range& window)

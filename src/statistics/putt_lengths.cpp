@@ -1,5 +1,7 @@
 #include "statistics/putt_lengths.h"
 
+#include "base/failure_subject.h"
+#include "records/round_subject.h"
 #include "scoring/limits.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
@@ -35,6 +37,12 @@ bool find_first_round(const selection_arguments& chosen)
     return !games2.eof();
 }
 
+failure_subject subject_of_current_row()
+{
+    return Round_functions::subject_of_round(
+        data_environment().rsgames2.Fields(tables::games2::date).trimmed());
+}
+
 /// Starts at the current row. The key of the last round is the only upper limit.
 gathered_putts walk_rounds(const QString& to_key, run_progress& bar)
 {
@@ -44,10 +52,12 @@ gathered_putts walk_rounds(const QString& to_key, run_progress& bar)
     while (!games2.eof() && more) {
         gathered.rounds = gathered.rounds + 1;
         more = games2.Fields(tables::games2::date).trimmed() != to_key;
-        const putt_counts round = putts_of_current_round();
-        bar.pass_through(10);
-        gathered.counts.add(round);
-        bar.pass_through(20);
+        concerning(subject_of_current_row, [&] {
+            const putt_counts round = putts_of_current_round();
+            bar.pass_through(10);
+            gathered.counts.add(round);
+            bar.pass_through(20);
+        });
         games2.MoveNext();
     }
     return gathered;

@@ -1,8 +1,10 @@
 #include "statistics/selected_rounds.h"
 
+#include "base/failure_subject.h"
 #include "base/numbers.h"
 #include "controls/boxes.h"
 #include "records/round_rows.h"
+#include "records/round_subject.h"
 #include "records/row_search.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/games.h"
@@ -77,7 +79,7 @@ missing_row walk_selected_rounds(const selection_arguments& chosen, const std::f
         if (missing != missing_row::none)
             return missing;
         if (passes_filters(chosen))
-            take();
+            concerning(Round_functions::subject_of_current_round, take);
     }
     return missing_row::none;
 }

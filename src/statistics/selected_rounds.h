@@ -22,7 +22,8 @@ void open_situations(const std::vector<int>& further = {});
 /// Walks `rsgames` from its first row to its end. For each round `rsvrd_fields`, `rsfield_info` and
 /// `rsgames2` are moved to its rows, and `take` is called if the round matches the chosen weather and
 /// partner. A round whose weather is Null matches only if no weather was chosen. A round that lacks a row
-/// ends the walk, and that row is returned. The caller has opened the four recordsets.
+/// ends the walk, and that row is returned. A failure of `take` names the round. The caller has opened the
+/// four recordsets.
 missing_row walk_selected_rounds(const selection_arguments& chosen, const std::function<void()>& take);
 
 /// Shows the critical box for a missing row, which has the same text in both languages.

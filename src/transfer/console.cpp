@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QTextStream>
 
-#include "base/failure_words.h"
+#include "base/failure_text.h"
 #include "base/run_time_failure.h"
 #include "transfer/store_argument.h"
 
@@ -15,7 +15,7 @@ exit_status report(const run_time_failure& failure)
 {
     const exit_status status =
         failure.kind() == failure_kind::store_locked ? exit_status::in_use : exit_status::failed;
-    return refuse(status, failure_words(failure.kind()).in(is_french) + u'\n' + failure.details());
+    return refuse(status, failure_text(failure, is_french) + u'\n' + failure.details());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "base/failure_subject.h"
 #include "base/language.h"
 #include "records/course_rows.h"
 #include "records/Main_module.h"
@@ -8,6 +9,22 @@
 using namespace verdane;
 using namespace Qt::StringLiterals;
 using testing::failure_of;
+
+namespace {
+
+/// The list that the failure of a routine names.
+template <typename Work>
+limited_list full_list(Work&& work)
+{
+    try {
+        work();
+    } catch (const run_time_failure& failure) {
+        return subject_of(failure).list;
+    }
+    return limited_list::unnamed;
+}
+
+}  // namespace
 
 class test_Main_module : public QObject {
     Q_OBJECT
@@ -41,8 +58,23 @@ private Q_SLOTS:
             Main_module::append_round_key(QString::number(i));
         QCOMPARE(plain(Main_module::round_key_count), 366);
         QVERIFY(failure_of([] { Main_module::append_round_key(u"x"_s); }) == failure_kind::subscript);
+        QCOMPARE(full_list([] { Main_module::append_round_key(u"x"_s); }), limited_list::round_keys);
         QCOMPARE(plain(Main_module::round_key_count), 366);
         QCOMPARE(Main_module::round_keys[365], u"365"_s);
+    }
+
+    void each_key_takes_a_place_and_equal_keys_are_one_round()
+    {
+        QCOMPARE(Main_module::places_left(), 366);
+        QCOMPARE(Main_module::rounds_with_key(), 0);
+        for (const char* key : {"A", "B", "A", "A"})
+            Main_module::append_round_key(QString::fromLatin1(key));
+        QCOMPARE(Main_module::places_left(), 362);
+        QCOMPARE(Main_module::rounds_with_key(), 2);
+        for (int i = 0; i < 362; ++i)
+            Main_module::append_round_key(u"A"_s);
+        QCOMPARE(Main_module::places_left(), 0);
+        QCOMPARE(Main_module::rounds_with_key(), 2);
     }
 
     void a_tee_has_the_name_of_the_current_language()
@@ -86,6 +118,7 @@ private Q_SLOTS:
         Main_module::append_round_key(u"last"_s);
         QVERIFY(failure_of([] { Verdane_tools::key_free(u"20030614093000"); }) == failure_kind::subscript);
         QVERIFY(failure_of([] { Verdane_tools::key_free(u"0"); }) == failure_kind::subscript);
+        QCOMPARE(full_list([] { Verdane_tools::key_free(u"0"); }), limited_list::round_keys);
     }
 
     void there_are_fourteen_clubs()

@@ -25,6 +25,8 @@ constexpr int not_reached = 77;
 const QString too_much = QStringList(12, u"9999"_s).join(u',');
 const QString full = u"9999,9999,9999,2770,0,0,0,0,0,0,0,0"_s;
 
+const failure_subject round_of_costs{.round = u"2024-06-14 09:30:00"_s};
+
 void create_store(const store_location& place, const QString& amounts)
 {
     Connection1().Open(place);
@@ -47,7 +49,7 @@ void type_too_much(hand& user)
     user.wait_for_window(cost_window());
     user.same(user.text(u"Text1"_s), u"32767"_s, u"the largest total"_s);
     user.fill(u"cost_11"_s, u"1"_s);
-    user.answer(failure_box(failure_kind::overflow));
+    user.answer(failure_box(failure_kind::overflow, round_of_costs));
 }
 
 void accept_what_is_refused(hand& user)
@@ -68,7 +70,7 @@ int run_child(const store_location& place, const QString& limit)
     play([] { run_event([] { f_cost().show_modal(); }); },
          [&](hand& user) {
              if (limit == u"loading")
-                 user.answer(failure_box(failure_kind::overflow));
+                 user.answer(failure_box(failure_kind::overflow, round_of_costs));
              else if (limit == u"typing")
                  type_too_much(user);
              else

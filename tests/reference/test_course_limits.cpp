@@ -40,7 +40,9 @@ void open_too_long_a_list(const reader& store)
 {
     add_courses(store, most_courses + 1);
     play([] { run_event([] { f_c_list().show_modal(); }); },
-         [](hand& user) { user.answer(failure_box(failure_kind::subscript)); });
+         [](hand& user) {
+             user.answer(failure_box(failure_kind::subscript, {.list = limited_list::courses}));
+         });
 }
 
 void type_too_long_a_hole(const reader& store)

@@ -27,6 +27,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int page_size = 4096;
+/// No copy.
+constexpr int none = 1000;
 
 /// Overwrites the first page of a table that the start does not read.
 void damage_page_of_costs(const reader& store)
@@ -99,21 +101,53 @@ private Q_SLOTS:
         QCOMPARE(content_of_store(), before);
     }
 
+    void the_failure_names_the_newest_copy_of_a_damaged_file_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::addColumn<QList<int>>("days");
+        QTest::addColumn<int>("newest");
+        QTest::addColumn<int>("future");
+        const auto add = [](const char* name, const QList<int>& days, int newest, int future) {
+            for (const bool french : {true, false})
+                QTest::addRow("%s, %s", name, french ? "French" : "English")
+                    << french << days << newest << future;
+        };
+        add("no copy", {}, none, none);
+        add("yesterday and today", {-1, 0}, 0, none);
+        add("a day in the future, too", {-40, -2, 3, 400}, -2, 400);
+        add("only a day in the future", {1}, none, 1);
+    }
     void the_failure_names_the_newest_copy_of_a_damaged_file()
     {
-        program_run run(2);
+        QFETCH(bool, french);
+        QFETCH(QList<int>, days);
+        QFETCH(int, newest);
+        QFETCH(int, future);
+        const program_run run(french ? 1 : 2);
         const QString store = program_run::store_path();
         QVERIFY(QDir().mkpath(folder_of_copies(store)));
-        const QDate newest = QDate::currentDate();
-        for (const QDate day : {newest.addDays(-1), newest})
-            QVERIFY(QFile::copy(store, path_of_copy(store, day)));
+        const auto copy_of = [&store](int days_from_today) {
+            return path_of_copy(store, QDate::currentDate().addDays(days_from_today));
+        };
+        for (const int day : days)
+            QVERIFY(QFile::copy(store, copy_of(day)));
         damage_page_of_costs(run.store());
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(), {u"--start"_s});
         QVERIFY(child.waitForFinished(120000));
+        QString expected = failure_words(failure_kind::store_damaged).in(french);
+        if (newest != none)
+            expected += text_pair{u"\n\nLa copie la plus récente : ", u"\n\nThe newest copy: "}.in(french) +
+                        copy_of(newest);
+        if (future != none)
+            expected += text_pair{u"\n\nUne copie porte une date future (l'horloge de l'ordinateur était ou "
+                                  u"est fausse) : ",
+                                  u"\n\nA copy has a date in the future (the clock of the computer was or is "
+                                  u"wrong): "}
+                            .in(french) +
+                        copy_of(future);
         const QString output = QString::fromUtf8(child.readAllStandardOutput());
-        QVERIFY2(output.contains(u"The newest copy: "_s + path_of_copy(store, newest) + u'\n'),
-                 qPrintable(output));
+        QVERIFY2(output.startsWith(expected + u"\nlanguage window"_s), qPrintable(output));
     }
 
     void a_file_can_be_checked_after_it_was_opened()
