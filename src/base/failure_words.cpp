@@ -13,25 +13,33 @@ struct failure_text {
 
 /// A text for each kind, in the order of `failure_kind`.
 constexpr std::array texts{
-    failure_text{failure_kind::overflow,
-                 {u"Un nombre est devenu trop grand pour Verdane. Ce qui était enregistré est intact.",
-                  u"A number has grown too large for Verdane. What was saved is intact."}},
-    failure_text{failure_kind::subscript,
-                 {u"Une liste de Verdane est pleine : elle ne peut contenir plus de 366 rondes ni plus "
-                  u"de 51 terrains et départs. Ce qui était enregistré est intact.",
-                  u"One of Verdane's lists is full: it holds no more than 366 rounds and 51 courses and "
-                  u"tees. What was saved is intact."}},
+    failure_text{
+        failure_kind::overflow,
+        {u"Un nombre est devenu trop grand pour Verdane. Ce qui était enregistré est intact. Relancez "
+         u"Verdane, puis corrigez le chiffre, ou choisissez moins de rondes pour le rapport.",
+         u"A number has grown too large for Verdane. What was saved is intact. Start Verdane again, then "
+         u"correct the figure, or choose fewer rounds for the report."}},
+    failure_text{
+        failure_kind::subscript,
+        {u"Verdane a cherché dans une de ses listes une place qui n'existe pas. Ce qui était enregistré est "
+         u"intact. Relancez Verdane ; si cela se répète, la commande verdane-store check examine le journal.",
+         u"Verdane looked for a place that one of its lists does not have. What was saved is intact. Start "
+         u"Verdane again; if it happens again, the command verdane-store check examines the diary."}},
     failure_text{failure_kind::invalid_null,
-                 {u"Il manque une valeur dans le journal. Ce qui était enregistré est intact.",
-                  u"A value is missing in the diary. What was saved is intact."}},
+                 {u"Il manque une valeur dans le journal. Ce qui était enregistré est intact. La commande "
+                  u"verdane-store check examine le journal et dit comment le réparer.",
+                  u"A value is missing in the diary. What was saved is intact. The command verdane-store "
+                  u"check examines the diary and says how to repair it."}},
     failure_text{failure_kind::bad_number,
-                 {u"Un texte n'est pas un nombre là où il en faut un. Ce qui était enregistré est "
-                  u"intact.",
-                  u"A text is no number where a number is needed. What was saved is intact."}},
+                 {u"Un texte n'est pas un nombre là où il en faut un. Ce qui était enregistré est intact. La "
+                  u"commande verdane-store check examine le journal et dit comment le réparer.",
+                  u"A text is no number where a number is needed. What was saved is intact. The command "
+                  u"verdane-store check examines the diary and says how to repair it."}},
     failure_text{failure_kind::misuse,
-                 {u"Verdane n'a pas trouvé ce qu'il cherchait dans le journal. Ce qui était enregistré "
-                  u"est intact.",
-                  u"Verdane did not find what it looked for in the diary. What was saved is intact."}},
+                 {u"Verdane n'a pas trouvé ce qu'il cherchait dans le journal. Ce qui était enregistré est "
+                  u"intact. La commande verdane-store check examine le journal et dit comment le réparer.",
+                  u"Verdane did not find what it looked for in the diary. What was saved is intact. The "
+                  u"command verdane-store check examines the diary and says how to repair it."}},
     failure_text{failure_kind::missing_table,
                  {u"Il manque une partie du journal (une table ou une colonne) ; le reste est intact. "
                   u"Remettez en place une copie complète du fichier.",
@@ -42,10 +50,12 @@ constexpr std::array texts{
                   u"recommencez. Ce qui était enregistré est intact.",
                   u"The diary is in use by another program. Close that program, then start again. What "
                   u"was saved is intact."}},
-    failure_text{failure_kind::store_read_only,
-                 {u"Verdane n'a pas le droit d'écrire dans le fichier du journal ou dans son dossier. "
-                  u"Rien n'a été modifié.",
-                  u"Verdane may not write to the diary's file or to its folder. Nothing was changed."}},
+    failure_text{
+        failure_kind::store_read_only,
+        {u"Verdane n'a pas le droit d'écrire dans le fichier du journal ou dans son dossier. Rien n'a été "
+         u"modifié. Donnez à votre compte le droit d'écrire dans les deux, puis recommencez.",
+         u"Verdane may not write to the diary's file or to its folder. Nothing was changed. Give your "
+         u"account the right to write to both, then start again."}},
     failure_text{failure_kind::store_damaged,
                  {u"Le fichier du journal est endommagé ou n'est pas un journal de Verdane. Il n'a pas "
                   u"été modifié : remettez en place une copie de sauvegarde.",
@@ -57,11 +67,15 @@ constexpr std::array texts{
                   u"There is no room left on the disk. Free some space, then start again. What was "
                   u"saved is intact."}},
     failure_text{failure_kind::store_unreachable,
-                 {u"Le fichier du journal ne peut pas être ouvert. Rien n'a été modifié.",
-                  u"The diary's file cannot be opened. Nothing was changed."}},
+                 {u"Le fichier du journal ne peut pas être ouvert. Rien n'a été modifié. Vérifiez que son "
+                  u"disque est branché et que votre compte a le droit de lire le fichier, puis recommencez.",
+                  u"The diary's file cannot be opened. Nothing was changed. Check that its disk is connected "
+                  u"and that your account may read the file, then start again."}},
     failure_text{failure_kind::store_other,
-                 {u"Le journal a refusé une opération. Ce qui était enregistré est intact.",
-                  u"The diary refused an operation. What was saved is intact."}},
+                 {u"Le journal a refusé une opération. Ce qui était enregistré est intact. Recommencez ; si "
+                  u"cela se répète, la commande verdane-store check examine le journal.",
+                  u"The diary refused an operation. What was saved is intact. Start again; if it happens "
+                  u"again, the command verdane-store check examines the diary."}},
     failure_text{failure_kind::source_unknown,
                  {u"La source de données ODBC de Verdane n'est pas enregistrée sur cet ordinateur. "
                   u"Enregistrez-la, puis recommencez. Rien n'a été modifié.",
@@ -171,12 +185,14 @@ constexpr std::array texts{
          u"again. What was saved is intact."}},
     failure_text{
         failure_kind::source_value,
-        {u"Une valeur n'entre pas dans sa colonne de la source de données : un texte y est trop long ou "
-         u"a un caractère que le jeu de caractères de la colonne ne contient pas, ou un nombre y est trop "
-         u"grand. Elle n'a pas été enregistrée ; ce qui était enregistré avant est intact.",
+        {u"Une valeur n'entre pas dans sa colonne de la source de données : un texte y est trop long ou a un "
+         u"caractère que le jeu de caractères de la colonne ne contient pas, ou un nombre y est trop grand. "
+         u"Elle n'a pas été enregistrée ; ce qui était enregistré avant est intact. Saisissez un texte plus "
+         u"court ou sans ce caractère ou un nombre plus petit, ou changez la colonne sur le serveur.",
          u"A value does not fit into its column of the data source: a text is too long or has a character "
-         u"that the character set of the column lacks, or a number is too large. It was not saved; what "
-         u"was saved before is intact."}},
+         u"that the character set of the column lacks, or a number is too large. It was not saved; what was "
+         u"saved before is intact. Enter a shorter text or one without this character or a smaller number, "
+         u"or change the column on the server."}},
     failure_text{
         failure_kind::source_part,
         {u"Il manque une table ou une colonne dans la source de données ; le reste est intact. "
@@ -192,11 +208,16 @@ constexpr std::array texts{
          u"save is there as a whole or not at all. Check the server and the network, start Verdane "
          u"again and check the last hole."}},
     failure_text{failure_kind::report_template,
-                 {u"Le modèle du rapport manque ou contient une erreur. Vos données sont intactes.",
-                  u"The report's template is missing or contains an error. Your data are intact."}},
-    failure_text{failure_kind::report_output,
-                 {u"Le rapport n'a pas pu être écrit ou imprimé. Vos données sont intactes.",
-                  u"The report could not be written or printed. Your data are intact."}},
+                 {u"Le modèle du rapport manque ou contient une erreur. Vos données sont intactes. Corrigez "
+                  u"le fichier nommé ci-dessous, ou réinstallez Verdane.",
+                  u"The report's template is missing or contains an error. Your data are intact. Correct the "
+                  u"file named below, or install Verdane again."}},
+    failure_text{
+        failure_kind::report_output,
+        {u"Le rapport n'a pas pu être écrit ou imprimé. Vos données sont intactes. Choisissez un autre "
+         u"dossier ou une autre imprimante, ou libérez de l'espace sur le disque, puis recommencez.",
+         u"The report could not be written or printed. Your data are intact. Choose another folder or "
+         u"printer, or free some space on the disk, then start again."}},
 };
 
 constexpr bool every_kind_has_its_text()

@@ -1,6 +1,7 @@
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 
 #include "base/failure_words.h"
@@ -84,6 +85,25 @@ private Q_SLOTS:
             const QString words = failure_words(kind).in(false);
             QVERIFY2(words.contains(u"intact") || words.contains(u"Nothing was changed") ||
                          words.contains(u"was not changed"),
+                     qPrintable(words));
+        }
+    }
+
+    void every_text_says_what_to_do()
+    {
+        const QStringList advice{u"tart again"_s,
+                                 u"Start Verdane again"_s,
+                                 u"start Verdane again"_s,
+                                 u"verdane-store check"_s,
+                                 u"back in place"_s,
+                                 u"Use MariaDB"_s,
+                                 u"restore a complete copy"_s,
+                                 u"Enter a shorter"_s,
+                                 u"install Verdane again"_s};
+        for (const failure_kind kind : every_kind) {
+            const QString words = failure_words(kind).in(false);
+            QVERIFY2(std::any_of(advice.begin(), advice.end(),
+                                 [&words](const QString& each) { return words.contains(each); }),
                      qPrintable(words));
         }
     }
