@@ -69,6 +69,7 @@ void f_new_round_func::load()
     parameters_.show_costs(round_record::cost_total());
     parameters_.show_weather(0);
     holes_.clear_date();
+    entry_.show_places_left();
     unload_round_list();
     // The list unlocks the menu when it is closed.
     Lock_menu();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 
 #include <utility>
@@ -136,6 +137,26 @@ void page_bar::click(round_page page)
 void page_bar::set_tab_tip(round_page page, const QString& text)
 {
     page_tabs_->setTabToolTip(number_of(page) - 1, text);
+}
+
+void page_bar::show_note(const QString& line, const QString& explanation)
+{
+    if (note_ == nullptr) {
+        if (line.isEmpty())
+            return;
+        note_ = named(new QLabel(this), u"places_left");
+        QFont bold = note_->font();
+        bold.setBold(true);
+        note_->setFont(bold);
+        // It takes the free width and never enlarges the window.
+        note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        constexpr int after_tabs = 1;
+        static_cast<QHBoxLayout*>(layout())->insertWidget(after_tabs, note_, 1);
+    }
+    note_->setText(line);
+    note_->setToolTip(explanation);
+    note_->setAccessibleDescription(explanation);
+    note_->setVisible(!line.isEmpty());
 }
 
 std::vector<QWidget*> page_bar::tab_order() const

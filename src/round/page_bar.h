@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+class QLabel;
 class QPushButton;
 
 namespace verdane {
@@ -32,6 +33,9 @@ public:
     void click(round_page page);
     void set_tab_tip(round_page page, const QString& text);
 
+    /// Shows a line next to the tabs, with an explanation as its tool tip; an empty line hides it.
+    void show_note(const QString& line, const QString& explanation);
+
     /// The controls in the order of the Tab key.
     std::vector<QWidget*> tab_order() const;
 
@@ -46,6 +50,8 @@ private:
     TabStrip* page_tabs_;
     QPushButton* shots_button_;
     QPushButton* putts_button_;
+    /// Null until there is something to show.
+    QLabel* note_ = nullptr;
 };
 
 /// Makes PageDown and PageUp click the tab of the next and the previous hole, and Ctrl+1 and Ctrl+2 the tab

@@ -2,11 +2,13 @@
 
 #include "controls/boxes.h"
 #include "controls/main_frame.h"
+#include "records/Main_module.h"
 #include "records/round_rows.h"
 #include "round/detailed_page.h"
 #include "round/hole_bar.h"
 #include "round/page_bar.h"
 #include "round/parameters_pane.h"
+#include "round/places_left.h"
 #include "round/quick_page.h"
 #include "round/round_form.h"
 #include "round/round_record.h"
@@ -217,8 +219,16 @@ void round_entry::save_round(bool silent)
         window_.date_value(),
         {parameters_.course_index(), parameters_.weather_index(), parameters_.temperature()});
     needSave_ = false;
+    show_places_left();
     if (!silent)
         show_information(window_.caption(u"Les modifications sont enregistrées", u"Changes have been saved"));
+}
+
+void round_entry::show_places_left() const
+{
+    const places_warning warning =
+        warning_of_places(Main_module::places_left(), Main_module::rounds_with_key(), window_.french());
+    pages_.show_note(warning.line, warning.explanation);
 }
 
 void round_entry::store_hole()

@@ -61,6 +61,8 @@ public:
     /// both. `silent`: shows no message. Refuses without a date. Fails with `subscript`, before the commit,
     /// when the list of round keys is full.
     void save_round(bool silent);
+    /// Warns next to the page tabs when few saves are left (`places_left.h`).
+    void show_places_left() const;
 
 private:
     /// Shows the hole on screen from the rows.
