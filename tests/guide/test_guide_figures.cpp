@@ -6,6 +6,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "round/places_left.h"
 #include "scoring/handicap.h"
 #include "scoring/limits.h"
 #include "scoring/putt_bands.h"
@@ -69,6 +70,7 @@ const std::map<QString, int>& limits()
         {u"most_putts_counted"_s, most_putts_counted},
         {u"most_rounds"_s, most_rounds},
         {u"most_courses"_s, most_courses},
+        {u"few_places"_s, few_places},
         {u"feet_in_a_yard"_s, feet_in_a_yard},
         {u"days_with_every_copy"_s, days_with_every_copy},
         {u"newest_copies_kept"_s, newest_copies_kept},
