@@ -9,6 +9,7 @@
 
 #include "base/language.h"
 #include "base/text.h"
+#include "controls/decimal_box.h"
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
@@ -49,6 +50,12 @@ course_general_page::course_general_page(const Form& window) : tee_box_(named(ne
         tee_box_->addItem(tee.in(window.french()));
     lay_out(window);
     connect_events();
+    for (const box which : {rating, slope}) {
+        take_comma_as_point(boxes_(which));
+        explain_decimal_mark(boxes_(which),
+                             window.caption(u"Chiffres seulement, avec un point comme signe décimal : 71.3",
+                                            u"Digits only, with a point as the decimal mark: 71.3"));
+    }
 }
 
 void course_general_page::make_boxes()

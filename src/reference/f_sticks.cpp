@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/decimal_box.h"
 #include "controls/events.h"
 #include "controls/look.h"
 #include "controls/main_frame.h"
@@ -116,6 +117,7 @@ void f_sticks::add_club(QGridLayout& grid, int club)
     const QString number = QString::number(club + 1);
     name_box->setAccessibleName(caption(u"Nom du bâton", u"Club name") + u' ' + number);
     auto* average_box = averages_.add(club, make_number_box(average_digits));
+    take_comma_as_point(*average_box);
     average_box->setAccessibleName(caption(u"Moyenne du bâton", u"Club average") + u' ' + number);
     auto* label = named(make_label(number), QString(u"lbl_club_" + number));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

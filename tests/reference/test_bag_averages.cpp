@@ -75,7 +75,8 @@ private Q_SLOTS:
         QTest::addColumn<double>("stored");
         QTest::newRow("a number with a unit") << u"120m"_s << 120.0;
         QTest::newRow("decimals") << u"187.5"_s << 187.5;
-        QTest::newRow("a comma ends the number") << u"187,5"_s << 187.0;
+        QTest::newRow("a decimal comma") << u"187,5"_s << 187.5;
+        QTest::newRow("a second comma ends the number") << u"187,5,2"_s << 187.5;
         QTest::newRow("leading blanks") << u"  90"_s << 90.0;
         QTest::newRow("negative") << u"-12.5"_s << -12.5;
         QTest::newRow("an exponent") << u"2e2"_s << 200.0;
@@ -101,12 +102,14 @@ private Q_SLOTS:
     {
         const filled_bag bag;
         in_bag([](hand& user) {
+            user.paste(u"Text1_5"_s, u"187,5"_s);
             user.paste(u"Text1_6"_s, u"210 verges\nou 220"_s);
             user.paste(u"Text1_7"_s, u""_s + QChar(0x663) + u"0");
             user.paste(u"sn_6"_s, u"Fer \u2116 7"_s);
             user.click(u"enr"_s);
             answer_keep(user, QMessageBox::Yes);
         });
+        QCOMPARE(bag.average(6), 187.5);
         QCOMPARE(bag.average(7), 210.0);
         QCOMPARE(bag.average(8), 0.0);
         QCOMPARE(bag.name(7), u"Fer \u2116 7"_s);

@@ -1,11 +1,14 @@
 #include <QLineEdit>
 #include <QTest>
+#include <QToolTip>
 
 #include "base/language.h"
+#include "controls/interface_language.h"
 #include "reference/f_courses.h"
 #include "tests/reference/course_windows.h"
 #include "tests/support/entering_boxes.h"
 #include "tests/support/hand_widgets.h"
+#include "tests/support/languages.h"
 
 using namespace verdane;
 using namespace verdane::testing;
@@ -145,6 +148,50 @@ private Q_SLOTS:
         });
     }
 
+    void a_pasted_decimal_comma_becomes_a_point_data() { both_languages(); }
+    void a_pasted_decimal_comma_becomes_a_point()
+    {
+        QFETCH(bool, french);
+        const course_store store;
+        set_interface_language(french);
+        in_new_course([](hand& user) {
+            user.paste(rating_box, u"71,3"_s);
+            user.same(user.text(rating_box), u"71.3"_s, u"rating"_s);
+            user.paste(slope_box, u"121,5"_s);
+            user.same(user.text(slope_box), u"121.5"_s, u"slope"_s);
+            discard(user);
+        });
+    }
+
+    void a_typed_decimal_comma_is_refused_with_a_hint_data() { both_languages(); }
+    void a_typed_decimal_comma_is_refused_with_a_hint()
+    {
+        QFETCH(bool, french);
+        const course_store store;
+        set_interface_language(french);
+        in_new_course([french](hand& user) {
+            for (const QString& box : {rating_box, slope_box}) {
+                const int bells = user.bells();
+                user.fill(box, u"71"_s);
+                user.look([] { QVERIFY(!QToolTip::isVisible()); });
+                user.type(u","_s);
+                user.same(user.text(box), u"71"_s, u"text of "_s + box);
+                user.same(user.bells() - bells, 1, u"bells"_s);
+                user.look([french] {
+                    QCOMPARE(QToolTip::text(),
+                             text_pair({u"Chiffres seulement, avec un point comme signe décimal : 71.3",
+                                        u"Digits only, with a point as the decimal mark: 71.3"})
+                                 .in(french));
+                    QToolTip::hideText();
+                });
+                user.wait_until(u"the end of the hint"_s, [] { return !QToolTip::isVisible(); });
+                user.type(u".3"_s);
+                user.same(user.text(box), u"71.3"_s, u"text of "_s + box);
+            }
+            discard(user);
+        });
+    }
+
     void boxes_of_the_holes_are_checked_when_left_data()
     {
         QTest::addColumn<QString>("box");
@@ -157,6 +204,7 @@ private Q_SLOTS:
         row("a length of 0", u"txt_verge_0"_s, u"0"_s, true);
         row("a negative length", u"txt_verge_0"_s, u"-5"_s, true);
         row("the longest length", u"txt_verge_8"_s, u"32767"_s, true);
+        row("a length with a comma", u"txt_verge_0"_s, u"31,5"_s, false);
         row("no length", u"txt_verge_0"_s, QString(), false);
         row("a length in letters", u"txt_verge_0"_s, u"abc"_s, false);
         row("a length with a letter after it", u"txt_verge_0"_s, u"3a"_s, false);
@@ -174,6 +222,7 @@ private Q_SLOTS:
         row("an unknown par", u"txt_normal_0"_s, u"0"_s, true);
         row("a par between two", u"txt_normal_0"_s, u"3.5"_s, true);
         row("an unknown par with a decimal", u"txt_normal_0"_s, u"0.0"_s, true);
+        row("a par with a comma", u"txt_normal_0"_s, u"3,5"_s, false);
         row("no par", u"txt_normal_0"_s, QString(), false);
         row("a par in letters", u"txt_normal_0"_s, u"p"_s, false);
     }
