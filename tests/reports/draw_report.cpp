@@ -1,7 +1,7 @@
 // Prints a template to a PDF file, or its figures to a CSV file: with the figures of a store, or without one
 // with the invented figures of the tests.
 //
-//   draw_report [--rounds NUMBER] [--courses NUMBER] TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv
+//   draw_report [--rounds NUMBER] [--courses NUMBER] [--holes NUMBER] TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -27,7 +27,9 @@ int main(int argc, char** argv)
     QCommandLineParser line;
     const QCommandLineOption rounds(u"rounds"_s, u"rounds of the invented season"_s, u"number"_s, u"40"_s);
     const QCommandLineOption courses(u"courses"_s, u"courses of the invented season"_s, u"number"_s, u"3"_s);
-    line.addOptions({rounds, courses});
+    const QCommandLineOption holes(u"holes"_s, u"most holes of a round of the invented season"_s, u"number"_s,
+                                   u"18"_s);
+    line.addOptions({rounds, courses, holes});
     line.addPositionalArgument(u"files"_s, u"TEMPLATE.rpt [STORE] OUT.pdf|OUT.csv"_s);
     line.addHelpOption();
     line.process(application);
@@ -43,8 +45,9 @@ int main(int argc, char** argv)
         if (arguments.size() == 2) {
             invented.emplace();
             testing::fill_all_reports(invented->location());
-            season =
-                testing::invented_season_tables({line.value(rounds).toInt(), line.value(courses).toInt()});
+            season = testing::invented_season_tables({.rounds = line.value(rounds).toInt(),
+                                                      .courses = line.value(courses).toInt(),
+                                                      .most_holes = line.value(holes).toInt()});
         }
         set_report_store(invented ? invented->location() : store_location::file(arguments[1]));
         const auto report = render_report(arguments[0], {}, season);

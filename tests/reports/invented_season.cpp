@@ -2,6 +2,7 @@
 
 #include <QDate>
 
+#include <algorithm>
 #include <random>
 
 #include "statistics/season_tables.h"
@@ -56,11 +57,12 @@ private:
 
     int holes_of(int place) const
     {
-        if (!size_.has_unfinished_rounds)
-            return hole_count;
-        if (place == 6)
-            return 0;
-        return place % 9 == 8 ? 12 : hole_count;
+        int holes = hole_count;
+        if (size_.has_unfinished_rounds && place == 6)
+            holes = 0;
+        else if (size_.has_unfinished_rounds && place % 9 == 8)
+            holes = 12;
+        return std::min(holes, size_.most_holes);
     }
 
     played_hole hole(int h, int course, int place)

@@ -11,6 +11,8 @@ struct season_size {
     int courses = 3;
     /// Every ninth round ends after twelve holes, and the seventh one has no strokes.
     bool has_unfinished_rounds = true;
+    /// No round has more holes.
+    int most_holes = hole_count;
 };
 
 /// Rounds of a golfer who improves, about two in a week, on courses with names of different lengths. The same

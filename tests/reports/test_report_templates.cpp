@@ -98,6 +98,17 @@ QString kept_page(const QString& name, int page)
     return QString::fromUtf8(VERDANE_LOOKED_AT "/%1-%2.png").arg(name).arg(page + 1);
 }
 
+/// Compares a page with its stored picture, or stores it if VERDANE_KEEP_PAGES is set.
+void compare_with_stored(const QImage& seen, const QString& path)
+{
+    if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
+        QVERIFY(QDir().mkpath(QString::fromUtf8(VERDANE_LOOKED_AT)) && seen.save(path, nullptr, 0));
+    const QImage kept = QImage(path).convertToFormat(QImage::Format_RGB32);
+    QVERIFY2(kept.size() == seen.size(), qPrintable(path));
+    const double shades = largest_difference(seen, kept, seen.rect());
+    QVERIFY2(shades < noticed_shades, qPrintable(u"%1 differs by %2 shades"_s.arg(path).arg(shades)));
+}
+
 }  // namespace
 
 class test_report_templates : public QObject {
@@ -230,18 +241,43 @@ private Q_SLOTS:
         for (int page = 0; page < document->page_count(); ++page) {
             // The stored picture of page 1 is that of a report of one page.
             const QImage seen = picture_of(page == 0 ? *alone : *document, page);
-            const QString path = kept_page(name, page);
-            if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
-                QVERIFY(QDir().mkpath(QString::fromUtf8(VERDANE_LOOKED_AT)) && seen.save(path, nullptr, 0));
-            const QImage kept = QImage(path).convertToFormat(QImage::Format_RGB32);
-            QVERIFY2(kept.size() == seen.size(), qPrintable(path));
-            const double shades = largest_difference(seen, kept, seen.rect());
-            QVERIFY2(shades < noticed_shades,
-                     qPrintable(u"page %1 differs by %2 shades"_s.arg(page + 1).arg(shades)));
+            compare_with_stored(seen, kept_page(name, page));
         }
         if (qEnvironmentVariableIsSet("VERDANE_KEEP_PAGES"))
             QFile::remove(kept_page(name, document->page_count()));
         QVERIFY2(!QFile::exists(kept_page(name, document->page_count())), "a stored picture has no page");
+    }
+
+    /// The pages about the handicap and the season, whose layout depends on the number of rounds and courses.
+    void a_season_of_another_size_looks_like_its_stored_pictures_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<season_size>("size");
+        QTest::addColumn<QList<int>>("pages");
+        const auto add = [](const QString& name, const season_size& size, const QList<int>& pages) {
+            QTest::newRow(qPrintable(u"%1-%2-rounds-%3-courses-%4-holes"_s.arg(name)
+                                         .arg(size.rounds)
+                                         .arg(size.courses)
+                                         .arg(size.most_holes)))
+                << name << size << pages;
+        };
+        add(u"Stat_rounds"_s, {.rounds = 1, .courses = 1}, {2, 3});
+        add(u"Stat_rounds_en"_s, {.rounds = 5, .courses = 1}, {2, 3});
+        add(u"Stat_rounds_en"_s, {.rounds = 366, .courses = 10}, {2, 3, 8});
+        add(u"Stat_rounds_en"_s, {.rounds = 12, .courses = 2, .most_holes = 12}, {2, 3});
+        add(u"Stat_rounds"_s, {.rounds = 6, .courses = 2, .most_holes = 0}, {2, 3});
+    }
+    void a_season_of_another_size_looks_like_its_stored_pictures()
+    {
+        QFETCH(QString, name);
+        QFETCH(season_size, size);
+        QFETCH(QList<int>, pages);
+        const auto document =
+            render_report(built_template(name + u".rpt"_s), {}, invented_season_tables(size));
+        QCOMPARE(document->page_count(), pages.last());
+        const QString kept_name = QString::fromLatin1(QTest::currentDataTag());
+        for (const int page : pages)
+            compare_with_stored(picture_of(*document, page - 1), kept_page(kept_name, page - 1));
     }
 };
 

@@ -54,8 +54,9 @@ QStringList overlapping_words(const QString& name, const passed_rows& passed)
     QStringList found;
     for (std::size_t i = 0; i < words.size(); ++i)
         for (std::size_t k = i + 1; k < words.size(); ++k) {
+            // The words are in the order of the pages.
             if (words[i].page_number != words[k].page_number || words[i].page_number == 0)
-                continue;
+                break;
             const QRectF both = words[i].place.intersected(words[k].place);
             if (both.width() > 0.5 && both.height() > 1.2)
                 found << words[i].text + u'/' + words[k].text;
@@ -140,9 +141,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("courses");
         for (const QString& name : {french, english}) {
             QTest::addRow("%s, 1 round", qPrintable(name)) << name << 1 << 1;
+            QTest::addRow("%s, 4 rounds", qPrintable(name)) << name << 4 << 1;
             QTest::addRow("%s, 5 rounds", qPrintable(name)) << name << 5 << 1;
             QTest::addRow("%s, 40 rounds", qPrintable(name)) << name << 40 << 10;
             QTest::addRow("%s, 61 rounds", qPrintable(name)) << name << 61 << 51;
+            QTest::addRow("%s, 366 rounds", qPrintable(name)) << name << 366 << 10;
         }
     }
     void no_word_covers_another()
@@ -237,6 +240,9 @@ private Q_SLOTS:
         QCOMPARE(pages.size(), 3);
         QVERIFY(pages.at(1).contains(u"1 2024-05-01 Alpha, White 0 0 70.0 113 −70.00"));
         QVERIFY(pages.at(2).contains(u"Alpha, White 1 0 · · · · · · ·"));
+        // Four charts and the list of the holes. The chart of the handicap has a text of its own.
+        QCOMPARE(pages.at(2).count(u"no holes played"_s), 5);
+        QVERIFY(!pages.at(2).contains(u"holes compared"));
     }
 };
 

@@ -2,6 +2,8 @@
 
 #include <random>
 
+#include "scoring/limits.h"
+
 namespace verdane::testing {
 
 namespace {
@@ -25,6 +27,16 @@ public:
         return hole;
     }
 
+    /// A hole with three strokes or more, and now and then a penalty.
+    hole_entry played_hole()
+    {
+        return {.long_shots = 1,
+                .approach = pick(0, 2),
+                .putts = pick(1, 3),
+                .water = pick(1, 30) == 1 ? 1 : 0,
+                .lost = pick(1, 40) == 1 ? 1 : 0};
+    }
+
     QString partners()
     {
         static const QStringList lists{QString(), u"12-"_s, u"112-7-"_s, u"7-"_s};
@@ -35,6 +47,14 @@ private:
     // A fixed seed: the diary is the same on every machine.
     std::mt19937 engine_{20030614};
 };
+
+/// The holes that are played in a round of the full diary.
+std::size_t played_holes(int round)
+{
+    if (round % 30 == 6)
+        return 0;
+    return round % 9 == 0 ? 12 : 18;
+}
 
 }  // namespace
 
@@ -57,6 +77,38 @@ std::vector<diary_round> generated_diary()
                           any.partners()};
         for (hole_entry& hole : round.holes)
             hole = any.hole();
+        rounds.push_back(round);
+    }
+    return rounds;
+}
+
+std::vector<diary_course> ten_courses()
+{
+    std::vector<diary_course> courses;
+    for (int i = 0; i < 10; ++i) {
+        diary_course course = course_of_pars(u"434544354"_s.sliced(i % 5), QString::number(69.5 + 0.3 * i),
+                                             QString::number(110 + 4 * i));
+        course.code = u"TEN%1-0"_s.arg(i);
+        course.name = u"Ten %1"_s.arg(i);
+        course.name_tee = course.name + u"-0";
+        courses.push_back(course);
+    }
+    return courses;
+}
+
+std::vector<diary_round> full_generated_diary()
+{
+    generator any;
+    const auto all = ten_courses();
+    std::vector<diary_round> rounds;
+    for (int day = 1; day <= most_rounds; ++day) {
+        diary_round round{key_of_day(day), all.at(static_cast<std::size_t>(any.pick(0, 9))), {}, 0, {}};
+        for (std::size_t hole = 0; hole < round.holes.size(); ++hole) {
+            if (hole < played_holes(day))
+                round.holes.at(hole) = any.played_hole();
+            else
+                round.holes.at(hole).stored = day % 2 == 0;
+        }
         rounds.push_back(round);
     }
     return rounds;

@@ -13,4 +13,9 @@ std::vector<diary_course> courses_of_generated_diary();
 /// Every third day of the year. The diary is the same on every machine.
 std::vector<diary_round> generated_diary();
 
+/// As many rounds as a diary takes, on ten courses: every ninth ends after twelve holes, the sixth and every
+/// thirtieth after it have no strokes. Their strokes can be added up without an overflow.
+std::vector<diary_course> ten_courses();
+std::vector<diary_round> full_generated_diary();
+
 }  // namespace verdane::testing
