@@ -16,6 +16,27 @@ TabStrip::TabStrip(QWidget* parent) : QTabBar(parent)
     setExpanding(false);
     setUsesScrollButtons(false);
     setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QTabBar::currentChanged, this, &TabStrip::selected_from_outside);
+}
+
+void TabStrip::select(int tab)
+{
+    selected_index_ = tab - 1;
+    setCurrentIndex(tab - 1);
+}
+
+/// The action of a screen reader sets the index of the toolkit, without a click. The first tab is selected by
+/// the toolkit when it is added.
+void TabStrip::selected_from_outside(int index)
+{
+    if (index == selected_index_)
+        return;
+    if (selected_index_ < 0) {
+        selected_index_ = index;
+        return;
+    }
+    setCurrentIndex(selected_index_);
+    click(index + 1);
 }
 
 void TabStrip::click(int tab)

@@ -10,7 +10,8 @@ namespace verdane {
 /// A row of tabs that can refuse a change, and reports every click, also one on the selected tab. Tabs are
 /// numbered from 1, as pages and holes are.
 ///
-/// Keyboard: Left, Right, Home and End select another tab as a click does; Space clicks the selected tab.
+/// Keyboard: Left, Right, Home and End select another tab as a click does; Space clicks the selected tab. The
+/// action of a screen reader is a click, too.
 class TabStrip : public QTabBar {
     Q_OBJECT
 
@@ -23,7 +24,7 @@ public:
     /// The selected tab, from 1.
     int selected() const { return currentIndex() + 1; }
     /// Selects a tab without calling that check and without `clicked`.
-    void select(int tab) { setCurrentIndex(tab - 1); }
+    void select(int tab);
 
     /// Acts as a click on a tab: calls the check, selects the tab and emits `clicked`.
     void click(int tab);
@@ -38,7 +39,11 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void selected_from_outside(int index);
+
     std::function<bool()> before_click_;
+    /// The tab that `select` has selected last, from 0; -1 without a tab.
+    int selected_index_ = -1;
 };
 
 }  // namespace verdane

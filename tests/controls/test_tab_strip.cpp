@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -34,6 +35,12 @@ public:
     QString seen_before;
     QString clicks;
 };
+
+void press_as_screen_reader(TabStrip& tabs, int tab)
+{
+    QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&tabs)->child(tab - 1);
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+}
 
 }  // namespace
 
@@ -94,6 +101,18 @@ private Q_SLOTS:
             user.key(Qt::Key_Space);
         });
         QCOMPARE(window.clicks, u"22"_s);
+    }
+
+    void the_action_of_a_screen_reader_clicks_the_tab()
+    {
+        tabs_form window;
+        press_as_screen_reader(*window.tabs, 3);
+        QCOMPARE(window.seen_before, u"1"_s);
+        QCOMPARE(window.clicks, u"3"_s);
+        window.allowed = false;
+        press_as_screen_reader(*window.tabs, 2);
+        QCOMPARE(window.tabs->selected(), 3);
+        QCOMPARE(window.clicks, u"3"_s);
     }
 
     void the_wheel_does_not_change_the_tab()
