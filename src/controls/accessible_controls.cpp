@@ -12,14 +12,62 @@ namespace verdane {
 
 namespace {
 
-/// A combo box. On some desktops the toolkit uses the selected entry as its name.
-class accessible_choice : public QAccessibleWidget {
+/// The selected entry as it is read, without padding if the entry has a text for screen readers.
+QString selected_entry(const QComboBox& box)
+{
+    const QString to_read = box.currentData(Qt::AccessibleTextRole).toString();
+    return to_read.isEmpty() ? box.currentText() : to_read;
+}
+
+/// Reports each change of the selected entry as one of the text.
+void report_changes(QComboBox& box)
+{
+    QObject::connect(&box, &QComboBox::currentIndexChanged, &box,
+                     [&box, before = selected_entry(box)](int) mutable {
+                         const QString now = selected_entry(box);
+                         QAccessibleTextUpdateEvent event(&box, 0, before, now);
+                         QAccessible::updateAccessibility(&event);
+                         before = now;
+                     });
+}
+
+/// A combo box. On some desktops the toolkit uses the selected entry as its name. The bus of screen readers
+/// has no value that is a text, so the entry is also the text of the box, which cannot be edited or selected.
+class accessible_choice : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
-    explicit accessible_choice(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), box_(box) {}
+    explicit accessible_choice(QComboBox& box) : QAccessibleWidget(&box, QAccessible::ComboBox), box_(box)
+    {
+        report_changes(box);
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface*>(this)
+                                                  : QAccessibleWidget::interface_cast(type);
+    }
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Value ? box_.currentText() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Value ? selected_entry(box_) : QAccessibleWidget::text(kind);
+    }
+
+    QString text(int from, int to) const override { return selected_entry(box_).mid(from, to - from); }
+    int characterCount() const override { return static_cast<int>(selected_entry(box_).size()); }
+    int cursorPosition() const override { return 0; }
+    void setCursorPosition(int) override {}
+    int selectionCount() const override { return 0; }
+    void selection(int, int* from, int* to) const override { *from = *to = 0; }
+    void addSelection(int, int) override {}
+    void removeSelection(int) override {}
+    void setSelection(int, int, int) override {}
+    QRect characterRect(int) const override { return rect(); }
+    int offsetAtPoint(const QPoint&) const override { return 0; }
+    void scrollToSubstring(int, int) override {}
+    QString attributes(int, int* from, int* to) const override
+    {
+        *from = 0;
+        *to = characterCount();
+        return {};
     }
 
     int childCount() const override { return 1; }

@@ -54,7 +54,9 @@ course_box::course_box(QWidget* parent) : QComboBox(parent)
 void course_box::add_course(QString name, const QString& code)
 {
     const QString tee = in_capitals(Verdane_tools::tee_name(QStringView(code).right(1)));
-    addItem(QString(Verdane_tools::pad_right(name, name_width) + u", " + tee), code);
+    const QString line = Verdane_tools::pad_right(name, name_width) + u", " + tee;
+    addItem(line, code);
+    setItemData(count() - 1, unpadded(line), Qt::AccessibleTextRole);
 }
 
 int course_box::index_of(const QString& code) const
