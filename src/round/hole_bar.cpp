@@ -52,7 +52,7 @@ TabStrip* make_hole_tabs(const Form& window)
 {
     auto* tabs = named(new TabStrip, u"TabStrip1");
     for (const QString& number : hole_numbers())
-        tabs->addTab(number);
+        tabs->setAccessibleTabName(tabs->addTab(number), window.caption(u"Trou", u"Hole") + u' ' + number);
     name_control(*tabs, window.caption(u"Trous", u"Holes"));
     tabs->setExpanding(true);
     tabs->setUsesScrollButtons(true);

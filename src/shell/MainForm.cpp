@@ -147,9 +147,13 @@ void MainForm::load()
 
 void MainForm::name_tool_buttons()
 {
-    for (const tool_button& button : main_toolbar())
-        findChild<QToolButton*>(button.key.toString())
-            ->setAccessibleName(in_language(button.tool_tip, button.english_name));
+    for (const tool_button& button : main_toolbar()) {
+        auto* control = findChild<QToolButton*>(button.key.toString());
+        const QString name = in_language(button.tool_tip, button.english_name);
+        control->setAccessibleName(name);
+        // Without one a screen reader reads the tool tip, which is French in both languages.
+        control->setAccessibleDescription(name);
+    }
 }
 
 void MainForm::unload()
