@@ -18,6 +18,8 @@ constexpr int putt_band_count = 7;
 /// The most putts on a hole that the statistics count.
 constexpr int most_putts_counted = 5;
 constexpr int most_rounds = 366;
+/// The digits of the key of a round.
+constexpr int round_key_digits = 14;
 /// Courses, each with one tee.
 constexpr int most_courses = 51;
 

@@ -1,18 +1,44 @@
 #include "scoring/round_key.h"
 
+#include <algorithm>
+#include <array>
+
 #include "base/text.h"
+#include "scoring/limits.h"
 
 namespace verdane::Verdane_tools {
 
 namespace {
 
-QStringView piece(QStringView text, qsizetype from, qsizetype length)
+struct key_part {
+    int start;
+    int digits;
+};
+
+constexpr std::array key_parts{key_part{0, 4}, key_part{4, 2},  key_part{6, 2},
+                               key_part{8, 2}, key_part{10, 2}, key_part{12, 2}};
+static_assert(key_parts.back().start + key_parts.back().digits == round_key_digits);
+
+/// The indexes of the first part of the date, and of the time.
+constexpr std::size_t year = 0;
+constexpr std::size_t hour = 3;
+
+/// Three parts of the key, separated. If the key is too short, the result is shorter, too.
+QString three_parts(QStringView key, std::size_t first, QChar separator)
 {
-    // If the text is too short, the result is shorter, too.
-    return text.mid(from, length);
+    const auto part = [&](std::size_t index) {
+        return key.mid(key_parts[index].start, key_parts[index].digits);
+    };
+    return part(first) + separator + part(first + 1) + separator + part(first + 2);
 }
 
 }  // namespace
+
+bool is_round_key(QStringView text)
+{
+    const auto is_digit = [](QChar character) { return character >= u'0' && character <= u'9'; };
+    return text.size() == round_key_digits && std::all_of(text.begin(), text.end(), is_digit);
+}
 
 QString key_text(QStringView key)
 {
@@ -21,12 +47,12 @@ QString key_text(QStringView key)
 
 QString key_date_text(QStringView key)
 {
-    return piece(key, 0, 4) + u'-' + piece(key, 4, 2) + u'-' + piece(key, 6, 2);
+    return three_parts(key, year, u'-');
 }
 
 QString key_time_text(QStringView key)
 {
-    return piece(key, 8, 2) + u':' + piece(key, 10, 2) + u':' + piece(key, 12, 2);
+    return three_parts(key, hour, u':');
 }
 
 QString round_entry(QStringView key, QStringView course, bool incomplete)
@@ -37,8 +63,11 @@ QString round_entry(QStringView key, QStringView course, bool incomplete)
 
 QString key_of_entry(QStringView entry)
 {
-    return piece(entry, 0, 4) + piece(entry, 5, 2) + piece(entry, 8, 2) + piece(entry, 11, 2) +
-           piece(entry, 14, 2) + piece(entry, 17, 2);
+    QString key;
+    int separators = 0;
+    for (const key_part& part : key_parts)
+        key += entry.mid(part.start + separators++, part.digits);
+    return key;
 }
 
 }  // namespace verdane::Verdane_tools

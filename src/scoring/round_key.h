@@ -7,6 +7,9 @@
 /// trim what they read from a column.
 namespace verdane::Verdane_tools {
 
+/// True if the text has the digits of a key, ASCII digits only, and nothing else.
+bool is_round_key(QStringView text);
+
 /// "YYYY-MM-DD HH:MM:SS".
 QString key_text(QStringView key);
 

@@ -10,6 +10,8 @@
 
 #include "base/language.h"
 #include "base/numbers.h"
+#include "scoring/limits.h"
+#include "scoring/round_key.h"
 #include "store/recovery/round_selection.h"
 
 namespace verdane {
@@ -93,14 +95,13 @@ bool is_key_of_round(const table& of, const column& tested)
     return is_table_of_rounds(of) && &tested == &of.columns.front();
 }
 
-value_of_file key_of_round(const csv_value& value, const column& where)
+value_of_file key_of_round(const csv_value& value)
 {
-    const auto is_digit = [](QChar character) { return character >= u'0' && character <= u'9'; };
-    if (value.text.size() == where.characters && std::all_of(value.text.begin(), value.text.end(), is_digit))
+    if (Verdane_tools::is_round_key(value.text))
         return {value.text, {}};
     return {{},
             in_language(u"la clé d'une ronde a %1 chiffres", u"the key of a round has %1 digits")
-                .arg(where.characters)};
+                .arg(round_key_digits)};
 }
 
 bool is_null(const csv_value& value)
@@ -130,7 +131,7 @@ value_of_file exported_value(const csv_value& value, const column& where)
 value_of_file edited_value(const csv_value& value, const table& of, const column& where)
 {
     if (is_key_of_round(of, where))
-        return key_of_round(value, where);
+        return key_of_round(value);
     if (is_null(value))
         return {};
     return is_column_of_numbers(where) ? edited_number(value.text, of, where) : value_of_file{value.text, {}};

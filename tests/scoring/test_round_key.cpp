@@ -10,6 +10,28 @@ class test_round_key : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void a_key_has_fourteen_ascii_digits_and_nothing_else_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("is_key");
+        QTest::newRow("a key") << "20030614093005" << true;
+        QTest::newRow("no date") << "99991399256199" << true;
+        QTest::newRow("empty") << "" << false;
+        QTest::newRow("a digit less") << "2003061409300" << false;
+        QTest::newRow("a digit more") << "200306140930050" << false;
+        QTest::newRow("a letter") << "2003061409300a" << false;
+        QTest::newRow("a blank before it") << " 20030614093005" << false;
+        QTest::newRow("a blank in it") << "20030614 93005" << false;
+        QTest::newRow("a line feed at its end") << "20030614093005\n" << false;
+        QTest::newRow("a digit of another script") << u"2003061409300٣"_s << false;
+    }
+    void a_key_has_fourteen_ascii_digits_and_nothing_else()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, is_key);
+        QCOMPARE(is_round_key(text), is_key);
+    }
+
     void a_key_is_cut_for_display()
     {
         QCOMPARE(key_text(u"20030614093005"), u"2003-06-14 09:30:05"_s);

@@ -2,12 +2,12 @@
 
 #include <QFileInfo>
 #include <QLockFile>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <optional>
 
 #include "base/run_time_failure.h"
+#include "scoring/round_key.h"
 #include "store/commits.h"
 #include "store/engines/file_backup.h"
 #include "store/recovery/kept_copy.h"
@@ -156,12 +156,11 @@ bool open_alone(Connection1& diary, const store_location& place)
 
 QStringList round_keys_before(const Connection1& store, QDate day)
 {
-    static const QRegularExpression is_key(u"^[0-9]{14}$"_s);
     const QString limit = day.toString(u"yyyyMMdd"_s);
     QStringList keys;
     for (const std::vector<QVariant>& row : all_rows(store, *find_table(tables::games::table.name))) {
         const QString key = row[tables::games::date].toString();
-        if (is_key.match(key).hasMatch() && key < limit)
+        if (Verdane_tools::is_round_key(key) && key < limit)
             keys << key;
     }
     keys.removeDuplicates();

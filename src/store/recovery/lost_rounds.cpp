@@ -1,7 +1,5 @@
 #include "store/recovery/lost_rounds.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <map>
 #include <optional>
@@ -9,6 +7,7 @@
 #include "base/language.h"
 #include "scoring/hole_summary.h"
 #include "scoring/limits.h"
+#include "scoring/round_key.h"
 #include "scoring/words.h"
 #include "store/Connection1.h"
 #include "store/recovery/counted_rows.h"
@@ -129,9 +128,8 @@ QStringList holes_without_strokes(const round_shots& shots)
 /// the handicap with too few strokes.
 QString refusal_of(const QString& key, const round_shots& shots, std::size_t courses, int rounds)
 {
-    static const QRegularExpression digits(u"^[0-9]{14}$"_s);
     const bool known_holes = shots.begin()->first >= 1 && shots.rbegin()->first <= hole_count;
-    if (!digits.match(key).hasMatch() || !known_holes)
+    if (!Verdane_tools::is_round_key(key) || !known_holes)
         return in_language(u"la clé ou un trou est incorrect", u"the key or a hole is wrong");
     const QStringList missing = holes_without_strokes(shots);
     if (!missing.isEmpty())

@@ -112,10 +112,10 @@ std::vector<diary_rule> rules_of_rows_of(const QString& table, const QString& co
 std::vector<diary_rule> rules_of_keys()
 {
     return {
-        {u"chaque clé a 14 chiffres"_s,
-         u"every key has 14 digits"_s,
+        {u"chaque clé a %1 chiffres"_s.arg(round_key_digits),
+         u"every key has %1 digits"_s.arg(round_key_digits),
          u"select coalesce(date, '') from games "
-         u"where date is null or length(date) <> 14 or date glob '*[^0-9]*'"_s,
+         u"where date is null or length(date) <> %1 or date glob '*[^0-9]*'"_s.arg(round_key_digits),
          {}},
         {u"chaque clé n'a qu'une ronde"_s,
          u"every key has one round"_s,

@@ -116,9 +116,8 @@ constexpr column_group unused(names_of_columns names)
 /// The key of a round. It has a declared length because some engines index no other text.
 constexpr column_group round_key(std::u16string_view name)
 {
-    constexpr int digits_of_key = 14;
     column_group group = text({name});
-    group.characters = digits_of_key;
+    group.characters = round_key_digits;
     return group;
 }
 
