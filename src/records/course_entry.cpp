@@ -1,7 +1,7 @@
 #include "records/course_entry.h"
 
 #include "base/text.h"
-#include "records/course_keys.h"
+#include "records/course_rows.h"
 #include "records/row_search.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/courses.h"
@@ -26,7 +26,7 @@ Recordset& hole_row()
 bool find_again(const QString& code)
 {
     Round_functions::find_first(course_row(), Round_functions::by_code, code);
-    Round_functions::find_first(hole_row(), u"FIELD_CODE= ", code);
+    Round_functions::find_holes_of_course(code);
     return !(course_row().bof() || course_row().eof() || hole_row().bof() || hole_row().eof());
 }
 
@@ -64,6 +64,21 @@ bool commit_course()
     hole_row().Update();
     course_row().Update();
     return find_again(code);
+}
+
+known_course find_known_course(const entered_course& course)
+{
+    return find_known_course(in_capitals(course.name), course.tee);
+}
+
+void add_course(const entered_course& course)
+{
+    course_row().AddNew();
+    hole_row().AddNew();
+    write_course_key(course, find_known_course(course).base);
+    write_course(course);
+    commit_course();
+    append_course_key(course_row());
 }
 
 }  // namespace verdane

@@ -4,10 +4,11 @@
 
 #include <array>
 
+#include "records/course_keys.h"
 #include "scoring/limits.h"
 
-/// A course as texts, and how they are written to the current rows of `rsvrd_fields` and `rsfield_info`. The
-/// caller has moved both to the course, or added a row to each.
+/// A course as texts, and how they are written to the current rows of `rsvrd_fields` and `rsfield_info`,
+/// which are open. Except for `add_course`, the caller has moved both to the course, or added a row to each.
 namespace verdane {
 
 struct entered_course {
@@ -37,5 +38,12 @@ void write_course(const entered_course& course);
 /// Commits the holes, then the course, and finds both rows again. False if one was not found; it is committed
 /// nevertheless.
 bool commit_course();
+
+/// `find_known_course` for the name and the tee of a course.
+known_course find_known_course(const entered_course& course);
+
+/// Adds a row to both recordsets, writes and commits the course. It is the current row then, and in
+/// `course_keys`. Fails like `write_course`.
+void add_course(const entered_course& course);
 
 }  // namespace verdane

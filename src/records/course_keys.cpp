@@ -43,7 +43,7 @@ void rebuild_course_keys(Recordset& rsvrd_fields)
     }
 }
 
-void remember_new_course(Recordset& rsvrd_fields)
+void append_course_key(Recordset& rsvrd_fields)
 {
     const QString code = rsvrd_fields.Fields(tables::vrd_fields::code).trimmed();
     for (int index = 0; index < most_courses; ++index) {

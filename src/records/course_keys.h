@@ -29,7 +29,7 @@ void rebuild_course_keys(Recordset& rsvrd_fields);
 
 /// Adds the current row at the first free index, unless its code is in the table already. Nothing happens
 /// when the table is full; the list fails then when it is opened again.
-void remember_new_course(Recordset& rsvrd_fields);
+void append_course_key(Recordset& rsvrd_fields);
 
 /// The end of a code and of a `name_tee`: a dash and the digit of the tee.
 QString tee_mark(int tee);

@@ -52,9 +52,13 @@ void move_to_course(int list_index)
 
 void find_holes_of_course(search_direction direction)
 {
-    Recordset& holes = data_environment().rsfield_info;
-    const QString code = data_environment().rsvrd_fields.Fields(tables::vrd_fields::code).trimmed();
-    find_first(holes, u"FIELD_CODE =", code, direction);
+    find_holes_of_course(data_environment().rsvrd_fields.Fields(tables::vrd_fields::code).trimmed(),
+                         direction);
+}
+
+void find_holes_of_course(const QString& code, search_direction direction)
+{
+    find_first(data_environment().rsfield_info, by_course, code, direction);
 }
 
 }  // namespace verdane::Round_functions

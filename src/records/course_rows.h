@@ -25,6 +25,8 @@ void move_to_course(int list_index);
 /// Courses are open. Moves `rsfield_info` to the holes of the course in the current row of `rsvrd_fields`, or
 /// to `eof()` if there are none.
 void find_holes_of_course(search_direction direction = search_direction::forward);
+/// The same for the course of a code.
+void find_holes_of_course(const QString& code, search_direction direction = search_direction::forward);
 
 }  // namespace verdane::Round_functions
 

@@ -58,7 +58,7 @@ void add_course()
     // The lines are not updated until the list is opened again, but the next course that is added must not
     // get the code of this one. `saveSucceed` is not enough here: an earlier save may have stored the course.
     if (!courses().eof())
-        remember_new_course(courses());
+        append_course_key(courses());
 }
 
 void refuse_course_in_use(const f_c_list& window, const QString& key)

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "records/course_rows.h"
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
 #include "transfer/console.h"
 #include "transfer/course_lines.h"
 #include "transfer/store_argument.h"
-#include "transfer/stored_course.h"
 
 namespace verdane {
 
@@ -22,7 +22,7 @@ QStringList take_stored(course_lines& courses)
 {
     QStringList names;
     std::erase_if(courses, [&](const course_line& each) {
-        const bool stored = known(each.course).duplicate;
+        const bool stored = find_known_course(each.course).duplicate;
         if (stored)
             names << each.course.name + u", " + each.course.tee_text;
         return stored;
@@ -65,9 +65,11 @@ bad_line no_place(const QString& file, const course_line& course)
 
 exit_status add_courses(const QString& file, course_lines courses)
 {
-    const int present = open_courses();
+    Round_functions::open_courses();
+    Recordset& present = data_environment().rsvrd_fields;
+    rebuild_course_keys(present);
     const QStringList stored = take_stored(courses);
-    const auto places = static_cast<std::size_t>(std::max(0, most_courses - present));
+    const auto places = static_cast<std::size_t>(std::max(0, most_courses - present.RecordCount()));
     if (courses.size() > places)
         return refuse_lines({no_place(file, courses[places])});
     add_all(courses);

@@ -4,6 +4,8 @@
 #include <QTime>
 
 #include "base/text.h"
+#include "records/course_keys.h"
+#include "records/course_rows.h"
 #include "records/round_rows.h"
 #include "scoring/Verdane_tools.h"
 #include "scoring/words.h"
@@ -19,7 +21,6 @@
 #include "transfer/sample_courses.h"
 #include "transfer/sample_golfer.h"
 #include "transfer/sample_shots.h"
-#include "transfer/stored_course.h"
 
 namespace verdane {
 
@@ -162,7 +163,8 @@ private:
 
 int write_sample_season()
 {
-    open_courses();
+    Round_functions::open_courses();
+    rebuild_course_keys(data_environment().rsvrd_fields);
     season_writer().write();
     return rounds_of_season;
 }
