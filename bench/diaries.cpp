@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QStringList>
 
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "scoring/limits.h"
 #include "shell/f_lang.h"
 #include "store/DataEnvironment1.h"

@@ -9,11 +9,15 @@
 
 #include <csignal>
 
-#include "base/language.h"
-
 namespace verdane {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool language_is_set = false;
+
+}  // namespace
 
 QString program_version()
 {
@@ -47,6 +51,24 @@ void load_toolkit_texts()
     QLocale::setDefault(is_french ? QLocale(QLocale::French) : QLocale(QLocale::English));
     if (texts.load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);
+}
+
+void set_interface_language(bool french)
+{
+    is_french = french;
+    language_is_set = true;
+    load_toolkit_texts();
+}
+
+void reset_interface_language()
+{
+    is_french = true;
+    language_is_set = false;
+}
+
+QString in_known_language(const text_pair& text, QStringView separator)
+{
+    return language_is_set ? text.in(is_french) : text.in(true) + separator + text.in(false);
 }
 
 }  // namespace verdane

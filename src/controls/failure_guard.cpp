@@ -7,8 +7,8 @@
 #include <optional>
 
 #include "base/failure_text.h"
+#include "base/program.h"
 #include "controls/boxes.h"
-#include "controls/interface_language.h"
 #include "controls/shown_subject.h"
 #include "store/DataEnvironment1.h"
 #include "store/recovery/copy_days.h"

@@ -5,8 +5,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include "base/program.h"
 #include "controls/boxes.h"
-#include "controls/interface_language.h"
 
 namespace verdane {
 

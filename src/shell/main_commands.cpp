@@ -1,10 +1,10 @@
 #include "shell/main_commands.h"
 
 #include "base/language.h"
+#include "base/program.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
 #include "controls/Form.h"
-#include "controls/interface_language.h"
 #include "controls/main_frame.h"
 #include "management/f_games.h"
 #include "records/Main_module.h"

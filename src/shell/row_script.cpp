@@ -5,8 +5,8 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include "base/program.h"
 #include "controls/boxes.h"
-#include "controls/interface_language.h"
 #include "store/DataEnvironment1.h"
 
 namespace verdane {

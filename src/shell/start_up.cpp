@@ -8,7 +8,6 @@
 #include "controls/boxes.h"
 #include "controls/events.h"
 #include "controls/failure_guard.h"
-#include "controls/interface_language.h"
 #include "controls/lock_box.h"
 #include "controls/look.h"
 #include "records/Main_module.h"

@@ -9,9 +9,9 @@
 
 #include "base/failure_words.h"
 #include "base/language.h"
+#include "base/program.h"
 #include "controls/boxes.h"
 #include "controls/failure_guard.h"
-#include "controls/interface_language.h"
 #include "tests/support/failures.h"
 #include "tests/support/hand.h"
 

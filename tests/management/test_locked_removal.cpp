@@ -2,7 +2,7 @@
 #include <QProcess>
 #include <QTest>
 
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "controls/lock_box.h"
 #include "store/DataEnvironment1.h"
 #include "tests/management/removal_windows.h"

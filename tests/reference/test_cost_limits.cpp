@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "store/Connection1.h"
 #include "tests/reference/cost_windows.h"
 #include "tests/support/engine_of_tests.h"

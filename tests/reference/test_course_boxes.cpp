@@ -3,7 +3,7 @@
 #include <QToolTip>
 
 #include "base/language.h"
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "reference/f_courses.h"
 #include "tests/reference/course_windows.h"
 #include "tests/support/entering_boxes.h"

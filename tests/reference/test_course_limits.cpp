@@ -4,8 +4,8 @@
 #include <QTest>
 
 #include "base/language.h"
+#include "base/program.h"
 #include "controls/failure_guard.h"
-#include "controls/interface_language.h"
 #include "records/course_keys.h"
 #include "reference/f_c_list.h"
 #include "store/DataEnvironment1.h"

@@ -3,8 +3,8 @@
 #include <QTest>
 
 #include "base/language.h"
+#include "base/program.h"
 #include "controls/failure_guard.h"
-#include "controls/interface_language.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"
 #include "tests/reference/partner_windows.h"

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "base/language.h"
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "records/Main_module.h"
 #include "round/places_left.h"
 #include "tests/round/round_windows.h"

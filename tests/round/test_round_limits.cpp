@@ -6,7 +6,7 @@
 
 #include "base/failure_subject.h"
 #include "base/language.h"
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "records/Main_module.h"
 #include "tests/round/entered_shots.h"
 #include "tests/round/round_windows.h"

@@ -16,8 +16,8 @@
 
 #include "base/failure_words.h"
 #include "base/language.h"
+#include "base/program.h"
 #include "controls/failure_guard.h"
-#include "controls/interface_language.h"
 #include "shell/start_up.h"
 #include "store/Connection1.h"
 #include "store/DataEnvironment1.h"

@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "records/Main_module.h"
 #include "store/DataEnvironment1.h"
 #include "tests/round/entered_shots.h"

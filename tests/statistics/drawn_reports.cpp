@@ -2,7 +2,7 @@
 
 #include <QProgressBar>
 
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "reports/preview/report_preview.h"
 #include "reports/query/report_snapshot.h"
 #include "reports/report_document.h"

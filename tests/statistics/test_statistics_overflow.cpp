@@ -2,7 +2,7 @@
 #include <QProcess>
 #include <QTest>
 
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "reports/query/report_snapshot.h"
 #include "scoring/limits.h"
 #include "scoring/round_key.h"

@@ -1,6 +1,6 @@
 #include "tests/support/store_folder.h"
 
-#include "controls/interface_language.h"
+#include "base/program.h"
 #include "records/Main_module.h"
 #include "store/DataEnvironment1.h"
 
