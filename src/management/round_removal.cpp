@@ -6,8 +6,6 @@
 
 namespace verdane {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The shots and the costs have the key of their round in the same column.
@@ -48,7 +46,7 @@ void delete_shots(const QString& key)
 void delete_cost(const QString& key)
 {
     Recordset& cost = data_environment().rscost;
-    open_at_round(cost, u"select * from cost order by date"_s, key);
+    open_at_round(cost, tables::cost::source_of_removal.toString(), key);
     delete_to_the_end(cost, key);
     cost.Close();
 }

@@ -25,6 +25,8 @@ inline constexpr recordset_declaration rscost{.name = u"rscost",
                                               .source = u"select * from cost",
                                               .location = cursor_location::client,
                                               .cache_rows = 400};
+/// The statement with which the amounts of a round are deleted. It stays in force.
+inline constexpr QStringView source_of_removal = u"select * from cost order by date";
 
 inline constexpr int date = columns.ordinal(u"date");
 inline constexpr int first_amount = columns.ordinal(u"fg");
