@@ -18,6 +18,12 @@ namespace verdane {
 /// The unit of all distances, in pixels.
 constexpr int rhythm = 8;
 
+/// The pixels of a length in twips (1/1440 inch) at 96 pixels an inch.
+constexpr int pixels(int twips)
+{
+    return twips / 15;
+}
+
 QColor accent_green();
 
 /// Sets the accent colour in the palette of the application.

@@ -33,10 +33,4 @@ void set_main_frame(main_frame_interface* frame);
 void Lock_menu();
 void Unlock_menu();
 
-/// The pixels of a length in twips (1/1440 inch) at 96 pixels an inch.
-constexpr int pixels(int twips)
-{
-    return twips / 15;
-}
-
 }  // namespace verdane

@@ -10,7 +10,6 @@
 #include "controls/accessible_controls.h"
 #include "controls/events.h"
 #include "controls/look.h"
-#include "controls/main_frame.h"
 #include "controls/scrolled_content.h"
 #include "controls/shortcuts.h"
 #include "controls/TabStrip.h"

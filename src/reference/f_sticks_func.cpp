@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "controls/boxes.h"
 #include "controls/Form.h"
+#include "controls/look.h"
 #include "controls/main_frame.h"
 #include "controls/screen_limits.h"
 #include "records/Main_module.h"

@@ -6,6 +6,7 @@
 #include "controls/events.h"
 #include "controls/failure_guard.h"
 #include "controls/Form.h"
+#include "controls/look.h"
 #include "controls/main_frame.h"
 #include "reference/f_cost.h"
 #include "round/detailed_page.h"

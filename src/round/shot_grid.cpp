@@ -11,7 +11,6 @@
 #include "controls/Form.h"
 #include "controls/keys.h"
 #include "controls/look.h"
-#include "controls/main_frame.h"
 #include "round/shot_entry.h"
 #include "round/shot_rows.h"
 #include "scoring/limits.h"

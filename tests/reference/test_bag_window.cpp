@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "controls/Form.h"
-#include "controls/main_frame.h"
+#include "controls/look.h"
 #include "records/Main_module.h"
 #include "reference/f_sticks.h"
 #include "tests/reference/golf_bags.h"

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "controls/data_grid.h"
-#include "controls/main_frame.h"
+#include "controls/look.h"
 #include "round/detailed_page.h"
 #include "round/f_new_round.h"
 #include "store/DataEnvironment1.h"
