@@ -93,6 +93,8 @@ gathered_shots add_up(Recordset& shots)
 
 QString club_shot_select(const selection_arguments& chosen)
 {
+    // The code in the last condition.
+    static_assert(putt == 3);
     return QStringView(columns) + u"where ( games2.date>= " + quoted(chosen.from_key) +
            u" AND games2.date <=" + quoted(chosen.to_key) + u"  AND  stat_rounds.date=games2.date) " +
            chosen.weather_clause + chosen.partner_clause + chosen.course_clause +

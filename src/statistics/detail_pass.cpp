@@ -1,5 +1,6 @@
 #include "statistics/detail_pass.h"
 
+#include "scoring/words.h"
 #include "statistics/stats_table.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
@@ -19,6 +20,9 @@ constexpr QStringView figures_of_a_hole =
     u" ABS(SUM(STAT_ROUNDS.PENVAL=4)), "
     u"SUM(STAT_ROUNDS.NORMAL)/COUNT(STAT_ROUNDS.HOLE) , COUNT(STAT_ROUNDS.HOLE), "
     u"SUM(STAT_ROUNDS.ADDPEN),STAT_ROUNDS.HOLE ";
+// The codes in it.
+static_assert(in_the_fairway == 1 && putt == 3);
+static_assert(water_hazard == 1 && lost_ball == 2 && against_the_rules == 3 && out_of_bounds == 4);
 
 constexpr QStringView tables_joined = u"FROM STAT_ROUNDS, GAMES2 WHERE (STAT_ROUNDS.DATE = GAMES2.DATE AND  ";
 
