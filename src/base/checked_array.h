@@ -9,6 +9,15 @@
 
 namespace verdane {
 
+/// Fails with `subscript` unless the index is one of `first` to `last`.
+inline void check_index(int index, int first, int last)
+{
+    using namespace Qt::StringLiterals;
+    if (index < first || index > last)
+        throw run_time_failure(failure_kind::subscript,
+                               u"index %1 is outside %2 to %3"_s.arg(index).arg(first).arg(last));
+}
+
 /// An array of fixed length with the indices `First` to `First + Length - 1`. Any other index is a
 /// `run_time_failure` of the kind `subscript`.
 template <typename T, std::size_t Length, int First = 0>
@@ -26,11 +35,7 @@ public:
 private:
     static std::size_t position(int index)
     {
-        using namespace Qt::StringLiterals;
-        if (index < first_index || index > last_index)
-            throw run_time_failure(
-                failure_kind::subscript,
-                u"index %1 is outside %2 to %3"_s.arg(index).arg(first_index).arg(last_index));
+        check_index(index, first_index, last_index);
         return static_cast<std::size_t>(index - first_index);
     }
 

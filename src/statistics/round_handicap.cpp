@@ -36,16 +36,14 @@ void close_recordsets()
         rows->Close();
 }
 
-/// Adds one row to `hand` for each round. A round beyond the limit fails, because the array has no index for
-/// it.
+/// Adds one row to `hand` for each round. A round beyond the limit fails with `subscript`.
 missing_row gather_differentials(const selection_arguments& chosen)
 {
     Recordset& hand = data_environment().rshand;
-    checked_array<double, most_rounds> differentials;
-    int taken = 0;
+    int index = 0;
     return walk_selected_rounds(chosen, [&] {
         const double figure = Round_functions::round_score(Round_functions::from_row).differential;
-        differentials[taken++] = figure;
+        check_index(index++, 0, most_rounds - 1);
         hand.AddNew();
         hand.Fields(hnd).set(figure);
     });
