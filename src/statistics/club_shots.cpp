@@ -3,7 +3,6 @@
 #include "base/failure_subject.h"
 #include "records/round_subject.h"
 #include "scoring/words.h"
-#include "statistics/column_places.h"
 #include "store/DataEnvironment1.h"
 #include "store/scoped_source.h"
 

@@ -7,7 +7,6 @@
 #include "controls/boxes.h"
 #include "records/round_subject.h"
 #include "reports/report_control.h"
-#include "statistics/column_places.h"
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
 #include "store/tables/cost.h"

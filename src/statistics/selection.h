@@ -2,7 +2,10 @@
 
 #include <QString>
 
-/// The selection of rounds that a statistic is computed for.
+#include <algorithm>
+#include <string_view>
+
+/// The selection of rounds that a statistic is computed for, and the statements that select their rows.
 namespace verdane {
 
 /// The arguments of a statistic: the selected rounds, and the texts for the heading of its report. Each
@@ -43,3 +46,25 @@ enum class clause_form { appended, alone };
 QString clause_of(filter which, clause_form form, const QString& value);
 
 }  // namespace verdane
+
+namespace verdane::Statistics {
+
+/// The ordinal of a column in a statement `select table.column,table.column,... from ...`, without functions.
+/// If several tables have the column, it is the first in the list. A name that the statement lacks is an
+/// error of compilation.
+consteval int place_in(std::u16string_view select, std::u16string_view column)
+{
+    constexpr std::u16string_view after_a_name = u", ";
+    std::size_t start = select.find(column);
+    while (start != std::u16string_view::npos) {
+        const std::size_t end = start + column.size();
+        const bool whole = start > 0 && select[start - 1] == u'.' && end < select.size() &&
+                           after_a_name.find(select[end]) != std::u16string_view::npos;
+        if (whole)
+            return static_cast<int>(std::count(select.begin(), select.begin() + start, u','));
+        start = select.find(column, end);
+    }
+    throw "the statement has no such column";
+}
+
+}  // namespace verdane::Statistics
