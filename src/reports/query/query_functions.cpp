@@ -44,16 +44,16 @@ struct trimmed_sides {
     bool left;
     bool right;
 };
-// The engine passes a pointer to one of them to every call of its function.
-trimmed_sides both{true, true};
-trimmed_sides only_left{true, false};
-trimmed_sides only_right{false, true};
+constexpr trimmed_sides both{true, true};
+constexpr trimmed_sides only_left{true, false};
+constexpr trimmed_sides only_right{false, true};
 
 QList<uint> characters_of(sqlite3_value* value)
 {
     return text_of(value).toUcs4();
 }
 
+template <trimmed_sides sides>
 void trim(sqlite3_context* context, int, sqlite3_value** arguments)
 {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
@@ -61,7 +61,6 @@ void trim(sqlite3_context* context, int, sqlite3_value** arguments)
     const QList<uint> listed = characters_of(arguments[1]);
     if (listed.size() > most_trimmed_characters)
         return sqlite3_result_error(context, "trim takes a list of at most 1000 characters", -1);
-    const auto& sides = *static_cast<const trimmed_sides*>(sqlite3_user_data(context));
     const QList<uint> text = characters_of(arguments[0]);
     qsizetype start = 0;
     qsizetype end = text.size();
@@ -74,19 +73,20 @@ void trim(sqlite3_context* context, int, sqlite3_value** arguments)
     sqlite3_result_text(context, result.constData(), static_cast<int>(result.size()), SQLITE_TRANSIENT);
 }
 
-void replace_function(sqlite3* connection, const char* name, trimmed_sides& sides)
+template <trimmed_sides sides>
+void replace_function(sqlite3* connection, const char* name)
 {
-    sqlite3_create_function(connection, name, 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, &sides, trim, nullptr,
-                            nullptr);
+    sqlite3_create_function(connection, name, 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, trim<sides>,
+                            nullptr, nullptr);
 }
 
 }  // namespace
 
 void limit_trim(sqlite3* connection)
 {
-    replace_function(connection, "trim", both);
-    replace_function(connection, "ltrim", only_left);
-    replace_function(connection, "rtrim", only_right);
+    replace_function<both>(connection, "trim");
+    replace_function<only_left>(connection, "ltrim");
+    replace_function<only_right>(connection, "rtrim");
 }
 
 void add_grouped(sqlite3* connection)
