@@ -34,17 +34,22 @@ void fill(int size)
                "end while; end");
 }
 
-}  // namespace
-
-QStringList little_room()
+QStringList small_table_space()
 {
     constexpr qint64 mb = 1024 * 1024;
-    constexpr qint64 room_at_first = 16;
-    constexpr qint64 least_room = 2;
+    constexpr qint64 free_at_first = 16;
+    constexpr qint64 least_free = 2;
     const qint64 present = QFileInfo(file_of_tables()).size() / mb;
-    static const qint64 limit = present + room_at_first;
+    static const qint64 limit = present + free_at_first;
     return one_file + QStringList{u"--innodb-data-file-path=ibdata1:12M:autoextend:max:%1M"_s.arg(
-                          std::max(limit, present + least_room))};
+                          std::max(limit, present + least_free))};
+}
+
+}  // namespace
+
+void start_with_small_table_space()
+{
+    start_server(small_table_space());
 }
 
 full_server::full_server() : snapshot_(store_location::source(administrator_source()))

@@ -1,17 +1,15 @@
 #pragma once
 
-#include <QStringList>
-
 #include "tests/support/outside_connection.h"
 
 namespace verdane::testing {
 
-/// Options for the next start of the stopped server: its file of tables grows by a few megabytes only, and
-/// contains the tables that are created meanwhile.
-QStringList little_room();
+/// Starts the stopped server. Its file of tables grows by a few megabytes only, and contains the tables that
+/// are created meanwhile.
+void start_with_small_table_space();
 
-/// Uses up the disk space of a server that was started with `little_room`, so that no statement can write a
-/// row: there is no free page for rows, and none for the undo records of a transaction.
+/// Uses up the disk space of a server that was started with `start_with_small_table_space`, so that no
+/// statement can write a row: there is no free page for rows, and none for the undo records of a transaction.
 class full_server {
 public:
     full_server();

@@ -19,15 +19,10 @@ namespace {
 
 const auto nothing = [] {};
 
-void start_with_little_room()
-{
-    start_server(little_room());
-}
-
 void restart()
 {
     stop_server();
-    start_with_little_room();
+    start_with_small_table_space();
 }
 
 std::unique_ptr<full_server> no_space;
@@ -40,7 +35,7 @@ void use_up_space()
 void make_space()
 {
     no_space.reset();
-    start_with_little_room();
+    start_with_small_table_space();
 }
 
 void rename_table(const QString& from, const QString& to)
@@ -52,8 +47,9 @@ const std::vector<store_harm>& harms()
 {
     using enum failure_kind;
     static const std::vector<store_harm> all{
-        {u"stopped"_s, source_lost, nothing, stop_server, nothing, start_with_little_room},
-        {u"killed"_s, source_lost, nothing, [] { signal_server(SIGKILL); }, nothing, start_with_little_room},
+        {u"stopped"_s, source_lost, nothing, stop_server, nothing, start_with_small_table_space},
+        {u"killed"_s, source_lost, nothing, [] { signal_server(SIGKILL); }, nothing,
+         start_with_small_table_space},
         {u"restarted"_s, source_lost, nothing, restart, nothing, nothing},
         {u"frozen"_s, source_lost, nothing, [] { signal_server(SIGSTOP); }, nothing,
          [] { signal_server(SIGCONT); }, longest_failure_ms, true},

@@ -22,11 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void start_with_little_room()
-{
-    start_server(little_room());
-}
-
 /// The rows of all tables whose number of rows is not fixed.
 int rows_of(const test_store& store)
 {
@@ -60,7 +55,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         stop_server();
-        start_with_little_room();
+        start_with_small_table_space();
     }
 
     void a_copy_to_a_server_that_ends_is_reported_and_leaves_no_row_data()
@@ -84,7 +79,7 @@ private Q_SLOTS:
                 stop_server();
         });
         const std::optional<int> ended = run.exit_status();
-        start_with_little_room();
+        start_with_small_table_space();
         QCOMPARE(ended, status(exit_status::failed));
         const QString errors = run.errors();
         QVERIFY2(errors.startsWith(failure_words(failure_kind::source_lost).english), qPrintable(errors));
@@ -105,7 +100,7 @@ private Q_SLOTS:
         const std::optional<int> ended = run.run();
         const int rows = rows_of(target);
         no_space.reset();
-        start_with_little_room();
+        start_with_small_table_space();
         QCOMPARE(ended, status(exit_status::failed));
         const QString errors = run.errors();
         QVERIFY2(errors.contains(failure_words(failure_kind::source_full).english), qPrintable(errors));
