@@ -14,7 +14,7 @@ namespace verdane::testing {
 
 namespace {
 
-constexpr int pause_ms = 1;
+constexpr int pause_ms = 10;
 
 sockaddr_un address_of(const QString& path)
 {
@@ -68,6 +68,11 @@ void stalling_proxy::stop()
     }
 }
 
+void stalling_proxy::cut_after(int messages)
+{
+    cut_at_ = passed_ + messages;
+}
+
 std::vector<int> stalling_proxy::messages_of_connections()
 {
     stop();
@@ -86,8 +91,23 @@ void stalling_proxy::run()
         for (connection& each : connections_)
             any_passed = serve(each) || any_passed;
         if (!any_passed)
-            QThread::msleep(pause_ms);
+            wait_for_messages();
     }
+}
+
+void stalling_proxy::wait_for_messages() const
+{
+    std::vector<pollfd> sockets{{listening_, POLLIN, 0}};
+    for (const connection& each : connections_) {
+        if (!each.ended) {
+            sockets.push_back({each.client, POLLIN, 0});
+            sockets.push_back({each.server, POLLIN, 0});
+        }
+    }
+    if (is_stalled())
+        QThread::msleep(pause_ms);
+    else
+        ::poll(sockets.data(), sockets.size(), pause_ms);
 }
 
 bool stalling_proxy::serve(connection& each)
@@ -100,9 +120,20 @@ bool stalling_proxy::serve(connection& each)
     const bool from_client = is_ready(each.client);
     if (from_client && pass_on(each, each.client, each.server)) {
         ++each.messages;
-        ++passed_;
+        count_message();
     }
     return from_server || from_client;
+}
+
+void stalling_proxy::count_message()
+{
+    if (++passed_ != cut_at_)
+        return;
+    for (connection& each : connections_) {
+        each.ended = true;
+        ::shutdown(each.client, SHUT_RDWR);
+        ::shutdown(each.server, SHUT_RDWR);
+    }
 }
 
 void stalling_proxy::accept_connection()

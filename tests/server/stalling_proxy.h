@@ -20,6 +20,10 @@ public:
     stalling_proxy(const stalling_proxy&) = delete;
     stalling_proxy& operator=(const stalling_proxy&) = delete;
 
+    /// Ends all connections after so many further messages of clients. The last one still reaches the server,
+    /// its answer does not reach the client. Later connections are passed on. Usable from any thread.
+    void cut_after(int messages);
+
     /// Closes all connections, and returns how many messages the client of each has sent.
     std::vector<int> messages_of_connections();
 
@@ -39,10 +43,14 @@ private:
     /// False at the end of a connection.
     static bool pass_on(connection& each, int from, int to);
     bool is_stalled() const { return passed_ >= most_; }
+    void count_message();
+    void wait_for_messages() const;
 
     const QString server_;
     const int most_;
-    int passed_ = 0;
+    std::atomic<int> passed_ = 0;
+    /// The number of messages after which the connections end; 0 for none.
+    std::atomic<int> cut_at_ = 0;
     int listening_ = -1;
     std::vector<connection> connections_;
     std::atomic<bool> ended_ = false;

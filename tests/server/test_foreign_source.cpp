@@ -1,6 +1,7 @@
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include "store/Recordset.h"
 #include "store/recovery/diary_copy.h"
@@ -175,6 +176,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("value");
         QTest::newRow("a commit begins a transaction") << u"completion_type"_s << u"'CHAIN'"_s;
         QTest::newRow("a change needs a key") << u"sql_safe_updates"_s << u"1"_s;
+        QTest::newRow("a statement commits nothing") << u"autocommit"_s << u"0"_s;
+        QTest::newRow("other words and quotes")
+            << u"sql_mode"_s << u"'ANSI,IGNORE_SPACE,NO_AUTO_VALUE_ON_ZERO,ORACLE'"_s;
+        QTest::newRow("an unused connection ends after a second") << u"wait_timeout"_s << u"1"_s;
     }
     void a_setting_of_the_server_loses_no_save()
     {
@@ -189,6 +194,8 @@ private Q_SLOTS:
         partners.Open();
         add_partner(partners, u"a"_s, 1);
         partners.UpdateBatch();
+        if (setting == u"wait_timeout")
+            QThread::msleep(2500);
         // Without a transaction of its own, unlike the other save.
         strict.connection.Execute(u"insert into partners (name, code) values ('b', 2)"_s);
         strict.reopen();
