@@ -95,7 +95,6 @@ void f_new_round::show_stored_round(const QString& key)
     set_date_value(key);
     if (!round_record::has_row_in_games2()) {
         // English in both languages.
-        // English in both twins.
         show_information(u"Error : games2 record not found"_s);
         holes.show_hole(first_hole);
         unload();
