@@ -7,8 +7,14 @@
 #include <QScrollArea>
 #include <QTest>
 
+#include "base/failure_words.h"
+#include "controls/boxes.h"
+#include "controls/interface_language.h"
+#include "controls/lock_box.h"
 #include "controls/look.h"
 #include "controls/TabStrip.h"
+#include "shell/f_lang.h"
+#include "tests/shell/program_run.h"
 #include "tests/support/hand_widgets.h"
 #include "tests/support/window_look.h"
 #include "tests/windows/every_window.h"
@@ -200,6 +206,63 @@ QStringList faults_of(hand& user, const QString& window)
     return faults << hidden_with_focus(user);
 }
 
+/// The faults of a message box that is shown: parts beyond the screen, and texts that are cut off.
+QStringList faults_of_box(const QWidget& box)
+{
+    QStringList faults;
+    if (!box.screen()->availableGeometry().contains(box.frameGeometry()))
+        faults << u"extends beyond the screen"_s;
+    for (const QWidget* part : box.findChildren<QWidget*>()) {
+        const bool has_text = qobject_cast<const QLabel*>(part) || qobject_cast<const QPushButton*>(part);
+        if (has_text && part->isVisible() &&
+            (visible_part(*part) != part->size() || part->height() < part->heightForWidth(part->width())))
+            faults << described(*part) + u" is cut off";
+    }
+    return faults;
+}
+
+/// The list of Ctrl+F1 is longest in the round window.
+QStringList faults_of_list(hand& user)
+{
+    QStringList faults;
+    user.key(Qt::Key_F1, Qt::ControlModifier);
+    user.wait_for_window(u"message_box"_s);
+    user.look([&] { faults = faults_of_box(*visible_window(u"message_box"_s)); });
+    user.key(Qt::Key_Escape);
+    user.wait_until_closed(u"message_box"_s);
+    return faults;
+}
+
+/// The box of a failure of that kind, with a statement as its details.
+QStringList faults_of_failure_box(failure_kind kind)
+{
+    const run_time_failure failure(kind, u"insert into games "_s.repeated(20));
+    const auto box = failure_box(failure, failure_words(kind).in(is_french), nullptr);
+    box->show();
+    QApplication::processEvents();
+    return faults_of_box(*box);
+}
+
+QStringList faults_of_lock_box()
+{
+    const auto notice = make_lock_box();
+    QApplication::processEvents();
+    return faults_of_box(*visible_window(u"lock_box"_s));
+}
+
+/// The main window of a new diary.
+QStringList faults_of_first_steps(bool french)
+{
+    QStringList faults;
+    program_run run(french ? french_value : english_value);
+    run.play_through([&](hand& user) {
+        user.wait_until(u"the first steps"_s, [] { return find_control(u"first_steps"_s) != nullptr; });
+        user.look([&] { faults = faults_of_box(*visible_window(u"MainForm"_s)); });
+        user.menu(u"mQuit"_s);
+    });
+    return faults;
+}
+
 }  // namespace
 
 /// Runs once for each kind of screen, which the environment sets up.
@@ -213,11 +276,29 @@ private Q_SLOTS:
         for (const bool french : {true, false})
             visit_every_window(french, [&](hand& user, const program_window& window) {
                 faults_.add(window, french, faults_of(user, window.name(french)));
+                if (window.view == u"f_new_round"_s)
+                    faults_.add(window, french, faults_of_list(user));
             });
     }
 
     void every_window_fits_on_its_screen_with_all_its_controls_data() { every_window_in_both_languages(); }
     void every_window_fits_on_its_screen_with_all_its_controls() { faults_.verify_nothing_found(); }
+
+    void every_notice_and_the_first_steps_lie_on_the_screen_with_their_whole_texts_data()
+    {
+        QTest::addColumn<bool>("french");
+        QTest::newRow("French") << true;
+        QTest::newRow("English") << false;
+    }
+    void every_notice_and_the_first_steps_lie_on_the_screen_with_their_whole_texts()
+    {
+        QFETCH(bool, french);
+        set_interface_language(french);
+        QStringList faults = faults_of_lock_box() + faults_of_first_steps(french);
+        for (int kind = 0; kind <= static_cast<int>(failure_kind::report_output); ++kind)
+            faults << faults_of_failure_box(static_cast<failure_kind>(kind));
+        QCOMPARE(faults.join(u'\n'), QString());
+    }
 
 private:
     window_findings faults_;
