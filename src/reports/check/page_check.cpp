@@ -1,8 +1,8 @@
 #include "reports/check/page_check.h"
 
-#include "reports/check/open_elements.h"
-#include "reports/check/page_markup.h"
 #include "reports/fill/lined_fill.h"
+#include "reports/markup/open_elements.h"
+#include "reports/markup/page_markup.h"
 #include "reports/page/layout_units.h"
 #include "reports/template/page_limits.h"
 

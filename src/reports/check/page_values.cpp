@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "reports/check/page_markup.h"
+#include "reports/markup/page_markup.h"
 #include "reports/page/layout_units.h"
 #include "reports/template/page_limits.h"
 

@@ -1,4 +1,4 @@
-#include "reports/check/open_elements.h"
+#include "reports/markup/open_elements.h"
 
 #include <algorithm>
 #include <iterator>

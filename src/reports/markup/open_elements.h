@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "reports/check/page_markup.h"
+#include "reports/markup/page_markup.h"
 
 namespace verdane {
 

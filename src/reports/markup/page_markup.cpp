@@ -1,4 +1,4 @@
-#include "reports/check/page_markup.h"
+#include "reports/markup/page_markup.h"
 
 #include <QRegularExpression>
 
