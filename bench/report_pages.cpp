@@ -1,10 +1,12 @@
-#include <QListWidget>
+#include <QApplication>
+#include <QEvent>
 #include <QProgressBar>
 
 #include <benchmark/benchmark.h>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "bench/diaries.h"
 #include "bench/pairs.h"
@@ -15,6 +17,7 @@
 #include "reports/preview/report_preview.h"
 #include "reports/query/report_snapshot.h"
 #include "reports/report_control.h"
+#include "reports/report_document.h"
 #include "statistics/club_statistics.h"
 #include "statistics/cost_statistics.h"
 #include "statistics/f_carte.h"
@@ -27,6 +30,9 @@
 namespace verdane::bench {
 
 namespace {
+
+/// The rounds of the report with which the report of all costs is compared.
+constexpr int rounds_of_short_report = 20;
 
 /// Fills the tables of a report and launches it. Its control keeps the arguments.
 using launch = std::function<void(const run_controls&)>;
@@ -42,22 +48,73 @@ void in_filled_store(const launch& run, const std::function<void(report_control&
     measure(control);
 }
 
-void show_pages(benchmark::State& state, report_control& control)
+/// The time until the pages of the preview are painted first.
+class first_paint_time : public QObject {
+public:
+    first_paint_time() { qApp->installEventFilter(this); }
+
+    /// Runs events until then.
+    double seconds() const
+    {
+        while (!seconds_)
+            Form::paint_now();
+        return *seconds_;
+    }
+
+    bool eventFilter(QObject* target, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && target->parent() != nullptr &&
+            target->parent()->objectName() == QStringView(u"page_view")) {
+            qApp->removeEventFilter(this);
+            // An event posted now is handled after the window is painted, and before any event that the
+            // painting posts.
+            QMetaObject::invokeMethod(
+                this, [this] { seconds_ = watch_.seconds(); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    const stopwatch watch_;
+    std::optional<double> seconds_;
+};
+
+void show_first_page(benchmark::State& state, report_control& control)
+{
+    for (auto _ : state) {
+        const first_paint_time until_painted;
+        control.Action(report_control::run_now);
+        state.SetIterationTime(until_painted.seconds());
+        delete control.preview();
+    }
+}
+
+/// Runs events until the preview has laid out all pages.
+void wait_for_all_pages(const report_preview& preview)
+{
+    while (!preview.document().is_complete())
+        Form::paint_now();
+}
+
+/// From the launch until the last page can be painted.
+void lay_out_all_pages(benchmark::State& state, report_control& control)
 {
     for (auto _ : state) {
         const stopwatch watch;
         control.Action(report_control::run_now);
-        Form::paint_now();
+        wait_for_all_pages(*control.preview());
         state.SetIterationTime(watch.seconds());
         delete control.preview();
     }
 }
 
+/// Lays all pages out before.
 void turn_pages(benchmark::State& state, report_control& control)
 {
     control.Action(report_control::run_now);
     const std::unique_ptr<report_preview> preview(control.preview());
     page_view& pages = preview->pages();
+    wait_for_all_pages(*preview);
     Form::paint_now();
     for (auto _ : state) {
         const int before = pages.current_page();
@@ -80,22 +137,28 @@ void card_report(benchmark::State& state)
     f_carte window;
     f_carte_func::print(window);
     delete window.cr2().preview();
-    show_pages(state, window.cr2());
+    show_first_page(state, window.cr2());
     window.unload();
+}
+
+template <typename Statistic>
+launch over_rounds(int rounds, Statistic statistic, clause_form clauses = clause_form::appended)
+{
+    return [=](const run_controls& controls) { statistic(first_rounds(rounds, clauses), controls); };
 }
 
 template <typename Statistic>
 launch over_all_rounds(Statistic statistic, clause_form clauses = clause_form::appended)
 {
-    return [=](const run_controls& controls) {
-        statistic(first_rounds(testing::rounds_of_full_diary, clauses), controls);
-    };
+    return over_rounds(testing::rounds_of_full_diary, statistic, clauses);
 }
 
-void register_pages(const std::string& name, const launch& run)
+using measurement = void (*)(benchmark::State&, report_control&);
+
+void register_pages(const std::string& name, const launch& run, measurement measure = show_first_page)
 {
-    register_timed(name, [run](benchmark::State& state) {
-        in_filled_store(run, [&state](report_control& control) { show_pages(state, control); });
+    register_timed(name, [=](benchmark::State& state) {
+        in_filled_store(run, [&](report_control& control) { measure(state, control); });
     });
 }
 
@@ -111,10 +174,10 @@ void register_report_pages()
                        Statistics::club_statistics(chosen, {&controls});
                    }));
     register_pages("report_of_costs", costs);
+    register_pages("report_of_costs_floor", over_rounds(rounds_of_short_report, Statistics::cost_statistics));
+    register_pages("report_of_costs_all_pages", costs, lay_out_all_pages);
+    register_pages("report_of_costs_next_page", costs, turn_pages);
     register_timed("report_card", card_report);
-    register_timed("report_of_costs_next_page", [costs](benchmark::State& state) {
-        in_filled_store(costs, [&state](report_control& control) { turn_pages(state, control); });
-    });
 }
 
 }  // namespace verdane::bench

@@ -50,9 +50,25 @@ QString report_document::base_name() const
     return QFileInfo(contents_->source.file_name).completeBaseName();
 }
 
+int report_document::pages_so_far() const
+{
+    return contents_->pages->pages_so_far();
+}
+
+bool report_document::is_complete() const
+{
+    return contents_->pages->is_complete();
+}
+
+void report_document::complete() const
+{
+    contents_->pages->complete();
+}
+
 int report_document::page_count() const
 {
-    return contents_->pages->page_count();
+    complete();
+    return pages_so_far();
 }
 
 QSizeF report_document::page_size_mm() const
@@ -67,13 +83,20 @@ QMarginsF report_document::margins_mm() const
 
 void report_document::paint(QPainter& painter, int page) const
 {
+    complete();
+    paint_early(painter, page);
+}
+
+void report_document::paint_early(QPainter& painter, int page) const
+{
+    const std::optional<int> pages = is_complete() ? std::optional(pages_so_far()) : std::nullopt;
     painter.save();
     painter.scale(1 / units_per_mm, 1 / units_per_mm);
     // Smoothed edges would leave light seams between the coloured cells of a table. The drawings are painted
     // with smoothing.
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    contents_->pages->paint(painter, page, fill_footer(contents_->source, page + 1, page_count()));
+    contents_->pages->paint(painter, page, fill_footer(contents_->source, page + 1, pages));
     painter.restore();
 }
 

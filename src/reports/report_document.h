@@ -28,13 +28,26 @@ public:
     const QString& title() const;
     QString base_name() const;
 
+    /// The pages that are laid out, at least one, and whether these are all.
+    int pages_so_far() const;
+    bool is_complete() const;
+
+    /// Lays out the pages that are missing. Fails with `report_template`, also when it is called again.
+    void complete() const;
+
+    /// The number of all pages, after `complete`.
     int page_count() const;
+
     QSizeF page_size_mm() const;
     QMarginsF margins_mm() const;
 
     /// Paints a page, counted from 0, with the painter's origin at the corner of the paper and one
-    /// unit for one millimetre.
+    /// unit for one millimetre. Calls `complete` before, since a page may show the number of pages. So do the
+    /// other functions that paint, save or print pages.
     void paint(QPainter& painter, int page) const;
+
+    /// Paints a page that is laid out, with "…" for the number of pages if it is not known yet.
+    void paint_early(QPainter& painter, int page) const;
 
     /// A page as a picture on white paper.
     QImage page_image(int page, double dots_per_inch) const;
@@ -64,9 +77,10 @@ private:
     std::unique_ptr<contents> contents_;
 };
 
-/// Reads a template, gets its figures from the store and from `passed`, and lays the pages out. Fails with
-/// `report_template` (file and line in the details) or as `report_snapshot` does. `may_continue` is called
-/// while queries run; `report_stopped` is thrown when it returns false.
+/// Reads a template, gets its figures from the store and from `passed`, and lays out the pages up to the
+/// first page break; the other pages are laid out when they are needed. Fails with `report_template` (file
+/// and line in the details) or as `report_snapshot` does. `may_continue` is called while queries run;
+/// `report_stopped` is thrown when it returns false.
 std::shared_ptr<const report_document> render_report(const QString& template_path,
                                                      const continue_check& may_continue = {},
                                                      const passed_rows& passed = {});

@@ -65,7 +65,7 @@ QString template_file_in(const QString& folder, const QString& name, const QStri
 QString failure_of_template(const QString& path)
 {
     try {
-        render_report(path);
+        render_report(path)->complete();
     } catch (const run_time_failure& failure) {
         if (failure.kind() == failure_kind::report_template)
             return failure.details();

@@ -152,7 +152,7 @@ QString fill_body(const template_file& source, const report_snapshot& snapshot)
     return result;
 }
 
-QString fill_footer(const template_file& source, int page, int pages)
+QString fill_footer(const template_file& source, int page, std::optional<int> pages)
 {
     for (const template_tag& tag : find_tags(source.footer, source.footer_place))
         if (tag.name != u"page"_s && tag.name != u"pages"_s)
@@ -160,7 +160,7 @@ QString fill_footer(const template_file& source, int page, int pages)
     kainjow::mustache::mustache footer(source.footer.toStdString());
     data numbers(data::type::object);
     numbers.set("page", std::to_string(page));
-    numbers.set("pages", std::to_string(pages));
+    numbers.set("pages", pages ? std::to_string(*pages) : "…");
     return QString::fromStdString(footer.render(numbers));
 }
 

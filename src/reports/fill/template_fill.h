@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 #include "reports/query/report_snapshot.h"
 #include "reports/template/template_file.h"
 
@@ -13,8 +15,9 @@ namespace verdane {
 /// characters than `page_limits.h` allows.
 QString fill_body(const template_file& source, const report_snapshot& snapshot);
 
-/// The text below a page. Fails with `report_template` on any field other than `page` and `pages`.
-QString fill_footer(const template_file& source, int page, int pages);
+/// The text below a page, with "…" for the number of pages if it is not known yet. Fails with
+/// `report_template` on any field other than `page` and `pages`.
+QString fill_footer(const template_file& source, int page, std::optional<int> pages);
 
 /// A value as it is printed: whole numbers without a point, Null as nothing.
 QString printed_value(const QVariant& value);

@@ -29,7 +29,7 @@ private:
 };
 
 laid_out_html::laid_out_html(const template_file& source, const QFont& font, const QSizeF& page,
-                             const QString& html)
+                             int pages_before, const QString& html)
     : page_width_(page.width()), document_(std::make_unique<closed_document>())
 {
     document_->setUndoRedoEnabled(false);
@@ -45,7 +45,7 @@ laid_out_html::laid_out_html(const template_file& source, const QFont& font, con
     if (!document_->refused().isEmpty())
         fail_template(source.at(source.body_line), file_refusal(document_->refused().constFirst()));
     shrink_ = qMin(1.0, page.width() / document_->size().width());
-    cuts_ = cut_into_pages(*document_, page.height() / shrink_, source.at(source.body_line));
+    cuts_ = cut_into_pages(*document_, page.height() / shrink_, source.at(source.body_line), pages_before);
 }
 
 laid_out_html::~laid_out_html() = default;

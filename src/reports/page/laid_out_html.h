@@ -21,10 +21,12 @@ class laid_out_html {
 public:
     /// `page` is the size of a page within its margins. Table heads (`<thead>`) are repeated on each page.
     /// Fails with `report_template` on a drawing that is wrong, on HTML that would load a file, and on too
-    /// many pages.
-    laid_out_html(const template_file& source, const QFont& font, const QSizeF& page, const QString& html);
+    /// many pages, which include the `pages_before`.
+    laid_out_html(const template_file& source, const QFont& font, const QSizeF& page, int pages_before,
+                  const QString& html);
     ~laid_out_html();
 
+    /// 0 if nothing is printed.
     int page_count() const;
 
     /// Paints the content of a page, counted from 0, with the origin at the corner within the margins.

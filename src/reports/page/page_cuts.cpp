@@ -11,7 +11,10 @@ namespace {
 /// Fills pages with bands, from the top of the document to its end.
 class page_filler {
 public:
-    page_filler(double page_height, const template_place& place) : page_height_(page_height), place_(place) {}
+    page_filler(double page_height, int pages_before, const template_place& place)
+        : page_height_(page_height), most_(static_cast<std::size_t>(most_pages - pages_before)), place_(place)
+    {
+    }
 
     void put(const page_band& band)
     {
@@ -21,12 +24,7 @@ public:
         split_overlong();
     }
 
-    std::vector<page_cut> result()
-    {
-        if (pages_.empty())
-            pages_.push_back({});
-        return std::move(pages_);
-    }
+    std::vector<page_cut> result() { return std::move(pages_); }
 
 private:
     page_cut& page() { return pages_.back(); }
@@ -61,12 +59,13 @@ private:
     /// The limit also ends the loop if a page is so low that the remaining height never decreases.
     void add_page(const page_cut& cut)
     {
-        if (pages_.size() == most_pages)
+        if (pages_.size() == most_)
             fail_template(place_, u"the report has more than %1 pages"_s.arg(most_pages));
         pages_.push_back(cut);
     }
 
     double page_height_;
+    std::size_t most_;
     template_place place_;
     std::vector<page_cut> pages_;
 };
@@ -74,9 +73,9 @@ private:
 }  // namespace
 
 std::vector<page_cut> cut_into_pages(const QTextDocument& document, double page_height,
-                                     const template_place& place)
+                                     const template_place& place, int pages_before)
 {
-    page_filler filler(page_height, place);
+    page_filler filler(page_height, pages_before, place);
     for (const page_band& band : bands_of(document))
         filler.put(band);
     return filler.result();

@@ -67,11 +67,11 @@ void page_view::zoom_to(int percent)
     const std::optional<int> wanted_page = wanted_page_;
     const bool at_top = verticalScrollBar()->value() == 0;
     const double middle = viewport()->height() / 2.0;
-    const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->page_count());
+    const double seen = (verticalScrollBar()->value() + middle) / page_top(document_->pages_so_far());
     zoom_ = qBound(least_zoom, percent, most_zoom);
     set_up_scroll_bars();
     // A view at the top stays there. Before the first layout, the middle is not defined.
-    scroll_to(at_top ? 0 : qRound(seen * page_top(document_->page_count()) - middle), wanted_page);
+    scroll_to(at_top ? 0 : qRound(seen * page_top(document_->pages_so_far()) - middle), wanted_page);
     if (wanted_page && !is_visible_page(*wanted_page))
         turn_to(*wanted_page);
 }
@@ -111,7 +111,7 @@ int page_view::topmost_page() const
 {
     const int half = qMin(page_size().height() + 2 * gap, viewport()->height()) / 2;
     const int page = (verticalScrollBar()->value() + half - gap / 2) / (page_size().height() + gap);
-    return qBound(0, page, document_->page_count() - 1);
+    return qBound(0, page, document_->pages_so_far() - 1);
 }
 
 int page_view::current_page() const
@@ -121,7 +121,7 @@ int page_view::current_page() const
     const QScrollBar* bar = verticalScrollBar();
     const bool at_end = bar->maximum() > 0 && bar->value() == bar->maximum();
     const bool fits = page_size().height() <= viewport()->height();
-    return at_end && fits ? document_->page_count() - 1 : topmost_page();
+    return at_end && fits ? document_->pages_so_far() - 1 : topmost_page();
 }
 
 void page_view::previous_page()
@@ -133,11 +133,18 @@ void page_view::previous_page()
 
 void page_view::next_page()
 {
-    const int last = document_->page_count() - 1;
+    const int last = document_->pages_so_far() - 1;
     if (current_page() < last)
         turn_to(current_page() + 1);
     else
         scroll_to(verticalScrollBar()->maximum(), last);
+}
+
+void page_view::show_added_pages()
+{
+    set_up_scroll_bars();
+    viewport()->update();
+    Q_EMIT changed();
 }
 
 void page_view::turn_to(int page)
@@ -157,7 +164,7 @@ void page_view::set_up_scroll_bars()
 {
     const QSize size = page_size();
     verticalScrollBar()->setPageStep(viewport()->height());
-    verticalScrollBar()->setRange(0, qMax(0, page_top(document_->page_count()) - viewport()->height()));
+    verticalScrollBar()->setRange(0, qMax(0, page_top(document_->pages_so_far()) - viewport()->height()));
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setRange(0, qMax(0, size.width() + 2 * gap - viewport()->width()));
 }
@@ -165,9 +172,10 @@ void page_view::set_up_scroll_bars()
 void page_view::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
-    for (int page = 0; page < document_->page_count(); ++page)
+    for (int page = 0; page < document_->pages_so_far(); ++page)
         if (page_rect(page).adjusted(-gap, -gap, gap, gap).intersects(event->rect()))
             paint_page(painter, page);
+    Q_EMIT painted();
 }
 
 void page_view::paint_page(QPainter& painter, int page) const
@@ -179,7 +187,7 @@ void page_view::paint_page(QPainter& painter, int page) const
     painter.setClipRect(place);
     painter.translate(place.topLeft());
     painter.scale(pixels_per_mm(), pixels_per_mm());
-    document_->paint(painter, page);
+    document_->paint_early(painter, page);
     painter.restore();
 }
 

@@ -9,7 +9,7 @@ namespace verdane {
 
 class report_document;
 
-/// The pages of a report below one another, at a zoom in percent of their true size.
+/// The pages of a report that are laid out, below one another, at a zoom in percent of their true size.
 class page_view : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -34,9 +34,14 @@ public:
     void previous_page();
     void next_page();
 
+    /// Adapts the view after further pages were laid out.
+    void show_added_pages();
+
 Q_SIGNALS:
     /// The zoom or the current page may have changed.
     void changed();
+    /// A part of the view was painted.
+    void painted();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

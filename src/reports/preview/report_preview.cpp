@@ -27,6 +27,7 @@ report_preview::report_preview(std::shared_ptr<const report_document> document, 
     : QWidget(owner, Qt::Window),
       document_(std::move(document)),
       is_french_(is_french),
+      is_rest_shown_(document_->is_complete()),
       shortcuts_(new window_shortcuts(*this, is_french_))
 {
     setObjectName(u"report_preview"_s);
@@ -44,6 +45,8 @@ void report_preview::build()
     pages_ = new page_view(document_, this);
     pages_->setAccessibleName(u"Pages"_s);
     connect(pages_, &page_view::changed, this, &report_preview::show_state);
+    // Queued: the first page is on the screen before the others are laid out.
+    connect(pages_, &page_view::painted, this, &report_preview::lay_out_rest, Qt::QueuedConnection);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -119,8 +122,9 @@ std::vector<report_preview::command> report_preview::zoom_commands()
 std::vector<report_preview::command> report_preview::page_commands()
 {
     return {
-        {u"previous_page"_s, shortcut_table::previous_page, u"◀"_s, [this] { pages_->previous_page(); }},
-        {u"next_page"_s, shortcut_table::next_page, u"▶"_s, [this] { pages_->next_page(); }},
+        {u"previous_page"_s, shortcut_table::previous_page, u"◀"_s,
+         [this] { turn(&page_view::previous_page); }},
+        {u"next_page"_s, shortcut_table::next_page, u"▶"_s, [this] { turn(&page_view::next_page); }},
     };
 }
 
@@ -128,10 +132,27 @@ void report_preview::show_state()
 {
     if (page_label_ == nullptr)
         return;
-    page_label_->setText(in_own({u"Page %1 de %2", u"Page %1 of %2"})
-                             .arg(pages_->current_page() + 1)
-                             .arg(document_->page_count()));
+    page_label_->setText(
+        in_own({u"Page %1 de %2", u"Page %1 of %2"})
+            .arg(pages_->current_page() + 1)
+            .arg(document_->is_complete() ? QString::number(document_->pages_so_far()) : u"…"_s));
     zoom_label_->setText(u"%1 %"_s.arg(pages_->zoom()));
+}
+
+void report_preview::lay_out_rest()
+{
+    // The event may arrive after the preview was closed.
+    if (is_rest_shown_ || !isVisible())
+        return;
+    is_rest_shown_ = true;
+    guarded([this] { document_->complete(); });
+    pages_->show_added_pages();
+}
+
+void report_preview::turn(void (page_view::*to_page)())
+{
+    lay_out_rest();
+    (pages_->*to_page)();
 }
 
 void report_preview::print()

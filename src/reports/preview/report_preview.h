@@ -27,6 +27,7 @@ public:
     report_preview(std::shared_ptr<const report_document> document, const QString& title, QWidget* owner);
 
     page_view& pages() { return *pages_; }
+    const report_document& document() const { return *document_; }
 
 private:
     struct command {
@@ -43,6 +44,9 @@ private:
     std::vector<command> page_commands();
     std::vector<command> output_commands();
 
+    /// Lays out the pages that are missing. A failure is shown once.
+    void lay_out_rest();
+    void turn(void (page_view::*to_page)());
     void print();
     void save_pdf();
     void save_csv();
@@ -57,6 +61,8 @@ private:
 
     std::shared_ptr<const report_document> document_;
     bool is_french_;
+    /// Whether the view has all pages, or those that are missing have failed.
+    bool is_rest_shown_;
     window_shortcuts* shortcuts_;
     page_view* pages_ = nullptr;
     QLabel* page_label_ = nullptr;
