@@ -27,7 +27,7 @@ QImage painted_early(const report_document& document)
     return image;
 }
 
-/// Counts the pages that are laid out when a preview is painted first.
+/// Counts the pages that are laid out after a preview is painted first, before any other event is handled.
 class first_paint : public QObject {
 public:
     explicit first_paint(report_preview& preview) : preview_(preview)
@@ -35,22 +35,30 @@ public:
         preview.pages().viewport()->installEventFilter(this);
     }
 
-    /// Closes the preview after that, before any other event.
+    /// Closes the preview at that time.
     void close_afterwards() { closes_ = true; }
 
     int pages() const { return pages_; }
 
-    bool eventFilter(QObject*, QEvent* event) override
+    bool eventFilter(QObject* viewport, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint && pages_ == 0) {
-            pages_ = preview_.document().pages_so_far();
-            if (closes_)
-                QMetaObject::invokeMethod(&preview_, &QWidget::close, Qt::QueuedConnection);
+        if (event->type() == QEvent::Paint) {
+            viewport->removeEventFilter(this);
+            // Posted before the event is delivered, so it is handled before those that the painting posts.
+            QMetaObject::invokeMethod(
+                this, [this] { painted(); }, Qt::QueuedConnection);
         }
         return false;
     }
 
 private:
+    void painted()
+    {
+        pages_ = preview_.document().pages_so_far();
+        if (closes_)
+            preview_.close();
+    }
+
     report_preview& preview_;
     int pages_ = 0;
     bool closes_ = false;
