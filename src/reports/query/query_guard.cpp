@@ -79,6 +79,17 @@ QString query_guard::take_refusal()
     return std::exchange(refusal_, QString());
 }
 
+bool query_guard::keep_rows(const QString& table, const QString& statement)
+{
+    const QByteArray create = (u"create temp table \""_s + table + u"\" as " + statement).toUtf8();
+    sqlite3_set_authorizer(connection_, nullptr, nullptr);
+    const bool done = sqlite3_exec(connection_, create.constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    sqlite3_set_authorizer(connection_, authorize, this);
+    if (done)
+        kept_.append(table);
+    return done;
+}
+
 bool query_guard::may_continue()
 {
     is_stopped_ = is_stopped_ || (may_continue_ && !may_continue_());
@@ -93,7 +104,8 @@ int query_guard::authorize(void* guard, int action, const char* first, const cha
     if (action == SQLITE_SELECT || action == SQLITE_RECURSIVE)
         return SQLITE_OK;
     if (action == SQLITE_READ)
-        return is_readable(name, second != nullptr && *second != '\0')
+        return self.kept_.contains(name, Qt::CaseInsensitive) ||
+                       is_readable(name, second != nullptr && *second != '\0')
                    ? SQLITE_OK
                    : self.refuse(u"%1 is none of them"_s.arg(name));
     if (action == SQLITE_FUNCTION)

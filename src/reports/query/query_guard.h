@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <functional>
@@ -30,6 +31,10 @@ public:
     /// Whether the report continues. After the first false it always is false.
     bool may_continue();
 
+    /// Keeps the rows of a statement, which has run before, in a table that statements may then read as well.
+    /// False if that is not possible: memory is short, or the report was stopped.
+    bool keep_rows(const QString& table, const QString& statement);
+
 private:
     static int authorize(void* guard, int action, const char* first, const char* second, const char*,
                          const char*);
@@ -40,6 +45,7 @@ private:
     continue_check may_continue_;
     bool is_stopped_ = false;
     QString refusal_;
+    QStringList kept_;
     std::int64_t memory_limit_before_;
 };
 

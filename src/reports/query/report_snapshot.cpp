@@ -8,6 +8,7 @@
 
 #include "base/run_time_failure.h"
 #include "controls/lock_box.h"
+#include "reports/query/kept_queries.h"
 #include "reports/query/report_tables.h"
 #include "reports/template/page_limits.h"
 #include "reports/template/query_text.h"
@@ -116,7 +117,7 @@ QString report_snapshot::statement_for(const template_query& query) const
     for (const template_query& earlier : source_.queries) {
         if (earlier.name == query.name)
             break;
-        if (parameters_of(earlier).isEmpty())
+        if (!kept_.contains(earlier.name) && parameters_of(earlier).isEmpty())
             above.append(u"%1 as (\n%2\n)"_s.arg(earlier.name, earlier.sql));
     }
     if (above.isEmpty())
@@ -128,8 +129,20 @@ report_rows report_snapshot::rows(const template_query& query, const report_para
 {
     if (!parameters_of(query).isEmpty())
         return run(query, parameters);
-    const auto known = known_.find(query.name);
-    return known != known_.end() ? known->second : known_.emplace(query.name, run(query, {})).first->second;
+    auto known = known_.find(query.name);
+    if (known == known_.end()) {
+        known = known_.emplace(query.name, run(query, {})).first;
+        keep_for_queries_below(query, known->second.columns);
+    }
+    return known->second;
+}
+
+/// If this fails, the queries below run the query again, which fails in the same way or reports a stop.
+void report_snapshot::keep_for_queries_below(const template_query& query, const QStringList& columns) const
+{
+    if (is_named_below(source_, query) && may_be_kept(query, columns) &&
+        guard_->keep_rows(query.name, statement_for(query)))
+        kept_.append(query.name);
 }
 
 report_rows report_snapshot::run(const template_query& query, const report_parameters& parameters) const

@@ -82,6 +82,7 @@ public:
 private:
     void open(const passed_rows& passed);
     QString statement_for(const template_query& query) const;
+    void keep_for_queries_below(const template_query& query, const QStringList& columns) const;
     report_rows run(const template_query& query, const report_parameters& parameters) const;
     report_rows fetched(const template_query& query, QSqlQuery& statement) const;
     [[noreturn]] void fail(const template_query& query, const QSqlQuery& statement) const;
@@ -92,6 +93,8 @@ private:
     std::unique_ptr<query_guard> guard_;
     /// By the name of the query. Several sections may use one query, and `template_scope` runs each first.
     mutable std::map<QString, report_rows> known_;
+    /// The queries whose rows are in a table of the same name.
+    mutable QStringList kept_;
 };
 
 }  // namespace verdane
