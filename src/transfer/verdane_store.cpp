@@ -5,6 +5,8 @@
 #include <QLoggingCategory>
 #include <QTranslator>
 
+#include <csignal>
+
 #include "base/language.h"
 #include "base/program.h"
 #include "transfer/command.h"
@@ -55,6 +57,8 @@ QStringList given_arguments(const QCommandLineParser& parser)
 int main(int argc, char** argv)
 {
     let_oversized_writes_fail();
+    // A command is completed also if nobody reads its report.
+    std::signal(SIGPIPE, SIG_IGN);
     // The report of a failure contains the text of the driver. Without this, a warning of the toolkit would
     // repeat that text.
     QLoggingCategory::setFilterRules(u"*.warning=false"_s);
