@@ -9,7 +9,7 @@ namespace verdane {
 /// The exit status of the program `verdane-store`.
 enum class exit_status {
     done = 0,
-    failed = 1,     ///< a store could not be read or written; it is as it was
+    failed = 1,     ///< a store could not be read or written; what was saved is intact
     usage = 2,      ///< a wrong command line
     not_empty = 3,  ///< the target has rows; nothing was changed
     in_use = 4,     ///< another program uses one of the stores; nothing was changed
@@ -26,7 +26,8 @@ struct status_words {
 /// Every exit status with its words for the help.
 inline constexpr std::array<status_words, 8> all_exit_statuses{{
     {exit_status::done, {u"fait et vérifié", u"done and checked"}},
-    {exit_status::failed, {u"échec (le journal est comme avant)", u"failure (the diary is as before)"}},
+    {exit_status::failed,
+     {u"échec (ce qui était enregistré est intact)", u"failure (what was saved is intact)"}},
     {exit_status::usage, {u"ligne de commande incorrecte", u"wrong command line"}},
     {exit_status::not_empty, {u"destination non vide", u"target not empty"}},
     {exit_status::in_use, {u"journal utilisé par un autre programme", u"diary in use by another program"}},
