@@ -47,22 +47,39 @@ void open_for_check(QFile& file)
                            reason);
 }
 
-/// The engine derives the names of its files from the target of a link.
-QString file_of_engine(const QString& path, QStringView suffix)
-{
-    const QString target = QFileInfo(path).canonicalFilePath();
-    return (target.isEmpty() ? path : target) + suffix;
-}
-
 bool has_content(const QString& path)
 {
     return QFileInfo(path).size() > 0;
 }
 
-/// When the engine opens an empty file, it deletes the log and creates a new store.
+/// The parts of the header of a rollback journal that SQLite's file format documents. The first bytes are
+/// zeros until the journal is complete; the file has not been changed then.
+namespace journal {
+constexpr int size = 28;
+constexpr int pages_before = 16;
+}  // namespace journal
+
+/// True if a rollback journal can have pages of a file. The journal of a file that is created has none.
+bool has_old_pages(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return has_content(path);
+    static const QByteArray start = QByteArray::fromHex("d9d505f920a163d7");
+    const QByteArray head = file.read(journal::size);
+    if (head.isEmpty() || head.startsWith(QByteArray(start.size(), '\0')))
+        return false;
+    return head.size() < journal::size || !head.startsWith(start) ||
+           qFromBigEndian<quint32>(head.constData() + journal::pages_before) > 0;
+}
+
+/// When the engine opens an empty file, it deletes the logs and creates a new store.
 void check_that_nothing_was_lost(const QString& path, bool is_there)
 {
-    if (has_content(file_of_engine(path, u"-wal")))
+    if (has_old_pages(real_path(path) + u"-journal"))
+        refuse(path, is_there ? u"the file is empty, its rollback journal is not"
+                              : u"the file is missing, its rollback journal is not");
+    if (has_content(real_path(path) + u"-wal"))
         refuse(path, is_there ? u"the file is empty, its write-ahead log is not"
                               : u"the file is missing, its write-ahead log is not");
     if (is_there && !days_of_copies(path).empty())
@@ -84,7 +101,8 @@ bool is_known_version(const QByteArray& head, int offset)
 /// file of any size, or without a header; the engine then reads those pages from the log.
 bool waits_for_recovery(const QString& path)
 {
-    return has_content(file_of_engine(path, u"-wal")) || has_content(file_of_engine(path, u"-journal"));
+    const QString file = real_path(path);
+    return has_content(file + u"-wal") || has_content(file + u"-journal");
 }
 
 /// The engine reads the missing part of the last page as zeros, so it would open a file that was cut there.
@@ -133,6 +151,16 @@ failure_kind kind_of(QLockFile::LockError error, const QString& path)
 
 }  // namespace
 
+QString real_path(const QString& path)
+{
+    // More links than this are a circle.
+    constexpr int most_links = 40;
+    QFileInfo file(path);
+    for (int links = 0; links < most_links && !file.exists() && file.isSymLink(); ++links)
+        file.setFile(file.symLinkTarget());
+    return file.exists() ? file.canonicalFilePath() : file.filePath();
+}
+
 void check_store_files(const QString& path)
 {
     QFile file(path);
@@ -156,13 +184,14 @@ void check_file_of_copy(const QString& path)
 void remove_store_files(const QString& path)
 {
     // The file last: a log without its file means that the file of a store was lost.
+    const QString file = real_path(path);
     for (const QStringView suffix : {u"-journal", u"-shm", u"-wal", u""})
-        QFile::remove(file_of_engine(path, suffix));
+        QFile::remove(file + suffix);
 }
 
 std::unique_ptr<QLockFile> take_store_lock(const QString& path)
 {
-    const QString lock_path = path + u".lock";
+    const QString lock_path = real_path(path) + u".lock";
     auto lock = std::make_unique<QLockFile>(lock_path);
     // The program may run for days: a lock is stale if the process that took it has ended, whatever its age.
     lock->setStaleLockTime(std::chrono::milliseconds(0));

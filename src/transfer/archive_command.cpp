@@ -4,6 +4,7 @@
 
 #include "store/recovery/archived_rounds.h"
 #include "store/recovery/diary_copy.h"
+#include "store/recovery/sole_use.h"
 #include "transfer/console.h"
 #include "transfer/empty_store.h"
 #include "transfer/store_argument.h"
@@ -38,6 +39,17 @@ exit_status refuse_same_file(const store_location& to)
                       .arg(argument_of_store(to)));
 }
 
+exit_status refuse_blank(const blank_in_key& found)
+{
+    return refuse(exit_status::problems,
+                  in_language(u"La table %1 a une ligne de la ronde %2 dont la clé commence ou finit par un "
+                              u"blanc ; elle ne serait pas déplacée. Rien n'a été modifié ; lancez "
+                              u"verdane-store check.",
+                              u"Table %1 has a row of the round %2 whose key begins or ends with a blank; it "
+                              u"would not be moved. Nothing was changed; run verdane-store check.")
+                      .arg(found.table, found.key));
+}
+
 exit_status move_rounds(Connection1& store, QDate day, const store_location& to)
 {
     const QStringList keys = round_keys_before(store, day);
@@ -48,6 +60,8 @@ exit_status move_rounds(Connection1& store, QDate day, const store_location& to)
                   .arg(date));
         return exit_status::done;
     }
+    if (const auto blank = find_blank_in_key(store, keys))
+        return refuse_blank(*blank);
     if (!move_to_archive(store, keys, to.name))
         return refuse_other_archive(to);
     print(in_language(u"Archivé et vérifié : %1 d'avant le %2, dans %3.",

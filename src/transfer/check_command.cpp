@@ -8,6 +8,7 @@
 #include "store/recovery/diary_snapshot.h"
 #include "store/recovery/kept_copy.h"
 #include "store/recovery/lost_rounds.h"
+#include "store/recovery/sole_use.h"
 #include "transfer/console.h"
 #include "transfer/problem_report.h"
 #include "transfer/store_argument.h"
@@ -65,10 +66,17 @@ void print_refusals(const round_list& rounds)
 void make_rounds(Connection1& store, const round_list& rounds)
 {
     for (const lost_round& round : rounds) {
-        if (!round.refusal.isEmpty())
-            continue;
-        make_round(store, round);
-        print(in_language(u"Ronde faite de ses coups : %1", u"Round made of its shots: %1").arg(round.key));
+        if (round.refusal.isEmpty())
+            make_round(store, round);
+    }
+}
+
+void print_made(const round_list& rounds)
+{
+    for (const lost_round& round : rounds) {
+        if (round.refusal.isEmpty())
+            print(
+                in_language(u"Ronde faite de ses coups : %1", u"Round made of its shots: %1").arg(round.key));
     }
 }
 
@@ -90,13 +98,14 @@ void repair(Connection1& store, const problem_list& problems, const round_list& 
     make_rounds(store, rounds);
     repair(store, problems, repair_step::rows);
     together.finish();
+    print_made(rounds);
     repair(store, problems, repair_step::new_indexes);
 }
 
 exit_status check(const store_location& location, int options)
 {
     Connection1& store = data_environment().connection;
-    if (!store.OpenExisting(location, soundness_check::later))
+    if (!open_alone(store, location, soundness_check::later))
         return refuse_without_diary(location);
     // Fails if more than indexes is damaged.
     store.damaged_indexes();

@@ -25,6 +25,11 @@ void print(const QString& line)
     QTextStream(stdout) << line << Qt::endl;
 }
 
+void print_warning(const QString& line)
+{
+    QTextStream(stderr) << line << Qt::endl;
+}
+
 QString counted(int number, const text_pair& one, const text_pair& several)
 {
     const bool is_one = number == 1 || (is_french && number == 0);
@@ -33,7 +38,7 @@ QString counted(int number, const text_pair& one, const text_pair& several)
 
 exit_status refuse(exit_status status, const QString& line)
 {
-    QTextStream(stderr) << line << Qt::endl;
+    print_warning(line);
     return status;
 }
 

@@ -14,6 +14,9 @@ namespace verdane {
 /// A line on standard output.
 void print(const QString& line);
 
+/// A line on the standard error output that refuses nothing.
+void print_warning(const QString& line);
+
 /// A number with its noun, which is in the plural from 2 on, and in English for 0, too.
 QString counted(int number, const text_pair& one, const text_pair& several);
 

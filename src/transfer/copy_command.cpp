@@ -1,6 +1,8 @@
 #include "transfer/command.h"
 
+#include "store/commits.h"
 #include "store/recovery/diary_copy.h"
+#include "store/recovery/sole_use.h"
 #include "transfer/console.h"
 #include "transfer/empty_store.h"
 #include "transfer/store_argument.h"
@@ -18,26 +20,35 @@ exit_status refuse_without_source(const store_location& from)
                       .arg(argument_of_store(from)));
 }
 
-exit_status copy_open_stores(Connection1& source, Connection1& target)
+void print_table(const counted_table& table)
+{
+    print(in_language(u"%1 : %2", u"%1: %2").arg(table.name, counted_rows(table.rows)));
+}
+
+void print_result(const std::vector<counted_table>& copied)
 {
     int rows = 0;
-    const auto copied = copy_diary(source, target, [](const counted_table& table) {
-        print(in_language(u"%1 : %2", u"%1: %2").arg(table.name, counted_rows(table.rows)));
-    });
     for (const counted_table& table : copied)
         rows += table.rows;
     print(in_language(u"Copié et vérifié : %1 tables, %2.", u"Copied and checked: %1 tables, %2.")
               .arg(QString::number(copied.size()), counted_rows(rows)));
-    return exit_status::done;
 }
 
 exit_status copy(const store_location& from, const store_location& to)
 {
     Connection1 source;
-    if (!source.OpenExisting(from) || tables_in_use(source).empty())
+    if (!open_alone(source, from))
+        return refuse_without_source(from);
+    const joined_commits one_moment(source);
+    if (tables_in_use(source).empty())
         return refuse_without_source(from);
     Connection1 target;
-    return fill_empty_store(target, to, [&] { return copy_open_stores(source, target); });
+    std::vector<counted_table> copied;
+    const exit_status status =
+        fill_empty_store(target, to, [&] { copied = copy_diary(source, target, print_table); });
+    if (status == exit_status::done)
+        print_result(copied);
+    return status;
 }
 
 exit_status run_copy(const QStringList& arguments, int)

@@ -5,6 +5,7 @@
 #include "records/course_rows.h"
 #include "store/commits.h"
 #include "store/DataEnvironment1.h"
+#include "store/recovery/sole_use.h"
 #include "transfer/console.h"
 #include "transfer/course_lines.h"
 #include "transfer/store_argument.h"
@@ -83,7 +84,7 @@ exit_status import_courses(const QString& file, const store_location& location)
     const course_lines courses = read_courses(file, faults);
     if (!faults.empty())
         return refuse_lines(faults);
-    if (!data_environment().connection.OpenExisting(location))
+    if (!open_alone(data_environment().connection, location))
         return refuse_without_diary(location);
     return add_courses(file, courses);
 }

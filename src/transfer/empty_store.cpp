@@ -1,8 +1,16 @@
 #include "transfer/empty_store.h"
 
+#include <QFileInfo>
+#include <QLockFile>
+
 #include "store/new_store_name.h"
 #include "store/recovery/diary_copy.h"
+#include "store/recovery/kept_copy.h"
+#include "store/recovery/sole_use.h"
+#include "store/recovery/whole_files.h"
+#include "store/recovery/work_folder.h"
 #include "store/schema.h"
+#include "store/store_files.h"
 #include "transfer/console.h"
 #include "transfer/store_argument.h"
 
@@ -58,7 +66,7 @@ exit_status refuse_order(const Connection1& target, const QString& table)
                   in_language(words.french, words.english).arg(argument_of_store(target.location()), table));
 }
 
-exit_status fill_if_empty(const Connection1& target, const std::function<exit_status()>& fill)
+exit_status fill_if_empty(const Connection1& target, const std::function<void()>& fill)
 {
     const std::vector<counted_table> used = tables_in_use(target);
     if (!used.empty())
@@ -66,24 +74,74 @@ exit_status fill_if_empty(const Connection1& target, const std::function<exit_st
     const QStringList without_order = tables_without_order(target);
     if (!without_order.isEmpty())
         return refuse_order(target, without_order.front());
-    return fill();
+    fill();
+    return exit_status::done;
 }
 
-}  // namespace
-
-exit_status fill_empty_store(Connection1& target, const store_location& to,
-                             const std::function<exit_status()>& fill)
+/// Closes the open store, which is abandoned after a failure.
+exit_status fill_open_store(Connection1& target, const std::function<void()>& fill)
 {
-    if (has_reserved_name(to))
-        return refuse_reserved_name(to);
-    // If opening fails, only files that it has created are removed: the log of a lost file may be there.
-    target.Open(to);
     const exit_status status = reported([&] { return fill_if_empty(target, fill); });
     if (status == exit_status::done)
         target.Close();
     else
         target.abandon();
     return status;
+}
+
+exit_status fill_present_store(Connection1& target, const store_location& to,
+                               const std::function<void()>& fill)
+{
+    open_or_create_alone(target, to);
+    const exit_status status = fill_open_store(target, fill);
+    if (status == exit_status::done && to.where == store_location::place::file)
+        check_closed(to.name);
+    return status;
+}
+
+/// Null unless the file does not exist. Fails with `store_damaged` if the log of a lost file is there.
+std::unique_ptr<QLockFile> lock_of_new_file(const store_location& to)
+{
+    if (to.where != store_location::place::file || QFileInfo::exists(to.name))
+        return nullptr;
+    make_folder_of(real_path(to.name));
+    auto lock = take_store_lock(to.name);
+    // Another program may have made it before the lock was taken.
+    if (QFileInfo::exists(to.name))
+        return nullptr;
+    check_store_files(to.name);
+    return lock;
+}
+
+exit_status refuse_new_file(const store_location& to)
+{
+    return refuse(exit_status::not_empty, in_language(u"Un autre programme a fait %1. Rien n'a été modifié.",
+                                                      u"Another program has made %1. Nothing was changed.")
+                                              .arg(argument_of_store(to)));
+}
+
+/// The caller has the lock of the file.
+exit_status fill_new_file(Connection1& target, const store_location& to, const std::function<void()>& fill)
+{
+    const QString path = real_path(to.name);
+    const work_folder work(path);
+    target.Open(work.new_store());
+    const exit_status status = fill_open_store(target, fill);
+    if (status != exit_status::done)
+        return status;
+    check_closed(work.new_store());
+    return rename_without_replacing(work.new_store(), path) ? status : refuse_new_file(to);
+}
+
+}  // namespace
+
+exit_status fill_empty_store(Connection1& target, const store_location& to, const std::function<void()>& fill)
+{
+    if (has_reserved_name(to))
+        return refuse_reserved_name(to);
+    if (const auto lock = lock_of_new_file(to))
+        return fill_new_file(target, to, fill);
+    return fill_present_store(target, to, fill);
 }
 
 bool has_reserved_name(const store_location& store)

@@ -4,7 +4,9 @@
 #include <QFileInfo>
 
 #include "base/run_time_failure.h"
+#include "store/commits.h"
 #include "store/recovery/diary_copy.h"
+#include "store/recovery/sole_use.h"
 #include "store/recovery/whole_files.h"
 #include "store/recovery/work_folder.h"
 #include "transfer/console.h"
@@ -45,8 +47,7 @@ int write_table(const Connection1& store, const table& written, const QString& f
 /// Returns the number of rows.
 int write_tables(const Connection1& store, const QString& folder)
 {
-    if (!QDir().mkdir(folder))
-        throw run_time_failure(failure_kind::store_read_only, folder);
+    make_folder(folder);
     int rows = 0;
     QString list = heads_of_list();
     for (const table& each : schema())
@@ -71,19 +72,44 @@ exit_status refuse_folder(const QString& folder)
                       .arg(folder));
 }
 
+/// A program that works in a folder does not find the new one that replaces it.
+bool is_current(const QString& folder)
+{
+    const QString current = QDir::current().canonicalPath() + u'/';
+    const QString replaced = QFileInfo(folder).canonicalFilePath();
+    return !replaced.isEmpty() && current.startsWith(replaced + u'/');
+}
+
+exit_status refuse_current_folder(const QString& folder)
+{
+    return refuse(exit_status::usage,
+                  in_language(u"%1 est le dossier actuel. Rien n'a été modifié ; donnez le "
+                              u"nom d'un nouveau dossier.",
+                              u"%1 is the current folder. Nothing was changed; give the "
+                              u"name of a new folder.")
+                      .arg(folder));
+}
+
 exit_status export_diary(const store_location& from, const QString& folder)
 {
     remove_unfinished(folder);
     if (is_used(folder))
         return refuse_folder(folder);
+    if (is_current(folder))
+        return refuse_current_folder(folder);
     Connection1 store;
-    if (!store.OpenExisting(from) || tables_in_use(store).empty())
+    if (!open_alone(store, from))
+        return refuse_without_diary(from);
+    const joined_commits one_moment(store);
+    if (tables_in_use(store).empty())
         return refuse_without_diary(from);
     const work_folder work(folder);
     const int rows = write_tables(store, work.files());
     // Another program may have filled it. A folder with files cannot be replaced even after this.
     if (is_used(folder))
         return refuse_folder(folder);
+    if (QFileInfo::exists(folder))
+        copy_mode(folder, work.files());
     replace_file(work.files(), folder);
     print(in_language(u"Exporté : %1 tables, %2.", u"Exported: %1 tables, %2.")
               .arg(QString::number(schema().size()), counted_rows(rows)));

@@ -17,53 +17,65 @@ namespace {
 
 using all_tables = std::vector<table_rows>;
 
-/// The rows of every table of `schema`, in its order.
-all_tables read_tables(const QString& folder, bad_lines& faults)
+/// The rows of every table of `schema`, in its order. `edited` gets the names of changed files.
+all_tables read_tables(const QString& folder, bad_lines& faults, QStringList& edited)
 {
     const table_list list = read_list(folder, faults);
     all_tables tables;
     for (const table& each : schema())
-        tables.push_back(read_table(each, folder, list, faults));
+        tables.push_back(read_table(each, folder, list, faults, edited));
     return tables;
 }
 
-/// All tables are one commit.
-void write_tables(Connection1& store, const all_tables& tables)
+/// All tables are one commit. Returns the number of rows.
+int write_tables(Connection1& store, const all_tables& tables)
 {
     single_commit together(store);
+    need_empty(store);
     int rows = 0;
     for (std::size_t place = 0; place < tables.size(); ++place) {
         const table& written = schema()[place];
         const int of_table = static_cast<int>(tables[place].size());
         print(in_language(u"%1 : %2", u"%1: %2").arg(written.name, counted_rows(of_table)));
-        replace_rows(store, written, tables[place]);
+        fill_table(store, written, tables[place]);
         rows += of_table;
     }
     together.finish();
-    print(in_language(u"Importé et vérifié : %1 tables, %2.", u"Imported and checked: %1 tables, %2.")
-              .arg(QString::number(tables.size()), counted_rows(rows)));
+    return rows;
 }
 
-/// A store can have problems that are imported with it. Returns how many there are.
-std::size_t report_problems(const Connection1& store)
+/// A diary can have problems that are imported with it.
+exit_status print_result(const all_tables& tables, int rows, const problem_list& problems)
 {
-    const problem_list problems = find_problems(store, diary_snapshot(store.location()));
+    print(in_language(u"Importé et vérifié : %1 tables, %2.", u"Imported and checked: %1 tables, %2.")
+              .arg(QString::number(tables.size()), counted_rows(rows)));
     print_problems(problems);
-    if (!problems.empty())
-        print(in_language(u"Problèmes : %1.", u"Problems: %1.").arg(problems.size()));
-    return problems.size();
+    if (problems.empty())
+        return exit_status::done;
+    print(in_language(u"Problèmes : %1.", u"Problems: %1.").arg(problems.size()));
+    return exit_status::problems;
+}
+
+/// A changed file is no fault: it may have been edited. A digit that was changed by a damaged disk, or a file
+/// of another export, is not found otherwise.
+void report_edited(const QStringList& files)
+{
+    for (const QString& file : files)
+        print_warning(
+            in_language(u"%1 a été modifié après l'exportation.", u"%1 was changed after the export.")
+                .arg(file));
 }
 
 exit_status import_tables(const store_location& to, const all_tables& tables)
 {
     Connection1& store = data_environment().connection;
-    std::size_t problems = 0;
+    int rows = 0;
+    problem_list problems;
     const exit_status status = fill_empty_store(store, to, [&] {
-        write_tables(store, tables);
-        problems = report_problems(store);
-        return exit_status::done;
+        rows = write_tables(store, tables);
+        problems = find_problems(store, diary_snapshot(store.location()));
     });
-    return problems > 0 ? exit_status::problems : status;
+    return status == exit_status::done ? print_result(tables, rows, problems) : status;
 }
 
 exit_status run_import(const QStringList& arguments, int)
@@ -72,9 +84,11 @@ exit_status run_import(const QStringList& arguments, int)
     if (!to || arguments[0].isEmpty())
         return refuse_usage();
     bad_lines faults;
-    const all_tables tables = read_tables(arguments[0], faults);
+    QStringList edited;
+    const all_tables tables = read_tables(arguments[0], faults, edited);
     if (!faults.empty())
         return refuse_lines(faults);
+    report_edited(edited);
     return reported([&] { return import_tables(*to, tables); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "store/recovery/restored_copy.h"
 #include "transfer/console.h"
+#include "transfer/empty_store.h"
 #include "transfer/store_argument.h"
 
 namespace verdane {
@@ -46,6 +47,8 @@ exit_status run_restore(const QStringList& arguments, int)
                         u"une source, utilisez copy vers une source vide.",
                         u"Two different files are needed: verdane-store restore COPY STORE. For a "
                         u"source, use copy to an empty source."));
+    if (has_reserved_name(*place))
+        return refuse_reserved_name(*place);
     if (is_empty_file(*copy))
         return refuse_without_diary(*copy);
     return reported([&] { return restore(*copy, *place); });

@@ -11,14 +11,25 @@ namespace verdane {
 
 namespace {
 
-exit_status write_sample(const store_location& store)
+/// Returns the number of rounds.
+int write_rounds()
 {
     single_commit together(data_environment().connection);
     const int rounds = write_sample_season();
     together.finish();
-    print(in_language(u"Saison inventée : %1 dans %2", u"Invented season: %1 in %2")
-              .arg(counted(rounds, {u"ronde", u"round"}, {u"rondes", u"rounds"}), argument_of_store(store)));
-    return exit_status::done;
+    return rounds;
+}
+
+exit_status write_sample(const store_location& store)
+{
+    int rounds = 0;
+    const exit_status status =
+        fill_empty_store(data_environment().connection, store, [&] { rounds = write_rounds(); });
+    if (status == exit_status::done)
+        print(in_language(u"Saison inventée : %1 dans %2", u"Invented season: %1 in %2")
+                  .arg(counted(rounds, {u"ronde", u"round"}, {u"rondes", u"rounds"}),
+                       argument_of_store(store)));
+    return status;
 }
 
 exit_status run_sample(const QStringList& arguments, int)
@@ -26,9 +37,7 @@ exit_status run_sample(const QStringList& arguments, int)
     const auto store = arguments.size() == 1 ? store_of_argument(arguments[0]) : std::nullopt;
     if (!store)
         return refuse_usage();
-    return reported([&] {
-        return fill_empty_store(data_environment().connection, *store, [&] { return write_sample(*store); });
-    });
+    return reported([&] { return write_sample(*store); });
 }
 
 }  // namespace

@@ -48,6 +48,8 @@ public:
         return std::move(rows_);
     }
 
+    bool is_edited() const { return is_edited_; }
+
 private:
     bool has_heads(const std::vector<csv_record>& records)
     {
@@ -141,12 +143,15 @@ void check_number(const table_rows& rows, const QString& folder, const table& re
 
 }  // namespace
 
-table_rows read_table(const table& read, const QString& folder, const table_list& list, bad_lines& faults)
+table_rows read_table(const table& read, const QString& folder, const table_list& list, bad_lines& faults,
+                      QStringList& edited)
 {
     const auto listed = list.find(read.name);
     const std::size_t faults_before = faults.size();
-    table_rows rows = table_reader(read, QDir(folder).filePath(csv_name_of(read)), faults)
-                          .read(listed == list.end() ? QString() : listed->second.checksum);
+    table_reader reader(read, QDir(folder).filePath(csv_name_of(read)), faults);
+    table_rows rows = reader.read(listed == list.end() ? QString() : listed->second.checksum);
+    if (reader.is_edited())
+        edited << csv_name_of(read);
     if (listed != list.end() && faults.size() == faults_before)
         check_number(rows, folder, read, listed->second, faults);
     return rows;

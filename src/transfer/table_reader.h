@@ -12,7 +12,9 @@ namespace verdane {
 /// most, and a table of fixed size has its rows. The number of rows must be that of the list, and the last
 /// line must have its end.
 ///
-/// Wrong lines are added to `faults`, at most one fault of a value for each line.
-table_rows read_table(const table& read, const QString& folder, const table_list& list, bad_lines& faults);
+/// Wrong lines are added to `faults`, at most one fault of a value for each line. The name of a file with
+/// another checksum is added to `edited`.
+table_rows read_table(const table& read, const QString& folder, const table_list& list, bad_lines& faults,
+                      QStringList& edited);
 
 }  // namespace verdane

@@ -1,8 +1,6 @@
 #include "store/engines/embedded_engine.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLockFile>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -16,6 +14,7 @@
 #include "store/engines/sqlite_rows.h"
 #include "store/engines/stored_text.h"
 #include "store/lock_wait.h"
+#include "store/recovery/whole_files.h"
 #include "store/schema.h"
 #include "store/store_files.h"
 
@@ -32,24 +31,6 @@ constexpr int opening_time_out_s = 1;
 /// How much of the file the engine may keep in memory. A full diary has some 4 MB, which the statistics read
 /// many times; the engine's default is 2 MB.
 constexpr int kept_pages_kb = 16 * 1024;
-
-/// True if a file has the name of the folder or of one above it.
-bool file_in_the_way(const QString& folder)
-{
-    QFileInfo nearest(folder);
-    while (!nearest.exists() && !nearest.isRoot())
-        nearest.setFile(nearest.absolutePath());
-    return nearest.exists() && !nearest.isDir();
-}
-
-void make_folder(const QString& path)
-{
-    const QString folder = QFileInfo(path).absolutePath();
-    if (!QDir().mkpath(folder))
-        throw run_time_failure(file_in_the_way(folder) ? failure_kind::store_unreachable
-                                                       : failure_kind::store_read_only,
-                               u"the folder %1 cannot be made"_s.arg(folder));
-}
 
 /// Sets whether closing the connection copies the write-ahead log into the file and removes the log.
 void copy_log_on_close(const QSqlDatabase& database, bool copy)
@@ -84,7 +65,7 @@ embedded_engine::~embedded_engine()
 
 bool embedded_engine::open(soundness_check check)
 {
-    make_folder(where_.name);
+    make_folder_of(real_path(where_.name));
     lock_ = take_store_lock(where_.name);
     check_store_files(where_.name);
     created_ = !QFile::exists(where_.name);
@@ -152,8 +133,21 @@ void embedded_engine::check_whole_file()
     const QString verdict = first_value(u"PRAGMA integrity_check(1)"_s);
     if (verdict != u"ok")
         throw run_time_failure(failure_kind::store_damaged, QString(where_.name + u": " + verdict));
+    take_as_sound();
+}
+
+void embedded_engine::take_as_sound()
+{
     known_sound_ = true;
     copy_log_on_close(database(), true);
+}
+
+QStringList embedded_engine::damaged_indexes()
+{
+    const QStringList names = store_engine::damaged_indexes();
+    if (names.isEmpty())
+        take_as_sound();
+    return names;
 }
 
 void embedded_engine::need_soundness()

@@ -25,6 +25,7 @@ public:
     /// Checks the whole file, and the indexes against the tables.
     void check_soundness() override;
     void need_soundness() override;
+    QStringList damaged_indexes() override;
 
     QString identity_column(QStringView table) const override;
     void add_value(statement_with_values& statement, const QVariant& value) const override;
@@ -38,6 +39,8 @@ private:
     bool open_file(soundness_check check);
     void close_file();
     void check_whole_file();
+    /// Statements may write, and closing copies the log into the file.
+    void take_as_sound();
 
     lock_wait& waiting_;
     std::unique_ptr<QLockFile> lock_;

@@ -32,7 +32,7 @@ bool store_engine::is_open() const
     return QSqlDatabase::contains(name_) && database().isOpen();
 }
 
-QStringList store_engine::damaged_indexes() const
+QStringList store_engine::damaged_indexes()
 {
     static const QRegularExpression difference(
         u"^(?:row -?\\d+ missing from|wrong # of entries in|row -?\\d+ values differ from|"

@@ -50,7 +50,7 @@ public:
 
     /// The names of the indexes that differ from their tables; empty if the stored data are sound. Fails with
     /// `store_damaged` if anything else is damaged.
-    virtual QStringList damaged_indexes() const;
+    virtual QStringList damaged_indexes();
     /// Builds all indexes anew, and commits that if the stored data are sound then. Fails with
     /// `store_damaged` otherwise; nothing is changed.
     virtual void rebuild_indexes();

@@ -118,6 +118,9 @@ void need_sole_use(const QString& path)
     if (locked == SQLITE_BUSY)
         throw run_time_failure(failure_kind::store_locked,
                                QString(path + u": " + QString::fromUtf8(sqlite3_errmsg(opened))));
+    // The engine has created an empty log, and removes it when it closes the file.
+    if (locked == SQLITE_OK && QFileInfo(real_path(path) + u"-wal").size() == 0)
+        sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
 }
 
 }  // namespace verdane

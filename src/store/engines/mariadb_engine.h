@@ -16,7 +16,7 @@ public:
     bool open(soundness_check check) override;
 
     /// The server checks its indexes itself.
-    QStringList damaged_indexes() const override { return {}; }
+    QStringList damaged_indexes() override { return {}; }
 
     QString identity_column(QStringView table) const override;
     bool keeps_order(QStringView table) const override;

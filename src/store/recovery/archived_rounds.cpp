@@ -9,6 +9,7 @@
 #include "base/run_time_failure.h"
 #include "scoring/round_key.h"
 #include "store/commits.h"
+#include "store/engines/engine.h"
 #include "store/engines/file_backup.h"
 #include "store/recovery/kept_copy.h"
 #include "store/recovery/round_selection.h"
@@ -66,7 +67,7 @@ void fill_archive(const Connection1& diary, Connection1& archive, const text_set
     single_commit together(archive);
     for (const table& each : schema()) {
         if (const auto rows = rows_of_archive(diary, each, keys, named))
-            replace_rows(archive, each, *rows);
+            fill_table(archive, each, *rows);
     }
     together.finish();
 }
@@ -129,30 +130,26 @@ QString condition_for(const QStringList& keys)
     return u" WHERE date IN ("_s + values.join(u',') + u')';
 }
 
-/// Removes the rows of some rounds. Fails with `store_other` unless exactly these rows are removed. The
-/// caller commits.
+/// Removes the rows of some rounds. Fails with `store_other` unless exactly these rows are removed: on a
+/// server the statement would also delete rows that were committed after the transaction began, which it does
+/// not read. The caller commits.
 void remove_archived(Connection1& store, const QStringList& keys)
 {
     const text_set removed = set_of(keys);
     for (const std::u16string_view name : tables_of_rounds) {
         const table& changed = *find_table(name);
+        const std::size_t archived = rows_of_keys(store, changed, removed).size();
         const table_rows kept = rows_of_other_keys(store, changed, removed);
-        store.Execute(u"DELETE FROM " + in_back_quotes(changed.name) + condition_for(keys));
-        if (!equal_rows(all_rows(store, changed), kept))
+        const statement_with_values deletion{
+            u"DELETE FROM " + in_back_quotes(changed.name) + condition_for(keys), {}};
+        const int deleted = store.engine().change(deletion, changed.name);
+        if (static_cast<std::size_t>(deleted) != archived || !equal_rows(all_rows(store, changed), kept))
             throw run_time_failure(failure_kind::store_other,
                                    QString(changed.name + u": other rows would be removed, too"));
     }
 }
 
 }  // namespace
-
-bool open_alone(Connection1& diary, const store_location& place)
-{
-    // A program that has opened the file by another name does not see the lock.
-    if (place.where == store_location::place::file)
-        need_sole_use(place.name);
-    return diary.OpenExisting(place);
-}
 
 QStringList round_keys_before(const Connection1& store, QDate day)
 {
@@ -165,6 +162,21 @@ QStringList round_keys_before(const Connection1& store, QDate day)
     }
     keys.removeDuplicates();
     return keys;
+}
+
+std::optional<blank_in_key> find_blank_in_key(const Connection1& store, const QStringList& keys)
+{
+    const text_set moved = set_of(keys);
+    std::optional<blank_in_key> found;
+    for (const std::u16string_view name : tables_of_rounds) {
+        const table& tested = *find_table(name);
+        read_rows(store, tested, [&](const std::vector<QVariant>& row) {
+            const QString key = row.front().toString();
+            if (!found && key.trimmed() != key && moved.contains(key.trimmed()))
+                found = {tested.name, key.trimmed()};
+        });
+    }
+    return found;
 }
 
 bool move_to_archive(Connection1& diary, const QStringList& keys, const QString& path)

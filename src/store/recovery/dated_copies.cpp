@@ -29,12 +29,13 @@ bool is_sound_copy(const QString& path)
     }
 }
 
-/// Creates the file, or empties the one that a killed program has left.
+/// Creates the file, and removes the one that a killed program has left, or a link of that name.
 void make_empty_file(const QString& path)
 {
+    QFile::remove(path);
     QFile file(path);
     if (!QDir().mkpath(QFileInfo(path).absolutePath()) ||
-        !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        !file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         throw run_time_failure(failure_kind::store_read_only, QString(path + u": " + file.errorString()));
 }
 

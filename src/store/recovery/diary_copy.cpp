@@ -50,6 +50,8 @@ bool is_number(const QVariant& value)
 bool equal_numbers(double left, double right)
 {
     constexpr double last_digit = 1e-14;
+    if (!std::isfinite(left) || !std::isfinite(right))
+        return left == right;
     return left == right || std::abs(left - right) <= last_digit * std::max(std::abs(left), std::abs(right));
 }
 
@@ -123,6 +125,14 @@ bool has_other_rows(const Connection1& store, const table& fixed)
     return false;
 }
 
+/// Of a store without rows of its own. A server may have got rows of another program since that was checked;
+/// they are not deleted.
+void delete_fixed_rows(Connection1& store, const table& emptied)
+{
+    if (emptied.fixed_rows > 0)
+        store.Execute(u"DELETE FROM " + in_back_quotes(emptied.name));
+}
+
 bool is_in_use(const Connection1& store, const table& tested, int rows)
 {
     if (is_of_bag(tested))
@@ -159,23 +169,30 @@ bool equal_rows(const table_rows& left, const table_rows& right)
     return std::equal(left.begin(), left.end(), right.begin(), right.end(), equal_values);
 }
 
-void replace_rows(Connection1& store, const table& replaced, const table_rows& rows)
+void need_empty(const Connection1& store)
 {
-    store.Execute(u"DELETE FROM " + in_back_quotes(replaced.name));
-    row_insertion insertion(store.engine(), replaced);
+    if (!tables_in_use(store).empty())
+        throw run_time_failure(failure_kind::misuse,
+                               u"%1: the store is not empty"_s.arg(store.location().name));
+}
+
+void fill_table(Connection1& store, const table& filled, const table_rows& rows)
+{
+    delete_fixed_rows(store, filled);
+    row_insertion insertion(store.engine(), filled);
     for (const std::vector<QVariant>& row : rows)
         insertion.add(row);
     insertion.finish();
     std::size_t stored = 0;
-    read_rows(store, replaced, [&](const std::vector<QVariant>& values) {
+    read_rows(store, filled, [&](const std::vector<QVariant>& values) {
         if (stored == rows.size() || !equal_values(values, rows[stored]))
             fail_comparison(
-                replaced, static_cast<int>(stored) + 1,
+                filled, static_cast<int>(stored) + 1,
                 in_language(u"diffère après avoir été enregistrée", u"differs after it was stored"));
         ++stored;
     });
     if (stored != rows.size())
-        fail_comparison(replaced, static_cast<int>(stored) + 1,
+        fail_comparison(filled, static_cast<int>(stored) + 1,
                         in_language(u"n'a pas été enregistrée", u"was not stored"));
 }
 
@@ -192,14 +209,13 @@ QStringList tables_without_order(const Connection1& store)
 
 std::vector<counted_table> copy_diary(Connection1& from, Connection1& to, const table_notice& notice)
 {
-    if (!tables_in_use(to).empty())
-        throw run_time_failure(failure_kind::misuse, u"%1: the store is not empty"_s.arg(to.location().name));
     single_commit together(to);
+    need_empty(to);
     std::vector<counted_table> copied;
     for (const table& each : schema()) {
         const int rows = number_of_rows(from, each);
         notice({each.name, rows});
-        to.Execute(u"DELETE FROM " + in_back_quotes(each.name));
+        delete_fixed_rows(to, each);
         copy_rows(from, to, each);
         // A server can be set to return fewer rows than it has, without a failure. A damaged index of a file
         // can count fewer rows than there are, which are all copied.

@@ -12,6 +12,7 @@
 #include "store/recovery/diary_copy.h"
 #include "store/recovery/whole_files.h"
 #include "store/recovery/work_folder.h"
+#include "store/store_files.h"
 
 namespace verdane {
 
@@ -34,13 +35,30 @@ QString start_of_copies(const store_location& store)
     return file.absolutePath() + u"/copies/" + (is_file ? file.completeBaseName() : store.name);
 }
 
-/// Closing a connection does not fail if the log cannot be copied into the file.
-void check_closed(const QString& path)
+/// The endings of the files of a store that have content, or are the file itself: the logs first.
+QStringList endings_of(const QString& store)
 {
-    if (QFileInfo(path + u"-wal").size() > 0)
-        throw run_time_failure(failure_kind::store_full,
-                               QString(path + u": the write-ahead log was not copied into the file"));
-    check_copy(path);
+    QStringList endings;
+    for (const QStringView ending : endings_of_logs) {
+        if (QFileInfo(store + ending).size() > 0)
+            endings << ending.toString();
+    }
+    if (QFile::exists(store))
+        endings << QString();
+    return endings;
+}
+
+/// Gives all files that name. False if one of the names is taken: no file has it then.
+bool rename_all(const QString& from, const QString& to, const QStringList& endings)
+{
+    for (qsizetype place = 0; place < endings.size(); ++place) {
+        if (rename_without_replacing(from + endings[place], to + endings[place]))
+            continue;
+        for (qsizetype renamed = 0; renamed < place; ++renamed)
+            replace_file(to + endings[renamed], from + endings[renamed]);
+        return false;
+    }
+    return true;
 }
 
 }  // namespace
@@ -55,13 +73,23 @@ QString free_copy_path(const store_location& store, const QString& why)
     return path;
 }
 
+void check_closed(const QString& path)
+{
+    const QString file = real_path(path);
+    if (QFileInfo(file + u"-wal").size() > 0)
+        throw run_time_failure(failure_kind::store_full,
+                               QString(file + u": the write-ahead log was not copied into the file"));
+    check_copy(file);
+}
+
 void copy_store_files(const QString& from, const QString& to)
 {
+    const QString file = real_path(from);
     for (const QStringView ending : endings_of_logs) {
-        if (QFileInfo(from + ending).size() > 0)
-            copy_whole_file(from + ending, to + ending);
+        if (QFileInfo(file + ending).size() > 0)
+            copy_whole_file(file + ending, to + ending);
     }
-    copy_whole_file(from, to);
+    copy_whole_file(file, to);
     QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
 }
 
@@ -77,6 +105,23 @@ void write_closed_store(const QString& path, const store_filling& fill)
 void write_closed_copy(Connection1& from, const QString& path)
 {
     write_closed_store(path, [&](Connection1& copy) { copy_diary(from, copy, [](const counted_table&) {}); });
+}
+
+QStringList keep_files(const store_location& store, const QString& why)
+{
+    const QStringList endings = endings_of(store.name);
+    if (endings.isEmpty())
+        return {};
+    const work_folder work(start_of_copies(store) + u'-' + why);
+    for (const QString& ending : endings)
+        copy_whole_file(store.name + ending, work.read_store() + ending);
+    QString path = free_copy_path(store, why);
+    while (!rename_all(work.read_store(), path, endings))
+        path = free_copy_path(store, why);
+    QStringList kept;
+    for (const QString& ending : endings)
+        kept.prepend(path + ending);
+    return kept;
 }
 
 QString keep_copy(Connection1& store, const QString& why)

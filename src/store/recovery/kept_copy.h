@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <array>
@@ -21,8 +22,13 @@ inline constexpr std::array<QStringView, 2> endings_of_logs{u"-journal", u"-wal"
 QString free_copy_path(const store_location& store, const QString& why);
 
 /// Copies the file of a store and the logs of it that have content, which may be read-only, to a path without
-/// files. The copy can be written. Fails like `copy_whole_file`.
+/// files. `from` may be a link. The copy can be written. Fails like `copy_whole_file`.
 void copy_store_files(const QString& from, const QString& to);
+
+/// Checks the file of a store that was closed after rows were written: closing a connection does not fail if
+/// the log cannot be copied into the file. Fails with `store_full` if the log has content, and like
+/// `check_copy`.
+void check_closed(const QString& path);
 
 /// Fills a store without rows; the caller closes it.
 using store_filling = std::function<void(Connection1& store)>;
@@ -35,6 +41,12 @@ void write_closed_store(const QString& path, const store_filling& fill);
 /// Copies a diary, row by row and compared, to a file of its own in a `work_folder`. Fails like `copy_diary`
 /// and `write_closed_store`.
 void write_closed_copy(Connection1& from, const QString& path);
+
+/// Copies the file of a store, if it exists, and the logs that have content to `free_copy_path` and these
+/// endings. Returns the paths, that of the file first. No file is replaced. If the process is killed, the
+/// path of the file has the whole file with its logs or nothing. Fails like `work_folder`, `copy_whole_file`
+/// and `rename_without_replacing`.
+QStringList keep_files(const store_location& store, const QString& why);
 
 /// Copies a diary, row by row and compared, to `free_copy_path` before it is changed. Returns the path, which
 /// has the whole copy or nothing, also if the process is killed. Fails like `work_folder`,

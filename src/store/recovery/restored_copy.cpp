@@ -1,14 +1,17 @@
 #include "store/recovery/restored_copy.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 
+#include <algorithm>
+
+#include "base/language.h"
 #include "base/run_time_failure.h"
 #include "store/Connection1.h"
 #include "store/engines/file_backup.h"
 #include "store/recovery/diary_copy.h"
 #include "store/recovery/kept_copy.h"
+#include "store/recovery/sole_use.h"
 #include "store/recovery/whole_files.h"
 #include "store/recovery/work_folder.h"
 #include "store/store_files.h"
@@ -23,7 +26,7 @@ namespace {
 bool write_rows(const store_location& copy, const QString& path)
 {
     Connection1 from;
-    if (!from.OpenExisting(copy) || tables_in_use(from).empty())
+    if (!open_alone(from, copy) || tables_in_use(from).empty())
         return false;
     write_closed_copy(from, path);
     return true;
@@ -46,49 +49,54 @@ bool write_new_file(const store_location& copy, const work_folder& work)
 /// Opening and closing a store copies its write-ahead log into its file. A damaged file is not changed.
 void finish_log(const store_location& place)
 {
+    Connection1 store;
     try {
-        Connection1().OpenExisting(place);
+        open_alone(store, place);
     } catch (const run_time_failure& failure) {
         if (failure.kind() == failure_kind::store_locked)
             throw;
     }
 }
 
-/// Copies the file of a place, and the logs that have content, to the folder of the copies. Returns the
-/// paths, that of the file first.
-QStringList keep_files(const store_location& place)
+QStringList files_of_engine(const QString& path)
 {
-    const QString kept = free_copy_path(place, u"replaced"_s);
-    QStringList paths;
-    const auto keep = [&](QStringView ending) {
-        copy_whole_file(place.name + ending, kept + ending);
-        paths.prepend(kept + ending);
-    };
-    for (const QStringView ending : endings_of_logs) {
-        if (QFileInfo(place.name + ending).size() > 0)
-            keep(ending);
-    }
-    if (QFile::exists(place.name))
-        keep({});
+    QStringList paths{path + u"-shm"};
+    for (const QStringView ending : endings_of_logs)
+        paths << path + ending;
     return paths;
 }
 
-/// The logs are removed first, because the engine would apply them to the new file.
-void put_in_place(const QString& file, const QString& path)
+bool has_log(const QString& path)
 {
-    for (const QStringView ending : endings_of_logs)
-        QFile::remove(path + ending);
-    QFile::remove(path + u"-shm");
-    replace_file(file, path);
+    return std::any_of(endings_of_logs.begin(), endings_of_logs.end(),
+                       [&](QStringView ending) { return QFileInfo(path + ending).size() > 0; });
 }
 
-/// A link stays a link, also if its target is missing.
-store_location target_of(const store_location& place)
+/// The logs are removed before the new file has its name, because the engine would apply them to it. While a
+/// log with content is removed, the path has no file, because the old file is not complete without it.
+void replace_store(const QString& path, const work_folder& work)
 {
-    const QFileInfo file(place.name);
-    if (file.exists())
-        return store_location::file(file.canonicalFilePath());
-    return file.isSymLink() ? store_location::file(file.symLinkTarget()) : place;
+    if (QFile::exists(path)) {
+        copy_mode(path, work.new_store());
+        if (has_log(path))
+            replace_file(path, work.read_store());
+    }
+    remove_files(files_of_engine(path));
+    replace_file(work.new_store(), path);
+}
+
+/// The old files are kept already.
+void put_in_place(const QString& path, const work_folder& work, const QStringList& kept)
+{
+    try {
+        replace_store(path, work);
+    } catch (const run_time_failure& failure) {
+        throw run_time_failure(
+            failure.kind() == failure_kind::store_full ? failure.kind() : failure_kind::store_other,
+            failure.details() + u'\n' +
+                in_language(u"Les anciens fichiers sont gardés : %1", u"The old files are kept: %1")
+                    .arg(kept.join(u", "_s)));
+    }
 }
 
 }  // namespace
@@ -97,19 +105,17 @@ std::optional<restored_files> restore_copy(const store_location& copy, const sto
 {
     if (QFileInfo(place.name).size() > 0)
         finish_log(place);
-    if (!QDir().mkpath(QFileInfo(place.name).absolutePath()))
-        throw run_time_failure(failure_kind::store_read_only, place.name);
-    const auto lock = take_store_lock(place.name);
-    const store_location target = target_of(place);
-    const auto lock_of_target =
-        QFileInfo(place.name).isSymLink() ? take_store_lock(target.name) : std::unique_ptr<QLockFile>();
+    // A link stays a link, also if its target is missing.
+    const store_location target = store_location::file(real_path(place.name));
+    make_folder_of(target.name);
+    const auto lock = take_store_lock(target.name);
     const work_folder work(target.name);
     if (!write_new_file(copy, work))
         return std::nullopt;
     const bool is_there = QFile::exists(target.name);
     need_sole_use(target.name);
-    const QStringList kept = keep_files(target);
-    put_in_place(work.new_store(), target.name);
+    const QStringList kept = keep_files(target, u"replaced"_s);
+    put_in_place(target.name, work, kept);
     return restored_files{kept, is_there};
 }
 

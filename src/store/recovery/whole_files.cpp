@@ -23,38 +23,59 @@ std::filesystem::path system_path(const QString& path)
     return path.toStdU16String();
 }
 
-failure_kind kind_of(const std::error_code& error)
+QString described(const std::error_code& error, const QString& path)
 {
-    if (error == std::errc::no_space_on_device || error == std::errc::file_too_large)
-        return failure_kind::store_full;
-    const bool is_refused =
-        error == std::errc::permission_denied || error == std::errc::read_only_file_system;
-    return is_refused ? failure_kind::store_read_only : failure_kind::store_unreachable;
+    return path + u": "_s + QString::fromStdString(error.message());
 }
 
 void check(const std::error_code& error, const QString& path)
 {
     if (error)
-        throw run_time_failure(kind_of(error), path + u": "_s + QString::fromStdString(error.message()));
-}
-
-/// Waits until the content of a file, or the names in a folder, have reached the disk.
-void write_to_disk(const QString& path)
-{
-    const int opened = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    const bool is_written = opened >= 0 && fsync(opened) == 0;
-    const std::error_code error =
-        is_written ? std::error_code() : std::error_code(errno, std::generic_category());
-    if (opened >= 0)
-        close(opened);
-    // Some file systems do not write out a folder by itself.
-    if (error != std::errc::invalid_argument)
-        check(error, path);
+        throw run_time_failure(kind_of_file_error(error), described(error, path));
 }
 
 std::error_code last_error()
 {
     return {errno, std::generic_category()};
+}
+
+/// Waits until the content of a file, or the names in a folder, have reached the disk.
+std::error_code error_of_writing_out(const QString& path)
+{
+    const int opened = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const bool is_written = opened >= 0 && fsync(opened) == 0;
+    const std::error_code error = is_written ? std::error_code() : last_error();
+    if (opened >= 0)
+        close(opened);
+    // Some file systems do not write out a folder by itself.
+    return error == std::errc::invalid_argument ? std::error_code() : error;
+}
+
+void write_to_disk(const QString& path)
+{
+    check(error_of_writing_out(path), path);
+}
+
+/// Called after a file of the folder was renamed or removed. Fails with a kind whose text does not say that
+/// nothing was changed.
+void write_changed_folder(const QString& folder)
+{
+    const std::error_code error = error_of_writing_out(folder);
+    if (error)
+        throw run_time_failure(kind_of_file_error(error) == failure_kind::store_full
+                                   ? failure_kind::store_full
+                                   : failure_kind::store_other,
+                               described(error, folder));
+}
+
+/// The content has reached the disk when the file is closed.
+std::error_code error_of_closing(int opened, std::error_code error)
+{
+    if (!error && fsync(opened) != 0)
+        error = last_error();
+    if (close(opened) != 0 && !error)
+        error = last_error();
+    return error;
 }
 
 void write_bytes(const QString& path, const QByteArray& bytes)
@@ -73,7 +94,7 @@ void write_bytes(const QString& path, const QByteArray& bytes)
             written += part;
     }
     if (opened >= 0)
-        close(opened);
+        error = error_of_closing(opened, error);
     check(error, path);
 }
 
@@ -122,11 +143,32 @@ void write_whole_file(const QString& path, const QByteArray& bytes)
     }
 }
 
+failure_kind kind_of_file_error(const std::error_code& error)
+{
+    const bool is_quota = error == std::error_code(EDQUOT, std::generic_category());
+    if (is_quota || error == std::errc::no_space_on_device || error == std::errc::file_too_large)
+        return failure_kind::store_full;
+    const bool is_refused = error == std::errc::permission_denied ||
+                            error == std::errc::operation_not_permitted ||
+                            error == std::errc::read_only_file_system;
+    return is_refused ? failure_kind::store_read_only : failure_kind::store_unreachable;
+}
+
 void make_folder_of(const QString& path)
 {
+    make_folder(QFileInfo(path).absolutePath());
+}
+
+void make_folder(const QString& folder)
+{
+    QStringList missing;
+    for (QString each = folder; !QFileInfo::exists(each); each = QFileInfo(each).absolutePath())
+        missing.prepend(each);
     std::error_code error;
-    std::filesystem::create_directories(system_path(QFileInfo(path).absolutePath()), error);
-    check(error, path);
+    std::filesystem::create_directories(system_path(folder), error);
+    check(error, folder);
+    for (const QString& made : missing)
+        write_to_disk(QFileInfo(made).absolutePath());
 }
 
 QString make_unique_folder(const QString& start)
@@ -161,7 +203,28 @@ void replace_file(const QString& from, const QString& to)
     std::error_code error;
     std::filesystem::rename(system_path(from), system_path(to), error);
     check(error, to);
-    write_to_disk(QFileInfo(to).absolutePath());
+    write_changed_folder(QFileInfo(to).absolutePath());
+}
+
+void remove_files(const QStringList& paths)
+{
+    bool is_changed = false;
+    for (const QString& path : paths) {
+        std::error_code error;
+        is_changed = std::filesystem::remove(system_path(path), error) || is_changed;
+        check(error, path);
+    }
+    if (is_changed)
+        write_changed_folder(QFileInfo(paths.first()).absolutePath());
+}
+
+void copy_mode(const QString& from, const QString& to)
+{
+    std::error_code error;
+    const auto state = std::filesystem::status(system_path(from), error);
+    if (!error)
+        std::filesystem::permissions(system_path(to), state.permissions(), error);
+    check(error, to);
 }
 
 bool rename_without_replacing(const QString& from, const QString& to)
@@ -171,7 +234,7 @@ bool rename_without_replacing(const QString& from, const QString& to)
     if (error == std::errc::file_exists)
         return false;
     check(error, to);
-    write_to_disk(QFileInfo(to).absolutePath());
+    write_changed_folder(QFileInfo(to).absolutePath());
     return true;
 }
 

@@ -74,10 +74,21 @@ work_folder::work_folder(const QString& path)
 {
     make_folder_of(path);
     remove_unfinished(path);
-    folder_ = make_unique_folder(start_of_name(path));
+    // Another run removes the folder if it finds it before the lock is in it.
+    constexpr int most_attempts = 10;
+    for (int attempt = 1; lock_ == nullptr; ++attempt) {
+        folder_ = make_unique_folder(start_of_name(path));
+        lock_ = take_lock(attempt == most_attempts);
+    }
+}
+
+std::unique_ptr<QLockFile> work_folder::take_lock(bool is_last_attempt) const
+{
     try {
-        lock_ = take_store_lock(lock_in(folder_));
-    } catch (...) {
+        return take_store_lock(lock_in(folder_));
+    } catch (const run_time_failure&) {
+        if (!QFileInfo::exists(folder_) && !is_last_attempt)
+            return nullptr;
         QFile::remove(lock_in(folder_) + u".lock");
         QDir().rmdir(folder_);
         throw;

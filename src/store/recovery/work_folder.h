@@ -31,6 +31,9 @@ public:
     QString files() const { return folder_ + u"/files"; }
 
 private:
+    /// Null if another run has removed the folder.
+    std::unique_ptr<QLockFile> take_lock(bool is_last_attempt) const;
+
     QString folder_;
     std::unique_ptr<QLockFile> lock_;
 };
