@@ -18,7 +18,7 @@ set(VERDANE_TESTS_WITHOUT_STORE
   test_drawing_texts
   test_class_captions
   test_club_texts test_selection_clauses
-  test_column_value test_copy_days test_mariadb_errors test_mariadb_tables test_registered_source test_select_statement
+  test_column_value test_copy_days test_diary_copy test_mariadb_errors test_mariadb_tables test_registered_source test_select_statement
   test_source_tables test_sql_text test_tables)
 
 # The only list of the tests that run on the embedded engine alone, with the reason.
@@ -26,6 +26,8 @@ set(VERDANE_FILE_TESTS
   test_copy_command         # both stores are files
   test_archive_safety       # see test_courses_safety
   test_courses_safety       # kills at writes of the file, and its size
+  test_every_kill           # see test_courses_safety
+  test_every_refusal        # see test_courses_safety
   test_export_safety        # see test_courses_safety
   test_import_faults        # what is wrong in files, before a store is opened
   test_sample_reports       # a file that another process writes

@@ -153,6 +153,20 @@ private Q_SLOTS:
         QCOMPARE(files_of_copies(store), QStringList{u"Verdbase-2026-06-14.db"_s});
     }
 
+    void a_link_with_the_name_of_the_unfinished_copy_is_not_followed()
+    {
+        store_fixture store;
+        fill(store);
+        const QString other = QFileInfo(store.path()).absolutePath() + u"/other";
+        put(other, "mine");
+        QVERIFY(QDir().mkpath(folder_of_copies(store.path())));
+        QVERIFY(QFile::link(other, folder_of_copies(store.path()) + u"/unfinished"));
+        QVERIFY(write_dated_copy(store.path(), today));
+        QCOMPARE(bytes_of(other), QByteArray("mine"));
+        QVERIFY(!QFileInfo(path_of_copy(store.path(), today)).isSymLink());
+        QCOMPARE(content_of_copy(store), whole_content(store.outside()));
+    }
+
     void a_copy_of_a_damaged_store_is_a_failure_and_the_other_copies_remain()
     {
         store_fixture store;

@@ -27,6 +27,13 @@ QByteArray log_with_content()
     return bytes_of(store.path() + u"-wal");
 }
 
+/// A rollback journal of a file that had this number of pages, with the content of none of them.
+QByteArray journal_of_pages(char pages)
+{
+    return QByteArray::fromHex("d9d505f920a163d7ffffffff00000000000000") + pages +
+           QByteArray::fromHex("0000020000001000") + QByteArray(484, '\0');
+}
+
 }  // namespace
 
 /// A file that is empty or missing: a new store is created only if no other file shows that there was one.
@@ -40,6 +47,7 @@ private:
         QTest::addColumn<QByteArray>("log");
         QTest::addColumn<QString>("copy");
         QTest::addColumn<QByteArray>("content_of_copy");
+        QTest::addColumn<QByteArray>("journal");
     }
 
     /// Creates the files of the data row.
@@ -49,10 +57,13 @@ private:
         QFETCH(QByteArray, log);
         QFETCH(QString, copy);
         QFETCH(QByteArray, content_of_copy);
+        QFETCH(QByteArray, journal);
         if (file)
             put(path, {});
         if (!log.isNull())
             put(path + u"-wal", log);
+        if (!journal.isNull())
+            put(path + u"-journal", journal);
         if (!copy.isEmpty())
             put(QFileInfo(path).absolutePath() + u"/copies/" + copy, content_of_copy);
     }
@@ -63,13 +74,19 @@ private Q_SLOTS:
         add_columns();
         const QString copy = u"Verdbase-2026-06-14.db"_s;
         QTest::newRow("empty file, log with content")
-            << true << log_with_content() << QString() << QByteArray();
+            << true << log_with_content() << QString() << QByteArray() << QByteArray();
         QTest::newRow("no file, log with content")
-            << false << log_with_content() << QString() << QByteArray();
+            << false << log_with_content() << QString() << QByteArray() << QByteArray();
         QTest::newRow("empty file, copy with content")
-            << true << QByteArray() << copy << QByteArray("content");
+            << true << QByteArray() << copy << QByteArray("content") << QByteArray();
         QTest::newRow("empty file, empty log, copy with content")
-            << true << QByteArray("") << copy << QByteArray("content");
+            << true << QByteArray("") << copy << QByteArray("content") << QByteArray();
+        QTest::newRow("empty file, journal with pages")
+            << true << QByteArray() << QString() << QByteArray() << journal_of_pages(3);
+        QTest::newRow("no file, journal with pages")
+            << false << QByteArray() << QString() << QByteArray() << journal_of_pages(3);
+        QTest::newRow("no file, journal that is cut")
+            << false << QByteArray() << QString() << QByteArray() << journal_of_pages(3).first(20);
     }
 
     void a_lost_store_is_refused_and_its_files_are_unchanged()
@@ -86,22 +103,30 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(path), file);
         QCOMPARE(QFileInfo(path).size(), 0);
         QCOMPARE(bytes_of(path + u"-wal"), log);
+        QFETCH(QByteArray, journal);
+        QCOMPARE(bytes_of(path + u"-journal"), journal);
     }
 
     void a_diary_is_created_where_there_was_none_data()
     {
         add_columns();
-        QTest::newRow("no file") << false << QByteArray() << QString() << QByteArray();
-        QTest::newRow("empty file") << true << QByteArray() << QString() << QByteArray();
-        QTest::newRow("empty file, empty log") << true << QByteArray("") << QString() << QByteArray();
-        QTest::newRow("no file, empty log") << false << QByteArray("") << QString() << QByteArray();
+        QTest::newRow("no file") << false << QByteArray() << QString() << QByteArray() << QByteArray();
+        QTest::newRow("empty file") << true << QByteArray() << QString() << QByteArray() << QByteArray();
+        QTest::newRow("empty file, empty log")
+            << true << QByteArray("") << QString() << QByteArray() << QByteArray();
+        QTest::newRow("no file, empty log")
+            << false << QByteArray("") << QString() << QByteArray() << QByteArray();
+        QTest::newRow("no file, journal of a file that was created")
+            << false << QByteArray() << QString() << QByteArray() << journal_of_pages(0);
+        QTest::newRow("no file, journal that was not begun")
+            << false << QByteArray() << QString() << QByteArray() << QByteArray(512, '\0');
         // A user who removes the file wants a new diary.
         QTest::newRow("no file, copy with content")
-            << false << QByteArray() << u"Verdbase-2026-06-14.db"_s << QByteArray("content");
+            << false << QByteArray() << u"Verdbase-2026-06-14.db"_s << QByteArray("content") << QByteArray();
         QTest::newRow("empty file, empty copy")
-            << true << QByteArray() << u"Verdbase-2026-06-14.db"_s << QByteArray();
+            << true << QByteArray() << u"Verdbase-2026-06-14.db"_s << QByteArray() << QByteArray();
         QTest::newRow("empty file, another program's copy")
-            << true << QByteArray() << u"Music-2026-06-14.db"_s << QByteArray("content");
+            << true << QByteArray() << u"Music-2026-06-14.db"_s << QByteArray("content") << QByteArray();
     }
 
     void a_diary_is_created_where_there_was_none()

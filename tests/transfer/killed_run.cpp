@@ -25,16 +25,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr std::array changing_calls{
+    SYS_write,           SYS_pwrite64,  SYS_writev,   SYS_pwritev,   SYS_pwritev2, SYS_sendfile,
+    SYS_copy_file_range, SYS_ftruncate, SYS_truncate, SYS_fallocate, SYS_renameat, SYS_renameat2,
+    SYS_unlinkat,        SYS_linkat,    SYS_mkdirat,  SYS_fchmod,    SYS_fchmodat,
 #ifdef SYS_rename
-constexpr std::array changing_calls{SYS_write,     SYS_pwrite64, SYS_rename,         SYS_renameat,
-                                    SYS_renameat2, SYS_unlink,   SYS_unlinkat,       SYS_link,
-                                    SYS_linkat,    SYS_mkdir,    SYS_rmdir,          SYS_mkdirat,
-                                    SYS_ftruncate, SYS_sendfile, SYS_copy_file_range};
-#else
-constexpr std::array changing_calls{SYS_write,    SYS_pwrite64,       SYS_renameat, SYS_renameat2,
-                                    SYS_unlinkat, SYS_linkat,         SYS_mkdirat,  SYS_ftruncate,
-                                    SYS_sendfile, SYS_copy_file_range};
+    SYS_rename,          SYS_unlink,    SYS_link,     SYS_mkdir,     SYS_rmdir,    SYS_chmod,
 #endif
+};
 
 using system_call = __ptrace_syscall_info;
 
@@ -43,15 +41,31 @@ long number_of(const system_call& call)
     return static_cast<long>(call.entry.nr);
 }
 
+/// The file that a process has opened under that number.
+QString opened_file(pid_t process, quint64 number)
+{
+    return QFile::symLinkTarget(u"/proc/%1/fd/%2"_s.arg(process).arg(number));
+}
+
 bool creates_a_file(const system_call& call)
 {
     return number_of(call) == SYS_openat && (call.entry.args[2] & O_CREAT) != 0;
 }
 
-bool changes_a_file(const system_call& call)
+/// Pipes and devices are no files: the sanitizers write to a pipe.
+bool writes_to_a_pipe(pid_t child, const system_call& call)
 {
-    return creates_a_file(call) ||
-           std::find(changing_calls.begin(), changing_calls.end(), number_of(call)) != changing_calls.end();
+    if (number_of(call) != SYS_write && number_of(call) != SYS_writev)
+        return false;
+    const QString file = opened_file(child, call.entry.args[0]);
+    return !file.startsWith(u'/') || file.startsWith(u"/dev/") || file.contains(u"pipe:[");
+}
+
+bool changes_a_file(pid_t child, const system_call& call)
+{
+    const bool is_changing =
+        std::find(changing_calls.begin(), changing_calls.end(), number_of(call)) != changing_calls.end();
+    return creates_a_file(call) || (is_changing && !writes_to_a_pipe(child, call));
 }
 
 /// Does not return.
@@ -119,17 +133,17 @@ int run_by_calls(const QStringList& arguments, const call_step& step)
 }
 
 /// The same with the calls that change a file only.
-void run_by_changes(const QStringList& arguments, const call_step& step)
+int run_by_changes(const QStringList& arguments, const call_step& step)
 {
-    run_by_calls(arguments, [&](pid_t child, const system_call& call) {
-        return !changes_a_file(call) || step(child, call);
+    return run_by_calls(arguments, [&](pid_t child, const system_call& call) {
+        return !changes_a_file(child, call) || step(child, call);
     });
 }
 
-/// The file that a process has opened under that number.
-QString opened_file(pid_t process, quint64 number)
+/// No value if a process did not end by itself.
+std::optional<int> status_of(int state)
 {
-    return QFile::symLinkTarget(u"/proc/%1/fd/%2"_s.arg(process).arg(number));
+    return WIFEXITED(state) ? std::optional(WEXITSTATUS(state)) : std::nullopt;
 }
 
 /// A text in the memory of a process.
@@ -265,16 +279,24 @@ void kill_before_write(const QStringList& arguments, int number)
     run_by_changes(arguments, [&](pid_t, const system_call&) { return ++changes < number; });
 }
 
-int run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes)
+std::optional<int> run_by_writes(const QStringList& arguments, const std::function<void()>& step)
+{
+    return status_of(run_by_changes(arguments, [&](pid_t, const system_call&) {
+        step();
+        return true;
+    }));
+}
+
+limited_run run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes)
 {
     int limited = 0;
-    run_by_changes(arguments, [&](pid_t child, const system_call& call) {
+    const int state = run_by_changes(arguments, [&](pid_t child, const system_call& call) {
         const bool is_limited = opened_file(child, call.entry.args[0]).endsWith(ending);
         limit_files_of(child, is_limited ? bytes : RLIM_INFINITY);
         limited += is_limited ? 1 : 0;
         return true;
     });
-    return limited;
+    return {limited, status_of(state)};
 }
 
 std::optional<int> run_with_step(const QStringList& arguments, file_use use, const QString& ending,
@@ -288,7 +310,7 @@ std::optional<int> run_with_step(const QStringList& arguments, file_use use, con
         }
         return true;
     });
-    return is_done && WIFEXITED(state) ? std::optional(WEXITSTATUS(state)) : std::nullopt;
+    return is_done ? status_of(state) : std::nullopt;
 }
 
 QStringList renames_before_content(const QStringList& arguments)

@@ -16,9 +16,20 @@ int number_of_writes(const QStringList& arguments);
 /// program ends by itself.
 void kill_before_write(const QStringList& arguments, int number);
 
+/// Runs `verdane-store`, and calls the step immediately before each such call: the files are as after a kill
+/// there. Returns the exit status; no value if the program did not end by itself.
+std::optional<int> run_by_writes(const QStringList& arguments, const std::function<void()>& step);
+
+struct limited_run {
+    /// How many times the program changed a limited file.
+    int writes = 0;
+    /// No value if the program did not end by itself.
+    std::optional<int> status;
+};
+
 /// Runs the program; files whose path has that ending cannot grow beyond that size, in bytes, and all others
-/// can. Returns how many times the program changed such a file.
-int run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes);
+/// can.
+limited_run run_without_space_for(const QStringList& arguments, const QString& ending, unsigned long bytes);
 
 /// What a system call does with the path of a file.
 enum class file_use { open, remove, name };

@@ -81,6 +81,11 @@ void store_run::start()
     process_.start();
 }
 
+void store_run::close_output()
+{
+    process_.closeReadChannel(QProcess::StandardOutput);
+}
+
 bool store_run::wait_for(const QString& printed)
 {
     while (!output_.contains(printed)) {

@@ -67,6 +67,35 @@ private Q_SLOTS:
         QCOMPARE(archive.number(u"select language from settings"_s), 2);
     }
 
+    void a_round_with_a_blank_in_a_key_of_its_rows_is_refused_and_nothing_changes_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::newRow("after") << u"date || ' '"_s;
+        QTest::newRow("before") << u"' ' || date"_s;
+    }
+
+    void a_round_with_a_blank_in_a_key_of_its_rows_is_refused_and_nothing_changes()
+    {
+        QFETCH(QString, key);
+        const archived_folder folder;
+        const QString moved = key_in_diary(1);
+        reader(folder.diary)
+            .write(u"update Stat_rounds set date = %1 where date = '%2' and hole = 3"_s.arg(key, moved));
+        const QStringList before = all_rows(folder.diary);
+        store_run run(folder.arguments());
+        QCOMPARE(run.run(), status(exit_status::problems));
+        QCOMPARE(run.errors(),
+                 u"Table Stat_rounds has a row of the round "_s + moved +
+                     u" whose key begins or ends with a blank; it would not be moved. Nothing was "
+                     u"changed; run verdane-store check.\n");
+        QCOMPARE(all_rows(folder.diary), before);
+        QVERIFY(!QFile::exists(folder.target));
+        store_run french(folder.arguments());
+        french.set_language(u"fr_FR.UTF-8"_s);
+        QCOMPARE(french.run(), status(exit_status::problems));
+        QVERIFY(french.errors().startsWith(u"La table Stat_rounds a une ligne de la ronde "));
+    }
+
     void a_day_before_all_rounds_changes_nothing()
     {
         const divided_rows original = archived_folder().rows();

@@ -107,7 +107,7 @@ private Q_SLOTS:
     {
         const divided_rows original = archived_folder().rows();
         const archived_folder folder;
-        QVERIFY(run_without_space_for(folder.arguments(), folder.diary + u"-wal", 0) > 0);
+        QVERIFY(run_without_space_for(folder.arguments(), folder.diary + u"-wal", 0).writes > 0);
         QVERIFY(folder.rows() == original);
         QVERIFY(rows_divided_at(folder.target, day_of_first_kept_round).before == original.before);
         QCOMPARE(folder.archive(), status(exit_status::done));

@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <sys/stat.h>
+
 #include "store/schema.h"
 #include "tests/support/reader.h"
 #include "tests/transfer/exported_folder.h"
@@ -79,6 +81,45 @@ private Q_SLOTS:
             QCOMPARE(unfinished_in(QFileInfo(folder.files).path()), QStringList());
         }
         QVERIFY(with_none > 0);
+    }
+
+    void rows_that_are_written_during_an_export_are_in_no_file_of_it()
+    {
+        const exported_folder whole;
+        QCOMPARE(whole.run_export(), status(exit_status::done));
+        const exported_folder folder;
+        QCOMPARE(run_with_step(export_arguments(folder), file_use::open, u"/games.csv.part"_s,
+                               [&] { reader(folder.diary).write(u"delete from cost"_s); }),
+                 status(exit_status::done));
+        QVERIFY(contents_of(folder.files) == contents_of(whole.files));
+        QCOMPARE(reader(folder.diary).number(u"select count(*) from cost"_s), 0);
+    }
+
+    void an_empty_folder_keeps_its_permissions()
+    {
+        const exported_folder folder;
+        QVERIFY(QDir().mkpath(folder.files));
+        QCOMPARE(chmod(QFile::encodeName(folder.files).constData(), 0700), 0);
+        QCOMPARE(folder.run_export(), status(exit_status::done));
+        struct stat state {};
+        QCOMPARE(stat(QFile::encodeName(folder.files).constData(), &state), 0);
+        QCOMPARE(state.st_mode & 0777U, 0700U);
+    }
+
+    void the_current_folder_is_refused_because_it_would_be_replaced()
+    {
+        const exported_folder folder;
+        QVERIFY(QDir().mkpath(folder.files));
+        store_run run({u"export"_s, file_argument(folder.diary), u"."_s});
+        run.set_folder(folder.files);
+        QCOMPARE(run.run(), status(exit_status::usage));
+        QCOMPARE(run.errors(), folder.files +
+                                   u" is the current folder. Nothing was changed; give the name of a "
+                                   u"new folder.\n"_s);
+        QVERIFY(QDir(folder.files).isEmpty());
+        store_run inner({u"export"_s, file_argument(folder.diary), u"new"_s});
+        inner.set_folder(folder.files);
+        QCOMPARE(inner.run(), status(exit_status::done));
     }
 
     void folders_of_the_user_next_to_the_export_are_kept()

@@ -96,6 +96,40 @@ private Q_SLOTS:
         QVERIFY2(all_rows(folder.target).contains(u"partners|Morin|Zoé| |12|null||7"_s), "another row");
     }
 
+    void a_file_that_was_changed_after_the_export_is_reported_and_imported_data()
+    {
+        QTest::addColumn<bool>("of_another_export");
+        QTest::newRow("a digit") << false;
+        QTest::newRow("a file of another export") << true;
+    }
+
+    void a_file_that_was_changed_after_the_export_is_reported_and_imported()
+    {
+        QFETCH(bool, of_another_export);
+        const exported_folder folder;
+        QCOMPARE(folder.run_export(), status(exit_status::done));
+        store_run unchanged(
+            {u"import"_s, folder.files, file_argument(folder.folder.filePath(u"other.db"_s))});
+        QCOMPARE(unchanged.run(), status(exit_status::done));
+        QCOMPARE(unchanged.errors(), QString());
+        if (of_another_export) {
+            const exported_folder other;
+            reader(other.diary).write(u"update games set missed_1 = 3"_s);
+            QCOMPARE(other.run_export(), status(exit_status::done));
+            folder.write(u"games"_s, content_of(other.file(u"games"_s)));
+        } else {
+            folder.set_value(u"games"_s, 1, u"missed_1"_s, "3");
+        }
+        store_run run({u"import"_s, folder.files, file_argument(folder.target)});
+        QCOMPARE(run.run(), status(exit_status::done));
+        QCOMPARE(run.errors(), u"games.csv was changed after the export.\n"_s);
+        QCOMPARE(reader(folder.target).number(u"select missed_1 from games where rowid = 1"_s), 3);
+        store_run french({u"import"_s, folder.files, file_argument(folder.target + u"2")});
+        french.set_language(u"fr_FR.UTF-8"_s);
+        QCOMPARE(french.run(), status(exit_status::done));
+        QCOMPARE(french.errors(), u"games.csv a été modifié après l'exportation.\n"_s);
+    }
+
     void a_target_with_rows_is_refused_and_not_changed()
     {
         const exported_folder folder;

@@ -20,6 +20,7 @@ QList<QStringList> commands_for(const exported_folder& folder, const QString& ta
     return {{u"archive"_s, diary, day_of_first_kept_round, to},
             {u"copy"_s, diary, to},
             {u"import"_s, folder.files, to},
+            {u"restore"_s, diary, to},
             {u"sample"_s, to}};
 }
 

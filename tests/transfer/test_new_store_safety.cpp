@@ -29,6 +29,19 @@ private Q_SLOTS:
         QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
     }
 
+    void a_diary_that_another_program_makes_before_the_new_one_gets_its_name_is_kept()
+    {
+        const copied_folder folder;
+        const auto make_diary = [&folder] {
+            if (!QFile::copy(folder.diary, folder.target))
+                qFatal("cannot write %s", qPrintable(folder.target));
+        };
+        QCOMPARE(run_with_step({u"sample"_s, file_argument(folder.target)}, file_use::name, folder.target,
+                               make_diary),
+                 status(exit_status::not_empty));
+        QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
+    }
+
     void a_new_file_is_removed_before_the_lock_is_released_if_it_was_not_filled()
     {
         const copied_folder folder;
@@ -37,7 +50,10 @@ private Q_SLOTS:
         bool is_left = true;
         QCOMPARE(run_with_step({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)},
                                file_use::remove, folder.target + u".lock",
-                               [&] { is_left = QFile::exists(folder.target); }),
+                               [&] {
+                                   is_left = QFile::exists(folder.target) ||
+                                             !unfinished_in(QFileInfo(folder.target).path()).isEmpty();
+                               }),
                  status(exit_status::failed));
         QVERIFY(!is_left);
         QCOMPARE(QDir(QFileInfo(folder.target).path()).entryList(QDir::Files), QStringList());

@@ -249,13 +249,16 @@ private Q_SLOTS:
     void a_copy_on_a_read_only_medium_is_restored_data()
     {
         QTest::addColumn<QString>("ending");
-        QTest::newRow("without a log") << QString();
-        QTest::newRow("with a log") << u"-wal"_s;
+        QTest::addColumn<bool>("by_link");
+        QTest::newRow("without a log") << QString() << false;
+        QTest::newRow("with a log") << u"-wal"_s << false;
+        QTest::newRow("with a log, by a link") << u"-wal"_s << true;
     }
 
     void a_copy_on_a_read_only_medium_is_restored()
     {
         QFETCH(QString, ending);
+        QFETCH(bool, by_link);
         const restored_folder folder;
         const QString medium = folder.folder.filePath(u"medium"_s);
         const QString copy = medium + u"/copy.db";
@@ -273,7 +276,9 @@ private Q_SLOTS:
         QFile::remove(copy + u"-shm");
         set_modes({{folder.folder.path(), 0777}, {folder.diary, 0666}, {copy, 0444}, {medium, 0555}});
         const QStringList files = QDir(medium).entryList(QDir::Files);
-        store_run run({u"restore"_s, file_argument(copy), file_argument(folder.diary)});
+        const QString named = by_link ? folder.folder.filePath(u"link.db"_s) : copy;
+        QVERIFY(!by_link || QFile::link(copy, named));
+        store_run run({u"restore"_s, file_argument(named), file_argument(folder.diary)});
         run.become_nobody(folder.folder.path());
         const auto ended = run.run();
         set_modes({{medium, 0755}});
@@ -282,6 +287,57 @@ private Q_SLOTS:
         QCOMPARE(all_rows(folder.diary), expected);
         QCOMPARE(QDir(medium).entryList(QDir::Files), files);
         QCOMPARE(QDir(folder.folder.path()).entryList({u"*.source*"_s}, QDir::Files), QStringList());
+    }
+
+    void the_new_file_has_the_permissions_of_the_old_one()
+    {
+        const restored_folder folder;
+        set_modes({{folder.diary, 0600}});
+        QCOMPARE(folder.restore(), status(exit_status::done));
+        struct stat state {};
+        QCOMPARE(stat(QFile::encodeName(folder.diary).constData(), &state), 0);
+        QCOMPARE(state.st_mode & 0777U, 0600U);
+        QCOMPARE(stat(QFile::encodeName(folder.kept_path()).constData(), &state), 0);
+        QCOMPARE(state.st_mode & 0777U, 0600U);
+    }
+
+    void a_kept_file_that_another_restoration_writes_meanwhile_is_not_replaced()
+    {
+        const restored_folder folder;
+        const QString other = folder.folder.filePath(u"Verdbase.sqlite"_s);
+        QVERIFY(QFile::copy(folder.diary, other));
+        reader(other).write(u"delete from cost"_s);
+        const QStringList old = all_rows(folder.diary);
+        const QStringList old_of_other = all_rows(other);
+        std::optional<int> of_other;
+        // Both diaries have the same name for their kept files.
+        QCOMPARE(run_with_step(folder.arguments(), file_use::name, u"-replaced.db"_s,
+                               [&] { of_other = store_run(folder.arguments_for(other)).run(); }),
+                 status(exit_status::done));
+        QCOMPARE(of_other, status(exit_status::done));
+        QCOMPARE(folder.kept().size(), 2);
+        QList<QStringList> kept;
+        for (const QString& name : folder.kept())
+            kept << all_rows(folder.folder.filePath(u"copies/" + name));
+        QVERIFY(kept.contains(old) && kept.contains(old_of_other));
+    }
+
+    void what_a_killed_restoration_has_left_in_the_folder_of_copies_is_removed()
+    {
+        bool is_left = false;
+        const int writes = number_of_writes(restored_folder().arguments());
+        for (int number = writes; number > 0 && !is_left; --number) {
+            const restored_folder killed;
+            kill_before_write(killed.arguments(), number);
+            const QDir left(killed.folder.filePath(u"copies"_s));
+            is_left = left.exists() && killed.kept().isEmpty() &&
+                      !left.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty();
+            if (!is_left)
+                continue;
+            QCOMPARE(killed.restore(), status(exit_status::done));
+            QCOMPARE(left.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), killed.kept());
+        }
+        QVERIFY(is_left);
     }
 
     void every_file_reaches_the_disk_before_it_gets_its_name()
@@ -358,11 +414,48 @@ private Q_SLOTS:
         const restored_folder folder;
         const QStringList before = all_rows(folder.diary);
         // The log of the new file can be written, but not be copied into the file.
-        QVERIFY(run_without_space_for(folder.arguments(), u"/store.db"_s, 8192) > 1);
+        QVERIFY(run_without_space_for(folder.arguments(), u"/store.db"_s, 8192).writes > 1);
         QCOMPARE(all_rows(folder.diary), before);
         QCOMPARE(folder.kept(), QStringList());
         QCOMPARE(folder.files(), (QStringList{u"copy.db"_s, u"Verdbase.db"_s}));
         QCOMPARE(folder.restore(), status(exit_status::done));
+    }
+
+    void a_kill_never_leaves_a_damaged_file_without_its_log()
+    {
+        const restored_folder whole;
+        const auto damage = [](const restored_folder& folder) {
+            write_file(folder.diary, "no diary");
+            write_file(folder.diary + u"-wal", "its log");
+        };
+        damage(whole);
+        const QByteArray old = "no diary";
+        int removed = 0;
+        const auto ended = run_by_writes(whole.arguments(), [&] {
+            const bool has_log = content_of(whole.diary + u"-wal") == "its log";
+            const bool has_file = QFile::exists(whole.diary);
+            QVERIFY(has_log || !has_file || content_of(whole.diary) != old);
+            QVERIFY(!has_log || !has_file || content_of(whole.diary) == old);
+            if (!has_file)
+                QCOMPARE(content_of(whole.kept_path()), old);
+            removed += has_log && !has_file ? 1 : 0;
+        });
+        QCOMPARE(ended, status(exit_status::done));
+        QVERIFY(removed > 0);
+        QCOMPARE(all_rows(whole.diary), all_rows(whole.copy_path));
+    }
+
+    void a_log_that_cannot_be_removed_is_not_left_next_to_the_new_file()
+    {
+        const restored_folder folder;
+        write_file(folder.diary, "no diary");
+        // A folder of this name cannot be removed, since it has a file.
+        QVERIFY(QDir().mkpath(folder.diary + u"-wal"));
+        write_file(folder.diary + u"-wal/file", "content");
+        store_run run(folder.arguments());
+        QCOMPARE(run.run(), status(exit_status::failed));
+        QVERIFY2(run.errors().contains(u"The old files are kept: "_s + folder.folder.path()), "no path");
+        QVERIFY(content_of(folder.diary).isEmpty() || content_of(folder.diary) == "no diary");
     }
 
     /// The last writes are those that replace the file.

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include "store/recovery/work_folder.h"
+#include "tests/transfer/killed_run.h"
 #include "tests/transfer/stored_files.h"
 
 using namespace verdane;
@@ -99,6 +100,22 @@ private Q_SLOTS:
         remove_unfinished(folder.target);
         for (const QString& name : {u"/work.lock"_s, u"/store.db"_s, u"/diary.db"_s, u"/tables/games.csv"_s})
             QVERIFY2(QFile::exists(other + name), qPrintable(name));
+    }
+
+    void a_run_makes_another_folder_if_a_second_one_has_removed_its_first()
+    {
+        const copied_folder folder;
+        bool is_removed = false;
+        // The folder is empty until its lock is taken.
+        QCOMPARE(run_with_step({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)},
+                               file_use::open, u"/work.lock"_s,
+                               [&] {
+                                   remove_unfinished(folder.target);
+                                   is_removed = unfinished_in(QFileInfo(folder.target).path()).isEmpty();
+                               }),
+                 status(exit_status::done));
+        QVERIFY(is_removed);
+        QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
     }
 
     void the_folder_of_a_program_that_runs_is_kept()
