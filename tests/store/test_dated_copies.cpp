@@ -11,6 +11,7 @@
 #include "tests/store/store_child.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
+#include "tests/support/full_diary.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
@@ -103,6 +104,17 @@ private Q_SLOTS:
         QCOMPARE(files_of_copies(store), QStringList{u"Verdbase-2026-06-14.db"_s});
         QCOMPARE(content_of_copy(store), before);
         QCOMPARE(whole_content(store.outside()), before);
+    }
+
+    void a_copy_of_a_full_diary_has_all_its_rows()
+    {
+        store_fixture store;
+        store.connection.Close();
+        QVERIFY(QFile::remove(store.path()));
+        testing::create_diary(store.path(), testing::rounds_of_full_diary, true);
+        const QString before = whole_content(store.outside());
+        QVERIFY(write_dated_copy(store.path(), today));
+        QCOMPARE(content_of_copy(store), before);
     }
 
     void a_copy_can_be_opened_as_a_store()

@@ -180,7 +180,19 @@ public:
         case SYS_sendfile:
             files_.insert(opened_file(child, arguments[0]));
             break;
+        case SYS_mkdirat:
+            see_new_folder(text_at(child, arguments[1]));
+            break;
+        case SYS_unlinkat:
+            folders_.remove(text_at(child, arguments[1]));
+            break;
 #ifdef SYS_rename
+        case SYS_mkdir:
+            see_new_folder(text_at(child, arguments[0]));
+            break;
+        case SYS_rmdir:
+            folders_.remove(text_at(child, arguments[0]));
+            break;
         case SYS_rename:
             see_rename(text_at(child, arguments[0]), text_at(child, arguments[1]));
             break;
@@ -209,6 +221,13 @@ private:
         if (files_.contains(from))
             faults_ << from;
         folders_.insert(QFileInfo(to).absolutePath());
+    }
+
+    /// The name of a new folder has to reach the disk, too.
+    void see_new_folder(const QString& path)
+    {
+        if (!QFileInfo::exists(path))
+            folders_.insert(QFileInfo(path).absolutePath());
     }
 
     QSet<QString> files_;

@@ -41,7 +41,7 @@ std::optional<int> run_with_step(const QStringList& arguments, file_use use, con
                                  const std::function<void()>& step);
 
 /// Runs the program. The files that were renamed before what was written to them had reached the disk, and
-/// the folders of renamed files that did not reach the disk afterwards.
+/// the folders of renamed files and of new folders that did not reach the disk afterwards.
 QStringList renames_before_content(const QStringList& arguments);
 
 /// Numbers of writes from 1 to `all`: the first eight, the last eight and at least twelve between.

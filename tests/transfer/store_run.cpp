@@ -83,7 +83,11 @@ void store_run::start()
 
 void store_run::close_output()
 {
-    process_.closeReadChannel(QProcess::StandardOutput);
+    process_.setChildProcessModifier([] {
+        int ends[2] = {};
+        if (pipe(ends) != 0 || close(ends[0]) != 0 || dup2(ends[1], STDOUT_FILENO) < 0)
+            _exit(1);
+    });
 }
 
 bool store_run::wait_for(const QString& printed)

@@ -14,6 +14,8 @@ public:
     explicit store_run(const QStringList& arguments);
 
     void set_language(const QString& language);
+    /// Nobody reads the standard output.
+    void close_output();
     /// The folder in which it runs.
     void set_folder(const QString& folder) { process_.setWorkingDirectory(folder); }
     /// Files cannot grow beyond that size, in bytes; the same as a full disk.
@@ -28,8 +30,6 @@ public:
     void limit_plugins(const QString& folder, const QStringList& drivers);
 
     void start();
-    /// Nobody reads the standard output from now on.
-    void close_output();
     /// Waits until the program has printed a text.
     bool wait_for(const QString& printed);
     void kill();

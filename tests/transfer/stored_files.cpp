@@ -4,7 +4,7 @@
 #include <QFile>
 
 #include "tests/support/full_diary.h"
-#include "tests/support/reader.h"
+#include "tests/support/outside_connection.h"
 
 namespace verdane::testing {
 
@@ -48,12 +48,13 @@ QStringList unfinished_in(const QString& folder)
 
 QStringList all_rows(const QString& path)
 {
-    const reader store(path);
+    const outside_connection store(store_location::file(path));
     QStringList lines;
-    for (const auto& table :
-         store.rows(u"select name from sqlite_master where type = 'table' order by name"_s)) {
+    QSqlQuery tables = store.run(u"select name from sqlite_master where type = 'table' order by name"_s);
+    for (const auto& table : all_rows(tables)) {
         const QString name = table[0].toString();
-        for (const auto& row : store.rows(u"select * from `%1` order by rowid"_s.arg(name))) {
+        QSqlQuery rows = store.run(u"select * from `%1` order by rowid"_s.arg(name));
+        for (const auto& row : all_rows(rows)) {
             lines += name;
             for (const QVariant& value : row)
                 lines.back() += u'|' + (value.isNull() ? u"null"_s : value.toString());

@@ -291,9 +291,8 @@ private Q_SLOTS:
     {
         const copied_folder folder;
         store_run run({u"copy"_s, file_argument(folder.diary), file_argument(folder.target)});
-        run.start();
         run.close_output();
-        QCOMPARE(run.exit_status(), status(exit_status::done));
+        QCOMPARE(run.run(), status(exit_status::done));
         QCOMPARE(all_rows(folder.target), all_rows(folder.diary));
     }
 };

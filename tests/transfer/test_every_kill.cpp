@@ -1,4 +1,4 @@
-#include <QDateTime>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -18,16 +18,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Changes with every file below a folder that is written, renamed or removed.
-QStringList state_of(const QString& folder)
+/// Changes with every file of a folder that is not in a folder for what is not complete. The index of the log
+/// is left out, which the engine makes anew after a kill.
+QByteArray state_of(const QString& folder)
 {
-    QStringList state;
+    QCryptographicHash state(QCryptographicHash::Md5);
     for (const QString& name : names_below(folder)) {
-        const QFileInfo file(folder + u'/' + name);
-        state << name + u' ' + QString::number(file.size()) + u' ' +
-                     QString::number(file.lastModified().toMSecsSinceEpoch());
+        if (name.contains(u"unfinished-") || name.endsWith(u"-shm") || name.endsWith(u".lock"))
+            continue;
+        state.addData(name.toUtf8());
+        state.addData(content_of(folder + u'/' + name));
     }
-    return state;
+    return state.result();
 }
 
 /// The copies that a command has made in the folder `copies`, which are complete.
@@ -61,14 +63,15 @@ public:
     QString fault_of_kills()
     {
         const command_folder folder(command_, small_diary());
-        QStringList last;
+        QByteArray last;
         int number = 0;
         run_by_writes(folder.arguments(), [&] {
             ++number;
-            const QStringList state = state_of(folder.path());
+            const QByteArray state = state_of(folder.path());
             if (fault_.isEmpty() && state != last)
                 look_at(folder.path(), number);
             last = state;
+            keep(folder.path(), number);
         });
         return number > 10 ? fault_ : u"too few writes"_s;
     }
@@ -118,15 +121,15 @@ private:
         if (!changed)
             fault_ = u"write %1: neither the old content nor the new one"_s.arg(number);
         else
-            keep(folder, number, *changed);
+            changed_ = *changed;
     }
 
     /// Keeps the first folder of each kind.
-    void keep(const QString& folder, int number, int changed)
+    void keep(const QString& folder, int number)
     {
         static const QRegularExpression random(u"unfinished-[A-Za-z0-9]{6}"_s);
-        const QString kind =
-            QString::number(changed) + u' ' + names_below(folder).join(u' ').replace(random, u"unfinished"_s);
+        const QString kind = QString::number(changed_) + u' ' +
+                             names_below(folder).join(u' ').replace(random, u"unfinished"_s);
         auto& left = left_[kind];
         if (left != nullptr)
             return;
@@ -153,6 +156,8 @@ private:
     folder_content before_;
     folder_content after_;
     QString fault_;
+    /// The number of changed files that have their new content.
+    int changed_ = 0;
     std::map<QString, std::unique_ptr<left_folder>> left_;
 };
 

@@ -48,6 +48,21 @@ private Q_SLOTS:
         QCOMPARE(checked.store.number(u"select count(*) from cost"_s), rounds);
     }
 
+    void a_round_of_a_full_diary_is_made_and_all_its_shots_are_repaired()
+    {
+        const test_store place;
+        create_diary(place.location(), rounds_of_full_diary, true);
+        const reader store(place.location());
+        const int shots = store.number(u"select count(*) from Stat_rounds"_s);
+        store.write({u"delete from games where date = '%1'"_s.arg(key_in_diary(200)), u"delete from cost"_s,
+                     u"update Stat_rounds set addpen = 7"_s});
+        QCOMPARE(store_run({u"check"_s, argument_of(place), u"--repair"_s, u"--make-rounds"_s}).run(),
+                 status(exit_status::done));
+        for (const QString& table : {u"games"_s, u"games2"_s, u"cost"_s})
+            QCOMPARE(store.number(u"select count(*) from "_s + table), rounds_of_full_diary);
+        QCOMPARE(store.number(u"select count(*) from Stat_rounds where addpen <> 7"_s), shots);
+    }
+
     void no_round_is_made_of_shots_whose_course_is_not_known()
     {
         const checked_store checked;
