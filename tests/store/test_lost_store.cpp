@@ -139,6 +139,28 @@ private Q_SLOTS:
         QCOMPARE(reader(path).number(u"select count(*) from settings"_s), 1);
     }
 
+    void a_store_that_is_open_is_refused_by_a_link_data()
+    {
+        QTest::addColumn<bool>("open_by_link");
+        QTest::newRow("open by its name") << false;
+        QTest::newRow("open by the link") << true;
+    }
+
+    void a_store_that_is_open_is_refused_by_a_link()
+    {
+        QFETCH(bool, open_by_link);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"Verdbase.db"_s);
+        const QString other = folder.filePath(u"link.db"_s);
+        QVERIFY(QFile::link(path, other));
+        Connection1 user;
+        // The link has no target yet.
+        user.Open(open_by_link ? other : path);
+        Connection1 second;
+        QVERIFY(failure_of([&] { second.Open(open_by_link ? path : other); }) == failure_kind::store_locked);
+        QVERIFY(QFile::exists(path) && QFileInfo(other).isSymLink());
+    }
+
     void the_log_of_a_linked_file_is_found_in_the_folder_of_its_target()
     {
         const QTemporaryDir folder;
