@@ -139,6 +139,9 @@ exit_status fill_empty_store(Connection1& target, const store_location& to, cons
 {
     if (has_reserved_name(to))
         return refuse_reserved_name(to);
+    // A run that was killed after its store had its name has left its folder.
+    if (to.where == store_location::place::file)
+        remove_unfinished(real_path(to.name));
     if (const auto lock = lock_of_new_file(to))
         return fill_new_file(target, to, fill);
     return fill_present_store(target, to, fill);

@@ -3,6 +3,7 @@
 
 #include "store/Connection1.h"
 #include "tests/support/full_diary.h"
+#include "tests/support/reader.h"
 #include "tests/transfer/exported_folder.h"
 
 using namespace verdane;
