@@ -6,12 +6,14 @@
 #include "tests/store/store_child.h"
 #include "tests/store/store_fixture.h"
 #include "tests/support/failures.h"
+#include "tests/support/outside_connection.h"
 
 using namespace verdane;
 using namespace Qt::StringLiterals;
 using testing::bytes_of;
 using testing::child_failure;
 using testing::failure_of;
+using testing::outside_connection;
 using testing::start_child;
 using testing::store_fixture;
 using testing::whole_content;
@@ -204,14 +206,12 @@ private Q_SLOTS:
     {
         store_fixture store;
         fill_and_close(store);
-        Connection1 tool;
-        const QString link = folder_of(store) + u"/tool.db";
-        QVERIFY(QFile::link(store.path(), link));
-        tool.Open(link);
-        tool.Execute(u"BEGIN EXCLUSIVE"_s);
+        // It does not use the lock file.
+        const outside_connection tool(store_location::file(store.path()));
+        tool.run(u"BEGIN EXCLUSIVE"_s);
         QVERIFY(failure_of([&] { store.connection.Open(store.path()); }) == failure_kind::store_locked);
         QVERIFY(!store.connection.is_open());
-        tool.Execute(u"ROLLBACK"_s);
+        tool.run(u"ROLLBACK"_s);
         store.connection.Open(store.path());
     }
 
@@ -222,11 +222,9 @@ private Q_SLOTS:
         const auto partners = store.opened(u"select * from partners"_s);
         const QString before = whole_content(store.outside());
         store.connection.waiting().set_notice_maker([] { return std::make_unique<notice_that_gives_up>(); });
-        Connection1 tool;
-        const QString link = folder_of(store) + u"/tool.db";
-        QVERIFY(QFile::link(store.path(), link));
-        tool.Open(link);
-        tool.Execute(u"BEGIN EXCLUSIVE"_s);
+        // It does not use the lock file.
+        const outside_connection tool(store_location::file(store.path()));
+        tool.run(u"BEGIN EXCLUSIVE"_s);
         partners->Fields(u"name").set(u"typed"_s);
         QVERIFY(failure_of([&] { partners->Update(); }) == failure_kind::store_locked);
         QVERIFY(failure_of([&] { partners->MoveNext(); }) == failure_kind::store_locked);
@@ -236,7 +234,7 @@ private Q_SLOTS:
         QVERIFY(failure_of([&] { partners->Delete(); }) == failure_kind::store_locked);
         QCOMPARE(partners->RecordCount(), 2);
         QCOMPARE(whole_content(store.outside()), before);
-        tool.Execute(u"ROLLBACK"_s);
+        tool.run(u"ROLLBACK"_s);
         partners->Fields(u"name").set(u"typed"_s);
         partners->Update();
         QCOMPARE(testing::stored_names(store), u"typed b"_s);
