@@ -24,14 +24,14 @@ set(VERDANE_TESTS_WITHOUT_STORE
 # The only list of the tests that run on the embedded engine alone, with the reason.
 set(VERDANE_FILE_TESTS
   test_copy_command         # both stores are files
-  test_archive_safety       # see test_courses_safety
-  test_courses_safety       # kills at writes of the file, and its size
-  test_every_kill           # see test_courses_safety
-  test_every_refusal        # see test_courses_safety
-  test_export_safety        # see test_courses_safety
+  test_archive_safety       # see test_every_kill
+  test_courses_safety       # see test_every_kill
+  test_every_kill           # kills at writes of the file, and its size
+  test_every_refusal        # see test_every_kill
+  test_export_safety        # see test_every_kill
   test_import_faults        # what is wrong in files, before a store is opened
   test_sample_reports       # a file that another process writes
-  test_sample_safety        # see test_courses_safety
+  test_sample_safety        # see test_every_kill
   test_Connection1          # the folder and the lock file that are made, and the settings of the engine
   test_daily_copy           # copies of the file
   test_dated_copies         # the same

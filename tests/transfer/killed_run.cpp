@@ -170,7 +170,7 @@ public:
         case SYS_fsync:
         case SYS_fdatasync:
             files_.remove(opened_file(child, arguments[0]));
-            folders_.remove(opened_file(child, arguments[0]));
+            see_written_folder(opened_file(child, arguments[0]));
             break;
         case SYS_copy_file_range:
             files_.insert(opened_file(child, arguments[2]));
@@ -184,14 +184,14 @@ public:
             see_new_folder(text_at(child, arguments[1]));
             break;
         case SYS_unlinkat:
-            folders_.remove(text_at(child, arguments[1]));
+            new_folders_.remove(text_at(child, arguments[1]));
             break;
 #ifdef SYS_rename
         case SYS_mkdir:
             see_new_folder(text_at(child, arguments[0]));
             break;
         case SYS_rmdir:
-            folders_.remove(text_at(child, arguments[0]));
+            new_folders_.remove(text_at(child, arguments[0]));
             break;
         case SYS_rename:
             see_rename(text_at(child, arguments[0]), text_at(child, arguments[1]));
@@ -207,7 +207,7 @@ public:
     }
     QStringList faults() const
     {
-        return faults_ + folders_.values();
+        return faults_ + folders_.values() + new_folders_.values();
     }
     int renames() const
     {
@@ -227,11 +227,19 @@ private:
     void see_new_folder(const QString& path)
     {
         if (!QFileInfo::exists(path))
-            folders_.insert(QFileInfo(path).absolutePath());
+            new_folders_.insert(path);
+    }
+
+    void see_written_folder(const QString& folder)
+    {
+        folders_.remove(folder);
+        erase_if(new_folders_, [&](const QString& path) { return QFileInfo(path).absolutePath() == folder; });
     }
 
     QSet<QString> files_;
     QSet<QString> folders_;
+    /// Until their names have reached the disk, or they are removed.
+    QSet<QString> new_folders_;
     QStringList faults_;
     int renames_ = 0;
 };
@@ -340,19 +348,6 @@ QStringList renames_before_content(const QStringList& arguments)
         return true;
     });
     return written.renames() > 0 ? written.faults() : QStringList{u"nothing was renamed"_s};
-}
-
-std::vector<int> some_writes(int all)
-{
-    constexpr int ends = 8;
-    constexpr int between = 12;
-    std::vector<int> numbers;
-    const int step = std::max(1, (all - 2 * ends) / between);
-    for (int number = 1; number <= all; ++number) {
-        if (number <= ends || number > all - ends || (number - ends) % step == 0)
-            numbers.push_back(number);
-    }
-    return numbers;
 }
 
 }  // namespace verdane::testing

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <optional>
-#include <vector>
 
 namespace verdane::testing {
 
@@ -43,8 +42,5 @@ std::optional<int> run_with_step(const QStringList& arguments, file_use use, con
 /// Runs the program. The files that were renamed before what was written to them had reached the disk, and
 /// the folders of renamed files and of new folders that did not reach the disk afterwards.
 QStringList renames_before_content(const QStringList& arguments);
-
-/// Numbers of writes from 1 to `all`: the first eight, the last eight and at least twelve between.
-std::vector<int> some_writes(int all);
 
 }  // namespace verdane::testing

@@ -6,7 +6,6 @@
 #include "tests/support/full_diary.h"
 #include "tests/support/reader.h"
 #include "tests/transfer/course_csv.h"
-#include "tests/transfer/killed_run.h"
 #include "tests/transfer/stored_files.h"
 
 using namespace verdane;
@@ -46,7 +45,7 @@ struct imported_folder : copied_folder {
 
 }  // namespace
 
-/// `verdane-store courses` that is killed or fails.
+/// `verdane-store courses` that fails.
 class test_courses_safety : public QObject {
     Q_OBJECT
 
@@ -87,27 +86,6 @@ private Q_SLOTS:
         QCOMPARE(run.run(), status(exit_status::failed));
         QCOMPARE(all_rows(folder.diary), before);
         QCOMPARE(folder.import(), status(exit_status::done));
-    }
-
-    void an_import_that_is_killed_adds_all_or_nothing_and_can_be_repeated()
-    {
-        const imported_folder whole;
-        constexpr int step = 5;
-        int with_none = 0;
-        int with_all = 0;
-        const int writes = number_of_writes(whole.arguments());
-        for (int number = 1; number <= writes; number += step) {
-            const imported_folder folder;
-            const QStringList rounds = folder.other_rows();
-            kill_before_write(folder.arguments(), number);
-            const int added = folder.added();
-            QVERIFY2(added == 0 || added == courses_in_file, qPrintable(QString::number(number)));
-            ++(added == 0 ? with_none : with_all);
-            QCOMPARE(folder.import(), status(exit_status::done));
-            QCOMPARE(folder.added(), courses_in_file);
-            QCOMPARE(folder.other_rows(), rounds);
-        }
-        QVERIFY(with_none > 0 && with_all > 0);
     }
 };
 

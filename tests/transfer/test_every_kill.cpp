@@ -73,6 +73,8 @@ public:
             last = state;
             keep(folder.path(), number);
         });
+        if (fault_.isEmpty() && changed_ != number_of_changed())
+            return u"no look at the last change"_s;
         return number > 10 ? fault_ : u"too few writes"_s;
     }
 
@@ -87,6 +89,13 @@ public:
     }
 
 private:
+    int number_of_changed() const
+    {
+        return static_cast<int>(
+            std::count_if(command_.files.begin(), command_.files.end(),
+                          [&](const QString& name) { return before_.at(name) != after_.at(name); }));
+    }
+
     /// The number of changed files that have their new content, if they are the first of the changed ones.
     std::optional<int> changed_in(const folder_content& content) const
     {

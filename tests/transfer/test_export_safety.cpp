@@ -33,7 +33,7 @@ bool is_exported(const exported_folder& folder)
 
 }  // namespace
 
-/// `verdane-store export` and `import` that are killed or fail.
+/// `verdane-store export` and `import` that fail, or run at the same time as others.
 class test_export_safety : public QObject {
     Q_OBJECT
 
@@ -63,24 +63,6 @@ private Q_SLOTS:
         QVERIFY2(run.errors().contains(u"no room left on the disk"), "another failure");
         QVERIFY(!QFile::exists(folder.target));
         QCOMPARE(folder.run_import(), status(exit_status::done));
-    }
-
-    void an_export_that_is_killed_leaves_all_files_or_none_and_can_be_repeated()
-    {
-        const exported_folder whole;
-        const int writes = number_of_writes(export_arguments(whole));
-        const file_contents expected = contents_of(whole.files);
-        int with_none = 0;
-        for (const int number : some_writes(writes)) {
-            const exported_folder folder;
-            kill_before_write(export_arguments(folder), number);
-            with_none += is_exported(folder) ? 0 : 1;
-            QCOMPARE(folder.run_export(),
-                     status(is_exported(folder) ? exit_status::not_empty : exit_status::done));
-            QVERIFY(contents_of(folder.files) == expected);
-            QCOMPARE(unfinished_in(QFileInfo(folder.files).path()), QStringList());
-        }
-        QVERIFY(with_none > 0);
     }
 
     void rows_that_are_written_during_an_export_are_in_no_file_of_it()
@@ -155,26 +137,6 @@ private Q_SLOTS:
         const exported_folder folder;
         QCOMPARE(renames_before_content(export_arguments(folder)), QStringList());
         QVERIFY(is_exported(folder));
-    }
-
-    void an_import_that_is_killed_writes_all_or_nothing_and_can_be_repeated()
-    {
-        const exported_folder whole;
-        QCOMPARE(whole.run_export(), status(exit_status::done));
-        const int writes = number_of_writes(import_arguments(whole));
-        const QStringList expected = all_rows(whole.diary);
-        int with_none = 0;
-        for (const int number : some_writes(writes)) {
-            const exported_folder folder;
-            QCOMPARE(folder.run_export(), status(exit_status::done));
-            kill_before_write(import_arguments(folder), number);
-            const auto again = folder.run_import();
-            with_none += again == status(exit_status::done) ? 1 : 0;
-            QVERIFY2(again == status(exit_status::done) || again == status(exit_status::not_empty),
-                     qPrintable(QString::number(number)));
-            QVERIFY(all_rows(folder.target) == expected);
-        }
-        QVERIFY(with_none > 0);
     }
 
 private:

@@ -1,7 +1,4 @@
-#include <QRegularExpression>
 #include <QTest>
-
-#include <algorithm>
 
 #include "tests/support/refused_change.h"
 #include "tests/transfer/checked_store.h"
@@ -42,14 +39,9 @@ QByteArray damage_table(const QString& path)
     return content_of(path);
 }
 
-QStringList finished_copies(const QString& folder)
-{
-    return kept_copies(folder).filter(QRegularExpression(u"\\.db$"_s));
-}
-
 }  // namespace
 
-/// `verdane-store check --repair` that is killed, fails, or finds a damaged file.
+/// `verdane-store check --repair` that fails, or finds a damaged file.
 class test_repair_safety : public QObject {
     Q_OBJECT
 
@@ -132,52 +124,6 @@ private Q_SLOTS:
         QCOMPARE(run.run(), status(exit_status::failed));
         QCOMPARE(all_rows(folder.diary), before);
         QCOMPARE(kept_copies(folder.folder.path()), QStringList());
-    }
-
-    void a_repair_that_is_killed_changes_all_or_nothing_and_can_be_repeated()
-    {
-        const QStringList damage{u"update Stat_rounds set addpen = 7"_s, u"delete from cost"_s};
-        const copied_folder whole;
-        reader(whole.diary).write(damage);
-        const auto arguments = [](const copied_folder& folder) {
-            return QStringList{u"check"_s, file_argument(folder.diary), u"--repair"_s};
-        };
-        // The repairs are among the last writes; the first ones make the copy.
-        const int writes = number_of_writes(arguments(whole));
-        for (int number = std::max(1, writes - 240); number <= writes; number += 20) {
-            const copied_folder folder;
-            reader(folder.diary).write(damage);
-            kill_before_write(arguments(folder), number);
-            const reader store(folder.diary);
-            const bool costs = store.number(u"select count(*) from cost"_s) > 0;
-            const bool strokes = store.number(u"select count(*) from Stat_rounds where addpen = 7"_s) == 0;
-            QVERIFY2(costs == strokes, qPrintable(QString::number(number)));
-            QCOMPARE(store_run(arguments(folder)).run(), status(exit_status::done));
-        }
-    }
-
-    void a_repair_that_is_killed_leaves_whole_copies_only()
-    {
-        const QString damage = u"update Stat_rounds set addpen = 7"_s;
-        const auto arguments = [](const copied_folder& folder) {
-            return QStringList{u"check"_s, file_argument(folder.diary), u"--repair"_s};
-        };
-        const copied_folder whole;
-        reader(whole.diary).write(damage);
-        const QStringList before = all_rows(whole.diary);
-        const int writes = number_of_writes(arguments(whole));
-        int unfinished = 0;
-        for (int number = writes / 8; number < writes; number += writes / 8) {
-            const copied_folder folder;
-            reader(folder.diary).write(damage);
-            kill_before_write(arguments(folder), number);
-            for (const QString& copy : finished_copies(folder.folder.path()))
-                QCOMPARE(all_rows(copy), before);
-            unfinished += kept_copies(folder.folder.path()) == finished_copies(folder.folder.path()) ? 0 : 1;
-            QCOMPARE(store_run(arguments(folder)).run(), status(exit_status::done));
-            QCOMPARE(kept_copies(folder.folder.path()), finished_copies(folder.folder.path()));
-        }
-        QVERIFY(unfinished > 0);
     }
 
     void a_copy_that_was_not_completed_prevents_the_repair()

@@ -460,31 +460,6 @@ private Q_SLOTS:
         QVERIFY2(run.errors().contains(u"The old files are kept: "_s + folder.folder.path()), "no path");
         QCOMPARE(content_of(folder.diary), QByteArray("no diary"));
     }
-
-    /// The last writes are those that replace the file.
-    void a_kill_leaves_the_old_diary_or_the_new_one_and_can_be_repeated()
-    {
-        const restored_folder whole;
-        const QStringList old = all_rows(whole.diary);
-        const QStringList copied = all_rows(whole.copy_path);
-        const int writes = number_of_writes(whole.arguments());
-        QCOMPARE(all_rows(whole.diary), copied);
-        int with_old = 0;
-        int with_new = 0;
-        for (const int number : some_writes(writes)) {
-            const restored_folder folder;
-            kill_before_write(folder.arguments(), number);
-            const QStringList found = all_rows(folder.diary);
-            QVERIFY2(found == copied || found == old, qPrintable(QString::number(number)));
-            (found == old ? with_old : with_new) += 1;
-            if (!folder.kept().isEmpty())
-                QCOMPARE(all_rows(folder.kept_path()), old);
-            QCOMPARE(folder.restore(), status(exit_status::done));
-            QCOMPARE(all_rows(folder.diary), copied);
-        }
-        QVERIFY(with_old > 0);
-        QVERIFY(with_new > 0);
-    }
 };
 
 QTEST_GUILESS_MAIN(test_restore_command)

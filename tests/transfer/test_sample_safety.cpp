@@ -3,7 +3,6 @@
 #include <QTest>
 
 #include "tests/support/reader.h"
-#include "tests/transfer/killed_run.h"
 #include "tests/transfer/stored_files.h"
 
 using namespace verdane;
@@ -30,7 +29,7 @@ constexpr int all_rows_of_sample = 29;
 
 }  // namespace
 
-/// `verdane-store sample` that is killed or fails.
+/// `verdane-store sample` that fails.
 class test_sample_safety : public QObject {
     Q_OBJECT
 
@@ -52,24 +51,7 @@ private Q_SLOTS:
         QVERIFY2(run.errors().contains(u"no room left on the disk"), "another failure");
         QVERIFY(!QFile::exists(folder.path));
         QCOMPARE(folder.write(), status(exit_status::done));
-    }
-
-    void a_run_that_is_killed_writes_all_or_nothing_and_can_be_repeated()
-    {
-        const sample_folder whole;
-        const int writes = number_of_writes(whole.arguments());
-        int with_none = 0;
-        for (const int number : some_writes(writes)) {
-            const sample_folder folder;
-            kill_before_write(folder.arguments(), number);
-            const auto again = folder.write();
-            QVERIFY2(again == status(exit_status::done) || again == status(exit_status::not_empty),
-                     qPrintable(QString::number(number)));
-            with_none += again == status(exit_status::done) ? 1 : 0;
-            QCOMPARE(folder.rows(), all_rows_of_sample);
-        }
-        QVERIFY(with_none > 0);
-        QCOMPARE(whole.rows(), all_rows_of_sample);
+        QCOMPARE(folder.rows(), all_rows_of_sample);
     }
 };
 
