@@ -8,8 +8,8 @@
 #include <QTest>
 
 #include "base/failure_words.h"
+#include "base/program.h"
 #include "controls/boxes.h"
-#include "controls/interface_language.h"
 #include "controls/lock_box.h"
 #include "controls/look.h"
 #include "controls/TabStrip.h"
