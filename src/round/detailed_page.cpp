@@ -10,7 +10,6 @@
 #include "controls/boxes.h"
 #include "controls/events.h"
 #include "controls/Form.h"
-#include "controls/list_box.h"
 #include "controls/look.h"
 #include "controls/shortcuts.h"
 #include "round/shot_grid.h"
@@ -29,7 +28,6 @@ detailed_page::detailed_page(Form& window, shot_rows& rows, std::function<hole_o
     setObjectName(u"Framedet"_s);
     name_control(*grid_, title());
     grid_->set_up_columns();
-    show_text_when_empty(*grid_, window.caption(u"Aucun coup", u"No shot"));
     // The grid keeps its space while it is hidden, so that no other control moves.
     QSizePolicy policy = grid_->sizePolicy();
     policy.setRetainSizeWhenHidden(true);

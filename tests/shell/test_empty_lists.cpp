@@ -108,33 +108,6 @@ private Q_SLOTS:
         });
     }
 
-    void the_shots_of_a_hole_show_a_text_after_the_last_one_was_removed_data() { both_stored_languages(); }
-    void the_shots_of_a_hole_show_a_text_after_the_last_one_was_removed()
-    {
-        QFETCH(int, language);
-        in_main_window(language, one_course() + one_round(), [](hand& user) {
-            const QString round = in_language(u"f_new_round", u"f_new_round_en");
-            user.menu(u"mnOPenr"_s);
-            user.wait_for_window(list_window());
-            user.double_click_row(u"List1"_s, 0);
-            user.wait_for_window(round);
-            user.click_tab(u"TabStrip2"_s, 2);
-            expect_text(user, round, u"details"_s, {});
-            user.click(u"CommandSup"_s);
-            expect_text(user, round, u"details"_s, in_language(u"Aucun coup", u"No shot"));
-            user.click(u"CommandSuiv"_s);
-            expect_text(user, round, u"details"_s, {});
-            user.click(u"CommandSup"_s);
-            user.click(u"Command1_2"_s);
-            user.answer({in_language(u"Voulez vous enregistrer les modifications avant de sortir ? ",
-                                     u"Do you want to save your changes prior to exit?"),
-                         QMessageBox::NoIcon, QString(),
-                         QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
-                        QMessageBox::No);
-            user.wait_until_closed(round);
-        });
-    }
-
     void a_list_with_an_entry_has_no_text()
     {
         in_main_window(1, one_course(), [](hand& user) {
