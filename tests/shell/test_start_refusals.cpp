@@ -186,8 +186,13 @@ private Q_SLOTS:
 int main(int argc, char** argv)
 {
     const QByteArray way(argc == 2 ? argv[1] : "");
-    if (way == "--start-without-rights" && !give_up_rights())
-        return 2;
+    if (way == "--start-without-rights") {
+        if (!give_up_rights())
+            return 2;
+        // The folder of the registered sources is that of the parent process, which only its user may read.
+        qputenv("ODBCINI", "/dev/null");
+        qputenv("ODBCSYSINI", "/dev");
+    }
     QApplication application(argc, argv);
     prepare_application(application);
     if (way.startsWith("--start"))
